@@ -1,0 +1,49 @@
+# How everything here is compiled. Targets link `compiling` privately: hosts keep their own choice.
+#
+# Parts whose folder has no sources are left out with a message, and so is what stands on them.
+add_library(compiling INTERFACE)
+target_compile_features(compiling INTERFACE cxx_std_20)
+target_compile_definitions(compiling INTERFACE
+    NOMINMAX
+    WINVER=0x0601
+    _WIN32_WINNT=0x0601
+    _WIN32_IE=0x0800)
+
+if(MSVC)
+    target_compile_options(compiling INTERFACE /W4 /permissive- /utf-8 /Zc:__cplusplus)
+else()
+    # For C++ alone: the resource compiler would take these for its own.
+    target_compile_options(compiling INTERFACE
+        "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Werror>")
+    if(ONBOARDUI_UBSAN)
+        # The trapping kind: the other would need a run-time library that does not exist here.
+        target_compile_options(compiling INTERFACE
+            "$<$<COMPILE_LANGUAGE:CXX>:-fsanitize=undefined;-fsanitize-undefined-trap-on-error>")
+    endif()
+endif()
+
+# The slow headers are compiled once per target. afxwin.h stands first, as it has to.
+function(precompile_headers target)
+    target_precompile_headers(${target} PRIVATE
+        ${ARGN} <windows.h> <map> <memory> <string> <vector>)
+endfunction()
+
+# The compiler's shared run-time libraries beside the programs, so that these start by themselves.
+# Shared, because objects and exceptions cross the borders of our own shared libraries.
+function(place_runtime_libraries folder)
+    if(NOT MINGW)
+        return()
+    endif()
+    foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(
+            COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}
+            OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
+        if(NOT IS_ABSOLUTE "${path}")
+            find_file(path_of_${name} ${name}
+                PATHS /usr/x86_64-w64-mingw32/lib /usr/x86_64-w64-mingw32/bin
+                NO_CMAKE_FIND_ROOT_PATH NO_CACHE REQUIRED)
+            set(path "${path_of_${name}}")
+        endif()
+        file(COPY "${path}" DESTINATION "${folder}")
+    endforeach()
+endfunction()
