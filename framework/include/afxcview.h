@@ -1,0 +1,6 @@
+#pragma once
+
+// Views made of one common control.
+
+#include <afxcmn.h>
+#include <afxwin.h>

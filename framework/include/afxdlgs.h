@@ -1,0 +1,7 @@
+#pragma once
+
+// Property sheets and their pages.
+
+#include <afxwin.h>
+
+#include "framework/PropertySheet.h"

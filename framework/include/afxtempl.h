@@ -1,0 +1,5 @@
+#pragma once
+
+// The collection templates.
+
+#include "framework/Collections.h"

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "framework/Thread.h"
+
+// The application: one object, made before main.
+class FRAMEWORK_API CWinApp : public CWinThread
+{
+    DECLARE_DYNAMIC(CWinApp)
+
+public:
+    explicit CWinApp(LPCSTR appName = nullptr);
+    ~CWinApp() override;
+
+    HINSTANCE m_hInstance = nullptr;
+    LPSTR m_lpCmdLine = nullptr;
+    int m_nCmdShow = SW_SHOWNORMAL;
+    LPCSTR m_pszAppName = nullptr;
+
+    virtual BOOL InitApplication() { return TRUE; }
+    int Run() override;
+
+    HICON LoadIcon(LPCSTR name) const;
+    HICON LoadIcon(UINT id) const { return LoadIcon(MAKEINTRESOURCE(id)); }
+    HCURSOR LoadStandardCursor(LPCSTR name) const { return ::LoadCursor(nullptr, name); }
+};
+
+FRAMEWORK_API CWinApp* AfxGetApp();
+FRAMEWORK_API CWinThread* AfxGetThread();
+FRAMEWORK_API CWnd* AfxGetMainWnd();
+FRAMEWORK_API LPCSTR AfxGetAppName();
+
+// The program's module, and the module that resources are read from first.
+FRAMEWORK_API HINSTANCE AfxGetInstanceHandle();
+FRAMEWORK_API HINSTANCE AfxGetResourceHandle();
+FRAMEWORK_API void AfxSetResourceHandle(HINSTANCE module);
+// The module that has the resource: the resource handle's, else the program's, else a registered
+// extension's.
+FRAMEWORK_API HINSTANCE AfxFindResourceHandle(LPCSTR name, LPCSTR type);
+
+// Sets up the framework for a program; a windowed one is set up by the framework's own entry.
+FRAMEWORK_API BOOL AfxWinInit(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine,
+                              int showCommand);
+// The whole life of a windowed program: set up, InitInstance, Run.
+FRAMEWORK_API int AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine,
+                             int showCommand);
+
+// Name of a window class with these attributes, registered on first use; it lives with the module.
+FRAMEWORK_API LPCSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr,
+                                         HBRUSH background = nullptr, HICON icon = nullptr);
+// Registers a class once; TRUE also when it exists already.
+FRAMEWORK_API BOOL AfxRegisterClass(WNDCLASS* windowClass);
+
+FRAMEWORK_API int AfxMessageBox(LPCSTR text, UINT type = MB_OK, UINT helpId = 0);
+FRAMEWORK_API void AfxPostQuitMessage(int exitCode);
+FRAMEWORK_API BOOL AfxPumpMessage();
+
+// State of an extension module's resources (see CDynLinkLibrary).
+struct AFX_EXTENSION_MODULE
+{
+    BOOL bInitialized = FALSE;
+    HMODULE hModule = nullptr;
+    HMODULE hResource = nullptr;
+};
+FRAMEWORK_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module);
+FRAMEWORK_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL all = FALSE);
+
+// Adds an extension module to those whose resources are searched.
+class FRAMEWORK_API CDynLinkLibrary
+{
+public:
+    explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL system = FALSE);
+    ~CDynLinkLibrary();
+    HMODULE m_hResource = nullptr;
+};

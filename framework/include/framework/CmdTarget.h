@@ -1,0 +1,68 @@
+#pragma once
+
+#include "framework/MessageMap.h"
+#include "framework/Object.h"
+
+class CWnd;
+
+// Who would handle a command; asked for instead of handling it.
+struct AFX_CMDHANDLERINFO
+{
+    CCmdTarget* pTarget;
+};
+
+// A notification as OnCmdMsg passes it on.
+struct AFX_NOTIFY
+{
+    LRESULT* pResult;
+    NMHDR* pNMHDR;
+};
+
+// Anything that has a message map.
+class FRAMEWORK_API CCmdTarget : public CObject
+{
+    DECLARE_DYNAMIC(CCmdTarget)
+
+public:
+    CCmdTarget() = default;
+
+    // Routes a command (nCode CN_COMMAND), an update (CN_UPDATE_COMMAND_UI, pExtra a CCmdUI*), a
+    // control notification, or a notification message (HIWORD WM_NOTIFY, pExtra an AFX_NOTIFY*).
+    // TRUE when somebody handled it.
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
+
+    void BeginWaitCursor() { ::SetCursor(::LoadCursor(nullptr, IDC_WAIT)); }
+    void EndWaitCursor() { ::SetCursor(::LoadCursor(nullptr, IDC_ARROW)); }
+
+protected:
+    static const AFX_MSGMAP* PASCAL GetThisMessageMap();
+    virtual const AFX_MSGMAP* GetMessageMap() const;
+
+    // Finds the entry for a window message and calls it. True when handled.
+    bool DispatchWindowMessage(UINT mapNumber, AFX_MSGCALL& m);
+    // The same for entries with codes and ids; reflected entries have no id.
+    bool DispatchCommand(UINT mapNumber, UINT code, AFX_MSGCALL& m, AFX_CMDHANDLERINFO* info);
+};
+
+// Tells a menu item, tool-bar button, status pane or control how a command stands.
+class FRAMEWORK_API CCmdUI
+{
+public:
+    CCmdUI() = default;
+    virtual ~CCmdUI() = default;
+
+    UINT m_nID = 0;
+    UINT m_nIndex = 0;
+    CWnd* m_pOther = nullptr; // the window that holds the item
+
+    virtual void Enable(BOOL on = TRUE);
+    virtual void SetCheck(int check = 1);
+    virtual void SetRadio(BOOL on = TRUE) { SetCheck(on ? 1 : 0); }
+    virtual void SetText(LPCSTR text);
+
+    // Asks target how the command stands; without a handler the item is disabled if wished.
+    BOOL DoUpdate(CCmdTarget* target, BOOL disableIfNoHandler);
+
+protected:
+    BOOL m_enableChanged = FALSE;
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+// Bars along the edges of a frame. The frame lays them out; a bar only says what size it wants.
+
+#include "framework/Wnd.h"
+
+class CFrameWnd;
+class CStatusBarCtrl;
+class CToolBarCtrl;
+
+constexpr UINT AFX_IDW_TOOLBAR = 0xE800;
+constexpr UINT AFX_IDW_STATUS_BAR = 0xE801;
+constexpr UINT ID_SEPARATOR = 0;
+
+// Bar styles travel in the low word of the window style, which is the class's own.
+constexpr DWORD CBRS_ALIGN_LEFT = 0x1000;
+constexpr DWORD CBRS_ALIGN_TOP = 0x2000;
+constexpr DWORD CBRS_ALIGN_RIGHT = 0x4000;
+constexpr DWORD CBRS_ALIGN_BOTTOM = 0x8000;
+constexpr DWORD CBRS_ALIGN_ANY = 0xF000;
+constexpr DWORD CBRS_NOALIGN = 0;
+constexpr DWORD CBRS_TOP = CBRS_ALIGN_TOP;
+constexpr DWORD CBRS_BOTTOM = CBRS_ALIGN_BOTTOM;
+constexpr DWORD CBRS_TOOLTIPS = 0x0010;
+constexpr DWORD CBRS_FLYBY = 0x0020;
+constexpr DWORD CBRS_ALL = 0xFFFF;
+
+class FRAMEWORK_API CControlBar : public CWnd
+{
+    DECLARE_DYNAMIC(CControlBar)
+
+public:
+    // Set for a bar on the heap that is to go with its window.
+    BOOL m_bAutoDelete = FALSE;
+
+    // The size the bar wants. Stretched, the length along the orientation is the most there is.
+    virtual CSize CalcFixedLayout(BOOL stretch, BOOL horizontal);
+    DWORD GetBarStyle() const { return m_dwStyle; }
+    void SetBarStyle(DWORD style) { m_dwStyle = style & CBRS_ALL; }
+    // The widths of the borders as the sides of a rectangle.
+    CRect GetBorders() const { return m_borders; }
+    void SetBorders(int left = 0, int top = 0, int right = 0, int bottom = 0)
+    {
+        m_borders = CRect(left, top, right, bottom);
+    }
+    void SetBorders(LPCRECT borders) { m_borders = *borders; }
+    // How many panes or buttons.
+    virtual int GetCount() const { return 0; }
+    // Asks target how each command of the bar stands; called when the thread is idle.
+    virtual void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) = 0;
+
+protected:
+    CControlBar() = default;
+    BOOL CreateBar(LPCSTR className, CWnd* parent, DWORD controlStyle, DWORD style, UINT id);
+    void PostNcDestroy() override;
+
+    afx_msg void OnNcCalcSize(BOOL calcValid, NCCALCSIZE_PARAMS* params);
+    DECLARE_MESSAGE_MAP()
+
+    DWORD m_dwStyle = 0;
+
+private:
+    CRect m_borders;
+};

@@ -1,0 +1,52 @@
+#pragma once
+
+// The platform's headers and the small words that every class of the framework uses.
+
+#if !defined(NOMINMAX)
+#define NOMINMAX
+#endif
+#include <windows.h>
+#include <windowsx.h>
+
+#include <commctrl.h>
+
+// windowsx.h gives these names to macros; here they are members.
+#undef SubclassWindow
+#undef GetNextSibling
+#undef GetPrevSibling
+#undef GetFirstChild
+#undef CopyRgn
+#undef SelectPen
+#undef SelectBrush
+#undef SelectFont
+// So does winuser.h with this one.
+#undef GetNextWindow
+
+#include "framework/Export.h"
+
+#include <cassert>
+
+#define afx_msg
+#define AFX_MSG_CALL
+#define AFX_CDECL
+#define AFXAPI
+#define AFX_DATA
+#define AFX_DATADEF
+#define AFX_EXT_CLASS
+#if !defined(PASCAL)
+#define PASCAL
+#endif
+
+#if defined(NDEBUG)
+#define ASSERT(condition) ((void)0)
+#define VERIFY(condition) ((void)(condition))
+#else
+#define ASSERT(condition) assert(condition)
+#define VERIFY(condition) assert(condition)
+#endif
+#define ASSERT_VALID(object) ASSERT((object) != nullptr)
+
+#if !defined(WM_REFLECT_BASE)
+// Private to a thread's own windows: a notification on its way back to the control that sent it.
+#define WM_REFLECT_BASE 0xBC00
+#endif

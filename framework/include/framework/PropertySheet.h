@@ -1,0 +1,90 @@
+#pragma once
+
+#include "framework/Dialog.h"
+
+#include <prsht.h>
+#include <vector>
+
+class CPropertySheet;
+
+// One page of a property sheet, from a dialog template.
+class FRAMEWORK_API CPropertyPage : public CDialog
+{
+    DECLARE_DYNCREATE(CPropertyPage)
+
+public:
+    CPropertyPage();
+    explicit CPropertyPage(UINT templateId, UINT captionId = 0);
+    explicit CPropertyPage(LPCSTR templateName, UINT captionId = 0);
+
+    PROPSHEETPAGE m_psp = {};
+
+    void SetModified(BOOL changed = TRUE);
+    virtual BOOL OnSetActive() { return TRUE; }
+    virtual BOOL OnKillActive() { return UpdateData(TRUE); }
+    virtual void OnOK() override {}
+    virtual void OnCancel() override {}
+    virtual BOOL OnApply();
+    virtual void OnReset() { OnCancel(); }
+    virtual BOOL OnQueryCancel() { return TRUE; }
+
+protected:
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    BOOL PreTranslateMessage(MSG* message) override;
+
+    CString m_strCaption;
+
+private:
+    void Construct(LPCSTR templateName, UINT captionId);
+    static UINT CALLBACK Created(HWND window, UINT message, PROPSHEETPAGE* page);
+    friend class CPropertySheet;
+};
+
+// A sheet of pages with tabs, modal or modeless. The pages stay their makers'.
+class FRAMEWORK_API CPropertySheet : public CWnd
+{
+    DECLARE_DYNAMIC(CPropertySheet)
+
+public:
+    CPropertySheet();
+    explicit CPropertySheet(UINT captionId, CWnd* parent = nullptr, UINT selectPage = 0);
+    explicit CPropertySheet(LPCSTR caption, CWnd* parent = nullptr, UINT selectPage = 0);
+    ~CPropertySheet() override;
+
+    PROPSHEETHEADER m_psh = {};
+
+    void AddPage(CPropertyPage* page);
+    void RemovePage(int page);
+    int GetPageCount() const { return int(m_pages.size()); }
+    CPropertyPage* GetPage(int page) const;
+    CPropertyPage* GetActivePage() const { return GetPage(GetActiveIndex()); }
+    int GetActiveIndex() const;
+    BOOL SetActivePage(int page);
+    HWND GetTabControl() const { return reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL)); }
+    void SetTitle(LPCSTR text, UINT style = 0);
+
+    using CWnd::Create;
+    virtual BOOL Create(CWnd* parent = nullptr, DWORD style = DWORD(-1), DWORD exStyle = 0);
+    // IDOK or IDCANCEL, or -1 when the sheet could not be made.
+    virtual INT_PTR DoModal();
+    void EndDialog(int result);
+    virtual BOOL OnInitDialog();
+    BOOL PreTranslateMessage(MSG* message) override;
+    BOOL ContinueModal() override;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnClose();
+    DECLARE_MESSAGE_MAP()
+
+    CString m_strCaption;
+    CWnd* m_pParentWnd = nullptr;
+
+private:
+    std::vector<CPropertyPage*> m_pages;
+    bool m_modal = false;
+    int m_result = IDCANCEL;
+
+    BOOL CreateSheet(CWnd* parent);
+};

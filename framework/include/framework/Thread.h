@@ -1,0 +1,29 @@
+#pragma once
+
+#include "framework/Wnd.h"
+
+// A thread's message loop.
+class FRAMEWORK_API CWinThread : public CCmdTarget
+{
+    DECLARE_DYNAMIC(CWinThread)
+
+public:
+    CWinThread() = default;
+    ~CWinThread() override;
+
+    CWnd* m_pMainWnd = nullptr;   // when it is destroyed, the thread quits
+    CWnd* m_pActiveWnd = nullptr; // in-place main window; unused here
+    MSG m_msgCur = {};
+
+    virtual BOOL InitInstance() { return FALSE; }
+    virtual int ExitInstance() { return int(m_msgCur.wParam); }
+    // Pumps messages until WM_QUIT; gives ExitInstance's value.
+    virtual int Run();
+    // Waits for one message and dispatches it; FALSE on WM_QUIT.
+    virtual BOOL PumpMessage();
+    virtual BOOL PreTranslateMessage(MSG* message);
+    // Idle work in rounds; TRUE asks for another round. Drops temporary objects.
+    virtual BOOL OnIdle(LONG count);
+    virtual BOOL IsIdleMessage(MSG* message);
+    virtual CWnd* GetMainWnd() { return m_pMainWnd; }
+};

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "framework/Wnd.h"
+
+// The part of a frame that shows something. Made on the heap; deletes itself with its window.
+class FRAMEWORK_API CView : public CWnd
+{
+    DECLARE_DYNAMIC(CView)
+
+public:
+    CView() = default;
+
+    CDocument* GetDocument() const { return m_pDocument; }
+    virtual void OnInitialUpdate() {}
+    virtual void OnPrepareDC(CDC*, void* = nullptr) {}
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
+protected:
+    virtual void OnDraw(CDC* dc) = 0;
+    virtual void OnActivateView(BOOL activate, CView* activateView, CView* deactiveView);
+    void PostNcDestroy() override { delete this; }
+
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg int OnMouseActivate(CWnd* desktop, UINT hitTest, UINT message);
+    DECLARE_MESSAGE_MAP()
+
+    CDocument* m_pDocument = nullptr;
+
+    friend class CFrameWnd;
+};
+
+// A view that scrolls when what it shows is larger than itself; pixels only.
+class FRAMEWORK_API CScrollView : public CView
+{
+    DECLARE_DYNAMIC(CScrollView)
+
+public:
+    CScrollView() = default;
+
+    // mapMode is MM_TEXT. Page and line default to a tenth and a hundredth of the size.
+    void SetScrollSizes(int mapMode, SIZE total, const SIZE& page = {0, 0},
+                        const SIZE& line = {0, 0});
+    CSize GetTotalSize() const { return m_total; }
+    CPoint GetScrollPosition() const { return m_position; }
+    void ScrollToPosition(POINT position);
+    void OnPrepareDC(CDC* dc, void* info = nullptr) override;
+
+protected:
+    void OnDraw(CDC*) override {}
+
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CSize m_total;
+    CSize m_page;
+    CSize m_line;
+    CPoint m_position;
+    bool m_updatingBars = false;
+
+    void UpdateBars();
+    void Scroll(int bar, UINT code);
+};
+
+// A view whose controls come from a dialog template.
+class FRAMEWORK_API CFormView : public CScrollView
+{
+    DECLARE_DYNAMIC(CFormView)
+
+public:
+    BOOL Create(LPCSTR className, LPCSTR windowName, DWORD requestedStyle, const RECT& rect,
+                CWnd* parent, UINT id, CCreateContext* context) override;
+    void OnInitialUpdate() override;
+    BOOL PreTranslateMessage(MSG* message) override;
+
+protected:
+    explicit CFormView(LPCSTR templateName);
+    explicit CFormView(UINT templateId);
+
+    LPCSTR m_lpszTemplateName;
+};

@@ -1,0 +1,358 @@
+#pragma once
+
+#include "framework/CmdTarget.h"
+#include "framework/DeviceContext.h"
+#include "framework/Gdi.h"
+#include "framework/Geometry.h"
+#include "framework/String.h"
+
+class CDataExchange;
+class CDocument;
+class CFrameWnd;
+class CScrollBar;
+class CView;
+
+// What a frame tells a view that it creates.
+struct CCreateContext
+{
+    CRuntimeClass* m_pNewViewClass = nullptr;
+    CDocument* m_pCurrentDoc = nullptr;
+    CFrameWnd* m_pCurrentFrame = nullptr;
+};
+
+constexpr UINT AFX_IDW_PANE_FIRST = 0xE900;
+constexpr UINT AFX_IDW_PANE_LAST = 0xE9FF;
+
+// RunModalLoop: show the window once there is nothing left to do.
+constexpr DWORD MLF_SHOWONIDLE = 0x0004;
+
+// A window of the platform. An object made by Create, Attach or SubclassWindow stands permanently
+// for its handle; FromHandle makes temporary stand-ins that own nothing and last until the thread
+// is idle. Destroying the object destroys the window; destroying the window leaves the object,
+// unless its PostNcDestroy deletes it.
+class FRAMEWORK_API CWnd : public CCmdTarget
+{
+    DECLARE_DYNCREATE(CWnd)
+
+public:
+    CWnd() = default;
+    ~CWnd() override;
+
+    HWND m_hWnd = nullptr;
+    HWND GetSafeHwnd() const { return m_hWnd; }
+    operator HWND() const { return m_hWnd; }
+    bool operator==(const CWnd& other) const { return m_hWnd == other.m_hWnd; }
+
+    // Handles and objects. FromHandle gives null only for null; FromHandlePermanent gives null
+    // unless an object was attached.
+    static CWnd* PASCAL FromHandle(HWND window);
+    static CWnd* PASCAL FromHandlePermanent(HWND window);
+    static void PASCAL DeleteTempMap();
+    BOOL Attach(HWND window);
+    HWND Detach();
+    // Binds the object to a window that exists and puts its message map before the window's own
+    // procedure. FALSE when the window or the object already has a partner.
+    BOOL SubclassWindow(HWND window);
+    BOOL SubclassDlgItem(UINT id, CWnd* parent);
+    // Gives the procedure back if this object's is still on top, and lets go of the window.
+    HWND UnsubclassWindow();
+    // Last chance before the first message of a window that is created or subclassed.
+    virtual void PreSubclassWindow() {}
+
+    // Creation and destruction
+    virtual BOOL Create(LPCSTR className, LPCSTR windowName, DWORD style, const RECT& rect,
+                        CWnd* parent, UINT id, CCreateContext* context = nullptr);
+    BOOL CreateEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y,
+                  int width, int height, HWND parent, HMENU idOrMenu, LPVOID param = nullptr);
+    BOOL CreateEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD style, const RECT& rect,
+                  CWnd* parent, UINT id, LPVOID param = nullptr);
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    virtual BOOL DestroyWindow();
+
+    // State
+    DWORD GetStyle() const { return DWORD(::GetWindowLongPtr(m_hWnd, GWL_STYLE)); }
+    DWORD GetExStyle() const { return DWORD(::GetWindowLongPtr(m_hWnd, GWL_EXSTYLE)); }
+    // Changes style bits; flags other than 0 apply them with SetWindowPos and these flags.
+    // FALSE when nothing changed.
+    BOOL ModifyStyle(DWORD remove, DWORD add, UINT flags = 0);
+    BOOL ModifyStyleEx(DWORD remove, DWORD add, UINT flags = 0);
+    int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
+    int SetDlgCtrlID(int id) { return int(::SetWindowLongPtr(m_hWnd, GWLP_ID, id)); }
+    BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
+    BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
+    BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
+    BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
+    BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
+    BOOL IsZoomed() const { return ::IsZoomed(m_hWnd); }
+
+    // Messages
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
+    {
+        return ::SendMessage(m_hWnd, message, wParam, lParam);
+    }
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
+    {
+        return ::PostMessage(m_hWnd, message, wParam, lParam);
+    }
+    void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0,
+                                  BOOL deep = TRUE, BOOL onlyPermanent = FALSE);
+    // Reflects the message in progress to this child; TRUE when the child handled it.
+    BOOL SendChildNotifyLastMsg(LRESULT* result = nullptr);
+    static const MSG* PASCAL GetCurrentMessage();
+
+    // Text and font
+    void SetWindowText(LPCSTR text) { ::SetWindowText(m_hWnd, text); }
+    int GetWindowText(LPSTR buffer, int size) const
+    {
+        return ::GetWindowText(m_hWnd, buffer, size);
+    }
+    void GetWindowText(CString& text) const;
+    int GetWindowTextLength() const { return ::GetWindowTextLength(m_hWnd); }
+    void SetFont(CFont* font, BOOL redraw = TRUE);
+    CFont* GetFont() const;
+
+    // Place and size
+    void MoveWindow(int x, int y, int width, int height, BOOL repaint = TRUE)
+    {
+        ::MoveWindow(m_hWnd, x, y, width, height, repaint);
+    }
+    void MoveWindow(LPCRECT r, BOOL repaint = TRUE)
+    {
+        MoveWindow(r->left, r->top, r->right - r->left, r->bottom - r->top, repaint);
+    }
+    BOOL SetWindowPos(const CWnd* after, int x, int y, int width, int height, UINT flags);
+    void BringWindowToTop() { ::BringWindowToTop(m_hWnd); }
+    void GetWindowRect(LPRECT rect) const { ::GetWindowRect(m_hWnd, rect); }
+    void GetClientRect(LPRECT rect) const { ::GetClientRect(m_hWnd, rect); }
+    void ClientToScreen(LPPOINT point) const { ::ClientToScreen(m_hWnd, point); }
+    void ClientToScreen(LPRECT rect) const;
+    void ScreenToClient(LPPOINT point) const { ::ScreenToClient(m_hWnd, point); }
+    void ScreenToClient(LPRECT rect) const;
+    void MapWindowPoints(CWnd* to, LPPOINT points, UINT count) const;
+    void MapWindowPoints(CWnd* to, LPRECT rect) const;
+    virtual void CalcWindowRect(LPRECT clientRect, UINT adjustType = 0);
+
+    // Painting
+    CDC* GetDC() { return CDC::FromHandle(::GetDC(m_hWnd)); }
+    CDC* GetWindowDC() { return CDC::FromHandle(::GetWindowDC(m_hWnd)); }
+    int ReleaseDC(CDC* dc);
+    CDC* BeginPaint(LPPAINTSTRUCT paint) { return CDC::FromHandle(::BeginPaint(m_hWnd, paint)); }
+    void EndPaint(LPPAINTSTRUCT paint) { ::EndPaint(m_hWnd, paint); }
+    void UpdateWindow() { ::UpdateWindow(m_hWnd); }
+    void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, WPARAM(redraw)); }
+    void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
+    void InvalidateRect(LPCRECT r, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, r, erase); }
+    void ValidateRect(LPCRECT r) { ::ValidateRect(m_hWnd, r); }
+    BOOL GetUpdateRect(LPRECT r, BOOL erase = FALSE) { return ::GetUpdateRect(m_hWnd, r, erase); }
+    BOOL RedrawWindow(LPCRECT rect = nullptr, CRgn* region = nullptr,
+                      UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
+
+    // Timers
+    UINT_PTR SetTimer(UINT_PTR id, UINT elapse, TIMERPROC proc)
+    {
+        return ::SetTimer(m_hWnd, id, elapse, proc);
+    }
+    BOOL KillTimer(UINT_PTR id) { return ::KillTimer(m_hWnd, id); }
+
+    // Focus, activation, capture
+    static CWnd* PASCAL GetFocus() { return FromHandle(::GetFocus()); }
+    CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
+    static CWnd* PASCAL GetCapture() { return FromHandle(::GetCapture()); }
+    CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
+    static CWnd* PASCAL GetActiveWindow() { return FromHandle(::GetActiveWindow()); }
+    CWnd* SetActiveWindow() { return FromHandle(::SetActiveWindow(m_hWnd)); }
+    static CWnd* PASCAL GetForegroundWindow() { return FromHandle(::GetForegroundWindow()); }
+    BOOL SetForegroundWindow() { return ::SetForegroundWindow(m_hWnd); }
+
+    // Family
+    CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
+    CWnd* SetParent(CWnd* parent);
+    CWnd* GetOwner() const { return FromHandle(::GetWindow(m_hWnd, GW_OWNER)); }
+    CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOTOWNER)); }
+    CFrameWnd* GetParentFrame() const;
+    CWnd* GetWindow(UINT command) const { return FromHandle(::GetWindow(m_hWnd, command)); }
+    CWnd* GetNextWindow(UINT flag = GW_HWNDNEXT) const { return GetWindow(flag); }
+    CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
+    BOOL IsChild(const CWnd* child) const;
+    static CWnd* PASCAL WindowFromPoint(POINT p) { return FromHandle(::WindowFromPoint(p)); }
+    CWnd* ChildWindowFromPoint(POINT p) const
+    {
+        return FromHandle(::ChildWindowFromPoint(m_hWnd, p));
+    }
+    static CWnd* PASCAL GetDesktopWindow() { return FromHandle(::GetDesktopWindow()); }
+
+    // Dialog items
+    CWnd* GetDlgItem(int id) const { return FromHandle(::GetDlgItem(m_hWnd, id)); }
+    void GetDlgItem(int id, HWND* window) const { *window = ::GetDlgItem(m_hWnd, id); }
+    void SetDlgItemText(int id, LPCSTR text) { ::SetDlgItemText(m_hWnd, id, text); }
+    int GetDlgItemText(int id, CString& text) const;
+    void CheckDlgButton(int id, UINT check) { ::CheckDlgButton(m_hWnd, id, check); }
+    UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
+    LRESULT SendDlgItemMessage(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+    {
+        return ::SendDlgItemMessage(m_hWnd, id, message, wParam, lParam);
+    }
+    CWnd* GetNextDlgTabItem(CWnd* control, BOOL previous = FALSE) const;
+    CWnd* GetNextDlgGroupItem(CWnd* control, BOOL previous = FALSE) const;
+    BOOL IsDialogMessage(LPMSG message) { return ::IsDialogMessage(m_hWnd, message); }
+    BOOL UpdateData(BOOL saveAndValidate = TRUE);
+
+    // Scrolling
+    virtual CScrollBar* GetScrollBarCtrl(int bar) const;
+    int SetScrollPos(int bar, int position, BOOL redraw = TRUE)
+    {
+        return ::SetScrollPos(m_hWnd, bar, position, redraw);
+    }
+    int GetScrollPos(int bar) const { return ::GetScrollPos(m_hWnd, bar); }
+    void SetScrollRange(int bar, int minimum, int maximum, BOOL redraw = TRUE)
+    {
+        ::SetScrollRange(m_hWnd, bar, minimum, maximum, redraw);
+    }
+    BOOL SetScrollInfo(int bar, LPSCROLLINFO info, BOOL redraw = TRUE)
+    {
+        ::SetScrollInfo(m_hWnd, bar, info, redraw);
+        return TRUE;
+    }
+    BOOL GetScrollInfo(int bar, LPSCROLLINFO info, UINT mask = SIF_ALL);
+    void ShowScrollBar(UINT bar, BOOL show = TRUE) { ::ShowScrollBar(m_hWnd, int(bar), show); }
+    void ScrollWindow(int dx, int dy, LPCRECT rect = nullptr, LPCRECT clip = nullptr)
+    {
+        ::ScrollWindow(m_hWnd, dx, dy, rect, clip);
+    }
+
+    // Lays out child bars round the one pane that takes what is left.
+    void RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT flags = 0,
+                        LPRECT rectParam = nullptr, LPCRECT rectClient = nullptr,
+                        BOOL stretch = TRUE);
+
+    int MessageBox(LPCSTR text, LPCSTR caption = nullptr, UINT type = MB_OK)
+    {
+        return ::MessageBox(m_hWnd, text, caption, type);
+    }
+
+    // Modal loops. RunModalLoop pumps until EndModalLoop is called or the window is gone and gives
+    // EndModalLoop's value, -1 when the application quits.
+    int RunModalLoop(DWORD flags = 0);
+    virtual BOOL ContinueModal() { return m_modalRunning; }
+    virtual void EndModalLoop(int result);
+
+    // Message translation before dispatch; TRUE when the message is done with.
+    virtual BOOL PreTranslateMessage(MSG* message);
+    static BOOL PASCAL WalkPreTranslateTree(HWND stop, MSG* message);
+
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
+
+    // The previous procedure's turn with any message.
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    // Called by the window procedure; calls the handlers, else DefWindowProc.
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+
+protected:
+    // The default processing of the message in progress, with its own parameters.
+    LRESULT Default();
+    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result);
+    // A message that this window's parent was sent about it. TRUE when handled.
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
+    static BOOL PASCAL ReflectLastMsg(HWND child, LRESULT* result = nullptr);
+    // After the last message, when the handle is gone: here an object may delete itself.
+    virtual void PostNcDestroy() {}
+    virtual void DoDataExchange(CDataExchange*) {}
+    BOOL PreTranslateInput(LPMSG message);
+
+    // Handlers; the base forms do the default processing.
+    afx_msg int OnCreate(LPCREATESTRUCT) { return int(Default()); }
+    afx_msg BOOL OnNcCreate(LPCREATESTRUCT) { return BOOL(Default()); }
+    afx_msg void OnDestroy() { Default(); }
+    afx_msg void OnNcDestroy();
+    afx_msg void OnClose() { Default(); }
+    afx_msg void OnPaint() { Default(); }
+    afx_msg void OnNcPaint() { Default(); }
+    afx_msg BOOL OnEraseBkgnd(CDC*) { return BOOL(Default()); }
+    afx_msg void OnSysColorChange() { Default(); }
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
+    afx_msg void OnSize(UINT, int, int) { Default(); }
+    afx_msg void OnMove(int, int) { Default(); }
+    afx_msg void OnMoving(UINT, LPRECT) { Default(); }
+    afx_msg void OnSizing(UINT, LPRECT) { Default(); }
+    afx_msg void OnGetMinMaxInfo(MINMAXINFO*) { Default(); }
+    afx_msg void OnWindowPosChanging(WINDOWPOS*) { Default(); }
+    afx_msg void OnWindowPosChanged(WINDOWPOS*) { Default(); }
+    afx_msg void OnShowWindow(BOOL, UINT) { Default(); }
+    afx_msg void OnEnable(BOOL) { Default(); }
+    afx_msg void OnStyleChanged(int, LPSTYLESTRUCT) { Default(); }
+    afx_msg void OnActivate(UINT, CWnd*, BOOL) { Default(); }
+    afx_msg void OnActivateApp(BOOL, DWORD) { Default(); }
+    afx_msg int OnMouseActivate(CWnd*, UINT, UINT) { return int(Default()); }
+    afx_msg void OnSetFocus(CWnd*) { Default(); }
+    afx_msg void OnKillFocus(CWnd*) { Default(); }
+    afx_msg void OnCaptureChanged(CWnd*) { Default(); }
+    afx_msg void OnCancelMode() { Default(); }
+    afx_msg BOOL OnSetCursor(CWnd*, UINT, UINT) { return BOOL(Default()); }
+    afx_msg UINT OnGetDlgCode() { return UINT(Default()); }
+    afx_msg void OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS*) { Default(); }
+    afx_msg LRESULT OnNcHitTest(CPoint) { return Default(); }
+    afx_msg BOOL OnNcActivate(BOOL) { return BOOL(Default()); }
+    afx_msg void OnNcLButtonDown(UINT, CPoint) { Default(); }
+    afx_msg void OnNcLButtonUp(UINT, CPoint) { Default(); }
+    afx_msg void OnNcLButtonDblClk(UINT, CPoint) { Default(); }
+    afx_msg void OnNcMouseMove(UINT, CPoint) { Default(); }
+    afx_msg void OnLButtonDown(UINT, CPoint) { Default(); }
+    afx_msg void OnLButtonUp(UINT, CPoint) { Default(); }
+    afx_msg void OnLButtonDblClk(UINT, CPoint) { Default(); }
+    afx_msg void OnRButtonDown(UINT, CPoint) { Default(); }
+    afx_msg void OnRButtonUp(UINT, CPoint) { Default(); }
+    afx_msg void OnMButtonDown(UINT, CPoint) { Default(); }
+    afx_msg void OnMouseMove(UINT, CPoint) { Default(); }
+    afx_msg void OnMouseLeave() { Default(); }
+    afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return BOOL(Default()); }
+    afx_msg void OnContextMenu(CWnd*, CPoint) { Default(); }
+    afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
+    afx_msg void OnKeyUp(UINT, UINT, UINT) { Default(); }
+    afx_msg void OnChar(UINT, UINT, UINT) { Default(); }
+    afx_msg void OnSysKeyDown(UINT, UINT, UINT) { Default(); }
+    afx_msg void OnSysKeyUp(UINT, UINT, UINT) { Default(); }
+    afx_msg void OnUpdateUIState(UINT, UINT) { Default(); }
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnTimer(UINT_PTR) { Default(); }
+    afx_msg void OnDrawItem(int id, LPDRAWITEMSTRUCT draw);
+    afx_msg void OnMeasureItem(int id, LPMEASUREITEMSTRUCT measure);
+    afx_msg int OnCompareItem(int id, LPCOMPAREITEMSTRUCT compare);
+    afx_msg void OnDeleteItem(int id, LPDELETEITEMSTRUCT deleted);
+    afx_msg void OnParentNotify(UINT message, LPARAM lParam);
+    // What a list box is to do with a key: its own virtuals first.
+    afx_msg LRESULT OnKeyToItem(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    friend class CFrameWnd;
+    WNDPROC m_previousProc = nullptr;
+    bool m_modalRunning = false;
+    int m_modalResult = 0;
+
+    void BindTo(HWND window);
+    void TakeProcedure();
+
+    static LRESULT CALLBACK Procedure(HWND, UINT, WPARAM, LPARAM);
+    friend class CreationHook;
+};
+
+// The object for a scroll bar's handle; null for null.
+FRAMEWORK_API CScrollBar* AfxScrollBarFromHandle(HWND bar);
+
+// Unpacks a colour message and calls handler(dc, control, kind).
+template <class Handler> LRESULT AfxCallCtlColor(const AFX_MSGCALL& m, Handler handler)
+{
+    CDC* dc = CDC::FromHandle(reinterpret_cast<HDC>(m.wParam));
+    CWnd* control = CWnd::FromHandle(reinterpret_cast<HWND>(m.lParam));
+    return reinterpret_cast<LRESULT>(handler(dc, control, UINT(m.message - WM_CTLCOLORMSGBOX)));
+}
+
+// Binds wnd to the next window that this thread creates, before its first message; for windows
+// that the platform creates on the caller's behalf. AfxUnhookWindowCreate says whether it happened.
+FRAMEWORK_API void AfxHookWindowCreate(CWnd* wnd);
+FRAMEWORK_API BOOL AfxUnhookWindowCreate();

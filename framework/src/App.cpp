@@ -1,0 +1,317 @@
+#include "framework/App.h"
+
+#include "GdiMaps.h"
+#include "ThreadState.h"
+#include "framework/Frame.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <vector>
+
+using framework::CurrentThreadState;
+
+// The thread ------------------------------------------------------------------------------------
+
+IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
+
+CWinThread::~CWinThread()
+{
+    if (CurrentThreadState().thread == this)
+    {
+        CurrentThreadState().thread = nullptr;
+    }
+}
+
+int CWinThread::Run()
+{
+    LONG idleRounds = 0;
+    bool idle = true;
+    for (;;)
+    {
+        MSG waiting;
+        while (idle && !::PeekMessage(&waiting, nullptr, 0, 0, PM_NOREMOVE))
+        {
+            idle = OnIdle(idleRounds++);
+        }
+        if (!PumpMessage())
+        {
+            return ExitInstance();
+        }
+        if (IsIdleMessage(&m_msgCur))
+        {
+            idle = true;
+            idleRounds = 0;
+        }
+    }
+}
+
+BOOL CWinThread::PumpMessage()
+{
+    if (::GetMessage(&m_msgCur, nullptr, 0, 0) <= 0)
+    {
+        return FALSE;
+    }
+    // A handler may pump in turn, which overwrites m_msgCur.
+    MSG message = m_msgCur;
+    if (!PreTranslateMessage(&message))
+    {
+        ::TranslateMessage(&message);
+        ::DispatchMessage(&message);
+    }
+    return TRUE;
+}
+
+BOOL CWinThread::PreTranslateMessage(MSG* message)
+{
+    const HWND main = m_pMainWnd == nullptr ? nullptr : m_pMainWnd->m_hWnd;
+    return message->hwnd != nullptr && CWnd::WalkPreTranslateTree(main, message);
+}
+
+BOOL CWinThread::OnIdle(LONG count)
+{
+    if (auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, m_pMainWnd); frame != nullptr && count == 0)
+    {
+        frame->UpdateBars();
+    }
+    CWnd::DeleteTempMap();
+    framework::DeleteTemporaryGdiObjects();
+    return FALSE;
+}
+
+BOOL CWinThread::IsIdleMessage(MSG* message)
+{
+    // A pointer at rest, paints and timers give the idle work nothing new to do.
+    return message->message != WM_PAINT && message->message != WM_TIMER &&
+           message->message != WM_MOUSEMOVE && message->message != WM_NCMOUSEMOVE;
+}
+
+CWinThread* AfxGetThread()
+{
+    CWinThread* const own = CurrentThreadState().thread;
+    return own;
+}
+
+// The application -------------------------------------------------------------------------------
+
+namespace {
+
+struct ModuleState
+{
+    CWinApp* app = nullptr;
+    HINSTANCE resources = nullptr;
+    std::vector<const CDynLinkLibrary*> extensions;
+    std::set<std::string> windowClasses;
+};
+
+ModuleState& State()
+{
+    static ModuleState* const state = new ModuleState; // outlives every static application object
+    return *state;
+}
+
+} // namespace
+
+IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
+
+CWinApp::CWinApp(LPCSTR appName)
+    : m_pszAppName(appName)
+{
+    State().app = this;
+    CurrentThreadState().thread = this;
+    m_hInstance = ::GetModuleHandle(nullptr);
+}
+
+CWinApp::~CWinApp()
+{
+    if (State().app == this)
+    {
+        State().app = nullptr;
+    }
+}
+
+int CWinApp::Run()
+{
+    // Without a window nothing would ever end the loop.
+    if (m_pMainWnd == nullptr)
+    {
+        AfxPostQuitMessage(0);
+    }
+    return CWinThread::Run();
+}
+
+HICON CWinApp::LoadIcon(LPCSTR name) const
+{
+    return ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
+}
+
+CWinApp* AfxGetApp()
+{
+    return State().app;
+}
+
+CWnd* AfxGetMainWnd()
+{
+    CWinThread* const thread = AfxGetThread();
+    return thread == nullptr ? nullptr : thread->GetMainWnd();
+}
+
+LPCSTR AfxGetAppName()
+{
+    const CWinApp* app = AfxGetApp();
+    return app == nullptr || app->m_pszAppName == nullptr ? "" : app->m_pszAppName;
+}
+
+HINSTANCE AfxGetInstanceHandle()
+{
+    return ::GetModuleHandle(nullptr);
+}
+
+HINSTANCE AfxGetResourceHandle()
+{
+    return State().resources != nullptr ? State().resources : AfxGetInstanceHandle();
+}
+
+void AfxSetResourceHandle(HINSTANCE module)
+{
+    State().resources = module;
+}
+
+HINSTANCE AfxFindResourceHandle(LPCSTR name, LPCSTR type)
+{
+    for (const HINSTANCE module : {AfxGetResourceHandle(), AfxGetInstanceHandle()})
+    {
+        if (::FindResource(module, name, type) != nullptr)
+        {
+            return module;
+        }
+    }
+    for (const CDynLinkLibrary* extension : State().extensions)
+    {
+        if (::FindResource(extension->m_hResource, name, type) != nullptr)
+        {
+            return extension->m_hResource;
+        }
+    }
+    return AfxGetResourceHandle();
+}
+
+BOOL AfxWinInit(HINSTANCE instance, HINSTANCE, LPSTR commandLine, int showCommand)
+{
+    if (CWinApp* app = AfxGetApp())
+    {
+        app->m_hInstance = instance;
+        app->m_lpCmdLine = commandLine;
+        app->m_nCmdShow = showCommand;
+    }
+    const INITCOMMONCONTROLSEX classes = {
+        sizeof(classes), ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_BAR_CLASSES};
+    ::InitCommonControlsEx(&classes);
+    return TRUE;
+}
+
+int AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int showCommand)
+{
+    CWinApp* const app = AfxGetApp();
+    if (app == nullptr || !AfxWinInit(instance, previous, commandLine, showCommand) ||
+        !app->InitApplication())
+    {
+        return -1;
+    }
+    if (!app->InitInstance())
+    {
+        if (app->m_pMainWnd != nullptr)
+        {
+            app->m_pMainWnd->DestroyWindow();
+        }
+        return app->ExitInstance();
+    }
+    return app->Run();
+}
+
+// Window classes --------------------------------------------------------------------------------
+
+BOOL AfxRegisterClass(WNDCLASS* windowClass)
+{
+    WNDCLASS existing = {};
+    return ::GetClassInfo(windowClass->hInstance, windowClass->lpszClassName, &existing) ||
+           ::RegisterClass(windowClass) != 0;
+}
+
+LPCSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON icon)
+{
+    CString name;
+    name.Format("Framework:%x:%p:%p:%p", style, static_cast<void*>(cursor),
+                static_cast<void*>(background), static_cast<void*>(icon));
+    // The name is handed out, so it is kept for the life of the process.
+    const char* const kept = State().windowClasses.insert(LPCSTR(name)).first->c_str();
+    WNDCLASS windowClass = {};
+    windowClass.style = style;
+    windowClass.lpfnWndProc = &::DefWindowProc;
+    windowClass.hInstance = AfxGetInstanceHandle();
+    windowClass.hIcon = icon;
+    windowClass.hCursor = cursor;
+    windowClass.hbrBackground = background;
+    windowClass.lpszClassName = kept;
+    return AfxRegisterClass(&windowClass) ? kept : nullptr;
+}
+
+// Small services --------------------------------------------------------------------------------
+
+int AfxMessageBox(LPCSTR text, UINT type, UINT)
+{
+    const CWnd* main = AfxGetMainWnd();
+    const HWND owner = ::GetActiveWindow() != nullptr ? ::GetActiveWindow()
+                       : main == nullptr              ? nullptr
+                                                      : main->GetSafeHwnd();
+    return ::MessageBox(owner, text, AfxGetAppName(), type);
+}
+
+void AfxPostQuitMessage(int exitCode)
+{
+    ::PostQuitMessage(exitCode);
+}
+
+BOOL AfxPumpMessage()
+{
+    if (CWinThread* thread = AfxGetThread())
+    {
+        return thread->PumpMessage();
+    }
+    MSG message;
+    if (::GetMessage(&message, nullptr, 0, 0) <= 0)
+    {
+        return FALSE;
+    }
+    if (!CWnd::WalkPreTranslateTree(nullptr, &message))
+    {
+        ::TranslateMessage(&message);
+        ::DispatchMessage(&message);
+    }
+    return TRUE;
+}
+
+BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module)
+{
+    state.bInitialized = TRUE;
+    state.hModule = module;
+    state.hResource = module;
+    return TRUE;
+}
+
+void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL)
+{
+    state.bInitialized = FALSE;
+}
+
+CDynLinkLibrary::CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL)
+    : m_hResource(state.hResource)
+{
+    State().extensions.push_back(this);
+}
+
+CDynLinkLibrary::~CDynLinkLibrary()
+{
+    auto& extensions = State().extensions;
+    extensions.erase(std::remove(extensions.begin(), extensions.end(), this), extensions.end());
+}

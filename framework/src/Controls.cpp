@@ -1,0 +1,141 @@
+#include "framework/Controls.h"
+
+#include <algorithm>
+
+IMPLEMENT_DYNAMIC(CStatic, CWnd)
+IMPLEMENT_DYNAMIC(CButton, CWnd)
+IMPLEMENT_DYNAMIC(CListBox, CWnd)
+IMPLEMENT_DYNAMIC(CComboBox, CWnd)
+IMPLEMENT_DYNAMIC(CEdit, CWnd)
+IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
+
+namespace {
+
+// A parent that expects no value passes no place for it.
+BOOL Answered(LRESULT* result, LRESULT value)
+{
+    if (result != nullptr)
+    {
+        *result = value;
+    }
+    return TRUE;
+}
+
+// The four owner-drawing messages, for the controls that have items.
+template <class Control>
+BOOL CallItemVirtual(Control& control, UINT message, LPARAM lParam, LRESULT* result)
+{
+    switch (message)
+    {
+    case WM_DRAWITEM:
+        control.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return Answered(result, TRUE);
+    case WM_MEASUREITEM:
+        control.MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        return Answered(result, TRUE);
+    case WM_DELETEITEM:
+        control.DeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        return Answered(result, TRUE);
+    case WM_COMPAREITEM:
+        return Answered(result, control.CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam)));
+    default:
+        return FALSE;
+    }
+}
+
+} // namespace
+
+BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    if (message == WM_DRAWITEM)
+    {
+        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return Answered(result, TRUE);
+    }
+    return CWnd::OnChildNotify(message, wParam, lParam, result);
+}
+
+BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    if (message == WM_DRAWITEM)
+    {
+        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        return Answered(result, TRUE);
+    }
+    return CWnd::OnChildNotify(message, wParam, lParam, result);
+}
+
+BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    switch (message)
+    {
+    case WM_VKEYTOITEM:
+        return Answered(result, VKeyToItem(LOWORD(wParam), HIWORD(wParam)));
+    case WM_CHARTOITEM:
+        return Answered(result, CharToItem(LOWORD(wParam), HIWORD(wParam)));
+    default:
+        return CallItemVirtual(*this, message, lParam, result) ||
+               CWnd::OnChildNotify(message, wParam, lParam, result);
+    }
+}
+
+BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    return CallItemVirtual(*this, message, lParam, result) ||
+           CWnd::OnChildNotify(message, wParam, lParam, result);
+}
+
+void CListBox::GetText(int index, CString& text) const
+{
+    const int length = GetTextLen(index);
+    if (length == LB_ERR)
+    {
+        text.Empty();
+        return;
+    }
+    GetText(index, text.GetBuffer(length));
+    text.ReleaseBuffer();
+}
+
+UINT CListBox::ItemFromPoint(CPoint point, BOOL& outside) const
+{
+    const LRESULT found = SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y));
+    outside = HIWORD(found);
+    return LOWORD(found);
+}
+
+void CComboBox::GetLBText(int index, CString& text) const
+{
+    const int length = GetLBTextLen(index);
+    if (length == CB_ERR)
+    {
+        text.Empty();
+        return;
+    }
+    GetLBText(index, text.GetBuffer(length));
+    text.ReleaseBuffer();
+}
+
+void CEdit::SetSel(int start, int end, BOOL noScroll)
+{
+    SendMessage(EM_SETSEL, WPARAM(start), LPARAM(end));
+    if (!noScroll)
+    {
+        SendMessage(EM_SCROLLCARET);
+    }
+}
+
+int CEdit::GetLine(int line, LPTSTR buffer, int size) const
+{
+    const WORD capacity = WORD(std::min(size, 0xFFFF));
+    ::CopyMemory(buffer, &capacity, sizeof(capacity));
+    return GetLine(line, buffer);
+}
+
+int CScrollBar::GetScrollLimit()
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    GetScrollInfo(&info, SIF_RANGE | SIF_PAGE);
+    return info.nMax - std::max(int(info.nPage) - 1, 0);
+}

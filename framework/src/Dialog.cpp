@@ -1,0 +1,211 @@
+#include "framework/Dialog.h"
+
+#include "framework/App.h"
+
+IMPLEMENT_DYNAMIC(CDialog, CWnd)
+
+BEGIN_MESSAGE_MAP(CDialog, CWnd)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+END_MESSAGE_MAP()
+
+CDialog::CDialog(LPCSTR templateName, CWnd* parent)
+    : m_lpszTemplateName(templateName)
+    , m_pParentWnd(parent)
+{}
+
+CDialog::CDialog(UINT templateId, CWnd* parent)
+    : CDialog(MAKEINTRESOURCE(templateId), parent)
+{}
+
+CDialog::~CDialog()
+{
+    if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
+    {
+        CWnd::DestroyWindow();
+    }
+}
+
+// Creation --------------------------------------------------------------------------------------
+
+namespace {
+
+// A dialog template of the application's resources, or null.
+HGLOBAL LoadTemplate(LPCSTR name, HINSTANCE& module)
+{
+    module = AfxFindResourceHandle(name, RT_DIALOG);
+    const HRSRC found = name == nullptr ? nullptr : ::FindResource(module, name, RT_DIALOG);
+    return found == nullptr ? nullptr : ::LoadResource(module, found);
+}
+
+} // namespace
+
+INT_PTR CALLBACK CDialog::DialogProc(HWND dialog, UINT message, WPARAM, LPARAM)
+{
+    auto* object = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(dialog));
+    if (message != WM_INITDIALOG || object == nullptr)
+    {
+        return FALSE;
+    }
+    object->PreInitDialog();
+    return object->OnInitDialog();
+}
+
+BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance)
+{
+    if (dialogTemplate == nullptr)
+    {
+        PostNcDestroy();
+        return FALSE;
+    }
+    AfxHookWindowCreate(this);
+    const HWND window = ::CreateDialogIndirectParam(
+        instance == nullptr ? AfxGetResourceHandle() : instance, dialogTemplate,
+        parent == nullptr ? nullptr : parent->m_hWnd, &CDialog::DialogProc, 0);
+    if (!AfxUnhookWindowCreate())
+    {
+        PostNcDestroy();
+    }
+    return window != nullptr;
+}
+
+BOOL CDialog::Create(LPCSTR templateName, CWnd* parent)
+{
+    m_lpszTemplateName = templateName;
+    HINSTANCE module = nullptr;
+    const HGLOBAL loaded = LoadTemplate(templateName, module);
+    return CreateDlgIndirect(static_cast<LPCDLGTEMPLATE>(::LockResource(loaded)), parent, module);
+}
+
+BOOL CDialog::Create(UINT templateId, CWnd* parent)
+{
+    return Create(MAKEINTRESOURCE(templateId), parent);
+}
+
+BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* initData)
+{
+    m_lpDialogInit = initData;
+    return CreateDlgIndirect(dialogTemplate, parent, nullptr);
+}
+
+BOOL CDialog::CreateIndirect(HGLOBAL dialogTemplate, CWnd* parent)
+{
+    return CreateIndirect(static_cast<LPCDLGTEMPLATE>(::LockResource(dialogTemplate)), parent,
+                          nullptr);
+}
+
+BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* initData)
+{
+    if (parent != nullptr || m_pParentWnd == nullptr)
+    {
+        m_pParentWnd = parent;
+    }
+    m_lpDialogTemplate = dialogTemplate;
+    m_lpDialogInit = initData;
+    return dialogTemplate != nullptr;
+}
+
+BOOL CDialog::InitModalIndirect(HGLOBAL dialogTemplate, CWnd* parent)
+{
+    m_hDialogTemplate = dialogTemplate;
+    return InitModalIndirect(static_cast<LPCDLGTEMPLATE>(::LockResource(dialogTemplate)), parent,
+                             nullptr);
+}
+
+INT_PTR CDialog::DoModal()
+{
+    HINSTANCE module = nullptr;
+    LPCDLGTEMPLATE dialogTemplate = m_lpDialogTemplate;
+    if (m_lpszTemplateName != nullptr)
+    {
+        dialogTemplate =
+            static_cast<LPCDLGTEMPLATE>(::LockResource(LoadTemplate(m_lpszTemplateName, module)));
+    }
+    if (dialogTemplate == nullptr)
+    {
+        return -1;
+    }
+
+    CWnd* const parent = m_pParentWnd != nullptr ? m_pParentWnd : AfxGetMainWnd();
+    HWND owner = parent == nullptr ? nullptr : parent->m_hWnd;
+    while (owner != nullptr && (::GetWindowLongPtr(owner, GWL_STYLE) & WS_CHILD) != 0)
+    {
+        owner = ::GetParent(owner);
+    }
+    const bool disabledOwner = owner != nullptr && ::IsWindowEnabled(owner);
+    if (disabledOwner)
+    {
+        ::EnableWindow(owner, FALSE);
+    }
+
+    int result = -1;
+    m_modalEnded = false;
+    m_endValue = -1;
+    m_modalDialog = true;
+    if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(owner), module))
+    {
+        result = m_modalEnded ? m_endValue : RunModalLoop(MLF_SHOWONIDLE);
+    }
+
+    // The owner is enabled before the dialog goes, so that it is the one activated next.
+    if (m_hWnd != nullptr)
+    {
+        SetWindowPos(nullptr, 0, 0, 0, 0,
+                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+    }
+    if (disabledOwner && ::IsWindow(owner))
+    {
+        ::EnableWindow(owner, TRUE);
+        if (::GetActiveWindow() == m_hWnd)
+        {
+            ::SetActiveWindow(owner);
+        }
+    }
+    DestroyWindow();
+    m_modalDialog = false;
+    return result;
+}
+
+void CDialog::EndDialog(int result)
+{
+    m_modalEnded = true;
+    m_endValue = result;
+    if (m_modalDialog)
+    {
+        EndModalLoop(result);
+    }
+    else if (m_hWnd != nullptr)
+    {
+        ::EndDialog(m_hWnd, result);
+    }
+}
+
+void CDialog::PostNcDestroy()
+{
+    m_modalEnded = true;
+}
+
+// Behaviour -------------------------------------------------------------------------------------
+
+BOOL CDialog::OnInitDialog()
+{
+    return UpdateData(FALSE) ? TRUE : (EndDialog(-1), FALSE);
+}
+
+void CDialog::OnOK()
+{
+    if (UpdateData(TRUE))
+    {
+        EndDialog(IDOK);
+    }
+}
+
+void CDialog::OnCancel()
+{
+    EndDialog(IDCANCEL);
+}
+
+BOOL CDialog::PreTranslateMessage(MSG* message)
+{
+    return CWnd::PreTranslateMessage(message) || PreTranslateInput(message);
+}

@@ -1,0 +1,187 @@
+#include "framework/Frame.h"
+
+#include "framework/App.h"
+#include "framework/ControlBar.h"
+
+IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
+
+BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_CLOSE()
+    ON_WM_SIZE()
+    ON_WM_ERASEBKGND()
+    ON_WM_ACTIVATE()
+    ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
+
+BOOL CFrameWnd::Create(LPCSTR className, LPCSTR windowName, DWORD style, const RECT& rect,
+                       CWnd* parent, LPCSTR menuName, DWORD exStyle, CCreateContext* context)
+{
+    HMENU menu = nullptr;
+    if (menuName != nullptr)
+    {
+        menu = ::LoadMenu(AfxFindResourceHandle(menuName, RT_MENU), menuName);
+        if (menu == nullptr)
+        {
+            PostNcDestroy();
+            return FALSE;
+        }
+    }
+    const CRect& place = static_cast<const CRect&>(rect);
+    const bool anywhere = place.left == CW_USEDEFAULT;
+    return CreateEx(exStyle, className, windowName, style, place.left, place.top,
+                    anywhere ? CW_USEDEFAULT : place.right - place.left,
+                    anywhere ? CW_USEDEFAULT : place.bottom - place.top,
+                    parent == nullptr ? nullptr : parent->m_hWnd, menu, context);
+}
+
+CWnd* CFrameWnd::CreateView(CCreateContext* context, UINT id)
+{
+    CObject* const made = context == nullptr || context->m_pNewViewClass == nullptr
+                              ? nullptr
+                              : context->m_pNewViewClass->CreateObject();
+    auto* view = DYNAMIC_DOWNCAST(CWnd, made);
+    if (view == nullptr)
+    {
+        delete made;
+        return nullptr;
+    }
+    // A view that fails deletes itself.
+    return view->Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(0, 0, 0, 0),
+                        this, id, context)
+               ? view
+               : nullptr;
+}
+
+BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext* context)
+{
+    return context == nullptr || context->m_pNewViewClass == nullptr ||
+           CreateView(context) != nullptr;
+}
+
+int CFrameWnd::OnCreate(LPCREATESTRUCT cs)
+{
+    if (CWnd::OnCreate(cs) == -1 ||
+        !OnCreateClient(cs, static_cast<CCreateContext*>(cs->lpCreateParams)))
+    {
+        return -1;
+    }
+    RecalcLayout();
+    if (auto* view =
+            DYNAMIC_DOWNCAST(CView, FromHandlePermanent(::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST))))
+    {
+        view->OnInitialUpdate();
+        SetActiveView(view, FALSE);
+    }
+    return 0;
+}
+
+void CFrameWnd::OnDestroy()
+{
+    m_pViewActive = nullptr;
+    CWnd::OnDestroy();
+}
+
+void CFrameWnd::OnClose()
+{
+    DestroyWindow();
+}
+
+void CFrameWnd::OnSize(UINT type, int width, int height)
+{
+    CWnd::OnSize(type, width, height);
+    if (type != SIZE_MINIMIZED)
+    {
+        RecalcLayout();
+    }
+}
+
+BOOL CFrameWnd::OnEraseBkgnd(CDC* dc)
+{
+    // The view covers the frame; erasing under it would only flicker.
+    return m_pViewActive != nullptr ? TRUE : CWnd::OnEraseBkgnd(dc);
+}
+
+void CFrameWnd::OnActivate(UINT state, CWnd* other, BOOL minimized)
+{
+    CWnd::OnActivate(state, other, minimized);
+    if (m_pViewActive != nullptr)
+    {
+        m_pViewActive->OnActivateView(state != WA_INACTIVE, m_pViewActive, m_pViewActive);
+    }
+}
+
+void CFrameWnd::OnSetFocus(CWnd* old)
+{
+    if (m_pViewActive != nullptr)
+    {
+        m_pViewActive->SetFocus();
+    }
+    else
+    {
+        CWnd::OnSetFocus(old);
+    }
+}
+
+void CFrameWnd::SetActiveView(CView* view, BOOL notify)
+{
+    CView* const before = m_pViewActive;
+    if (view == before)
+    {
+        return;
+    }
+    m_pViewActive = nullptr;
+    if (before != nullptr)
+    {
+        before->OnActivateView(FALSE, view, before);
+    }
+    m_pViewActive = view;
+    if (view != nullptr && notify)
+    {
+        view->OnActivateView(TRUE, view, before);
+    }
+}
+
+BOOL CFrameWnd::LoadAccelTable(LPCSTR name)
+{
+    m_hAccelTable = ::LoadAccelerators(AfxFindResourceHandle(name, RT_ACCELERATOR), name);
+    return m_hAccelTable != nullptr;
+}
+
+void CFrameWnd::RecalcLayout(BOOL)
+{
+    RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST);
+}
+
+void CFrameWnd::UpdateBars()
+{
+    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        auto* bar = DYNAMIC_DOWNCAST(CControlBar, FromHandlePermanent(child));
+        if (bar != nullptr && bar->IsWindowVisible())
+        {
+            bar->OnUpdateCmdUI(this, TRUE);
+        }
+    }
+}
+
+BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+{
+    CWinApp* const app = AfxGetApp();
+    return (m_pViewActive != nullptr &&
+            m_pViewActive->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) ||
+           CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
+           (app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo));
+}
+
+BOOL CFrameWnd::PreTranslateMessage(MSG* message)
+{
+    return CWnd::PreTranslateMessage(message) ||
+           (m_hAccelTable != nullptr && message->message >= WM_KEYFIRST &&
+            message->message <= WM_KEYLAST &&
+            ::TranslateAccelerator(m_hWnd, m_hAccelTable, message));
+}

@@ -1,0 +1,329 @@
+#include "framework/PropertySheet.h"
+
+#include "framework/App.h"
+
+#include <algorithm>
+
+// Pages -----------------------------------------------------------------------------------------
+
+IMPLEMENT_DYNCREATE(CPropertyPage, CDialog)
+
+CPropertyPage::CPropertyPage()
+{
+    Construct(nullptr, 0);
+}
+
+CPropertyPage::CPropertyPage(UINT templateId, UINT captionId)
+{
+    Construct(MAKEINTRESOURCE(templateId), captionId);
+}
+
+CPropertyPage::CPropertyPage(LPCSTR templateName, UINT captionId)
+{
+    Construct(templateName, captionId);
+}
+
+void CPropertyPage::Construct(LPCSTR templateName, UINT captionId)
+{
+    m_lpszTemplateName = templateName;
+    m_psp.dwSize = sizeof(m_psp);
+    m_psp.dwFlags = PSP_USECALLBACK;
+    m_psp.pszTemplate = templateName;
+    m_psp.pfnDlgProc = &CDialog::DialogProc;
+    m_psp.lParam = reinterpret_cast<LPARAM>(this);
+    m_psp.pfnCallback = &CPropertyPage::Created;
+    if (captionId != 0 && m_strCaption.LoadString(captionId))
+    {
+        m_psp.dwFlags |= PSP_USETITLE;
+        m_psp.pszTitle = m_strCaption;
+    }
+}
+
+UINT CALLBACK CPropertyPage::Created(HWND, UINT message, PROPSHEETPAGE* page)
+{
+    if (message == PSPCB_CREATE)
+    {
+        // The sheet makes the page's window next.
+        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
+    }
+    return TRUE;
+}
+
+void CPropertyPage::SetModified(BOOL changed)
+{
+    if (m_hWnd != nullptr)
+    {
+        ::SendMessage(::GetParent(m_hWnd), changed ? PSM_CHANGED : PSM_UNCHANGED,
+                      reinterpret_cast<WPARAM>(m_hWnd), 0);
+    }
+}
+
+BOOL CPropertyPage::OnApply()
+{
+    OnOK();
+    return TRUE;
+}
+
+BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    const auto* header = reinterpret_cast<NMHDR*>(lParam);
+    if (header->hwndFrom != ::GetParent(m_hWnd))
+    {
+        return CDialog::OnNotify(wParam, lParam, result);
+    }
+    LRESULT answer = 0;
+    switch (header->code)
+    {
+    case UINT(PSN_SETACTIVE):
+        answer = OnSetActive() ? 0 : -1;
+        break;
+    case UINT(PSN_KILLACTIVE):
+        answer = OnKillActive() ? FALSE : TRUE;
+        break;
+    case UINT(PSN_APPLY):
+        answer = OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE;
+        break;
+    case UINT(PSN_RESET):
+        OnReset();
+        break;
+    case UINT(PSN_QUERYCANCEL):
+        answer = OnQueryCancel() ? FALSE : TRUE;
+        break;
+    default:
+        return CDialog::OnNotify(wParam, lParam, result);
+    }
+    *result = answer; // to the sheet itself: no dialog procedure stands between
+    return TRUE;
+}
+
+BOOL CPropertyPage::PreTranslateMessage(MSG* message)
+{
+    // The sheet moves the focus across its own buttons and the page's controls alike.
+    return CWnd::PreTranslateMessage(message);
+}
+
+// Sheets ----------------------------------------------------------------------------------------
+
+IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
+
+BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
+    ON_MESSAGE(WM_INITDIALOG, &CPropertySheet::HandleInitDialog)
+    ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+CPropertySheet::CPropertySheet()
+{
+    m_psh.dwSize = sizeof(m_psh);
+    m_psh.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS;
+}
+
+CPropertySheet::CPropertySheet(UINT captionId, CWnd* parent, UINT selectPage)
+    : CPropertySheet(static_cast<LPCSTR>(nullptr), parent, selectPage)
+{
+    m_strCaption.LoadString(captionId);
+}
+
+CPropertySheet::CPropertySheet(LPCSTR caption, CWnd* parent, UINT selectPage)
+    : CPropertySheet()
+{
+    m_strCaption = caption;
+    m_pParentWnd = parent;
+    m_psh.nStartPage = selectPage;
+}
+
+CPropertySheet::~CPropertySheet()
+{
+    if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
+    {
+        CWnd::DestroyWindow();
+    }
+}
+
+void CPropertySheet::AddPage(CPropertyPage* page)
+{
+    if (page == nullptr)
+    {
+        return;
+    }
+    m_pages.push_back(page);
+    if (m_hWnd != nullptr)
+    {
+        PROPSHEETPAGE description = page->m_psp;
+        description.hInstance = AfxFindResourceHandle(description.pszTemplate, RT_DIALOG);
+        SendMessage(PSM_ADDPAGE, 0,
+                    reinterpret_cast<LPARAM>(::CreatePropertySheetPage(&description)));
+    }
+}
+
+void CPropertySheet::RemovePage(int page)
+{
+    if (GetPage(page) == nullptr)
+    {
+        return;
+    }
+    if (m_hWnd != nullptr)
+    {
+        SendMessage(PSM_REMOVEPAGE, WPARAM(page));
+    }
+    m_pages.erase(m_pages.begin() + page);
+}
+
+CPropertyPage* CPropertySheet::GetPage(int page) const
+{
+    return page >= 0 && page < GetPageCount() ? m_pages[size_t(page)] : nullptr;
+}
+
+int CPropertySheet::GetActiveIndex() const
+{
+    return m_hWnd == nullptr ? int(m_psh.nStartPage)
+                             : int(::SendMessage(GetTabControl(), TCM_GETCURSEL, 0, 0));
+}
+
+BOOL CPropertySheet::SetActivePage(int page)
+{
+    if (GetPage(page) == nullptr)
+    {
+        return FALSE;
+    }
+    m_psh.nStartPage = UINT(page);
+    return m_hWnd == nullptr || BOOL(SendMessage(PSM_SETCURSEL, WPARAM(page)));
+}
+
+void CPropertySheet::SetTitle(LPCSTR text, UINT style)
+{
+    m_strCaption = text;
+    m_psh.dwFlags = (m_psh.dwFlags & ~UINT(PSH_PROPTITLE)) | style;
+    if (m_hWnd != nullptr)
+    {
+        SendMessage(PSM_SETTITLE, style, reinterpret_cast<LPARAM>(LPCSTR(m_strCaption)));
+    }
+}
+
+BOOL CPropertySheet::CreateSheet(CWnd* parent)
+{
+    std::vector<PROPSHEETPAGE> descriptions;
+    for (CPropertyPage* page : m_pages)
+    {
+        descriptions.push_back(page->m_psp);
+        descriptions.back().hInstance = AfxFindResourceHandle(page->m_psp.pszTemplate, RT_DIALOG);
+    }
+    m_psh.hwndParent = parent == nullptr ? nullptr : parent->m_hWnd;
+    m_psh.hInstance = AfxGetInstanceHandle();
+    m_psh.pszCaption = m_strCaption;
+    m_psh.nPages = UINT(descriptions.size());
+    m_psh.ppsp = descriptions.data();
+    AfxHookWindowCreate(this);
+    const INT_PTR made = descriptions.empty() ? -1 : ::PropertySheet(&m_psh);
+    AfxUnhookWindowCreate();
+    m_psh.ppsp = nullptr;
+    return made != -1 && made != 0 && m_hWnd != nullptr;
+}
+
+BOOL CPropertySheet::Create(CWnd* parent, DWORD style, DWORD exStyle)
+{
+    m_modal = false;
+    if (!CreateSheet(parent))
+    {
+        return FALSE;
+    }
+    if (style != DWORD(-1))
+    {
+        ModifyStyle(0, style);
+    }
+    ModifyStyleEx(0, exStyle);
+    return TRUE;
+}
+
+INT_PTR CPropertySheet::DoModal()
+{
+    CWnd* const parent = m_pParentWnd != nullptr ? m_pParentWnd : AfxGetMainWnd();
+    const HWND owner = parent == nullptr ? nullptr : ::GetAncestor(parent->m_hWnd, GA_ROOT);
+    const bool disabledOwner = owner != nullptr && ::IsWindowEnabled(owner);
+    m_modal = true;
+    m_result = IDCANCEL;
+    if (!CreateSheet(CWnd::FromHandle(owner)))
+    {
+        m_modal = false;
+        return -1;
+    }
+    if (disabledOwner)
+    {
+        ::EnableWindow(owner, FALSE);
+    }
+    RunModalLoop(MLF_SHOWONIDLE);
+    if (m_hWnd != nullptr && SendMessage(PSM_GETCURRENTPAGEHWND) == 0)
+    {
+        m_result = SendMessage(PSM_GETRESULT) > 0 ? IDOK : IDCANCEL;
+    }
+    if (disabledOwner && ::IsWindow(owner))
+    {
+        ::EnableWindow(owner, TRUE);
+        ::SetActiveWindow(owner);
+    }
+    DestroyWindow();
+    m_modal = false;
+    return m_result;
+}
+
+void CPropertySheet::EndDialog(int result)
+{
+    m_result = result;
+    if (m_modal)
+    {
+        EndModalLoop(result);
+    }
+    else
+    {
+        DestroyWindow();
+    }
+}
+
+BOOL CPropertySheet::ContinueModal()
+{
+    // A modeless sheet of the platform, which is what runs underneath, has no current page once
+    // the user has closed it.
+    return CWnd::ContinueModal() && SendMessage(PSM_GETCURRENTPAGEHWND) != 0;
+}
+
+LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)
+{
+    Default();
+    return OnInitDialog();
+}
+
+BOOL CPropertySheet::OnInitDialog()
+{
+    return TRUE;
+}
+
+BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    if (CWnd::OnCommand(wParam, lParam))
+    {
+        return TRUE;
+    }
+    const HWND window = m_hWnd;
+    const int id = LOWORD(wParam);
+    if (HIWORD(wParam) != BN_CLICKED || (id != IDOK && id != IDCANCEL))
+    {
+        return FALSE;
+    }
+    Default();
+    if (FromHandlePermanent(window) == this && SendMessage(PSM_GETCURRENTPAGEHWND) == 0)
+    {
+        EndDialog(id);
+    }
+    return TRUE;
+}
+
+void CPropertySheet::OnClose()
+{
+    SendMessage(PSM_PRESSBUTTON, PSBTN_CANCEL);
+}
+
+BOOL CPropertySheet::PreTranslateMessage(MSG* message)
+{
+    return CWnd::PreTranslateMessage(message) ||
+           (message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST &&
+            SendMessage(PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(message)) != 0);
+}

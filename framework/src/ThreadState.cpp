@@ -1,0 +1,15 @@
+#include "ThreadState.h"
+
+namespace framework {
+
+ThreadState& CurrentThreadState()
+{
+    static thread_local ThreadState* state = nullptr;
+    if (state == nullptr)
+    {
+        state = new ThreadState;
+    }
+    return *state;
+}
+
+} // namespace framework

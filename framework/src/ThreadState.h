@@ -1,0 +1,26 @@
+#pragma once
+
+// What the framework keeps for each thread.
+
+#include "HandleMap.h"
+#include "framework/Thread.h"
+
+#include <unordered_map>
+
+namespace framework {
+
+struct ThreadState
+{
+    HandleMap<HWND, CWnd> windows;
+    // The procedures under ours for windows whose object let go while ours stayed in the chain.
+    std::unordered_map<HWND, WNDPROC> leftProcedures;
+    MSG current = {};         // the message that a window procedure is working on
+    CWnd* creating = nullptr; // bound to the next window that is created
+    HHOOK creationHook = nullptr;
+    CWinThread* thread = nullptr;
+};
+
+// Made on first use and never freed: windows may outlive every static object.
+ThreadState& CurrentThreadState();
+
+} // namespace framework

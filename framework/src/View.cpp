@@ -1,0 +1,260 @@
+#include "framework/View.h"
+
+#include "framework/App.h"
+#include "framework/Controls.h"
+#include "framework/DataExchange.h"
+#include "framework/Dialog.h"
+#include "framework/Frame.h"
+
+#include <algorithm>
+
+IMPLEMENT_DYNAMIC(CView, CWnd)
+
+BEGIN_MESSAGE_MAP(CView, CWnd)
+    ON_WM_DESTROY()
+    ON_WM_PAINT()
+    ON_WM_MOUSEACTIVATE()
+END_MESSAGE_MAP()
+
+BOOL CView::PreCreateWindow(CREATESTRUCT& cs)
+{
+    if (cs.style & WS_BORDER)
+    {
+        cs.dwExStyle |= WS_EX_CLIENTEDGE;
+        cs.style &= ~WS_BORDER;
+    }
+    return CWnd::PreCreateWindow(cs);
+}
+
+void CView::OnDestroy()
+{
+    if (CFrameWnd* frame = GetParentFrame(); frame != nullptr && frame->GetActiveView() == this)
+    {
+        frame->SetActiveView(nullptr);
+    }
+    CWnd::OnDestroy();
+}
+
+void CView::OnPaint()
+{
+    CPaintDC dc(this);
+    OnPrepareDC(&dc);
+    OnDraw(&dc);
+}
+
+void CView::OnActivateView(BOOL activate, CView* activateView, CView*)
+{
+    if (activate && activateView == this && GetTopLevelParent() == GetActiveWindow())
+    {
+        SetFocus();
+    }
+}
+
+int CView::OnMouseActivate(CWnd* desktop, UINT hitTest, UINT message)
+{
+    const int result = CWnd::OnMouseActivate(desktop, hitTest, message);
+    if (CFrameWnd* frame = GetParentFrame(); frame != nullptr && result != MA_NOACTIVATE)
+    {
+        frame->SetActiveView(this);
+    }
+    return result;
+}
+
+// Scrolling -------------------------------------------------------------------------------------
+
+IMPLEMENT_DYNAMIC(CScrollView, CView)
+
+BEGIN_MESSAGE_MAP(CScrollView, CView)
+    ON_WM_SIZE()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+END_MESSAGE_MAP()
+
+void CScrollView::SetScrollSizes(int, SIZE total, const SIZE& page, const SIZE& line)
+{
+    m_total = total;
+    m_page = CSize(page.cx > 0 ? page.cx : total.cx / 10, page.cy > 0 ? page.cy : total.cy / 10);
+    m_line = CSize(line.cx > 0 ? line.cx : m_page.cx / 10, line.cy > 0 ? line.cy : m_page.cy / 10);
+    if (m_hWnd != nullptr)
+    {
+        UpdateBars();
+    }
+}
+
+void CScrollView::ScrollToPosition(POINT position)
+{
+    CRect client;
+    GetClientRect(&client);
+    const CPoint clamped(
+        std::clamp<int>(position.x, 0, std::max<int>(0, m_total.cx - client.Width())),
+        std::clamp<int>(position.y, 0, std::max<int>(0, m_total.cy - client.Height())));
+    const CSize moved = m_position - clamped;
+    m_position = clamped;
+    if (moved.cx != 0 || moved.cy != 0)
+    {
+        SetScrollPos(SB_HORZ, m_position.x);
+        SetScrollPos(SB_VERT, m_position.y);
+        ScrollWindow(moved.cx, moved.cy);
+    }
+}
+
+void CScrollView::OnPrepareDC(CDC* dc, void*)
+{
+    dc->SetViewportOrg(-m_position.x, -m_position.y);
+}
+
+void CScrollView::UpdateBars()
+{
+    if (m_updatingBars)
+    {
+        return; // showing a bar changes the size
+    }
+    m_updatingBars = true;
+    // Twice: one bar takes room from the other's axis.
+    for (int round = 0; round < 2; ++round)
+    {
+        CRect client;
+        GetClientRect(&client);
+        SCROLLINFO info = {sizeof(info), SIF_RANGE | SIF_PAGE | SIF_POS, 0, 0, 0, 0, 0};
+        info.nMax = std::max<int>(0, m_total.cx - 1);
+        info.nPage = UINT(client.Width());
+        info.nPos = m_position.x;
+        SetScrollInfo(SB_HORZ, &info);
+        info.nMax = std::max<int>(0, m_total.cy - 1);
+        info.nPage = UINT(client.Height());
+        info.nPos = m_position.y;
+        SetScrollInfo(SB_VERT, &info);
+    }
+    m_updatingBars = false;
+    ScrollToPosition(m_position);
+}
+
+void CScrollView::OnSize(UINT type, int width, int height)
+{
+    CView::OnSize(type, width, height);
+    UpdateBars();
+}
+
+void CScrollView::Scroll(int bar, UINT code)
+{
+    const bool horizontal = bar == SB_HORZ;
+    const int line = horizontal ? m_line.cx : m_line.cy;
+    const int page = horizontal ? m_page.cx : m_page.cy;
+    SCROLLINFO info = {};
+    GetScrollInfo(bar, &info);
+    int position = info.nPos;
+    switch (code)
+    {
+    case SB_LINEUP:
+        position -= line;
+        break;
+    case SB_LINEDOWN:
+        position += line;
+        break;
+    case SB_PAGEUP:
+        position -= page;
+        break;
+    case SB_PAGEDOWN:
+        position += page;
+        break;
+    case SB_TOP:
+        position = info.nMin;
+        break;
+    case SB_BOTTOM:
+        position = info.nMax;
+        break;
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        position = info.nTrackPos;
+        break;
+    default:
+        return;
+    }
+    ScrollToPosition(horizontal ? CPoint(position, m_position.y) : CPoint(m_position.x, position));
+}
+
+void CScrollView::OnHScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    if (bar != nullptr)
+    {
+        CView::OnHScroll(code, position, bar);
+        return;
+    }
+    Scroll(SB_HORZ, code);
+}
+
+void CScrollView::OnVScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    if (bar != nullptr)
+    {
+        CView::OnVScroll(code, position, bar);
+        return;
+    }
+    Scroll(SB_VERT, code);
+}
+
+// Forms -----------------------------------------------------------------------------------------
+
+IMPLEMENT_DYNAMIC(CFormView, CScrollView)
+
+CFormView::CFormView(LPCSTR templateName)
+    : m_lpszTemplateName(templateName)
+{}
+
+CFormView::CFormView(UINT templateId)
+    : CFormView(MAKEINTRESOURCE(templateId))
+{}
+
+BOOL CFormView::Create(LPCSTR, LPCSTR windowName, DWORD requestedStyle, const RECT& rect,
+                       CWnd* parent, UINT id, CCreateContext*)
+{
+    const HINSTANCE module = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
+    const HRSRC found = ::FindResource(module, m_lpszTemplateName, RT_DIALOG);
+    const auto* dialogTemplate =
+        found == nullptr
+            ? nullptr
+            : static_cast<LPCDLGTEMPLATE>(::LockResource(::LoadResource(module, found)));
+    if (dialogTemplate == nullptr || parent == nullptr)
+    {
+        PostNcDestroy();
+        return FALSE;
+    }
+    AfxHookWindowCreate(this);
+    const HWND window = ::CreateDialogIndirectParam(module, dialogTemplate, parent->m_hWnd,
+                                                    &CDialog::DialogProc, 0);
+    if (!AfxUnhookWindowCreate())
+    {
+        PostNcDestroy();
+    }
+    if (window == nullptr)
+    {
+        return FALSE;
+    }
+    // The controls' extent, before the frame gives the form a size of its own.
+    CRect extent;
+    GetClientRect(&extent);
+    ModifyStyle(WS_BORDER | WS_CAPTION | WS_POPUP, WS_CHILD);
+    SetDlgCtrlID(int(id));
+    if (windowName != nullptr)
+    {
+        SetWindowText(windowName);
+    }
+    SetScrollSizes(MM_TEXT, extent.Size());
+    SetWindowPos(nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    if (requestedStyle & WS_VISIBLE)
+    {
+        ShowWindow(SW_SHOWNA);
+    }
+    return TRUE;
+}
+
+void CFormView::OnInitialUpdate()
+{
+    UpdateData(FALSE);
+}
+
+BOOL CFormView::PreTranslateMessage(MSG* message)
+{
+    return CScrollView::PreTranslateMessage(message) || PreTranslateInput(message);
+}

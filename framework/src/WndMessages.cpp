@@ -1,0 +1,208 @@
+// How a window's messages find their handlers: maps, commands, notifications, reflection.
+
+#include "ThreadState.h"
+#include "framework/App.h"
+#include "framework/Controls.h"
+#include "framework/Wnd.h"
+
+BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    if (message == WM_COMMAND)
+    {
+        *result = 0;
+        return OnCommand(wParam, lParam);
+    }
+    if (message == WM_NOTIFY)
+    {
+        return lParam != 0 && OnNotify(wParam, lParam, result);
+    }
+    const bool colour = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
+    AFX_MSGCALL m = {message, wParam, lParam, 0, nullptr, 0};
+    if (!DispatchWindowMessage(colour ? WM_CTLCOLOR : message, m))
+    {
+        return FALSE;
+    }
+    *result = m.result;
+    return TRUE;
+}
+
+BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const UINT id = LOWORD(wParam);
+    const auto control = reinterpret_cast<HWND>(lParam);
+    if (control == nullptr)
+    {
+        return id != 0 && OnCmdMsg(id, CN_COMMAND, nullptr, nullptr);
+    }
+    return ReflectLastMsg(control) || OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr);
+}
+
+BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result)
+{
+    auto* header = reinterpret_cast<NMHDR*>(lParam);
+    if (ReflectLastMsg(header->hwndFrom, result))
+    {
+        return TRUE;
+    }
+    AFX_NOTIFY notify = {result, header};
+    return OnCmdMsg(UINT(::GetDlgCtrlID(header->hwndFrom)), int(MAKELONG(header->code, WM_NOTIFY)),
+                    &notify, nullptr);
+}
+
+BOOL CWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+{
+    return CCmdTarget::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+}
+
+// Reflection ------------------------------------------------------------------------------------
+
+BOOL PASCAL CWnd::ReflectLastMsg(HWND child, LRESULT* result)
+{
+    CWnd* const wnd = FromHandlePermanent(child);
+    return wnd != nullptr && wnd->SendChildNotifyLastMsg(result);
+}
+
+BOOL CWnd::SendChildNotifyLastMsg(LRESULT* result)
+{
+    LRESULT ignored = 0;
+    const MSG current = *GetCurrentMessage();
+    return OnChildNotify(current.message, current.wParam, current.lParam,
+                         result == nullptr ? &ignored : result);
+}
+
+BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    return ReflectChildNotify(message, wParam, lParam, result);
+}
+
+BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    AFX_MSGCALL m = {message, wParam, lParam, 0, nullptr, result == nullptr ? 0 : *result};
+    bool handled = false;
+    if (message == WM_COMMAND)
+    {
+        handled = DispatchCommand(WM_COMMAND + WM_REFLECT_BASE, HIWORD(wParam), m, nullptr);
+    }
+    else if (message == WM_NOTIFY)
+    {
+        handled = DispatchCommand(WM_NOTIFY + WM_REFLECT_BASE,
+                                  reinterpret_cast<NMHDR*>(lParam)->code, m, nullptr);
+    }
+    else
+    {
+        const bool colour = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
+        handled = DispatchWindowMessage((colour ? WM_CTLCOLOR : message) + WM_REFLECT_BASE, m);
+    }
+    if (handled && result != nullptr)
+    {
+        *result = m.result;
+    }
+    return handled;
+}
+
+// The parent's side of the messages that belong to a child.
+
+HBRUSH CWnd::OnCtlColor(CDC*, CWnd* control, UINT)
+{
+    LRESULT brush = 0;
+    if (control != nullptr && control->SendChildNotifyLastMsg(&brush) && brush != 0)
+    {
+        return reinterpret_cast<HBRUSH>(brush);
+    }
+    return reinterpret_cast<HBRUSH>(Default());
+}
+
+void CWnd::OnHScroll(UINT, UINT, CScrollBar* bar)
+{
+    if (bar == nullptr || !bar->SendChildNotifyLastMsg())
+    {
+        Default();
+    }
+}
+
+void CWnd::OnVScroll(UINT, UINT, CScrollBar* bar)
+{
+    if (bar == nullptr || !bar->SendChildNotifyLastMsg())
+    {
+        Default();
+    }
+}
+
+void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT draw)
+{
+    if (draw->CtlType == ODT_MENU || !ReflectLastMsg(draw->hwndItem))
+    {
+        Default();
+    }
+}
+
+void CWnd::OnMeasureItem(int id, LPMEASUREITEMSTRUCT measure)
+{
+    // The control may ask while it is being created, before it is anybody's child.
+    const HWND child = measure->CtlType == ODT_MENU ? nullptr : ::GetDlgItem(m_hWnd, id);
+    if (child == nullptr || !ReflectLastMsg(child))
+    {
+        Default();
+    }
+}
+
+int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT compare)
+{
+    LRESULT order = 0;
+    return ReflectLastMsg(compare->hwndItem, &order) ? int(order) : int(Default());
+}
+
+void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT deleted)
+{
+    if (!ReflectLastMsg(deleted->hwndItem))
+    {
+        Default();
+    }
+}
+
+LRESULT CWnd::OnKeyToItem(WPARAM, LPARAM lParam)
+{
+    LRESULT answer = 0;
+    return ReflectLastMsg(reinterpret_cast<HWND>(lParam), &answer) ? answer : Default();
+}
+
+void CWnd::OnParentNotify(UINT message, LPARAM lParam)
+{
+    if ((LOWORD(message) == WM_CREATE || LOWORD(message) == WM_DESTROY) &&
+        ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
+    {
+        return;
+    }
+    Default();
+}
+
+// Before dispatch -------------------------------------------------------------------------------
+
+BOOL CWnd::PreTranslateMessage(MSG*)
+{
+    return FALSE;
+}
+
+BOOL CWnd::PreTranslateInput(LPMSG message)
+{
+    const bool keyboard = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
+    const bool mouse = message->message >= WM_MOUSEFIRST && message->message <= WM_MOUSELAST;
+    return (keyboard || mouse) && IsDialogMessage(message);
+}
+
+BOOL PASCAL CWnd::WalkPreTranslateTree(HWND stop, MSG* message)
+{
+    for (HWND window = message->hwnd; window != nullptr; window = ::GetParent(window))
+    {
+        CWnd* const wnd = FromHandlePermanent(window);
+        if (wnd != nullptr && wnd->PreTranslateMessage(message))
+        {
+            return TRUE;
+        }
+        if (window == stop || !::IsWindow(window))
+        {
+            break;
+        }
+    }
+    return FALSE;
+}
