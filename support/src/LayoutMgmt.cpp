@@ -1,0 +1,5 @@
+#include "LayoutMgmt.h"
+
+CZOrderManager::~CZOrderManager() = default;
+
+void CZOrderManager::UpdateZOrder() {}
