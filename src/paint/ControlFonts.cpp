@@ -1,0 +1,22 @@
+#include "paint/ControlFonts.h"
+
+#include "OnBoardUI.h"
+#include "OnBoardUIGeneral.h"
+
+CFont& OnBoardControlFont(CFont& shared, double heightFactor)
+{
+    if (shared.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardFont(shared, heightFactor, 0, FW_NORMAL);
+    }
+    return shared;
+}
+
+CFont& StandardControlFont(CFont& shared)
+{
+    if (shared.GetSafeHandle() == nullptr)
+    {
+        shared.CreatePointFont(COnBoardUIGeneral::GetStdCtrllfHeight(), "MS Sans Serif");
+    }
+    return shared;
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+// Guards that put a device context back as it was found. Nothing is restored by hand.
+
+#include <afxwin.h>
+
+// Selects a pen, brush, font or bitmap for the life of the guard. Owns neither; the context and the
+// object have to outlive it. A null object leaves the selection alone.
+class Selected
+{
+public:
+    Selected(CDC& dc, HGDIOBJ object)
+        : m_dc(dc.GetSafeHdc())
+        , m_old(object != nullptr ? ::SelectObject(m_dc, object) : nullptr)
+    {}
+
+    Selected(CDC& dc, const CGdiObject& object)
+        : Selected(dc, object.GetSafeHandle())
+    {}
+
+    Selected(const Selected&) = delete;
+    Selected& operator=(const Selected&) = delete;
+
+    ~Selected()
+    {
+        if (m_old != nullptr)
+        {
+            ::SelectObject(m_dc, m_old);
+        }
+    }
+
+private:
+    HDC m_dc;
+    HGDIOBJ m_old;
+};
+
+// Text colour for the life of the guard.
+class TextColor
+{
+public:
+    TextColor(CDC& dc, COLORREF color)
+        : m_dc(dc)
+        , m_old(dc.SetTextColor(color))
+    {}
+
+    TextColor(const TextColor&) = delete;
+    TextColor& operator=(const TextColor&) = delete;
+    ~TextColor() { m_dc.SetTextColor(m_old); }
+
+private:
+    CDC& m_dc;
+    COLORREF m_old;
+};
+
+// Background mode (TRANSPARENT or OPAQUE) for the life of the guard.
+class BackgroundMode
+{
+public:
+    BackgroundMode(CDC& dc, int mode)
+        : m_dc(dc)
+        , m_old(dc.SetBkMode(mode))
+    {}
+
+    BackgroundMode(const BackgroundMode&) = delete;
+    BackgroundMode& operator=(const BackgroundMode&) = delete;
+    ~BackgroundMode() { m_dc.SetBkMode(m_old); }
+
+private:
+    CDC& m_dc;
+    int m_old;
+};

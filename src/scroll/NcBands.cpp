@@ -1,0 +1,130 @@
+#include "scroll/NcBands.h"
+
+#include "paint/Metrics.h"
+
+#include <algorithm>
+
+namespace scroll {
+
+namespace {
+
+constexpr DWORD ScrollStyles = WS_VSCROLL | WS_HSCROLL;
+
+void WriteScrollStyles(HWND window, DWORD style, DWORD scrollStyles)
+{
+    const DWORD wanted = (style & ~ScrollStyles) | scrollStyles;
+    if (wanted != style)
+    {
+        ::SetWindowLongPtr(window, GWL_STYLE, static_cast<LONG_PTR>(wanted));
+    }
+}
+
+DWORD StyleOfWindow(HWND window)
+{
+    return static_cast<DWORD>(::GetWindowLongPtr(window, GWL_STYLE));
+}
+
+void TrackNcLeave(const CWnd& window, DWORD flags)
+{
+    TRACKMOUSEEVENT track = {};
+    track.cbSize = sizeof(track);
+    track.dwFlags = TME_NONCLIENT | TME_LEAVE | flags;
+    track.hwndTrack = window.GetSafeHwnd();
+    ::TrackMouseEvent(&track);
+}
+
+} // namespace
+
+void TakeBands(RECT& proposed, const CSize& inset, bool verticalBar, bool horizontalBar)
+{
+    proposed.left += inset.cx;
+    proposed.top += inset.cy;
+    proposed.right -= inset.cx + (verticalBar ? metrics::ScrollBand : 0);
+    proposed.bottom -= inset.cy + (horizontalBar ? metrics::ScrollBand : 0);
+    proposed.right = std::max(proposed.left, proposed.right);
+    proposed.bottom = std::max(proposed.top, proposed.bottom);
+}
+
+CRect BarArea(int axis, const CRect& client)
+{
+    return axis == SB_VERT
+               ? CRect(client.right, client.top - metrics::Border,
+                       client.right + metrics::ScrollBar, client.bottom + metrics::Border)
+               : CRect(client.left - metrics::Border, client.bottom, client.right + metrics::Border,
+                       client.bottom + metrics::ScrollBar);
+}
+
+CRect ClientRectInWindow(const CWnd& window)
+{
+    RECT client = {};
+    ::GetClientRect(window.GetSafeHwnd(), &client);
+    POINT corner = {client.left, client.top};
+    ::ClientToScreen(window.GetSafeHwnd(), &corner);
+    const CPoint origin = ScreenToWindow(window, corner);
+    CRect result(client);
+    result.OffsetRect(origin.x, origin.y);
+    return result;
+}
+
+CPoint ScreenToWindow(const CWnd& window, const CPoint& screen)
+{
+    RECT frame = {};
+    ::GetWindowRect(window.GetSafeHwnd(), &frame);
+    return CPoint(screen.x - frame.left, screen.y - frame.top);
+}
+
+DWORD StripScrollStyles(const CWnd& window)
+{
+    const DWORD style = StyleOfWindow(window.GetSafeHwnd());
+    WriteScrollStyles(window.GetSafeHwnd(), style, 0);
+    return style & ScrollStyles;
+}
+
+void RestoreScrollStyles(const CWnd& window, DWORD styles)
+{
+    const DWORD style = StyleOfWindow(window.GetSafeHwnd());
+    WriteScrollStyles(window.GetSafeHwnd(), style, (style | styles) & ScrollStyles);
+}
+
+void RecalculateFrame(const CWnd& window, bool copyBits)
+{
+    const HWND handle = window.GetSafeHwnd();
+    const UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_FRAMECHANGED | (copyBits ? 0 : SWP_NOCOPYBITS);
+    // Placed behind its own predecessor, the window keeps its place in the order of its siblings,
+    // which is also the tab order of a dialog.
+    HWND predecessor = ::GetWindow(handle, GW_HWNDPREV);
+    ::SetWindowPos(handle, predecessor != nullptr ? predecessor : HWND_TOP, 0, 0, 0, 0, flags);
+}
+
+bool TouchesFrame(const CWnd& window, HRGN updated)
+{
+    const auto everything = reinterpret_cast<HRGN>(1);
+    CRect bounds;
+    if (updated == nullptr || updated == everything || ::GetRgnBox(updated, &bounds) == RGN_ERROR)
+    {
+        return true;
+    }
+    CRect client;
+    window.GetClientRect(&client);
+    window.ClientToScreen(&client);
+    CRect common;
+    common.UnionRect(bounds, client);
+    return common != client;
+}
+
+void RequestNcLeave(const CWnd& window)
+{
+    TrackNcLeave(window, 0);
+}
+
+void CancelNcLeave(const CWnd& window)
+{
+    TrackNcLeave(window, TME_CANCEL);
+}
+
+bool LeftButtonDown()
+{
+    return ::GetAsyncKeyState(VK_LBUTTON) < 0;
+}
+
+} // namespace scroll

@@ -1,0 +1,49 @@
+#pragma once
+
+// What every host of faux bars does with its non-client area: the band taken from the client
+// rectangle, the bar's place, the platform's own bars, and the pointer outside the client area.
+
+#include <afxwin.h>
+
+namespace scroll {
+
+// In WM_NCCALCSIZE, before the default processing: takes inset.cx from the left and right and
+// inset.cy from the top and bottom of the proposed rectangle, and a band for each bar that is
+// shown. A rectangle too small for it ends empty, never reversed.
+void TakeBands(RECT& proposed, const CSize& inset, bool verticalBar, bool horizontalBar);
+
+// Area of a bar beside a client rectangle, in the same coordinates: right of it for SB_VERT, below
+// it for SB_HORZ, a bar thick and reaching over the border at both ends.
+CRect BarArea(int axis, const CRect& client);
+
+// The window's client rectangle in window coordinates (0, 0 is the window's top left corner): what
+// a bar that is painted through the window's device context is placed against.
+CRect ClientRectInWindow(const CWnd& window);
+
+// A point of the screen in window coordinates.
+CPoint ScreenToWindow(const CWnd& window, const CPoint& screen);
+
+// Takes the platform's scroll bars away from a window and returns the styles that it had
+// (WS_VSCROLL, WS_HSCROLL or both). The style is written only when it changes, and the frame is not
+// recalculated.
+DWORD StripScrollStyles(const CWnd& window);
+
+// Gives scroll bar styles back in the same way; other bits of styles are ignored.
+void RestoreScrollStyles(const CWnd& window, DWORD styles);
+
+// Has the frame recalculated, which sends WM_NCCALCSIZE and WM_NCPAINT. copyBits false also throws
+// the client pixels away (SWP_NOCOPYBITS). Size, place and z-order stay.
+void RecalculateFrame(const CWnd& window, bool copyBits = true);
+
+// Whether the region of a WM_NCPAINT (screen coordinates, or 1 for everything) reaches out of the
+// client area. The message also comes along with paints of the client area alone.
+bool TouchesFrame(const CWnd& window, HRGN updated);
+
+// Asks for WM_NCMOUSELEAVE once, or takes the request back.
+void RequestNcLeave(const CWnd& window);
+void CancelNcLeave(const CWnd& window);
+
+// Whether the left button is down at this moment, whatever messages are still waiting.
+bool LeftButtonDown();
+
+} // namespace scroll

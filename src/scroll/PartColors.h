@@ -1,0 +1,23 @@
+#pragma once
+
+// Making and remaking the pens and brushes of painted parts.
+
+#include "OnBoardUI.h"
+
+inline void RemakeOutlinePen(CPen& pen, COLORREF color)
+{
+    pen.DeleteObject();
+    CreateOnBoardOutlinePen(pen, color);
+}
+
+inline void RemakeLinePen(CPen& pen, COLORREF color)
+{
+    pen.DeleteObject();
+    pen.CreatePen(PS_SOLID, 1, color);
+}
+
+inline void RemakeBrush(CBrush& brush, COLORREF color)
+{
+    brush.DeleteObject();
+    brush.CreateSolidBrush(color);
+}
