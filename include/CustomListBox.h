@@ -1,0 +1,197 @@
+#pragma once
+
+#include "FauxScrollBar.h"
+#include "OnBoardUIExport.h"
+
+#include <afxwin.h>
+
+#include <map>
+#include <memory>
+
+namespace scroll {
+class BarPainter;
+}
+
+// The list box of the library. In the standard mode it is the platform's list box. In an on-board
+// mode it takes the platform's scroll bars away and drives wide ones of its own, painted in its
+// non-client area: presses, holds, drags, wheel turns and keys become WM_VSCROLL and WM_HSCROLL
+// messages to itself. It may be created, made from a dialog template or put over an existing list
+// box, in any mode, and follows mode changes both ways.
+//
+// The vertical bar appears when there are more rows than fit, whatever the style says (not in a
+// list of several columns); the horizontal one only in a list made with WS_HSCROLL.
+class ONBOARDUI_API CCustomListBox : public CListBox
+{
+    DECLARE_DYNAMIC(CCustomListBox)
+
+public:
+    CCustomListBox();
+    ~CCustomListBox() override;
+
+    // Fonts of all list boxes, made on first use and kept for the life of the process.
+    static CFont& GetOnBoardFont();
+    static CFont& GetStdFont();
+
+    void ResetContent() { SendMessage(LB_RESETCONTENT); }
+
+    // On-board: scrolls content and bar (rows for SB_VERT, steps for SB_HORZ) and gives the bar's
+    // previous position. Otherwise as CWnd's.
+    virtual int SetScrollPos(int bar, int position, int redraw = TRUE);
+
+    // Takes the platform's scroll bars out of the window style; the frame is not recalculated.
+    virtual void DisableScrollBars();
+
+protected:
+    // Painting in the non-client area, on-board only. A bar that looks as it did is left alone.
+    virtual void DrawOBBorders();
+    virtual void DrawOBScrollBars();
+    virtual void DrawOBVScrollBar();
+    virtual void DrawOBHScrollBar();
+
+    // Take range, page and visibility of the bars from the content and the client rectangle.
+    virtual void UpdateScrollData();
+    virtual void UpdateVScrollData();
+    virtual void UpdateHScrollData();
+
+public:
+    // Height in pixels of a row for this text in the on-board font: one and a half times the text.
+    virtual int GetEntryHeight(const char* text);
+    // Width in pixels of a row's text in the control's font; 0 for rows without text.
+    virtual int GetEntryWidth(int index);
+    // Width in pixels of the widest character of the control's font.
+    virtual int GetMaxCharWidth();
+
+protected:
+    // Places the bars against the client rectangle.
+    virtual void ResizeOBScrollBars();
+    // A press on a bar, by the part that its last hit test found.
+    virtual void ProcessVScroll();
+    virtual void ProcessHScroll();
+    // The pointer moved, in client coordinates; drags the thumb that is held.
+    virtual void HandleMouseMoveScroll(const CPoint& point);
+    // Whether a bar may appear when it is needed.
+    virtual bool VerifyAllowVScrollBar();
+    virtual bool VerifyAllowHScrollBar();
+
+public:
+    // Makes the bars anew from content and size, after changes that the control is not told of.
+    virtual void ReCheckScrollBars();
+
+    void PreSubclassWindow() override;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
+    afx_msg void OnDestroy();
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnNcPaint();
+    afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* position);
+    afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
+    afx_msg void OnNcLButtonDblClk(UINT hitTest, CPoint point);
+    afx_msg void OnNcLButtonUp(UINT hitTest, CPoint point);
+    afx_msg void OnNcMouseMove(UINT hitTest, CPoint point);
+    afx_msg LRESULT OnNCMouseLeave(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnUpdateUIState(UINT action, UINT element);
+    afx_msg void OnEnable(BOOL enable);
+    afx_msg void OnShowWindow(BOOL show, UINT status);
+    afx_msg void OnCaptureChanged(CWnd* taker);
+    afx_msg void OnCancelMode();
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg LRESULT OnAddString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnInsertString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnResetContent(WPARAM wParam, LPARAM lParam);
+    // Messages after which every row may be another (LB_DIR, LB_SETCOUNT, WM_SETFONT ...).
+    afx_msg LRESULT OnContentReplaced(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
+    // Messages that may scroll the list without a scroll message (LB_SETTOPINDEX, WM_CHAR ...).
+    afx_msg LRESULT OnMayScroll(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetHorizontalExtent(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetHorizontalExtent(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+public:
+    static UINT m_timerid;                // auto-repeat
+    static UINT m_timerperiod;            // milliseconds
+    static UINT m_timerInitialWaitID;     // a longer wait before the first repeat
+    static UINT m_timerInitialWaitPeriod; // milliseconds
+
+protected:
+    static CPen m_OutlinePen;
+    static CFont m_OBFont;
+    static CFont m_StdFont;
+
+    CPoint m_lastPoint;            // of the pointer, in client coordinates
+    int m_itemHeight = 0;          // pixels, of the first row
+    bool m_resizePending = true;   // the bars are not placed yet
+    bool m_ncSizeDone = false;     // the on-board frame has been calculated
+    bool m_vBarSuppressed = false; // a derived class keeps the vertical bar from being painted
+    bool m_vBarNeeded = false;
+    bool m_hBarNeeded = false;
+    int m_frameWidth;
+    int m_frameHeight;
+    UINT m_lastNcHit = 0; // hit code of the last press
+    CFauxScrollBar m_vBar;
+    CFauxScrollBar m_hBar;
+    bool m_tracking = false; // a press on a bar goes on
+    CFauxScrollBar::ePRESSED m_vPressed = CFauxScrollBar::PRESSED_NONE;
+    CFauxScrollBar::ePRESSED m_hPressed = CFauxScrollBar::PRESSED_NONE;
+
+private:
+    bool m_onBoard = false;   // the window is laid out for an on-board mode
+    DWORD m_platformBars = 0; // scroll bar styles to give back in the standard mode
+    int m_hostExtent = 0;     // horizontal extent that the host set, pixels
+    bool m_leaveRequested = false;
+    bool m_following = false;    // in FollowMode
+    bool m_hostRedraw = true;    // the host's WM_SETREDRAW
+    bool m_filling = false;      // the platform's redraw is off while rows are added in a row
+    std::map<int, int> m_widths; // how many rows have a width; kept only with WS_HSCROLL
+    std::unique_ptr<scroll::BarPainter> m_vPainter;
+    std::unique_ptr<scroll::BarPainter> m_hPainter;
+
+    bool FollowMode();
+    void EnterOnBoard();
+    void LeaveOnBoard();
+    void EndTracking();
+
+    int Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    bool HasText() const;
+    int AverageCharWidth();
+    int ContentWidth() const;
+    void CountWidth(int index, int change);
+    void CountAllWidths();
+    void ApplyHorizontalExtent();
+
+    CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
+    CFauxScrollBar::ePRESSED& Pressed(int axis)
+    {
+        return axis == SB_VERT ? m_vPressed : m_hPressed;
+    }
+    bool& Needed(int axis) { return axis == SB_VERT ? m_vBarNeeded : m_hBarNeeded; }
+    void DrawBar(int axis);
+    void ShowBar(int axis, bool needed);
+    void Press(int axis);
+    void PressNc(UINT hitTest, const CPoint& screen);
+    void SendLine(int axis);
+    bool SendHeldLines();
+    void Drag(int axis, int pixels);
+    void Scroll(int axis, UINT code, UINT position);
+    void MoveContent(int axis);
+    void MirrorContent(int axis);
+    void MirrorContent();
+    void BeginFilling();
+    void EndFilling();
+    void InvalidateFrom(int index);
+    void KeepCaretInSight();
+    void ContentChanged();
+};

@@ -1,0 +1,195 @@
+#include "modes/ChildRestyling.h"
+
+#include "CustomDropListCombo.h"
+#include "CustomEdit.h"
+#include "CustomListBox.h"
+#include "CustomListCtrl.h"
+#include "OnBoardUI.h"
+#include "OnBoardUIGeneral.h"
+#include "modes/Rounding.h"
+#include "paint/Metrics.h"
+
+#include <afxcmn.h>
+
+namespace {
+
+constexpr double JustAboveOne = 1.0000000000000002;
+constexpr COLORREF RichEditBackground = RGB(180, 180, 180);
+constexpr double RichEditHeightFactor = 1.25;
+constexpr int TabHeightExtra = 3; // pixels between a tab's text and its edge
+
+// Between two on-board modes (factor 1) everything narrows by the widening: it is meant.
+double Across(double length, double scale)
+{
+    return scale > JustAboveOne ? length * scale * metrics::OnBoardWidening
+                                : length * scale / metrics::OnBoardWidening;
+}
+
+int Sum(int a, int b)
+{
+    return Truncated(double(a) + b);
+}
+
+void SendFont(HWND child, const CFont& font)
+{
+    if (font.GetSafeHandle() != nullptr)
+    {
+        ::SendMessage(child, WM_SETFONT, WPARAM(font.GetSafeHandle()), TRUE);
+    }
+}
+
+void RestyleListBox(HWND child, APPMODE mode)
+{
+    if (mode != STD)
+    {
+        SendFont(child, CCustomListBox::GetOnBoardFont());
+        return;
+    }
+    // The on-board list box took the platform's bar away; its own bar needs none.
+    const LONG_PTR style = ::GetWindowLongPtr(child, GWL_STYLE);
+    if ((style & WS_VSCROLL) == 0)
+    {
+        ::SetWindowLongPtr(child, GWL_STYLE, style | WS_VSCROLL);
+    }
+    SendFont(child, CCustomListBox::GetStdFont());
+}
+
+void RestyleRichEdit(HWND child, APPMODE mode)
+{
+    auto* edit = DYNAMIC_DOWNCAST(CRichEditCtrl, CWnd::FromHandlePermanent(child));
+    if (edit == nullptr)
+    {
+        return;
+    }
+    CHARFORMAT format = {};
+    format.cbSize = sizeof(format);
+    format.dwMask = CFM_BOLD | CFM_FACE | CFM_SIZE;
+    edit->GetDefaultCharFormat(format);
+    format.dwMask = CFM_BOLD | CFM_FACE | CFM_SIZE;
+    if (mode == STD)
+    {
+        ::lstrcpyn(format.szFaceName, "MS Sans Serif", LF_FACESIZE);
+        format.yHeight = Truncated(format.yHeight / RichEditHeightFactor);
+        format.dwEffects &= ~DWORD(CFE_BOLD);
+    }
+    else
+    {
+        ::lstrcpyn(format.szFaceName, "Arial", LF_FACESIZE);
+        format.yHeight = Truncated(format.yHeight * RichEditHeightFactor);
+        format.dwEffects |= CFE_BOLD;
+    }
+    edit->SetBackgroundColor(FALSE, RichEditBackground);
+    edit->SetDefaultCharFormat(format);
+}
+
+void ResizeTabs(HWND child, double scale)
+{
+    auto* tabs = DYNAMIC_DOWNCAST(CTabCtrl, CWnd::FromHandlePermanent(child));
+    CRect item;
+    if (tabs != nullptr && tabs->GetItemRect(0, &item))
+    {
+        tabs->SetItemSize(CSize(Truncated(Across(item.Width(), scale)),
+                                Sum(Truncated(item.Height() * scale), TabHeightExtra)));
+    }
+}
+
+} // namespace
+
+CRect RescaledRect(const CRect& rect, double scale)
+{
+    const int left = Truncated(Across(rect.left, scale));
+    const int top = Truncated(rect.top * scale);
+    return CRect(left, top, Sum(left, Truncated(Across(rect.Width(), scale))),
+                 Sum(top, Truncated(rect.Height() * scale)));
+}
+
+BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
+{
+    const auto* change = reinterpret_cast<const ModifyChildWndsData*>(data);
+    // The system's enumeration visits grandchildren too.
+    if (change == nullptr || child == nullptr || ::GetParent(child) != change->parent)
+    {
+        return TRUE;
+    }
+    char name[260] = "";
+    ::GetClassName(child, name, sizeof(name));
+    const auto is = [&name](const char* wanted) { return ::lstrcmpi(name, wanted) == 0; };
+    const bool standard = change->mode == STD;
+
+    CRect rect;
+    ::GetWindowRect(child, &rect);
+    ::MapWindowPoints(nullptr, change->parent, reinterpret_cast<POINT*>(&rect), 2);
+    CRect target = RescaledRect(rect, change->scale);
+    UINT flags = SWP_NOZORDER;
+
+    if (is("ComboBox"))
+    {
+        // A combo's window height takes in its list.
+        CRect dropped;
+        ::SendMessage(child, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+        target.bottom = Sum(target.bottom, standard ? dropped.Height()
+                                                    : Truncated(dropped.Height() * change->scale));
+    }
+    else if (is("CCUSTOMDROPLISTCOMBO"))
+    {
+        SendFont(child, standard ? CCustomDropListCombo::GetStdFont()
+                                 : CCustomDropListCombo::GetOnBoardFont());
+    }
+    else if (is("SysListView32"))
+    {
+        flags |= SWP_FRAMECHANGED;
+        SendFont(child,
+                 standard ? CCustomListCtrl::GetStdFont() : CCustomListCtrl::GetOnBoardFont());
+    }
+    else if (is("ListBox"))
+    {
+        RestyleListBox(child, change->mode);
+    }
+    else if (is("Edit"))
+    {
+        SendFont(child, standard ? CCustomEdit::GetStdFont() : CCustomEdit::GetOnBoardFont());
+    }
+    else if (is("RichEdit20A"))
+    {
+        RestyleRichEdit(child, change->mode);
+    }
+    else if (is("SysTabControl32"))
+    {
+        ResizeTabs(child, change->scale);
+    }
+    ::SetWindowPos(child, nullptr, target.left, target.top, target.Width(), target.Height(), flags);
+    return TRUE;
+}
+
+namespace {
+
+void Enumerate(HWND window, double scale)
+{
+    ModifyChildWndsData change;
+    change.parent = window;
+    change.scale = scale;
+    change.mode = COnBoardUIGeneral::GetAppMode();
+    ::EnumChildWindows(window, &ModifyChildsForAppMode, reinterpret_cast<LPARAM>(&change));
+}
+
+} // namespace
+
+void RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode)
+{
+    // Without a window the enumeration would visit every top-level window of the desktop.
+    if (newMode == oldMode || window == nullptr)
+    {
+        return;
+    }
+    Enumerate(window, oldMode == STD   ? metrics::OnBoardScale
+                      : newMode == STD ? 1.0 / metrics::OnBoardScale
+                                       : 1.0);
+}
+
+void RestyleNewWindow(HWND window)
+{
+    if (window != nullptr && COnBoardUIGeneral::InOnBoardMode())
+    {
+        Enumerate(window, metrics::OnBoardScale);
+    }
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "AppMode.h"
+
+#include <afxwin.h>
+
+// Rescales and restyles the direct children of a window for a change of mode; what every
+// mode-aware window does when it is told of one. Nothing when the modes are equal or the window
+// does not exist.
+void RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode);
+
+// The same for a window that opens while an on-board mode is active: its children stand as in the
+// standard mode.
+void RestyleNewWindow(HWND window);
+
+// A child's rectangle under the factor of a mode change: scale down, and scale times the widening
+// across (a factor of 1 narrows by the widening, as leaving an on-board mode does). Truncated.
+CRect RescaledRect(const CRect& rect, double scale);
