@@ -1,0 +1,260 @@
+#include "support/WindowTest.h"
+#include "support/forms.h"
+
+#include <string>
+
+namespace {
+
+using Journal = std::vector<std::string>;
+
+Journal journal;
+int liveObjects = 0;
+bool refuseView = false;
+
+constexpr COLORREF Ink = RGB(10, 20, 200);
+constexpr UINT CommandOfView = 300;
+constexpr UINT CommandOfFrame = 301;
+
+class ColourView : public CView
+{
+    DECLARE_DYNCREATE(ColourView)
+
+public:
+    ColourView() { ++liveObjects; }
+    ~ColourView() override { --liveObjects; }
+    void OnInitialUpdate() override { journal.push_back("initial update"); }
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override
+    {
+        return !refuseView && CView::PreCreateWindow(cs);
+    }
+    void OnDraw(CDC* dc) override { dc->FillSolidRect(0, 0, 40, 40, Ink); }
+    void OnActivateView(BOOL activate, CView* to, CView* from) override
+    {
+        journal.push_back(activate ? "activate" : "deactivate");
+        CView::OnActivateView(activate, to, from);
+    }
+    void OnCommandOfView() { journal.push_back("view command"); }
+    DECLARE_MESSAGE_MAP()
+};
+IMPLEMENT_DYNCREATE(ColourView, CView)
+
+BEGIN_MESSAGE_MAP(ColourView, CView)
+    ON_COMMAND(CommandOfView, &ColourView::OnCommandOfView)
+END_MESSAGE_MAP()
+
+class BigView : public CScrollView
+{
+    DECLARE_DYNCREATE(BigView)
+
+public:
+    void OnInitialUpdate() override { SetScrollSizes(MM_TEXT, CSize(1000, 900)); }
+
+protected:
+    void OnDraw(CDC* dc) override { dc->FillSolidRect(600, 500, 40, 40, Ink); }
+};
+IMPLEMENT_DYNCREATE(BigView, CScrollView)
+
+class EntryForm : public CFormView
+{
+    DECLARE_DYNCREATE(EntryForm)
+
+public:
+    EntryForm()
+        : CFormView(IDD_TEST_FORM)
+    {
+        ++liveObjects;
+    }
+    ~EntryForm() override { --liveObjects; }
+
+    CString text = "from the form";
+    int check = 1;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        CFormView::DoDataExchange(exchange);
+        DDX_Text(exchange, IDC_TEST_EDIT, text);
+        DDX_Check(exchange, IDC_TEST_CHECK, check);
+    }
+};
+IMPLEMENT_DYNCREATE(EntryForm, CFormView)
+
+class Frame : public CFrameWnd
+{
+public:
+    Frame() { ++liveObjects; }
+    ~Frame() override { --liveObjects; }
+
+protected:
+    void OnCommandOfFrame() { journal.push_back("frame command"); }
+    void OnShadowed() { journal.push_back("frame instead of view"); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Frame, CFrameWnd)
+    ON_COMMAND(CommandOfFrame, &Frame::OnCommandOfFrame)
+    ON_COMMAND(CommandOfView, &Frame::OnShadowed)
+END_MESSAGE_MAP()
+
+class FrameTest : public WindowTest
+{
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        journal.clear();
+        liveObjects = 0;
+        refuseView = false;
+    }
+
+    // The frame belongs to its window.
+    static Frame* MakeFrame(CRuntimeClass* viewClass,
+                            const CRect& place = CRect(200, 150, 500, 350))
+    {
+        CCreateContext context;
+        context.m_pNewViewClass = viewClass;
+        auto* frame = new Frame;
+        if (!frame->Create(nullptr, "Frame", WS_OVERLAPPEDWINDOW, place, nullptr, nullptr, 0,
+                           &context))
+        {
+            return nullptr;
+        }
+        frame->ShowWindow(SW_SHOW);
+        frame->SetForegroundWindow();
+        PumpAll();
+        return frame;
+    }
+
+    static COLORREF PixelOf(const CWnd& window, CPoint client)
+    {
+        return WindowPixels(window).At(ClientPoint(window, client) -
+                                       WindowRectOf(window).TopLeft());
+    }
+};
+
+TEST_F(FrameTest, AFrameMakesItsViewAndEndsWithIt)
+{
+    Frame* const frame = MakeFrame(RUNTIME_CLASS(ColourView));
+    ASSERT_NE(frame, nullptr);
+    auto* const view = DYNAMIC_DOWNCAST(ColourView, frame->GetActiveView());
+    ASSERT_NE(view, nullptr);
+    EXPECT_EQ(std::count(journal.begin(), journal.end(), "initial update"), 1);
+    EXPECT_EQ(view->GetParentFrame(), frame);
+    EXPECT_EQ(::GetFocus(), view->m_hWnd) << "an active frame gives its view the focus";
+    EXPECT_EQ(PixelOf(*view, CPoint(39, 39)), Ink);
+    EXPECT_NE(PixelOf(*view, CPoint(41, 41)), Ink);
+
+    for (const CSize size : {CSize(300, 200), CSize(420, 333), CSize(150, 100)})
+    {
+        frame->SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        CRect place = WindowRectOf(*view);
+        frame->ScreenToClient(&place);
+        EXPECT_EQ(place, ClientRectOf(*frame)) << "the view fills it";
+    }
+    EXPECT_EQ(liveObjects, 2);
+    frame->SendMessage(WM_CLOSE);
+    EXPECT_EQ(liveObjects, 0);
+}
+
+TEST_F(FrameTest, CommandsGoToTheViewFirst)
+{
+    Frame* const frame = MakeFrame(RUNTIME_CLASS(ColourView));
+    ASSERT_NE(frame, nullptr);
+    journal.clear();
+    frame->SendMessage(WM_COMMAND, CommandOfView);
+    frame->SendMessage(WM_COMMAND, CommandOfFrame);
+    frame->SetActiveView(nullptr);
+    frame->SendMessage(WM_COMMAND, CommandOfView);
+    EXPECT_EQ(journal,
+              (Journal{"view command", "frame command", "deactivate", "frame instead of view"}));
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameTest, AClickMakesAViewTheActiveOne)
+{
+    Frame* const frame = MakeFrame(RUNTIME_CLASS(ColourView));
+    ASSERT_NE(frame, nullptr);
+    CView* const view = frame->GetActiveView();
+    frame->SetActiveView(nullptr);
+    frame->SetFocus();
+    Click(ClientPoint(*view, CPoint(50, 50)));
+    EXPECT_EQ(frame->GetActiveView(), view);
+    EXPECT_EQ(::GetFocus(), view->m_hWnd);
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameTest, AViewEndsBeforeItsFrameWithoutHarm)
+{
+    Frame* const frame = MakeFrame(RUNTIME_CLASS(ColourView));
+    ASSERT_NE(frame, nullptr);
+    frame->GetActiveView()->DestroyWindow();
+    EXPECT_EQ(liveObjects, 1);
+    EXPECT_EQ(frame->GetActiveView(), nullptr);
+    frame->SendMessage(WM_COMMAND, CommandOfView);
+    EXPECT_EQ(journal.back(), "frame instead of view");
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameTest, AViewThatFailsEndsTheFrame)
+{
+    refuseView = true;
+    EXPECT_EQ(MakeFrame(RUNTIME_CLASS(ColourView)), nullptr);
+    EXPECT_EQ(MakeFrame(RUNTIME_CLASS(CView)), nullptr) << "cannot be created by its class";
+    EXPECT_EQ(liveObjects, 0);
+}
+
+TEST_F(FrameTest, AScrollViewShowsThePartItScrolledTo)
+{
+    Frame* const frame = MakeFrame(RUNTIME_CLASS(BigView));
+    ASSERT_NE(frame, nullptr);
+    auto* const view = DYNAMIC_DOWNCAST(BigView, frame->GetActiveView());
+    ASSERT_NE(view, nullptr);
+    const CSize client = ClientRectOf(*view).Size();
+    EXPECT_NE(view->GetStyle() & WS_VSCROLL, 0U);
+    view->ScrollToPosition(CPoint(550, 450));
+    PumpAll();
+    EXPECT_EQ(PixelOf(*view, CPoint(50, 50)), Ink);
+    EXPECT_NE(PixelOf(*view, CPoint(49, 50)), Ink);
+    view->ScrollToPosition(CPoint(5000, -20));
+    EXPECT_EQ(view->GetScrollPosition(), CPoint(1000 - client.cx, 0));
+    view->SendMessage(WM_VSCROLL, SB_PAGEDOWN);
+    EXPECT_EQ(view->GetScrollPosition().y, 90) << "a tenth";
+    view->SendMessage(WM_VSCROLL, SB_BOTTOM);
+    EXPECT_EQ(view->GetScrollPosition().y, 900 - client.cy);
+    view->SendMessage(WM_VSCROLL, SB_LINEUP);
+    EXPECT_EQ(view->GetScrollPosition().y, 900 - client.cy - 9);
+
+    // Large enough for everything: the bars go and so does the offset.
+    frame->SetWindowPos(nullptr, 0, 0, 1100, 1000, SWP_NOZORDER);
+    PumpAll();
+    EXPECT_EQ(view->GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
+    EXPECT_EQ(view->GetScrollPosition(), CPoint(0, 0));
+    frame->DestroyWindow();
+}
+
+TEST_F(FrameTest, AFormViewShowsItsTemplate)
+{
+    Frame* const frame = MakeFrame(RUNTIME_CLASS(EntryForm), CRect(200, 150, 350, 230));
+    ASSERT_NE(frame, nullptr);
+    auto* const form = DYNAMIC_DOWNCAST(EntryForm, frame->GetActiveView());
+    ASSERT_NE(form, nullptr);
+    CString shown;
+    form->GetDlgItemText(IDC_TEST_EDIT, shown);
+    EXPECT_STREQ(shown, "from the form");
+    EXPECT_TRUE(form->IsWindowVisible());
+    EXPECT_EQ(form->GetParent(), frame);
+    EXPECT_NE(form->GetStyle() & WS_VSCROLL, 0U) << "the frame is too small for it";
+
+    form->GetDlgItem(IDC_TEST_EDIT)->SetFocus();
+    TypeKey(VK_TAB);
+    EXPECT_EQ(::GetFocus(), ::GetDlgItem(*form, IDC_TEST_CHECK));
+    TypeKey(VK_SPACE);
+    EXPECT_TRUE(form->UpdateData(TRUE));
+    EXPECT_EQ(form->check, 0);
+    frame->DestroyWindow();
+    EXPECT_EQ(liveObjects, 0);
+}
+
+} // namespace

@@ -1,0 +1,274 @@
+#include "support/WindowTest.h"
+
+#include <string>
+
+namespace {
+
+using Journal = std::vector<std::string>;
+
+const UINT RegisteredA = ::RegisterWindowMessage("message map test A");
+const UINT RegisteredB = ::RegisterWindowMessage("message map test B");
+
+// A window whose base class has a map too.
+class BasePanel : public CWnd
+{
+public:
+    Journal journal;
+
+protected:
+    void Note(const std::string& text) { journal.push_back(text); }
+    void OnTen() { Note("base 10"); }
+    void OnEleven() { Note("base 11"); }
+    void OnRange(UINT id) { Note("range " + std::to_string(id)); }
+    void OnClicked() { Note("clicked"); }
+    void OnAnyChange(UINT id) { Note("change " + std::to_string(id)); }
+    void OnItem(NMHDR* header, LRESULT* result)
+    {
+        Note("notify " + std::to_string(int(header->code)));
+        *result = 0;
+    }
+    BOOL OnItemEx(UINT id, NMHDR*, LRESULT* result)
+    {
+        Note("notify ex " + std::to_string(id));
+        *result = 77;
+        return acceptNotify;
+    }
+    LRESULT OnRegistered(WPARAM wParam, LPARAM lParam)
+    {
+        Note("registered");
+        return LRESULT(wParam) * 100 + lParam;
+    }
+    LRESULT OnTextLength(WPARAM, LPARAM) { return 0; }
+    BOOL OnEraseBkgnd(CDC*) { return FALSE; }
+    LRESULT OnNcHitTest(CPoint point) { return point == CPoint(-5, 7) ? 0 : HTCLIENT; }
+    void OnUpdateTen(CCmdUI* ui) { ui->Enable(updateEnables); }
+    DECLARE_MESSAGE_MAP()
+
+public:
+    BOOL acceptNotify = TRUE;
+    BOOL updateEnables = TRUE;
+};
+
+BEGIN_MESSAGE_MAP(BasePanel, CWnd)
+    ON_COMMAND(10, &BasePanel::OnTen)
+    ON_COMMAND(11, &BasePanel::OnEleven)
+    ON_COMMAND_RANGE(20, 22, &BasePanel::OnRange)
+    ON_UPDATE_COMMAND_UI(10, &BasePanel::OnUpdateTen)
+    ON_BN_CLICKED(30, &BasePanel::OnClicked)
+    ON_CONTROL_RANGE(EN_CHANGE, 40, 42, &BasePanel::OnAnyChange)
+    ON_NOTIFY(NM_CLICK, 30, &BasePanel::OnItem)
+    ON_NOTIFY_EX(NM_DBLCLK, 30, &BasePanel::OnItemEx)
+    ON_REGISTERED_MESSAGE(RegisteredA, &BasePanel::OnRegistered)
+    ON_MESSAGE(WM_GETTEXTLENGTH, &BasePanel::OnTextLength)
+    ON_WM_ERASEBKGND()
+    ON_WM_NCHITTEST()
+END_MESSAGE_MAP()
+
+class Panel : public BasePanel
+{
+public:
+    BOOL takeEleven = TRUE;
+
+protected:
+    void OnTen() { Note("10"); }
+    BOOL OnElevenEx(UINT)
+    {
+        Note("11");
+        return takeEleven;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Panel, BasePanel)
+    ON_COMMAND(10, &Panel::OnTen)
+    ON_COMMAND_EX(11, &Panel::OnElevenEx)
+END_MESSAGE_MAP()
+
+// A child that takes part of what its parent is told about it.
+class Speaker : public CButton
+{
+public:
+    Journal journal;
+    BOOL keep = TRUE;
+    HBRUSH brush = nullptr;
+
+protected:
+    void OnReflectedClick() { journal.push_back("clicked"); }
+    BOOL OnReflectedDouble()
+    {
+        journal.push_back("double");
+        return keep;
+    }
+    void OnReflectedNotify(NMHDR*, LRESULT* result)
+    {
+        journal.push_back("notify");
+        *result = 5;
+    }
+    BOOL OnReflectedNotifyEx(NMHDR*, LRESULT* result)
+    {
+        journal.push_back("notify ex");
+        *result = 6;
+        return keep;
+    }
+    HBRUSH CtlColor(CDC* dc, UINT)
+    {
+        dc->SetTextColor(RGB(1, 2, 3));
+        return brush;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Speaker, CButton)
+    ON_CONTROL_REFLECT(BN_CLICKED, &Speaker::OnReflectedClick)
+    ON_CONTROL_REFLECT_EX(BN_DOUBLECLICKED, &Speaker::OnReflectedDouble)
+    ON_NOTIFY_REFLECT(NM_RCLICK, &Speaker::OnReflectedNotify)
+    ON_NOTIFY_REFLECT_EX(NM_CLICK, &Speaker::OnReflectedNotifyEx)
+    ON_WM_CTLCOLOR_REFLECT()
+END_MESSAGE_MAP()
+
+class MessageMap : public WindowTest
+{
+protected:
+    Panel& AddPanel() { return Add<Panel>(CRect(0, 0, 200, 100)); }
+
+    static Journal Command(Panel& panel, UINT id, UINT code, HWND control)
+    {
+        panel.journal.clear();
+        panel.SendMessage(WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
+        return panel.journal;
+    }
+
+    static LRESULT Notify(const CWnd& parent, const CWnd& from, UINT code)
+    {
+        NMHDR header = {from, UINT_PTR(from.GetDlgCtrlID()), code};
+        return parent.SendMessage(WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+    }
+};
+
+TEST_F(MessageMap, CommandsFindTheHandlerOfTheirIdAndCode)
+{
+    Panel& panel = AddPanel();
+    CWnd button;
+    ASSERT_TRUE(button.Create("BUTTON", "", WS_CHILD, CRect(0, 0, 9, 9), &panel, 30));
+    const struct
+    {
+        UINT id;
+        UINT code;
+        bool fromControl;
+        Journal expected;
+    } cases[] = {
+        {10, 0, false, {"10"}}, // the derived map first, and only it
+        {10, 1, false, {"10"}}, // the same from an accelerator
+        {11, 0, false, {"11"}},
+        {12, 0, false, {}},
+        {19, 0, false, {}},
+        {20, 0, false, {"range 20"}},
+        {22, 0, false, {"range 22"}},
+        {23, 0, false, {}},
+        {30, BN_CLICKED, true, {"clicked"}},
+        {30, BN_DOUBLECLICKED, true, {}},
+        {40, EN_CHANGE, true, {"change 40"}},
+        {42, EN_CHANGE, true, {"change 42"}},
+        {42, EN_UPDATE, true, {}},
+        {10, EN_CHANGE, true, {}}, // a control of a command's number
+    };
+    for (const auto& each : cases)
+    {
+        EXPECT_EQ(Command(panel, each.id, each.code, each.fromControl ? button.m_hWnd : nullptr),
+                  each.expected)
+            << each.id << ", " << each.code;
+    }
+    panel.takeEleven = FALSE;
+    EXPECT_EQ(Command(panel, 11, 0, nullptr), (Journal{"11", "base 11"}))
+        << "declined, so it goes on";
+}
+
+TEST_F(MessageMap, AskingWhoHandlesACommandDoesNotRunIt)
+{
+    Panel& panel = AddPanel();
+    AFX_CMDHANDLERINFO info = {};
+    EXPECT_TRUE(panel.OnCmdMsg(10, CN_COMMAND, nullptr, &info));
+    EXPECT_EQ(info.pTarget, &panel);
+    EXPECT_FALSE(panel.OnCmdMsg(12, CN_COMMAND, nullptr, &info));
+    EXPECT_EQ(panel.journal, Journal());
+
+    auto& button = Add<CButton>(CRect(0, 0, 9, 9));
+    CCmdUI ui;
+    ui.m_pOther = &button;
+    const struct
+    {
+        UINT id;
+        BOOL enables;
+        BOOL expected;
+    } cases[] = {{10, FALSE, FALSE}, {10, TRUE, TRUE}, {12, TRUE, FALSE}, {11, TRUE, TRUE}};
+    for (const auto& each : cases)
+    {
+        panel.updateEnables = each.enables;
+        ui.m_nID = each.id;
+        ui.DoUpdate(&panel, TRUE);
+        EXPECT_EQ(button.IsWindowEnabled(), each.expected) << each.id;
+    }
+}
+
+TEST_F(MessageMap, NotificationsCarryTheirResultEvenWhenItIsZero)
+{
+    Panel& panel = AddPanel();
+    CWnd item;
+    ASSERT_TRUE(item.Create("STATIC", "", WS_CHILD, CRect(0, 0, 9, 9), &panel, 30));
+    EXPECT_EQ(Notify(panel, item, UINT(NM_CLICK)), 0);
+    EXPECT_EQ(Notify(panel, item, UINT(NM_DBLCLK)), 77);
+    EXPECT_EQ(Notify(panel, item, UINT(NM_RETURN)), 0);
+    EXPECT_EQ(panel.journal, (Journal{"notify -2", "notify ex 30"}));
+
+    Host().SetWindowText("text");
+    panel.SetWindowText("text");
+    EXPECT_EQ(Host().GetWindowTextLength(), 4);
+    EXPECT_EQ(panel.SendMessage(WM_GETTEXTLENGTH), 0) << "handled: the default is not asked";
+    EXPECT_EQ(panel.SendMessage(WM_ERASEBKGND, 0, 0), FALSE);
+    EXPECT_EQ(panel.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-5, 7)), HTNOWHERE);
+}
+
+TEST_F(MessageMap, RegisteredMessagesAreToldApart)
+{
+    Panel& panel = AddPanel();
+    EXPECT_EQ(panel.SendMessage(RegisteredA, 3, 4), 304);
+    EXPECT_EQ(panel.SendMessage(RegisteredB, 3, 4), 0);
+    EXPECT_EQ(panel.SendMessage(0xC000, 3, 4), 0) << "the number that stands in the map itself";
+    EXPECT_EQ(panel.journal, Journal{"registered"});
+}
+
+TEST_F(MessageMap, AChildHearsFirstAndTheParentOnlyWhatItDeclines)
+{
+    Panel& panel = AddPanel();
+    Speaker child;
+    ASSERT_TRUE(child.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &panel, 30));
+    EXPECT_EQ(Command(panel, 30, BN_CLICKED, child), Journal()) << "the child took it";
+    Notify(panel, child, UINT(NM_RCLICK));
+    EXPECT_EQ(Notify(panel, child, UINT(NM_RCLICK)), 5);
+    EXPECT_EQ(Notify(panel, child, UINT(NM_CLICK)), 6);
+    EXPECT_EQ(panel.journal, Journal());
+    child.keep = FALSE;
+    EXPECT_EQ(Notify(panel, child, UINT(NM_CLICK)), 0) << "the parent's own result";
+    EXPECT_EQ(panel.journal, Journal{"notify -2"});
+    EXPECT_EQ(child.journal, (Journal{"clicked", "notify", "notify", "notify ex", "notify ex"}));
+}
+
+TEST_F(MessageMap, AChildGivesItsOwnColoursOrLeavesThemToTheParent)
+{
+    Panel& panel = AddPanel();
+    Speaker child;
+    ASSERT_TRUE(child.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &panel, 31));
+    CClientDC dc(&child);
+    const auto ask = [&] {
+        dc.SetTextColor(RGB(200, 0, 0));
+        return reinterpret_cast<HBRUSH>(panel.SendMessage(WM_CTLCOLORBTN, WPARAM(dc.GetSafeHdc()),
+                                                          reinterpret_cast<LPARAM>(child.m_hWnd)));
+    };
+    child.brush = static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH));
+    EXPECT_EQ(ask(), child.brush);
+    EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3));
+    child.brush = nullptr;
+    EXPECT_EQ(ask(), ::GetSysColorBrush(COLOR_BTNFACE)) << "the platform's own";
+}
+
+} // namespace

@@ -1,0 +1,235 @@
+#include <afxdlgs.h>
+
+#include "support/WindowTest.h"
+#include "support/forms.h"
+
+#include <functional>
+#include <string>
+
+namespace {
+
+using Journal = std::vector<std::string>;
+
+class Page : public CPropertyPage
+{
+public:
+    Page(UINT templateId, const char* itsName, Journal& itsJournal)
+        : CPropertyPage(templateId)
+        , name(itsName)
+        , journal(itsJournal)
+    {}
+
+    std::string name;
+    Journal& journal;
+    BOOL lets = TRUE; // the user leave the page, and apply it
+    CString text = "start";
+
+    BOOL OnSetActive() override
+    {
+        journal.push_back(name + " active");
+        return CPropertyPage::OnSetActive();
+    }
+    BOOL OnKillActive() override
+    {
+        journal.push_back(name + " left");
+        return CPropertyPage::OnKillActive() && lets;
+    }
+    void OnOK() override { journal.push_back(name + " ok"); }
+    void OnCancel() override { journal.push_back(name + " cancel"); }
+
+protected:
+    BOOL OnInitDialog() override
+    {
+        journal.push_back(name + " init");
+        return CPropertyPage::OnInitDialog();
+    }
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        CPropertyPage::DoDataExchange(exchange);
+        if (GetDlgItem(IDC_TEST_EDIT) != nullptr)
+        {
+            DDX_Text(exchange, IDC_TEST_EDIT, text);
+        }
+    }
+};
+
+constexpr UINT RunScript = WM_APP + 3;
+
+class Sheet : public CPropertySheet
+{
+public:
+    explicit Sheet(CWnd* parent)
+        : CPropertySheet("Sheet", parent)
+    {}
+    std::function<void()> inLoop;
+    int inits = 0;
+    int gone = 0;
+
+    BOOL OnInitDialog() override
+    {
+        ++inits;
+        EXPECT_NE(GetTabControl(), nullptr) << "the platform has set it up";
+        return CPropertySheet::OnInitDialog();
+    }
+    void Press(int button) { SendMessage(PSM_PRESSBUTTON, WPARAM(button)); }
+
+protected:
+    void OnShowWindow(BOOL show, UINT status)
+    {
+        CPropertySheet::OnShowWindow(show, status);
+        if (show && inLoop)
+        {
+            PostMessage(RunScript);
+        }
+    }
+    LRESULT OnScript(WPARAM, LPARAM)
+    {
+        inLoop();
+        return 0;
+    }
+    void PostNcDestroy() override { ++gone; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Sheet, CPropertySheet)
+    ON_WM_SHOWWINDOW()
+    ON_MESSAGE(RunScript, &Sheet::OnScript)
+END_MESSAGE_MAP()
+
+class PropertySheetTest : public WindowTest
+{
+protected:
+    Journal journal;
+    Page first{IDD_TEST_PAGE_1, "first", journal};
+    Page second{IDD_TEST_PAGE_2, "second", journal};
+
+    Journal TakeJournal()
+    {
+        Journal taken;
+        taken.swap(journal);
+        return taken;
+    }
+};
+
+TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
+{
+    for (const bool bothShown : {false, true})
+    {
+        Sheet sheet(&Host());
+        sheet.AddPage(&first);
+        sheet.AddPage(&second);
+        sheet.inLoop = [&] {
+            EXPECT_FALSE(Host().IsWindowEnabled());
+            EXPECT_EQ(sheet.GetActivePage(), &first);
+            EXPECT_EQ(second.GetSafeHwnd(), nullptr) << "made when it is first shown";
+            EXPECT_EQ(TakeJournal(), (Journal{"first init", "first active"}));
+            first.SetDlgItemText(IDC_TEST_EDIT, "typed");
+            if (bothShown)
+            {
+                EXPECT_TRUE(sheet.SetActivePage(1));
+                EXPECT_EQ(TakeJournal(), (Journal{"first left", "second init", "second active"}));
+                EXPECT_EQ(sheet.GetActivePage(), &second);
+            }
+            sheet.Press(PSBTN_OK);
+        };
+        EXPECT_EQ(sheet.DoModal(), IDOK);
+        EXPECT_EQ(TakeJournal(), bothShown ? (Journal{"second left", "first ok", "second ok"})
+                                           : (Journal{"first left", "first ok"}));
+        EXPECT_STREQ(first.text, "typed");
+        EXPECT_EQ(sheet.inits, 1);
+        EXPECT_EQ(sheet.gone, 1);
+        EXPECT_EQ(first.GetSafeHwnd(), nullptr);
+        EXPECT_TRUE(Host().IsWindowEnabled());
+        EXPECT_EQ(::GetActiveWindow(), Host().m_hWnd);
+    }
+}
+
+TEST_F(PropertySheetTest, EveryWayOfCancellingResetsThePages)
+{
+    const struct
+    {
+        const char* how;
+        std::function<void(Sheet&)> cancel;
+    } cases[] = {
+        {"button", [](Sheet& sheet) { sheet.Press(PSBTN_CANCEL); }},
+        {"escape", [](Sheet&) { TypeKey(VK_ESCAPE); }},
+        {"close", [](Sheet& sheet) { sheet.SendMessage(WM_CLOSE); }},
+    };
+    for (const auto& each : cases)
+    {
+        Sheet sheet(&Host());
+        sheet.AddPage(&first);
+        sheet.AddPage(&second);
+        sheet.inLoop = [&] { each.cancel(sheet); };
+        EXPECT_EQ(sheet.DoModal(), IDCANCEL) << each.how;
+        EXPECT_EQ(TakeJournal(), (Journal{"first init", "first active", "first cancel"}))
+            << each.how;
+        EXPECT_EQ(sheet.gone, 1);
+    }
+}
+
+TEST_F(PropertySheetTest, APageMayKeepTheUser)
+{
+    Sheet sheet(&Host());
+    sheet.AddPage(&first);
+    sheet.AddPage(&second);
+    sheet.inLoop = [&] {
+        first.lets = FALSE;
+        sheet.SetActivePage(1);
+        EXPECT_EQ(sheet.GetActivePage(), &first);
+        sheet.Press(PSBTN_OK);
+        EXPECT_NE(sheet.GetSafeHwnd(), nullptr);
+        first.lets = TRUE;
+        KeyDown(VK_CONTROL);
+        TypeKey(VK_TAB);
+        KeyUp(VK_CONTROL);
+        EXPECT_EQ(sheet.GetActivePage(), &second) << "the next page by keys";
+        sheet.EndDialog(77);
+    };
+    EXPECT_EQ(sheet.DoModal(), 77);
+    EXPECT_TRUE(Host().IsWindowEnabled());
+}
+
+TEST_F(PropertySheetTest, AModalSheetSurvivesItsSuddenEnd)
+{
+    Sheet sheet(&Host());
+    sheet.AddPage(&first);
+    sheet.inLoop = [&] { sheet.DestroyWindow(); };
+    EXPECT_EQ(sheet.DoModal(), IDCANCEL);
+    EXPECT_TRUE(Host().IsWindowEnabled());
+    EXPECT_EQ(first.GetSafeHwnd(), nullptr);
+
+    Sheet quits(&Host());
+    quits.AddPage(&first);
+    quits.inLoop = [] { ::PostQuitMessage(0); };
+    quits.DoModal();
+    EXPECT_TRUE(TakeQuit());
+    EXPECT_EQ(quits.GetSafeHwnd(), nullptr);
+    EXPECT_TRUE(Host().IsWindowEnabled());
+
+    Sheet empty(&Host());
+    EXPECT_EQ(empty.DoModal(), -1) << "it has no pages";
+    EXPECT_TRUE(Host().IsWindowEnabled());
+}
+
+TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwner)
+{
+    Sheet sheet(&Host());
+    sheet.AddPage(&first);
+    ASSERT_TRUE(sheet.Create(&Host()));
+    PumpAll();
+    EXPECT_TRUE(Host().IsWindowEnabled());
+    EXPECT_TRUE(sheet.IsWindowVisible());
+    EXPECT_EQ(first.GetParent(), &sheet);
+    sheet.AddPage(&second);
+    EXPECT_TRUE(sheet.SetActivePage(1));
+    EXPECT_EQ(second.GetParent(), &sheet);
+    EXPECT_EQ(sheet.GetPageCount(), 2);
+    sheet.RemovePage(0);
+    EXPECT_EQ(sheet.GetActivePage(), &second);
+    sheet.DestroyWindow();
+    EXPECT_EQ(sheet.gone, 1);
+    EXPECT_EQ(second.GetSafeHwnd(), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,257 @@
+// Points, sizes, rectangles, text and collections as values.
+
+#include <afxtempl.h>
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace {
+
+// Resource ids of framework_strings.rc
+constexpr UINT ShortString = 60000;
+constexpr UINT LongString = 60001;
+constexpr UINT FormatString = 60002;
+constexpr UINT MissingString = 60003;
+
+void PrintText(const CString& text, std::ostream* out)
+{
+    *out << text.GetString();
+}
+
+} // namespace
+
+void PrintTo(const CString& text, std::ostream* out)
+{
+    PrintText(text, out);
+}
+
+TEST(Geometry, PointsAndSizesMoveARectangleWhileRectanglesWidenIt)
+{
+    const CRect rect(10, 20, 30, 40);
+    const RECT by = {1, 2, 3, 4};
+    EXPECT_EQ(rect + CPoint(5, 6), CRect(15, 26, 35, 46));
+    EXPECT_EQ(rect - CSize(5, 6), CRect(5, 14, 25, 34));
+    EXPECT_EQ(rect + &by, CRect(9, 18, 33, 44));
+    EXPECT_EQ(rect - &by, CRect(11, 22, 27, 36));
+    EXPECT_EQ(CPoint(1, 1) + &rect, CRect(11, 21, 31, 41));
+
+    CRect changed = rect;
+    changed.DeflateRect(&by);
+    EXPECT_EQ(changed, rect - &by);
+    changed.InflateRect(1, 2, 3, 4);
+    EXPECT_EQ(changed, rect);
+    changed.MoveToXY(0, 0);
+    EXPECT_EQ(changed, CRect(CPoint(0, 0), rect.Size()));
+}
+
+TEST(Geometry, CornersAreViewsOfTheRectangle)
+{
+    CRect rect(1, 2, 3, 4);
+    rect.TopLeft().Offset(10, 20);
+    rect.BottomRight() = CPoint(7, 8);
+    EXPECT_EQ(rect, CRect(11, 22, 7, 8));
+    rect.NormalizeRect();
+    EXPECT_EQ(rect, CRect(7, 8, 11, 22));
+    EXPECT_EQ(rect.CenterPoint(), CPoint(9, 15));
+}
+
+TEST(Geometry, IntersectionAndUnionMayTakeTheRectangleItself)
+{
+    CRect rect(0, 0, 10, 10);
+    EXPECT_TRUE(rect.IntersectRect(rect, CRect(5, 5, 20, 20)));
+    EXPECT_EQ(rect, CRect(5, 5, 10, 10));
+    EXPECT_FALSE(rect.IntersectRect(rect, CRect(50, 50, 60, 60)));
+    EXPECT_TRUE(rect.IsRectNull());
+    EXPECT_EQ(CRect(0, 0, 1, 1) | CRect(5, 5, 6, 6), CRect(0, 0, 6, 6));
+    EXPECT_FALSE(CRect(0, 0, 10, 10).PtInRect(CPoint(10, 5)));
+}
+
+TEST(Geometry, PackedPositionsAreSigned)
+{
+    EXPECT_EQ(CPoint(MAKELPARAM(-3, -5)), CPoint(-3, -5));
+    EXPECT_EQ(CSize(DWORD(MAKELONG(7, -5))), CSize(7, -5));
+}
+
+TEST(Text, NullIsEmptyEverywhere)
+{
+    const LPCTSTR null = nullptr;
+    CString text(null);
+    EXPECT_TRUE(text.IsEmpty());
+    text += null;
+    EXPECT_EQ(text.Compare(null), 0);
+    EXPECT_TRUE(text == null);
+    EXPECT_EQ(CString("ab").Find(null), 0);
+    EXPECT_EQ(CString("ab").Replace(null, "x"), 0);
+    EXPECT_EQ(CString("ab") + null, CString("ab"));
+}
+
+TEST(Text, PartsAreCutToTheText)
+{
+    const CString text("abcdef");
+    const std::pair<CString, const char*> parts[] = {
+        {text.Left(2), "ab"},
+        {text.Left(99), "abcdef"},
+        {text.Left(-1), ""},
+        {text.Right(2), "ef"},
+        {text.Right(99), "abcdef"},
+        {text.Right(-1), ""},
+        {text.Mid(2, 2), "cd"},
+        {text.Mid(4, 99), "ef"},
+        {text.Mid(99), ""},
+        {text.Mid(-1, 2), "ab"},
+        {text.Mid(3), "def"},
+        {text.SpanIncluding("ba"), "ab"},
+        {text.SpanExcluding("d"), "abc"},
+        {text.SpanExcluding("z"), "abcdef"},
+    };
+    for (const auto& [part, expected] : parts)
+    {
+        EXPECT_STREQ(part, expected);
+    }
+}
+
+TEST(Text, SearchesAndChanges)
+{
+    CString text("one two one");
+    EXPECT_EQ(text.Find("one", 1), 8);
+    EXPECT_EQ(text.Find('x'), -1);
+    EXPECT_EQ(text.Find("one", 99), -1);
+    EXPECT_EQ(text.ReverseFind('o'), 8);
+    EXPECT_EQ(text.FindOneOf("wt"), 4);
+    EXPECT_EQ(text.Replace("one", "one one"), 2) << "a replacement must not be found again";
+    EXPECT_STREQ(text, "one one two one one");
+    EXPECT_EQ(text.Remove(' '), 4);
+    EXPECT_EQ(text.Delete(3, 99), 3);
+    EXPECT_EQ(text.Insert(99, "!"), 4);
+    EXPECT_STREQ(text, "one!");
+    EXPECT_STREQ(CString(" \t a b \n").Trim(), "a b");
+    EXPECT_STREQ(CString("**a*").Trim('*'), "a");
+    EXPECT_STREQ(CString("***").TrimLeft('*'), "");
+}
+
+TEST(Text, MayTakePartsOfItself)
+{
+    CString text("abc");
+    text += text;
+    text = text.GetString() + 2;
+    EXPECT_STREQ(text, "cabc");
+    text.Format("%s-%s", text.GetString(), text.GetString());
+    EXPECT_STREQ(text, "cabc-cabc");
+    text.Insert(0, text.Right(2));
+    EXPECT_STREQ(text, "bccabc-cabc");
+}
+
+TEST(Text, TokensEndWithMinusOne)
+{
+    const CString text("%First Second##Third");
+    std::vector<std::string> tokens;
+    int position = 0;
+    for (CString token = text.Tokenize("% #", position); !token.IsEmpty();
+         token = text.Tokenize("% #", position))
+    {
+        tokens.emplace_back(token);
+    }
+    EXPECT_EQ(tokens, (std::vector<std::string>{"First", "Second", "Third"}));
+    EXPECT_EQ(position, -1);
+    EXPECT_TRUE(text.Tokenize("#", position).IsEmpty());
+}
+
+TEST(Text, BufferKeepsWhatWasWritten)
+{
+    CString text("ab");
+    ::lstrcpy(text.GetBuffer(100) + 2, "cd");
+    text.ReleaseBuffer();
+    EXPECT_EQ(text.GetLength(), 4);
+    text.GetBuffer(50);
+    text.ReleaseBuffer(3);
+    EXPECT_STREQ(text, "abc");
+    EXPECT_EQ(text, CString(L"abc"));
+}
+
+TEST(Text, ComparesWithPointersOnEitherSide)
+{
+    const CString text("b");
+    EXPECT_TRUE(text == "b" && "b" == text && text != "a" && text > "a" && "a" < text);
+    EXPECT_TRUE(text < CString("c") && text <= "b" && text == 'b' && text != 'c');
+    EXPECT_EQ(CString("ABC").CompareNoCase("abc"), 0);
+}
+
+TEST(Text, StringResources)
+{
+    CString text("kept");
+    EXPECT_FALSE(text.LoadString(MissingString));
+    EXPECT_STREQ(text, "kept");
+    EXPECT_TRUE(text.LoadString(LongString));
+    EXPECT_EQ(text.GetLength(), 300);
+    EXPECT_STREQ(text.Right(3), "end");
+    EXPECT_STREQ(CString(MAKEINTRESOURCE(ShortString)), "short");
+    text.Format(FormatString, 7, "x");
+    EXPECT_STREQ(text, "7 of x");
+}
+
+TEST(Collections, ArrayGrowsWhereItIsTold)
+{
+    CArray<int> numbers;
+    numbers.SetAtGrow(2, 5);
+    EXPECT_EQ(numbers.GetSize(), 3);
+    EXPECT_EQ(numbers[0], 0);
+    numbers.InsertAt(5, 9, 2);
+    EXPECT_EQ(numbers.GetSize(), 7);
+    EXPECT_EQ(numbers[4], 0);
+    EXPECT_EQ(numbers[6], 9);
+    numbers.RemoveAt(0, 6);
+    EXPECT_EQ(numbers.GetUpperBound(), 0);
+    numbers.SetSize(0);
+    EXPECT_TRUE(numbers.IsEmpty());
+}
+
+TEST(Collections, ElementsMayBeInsertedIntoTheirOwnArray)
+{
+    CStringArray texts;
+    texts.Add("a text that is long enough to live on the heap");
+    for (int index = 0; index < 20; ++index)
+    {
+        texts.Add(texts[0]);
+        texts.InsertAt(0, texts[texts.GetUpperBound()]);
+        texts.SetAtGrow(texts.GetSize(), texts[0]);
+    }
+    EXPECT_EQ(texts.Append(texts), 61);
+    for (INT_PTR index = 0; index < texts.GetSize(); ++index)
+    {
+        ASSERT_STREQ(texts[index], texts[0]);
+    }
+}
+
+TEST(Collections, MapFindsByTextAndWalksEachKeyOnce)
+{
+    CMap<CString, LPCTSTR, int, int> map;
+    for (int number = 0; number < 100; ++number)
+    {
+        CString key;
+        key.Format("%d", number);
+        map.SetAt(key, number);
+    }
+    map["7"] = -7;
+    int value = 0;
+    EXPECT_TRUE(map.Lookup("7", value));
+    EXPECT_EQ(value, -7);
+    EXPECT_FALSE(map.Lookup("100", value));
+    EXPECT_TRUE(map.RemoveKey("7"));
+    EXPECT_FALSE(map.RemoveKey("7"));
+
+    // Removing what was given out does not disturb the walk.
+    int sum = 0;
+    for (POSITION position = map.GetStartPosition(); position != nullptr;)
+    {
+        CString key;
+        map.GetNextAssoc(position, key, value);
+        sum += value;
+        map.RemoveKey(key);
+    }
+    EXPECT_EQ(sum, 99 * 100 / 2 - 7);
+    EXPECT_TRUE(map.IsEmpty());
+}

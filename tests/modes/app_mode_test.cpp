@@ -1,0 +1,299 @@
+#include "CustomDialog.h"
+#include "CustomDropListCombo.h"
+#include "CustomFormView.h"
+#include "CustomPropPage.h"
+#include "CustomPropSheet.h"
+#include "support/WindowTest.h"
+
+#include <functional>
+#include <string>
+
+namespace {
+
+using Journal = std::vector<std::string>;
+
+// The child of a mode-aware window: it is moved when the window is told of a change of mode, which
+// is how the change shows.
+class Probe : public CWnd
+{
+public:
+    std::string name;
+    Journal* journal = nullptr;
+    std::function<void()> whenMoved;
+
+    int Width() const { return WindowRectOf(*this).Width(); }
+
+protected:
+    void OnWindowPosChanged(WINDOWPOS* place)
+    {
+        CWnd::OnWindowPosChanged(place);
+        journal->push_back(name);
+        if (whenMoved)
+        {
+            whenMoved();
+        }
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Probe, CWnd)
+    ON_WM_WINDOWPOSCHANGED()
+END_MESSAGE_MAP()
+
+class View : public CCustomFormView
+{
+public:
+    View()
+        : CCustomFormView(UINT(1))
+    {}
+
+protected:
+    void PostNcDestroy() override {} // the test owns it
+};
+
+class Dialog : public CCustomDialog
+{
+public:
+    Dialog()
+        : CCustomDialog(1, nullptr)
+    {}
+};
+
+class Page : public CCustomPropPage
+{
+public:
+    Page()
+        : CCustomPropPage(1)
+    {}
+};
+
+class Sheet : public CCustomPropSheet
+{
+public:
+    Sheet()
+        : CCustomPropSheet("", nullptr)
+    {}
+};
+
+class AppModeTest : public WindowTest
+{
+protected:
+    Journal journal;
+
+    static constexpr int ProbeWidth = 100;
+    static constexpr int OnBoardWidth = 224; // 100 x 1.7 x 1.32
+
+    void TearDown() override
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        WindowTest::TearDown();
+    }
+
+    void MakeWindow(CWnd& window)
+    {
+        ASSERT_TRUE(window.CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE,
+                                    CRect(0, 0, 400, 300), &Host(), 0));
+    }
+
+    // A mode-aware window with a probe on it.
+    template <class Window> struct Aware
+    {
+        Window window;
+        Probe probe;
+    };
+
+    template <class Window> std::unique_ptr<Aware<Window>> Make(const std::string& name)
+    {
+        auto made = std::make_unique<Aware<Window>>();
+        made->probe.name = name;
+        made->probe.journal = &journal;
+        MakeWindow(made->window);
+        EXPECT_TRUE(made->probe.Create(nullptr, "", WS_CHILD | WS_VISIBLE,
+                                       CRect(10, 20, 10 + ProbeWidth, 50), &made->window, 1));
+        journal.clear();
+        return made;
+    }
+};
+
+TEST_F(AppModeTest, EveryKindOfWindowIsToldInAFixedOrder)
+{
+    // Made the other way round, each kind twice.
+    const auto sheet1 = Make<Sheet>("sheet 1");
+    const auto page1 = Make<Page>("page 1");
+    CCustomDropListCombo combo;
+    MakeWindow(combo);
+    const auto dialog1 = Make<Dialog>("dialog 1");
+    const auto view1 = Make<View>("view 1");
+    const auto sheet2 = Make<Sheet>("sheet 2");
+    const auto page2 = Make<Page>("page 2");
+    const auto dialog2 = Make<Dialog>("dialog 2");
+    const auto view2 = Make<View>("view 2");
+
+    // A combo has nothing to move: it asks to be painted.
+    PumpAll();
+    combo.ValidateRect(nullptr);
+    const auto noteCombo = [&] {
+        journal.push_back(combo.GetUpdateRect(nullptr) ? "combo told" : "combo not told");
+        EXPECT_EQ(COnBoardUIGeneral::GetAppMode(), EFB) << "it is the new mode already";
+    };
+    dialog2->probe.whenMoved = noteCombo;
+    page1->probe.whenMoved = noteCombo;
+
+    journal.clear();
+    COnBoardUIGeneral::SetAppMode(EFB);
+    EXPECT_EQ(journal, (Journal{"view 1", "view 2", "dialog 1", "dialog 2", "combo not told",
+                                "page 1", "combo told", "page 2", "sheet 1", "sheet 2"}));
+    for (const Probe* probe : {&view1->probe, &dialog2->probe, &page1->probe, &sheet2->probe})
+    {
+        EXPECT_EQ(probe->Width(), OnBoardWidth) << probe->name;
+    }
+}
+
+TEST_F(AppModeTest, EachChangeHasItsScale)
+{
+    const auto dialog = Make<Dialog>("dialog");
+    const struct
+    {
+        APPMODE mode;
+        bool onBoard;
+        CRect expected;
+    } steps[] = {
+        {STD, false, CRect(CPoint(10, 20), CSize(100, 30))},       // no change, nothing moves
+        {FULLSCREEN, true, CRect(CPoint(22, 34), CSize(224, 51))}, // x 1.7, wider by 1.32
+        {FULLSCREEN, true, CRect(CPoint(22, 34), CSize(224, 51))},
+        {ONBOARD, true, CRect(CPoint(16, 34), CSize(169, 51))}, // only narrower by 1.32
+        {EFB, true, CRect(CPoint(12, 34), CSize(128, 51))},
+        {EFBFS, true, CRect(CPoint(9, 34), CSize(96, 51))},
+        {STD, false, CRect(CPoint(4, 20), CSize(42, 30))}, // / 1.7, / 1.32
+    };
+    for (const auto& step : steps)
+    {
+        SetOnBoardAppMode(step.mode);
+        EXPECT_EQ(COnBoardUIGeneral::GetAppMode(), step.mode);
+        EXPECT_EQ(COnBoardUIGeneral::InOnBoardMode(), step.onBoard);
+        CRect place = WindowRectOf(dialog->probe);
+        dialog->window.ScreenToClient(&place);
+        EXPECT_EQ(place, step.expected) << APPMODE_NAMES[step.mode];
+    }
+}
+
+TEST_F(AppModeTest, RegistriesKeepDuplicatesAndIgnoreNulls)
+{
+    const auto dialog = Make<Dialog>("dialog");
+    const auto told = [&](APPMODE mode) {
+        journal.clear();
+        COnBoardUIGeneral::SetAppMode(mode);
+        return int(journal.size());
+    };
+    COnBoardUIGeneral::AddCustomDialog(nullptr);
+    EXPECT_EQ(COnBoardUIGeneral::m_createddialogs.size(), 1U);
+    COnBoardUIGeneral::AddCustomDialog(&dialog->window);
+    EXPECT_EQ(told(ONBOARD), 2);
+    COnBoardUIGeneral::RemoveCustomDialog(&dialog->window);
+    EXPECT_EQ(told(STD), 1);
+    COnBoardUIGeneral::RemoveCustomDialog(&dialog->window);
+    COnBoardUIGeneral::RemoveCustomDialog(&dialog->window);
+    COnBoardUIGeneral::RemoveCustomDialog(nullptr);
+    EXPECT_EQ(told(ONBOARD), 0);
+
+    COnBoardUIGeneral::m_createddialogs = {nullptr, &dialog->window};
+    EXPECT_EQ(told(STD), 1);
+    COnBoardUIGeneral::m_createddialogs = {&dialog->window};
+}
+
+TEST_F(AppModeTest, ReceiversMayEndThemselvesAndOthers)
+{
+    // Which of the dialogs 0 to 4 the middle one ends while it is told.
+    const struct
+    {
+        std::vector<size_t> ended;
+        Journal expected;
+    } cases[] = {
+        {{0}, {"0", "1", "2", "3", "4", "page"}}, {{3}, {"0", "1", "2", "4", "page"}},
+        {{4}, {"0", "1", "2", "3", "page"}},      {{0, 1, 3}, {"0", "1", "2", "4", "page"}},
+        {{3, 4}, {"0", "1", "2", "page"}},
+    };
+    for (const auto& each : cases)
+    {
+        std::vector<std::unique_ptr<Aware<Dialog>>> dialogs;
+        for (int index = 0; index < 5; ++index)
+        {
+            dialogs.push_back(Make<Dialog>(std::to_string(index)));
+        }
+        const auto page = Make<Page>("page");
+        dialogs[2]->probe.whenMoved = [&] {
+            for (const size_t index : each.ended)
+            {
+                dialogs[index].reset();
+            }
+        };
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        EXPECT_EQ(journal, each.expected) << each.ended.size() << " from " << each.ended[0];
+        dialogs.clear();
+        COnBoardUIGeneral::SetAppMode(STD);
+    }
+}
+
+TEST_F(AppModeTest, AWindowThatComesDuringTheChangeIsNotToldOfIt)
+{
+    const auto first = Make<Dialog>("first");
+    const auto second = Make<Dialog>("second");
+    std::unique_ptr<Aware<Dialog>> dialog;
+    std::unique_ptr<Aware<Page>> page;
+    first->probe.whenMoved = [&] {
+        if (dialog == nullptr)
+        {
+            dialog = Make<Dialog>("new dialog");
+            page = Make<Page>("new page");
+        }
+    };
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    EXPECT_EQ(journal, Journal{"second"});
+    journal.clear();
+    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_EQ(journal, (Journal{"first", "second", "new dialog", "new page"}));
+}
+
+TEST_F(AppModeTest, AChangeInsideAChangeReachesEveryoneInItsTurn)
+{
+    std::vector<std::unique_ptr<Aware<Dialog>>> dialogs;
+    const auto view = Make<View>("view");
+    for (const char* name : {"a", "b", "c"})
+    {
+        dialogs.push_back(Make<Dialog>(name));
+    }
+    std::vector<APPMODE> modes;
+    bool nested = false;
+    dialogs[0]->probe.whenMoved = [&] {
+        if (!nested)
+        {
+            nested = true;
+            COnBoardUIGeneral::SetAppMode(EFB);
+        }
+    };
+    dialogs[2]->probe.whenMoved = [&] { modes.push_back(COnBoardUIGeneral::GetAppMode()); };
+    journal.clear();
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    EXPECT_EQ(journal, (Journal{"view", "a", "b", "c", "view", "a", "b", "c"}));
+    EXPECT_EQ(modes, (std::vector<APPMODE>{ONBOARD, EFB}));
+    EXPECT_EQ(COnBoardUIGeneral::GetAppMode(), EFB);
+    for (const auto& dialog : dialogs)
+    {
+        // Widened first and narrowed then: the other order gives 168.
+        EXPECT_EQ(dialog->probe.Width(), 169) << dialog->probe.name;
+    }
+}
+
+TEST_F(AppModeTest, TheTitleIsCopied)
+{
+    char title[] = "First";
+    SetOnBoardAppTitle(title);
+    title[0] = 'X';
+    EXPECT_STREQ(COnBoardUIGeneral::GetAppTitle(), "First");
+    COnBoardUIGeneral::SetAppTitle("Second");
+    EXPECT_STREQ(COnBoardUIGeneral::GetAppTitle(), "Second");
+    SetOnBoardAppTitle(nullptr);
+    EXPECT_STREQ(COnBoardUIGeneral::GetAppTitle(), "");
+}
+
+} // namespace

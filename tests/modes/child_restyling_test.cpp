@@ -1,0 +1,311 @@
+#include "CustomDropListCombo.h"
+#include "CustomEdit.h"
+#include "CustomListBox.h"
+#include "CustomListCtrl.h"
+#include "OnBoardUI.h"
+#include "support/WindowTest.h"
+
+#include <afxcmn.h>
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+constexpr double Enlarging = 1.7;
+constexpr double Reducing = 1.0 / 1.7;
+
+void Restyle(const CWnd& parent, double scale, APPMODE mode)
+{
+    ModifyChildWndsData data;
+    data.parent = parent;
+    data.scale = scale;
+    data.mode = mode;
+    ::EnumChildWindows(parent, &ModifyChildsForAppMode, reinterpret_cast<LPARAM>(&data));
+}
+
+// Notes the first place that a window is asked to take, before it has its own say.
+class PlaceLog
+{
+public:
+    explicit PlaceLog(const CWnd& window)
+        : m_window(window)
+    {
+        ::SetWindowSubclass(m_window, &Procedure, 1, reinterpret_cast<DWORD_PTR>(this));
+    }
+    PlaceLog(const PlaceLog&) = delete;
+    PlaceLog& operator=(const PlaceLog&) = delete;
+    ~PlaceLog() { ::RemoveWindowSubclass(m_window, &Procedure, 1); }
+
+    WINDOWPOS asked = {};
+
+private:
+    HWND m_window;
+    bool m_done = false;
+
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                                      UINT_PTR, DWORD_PTR log)
+    {
+        auto& self = *reinterpret_cast<PlaceLog*>(log);
+        if (message == WM_WINDOWPOSCHANGING && !self.m_done)
+        {
+            self.m_done = true;
+            self.asked = *reinterpret_cast<WINDOWPOS*>(lParam);
+        }
+        return ::DefSubclassProc(window, message, wParam, lParam);
+    }
+};
+
+class ChildRestylingTest : public WindowTest
+{
+protected:
+    CRect PlaceOf(const CWnd& child)
+    {
+        CRect place = WindowRectOf(child);
+        Host().ScreenToClient(&place);
+        return place;
+    }
+
+    // A plain window of any class on the host.
+    CWnd& AddPlain(const char* windowClass, const CRect& place, DWORD style = 0)
+    {
+        auto made = std::make_unique<CWnd>();
+        EXPECT_TRUE(
+            made->Create(windowClass, "", WS_CHILD | WS_VISIBLE | style, place, &Host(), FirstId))
+            << windowClass;
+        m_plain.push_back(std::move(made));
+        return *m_plain.back();
+    }
+
+    void TearDown() override
+    {
+        m_plain.clear();
+        WindowTest::TearDown();
+    }
+
+private:
+    std::vector<std::unique_ptr<CWnd>> m_plain;
+};
+
+TEST_F(ChildRestylingTest, PlacesScaleAndAreTruncated)
+{
+    CWnd& child = AddPlain("STATIC", CRect(0, 0, 1, 1));
+    const double nextAboveOne = std::nextafter(1.0, 2.0);
+    const struct
+    {
+        CRect before;
+        double scale;
+        CRect after;
+    } cases[] = {
+        {CRect(CPoint(10, 20), CSize(100, 30)), Enlarging, CRect(CPoint(22, 34), CSize(224, 51))},
+        {CRect(CPoint(22, 34), CSize(224, 51)), Reducing, CRect(CPoint(9, 20), CSize(99, 30))},
+        {CRect(CPoint(10, 20), CSize(100, 30)), 1.0, CRect(CPoint(7, 20), CSize(75, 30))},
+        {CRect(CPoint(-10, -20), CSize(7, 3)), Enlarging, CRect(CPoint(-22, -34), CSize(15, 5))},
+        {CRect(CPoint(-10, -20), CSize(7, 3)), Reducing, CRect(CPoint(-4, -11), CSize(3, 1))},
+        {CRect(0, 0, 0, 0), Enlarging, CRect(0, 0, 0, 0)},
+        {CRect(10, 10, 20, 20), 0.0, CRect(0, 0, 0, 0)},
+        // The factor nearest above one still narrows, the next one widens.
+        {CRect(100, 100, 200, 200), nextAboveOne, CRect(CPoint(75, 100), CSize(75, 100))},
+        {CRect(100, 100, 200, 200), std::nextafter(nextAboveOne, 2.0),
+         CRect(CPoint(132, 100), CSize(132, 100))},
+    };
+    for (const auto& each : cases)
+    {
+        child.MoveWindow(&each.before);
+        Restyle(Host(), each.scale, ONBOARD);
+        EXPECT_EQ(PlaceOf(child), each.after) << each.before.left << " by " << each.scale;
+    }
+}
+
+TEST_F(ChildRestylingTest, OnlyDirectChildrenAreTouched)
+{
+    CWnd& box = AddPlain("STATIC", CRect(10, 20, 110, 50));
+    CEdit inner;
+    ASSERT_TRUE(inner.Create(WS_CHILD | WS_VISIBLE, CRect(1, 2, 31, 12), &box, 1));
+    MessageLog log(inner, {WM_SETFONT, WM_WINDOWPOSCHANGING});
+    Restyle(Host(), Enlarging, ONBOARD);
+    EXPECT_EQ(log.All(), std::vector<Received>());
+    EXPECT_EQ(PlaceOf(box).Width(), 224);
+
+    ModifyChildWndsData nobody; // its parent is null
+    EXPECT_EQ(ModifyChildsForAppMode(box, reinterpret_cast<LPARAM>(&nobody)), 1);
+    EXPECT_EQ(ModifyChildsForAppMode(box, 0), 1);
+    EXPECT_EQ(ModifyChildsForAppMode(nullptr, reinterpret_cast<LPARAM>(&nobody)), 1);
+    EXPECT_EQ(PlaceOf(box).Width(), 224);
+}
+
+TEST_F(ChildRestylingTest, AbsurdFactorsDoNoHarm)
+{
+    CWnd& box = AddPlain("STATIC", CRect(10, 20, 110, 50));
+    auto& tabs = Add<CTabCtrl>(CRect(0, 0, 200, 100));
+    tabs.InsertItem(0, "tab");
+    AddPlain("COMBOBOX", CRect(10, 60, 110, 160), CBS_DROPDOWNLIST);
+    for (const double scale : {1e300, -1e300, std::numeric_limits<double>::infinity(),
+                               std::numeric_limits<double>::quiet_NaN()})
+    {
+        ModifyChildWndsData data;
+        data.parent = Host();
+        data.scale = scale;
+        data.mode = ONBOARD;
+        for (HWND child = ::GetWindow(Host(), GW_CHILD); child != nullptr;
+             child = ::GetWindow(child, GW_HWNDNEXT))
+        {
+            EXPECT_EQ(ModifyChildsForAppMode(child, reinterpret_cast<LPARAM>(&data)), 1);
+        }
+        box.MoveWindow(10, 20, 100, 30);
+    }
+}
+
+TEST_F(ChildRestylingTest, ControlsGetTheFontOfTheMode)
+{
+    static const char* const ComboClass = "CCUSTOMDROPLISTCOMBO";
+    WNDCLASS comboClass = {};
+    comboClass.lpfnWndProc = &::DefWindowProc;
+    comboClass.hInstance = AfxGetInstanceHandle();
+    comboClass.lpszClassName = ComboClass;
+    AfxRegisterClass(&comboClass);
+    const struct
+    {
+        const char* windowClass;
+        CFont* standard;
+        CFont* onBoard;
+    } cases[] = {
+        {"SysListView32", &CCustomListCtrl::GetStdFont(), &CCustomListCtrl::GetOnBoardFont()},
+        {"ListBox", &CCustomListBox::GetStdFont(), &CCustomListBox::GetOnBoardFont()},
+        {"Edit", &CCustomEdit::GetStdFont(), &CCustomEdit::GetOnBoardFont()},
+        {ComboClass, &CCustomDropListCombo::GetStdFont(), &CCustomDropListCombo::GetOnBoardFont()},
+        {"Static", nullptr, nullptr},
+        {"Button", nullptr, nullptr},
+    };
+    for (const auto& each : cases)
+    {
+        CWnd& control = AddPlain(each.windowClass, CRect(10, 20, 110, 50));
+        MessageLog log(control, {WM_SETFONT});
+        Restyle(Host(), Enlarging, EFB);
+        Restyle(Host(), 1.0, FULLSCREEN);
+        Restyle(Host(), Reducing, STD);
+        std::vector<Received> expected;
+        for (CFont* font : {each.onBoard, each.onBoard, each.standard})
+        {
+            if (font != nullptr)
+            {
+                ASSERT_NE(font->GetSafeHandle(), nullptr) << each.windowClass;
+                expected.push_back({WM_SETFONT, WPARAM(font->GetSafeHandle()), TRUE});
+            }
+        }
+        EXPECT_EQ(log.All(), expected) << each.windowClass;
+        control.DestroyWindow();
+    }
+}
+
+TEST_F(ChildRestylingTest, AReportListLaysOutItsFrameAgain)
+{
+    CWnd& list = AddPlain("SysListView32", CRect(10, 20, 110, 50), LVS_REPORT);
+    PlaceLog places(list);
+    Restyle(Host(), Enlarging, ONBOARD);
+    EXPECT_NE(places.asked.flags & SWP_FRAMECHANGED, 0U);
+    EXPECT_NE(places.asked.flags & SWP_NOZORDER, 0U);
+}
+
+TEST_F(ChildRestylingTest, AListBoxGetsThePlatformsBarBackInTheStandardModeOnly)
+{
+    CWnd& list = AddPlain("LISTBOX", CRect(10, 20, 110, 50), LBS_NOINTEGRALHEIGHT);
+    MessageLog log(list, {WM_STYLECHANGED});
+    Restyle(Host(), Enlarging, ONBOARD);
+    EXPECT_EQ(list.GetStyle() & WS_VSCROLL, 0U);
+    Restyle(Host(), Reducing, STD);
+    EXPECT_NE(list.GetStyle() & WS_VSCROLL, 0U);
+    const int changes = log.Count(WM_STYLECHANGED);
+    Restyle(Host(), Reducing, STD);
+    EXPECT_EQ(log.Count(WM_STYLECHANGED), changes) << "written only when it changes";
+}
+
+TEST_F(ChildRestylingTest, ACombosHeightTakesInItsList)
+{
+    for (const bool standard : {false, true})
+    {
+        CWnd& combo = AddPlain("COMBOBOX", CRect(10, 20, 110, 170), CBS_DROPDOWNLIST);
+        const CRect closed = PlaceOf(combo);
+        CRect dropped;
+        combo.SendMessage(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
+        ASSERT_GT(dropped.Height(), closed.Height());
+        PlaceLog places(combo);
+        const double scale = standard ? Reducing : Enlarging;
+        Restyle(Host(), scale, standard ? STD : ONBOARD);
+        EXPECT_EQ(places.asked.cy,
+                  int(closed.Height() * scale) +
+                      (standard ? dropped.Height() : int(dropped.Height() * scale)));
+        EXPECT_EQ(places.asked.x, int(standard ? 10 * scale / 1.32 : 10 * scale * 1.32));
+        combo.DestroyWindow();
+    }
+}
+
+TEST_F(ChildRestylingTest, AnAttachedRichEditChangesItsDefaultCharacters)
+{
+    auto& edit = Add<CRichEditCtrl>(CRect(10, 20, 210, 120), ES_MULTILINE);
+    const auto format = [](const CWnd& window) {
+        CHARFORMAT read = {};
+        read.cbSize = sizeof(read);
+        window.SendMessage(EM_GETCHARFORMAT, 0, reinterpret_cast<LPARAM>(&read));
+        return read;
+    };
+    const auto expect = [&](const char* face, LONG height, bool bold) {
+        const CHARFORMAT now = format(edit);
+        EXPECT_STREQ(now.szFaceName, face);
+        EXPECT_EQ(now.yHeight, height);
+        EXPECT_EQ((now.dwEffects & CFE_BOLD) != 0, bold);
+    };
+    CHARFORMAT start = format(edit);
+    start.dwMask = CFM_SIZE;
+    start.yHeight = 202;
+    edit.SetDefaultCharFormat(start);
+    MessageLog log(edit, {EM_SETBKGNDCOLOR});
+
+    Restyle(Host(), Enlarging, ONBOARD);
+    expect("Arial", 252, true); // 252.5
+    Restyle(Host(), 1.0, EFBFS);
+    expect("Arial", 315, true);
+    Restyle(Host(), Reducing, STD);
+    expect("MS Sans Serif", 252, false);
+    const Received background = {EM_SETBKGNDCOLOR, FALSE, RGB(180, 180, 180)};
+    EXPECT_EQ(log.All(), std::vector<Received>(3, background));
+
+    CWnd& plain = AddPlain("RichEdit20A", CRect(10, 20, 210, 120), ES_MULTILINE);
+    const CHARFORMAT before = format(plain);
+    Restyle(Host(), Enlarging, ONBOARD);
+    EXPECT_EQ(format(plain).yHeight, before.yHeight) << "nobody attached it as a rich edit";
+    EXPECT_NE(PlaceOf(plain).Width(), 200) << "but it moves";
+}
+
+TEST_F(ChildRestylingTest, AnAttachedTabControlSizesItsItems)
+{
+    auto& tabs = Add<CTabCtrl>(CRect(10, 20, 310, 120));
+    MessageLog log(tabs, {TCM_SETITEMSIZE});
+    Restyle(Host(), Enlarging, ONBOARD);
+    EXPECT_EQ(log.All(), std::vector<Received>()) << "it has no item yet";
+    tabs.InsertItem(0, "First");
+    tabs.InsertItem(1, "Second, longer");
+    for (const bool standard : {false, true})
+    {
+        CRect item;
+        ASSERT_TRUE(tabs.GetItemRect(0, &item));
+        log.Clear();
+        const double scale = standard ? Reducing : Enlarging;
+        Restyle(Host(), scale, standard ? STD : ONBOARD);
+        const int width = int(standard ? item.Width() * scale / 1.32 : item.Width() * scale * 1.32);
+        const std::vector<Received> expected = {
+            {TCM_SETITEMSIZE, 0, MAKELPARAM(width, int(item.Height() * scale) + 3)}};
+        EXPECT_EQ(log.All(), expected);
+    }
+
+    CWnd& plain = AddPlain("SysTabControl32", CRect(10, 20, 210, 120));
+    TCITEM item = {};
+    item.mask = TCIF_TEXT;
+    item.pszText = const_cast<LPSTR>("tab");
+    plain.SendMessage(TCM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&item));
+    MessageLog plainLog(plain, {TCM_SETITEMSIZE});
+    Restyle(Host(), Enlarging, ONBOARD);
+    EXPECT_EQ(plainLog.All(), std::vector<Received>());
+}
+
+} // namespace

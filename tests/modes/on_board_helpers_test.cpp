@@ -1,0 +1,205 @@
+#include "AppAccess.h"
+#include "OnBoardUI.h"
+#include "support/Canvas.h"
+#include "support/WindowTest.h"
+
+#include <cmath>
+
+namespace {
+
+class OnBoardHelpersTest : public WindowTest
+{};
+
+TEST_F(OnBoardHelpersTest, OnBoardFontsComeFromTheSystemFont)
+{
+    LOGFONT stock = {};
+    ::GetObject(::GetStockObject(SYSTEM_FONT), sizeof(stock), &stock);
+    CFont font;
+    ASSERT_NE(CreateOnBoardFont(font, 1.0, 0, 400), 0);
+    const int objects = GraphicsObjects();
+    for (const double factor : {1.0, 1.3, 1.7, 0.49, -1.3})
+    {
+        ASSERT_NE(CreateOnBoardFont(font, factor, 5, 700), 0) << "the same object again";
+        LOGFONT expected = stock;
+        ::lstrcpy(expected.lfFaceName, "Arial");
+        expected.lfHeight = LONG(std::trunc(stock.lfHeight * factor));
+        expected.lfWidth = 5;
+        expected.lfWeight = 700;
+        LOGFONT made = {};
+        font.GetLogFont(&made);
+        EXPECT_STREQ(made.lfFaceName, expected.lfFaceName);
+        EXPECT_EQ(std::memcmp(&made, &expected, offsetof(LOGFONT, lfFaceName)), 0) << factor;
+    }
+    EXPECT_EQ(GraphicsObjects(), objects) << "the one before is not left behind";
+}
+
+TEST_F(OnBoardHelpersTest, PensHaveTheirStyleWidthAndColour)
+{
+    const struct
+    {
+        int (*create)(CPen&, unsigned long);
+        UINT style;
+        LONG width;
+    } cases[] = {{&CreateOnBoardOutlinePen, PS_INSIDEFRAME, 3},
+                 {&CreateOnBoardFocusPen, PS_DOT, 1}};
+    CPen pen;
+    for (const auto& each : cases)
+    {
+        ASSERT_NE(each.create(pen, RGB(70, 80, 90)), 0);
+        LOGPEN made = {};
+        pen.GetLogPen(&made);
+        EXPECT_EQ(made.lopnStyle, each.style);
+        EXPECT_EQ(made.lopnWidth.x, each.width);
+        EXPECT_EQ(made.lopnColor, RGB(70, 80, 90));
+    }
+}
+
+TEST_F(OnBoardHelpersTest, GradientsRunFromCornerToCorner)
+{
+    constexpr COLORREF From = RGB(200, 0, 40);
+    constexpr COLORREF To = RGB(0, 100, 40);
+    for (const bool vertical : {false, true})
+    {
+        Canvas canvas(120, 120);
+        CRect area(10, 10, 110, 110);
+        ASSERT_TRUE(GradientFill(&canvas.DC(), area, From, To, vertical ? 1 : 0));
+        const auto at = [&](int along) {
+            return vertical ? canvas.At(60, along) : canvas.At(along, 60);
+        };
+        EXPECT_EQ(at(10), From);
+        EXPECT_EQ(at(60), RGB(100, 50, 40));
+        EXPECT_NEAR(GetRValue(at(109)), 0, 3);
+        EXPECT_NEAR(GetGValue(at(109)), 100, 3);
+        EXPECT_EQ(canvas.At(30, 30), vertical ? canvas.At(90, 30) : canvas.At(30, 90));
+        EXPECT_EQ(at(9), Canvas::Untouched);
+        EXPECT_EQ(at(110), Canvas::Untouched);
+    }
+    Canvas canvas(20, 20);
+    CRect area(0, 0, 20, 20);
+    EXPECT_FALSE(GradientFill(nullptr, area, From, To, 0));
+    EXPECT_FALSE(GradientFill(&canvas.DC(), area, From, To, 77)) << "no such mode";
+}
+
+TEST_F(OnBoardHelpersTest, TheStandardHeightFollowsTheResolution)
+{
+    const int before = COnBoardUIGeneral::GetStdCtrllfHeight();
+    const HDC screen = ::GetDC(nullptr);
+    const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
+    ::ReleaseDC(nullptr, screen);
+    COnBoardUIGeneral::SetStdModeGoals();
+    EXPECT_EQ(COnBoardUIGeneral::GetStdCtrllfHeight(), 7920 / dpi + 1);
+    COnBoardUIGeneral::m_std_ctrl_lf_height = before;
+}
+
+TEST_F(OnBoardHelpersTest, SystemColoursComeAndGoWithTheOnBoardModes)
+{
+    const COLORREF own = ::GetSysColor(COLOR_HIGHLIGHT);
+    const COLORREF ownText = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
+    EXPECT_EQ(COnBoardUIGeneral::GetOrgHighlight(), own);
+    EXPECT_EQ(COnBoardUIGeneral::GetOrgHighlightText(), ownText);
+    for (const APPMODE mode : {FULLSCREEN, EFBFS})
+    {
+        const ModeScope scope(mode, ModeScope::SetColors);
+        EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHT), RGB(50, 80, 110));
+        EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHTTEXT), RGB(230, 230, 230));
+        EXPECT_EQ(COnBoardUIGeneral::GetOrgHighlight(), own) << "kept for the way back";
+        OnBoardRestoreSysColors();
+        EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHT), own);
+        OnBoardSetSysColors(mode);
+    }
+    EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHT), own);
+    EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHTTEXT), ownText);
+    {
+        const ModeScope scope(ONBOARD);
+        EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHT), own) << "the mode alone leaves them alone";
+    }
+}
+
+TEST_F(OnBoardHelpersTest, ADialogsFontReachesItsDirectChildren)
+{
+    auto& panel = Add<CWnd>(CRect(0, 0, 200, 200));
+    auto& label = Add<CStatic>(CRect(0, 0, 50, 20));
+    auto& inner = Add<CStatic>(CRect(0, 0, 20, 20));
+    label.SetParent(&panel);
+    inner.SetParent(&label);
+    MessageLog panelLog(panel, {WM_SETFONT});
+    MessageLog labelLog(label, {WM_SETFONT});
+    MessageLog innerLog(inner, {WM_SETFONT});
+    CFont font;
+    CreateOnBoardFont(font, 1.7, 0, 400);
+    ChangeDialogFont(&panel, &font);
+    ChangeDialogFont(&panel, nullptr);
+    ChangeDialogFont(nullptr, &font);
+    CWnd noWindow;
+    ChangeDialogFont(&noWindow, &font);
+    const std::vector<Received> expected = {{WM_SETFONT, WPARAM(font.GetSafeHandle()), TRUE},
+                                            {WM_SETFONT, 0, TRUE}};
+    EXPECT_EQ(panelLog.All(), expected);
+    EXPECT_EQ(labelLog.All(), expected);
+    EXPECT_EQ(innerLog.All(), std::vector<Received>());
+}
+
+// A host with a given area, which answers false all the same: the values count.
+class AreaHost : public IAppAccess
+{
+public:
+    CRect area;
+    int asked = -1;
+
+    const char* GetProviderName() override { return "area"; }
+    bool GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, int& height) override
+    {
+        asked = int(type);
+        x = area.left;
+        y = area.top;
+        width = area.Width();
+        height = area.Height();
+        return false;
+    }
+};
+
+class PlainHost : public IAppAccess
+{
+public:
+    const char* GetProviderName() override { return "plain"; }
+};
+
+TEST_F(OnBoardHelpersTest, WindowsAreKeptInsideTheHostsArea)
+{
+    CWnd window;
+    ASSERT_TRUE(
+        window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
+    AreaHost host;
+    host.area = CRect(100, 50, 500, 350);
+    const struct
+    {
+        CRect before;
+        CPoint after;
+    } cases[] = {
+        {CRect(CPoint(150, 100), CSize(200, 100)), CPoint(150, 100)}, // inside
+        {CRect(CPoint(300, 250), CSize(200, 100)), CPoint(300, 250)}, // in the corner
+        {CRect(CPoint(301, 251), CSize(200, 100)), CPoint(300, 250)},
+        {CRect(CPoint(99, 49), CSize(200, 100)), CPoint(100, 50)},
+        {CRect(CPoint(-500, 900), CSize(200, 100)), CPoint(100, 250)},
+        {CRect(CPoint(450, 60), CSize(600, 100)), CPoint(100, 60)},   // too wide: left
+        {CRect(CPoint(150, 60), CSize(200, 500)), CPoint(150, -150)}, // too tall: bottom
+    };
+    for (const auto& each : cases)
+    {
+        window.MoveWindow(&each.before);
+        EnsureWndVisible(&host, window);
+        EXPECT_EQ(WindowRectOf(window), CRect(each.after, each.before.Size()))
+            << each.before.left << ", " << each.before.top;
+        EXPECT_EQ(host.asked, 1);
+    }
+
+    PlainHost plain;
+    window.MoveWindow(300, 300, 200, 100);
+    EnsureWndVisible(nullptr, window);
+    EXPECT_EQ(WindowRectOf(window), CRect(300, 300, 500, 400));
+    EnsureWndVisible(&plain, window);
+    EXPECT_EQ(WindowRectOf(window), CRect(0, -100, 200, 0)) << "an empty area counts too";
+    EnsureWndVisible(&host, nullptr);
+}
+
+} // namespace

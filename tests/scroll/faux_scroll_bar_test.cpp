@@ -1,0 +1,291 @@
+#include "FauxScrollBar.h"
+#include "support/ModeScope.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+namespace {
+
+using Bar = CFauxScrollBar;
+
+const CRect VertArea(100, 20, 155, 420); // buttons 32 long, thumb 41, free track 295 from 52
+const CRect HorzArea(20, 100, 420, 155);
+
+class FauxScrollBarTest : public testing::Test
+{
+protected:
+    FauxScrollBarTest()
+        : vert(SB_VERT)
+        , horz(SB_HORZ)
+    {
+        vert.SetArea(VertArea);
+        horz.SetArea(HorzArea);
+    }
+
+    static int ThumbStart(const Bar& bar)
+    {
+        const CRect thumb = bar.GetPartArea(Bar::PRESSED_THUMB);
+        return bar.GetOrientation() == SB_HORZ ? thumb.left : thumb.top;
+    }
+
+    ModeScope mode{ONBOARD};
+    Bar vert;
+    Bar horz;
+};
+
+TEST_F(FauxScrollBarTest, SettingGivesThePreviousAndClamps)
+{
+    vert.SetScrollRange(0, 20);
+    EXPECT_EQ(vert.SetScrollPos(7), 0);
+    EXPECT_EQ(vert.SetScrollPos(99), 7);
+    EXPECT_EQ(vert.GetScrollPos(), 20);
+    EXPECT_EQ(vert.IncrementScrollPos(-8), 20);
+    EXPECT_EQ(vert.GetScrollPos(), 12);
+    vert.IncrementScrollPos(INT_MIN);
+    EXPECT_EQ(vert.GetScrollPos(), 0);
+    EXPECT_EQ(vert.SetPageSize(6), 1);
+    EXPECT_EQ(vert.SetPageSize(3), 6);
+    vert.SetScrollPos(15);
+    vert.SetScrollRange(0, 10); // a shrinking range takes the position with it
+    EXPECT_EQ(vert.GetScrollPos(), 10);
+}
+
+TEST_F(FauxScrollBarTest, ScrollCodesMoveWithinTheRange)
+{
+    vert.SetScrollRange(2, 20);
+    vert.SetPageSize(6);
+    struct Case
+    {
+        int from;
+        UINT code;
+        int to;
+    };
+    const Case cases[] = {
+        {5, SB_LINEUP, 4},    {2, SB_LINEUP, 2},  {5, SB_LINEDOWN, 6},      {20, SB_LINEDOWN, 20},
+        {10, SB_PAGEUP, 4},   {5, SB_PAGEUP, 2},  {10, SB_PAGEDOWN, 16},    {18, SB_PAGEDOWN, 20},
+        {9, SB_TOP, 2},       {9, SB_BOTTOM, 20}, {9, SB_THUMBPOSITION, 9}, {9, SB_THUMBTRACK, 9},
+        {9, SB_ENDSCROLL, 9}, {9, 77, 9},
+    };
+    for (const Case& c : cases)
+    {
+        vert.SetScrollPos(c.from);
+        vert.HandleScroll(c.code, 17, nullptr);
+        EXPECT_EQ(vert.GetScrollPos(), c.to) << "code " << c.code << " from " << c.from;
+    }
+    vert.SetScrollPos(9);
+    vert.SetPageSize(-4);
+    vert.HandleScroll(SB_PAGEUP);
+    EXPECT_EQ(vert.GetScrollPos(), 9);
+    vert.SetPageSize(INT_MAX);
+    vert.HandleScroll(SB_PAGEDOWN);
+    EXPECT_EQ(vert.GetScrollPos(), 20);
+}
+
+TEST_F(FauxScrollBarTest, ScrollInfoIsAppliedInItsFixedOrder)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_PAGE | SIF_POS | SIF_RANGE;
+    info.nMax = 50;
+    info.nPage = 8;
+    info.nPos = 30;
+    // The position comes before the range that would hold it.
+    EXPECT_EQ(vert.SetScrollInfo(&info), 0);
+    EXPECT_EQ(vert.SetScrollInfo(&info), 30);
+    info.fMask = SIF_ALL;
+    info.nMax = 60;
+    info.nTrackPos = 55;
+    EXPECT_EQ(vert.SetScrollInfo(&info), 55); // after range and position
+    info.fMask = SIF_TRACKPOS;
+    info.nTrackPos = 4;
+    info.nPage = 99;
+    EXPECT_EQ(vert.SetScrollInfo(&info), 4);
+    EXPECT_EQ(vert.GetPageSize(), 8);
+
+    SCROLLINFO out = {};
+    out.nMax = -7;
+    EXPECT_NE(vert.GetScrollInfo(&out, SIF_POS | SIF_PAGE), 0);
+    EXPECT_EQ(out.nPos, 4);
+    EXPECT_EQ(out.nPage, 8u);
+    EXPECT_EQ(out.nMax, -7);
+    vert.GetScrollInfo(&out, SIF_RANGE | SIF_TRACKPOS);
+    EXPECT_EQ(out.nMax, 60);
+    EXPECT_EQ(out.nTrackPos, 4);
+    EXPECT_EQ(vert.GetScrollInfo(nullptr, SIF_ALL), 0);
+
+    EXPECT_EQ(vert.SetScrollInfo(nullptr, FALSE), 4);
+    EXPECT_EQ(vert.ShowScrollBar(), 0);
+    EXPECT_EQ(vert.GetPartsShown(), 1);
+    vert.ShowScrollBar(FALSE);
+    EXPECT_EQ(vert.GetPartsShown(), 0);
+}
+
+TEST_F(FauxScrollBarTest, TheThumbFollowsPositionRangeAndArea)
+{
+    vert.SetScrollRange(0, 11);
+    horz.SetScrollRange(0, 10);
+    EXPECT_DOUBLE_EQ(vert.GetPixelsPerScroll(), 29.5);
+    EXPECT_DOUBLE_EQ(horz.GetPixelsPerScroll(), 29.5);
+    vert.SetScrollPos(3);
+    EXPECT_EQ(vert.GetPartArea(Bar::PRESSED_THUMB), CRect(104, 140, 151, 181)); // 88.5 truncated
+    vert.SetScrollPos(11);
+    EXPECT_EQ(ThumbStart(vert), 347); // 324 reaches past the last place
+    horz.SetScrollPos(10);
+    EXPECT_EQ(horz.GetPartArea(Bar::PRESSED_THUMB), CRect(347, 104, 388, 151));
+
+    vert.SetScrollPos(4);
+    vert.SetScrollRange(0, 60); // a longer range moves the thumb back at once
+    EXPECT_EQ(ThumbStart(vert), 72);
+    vert.SetScrollRange(0, 1);
+    vert.SetScrollPos(1);
+    EXPECT_EQ(ThumbStart(vert), 52);
+
+    // The raw position counts, not its distance to the minimum.
+    vert.SetScrollRange(5, 16);
+    vert.SetScrollPos(5);
+    EXPECT_EQ(ThumbStart(vert), 52 + 147);
+
+    EXPECT_EQ(vert.SetHeight(200, true), 400);
+    EXPECT_EQ(vert.GetArea(), CRect(100, 20, 155, 220));
+    EXPECT_EQ(vert.SetHeight(300, false), 200);
+    EXPECT_EQ(vert.GetArea(), CRect(100, -80, 155, 220));
+    EXPECT_EQ(vert.GetPartArea(Bar::PRESSED_SECOND), CRect(100, 188, 155, 220));
+
+    // The look follows the mode when the area is set, not before.
+    const ModeScope standard(STD);
+    EXPECT_EQ(vert.GetPartArea(Bar::PRESSED_SECOND), CRect(100, 188, 155, 220));
+    vert.SetArea(VertArea);
+    EXPECT_EQ(vert.GetPartArea(Bar::PRESSED_SECOND), CRect(100, 365, 154, 420));
+}
+
+TEST_F(FauxScrollBarTest, HitTestsFindEachPart)
+{
+    vert.SetScrollRange(0, 11);
+    vert.SetScrollPos(3); // thumb from 140 to 181
+    horz.SetScrollRange(0, 10);
+    struct Case
+    {
+        int along, across;
+        Bar::ePRESSED part;
+    };
+    const Case cases[] = {
+        {20, 100, Bar::PRESSED_FIRST},        {51, 154, Bar::PRESSED_FIRST},
+        {388, 100, Bar::PRESSED_SECOND},      {419, 154, Bar::PRESSED_SECOND},
+        {140, 104, Bar::PRESSED_THUMB},       {180, 150, Bar::PRESSED_THUMB},
+        {52, 103, Bar::PRESSED_BEFORE_THUMB}, {139, 151, Bar::PRESSED_BEFORE_THUMB},
+        {181, 103, Bar::PRESSED_AFTER_THUMB}, {387, 151, Bar::PRESSED_AFTER_THUMB},
+        {100, 102, Bar::PRESSED_NONE},        {300, 152, Bar::PRESSED_NONE}, // margins
+        {160, 103, Bar::PRESSED_NONE},                                       // beside the thumb
+        {19, 120, Bar::PRESSED_NONE},         {420, 120, Bar::PRESSED_NONE},
+        {200, 99, Bar::PRESSED_NONE},         {200, 155, Bar::PRESSED_NONE},
+    };
+    horz.SetScrollPos(3); // the same place along the bar
+    for (const Case& c : cases)
+    {
+        SCOPED_TRACE(testing::Message() << c.along << ", " << c.across);
+        const bool hit = c.part != Bar::PRESSED_NONE;
+        EXPECT_EQ(vert.GetHitTest(CPoint(c.across, c.along)), hit ? UINT(HTVSCROLL) : 0u);
+        EXPECT_EQ(vert.GetLastHit(), c.part);
+        EXPECT_EQ(horz.GetHitTest(CPoint(c.along, c.across)), hit ? UINT(HTHSCROLL) : 0u);
+        EXPECT_EQ(horz.GetLastHit(), c.part);
+    }
+}
+
+TEST_F(FauxScrollBarTest, ADragFollowsThePixels)
+{
+    vert.SetScrollRange(0, 11); // 29.5 a step; band 1 starts 14.75 below the top place
+    EXPECT_EQ(vert.IncrementScrollByPixels(14), 14);
+    EXPECT_EQ(vert.GetScrollPos(), 0);
+    // What a host does between two moves leaves the thumb where the pointer has it.
+    vert.HandleScroll(SB_THUMBPOSITION);
+    vert.SetScrollRange(0, 11);
+    EXPECT_EQ(vert.IncrementScrollByPixels(1), 1);
+    EXPECT_EQ(vert.GetScrollPos(), 1);
+    EXPECT_EQ(ThumbStart(vert), 67);
+    EXPECT_EQ(vert.IncrementScrollByPixels(10000), 280);
+    EXPECT_EQ(vert.GetScrollPos(), 10); // the last band
+    EXPECT_EQ(vert.IncrementScrollByPixels(INT_MIN), -295);
+    EXPECT_EQ(vert.GetScrollPos(), 0);
+
+    // A range that grows during the drag takes its own steps at once.
+    vert.SetScrollRange(0, 101);
+    EXPECT_EQ(vert.IncrementScrollByPixels(30), 30);
+    EXPECT_EQ(vert.GetScrollPos(), 10); // 2.95 a step
+}
+
+TEST_F(FauxScrollBarTest, AHorizontalDragHasOneBandLessThanPlaces)
+{
+    horz.SetScrollRange(0, 10); // 29.5 a step, bands up to 280.25
+    horz.IncrementScrollByPixels(280);
+    EXPECT_EQ(horz.GetScrollPos(), 9);
+    horz.IncrementScrollByPixels(15);
+    EXPECT_EQ(horz.GetScrollPos(), 9); // beyond the last band the position stays
+    horz.SetScrollPos(10);
+    horz.IncrementScrollByPixels(-10);
+    EXPECT_EQ(horz.GetScrollPos(), 10);
+    horz.IncrementScrollByPixels(-5);
+    EXPECT_EQ(horz.GetScrollPos(), 9);
+
+    horz.SetScrollRange(0, 1); // no step length and so no bands, but the near end is the first
+    horz.SetScrollPos(1);
+    horz.IncrementScrollByPixels(40);
+    EXPECT_EQ(horz.GetScrollPos(), 1);
+    horz.IncrementScrollByPixels(-100);
+    EXPECT_EQ(horz.GetScrollPos(), 0);
+}
+
+TEST_F(FauxScrollBarTest, DragsWithoutStepsOrDistanceChangeNothing)
+{
+    EXPECT_EQ(vert.IncrementScrollByPixels(50), 0);
+    vert.SetScrollRange(0, 5000); // many positions to a pixel
+    vert.SetScrollPos(7);
+    const int before = ThumbStart(vert);
+    EXPECT_EQ(vert.IncrementScrollByPixels(0), 0);
+    EXPECT_EQ(vert.GetScrollPos(), 7);
+    EXPECT_EQ(ThumbStart(vert), before);
+    // Bands count from 0, so a range that starts later holds the position at its own ends.
+    vert.SetScrollRange(1000, 1100);
+    vert.IncrementScrollByPixels(20);
+    EXPECT_EQ(vert.GetScrollPos(), 1000);
+}
+
+TEST_F(FauxScrollBarTest, WithstandsAnyRangeAndArea)
+{
+    for (Bar* bar : {&vert, &horz})
+    {
+        bar->SetScrollRange(INT_MIN, INT_MAX); // as cheap as any other
+        bar->SetScrollPos(INT_MAX);
+        EXPECT_EQ(ThumbStart(*bar), 199); // half of all positions are above 0
+        bar->SetScrollPos(INT_MIN);
+        bar->HandleScroll(SB_LINEUP);
+        EXPECT_EQ(bar->GetScrollPos(), INT_MIN);
+        bar->SetScrollRange(0, 2000000001);
+        EXPECT_EQ(bar->IncrementScrollByPixels(295), 295);
+        EXPECT_EQ(bar->GetScrollPos(), bar == &vert ? 2000000000 : 0);
+
+        bar->SetScrollRange(30, 10); // no steps: the minimum is all there is
+        EXPECT_EQ(bar->GetScrollPos(), 30);
+        bar->HandleScroll(SB_BOTTOM);
+        EXPECT_EQ(bar->GetScrollPos(), 30);
+        EXPECT_EQ(bar->GetPixelsPerScroll(), 0.0);
+
+        bar->SetScrollRange(0, 100);
+        for (const CRect& area : {CRect(0, 0, 0, 0), CRect(5, 5, 60, 30), CRect(90, 90, 10, 10),
+                                  CRect(INT_MIN, INT_MIN, INT_MAX, INT_MAX)})
+        {
+            bar->SetArea(area);
+            bar->SetScrollPos(50);
+            bar->IncrementScrollByPixels(INT_MAX);
+            bar->IncrementScrollByPixels(INT_MIN);
+            bar->GetHitTest(CPoint(20, 20));
+            const CRect thumb = bar->GetPartArea(Bar::PRESSED_THUMB);
+            EXPECT_LE(thumb.top, thumb.bottom);
+            EXPECT_LE(thumb.left, thumb.right);
+            EXPECT_GE(bar->GetScrollPos(), 0);
+            EXPECT_LE(bar->GetScrollPos(), 100);
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,195 @@
+#include "support/Input.h"
+
+#include "support/Pumping.h"
+
+namespace {
+
+void Send(const INPUT& input)
+{
+    ::SendInput(1, const_cast<INPUT*>(&input), sizeof(input));
+}
+
+void SendMouse(DWORD flags, CPoint point = CPoint(0, 0), int data = 0)
+{
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = flags;
+    input.mi.mouseData = DWORD(data);
+    if (flags & MOUSEEVENTF_ABSOLUTE)
+    {
+        // One more than the quotient: the system rounds down on the way back.
+        input.mi.dx = point.x * 65536 / ::GetSystemMetrics(SM_CXSCREEN) + 1;
+        input.mi.dy = point.y * 65536 / ::GetSystemMetrics(SM_CYSCREEN) + 1;
+    }
+    Send(input);
+}
+
+void SendMove(CPoint point)
+{
+    SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, point);
+}
+
+void SendKey(UINT key, DWORD flags)
+{
+    INPUT input = {};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = WORD(key);
+    input.ki.wScan = WORD(::MapVirtualKey(key, MAPVK_VK_TO_VSC));
+    input.ki.dwFlags = flags;
+    if ((key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE)
+    {
+        input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY; // not those of the number pad
+    }
+    Send(input);
+}
+
+void MouseAndPump(DWORD flags, int data = 0)
+{
+    SendMouse(flags, CPoint(0, 0), data);
+    PumpAll();
+}
+
+} // namespace
+
+CPoint ClientPoint(const CWnd& window, CPoint point)
+{
+    window.ClientToScreen(&point);
+    return point;
+}
+
+CPoint WindowPoint(const CWnd& window, CPoint point)
+{
+    return WindowRectOf(window).TopLeft() + point;
+}
+
+CRect ClientRectOf(const CWnd& window)
+{
+    CRect rect;
+    window.GetClientRect(&rect);
+    return rect;
+}
+
+CRect WindowRectOf(const CWnd& window)
+{
+    CRect rect;
+    window.GetWindowRect(&rect);
+    return rect;
+}
+
+void MoveTo(CPoint point)
+{
+    SendMove(point);
+    PumpAll();
+}
+
+void Press()
+{
+    MouseAndPump(MOUSEEVENTF_LEFTDOWN);
+}
+
+void Release()
+{
+    MouseAndPump(MOUSEEVENTF_LEFTUP);
+}
+
+void RightPress()
+{
+    MouseAndPump(MOUSEEVENTF_RIGHTDOWN);
+}
+
+void RightRelease()
+{
+    MouseAndPump(MOUSEEVENTF_RIGHTUP);
+}
+
+bool IsPressed()
+{
+    return (::GetAsyncKeyState(VK_LBUTTON) & 0x8000) != 0;
+}
+
+void Click(CPoint point)
+{
+    MoveTo(point);
+    Press();
+    Release();
+}
+
+void DoubleClick(CPoint point)
+{
+    Click(point);
+    Press();
+    Release();
+}
+
+void Wheel(int delta)
+{
+    MouseAndPump(MOUSEEVENTF_WHEEL, delta);
+}
+
+void DragTo(CPoint to, int steps)
+{
+    CPoint from;
+    ::GetCursorPos(&from);
+    for (int step = 1; step <= steps; ++step)
+    {
+        MoveTo(CPoint(from.x + (to.x - from.x) * step / steps,
+                      from.y + (to.y - from.y) * step / steps));
+    }
+}
+
+void Drag(CPoint from, CPoint to, int steps)
+{
+    MoveTo(from);
+    Press();
+    DragTo(to, steps);
+    Release();
+}
+
+void RestPointer()
+{
+    MoveTo(CPoint(::GetSystemMetrics(SM_CXSCREEN) - 1, ::GetSystemMetrics(SM_CYSCREEN) - 1));
+}
+
+void QueueClick(CPoint point)
+{
+    SendMove(point);
+    SendMouse(MOUSEEVENTF_LEFTDOWN);
+    SendMouse(MOUSEEVENTF_LEFTUP);
+    PumpAll();
+}
+
+void KeyDown(UINT key)
+{
+    SendKey(key, 0);
+    PumpAll();
+}
+
+void KeyUp(UINT key)
+{
+    SendKey(key, KEYEVENTF_KEYUP);
+    PumpAll();
+}
+
+void TypeKey(UINT key)
+{
+    KeyDown(key);
+    KeyUp(key);
+}
+
+void TypeText(const char* text)
+{
+    for (; *text != '\0'; ++text)
+    {
+        const SHORT key = ::VkKeyScan(*text);
+        const bool shift = (HIBYTE(key) & 1) != 0;
+        if (shift)
+        {
+            KeyDown(VK_SHIFT);
+        }
+        TypeKey(LOBYTE(key));
+        if (shift)
+        {
+            KeyUp(VK_SHIFT);
+        }
+    }
+}

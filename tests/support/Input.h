@@ -1,0 +1,36 @@
+#pragma once
+
+#include <afxwin.h>
+
+// The pointer and the keyboard, through the system, exact to the pixel. All points are screen
+// points; each verb pumps afterwards, so what it causes has happened when it returns.
+
+// Screen point of a point of a window's client area, or of the window with its non-client area.
+CPoint ClientPoint(const CWnd& window, CPoint point);
+CPoint WindowPoint(const CWnd& window, CPoint point);
+
+CRect ClientRectOf(const CWnd& window); // from (0, 0)
+CRect WindowRectOf(const CWnd& window); // on the screen
+
+void MoveTo(CPoint point);
+void Press();
+void Release();
+void RightPress();
+void RightRelease();
+bool IsPressed(); // the left button, asked of the system now
+void Click(CPoint point);
+void DoubleClick(CPoint point);
+void Wheel(int delta); // at the pointer's place
+// Presses at from, goes to to in so many moves, releases. DragTo does only the moves.
+void Drag(CPoint from, CPoint to, int steps = 4);
+void DragTo(CPoint to, int steps = 4);
+// Into the corner, away from every window of a test.
+void RestPointer();
+
+// For a control that runs a loop of its own on a press: both are queued before anything is pumped.
+void QueueClick(CPoint point);
+
+void KeyDown(UINT key);
+void KeyUp(UINT key);
+void TypeKey(UINT key);
+void TypeText(const char* text);

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+// A picture of what is on the screen.
+class Pixels
+{
+public:
+    Pixels() = default;
+    // Copies rect out of a device context.
+    Pixels(HDC source, const CRect& rect);
+
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
+    COLORREF At(int x, int y) const; // CLR_INVALID outside
+    COLORREF At(CPoint point) const { return At(point.x, point.y); }
+    int Count(COLORREF color, const CRect& within) const;
+    int Count(COLORREF color) const { return Count(color, CRect(0, 0, m_width, m_height)); }
+    // The smallest rectangle that holds every pixel that differs; all of it if the sizes do.
+    CRect Difference(const Pixels& other) const;
+
+    // For looking at when a test fails: SaveBmp("Z:\\tmp\\list.bmp").
+    bool SaveBmp(const std::string& path) const;
+
+    friend bool operator==(const Pixels&, const Pixels&) = default;
+    friend void PrintTo(const Pixels& pixels, std::ostream* out);
+
+private:
+    int m_width = 0;
+    int m_height = 0;
+    std::vector<DWORD> m_pixels; // 0x00RRGGBB, from the top
+};
+
+// A window with its non-client area, from its top left corner. Paints nothing first: PumpAll()
+// before it to see the window settled, or not, to see what was drawn at once.
+Pixels WindowPixels(const CWnd& window);
+
+// A part of the screen, in screen coordinates.
+Pixels ScreenPixels(const CRect& rect);

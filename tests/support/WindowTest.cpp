@@ -1,0 +1,59 @@
+#include "support/WindowTest.h"
+
+#include <algorithm>
+
+namespace {
+
+template <class Window> void ExpectEmpty(std::vector<Window*>& registry, const char* name)
+{
+    EXPECT_TRUE(registry.empty()) << "left behind: " << registry.size() << " registered " << name;
+    registry.clear();
+}
+
+} // namespace
+
+void WindowTest::SetUp()
+{
+    m_host = std::make_unique<HostWindow>();
+    RestPointer();
+}
+
+void WindowTest::TearDown()
+{
+    // While the windows still live: their end would free these by itself.
+    EXPECT_FALSE(IsPressed()) << "left behind: the mouse button is down";
+    EXPECT_EQ(::GetCapture(), nullptr) << "left behind: the mouse capture";
+    if (IsPressed())
+    {
+        Release();
+    }
+    ::ReleaseCapture();
+
+    if (m_host != nullptr)
+    {
+        m_host->hook = nullptr;
+    }
+    m_owned.clear();
+    m_host.reset();
+    PumpAll();
+
+    const std::vector<HWND> windows = TopLevelWindows();
+    EXPECT_EQ(windows.size(), 0U) << "left behind: windows";
+    for (const HWND window : windows)
+    {
+        ::DestroyWindow(window);
+    }
+    EXPECT_EQ(COnBoardUIGeneral::GetAppMode(), STD) << "left behind: a display mode";
+    ExpectEmpty(COnBoardUIGeneral::m_createdformviews, "form views");
+    ExpectEmpty(COnBoardUIGeneral::m_createddialogs, "dialogs");
+    ExpectEmpty(COnBoardUIGeneral::m_createddlcs, "drop-list combos");
+    ExpectEmpty(COnBoardUIGeneral::m_createdPropPages, "property pages");
+    ExpectEmpty(COnBoardUIGeneral::m_createdPropSheets, "property sheets");
+    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_FALSE(TakeQuit()) << "left behind: WM_QUIT";
+}
+
+void WindowTest::Remove(const CWnd& control)
+{
+    std::erase_if(m_owned, [&](const auto& owned) { return owned.get() == &control; });
+}

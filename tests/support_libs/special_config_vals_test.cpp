@@ -1,0 +1,75 @@
+#include "GMSUtil.h"
+#include "SpecialConfigVals.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <string>
+
+namespace {
+class SpecialConfigVals : public testing::Test
+{
+protected:
+    SpecialConfigVals() { ClearSpecialConfigVals(); }
+    ~SpecialConfigVals() override { ClearSpecialConfigVals(); }
+};
+
+TEST_F(SpecialConfigVals, AnswersTheDefaultUntilSetAndAfterTaking)
+{
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "ShowEntireDialog", 7), 7);
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "Title", "none"), "none");
+
+    SetSpecialConfigVal("Dialog", "ShowEntireDialog", 0);
+    SetSpecialConfigVal("Dialog", "Title", "");
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "ShowEntireDialog", 7), 0);
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "Title", "none"), "");
+
+    SetSpecialConfigVal("Dialog", "ShowEntireDialog", 1);
+    SetSpecialConfigVal("Dialog", "Title", nullptr);
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "ShowEntireDialog", 7), 1);
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "Title", "none"), "none");
+
+    ClearSpecialConfigVals();
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "ShowEntireDialog", 7), 7);
+}
+
+TEST_F(SpecialConfigVals, NamesIgnoreCaseAndKeepSectionAndKeyApart)
+{
+    SetSpecialConfigVal("Dialog", "ShowEntire", 1);
+    SetSpecialConfigVal("DIALOG", "showentire", 2);
+    EXPECT_EQ(GetSpecialConfigVal("dialog", "SHOWENTIRE", 0), 2);
+
+    EXPECT_EQ(GetSpecialConfigVal("DialogShow", "Entire", 0), 0);
+    EXPECT_EQ(GetSpecialConfigVal("ShowEntire", "Dialog", 0), 0);
+    EXPECT_EQ(GetSpecialConfigVal("", "", 0), 0);
+}
+
+TEST_F(SpecialConfigVals, NumbersAndTextsAreOneTable)
+{
+    SetSpecialConfigVal("Map", "Zoom", INT_MIN);
+    EXPECT_EQ(GetSpecialConfigVal("Map", "Zoom", ""), "-2147483648");
+    EXPECT_EQ(GetSpecialConfigVal("Map", "Zoom", 0), INT_MIN);
+
+    const struct
+    {
+        const char* text;
+        int number;
+    } cases[] = {{"12", 12},  {"-3", -3},  {"", 99},  {"yes", 99},
+                 {"12 ", 99}, {"1.5", 99}, {"-", 99}, {"2147483648", 99}};
+    for (const auto& each : cases)
+    {
+        SetSpecialConfigVal("Map", "Zoom", each.text);
+        EXPECT_EQ(GetSpecialConfigVal("Map", "Zoom", 99), each.number) << '"' << each.text << '"';
+    }
+}
+
+TEST_F(SpecialConfigVals, NullNamesHaveNoValue)
+{
+    SetSpecialConfigVal(nullptr, "Key", 1);
+    SetSpecialConfigVal("Section", nullptr, "text");
+    EXPECT_EQ(GetSpecialConfigVal(nullptr, "Key", 5), 5);
+    EXPECT_EQ(GetSpecialConfigVal("Section", nullptr, "default"), "default");
+    EXPECT_EQ(GetSpecialConfigVal("", "Key", 5), 5) << "null is not the empty name";
+    EXPECT_EQ(GetSpecialConfigVal("Section", "Key", static_cast<const char*>(nullptr)), "");
+}
+} // namespace
