@@ -1,0 +1,68 @@
+#include "GalleryApp.h"
+
+#include "CommandLine.h"
+#include "GalleryFrame.h"
+#include "Output.h"
+#include "Pictures.h"
+
+#include <OnBoardUI.h>
+#include <OnBoardUIGeneral.h>
+
+#include <cstdlib>
+
+namespace {
+
+GalleryApp theApp;
+
+constexpr int Failed = 1;
+constexpr int CommandLineFailed = 2;
+
+} // namespace
+
+BOOL GalleryApp::InitInstance()
+{
+    const CommandLine options = CommandLine::Parse(__argc, __argv);
+    if (options.help || !options.problem.IsEmpty())
+    {
+        const CString text = options.problem.IsEmpty()
+                                 ? CommandLine::Usage()
+                                 : options.problem + "\r\n\r\n" + CommandLine::Usage();
+        if (!PrintLine(text))
+        {
+            AfxMessageBox(text);
+        }
+        m_exitCode = options.problem.IsEmpty() ? 0 : CommandLineFailed;
+        return FALSE;
+    }
+
+    COnBoardUIGeneral::SetStdModeGoals();
+    CString title;
+    m_host.GetProductName(title);
+    SetOnBoardAppTitle(title);
+
+    auto* const frame = new GalleryFrame(m_host);
+    if (!frame->Open(options.page.value_or(0)))
+    {
+        m_exitCode = Failed;
+        return FALSE;
+    }
+    m_pMainWnd = frame;
+    const bool pictures = !options.pictures.IsEmpty();
+    if (options.mode && !pictures)
+    {
+        frame->SwitchMode(*options.mode);
+    }
+    frame->ShowWindow(pictures ? SW_SHOW : m_nCmdShow);
+    frame->UpdateWindow();
+    if (pictures)
+    {
+        m_exitCode = WritePictures(*frame, options) ? 0 : Failed;
+        return FALSE;
+    }
+    return TRUE;
+}
+
+int GalleryApp::ExitInstance()
+{
+    return m_exitCode != 0 ? m_exitCode : CWinApp::ExitInstance();
+}

@@ -1,0 +1,333 @@
+#include "GalleryFrame.h"
+
+#include "AppIcon.h"
+#include "Look.h"
+#include "Pages.h"
+#include "WindowMoves.h"
+#include "resource.h"
+
+#include <OnBoardUI.h>
+#include <OnBoardUIGeneral.h>
+
+#include <algorithm>
+
+namespace {
+
+// Measures of the frame, in pixels.
+struct Measures
+{
+    int margin;
+    int switches; // height
+    int list;     // width
+    int gap;      // between the list and the page
+    int line;     // height
+};
+constexpr Measures Standard = {8, 32, 150, 12, 24};
+constexpr Measures OnBoard = {12, 60, 236, 24, 44};
+
+const Measures& CurrentMeasures()
+{
+    return look::Dark() ? OnBoard : Standard;
+}
+
+// The modes whose window is the screen.
+bool CoversScreen(APPMODE mode)
+{
+    return mode == FULLSCREEN || mode == EFBFS;
+}
+
+MONITORINFO MonitorOf(HWND window)
+{
+    MONITORINFO info = {};
+    info.cbSize = sizeof(info);
+    ::GetMonitorInfo(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &info);
+    return info;
+}
+
+void GiveColorsBack()
+{
+    // They are the whole system's and would outlive the program.
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        OnBoardRestoreSysColors();
+    }
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_MESSAGE(WM_ENDSESSION, &GalleryFrame::OnEndSession)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
+    ON_WM_GETMINMAXINFO()
+    ON_WM_ACTIVATE()
+    ON_WM_SETFOCUS()
+    ON_COMMAND_RANGE(ID_MODE_FIRST, ID_MODE_LAST, &GalleryFrame::OnModeCommand)
+    ON_LBN_SELCHANGE(IDC_PAGE_LIST, &GalleryFrame::OnPageSelected)
+END_MESSAGE_MAP()
+
+GalleryFrame::GalleryFrame(GalleryHost& host)
+    : m_host(host)
+    , m_pages(Pages().size())
+    , m_lastTold("nothing yet")
+{}
+
+BOOL GalleryFrame::Open(size_t page)
+{
+    CString title;
+    m_host.GetProductName(title);
+    if (!Create(AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW)), title,
+                WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, InitialPlace()))
+    {
+        return FALSE;
+    }
+    LoadAccelTable(MAKEINTRESOURCE(IDR_GALLERY));
+    // Kept until the process ends, as the window is.
+    SendMessage(WM_SETICON, ICON_SMALL, LPARAM(MakeAppIcon(::GetSystemMetrics(SM_CXSMICON))));
+    SendMessage(WM_SETICON, ICON_BIG, LPARAM(MakeAppIcon(::GetSystemMetrics(SM_CXICON))));
+    return ShowPage(page);
+}
+
+int GalleryFrame::OnCreate(LPCREATESTRUCT cs)
+{
+    if (CFrameWnd::OnCreate(cs) == -1 || !m_switches.Create(*this, IDC_MODE_SWITCHES) ||
+        !m_list.Create(*this, IDC_PAGE_LIST))
+    {
+        return -1;
+    }
+    m_host.SetWindow(this);
+    return 0;
+}
+
+void GalleryFrame::OnDestroy()
+{
+    m_host.SetWindow(nullptr);
+    GiveColorsBack();
+    CFrameWnd::OnDestroy();
+}
+
+LRESULT GalleryFrame::OnEndSession(WPARAM ending, LPARAM)
+{
+    // The program may be ended right after this message, without its windows being destroyed.
+    if (ending)
+    {
+        GiveColorsBack();
+    }
+    return 0;
+}
+
+// Pages and modes -------------------------------------------------------------------------------
+
+bool GalleryFrame::ShowPage(size_t index)
+{
+    const auto before = m_shown;
+    if (m_pages[index] == nullptr)
+    {
+        auto page = Pages()[index].make(m_host, *this);
+        if (!page->Open(*this, IDC_PAGE + UINT(index)))
+        {
+            m_list.SetCurSel(int(m_shown));
+            return false;
+        }
+        m_pages[index] = std::move(page);
+    }
+    m_shown = index;
+    m_list.SetCurSel(int(index));
+    RecalcLayout();
+    m_pages[index]->ShowWindow(SW_SHOW);
+    if (before != index && m_pages[before] != nullptr)
+    {
+        m_pages[before]->ShowWindow(SW_HIDE);
+    }
+    return true;
+}
+
+void GalleryFrame::SwitchMode(APPMODE mode)
+{
+    const APPMODE before = COnBoardUIGeneral::GetAppMode();
+    if (mode == before)
+    {
+        return;
+    }
+    SetOnBoardAppMode(mode);
+    OnBoardSetSysColors(mode);
+    m_list.FollowMode(mode, before);
+    TakePlace(mode, before);
+    RecalcLayout();
+    for (const auto& page : m_pages)
+    {
+        if (page != nullptr)
+        {
+            page->FollowMode();
+        }
+    }
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
+CRect GalleryFrame::InitialPlace() const
+{
+    const Measures& m = CurrentMeasures();
+    const CSize page = GalleryPage::SizeInMode();
+    CRect rect(0, 0, 2 * m.margin + m.list + m.gap + page.cx,
+               3 * m.margin + m.switches + page.cy + m.line);
+    ::AdjustWindowRectEx(&rect, WS_OVERLAPPEDWINDOW, FALSE, 0);
+    const CRect work = MonitorOf(m_hWnd).rcWork;
+    const CSize size(std::min(rect.Width(), work.Width()), std::min(rect.Height(), work.Height()));
+    return CRect(work.CenterPoint() - CSize(size.cx / 2, size.cy / 2), size);
+}
+
+void GalleryFrame::TakePlace(APPMODE newMode, APPMODE oldMode)
+{
+    if (!CoversScreen(oldMode))
+    {
+        WINDOWPLACEMENT place = {};
+        place.length = sizeof(place);
+        ::GetWindowPlacement(m_hWnd, &place);
+        m_places[oldMode != STD] = place;
+    }
+    if (CoversScreen(newMode))
+    {
+        ModifyStyle(WS_OVERLAPPEDWINDOW | WS_MAXIMIZE, 0);
+        const CRect screen = MonitorOf(m_hWnd).rcMonitor;
+        SetWindowPos(nullptr, screen.left, screen.top, screen.Width(), screen.Height(),
+                     SWP_NOZORDER | SWP_FRAMECHANGED);
+        return;
+    }
+    ModifyStyle(WS_MAXIMIZE, WS_OVERLAPPEDWINDOW);
+    const auto& place = m_places[newMode != STD];
+    const CRect initial = InitialPlace();
+    SetWindowPos(nullptr, initial.left, initial.top, initial.Width(), initial.Height(),
+                 SWP_NOZORDER | SWP_FRAMECHANGED);
+    if (place)
+    {
+        ::SetWindowPlacement(m_hWnd, &*place);
+    }
+}
+
+// Layout and painting ---------------------------------------------------------------------------
+
+GalleryFrame::Layout GalleryFrame::CurrentLayout() const
+{
+    const Measures& m = CurrentMeasures();
+    CRect area;
+    GetClientRect(&area);
+    Layout layout;
+    layout.line = CRect(area.left, area.bottom - m.line, area.right, area.bottom);
+    area.bottom = layout.line.top;
+    area.DeflateRect(m.margin, m.margin);
+    layout.switches = CRect(area.left, area.top, area.right, area.top + m.switches);
+    area.top = layout.switches.bottom + m.margin;
+    layout.list = CRect(area.left, area.top, area.left + m.list, area.bottom);
+    layout.page = CRect(layout.list.right + m.gap, area.top, area.right, area.bottom);
+    return layout;
+}
+
+void GalleryFrame::RecalcLayout(BOOL)
+{
+    if (m_list.GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    const Layout layout = CurrentLayout();
+    {
+        WindowMoves moves;
+        moves.Add(m_switches, layout.switches);
+        moves.Add(m_list, layout.list);
+        if (m_pages[m_shown] != nullptr)
+        {
+            moves.Add(*m_pages[m_shown], layout.page);
+        }
+    }
+    Invalidate(FALSE);
+}
+
+void GalleryFrame::OnPaint()
+{
+    BufferedPaint paint(*this);
+    CDC& dc = paint.Context();
+    CRect line = CurrentLayout().line;
+    if (look::Dark())
+    {
+        dc.FillSolidRect(line.left, line.top, line.Width(), 3, look::DarkOutline);
+        line.top += 3;
+    }
+    else
+    {
+        dc.DrawEdge(&line, EDGE_ETCHED, BF_TOP | BF_ADJUST);
+    }
+    line.DeflateRect(CurrentMeasures().margin, 0);
+
+    const FontInUse font(dc, look::LabelFont());
+    dc.DrawText("The page was told: " + m_lastTold, &line,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
+HBRUSH GalleryFrame::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
+{
+    return look::Dark() ? look::GroundBrush() : CFrameWnd::OnCtlColor(dc, control, kind);
+}
+
+void GalleryFrame::OnGetMinMaxInfo(MINMAXINFO* info)
+{
+    const CRect least = InitialPlace();
+    info->ptMinTrackSize = {least.Width(), least.Height()};
+}
+
+void GalleryFrame::ParentWasTold(const CString& what)
+{
+    m_lastTold = what;
+    const CRect line = CurrentLayout().line;
+    InvalidateRect(&line, FALSE);
+}
+
+// Input -----------------------------------------------------------------------------------------
+
+BOOL GalleryFrame::PreTranslateMessage(MSG* message)
+{
+    if (CFrameWnd::PreTranslateMessage(message))
+    {
+        return TRUE;
+    }
+    if (message->message < WM_KEYFIRST || message->message > WM_KEYLAST ||
+        !::IsChild(m_hWnd, message->hwnd))
+    {
+        return FALSE;
+    }
+    // Tab goes through the whole frame; every other key is the page's while the focus is there.
+    const bool tab = message->message == WM_KEYDOWN && message->wParam == VK_TAB;
+    GalleryPage* const page = m_pages[m_shown].get();
+    return !tab && page != nullptr && ::IsChild(*page, message->hwnd)
+               ? page->TranslateInput(message)
+               : IsDialogMessage(message);
+}
+
+void GalleryFrame::OnActivate(UINT state, CWnd* other, BOOL minimized)
+{
+    if (state == WA_INACTIVE && ::IsChild(m_hWnd, ::GetFocus()))
+    {
+        m_focusBefore = ::GetFocus();
+    }
+    CFrameWnd::OnActivate(state, other, minimized);
+}
+
+void GalleryFrame::OnSetFocus(CWnd*)
+{
+    ::SetFocus(::IsChild(m_hWnd, m_focusBefore) ? m_focusBefore : m_list.GetSafeHwnd());
+}
+
+void GalleryFrame::OnModeCommand(UINT id)
+{
+    SwitchMode(APPMODE(id - ID_MODE_FIRST));
+}
+
+void GalleryFrame::OnPageSelected()
+{
+    const int index = m_list.GetCurSel();
+    if (index != LB_ERR)
+    {
+        ShowPage(size_t(index));
+    }
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <AppAccess.h>
+#include <EFB.h>
+
+// The electronic-flight-bag side of the gallery. What is not overridden keeps its harmless default.
+class GalleryEfb : public IEFB
+{
+public:
+    explicit GalleryEfb(IAppAccess& host);
+
+    const char* GetProviderName() override { return "Gallery flight bag"; }
+    bool GetAvailableArea(int& x, int& y, int& width, int& height) override;
+    bool IsModalDialogOpen() override { return m_modalDialogs > 0; }
+    bool BeginModalDialog() override;
+    bool EndModalDialog() override;
+
+private:
+    IAppAccess& m_host;
+    int m_modalDialogs = 0;
+};
+
+// The services that the gallery offers to the library, as any host would.
+class GalleryHost : public IAppAccess
+{
+public:
+    GalleryHost();
+
+    // The window whose client area is all that the library's windows may use; null for none. Not
+    // owned, and taken back before it is destroyed.
+    void SetWindow(const CWnd* window) { m_window = window; }
+
+    const char* GetProviderName() override { return "Gallery"; }
+    bool GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, int& height) override;
+    IEFB* GetEFB() override { return &m_efb; }
+    void GetProductName(CString& name) override;
+
+private:
+    const CWnd* m_window = nullptr;
+    GalleryEfb m_efb;
+};

@@ -1,0 +1,188 @@
+#include "GalleryPage.h"
+
+#include "Look.h"
+#include "WindowMoves.h"
+#include "resource.h"
+
+#include <OnBoardUIGeneral.h>
+
+namespace {
+
+// How the library scales a window's children on leaving the standard mode.
+constexpr double Down = 1.7;
+constexpr double Across = Down * 1.32;
+
+int AcrossInMode(int pixels)
+{
+    return look::Dark() ? int(pixels * Across) : pixels;
+}
+
+int DownInMode(int pixels)
+{
+    return look::Dark() ? int(pixels * Down) : pixels;
+}
+
+// A length that grows with the page once the page is larger than its design.
+int Spread(int length, int available, int designed)
+{
+    return available > designed ? ::MulDiv(length, available, designed) : length;
+}
+
+// List boxes of the on-board modes; a disabled one is told apart by its colours.
+constexpr COLORREF ListText = RGB(26, 26, 26);
+constexpr COLORREF ListGround = RGB(180, 180, 180);
+constexpr COLORREF DisabledListText = RGB(70, 70, 70);
+constexpr COLORREF DisabledListGround = RGB(100, 100, 100);
+
+HBRUSH ListColors(CDC& dc, bool enabled)
+{
+    static CBrush ground(ListGround);
+    static CBrush disabledGround(DisabledListGround);
+    dc.SetTextColor(enabled ? ListText : DisabledListText);
+    dc.SetBkColor(enabled ? ListGround : DisabledListGround);
+    return enabled ? ground : disabledGround;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(GalleryPage, CCustomDialog)
+    ON_WM_SIZE()
+    ON_WM_ERASEBKGND()
+    ON_WM_CTLCOLOR()
+END_MESSAGE_MAP()
+
+GalleryPage::GalleryPage(IAppAccess& host, GalleryEvents& events)
+    : CCustomDialog(IDD_GALLERY_PAGE, nullptr, &host)
+    , m_events(events)
+{}
+
+CSize GalleryPage::SizeInMode()
+{
+    return CSize(AcrossInMode(DesignWidth), DownInMode(DesignHeight));
+}
+
+BOOL GalleryPage::Open(CWnd& parent, UINT id)
+{
+    if (!Create(IDD_GALLERY_PAGE, &parent))
+    {
+        return FALSE;
+    }
+    SetDlgCtrlID(int(id));
+    return TRUE;
+}
+
+BOOL GalleryPage::OnInitDialog()
+{
+    CreateContent();
+    CCustomDialog::OnInitDialog();
+    FollowMode();
+    return FALSE;
+}
+
+void GalleryPage::FollowMode()
+{
+    // The library has scaled the children by the step between the two modes. Steps between two
+    // on-board modes narrow them each time, so places are taken from the design: the same whichever
+    // way the mode was reached.
+    {
+        WindowMoves moves;
+        for (const Placed& placed : m_placed)
+        {
+            CRect rect = InPage(placed.design);
+            if (placed.caption != nullptr)
+            {
+                moves.Add(*placed.caption,
+                          CRect(rect.TopLeft(), CSize(rect.Width(), DownInMode(CaptionHeight))));
+                rect.top += DownInMode(CaptionStep);
+            }
+            moves.Add(*placed.control, rect);
+        }
+    }
+    for (const auto& label : m_labels)
+    {
+        label->SetFont(&look::LabelFont());
+    }
+    OnLaidOut();
+}
+
+CRect GalleryPage::InPage(const CRect& design) const
+{
+    CRect rect(AcrossInMode(design.left), DownInMode(design.top), 0, 0);
+    rect.right = rect.left + AcrossInMode(design.Width());
+    rect.bottom = rect.top + DownInMode(design.Height());
+    if (!FillsPage())
+    {
+        return rect;
+    }
+    CRect page;
+    GetClientRect(&page);
+    const CSize designed = SizeInMode();
+    return CRect(Spread(rect.left, page.Width(), designed.cx),
+                 Spread(rect.top, page.Height(), designed.cy),
+                 Spread(rect.right, page.Width(), designed.cx),
+                 Spread(rect.bottom, page.Height(), designed.cy));
+}
+
+CStatic& GalleryPage::MakeLabel(const char* text)
+{
+    m_labels.push_back(std::make_unique<CStatic>());
+    CStatic& label = *m_labels.back();
+    label.Create(text, WS_CHILD | WS_VISIBLE | SS_LEFT, CRect(0, 0, 0, 0), this);
+    return label;
+}
+
+CStatic& GalleryPage::AddLabel(const char* text, const CRect& design)
+{
+    CStatic& label = MakeLabel(text);
+    Place(label, design);
+    return label;
+}
+
+void GalleryPage::AddList(CCustomListBox& list, const char* caption, DWORD style,
+                          const CRect& design, UINT id)
+{
+    CStatic& label = MakeLabel(caption);
+    list.CreateEx(WS_EX_CLIENTEDGE, "LISTBOX", "",
+                  style | WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY |
+                      LBS_NOINTEGRALHEIGHT,
+                  design, this, id);
+    list.SetFont(&CCustomListBox::GetStdFont());
+    Place(list, design, &label);
+}
+
+void GalleryPage::Place(CWnd& control, const CRect& design, CWnd* caption)
+{
+    m_placed.push_back({&control, design, caption});
+}
+
+void GalleryPage::OnSize(UINT type, int width, int height)
+{
+    CCustomDialog::OnSize(type, width, height);
+    if (FillsPage())
+    {
+        FollowMode();
+    }
+}
+
+BOOL GalleryPage::OnEraseBkgnd(CDC* dc)
+{
+    CRect area;
+    GetClientRect(&area);
+    ::FillRect(dc->GetSafeHdc(), &area, look::GroundBrush());
+    return TRUE;
+}
+
+HBRUSH GalleryPage::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
+{
+    if (look::Dark() && kind == CTLCOLOR_LISTBOX)
+    {
+        return ListColors(*dc, control->IsWindowEnabled());
+    }
+    if (look::Dark() && (kind == CTLCOLOR_DLG || kind == CTLCOLOR_STATIC))
+    {
+        dc->SetTextColor(look::Text());
+        dc->SetBkColor(look::Ground());
+        return look::GroundBrush();
+    }
+    return CCustomDialog::OnCtlColor(dc, control, kind);
+}

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <CustomDialog.h>
+#include <CustomListBox.h>
+
+#include <memory>
+#include <vector>
+
+// Who shows what a page was told by its controls.
+class GalleryEvents
+{
+public:
+    virtual void ParentWasTold(const CString& what) = 0;
+
+protected:
+    ~GalleryEvents() = default;
+};
+
+// A page of the gallery: a dialog of the library used as a child window. It declares its content
+// once, in pixels of the standard mode, and follows the display mode from there.
+class GalleryPage : public CCustomDialog
+{
+public:
+    // Every page is designed for this many pixels of the standard mode.
+    static constexpr int DesignWidth = 396;
+    static constexpr int DesignHeight = 392;
+    // The room that this takes in the current mode.
+    static CSize SizeInMode();
+
+    GalleryPage(IAppAccess& host, GalleryEvents& events);
+
+    // Makes the window, hidden, with its content. FALSE when it cannot be made.
+    BOOL Open(CWnd& parent, UINT id);
+
+    // Lays the content out for the current mode and size. The owner calls it after each change of
+    // the mode.
+    void FollowMode();
+
+    // Gives a key message to the page's dialog keys; TRUE when it is done with.
+    BOOL TranslateInput(MSG* message) { return CCustomDialog::PreTranslateMessage(message); }
+
+    // Brings the controls into the state that a picture should show, by messages as input sends.
+    virtual void PoseForPicture() {}
+
+    BOOL OnInitDialog() override;
+    // The frame sees every key first: its mode switches work wherever the focus is.
+    BOOL PreTranslateMessage(MSG*) override { return FALSE; }
+
+protected:
+    // Makes the controls, with the helpers below.
+    virtual void CreateContent() = 0;
+    // Whether the content spreads over a page that is larger than its design.
+    virtual bool FillsPage() const { return false; }
+    // After the content was laid out, for what depends on the mode's fonts.
+    virtual void OnLaidOut() {}
+
+    // design is in pixels of the standard mode. A caption takes the first CaptionStep of it.
+    static constexpr int CaptionHeight = 15;
+    static constexpr int CaptionStep = 17;
+    CStatic& AddLabel(const char* text, const CRect& design);
+    void AddList(CCustomListBox& list, const char* caption, DWORD style, const CRect& design,
+                 UINT id);
+    // Has a control that the page made follow the mode, with a caption above it or without one.
+    void Place(CWnd& control, const CRect& design, CWnd* caption = nullptr);
+
+    GalleryEvents& Events() { return m_events; }
+
+    // A page is no dialog to be closed by a key.
+    void OnOK() override {}
+    void OnCancel() override {}
+
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    struct Placed
+    {
+        CWnd* control;
+        CRect design;
+        CWnd* caption;
+    };
+
+    CRect InPage(const CRect& design) const;
+    CStatic& MakeLabel(const char* text);
+
+    GalleryEvents& m_events;
+    std::vector<std::unique_ptr<CStatic>> m_labels;
+    std::vector<Placed> m_placed;
+};
