@@ -144,7 +144,7 @@ void GalleryPage::AddList(CCustomListBox& list, const char* caption, DWORD style
     CStatic& label = MakeLabel(caption);
     list.CreateEx(WS_EX_CLIENTEDGE, "LISTBOX", "",
                   style | WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY |
-                      LBS_NOINTEGRALHEIGHT,
+                      LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS,
                   design, this, id);
     list.SetFont(&CCustomListBox::GetStdFont());
     Place(list, design, &label);

@@ -54,6 +54,11 @@ protected:
     virtual void UpdateHScrollData();
 
 public:
+    // Rows of a list with LBS_HASSTRINGS that nobody else draws: the text centred in the font of
+    // the mode, on-board rows one and a half times as high as their text.
+    void DrawItem(LPDRAWITEMSTRUCT draw) override;
+    void MeasureItem(LPMEASUREITEMSTRUCT measure) override;
+
     // Height in pixels of a row for this text in the on-board font: one and a half times the text.
     virtual int GetEntryHeight(const char* text);
     // Width in pixels of a row's text in the control's font; 0 for rows without text.
@@ -111,7 +116,8 @@ protected:
     afx_msg LRESULT OnInsertString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnResetContent(WPARAM wParam, LPARAM lParam);
-    // Messages after which every row may be another (LB_DIR, LB_SETCOUNT, WM_SETFONT ...).
+    afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    // Messages after which every row may be another (LB_DIR, LB_SETCOUNT ...).
     afx_msg LRESULT OnContentReplaced(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     // Messages that may scroll the list without a scroll message (LB_SETTOPINDEX, WM_CHAR ...).
@@ -163,6 +169,8 @@ private:
     void EnterOnBoard();
     void LeaveOnBoard();
     void EndTracking();
+
+    void MeasureRows();
 
     int Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     bool HasText() const;

@@ -48,7 +48,7 @@ BEGIN_MESSAGE_MAP(CCustomListBox, CListBox)
     ON_MESSAGE(LB_ADDFILE, &CCustomListBox::OnContentReplaced)
     ON_MESSAGE(LB_SETCOUNT, &CCustomListBox::OnContentReplaced)
     ON_MESSAGE(LB_SETITEMHEIGHT, &CCustomListBox::OnContentReplaced)
-    ON_MESSAGE(WM_SETFONT, &CCustomListBox::OnContentReplaced)
+    ON_MESSAGE(WM_SETFONT, &CCustomListBox::OnSetFont)
     ON_MESSAGE(WM_SETREDRAW, &CCustomListBox::OnSetRedraw)
     ON_MESSAGE(WM_CHAR, &CCustomListBox::OnMayScroll)
     ON_MESSAGE(LB_SETTOPINDEX, &CCustomListBox::OnMayScroll)
@@ -149,6 +149,7 @@ void CCustomListBox::EnterOnBoard()
 {
     m_hostExtent = Ask(LB_GETHORIZONTALEXTENT);
     DisableScrollBars();
+    MeasureRows();
     CountAllWidths();
     m_resizePending = true;
     scroll::RecalculateFrame(*this, false);
@@ -166,6 +167,7 @@ void CCustomListBox::LeaveOnBoard()
     m_vBar.ShowScrollBar(FALSE);
     m_hBar.ShowScrollBar(FALSE);
     m_widths.clear();
+    MeasureRows();
     scroll::RestoreScrollStyles(*this, m_platformBars);
     m_platformBars = 0;
     Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));

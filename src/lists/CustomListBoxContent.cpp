@@ -4,6 +4,7 @@
 #include "OnBoardUIGeneral.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
+#include "paint/Metrics.h"
 #include "scroll/BarPaint.h"
 #include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
@@ -14,7 +15,6 @@
 namespace {
 
 constexpr double EntryHeightFactor = 1.5; // of the text's height
-constexpr int TextInset = 2;              // pixels that the platform leaves beside a row's text
 
 } // namespace
 
@@ -59,18 +59,18 @@ int CCustomListBox::GetMaxCharWidth()
 {
     CClientDC dc(this);
     const Selected font(dc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-    TEXTMETRIC metrics = {};
-    dc.GetTextMetrics(&metrics);
-    return int(metrics.tmMaxCharWidth);
+    TEXTMETRIC measured = {};
+    dc.GetTextMetrics(&measured);
+    return int(measured.tmMaxCharWidth);
 }
 
 int CCustomListBox::AverageCharWidth()
 {
     CClientDC dc(this);
     const Selected font(dc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-    TEXTMETRIC metrics = {};
-    dc.GetTextMetrics(&metrics);
-    return std::max(1, int(metrics.tmAveCharWidth));
+    TEXTMETRIC measured = {};
+    dc.GetTextMetrics(&measured);
+    return std::max(1, int(measured.tmAveCharWidth));
 }
 
 // The widths of all rows are kept counted, so that the widest is known without measuring what has
@@ -104,7 +104,7 @@ void CCustomListBox::CountAllWidths()
 
 int CCustomListBox::ContentWidth() const
 {
-    const int text = m_widths.empty() ? 0 : m_widths.rbegin()->first + TextInset;
+    const int text = m_widths.empty() ? 0 : m_widths.rbegin()->first + 2 * metrics::ListRowMargin;
     return std::max(text, m_hostExtent);
 }
 
@@ -387,6 +387,22 @@ LRESULT CCustomListBox::OnResetContent(WPARAM, LPARAM)
     {
         m_widths.clear();
         m_hBar.SetScrollPos(0, TRUE);
+        ContentChanged();
+    }
+    return result;
+}
+
+LRESULT CCustomListBox::OnSetFont(WPARAM, LPARAM)
+{
+    const WindowAlive alive(*this);
+    const LRESULT result = Default();
+    if (alive)
+    {
+        MeasureRows();
+    }
+    if (alive && FollowMode())
+    {
+        CountAllWidths();
         ContentChanged();
     }
     return result;

@@ -12,6 +12,9 @@ constexpr int ScrollBar = ScrollBand + Border;
 // Inside-frame width of the on-board outline pen.
 constexpr int OutlineWidth = 3;
 
+// From either edge of a list's row to its text.
+constexpr int ListRowMargin = 4;
+
 // Scale of a window's children on entering an on-board mode, and how much more they widen.
 constexpr double OnBoardScale = 1.7;
 constexpr double OnBoardWidening = 1.32;

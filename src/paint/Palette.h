@@ -16,6 +16,9 @@ constexpr COLORREF PressedOutline = RGB(106, 104, 118);
 constexpr COLORREF Highlight = RGB(50, 80, 110);
 constexpr COLORREF HighlightText = RGB(230, 230, 230);
 
+// Rows of lists.
+constexpr COLORREF ListTextDisabled = RGB(70, 70, 70);
+
 // Scroll bar troughs.
 constexpr COLORREF Trough = RGB(26, 26, 26);
 constexpr COLORREF TroughDisabled = RGB(90, 90, 90);

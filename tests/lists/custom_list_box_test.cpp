@@ -362,3 +362,65 @@ TEST_F(ListBoxOnBoard, OddArgumentsHaveADefinedResult)
     }
     EXPECT_EQ(list.GetCount(), 100);
 }
+
+// Rows that the list draws ------------------------------------------------------------------------
+
+TEST_F(ListBoxTest, DrawnRowsFollowTheMode)
+{
+    for (const DWORD kind : {LBS_OWNERDRAWFIXED, LBS_OWNERDRAWVARIABLE})
+    {
+        auto& list = AddList(40, ListStyle | kind | LBS_HASSTRINGS);
+        list.SetFont(&CCustomListBox::GetStdFont());
+        list.SetCurSel(1);
+        PumpAll();
+        const int standard = list.GetItemHeight(0);
+        EXPECT_EQ(WindowPixels(list).At(100, 2 + standard + 2), ::GetSysColor(COLOR_HIGHLIGHT));
+        {
+            const ModeScope scope(ONBOARD);
+            list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+            const int onBoard = list.GetItemHeight(0);
+            EXPECT_EQ(onBoard, list.GetEntryHeight("Row"));
+            EXPECT_GT(onBoard, 3 * standard / 2);
+            PumpAll();
+            const Pixels seen = WindowPixels(list);
+            EXPECT_EQ(seen.At(200, 3 + onBoard + 2), RGB(50, 80, 110));
+            EXPECT_GT(seen.Count(RGB(230, 230, 230), CRect(3, 3 + onBoard, 203, 3 + 2 * onBoard)),
+                      20);
+            list.EnableWindow(FALSE);
+            PumpAll();
+            EXPECT_GT(WindowPixels(list).Count(RGB(70, 70, 70), CRect(5, 5, 203, 200)), 50);
+            list.EnableWindow(TRUE);
+        }
+        list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+        EXPECT_EQ(list.GetItemHeight(0), standard);
+        EXPECT_TRUE(PlatformBarWorks(list));
+        Remove(list);
+    }
+}
+
+TEST_F(ListBoxOnBoard, FillingShowsWhatARepaintWouldShow)
+{
+    auto& list = AddList(5, ListStyle | WS_HSCROLL | LBS_SORT);
+    const auto shows = [&] {
+        list.UpdateWindow();
+        const Pixels seen = WindowPixels(list);
+        list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        return seen == WindowPixels(list);
+    };
+    list.AddString("Row 01"); // between two rows in sight, painted by the host's own update
+    EXPECT_TRUE(shows());
+    list.InsertString(0, "First");
+    list.SetCurSel(2); // painted at once by the platform
+    EXPECT_TRUE(shows());
+    list.Fill(60);
+    EXPECT_TRUE(shows());
+    list.SetTopIndex(20);
+    list.AddString("Aardvark"); // above what is in sight
+    EXPECT_TRUE(shows());
+    list.SetRedraw(FALSE);
+    list.AddString("Zulu");
+    list.DeleteString(0);
+    list.SetRedraw(TRUE);
+    list.Invalidate();
+    EXPECT_TRUE(shows());
+}

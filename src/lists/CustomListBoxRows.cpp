@@ -1,0 +1,120 @@
+// The list box: rows that it draws itself, in lists made owner-drawn with strings.
+
+#include "CustomListBox.h"
+#include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
+#include "paint/GdiGuards.h"
+#include "paint/Metrics.h"
+#include "paint/Palette.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+struct RowColors
+{
+    COLORREF text;
+    COLORREF ground;
+};
+
+// given: what the parent set for the list.
+RowColors ColorsOf(const DRAWITEMSTRUCT& draw, const RowColors& given)
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if ((draw.itemState & ODS_DISABLED) != 0)
+    {
+        return {onBoard ? palette::ListTextDisabled : ::GetSysColor(COLOR_GRAYTEXT), given.ground};
+    }
+    if ((draw.itemState & ODS_SELECTED) == 0)
+    {
+        return given;
+    }
+    return onBoard ? RowColors{palette::HighlightText, palette::Highlight}
+                   : RowColors{::GetSysColor(COLOR_HIGHLIGHTTEXT), ::GetSysColor(COLOR_HIGHLIGHT)};
+}
+
+} // namespace
+
+void CCustomListBox::DrawItem(LPDRAWITEMSTRUCT draw)
+{
+    CDC* const dc = draw == nullptr ? nullptr : CDC::FromHandle(draw->hDC);
+    if (dc == nullptr || !HasText())
+    {
+        return;
+    }
+    const CRect row(draw->rcItem);
+    CString text;
+    if (draw->itemID != UINT(-1))
+    {
+        GetText(int(draw->itemID), text);
+        std::optional<Selected> font;
+        if (COnBoardUIGeneral::InOnBoardMode())
+        {
+            font.emplace(*dc, GetOnBoardFont());
+        }
+        const RowColors colors = ColorsOf(*draw, {dc->GetTextColor(), dc->GetBkColor()});
+        const TextColor textColor(*dc, colors.text);
+        const COLORREF ground = dc->SetBkColor(colors.ground);
+        // Ground and text in one call, so that no row is ever seen empty.
+        const int top = row.top + (row.Height() - dc->GetTextExtent("X", 1).cy) / 2;
+        dc->ExtTextOut(row.left + metrics::ListRowMargin, top, ETO_OPAQUE | ETO_CLIPPED, row, text,
+                       nullptr);
+        dc->SetBkColor(ground);
+    }
+    if ((draw->itemState & ODS_FOCUS) != 0 && (draw->itemState & ODS_NOFOCUSRECT) == 0)
+    {
+        dc->DrawFocusRect(row);
+    }
+}
+
+void CCustomListBox::MeasureItem(LPMEASUREITEMSTRUCT measure)
+{
+    if (measure == nullptr || !HasText())
+    {
+        return;
+    }
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        CString text;
+        const int index = int(measure->itemID);
+        if ((GetStyle() & LBS_OWNERDRAWVARIABLE) != 0 && index >= 0 && index < Ask(LB_GETCOUNT))
+        {
+            GetText(index, text);
+        }
+        measure->itemHeight = UINT(std::max(1, GetEntryHeight(text)));
+        return;
+    }
+    CClientDC dc(this);
+    const Selected font(dc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    measure->itemHeight = UINT(std::max<LONG>(1, dc.GetTextExtent("X", 1).cy));
+}
+
+// Asks whoever measures the rows of an owner-drawn list anew: the platform asks only once.
+void CCustomListBox::MeasureRows()
+{
+    const DWORD style = GetStyle();
+    const bool variable = (style & LBS_OWNERDRAWVARIABLE) != 0;
+    if (!variable && (style & LBS_OWNERDRAWFIXED) == 0)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    const HWND parent = ::GetParent(GetSafeHwnd());
+    const int rows = variable ? Ask(LB_GETCOUNT) : 1;
+    for (int row = 0; row < rows && alive; ++row)
+    {
+        MEASUREITEMSTRUCT measure = {};
+        measure.CtlType = ODT_LISTBOX;
+        measure.CtlID = UINT(GetDlgCtrlID());
+        measure.itemID = UINT(row);
+        measure.itemHeight = UINT(std::max(0, Ask(LB_GETITEMHEIGHT, WPARAM(row))));
+        measure.itemData = variable ? ULONG_PTR(DefWindowProc(LB_GETITEMDATA, WPARAM(row), 0)) : 0;
+        ::SendMessage(parent, WM_MEASUREITEM, measure.CtlID, reinterpret_cast<LPARAM>(&measure));
+        if (alive && measure.itemHeight > 0 &&
+            int(measure.itemHeight) != Ask(LB_GETITEMHEIGHT, WPARAM(row)))
+        {
+            Ask(LB_SETITEMHEIGHT, WPARAM(row), LPARAM(measure.itemHeight));
+        }
+    }
+}
