@@ -81,9 +81,21 @@ BOOL CWinThread::OnIdle(LONG count)
 
 BOOL CWinThread::IsIdleMessage(MSG* message)
 {
-    // A pointer at rest, paints and timers give the idle work nothing new to do.
-    return message->message != WM_PAINT && message->message != WM_TIMER &&
-           message->message != WM_MOUSEMOVE && message->message != WM_NCMOUSEMOVE;
+    constexpr UINT caretBlink = 0x0118; // the platform's timer for carets
+    if (message->message == WM_PAINT || message->message == caretBlink)
+    {
+        return FALSE;
+    }
+    if (message->message != WM_MOUSEMOVE && message->message != WM_NCMOUSEMOVE)
+    {
+        return TRUE;
+    }
+    // A pointer at rest gives the idle work nothing new to do.
+    const bool moved = message->message != m_lastMove || message->pt.x != m_lastMovePoint.x ||
+                       message->pt.y != m_lastMovePoint.y;
+    m_lastMove = message->message;
+    m_lastMovePoint = message->pt;
+    return moved;
 }
 
 CWinThread* AfxGetThread()
@@ -301,6 +313,15 @@ BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module)
 
 void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL)
 {
+    // The module made them, the framework ends them.
+    const auto extensions = State().extensions;
+    for (const CDynLinkLibrary* extension : extensions)
+    {
+        if (extension->m_hResource == state.hResource)
+        {
+            delete extension;
+        }
+    }
     state.bInitialized = FALSE;
 }
 

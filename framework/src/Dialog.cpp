@@ -1,5 +1,7 @@
 #include "framework/Dialog.h"
 
+#include "DisabledOwner.h"
+#include "StillThere.h"
 #include "framework/App.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
@@ -46,6 +48,10 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND dialog, UINT message, WPARAM, LPARAM)
     if (message != WM_INITDIALOG || object == nullptr)
     {
         return FALSE;
+    }
+    if (CFont* font = object->GetFont())
+    {
+        object->OnSetFont(font);
     }
     object->PreInitDialog();
     return object->OnInitDialog();
@@ -126,41 +132,18 @@ INT_PTR CDialog::DoModal()
         return -1;
     }
 
-    CWnd* const parent = m_pParentWnd != nullptr ? m_pParentWnd : AfxGetMainWnd();
-    HWND owner = parent == nullptr ? nullptr : parent->m_hWnd;
-    while (owner != nullptr && (::GetWindowLongPtr(owner, GWL_STYLE) & WS_CHILD) != 0)
-    {
-        owner = ::GetParent(owner);
-    }
-    const bool disabledOwner = owner != nullptr && ::IsWindowEnabled(owner);
-    if (disabledOwner)
-    {
-        ::EnableWindow(owner, FALSE);
-    }
-
+    framework::DisabledOwner owner(m_pParentWnd);
+    owner.Disable();
     int result = -1;
     m_modalEnded = false;
     m_endValue = -1;
     m_modalDialog = true;
-    if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(owner), module))
+    if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(owner.Window()), module))
     {
         result = m_modalEnded ? m_endValue : RunModalLoop(MLF_SHOWONIDLE);
     }
 
-    // The owner is enabled before the dialog goes, so that it is the one activated next.
-    if (m_hWnd != nullptr)
-    {
-        SetWindowPos(nullptr, 0, 0, 0, 0,
-                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
-    }
-    if (disabledOwner && ::IsWindow(owner))
-    {
-        ::EnableWindow(owner, TRUE);
-        if (::GetActiveWindow() == m_hWnd)
-        {
-            ::SetActiveWindow(owner);
-        }
-    }
+    owner.EnableAgain(*this);
     DestroyWindow();
     m_modalDialog = false;
     return result;
@@ -183,6 +166,25 @@ void CDialog::EndDialog(int result)
 void CDialog::PostNcDestroy()
 {
     m_modalEnded = true;
+}
+
+// Commands go on to the owner of the dialog and to the application; notifications stay here.
+BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
+{
+    const framework::StillThere here(*this);
+    if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+    {
+        return TRUE;
+    }
+    const bool command = nCode == CN_COMMAND || UINT(nCode) == CN_UPDATE_COMMAND_UI;
+    if (!here || !command || nID >= 0xF000)
+    {
+        return FALSE;
+    }
+    CWnd* const owner = GetParent();
+    CWinApp* const app = AfxGetApp();
+    return (owner != nullptr && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) ||
+           (app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo));
 }
 
 // Behaviour -------------------------------------------------------------------------------------

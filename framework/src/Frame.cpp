@@ -32,10 +32,18 @@ BOOL CFrameWnd::Create(LPCSTR className, LPCSTR windowName, DWORD style, const R
     }
     const CRect& place = static_cast<const CRect&>(rect);
     const bool anywhere = place.left == CW_USEDEFAULT;
-    return CreateEx(exStyle, className, windowName, style, place.left, place.top,
-                    anywhere ? CW_USEDEFAULT : place.right - place.left,
-                    anywhere ? CW_USEDEFAULT : place.bottom - place.top,
-                    parent == nullptr ? nullptr : parent->m_hWnd, menu, context);
+    if (CreateEx(exStyle, className, windowName, style, place.left, place.top,
+                 anywhere ? CW_USEDEFAULT : place.right - place.left,
+                 anywhere ? CW_USEDEFAULT : place.bottom - place.top,
+                 parent == nullptr ? nullptr : parent->m_hWnd, menu, context))
+    {
+        return TRUE;
+    }
+    if (menu != nullptr)
+    {
+        ::DestroyMenu(menu); // gone already if the window existed for a while
+    }
+    return FALSE;
 }
 
 CWnd* CFrameWnd::CreateView(CCreateContext* context, UINT id)
@@ -133,13 +141,15 @@ void CFrameWnd::SetActiveView(CView* view, BOOL notify)
     {
         return;
     }
+    const HWND window = view == nullptr ? nullptr : view->m_hWnd;
     m_pViewActive = nullptr;
     if (before != nullptr)
     {
         before->OnActivateView(FALSE, view, before);
     }
-    m_pViewActive = view;
-    if (view != nullptr && notify)
+    // The one that was active may have ended the one to be.
+    m_pViewActive = FromHandlePermanent(window) == view ? view : nullptr;
+    if (m_pViewActive != nullptr && notify)
     {
         view->OnActivateView(TRUE, view, before);
     }

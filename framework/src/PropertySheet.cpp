@@ -1,5 +1,8 @@
 #include "framework/PropertySheet.h"
 
+#include "DisabledOwner.h"
+#include "StillThere.h"
+#include "ThreadState.h"
 #include "framework/App.h"
 
 #include <algorithm>
@@ -43,8 +46,9 @@ UINT CALLBACK CPropertyPage::Created(HWND, UINT message, PROPSHEETPAGE* page)
 {
     if (message == PSPCB_CREATE)
     {
-        // The sheet makes the page's window next.
-        AfxHookWindowCreate(reinterpret_cast<CPropertyPage*>(page->lParam));
+        // The sheet makes the page's window next, as its child, or fails to.
+        auto* const made = reinterpret_cast<CPropertyPage*>(page->lParam);
+        AfxHookWindowCreate(made, made->m_sheet == nullptr ? nullptr : made->m_sheet->m_hWnd);
     }
     return TRUE;
 }
@@ -108,6 +112,7 @@ IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 
 BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CPropertySheet::HandleInitDialog)
+    ON_MESSAGE(PSM_PRESSBUTTON, &CPropertySheet::OnPressButton)
     ON_WM_CLOSE()
 END_MESSAGE_MAP()
 
@@ -146,6 +151,7 @@ void CPropertySheet::AddPage(CPropertyPage* page)
         return;
     }
     m_pages.push_back(page);
+    page->m_sheet = this;
     if (m_hWnd != nullptr)
     {
         PROPSHEETPAGE description = page->m_psp;
@@ -231,35 +237,58 @@ BOOL CPropertySheet::Create(CWnd* parent, DWORD style, DWORD exStyle)
         ModifyStyle(0, style);
     }
     ModifyStyleEx(0, exStyle);
+    HideButtons();
     return TRUE;
+}
+
+// A modeless sheet has no buttons; whoever shows it decides what becomes of the pages.
+void CPropertySheet::HideButtons()
+{
+    CRect sheet;
+    GetWindowRect(&sheet);
+    CRect tabs;
+    ::GetWindowRect(GetTabControl(), &tabs);
+    CRect client;
+    GetClientRect(&client);
+    ClientToScreen(&client);
+    for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP})
+    {
+        if (const HWND button = ::GetDlgItem(m_hWnd, id))
+        {
+            ::ShowWindow(button, SW_HIDE);
+            ::EnableWindow(button, FALSE);
+        }
+    }
+    // Below the tabs the same margin as above them.
+    const int spare = client.bottom - tabs.bottom - (tabs.top - client.top);
+    if (spare > 0)
+    {
+        SetWindowPos(nullptr, 0, 0, sheet.Width(), sheet.Height() - spare,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
 }
 
 INT_PTR CPropertySheet::DoModal()
 {
-    CWnd* const parent = m_pParentWnd != nullptr ? m_pParentWnd : AfxGetMainWnd();
-    const HWND owner = parent == nullptr ? nullptr : ::GetAncestor(parent->m_hWnd, GA_ROOT);
-    const bool disabledOwner = owner != nullptr && ::IsWindowEnabled(owner);
+    framework::DisabledOwner owner(m_pParentWnd);
     m_modal = true;
+    m_ended = false;
     m_result = IDCANCEL;
-    if (!CreateSheet(CWnd::FromHandle(owner)))
+    if (!CreateSheet(CWnd::FromHandle(owner.Window())))
     {
         m_modal = false;
         return -1;
     }
-    if (disabledOwner)
+    owner.Disable();
+    if (!m_ended)
     {
-        ::EnableWindow(owner, FALSE);
+        RunModalLoop(MLF_SHOWONIDLE);
     }
-    RunModalLoop(MLF_SHOWONIDLE);
-    if (m_hWnd != nullptr && SendMessage(PSM_GETCURRENTPAGEHWND) == 0)
+    if (!m_ended && m_hWnd != nullptr && SendMessage(PSM_GETCURRENTPAGEHWND) == 0)
     {
         m_result = SendMessage(PSM_GETRESULT) > 0 ? IDOK : IDCANCEL;
     }
-    if (disabledOwner && ::IsWindow(owner))
-    {
-        ::EnableWindow(owner, TRUE);
-        ::SetActiveWindow(owner);
-    }
+    owner.EnableAgain(*this);
     DestroyWindow();
     m_modal = false;
     return m_result;
@@ -268,6 +297,7 @@ INT_PTR CPropertySheet::DoModal()
 void CPropertySheet::EndDialog(int result)
 {
     m_result = result;
+    m_ended = true;
     if (m_modal)
     {
         EndModalLoop(result);
@@ -302,18 +332,37 @@ BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
     {
         return TRUE;
     }
-    const HWND window = m_hWnd;
     const int id = LOWORD(wParam);
     if (HIWORD(wParam) != BN_CLICKED || (id != IDOK && id != IDCANCEL))
     {
         return FALSE;
     }
+    const framework::StillThere here(*this);
     Default();
-    if (FromHandlePermanent(window) == this && SendMessage(PSM_GETCURRENTPAGEHWND) == 0)
+    if (here)
     {
-        EndDialog(id);
+        EndIfClosed(id);
     }
     return TRUE;
+}
+
+void CPropertySheet::EndIfClosed(int result)
+{
+    if (SendMessage(PSM_GETCURRENTPAGEHWND) == 0)
+    {
+        EndDialog(result);
+    }
+}
+
+LRESULT CPropertySheet::OnPressButton(WPARAM wParam, LPARAM)
+{
+    const framework::StillThere here(*this);
+    const LRESULT result = Default();
+    if (here)
+    {
+        EndIfClosed(wParam == PSBTN_OK ? IDOK : IDCANCEL);
+    }
+    return result;
 }
 
 void CPropertySheet::OnClose()

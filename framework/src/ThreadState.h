@@ -14,8 +14,9 @@ struct ThreadState
     HandleMap<HWND, CWnd> windows;
     // The procedures under ours for windows whose object let go while ours stayed in the chain.
     std::unordered_map<HWND, WNDPROC> leftProcedures;
-    MSG current = {};         // the message that a window procedure is working on
-    CWnd* creating = nullptr; // bound to the next window that is created
+    MSG current = {};          // the message that a window procedure is working on
+    CWnd* creating = nullptr;  // bound to the next window that is created ...
+    HWND creatingIn = nullptr; // ... in this parent, if it is not null
     HHOOK creationHook = nullptr;
     CWinThread* thread = nullptr;
 };

@@ -26,12 +26,31 @@ BOOL CView::PreCreateWindow(CREATESTRUCT& cs)
     return CWnd::PreCreateWindow(cs);
 }
 
+CView::~CView()
+{
+    LeaveFrame(FALSE);
+    if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
+    {
+        CWnd::DestroyWindow();
+    }
+}
+
+void CView::LeaveFrame(BOOL notify)
+{
+    CFrameWnd* const frame = m_hWnd == nullptr ? nullptr : GetParentFrame();
+    if (frame != nullptr && frame->m_pViewActive == this)
+    {
+        if (notify)
+        {
+            frame->SetActiveView(nullptr);
+        }
+        frame->m_pViewActive = nullptr;
+    }
+}
+
 void CView::OnDestroy()
 {
-    if (CFrameWnd* frame = GetParentFrame(); frame != nullptr && frame->GetActiveView() == this)
-    {
-        frame->SetActiveView(nullptr);
-    }
+    LeaveFrame(TRUE);
     CWnd::OnDestroy();
 }
 
@@ -256,5 +275,17 @@ void CFormView::OnInitialUpdate()
 
 BOOL CFormView::PreTranslateMessage(MSG* message)
 {
-    return CScrollView::PreTranslateMessage(message) || PreTranslateInput(message);
+    if (CScrollView::PreTranslateMessage(message))
+    {
+        return TRUE;
+    }
+    // The form takes every key for its controls, so the frame's accelerators come first.
+    for (CWnd* frame = GetParentFrame(); frame != nullptr; frame = frame->GetParentFrame())
+    {
+        if (frame->PreTranslateMessage(message))
+        {
+            return TRUE;
+        }
+    }
+    return PreTranslateInput(message);
 }

@@ -2,6 +2,7 @@
 
 #include "framework/Wnd.h"
 
+#include "StillThere.h"
 #include "ThreadState.h"
 #include "TypedWindows.h"
 #include "framework/App.h"
@@ -161,6 +162,8 @@ public:
         const auto window = reinterpret_cast<HWND>(wParam);
         // An input method's helper window may be made on the way to the one that is meant.
         if (code == HCBT_CREATEWND && state.creating != nullptr &&
+            (state.creatingIn == nullptr ||
+             state.creatingIn == reinterpret_cast<CBT_CREATEWND*>(lParam)->lpcs->hwndParent) &&
             (::GetClassLongPtr(window, GCL_STYLE) & CS_IME) == 0)
         {
             CWnd* const wnd = state.creating;
@@ -171,7 +174,7 @@ public:
     }
 };
 
-void AfxHookWindowCreate(CWnd* wnd)
+void AfxHookWindowCreate(CWnd* wnd, HWND parent)
 {
     ThreadState& state = CurrentThreadState();
     if (state.creationHook == nullptr)
@@ -180,6 +183,7 @@ void AfxHookWindowCreate(CWnd* wnd)
             ::SetWindowsHookEx(WH_CBT, &CreationHook::Hook, nullptr, ::GetCurrentThreadId());
     }
     state.creating = wnd;
+    state.creatingIn = parent;
 }
 
 BOOL AfxUnhookWindowCreate()
@@ -283,7 +287,13 @@ LRESULT CALLBACK CWnd::Procedure(HWND window, UINT message, WPARAM wParam, LPARA
     // Sends nest, so the message that was in progress is put back when this one is done.
     MSG& current = CurrentThreadState().current;
     const MSG outer = current;
-    current = {window, message, wParam, lParam, 0, {0, 0}};
+    const DWORD position = ::GetMessagePos();
+    current = {window,
+               message,
+               wParam,
+               lParam,
+               DWORD(::GetMessageTime()),
+               {GET_X_LPARAM(position), GET_Y_LPARAM(position)}};
     const LRESULT result = wnd->WindowProc(message, wParam, lParam);
     current = outer;
     return result;
@@ -291,9 +301,14 @@ LRESULT CALLBACK CWnd::Procedure(HWND window, UINT message, WPARAM wParam, LPARA
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const framework::StillThere here(*this);
     LRESULT result = 0;
-    return OnWndMsg(message, wParam, lParam, &result) ? result
-                                                      : DefWindowProc(message, wParam, lParam);
+    if (OnWndMsg(message, wParam, lParam, &result))
+    {
+        return result;
+    }
+    // A handler that declines may have ended the object all the same.
+    return here ? DefWindowProc(message, wParam, lParam) : 0;
 }
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -363,7 +378,8 @@ int CWnd::RunModalLoop(DWORD flags)
         }
         if (!AfxPumpMessage())
         {
-            AfxPostQuitMessage(0);
+            // For the loop outside, with its exit code.
+            AfxPostQuitMessage(thread == nullptr ? 0 : int(thread->m_msgCur.wParam));
             m_modalRunning = false;
             return -1;
         }

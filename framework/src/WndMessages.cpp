@@ -1,9 +1,12 @@
 // How a window's messages find their handlers: maps, commands, notifications, reflection.
 
+#include "StillThere.h"
 #include "ThreadState.h"
 #include "framework/App.h"
 #include "framework/Controls.h"
 #include "framework/Wnd.h"
+
+using framework::StillThere;
 
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
@@ -34,19 +37,22 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     {
         return id != 0 && OnCmdMsg(id, CN_COMMAND, nullptr, nullptr);
     }
-    return ReflectLastMsg(control) || OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr);
+    const StillThere here(*this);
+    return ReflectLastMsg(control) || !here || OnCmdMsg(id, HIWORD(wParam), nullptr, nullptr);
 }
 
 BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* result)
 {
+    const StillThere here(*this);
     auto* header = reinterpret_cast<NMHDR*>(lParam);
-    if (ReflectLastMsg(header->hwndFrom, result))
+    const HWND from = header->hwndFrom;
+    if (ReflectLastMsg(from, result) || !here)
     {
         return TRUE;
     }
     AFX_NOTIFY notify = {result, header};
-    return OnCmdMsg(UINT(::GetDlgCtrlID(header->hwndFrom)), int(MAKELONG(header->code, WM_NOTIFY)),
-                    &notify, nullptr);
+    return OnCmdMsg(UINT(::GetDlgCtrlID(from)), int(MAKELONG(header->code, WM_NOTIFY)), &notify,
+                    nullptr);
 }
 
 BOOL CWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
@@ -100,80 +106,71 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     return handled;
 }
 
-// The parent's side of the messages that belong to a child.
+// The parent's side of the messages that belong to a child. The child may end its parent before it
+// declines.
 
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* control, UINT)
 {
+    const StillThere here(*this);
     LRESULT brush = 0;
-    if (control != nullptr && control->SendChildNotifyLastMsg(&brush) && brush != 0)
+    if (control != nullptr && ReflectLastMsg(control->m_hWnd, &brush) && brush != 0)
     {
         return reinterpret_cast<HBRUSH>(brush);
     }
-    return reinterpret_cast<HBRUSH>(Default());
+    return here ? reinterpret_cast<HBRUSH>(Default()) : nullptr;
+}
+
+LRESULT CWnd::ReflectElseDefault(HWND child)
+{
+    const StillThere here(*this);
+    LRESULT answer = 0;
+    if (child != nullptr && ReflectLastMsg(child, &answer))
+    {
+        return answer;
+    }
+    return here ? Default() : 0;
 }
 
 void CWnd::OnHScroll(UINT, UINT, CScrollBar* bar)
 {
-    if (bar == nullptr || !bar->SendChildNotifyLastMsg())
-    {
-        Default();
-    }
+    ReflectElseDefault(bar == nullptr ? nullptr : bar->m_hWnd);
 }
 
 void CWnd::OnVScroll(UINT, UINT, CScrollBar* bar)
 {
-    if (bar == nullptr || !bar->SendChildNotifyLastMsg())
-    {
-        Default();
-    }
+    ReflectElseDefault(bar == nullptr ? nullptr : bar->m_hWnd);
 }
 
 void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT draw)
 {
-    if (draw->CtlType == ODT_MENU || !ReflectLastMsg(draw->hwndItem))
-    {
-        Default();
-    }
+    ReflectElseDefault(draw->CtlType == ODT_MENU ? nullptr : draw->hwndItem);
 }
 
 void CWnd::OnMeasureItem(int id, LPMEASUREITEMSTRUCT measure)
 {
     // The control may ask while it is being created, before it is anybody's child.
-    const HWND child = measure->CtlType == ODT_MENU ? nullptr : ::GetDlgItem(m_hWnd, id);
-    if (child == nullptr || !ReflectLastMsg(child))
-    {
-        Default();
-    }
+    ReflectElseDefault(measure->CtlType == ODT_MENU ? nullptr : ::GetDlgItem(m_hWnd, id));
 }
 
 int CWnd::OnCompareItem(int, LPCOMPAREITEMSTRUCT compare)
 {
-    LRESULT order = 0;
-    return ReflectLastMsg(compare->hwndItem, &order) ? int(order) : int(Default());
+    return int(ReflectElseDefault(compare->hwndItem));
 }
 
 void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT deleted)
 {
-    if (!ReflectLastMsg(deleted->hwndItem))
-    {
-        Default();
-    }
+    ReflectElseDefault(deleted->hwndItem);
 }
 
 LRESULT CWnd::OnKeyToItem(WPARAM, LPARAM lParam)
 {
-    LRESULT answer = 0;
-    return ReflectLastMsg(reinterpret_cast<HWND>(lParam), &answer) ? answer : Default();
+    return ReflectElseDefault(reinterpret_cast<HWND>(lParam));
 }
 
 void CWnd::OnParentNotify(UINT message, LPARAM lParam)
 {
-    if ((LOWORD(message) == WM_CREATE || LOWORD(message) == WM_DESTROY) &&
-        ReflectLastMsg(reinterpret_cast<HWND>(lParam)))
-    {
-        return;
-    }
-    Default();
+    const bool fromChild = LOWORD(message) == WM_CREATE || LOWORD(message) == WM_DESTROY;
+    ReflectElseDefault(fromChild ? reinterpret_cast<HWND>(lParam) : nullptr);
 }
 
 // Before dispatch -------------------------------------------------------------------------------

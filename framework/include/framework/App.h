@@ -64,11 +64,12 @@ struct AFX_EXTENSION_MODULE
 FRAMEWORK_API BOOL AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE module);
 FRAMEWORK_API void AfxTermExtensionModule(AFX_EXTENSION_MODULE& state, BOOL all = FALSE);
 
-// Adds an extension module to those whose resources are searched.
+// Adds an extension module to those whose resources are searched. Made with new when the module is
+// loaded; AfxTermExtensionModule deletes it.
 class FRAMEWORK_API CDynLinkLibrary
 {
 public:
     explicit CDynLinkLibrary(AFX_EXTENSION_MODULE& state, BOOL system = FALSE);
-    ~CDynLinkLibrary();
+    virtual ~CDynLinkLibrary();
     HMODULE m_hResource = nullptr;
 };

@@ -30,6 +30,7 @@ public:
     void EndDialog(int result);
 
     virtual BOOL OnInitDialog();
+    // The font that the template gives the controls, before the dialog is initialised.
     virtual void OnSetFont(CFont*) {}
 
     void NextDlgCtrl() const { SendMessage(WM_NEXTDLGCTL, 0, FALSE); }
@@ -42,6 +43,7 @@ public:
     DWORD GetDefID() const { return DWORD(SendMessage(DM_GETDEFID)); }
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
 
+    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreTranslateMessage(MSG* message) override;
 
     // The platform's callback for every dialog of the framework.
@@ -55,7 +57,6 @@ protected:
     virtual BOOL CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance);
     void PostNcDestroy() override;
 
-    UINT m_nIDHelp = 0;
     LPCSTR m_lpszTemplateName = nullptr; // or MAKEINTRESOURCE of an id
     HGLOBAL m_hDialogTemplate = nullptr;
     LPCDLGTEMPLATE m_lpDialogTemplate = nullptr;

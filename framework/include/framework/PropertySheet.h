@@ -7,6 +7,8 @@
 
 class CPropertySheet;
 
+constexpr int ID_APPLY_NOW = 0x3021;
+
 // One page of a property sheet, from a dialog template.
 class FRAMEWORK_API CPropertyPage : public CDialog
 {
@@ -35,6 +37,8 @@ protected:
     CString m_strCaption;
 
 private:
+    CPropertySheet* m_sheet = nullptr;
+
     void Construct(LPCSTR templateName, UINT captionId);
     static UINT CALLBACK Created(HWND window, UINT message, PROPSHEETPAGE* page);
     friend class CPropertySheet;
@@ -75,6 +79,7 @@ public:
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPressButton(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
     DECLARE_MESSAGE_MAP()
 
@@ -84,7 +89,10 @@ protected:
 private:
     std::vector<CPropertyPage*> m_pages;
     bool m_modal = false;
+    bool m_ended = false; // EndDialog was called, perhaps before the loop began
     int m_result = IDCANCEL;
 
     BOOL CreateSheet(CWnd* parent);
+    void HideButtons();
+    void EndIfClosed(int result);
 };

@@ -11,8 +11,7 @@ public:
     CWinThread() = default;
     ~CWinThread() override;
 
-    CWnd* m_pMainWnd = nullptr;   // when it is destroyed, the thread quits
-    CWnd* m_pActiveWnd = nullptr; // in-place main window; unused here
+    CWnd* m_pMainWnd = nullptr; // when it is destroyed, the thread quits
     MSG m_msgCur = {};
 
     virtual BOOL InitInstance() { return FALSE; }
@@ -26,4 +25,8 @@ public:
     virtual BOOL OnIdle(LONG count);
     virtual BOOL IsIdleMessage(MSG* message);
     virtual CWnd* GetMainWnd() { return m_pMainWnd; }
+
+private:
+    UINT m_lastMove = 0;
+    POINT m_lastMovePoint = {};
 };

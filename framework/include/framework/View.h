@@ -9,6 +9,7 @@ class FRAMEWORK_API CView : public CWnd
 
 public:
     CView() = default;
+    ~CView() override;
 
     CDocument* GetDocument() const { return m_pDocument; }
     virtual void OnInitialUpdate() {}
@@ -28,6 +29,9 @@ protected:
     CDocument* m_pDocument = nullptr;
 
     friend class CFrameWnd;
+
+private:
+    void LeaveFrame(BOOL notify);
 };
 
 // A view that scrolls when what it shows is larger than itself; pixels only.

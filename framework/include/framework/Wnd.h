@@ -167,7 +167,12 @@ public:
     // Family
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     CWnd* SetParent(CWnd* parent);
-    CWnd* GetOwner() const { return FromHandle(::GetWindow(m_hWnd, GW_OWNER)); }
+    // The parent of a window that has no owner.
+    CWnd* GetOwner() const
+    {
+        const HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
+        return FromHandle(owner != nullptr ? owner : ::GetParent(m_hWnd));
+    }
     CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOTOWNER)); }
     CFrameWnd* GetParentFrame() const;
     CWnd* GetWindow(UINT command) const { return FromHandle(::GetWindow(m_hWnd, command)); }
@@ -257,6 +262,8 @@ protected:
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     static BOOL PASCAL ReflectLastMsg(HWND child, LRESULT* result = nullptr);
+    // The message in progress for a child, or null; the default processing if it declines.
+    LRESULT ReflectElseDefault(HWND child);
     // After the last message, when the handle is gone: here an object may delete itself.
     virtual void PostNcDestroy() {}
     virtual void DoDataExchange(CDataExchange*) {}
@@ -352,7 +359,8 @@ template <class Handler> LRESULT AfxCallCtlColor(const AFX_MSGCALL& m, Handler h
     return reinterpret_cast<LRESULT>(handler(dc, control, UINT(m.message - WM_CTLCOLORMSGBOX)));
 }
 
-// Binds wnd to the next window that this thread creates, before its first message; for windows
+// Binds wnd to the next window that this thread creates (in parent, unless that is null), before
+// its first message; for windows
 // that the platform creates on the caller's behalf. AfxUnhookWindowCreate says whether it happened.
-FRAMEWORK_API void AfxHookWindowCreate(CWnd* wnd);
+FRAMEWORK_API void AfxHookWindowCreate(CWnd* wnd, HWND parent = nullptr);
 FRAMEWORK_API BOOL AfxUnhookWindowCreate();

@@ -1,0 +1,5 @@
+#pragma once
+
+// What an extension module needs in the one file that initialises it.
+
+#include <afxwin.h>
