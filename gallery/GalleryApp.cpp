@@ -64,5 +64,7 @@ BOOL GalleryApp::InitInstance()
 
 int GalleryApp::ExitInstance()
 {
-    return m_exitCode != 0 ? m_exitCode : CWinApp::ExitInstance();
+    // Without a loop there was no WM_QUIT to take the code from.
+    const bool looped = m_exitCode == 0 && m_msgCur.message == WM_QUIT;
+    return looped ? CWinApp::ExitInstance() : m_exitCode;
 }

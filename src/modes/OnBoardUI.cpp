@@ -117,7 +117,7 @@ void EnsureWndVisible(IAppAccess* host, HWND window)
     int y = 0;
     int width = 0;
     int height = 0;
-    host->GetAvailableArea(IAppAccess::GAA_TYPE(1), x, y, width, height);
+    host->GetAvailableArea(GAA_WINDOW_AREA, x, y, width, height);
     const LONGLONG right = LONGLONG(x) + width;
     const LONGLONG bottom = LONGLONG(y) + height;
 

@@ -3,8 +3,8 @@
 #include <afxwin.h>
 
 // Height factors of the on-board fonts over the stock system font.
-constexpr double SmallOnBoardFont = 1.3; // list rows and combos
-constexpr double LargeOnBoardFont = 1.7; // everything else
+constexpr double SmallOnBoardFont = 1.3; // rows of list boxes, drop-list combos
+constexpr double LargeOnBoardFont = 1.7; // edits, report lists, buttons, captions
 
 // A control class's shared font, made on first use: the on-board one at a height factor and normal
 // weight, the standard one at the standard control height (tenths of a point) in MS Sans Serif.

@@ -12,6 +12,24 @@ constexpr int ScrollBar = ScrollBand + Border;
 // Inside-frame width of the on-board outline pen.
 constexpr int OutlineWidth = 3;
 
+// The caption of an on-board dialog: from either edge to its text, and how far above its bottom edge
+// the line across it runs.
+constexpr int CaptionMargin = 6;
+constexpr int CaptionLineRise = 2;
+
+// What the platform adds to a sizing frame beyond its metrics.
+constexpr int SizingPad = 4;
+
+// How much of a dialog stays in the host's area when it is dragged out of it.
+constexpr int DialogGrip = 52;
+
+// From the left edge of a check box or radio button to its mark, and from the mark to the caption.
+constexpr int MarkInset = 3;
+constexpr int MarkGap = 8;
+
+// Both sides of a radio button's circle.
+constexpr int RadioMark = 22;
+
 // From either edge of a list's row to its text.
 constexpr int ListRowMargin = 4;
 

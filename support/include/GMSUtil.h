@@ -18,8 +18,3 @@ SUPPORT_API std::string GetSpecialConfigVal(const char* section, const char* key
 // Whether the system that really runs is Windows Vista or newer, whatever the program's manifest
 // or compatibility settings make the plain version calls say.
 SUPPORT_API bool IsVistaOrHigher();
-
-// Geographic position of a device point of a chart, in the chart's own order of the two values.
-// Only declared so far: the stand-in library does not carry it yet.
-SUPPORT_API void ZEPHYRIN_ChartDevice2LatLon(K3Chart* chart, int x, int y, K3Grfx* graphics,
-                                             double& first, double& second);
