@@ -158,10 +158,17 @@ private:
     DWORD m_platformBars = 0; // scroll bar styles to give back in the standard mode
     int m_hostExtent = 0;     // horizontal extent that the host set, pixels
     bool m_leaveRequested = false;
-    bool m_following = false;    // in FollowMode
-    bool m_hostRedraw = true;    // the host's WM_SETREDRAW
-    bool m_filling = false;      // the platform's redraw is off while rows are added in a row
-    std::map<int, int> m_widths; // how many rows have a width; kept only with WS_HSCROLL
+    bool m_following = false;     // in FollowMode
+    bool m_hostRedraw = true;     // the host's WM_SETREDRAW
+    bool m_redrawKnown = false;   // that the platform's redraw is the host's
+    bool m_endPosted = false;     // a message that ends the filling is on its way
+    bool m_standardKnown = false; // the list was laid out for the standard mode before
+    CSize m_stdSize;              // of the window, in the standard mode
+    CSize m_onBoardSize;          // what the platform made of it in the on-board mode
+    int m_stdItemHeight = 0;      // pixels, in the standard mode; 0: not known
+    int m_averageWidth = 0;       // of a character of the font; 0: not measured
+    bool m_filling = false;       // the platform's redraw is off while rows are added in a row
+    std::map<int, int> m_widths;  // how many rows have a width; kept only with WS_HSCROLL
     std::unique_ptr<scroll::BarPainter> m_vPainter;
     std::unique_ptr<scroll::BarPainter> m_hPainter;
 
@@ -174,11 +181,16 @@ private:
 
     int Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     bool HasText() const;
+    HFONT Font();
     int AverageCharWidth();
+    int RowHeight(int index);
+    int RowsInSight(int count, int height);
+    bool InColumns() const { return (GetStyle() & LBS_MULTICOLUMN) != 0; }
+    int RowsInColumn();
     int ContentWidth() const;
     void CountWidth(int index, int change);
     void CountAllWidths();
-    void ApplyHorizontalExtent();
+    bool ApplyHorizontalExtent();
 
     CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
     CFauxScrollBar::ePRESSED& Pressed(int axis)
@@ -194,12 +206,12 @@ private:
     bool SendHeldLines();
     void Drag(int axis, int pixels);
     void Scroll(int axis, UINT code, UINT position);
-    void MoveContent(int axis);
+    bool MoveContent(int axis);
     void MirrorContent(int axis);
     void MirrorContent();
     void BeginFilling();
     void EndFilling();
     void InvalidateFrom(int index);
     void KeepCaretInSight();
-    void ContentChanged();
+    bool ContentChanged();
 };

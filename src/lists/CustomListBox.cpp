@@ -6,11 +6,19 @@
 #include "OnBoardUIGeneral.h"
 #include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
+#include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 #include "scroll/BarPaint.h"
 #include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
+
+namespace {
+
+// The platform's own timer message; the list box scrolls by it while a selection is dragged out.
+constexpr UINT SystemTimer = 0x0118;
+
+} // namespace
 
 IMPLEMENT_DYNAMIC(CCustomListBox, CListBox)
 
@@ -51,6 +59,7 @@ BEGIN_MESSAGE_MAP(CCustomListBox, CListBox)
     ON_MESSAGE(WM_SETFONT, &CCustomListBox::OnSetFont)
     ON_MESSAGE(WM_SETREDRAW, &CCustomListBox::OnSetRedraw)
     ON_MESSAGE(WM_CHAR, &CCustomListBox::OnMayScroll)
+    ON_MESSAGE(SystemTimer, &CCustomListBox::OnMayScroll)
     ON_MESSAGE(LB_SETTOPINDEX, &CCustomListBox::OnMayScroll)
     ON_MESSAGE(LB_SETCURSEL, &CCustomListBox::OnMayScroll)
     ON_MESSAGE(LB_SETSEL, &CCustomListBox::OnMayScroll)
@@ -102,6 +111,7 @@ CFont& CCustomListBox::GetStdFont()
 void CCustomListBox::PreSubclassWindow()
 {
     CListBox::PreSubclassWindow();
+    m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
     // A list box that exists already gets no message by which it would notice the mode.
     if (COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
     {
@@ -116,67 +126,147 @@ int CCustomListBox::OnCreate(LPCREATESTRUCT cs)
     const WindowAlive alive(*this);
     scroll::RestoreScrollStyles(*this, m_platformBars);
     const int result = CListBox::OnCreate(cs);
-    if (alive && COnBoardUIGeneral::InOnBoardMode())
+    if (alive)
     {
-        DisableScrollBars();
+        // Only a list made by us is known to paint at once, unless it was made not to.
+        m_redrawKnown = (GetStyle() & LBS_NOREDRAW) == 0;
+        m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
+        if (COnBoardUIGeneral::InOnBoardMode())
+        {
+            DisableScrollBars();
+        }
     }
     return result;
 }
 
 // Lays the window out for the mode of the moment when it is still laid out for the other kind.
-// Returns whether the mode is on-board: the first question of every handler.
+// Whether the mode is on-board (and the list has survived the change): the first question of every
+// handler.
 bool CCustomListBox::FollowMode()
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if (onBoard != m_onBoard && !m_following && GetSafeHwnd() != nullptr)
+    if (onBoard == m_onBoard || m_following || GetSafeHwnd() == nullptr)
     {
-        m_following = true;
-        m_onBoard = onBoard;
-        if (onBoard)
-        {
-            EnterOnBoard();
-        }
-        else
-        {
-            LeaveOnBoard();
-        }
+        return onBoard;
+    }
+    const WindowAlive alive(*this);
+    m_following = true;
+    m_onBoard = onBoard;
+    if (onBoard)
+    {
+        EnterOnBoard();
+    }
+    else
+    {
+        LeaveOnBoard();
+    }
+    if (alive)
+    {
         m_following = false;
     }
-    return onBoard;
+    return onBoard && alive;
 }
+
+namespace {
+
+CSize SizeOf(const CWnd& window)
+{
+    CRect rect;
+    window.GetWindowRect(&rect);
+    return rect.Size();
+}
+
+} // namespace
 
 void CCustomListBox::EnterOnBoard()
 {
+    const WindowAlive alive(*this);
     m_hostExtent = Ask(LB_GETHORIZONTALEXTENT);
+    m_stdSize = SizeOf(*this);
+    m_stdItemHeight = m_standardKnown ? Ask(LB_GETITEMHEIGHT) : 0;
+    m_averageWidth = 0;
+    SCROLLINFO sideways = {};
+    sideways.cbSize = sizeof(sideways);
+    sideways.fMask = SIF_POS;
+    const bool scrolled =
+        (GetStyle() & WS_HSCROLL) != 0 && ::GetScrollInfo(GetSafeHwnd(), SB_HORZ, &sideways);
     DisableScrollBars();
     MeasureRows();
+    if (!alive)
+    {
+        return;
+    }
     CountAllWidths();
-    m_resizePending = true;
     scroll::RecalculateFrame(*this, false);
+    if (!alive)
+    {
+        return;
+    }
     ResizeOBScrollBars();
-    MirrorContent();
+    if (alive && scrolled && m_hBarNeeded)
+    {
+        m_hBar.SetScrollPos(sideways.nPos / AverageCharWidth(), TRUE);
+        MoveContent(SB_HORZ);
+    }
+    if (alive)
+    {
+        MirrorContent();
+        m_onBoardSize = SizeOf(*this);
+    }
 }
 
 void CCustomListBox::LeaveOnBoard()
 {
+    const WindowAlive alive(*this);
+    // The platform cuts a list to whole rows whenever its frame changes; unless the host has sized
+    // it since, it gets back what it had.
+    const bool givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
     EndTracking();
     m_ncSizeDone = false;
+    m_standardKnown = true;
     m_resizePending = true;
     m_vBarNeeded = false;
     m_hBarNeeded = false;
     m_vBar.ShowScrollBar(FALSE);
     m_hBar.ShowScrollBar(FALSE);
     m_widths.clear();
-    MeasureRows();
+    if (m_stdItemHeight > 0 && (GetStyle() & LBS_OWNERDRAWFIXED) != 0)
+    {
+        Ask(LB_SETITEMHEIGHT, 0, m_stdItemHeight); // as the host had it
+    }
+    else
+    {
+        MeasureRows();
+    }
+    if (!alive)
+    {
+        return;
+    }
     scroll::RestoreScrollStyles(*this, m_platformBars);
     m_platformBars = 0;
     Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));
+    if (!alive)
+    {
+        return;
+    }
     scroll::RecalculateFrame(*this, false);
+    if (alive && givesSizeBack && SizeOf(*this) != m_stdSize)
+    {
+        SetWindowPos(nullptr, 0, 0, m_stdSize.cx, m_stdSize.cy,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (!alive)
+    {
+        return;
+    }
     // The platform's list box sets its own bars up again when its size is told.
     CRect client;
     GetClientRect(&client);
     Ask(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
-    RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+    if (alive)
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+    }
 }
 
 void CCustomListBox::DisableScrollBars()
@@ -208,6 +298,7 @@ void CCustomListBox::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params
                           m_vBar.ShowScrollBar() != 0, m_hBar.ShowScrollBar() != 0);
     }
     m_ncSizeDone = true;
+    m_resizePending = true; // a paint of the frame may come before the new size is told
     Default();
 }
 
@@ -230,12 +321,17 @@ void CCustomListBox::OnWindowPosChanging(WINDOWPOS* position)
 
 void CCustomListBox::OnSize(UINT type, int width, int height)
 {
+    const WindowAlive alive(*this);
     CListBox::OnSize(type, width, height);
-    if (FollowMode())
+    if (!alive || !FollowMode())
     {
-        m_resizePending = true;
-        ResizeOBScrollBars();
+        return;
+    }
+    ResizeOBScrollBars();
+    if (alive)
+    {
         MirrorContent();
+        DrawOBBorders();
         DrawOBScrollBars();
     }
 }
@@ -251,11 +347,16 @@ void CCustomListBox::ResizeOBScrollBars()
 
 void CCustomListBox::ReCheckScrollBars()
 {
-    if (FollowMode())
+    const WindowAlive alive(*this);
+    if (!FollowMode())
     {
-        DisableScrollBars();
-        CountAllWidths();
-        ResizeOBScrollBars();
+        return;
+    }
+    DisableScrollBars();
+    CountAllWidths();
+    ResizeOBScrollBars();
+    if (alive)
+    {
         MirrorContent();
         DrawOBScrollBars();
     }
@@ -274,7 +375,14 @@ void CCustomListBox::OnShowWindow(BOOL show, UINT status)
 
 void CCustomListBox::OnNcPaint()
 {
-    if (!FollowMode())
+    const WindowAlive alive(*this);
+    const auto updated = reinterpret_cast<HRGN>(GetCurrentMessage()->wParam);
+    const bool onBoard = FollowMode();
+    if (!alive)
+    {
+        return;
+    }
+    if (!onBoard)
     {
         Default();
         return;
@@ -283,14 +391,13 @@ void CCustomListBox::OnNcPaint()
     {
         ResizeOBScrollBars();
     }
-    if (!scroll::TouchesFrame(*this, reinterpret_cast<HRGN>(GetCurrentMessage()->wParam)))
+    if (alive && scroll::TouchesFrame(*this, updated))
     {
-        return;
+        m_vPainter->Invalidate();
+        m_hPainter->Invalidate();
+        DrawOBBorders();
+        DrawOBScrollBars();
     }
-    m_vPainter->Invalidate();
-    m_hPainter->Invalidate();
-    DrawOBBorders();
-    DrawOBScrollBars();
 }
 
 void CCustomListBox::DrawOBBorders()
@@ -309,6 +416,11 @@ void CCustomListBox::DrawOBBorders()
         }
     }
     dc.FillSolidRect(frame, palette::Outline);
+    {
+        const Selected pen(dc, m_OutlinePen);
+        const Selected brush(dc, ::GetStockObject(NULL_BRUSH));
+        dc.Rectangle(frame);
+    }
     if (m_vBarNeeded && m_hBarNeeded)
     {
         // Where the two bands meet belongs to neither bar.
@@ -348,12 +460,13 @@ void CCustomListBox::DrawBar(int axis)
 
 void CCustomListBox::OnEnable(BOOL enable)
 {
+    const WindowAlive alive(*this);
     if (!enable)
     {
         EndTracking();
     }
     CListBox::OnEnable(enable);
-    if (FollowMode())
+    if (alive && FollowMode())
     {
         DrawOBScrollBars();
     }

@@ -33,6 +33,11 @@ bool CCustomListBox::HasText() const
 
 // Measures --------------------------------------------------------------------------------------
 
+HFONT CCustomListBox::Font()
+{
+    return reinterpret_cast<HFONT>(DefWindowProc(WM_GETFONT, 0, 0));
+}
+
 int CCustomListBox::GetEntryHeight(const char* text)
 {
     CClientDC dc(this);
@@ -49,16 +54,22 @@ int CCustomListBox::GetEntryWidth(int index)
         return 0;
     }
     std::string text(size_t(length) + 1, '\0');
-    const int copied = Ask(LB_GETTEXT, WPARAM(index), reinterpret_cast<LPARAM>(text.data()));
+    const int copied = std::clamp(
+        Ask(LB_GETTEXT, WPARAM(index), reinterpret_cast<LPARAM>(text.data())), 0, length);
     CClientDC dc(this);
-    const Selected font(dc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-    return int(dc.GetTextExtent(text.c_str(), std::clamp(copied, 0, length)).cx);
+    const Selected font(dc, Font());
+    if ((GetStyle() & LBS_USETABSTOPS) != 0)
+    {
+        // Stops that the host has set are not to be had back; these are the platform's own.
+        return LOWORD(::GetTabbedTextExtent(dc, text.c_str(), copied, 0, nullptr));
+    }
+    return int(dc.GetTextExtent(text.c_str(), copied).cx);
 }
 
 int CCustomListBox::GetMaxCharWidth()
 {
     CClientDC dc(this);
-    const Selected font(dc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    const Selected font(dc, Font());
     TEXTMETRIC measured = {};
     dc.GetTextMetrics(&measured);
     return int(measured.tmMaxCharWidth);
@@ -66,18 +77,54 @@ int CCustomListBox::GetMaxCharWidth()
 
 int CCustomListBox::AverageCharWidth()
 {
-    CClientDC dc(this);
-    const Selected font(dc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-    TEXTMETRIC measured = {};
-    dc.GetTextMetrics(&measured);
-    return std::max(1, int(measured.tmAveCharWidth));
+    if (m_averageWidth == 0)
+    {
+        CClientDC dc(this);
+        const Selected font(dc, Font());
+        TEXTMETRIC measured = {};
+        dc.GetTextMetrics(&measured);
+        m_averageWidth = std::max(1, int(measured.tmAveCharWidth));
+    }
+    return m_averageWidth;
+}
+
+int CCustomListBox::RowHeight(int index)
+{
+    return (GetStyle() & LBS_OWNERDRAWVARIABLE) != 0 ? Ask(LB_GETITEMHEIGHT, WPARAM(index))
+                                                     : m_itemHeight;
+}
+
+// How many rows fit into a height: whole ones, counted from the last where they differ.
+int CCustomListBox::RowsInSight(int count, int height)
+{
+    if ((GetStyle() & LBS_OWNERDRAWVARIABLE) == 0)
+    {
+        return height / m_itemHeight;
+    }
+    int rows = 0;
+    for (int used = 0; rows < count; ++rows)
+    {
+        used += RowHeight(count - 1 - rows);
+        if (used > height)
+        {
+            break;
+        }
+    }
+    return rows;
+}
+
+int CCustomListBox::RowsInColumn()
+{
+    CRect client;
+    GetClientRect(&client);
+    return m_itemHeight <= 0 ? 1 : std::max(1, client.Height() / m_itemHeight);
 }
 
 // The widths of all rows are kept counted, so that the widest is known without measuring what has
 // not changed. Lists that never scroll sideways are spared the measuring.
 void CCustomListBox::CountWidth(int index, int change)
 {
-    if (index >= 0 && VerifyAllowHScrollBar())
+    if (index >= 0 && VerifyAllowHScrollBar() && !InColumns())
     {
         const int width = GetEntryWidth(index);
         int& count = m_widths[width];
@@ -92,7 +139,7 @@ void CCustomListBox::CountWidth(int index, int change)
 void CCustomListBox::CountAllWidths()
 {
     m_widths.clear();
-    if (VerifyAllowHScrollBar())
+    if (VerifyAllowHScrollBar() && !InColumns())
     {
         const int count = Ask(LB_GETCOUNT);
         for (int index = 0; index < count; ++index)
@@ -112,18 +159,22 @@ int CCustomListBox::ContentWidth() const
 
 bool CCustomListBox::VerifyAllowVScrollBar()
 {
-    return (GetStyle() & LBS_MULTICOLUMN) == 0;
+    return !InColumns();
 }
 
 bool CCustomListBox::VerifyAllowHScrollBar()
 {
-    return (m_platformBars & WS_HSCROLL) != 0 && (GetStyle() & LBS_MULTICOLUMN) == 0;
+    return (m_platformBars & WS_HSCROLL) != 0 || InColumns();
 }
 
 void CCustomListBox::UpdateScrollData()
 {
+    const WindowAlive alive(*this);
     UpdateVScrollData();
-    UpdateHScrollData();
+    if (alive)
+    {
+        UpdateHScrollData();
+    }
 }
 
 void CCustomListBox::UpdateVScrollData()
@@ -139,7 +190,7 @@ void CCustomListBox::UpdateVScrollData()
     {
         CRect client;
         GetClientRect(&client);
-        const int visible = client.Height() / m_itemHeight;
+        const int visible = RowsInSight(count, client.Height());
         needed = visible < count && VerifyAllowVScrollBar();
         if (needed)
         {
@@ -156,36 +207,53 @@ void CCustomListBox::UpdateVScrollData()
 
 void CCustomListBox::UpdateHScrollData()
 {
-    bool needed = false;
-    if (VerifyAllowHScrollBar())
+    // A step is an average character, or a column in a list of columns. The range has no position
+    // to spare, unlike the vertical one: a horizontal bar divides its track by all of its steps.
+    int hidden = 0;
+    int page = 1;
+    const int count = Ask(LB_GETCOUNT);
+    if (count > 0 && VerifyAllowHScrollBar())
     {
         CRect client;
         GetClientRect(&client);
-        const int hidden = ContentWidth() - client.Width();
-        needed = hidden > 0 && Ask(LB_GETCOUNT) > 0;
-        if (needed)
+        int step = AverageCharWidth();
+        int content = 0;
+        if (InColumns())
         {
-            const int step = AverageCharWidth();
-            m_hBar.SetScrollRange(0, (hidden + step - 1) / step + 1, TRUE);
-            m_hBar.SetPageSize(std::max(1, int(client.Width()) / step - 1), TRUE);
+            CRect row;
+            Ask(LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+            step = std::max(1, row.Width());
+            const int rows = RowsInColumn();
+            const int inSight = std::max(1, client.Width() / step);
+            hidden = std::max(0, (count + rows - 1) / rows - inSight);
         }
-        ApplyHorizontalExtent();
+        else
+        {
+            content = ContentWidth();
+            hidden = std::max(0, (content - client.Width() + step - 1) / step);
+            if (!ApplyHorizontalExtent())
+            {
+                return;
+            }
+        }
+        page = std::max(1, int(client.Width()) / step - 1);
     }
-    if (!needed)
-    {
-        m_hBar.SetScrollRange(0, 0, TRUE);
-    }
-    ShowBar(SB_HORZ, needed);
+    m_hBar.SetScrollRange(0, hidden, TRUE);
+    m_hBar.SetPageSize(page, TRUE);
+    ShowBar(SB_HORZ, hidden > 0);
 }
 
-// The platform scrolls sideways as far as it is told that there is something to see.
-void CCustomListBox::ApplyHorizontalExtent()
+// The platform scrolls sideways as far as it is told that there is something to see. False when
+// the list did not survive it.
+bool CCustomListBox::ApplyHorizontalExtent()
 {
+    const WindowAlive alive(*this);
     const int extent = ContentWidth();
     if (Ask(LB_GETHORIZONTALEXTENT) != extent)
     {
         Ask(LB_SETHORIZONTALEXTENT, WPARAM(extent));
     }
+    return bool(alive);
 }
 
 void CCustomListBox::ShowBar(int axis, bool needed)
@@ -198,130 +266,53 @@ void CCustomListBox::ShowBar(int axis, bool needed)
     }
     if (changed && m_ncSizeDone)
     {
-        // The new client size comes back as WM_SIZE, which places the bars.
+        // The new client size comes back as WM_SIZE, which places the bars. Last: it leaves our
+        // code.
         scroll::RecalculateFrame(*this, false);
     }
-}
-
-// Filling ---------------------------------------------------------------------------------------
-
-// For every row that is added the platform's list box shows its own bar again, which recalculates
-// the frame and is taken back at once. So its redraw stays off while one row after the other is
-// added, and what has to be painted is invalidated here. Whatever else happens ends the filling
-// before it is handled; nobody outside can tell.
-
-namespace {
-
-bool IsPartOfFilling(UINT message)
-{
-    switch (message)
-    {
-    case LB_ADDSTRING:
-    case LB_INSERTSTRING:
-    case LB_INITSTORAGE:
-    case LB_GETCOUNT:
-    case LB_GETITEMDATA:
-    case LB_SETITEMDATA:
-        return true;
-    default:
-        return false;
-    }
-}
-
-} // namespace
-
-LRESULT CCustomListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (m_filling && !IsPartOfFilling(message))
-    {
-        EndFilling();
-    }
-    return CListBox::WindowProc(message, wParam, lParam);
-}
-
-void CCustomListBox::BeginFilling()
-{
-    if (!m_filling && m_hostRedraw && (GetStyle() & LBS_MULTICOLUMN) == 0)
-    {
-        m_filling = true;
-        Ask(WM_SETREDRAW, FALSE);
-    }
-}
-
-void CCustomListBox::EndFilling()
-{
-    m_filling = false;
-    // Switching on invalidates everything; only what was due stays due.
-    CRgn due;
-    due.CreateRectRgn(0, 0, 0, 0);
-    ::GetUpdateRgn(GetSafeHwnd(), due, FALSE);
-    Ask(WM_SETREDRAW, TRUE);
-    ::ValidateRect(GetSafeHwnd(), nullptr);
-    ::InvalidateRgn(GetSafeHwnd(), due, TRUE);
-}
-
-void CCustomListBox::InvalidateFrom(int index)
-{
-    CRect row;
-    CRect client;
-    GetClientRect(&client);
-    if (m_filling && Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row)) != LB_ERR &&
-        row.top < client.bottom)
-    {
-        client.top = std::max(client.top, row.top);
-        InvalidateRect(client, TRUE);
-    }
-}
-
-LRESULT CCustomListBox::OnSetRedraw(WPARAM wParam, LPARAM lParam)
-{
-    m_hostRedraw = wParam != FALSE;
-    return OnMayScroll(wParam, lParam);
 }
 
 // Rows and bars together ------------------------------------------------------------------------
 
 // The content goes where the bar is; what the platform makes of it is mirrored back, so that the
-// bar never runs ahead of the rows.
-void CCustomListBox::MoveContent(int axis)
+// bar never runs ahead of the rows. False when the list did not survive it.
+bool CCustomListBox::MoveContent(int axis)
 {
+    const WindowAlive alive(*this);
+    const int position = Bar(axis).GetScrollPos();
     if (axis == SB_VERT)
     {
-        Ask(LB_SETTOPINDEX, WPARAM(m_vBar.GetScrollPos()));
+        Ask(LB_SETTOPINDEX, WPARAM(position));
+    }
+    else if (InColumns())
+    {
+        Ask(LB_SETTOPINDEX, WPARAM(position) * WPARAM(RowsInColumn()));
     }
     else
     {
-        const int pixels = std::min<int>(m_hBar.GetScrollPos() * AverageCharWidth(), 0xFFFF);
-        Ask(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, pixels));
+        const LONGLONG pixels = LONGLONG{position} * AverageCharWidth();
+        Ask(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, std::min<LONGLONG>(pixels, 0xFFFF)));
     }
-    MirrorContent(axis);
+    if (alive)
+    {
+        MirrorContent(axis);
+    }
+    return bool(alive);
 }
 
 void CCustomListBox::MirrorContent(int axis)
 {
-    if (!Needed(axis))
+    // Sideways the platform tells no position, except in columns: there the bar leads.
+    if (!Needed(axis) || (axis == SB_HORZ && !InColumns()))
     {
         return;
     }
-    CFauxScrollBar& bar = Bar(axis);
-    int shown = 0;
-    if (axis == SB_VERT)
-    {
-        shown = Ask(LB_GETTOPINDEX);
-    }
-    else
-    {
-        // Sideways the platform tells no position: the bar leads, as far as there is content. Its
-        // range has one position more, as the vertical one has.
-        int minimum = 0;
-        int maximum = 0;
-        bar.GetScrollRange(&minimum, &maximum);
-        shown = std::min(bar.GetScrollPos(), maximum - 1);
-    }
+    const int top = Ask(LB_GETTOPINDEX);
+    const int shown = axis == SB_VERT ? top : top / RowsInColumn();
     // A drag leaves the thumb between two positions; a position that holds is not set again.
-    if (shown != bar.GetScrollPos())
+    if (shown != Bar(axis).GetScrollPos())
     {
-        bar.SetScrollPos(shown, TRUE);
+        Bar(axis).SetScrollPos(shown, TRUE);
     }
 }
 
@@ -331,11 +322,17 @@ void CCustomListBox::MirrorContent()
     MirrorContent(SB_HORZ);
 }
 
-void CCustomListBox::ContentChanged()
+// False when the list did not survive it.
+bool CCustomListBox::ContentChanged()
 {
+    const WindowAlive alive(*this);
     UpdateScrollData();
-    MirrorContent();
-    DrawOBScrollBars();
+    if (alive)
+    {
+        MirrorContent();
+        DrawOBScrollBars();
+    }
+    return bool(alive);
 }
 
 LRESULT CCustomListBox::OnAddString(WPARAM, LPARAM)
@@ -345,7 +342,7 @@ LRESULT CCustomListBox::OnAddString(WPARAM, LPARAM)
     {
         BeginFilling();
     }
-    const LRESULT result = Default();
+    const LRESULT result = alive ? Default() : LB_ERR;
     if (alive && result >= 0 && FollowMode())
     {
         InvalidateFrom(int(result));
@@ -364,14 +361,22 @@ LRESULT CCustomListBox::OnDeleteString(WPARAM wParam, LPARAM)
 {
     const WindowAlive alive(*this);
     const bool onBoard = FollowMode();
+    if (!alive)
+    {
+        return LB_ERR;
+    }
     const int index = int(wParam);
-    const bool exists = index >= 0 && index < Ask(LB_GETCOUNT);
-    if (onBoard && exists)
+    const bool counted = onBoard && index >= 0 && index < Ask(LB_GETCOUNT);
+    if (counted)
     {
         CountWidth(index, -1);
     }
     // The owner hears of the deletion (WM_DELETEITEM) and may end the list there.
     const LRESULT result = Default();
+    if (alive && result < 0 && counted)
+    {
+        CountWidth(index, 1);
+    }
     if (alive && result >= 0 && FollowMode())
     {
         ContentChanged();
@@ -387,7 +392,10 @@ LRESULT CCustomListBox::OnResetContent(WPARAM, LPARAM)
     {
         m_widths.clear();
         m_hBar.SetScrollPos(0, TRUE);
-        ContentChanged();
+        if (!m_hBarNeeded || MoveContent(SB_HORZ))
+        {
+            ContentChanged();
+        }
     }
     return result;
 }
@@ -396,14 +404,20 @@ LRESULT CCustomListBox::OnSetFont(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this);
     const LRESULT result = Default();
+    if (!alive || !FollowMode())
+    {
+        return result;
+    }
+    m_averageWidth = 0;
+    MeasureRows();
     if (alive)
     {
-        MeasureRows();
-    }
-    if (alive && FollowMode())
-    {
         CountAllWidths();
-        ContentChanged();
+    }
+    // The steps have another length; the content goes where the bar says.
+    if (alive && ContentChanged() && m_hBarNeeded)
+    {
+        MoveContent(SB_HORZ);
     }
     return result;
 }
@@ -434,9 +448,10 @@ LRESULT CCustomListBox::OnMayScroll(WPARAM, LPARAM)
 
 LRESULT CCustomListBox::OnSetHorizontalExtent(WPARAM wParam, LPARAM)
 {
+    const WindowAlive alive(*this);
     if (!FollowMode())
     {
-        return Default();
+        return alive ? Default() : 0;
     }
     m_hostExtent = std::max(0, int(wParam));
     ContentChanged();
@@ -450,13 +465,18 @@ LRESULT CCustomListBox::OnGetHorizontalExtent(WPARAM, LPARAM)
 
 int CCustomListBox::SetScrollPos(int bar, int position, int redraw)
 {
-    if (!FollowMode() || (bar != SB_VERT && bar != SB_HORZ))
+    const WindowAlive alive(*this);
+    const bool onBoard = FollowMode();
+    if (!alive)
+    {
+        return 0;
+    }
+    if (!onBoard || (bar != SB_VERT && bar != SB_HORZ))
     {
         return CListBox::SetScrollPos(bar, position, redraw);
     }
     const int before = Bar(bar).SetScrollPos(position, redraw);
-    MoveContent(bar);
-    if (redraw)
+    if (MoveContent(bar) && redraw)
     {
         DrawOBScrollBars();
     }

@@ -13,6 +13,7 @@
 
 LRESULT CCustomListBox::OnNcHitTest(CPoint point)
 {
+    const WindowAlive alive(*this);
     if (FollowMode())
     {
         const CPoint inWindow = scroll::ScreenToWindow(*this, point);
@@ -27,7 +28,7 @@ LRESULT CCustomListBox::OnNcHitTest(CPoint point)
             }
         }
     }
-    return Default();
+    return alive ? Default() : HTNOWHERE;
 }
 
 void CCustomListBox::OnNcLButtonDown(UINT hitTest, CPoint point)
@@ -44,7 +45,13 @@ void CCustomListBox::OnNcLButtonDblClk(UINT hitTest, CPoint point)
 void CCustomListBox::PressNc(UINT hitTest, const CPoint& screen)
 {
     m_lastNcHit = hitTest;
-    if (!FollowMode() || (hitTest != HTVSCROLL && hitTest != HTHSCROLL))
+    const WindowAlive alive(*this);
+    const bool ours = FollowMode() && (hitTest == HTVSCROLL || hitTest == HTHSCROLL);
+    if (!alive)
+    {
+        return;
+    }
+    if (!ours)
     {
         Default();
         return;
@@ -81,20 +88,25 @@ void CCustomListBox::Press(int axis)
     if (part == CFauxScrollBar::PRESSED_THUMB)
     {
         DrawOBScrollBars();
+    }
+    else if (const int code = scroll::CodeOf(part); code != scroll::NoCode)
+    {
+        SendMessage(scroll::MessageOf(axis), WPARAM(code));
+    }
+    // The message may have ended the list, the mode or the press.
+    if (!alive || !m_tracking)
+    {
+        return;
+    }
+    if (scroll::Repeats(part))
+    {
+        SetTimer(m_timerid, m_timerperiod, nullptr); // sees by itself when the button is up
+    }
+    else
+    {
+        // Released outside, no message would tell: leaving ends the press.
         m_leaveRequested = true;
         scroll::RequestNcLeave(*this);
-        return;
-    }
-    const int code = scroll::CodeOf(part);
-    if (code == scroll::NoCode)
-    {
-        return;
-    }
-    SendMessage(scroll::MessageOf(axis), WPARAM(code));
-    // The message may have ended the list, the mode or the press.
-    if (alive && m_tracking && scroll::Repeats(part))
-    {
-        SetTimer(m_timerid, m_timerperiod, nullptr);
     }
 }
 
@@ -120,28 +132,31 @@ void CCustomListBox::EndTracking()
 
 void CCustomListBox::OnNcLButtonUp(UINT, CPoint)
 {
+    const WindowAlive alive(*this);
     const bool onBoard = FollowMode();
-    EndTracking();
-    if (onBoard)
+    if (!alive)
     {
-        if (::GetCapture() == GetSafeHwnd())
-        {
-            ::ReleaseCapture();
-        }
-        DrawOBScrollBars();
+        return;
     }
-    Default();
+    EndTracking();
+    if (onBoard && ::GetCapture() == GetSafeHwnd())
+    {
+        ::ReleaseCapture();
+    }
+    if (alive)
+    {
+        DrawOBScrollBars();
+        Default();
+    }
 }
 
 LRESULT CCustomListBox::OnNCMouseLeave(WPARAM, LPARAM)
 {
-    // A held arrow goes on until its button is released, wherever the pointer is by then.
-    const bool held = m_tracking && m_vPressed != CFauxScrollBar::PRESSED_THUMB &&
-                      m_hPressed != CFauxScrollBar::PRESSED_THUMB;
+    const WindowAlive alive(*this);
     m_leaveRequested = false;
-    if (!held)
+    // A held arrow goes on until its button is released, wherever the pointer is by then.
+    if (!scroll::Repeats(m_vPressed) && !scroll::Repeats(m_hPressed))
     {
-        const WindowAlive alive(*this);
         EndTracking();
         if (::GetCapture() == GetSafeHwnd() && COnBoardUIGeneral::InOnBoardMode())
         {
@@ -152,14 +167,15 @@ LRESULT CCustomListBox::OnNCMouseLeave(WPARAM, LPARAM)
             DrawOBScrollBars();
         }
     }
-    return Default();
+    return alive ? Default() : 0;
 }
 
 void CCustomListBox::OnCaptureChanged(CWnd* taker)
 {
+    const WindowAlive alive(*this);
     EndTracking();
     CListBox::OnCaptureChanged(taker);
-    if (FollowMode())
+    if (alive && FollowMode())
     {
         DrawOBScrollBars();
     }
@@ -167,9 +183,10 @@ void CCustomListBox::OnCaptureChanged(CWnd* taker)
 
 void CCustomListBox::OnCancelMode()
 {
+    const WindowAlive alive(*this);
     EndTracking();
     CListBox::OnCancelMode();
-    if (FollowMode())
+    if (alive && FollowMode())
     {
         DrawOBScrollBars();
     }
@@ -199,31 +216,34 @@ bool CCustomListBox::SendHeldLines()
 
 void CCustomListBox::OnTimer(UINT_PTR id)
 {
-    const bool initial = id == m_timerInitialWaitID;
-    if ((id != m_timerid && !initial) || !FollowMode())
+    const WindowAlive alive(*this);
+    const bool ours = (id == m_timerid || id == m_timerInitialWaitID) && FollowMode();
+    if (!alive)
+    {
+        return;
+    }
+    if (!ours)
     {
         Default();
         return;
     }
-    if (initial)
+    const bool initial = id == m_timerInitialWaitID;
+    const bool down = scroll::LeftButtonDown();
+    if (initial || !down)
     {
-        KillTimer(m_timerInitialWaitID);
+        KillTimer(id);
     }
-    if (!scroll::LeftButtonDown())
-    {
-        if (!initial)
-        {
-            // Released somewhere else, where no message told of it.
-            EndTracking();
-        }
-    }
-    else if (!SendHeldLines())
+    if (down && !SendHeldLines())
     {
         return;
     }
-    else if (initial)
+    if (down && initial && m_tracking)
     {
         SetTimer(m_timerid, m_timerperiod, nullptr);
+    }
+    if (!down && !initial)
+    {
+        EndTracking(); // released somewhere else, where no message told of it
     }
     DrawOBScrollBars();
 }
@@ -293,10 +313,9 @@ void CCustomListBox::Drag(int axis, int pixels)
         bar.GetPartArea(CFauxScrollBar::PRESSED_THUMB).right >=
             bar.GetPartArea(CFauxScrollBar::PRESSED_SECOND).left)
     {
-        // Past its last position a horizontal bar tells none; at the end of the track a drag has
-        // reached the end of the content all the same.
+        // Past its last band a horizontal bar tells no position; at the end of the track a drag
+        // has reached the end of the content all the same.
         bar.HandleScroll(SB_RIGHT);
-        MirrorContent(SB_HORZ);
     }
     const int after = bar.GetScrollPos();
     DrawOBScrollBars();
@@ -338,9 +357,11 @@ void CCustomListBox::OnLButtonUp(UINT flags, CPoint point)
 
 BOOL CCustomListBox::OnMouseWheel(UINT flags, short delta, CPoint point)
 {
-    if (!FollowMode())
+    const WindowAlive alive(*this);
+    const bool onBoard = FollowMode();
+    if (!onBoard)
     {
-        return CListBox::OnMouseWheel(flags, delta, point);
+        return alive ? CListBox::OnMouseWheel(flags, delta, point) : TRUE;
     }
     // One line a turn, however far the wheel was turned.
     SendMessage(WM_VSCROLL, delta > 0 ? SB_LINEUP : SB_LINEDOWN);
@@ -386,6 +407,9 @@ void CCustomListBox::OnKeyDown(UINT key, UINT repeat, UINT flags)
     if (alive && FollowMode())
     {
         KeepCaretInSight();
+    }
+    if (alive)
+    {
         DrawOBScrollBars();
     }
 }
@@ -393,19 +417,29 @@ void CCustomListBox::OnKeyDown(UINT key, UINT repeat, UINT flags)
 void CCustomListBox::KeepCaretInSight()
 {
     const int caret = Ask(LB_GETCARETINDEX);
-    if (caret < 0 || m_itemHeight <= 0)
+    if (caret < 0 || !m_vBarNeeded)
     {
-        return;
+        return; // all rows are in sight, or the platform scrolls by itself
     }
     CRect client;
     GetClientRect(&client);
-    const int visible = std::max(1, client.Height() / m_itemHeight);
+    // The first row of all from which the caret's row is still whole.
+    int first = caret;
+    int height = RowHeight(caret);
+    while (first > 0 && height + RowHeight(first - 1) <= client.Height())
+    {
+        height += RowHeight(--first);
+    }
     const int top = Ask(LB_GETTOPINDEX);
-    const int wanted = std::clamp(top, caret - visible + 1, caret);
+    const int wanted = std::clamp(top, first, caret);
     if (wanted != top)
     {
+        const WindowAlive alive(*this);
         Ask(LB_SETTOPINDEX, WPARAM(wanted));
-        MirrorContent();
+        if (alive)
+        {
+            MirrorContent();
+        }
     }
 }
 
@@ -413,26 +447,42 @@ void CCustomListBox::KeepCaretInSight()
 
 void CCustomListBox::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 {
-    if (!FollowMode() || bar != nullptr)
+    if (bar == nullptr)
+    {
+        Scroll(SB_VERT, code, position);
+    }
+    else
     {
         CListBox::OnVScroll(code, position, bar);
-        return;
     }
-    Scroll(SB_VERT, code, position);
 }
 
 void CCustomListBox::OnHScroll(UINT code, UINT position, CScrollBar* bar)
 {
-    if (!FollowMode() || bar != nullptr)
+    if (bar == nullptr)
+    {
+        Scroll(SB_HORZ, code, position);
+    }
+    else
     {
         CListBox::OnHScroll(code, position, bar);
-        return;
     }
-    Scroll(SB_HORZ, code, position);
 }
 
 void CCustomListBox::Scroll(int axis, UINT code, UINT position)
 {
+    const WindowAlive alive(*this);
+    const bool onBoard = FollowMode();
+    if (!alive)
+    {
+        return;
+    }
+    if (!onBoard || !Needed(axis))
+    {
+        // Without a bar of ours the rows are the platform's to scroll.
+        Default();
+        return;
+    }
     CFauxScrollBar& bar = Bar(axis);
     // A drag has moved the bar already. A thumb message from elsewhere has not; its position holds
     // 16 bits, so the bar's own tells a drag from it.
@@ -442,6 +492,8 @@ void CCustomListBox::Scroll(int axis, UINT code, UINT position)
         bar.SetScrollPos(int(position), TRUE);
     }
     bar.HandleScroll(code, position, nullptr);
-    MoveContent(axis);
-    DrawOBScrollBars();
+    if (MoveContent(axis))
+    {
+        DrawOBScrollBars();
+    }
 }

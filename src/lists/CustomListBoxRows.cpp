@@ -86,7 +86,7 @@ void CCustomListBox::MeasureItem(LPMEASUREITEMSTRUCT measure)
         return;
     }
     CClientDC dc(this);
-    const Selected font(dc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    const Selected font(dc, Font());
     measure->itemHeight = UINT(std::max<LONG>(1, dc.GetTextExtent("X", 1).cy));
 }
 

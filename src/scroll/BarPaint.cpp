@@ -27,7 +27,8 @@ bool BarAppearance::operator==(const BarAppearance& other) const
            colors == other.colors;
 }
 
-bool BarPainter::Draw(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed,
+// Notes what the bar shows now; whether it is to be painted.
+bool BarPainter::Take(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed,
                       bool force)
 {
     // Nothing reaches the screen while the window is hidden or its redraw is off, and a paint need
@@ -43,13 +44,39 @@ bool BarPainter::Draw(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSE
         return false;
     }
     m_last = now;
-    if (now.shown == 0 || now.area.IsRectEmpty())
+    return now.shown != 0 && !now.area.IsRectEmpty();
+}
+
+namespace {
+
+void Paint(CDC& target, CFauxScrollBar& bar, const BarAppearance& now)
+{
+    BackBuffer buffer(target, now.area);
+    bar.ReDraw(buffer, now.pressed, now.enabled);
+}
+
+} // namespace
+
+bool BarPainter::Draw(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed,
+                      bool force)
+{
+    if (!Take(window, bar, pressed, force))
     {
         return false;
     }
     CWindowDC dc(&window);
-    BackBuffer buffer(dc, now.area);
-    bar.ReDraw(buffer, pressed, now.enabled);
+    Paint(dc, bar, *m_last);
+    return true;
+}
+
+bool BarPainter::Draw(CDC& target, CWnd& window, CFauxScrollBar& bar,
+                      CFauxScrollBar::ePRESSED pressed, bool force)
+{
+    if (!Take(window, bar, pressed, force))
+    {
+        return false;
+    }
+    Paint(target, bar, *m_last);
     return true;
 }
 

@@ -39,8 +39,13 @@ public:
     // was painted.
     bool Draw(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed,
               bool force = false);
+    // The same through a context of the window that the caller has already.
+    bool Draw(CDC& target, CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed,
+              bool force = false);
 
 private:
+    bool Take(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed, bool force);
+
     std::optional<BarAppearance> m_last;
 };
 

@@ -73,11 +73,12 @@ CPoint ScreenToWindow(const CWnd& window, const CPoint& screen)
     return CPoint(screen.x - frame.left, screen.y - frame.top);
 }
 
-DWORD StripScrollStyles(const CWnd& window)
+DWORD StripScrollStyles(const CWnd& window, DWORD styles)
 {
     const DWORD style = StyleOfWindow(window.GetSafeHwnd());
-    WriteScrollStyles(window.GetSafeHwnd(), style, 0);
-    return style & ScrollStyles;
+    const DWORD had = style & styles & ScrollStyles;
+    WriteScrollStyles(window.GetSafeHwnd(), style, style & ScrollStyles & ~had);
+    return had;
 }
 
 void RestoreScrollStyles(const CWnd& window, DWORD styles)
@@ -89,11 +90,23 @@ void RestoreScrollStyles(const CWnd& window, DWORD styles)
 void RecalculateFrame(const CWnd& window, bool copyBits)
 {
     const HWND handle = window.GetSafeHwnd();
-    const UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_FRAMECHANGED | (copyBits ? 0 : SWP_NOCOPYBITS);
+    // A window of its own must not become the active one by it.
+    const bool child = (StyleOfWindow(handle) & WS_CHILD) != 0;
+    const UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_FRAMECHANGED |
+                       (copyBits ? 0 : SWP_NOCOPYBITS) | (child ? 0 : SWP_NOACTIVATE);
     // Placed behind its own predecessor, the window keeps its place in the order of its siblings,
     // which is also the tab order of a dialog.
     HWND predecessor = ::GetWindow(handle, GW_HWNDPREV);
     ::SetWindowPos(handle, predecessor != nullptr ? predecessor : HWND_TOP, 0, 0, 0, 0, flags);
+}
+
+void RefusePlatformBars(const CWnd& window, WINDOWPOS& position, DWORD styles)
+{
+    constexpr UINT frameOnly = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;
+    if (StripScrollStyles(window, styles) != 0 && (position.flags & frameOnly) == frameOnly)
+    {
+        position.flags &= ~UINT(SWP_FRAMECHANGED);
+    }
 }
 
 bool TouchesFrame(const CWnd& window, HRGN updated)

@@ -23,10 +23,10 @@ CRect ClientRectInWindow(const CWnd& window);
 // A point of the screen in window coordinates.
 CPoint ScreenToWindow(const CWnd& window, const CPoint& screen);
 
-// Takes the platform's scroll bars away from a window and returns the styles that it had
-// (WS_VSCROLL, WS_HSCROLL or both). The style is written only when it changes, and the frame is not
-// recalculated.
-DWORD StripScrollStyles(const CWnd& window);
+// Takes the platform's scroll bars away from a window, both or one of them, and returns the styles
+// that it had (WS_VSCROLL, WS_HSCROLL or both). The style is written only when it changes, and the
+// frame is not recalculated.
+DWORD StripScrollStyles(const CWnd& window, DWORD styles = WS_VSCROLL | WS_HSCROLL);
 
 // Gives scroll bar styles back in the same way; other bits of styles are ignored.
 void RestoreScrollStyles(const CWnd& window, DWORD styles);
@@ -34,6 +34,10 @@ void RestoreScrollStyles(const CWnd& window, DWORD styles);
 // Has the frame recalculated, which sends WM_NCCALCSIZE and WM_NCPAINT. copyBits false also throws
 // the client pixels away (SWP_NOCOPYBITS). Size, place and z-order stay.
 void RecalculateFrame(const CWnd& window, bool copyBits = true);
+
+// In WM_WINDOWPOSCHANGING: the platform shows the bar that its content asks for by adding the style
+// and recalculating the frame. Takes such a style away again and saves the recalculation.
+void RefusePlatformBars(const CWnd& window, WINDOWPOS& position, DWORD styles);
 
 // Whether the region of a WM_NCPAINT (screen coordinates, or 1 for everything) reaches out of the
 // client area. The message also comes along with paints of the client area alone.
