@@ -20,14 +20,10 @@ class Controls : public WindowTest
 class OwnerDrawnList : public CListBox
 {
 public:
-    int drawn = 0, measured = 0, deleted = 0;
+    int drawn = 0, deleted = 0;
 
     void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
-    void MeasureItem(LPMEASUREITEMSTRUCT measure) override
-    {
-        ++measured;
-        measure->itemHeight = 33;
-    }
+    void MeasureItem(LPMEASUREITEMSTRUCT measure) override { measure->itemHeight = 33; }
     int CompareItem(LPCOMPAREITEMSTRUCT compare) override
     {
         return compare->itemData1 < compare->itemData2 ? 1 : -1;
@@ -36,29 +32,18 @@ public:
     int VKeyToItem(UINT key, UINT caret) override { return key == VK_F2 && caret == 0 ? 2 : -1; }
 };
 
-class OwnerDrawnCombo : public CComboBox
-{
-public:
-    int drawn = 0;
-
-    void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
-    void MeasureItem(LPMEASUREITEMSTRUCT measure) override { measure->itemHeight = 21; }
-};
-
-class OwnerDrawnButton : public CButton
-{
-public:
-    UINT state = 0;
-
-    void DrawItem(LPDRAWITEMSTRUCT draw) override { state = draw->itemState; }
-};
-
-class OwnerDrawnReport : public CListCtrl
+// Any other control that draws itself.
+template <class Control> class OwnerDrawn : public Control
 {
 public:
     std::vector<UINT> drawn;
+    UINT state = 0;
 
-    void DrawItem(LPDRAWITEMSTRUCT draw) override { drawn.push_back(draw->itemID); }
+    void DrawItem(LPDRAWITEMSTRUCT draw) override
+    {
+        drawn.push_back(draw->itemID);
+        state = draw->itemState;
+    }
 };
 
 } // namespace
@@ -72,8 +57,6 @@ TEST_F(Controls, OwnerDrawnListAsksItsOwnVirtuals)
         list.SendMessage(LB_ADDSTRING, 0, LPARAM(data));
     }
     EXPECT_EQ(list.GetItemData(0), 3U);
-    EXPECT_EQ(list.GetItemData(2), 1U);
-    EXPECT_EQ(list.measured, 3);
     EXPECT_EQ(list.GetItemHeight(1), 33);
     PumpAll();
     EXPECT_GE(list.drawn, 3);
@@ -87,19 +70,18 @@ TEST_F(Controls, OwnerDrawnListAsksItsOwnVirtuals)
 
 TEST_F(Controls, OwnerDrawnComboButtonAndReportAskTheirOwnVirtuals)
 {
-    auto& combo = Add<OwnerDrawnCombo>(Place, CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED);
-    EXPECT_EQ(combo.GetItemHeight(0), 21);
+    auto& combo = Add<OwnerDrawn<CComboBox>>(Place, CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED);
     combo.AddString("x");
     combo.SetCurSel(0);
     PumpAll();
-    EXPECT_GE(combo.drawn, 1);
+    EXPECT_FALSE(combo.drawn.empty());
 
-    auto& button = Add<OwnerDrawnButton>(Place, BS_OWNERDRAW);
+    auto& button = Add<OwnerDrawn<CButton>>(Place, BS_OWNERDRAW);
     button.SetState(TRUE);
     PumpAll();
     EXPECT_NE(button.state & ODS_SELECTED, 0U);
 
-    auto& report = Add<OwnerDrawnReport>(Place, LVS_REPORT | LVS_OWNERDRAWFIXED);
+    auto& report = Add<OwnerDrawn<CListCtrl>>(Place, LVS_REPORT | LVS_OWNERDRAWFIXED);
     report.InsertColumn(0, "a", LVCFMT_LEFT, 50);
     report.InsertItem(0, "first");
     report.InsertItem(1, "second");
@@ -107,47 +89,27 @@ TEST_F(Controls, OwnerDrawnComboButtonAndReportAskTheirOwnVirtuals)
     EXPECT_EQ(report.drawn, (std::vector<UINT>{0, 1}));
 }
 
-TEST_F(Controls, ListBoxTextsAndPoints)
+TEST_F(Controls, TextsOfAnyLengthAreRead)
 {
-    auto& list = Add<CListBox>(Place, LBS_NOINTEGRALHEIGHT | LBS_EXTENDEDSEL);
-    const std::string longText(1000, 'x');
+    const std::string longText(1000, 'x'); // more than a first buffer holds
+    auto& list = Add<CListBox>(Place, LBS_NOINTEGRALHEIGHT);
     list.AddString(longText.c_str());
-    list.AddString("b");
-    list.AddString("c");
     CString text;
     list.GetText(0, text);
-    EXPECT_EQ(text.GetLength(), 1000);
+    EXPECT_STREQ(text, longText.c_str());
     list.GetText(99, text);
     EXPECT_TRUE(text.IsEmpty());
-
-    BOOL outside = TRUE;
-    EXPECT_EQ(list.ItemFromPoint(CPoint(5, list.GetItemHeight(0) + 1), outside), 1U);
-    EXPECT_FALSE(outside);
+    BOOL outside = FALSE;
     list.ItemFromPoint(CPoint(5, 2000), outside);
     EXPECT_TRUE(outside);
 
-    list.SelItemRange(TRUE, 1, 2);
-    int selected[3] = {};
-    ASSERT_EQ(list.GetSelItems(3, selected), 2);
-    EXPECT_EQ(selected[1], 2);
-}
+    auto& report = Add<CListCtrl>(Place, LVS_REPORT);
+    report.InsertColumn(0, "name", LVCFMT_LEFT, 80);
+    report.InsertItem(0, longText.c_str());
+    EXPECT_STREQ(report.GetItemText(0, 0), longText.c_str());
 
-TEST_F(Controls, EditLinesAndSelection)
-{
-    auto& edit = Add<CEdit>(Place, ES_MULTILINE);
-    edit.SetWindowText("first\r\nsecond");
-    char line[16] = {};
-    EXPECT_EQ(edit.GetLine(1, line, sizeof(line)), 6);
-    EXPECT_STREQ(line, "second");
-    EXPECT_EQ(edit.LineIndex(1), 7);
-    edit.SetSel(0, -1);
-    int start = -1;
-    int end = -1;
-    edit.GetSel(start, end);
-    EXPECT_EQ(end - start, 13);
-    edit.SetSel(MAKELONG(2, 4));
-    edit.ReplaceSel("");
-    EXPECT_EQ(edit.LineLength(0), 3);
+    auto& tree = Add<CTreeCtrl>(Place);
+    EXPECT_STREQ(tree.GetItemText(tree.InsertItem(longText.c_str())), longText.c_str());
 }
 
 TEST_F(Controls, ScrollBarLimitLeavesRoomForThePage)
@@ -163,18 +125,12 @@ TEST_F(Controls, ScrollBarLimitLeavesRoomForThePage)
 TEST_F(Controls, ReportSelectionTextsAndHeader)
 {
     auto& list = Add<CListCtrl>(Place, LVS_REPORT);
-    EXPECT_EQ(list.InsertColumn(0, "name", LVCFMT_LEFT, 80), 0);
-    EXPECT_EQ(list.InsertColumn(1, "value", LVCFMT_RIGHT, 60, 1), 1);
+    list.InsertColumn(0, "name", LVCFMT_LEFT, 80);
+    list.InsertColumn(1, "value", LVCFMT_RIGHT, 60, 1);
     for (int row = 0; row < 5; ++row)
     {
         list.InsertItem(row, "row");
-        list.SetItemData(row, DWORD_PTR(100 + row));
     }
-    const std::string longText(600, 'x'); // more than a first buffer holds
-    list.SetItemText(2, 1, longText.c_str());
-    EXPECT_STREQ(list.GetItemText(2, 1), longText.c_str());
-    EXPECT_EQ(list.GetItemData(4), 104U);
-
     list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
     list.SetItemState(3, LVIS_SELECTED, LVIS_SELECTED);
     std::vector<int> selected;
@@ -186,47 +142,16 @@ TEST_F(Controls, ReportSelectionTextsAndHeader)
 
     CHeaderCtrl* const header = list.GetHeaderCtrl();
     ASSERT_NE(header, nullptr);
-    EXPECT_TRUE(header->IsKindOf(RUNTIME_CLASS(CHeaderCtrl)));
     EXPECT_EQ(header->GetItemCount(), 2);
-    CRect cell;
-    EXPECT_TRUE(list.GetSubItemRect(0, 1, LVIR_BOUNDS, cell));
-    EXPECT_EQ(cell.left, 80);
     CHeaderCtrl subclassed;
     subclassed.SubclassWindow(header->m_hWnd);
     EXPECT_EQ(list.GetHeaderCtrl(), &subclassed);
     subclassed.UnsubclassWindow();
 }
 
-TEST_F(Controls, TreeItemsTextsAndRectangles)
-{
-    auto& tree = Add<CTreeCtrl>(Place, TVS_HASBUTTONS);
-    const HTREEITEM root = tree.InsertItem("root");
-    const std::string longText(600, 'x'); // more than a first buffer holds
-    const HTREEITEM child = tree.InsertItem(longText.c_str(), root);
-    tree.SetItemData(child, 42);
-    EXPECT_TRUE(tree.ItemHasChildren(root));
-    EXPECT_STREQ(tree.GetItemText(child), longText.c_str());
-    EXPECT_EQ(tree.GetItemData(child), 42U);
-    CRect rect;
-    EXPECT_FALSE(tree.GetItemRect(child, &rect, FALSE));
-    tree.Expand(root, TVE_EXPAND);
-    EXPECT_TRUE(tree.GetItemRect(child, &rect, TRUE));
-    EXPECT_EQ(tree.HitTest(rect.TopLeft() + CSize(3, 3)), child);
-}
-
-TEST_F(Controls, RichEditFormatsAndRanges)
+TEST_F(Controls, RichEditRanges)
 {
     auto& edit = Add<CRichEditCtrl>(Place, ES_MULTILINE);
-    CHARFORMAT format = {};
-    format.dwMask = CFM_COLOR | CFM_SIZE;
-    format.crTextColor = RGB(10, 20, 30);
-    format.yHeight = 400;
-    EXPECT_TRUE(edit.SetDefaultCharFormat(format));
-    CHARFORMAT read = {};
-    EXPECT_NE(edit.GetDefaultCharFormat(read) & CFM_COLOR, 0U);
-    EXPECT_EQ(read.crTextColor, RGB(10, 20, 30));
-    EXPECT_EQ(read.yHeight, 400);
-
     edit.SetWindowText("some text");
     edit.SetSel(5, 9);
     EXPECT_STREQ(edit.GetSelText(), "text");
@@ -234,25 +159,6 @@ TEST_F(Controls, RichEditFormatsAndRanges)
     CString text;
     EXPECT_EQ(edit.GetTextRange(0, -1, text), 10);
     EXPECT_STREQ(text, "some words");
-}
-
-TEST_F(Controls, TipsKeepTextsForWindowsAndRectangles)
-{
-    auto& button = Add<CButton>(Place);
-    CToolTipCtrl tips;
-    ASSERT_TRUE(tips.Create(&Host()));
-    EXPECT_TRUE(tips.AddTool(&button, ShortString));
-    EXPECT_TRUE(tips.AddTool(&Host(), "area", CRect(0, 0, 5, 5), 7));
-    EXPECT_EQ(tips.GetToolCount(), 2);
-    CString text;
-    tips.GetText(text, &button);
-    EXPECT_STREQ(text, "short");
-    tips.UpdateTipText("other", &Host(), 7);
-    tips.GetText(text, &Host(), 7);
-    EXPECT_STREQ(text, "other");
-    tips.DelTool(&button);
-    EXPECT_EQ(tips.GetToolCount(), 1);
-    tips.DestroyWindow();
 }
 
 TEST_F(Controls, StatusBarStretchesOnePane)
@@ -263,21 +169,14 @@ TEST_F(Controls, StatusBarStretchesOnePane)
     EXPECT_FALSE(bar.SetIndicators(ids, 3)) << "the last string does not exist";
     EXPECT_TRUE(bar.SetIndicators(ids, 2));
     bar.SetPaneInfo(1, ShortString, SBPS_NORMAL, 100);
-    EXPECT_EQ(bar.CommandToIndex(ShortString), 1);
-    EXPECT_EQ(bar.CommandToIndex(1), -1);
     EXPECT_STREQ(bar.GetStatusBarCtrl().GetText(1), "short");
 
-    for (const int width : {400, 600})
-    {
-        bar.MoveWindow(0, 0, width, bar.CalcFixedLayout(TRUE, TRUE).cy);
-        CRect last;
-        bar.GetItemRect(1, &last);
-        EXPECT_NEAR(last.right, width, 4);
-        EXPECT_NEAR(last.Width(), 100, 10);
-    }
+    bar.MoveWindow(0, 0, 600, bar.CalcFixedLayout(TRUE, TRUE).cy);
+    CRect last;
+    bar.GetItemRect(1, &last);
+    EXPECT_NEAR(last.right, 600, 4);
+    EXPECT_NEAR(last.Width(), 100, 10);
 
-    bar.SetWindowText("ready");
-    EXPECT_STREQ(bar.GetPaneText(0), "ready");
     bar.SetPaneStyle(1, SBPS_DISABLED);
     EXPECT_STREQ(bar.GetStatusBarCtrl().GetText(1), "");
     bar.SetPaneText(1, "kept");
@@ -292,36 +191,22 @@ TEST_F(Controls, ToolBarButtonsAndSeparators)
     ASSERT_TRUE(bar.Create(&Host()));
     const UINT ids[] = {101, ID_SEPARATOR, 102};
     ASSERT_TRUE(bar.SetButtons(ids, 3));
-    EXPECT_EQ(bar.GetCount(), 3);
     EXPECT_EQ(bar.CommandToIndex(102), 2);
-    EXPECT_EQ(bar.GetItemID(1), ID_SEPARATOR);
     UINT id = 0;
     UINT style = 0;
     int image = -1;
     bar.GetButtonInfo(2, id, style, image);
     EXPECT_EQ(image, 1) << "separators take no picture";
-    EXPECT_EQ(style, TBBS_BUTTON);
 
     EXPECT_TRUE(bar.SetButtonText(2, "text"));
     bar.SetButtonStyle(2, TBBS_CHECKBOX | TBBS_CHECKED | TBBS_DISABLED);
-    EXPECT_STREQ(bar.GetButtonText(2), "text");
+    EXPECT_STREQ(bar.GetButtonText(2), "text") << "a new style keeps it";
     EXPECT_TRUE(bar.GetToolBarCtrl().IsButtonChecked(102));
     EXPECT_FALSE(bar.GetToolBarCtrl().IsButtonEnabled(102));
-
-    // A text of the button's own, which no list of strings keeps.
-    TBBUTTONINFO info = {};
-    info.cbSize = sizeof(info);
-    info.dwMask = TBIF_TEXT;
-    char ownText[] = "own";
-    info.pszText = ownText;
-    bar.GetToolBarCtrl().SetButtonInfo(101, &info);
-    bar.SetButtonStyle(0, TBBS_CHECKBOX);
-    EXPECT_STREQ(bar.GetButtonText(0), "own");
 
     bar.SetButtonInfo(1, ID_SEPARATOR, TBBS_SEPARATOR, 40);
     CRect gap;
     bar.GetItemRect(1, &gap);
     EXPECT_EQ(gap.Width(), 40);
-    EXPECT_GE(bar.CalcFixedLayout(TRUE, TRUE).cy, 22);
     bar.DestroyWindow();
 }

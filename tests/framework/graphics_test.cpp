@@ -2,10 +2,8 @@
 
 #include <afxcmn.h>
 
-#include "support/LiveObjects.h"
+#include "support/Canvas.h"
 #include "support/WindowTest.h"
-
-#include <cmath>
 
 namespace {
 
@@ -37,8 +35,11 @@ TEST(GraphicsObjects, OwnersDeleteAndDetachedOnesDoNot)
         detached = HPEN(other.Detach());
         EXPECT_EQ(CPen::FromHandle(owned), &pen);
         EXPECT_NE(CPen::FromHandle(detached), &other);
+        CBrush stock;
+        EXPECT_TRUE(stock.CreateStockObject(WHITE_BRUSH));
     }
     EXPECT_FALSE(Lives(owned));
+    EXPECT_TRUE(Lives(::GetStockObject(WHITE_BRUSH)));
     EXPECT_TRUE(Lives(detached));
     BecomeIdle();
     ::DeleteObject(detached);
@@ -65,105 +66,41 @@ TEST(GraphicsObjects, TemporariesOwnNothingAndAreOfTheRealClass)
     EXPECT_EQ(CPen::FromHandle(nullptr), nullptr);
 }
 
-TEST(GraphicsObjects, TemporarySpeaksOfItsHandleAgainAfterADetach)
-{
-    const HPEN handle = ::CreatePen(PS_SOLID, 1, Red);
-    CPen::FromHandle(handle)->Detach();
-    EXPECT_EQ(HPEN(*CPen::FromHandle(handle)), handle);
-    BecomeIdle();
-    ::DeleteObject(handle);
-}
-
-TEST(GraphicsObjects, StockObjectsSurviveTheirObjects)
-{
-    {
-        CBrush brush;
-        EXPECT_TRUE(brush.CreateStockObject(WHITE_BRUSH));
-    }
-    EXPECT_TRUE(Lives(::GetStockObject(WHITE_BRUSH)));
-}
-
-TEST(GraphicsObjects, FailedCreationLeavesTheObjectEmpty)
-{
-    CBitmap bitmap;
-    EXPECT_FALSE(bitmap.LoadBitmap("there is no such bitmap"));
-    EXPECT_EQ(bitmap.m_hObject, nullptr);
-    EXPECT_FALSE(bitmap.DeleteObject());
-}
-
-TEST(GraphicsObjects, FontHeightIsInTenthsOfAPoint)
-{
-    CFont font;
-    ASSERT_TRUE(font.CreatePointFont(120, "Arial"));
-    LOGFONT data = {};
-    font.GetLogFont(&data);
-    CClientDC screen(nullptr);
-    EXPECT_EQ(data.lfHeight, -std::lround(screen.GetDeviceCaps(LOGPIXELSY) * 12 / 72.0));
-    EXPECT_STREQ(data.lfFaceName, "Arial");
-}
-
 TEST(DeviceContexts, SelectingGivesBackTheSameObjects)
 {
     CDC dc;
     ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
     CPen red(PS_SOLID, 1, Red);
     CPen blue(PS_SOLID, 1, Blue);
-    CBrush brush(Red);
     CPen* const stock = dc.SelectObject(&red);
     EXPECT_EQ(HPEN(*stock), ::GetStockObject(BLACK_PEN));
     EXPECT_EQ(dc.SelectObject(&blue), &red);
-    EXPECT_EQ(dc.GetCurrentPen(), &blue);
     EXPECT_EQ(dc.SelectObject(static_cast<CGdiObject*>(&red)), &blue);
-    CBrush* const stockBrush = dc.SelectObject(&brush);
-    EXPECT_EQ(dc.SelectStockObject(WHITE_BRUSH), &brush);
-    dc.SelectObject(stock);
-    EXPECT_EQ(dc.GetCurrentBrush(), stockBrush);
+    EXPECT_EQ(dc.GetCurrentPen(), &red);
+    EXPECT_EQ(dc.SelectStockObject(BLACK_PEN), &red);
 }
 
 TEST(DeviceContexts, ObjectsDeleteTheirContextsAndTemporariesDoNot)
 {
-    HDC handle = nullptr;
+    HDC owned = nullptr;
+    const HDC free = ::CreateCompatibleDC(nullptr);
     {
         CDC dc;
         dc.CreateCompatibleDC(nullptr);
-        handle = dc;
-        EXPECT_EQ(CDC::FromHandle(handle), &dc);
+        owned = dc;
+        EXPECT_EQ(CDC::FromHandle(owned), &dc);
+        EXPECT_EQ(HDC(*CDC::FromHandle(free)), free);
     }
-    EXPECT_FALSE(Lives(handle));
-
-    handle = ::CreateCompatibleDC(nullptr);
-    CDC::FromHandle(handle)->SetTextColor(Red);
     BecomeIdle();
-    EXPECT_TRUE(Lives(handle));
-    EXPECT_EQ(CDC::FromHandle(handle)->GetTextColor(), Red);
-    BecomeIdle();
-    ::DeleteDC(handle);
-}
-
-TEST(DeviceContexts, StateIsSavedAndOriginsComeBack)
-{
-    CDC dc;
-    dc.CreateCompatibleDC(nullptr);
-    dc.SetTextColor(Red);
-    const int saved = dc.SaveDC();
-    EXPECT_EQ(dc.SetTextColor(Blue), Red);
-    EXPECT_EQ(dc.SetViewportOrg(3, 4), CPoint(0, 0));
-    EXPECT_EQ(dc.OffsetViewportOrg(1, 1), CPoint(3, 4));
-    CRect rect(0, 0, 5, 5);
-    dc.LPtoDP(&rect);
-    EXPECT_EQ(rect, CRect(4, 5, 9, 10));
-    EXPECT_TRUE(dc.RestoreDC(saved));
-    EXPECT_EQ(dc.GetTextColor(), Red);
-    EXPECT_EQ(dc.GetViewportOrg(), CPoint(0, 0));
+    EXPECT_FALSE(Lives(owned));
+    EXPECT_TRUE(Lives(free));
+    ::DeleteDC(free);
 }
 
 TEST(DeviceContexts, FillingLeavesTheBackgroundColourAlone)
 {
-    CDC dc;
-    dc.CreateCompatibleDC(nullptr);
-    CBitmap bitmap;
-    bitmap.CreateBitmap(10, 10, 1, 32, nullptr);
-    CBitmap* const before = dc.SelectObject(&bitmap);
+    Canvas canvas(10, 10);
+    CDC& dc = canvas.DC();
     dc.SetBkColor(Blue);
     dc.FillSolidRect(0, 0, 10, 10, RGB(0, 0, 0));
     dc.Draw3dRect(CRect(2, 2, 8, 8), Red, RGB(0, 255, 0));
@@ -171,9 +108,7 @@ TEST(DeviceContexts, FillingLeavesTheBackgroundColourAlone)
     EXPECT_EQ(dc.GetPixel(2, 2), Red);
     EXPECT_EQ(dc.GetPixel(2, 7), RGB(0, 255, 0));
     EXPECT_EQ(dc.GetPixel(7, 2), RGB(0, 255, 0));
-    EXPECT_EQ(dc.GetPixel(3, 3), RGB(0, 0, 0));
-    EXPECT_EQ(dc.GetPixel(8, 8), RGB(0, 0, 0));
-    dc.SelectObject(before);
+    EXPECT_EQ(canvas.Picture().Count(RGB(0, 0, 0)), 100 - 20);
 }
 
 class WindowContexts : public WindowTest

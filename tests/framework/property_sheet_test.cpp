@@ -1,10 +1,12 @@
 #include <afxdlgs.h>
 
+#include "support/Scripted.h"
 #include "support/WindowTest.h"
 #include "support/forms.h"
 
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -53,17 +55,13 @@ protected:
     }
 };
 
-constexpr UINT RunScript = WM_APP + 3;
-
-class Sheet : public CPropertySheet
+class Sheet : public Scripted<CPropertySheet>
 {
 public:
     explicit Sheet(CWnd* parent)
-        : CPropertySheet("Sheet", parent)
+        : Scripted("Sheet", parent)
     {}
-    std::function<void()> inLoop;
     int inits = 0;
-    int gone = 0;
 
     BOOL OnInitDialog() override
     {
@@ -72,29 +70,7 @@ public:
         return CPropertySheet::OnInitDialog();
     }
     void Press(int button) { SendMessage(PSM_PRESSBUTTON, WPARAM(button)); }
-
-protected:
-    void OnShowWindow(BOOL show, UINT status)
-    {
-        CPropertySheet::OnShowWindow(show, status);
-        if (show && inLoop)
-        {
-            PostMessage(RunScript);
-        }
-    }
-    LRESULT OnScript(WPARAM, LPARAM)
-    {
-        inLoop();
-        return 0;
-    }
-    void PostNcDestroy() override { ++gone; }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(Sheet, CPropertySheet)
-    ON_WM_SHOWWINDOW()
-    ON_MESSAGE(RunScript, &Sheet::OnScript)
-END_MESSAGE_MAP()
 
 class PropertySheetTest : public WindowTest
 {
@@ -103,12 +79,7 @@ protected:
     Page first{IDD_TEST_PAGE_1, "first", journal};
     Page second{IDD_TEST_PAGE_2, "second", journal};
 
-    Journal TakeJournal()
-    {
-        Journal taken;
-        taken.swap(journal);
-        return taken;
-    }
+    Journal TakeJournal() { return std::exchange(journal, {}); }
 };
 
 TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
@@ -146,26 +117,35 @@ TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
 
 TEST_F(PropertySheetTest, EveryWayOfCancellingResetsThePages)
 {
+    const Journal reset = {"first init", "first active", "first cancel"};
+    const Journal gone = {"first init", "first active"}; // without asking the pages
     const struct
     {
-        const char* how;
-        std::function<void(Sheet&)> cancel;
+        std::function<void(Sheet&)> end;
+        const Journal& expected;
     } cases[] = {
-        {"button", [](Sheet& sheet) { sheet.Press(PSBTN_CANCEL); }},
-        {"escape", [](Sheet&) { TypeKey(VK_ESCAPE); }},
-        {"close", [](Sheet& sheet) { sheet.SendMessage(WM_CLOSE); }},
+        {[](Sheet& sheet) { sheet.Press(PSBTN_CANCEL); }, reset},
+        {[](Sheet&) { TypeKey(VK_ESCAPE); }, reset},
+        {[](Sheet& sheet) { sheet.SendMessage(WM_CLOSE); }, reset},
+        {[](Sheet& sheet) { sheet.DestroyWindow(); }, gone},
+        {[](Sheet&) { ::PostQuitMessage(0); }, gone},
     };
     for (const auto& each : cases)
     {
+        SCOPED_TRACE(&each - cases);
         Sheet sheet(&Host());
         sheet.AddPage(&first);
         sheet.AddPage(&second);
-        sheet.inLoop = [&] { each.cancel(sheet); };
-        EXPECT_EQ(sheet.DoModal(), IDCANCEL) << each.how;
-        EXPECT_EQ(TakeJournal(), (Journal{"first init", "first active", "first cancel"}))
-            << each.how;
+        sheet.inLoop = [&] { each.end(sheet); };
+        EXPECT_EQ(sheet.DoModal(), IDCANCEL);
+        EXPECT_EQ(TakeJournal(), each.expected);
         EXPECT_EQ(sheet.gone, 1);
+        EXPECT_EQ(first.GetSafeHwnd(), nullptr);
+        EXPECT_TRUE(Host().IsWindowEnabled());
     }
+    EXPECT_TRUE(TakeQuit());
+    EXPECT_EQ(Sheet(&Host()).DoModal(), -1) << "it has no pages";
+    EXPECT_TRUE(Host().IsWindowEnabled());
 }
 
 TEST_F(PropertySheetTest, APageMayKeepTheUser)
@@ -180,35 +160,11 @@ TEST_F(PropertySheetTest, APageMayKeepTheUser)
         sheet.Press(PSBTN_OK);
         EXPECT_NE(sheet.GetSafeHwnd(), nullptr);
         first.lets = TRUE;
-        KeyDown(VK_CONTROL);
-        TypeKey(VK_TAB);
-        KeyUp(VK_CONTROL);
+        TypeKey(VK_TAB, VK_CONTROL);
         EXPECT_EQ(sheet.GetActivePage(), &second) << "the next page by keys";
         sheet.EndDialog(77);
     };
     EXPECT_EQ(sheet.DoModal(), 77);
-    EXPECT_TRUE(Host().IsWindowEnabled());
-}
-
-TEST_F(PropertySheetTest, AModalSheetSurvivesItsSuddenEnd)
-{
-    Sheet sheet(&Host());
-    sheet.AddPage(&first);
-    sheet.inLoop = [&] { sheet.DestroyWindow(); };
-    EXPECT_EQ(sheet.DoModal(), IDCANCEL);
-    EXPECT_TRUE(Host().IsWindowEnabled());
-    EXPECT_EQ(first.GetSafeHwnd(), nullptr);
-
-    Sheet quits(&Host());
-    quits.AddPage(&first);
-    quits.inLoop = [] { ::PostQuitMessage(0); };
-    quits.DoModal();
-    EXPECT_TRUE(TakeQuit());
-    EXPECT_EQ(quits.GetSafeHwnd(), nullptr);
-    EXPECT_TRUE(Host().IsWindowEnabled());
-
-    Sheet empty(&Host());
-    EXPECT_EQ(empty.DoModal(), -1) << "it has no pages";
     EXPECT_TRUE(Host().IsWindowEnabled());
 }
 

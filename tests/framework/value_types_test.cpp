@@ -9,24 +9,15 @@
 #include <utility>
 #include <vector>
 
-namespace {
-
 // Resource ids of framework_strings.rc
 constexpr UINT ShortString = 60000;
 constexpr UINT LongString = 60001;
 constexpr UINT FormatString = 60002;
 constexpr UINT MissingString = 60003;
 
-void PrintText(const CString& text, std::ostream* out)
-{
-    *out << text.GetString();
-}
-
-} // namespace
-
 void PrintTo(const CString& text, std::ostream* out)
 {
-    PrintText(text, out);
+    *out << text.GetString();
 }
 
 TEST(Geometry, PointsAndSizesMoveARectangleWhileRectanglesWidenIt)
@@ -36,44 +27,22 @@ TEST(Geometry, PointsAndSizesMoveARectangleWhileRectanglesWidenIt)
     EXPECT_EQ(rect + CPoint(5, 6), CRect(15, 26, 35, 46));
     EXPECT_EQ(rect - CSize(5, 6), CRect(5, 14, 25, 34));
     EXPECT_EQ(rect + &by, CRect(9, 18, 33, 44));
-    EXPECT_EQ(rect - &by, CRect(11, 22, 27, 36));
-    EXPECT_EQ(CPoint(1, 1) + &rect, CRect(11, 21, 31, 41));
 
     CRect changed = rect;
     changed.DeflateRect(&by);
     EXPECT_EQ(changed, rect - &by);
     changed.InflateRect(1, 2, 3, 4);
     EXPECT_EQ(changed, rect);
-    changed.MoveToXY(0, 0);
-    EXPECT_EQ(changed, CRect(CPoint(0, 0), rect.Size()));
 }
 
-TEST(Geometry, CornersAreViewsOfTheRectangle)
-{
-    CRect rect(1, 2, 3, 4);
-    rect.TopLeft().Offset(10, 20);
-    rect.BottomRight() = CPoint(7, 8);
-    EXPECT_EQ(rect, CRect(11, 22, 7, 8));
-    rect.NormalizeRect();
-    EXPECT_EQ(rect, CRect(7, 8, 11, 22));
-    EXPECT_EQ(rect.CenterPoint(), CPoint(9, 15));
-}
-
-TEST(Geometry, IntersectionAndUnionMayTakeTheRectangleItself)
+TEST(Geometry, IntersectionMayTakeTheRectangleItself)
 {
     CRect rect(0, 0, 10, 10);
     EXPECT_TRUE(rect.IntersectRect(rect, CRect(5, 5, 20, 20)));
     EXPECT_EQ(rect, CRect(5, 5, 10, 10));
     EXPECT_FALSE(rect.IntersectRect(rect, CRect(50, 50, 60, 60)));
     EXPECT_TRUE(rect.IsRectNull());
-    EXPECT_EQ(CRect(0, 0, 1, 1) | CRect(5, 5, 6, 6), CRect(0, 0, 6, 6));
-    EXPECT_FALSE(CRect(0, 0, 10, 10).PtInRect(CPoint(10, 5)));
-}
-
-TEST(Geometry, PackedPositionsAreSigned)
-{
-    EXPECT_EQ(CPoint(MAKELPARAM(-3, -5)), CPoint(-3, -5));
-    EXPECT_EQ(CSize(DWORD(MAKELONG(7, -5))), CSize(7, -5));
+    EXPECT_EQ(CPoint(MAKELPARAM(-3, -5)), CPoint(-3, -5)) << "packed positions are signed";
 }
 
 TEST(Text, NullIsEmptyEverywhere)
@@ -93,20 +62,10 @@ TEST(Text, PartsAreCutToTheText)
 {
     const CString text("abcdef");
     const std::pair<CString, const char*> parts[] = {
-        {text.Left(2), "ab"},
-        {text.Left(99), "abcdef"},
-        {text.Left(-1), ""},
-        {text.Right(2), "ef"},
-        {text.Right(99), "abcdef"},
-        {text.Right(-1), ""},
-        {text.Mid(2, 2), "cd"},
-        {text.Mid(4, 99), "ef"},
-        {text.Mid(99), ""},
-        {text.Mid(-1, 2), "ab"},
-        {text.Mid(3), "def"},
-        {text.SpanIncluding("ba"), "ab"},
-        {text.SpanExcluding("d"), "abc"},
-        {text.SpanExcluding("z"), "abcdef"},
+        {text.Left(2), "ab"},    {text.Left(99), "abcdef"},        {text.Left(-1), ""},
+        {text.Right(2), "ef"},   {text.Right(99), "abcdef"},       {text.Right(-1), ""},
+        {text.Mid(2, 2), "cd"},  {text.Mid(4, 99), "ef"},          {text.Mid(99), ""},
+        {text.Mid(-1, 2), "ab"}, {text.SpanIncluding("ba"), "ab"}, {text.SpanExcluding("d"), "abc"},
     };
     for (const auto& [part, expected] : parts)
     {
@@ -118,10 +77,8 @@ TEST(Text, SearchesAndChanges)
 {
     CString text("one two one");
     EXPECT_EQ(text.Find("one", 1), 8);
-    EXPECT_EQ(text.Find('x'), -1);
     EXPECT_EQ(text.Find("one", 99), -1);
     EXPECT_EQ(text.ReverseFind('o'), 8);
-    EXPECT_EQ(text.FindOneOf("wt"), 4);
     EXPECT_EQ(text.Replace("one", "one one"), 2) << "a replacement must not be found again";
     EXPECT_STREQ(text, "one one two one one");
     EXPECT_EQ(text.Remove(' '), 4);
@@ -129,7 +86,6 @@ TEST(Text, SearchesAndChanges)
     EXPECT_EQ(text.Insert(99, "!"), 4);
     EXPECT_STREQ(text, "one!");
     EXPECT_STREQ(CString(" \t a b \n").Trim(), "a b");
-    EXPECT_STREQ(CString("**a*").Trim('*'), "a");
     EXPECT_STREQ(CString("***").TrimLeft('*'), "");
 }
 
@@ -160,26 +116,6 @@ TEST(Text, TokensEndWithMinusOne)
     EXPECT_TRUE(text.Tokenize("#", position).IsEmpty());
 }
 
-TEST(Text, BufferKeepsWhatWasWritten)
-{
-    CString text("ab");
-    ::lstrcpy(text.GetBuffer(100) + 2, "cd");
-    text.ReleaseBuffer();
-    EXPECT_EQ(text.GetLength(), 4);
-    text.GetBuffer(50);
-    text.ReleaseBuffer(3);
-    EXPECT_STREQ(text, "abc");
-    EXPECT_EQ(text, CString(L"abc"));
-}
-
-TEST(Text, ComparesWithPointersOnEitherSide)
-{
-    const CString text("b");
-    EXPECT_TRUE(text == "b" && "b" == text && text != "a" && text > "a" && "a" < text);
-    EXPECT_TRUE(text < CString("c") && text <= "b" && text == 'b' && text != 'c');
-    EXPECT_EQ(CString("ABC").CompareNoCase("abc"), 0);
-}
-
 TEST(Text, StringResources)
 {
     CString text("kept");
@@ -197,7 +133,6 @@ TEST(Collections, ArrayGrowsWhereItIsTold)
 {
     CArray<int> numbers;
     numbers.SetAtGrow(2, 5);
-    EXPECT_EQ(numbers.GetSize(), 3);
     EXPECT_EQ(numbers[0], 0);
     numbers.InsertAt(5, 9, 2);
     EXPECT_EQ(numbers.GetSize(), 7);
@@ -205,8 +140,6 @@ TEST(Collections, ArrayGrowsWhereItIsTold)
     EXPECT_EQ(numbers[6], 9);
     numbers.RemoveAt(0, 6);
     EXPECT_EQ(numbers.GetUpperBound(), 0);
-    numbers.SetSize(0);
-    EXPECT_TRUE(numbers.IsEmpty());
 }
 
 TEST(Collections, ElementsMayBeInsertedIntoTheirOwnArray)
@@ -240,18 +173,16 @@ TEST(Collections, MapFindsByTextAndWalksEachKeyOnce)
     EXPECT_TRUE(map.Lookup("7", value));
     EXPECT_EQ(value, -7);
     EXPECT_FALSE(map.Lookup("100", value));
-    EXPECT_TRUE(map.RemoveKey("7"));
-    EXPECT_FALSE(map.RemoveKey("7"));
+    EXPECT_FALSE(map.RemoveKey("100"));
 
-    // Removing what was given out does not disturb the walk.
     int sum = 0;
     for (POSITION position = map.GetStartPosition(); position != nullptr;)
     {
         CString key;
         map.GetNextAssoc(position, key, value);
         sum += value;
-        map.RemoveKey(key);
+        EXPECT_TRUE(map.RemoveKey(key)) << "which does not disturb the walk";
     }
-    EXPECT_EQ(sum, 99 * 100 / 2 - 7);
+    EXPECT_EQ(sum, 99 * 100 / 2 - 14);
     EXPECT_TRUE(map.IsEmpty());
 }

@@ -1,7 +1,9 @@
 #include "support/WindowTest.h"
 
 #include <functional>
+#include <map>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -19,16 +21,15 @@ public:
 
     std::string name;
     BOOL allowClass = TRUE;
-    BOOL allowNcCreate = TRUE;
-    int createResult = 0;
+    UINT refuses = 0; // the message that ends its creation
     bool ownsItself = false;
     std::function<void()> inCreate;
     std::function<void()> inPress;
 
     void Note(const char* what) { journal.push_back(name + what); }
-    BOOL Make(CWnd* parent, DWORD style = WS_CHILD | WS_VISIBLE, LPCSTR windowClass = nullptr)
+    BOOL Make(CWnd* parent, LPCSTR windowClass = nullptr)
     {
-        return Create(windowClass, "", style, CRect(0, 0, 50, 40), parent, 1);
+        return Create(windowClass, "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 40), parent, 1);
     }
 
 protected:
@@ -40,40 +41,30 @@ protected:
     {
         Note(FromHandlePermanent(m_hWnd) == this ? "bound" : "not bound");
     }
-    BOOL OnNcCreate(LPCREATESTRUCT cs)
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        Note("nccreate");
-        return CWnd::OnNcCreate(cs) && allowNcCreate;
-    }
-    int OnCreate(LPCREATESTRUCT cs)
-    {
-        Note("create");
-        if (inCreate)
+        static const std::map<UINT, const char*> noted = {{WM_NCCREATE, "nccreate"},
+                                                          {WM_CREATE, "create"},
+                                                          {WM_DESTROY, "destroy"},
+                                                          {WM_NCDESTROY, "ncdestroy"}};
+        if (const auto found = noted.find(message); found != noted.end())
+        {
+            Note(found->second);
+        }
+        if (message == WM_CREATE && inCreate)
         {
             inCreate();
         }
-        return CWnd::OnCreate(cs) == -1 ? -1 : createResult;
+        const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+        return message == refuses ? LRESULT(message == WM_CREATE ? -1 : 0) : result;
     }
     void OnLButtonDown(UINT flags, CPoint point)
     {
-        if (inPress)
-        {
-            inPress();
-        }
+        inPress();
         if (!ownsItself)
         {
             CWnd::OnLButtonDown(flags, point);
         }
-    }
-    void OnDestroy()
-    {
-        Note("destroy");
-        CWnd::OnDestroy();
-    }
-    void OnNcDestroy()
-    {
-        Note("ncdestroy");
-        CWnd::OnNcDestroy();
     }
     void PostNcDestroy() override
     {
@@ -87,11 +78,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(LifeWindow, CWnd)
-    ON_WM_NCCREATE()
-    ON_WM_CREATE()
     ON_WM_LBUTTONDOWN()
-    ON_WM_DESTROY()
-    ON_WM_NCDESTROY()
 END_MESSAGE_MAP()
 
 class WndTest : public WindowTest
@@ -103,11 +90,12 @@ protected:
         journal.clear();
     }
 
-    static Journal TakeJournal()
+    static Journal TakeJournal() { return std::exchange(journal, {}); }
+
+    static HWND PlainChild(HWND parent)
     {
-        Journal taken;
-        taken.swap(journal);
-        return taken;
+        return ::CreateWindow("STATIC", "", WS_CHILD, 0, 0, 9, 9, parent, nullptr, nullptr,
+                              nullptr);
     }
 };
 
@@ -126,34 +114,30 @@ TEST_F(WndTest, TheObjectIsThereBeforeTheFirstMessage)
 
 TEST_F(WndTest, ACreationThatFailsEndsOnceAndLeavesNothing)
 {
-    LifeWindow refusesClass;
-    refusesClass.allowClass = FALSE;
-    EXPECT_FALSE(refusesClass.Make(&Host()));
-    EXPECT_EQ(TakeJournal(), Journal{"gone"});
-
-    LifeWindow unknownClass;
-    EXPECT_FALSE(unknownClass.Make(&Host(), WS_CHILD, "no such class"));
-    EXPECT_EQ(TakeJournal(), Journal{"gone"});
-
-    LifeWindow refusesNcCreate;
-    refusesNcCreate.allowNcCreate = FALSE;
-    EXPECT_FALSE(refusesNcCreate.Make(&Host()));
-    EXPECT_EQ(TakeJournal(), (Journal{"bound", "nccreate", "ncdestroy", "gone"}));
-
-    LifeWindow refusesCreate;
-    refusesCreate.createResult = -1;
-    EXPECT_FALSE(refusesCreate.Make(&Host()));
-    std::erase(journal, "destroy"); // platforms differ on whether it comes
-    EXPECT_EQ(TakeJournal(), (Journal{"bound", "nccreate", "create", "ncdestroy", "gone"}));
-
-    for (LifeWindow* each : {&refusesClass, &unknownClass, &refusesNcCreate, &refusesCreate})
+    const struct
     {
-        EXPECT_EQ(each->GetSafeHwnd(), nullptr);
+        const char* windowClass;
+        BOOL allowClass;
+        UINT refuses;
+        Journal expected;
+    } cases[] = {
+        {nullptr, FALSE, 0, {"gone"}},
+        {"no such class", TRUE, 0, {"gone"}},
+        {nullptr, TRUE, WM_NCCREATE, {"bound", "nccreate", "ncdestroy", "gone"}},
+        {nullptr, TRUE, WM_CREATE, {"bound", "nccreate", "create", "ncdestroy", "gone"}},
+    };
+    for (const auto& each : cases)
+    {
+        LifeWindow window;
+        window.allowClass = each.allowClass;
+        window.refuses = each.refuses;
+        EXPECT_FALSE(window.Make(&Host(), each.windowClass));
+        std::erase(journal, "destroy"); // platforms differ on whether it comes
+        EXPECT_EQ(TakeJournal(), each.expected);
+        EXPECT_EQ(window.GetSafeHwnd(), nullptr);
+        // Nothing still waits for the next window of the thread.
+        EXPECT_EQ(CWnd::FromHandlePermanent(PlainChild(Host())), nullptr);
     }
-    // Nothing still waits for the next window of the thread.
-    const HWND plain =
-        ::CreateWindow("STATIC", "", WS_CHILD, 0, 0, 9, 9, Host(), nullptr, nullptr, nullptr);
-    EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
 }
 
 TEST_F(WndTest, ControlsMayBeCreatedInsideACreation)
@@ -163,9 +147,8 @@ TEST_F(WndTest, ControlsMayBeCreatedInsideACreation)
     LifeWindow broken("broken ");
     HWND plain = nullptr;
     outer.inCreate = [&] {
-        EXPECT_FALSE(broken.Make(&outer, WS_CHILD, "no such class"));
-        plain =
-            ::CreateWindow("STATIC", "", WS_CHILD, 0, 0, 9, 9, outer, nullptr, nullptr, nullptr);
+        EXPECT_FALSE(broken.Make(&outer, "no such class"));
+        plain = PlainChild(outer);
         EXPECT_TRUE(inner.Make(&outer));
     };
     ASSERT_TRUE(outer.Make(&Host()));
@@ -173,7 +156,6 @@ TEST_F(WndTest, ControlsMayBeCreatedInsideACreation)
               (Journal{"outer bound", "outer nccreate", "outer create", "broken gone",
                        "inner bound", "inner nccreate", "inner create"}));
     EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
-    EXPECT_EQ(inner.GetParent(), &outer);
 
     outer.DestroyWindow();
     EXPECT_EQ(TakeJournal(), (Journal{"outer destroy", "inner destroy", "inner ncdestroy",
@@ -184,34 +166,29 @@ TEST_F(WndTest, ControlsMayBeCreatedInsideACreation)
 
 TEST_F(WndTest, AWindowMayEndInsideItsOwnHandler)
 {
-    LifeWindow window;
-    ASSERT_TRUE(window.Make(&Host()));
-    window.inPress = [&] { window.DestroyWindow(); }; // Default() follows
-    Click(ClientPoint(window, CPoint(5, 5)));
-    EXPECT_EQ(window.GetSafeHwnd(), nullptr);
-
-    auto* heap = new LifeWindow;
-    ASSERT_TRUE(heap->Make(&Host()));
+    LifeWindow plain; // Default() follows
+    auto* const heap = new LifeWindow;
     heap->ownsItself = true;
-    heap->inPress = [heap] { heap->DestroyWindow(); };
-    TakeJournal();
-    Click(ClientPoint(*heap, CPoint(5, 5)));
-    EXPECT_EQ(TakeJournal(), (Journal{"destroy", "ncdestroy", "gone"}));
+    for (LifeWindow* const window : {&plain, heap})
+    {
+        ASSERT_TRUE(window->Make(&Host()));
+        window->inPress = [window] { window->DestroyWindow(); };
+        TakeJournal();
+        Click(ClientPoint(*window, CPoint(5, 5)));
+        EXPECT_EQ(TakeJournal(), (Journal{"destroy", "ncdestroy", "gone"}));
+    }
 }
 
 TEST_F(WndTest, AParentMayDeleteTheControlThatNotifiesIt)
 {
     auto& button = Add<CButton>(CRect(10, 10, 90, 40), BS_PUSHBUTTON, "Push");
-    bool told = false;
     Host().hook = [&](ToldMessage& message) {
-        if (message.code == BN_CLICKED && !told)
+        if (message.code == BN_CLICKED)
         {
-            told = true;
             Remove(button); // deletes the object, and its window with it
         }
     };
     Click(ClientPoint(button, CPoint(20, 10)));
-    EXPECT_TRUE(told);
     EXPECT_EQ(::GetWindow(Host(), GW_CHILD), nullptr);
 }
 
@@ -229,28 +206,23 @@ TEST_F(WndTest, TheMainWindowsEndQuitsTheProgram)
 
 TEST_F(WndTest, TemporaryObjectsOwnNothingAndEndWhenIdle)
 {
-    const HWND plain =
-        ::CreateWindow("STATIC", "text", WS_CHILD, 0, 0, 9, 9, Host(), nullptr, nullptr, nullptr);
+    const HWND plain = PlainChild(Host());
     CWnd* const temporary = CWnd::FromHandle(plain);
     EXPECT_EQ(temporary->GetSafeHwnd(), plain);
     EXPECT_EQ(CWnd::FromHandle(plain), temporary);
     EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
-    EXPECT_EQ(CWnd::FromHandle(nullptr), nullptr);
     PumpAll();
     EXPECT_TRUE(::IsWindow(plain)) << "the window was not theirs";
 
     {
-        CWnd* const another = CWnd::FromHandle(plain);
         CWnd owner;
         EXPECT_TRUE(owner.Attach(plain));
         EXPECT_EQ(CWnd::FromHandle(plain), &owner) << "the permanent one has precedence";
-        EXPECT_EQ(another->GetSafeHwnd(), plain);
         CWnd second;
         EXPECT_FALSE(second.Attach(plain));
         EXPECT_FALSE(second.SubclassWindow(plain));
         EXPECT_FALSE(owner.Attach(Host()));
         EXPECT_EQ(owner.Detach(), plain);
-        EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
         EXPECT_TRUE(owner.Attach(plain));
     }
     EXPECT_FALSE(::IsWindow(plain)) << "an attached window ends with its object";
@@ -319,17 +291,16 @@ protected:
     {
         CString before;
         GetWindowText(before); // sends nest
-        SendMessage(WM_APP, 1, 2);
         seenAfter = GetCurrentMessage()->message;
         return Default();
     }
-    LRESULT OnApp(WPARAM, LPARAM) { return Default(); }
+    LRESULT OnGetText(WPARAM, LPARAM) { return Default(); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Nesting, CWnd)
     ON_MESSAGE(WM_SETTEXT, &Nesting::OnSetText)
-    ON_MESSAGE(WM_APP, &Nesting::OnApp)
+    ON_MESSAGE(WM_GETTEXT, &Nesting::OnGetText)
 END_MESSAGE_MAP()
 
 TEST_F(WndTest, NestedSendsLeaveTheMessageInProgressAlone)
@@ -340,51 +311,6 @@ TEST_F(WndTest, NestedSendsLeaveTheMessageInProgressAlone)
     window.GetWindowText(text);
     EXPECT_STREQ(text, "outer");
     EXPECT_EQ(window.seenAfter, UINT(WM_SETTEXT));
-}
-
-class Translating : public CWnd
-{
-public:
-    std::string name;
-    BOOL takes = FALSE;
-    BOOL PreTranslateMessage(MSG* message) override
-    {
-        if (message->message == WM_APP + 1)
-        {
-            journal.push_back(name);
-        }
-        return takes;
-    }
-};
-
-TEST_F(WndTest, MessagesAreOfferedToTheWindowAndThenToItsParents)
-{
-    auto& outer = Add<Translating>(CRect(0, 0, 90, 90));
-    outer.name = "outer";
-    Translating inner;
-    inner.name = "inner";
-    ASSERT_TRUE(inner.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &outer, 1));
-    MessageLog arrived(inner, {WM_APP + 1});
-
-    const struct
-    {
-        BOOL innerTakes;
-        BOOL outerTakes;
-        Journal asked;
-        int arrived;
-    } cases[] = {{FALSE, FALSE, {"inner", "outer"}, 1},
-                 {FALSE, TRUE, {"inner", "outer"}, 0},
-                 {TRUE, FALSE, {"inner"}, 0}};
-    for (const auto& each : cases)
-    {
-        arrived.Clear();
-        inner.takes = each.innerTakes;
-        outer.takes = each.outerTakes;
-        inner.PostMessage(WM_APP + 1);
-        PumpAll();
-        EXPECT_EQ(TakeJournal(), each.asked);
-        EXPECT_EQ(arrived.Count(WM_APP + 1), each.arrived);
-    }
 }
 
 } // namespace

@@ -87,6 +87,63 @@ TEST_F(ListBoxOnBoard, AHeldTroughPagesOnce)
     Release();
 }
 
+TEST_F(ListBoxOnBoard, ATroughReleasedElsewhereIsNotHeldForEver)
+{
+    auto& list = AddList(500);
+    MoveTo(list.PartPoint(AfterThumb));
+    Press();
+    EXPECT_EQ(list.m_vPressed, AfterThumb);
+    MoveTo(ClientPoint(Host(), CPoint(700, 400)));
+    ASSERT_TRUE(PumpUntil([&] { return !list.m_tracking; }));
+    Release();
+    // The same when a derived list waits longer before the first repeat, and no press goes on.
+    MessageLog log(list, {WM_TIMER});
+    list.SetTimer(CCustomListBox::m_timerInitialWaitID, 20, nullptr);
+    Press();
+    ASSERT_TRUE(PumpUntil([&] { return log.Count(WM_TIMER) > 0; }));
+    Release();
+    log.Clear();
+    PumpFor(300);
+    EXPECT_EQ(log.Count(WM_TIMER), 0);
+}
+
+TEST_F(ListBoxOnBoard, WithoutABarTheRowsAreThePlatformsToScroll)
+{
+    auto& columns = AddList(200, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN | WS_HSCROLL);
+    columns.SetColumnWidth(120);
+    columns.ReCheckScrollBars();
+    EXPECT_FALSE(columns.m_vBarNeeded);
+    ASSERT_TRUE(columns.m_hBarNeeded);
+    Click(columns.PartPoint(Second, SB_HORZ));
+    const int rows = columns.GetTopIndex();
+    EXPECT_GT(rows, 1); // a whole column
+    EXPECT_EQ(columns.m_hBar.GetScrollPos(), 1);
+    columns.SetCurSel(2 * rows + 1);
+    columns.SetFocus();
+    TypeKey(VK_DOWN);
+    EXPECT_EQ(columns.GetCurSel(), 2 * rows + 2);
+    EXPECT_EQ(columns.GetTopIndex(), rows);
+
+    // Rows of different heights: the last of them is reached, and the row with the focus is seen.
+    auto& heights = AddList(60, ListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS);
+    for (int row = 1; row < 60; ++row)
+    {
+        heights.SetItemHeight(row, 60);
+    }
+    heights.ReCheckScrollBars();
+    heights.SetFocus();
+    heights.SetCurSel(0);
+    for (int turn = 0; turn < 59; ++turn)
+    {
+        TypeKey(VK_DOWN);
+        CRect row;
+        heights.GetItemRect(heights.GetCaretIndex(), &row);
+        ASSERT_LE(row.bottom, ClientRectOf(heights).bottom) << turn;
+        ASSERT_GE(row.top, 0) << turn;
+    }
+    EXPECT_EQ(heights.GetCaretIndex(), 59);
+}
+
 TEST_F(ListBoxOnBoard, ThumbDragIsRelativeAndReachesBothEnds)
 {
     auto& list = AddList(500);
@@ -142,7 +199,8 @@ TEST_F(ListBoxOnBoard, ASidewaysDragReachesTheLastPixel)
         int minimum = 0;
         int maximum = 0;
         list.m_hBar.GetScrollRange(&minimum, &maximum);
-        EXPECT_EQ(list.m_hBar.GetScrollPos(), maximum - 1) << steps;
+        EXPECT_EQ(list.m_hBar.GetScrollPos(), maximum) << steps;
+        EXPECT_EQ(list.m_hBar.GetPartArea(Thumb).right, list.m_hBar.GetPartArea(Second).left);
         Drag(list.PartPoint(Thumb, SB_HORZ), WindowPoint(list, CPoint(3, area.CenterPoint().y)), 5);
         EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
     }
@@ -181,6 +239,18 @@ TEST_F(ListBoxOnBoard, KeysMoveSelectionRowsAndBarTogether)
         EXPECT_LT(row.top, ClientRectOf(list).bottom) << key;
         EXPECT_EQ(list.m_vBar.GetScrollPos(), list.GetTopIndex()) << key;
     }
+}
+
+TEST_F(ListBoxOnBoard, TheBarFollowsASelectionDraggedPastTheEdge)
+{
+    auto& list = AddList(200);
+    MoveTo(ClientPoint(list, CPoint(30, 100)));
+    Press();
+    MoveTo(ClientPoint(list, CPoint(30, 330)));
+    EXPECT_TRUE(PumpUntil([&] { return list.GetTopIndex() > 3; }));
+    PumpAll();
+    EXPECT_EQ(list.m_vBar.GetScrollPos(), list.GetTopIndex());
+    Release();
 }
 
 // What cuts a press off ---------------------------------------------------------------------------

@@ -139,6 +139,8 @@ TEST_F(ListBoxOnBoard, WideRowsScrollSideways)
         list.SendMessage(WM_HSCROLL, SB_LINERIGHT);
     }
     const int end = list.m_hBar.GetScrollPos();
+    EXPECT_EQ(list.m_hBar.GetPartArea(CFauxScrollBar::PRESSED_THUMB).right,
+              list.m_hBar.GetPartArea(CFauxScrollBar::PRESSED_SECOND).left);
     list.SendMessage(WM_HSCROLL, SB_LINELEFT);
     EXPECT_EQ(list.m_hBar.GetScrollPos(), end - 1);
     list.SendMessage(WM_HSCROLL, SB_LEFT);
@@ -369,8 +371,9 @@ TEST_F(ListBoxTest, DrawnRowsFollowTheMode)
 {
     for (const DWORD kind : {LBS_OWNERDRAWFIXED, LBS_OWNERDRAWVARIABLE})
     {
-        auto& list = AddList(40, ListStyle | kind | LBS_HASSTRINGS);
+        auto& list = AddList(0, ListStyle | kind | LBS_HASSTRINGS);
         list.SetFont(&CCustomListBox::GetStdFont());
+        list.Fill(40);
         list.SetCurSel(1);
         PumpAll();
         const int standard = list.GetItemHeight(0);
@@ -423,4 +426,89 @@ TEST_F(ListBoxOnBoard, FillingShowsWhatARepaintWouldShow)
     list.SetRedraw(TRUE);
     list.Invalidate();
     EXPECT_TRUE(shows());
+}
+
+TEST_F(ListBoxOnBoard, TheFrameIsNeverYesterdays)
+{
+    auto& list = AddList(0, ListStyle | WS_HSCROLL);
+    const auto settled = [&](const char* when) {
+        PumpAll();
+        const Pixels seen = WindowPixels(list);
+        list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        EXPECT_TRUE(seen == WindowPixels(list)) << when;
+    };
+    for (int row = 0; row < 30; ++row)
+    {
+        list.AddString("A row that is a good deal wider than the window that is to show it");
+    }
+    settled("filled: both bars and the corner");
+    for (const CSize size : {CSize(229, 100), CSize(100, 100), CSize(300, 250), CSize(120, 300)})
+    {
+        list.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        settled("resized");
+    }
+    list.ResetContent();
+    settled("emptied");
+}
+
+TEST_F(ListBoxOnBoard, BarAndContentAgreeSidewaysAfterResetAndFont)
+{
+    auto& list = AddList(3, ListStyle | WS_HSCROLL);
+    list.SetHorizontalExtent(2000);
+    const auto left = [&] {
+        PumpAll();
+        return ScreenPixels(CRect(WindowPoint(list, CPoint(3, 3)), CSize(100, 50)));
+    };
+    const Pixels unscrolled = left();
+    for (int step = 0; step < 30; ++step)
+    {
+        list.SendMessage(WM_HSCROLL, SB_LINERIGHT);
+    }
+    list.ResetContent();
+    list.Fill(3);
+    EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
+    EXPECT_TRUE(left() == unscrolled);
+    list.CCustomListBox::SetScrollPos(SB_HORZ, 20);
+    list.SetFont(&CCustomListBox::GetOnBoardFont());
+    const Pixels scrolled = left();
+    list.CCustomListBox::SetScrollPos(SB_HORZ, 20);
+    EXPECT_TRUE(left() == scrolled);
+}
+
+TEST_F(ListBoxTest, WhatTheHostSetInTheStandardModeStays)
+{
+    auto& drawn = AddList(5, ListStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    drawn.SetItemHeight(0, 40);
+    drawn.SetFont(&CCustomListBox::GetStdFont());
+    EXPECT_EQ(drawn.GetItemHeight(0), 40);
+    auto& whole = Add<ListBoxForTests>(CRect(340, 20, 640, 320), WS_VSCROLL | LBS_NOTIFY);
+    const CSize size = WindowRectOf(whole).Size();
+    for (int trip = 0; trip < 3; ++trip)
+    {
+        for (const APPMODE mode : {ONBOARD, STD})
+        {
+            COnBoardUIGeneral::SetAppMode(mode);
+            Host().RedrawWindow(nullptr, nullptr,
+                                RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        }
+    }
+    EXPECT_EQ(drawn.GetItemHeight(0), 40);
+    EXPECT_EQ(WindowRectOf(whole).Size(), size);
+
+    // A list made not to paint stays so, and one that is let go of paints again.
+    const ModeScope scope(ONBOARD);
+    auto& still = Add<ListBoxForTests>(CRect(20, 340, 220, 440), ListStyle | LBS_NOREDRAW);
+    const Pixels before = WindowPixels(still);
+    still.Fill(3);
+    PumpAll();
+    EXPECT_EQ(WindowPixels(still).Count(0), before.Count(0));
+    auto& released = Add<ListBoxForTests>(CRect(240, 340, 440, 440), ListStyle);
+    released.Fill(3);
+    const HWND window = released.UnsubclassWindow();
+    PumpAll();
+    ::SendMessage(window, LB_SETCURSEL, 1, 0);
+    ::UpdateWindow(window);
+    const CWnd* stands = CWnd::FromHandle(window);
+    EXPECT_GT(WindowPixels(*stands).Count(::GetSysColor(COLOR_HIGHLIGHT)), 100);
+    ::DestroyWindow(window);
 }

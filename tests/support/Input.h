@@ -15,11 +15,8 @@ CRect WindowRectOf(const CWnd& window); // on the screen
 void MoveTo(CPoint point);
 void Press();
 void Release();
-void RightPress();
-void RightRelease();
 bool IsPressed(); // the left button, asked of the system now
 void Click(CPoint point);
-void DoubleClick(CPoint point);
 void Wheel(int delta); // at the pointer's place
 // Presses at from, goes to to in so many moves, releases. DragTo does only the moves.
 void Drag(CPoint from, CPoint to, int steps = 4);
@@ -30,7 +27,5 @@ void RestPointer();
 // For a control that runs a loop of its own on a press: both are queued before anything is pumped.
 void QueueClick(CPoint point);
 
-void KeyDown(UINT key);
-void KeyUp(UINT key);
-void TypeKey(UINT key);
+void TypeKey(UINT key, UINT held = 0); // with another one held down
 void TypeText(const char* text);

@@ -1,5 +1,6 @@
 #include "support/LiveObjects.h"
 
+#include <algorithm>
 #include <intrin.h>
 
 namespace {
@@ -27,20 +28,6 @@ const HandleEntry* Table()
     return *reinterpret_cast<const HandleEntry* const*>(process + HandleTableOffset);
 }
 
-UINT KindOf(const HandleEntry& entry, int index)
-{
-    const auto handle = (UINT_PTR(entry.unique) << 16) | UINT_PTR(index);
-    switch (const DWORD kind = ::GetObjectType(reinterpret_cast<HGDIOBJ>(handle)))
-    {
-    case OBJ_MEMDC:
-        return OBJ_DC;
-    case OBJ_EXTPEN:
-        return OBJ_PEN;
-    default:
-        return kind;
-    }
-}
-
 BOOL CALLBACK Collect(HWND window, LPARAM list)
 {
     char name[64] = "";
@@ -54,31 +41,12 @@ BOOL CALLBACK Collect(HWND window, LPARAM list)
 
 } // namespace
 
-std::map<UINT, int> GraphicsObjectsByKind()
-{
-    std::map<UINT, int> counts;
-    const HandleEntry* const table = Table();
-    for (int index = 0; index < TableSize; ++index)
-    {
-        if (table[index].type != 0)
-        {
-            ++counts[KindOf(table[index], index)];
-        }
-    }
-    return counts;
-}
-
 int GraphicsObjects()
 {
-    int total = int(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS));
-    if (total == 0)
-    {
-        for (const auto& [kind, count] : GraphicsObjectsByKind())
-        {
-            total += count;
-        }
-    }
-    return total;
+    const int counted = int(::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS));
+    return counted != 0 ? counted
+                        : int(std::count_if(Table(), Table() + TableSize,
+                                            [](const HandleEntry& e) { return e.type != 0; }));
 }
 
 std::vector<HWND> TopLevelWindows()
@@ -86,15 +54,4 @@ std::vector<HWND> TopLevelWindows()
     std::vector<HWND> windows;
     ::EnumThreadWindows(::GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(&windows));
     return windows;
-}
-
-int WindowsOfThread()
-{
-    const std::vector<HWND> top = TopLevelWindows();
-    std::vector<HWND> children;
-    for (const HWND window : top)
-    {
-        ::EnumChildWindows(window, &Collect, reinterpret_cast<LPARAM>(&children));
-    }
-    return int(top.size() + children.size());
 }

@@ -47,16 +47,6 @@ LRESULT CALLBACK MessageLog::Procedure(HWND window, UINT message, WPARAM wParam,
     return ::DefSubclassProc(window, message, wParam, lParam);
 }
 
-std::vector<UINT> MessageLog::Numbers() const
-{
-    std::vector<UINT> numbers;
-    for (const Received& received : m_received)
-    {
-        numbers.push_back(received.message);
-    }
-    return numbers;
-}
-
 std::vector<WPARAM> MessageLog::WParams(UINT message) const
 {
     std::vector<WPARAM> parameters;

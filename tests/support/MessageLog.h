@@ -29,7 +29,6 @@ public:
     ~MessageLog();
 
     const std::vector<Received>& All() const { return m_received; }
-    std::vector<UINT> Numbers() const;
     std::vector<WPARAM> WParams(UINT message) const;
     int Count(UINT message) const { return int(WParams(message).size()); }
     void Clear() { m_received.clear(); }

@@ -4,25 +4,19 @@
 
 #include <algorithm>
 #include <cstring>
-#include <fstream>
 #include <ostream>
 
-namespace {
-
-constexpr DWORD ColorMask = 0xFFFFFF; // the fourth byte is undefined
-
-BITMAPINFOHEADER HeaderFor(int width, int height)
+HBITMAP MakeBitmap(int width, int height, void** bits)
 {
-    BITMAPINFOHEADER header = {};
-    header.biSize = sizeof(header);
-    header.biWidth = width;
-    header.biHeight = -height; // from the top
-    header.biPlanes = 1;
-    header.biBitCount = 32;
-    return header;
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = -height; // from the top
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* unused = nullptr;
+    return ::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, bits ? bits : &unused, nullptr, 0);
 }
-
-} // namespace
 
 Pixels::Pixels(HDC source, const CRect& rect)
     : m_width(std::max<int>(0, rect.Width()))
@@ -33,11 +27,9 @@ Pixels::Pixels(HDC source, const CRect& rect)
     {
         return;
     }
-    BITMAPINFO info = {};
-    info.bmiHeader = HeaderFor(m_width, m_height);
     void* bits = nullptr;
     const HDC memory = ::CreateCompatibleDC(nullptr);
-    const HBITMAP bitmap = ::CreateDIBSection(memory, &info, DIB_RGB_COLORS, &bits, nullptr, 0);
+    const HBITMAP bitmap = MakeBitmap(m_width, m_height, &bits);
     const HGDIOBJ old = ::SelectObject(memory, bitmap);
     ::BitBlt(memory, 0, 0, m_width, m_height, source, rect.left, rect.top, SRCCOPY);
     ::GdiFlush();
@@ -47,7 +39,7 @@ Pixels::Pixels(HDC source, const CRect& rect)
     ::DeleteDC(memory);
     for (DWORD& pixel : m_pixels)
     {
-        pixel &= ColorMask;
+        pixel &= 0xFFFFFF; // the fourth byte is undefined
     }
 }
 
@@ -72,42 +64,6 @@ int Pixels::Count(COLORREF color, const CRect& within) const
         }
     }
     return count;
-}
-
-CRect Pixels::Difference(const Pixels& other) const
-{
-    if (m_width != other.m_width || m_height != other.m_height)
-    {
-        return CRect(0, 0, std::max(m_width, other.m_width), std::max(m_height, other.m_height));
-    }
-    CRect all;
-    for (int y = 0; y < m_height; ++y)
-    {
-        for (int x = 0; x < m_width; ++x)
-        {
-            if (At(x, y) != other.At(x, y))
-            {
-                const CRect one(x, y, x + 1, y + 1);
-                ::UnionRect(&all, &all, &one);
-            }
-        }
-    }
-    return all;
-}
-
-bool Pixels::SaveBmp(const std::string& path) const
-{
-    const BITMAPINFOHEADER info = HeaderFor(m_width, m_height);
-    BITMAPFILEHEADER file = {};
-    file.bfType = 0x4D42; // "BM"
-    file.bfOffBits = sizeof(file) + sizeof(info);
-    file.bfSize = DWORD(file.bfOffBits + m_pixels.size() * sizeof(DWORD));
-    std::ofstream out(path, std::ios::binary);
-    out.write(reinterpret_cast<const char*>(&file), sizeof(file));
-    out.write(reinterpret_cast<const char*>(&info), sizeof(info));
-    out.write(reinterpret_cast<const char*>(m_pixels.data()),
-              std::streamsize(m_pixels.size() * sizeof(DWORD)));
-    return out.good();
 }
 
 void PrintTo(const Pixels& pixels, std::ostream* out)

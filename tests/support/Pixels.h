@@ -3,7 +3,6 @@
 #include <afxwin.h>
 
 #include <iosfwd>
-#include <string>
 #include <vector>
 
 // A picture of what is on the screen.
@@ -20,11 +19,6 @@ public:
     COLORREF At(CPoint point) const { return At(point.x, point.y); }
     int Count(COLORREF color, const CRect& within) const;
     int Count(COLORREF color) const { return Count(color, CRect(0, 0, m_width, m_height)); }
-    // The smallest rectangle that holds every pixel that differs; all of it if the sizes do.
-    CRect Difference(const Pixels& other) const;
-
-    // For looking at when a test fails: SaveBmp("Z:\\tmp\\list.bmp").
-    bool SaveBmp(const std::string& path) const;
 
     friend bool operator==(const Pixels&, const Pixels&) = default;
     friend void PrintTo(const Pixels& pixels, std::ostream* out);
@@ -38,6 +32,9 @@ private:
 // A window with its non-client area, from its top left corner. Paints nothing first: PumpAll()
 // before it to see the window settled, or not, to see what was drawn at once.
 Pixels WindowPixels(const CWnd& window);
+
+// A new bitmap of 32 bits a pixel, the first row at the top; bits gets its memory.
+HBITMAP MakeBitmap(int width, int height, void** bits = nullptr);
 
 // A part of the screen, in screen coordinates.
 Pixels ScreenPixels(const CRect& rect);

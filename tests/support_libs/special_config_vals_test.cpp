@@ -16,32 +16,26 @@ protected:
 
 TEST_F(SpecialConfigVals, AnswersTheDefaultUntilSetAndAfterTaking)
 {
-    EXPECT_EQ(GetSpecialConfigVal("Dialog", "ShowEntireDialog", 7), 7);
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "Width", 7), 7);
     EXPECT_EQ(GetSpecialConfigVal("Dialog", "Title", "none"), "none");
-
-    SetSpecialConfigVal("Dialog", "ShowEntireDialog", 0);
+    SetSpecialConfigVal("Dialog", "Width", 0);
     SetSpecialConfigVal("Dialog", "Title", "");
-    EXPECT_EQ(GetSpecialConfigVal("Dialog", "ShowEntireDialog", 7), 0);
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "Width", 7), 0);
     EXPECT_EQ(GetSpecialConfigVal("Dialog", "Title", "none"), "");
-
-    SetSpecialConfigVal("Dialog", "ShowEntireDialog", 1);
     SetSpecialConfigVal("Dialog", "Title", nullptr);
-    EXPECT_EQ(GetSpecialConfigVal("Dialog", "ShowEntireDialog", 7), 1);
     EXPECT_EQ(GetSpecialConfigVal("Dialog", "Title", "none"), "none");
 
+    SetSpecialConfigVal("DIALOG", "wIDTH", 2);
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "Width", 0), 2) << "case does not count";
+    EXPECT_EQ(GetSpecialConfigVal("DialogW", "idth", 0), 0) << "the two names stay apart";
     ClearSpecialConfigVals();
-    EXPECT_EQ(GetSpecialConfigVal("Dialog", "ShowEntireDialog", 7), 7);
-}
+    EXPECT_EQ(GetSpecialConfigVal("Dialog", "Width", 7), 7);
 
-TEST_F(SpecialConfigVals, NamesIgnoreCaseAndKeepSectionAndKeyApart)
-{
-    SetSpecialConfigVal("Dialog", "ShowEntire", 1);
-    SetSpecialConfigVal("DIALOG", "showentire", 2);
-    EXPECT_EQ(GetSpecialConfigVal("dialog", "SHOWENTIRE", 0), 2);
-
-    EXPECT_EQ(GetSpecialConfigVal("DialogShow", "Entire", 0), 0);
-    EXPECT_EQ(GetSpecialConfigVal("ShowEntire", "Dialog", 0), 0);
-    EXPECT_EQ(GetSpecialConfigVal("", "", 0), 0);
+    SetSpecialConfigVal(nullptr, "Key", 1);
+    SetSpecialConfigVal("Section", nullptr, "text");
+    EXPECT_EQ(GetSpecialConfigVal(nullptr, "Key", 5), 5);
+    EXPECT_EQ(GetSpecialConfigVal("", "Key", 5), 5) << "null is not the empty name";
+    EXPECT_EQ(GetSpecialConfigVal("Section", "Key", static_cast<const char*>(nullptr)), "");
 }
 
 TEST_F(SpecialConfigVals, NumbersAndTextsAreOneTable)
@@ -61,15 +55,5 @@ TEST_F(SpecialConfigVals, NumbersAndTextsAreOneTable)
         SetSpecialConfigVal("Map", "Zoom", each.text);
         EXPECT_EQ(GetSpecialConfigVal("Map", "Zoom", 99), each.number) << '"' << each.text << '"';
     }
-}
-
-TEST_F(SpecialConfigVals, NullNamesHaveNoValue)
-{
-    SetSpecialConfigVal(nullptr, "Key", 1);
-    SetSpecialConfigVal("Section", nullptr, "text");
-    EXPECT_EQ(GetSpecialConfigVal(nullptr, "Key", 5), 5);
-    EXPECT_EQ(GetSpecialConfigVal("Section", nullptr, "default"), "default");
-    EXPECT_EQ(GetSpecialConfigVal("", "Key", 5), 5) << "null is not the empty name";
-    EXPECT_EQ(GetSpecialConfigVal("Section", "Key", static_cast<const char*>(nullptr)), "");
 }
 } // namespace
