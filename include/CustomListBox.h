@@ -183,7 +183,7 @@ private:
     bool HasText() const;
     HFONT Font();
     int AverageCharWidth();
-    int RowHeight(int index);
+    int HeightOfRow(int index);
     int RowsInSight(int count, int height);
     bool InColumns() const { return (GetStyle() & LBS_MULTICOLUMN) != 0; }
     int RowsInColumn();

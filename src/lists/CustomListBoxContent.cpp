@@ -88,7 +88,7 @@ int CCustomListBox::AverageCharWidth()
     return m_averageWidth;
 }
 
-int CCustomListBox::RowHeight(int index)
+int CCustomListBox::HeightOfRow(int index)
 {
     return (GetStyle() & LBS_OWNERDRAWVARIABLE) != 0 ? Ask(LB_GETITEMHEIGHT, WPARAM(index))
                                                      : m_itemHeight;
@@ -104,7 +104,7 @@ int CCustomListBox::RowsInSight(int count, int height)
     int rows = 0;
     for (int used = 0; rows < count; ++rows)
     {
-        used += RowHeight(count - 1 - rows);
+        used += HeightOfRow(count - 1 - rows);
         if (used > height)
         {
             break;

@@ -425,10 +425,10 @@ void CCustomListBox::KeepCaretInSight()
     GetClientRect(&client);
     // The first row of all from which the caret's row is still whole.
     int first = caret;
-    int height = RowHeight(caret);
-    while (first > 0 && height + RowHeight(first - 1) <= client.Height())
+    int height = HeightOfRow(caret);
+    while (first > 0 && height + HeightOfRow(first - 1) <= client.Height())
     {
-        height += RowHeight(--first);
+        height += HeightOfRow(--first);
     }
     const int top = Ask(LB_GETTOPINDEX);
     const int wanted = std::clamp(top, first, caret);
