@@ -6,6 +6,13 @@
 #include <afxext.h>
 #include <afxwin.h>
 
+#include <memory>
+#include <vector>
+
+namespace dialogs {
+class ControlList;
+}
+
 // A form view that follows the display mode: registered from construction to destruction, it
 // rescales and restyles its children when the mode changes or when it is created in an on-board
 // mode.
@@ -16,6 +23,9 @@ class ONBOARDUI_API CCustomFormView : public CFormView
 public:
     ~CCustomFormView() override;
 
+    // The child windows and theirs, as they were at initialisation; see CCustomDialog.
+    std::vector<CWnd*>& GetControls();
+
     // Called on every mode change; nothing when the modes are equal.
     void AppModeChanged(APPMODE newMode, APPMODE oldMode);
 
@@ -25,5 +35,12 @@ protected:
     explicit CCustomFormView(LPCSTR templateName);
     explicit CCustomFormView(UINT templateId);
 
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     DECLARE_MESSAGE_MAP()
+
+    std::vector<CWnd*> m_controls;
+
+private:
+    std::unique_ptr<dialogs::ControlList> m_controlList;
+    bool m_restyled = false; // the controls are those of the mode
 };

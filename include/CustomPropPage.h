@@ -5,6 +5,13 @@
 
 #include <afxdlgs.h>
 
+#include <memory>
+#include <vector>
+
+namespace dialogs {
+class ControlList;
+}
+
 // A property page that follows the display mode: registered from construction to destruction, it
 // rescales and restyles its children when the mode changes or when it opens in an on-board mode.
 class ONBOARDUI_API CCustomPropPage : public CPropertyPage
@@ -15,11 +22,20 @@ public:
     explicit CCustomPropPage(UINT templateId, UINT captionId = 0);
     ~CCustomPropPage() override;
 
+    // The child windows and theirs, as they were at initialisation; see CCustomDialog.
+    std::vector<CWnd*>& GetControls();
+
     // Called on every mode change; nothing when the modes are equal.
     void AppModeChanged(APPMODE newMode, APPMODE oldMode);
 
     BOOL OnInitDialog() override;
 
 protected:
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     DECLARE_MESSAGE_MAP()
+
+    std::vector<CWnd*> m_controls;
+
+private:
+    std::unique_ptr<dialogs::ControlList> m_controlList;
 };

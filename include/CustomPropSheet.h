@@ -5,11 +5,18 @@
 
 #include <afxdlgs.h>
 
+#include <memory>
+
 class IAppAccess;
+class IEFB;
+
+namespace dialogs {
+struct SheetControls;
+}
 
 // A property sheet that follows the display mode: registered from construction to destruction, it
 // rescales and restyles its children when the mode changes and once when it opens in an on-board
-// mode.
+// mode. There it has the frame, the caption and the colours of an on-board dialog.
 class ONBOARDUI_API CCustomPropSheet : public CPropertySheet
 {
     DECLARE_DYNAMIC(CCustomPropSheet)
@@ -20,13 +27,53 @@ public:
     CCustomPropSheet(LPCSTR caption, IAppAccess* host, CWnd* parent = nullptr, UINT selectPage = 0);
     ~CCustomPropSheet() override;
 
-    // Called on every mode change; nothing when the modes are equal.
+    // The flight bag that is told of modal sheets; the host's, null for none.
+    static IEFB* GetEfb() { return m_efb; }
+    static void SetEfb(IEFB* efb) { m_efb = efb; }
+
+    // Called on every mode change; nothing when the modes are equal. The sheet's own rectangle is
+    // left to its owner.
     void AppModeChanged(APPMODE newMode, APPMODE oldMode);
 
     BOOL OnInitDialog() override;
+    INT_PTR DoModal() override;
+
+    // Whether the sheet runs in its own modal loop.
+    virtual bool IsModal();
+
+protected:
+    // Draws caption and frame on the window now; on-board only.
+    virtual void DrawOBNC(bool active);
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
+    afx_msg void OnWindowPosChanged(WINDOWPOS* position);
+    afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
+    afx_msg void OnMoving(UINT side, LPRECT proposed);
+    afx_msg void OnNcPaint();
+    afx_msg BOOL OnNcActivate(BOOL active);
+    afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);
+    afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+public:
+    static IEFB* m_efb;
 
 protected:
     IAppAccess* m_host;
+    int m_captionHeight;        // pixels, of the system's caption
+    bool m_inModalLoop = false; // in DoModal
+    bool m_showEntire = false;  // while it is dragged, all of it stays in the host's area
 
-    DECLARE_MESSAGE_MAP()
+private:
+    bool m_laidOut = false;    // by the platform, with its own frame; ours comes after
+    bool m_frameActive = true; // as the system said last
+    DWORD m_takenStyles = 0;   // of the platform's caption, to be given back
+    std::unique_ptr<dialogs::SheetControls> m_sheetControls; // the platform's, with our look
+
+    void Construct();
+    bool HasOnBoardFrame() const;
+    void LayOutOnBoard();
 };

@@ -1,0 +1,335 @@
+#include "dialogs/OnBoardFrame.h"
+
+#include "AppAccess.h"
+#include "CustomDialog.h"
+#include "EFB.h"
+#include "GMSUtil.h"
+#include "LayoutMgmt.h"
+#include "OnBoardUI.h"
+#include "OnBoardUIGeneral.h"
+#include "dialogs/ControlList.h"
+#include "modes/ChildRestyling.h"
+#include "modes/WindowAlive.h"
+#include "paint/BackBuffer.h"
+#include "paint/ControlFonts.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+#include "scroll/NcBands.h"
+
+namespace dialogs {
+
+// Shared objects --------------------------------------------------------------------------------
+
+namespace {
+
+void MakeBrush(CBrush& brush, COLORREF color)
+{
+    if (brush.GetSafeHandle() == nullptr)
+    {
+        brush.CreateSolidBrush(color);
+    }
+}
+
+void MakePen(CPen& pen, COLORREF color)
+{
+    if (pen.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardOutlinePen(pen, color);
+    }
+}
+
+} // namespace
+
+void CreateSharedObjects()
+{
+    MakeBrush(CCustomDialog::m_BkBrush, palette::Panel);
+    MakeBrush(CCustomDialog::m_BkCaptionBrush, palette::Caption);
+    MakeBrush(CCustomDialog::m_BkDisabledBrush, palette::CaptionInactive);
+    MakeBrush(CCustomDialog::m_BkEditBrush, palette::Field);
+    MakeBrush(CCustomDialog::m_BkEditDisabledBrush, palette::FieldDisabled);
+    MakePen(CCustomDialog::m_BkBorderPen, palette::Caption);
+    MakePen(CCustomDialog::m_BkDisabledPen, palette::CaptionInactive);
+    OnBoardControlFont(CCustomDialog::m_OBStaticTextFont, LargeOnBoardFont);
+    MakeBrush(CCustomDialog::m_BkRedTestBrush, palette::MarkRed);
+    MakeBrush(CCustomDialog::m_BkGrnTestBrush, palette::MarkGreen);
+    MakeBrush(CCustomDialog::m_BkBluTestBrush, palette::MarkBlue);
+    MakePen(CCustomDialog::m_BkBorderRedPen, palette::MarkRed);
+    MakePen(CCustomDialog::m_BkBorderGrnPen, palette::MarkGreen);
+    MakePen(CCustomDialog::m_BkBorderBluPen, palette::MarkBlue);
+}
+
+// Frame -----------------------------------------------------------------------------------------
+
+DWORD TakePlatformCaption(CWnd& window)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        return 0;
+    }
+    constexpr DWORD styles = WS_CAPTION | WS_MINIMIZEBOX | WS_SYSMENU;
+    const DWORD taken = window.GetStyle() & styles;
+    window.ModifyStyle(WS_CAPTION, 0);
+    window.ModifyStyle(WS_MINIMIZEBOX, 0);
+    window.ModifyStyle(WS_SYSMENU, 0);
+    scroll::RecalculateFrame(window);
+    return taken;
+}
+
+void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken)
+{
+    const HWND handle = window.GetSafeHwnd();
+    if (newMode == oldMode || handle == nullptr)
+    {
+        return;
+    }
+    const WindowAlive alive(window);
+    if (!COnBoardUIGeneral::InOnBoardMode() && taken != 0)
+    {
+        // Or nothing would be left to move or close it by.
+        window.ModifyStyle(0, taken);
+        taken = 0;
+    }
+    RestyleChildren(handle, newMode, oldMode);
+    if (alive)
+    {
+        scroll::RecalculateFrame(window);
+    }
+    if (alive)
+    {
+        ::RedrawWindow(handle, nullptr, nullptr,
+                       RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+    }
+}
+
+void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode)
+{
+    DWORD none = 0;
+    FollowMode(window, newMode, oldMode, none);
+}
+
+CSize OnBoardFrameGrowth(DWORD style, DWORD exStyle)
+{
+    CRect platform(0, 0, 0, 0);
+    ::AdjustWindowRectEx(&platform, style, FALSE, exStyle);
+    // The frame that stays once the caption's styles are taken, and what the adjustment leaves.
+    CRect frame(0, 0, 0, 0);
+    ::AdjustWindowRectEx(&frame, style & ~DWORD(WS_CAPTION), FALSE, exStyle);
+    CRect adjusted(0, 0, 0, 0);
+    AdjustProposed(adjusted, Frame::Of(style, exStyle), ::GetSystemMetrics(SM_CYCAPTION), false,
+                   IsVistaOrHigher());
+    return frame.Size() - adjusted.Size() - platform.Size();
+}
+
+Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight)
+{
+    const DWORD style = window.GetStyle();
+    const Frame frame = Frame::Of(style, window.GetExStyle());
+    AdjustProposed(proposed, frame, captionHeight, (style & WS_CAPTION) == WS_CAPTION,
+                   IsVistaOrHigher());
+    return frame;
+}
+
+LRESULT HitOnBoardFrame(const CWnd& window, const CPoint& screen, int captionHeight)
+{
+    CRect rect;
+    window.GetWindowRect(&rect);
+    return CaptionHitArea(rect, captionHeight).PtInRect(screen) ? HTCAPTION : HTNOWHERE;
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+void PaintOnBoardFrame(CDC& dc, const FrameLook& look)
+{
+    CBrush& face = look.active ? CCustomDialog::m_BkCaptionBrush : CCustomDialog::m_BkDisabledBrush;
+    CPen& line = look.active ? CCustomDialog::m_BkBorderPen : CCustomDialog::m_BkDisabledPen;
+    const CRect caption = CaptionArea(look.window, look.captionHeight);
+    dc.FillRect(&caption, &face);
+    {
+        const Selected brush(dc, ::GetStockObject(NULL_BRUSH));
+        const Selected pen(dc, line);
+        const int y = caption.bottom - metrics::CaptionLineRise;
+        dc.MoveTo(caption.left, y);
+        dc.LineTo(caption.right, y);
+        dc.Rectangle(&look.window);
+    }
+    const Selected font(dc, CCustomDialog::m_OBStaticTextFont);
+    const TextColor color(dc, palette::PanelText);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    CRect text = CaptionTextArea(look.window, look.captionHeight);
+    // An ampersand of a title is a letter.
+    dc.DrawText(look.title, &text,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | (look.centred ? DT_CENTER : DT_LEFT));
+}
+
+void DrawOnBoardFrame(CWnd& window, int captionHeight, bool active, bool centred)
+{
+    if (!::IsWindowVisible(window.GetSafeHwnd()))
+    {
+        return;
+    }
+    FrameLook look;
+    window.GetWindowRect(&look.window);
+    look.window.OffsetRect(-look.window.TopLeft());
+    window.GetWindowText(look.title);
+    look.captionHeight = captionHeight;
+    look.active = active;
+    look.centred = centred;
+
+    CWindowDC dc(&window);
+    dc.ExcludeClipRect(scroll::ClientRectInWindow(window));
+    CRect band;
+    band.IntersectRect(CaptionArea(look.window, captionHeight), look.window);
+    {
+        BackBuffer buffer(dc, band);
+        PaintOnBoardFrame(buffer, look);
+    }
+    // The rest is the thin frame, drawn over itself, and what a menu would take.
+    dc.ExcludeClipRect(&band);
+    CRect inside = look.window;
+    inside.DeflateRect(metrics::Border, metrics::Border);
+    dc.FillRect(&inside, &CCustomDialog::m_BkBrush);
+    PaintOnBoardFrame(dc, look);
+}
+
+// Colours ---------------------------------------------------------------------------------------
+
+namespace {
+
+HBRUSH FieldColors(CDC& dc, const CWnd& control)
+{
+    const bool enabled = control.IsWindowEnabled() != FALSE;
+    dc.SetTextColor(enabled ? palette::FieldText : palette::FieldTextDisabled);
+    dc.SetBkColor(enabled ? palette::Field : palette::FieldDisabled);
+    return enabled ? CCustomDialog::m_BkEditBrush : CCustomDialog::m_BkEditDisabledBrush;
+}
+
+HBRUSH LabelColors(CDC& dc)
+{
+    dc.SetTextColor(palette::PanelText);
+    dc.SetBkMode(TRANSPARENT);
+    if (CCustomDialog::m_OBStaticTextFont.GetSafeHandle() != nullptr)
+    {
+        dc.SelectObject(&CCustomDialog::m_OBStaticTextFont);
+    }
+    return CCustomDialog::m_BkBrush;
+}
+
+// A read-only or disabled edit asks with the message of labels.
+bool IsField(const CWnd& control)
+{
+    char name[16] = "";
+    ::GetClassName(control.GetSafeHwnd(), name, int(sizeof(name)));
+    return ::lstrcmpi(name, "Edit") == 0;
+}
+
+} // namespace
+
+std::optional<HBRUSH> OnBoardColors(CDC* dc, CWnd* control, UINT kind)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || dc == nullptr)
+    {
+        return std::nullopt;
+    }
+    if (kind == CTLCOLOR_DLG)
+    {
+        return CCustomDialog::m_BkBrush;
+    }
+    if (control == nullptr ||
+        (kind != CTLCOLOR_EDIT && kind != CTLCOLOR_LISTBOX && kind != CTLCOLOR_STATIC))
+    {
+        return std::nullopt;
+    }
+    LRESULT own = 0;
+    if (control->SendChildNotifyLastMsg(&own) && own != 0)
+    {
+        return reinterpret_cast<HBRUSH>(own);
+    }
+    return kind == CTLCOLOR_STATIC && !IsField(*control) ? LabelColors(*dc)
+                                                         : FieldColors(*dc, *control);
+}
+
+// The host --------------------------------------------------------------------------------------
+
+void KeepInHostArea(IAppAccess* host, RECT& proposed, bool whole)
+{
+    if (host == nullptr)
+    {
+        return;
+    }
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+    const bool answered = host->GetAvailableArea(GAA_WINDOW_AREA, x, y, width, height);
+    if (answered || (width > 0 && height > 0))
+    {
+        proposed = KeptInside(proposed, x, y, width, height, whole);
+    }
+}
+
+void UpdateHostZOrder(IAppAccess* host)
+{
+    // The manager restacks windows, which comes back here.
+    static bool updating = false;
+    CZOrderManager* const manager =
+        host == nullptr || updating ? nullptr : host->GetZOrderManager();
+    if (manager != nullptr)
+    {
+        updating = true;
+        manager->UpdateZOrder();
+        updating = false;
+    }
+}
+
+ModalNotice::ModalNotice(IEFB* const& current)
+    : m_current(current)
+{
+    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+    if ((mode == EFB || mode == EFBFS) && m_current != nullptr)
+    {
+        m_told = m_current;
+        m_told->BeginModalDialog();
+    }
+}
+
+ModalNotice::~ModalNotice()
+{
+    if (m_told != nullptr && m_told == m_current)
+    {
+        m_told->EndModalDialog();
+    }
+}
+
+// Opening ---------------------------------------------------------------------------------------
+
+void OpenOnBoard(HWND window, HFONT standard)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || window == nullptr)
+    {
+        return;
+    }
+    RestyleNewWindow(window);
+    const auto font = WPARAM(CCustomDialog::m_OBStaticTextFont.GetSafeHandle());
+    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;)
+    {
+        const HWND next = ::GetWindow(child, GW_HWNDNEXT);
+        if (reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == standard)
+        {
+            ::SendMessage(child, WM_SETFONT, font, FALSE);
+        }
+        child = ::IsWindow(next) ? next : nullptr;
+    }
+}
+
+void OpenForm(CWnd& window, ControlList& list, std::vector<CWnd*>& controls)
+{
+    const WindowAlive alive(window);
+    const HWND handle = window.GetSafeHwnd();
+    OpenOnBoard(handle, reinterpret_cast<HFONT>(::SendMessage(handle, WM_GETFONT, 0, 0)));
+    if (alive)
+    {
+        ListControls(handle, list, controls);
+    }
+}
+
+} // namespace dialogs

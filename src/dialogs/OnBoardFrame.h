@@ -1,0 +1,98 @@
+#pragma once
+
+// What dialogs, sheets, pages and forms share in the on-board modes: the frame with its caption
+// band, the colours of the controls, the host's services, and following the mode.
+
+#include "AppMode.h"
+#include "dialogs/DialogGeometry.h"
+
+#include <afxwin.h>
+
+#include <optional>
+#include <vector>
+
+class IAppAccess;
+class IEFB;
+
+namespace dialogs {
+
+class ControlList;
+
+// Makes the shared brushes, pens and font of CCustomDialog that do not exist yet.
+void CreateSharedObjects();
+
+// Takes away the styles by which the platform would draw a caption, if the mode is on-board, and
+// has the frame calculated again. Returns the styles that were there.
+DWORD TakePlatformCaption(CWnd& window);
+
+// After a change of mode: children, frame and colours follow. In the standard mode the window gets
+// the styles back that TakePlatformCaption took, and taken is cleared.
+void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken);
+
+// The same for a window without a caption of its own.
+void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode);
+
+// How much wider and higher than its client area a window is with the on-board frame, less the
+// same with the platform's frame that the styles ask for.
+CSize OnBoardFrameGrowth(DWORD style, DWORD exStyle);
+
+// WM_NCCALCSIZE on-board, before the default processing: adjusts what is proposed and gives the
+// frame that it counted with.
+Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight);
+
+// WM_NCHITTEST on-board: HTCAPTION in the band, else HTNOWHERE. A dialog offers no sizing border
+// and no system buttons, and its client area takes no press: it is meant.
+LRESULT HitOnBoardFrame(const CWnd& window, const CPoint& screen, int captionHeight);
+
+// What a frame is painted from.
+struct FrameLook
+{
+    CRect window; // from (0, 0)
+    CString title;
+    int captionHeight = 0;
+    bool active = true;
+    bool centred = false;
+};
+
+// Paints caption band and frame in window coordinates.
+void PaintOnBoardFrame(CDC& dc, const FrameLook& look);
+
+// Paints them on a window now, the band in one copy; the client area is left alone.
+void DrawOnBoardFrame(CWnd& window, int captionHeight, bool active, bool centred);
+
+// Sets the on-board colours of a control for WM_CTLCOLOR and gives its background brush. Empty
+// when the framework is to answer: outside the on-board modes and for kinds that have no colours of
+// their own here. A control that answers for itself has its say first.
+std::optional<HBRUSH> OnBoardColors(CDC* dc, CWnd* control, UINT kind);
+
+// WM_MOVING on-board, after the default processing. Nothing without a host or when the host has no
+// area to offer.
+void KeepInHostArea(IAppAccess* host, RECT& proposed, bool whole);
+
+// Has the host put its windows back into order; nothing without a host or a manager.
+void UpdateHostZOrder(IAppAccess* host);
+
+// Tells the flight bag before a modal window opens and after it has closed, in the two
+// electronic-flight-bag modes. Whoever was told of the beginning is told of the end, whatever the
+// mode is by then, unless the host has taken its flight bag back.
+class ModalNotice
+{
+public:
+    explicit ModalNotice(IEFB* const& current);
+    ModalNotice(const ModalNotice&) = delete;
+    ModalNotice& operator=(const ModalNotice&) = delete;
+    ~ModalNotice();
+
+private:
+    IEFB* const& m_current; // the host's, as it is at the moment
+    IEFB* m_told = nullptr;
+};
+
+// Scales the children of a window that opens in an on-board mode and gives those that still have
+// its standard font the on-board one. Nothing in the standard mode.
+void OpenOnBoard(HWND window, HFONT standard);
+
+// The same for a form or a page whose template is not rewritten, and the list of its controls.
+void OpenForm(CWnd& window, ControlList& list, std::vector<CWnd*>& controls);
+
+} // namespace dialogs

@@ -1,0 +1,67 @@
+#include "dialogs/SheetTabs.h"
+
+#include "OnBoardUIGeneral.h"
+#include "paint/BackBuffer.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+
+#include <afxcmn.h>
+
+namespace dialogs {
+
+BEGIN_MESSAGE_MAP(SheetTabs, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+END_MESSAGE_MAP()
+
+void SheetTabs::OnPaint()
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        Default();
+        return;
+    }
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    BackBuffer buffer(dc, client);
+    Draw(buffer);
+}
+
+BOOL SheetTabs::OnEraseBkgnd(CDC* dc)
+{
+    return COnBoardUIGeneral::InOnBoardMode() ? TRUE : CWnd::OnEraseBkgnd(dc);
+}
+
+void SheetTabs::Draw(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(&client, palette::Panel);
+    CRect pages = client;
+    SendMessage(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&pages));
+    pages.InflateRect(1, 1);
+    dc.Draw3dRect(&pages, palette::Outline, palette::Outline);
+
+    const Selected font(dc, reinterpret_cast<HGDIOBJ>(SendMessage(WM_GETFONT)));
+    const TextColor color(dc, palette::PanelText);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    const int count = int(SendMessage(TCM_GETITEMCOUNT));
+    const int active = int(SendMessage(TCM_GETCURSEL));
+    for (int index = 0; index < count; ++index)
+    {
+        CRect face;
+        char text[MAX_PATH] = "";
+        TCITEM item = {};
+        item.mask = TCIF_TEXT;
+        item.pszText = text;
+        item.cchTextMax = MAX_PATH;
+        SendMessage(TCM_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&face));
+        SendMessage(TCM_GETITEM, WPARAM(index), reinterpret_cast<LPARAM>(&item));
+        dc.FillSolidRect(&face, index == active ? palette::Caption : palette::Panel);
+        dc.Draw3dRect(&face, palette::Outline, palette::Outline);
+        dc.DrawText(text, -1, &face, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+    }
+}
+
+} // namespace dialogs

@@ -1,0 +1,193 @@
+#include "CustomDialogTemplate.h"
+#include "dialogs/dialog_for_tests.h"
+#include "support/forms.h"
+
+namespace {
+
+constexpr WORD ButtonClass = 0x0080;
+constexpr WORD EditClass = 0x0081;
+constexpr WORD StaticClass = 0x0082;
+constexpr WORD ListBoxClass = 0x0083;
+constexpr WORD ComboClass = 0x0085;
+
+// Fields of templates in all the ways that the formats allow.
+std::vector<TemplateBytes> AllKinds()
+{
+    std::vector<TemplateBytes> kinds;
+    for (const bool extended : {false, true})
+    {
+        std::vector<TemplateBytes::Header> headers(6);
+        headers[1].points = 0;
+        headers[2].points = 14;
+        headers[2].face = u"Arial";
+        headers[3].style |= DS_FIXEDSYS | DS_MODALFRAME;
+        headers[3].face = u"MS Shell Dlg";
+        headers[4].menu = WORD(77);
+        headers[4].windowClass = WORD(0x8002); // the platform's dialog class
+        headers[4].style |= WS_THICKFRAME;
+        headers[5].windowClass = u"#32770";
+        headers[5].style = WS_POPUP;
+        headers[5].title = u"";
+        for (TemplateBytes::Header& header : headers)
+        {
+            header.extended = extended;
+            TemplateBytes bytes(header);
+            bytes.Add(ButtonClass, u"Odd", WS_TABSTOP, CRect(7, 9, 50, 23), 101)
+                .Add(EditClass, u"", WS_BORDER, CRect(7, 30, 103, 43), 102,
+                     {0x1234, 0x5678, 0x9ABC})
+                .Add(u"ListBox", u"", LBS_NOINTEGRALHEIGHT, CRect(110, 3, 193, 63), 103)
+                .Add(StaticClass, u"A label", 0, CRect(7, 50, 60, 58), 0xFFFF)
+                .Add(u"SysListView32", u"", LVS_REPORT, CRect(1, 70, 199, 119), 104);
+            kinds.push_back(bytes);
+        }
+    }
+    return kinds;
+}
+
+class DialogTemplateTest : public WindowTest
+{
+protected:
+    void TearDown() override
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        WindowTest::TearDown();
+    }
+};
+
+TEST_F(DialogTemplateTest, ChildrenEndWhereTheRuleTakesThemWhateverTheTemplate)
+{
+    int index = 0;
+    for (const TemplateBytes& bytes : AllKinds())
+    {
+        SCOPED_TRACE(index++);
+        DialogForTests standard;
+        ASSERT_TRUE(standard.CreateIndirect(bytes, &Host()));
+        const std::vector<CRect> before = ChildPlaces(standard);
+        const CSize client = ClientRectOf(standard).Size();
+        ASSERT_EQ(before.size(), 5U);
+        standard.DestroyWindow();
+
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        DialogForTests dialog;
+        ASSERT_TRUE(dialog.CreateIndirect(bytes, &Host()));
+        const std::vector<CRect> after = ChildPlaces(dialog);
+        const CRect room = ClientRectOf(dialog);
+        ASSERT_EQ(after.size(), before.size());
+        for (size_t child = 0; child < after.size(); ++child)
+        {
+            EXPECT_EQ(after[child], Enlarged(before[child])) << child;
+            EXPECT_LE(after[child].right, room.right) << child;
+            EXPECT_LE(after[child].bottom, room.bottom) << child;
+        }
+        // No smaller than the factor makes it, and larger by less than a dialog unit.
+        const CSize wanted = Enlarged(CRect(CPoint(0, 0), client)).Size();
+        EXPECT_GE(room.Width(), wanted.cx);
+        EXPECT_LT(room.Width(), wanted.cx + 4);
+        EXPECT_GE(room.Height(), wanted.cy);
+        EXPECT_LT(room.Height(), wanted.cy + 4);
+        LOGFONT font = {};
+        dialog.GetFont()->GetLogFont(&font);
+        EXPECT_STREQ(font.lfFaceName, "Arial");
+        EXPECT_EQ(dialog.GetDlgItem(101)->GetFont(), &CCustomDialog::m_OBStaticTextFont);
+        dialog.DestroyWindow();
+        COnBoardUIGeneral::SetAppMode(STD);
+    }
+}
+
+TEST_F(DialogTemplateTest, OpeningOnBoardAndSwitchingThereAgree)
+{
+    TemplateBytes bytes({});
+    bytes
+        .Add(ListBoxClass, u"", WS_VSCROLL, CRect(5, 5, 60, 62), 101) // whole rows only
+        .Add(ComboClass, u"", CBS_DROPDOWNLIST, CRect(70, 5, 130, 80), 102)
+        .Add(ButtonClass, u"OK", 0, CRect(0, 0, 1, 1), 103)
+        .Add(StaticClass, u"", 0, CRect(-9, -5, 3000, 0), 104);
+    DialogForTests switched;
+    ASSERT_TRUE(switched.CreateIndirect(bytes, &Host()));
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    DialogForTests opened;
+    ASSERT_TRUE(opened.CreateIndirect(bytes, &Host()));
+    std::vector<CRect> expected = ChildPlaces(switched);
+    std::vector<CRect> actual = ChildPlaces(opened);
+    // A closed combo is as high as its font, which a change of mode leaves to its owner.
+    expected[1].bottom = actual[1].bottom;
+    EXPECT_EQ(actual, expected);
+}
+
+TEST_F(DialogTemplateTest, EveryTruncationIsRefused)
+{
+    for (const TemplateBytes& bytes : AllKinds())
+    {
+        // The copy ends where the memory does, so that a byte too far is a fault.
+        const size_t page = 0x1000;
+        auto* const memory =
+            static_cast<BYTE*>(::VirtualAlloc(nullptr, 2 * page, MEM_RESERVE, PAGE_NOACCESS));
+        ASSERT_NE(::VirtualAlloc(memory, page, MEM_COMMIT, PAGE_READWRITE), nullptr);
+        for (size_t size = 0; size <= bytes.Size(); ++size)
+        {
+            BYTE* const copy = memory + page - size;
+            std::memcpy(copy, bytes.Data(), size);
+            CCustomDialogTemplate loaded;
+            EXPECT_EQ(loaded.Load(copy, size), size == bytes.Size()) << size;
+            EXPECT_EQ(loaded.Load(reinterpret_cast<LPCDLGTEMPLATE>(copy)), size == bytes.Size());
+            EXPECT_EQ(loaded.IsLoaded(), size == bytes.Size());
+        }
+        ::VirtualFree(memory, 0, MEM_RELEASE);
+    }
+}
+
+TEST_F(DialogTemplateTest, DamageOfAnyByteDoesNoHarm)
+{
+    for (const TemplateBytes& bytes : AllKinds())
+    {
+        std::vector<BYTE> copy(bytes.Size());
+        for (size_t at = 0; at < copy.size(); ++at)
+        {
+            for (const BYTE value : {BYTE(0), BYTE(0xFF)})
+            {
+                std::memcpy(copy.data(), bytes.Data(), copy.size());
+                copy[at] = value;
+                CCustomDialogTemplate loaded;
+                if (loaded.Load(copy.data(), copy.size()))
+                {
+                    EXPECT_NE(loaded.Lock(), nullptr);
+                    loaded.Unlock();
+                }
+            }
+        }
+    }
+    TemplateBytes future({.extended = true});
+    std::vector<BYTE> copy(future.Size());
+    std::memcpy(copy.data(), future.Data(), copy.size());
+    copy[0] = 2;
+    EXPECT_FALSE(CCustomDialogTemplate().Load(copy.data(), copy.size())) << "an unknown version";
+}
+
+TEST_F(DialogTemplateTest, LoadingAndLocking)
+{
+    CCustomDialogTemplate loaded;
+    EXPECT_EQ(loaded.Lock(), nullptr);
+    EXPECT_FALSE(loaded.ChangeTemplateForOB());
+    EXPECT_FALSE(loaded.Load(31999U));
+    EXPECT_FALSE(loaded.Load("NO SUCH TEMPLATE"));
+    EXPECT_FALSE(loaded.Load(static_cast<LPCSTR>(nullptr)));
+    EXPECT_FALSE(loaded.Load(static_cast<LPCDLGTEMPLATE>(nullptr)));
+    EXPECT_TRUE(loaded.Load(IDD_TEST_FORM));
+    EXPECT_TRUE(loaded.Load(UINT(IDD_TEST_FORM), ::GetModuleHandle(nullptr)));
+    EXPECT_FALSE(loaded.Load(UINT(IDD_TEST_FORM), ::GetModuleHandle("user32")));
+    EXPECT_FALSE(loaded.IsLoaded()) << "what failed leaves nothing behind";
+
+    ASSERT_TRUE(loaded.Load(IDD_TEST_FORM));
+    const LPCDLGTEMPLATE locked = loaded.Lock();
+    const short width = locked->cx;
+    EXPECT_FALSE(loaded.ChangeTemplateForOB());
+    EXPECT_FALSE(loaded.Load(IDD_TEST_FORM));
+    EXPECT_EQ(locked->cx, width) << "nothing moves while it is locked";
+    loaded.Unlock();
+    EXPECT_TRUE(loaded.ChangeTemplateForOB());
+    EXPECT_FALSE(loaded.ChangeTemplateForOB()) << "once only";
+    EXPECT_EQ(loaded.Controls().size(), 2U);
+    EXPECT_TRUE(TopLevelWindows() == std::vector<HWND>{Host().m_hWnd});
+}
+
+} // namespace
