@@ -1,0 +1,24 @@
+#pragma once
+
+#include "OnBoardUIExport.h"
+
+#include <afxwin.h>
+
+// A swatch of one colour. It has none until Set gives it one, which must come before it is first
+// painted.
+class ONBOARDUI_API CColorStatic : public CStatic
+{
+public:
+    CColorStatic();
+    ~CColorStatic() override;
+
+    // The colour, shown by the next paint.
+    void Set(COLORREF color);
+
+protected:
+    afx_msg void OnPaint();
+    afx_msg void OnEnable(BOOL enable);
+    DECLARE_MESSAGE_MAP()
+
+    COLORREF m_color; // meant: not set by the constructor
+};

@@ -1,0 +1,68 @@
+#include "BoldStatic.h"
+
+#include "OnBoardUIGeneral.h"
+#include "paint/GdiGuards.h"
+
+BEGIN_MESSAGE_MAP(CBoldStatic, CCustomStatic)
+    ON_WM_PAINT()
+    ON_MESSAGE(WM_SETTEXT, &CBoldStatic::OnLookChanged)
+    ON_MESSAGE(WM_SETFONT, &CBoldStatic::OnLookChanged)
+    ON_MESSAGE(WM_ENABLE, &CBoldStatic::OnLookChanged)
+END_MESSAGE_MAP()
+
+CBoldStatic::CBoldStatic()
+    : m_color(::GetSysColor(COLOR_WINDOWTEXT))
+{}
+
+CBoldStatic::~CBoldStatic() = default;
+
+void CBoldStatic::SetColor(COLORREF color)
+{
+    m_color = color;
+}
+
+void CBoldStatic::OnPaint()
+{
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        CCustomStatic::OnPaint();
+        return;
+    }
+    CFont bold;
+    if (CFont* const own = GetFont(); own != nullptr)
+    {
+        LOGFONT description = {};
+        own->GetLogFont(&description);
+        description.lfWeight *= 2; // a bold one asks for more than there is, which does no harm
+        bold.CreateFontIndirect(&description);
+    }
+    CString text;
+    GetWindowText(text);
+    CRect area;
+    GetWindowRect(&area);
+    ScreenToClient(&area);
+
+    CPaintDC dc(this);
+    const Selected font(dc, bold);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    const TextColor color(dc, m_color);
+    dc.DrawText(text, &area, DT_SINGLELINE);
+}
+
+LRESULT CBoldStatic::OnLookChanged(WPARAM, LPARAM)
+{
+    const LRESULT result = Default();
+    if (IsWindowVisible())
+    {
+        // The label has no ground of its own: what it stands on takes the old text away.
+        CRect place;
+        GetWindowRect(&place);
+        if (CWnd* const parent = GetParent(); parent != nullptr)
+        {
+            parent->ScreenToClient(&place);
+            parent->InvalidateRect(&place);
+        }
+        Invalidate();
+    }
+    return result;
+}

@@ -1,0 +1,33 @@
+#include "ColorStatic.h"
+
+BEGIN_MESSAGE_MAP(CColorStatic, CStatic)
+    ON_WM_PAINT()
+    ON_WM_ENABLE()
+END_MESSAGE_MAP()
+
+CColorStatic::CColorStatic() {} // meant: the colour is the host's to give
+CColorStatic::~CColorStatic() = default;
+
+void CColorStatic::Set(COLORREF color)
+{
+    m_color = color;
+    if (GetSafeHwnd() != nullptr)
+    {
+        Invalidate();
+    }
+}
+
+void CColorStatic::OnPaint()
+{
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(&client, m_color);
+}
+
+// The platform's label draws itself at once.
+void CColorStatic::OnEnable(BOOL enable)
+{
+    CStatic::OnEnable(enable);
+    Invalidate();
+}

@@ -1,0 +1,46 @@
+#include "ColoredGroupBox.h"
+
+#include "OnBoardUIGeneral.h"
+#include "paint/GdiGuards.h"
+#include "paint/Metrics.h"
+
+BEGIN_MESSAGE_MAP(CColoredGroupBox, CStatic)
+    ON_WM_PAINT()
+    ON_WM_ENABLE()
+END_MESSAGE_MAP()
+
+CColoredGroupBox::CColoredGroupBox()
+    : m_color(::GetSysColor(COLOR_WINDOWTEXT))
+{}
+
+CColoredGroupBox::~CColoredGroupBox() = default;
+
+void CColoredGroupBox::SetColor(COLORREF color)
+{
+    m_color = color;
+}
+
+void CColoredGroupBox::OnPaint()
+{
+    CRect box;
+    GetWindowRect(&box);
+    ScreenToClient(&box);
+    const CPen outline(PS_SOLID, COnBoardUIGeneral::InOnBoardMode() ? metrics::OutlineWidth : 1,
+                       m_color);
+    CPaintDC dc(this);
+    const Selected pen(dc, outline);
+    // Meant: along the exclusive edges, so that a line of one pixel on the right and at the bottom
+    // falls just outside the window; a wide one keeps its inner pixel.
+    dc.MoveTo(box.left, box.top);
+    dc.LineTo(box.right, box.top);
+    dc.LineTo(box.right, box.bottom);
+    dc.LineTo(box.left, box.bottom);
+    dc.LineTo(box.left, box.top);
+}
+
+// The platform's label draws itself at once.
+void CColoredGroupBox::OnEnable(BOOL enable)
+{
+    CStatic::OnEnable(enable);
+    Invalidate();
+}

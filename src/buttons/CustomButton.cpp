@@ -1,0 +1,377 @@
+#include "CustomButton.h"
+
+#include "OnBoardUI.h"
+#include "OnBoardUIGeneral.h"
+#include "buttons/ButtonLayout.h"
+#include "modes/WindowAlive.h"
+#include "paint/BackBuffer.h"
+#include "paint/ControlFonts.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+
+#include <tuple>
+
+IMPLEMENT_DYNAMIC(CCustomButton, CButton)
+
+BEGIN_MESSAGE_MAP(CCustomButton, CButton)
+    ON_WM_DESTROY()
+    ON_WM_PAINT()
+    ON_WM_ENABLE()
+    ON_WM_SHOWWINDOW()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_MOUSEMOVE()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_KEYDOWN()
+    ON_WM_KEYUP()
+    ON_MESSAGE(BM_CLICK, &CCustomButton::OnBMClick)
+    ON_MESSAGE(BM_SETCHECK, &CCustomButton::OnBMSetCheck)
+    ON_MESSAGE(BM_SETSTATE, &CCustomButton::OnBMSetState)
+    ON_MESSAGE(BM_GETCHECK, &CCustomButton::OnBMGetCheck)
+    ON_MESSAGE(BM_GETSTATE, &CCustomButton::OnBMGetState)
+    ON_MESSAGE(WM_SETTEXT, &CCustomButton::OnSetText)
+END_MESSAGE_MAP()
+
+CPen CCustomButton::m_OutlinePen;
+CPen CCustomButton::m_PressedOutlinePen;
+CPen CCustomButton::m_FocusPen;
+CPen CCustomButton::m_PressedFocusPen;
+CFont CCustomButton::m_Font;
+
+namespace {
+
+void MakeOnce(CPen& pen, int (*create)(CPen&, unsigned long), COLORREF color)
+{
+    if (pen.GetSafeHandle() == nullptr)
+    {
+        create(pen, color);
+    }
+}
+
+bool IsInDisabledWindow(HWND window)
+{
+    while ((::GetWindowLongPtr(window, GWL_STYLE) & WS_CHILD) != 0)
+    {
+        window = ::GetParent(window);
+        if (!::IsWindowEnabled(window))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+CCustomButton::CCustomButton()
+    : m_background(palette::Panel)
+{
+    MakeOnce(m_OutlinePen, &CreateOnBoardOutlinePen, palette::Outline);
+    MakeOnce(m_PressedOutlinePen, &CreateOnBoardOutlinePen, palette::PressedOutline);
+    MakeOnce(m_FocusPen, &CreateOnBoardFocusPen, palette::Outline);
+    MakeOnce(m_PressedFocusPen, &CreateOnBoardFocusPen, palette::PressedOutline);
+    OnBoardControlFont(m_Font, LargeOnBoardFont);
+}
+
+CCustomButton::~CCustomButton() = default;
+
+// Returns whether the mode is on-board, the first question of every handler. A press ends here that
+// a change to the standard mode or a disabled parent has cut off: neither sends the button a
+// message.
+bool CCustomButton::FollowMode()
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if (m_tracking && (!onBoard || IsInDisabledWindow(m_hWnd)))
+    {
+        EndTracking();
+    }
+    return onBoard;
+}
+
+// State -----------------------------------------------------------------------------------------
+
+void CCustomButton::SetState(int state)
+{
+    if (FollowMode())
+    {
+        OnBMSetState(WPARAM(state), 0);
+        return;
+    }
+    CButton::SetState(state);
+}
+
+int CCustomButton::GetCheck() const
+{
+    return COnBoardUIGeneral::InOnBoardMode() ? m_check : CButton::GetCheck();
+}
+
+void CCustomButton::SetCheck(int check)
+{
+    if (FollowMode())
+    {
+        OnBMSetCheck(WPARAM(check), 0);
+        return;
+    }
+    CButton::SetCheck(check);
+}
+
+void CCustomButton::ChangeCheck(int check)
+{
+    if (m_check != check)
+    {
+        m_check = check;
+        if (GetSafeHwnd() != nullptr)
+        {
+            Invalidate(FALSE);
+        }
+    }
+}
+
+// Tracking --------------------------------------------------------------------------------------
+
+void CCustomButton::StartTracking()
+{
+    if (::GetCapture() != nullptr)
+    {
+        return;
+    }
+    // Whoever loses the focus may do anything to the button, and then the press is none.
+    const auto circumstances = [this] {
+        return std::tuple(COnBoardUIGeneral::InOnBoardMode(), IsWindowEnabled(), IsWindowVisible());
+    };
+    const auto before = circumstances();
+    const WindowAlive alive(*this);
+    SetFocus();
+    if (!alive || ::GetCapture() != nullptr || circumstances() != before)
+    {
+        return;
+    }
+    SetCapture();
+    m_tracking = true;
+    m_pressed = true;
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        DrawOB();
+    }
+}
+
+// The one end of every press. Reached from the release, the loss of capture, focus or visibility, a
+// disabled or destroyed window and a changed mode.
+void CCustomButton::EndTracking()
+{
+    m_pressed = false;
+    m_tracking = false;
+    m_spaceHeld = false;
+    if (GetSafeHwnd() == nullptr || ::GetCapture() != m_hWnd)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    ::ReleaseCapture();
+    if (alive && COnBoardUIGeneral::InOnBoardMode())
+    {
+        DrawOB();
+    }
+}
+
+bool CCustomButton::InButtonRect(const CPoint& point)
+{
+    CRect client;
+    GetClientRect(&client);
+    return client.PtInRect(point);
+}
+
+// Clicks ----------------------------------------------------------------------------------------
+
+void CCustomButton::NotifyParentClicked()
+{
+    if (CWnd* const parent = GetParent(); parent != nullptr)
+    {
+        NotifyWindowClicked(parent);
+    }
+}
+
+void CCustomButton::NotifyWindowClicked(CWnd* window)
+{
+    if (window == nullptr)
+    {
+        return;
+    }
+    // Meant: only the low 16 bits of the handle go along. Hosts tell the button by its id.
+    const auto handle = reinterpret_cast<UINT_PTR>(m_hWnd);
+    window->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), BN_CLICKED), LOWORD(handle));
+}
+
+void CCustomButton::HandleKeyDown(UINT, UINT, UINT)
+{
+    Default();
+}
+
+void CCustomButton::GetSiblingControls(std::vector<CWnd*>& controls, DWORD style)
+{
+    for (HWND window = ::GetWindow(m_hWnd, GW_HWNDFIRST); window != nullptr;
+         window = ::GetWindow(window, GW_HWNDNEXT))
+    {
+        if ((DWORD(::GetWindowLongPtr(window, GWL_STYLE)) & style) == style)
+        {
+            controls.push_back(CWnd::FromHandle(window));
+        }
+    }
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+void CCustomButton::DrawOB()
+{
+    CDC* const dc = GetSafeHwnd() == nullptr ? nullptr : GetDC();
+    if (dc == nullptr)
+    {
+        return;
+    }
+    {
+        CRect client;
+        GetClientRect(&client);
+        BackBuffer buffer(*dc, client);
+        DrawOB(buffer);
+    }
+    ReleaseDC(dc);
+}
+
+void CCustomButton::DrawRCText(CDC& dc, const CRect& item, const CRect& mark)
+{
+    CString text;
+    GetWindowText(text);
+    const UINT format = buttons::MarkCaptionFormat(GetStyle());
+    CRect measured = buttons::CaptionArea(item, mark);
+    dc.DrawText(text, &measured, format | DT_CALCRECT);
+    CRect caption = buttons::CentredCaption(measured, item);
+    if (m_focused)
+    {
+        const Selected pen(dc, m_FocusPen);
+        dc.Rectangle(buttons::FocusFrame(caption));
+    }
+    // A letter may reach a little beyond its measured width; only the window cuts a caption.
+    dc.DrawText(text, &caption, format | DT_NOCLIP);
+}
+
+void CCustomButton::OnDestroy()
+{
+    EndTracking();
+    CButton::OnDestroy();
+}
+
+void CCustomButton::OnPaint()
+{
+    if (!FollowMode())
+    {
+        Default();
+        return;
+    }
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    BackBuffer buffer(dc, client);
+    DrawOB(buffer);
+}
+
+void CCustomButton::OnEnable(BOOL enable)
+{
+    if (!FollowMode())
+    {
+        Default();
+        return;
+    }
+    if (!enable)
+    {
+        EndTracking();
+    }
+    Invalidate(FALSE);
+}
+
+void CCustomButton::OnShowWindow(BOOL show, UINT)
+{
+    if (FollowMode() && !show)
+    {
+        EndTracking();
+    }
+    Default();
+}
+
+// The button's own messages ---------------------------------------------------------------------
+
+LRESULT CCustomButton::OnBMClick(WPARAM, LPARAM)
+{
+    if (!FollowMode())
+    {
+        return Default();
+    }
+    const WindowAlive alive(*this);
+    HandleBMClick();
+    if (alive && !m_focused)
+    {
+        SetFocus();
+    }
+    if (alive)
+    {
+        NotifyParentClicked();
+    }
+    return 0;
+}
+
+LRESULT CCustomButton::OnBMSetCheck(WPARAM wParam, LPARAM)
+{
+    if (!FollowMode())
+    {
+        return Default();
+    }
+    EndTracking();
+    ChangeCheck(int(wParam));
+    return 0;
+}
+
+LRESULT CCustomButton::OnBMSetState(WPARAM wParam, LPARAM)
+{
+    if (!FollowMode())
+    {
+        return Default();
+    }
+    EndTracking();
+    m_pressed = wParam != 0;
+    if (GetSafeHwnd() == nullptr)
+    {
+        return 0;
+    }
+    // A press of the standard mode that the mode change cut off leaves the platform's button
+    // pushed.
+    if (!m_pressed && (DefWindowProc(BM_GETSTATE, 0, 0) & BST_PUSHED) != 0)
+    {
+        DefWindowProc(BM_SETSTATE, FALSE, 0);
+    }
+    Invalidate(FALSE);
+    return 0;
+}
+
+LRESULT CCustomButton::OnBMGetCheck(WPARAM, LPARAM)
+{
+    return FollowMode() ? m_check : Default();
+}
+
+LRESULT CCustomButton::OnBMGetState(WPARAM, LPARAM)
+{
+    return FollowMode() ? LRESULT(m_pressed) : Default();
+}
+
+// The platform's button draws itself as soon as it has another caption.
+LRESULT CCustomButton::OnSetText(WPARAM, LPARAM)
+{
+    const LRESULT result = Default();
+    if (FollowMode())
+    {
+        DrawOB();
+    }
+    return result;
+}

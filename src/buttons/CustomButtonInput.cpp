@@ -1,0 +1,157 @@
+// The buttons' pointer, capture, focus and keys.
+
+#include "CustomButton.h"
+
+#include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
+
+// Mouse -----------------------------------------------------------------------------------------
+
+void CCustomButton::OnLButtonDown(UINT, CPoint)
+{
+    if (!FollowMode())
+    {
+        Default();
+        return;
+    }
+    const WindowAlive alive(*this);
+    StartTracking();
+    if (alive)
+    {
+        m_mouseDown = true;
+    }
+}
+
+void CCustomButton::OnLButtonUp(UINT, CPoint point)
+{
+    const WindowAlive alive(*this);
+    const bool inside = InButtonRect(point);
+    if (!FollowMode())
+    {
+        Default();
+    }
+    else
+    {
+        if (m_tracking && inside)
+        {
+            OnBMClick(0, 0);
+            if (!alive)
+            {
+                return;
+            }
+        }
+        EndTracking();
+        if (alive)
+        {
+            m_mouseDown = false;
+        }
+    }
+    if (alive && inside)
+    {
+        HandleGroupClick();
+    }
+}
+
+// A double click is a second press.
+void CCustomButton::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
+}
+
+void CCustomButton::OnMouseMove(UINT, CPoint point)
+{
+    if (!FollowMode())
+    {
+        Default();
+        return;
+    }
+    if (m_tracking)
+    {
+        const bool inside = InButtonRect(point);
+        if (inside != m_pressed)
+        {
+            m_pressed = inside; // meant: not drawn, the look of a held button stays
+        }
+    }
+}
+
+void CCustomButton::OnCaptureChanged(CWnd* taker)
+{
+    // The platform's button has presses of its own: those of the standard mode and the space key.
+    Default();
+    if (taker != this && (m_tracking || m_spaceHeld))
+    {
+        EndTracking();
+        if (COnBoardUIGeneral::InOnBoardMode())
+        {
+            DrawOB();
+        }
+    }
+}
+
+void CCustomButton::OnCancelMode()
+{
+    FollowMode();
+    Default(); // releases the capture, and with it the press
+}
+
+// Keyboard --------------------------------------------------------------------------------------
+
+void CCustomButton::OnSetFocus(CWnd*)
+{
+    if (!FollowMode())
+    {
+        Default();
+        return;
+    }
+    m_focused = true;
+    DrawOB();
+}
+
+void CCustomButton::OnKillFocus(CWnd*)
+{
+    m_focused = false; // in any mode: the next on-board one shows no focus that is elsewhere
+    if (!FollowMode())
+    {
+        Default();
+        return;
+    }
+    const WindowAlive alive(*this);
+    EndTracking();
+    if (alive)
+    {
+        DrawOB();
+    }
+}
+
+void CCustomButton::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (!FollowMode())
+    {
+        Default();
+        return;
+    }
+    const WindowAlive alive(*this);
+    HandleKeyDown(key, repeat, flags);
+    if (alive && key == VK_SPACE)
+    {
+        m_spaceHeld = m_pressed && !m_tracking && ::GetCapture() == m_hWnd;
+    }
+}
+
+// The platform's button takes the space key when it goes down, but it asks its own pushed state
+// before it clicks, and that state is kept here: so the click is made here too.
+void CCustomButton::OnKeyUp(UINT key, UINT, UINT)
+{
+    if (!FollowMode() || !m_spaceHeld || key != VK_SPACE)
+    {
+        Default();
+        return;
+    }
+    const WindowAlive alive(*this);
+    EndTracking();
+    if (alive)
+    {
+        OnBMClick(0, 0);
+    }
+}

@@ -1,0 +1,117 @@
+#include "CustomCheckBox.h"
+
+#include "OnBoardUI.h"
+#include "OnBoardUIGeneral.h"
+#include "buttons/ButtonLayout.h"
+#include "modes/WindowAlive.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+
+IMPLEMENT_DYNAMIC(CCustomCheckBox, CCustomButton)
+
+BEGIN_MESSAGE_MAP(CCustomCheckBox, CCustomButton)
+    ON_WM_UPDATEUISTATE()
+END_MESSAGE_MAP()
+
+CPen CCustomCheckBox::m_penCheckEnabled;
+CPen CCustomCheckBox::m_penCheckDisabled;
+
+CCustomCheckBox::CCustomCheckBox()
+{
+    if (m_penCheckEnabled.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardOutlinePen(m_penCheckEnabled, palette::MarkEnabled.sign);
+    }
+    if (m_penCheckDisabled.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardOutlinePen(m_penCheckDisabled, palette::MarkDisabled.sign);
+    }
+}
+
+CCustomCheckBox::~CCustomCheckBox() = default;
+
+void CCustomCheckBox::HandleBMClick()
+{
+    switch (m_check)
+    {
+    case BST_UNCHECKED:
+    case BST_INDETERMINATE:
+        ChangeCheck(BST_CHECKED);
+        break;
+    case BST_CHECKED:
+        ChangeCheck(BST_UNCHECKED);
+        break;
+    default:
+        break; // a host's own state stays
+    }
+    // Meant: a click tells the parent here and once more in the handling that all buttons share; a
+    // key tells it only here.
+    NotifyParentClicked();
+}
+
+void CCustomCheckBox::HandleKeyDown(UINT key, UINT, UINT)
+{
+    if (key != VK_SPACE)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    HandleBMClick();
+    if (alive && COnBoardUIGeneral::InOnBoardMode())
+    {
+        DrawOB();
+    }
+}
+
+void CCustomCheckBox::DrawOB(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(&client, m_background);
+
+    const Selected pen(dc, m_OutlinePen);
+    const Selected brush(dc, ::GetStockObject(NULL_BRUSH));
+    const Selected font(dc, m_Font);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    const TextColor color(dc,
+                          IsWindowEnabled() ? palette::ButtonText : palette::ChoiceTextDisabled);
+    const CRect item = buttons::ItemArea(client);
+    CRect mark;
+    DrawCheckBox(dc, item, mark);
+    DrawRCText(dc, item, mark);
+}
+
+void CCustomCheckBox::DrawCheckBox(CDC& dc, const CRect& item, CRect& mark)
+{
+    TEXTMETRIC text = {};
+    dc.GetTextMetrics(&text);
+    mark = buttons::CheckSquare(item, int(text.tmHeight + text.tmExternalLeading));
+
+    const bool enabled = IsWindowEnabled();
+    const palette::Mark& colors = enabled ? palette::MarkEnabled : palette::MarkDisabled;
+    dc.FillSolidRect(&mark, colors.face);
+    CRect inner(mark);
+    for (int ring = 0; ring < metrics::Border; ++ring)
+    {
+        dc.Draw3dRect(&inner, colors.rim, colors.light);
+        inner.DeflateRect(1, 1);
+    }
+    if (m_check != BST_UNCHECKED)
+    {
+        const Selected pen(dc, enabled ? m_penCheckEnabled : m_penCheckDisabled);
+        dc.MoveTo(inner.left + 1, inner.top + 1);
+        dc.LineTo(inner.right - 2, inner.bottom - 2);
+        dc.MoveTo(inner.left + 1, inner.bottom - 2);
+        dc.LineTo(inner.right - 2, inner.top + 1);
+    }
+}
+
+void CCustomCheckBox::OnUpdateUIState(UINT, UINT)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        Default();
+        return;
+    }
+    DrawOB();
+}

@@ -1,0 +1,217 @@
+#include "CustomRadiobutton.h"
+
+#include "OnBoardUIGeneral.h"
+#include "buttons/ButtonLayout.h"
+#include "buttons/RadioCircle.h"
+#include "modes/WindowAlive.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+
+#include <algorithm>
+#include <span>
+
+IMPLEMENT_DYNAMIC(CCustomRadiobutton, CCustomButton)
+
+BEGIN_MESSAGE_MAP(CCustomRadiobutton, CCustomButton)
+    ON_WM_UPDATEUISTATE()
+END_MESSAGE_MAP()
+
+CBrush CCustomRadiobutton::m_DotBrush;
+
+namespace {
+
+constexpr DWORD GroupBoxBits = BS_GROUPBOX;
+
+void DrawSpans(CDC& dc, CPoint origin, std::span<const buttons::CircleSpan> spans, COLORREF color)
+{
+    const CPen pen(PS_INSIDEFRAME, 1, color);
+    const Selected selected(dc, pen);
+    for (const buttons::CircleSpan& span : spans)
+    {
+        dc.MoveTo(origin.x + span.from, origin.y + span.row);
+        dc.LineTo(origin.x + span.to, origin.y + span.row);
+    }
+}
+
+bool IsGroupHead(HWND window)
+{
+    return CCustomRadiobutton::IsAutoRadioGroupCtrl(CWnd::FromHandle(window));
+}
+
+// The radio button with WS_GROUP that the group of this one begins with, or null.
+HWND GroupHead(HWND parent, HWND button)
+{
+    // The dialog's order leaves out what is hidden or disabled, so that a walk may never come back
+    // to where it began; it ends at the first window seen twice.
+    std::vector<HWND> seen;
+    for (HWND window = button;
+         window != nullptr && std::find(seen.begin(), seen.end(), window) == seen.end();
+         window = ::GetNextDlgGroupItem(parent, window, TRUE))
+    {
+        if (IsGroupHead(window))
+        {
+            return window;
+        }
+        seen.push_back(window);
+    }
+    return nullptr;
+}
+
+// The group from its head on, in the dialog's order.
+std::vector<HWND> GroupFrom(HWND parent, HWND head)
+{
+    std::vector<HWND> group;
+    for (HWND window = head;
+         window != nullptr && std::find(group.begin(), group.end(), window) == group.end();
+         window = ::GetNextDlgGroupItem(parent, window, FALSE))
+    {
+        group.push_back(window);
+    }
+    return group;
+}
+
+} // namespace
+
+CCustomRadiobutton::CCustomRadiobutton()
+{
+    m_background = palette::Panel;
+    if (m_DotBrush.GetSafeHandle() == nullptr)
+    {
+        m_DotBrush.CreateSolidBrush(palette::RadioDot);
+    }
+}
+
+CCustomRadiobutton::~CCustomRadiobutton() = default;
+
+// Meant: the bits are tested and not the type compared, so owner-drawn and some other buttons count
+// as well.
+bool CCustomRadiobutton::IsAutoRadio(CWnd* window)
+{
+    return window != nullptr && (window->GetStyle() & BS_AUTORADIOBUTTON) == BS_AUTORADIOBUTTON;
+}
+
+bool CCustomRadiobutton::IsAutoRadioGroupCtrl(CWnd* window)
+{
+    return IsAutoRadio(window) && (window->GetStyle() & WS_GROUP) != 0;
+}
+
+void CCustomRadiobutton::HandleBMClick()
+{
+    if (m_check == BST_UNCHECKED || m_check == BST_INDETERMINATE)
+    {
+        ChangeCheck(BST_CHECKED);
+    }
+    if (m_check == BST_CHECKED)
+    {
+        HandleRadioGroup();
+    }
+}
+
+void CCustomRadiobutton::HandleRadioGroup()
+{
+    const HWND self = m_hWnd;
+    const HWND parent = ::GetParent(self);
+    const HWND head = parent == nullptr ? nullptr : GroupHead(parent, self);
+    if (head == nullptr)
+    {
+        return;
+    }
+    // All taken first: a member may destroy others when it is told, this button among them.
+    for (const HWND window : GroupFrom(parent, head))
+    {
+        if (!::IsWindow(window) || !IsAutoRadio(CWnd::FromHandle(window)))
+        {
+            continue;
+        }
+        ::SendMessage(window, BM_SETCHECK, window == self ? BST_CHECKED : BST_UNCHECKED, 0);
+        ::InvalidateRect(window, nullptr, TRUE);
+        ::UpdateWindow(window);
+    }
+}
+
+void CCustomRadiobutton::HandleGroupClick()
+{
+    std::vector<CWnd*> siblings;
+    GetSiblingControls(siblings, GroupBoxBits);
+    CRect own;
+    GetWindowRect(&own);
+    // By handle: objects that stand for another's window go while a told window pumps messages.
+    std::vector<HWND> boxes;
+    for (const CWnd* sibling : siblings)
+    {
+        CRect box;
+        sibling->GetWindowRect(&box);
+        if (CRect common; common.IntersectRect(&own, &box))
+        {
+            boxes.push_back(sibling->GetSafeHwnd());
+        }
+    }
+    const WindowAlive alive(*this);
+    for (const HWND box : boxes)
+    {
+        if (::IsWindow(box))
+        {
+            NotifyWindowClicked(CWnd::FromHandle(box));
+        }
+        if (!alive)
+        {
+            return;
+        }
+    }
+}
+
+void CCustomRadiobutton::HandleKeyDown(UINT key, UINT, UINT)
+{
+    if (key != VK_SPACE || m_check == BST_CHECKED)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    HandleBMClick();
+    if (alive && COnBoardUIGeneral::InOnBoardMode())
+    {
+        DrawOB();
+    }
+}
+
+void CCustomRadiobutton::DrawOB(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(&client, m_background);
+
+    const Selected pen(dc, m_OutlinePen);
+    const Selected brush(dc, ::GetStockObject(NULL_BRUSH));
+    const Selected font(dc, m_Font);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    const TextColor color(dc,
+                          IsWindowEnabled() ? palette::ButtonText : palette::ChoiceTextDisabled);
+    const CRect item = buttons::ItemArea(client);
+    CRect mark;
+    DrawRadioCircle(dc, item, mark);
+    DrawRCText(dc, item, mark);
+}
+
+void CCustomRadiobutton::DrawRadioCircle(CDC& dc, const CRect& item, CRect& mark)
+{
+    mark = buttons::RadioSquare(item);
+    const palette::Mark& colors = IsWindowEnabled() ? palette::MarkEnabled : palette::MarkDisabled;
+    const CPoint origin = mark.TopLeft();
+    DrawSpans(dc, origin, buttons::CircleRim, colors.rim);
+    DrawSpans(dc, origin, buttons::CircleLight, colors.light);
+    DrawSpans(dc, origin, buttons::CircleFace, colors.face);
+    if (m_check != BST_UNCHECKED)
+    {
+        DrawSpans(dc, origin, buttons::CircleDot, colors.sign);
+    }
+}
+
+void CCustomRadiobutton::OnUpdateUIState(UINT, UINT)
+{
+    // Meant: in the standard mode the message goes no further. The focus cues of a group stay as
+    // they were when the dialog opened.
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        DrawOB();
+    }
+}

@@ -1,0 +1,252 @@
+#include "CustomStatic.h"
+
+#include "CustomDialog.h"
+#include "CustomFormView.h"
+#include "CustomPropPage.h"
+#include "OnBoardUI.h"
+#include "OnBoardUIGeneral.h"
+#include "buttons/GroupBoxLayout.h"
+#include "paint/ControlFonts.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+
+IMPLEMENT_DYNAMIC(CCustomStatic, CStatic)
+
+BEGIN_MESSAGE_MAP(CCustomStatic, CStatic)
+    ON_WM_CREATE()
+    ON_WM_PAINT()
+    ON_WM_UPDATEUISTATE()
+    ON_WM_ERASEBKGND()
+    ON_WM_NCPAINT()
+    ON_WM_NCCALCSIZE()
+END_MESSAGE_MAP()
+
+CFont CCustomStatic::m_OBFont;
+CFont CCustomStatic::m_StdFont;
+CPen CCustomStatic::m_OutlinePen;
+
+namespace {
+
+constexpr double LabelFont = 1.53; // height factor over the stock system font
+constexpr DWORD StaticTypeBits = 7;
+
+template <class Container> bool TakeControls(CWnd& parent, std::vector<CWnd*>& controls)
+{
+    if (!parent.IsKindOf(RUNTIME_CLASS(Container)))
+    {
+        return false;
+    }
+    controls = static_cast<Container&>(parent).GetControls();
+    return true;
+}
+
+} // namespace
+
+CCustomStatic::CCustomStatic()
+    : m_background(palette::Panel)
+{
+    if (m_OutlinePen.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardOutlinePen(m_OutlinePen, palette::GroupOutline);
+    }
+    GetOnBoardFont();
+}
+
+CCustomStatic::~CCustomStatic() = default;
+
+CFont& CCustomStatic::GetOnBoardFont()
+{
+    return OnBoardControlFont(m_OBFont, LabelFont);
+}
+
+CFont& CCustomStatic::GetStdFont()
+{
+    return StandardControlFont(m_StdFont);
+}
+
+COLORREF CCustomStatic::SetBackgroundColor(int useDefault, COLORREF color)
+{
+    const COLORREF before = m_background;
+    m_background = useDefault != 0 ? palette::Panel : color;
+    return before;
+}
+
+void CCustomStatic::PreSubclassWindow()
+{
+    CStatic::PreSubclassWindow();
+    m_groupBox = (GetStyle() & StaticTypeBits) == BS_GROUPBOX;
+    SuitTransparencyToMode();
+}
+
+// A window in the making may lose what was changed before its first message.
+int CCustomStatic::OnCreate(LPCREATESTRUCT cs)
+{
+    SuitTransparencyToMode();
+    return CStatic::OnCreate(cs);
+}
+
+// The extended style suits the mode in which the object takes its window, and stays.
+void CCustomStatic::SuitTransparencyToMode()
+{
+    if (!m_groupBox)
+    {
+        return;
+    }
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        ModifyStyleEx(WS_EX_TRANSPARENT, 0);
+    }
+    else
+    {
+        ModifyStyleEx(0, WS_EX_TRANSPARENT);
+    }
+}
+
+void CCustomStatic::GetParentControls(std::vector<CWnd*>& controls)
+{
+    CWnd* const parent = GetParent();
+    if (parent != nullptr)
+    {
+        TakeControls<CCustomDialog>(*parent, controls) ||
+            TakeControls<CCustomPropPage>(*parent, controls) ||
+            TakeControls<CCustomFormView>(*parent, controls);
+    }
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+void CCustomStatic::Draw()
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || !m_groupBox)
+    {
+        Default();
+        return;
+    }
+    DrawGroupBox();
+}
+
+void CCustomStatic::DrawGroupBox()
+{
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    CString caption;
+    GetWindowText(caption);
+    if (!caption.IsEmpty())
+    {
+        caption = " " + caption + " ";
+    }
+    // Meant: measured in the context's own font, which is smaller than the caption's.
+    const int lineHeight = dc.GetTextExtent("A").cy;
+    const int width = dc.GetTextExtent(caption).cx;
+    {
+        const Selected pen(dc, m_OutlinePen);
+        const Selected brush(dc, ::GetStockObject(NULL_BRUSH));
+        dc.Rectangle(buttons::GroupFrame(client, lineHeight));
+    }
+    if (!buttons::GroupCaptionFits(client, width))
+    {
+        return;
+    }
+    // Opaque, so that the blanks at its ends cut the frame.
+    const BackgroundMode mode(dc, OPAQUE);
+    const TextColor text(dc, palette::PanelText);
+    const Selected font(dc, m_OBFont);
+    const COLORREF before = dc.SetBkColor(palette::Panel);
+    dc.TextOut(client.left + buttons::GroupCaptionInset, client.top, caption);
+    dc.SetBkColor(before);
+}
+
+void CCustomStatic::DrawOBNC()
+{
+    CDC* const dc = GetWindowDC();
+    if (dc == nullptr)
+    {
+        return;
+    }
+    if ((GetExStyle() & WS_EX_CLIENTEDGE) != 0)
+    {
+        CRect rect;
+        GetWindowRect(&rect);
+        rect.MoveToXY(0, 0);
+        for (int ring = 0; ring < metrics::Border; ++ring)
+        {
+            dc->Draw3dRect(&rect, palette::StaticBorder, palette::StaticBorder);
+            rect.DeflateRect(1, 1);
+        }
+    }
+    ReleaseDC(dc);
+    Invalidate();
+}
+
+void CCustomStatic::OnPaint()
+{
+    Draw();
+}
+
+// The platform would draw the group box in its own look as soon as focus cues change.
+void CCustomStatic::OnUpdateUIState(UINT, UINT)
+{
+    Draw();
+}
+
+BOOL CCustomStatic::OnEraseBkgnd(CDC* dc)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || !m_groupBox)
+    {
+        return BOOL(Default());
+    }
+    CRect own;
+    GetWindowRect(&own);
+    std::vector<CWnd*> controls;
+    GetParentControls(controls);
+    for (const CWnd* control : controls)
+    {
+        const HWND window = control->GetSafeHwnd();
+        if (window == m_hWnd || !::IsWindow(window) || !::IsWindowVisible(window) ||
+            (control->GetStyle() & WS_VISIBLE) == 0)
+        {
+            continue;
+        }
+        CRect place;
+        control->GetWindowRect(&place);
+        if (CRect common; common.IntersectRect(&own, &place))
+        {
+            ScreenToClient(&place);
+            dc->ExcludeClipRect(&place);
+        }
+    }
+    CRect client;
+    GetClientRect(&client);
+    CRect clip;
+    dc->GetClipBox(&clip);
+    if (CRect common; common.IntersectRect(&client, &clip))
+    {
+        dc->FillSolidRect(&client, m_background);
+    }
+    return TRUE;
+}
+
+// Border ----------------------------------------------------------------------------------------
+
+void CCustomStatic::OnNcPaint()
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        Default();
+        return;
+    }
+    DrawOBNC();
+}
+
+void CCustomStatic::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
+{
+    Default();
+    // Not while a window is made: it gets the border when its parent places it.
+    if (COnBoardUIGeneral::InOnBoardMode() && calcValidRects &&
+        (GetExStyle() & WS_EX_CLIENTEDGE) != 0)
+    {
+        const CSize edge(::GetSystemMetrics(SM_CXEDGE), ::GetSystemMetrics(SM_CYEDGE));
+        params->rgrc[0] = buttons::InsideBorder(params->rgrc[0], edge);
+    }
+}

@@ -1,0 +1,264 @@
+// What all buttons share: following a press, the steps of a click, and every way of losing either.
+
+#include "buttons/buttons_for_tests.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+using Steps = std::vector<std::string>;
+
+TEST_F(ButtonOnBoard, AClickRunsItsStepsInOrder)
+{
+    auto& push = Add<TestPush>(ButtonPlace, 0, "Push", ButtonId);
+    Host().hook = [&](ToldMessage& told) {
+        push.steps.push_back(push.m_tracking ? "told, tracking" : "told");
+        EXPECT_EQ(told.lParam, LPARAM(LOWORD(reinterpret_cast<UINT_PTR>(push.m_hWnd))));
+        EXPECT_EQ(told.wParam, WPARAM(MAKELONG(ButtonId, BN_CLICKED)));
+    };
+    MoveTo(push.Middle());
+    Press();
+    EXPECT_EQ(::GetFocus(), push.m_hWnd);
+    EXPECT_EQ(::GetCapture(), push.m_hWnd);
+    EXPECT_TRUE(push.m_mouseDown);
+    EXPECT_EQ(push.GetState(), 1U);
+    EXPECT_EQ(push.SendMessage(BM_GETSTATE), 1);
+    Release();
+    EXPECT_EQ(push.steps, Steps({"click, captured", "told, tracking", "group, free"}));
+    EXPECT_FALSE(push.m_mouseDown);
+    EXPECT_EQ(push.SendMessage(BM_GETSTATE), 0) << "the focus is no part of the state";
+
+    // Fast enough to be a double click: a press like any other.
+    push.steps.clear();
+    MessageLog log(push, {WM_LBUTTONDBLCLK});
+    Click(push.Middle());
+    Click(push.Middle());
+    EXPECT_GE(log.Count(WM_LBUTTONDBLCLK), 1);
+    EXPECT_EQ(push.steps.size(), 6U);
+
+    // Without a press the message clicks as well, and takes the focus before the parent is told.
+    auto& other = Add<TestPush>(ButtonPlace + CPoint(0, 100), 0, "Other");
+    Host().hook = [&](ToldMessage&) { EXPECT_TRUE(other.m_focused); };
+    other.SendMessage(BM_CLICK);
+    EXPECT_THAT(other.steps, ElementsAre("click"));
+    EXPECT_FALSE(push.m_focused);
+    EXPECT_EQ(Host().Count(WM_COMMAND), 4);
+}
+
+TEST_F(ButtonOnBoard, APressDraggedOffIsNoClick)
+{
+    auto& push = Add<TestPush>(ButtonPlace, 0, "Push");
+    MoveTo(push.Middle());
+    Press();
+    const CRect window = WindowRectOf(push);
+    MoveTo(CPoint(window.right - 1, window.bottom - 1));
+    EXPECT_TRUE(push.m_pressed);
+    const Pixels held = WindowPixels(push);
+    MoveTo(CPoint(window.right, window.bottom - 1)); // the first pixel beyond
+    EXPECT_FALSE(push.m_pressed);
+    EXPECT_TRUE(push.m_tracking);
+    push.Invalidate(FALSE);
+    PumpAll();
+    EXPECT_EQ(WindowPixels(push), held) << "a held button looks pressed wherever the pointer is";
+    Release();
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_FALSE(push.m_tracking);
+    EXPECT_TRUE(push.steps.empty());
+
+    // Back on it in time, it is a click.
+    MoveTo(push.Middle());
+    Press();
+    DragTo(CPoint(window.right + 30, window.bottom + 30));
+    DragTo(push.Middle());
+    Release();
+    EXPECT_EQ(push.steps.size(), 2U);
+    EXPECT_EQ(Host().Count(WM_COMMAND), 1);
+}
+
+TEST_F(ButtonOnBoard, APressThatIsCutOffLeavesNothingHeld)
+{
+    auto& other = Add<CEdit>(CRect(20, 300, 120, 320));
+    struct
+    {
+        const char* what;
+        std::function<void(TestCheckBox&)> cut;
+    } const cases[] = {
+        {"capture released", [](auto&) { ::ReleaseCapture(); }},
+        {"capture taken", [&](auto&) { other.SetCapture(); }},
+        {"hidden", [](auto& button) { button.ShowWindow(SW_HIDE); }},
+        {"disabled", [](auto& button) { button.EnableWindow(FALSE); }},
+        {"parent hidden", [&](auto&) { Host().ShowWindow(SW_HIDE); }},
+        {"parent disabled", [&](auto&) { Host().EnableWindow(FALSE); }},
+        {"focus moved", [&](auto&) { other.SetFocus(); }},
+        {"mode left", [](auto&) { COnBoardUIGeneral::SetAppMode(STD); }},
+        {"cancelled", [](auto& button) { button.SendMessage(WM_CANCELMODE); }},
+        {"checked by message", [](auto& button) { button.SetCheck(BST_UNCHECKED); }},
+        {"state set", [](auto& button) { button.SetState(FALSE); }},
+        {"destroyed", [](auto& button) { button.DestroyWindow(); }},
+    };
+    for (const auto& [what, cut] : cases)
+    {
+        SCOPED_TRACE(what);
+        Host().Forget();
+        auto& button = Add<TestCheckBox>(ButtonPlace, 0, "Cut off");
+        const HWND window = button.m_hWnd;
+        MoveTo(button.Middle());
+        Press();
+        ASSERT_TRUE(button.m_tracking);
+        cut(button);
+        MoveTo(CPoint(130, 110)); // still on it; the next message of any kind shows another mode
+        EXPECT_NE(::GetCapture(), window);
+        EXPECT_FALSE(button.m_tracking);
+        EXPECT_EQ(button.GetState(), 0U);
+        Release();
+        ::ReleaseCapture();
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        EXPECT_EQ(Host().Count(WM_COMMAND), int(Host().CodesFrom(FirstId).size()))
+            << "only the edit may have told anything";
+        EXPECT_EQ(button.m_check, BST_UNCHECKED);
+        Host().EnableWindow(TRUE);
+        Host().ShowWindow(SW_SHOW);
+        Remove(button);
+    }
+}
+
+TEST_F(ButtonOnBoard, APressWhileAnotherWindowHasTheCaptureIsIgnored)
+{
+    auto& other = Add<CEdit>(CRect(20, 300, 120, 320));
+    auto& push = Add<TestPush>(ButtonPlace, 0, "Push");
+    other.SetCapture();
+    push.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    EXPECT_FALSE(push.m_tracking);
+    EXPECT_EQ(::GetCapture(), other.m_hWnd);
+    push.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
+    EXPECT_EQ(Host().Count(WM_COMMAND), 0);
+    ::ReleaseCapture();
+}
+
+// The parent ends the button while it is told of the click: the window alone, or the object too.
+TEST_F(ButtonOnBoard, TheParentMayDestroyTheButtonInItsHandler)
+{
+    const std::function<CCustomButton&()> makers[] = {
+        [&]() -> CCustomButton& {
+            return Add<CCustomCheckBox>(ButtonPlace, BS_AUTOCHECKBOX, "Check", ButtonId);
+        },
+        [&]() -> CCustomButton& {
+            return Add<CCustomRadiobutton>(ButtonPlace, BS_AUTORADIOBUTTON | WS_GROUP, "Radio",
+                                           ButtonId);
+        },
+        [&]() -> CCustomButton& {
+            return Add<CCustomPushbutton>(ButtonPlace, 0, "Push", ButtonId);
+        },
+    };
+    const std::function<void(HWND)> clicks[] = {
+        [](HWND) { Click(CPoint(130, 110)); },
+        [](HWND window) { ::SendMessage(window, BM_CLICK, 0, 0); },
+        [](HWND) { TypeKey(VK_SPACE); },
+    };
+    for (const auto& make : makers)
+    {
+        for (const auto& click : clicks)
+        {
+            for (const bool objectToo : {false, true})
+            {
+                for (const APPMODE mode : {STD, ONBOARD})
+                {
+                    CCustomButton& button = make();
+                    const HWND window = button.m_hWnd;
+                    button.SetFocus();
+                    bool ended = false;
+                    Host().Forget();
+                    Host().hook = [&](ToldMessage&) {
+                        COnBoardUIGeneral::SetAppMode(mode);
+                        ended = true;
+                        objectToo ? Remove(button) : void(button.DestroyWindow());
+                    };
+                    click(window);
+                    Host().hook = nullptr;
+                    COnBoardUIGeneral::SetAppMode(ONBOARD);
+                    // A radio button's key changes the group and tells nobody.
+                    EXPECT_EQ(ended, Host().Count(WM_COMMAND) == 1);
+                    EXPECT_EQ(::IsWindow(window), !ended);
+                    EXPECT_EQ(::GetCapture(), nullptr);
+                    if (!ended || !objectToo)
+                    {
+                        Remove(button);
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST_F(ButtonOnBoard, WhoLosesTheFocusMayDestroyTheButton)
+{
+    Add<CEdit>(CRect(20, 300, 120, 320), 0, "", 5).SetFocus();
+    auto& push = Add<TestPush>(ButtonPlace, 0, "Push");
+    const CPoint middle = push.Middle();
+    Host().hook = [&](ToldMessage& told) {
+        if (told.id == 5 && told.code == EN_KILLFOCUS)
+        {
+            Remove(push);
+        }
+    };
+    Click(middle);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(Host().CodesFrom(FirstId + 1).size(), 0U);
+}
+
+TEST_F(ButtonOnBoard, TheSpaceKeyClicksAPushButtonOnce)
+{
+    auto& push = Add<TestPush>(ButtonPlace, 0, "Push", ButtonId);
+    push.SetFocus();
+    TypeKey(VK_SPACE);
+    EXPECT_THAT(Host().CodesFrom(ButtonId), ElementsAre(BN_CLICKED));
+    EXPECT_EQ(push.GetState(), 0U);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    TypeKey('A');
+    EXPECT_EQ(Host().CodesFrom(ButtonId).size(), 1U);
+}
+
+TEST_F(WindowTest, InTheStandardModeThePlatformsButtonWorksAndDraws)
+{
+    auto& ours = Add<TestCheckBox>(ButtonPlace, BS_AUTOCHECKBOX, "Box");
+    auto& plain = Add<CButton>(ButtonPlace + CPoint(0, 60), BS_AUTOCHECKBOX, "Box");
+    const auto compare = [&] {
+        RestPointer();
+        PumpAll();
+        EXPECT_TRUE(WindowPixels(ours) == WindowPixels(plain));
+        EXPECT_EQ(ours.GetCheck(), plain.GetCheck());
+        EXPECT_EQ(Host().CodesFrom(FirstId), Host().CodesFrom(FirstId + 1));
+        EXPECT_EQ(::GetCapture(), nullptr);
+        Host().SetFocus();
+    };
+    compare();
+    for (CButton* const button : {static_cast<CButton*>(&ours), &plain})
+    {
+        Click(ClientPoint(*button, CPoint(5, 5)));
+        Host().SetFocus();
+    }
+    EXPECT_EQ(ours.GetCheck(), BST_CHECKED);
+    compare();
+    EXPECT_EQ(ours.steps, Steps{"group, free"});
+    ours.SetCheck(BST_UNCHECKED);
+    plain.SetCheck(BST_UNCHECKED);
+    compare();
+    ours.SetState(TRUE);
+    plain.SetState(TRUE);
+    PumpAll();
+    EXPECT_TRUE(WindowPixels(ours) == WindowPixels(plain));
+    EXPECT_EQ(ours.GetState(), 0U) << "the platform's pushed state is not asked";
+    ours.SetState(FALSE);
+    plain.SetState(FALSE);
+
+    // Each kind of mode has its own check state; a new mode shows with the next paint.
+    COnBoardUIGeneral::SetAppMode(EFB);
+    ours.SetCheck(BST_CHECKED);
+    ours.SetWindowText("Other");
+    const Pixels now = WindowPixels(ours);
+    EXPECT_EQ(now.At(219, 23), RGB(50, 50, 50)) << "a new caption must not bring the old look back";
+    EXPECT_EQ(ours.GetCheck(), BST_CHECKED);
+    PumpAll();
+    EXPECT_TRUE(WindowPixels(ours) == ours.Drawn());
+    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_EQ(ours.GetCheck(), BST_UNCHECKED);
+}

@@ -1,0 +1,171 @@
+#include "buttons/ButtonLayout.h"
+#include "buttons/buttons_for_tests.h"
+
+namespace {
+
+constexpr COLORREF Outline = RGB(70, 70, 70);
+
+// A column of the face beside caption and outline, from below the outline to above it.
+struct Face
+{
+    COLORREF top;
+    COLORREF bottom;
+};
+
+Face FaceOf(const Pixels& seen)
+{
+    return {seen.At(4, 3), seen.At(4, seen.Height() - 4)};
+}
+
+int Gray(COLORREF color)
+{
+    EXPECT_EQ(GetRValue(color), GetGValue(color));
+    EXPECT_EQ(GetRValue(color), GetBValue(color));
+    return GetRValue(color);
+}
+
+} // namespace
+
+TEST_F(ButtonOnBoard, EachStateOfAPushButtonHasItsFace)
+{
+    auto& push = Add<TestPush>(CRect(20, 20, 220, 120), 0, "H");
+    const Pixels idle = push.Drawn();
+    EXPECT_EQ(idle.At(0, 50), Outline);
+    EXPECT_EQ(idle.At(2, 50), Outline);
+    EXPECT_EQ(idle.At(199, 50), Outline);
+    EXPECT_EQ(idle.At(100, 0), Outline);
+    EXPECT_EQ(idle.At(100, 99), Outline);
+    EXPECT_EQ(idle.At(100, 97), Outline);
+    EXPECT_NE(idle.At(3, 50), Outline);
+    EXPECT_NEAR(Gray(FaceOf(idle).top), 148, 2);
+    EXPECT_NEAR(Gray(FaceOf(idle).bottom), 92, 2);
+
+    MoveTo(push.Middle());
+    Press();
+    const Pixels held = WindowPixels(push);
+    EXPECT_NEAR(Gray(FaceOf(held).top), 42, 2);
+    EXPECT_NEAR(Gray(FaceOf(held).bottom), 98, 2);
+    const CRect inside(4, 4, 196, 96);
+    const CRect frame(7, 7, 193, 93);
+    EXPECT_EQ(Extent(held, RGB(106, 104, 118), inside), frame);
+    Release();
+    const Pixels focused = WindowPixels(push);
+    EXPECT_TRUE(FaceOf(focused).top == FaceOf(idle).top);
+    EXPECT_GT(focused.Count(Outline, CRect(7, 7, 193, 8)), 80);
+    EXPECT_LT(focused.Count(Outline, CRect(7, 7, 193, 8)), 110) << "dotted";
+    EXPECT_EQ(focused.Count(Outline, CRect(8, 8, 192, 92)), 0);
+
+    push.EnableWindow(FALSE);
+    PumpAll();
+    const Pixels disabled = WindowPixels(push);
+    EXPECT_EQ(FaceOf(disabled).top, RGB(90, 90, 90));
+    EXPECT_EQ(FaceOf(disabled).bottom, RGB(90, 90, 90));
+    EXPECT_EQ(disabled.Count(RGB(230, 230, 230)), 0);
+    EXPECT_GT(disabled.Count(RGB(70, 70, 70), CRect(8, 8, 192, 92)), 20);
+}
+
+TEST_F(ButtonOnBoard, TheStylePlacesACaption)
+{
+    constexpr COLORREF Text = RGB(230, 230, 230);
+    struct
+    {
+        DWORD style;
+        int across; // -1 left or top, 0 in the middle, 1 right or bottom
+        int down;
+    } const cases[] = {
+        {0, 0, 0},
+        {BS_CENTER | BS_VCENTER, 0, 0},
+        {BS_LEFT, -1, 0},
+        {BS_RIGHT, 1, 0},
+        {BS_TOP, 0, -1},
+        {BS_BOTTOM, 0, 1},
+        {BS_LEFT | BS_BOTTOM, -1, 1},
+        {BS_MULTILINE | BS_RIGHT, 1, -1}, // lines begin at the top
+    };
+    for (const auto& [style, across, down] : cases)
+    {
+        auto& push = Add<TestPush>(CRect(20, 20, 220, 120), style, "HH");
+        const int edge = (style & BS_MULTILINE) != 0 ? 10 : 8;
+        CRect room(0, 0, 200, 100);
+        room.DeflateRect(edge, edge);
+        const CRect letters = Extent(push.Drawn(), Text, CRect(3, 3, 197, 97));
+        const auto gaps = [](int place, int before, int after) {
+            EXPECT_GE(std::min(before, after), 0);
+            EXPECT_NEAR(place == 0  ? before - after
+                        : place < 0 ? before
+                                    : after,
+                        0, 8)
+                << "but for what the font leaves round its letters";
+        };
+        SCOPED_TRACE(style);
+        gaps(across, letters.left - room.left, room.right - letters.right);
+        gaps(down, letters.top - room.top, room.bottom - letters.bottom);
+        Remove(push);
+    }
+    auto& wrapped = Add<TestPush>(CRect(20, 20, 120, 120), BS_MULTILINE, "HHHH HHHH");
+    auto& cut = Add<TestPush>(CRect(20, 20, 120, 120), 0, "HHHH HHHH");
+    const CRect inside(3, 3, 97, 97);
+    EXPECT_GT(Extent(wrapped.Drawn(), Text, inside).Height(), 40);
+    EXPECT_LT(Extent(cut.Drawn(), Text, inside).Height(), 30);
+    EXPECT_LE(Extent(cut.Drawn(), Text, inside).right, 92);
+}
+
+TEST_F(WindowTest, AnySizeAndCaptionPaintsInEveryMode)
+{
+    const std::string endless(5000, 'W');
+    for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
+    {
+        const ModeScope scope(mode);
+        for (const CSize size :
+             {CSize(0, 0), CSize(1, 40), CSize(40, 1), CSize(9, 9), CSize(90, 30)})
+        {
+            for (const DWORD style : {DWORD(0), DWORD(BS_MULTILINE)})
+            {
+                const CRect place(CPoint(10, 10), size);
+                auto& push = Add<TestPush>(place, style, endless.c_str());
+                auto& box = Add<TestCheckBox>(place + CPoint(200, 0), style, endless.c_str());
+                auto& radio = Add<TestRadio>(place + CPoint(400, 0), style, endless.c_str());
+                for (CCustomButton* button :
+                     {static_cast<CCustomButton*>(&push), static_cast<CCustomButton*>(&box),
+                      static_cast<CCustomButton*>(&radio)})
+                {
+                    button->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, 0);
+                    button->SendMessage(WM_LBUTTONUP, 0, 0);
+                    PumpAll();
+                    EXPECT_EQ(::GetCapture(), nullptr);
+                }
+                Remove(push);
+                Remove(box);
+                Remove(radio);
+            }
+        }
+    }
+    // Never created: nothing to draw on, nobody to tell.
+    const ModeScope scope(ONBOARD);
+    TestRadio loose;
+    loose.SetCheck(BST_CHECKED);
+    loose.SetState(TRUE);
+    loose.CCustomRadiobutton::DrawOB();
+    loose.EndTracking();
+    EXPECT_EQ(loose.GetCheck(), BST_CHECKED);
+}
+
+TEST_F(ButtonOnBoard, PaintingKeepsNoGraphicsObjects)
+{
+    auto& push = Add<TestPush>(CRect(20, 20, 220, 60), 0, "Push");
+    auto& box = Add<TestCheckBox>(CRect(20, 70, 220, 95), 0, "Box");
+    auto& radio = Add<TestRadio>(CRect(20, 100, 220, 125), 0, "Radio");
+    const auto use = [&] {
+        for (const CPoint point : {push.Middle(), box.Middle(), radio.Middle()})
+        {
+            Click(point);
+        }
+    };
+    use();
+    const int before = GraphicsObjects();
+    for (int turn = 0; turn < 5; ++turn)
+    {
+        use();
+    }
+    EXPECT_EQ(GraphicsObjects(), before);
+}

@@ -1,0 +1,238 @@
+// Labels, swatches and group boxes.
+
+#include "BoldStatic.h"
+#include "ColorStatic.h"
+#include "ColoredGroupBox.h"
+#include "CustomDialog.h"
+#include "CustomStatic.h"
+#include "buttons/buttons_for_tests.h"
+#include "support/DialogTemplate.h"
+
+namespace {
+
+constexpr COLORREF Panel = RGB(50, 50, 50);
+constexpr COLORREF Frame = RGB(60, 60, 60);
+constexpr COLORREF Text = RGB(230, 230, 230);
+
+class TestStatic : public CCustomStatic
+{
+public:
+    using CCustomStatic::m_groupBox;
+    DWORD type = 0; // of the button, for a group box
+    DWORD exStyle = 0;
+    BOOL Create(DWORD style, const RECT& place, CWnd* parent, UINT id)
+    {
+        return CreateEx(exStyle, type != 0 ? "BUTTON" : "STATIC", text, style | type, place, parent,
+                        id);
+    }
+    CString text;
+};
+
+std::unique_ptr<TestStatic> GroupBox(const char* text)
+{
+    auto box = std::make_unique<TestStatic>();
+    box->type = BS_GROUPBOX;
+    box->text = text;
+    return box;
+}
+
+} // namespace
+
+TEST_F(ButtonOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
+{
+    auto& box = Add(GroupBox("HH"), CRect(20, 20, 220, 120));
+    EXPECT_TRUE(box.m_groupBox);
+    const Pixels seen = WindowPixels(box);
+    constexpr int Top = 12; // three quarters of the 16 pixels of the system font
+    EXPECT_EQ(seen.At(5, Top - 1), Panel);
+    for (int depth = 0; depth < 3; ++depth)
+    {
+        EXPECT_EQ(seen.At(5, Top + depth), Frame);
+        EXPECT_EQ(seen.At(depth, 60), Frame);
+        EXPECT_EQ(seen.At(199 - depth, 60), Frame);
+        EXPECT_EQ(seen.At(100, 99 - depth), Frame);
+    }
+    EXPECT_EQ(seen.At(3, 60), Panel);
+    EXPECT_EQ(seen.At(100, Top + 3), Panel);
+    EXPECT_EQ(seen.At(9, Top + 1), Frame);
+    EXPECT_EQ(seen.At(11, Top + 1), Panel) << "the blank before the caption cuts the frame";
+    const CRect letters = Extent(seen, Text, CRect(0, 0, 200, 100));
+    EXPECT_GT(letters.left, 12);
+    EXPECT_LT(letters.bottom, 30);
+    EXPECT_GT(letters.Height(), 12);
+
+    EXPECT_EQ(box.SetBackgroundColor(0, RGB(0, 0, 90)), Panel);
+    box.RedrawWindow();
+    EXPECT_EQ(WindowPixels(box).At(100, 60), RGB(0, 0, 90));
+    EXPECT_EQ(box.SetBackgroundColor(1, RGB(1, 2, 3)), RGB(0, 0, 90));
+    box.SetWindowText("");
+    PumpAll();
+    EXPECT_EQ(WindowPixels(box).Count(Text), 0);
+    EXPECT_EQ(WindowPixels(box).Count(Frame, CRect(1, Top, 199, Top + 3)), 3 * 198);
+}
+
+TEST_F(ButtonOnBoard, ACaptionTooWideForItsBoxIsLeftOut)
+{
+    CClientDC dc(nullptr);
+    const CString padded = " A caption ";
+    const int width = dc.GetTextExtent(padded).cx;
+    for (const int spare : {20, 19})
+    {
+        auto& box = Add(GroupBox("A caption"), CRect(CPoint(0, 0), CSize(width + spare, 60)));
+        EXPECT_EQ(WindowPixels(box).Count(Text) > 0, spare >= 20) << spare;
+        Remove(box);
+    }
+}
+
+TEST_F(ButtonOnBoard, AClientEdgeBecomesABorderOfThreePixels)
+{
+    for (const DWORD exStyle : {DWORD(WS_EX_CLIENTEDGE), DWORD(0)})
+    {
+        auto made = std::make_unique<TestStatic>();
+        made->exStyle = exStyle;
+        auto& label = Add(std::move(made), CRect(20, 20, 120, 60));
+        label.SetWindowPos(nullptr, 20, 20, 100, 40, SWP_FRAMECHANGED | SWP_NOZORDER);
+        PumpAll();
+        const int border = exStyle != 0 ? 3 : 0;
+        EXPECT_EQ(ClientRectOf(label).Size(), CSize(100 - 2 * border, 40 - 2 * border));
+        const Pixels seen = WindowPixels(label);
+        EXPECT_EQ(seen.Count(RGB(70, 70, 70)), exStyle != 0 ? 100 * 40 - 94 * 34 : 0);
+        Remove(label);
+    }
+    COnBoardUIGeneral::SetAppMode(STD);
+    auto made = std::make_unique<TestStatic>();
+    made->exStyle = WS_EX_CLIENTEDGE;
+    EXPECT_EQ(ClientRectOf(Add(std::move(made), CRect(20, 20, 120, 60))).Width(), 96);
+}
+
+namespace {
+
+class GroupDialog : public CCustomDialog
+{
+public:
+    GroupDialog()
+        : CCustomDialog(0U, nullptr)
+    {
+        DialogTemplate form(CRect(0, 0, 200, 100), WS_POPUP | WS_VISIBLE);
+        CreateIndirect(form, nullptr);
+        m_box.type = BS_GROUPBOX;
+        m_box.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 110), this, 1);
+        m_inside.Set(RGB(255, 0, 0));
+        m_inside.Create("", WS_CHILD | WS_VISIBLE, CRect(30, 40, 60, 70), this, 2);
+        m_across.Set(RGB(0, 255, 0));
+        m_across.Create("", WS_CHILD | WS_VISIBLE, CRect(190, 40, 230, 70), this, 3);
+        m_gone.Create("", WS_CHILD, CRect(100, 40, 130, 70), this, 4);
+        GetControls() = {&m_box, &m_inside, &m_across, &m_gone, &m_never};
+    }
+    ~GroupDialog() override { DestroyWindow(); }
+
+    TestStatic m_box;
+    CColorStatic m_inside;
+    CColorStatic m_across;
+    CColorStatic m_gone;
+    CColorStatic m_never; // has no window
+};
+
+} // namespace
+
+TEST_F(ButtonOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
+{
+    GroupDialog dialog;
+    PumpAll();
+    // A canvas that the box erases: what it spares keeps the canvas's own colour.
+    const auto erased = [&] {
+        Canvas canvas(200, 100);
+        dialog.m_box.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.DC().m_hDC));
+        return canvas.Picture();
+    };
+    Pixels seen = erased();
+    EXPECT_EQ(seen.Count(Canvas::Untouched, CRect(20, 30, 50, 60)), 900);
+    EXPECT_EQ(seen.Count(Canvas::Untouched, CRect(180, 30, 200, 60)), 600) << "reaches out of it";
+    EXPECT_EQ(seen.Count(Panel), 200 * 100 - 1500) << "what is hidden is painted over";
+
+    dialog.m_gone.ShowWindow(SW_SHOW);
+    dialog.m_inside.ShowWindow(SW_HIDE);
+    seen = erased();
+    EXPECT_EQ(seen.Count(Canvas::Untouched, CRect(90, 30, 120, 60)), 900);
+    EXPECT_EQ(seen.Count(Panel, CRect(20, 30, 50, 60)), 900);
+    dialog.m_inside.ShowWindow(SW_SHOW);
+
+    // On the screen, the box being painted last.
+    PumpAll();
+    dialog.m_box.RedrawWindow();
+    const Pixels screen = WindowPixels(dialog.m_box);
+    EXPECT_EQ(screen.Count(RGB(255, 0, 0)), 900);
+    EXPECT_GE(screen.Count(RGB(0, 255, 0)), 600 - 3 * 30) << "but for where the frame crosses it";
+
+    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_EQ(erased().Count(Panel), 0);
+}
+
+TEST_F(WindowTest, TheModeOfItsMakingDecidesWhetherAGroupBoxIsTransparent)
+{
+    auto& standard = Add(GroupBox("Box"), CRect(20, 20, 220, 120));
+    EXPECT_TRUE(standard.GetExStyle() & WS_EX_TRANSPARENT);
+    const ModeScope mode(EFB);
+    EXPECT_TRUE(standard.GetExStyle() & WS_EX_TRANSPARENT);
+    auto made = GroupBox("Box");
+    made->exStyle = WS_EX_TRANSPARENT;
+    EXPECT_FALSE(Add(std::move(made), CRect(20, 220, 220, 320)).GetExStyle() & WS_EX_TRANSPARENT);
+    standard.SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
+    standard.Invalidate();
+    PumpAll();
+    EXPECT_EQ(WindowPixels(standard).At(1, 60), Frame);
+}
+
+TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
+{
+    CFont font;
+    font.CreateFont(-16, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial");
+    auto& plain = Add<CCustomStatic>(CRect(20, 20, 220, 50), 0, "HHHH");
+    auto& bold = Add<CBoldStatic>(CRect(20, 60, 220, 90), 0, "HHHH");
+    bold.ModifyStyleEx(0, WS_EX_TRANSPARENT); // the host clips what is not
+    plain.SetFont(&font);
+    bold.SetFont(&font);
+    bold.SetColor(RGB(200, 0, 0));
+    PumpAll();
+    const CRect all(0, 0, 200, 30);
+    const COLORREF black = ::GetSysColor(COLOR_WINDOWTEXT);
+    const int thin = WindowPixels(plain).Count(black, all);
+    const CRect letters = Extent(WindowPixels(bold), RGB(200, 0, 0), all);
+    EXPECT_GT(WindowPixels(bold).Count(RGB(200, 0, 0)), thin * 5 / 4);
+    EXPECT_LE(letters.left, 4);
+    EXPECT_LE(letters.top, 8);
+    bold.SetWindowText("H");
+    PumpAll();
+    EXPECT_LT(Extent(WindowPixels(bold), RGB(200, 0, 0), all).right, letters.right);
+    EXPECT_EQ(WindowPixels(bold).Count(black), 0) << "the platform's own text must not stay";
+    const ModeScope mode(ONBOARD);
+    bold.Invalidate();
+    PumpAll();
+    EXPECT_EQ(WindowPixels(bold).Count(RGB(200, 0, 0)), 0);
+}
+
+TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
+{
+    auto made = std::make_unique<CColorStatic>();
+    made->Set(RGB(9, 99, 199)); // before there is a window
+    auto& swatch = Add(std::move(made), CRect(20, 20, 60, 60));
+    EXPECT_EQ(WindowPixels(swatch).Count(RGB(9, 99, 199)), 1600);
+    swatch.Set(RGB(199, 9, 99));
+    PumpAll();
+    EXPECT_EQ(WindowPixels(swatch).Count(RGB(199, 9, 99)), 1600);
+
+    auto& outline = Add<CColoredGroupBox>(CRect(100, 20, 200, 80));
+    outline.SetColor(RGB(0, 128, 0));
+    outline.RedrawWindow();
+    // One pixel: left and top, the other two sides fall outside.
+    EXPECT_EQ(WindowPixels(outline).Count(RGB(0, 128, 0)), 100 + 60 - 1);
+    const ModeScope mode(ONBOARD);
+    outline.RedrawWindow();
+    const Pixels wide = WindowPixels(outline);
+    // Three pixels about each line: two on the left and at the top, one on the other sides.
+    for (const CPoint on : {CPoint(1, 30), CPoint(50, 1), CPoint(99, 30), CPoint(50, 59)})
+    {
+        EXPECT_EQ(wide.At(on), RGB(0, 128, 0)) << on.x << " " << on.y;
+    }
+    EXPECT_EQ(wide.Count(RGB(0, 128, 0), CRect(2, 2, 99, 59)), 0);
+}

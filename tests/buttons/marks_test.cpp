@@ -1,0 +1,421 @@
+// Check boxes and radio buttons: their marks to the pixel, captions, keys and groups.
+
+#include "OnBoardUI.h"
+#include "buttons/ButtonLayout.h"
+#include "buttons/buttons_for_tests.h"
+
+#include <gmock/gmock.h>
+
+#include <map>
+
+using testing::Each;
+using testing::ElementsAre;
+
+namespace {
+
+constexpr COLORREF Ground = RGB(50, 50, 50);
+
+// Of the captions' font.
+TEXTMETRIC CaptionMetrics()
+{
+    CClientDC dc(nullptr);
+    CFont font;
+    CreateOnBoardFont(font, 1.7, 0, FW_NORMAL);
+    const HGDIOBJ before = ::SelectObject(dc, font);
+    TEXTMETRIC metrics = {};
+    dc.GetTextMetrics(&metrics);
+    ::SelectObject(dc, before);
+    return metrics;
+}
+
+} // namespace
+
+TEST_F(ButtonOnBoard, TheCheckSquareHasThreeSunkenRingsAndACross)
+{
+    const TEXTMETRIC metrics = CaptionMetrics();
+    const int line = int(metrics.tmHeight + metrics.tmExternalLeading);
+    struct
+    {
+        DWORD style;
+        COLORREF face, rim, light, sign;
+    } const looks[] = {
+        {0, RGB(180, 180, 180), RGB(93, 93, 93), RGB(220, 220, 220), RGB(26, 26, 26)},
+        {WS_DISABLED, RGB(100, 100, 100), RGB(90, 90, 90), RGB(130, 130, 130), RGB(70, 70, 70)},
+    };
+    for (const auto& look : looks)
+    {
+        // One pixel of margin above, then six less than the line: the whole square is to be seen.
+        const int side = line - 6;
+        auto& box = Add<TestCheckBox>(CRect(0, 0, 200, side + 1), look.style);
+        const CRect mark(4, 1, 4 + side, 1 + side);
+        for (const int check : {BST_UNCHECKED, BST_CHECKED, BST_INDETERMINATE})
+        {
+            box.SetCheck(check);
+            const Pixels seen = box.Drawn();
+            EXPECT_EQ(seen.At(0, 0), Ground);
+            EXPECT_EQ(seen.At(mark.left - 1, mark.top + 5), Ground);
+            EXPECT_EQ(seen.At(mark.right, mark.top + 5), Ground);
+            for (int ring = 0; ring < 3; ++ring)
+            {
+                EXPECT_EQ(seen.At(mark.left + ring, mark.bottom - 2 - ring), look.rim);
+                EXPECT_EQ(seen.At(mark.right - 2 - ring, mark.top + ring), look.rim);
+                EXPECT_EQ(seen.At(mark.right - 1 - ring, mark.top + ring), look.light);
+                EXPECT_EQ(seen.At(mark.left + ring, mark.bottom - 1 - ring), look.light);
+            }
+            CRect inner(mark);
+            inner.DeflateRect(3, 3);
+            EXPECT_EQ(seen.At(inner.CenterPoint().x, inner.top), look.face);
+            if (check == BST_UNCHECKED)
+            {
+                EXPECT_EQ(seen.Count(look.face, inner), inner.Width() * inner.Height());
+                continue;
+            }
+            for (int step = 1; step < inner.Width() - 2; ++step)
+            {
+                EXPECT_EQ(seen.At(inner.left + step, inner.top + step), look.sign) << step;
+                EXPECT_EQ(seen.At(inner.left + step, inner.bottom - 1 - step), look.sign) << step;
+            }
+            EXPECT_EQ(seen.At(inner.left, inner.CenterPoint().y), look.face);
+            EXPECT_EQ(seen.At(inner.right - 1, inner.CenterPoint().y), look.face);
+        }
+        Remove(box);
+    }
+}
+
+TEST(ButtonLayout, TheCheckSquareIsAsHighAsItsItem)
+{
+    struct
+    {
+        CRect item;
+        int line;
+        CRect mark;
+    } const cases[] = {
+        {CRect(1, 1, 200, 22), 27, CRect(4, 1, 25, 22)},  // (21 - 27) / 2 + 3 = 0
+        {CRect(1, 1, 200, 28), 27, CRect(4, 4, 31, 31)},  // as high as the text: 3 lower
+        {CRect(1, 1, 200, 52), 27, CRect(4, 16, 55, 67)}, // goes on below the edge
+        {CRect(1, 1, 200, 1), 27, CRect(4, -9, 4, -9)},
+    };
+    for (const auto& [item, line, mark] : cases)
+    {
+        EXPECT_EQ(buttons::CheckSquare(item, line), mark) << item.Height();
+    }
+    EXPECT_EQ(buttons::RadioSquare(CRect(1, 1, 200, 24)), CRect(4, 1, 26, 23));
+    EXPECT_EQ(buttons::RadioSquare(CRect(1, 1, 200, 62)), CRect(4, 20, 26, 42));
+    EXPECT_EQ(buttons::RadioSquare(CRect(1, 1, 200, 10)), CRect(4, -5, 26, 17));
+}
+
+TEST_F(ButtonOnBoard, TheRadioCircleIsThisPicture)
+{
+    static constexpr const char* Circle[] = {
+        "........rrrrrr........", "......rrrrrrrrrr......", "....rrrrrrrrrrrrrr....",
+        "...rrrrrrffffrrrrrr...", "..rrrrrffffffffrrrrL..", "..rrrrffffffffffrrLL..",
+        ".rrrrffffDDDDffffLLLL.", ".rrrfffDDDDDDDDfffLLL.", "rrrrfffDDDDDDDDfffLLLL",
+        "rrrfffDDDDDDDDDDfffLLL", "rrrfffDDDDDDDDDDfffLLL", "rrrfffDDDDDDDDDDfffLLL",
+        "rrrfffDDDDDDDDDDfffLLL", "rrrrfffDDDDDDDDfffLLLL", ".rrrfffDDDDDDDDfffLLL.",
+        ".rrrrffffDDDDffffLLLL.", "..rrrrffffffffffLLLL..", "..rrrLLffffffffLLLLL..",
+        "...rLLLLLffffLLLLLL...", "....LLLLLLLLLLLLLL....", "......LLLLLLLLLL......",
+        "........LLLLLL........",
+    };
+    using Colors = std::map<char, COLORREF>;
+    const Colors looks[] = {
+        {{'.', Ground},
+         {'r', RGB(93, 93, 93)},
+         {'L', RGB(220, 220, 220)},
+         {'f', RGB(180, 180, 180)},
+         {'D', RGB(26, 26, 26)}},
+        {{'.', Ground},
+         {'r', RGB(90, 90, 90)},
+         {'L', RGB(130, 130, 130)},
+         {'f', RGB(100, 100, 100)},
+         {'D', RGB(70, 70, 70)}},
+    };
+    for (const bool enabled : {true, false})
+    {
+        auto& radio = Add<TestRadio>(CRect(0, 0, 200, 41), enabled ? 0 : WS_DISABLED);
+        for (const int check : {BST_UNCHECKED, BST_CHECKED})
+        {
+            radio.SetCheck(check);
+            const Pixels seen = radio.Drawn();
+            const Colors& colors = looks[enabled ? 0 : 1];
+            int wrong = 0;
+            for (int y = 0; y < 22; ++y)
+            {
+                for (int x = 0; x < 22; ++x)
+                {
+                    const char part = Circle[y][x];
+                    const char shown = part == 'D' && check == BST_UNCHECKED ? 'f' : part;
+                    wrong += seen.At(4 + x, 10 + y) != colors.at(shown);
+                }
+            }
+            EXPECT_EQ(wrong, 0);
+            EXPECT_EQ(seen.Count(Ground),
+                      200 * 41 - seen.Count(colors.at('r')) - seen.Count(colors.at('L')) -
+                          seen.Count(colors.at('f')) - seen.Count(colors.at('D')));
+        }
+        Remove(radio);
+    }
+}
+
+TEST_F(ButtonOnBoard, TheCaptionStandsBesideTheMarkAndInTheMiddle)
+{
+    const int line = int(CaptionMetrics().tmHeight);
+    struct
+    {
+        DWORD style;
+        const char* text;
+        int lines;
+        COLORREF color;
+    } const cases[] = {
+        {0, "HHH", 1, RGB(230, 230, 230)},
+        {WS_DISABLED, "HHH", 1, RGB(90, 90, 90)},
+        {BS_MULTILINE, "HHHHH HHHHH", 2, RGB(230, 230, 230)},
+        {0, "HHHHH HHHHH HHHHH", 1, RGB(230, 230, 230)}, // cut, not wrapped
+    };
+    for (const auto& [style, text, lines, color] : cases)
+    {
+        auto& radio = Add<TestRadio>(CRect(0, 0, 160, 101), style, text);
+        const CRect beside(34, 0, 160, 101); // the mark ends at 26, 8 pixels of gap
+        const Pixels seen = radio.Drawn();
+        EXPECT_EQ(seen.Count(color, CRect(26, 0, 34, 101)), 0);
+        const CRect letters = Extent(seen, color, beside);
+        EXPECT_LE(letters.left, 38);
+        const int block = lines * line;
+        const int top = 1 + (100 - block) / 2;
+        EXPECT_GE(letters.top, top) << text;
+        EXPECT_LE(letters.bottom, top + block) << text;
+        EXPECT_GT(letters.Height(), block - line / 2);
+        Remove(radio);
+    }
+    // The focus frame goes round the text and moves nothing.
+    auto& radio = Add<TestRadio>(CRect(0, 0, 160, 101), BS_MULTILINE, "HHH");
+    const Pixels before = radio.Drawn();
+    radio.SetFocus();
+    const Pixels seen = radio.Drawn();
+    const CRect frame = Extent(seen, RGB(70, 70, 70), CRect(30, 0, 160, 101));
+    EXPECT_EQ(frame.left, 33);
+    EXPECT_EQ(frame.Height(), line + 2 - 2);
+    EXPECT_NEAR(frame.top, 1 + (100 - line) / 2 - 1, 1);
+    const CRect letters = Extent(before, RGB(230, 230, 230), CRect(30, 0, 160, 101));
+    EXPECT_EQ(Extent(seen, RGB(230, 230, 230), CRect(30, 0, 160, 101)), letters);
+    EXPECT_GT(frame.right, letters.right);
+}
+
+TEST_F(ButtonOnBoard, ACheckBoxTellsOfAClickTwiceAndOfAKeyOnce)
+{
+    auto& box = Add<TestCheckBox>(ButtonPlace, BS_AUTO3STATE, "Box", ButtonId);
+    std::vector<int> checks;
+    Host().hook = [&](ToldMessage&) { checks.push_back(box.GetCheck()); };
+    Click(box.Middle());
+    EXPECT_THAT(checks, ElementsAre(BST_CHECKED, BST_CHECKED));
+    EXPECT_TRUE(WindowPixels(box) == box.Drawn()) << "shown at once";
+    TypeKey(VK_SPACE);
+    EXPECT_THAT(checks, ElementsAre(BST_CHECKED, BST_CHECKED, BST_UNCHECKED));
+    EXPECT_TRUE(WindowPixels(box) == box.Drawn());
+    TypeKey(VK_RETURN);
+    TypeKey('A');
+    EXPECT_EQ(checks.size(), 3U);
+    for (const auto& [before, after] : {std::pair(BST_INDETERMINATE, BST_CHECKED), {7, 7}})
+    {
+        box.SendMessage(BM_SETCHECK, WPARAM(before));
+        EXPECT_EQ(box.SendMessage(BM_GETCHECK), before);
+        box.SendMessage(BM_CLICK);
+        EXPECT_EQ(box.GetCheck(), after);
+        PumpAll();
+        EXPECT_TRUE(WindowPixels(box) == box.Drawn());
+    }
+}
+
+// Groups ----------------------------------------------------------------------------------------
+
+namespace {
+
+class RadioGroup : public ButtonOnBoard
+{
+protected:
+    TestRadio& AddRadio(DWORD style = 0)
+    {
+        const int count = int(m_radios.size());
+        m_radios.push_back(&Add<TestRadio>(CRect(CPoint(30, 40 + 40 * count), CSize(150, 25)),
+                                           style | BS_AUTORADIOBUTTON | WS_TABSTOP, "R"));
+        return *m_radios.back();
+    }
+    std::vector<int> Checks() const
+    {
+        std::vector<int> checks;
+        for (const TestRadio* radio : m_radios)
+        {
+            checks.push_back(radio->GetCheck());
+        }
+        return checks;
+    }
+    std::vector<TestRadio*> m_radios;
+};
+
+} // namespace
+
+TEST_F(RadioGroup, AClickClearsTheOthersOfTheGroupOnly)
+{
+    AddRadio(WS_GROUP).SetCheck(1);
+    auto& second = AddRadio();
+    auto& third = AddRadio();
+    AddRadio(WS_GROUP).SetCheck(1); // the next group
+    Click(second.Middle());
+    EXPECT_THAT(Checks(), ElementsAre(0, 1, 0, 1));
+    EXPECT_EQ(Host().Count(WM_COMMAND), 1);
+    for (TestRadio* const radio : m_radios)
+    {
+        EXPECT_TRUE(WindowPixels(*radio) == radio->Drawn());
+    }
+    // Again: the whole group is set again and the parent told again.
+    MessageLog log(*m_radios[0], {BM_SETCHECK});
+    Click(second.Middle());
+    EXPECT_THAT(log.WParams(BM_SETCHECK), ElementsAre(0U));
+    EXPECT_EQ(Host().Count(WM_COMMAND), 2);
+
+    third.SetFocus();
+    TypeKey(VK_SPACE);
+    EXPECT_THAT(Checks(), ElementsAre(0, 0, 1, 1));
+    EXPECT_EQ(Host().Count(WM_COMMAND), 2) << "a key tells nobody";
+    TypeKey(VK_SPACE);
+    TypeKey(VK_UP);
+    EXPECT_THAT(Checks(), ElementsAre(0, 0, 1, 1));
+}
+
+TEST_F(RadioGroup, WithoutAHeadTheOthersKeepTheirChecks)
+{
+    AddRadio().SetCheck(1);
+    auto& second = AddRadio();
+    Click(second.Middle());
+    EXPECT_THAT(Checks(), ElementsAre(1, 1));
+}
+
+// The dialog's order skips hidden and disabled windows, so it may never lead back to the head.
+TEST_F(RadioGroup, AHeadThatIsSkippedDoesNotHangTheWalk)
+{
+    auto& head = AddRadio(WS_GROUP);
+    auto& second = AddRadio();
+    AddRadio().SetCheck(1);
+    head.EnableWindow(FALSE);
+    head.SendMessage(BM_CLICK);
+    EXPECT_EQ(head.GetCheck(), 1);
+    second.ShowWindow(SW_HIDE);
+    second.SendMessage(BM_CLICK);
+    EXPECT_EQ(second.GetCheck(), 1);
+}
+
+TEST_F(RadioGroup, AMemberMayBeDestroyedWhileItIsTold)
+{
+    AddRadio(WS_GROUP);
+    auto& second = AddRadio();
+    auto& third = AddRadio();
+    struct Killer : TestRadio
+    {
+        std::function<void()> kill;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == BM_SETCHECK && kill)
+            {
+                std::exchange(kill, nullptr)();
+            }
+            return TestRadio::WindowProc(message, wParam, lParam);
+        }
+    };
+    auto& killer = Add<Killer>(CRect(300, 40, 400, 70), BS_AUTORADIOBUTTON, "K");
+    killer.kill = [&] {
+        Remove(second);
+        Remove(third);
+    };
+    Click(second.Middle());
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(RadioGroup, GroupBoxesThatItLiesInHearOfEachClickInEveryMode)
+{
+    auto& radio = AddRadio(WS_GROUP);
+    auto& around = Add<CButton>(CRect(20, 20, 300, 200), BS_GROUPBOX, "Around");
+    auto& apart = Add<CButton>(CRect(400, 20, 500, 200), BS_GROUPBOX, "Apart");
+    MessageLog toldAround(around, {WM_COMMAND});
+    MessageLog toldApart(apart, {WM_COMMAND});
+    const WPARAM told = MAKEWPARAM(radio.GetDlgCtrlID(), BN_CLICKED);
+    for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
+    {
+        COnBoardUIGeneral::SetAppMode(mode);
+        toldAround.Clear();
+        Click(radio.Middle());
+        EXPECT_THAT(toldAround.WParams(WM_COMMAND), ElementsAre(told)) << APPMODE_NAMES[mode];
+    }
+    EXPECT_EQ(toldApart.Count(WM_COMMAND), 0);
+}
+
+TEST_F(RadioGroup, AGroupBoxMayDestroyTheRadioButtonThatTellsIt)
+{
+    struct KillerBox : CButton
+    {
+        std::function<void()> kill;
+        int told = 0;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_COMMAND)
+            {
+                ++told;
+                kill();
+            }
+            return CButton::WindowProc(message, wParam, lParam);
+        }
+    };
+    auto& radio = AddRadio(WS_GROUP);
+    auto& first = Add<KillerBox>(CRect(20, 20, 300, 200), BS_GROUPBOX, "First");
+    auto& second = Add<KillerBox>(CRect(25, 25, 290, 190), BS_GROUPBOX, "Second");
+    first.kill = second.kill = [&] { Remove(radio); };
+    Click(radio.Middle());
+    EXPECT_EQ(first.told + second.told, 1);
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_F(ButtonOnBoard, AutomaticRadioButtonsAreToldByTheirBits)
+{
+    EXPECT_FALSE(CCustomRadiobutton::IsAutoRadio(nullptr));
+    for (const auto& [type, is] : std::vector<std::pair<DWORD, bool>>{{BS_PUSHBUTTON, false},
+                                                                      {BS_RADIOBUTTON, false},
+                                                                      {BS_GROUPBOX, false},
+                                                                      {BS_AUTORADIOBUTTON, true},
+                                                                      {BS_OWNERDRAW, true},
+                                                                      {0xD, true},
+                                                                      {0xF, true}})
+    {
+        auto& button = Add<CButton>(ButtonPlace, BS_PUSHBUTTON);
+        button.ModifyStyle(0, type);
+        EXPECT_EQ(CCustomRadiobutton::IsAutoRadio(&button), is) << type;
+        EXPECT_FALSE(CCustomRadiobutton::IsAutoRadioGroupCtrl(&button));
+        button.ModifyStyle(0, WS_GROUP);
+        EXPECT_EQ(CCustomRadiobutton::IsAutoRadioGroupCtrl(&button), is);
+    }
+}
+
+TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesDrawsAtOnce)
+{
+    struct CountingRadio : TestRadio
+    {
+        int defaults = 0;
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            defaults += message == WM_UPDATEUISTATE;
+            return TestRadio::DefWindowProc(message, wParam, lParam);
+        }
+    };
+    auto& radio = Add<CountingRadio>(ButtonPlace, BS_AUTORADIOBUTTON, "R");
+    auto& box = Add<TestCheckBox>(ButtonPlace + CPoint(0, 40), 0, "B");
+    auto& push = Add<TestPush>(ButtonPlace + CPoint(0, 80), 0, "P");
+    const WPARAM cues = MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS);
+    for (CWnd* const button :
+         {static_cast<CWnd*>(&radio), static_cast<CWnd*>(&box), static_cast<CWnd*>(&push)})
+    {
+        const Pixels before = WindowPixels(*button);
+        CClientDC(button).FillSolidRect(0, 0, 50, 20, RGB(255, 0, 0));
+        button->SendMessage(WM_UPDATEUISTATE, cues);
+        EXPECT_TRUE(WindowPixels(*button) == before);
+    }
+    COnBoardUIGeneral::SetAppMode(STD);
+    radio.SendMessage(WM_UPDATEUISTATE, cues);
+    EXPECT_EQ(radio.defaults, 0) << "goes no further in any mode";
+}
