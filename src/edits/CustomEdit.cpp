@@ -1,14 +1,75 @@
+// The edit: fonts, frame, painting, and following the display mode.
+
 #include "CustomEdit.h"
 
+#include "OnBoardUI.h"
+#include "OnBoardUIGeneral.h"
+#include "edits/EditBorder.h"
+#include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
+#include "scroll/BarPaint.h"
+#include "scroll/NcBands.h"
 
 IMPLEMENT_DYNAMIC(CCustomEdit, CEdit)
 
 BEGIN_MESSAGE_MAP(CCustomEdit, CEdit)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_NCPAINT()
+    ON_WM_NCCALCSIZE()
+    ON_WM_WINDOWPOSCHANGING()
+    ON_WM_NCHITTEST()
+    ON_WM_NCLBUTTONDOWN()
+    ON_WM_NCLBUTTONDBLCLK()
+    ON_WM_NCLBUTTONUP()
+    ON_WM_NCMOUSEMOVE()
+    ON_MESSAGE(WM_NCMOUSELEAVE, &CCustomEdit::OnNCMouseLeave)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_CONTEXTMENU()
+    ON_WM_CHAR()
+    ON_WM_KEYDOWN()
+    ON_WM_ENABLE()
+    ON_WM_SHOWWINDOW()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
+    ON_WM_TIMER()
+    ON_MESSAGE(WM_SETTEXT, &CCustomEdit::OnSetText)
+    ON_WM_STYLECHANGED()
+    ON_CONTROL_REFLECT_EX(EN_UPDATE, &CCustomEdit::OnENUpdate)
+    ON_CONTROL_REFLECT_EX(EN_VSCROLL, &CCustomEdit::OnENVScroll)
 END_MESSAGE_MAP()
 
+namespace {
+
+// The platform's message that shows or hides a scroll bar. Edits that do not know it ignore it.
+constexpr UINT ShowBarMessage = WM_USER + 96;
+
+} // namespace
+
+UINT CCustomEdit::m_timerid = 103;
+UINT CCustomEdit::m_timerperiod = 102;
+IEFB* CCustomEdit::m_efb = nullptr;
+CPen CCustomEdit::m_OutlinePen;
 CFont CCustomEdit::m_OBFont;
 CFont CCustomEdit::m_StdFont;
+
+CCustomEdit::CCustomEdit()
+    : m_edgeHeight(::GetSystemMetrics(SM_CYEDGE))
+    , m_edgeWidth(::GetSystemMetrics(SM_CXEDGE))
+    , m_bar(SB_VERT)
+    , m_painter(std::make_unique<scroll::BarPainter>())
+{
+    if (m_OutlinePen.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardOutlinePen(m_OutlinePen, palette::Outline);
+    }
+    GetOnBoardFont();
+    GetStdFont();
+    m_bar.ShowScrollBar(FALSE); // until a text asks for it
+}
+
+CCustomEdit::~CCustomEdit() = default;
 
 CFont& CCustomEdit::GetOnBoardFont()
 {
@@ -18,4 +79,341 @@ CFont& CCustomEdit::GetOnBoardFont()
 CFont& CCustomEdit::GetStdFont()
 {
     return StandardControlFont(m_StdFont);
+}
+
+// Following the display mode --------------------------------------------------------------------
+
+void CCustomEdit::PreSubclassWindow()
+{
+    CEdit::PreSubclassWindow();
+    if (!m_initialised)
+    {
+        Init();
+    }
+    // An edit that exists already gets no message by which it would notice the mode.
+    if (COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+    }
+}
+
+void CCustomEdit::Init()
+{
+    if (!m_initialised)
+    {
+        m_initialised = true;
+        m_wantsBar = (GetStyle() & WS_VSCROLL) != 0;
+        // Text and bar of an edit that begins in the standard mode agree without our doing.
+        m_firstUpdateDone = !COnBoardUIGeneral::InOnBoardMode();
+    }
+    // While the window is still being made, or its messages are not ours yet, there is no text to
+    // lay out: the first message after that comes here again.
+    if (!COnBoardUIGeneral::InOnBoardMode() || !IsReady())
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    scroll::StripScrollStyles(*this, WS_VSCROLL);
+    m_barShown = m_wantsBar;
+    m_bar.ShowScrollBar(m_barShown);
+    scroll::RecalculateFrame(*this);
+    if (alive)
+    {
+        PlaceBar();
+        SendMessage(ShowBarMessage, TRUE);
+    }
+    if (alive)
+    {
+        SendMessage(ShowBarMessage, FALSE);
+    }
+    if (alive)
+    {
+        UpdateScrollPosFromText();
+    }
+}
+
+int CCustomEdit::OnCreate(LPCREATESTRUCT cs)
+{
+    // The platform may decide here, by its style, whether it will ever work a bar of its own. In an
+    // on-board mode the frame has taken the style away already.
+    const WindowAlive alive(*this);
+    if (m_wantsBar)
+    {
+        scroll::RestoreScrollStyles(*this, WS_VSCROLL);
+    }
+    const int result = CEdit::OnCreate(cs);
+    if (alive && result != -1)
+    {
+        FollowMode();
+    }
+    return result;
+}
+
+// Lays the window out for the mode of the moment when it is still laid out for the other kind.
+// Returns whether it is laid out for an on-board mode: the first question of every handler.
+bool CCustomEdit::FollowMode()
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if (onBoard != m_onBoard && !m_following && GetSafeHwnd() != nullptr && IsReady())
+    {
+        const WindowAlive alive(*this);
+        m_following = true;
+        m_onBoard = onBoard;
+        if (onBoard)
+        {
+            EnterOnBoard();
+        }
+        else
+        {
+            LeaveOnBoard();
+        }
+        if (!alive)
+        {
+            return false;
+        }
+        m_following = false;
+    }
+    return onBoard && m_onBoard;
+}
+
+void CCustomEdit::EnterOnBoard()
+{
+    const WindowAlive alive(*this);
+    m_bar.SetArea(CRect(0, 0, 0, 0)); // its parts are sized by the mode
+    Init();
+    if (alive)
+    {
+        FollowText();
+    }
+    if (alive)
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+    }
+}
+
+void CCustomEdit::LeaveOnBoard()
+{
+    EndTracking();
+    m_barShown = false;
+    m_bar.ShowScrollBar(FALSE);
+    if (m_wantsBar)
+    {
+        scroll::RestoreScrollStyles(*this, WS_VSCROLL);
+    }
+    const WindowAlive alive(*this);
+    scroll::RecalculateFrame(*this, false);
+    if (!alive)
+    {
+        return;
+    }
+    // The platform's edit sets its own bar up again when its size is told.
+    CRect client;
+    GetClientRect(&client);
+    Ask(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+    if (alive)
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+    }
+}
+
+void CCustomEdit::OnDestroy()
+{
+    EndTracking();
+    CEdit::OnDestroy();
+}
+
+// Frame -----------------------------------------------------------------------------------------
+
+void CCustomEdit::RemoveVScrollBar()
+{
+    scroll::StripScrollStyles(*this, WS_VSCROLL);
+    ShowBar(false);
+}
+
+void CCustomEdit::IncludeVScrollBar()
+{
+    if (m_wantsBar && !COnBoardUIGeneral::InOnBoardMode())
+    {
+        scroll::RestoreScrollStyles(*this, WS_VSCROLL);
+    }
+    ShowBar(m_wantsBar);
+}
+
+void CCustomEdit::ShowBar(bool shown)
+{
+    m_barShown = shown;
+    m_bar.ShowScrollBar(shown);
+    const WindowAlive alive(*this);
+    scroll::RecalculateFrame(*this);
+    if (alive && m_onBoard)
+    {
+        PlaceBar();
+    }
+}
+
+// Against the inner side of the border; beside the client area of an edit with a thinner one.
+void CCustomEdit::PlaceBar()
+{
+    const CRect client = scroll::ClientRectInWindow(*this);
+    const CRect area(client.right, client.top, client.right + metrics::ScrollBand, client.bottom);
+    // Setting it puts the thumb back onto its step, so not in the middle of a drag.
+    if (m_barShown && area != m_bar.GetArea())
+    {
+        m_bar.SetArea(area);
+    }
+}
+
+void CCustomEdit::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if (onBoard)
+    {
+        // The platform's edit puts its style back whenever its text changes.
+        scroll::StripScrollStyles(*this, WS_VSCROLL);
+    }
+    Default();
+    if (onBoard && calcValidRects && GetSafeHwnd() != nullptr)
+    {
+        const bool edged = (GetExStyle() & WS_EX_CLIENTEDGE) != 0;
+        const CSize more =
+            edged ? CSize(metrics::Border - m_edgeWidth, metrics::Border - m_edgeHeight)
+                  : CSize(0, 0);
+        scroll::TakeBands(params->rgrc[0], more, m_barShown, false);
+    }
+}
+
+void CCustomEdit::OnWindowPosChanging(WINDOWPOS* position)
+{
+    CEdit::OnWindowPosChanging(position);
+    if (m_onBoard && COnBoardUIGeneral::InOnBoardMode())
+    {
+        scroll::RefusePlatformBars(*this, *position, WS_VSCROLL);
+    }
+}
+
+void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)
+{
+    const WindowAlive alive(*this);
+    CEdit::OnStyleChanged(which, styles);
+    constexpr DWORD bars = WS_VSCROLL | WS_HSCROLL;
+    const bool barsOnly =
+        which == GWL_STYLE && ((styles->styleOld ^ styles->styleNew) & ~bars) == 0;
+    // Bars come and go without the text having changed.
+    if (barsOnly || !alive || m_following || !FollowMode() || m_updating)
+    {
+        return;
+    }
+    Init();
+    if (alive)
+    {
+        ToFirstLine();
+    }
+    if (alive)
+    {
+        FollowText();
+    }
+    if (alive)
+    {
+        Invalidate();
+        scroll::RecalculateFrame(*this);
+    }
+    if (alive)
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE); // the border tells the state
+    }
+}
+
+void CCustomEdit::OnEnable(BOOL enable)
+{
+    const WindowAlive alive(*this);
+    if (!enable)
+    {
+        EndTracking();
+    }
+    CEdit::OnEnable(enable);
+    if (alive && FollowMode())
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+    }
+}
+
+void CCustomEdit::OnShowWindow(BOOL show, UINT status)
+{
+    if (!show)
+    {
+        EndTracking();
+    }
+    CEdit::OnShowWindow(show, status);
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+void CCustomEdit::OnNcPaint()
+{
+    const WindowAlive alive(*this);
+    if (!FollowMode())
+    {
+        if (alive)
+        {
+            Default();
+        }
+        return;
+    }
+    if (!scroll::TouchesFrame(*this, reinterpret_cast<HRGN>(GetCurrentMessage()->wParam)))
+    {
+        return;
+    }
+    m_painter->Invalidate();
+    // A thin border and a horizontal bar stay the platform's.
+    if ((GetStyle() & (WS_BORDER | WS_HSCROLL)) != 0)
+    {
+        Default();
+    }
+    DrawOBNC();
+}
+
+void CCustomEdit::DrawOBNC()
+{
+    const WindowAlive alive(*this);
+    PlaceBar();
+    UpdateScrollPosFromText();
+    if (!alive || GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    CWindowDC dc(this);
+    const CRect client = scroll::ClientRectInWindow(*this);
+    CRect frame;
+    GetWindowRect(&frame);
+    frame.OffsetRect(-frame.TopLeft());
+    if ((GetExStyle() & WS_EX_CLIENTEDGE) != 0)
+    {
+        DrawEditBorder(dc, frame,
+                       EditBorderOf(IsWindowEnabled() != FALSE, (GetStyle() & ES_READONLY) != 0));
+        frame.DeflateRect(metrics::Border, metrics::Border);
+    }
+    if (m_barShown && (GetStyle() & WS_HSCROLL) != 0)
+    {
+        // Where the platform's horizontal bar meets ours belongs to neither.
+        dc.FillSolidRect(client.right, client.bottom, frame.right - client.right,
+                         frame.bottom - client.bottom, palette::Panel);
+    }
+    DrawOBScrollBars(&dc);
+    Invalidate();
+}
+
+void CCustomEdit::DrawOBScrollBars(CDC* dc)
+{
+    if (FollowMode() && dc != nullptr)
+    {
+        m_painter->Draw(*dc, *this, m_bar, m_scrolling ? m_lastHit : CFauxScrollBar::PRESSED_NONE);
+    }
+}
+
+void CCustomEdit::DrawOBScrollBars()
+{
+    if (m_onBoard && COnBoardUIGeneral::InOnBoardMode() && GetSafeHwnd() != nullptr)
+    {
+        m_painter->Draw(*this, m_bar, m_scrolling ? m_lastHit : CFauxScrollBar::PRESSED_NONE);
+    }
 }

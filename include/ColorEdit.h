@@ -1,0 +1,28 @@
+#pragma once
+
+#include "OnBoardUIExport.h"
+
+#include <afxwin.h>
+
+// An edit with colours of its own: black on the colour of faces until others are set.
+class ONBOARDUI_API ColorEdit : public CEdit
+{
+    DECLARE_DYNAMIC(ColorEdit)
+
+public:
+    ColorEdit();
+
+    void SetTextColor(COLORREF color);
+    void SetBackgroundColor(COLORREF color);
+
+protected:
+    afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);
+    DECLARE_MESSAGE_MAP()
+
+    CBrush m_brush;
+    COLORREF m_backgroundColor;
+    COLORREF m_textColor = 0;
+
+private:
+    void ShowColors();
+};

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "OnBoardUIExport.h"
+
+#include <afxwin.h>
+
+// An edit that shows a grey prompt until the user or the host gives it a text. While the prompt
+// shows, the edit counts as empty: whoever asks for its text gets an empty one. The first key or
+// press takes the prompt away; Reset brings it back.
+class ONBOARDUI_API EditWithPrompt : public CEdit
+{
+    DECLARE_DYNAMIC(EditWithPrompt)
+
+public:
+    EditWithPrompt();
+
+    // Empties the edit and shows the prompt again.
+    void Reset();
+
+    // Null and an empty prompt mean none, and end the one that shows.
+    void SetPromptText(const char* prompt);
+    CString GetPromptText() const { return m_prompt; }
+    void SetPromptColor(COLORREF color);
+    COLORREF GetPromptColor() const { return m_promptColor; }
+
+    // An empty or null text is ignored while the prompt shows.
+    void SetWindowText(const char* text);
+    // Copies at most size characters, the final null included, and returns how many without it.
+    int GetWindowText(char* buffer, int size) const;
+    void GetWindowText(CString& text) const;
+
+    void PreSubclassWindow() override;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
+    afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMButtonDown(UINT flags, CPoint point);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+    int m_showingPrompt = 1;
+    CString m_prompt = "<Enter text here>";
+    COLORREF m_promptColor;
+    CBrush m_brush;
+
+private:
+    void ShowText(const char* text);
+    void ShowPrompt();
+    bool EndPrompt();
+};

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "OnBoardUIExport.h"
+
+#include <afxwin.h>
+
+// An edit that stays where its host fixed it, whatever layout its parent does: only its height
+// follows. Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z work on its text even where the host's accelerators
+// take these keys.
+class ONBOARDUI_API QuixEdit : public CEdit
+{
+    DECLARE_DYNAMIC(QuixEdit)
+
+public:
+    // In client pixels of the parent. To be called before the window is placed the first time; a
+    // window that exists moves there.
+    void SetFixedPlace(int x, int y, int width);
+
+    // Whether the last key was Escape.
+    bool EscapePressed() const { return m_escapePressed != 0; }
+
+    BOOL PreTranslateMessage(MSG* message) override;
+
+protected:
+    afx_msg void OnWindowPosChanging(WINDOWPOS* position);
+    DECLARE_MESSAGE_MAP()
+
+    int m_fixedX = 0;
+    int m_fixedY = 0;
+    int m_fixedWidth = 0;
+    int m_escapePressed = 0;
+
+private:
+    bool m_keyDone = false; // the last key has had its effect
+};

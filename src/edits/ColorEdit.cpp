@@ -1,0 +1,42 @@
+#include "ColorEdit.h"
+
+IMPLEMENT_DYNAMIC(ColorEdit, CEdit)
+
+BEGIN_MESSAGE_MAP(ColorEdit, CEdit)
+    ON_WM_CTLCOLOR_REFLECT()
+END_MESSAGE_MAP()
+
+ColorEdit::ColorEdit()
+    : m_backgroundColor(::GetSysColor(COLOR_3DFACE))
+{
+    m_brush.CreateSolidBrush(m_backgroundColor);
+}
+
+void ColorEdit::SetTextColor(COLORREF color)
+{
+    m_textColor = color;
+    ShowColors();
+}
+
+void ColorEdit::SetBackgroundColor(COLORREF color)
+{
+    m_backgroundColor = color;
+    m_brush.DeleteObject();
+    m_brush.CreateSolidBrush(color);
+    ShowColors();
+}
+
+void ColorEdit::ShowColors()
+{
+    if (GetSafeHwnd() != nullptr)
+    {
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME);
+    }
+}
+
+HBRUSH ColorEdit::CtlColor(CDC* dc, UINT)
+{
+    dc->SetBkColor(m_backgroundColor);
+    dc->SetTextColor(m_textColor);
+    return m_brush;
+}

@@ -1,0 +1,246 @@
+#include "EditWithPrompt.h"
+
+#include "modes/WindowAlive.h"
+#include "paint/Palette.h"
+
+IMPLEMENT_DYNAMIC(EditWithPrompt, CEdit)
+
+BEGIN_MESSAGE_MAP(EditWithPrompt, CEdit)
+    ON_WM_CREATE()
+    ON_WM_CTLCOLOR_REFLECT()
+    ON_WM_KEYDOWN()
+    ON_WM_SETFOCUS()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MBUTTONDOWN()
+    ON_WM_RBUTTONDOWN()
+END_MESSAGE_MAP()
+
+EditWithPrompt::EditWithPrompt()
+    : m_promptColor(palette::EditPrompt)
+{}
+
+void EditWithPrompt::PreSubclassWindow()
+{
+    if (m_brush.GetSafeHandle() == nullptr)
+    {
+        m_brush.CreateSolidBrush(::GetSysColor(COLOR_WINDOW));
+    }
+    if (m_showingPrompt)
+    {
+        // The messages are not ours yet: an edit that exists takes them as any text and selection,
+        // and one that is being made gets the prompt when it is ready for a text.
+        ::SetWindowText(m_hWnd, m_prompt);
+        ::SendMessage(m_hWnd, EM_SETSEL, 0, 0);
+    }
+    CEdit::PreSubclassWindow();
+}
+
+int EditWithPrompt::OnCreate(LPCREATESTRUCT cs)
+{
+    const WindowAlive alive(*this);
+    const int result = CEdit::OnCreate(cs);
+    if (alive && result != -1 && m_showingPrompt)
+    {
+        if (cs->lpszName != nullptr && *cs->lpszName != '\0')
+        {
+            m_showingPrompt = 0; // it was made with a text
+        }
+        else
+        {
+            ShowPrompt();
+        }
+    }
+    return result;
+}
+
+// The prompt itself -----------------------------------------------------------------------------
+
+// Past the rules of what counts as a text.
+void EditWithPrompt::ShowText(const char* text)
+{
+    if (GetSafeHwnd() != nullptr)
+    {
+        CEdit::DefWindowProc(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+    }
+}
+
+void EditWithPrompt::ShowPrompt()
+{
+    const WindowAlive alive(*this);
+    ShowText(m_prompt);
+    if (alive)
+    {
+        // Nothing selected and the caret in front: what is typed comes in its place.
+        CEdit::DefWindowProc(EM_SETSEL, 0, 0);
+        Invalidate();
+    }
+}
+
+// The user begins. False when the edit did not survive it.
+bool EditWithPrompt::EndPrompt()
+{
+    const WindowAlive alive(*this);
+    if (m_showingPrompt)
+    {
+        m_showingPrompt = 0;
+        ShowText("");
+    }
+    return bool(alive);
+}
+
+void EditWithPrompt::Reset()
+{
+    m_showingPrompt = 1;
+    ShowPrompt();
+}
+
+void EditWithPrompt::SetPromptText(const char* prompt)
+{
+    m_prompt = prompt != nullptr ? prompt : "";
+    if (!m_showingPrompt)
+    {
+        return;
+    }
+    if (m_prompt.IsEmpty())
+    {
+        m_showingPrompt = 0;
+    }
+    ShowPrompt();
+}
+
+void EditWithPrompt::SetPromptColor(COLORREF color)
+{
+    m_promptColor = color;
+    if (m_showingPrompt && GetSafeHwnd() != nullptr)
+    {
+        Invalidate();
+    }
+}
+
+// Its text --------------------------------------------------------------------------------------
+
+void EditWithPrompt::SetWindowText(const char* text)
+{
+    CEdit::SetWindowText(text);
+}
+
+int EditWithPrompt::GetWindowText(char* buffer, int size) const
+{
+    if (!m_showingPrompt)
+    {
+        return CEdit::GetWindowText(buffer, size);
+    }
+    if (buffer != nullptr && size > 0)
+    {
+        *buffer = '\0';
+    }
+    return 0;
+}
+
+void EditWithPrompt::GetWindowText(CString& text) const
+{
+    if (m_showingPrompt)
+    {
+        text.Empty();
+        return;
+    }
+    CEdit::GetWindowText(text);
+}
+
+LRESULT EditWithPrompt::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (m_showingPrompt)
+    {
+        switch (message)
+        {
+        case WM_GETTEXT:
+            return GetWindowText(reinterpret_cast<char*>(lParam), int(wParam));
+        case WM_GETTEXTLENGTH:
+            return 0;
+        case WM_SETTEXT:
+        {
+            const auto* text = reinterpret_cast<const char*>(lParam);
+            if (text == nullptr || *text == '\0')
+            {
+                return TRUE;
+            }
+            if (m_prompt != text)
+            {
+                m_showingPrompt = 0;
+            }
+            break;
+        }
+        case EM_SETSEL:
+            // Dialogs select all of an edit that gets the focus; a prompt is nothing to select.
+            wParam = 0;
+            lParam = 0;
+            break;
+        case WM_CHAR: // of an on-screen keyboard, which sends no key before it
+        case WM_PASTE:
+        case EM_REPLACESEL:
+            if (!EndPrompt())
+            {
+                return 0;
+            }
+            break;
+        default:
+            break;
+        }
+    }
+    return CEdit::WindowProc(message, wParam, lParam);
+}
+
+HBRUSH EditWithPrompt::CtlColor(CDC* dc, UINT kind)
+{
+    if (!m_showingPrompt && kind == CTLCOLOR_STATIC)
+    {
+        return nullptr; // a disabled edit looks as its parent has it
+    }
+    dc->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    dc->SetTextColor(m_showingPrompt ? m_promptColor : ::GetSysColor(COLOR_WINDOWTEXT));
+    return m_brush;
+}
+
+// What ends the prompt --------------------------------------------------------------------------
+
+void EditWithPrompt::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (EndPrompt())
+    {
+        CEdit::OnKeyDown(key, repeat, flags);
+    }
+}
+
+void EditWithPrompt::OnSetFocus(CWnd* old)
+{
+    const WindowAlive alive(*this);
+    CEdit::OnSetFocus(old);
+    if (alive && m_showingPrompt)
+    {
+        SetSel(0, 0);
+    }
+}
+
+void EditWithPrompt::OnLButtonDown(UINT flags, CPoint point)
+{
+    if (EndPrompt())
+    {
+        CEdit::OnLButtonDown(flags, point);
+    }
+}
+
+void EditWithPrompt::OnMButtonDown(UINT flags, CPoint point)
+{
+    if (EndPrompt())
+    {
+        CEdit::OnMButtonDown(flags, point);
+    }
+}
+
+void EditWithPrompt::OnRButtonDown(UINT flags, CPoint point)
+{
+    if (EndPrompt())
+    {
+        CEdit::OnRButtonDown(flags, point);
+    }
+}

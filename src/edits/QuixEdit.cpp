@@ -1,0 +1,83 @@
+#include "QuixEdit.h"
+
+#include "modes/WindowAlive.h"
+
+IMPLEMENT_DYNAMIC(QuixEdit, CEdit)
+
+BEGIN_MESSAGE_MAP(QuixEdit, CEdit)
+    ON_WM_WINDOWPOSCHANGING()
+END_MESSAGE_MAP()
+
+namespace {
+
+// What a key does while Ctrl is held; 0 for nothing.
+UINT ClipboardMessageOf(WPARAM key)
+{
+    // With Alt as well it is a character of the keyboard's third level.
+    if (::GetKeyState(VK_CONTROL) >= 0 || ::GetKeyState(VK_MENU) < 0)
+    {
+        return 0;
+    }
+    switch (key)
+    {
+    case 'C':
+        return WM_COPY;
+    case 'V':
+        return WM_PASTE;
+    case 'X':
+        return WM_CUT;
+    case 'Z':
+        return EM_UNDO;
+    default:
+        return 0;
+    }
+}
+
+} // namespace
+
+void QuixEdit::SetFixedPlace(int x, int y, int width)
+{
+    m_fixedX = x;
+    m_fixedY = y;
+    m_fixedWidth = width;
+    if (GetSafeHwnd() != nullptr)
+    {
+        CRect rect;
+        GetWindowRect(&rect);
+        SetWindowPos(nullptr, x, y, width, rect.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+}
+
+void QuixEdit::OnWindowPosChanging(WINDOWPOS* position)
+{
+    CEdit::OnWindowPosChanging(position);
+    position->x = m_fixedX;
+    position->y = m_fixedY;
+    position->cx = m_fixedWidth;
+}
+
+BOOL QuixEdit::PreTranslateMessage(MSG* message)
+{
+    if (message->message == WM_KEYDOWN)
+    {
+        m_escapePressed = message->wParam == VK_ESCAPE;
+        const UINT clipboard = ClipboardMessageOf(message->wParam);
+        m_keyDone = clipboard != 0;
+        if (clipboard != 0)
+        {
+            const WindowAlive alive(*this);
+            SendMessage(clipboard);
+            if (!alive)
+            {
+                return TRUE;
+            }
+        }
+    }
+    else if (message->message == WM_CHAR && m_keyDone && message->wParam < ' ')
+    {
+        // The character of the same key would paste, or undo, a second time.
+        m_keyDone = false;
+        return TRUE;
+    }
+    return CEdit::PreTranslateMessage(message);
+}

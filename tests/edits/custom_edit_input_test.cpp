@@ -1,0 +1,285 @@
+// Real presses, holds, drags and keys on an edit's own bar, and the on-screen keyboard.
+
+#include "edits/edit_for_tests.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+constexpr auto First = CFauxScrollBar::PRESSED_FIRST;
+constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
+constexpr auto BeforeThumb = CFauxScrollBar::PRESSED_BEFORE_THUMB;
+constexpr auto AfterThumb = CFauxScrollBar::PRESSED_AFTER_THUMB;
+constexpr auto Thumb = CFauxScrollBar::PRESSED_THUMB;
+constexpr APPMODE OnBoardModes[] = {FULLSCREEN, ONBOARD, EFB, EFBFS};
+
+} // namespace
+
+TEST_F(EditTest, EveryOnBoardModeScrollsByPointer)
+{
+    for (const APPMODE mode : OnBoardModes)
+    {
+        COnBoardUIGeneral::SetAppMode(mode);
+        auto& edit = AddEdit(500);
+        const int page = edit.VisibleLines();
+        Click(edit.PartPoint(Second));
+        EXPECT_EQ(edit.GetFirstVisibleLine(), 1) << APPMODE_NAMES[mode];
+        Click(edit.PartPoint(Second)); // fast enough to be a double click
+        EXPECT_EQ(edit.GetFirstVisibleLine(), 2);
+        Click(edit.PartPoint(First));
+        EXPECT_EQ(edit.GetFirstVisibleLine(), 1);
+        Click(edit.PartPoint(AfterThumb));
+        EXPECT_NEAR(edit.GetFirstVisibleLine(), 1 + page, 1);
+        ExpectAgreement(edit, "a page down");
+        Click(edit.PartPoint(BeforeThumb));
+        EXPECT_NEAR(edit.GetFirstVisibleLine(), 1, 1);
+        ExpectAgreement(edit, "a page up");
+        Remove(edit);
+    }
+}
+
+TEST_F(EditOnBoard, AHeldArrowScrollsALineEachTickUntilItIsReleasedAnywhere)
+{
+    auto& edit = AddEdit(500);
+    MessageLog log(edit, {WM_VSCROLL});
+    MoveTo(edit.PartPoint(Second));
+    Press();
+    EXPECT_THAT(log.WParams(WM_VSCROLL), ElementsAre(SB_LINEDOWN));
+    PumpFor(60);
+    EXPECT_EQ(log.Count(WM_VSCROLL), 1) << "not before its time";
+    PumpFor(5 * 102);
+    EXPECT_NEAR(log.Count(WM_VSCROLL), 6, 1);
+    MoveTo(ClientPoint(Host(), CPoint(600, 500)));
+    const int away = log.Count(WM_VSCROLL);
+    ASSERT_TRUE(PumpUntil([&] { return log.Count(WM_VSCROLL) >= away + 2; }));
+    Release();
+    PumpFor(120);
+    const int released = log.Count(WM_VSCROLL);
+    PumpFor(250);
+    EXPECT_EQ(log.Count(WM_VSCROLL), released);
+    EXPECT_FALSE(edit.m_scrolling);
+    EXPECT_EQ(edit.GetFirstVisibleLine(), released);
+    ExpectAgreement(edit, "a hold");
+}
+
+TEST_F(EditOnBoard, AThumbDragMovesTheTextLineByLineToBothEnds)
+{
+    auto& edit = AddEdit(120);
+    const CPoint grip = edit.PartPoint(Thumb) + CPoint(0, 9); // off its middle
+    MessageLog log(edit, {WM_VSCROLL});
+    MoveTo(grip);
+    Press();
+    EXPECT_EQ(edit.m_lastHit, Thumb);
+    EXPECT_EQ(log.Count(WM_VSCROLL), 0) << "the press alone moves nothing";
+    DragTo(grip + CPoint(0, 30));
+    const int reached = edit.GetFirstVisibleLine();
+    EXPECT_NEAR(reached, 30 / edit.m_bar.GetPixelsPerScroll(), 1);
+    EXPECT_EQ(log.Count(WM_VSCROLL), reached);
+    EXPECT_EQ(edit.m_bar.GetScrollPos(), reached);
+    const CRect area = edit.m_bar.GetArea();
+    const auto at = [&](int y) { return WindowPoint(edit, CPoint(area.CenterPoint().x, y)); };
+    DragTo(at(area.bottom - 5), 10);
+    const int end = edit.GetLineCount() - edit.VisibleLines();
+    EXPECT_EQ(edit.GetFirstVisibleLine(), end);
+    // The bar stands past the end of the text; the way back is in step all the same.
+    DragTo(at(area.CenterPoint().y), 10);
+    EXPECT_EQ(edit.GetFirstVisibleLine(), edit.m_bar.GetScrollPos());
+    DragTo(at(area.top + 5), 10);
+    EXPECT_EQ(edit.GetFirstVisibleLine(), 0);
+    DragTo(at(area.bottom - 5), 2);
+    Release();
+    EXPECT_FALSE(edit.m_scrolling);
+    log.Clear();
+    DragTo(grip, 3); // no button: no drag
+    EXPECT_EQ(log.Count(WM_VSCROLL), 0);
+    EXPECT_EQ(edit.GetFirstVisibleLine(), end);
+}
+
+TEST_F(EditOnBoard, WhateverCutsAPressOffEndsIt)
+{
+    struct
+    {
+        const char* name;
+        void (*cut)(EditForTests&, HostWindow&);
+    } const table[] = {
+        {"disabled", [](EditForTests& edit, HostWindow&) { edit.EnableWindow(FALSE); }},
+        {"hidden", [](EditForTests& edit, HostWindow&) { edit.ShowWindow(SW_HIDE); }},
+        {"cancelled", [](EditForTests& edit, HostWindow&) { edit.SendMessage(WM_CANCELMODE); }},
+        {"mode",
+         [](EditForTests& edit, HostWindow&) {
+             COnBoardUIGeneral::SetAppMode(STD);
+             edit.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+         }},
+        {"destroyed", [](EditForTests& edit, HostWindow&) { edit.DestroyWindow(); }}};
+    for (const auto part : {Second, Thumb})
+    {
+        for (const auto& row : table)
+        {
+            auto& edit = AddEdit(500);
+            MoveTo(edit.PartPoint(part));
+            Press();
+            ASSERT_TRUE(edit.m_scrolling) << row.name;
+            const CPoint place = edit.PartPoint(part);
+            MessageLog log(edit, {WM_VSCROLL, WM_TIMER});
+            row.cut(edit, Host());
+            EXPECT_FALSE(edit.m_scrolling) << row.name;
+            log.Clear();
+            MoveTo(place + CPoint(0, 25));
+            PumpFor(150);
+            EXPECT_EQ(log.All().size(), 0U) << row.name;
+            Release();
+            COnBoardUIGeneral::SetAppMode(ONBOARD);
+            Remove(edit);
+        }
+    }
+    // A drag that leaves the non-client area.
+    auto& edit = AddEdit(500);
+    const CPoint grip = edit.PartPoint(Thumb);
+    MoveTo(grip);
+    Press();
+    DragTo(grip + CPoint(0, 30));
+    MoveTo(ClientPoint(Host(), CPoint(700, 400)));
+    ASSERT_TRUE(PumpUntil([&] { return !edit.m_scrolling; }));
+    const int reached = edit.GetFirstVisibleLine();
+    DragTo(grip + CPoint(0, 60));
+    EXPECT_EQ(edit.GetFirstVisibleLine(), reached);
+    Release();
+}
+
+// The on-screen keyboard ------------------------------------------------------------------------
+
+namespace {
+
+// Writes the requests down, and may act on one.
+class KeyboardHost : public IEFB
+{
+public:
+    struct Request
+    {
+        bool show;
+        int position;
+        HWND window;
+        friend bool operator==(const Request&, const Request&) = default;
+    };
+
+    const char* GetProviderName() override { return "test"; }
+    void ShowVKB(bool show, VKB_SHOW_POS position, HWND window) override
+    {
+        requests.push_back({show, int(position), window});
+        if (act)
+        {
+            act();
+        }
+    }
+
+    std::vector<Request> requests;
+    std::function<void()> act;
+};
+
+} // namespace
+
+TEST_F(EditTest, ATapAsksForTheKeyboardInTheFlightBagModes)
+{
+    KeyboardHost keyboard;
+    CCustomEdit::SetEfb(&keyboard);
+    for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
+    {
+        COnBoardUIGeneral::SetAppMode(mode);
+        auto& edit = AddEdit(50);
+        keyboard.requests.clear();
+        const HWND window = edit.m_hWnd;
+        Click(ClientPoint(edit, CPoint(30, 30)));
+        EXPECT_EQ(::GetFocus(), window);
+        std::vector<KeyboardHost::Request> expected;
+        if (mode == EFB || mode == EFBFS)
+        {
+            expected = {{false, 3, window}, {true, 3, window}};
+        }
+        EXPECT_EQ(keyboard.requests, expected) << APPMODE_NAMES[mode];
+        edit.SetFauxReadOnly();
+        keyboard.requests.clear();
+        Click(ClientPoint(edit, CPoint(60, 60)));
+        EXPECT_TRUE(keyboard.requests.empty());
+        Remove(edit);
+    }
+}
+
+TEST_F(EditTest, TheHostMayDoAnythingWhenItIsAskedForTheKeyboard)
+{
+    KeyboardHost keyboard;
+    for (const int deed : {0, 1, 2})
+    {
+        COnBoardUIGeneral::SetAppMode(EFB);
+        CCustomEdit::SetEfb(&keyboard);
+        auto& edit = AddEdit(50);
+        keyboard.requests.clear();
+        keyboard.act = [&] {
+            if (deed == 0)
+            {
+                edit.DestroyWindow();
+            }
+            else if (deed == 1)
+            {
+                COnBoardUIGeneral::SetAppMode(STD);
+            }
+            else
+            {
+                CCustomEdit::SetEfb(nullptr);
+            }
+        };
+        Click(ClientPoint(edit, CPoint(30, 30)));
+        EXPECT_EQ(keyboard.requests.size(), 1U) << deed;
+        Remove(edit);
+    }
+}
+
+// Keys ------------------------------------------------------------------------------------------
+
+TEST_F(EditTest, AFauxReadOnlyEditScrollsAndCopiesAndTakesNoOtherKey)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        COnBoardUIGeneral::SetAppMode(mode);
+        auto& edit = AddEdit(100);
+        edit.SetFauxReadOnly();
+        edit.SetFocus();
+        edit.SetSel(0, 6);
+        const std::string before = edit.Text();
+        TypeText("abc");
+        for (const UINT key : {VK_DELETE, VK_BACK, VK_RETURN, VK_F16})
+        {
+            TypeKey(key);
+        }
+        TypeKey('X', VK_CONTROL);
+        TypeKey('V', VK_CONTROL);
+        TypeKey(VK_INSERT, VK_SHIFT);
+        EXPECT_EQ(edit.Text(), before) << APPMODE_NAMES[mode];
+        TypeKey('C', VK_CONTROL);
+        edit.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+        EXPECT_EQ(edit.GetFirstVisibleLine(), 1);
+        auto& other = AddEdit(0);
+        other.Paste();
+        EXPECT_EQ(other.Text(), "Line 0");
+        Remove(other);
+        Remove(edit);
+    }
+}
+
+TEST_F(EditOnBoard, CtrlBackspaceEmptiesWhatMayBeEdited)
+{
+    auto& edit = AddEdit(30);
+    edit.SetReadOnly(TRUE);
+    edit.SendMessage(WM_CHAR, 0x7F, 1);
+    EXPECT_NE(edit.Text(), "");
+    edit.SetReadOnly(FALSE);
+    edit.SetFocus();
+    edit.SendMessage(WM_CHAR, 0x7F, 1);
+    EXPECT_EQ(edit.Text(), "");
+    edit.Fill(3);
+    TypeKey(VK_F16);
+    EXPECT_EQ(edit.Text(), "");
+    EXPECT_TRUE(edit.Undo());
+    EXPECT_EQ(edit.GetLineCount(), 3);
+}

@@ -1,0 +1,128 @@
+#pragma once
+
+#include "CustomEdit.h"
+#include "EFB.h"
+#include "support/WindowTest.h"
+
+#include <string>
+#include <vector>
+
+// An edit that lets a test see its bar.
+class EditForTests : public CCustomEdit
+{
+public:
+    using CCustomEdit::m_bar;
+    using CCustomEdit::m_barShown;
+    using CCustomEdit::m_lastHit;
+    using CCustomEdit::m_scrolling;
+
+    void Fill(int lines)
+    {
+        std::string text;
+        for (int line = 0; line < lines; ++line)
+        {
+            text += (line > 0 ? "\r\nLine " : "Line ") + std::to_string(line);
+        }
+        SetWindowText(text.c_str());
+    }
+
+    std::string Text() const
+    {
+        CString text;
+        GetWindowText(text);
+        return text.GetString();
+    }
+
+    // How many lines the text area holds, from the platform's own measures.
+    int VisibleLines() const
+    {
+        CRect area;
+        GetRect(&area);
+        const int lineHeight = PosFromChar(UINT(LineIndex(1))).y - PosFromChar(0).y;
+        return lineHeight > 0 ? area.Height() / lineHeight : 0;
+    }
+
+    // Screen point in the middle of a part of the bar.
+    CPoint PartPoint(CFauxScrollBar::ePRESSED part)
+    {
+        return WindowPoint(*this, m_bar.GetPartArea(part).CenterPoint());
+    }
+};
+
+constexpr DWORD ManyLines = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;
+
+// An edit with the border of dialog templates, made as hosts make it.
+class EdgedEdit : public EditForTests
+{
+public:
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id) override
+    {
+        return CreateEx(WS_EX_CLIENTEDGE, "EDIT", "", style, rect, parent, id);
+    }
+};
+
+class EditTest : public WindowTest
+{
+protected:
+    void TearDown() override
+    {
+        CCustomEdit::SetEfb(nullptr);
+        COnBoardUIGeneral::SetAppMode(STD);
+        WindowTest::TearDown();
+    }
+
+    EdgedEdit& AddEdit(int lines, DWORD style = ManyLines)
+    {
+        auto& edit = Add<EdgedEdit>(CRect(20, 20, 320, 260), style);
+        edit.Fill(lines);
+        PumpAll();
+        return edit;
+    }
+};
+
+class EditOnBoard : public EditTest
+{
+protected:
+    void SetUp() override
+    {
+        EditTest::SetUp();
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+    }
+};
+
+// Text, caret and bar tell the same story.
+inline void ExpectAgreement(EditForTests& edit, const std::string& after)
+{
+    const int first = edit.GetFirstVisibleLine();
+    const int lines = edit.GetLineCount();
+    const bool fits = first == 0 && lines <= edit.VisibleLines();
+    const int sides = (edit.GetExStyle() & WS_EX_CLIENTEDGE) != 0 ? 6 : 0;
+    EXPECT_EQ(edit.m_barShown, !fits && lines > 1) << after;
+    EXPECT_EQ(edit.m_bar.ShowScrollBar() != 0, edit.m_barShown) << after;
+    EXPECT_EQ(ClientRectOf(edit).Width(),
+              WindowRectOf(edit).Width() - sides - (edit.m_barShown ? 52 : 0))
+        << after;
+    EXPECT_EQ(edit.GetStyle() & WS_VSCROLL, 0U) << after;
+    EXPECT_EQ(edit.m_bar.GetScrollPos(), first) << after;
+    if (edit.m_barShown)
+    {
+        int minimum = 0;
+        int maximum = 0;
+        edit.m_bar.GetScrollRange(&minimum, &maximum);
+        EXPECT_EQ(edit.m_bar.GetPageSize(), edit.VisibleLines()) << after;
+        EXPECT_EQ(maximum, lines - edit.VisibleLines() + 2) << after;
+    }
+    if (::GetFocus() == edit.m_hWnd)
+    {
+        int start = 0;
+        int end = 0;
+        edit.GetSel(start, end);
+        CPoint caret;
+        ::GetCaretPos(&caret);
+        const CPoint character = edit.PosFromChar(UINT(end));
+        if (end < edit.GetWindowTextLength() && ClientRectOf(edit).PtInRect(character))
+        {
+            EXPECT_EQ(caret.y, character.y) << after;
+        }
+    }
+}

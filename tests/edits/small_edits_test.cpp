@@ -1,0 +1,204 @@
+// The edit with colours, the one with a prompt and the one that keeps its place.
+
+#include "ColorEdit.h"
+#include "EditWithPrompt.h"
+#include "QuixEdit.h"
+#include "support/DialogTemplate.h"
+#include "support/WindowTest.h"
+
+#include <cstring>
+#include <string>
+
+class SmallEditsTest : public WindowTest
+{
+protected:
+    static std::string TextOf(const EditWithPrompt& edit)
+    {
+        CString text;
+        edit.GetWindowText(text);
+        return text.GetString();
+    }
+
+    // What is in the edit itself, whatever it says.
+    static std::string Shown(const CEdit& edit)
+    {
+        char line[100] = {};
+        line[edit.GetLine(0, line, sizeof(line) - 1)] = '\0';
+        return line;
+    }
+};
+
+TEST_F(SmallEditsTest, ColoursAreBlackOnFacesUntilSet)
+{
+    auto& edit = Add<ColorEdit>(CRect(20, 20, 220, 60), 0, "");
+    edit.SetWindowText("WWWWWWWW");
+    PumpAll();
+    const auto count = [&](COLORREF color) { return WindowPixels(edit).Count(color); };
+    EXPECT_GT(count(::GetSysColor(COLOR_3DFACE)), 4000);
+    EXPECT_GT(count(RGB(0, 0, 0)), 50);
+    edit.SetBackgroundColor(RGB(10, 60, 20));
+    edit.SetTextColor(RGB(250, 200, 0));
+    PumpAll();
+    EXPECT_GT(count(RGB(10, 60, 20)), 4000);
+    EXPECT_GT(count(RGB(250, 200, 0)), 50);
+    EXPECT_EQ(count(RGB(0, 0, 0)), 0);
+    ColorEdit unborn; // setting colours needs no window
+    unborn.SetBackgroundColor(RGB(1, 2, 3));
+    unborn.SetTextColor(RGB(4, 5, 6));
+}
+
+TEST_F(SmallEditsTest, PromptRules)
+{
+    using Deed = void (*)(EditWithPrompt&);
+    constexpr const char* prompt = "<Enter text here>";
+    struct
+    {
+        const char* name;
+        Deed deed;
+        const char* text;  // as told
+        const char* shown; // as seen
+    } const table[] = {
+        {"fresh", [](EditWithPrompt&) {}, "", prompt},
+        {"empty text", [](EditWithPrompt& e) { e.SetWindowText(""); }, "", prompt},
+        {"null text", [](EditWithPrompt& e) { e.SetWindowText(nullptr); }, "", prompt},
+        {"prompt as text", [](EditWithPrompt& e) { e.SetWindowText(prompt); }, "", prompt},
+        {"a text", [](EditWithPrompt& e) { e.SetWindowText("abc"); }, "abc", "abc"},
+        {"a text by message",
+         [](EditWithPrompt& e) { e.SendMessage(WM_SETTEXT, 0, LPARAM("abc")); }, "abc", "abc"},
+        {"a text taken away",
+         [](EditWithPrompt& e) {
+             e.SetWindowText("abc");
+             e.SetWindowText("");
+         },
+         "", ""},
+        {"reset",
+         [](EditWithPrompt& e) {
+             e.SetWindowText("abc");
+             e.Reset();
+         },
+         "", prompt},
+        {"other prompt", [](EditWithPrompt& e) { e.SetPromptText("?"); }, "", "?"},
+        {"no prompt", [](EditWithPrompt& e) { e.SetPromptText(""); }, "", ""},
+        {"null prompt, then text",
+         [](EditWithPrompt& e) {
+             e.SetPromptText(nullptr);
+             e.SetWindowText("x");
+         },
+         "x", "x"},
+        {"prompt under a text",
+         [](EditWithPrompt& e) {
+             e.SetWindowText("abc");
+             e.SetPromptText("?");
+         },
+         "abc", "abc"},
+        {"key", [](EditWithPrompt&) { TypeText("q"); }, "q", "q"},
+        {"on-screen key", [](EditWithPrompt& e) { e.SendMessage(WM_CHAR, 'q', 1); }, "q", "q"},
+        {"press", [](EditWithPrompt& e) { Click(ClientPoint(e, CPoint(9, 9))); }, "", ""},
+        {"middle press", [](EditWithPrompt& e) { e.SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, 0); },
+         "", ""},
+        {"right press", [](EditWithPrompt& e) { e.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, 0); }, "",
+         ""},
+        {"all selected", [](EditWithPrompt& e) { e.SetSel(0, -1); }, "", prompt},
+    };
+    for (const auto& row : table)
+    {
+        auto& edit = Add<EditWithPrompt>(CRect(20, 20, 220, 50), ES_AUTOHSCROLL);
+        edit.SetFocus();
+        row.deed(edit);
+        PumpAll();
+        EXPECT_EQ(TextOf(edit), row.text) << row.name;
+        EXPECT_EQ(Shown(edit), row.shown) << row.name;
+        char told[20] = "unset";
+        EXPECT_EQ(edit.GetWindowText(told, sizeof(told)), int(std::strlen(row.text))) << row.name;
+        EXPECT_STREQ(told, row.text) << row.name;
+        ::SendMessage(edit, WM_GETTEXT, sizeof(told), LPARAM(told));
+        EXPECT_STREQ(told, row.text) << row.name;
+        EXPECT_EQ(::GetWindowTextLength(edit), int(std::strlen(row.text))) << row.name;
+        if (std::strcmp(row.text, row.shown) != 0)
+        {
+            EXPECT_EQ(edit.GetSel(), 0U) << row.name << ": caret in front, nothing selected";
+        }
+        Remove(edit);
+    }
+    char untouched = 'u';
+    auto& edit = Add<EditWithPrompt>(CRect(20, 20, 220, 50));
+    EXPECT_EQ(edit.GetWindowText(&untouched, 0), 0);
+    EXPECT_EQ(edit.GetWindowText(nullptr, 0), 0);
+    EXPECT_EQ(untouched, 'u');
+}
+
+TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithTemplatesToo)
+{
+    auto& edit = Add<EditWithPrompt>(CRect(20, 20, 260, 60));
+    EXPECT_GT(WindowPixels(edit).Count(RGB(119, 121, 118)), 20);
+    edit.SetPromptColor(RGB(200, 30, 30));
+    PumpAll();
+    EXPECT_GT(WindowPixels(edit).Count(RGB(200, 30, 30)), 20);
+    edit.SetWindowText("text");
+    PumpAll();
+    EXPECT_EQ(WindowPixels(edit).Count(RGB(200, 30, 30)), 0);
+
+    DialogTemplate form(CRect(0, 0, 200, 60), WS_POPUP | WS_VISIBLE);
+    form.Add("Edit", "", ES_AUTOHSCROLL | WS_TABSTOP, CRect(10, 10, 110, 22), 101);
+    CDialog dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    EditWithPrompt subclassed;
+    subclassed.SubclassDlgItem(101, &dialog);
+    EXPECT_EQ(Shown(subclassed), "<Enter text here>");
+    EXPECT_EQ(TextOf(subclassed), "");
+    dialog.DestroyWindow();
+}
+
+TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidth)
+{
+    auto edit = std::make_unique<QuixEdit>();
+    edit->SetFixedPlace(40, 30, 150);
+    auto& fixed = Add(std::move(edit), CRect(40, 30, 190, 60));
+    fixed.MoveWindow(200, 200, 500, 44);
+    const CRect host = WindowRectOf(Host());
+    EXPECT_EQ(WindowRectOf(fixed), CRect(host.TopLeft() + CPoint(40, 30), CSize(150, 44)));
+    fixed.SetFixedPlace(50, 35, 120);
+    EXPECT_EQ(WindowRectOf(fixed), CRect(host.TopLeft() + CPoint(50, 35), CSize(120, 44)));
+}
+
+// Each key does what its command does to the platform's edit, and once.
+TEST_F(SmallEditsTest, ClipboardKeysWorkOnceEach)
+{
+    struct
+    {
+        UINT key;
+        void (*command)(CEdit&);
+        int start; // selected before
+        int end;
+    } const table[] = {
+        {'C', [](CEdit& e) { e.Copy(); }, 0, 2},  {'V', [](CEdit& e) { e.Paste(); }, 1, 1},
+        {'V', [](CEdit& e) { e.Paste(); }, 3, 4}, {'Z', [](CEdit& e) { e.Undo(); }, 0, 0},
+        {'X', [](CEdit& e) { e.Cut(); }, 2, 3},   {'V', [](CEdit& e) { e.Paste(); }, 0, 0}};
+    auto& edit = Add<QuixEdit>(CRect(20, 20, 220, 50), ES_AUTOHSCROLL);
+    edit.SetFixedPlace(20, 20, 200);
+    auto& platform = Add<CEdit>(CRect(20, 60, 220, 90), ES_AUTOHSCROLL);
+    const auto text = [](const CEdit& of) {
+        CString got;
+        of.GetWindowText(got);
+        return std::string(got.GetString());
+    };
+    edit.SetWindowText("abcdef");
+    platform.SetWindowText("abcdef");
+    edit.SetFocus();
+    for (const auto& row : table)
+    {
+        edit.SetSel(row.start, row.end);
+        platform.SetSel(row.start, row.end);
+        TypeKey(row.key, VK_CONTROL);
+        row.command(platform);
+        EXPECT_EQ(text(edit), text(platform)) << char(row.key);
+        EXPECT_NE(text(edit), "") << char(row.key);
+    }
+    EXPECT_FALSE(edit.EscapePressed());
+    TypeKey(VK_ESCAPE);
+    EXPECT_TRUE(edit.EscapePressed());
+    edit.SetSel(0, -1);
+    TypeText("vz");
+    EXPECT_EQ(text(edit), "vz");
+    EXPECT_FALSE(edit.EscapePressed());
+}
