@@ -1,8 +1,26 @@
 #include "GalleryHost.h"
 
+#include <CustomDialog.h>
+#include <CustomEdit.h>
+#include <CustomPropSheet.h>
+
 GalleryEfb::GalleryEfb(IAppAccess& host)
     : m_host(host)
-{}
+{
+    CCustomEdit::SetEfb(this);
+    CCustomDialog::SetEfb(this);
+    CCustomPropSheet::SetEfb(this);
+}
+
+GalleryEfb::~GalleryEfb()
+{
+    if (CCustomEdit::GetEfb() == this)
+    {
+        CCustomEdit::SetEfb(nullptr);
+    }
+    CCustomDialog::SetEfb(nullptr);
+    CCustomPropSheet::SetEfb(nullptr);
+}
 
 bool GalleryEfb::GetAvailableArea(int& x, int& y, int& width, int& height)
 {
@@ -19,6 +37,24 @@ bool GalleryEfb::EndModalDialog()
 {
     m_modalDialogs -= m_modalDialogs > 0 ? 1 : 0;
     return true;
+}
+
+void GalleryEfb::ShowVKB(bool show, VKB_SHOW_POS, HWND window)
+{
+    const HWND top = ::GetAncestor(window, GA_ROOT);
+    int x = 0;
+    int y = 0;
+    int width = 0;
+    int height = 0;
+    if (show && top != nullptr && GetAvailableArea(x, y, width, height))
+    {
+        m_keyboard.ShowFor(window, *CWnd::FromHandle(top),
+                           CRect(CPoint(x, y), CSize(width, height)));
+    }
+    else
+    {
+        m_keyboard.Hide();
+    }
 }
 
 GalleryHost::GalleryHost()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ScreenKeyboard.h"
+
 #include <AppAccess.h>
 #include <EFB.h>
 
@@ -8,16 +10,19 @@ class GalleryEfb : public IEFB
 {
 public:
     explicit GalleryEfb(IAppAccess& host);
+    ~GalleryEfb() override;
 
     const char* GetProviderName() override { return "Gallery flight bag"; }
     bool GetAvailableArea(int& x, int& y, int& width, int& height) override;
     bool IsModalDialogOpen() override { return m_modalDialogs > 0; }
     bool BeginModalDialog() override;
     bool EndModalDialog() override;
+    void ShowVKB(bool show, VKB_SHOW_POS position, HWND window) override;
 
 private:
     IAppAccess& m_host;
     int m_modalDialogs = 0;
+    ScreenKeyboard m_keyboard;
 };
 
 // The services that the gallery offers to the library, as any host would.

@@ -28,27 +28,15 @@ int Spread(int length, int available, int designed)
     return available > designed ? ::MulDiv(length, available, designed) : length;
 }
 
-// List boxes of the on-board modes; a disabled one is told apart by its colours.
-constexpr COLORREF ListText = RGB(26, 26, 26);
-constexpr COLORREF ListGround = RGB(180, 180, 180);
-constexpr COLORREF DisabledListText = RGB(70, 70, 70);
-constexpr COLORREF DisabledListGround = RGB(100, 100, 100);
-
-HBRUSH ListColors(CDC& dc, bool enabled)
-{
-    static CBrush ground(ListGround);
-    static CBrush disabledGround(DisabledListGround);
-    dc.SetTextColor(enabled ? ListText : DisabledListText);
-    dc.SetBkColor(enabled ? ListGround : DisabledListGround);
-    return enabled ? ground : disabledGround;
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(GalleryPage, CCustomDialog)
     ON_WM_SIZE()
     ON_WM_ERASEBKGND()
-    ON_WM_CTLCOLOR()
+    ON_WM_NCPAINT()
+    ON_WM_NCACTIVATE()
+    ON_WM_NCCALCSIZE()
+    ON_WM_NCHITTEST()
 END_MESSAGE_MAP()
 
 GalleryPage::GalleryPage(IAppAccess& host, GalleryEvents& events)
@@ -172,17 +160,24 @@ BOOL GalleryPage::OnEraseBkgnd(CDC* dc)
     return TRUE;
 }
 
-HBRUSH GalleryPage::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
+// A page is part of the frame's window: no caption, and presses are its own.
+
+void GalleryPage::OnNcPaint()
 {
-    if (look::Dark() && kind == CTLCOLOR_LISTBOX)
-    {
-        return ListColors(*dc, control->IsWindowEnabled());
-    }
-    if (look::Dark() && (kind == CTLCOLOR_DLG || kind == CTLCOLOR_STATIC))
-    {
-        dc->SetTextColor(look::Text());
-        dc->SetBkColor(look::Ground());
-        return look::GroundBrush();
-    }
-    return CCustomDialog::OnCtlColor(dc, control, kind);
+    Default();
+}
+
+BOOL GalleryPage::OnNcActivate(BOOL)
+{
+    return BOOL(Default());
+}
+
+void GalleryPage::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS*)
+{
+    Default();
+}
+
+LRESULT GalleryPage::OnNcHitTest(CPoint)
+{
+    return Default();
 }

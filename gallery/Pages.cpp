@@ -1,5 +1,9 @@
 #include "Pages.h"
 
+#include "ButtonsPage.h"
+#include "DialogsPage.h"
+#include "EditsPage.h"
+#include "LabelsPage.h"
 #include "ListBoxPage.h"
 
 namespace {
@@ -10,7 +14,9 @@ template <class Page> std::unique_ptr<GalleryPage> Make(IAppAccess& host, Galler
 }
 
 constexpr PageEntry AllPages[] = {
-    {"list-boxes", "List boxes", &Make<ListBoxPage>},
+    {"list-boxes", "List boxes", &Make<ListBoxPage>},   {"buttons", "Buttons", &Make<ButtonsPage>},
+    {"labels", "Labels and groups", &Make<LabelsPage>}, {"edits", "Edits", &Make<EditsPage>},
+    {"dialogs", "Dialogs", &Make<DialogsPage>},
 };
 
 } // namespace

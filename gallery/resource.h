@@ -4,11 +4,25 @@
 
 #define IDR_GALLERY 100
 #define IDD_GALLERY_PAGE 101
+#define IDD_GALLERY_FLIGHT 102
+#define IDD_GALLERY_SHEET_GENERAL 103
+#define IDD_GALLERY_SHEET_AIRPORTS 104
+#define IDD_GALLERY_SHEET_REMARKS 105
 
 // The frame's own windows.
 #define IDC_MODE_SWITCHES 200
 #define IDC_PAGE_LIST 201
 #define IDC_PAGE 202
+
+// Controls of the dialogs.
+#define IDC_FLIGHT_CALLSIGN 301
+#define IDC_FLIGHT_ALTERNATE 302
+#define IDC_FLIGHT_VISUAL 303
+#define IDC_FLIGHT_INSTRUMENT 304
+#define IDC_FLIGHT_AIRPORTS 305
+#define IDC_FLIGHT_ANOTHER 306
+#define IDC_FLIGHT_RULES 307
+#define IDC_FLIGHT_REMARKS 308
 
 // Controls of a page; each page counts its own from here.
 #define IDC_PAGE_FIRST 1000

@@ -1,0 +1,113 @@
+#include "DialogsPage.h"
+
+#include "resource.h"
+
+#include <CustomPropSheet.h>
+#include <OnBoardUI.h>
+#include <OnBoardUIGeneral.h>
+
+namespace {
+
+constexpr UINT FirstId = IDC_PAGE_FIRST;
+
+// In pixels of the standard mode.
+constexpr int OpenerWidth = 124;
+constexpr int OpenerHeight = 29;
+constexpr int OpenerStep = 40;
+constexpr int HintTop = 134;
+constexpr int HintHeight = 90;
+
+constexpr const char* Captions[] = {"Modal dialog", "Modeless dialog", "Property sheet"};
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(DialogsPage, GalleryPage)
+    ON_WM_SHOWWINDOW()
+    ON_BN_CLICKED(FirstId + Modal, &DialogsPage::OnModal)
+    ON_BN_CLICKED(FirstId + Modeless, &DialogsPage::OnModeless)
+    ON_BN_CLICKED(FirstId + Sheet, &DialogsPage::OnSheet)
+END_MESSAGE_MAP()
+
+DialogsPage::DialogsPage(IAppAccess& host, GalleryEvents& events)
+    : GalleryPage(host, events)
+    , m_services(host)
+    , m_modeless(nullptr, &host)
+{}
+
+void DialogsPage::CreateContent()
+{
+    for (int index = 0; index < OpenerCount; ++index)
+    {
+        const CRect design(CPoint(0, index * OpenerStep), CSize(OpenerWidth, OpenerHeight));
+        CCustomPushbutton& opener = m_openers[index];
+        opener.Create(Captions[index], WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, design,
+                      this, FirstId + UINT(index));
+        opener.SetFont(&CCustomStatic::GetStdFont());
+        Place(opener, design);
+    }
+    AddLabel("On-board, a dialog is dragged by its caption and stops at the edges of this window.",
+             CRect(CPoint(0, HintTop), CSize(OpenerWidth, HintHeight)));
+}
+
+void DialogsPage::OnLaidOut()
+{
+    // The library scales the content of an open dialog; its size is its owner's business. Opened
+    // anew it has the size of the mode, whichever way the mode was reached.
+    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+    if (m_modeless.GetSafeHwnd() != nullptr && mode != m_openedIn)
+    {
+        m_modeless.DestroyWindow();
+        OnModeless();
+    }
+}
+
+CPoint DialogsPage::DialogCorner() const
+{
+    CRect opener;
+    m_openers[0].GetWindowRect(&opener);
+    return CPoint(opener.right + opener.Height() / 2, opener.top);
+}
+
+void DialogsPage::PoseForPicture()
+{
+    OnModeless();
+}
+
+void DialogsPage::OnShowWindow(BOOL show, UINT status)
+{
+    GalleryPage::OnShowWindow(show, status);
+    if (!show)
+    {
+        m_modeless.DestroyWindow(); // the dialog belongs to the page
+    }
+}
+
+void DialogsPage::OnModal()
+{
+    const INT_PTR result = FlightDialog(this, &m_services).DoModal();
+    Events().ParentWasTold(result == IDOK ? "The modal dialog ended with OK"
+                                          : "The modal dialog was cancelled");
+}
+
+void DialogsPage::OnModeless()
+{
+    m_openedIn = COnBoardUIGeneral::GetAppMode();
+    if (m_modeless.OpenModeless(*this, DialogCorner()))
+    {
+        EnsureWndVisible(&m_services, m_modeless);
+        Events().ParentWasTold("The modeless dialog is open");
+    }
+}
+
+void DialogsPage::OnSheet()
+{
+    FlightPage general(IDD_GALLERY_SHEET_GENERAL);
+    FlightPage airports(IDD_GALLERY_SHEET_AIRPORTS);
+    FlightPage remarks(IDD_GALLERY_SHEET_REMARKS);
+    CCustomPropSheet sheet("Flight plan", &m_services, this);
+    sheet.AddPage(&general);
+    sheet.AddPage(&airports);
+    sheet.AddPage(&remarks);
+    Events().ParentWasTold(sheet.DoModal() == IDOK ? "The sheet ended with OK"
+                                                   : "The sheet was cancelled");
+}

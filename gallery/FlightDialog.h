@@ -1,0 +1,69 @@
+#pragma once
+
+#include <CustomCheckBox.h>
+#include <CustomDialog.h>
+#include <CustomEdit.h>
+#include <CustomListBox.h>
+#include <CustomPropPage.h>
+#include <CustomPushbutton.h>
+#include <CustomRadiobutton.h>
+#include <CustomStatic.h>
+
+// The controls of the gallery's dialogs, as far as a dialog has them, put over what its template
+// made. Attached before the library restyles them.
+class FlightControls
+{
+public:
+    void Attach(CWnd& dialog);
+
+private:
+    CCustomEdit m_callsign;
+    CCustomEdit m_remarks;
+    CCustomCheckBox m_alternate;
+    CCustomRadiobutton m_visual;
+    CCustomRadiobutton m_instrument;
+    CCustomStatic m_rules;
+    CCustomListBox m_airports;
+    CCustomPushbutton m_buttons[3];
+};
+
+// A dialog from a template with the controls of the library. It can open another one of its kind.
+class FlightDialog : public CCustomDialog
+{
+public:
+    // depth counts the dialogs below it.
+    FlightDialog(CWnd* parent, IAppAccess* host, int depth = 0);
+
+    // Opens it beside its owner's window, which stays usable. FALSE when it cannot be made.
+    BOOL OpenModeless(CWnd& owner, CPoint corner);
+
+    BOOL OnInitDialog() override;
+
+protected:
+    void OnOK() override { Close(IDOK); }
+    void OnCancel() override { Close(IDCANCEL); }
+
+    afx_msg void OnAnother();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void Close(int result);
+
+    IAppAccess* m_services;
+    int m_depth;
+    FlightControls m_content;
+};
+
+// A page of the gallery's property sheet.
+class FlightPage : public CCustomPropPage
+{
+public:
+    explicit FlightPage(UINT templateId)
+        : CCustomPropPage(templateId)
+    {}
+
+    BOOL OnInitDialog() override;
+
+private:
+    FlightControls m_content;
+};
