@@ -27,5 +27,7 @@ struct Row
 std::vector<Row> AllRows();
 
 std::vector<Row> ListBoxRows();
+std::vector<Row> EditRows();
+std::vector<Row> ButtonRows();
 std::vector<Row> ScrollBarRows();
 std::vector<Row> ModeRows();
