@@ -1,6 +1,6 @@
 #pragma once
 
-// Views made of one common control.
+// The common controls for views; a view made of one of them comes with the first that needs it.
 
 #include <afxcmn.h>
 #include <afxwin.h>
