@@ -3,8 +3,11 @@
 #include "support/DialogTemplate.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
+#include "support/forms.h"
 
 #include <afxdlgs.h>
+
+#include <utility>
 
 namespace {
 
@@ -59,6 +62,40 @@ BEGIN_MESSAGE_MAP(CountingHost, HostWindow)
     ON_COMMAND(CommandId, &CountingHost::OnGo)
 END_MESSAGE_MAP()
 
+// Ended before its loop begins.
+class SheetOver : public CPropertySheet
+{
+public:
+    using CPropertySheet::CPropertySheet;
+    bool endAtOnce = true;
+
+    BOOL OnInitDialog() override
+    {
+        if (endAtOnce)
+        {
+            EndDialog(77);
+        }
+        return CPropertySheet::OnInitDialog();
+    }
+};
+
+class DrawnView : public CView
+{
+public:
+    CWnd* ends = nullptr; // destroyed when this view is left
+
+protected:
+    void OnDraw(CDC*) override {}
+    void OnActivateView(BOOL activate, CView* to, CView* from) override
+    {
+        if (!activate && ends != nullptr)
+        {
+            std::exchange(ends, nullptr)->DestroyWindow();
+        }
+        CView::OnActivateView(activate, to, from);
+    }
+};
+
 } // namespace
 
 using EndedObjectsTest = WindowTest;
@@ -94,4 +131,45 @@ TEST_F(EndedObjectsTest, ADialogsCommandsGoOnToItsOwner)
     EXPECT_EQ(dialog.GetOwner(), &owner);
     dialog.DestroyWindow();
     owner.DestroyWindow();
+}
+
+TEST_F(EndedObjectsTest, ASheetEndsBeforeItsLoopAndByEveryWayOfClosing)
+{
+    CPropertyPage page(IDD_TEST_PAGE_1);
+    SheetOver over("Sheet", &Host());
+    over.AddPage(&page);
+    EXPECT_EQ(over.DoModal(), 77);
+
+    for (const bool byFrame : {true, false})
+    {
+        CPropertyPage shown(IDD_TEST_PAGE_1);
+        SheetOver modeless("Sheet", &Host());
+        modeless.endAtOnce = false;
+        modeless.AddPage(&shown);
+        ASSERT_TRUE(modeless.Create(&Host()));
+        EXPECT_FALSE(modeless.GetDlgItem(IDOK)->IsWindowVisible());
+        const HWND window = modeless;
+        ::SendMessage(window, byFrame ? WM_CLOSE : UINT(PSM_PRESSBUTTON), byFrame ? 0 : PSBTN_OK,
+                      0);
+        EXPECT_FALSE(::IsWindow(window)) << byFrame;
+    }
+}
+
+TEST_F(EndedObjectsTest, AFrameForgetsAViewThatIsGone)
+{
+    auto* frame = new CFrameWnd; // deletes itself
+    ASSERT_TRUE(frame->Create(nullptr, "Frame"));
+    auto* first = new DrawnView;
+    auto* second = new DrawnView;
+    first->Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), frame, AFX_IDW_PANE_FIRST);
+    second->Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), frame, AFX_IDW_PANE_FIRST + 1);
+    frame->SetActiveView(first);
+    first->ends = second;
+    frame->SetActiveView(second); // gone by the time it would be active
+    EXPECT_EQ(frame->GetActiveView(), nullptr);
+    frame->SetActiveView(first);
+    delete first;
+    EXPECT_EQ(frame->GetActiveView(), nullptr);
+    frame->DestroyWindow();
+    PumpAll();
 }
