@@ -9,6 +9,10 @@
 //
 // An empty or negative area takes drawing and copies nothing. When memory runs out, drawing goes
 // straight to the target.
+//
+// Buffers up to a screen in size share one context and bitmap, kept for the life of the thread,
+// since making them takes longer than drawing a control. A buffer that begins while the shared ones
+// are in use makes its own.
 class BackBuffer
 {
 public:
@@ -25,7 +29,11 @@ private:
     CDC& m_target;
     CRect m_area;
     CDC m_memory;
-    CBitmap m_bitmap;
+    CBitmap m_bitmap; // unless shared
     HGDIOBJ m_oldBitmap = nullptr;
+    int m_savedState = 0;  // of the shared context, while it is borrowed
     bool m_direct = false; // no memory context or bitmap was to be had
+
+    bool BorrowShared(LONGLONG width, LONGLONG height);
+    void MakeOwn(LONGLONG width, LONGLONG height);
 };

@@ -1,6 +1,7 @@
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "support/Canvas.h"
+#include "support/WindowTest.h"
 
 #include <gtest/gtest.h>
 
@@ -46,6 +47,36 @@ TEST(BackBuffer, DrawsStraightToTheTargetWhenThereIsNoMemoryForIt)
         EXPECT_EQ(canvas.At(3, 4), Ink);
         EXPECT_EQ(canvas.At(4, 4), Canvas::Untouched);
     }
+}
+
+using BackBufferOnScreen = WindowTest;
+
+TEST_F(BackBufferOnScreen, TwoAtATimeKeepApartAndEachBeginsFresh)
+{
+    constexpr COLORREF Inner = RGB(200, 100, 50);
+    CClientDC dc(&Host());
+    const auto begins = [](CDC& context) {
+        return std::tuple(::GetCurrentObject(context, OBJ_PEN), context.GetTextColor(),
+                          context.GetBkMode());
+    };
+    const CPen pen(PS_SOLID, 1, Ink);
+    for (const int size : {30, 700, 30}) // grown in between, and smaller than what is kept
+    {
+        BackBuffer outer(dc, CRect(10, 10, 10 + size, 20));
+        EXPECT_EQ(begins(outer), std::tuple(::GetStockObject(BLACK_PEN), COLORREF(0), int(OPAQUE)));
+        outer.DC().FillSolidRect(0, 0, 800, 800, Ink);
+        {
+            BackBuffer inner(dc, CRect(0, 40, size, 50));
+            inner.DC().FillSolidRect(0, 0, 800, 800, Inner);
+        }
+        // Left behind without care; the next one must not see it.
+        ::SelectObject(outer.DC(), pen.GetSafeHandle());
+        outer.DC().SetTextColor(Ink);
+        outer.DC().SetBkMode(TRANSPARENT);
+    }
+    const Pixels screen = WindowPixels(Host());
+    EXPECT_EQ(screen.Count(Ink), 700 * 10);
+    EXPECT_EQ(screen.Count(Inner), 700 * 10);
 }
 
 TEST(GdiGuards, PutBackWhatTheyFound)
