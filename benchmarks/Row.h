@@ -31,3 +31,4 @@ std::vector<Row> EditRows();
 std::vector<Row> ButtonRows();
 std::vector<Row> ScrollBarRows();
 std::vector<Row> ModeRows();
+std::vector<Row> DialogRows();

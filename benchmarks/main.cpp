@@ -78,7 +78,7 @@ void Measure(const Row& row, bool tsv)
 std::vector<Row> AllRows()
 {
     std::vector<Row> rows;
-    for (auto part : {&ListBoxRows, &EditRows, &ButtonRows, &ScrollBarRows, &ModeRows})
+    for (auto part : {&ListBoxRows, &EditRows, &ButtonRows, &ScrollBarRows, &ModeRows, &DialogRows})
     {
         const std::vector<Row> more = part();
         rows.insert(rows.end(), more.begin(), more.end());

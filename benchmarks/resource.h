@@ -1,0 +1,3 @@
+#pragma once
+
+#define IDD_BENCH_FORM 100
