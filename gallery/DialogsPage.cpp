@@ -2,9 +2,7 @@
 
 #include "resource.h"
 
-#include <CustomPropSheet.h>
 #include <OnBoardUI.h>
-#include <OnBoardUIGeneral.h>
 
 namespace {
 
@@ -49,18 +47,6 @@ void DialogsPage::CreateContent()
              CRect(CPoint(0, HintTop), CSize(OpenerWidth, HintHeight)));
 }
 
-void DialogsPage::OnLaidOut()
-{
-    // The library scales the content of an open dialog; its size is its owner's business. Opened
-    // anew it has the size of the mode, whichever way the mode was reached.
-    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
-    if (m_modeless.GetSafeHwnd() != nullptr && mode != m_openedIn)
-    {
-        m_modeless.DestroyWindow();
-        OnModeless();
-    }
-}
-
 CPoint DialogsPage::DialogCorner() const
 {
     CRect opener;
@@ -91,7 +77,6 @@ void DialogsPage::OnModal()
 
 void DialogsPage::OnModeless()
 {
-    m_openedIn = COnBoardUIGeneral::GetAppMode();
     if (m_modeless.OpenModeless(*this, DialogCorner()))
     {
         EnsureWndVisible(&m_services, m_modeless);
@@ -101,13 +86,7 @@ void DialogsPage::OnModeless()
 
 void DialogsPage::OnSheet()
 {
-    FlightPage general(IDD_GALLERY_SHEET_GENERAL);
-    FlightPage airports(IDD_GALLERY_SHEET_AIRPORTS);
-    FlightPage remarks(IDD_GALLERY_SHEET_REMARKS);
-    CCustomPropSheet sheet("Flight plan", &m_services, this);
-    sheet.AddPage(&general);
-    sheet.AddPage(&airports);
-    sheet.AddPage(&remarks);
+    FlightSheet sheet(this, &m_services);
     Events().ParentWasTold(sheet.DoModal() == IDOK ? "The sheet ended with OK"
                                                    : "The sheet was cancelled");
 }

@@ -13,7 +13,6 @@ public:
 
 protected:
     void CreateContent() override;
-    void OnLaidOut() override;
 
     afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg void OnModal();
@@ -35,5 +34,4 @@ private:
     IAppAccess& m_services;
     CCustomPushbutton m_openers[OpenerCount];
     FlightDialog m_modeless;
-    APPMODE m_openedIn = STD;
 };

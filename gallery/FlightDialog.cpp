@@ -1,7 +1,12 @@
 #include "FlightDialog.h"
 
+#include "WindowMoves.h"
 #include "resource.h"
 
+#include <OnBoardUI.h>
+#include <afxcmn.h>
+
+#include <algorithm>
 #include <iterator>
 
 namespace {
@@ -59,6 +64,32 @@ void FlightControls::Attach(CWnd& dialog)
     }
 }
 
+std::vector<CCustomButton*> FlightControls::Choices()
+{
+    std::vector<CCustomButton*> there = {&m_alternate, &m_visual, &m_instrument};
+    std::erase_if(there,
+                  [](const CCustomButton* choice) { return choice->GetSafeHwnd() == nullptr; });
+    return there;
+}
+
+void FlightControls::KeepChecks()
+{
+    m_checks.clear();
+    for (const CCustomButton* const choice : Choices())
+    {
+        m_checks.push_back(choice->GetCheck());
+    }
+}
+
+void FlightControls::PutChecks()
+{
+    const auto choices = Choices();
+    for (size_t index = 0; index < std::min(choices.size(), m_checks.size()); ++index)
+    {
+        choices[index]->SetCheck(m_checks[index]);
+    }
+}
+
 BEGIN_MESSAGE_MAP(FlightDialog, CCustomDialog)
     ON_BN_CLICKED(IDC_FLIGHT_ANOTHER, &FlightDialog::OnAnother)
 END_MESSAGE_MAP()
@@ -90,7 +121,21 @@ BOOL FlightDialog::OnInitDialog()
         title.Format("Flight, opened by a dialog (%d)", m_depth);
         SetWindowText(title);
     }
+    m_layout.Read(*this);
+    NoteMode();
     return TRUE;
+}
+
+void FlightDialog::FollowMode()
+{
+    if (GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    ResizeClient(*this, m_layout.ClientInMode());
+    m_layout.Apply(*this);
+    m_content.PutChecks();
+    EnsureWndVisible(m_services, *this);
 }
 
 void FlightDialog::Close(int result)
@@ -113,5 +158,100 @@ void FlightDialog::OnAnother()
 BOOL FlightPage::OnInitDialog()
 {
     m_content.Attach(*this);
-    return CCustomPropPage::OnInitDialog();
+    const BOOL result = CCustomPropPage::OnInitDialog();
+    m_layout.Read(*this);
+    return result;
+}
+
+void FlightPage::FollowMode()
+{
+    m_layout.Apply(*this);
+    m_content.PutChecks();
+}
+
+FlightSheet::FlightSheet(CWnd* parent, IAppAccess* host)
+    : CCustomPropSheet("Flight plan", host, parent)
+    , m_services(host)
+    , m_pages{FlightPage(IDD_GALLERY_SHEET_GENERAL), FlightPage(IDD_GALLERY_SHEET_AIRPORTS),
+              FlightPage(IDD_GALLERY_SHEET_REMARKS)}
+{
+    for (FlightPage& page : m_pages)
+    {
+        AddPage(&page);
+    }
+}
+
+CRect FlightSheet::PageArea() const
+{
+    CRect area = PlaceInParent(*GetTabControl());
+    GetTabControl()->AdjustRect(FALSE, &area);
+    return area;
+}
+
+BOOL FlightSheet::OnInitDialog()
+{
+    const BOOL result = CCustomPropSheet::OnInitDialog();
+    m_tabs = StandardRect(PlaceInParent(*GetTabControl()));
+    m_page = StandardRect(PageArea()).Size();
+    for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP})
+    {
+        if (const CWnd* const button = GetDlgItem(id))
+        {
+            m_buttons.push_back({*button, StandardRect(PlaceInParent(*button))});
+        }
+    }
+    NoteMode();
+    return result;
+}
+
+void FlightSheet::KeepState()
+{
+    for (FlightPage& page : m_pages)
+    {
+        page.KeepState();
+    }
+}
+
+// The pages get what they need; the tabs of the mode, the buttons and the frame lie round them.
+void FlightSheet::FollowMode()
+{
+    if (GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    GetTabControl()->SetFont(&PlatformControlFont(), FALSE);
+    CRect tabs(RectInMode(m_tabs).TopLeft(), CSize(AcrossInMode(m_page.cx), DownInMode(m_page.cy)));
+    const CPoint margin = tabs.TopLeft();
+    GetTabControl()->AdjustRect(TRUE, &tabs);
+    tabs.MoveToXY(margin);
+    GetTabControl()->MoveWindow(&tabs);
+    int bottom = tabs.bottom;
+    {
+        WindowMoves moves;
+        for (FlightPage& page : m_pages)
+        {
+            if (page.GetSafeHwnd() != nullptr)
+            {
+                moves.Add(page, PageArea());
+            }
+        }
+        for (const StandardPlace& button : m_buttons)
+        {
+            CRect place = RectInMode(button.place);
+            place.MoveToXY(tabs.right - AcrossInMode(m_tabs.right - button.place.left),
+                           tabs.bottom + DownInMode(button.place.top - m_tabs.bottom));
+            moves.Add(button.window, place);
+            bottom = std::max(bottom, int(place.bottom));
+        }
+    }
+    for (FlightPage& page : m_pages)
+    {
+        if (page.GetSafeHwnd() != nullptr)
+        {
+            page.FollowMode();
+        }
+    }
+    ResizeClient(*this, CSize(tabs.right + margin.x, bottom + margin.y));
+    EnsureWndVisible(m_services, *this);
+    Invalidate();
 }

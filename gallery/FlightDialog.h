@@ -1,10 +1,13 @@
 #pragma once
 
+#include "OpenDialog.h"
+
 #include <CustomCheckBox.h>
 #include <CustomDialog.h>
 #include <CustomEdit.h>
 #include <CustomListBox.h>
 #include <CustomPropPage.h>
+#include <CustomPropSheet.h>
 #include <CustomPushbutton.h>
 #include <CustomRadiobutton.h>
 #include <CustomStatic.h>
@@ -16,7 +19,14 @@ class FlightControls
 public:
     void Attach(CWnd& dialog);
 
+    // The chosen states go along from one mode to another.
+    void KeepChecks();
+    void PutChecks();
+
 private:
+    std::vector<CCustomButton*> Choices();
+
+    std::vector<int> m_checks;
     CCustomEdit m_callsign;
     CCustomEdit m_remarks;
     CCustomCheckBox m_alternate;
@@ -28,7 +38,7 @@ private:
 };
 
 // A dialog from a template with the controls of the library. It can open another one of its kind.
-class FlightDialog : public CCustomDialog
+class FlightDialog : public CCustomDialog, private OpenDialog
 {
 public:
     // depth counts the dialogs below it.
@@ -48,10 +58,13 @@ protected:
 
 private:
     void Close(int result);
+    void KeepState() override { m_content.KeepChecks(); }
+    void FollowMode() override;
 
     IAppAccess* m_services;
     int m_depth;
     FlightControls m_content;
+    StandardLayout m_layout;
 };
 
 // A page of the gallery's property sheet.
@@ -63,7 +76,31 @@ public:
     {}
 
     BOOL OnInitDialog() override;
+    void KeepState() { m_content.KeepChecks(); }
+    void FollowMode();
 
 private:
     FlightControls m_content;
+    StandardLayout m_layout;
+};
+
+// The gallery's property sheet: three pages about a flight.
+class FlightSheet : public CCustomPropSheet, private OpenDialog
+{
+public:
+    FlightSheet(CWnd* parent, IAppAccess* host);
+
+    BOOL OnInitDialog() override;
+
+private:
+    void KeepState() override;
+    void FollowMode() override;
+    CRect PageArea() const; // in the sheet's client area
+
+    IAppAccess* m_services;
+    FlightPage m_pages[3];
+    // In pixels of the standard mode.
+    CRect m_tabs;
+    CSize m_page;
+    std::vector<StandardPlace> m_buttons;
 };

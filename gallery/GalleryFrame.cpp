@@ -2,6 +2,7 @@
 
 #include "AppIcon.h"
 #include "Look.h"
+#include "OpenDialog.h"
 #include "Pages.h"
 #include "WindowMoves.h"
 #include "resource.h"
@@ -152,6 +153,7 @@ void GalleryFrame::SwitchMode(APPMODE mode)
     {
         return;
     }
+    OpenDialog::KeepStateAll();
     SetOnBoardAppMode(mode);
     OnBoardSetSysColors(mode);
     m_list.FollowMode(mode, before);
@@ -164,6 +166,7 @@ void GalleryFrame::SwitchMode(APPMODE mode)
             page->FollowMode();
         }
     }
+    OpenDialog::FollowModeAll();
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 

@@ -1,26 +1,13 @@
 #include "GalleryPage.h"
 
 #include "Look.h"
+#include "OpenDialog.h"
 #include "WindowMoves.h"
 #include "resource.h"
 
 #include <OnBoardUIGeneral.h>
 
 namespace {
-
-// How the library scales a window's children on leaving the standard mode.
-constexpr double Down = 1.7;
-constexpr double Across = Down * 1.32;
-
-int AcrossInMode(int pixels)
-{
-    return look::Dark() ? int(pixels * Across) : pixels;
-}
-
-int DownInMode(int pixels)
-{
-    return look::Dark() ? int(pixels * Down) : pixels;
-}
 
 // A length that grows with the page once the page is larger than its design.
 int Spread(int length, int available, int designed)
@@ -95,9 +82,7 @@ void GalleryPage::FollowMode()
 
 CRect GalleryPage::InPage(const CRect& design) const
 {
-    CRect rect(AcrossInMode(design.left), DownInMode(design.top), 0, 0);
-    rect.right = rect.left + AcrossInMode(design.Width());
-    rect.bottom = rect.top + DownInMode(design.Height());
+    const CRect rect = RectInMode(design);
     if (!FillsPage())
     {
         return rect;

@@ -18,18 +18,19 @@ public:
         }
     }
 
-    void Add(const CWnd& child, const CRect& place)
+    void Add(const CWnd& child, const CRect& place) { Add(child.GetSafeHwnd(), place); }
+    void Add(HWND child, const CRect& place)
     {
         constexpr UINT Flags = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS;
         // Null once memory is short; then a child is moved by itself.
         m_moves = m_moves == nullptr
                       ? nullptr
-                      : ::DeferWindowPos(m_moves, child.GetSafeHwnd(), nullptr, place.left,
-                                         place.top, place.Width(), place.Height(), Flags);
+                      : ::DeferWindowPos(m_moves, child, nullptr, place.left, place.top,
+                                         place.Width(), place.Height(), Flags);
         if (m_moves == nullptr)
         {
-            ::SetWindowPos(child.GetSafeHwnd(), nullptr, place.left, place.top, place.Width(),
-                           place.Height(), Flags);
+            ::SetWindowPos(child, nullptr, place.left, place.top, place.Width(), place.Height(),
+                           Flags);
         }
     }
 

@@ -3,7 +3,9 @@
 #include "DisabledOwner.h"
 #include "StillThere.h"
 #include "ThreadState.h"
+#include "TypedWindows.h"
 #include "framework/App.h"
+#include "framework/TabCtrl.h"
 
 #include <algorithm>
 
@@ -181,8 +183,12 @@ CPropertyPage* CPropertySheet::GetPage(int page) const
 
 int CPropertySheet::GetActiveIndex() const
 {
-    return m_hWnd == nullptr ? int(m_psh.nStartPage)
-                             : int(::SendMessage(GetTabControl(), TCM_GETCURSEL, 0, 0));
+    return m_hWnd == nullptr ? int(m_psh.nStartPage) : GetTabControl()->GetCurSel();
+}
+
+CTabCtrl* CPropertySheet::GetTabControl() const
+{
+    return framework::WindowAs<CTabCtrl>(reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL)));
 }
 
 BOOL CPropertySheet::SetActivePage(int page)
@@ -247,7 +253,7 @@ void CPropertySheet::HideButtons()
     CRect sheet;
     GetWindowRect(&sheet);
     CRect tabs;
-    ::GetWindowRect(GetTabControl(), &tabs);
+    GetTabControl()->GetWindowRect(&tabs);
     CRect client;
     GetClientRect(&client);
     ClientToScreen(&client);

@@ -40,7 +40,7 @@ struct dialogs::SheetControls
 
     explicit SheetControls(CPropertySheet& sheet)
     {
-        tabs.SubclassWindow(sheet.GetTabControl());
+        tabs.SubclassWindow(*sheet.GetTabControl());
         for (size_t index = 0; index < std::size(ButtonIds); ++index)
         {
             buttons[index].SubclassDlgItem(ButtonIds[index], &sheet);
@@ -136,7 +136,7 @@ void CCustomPropSheet::LayOutOnBoard()
 {
     const WindowAlive alive(*this);
     const HWND sheet = GetSafeHwnd();
-    const HWND tabs = GetTabControl();
+    const HWND tabs = *GetTabControl();
     const CSize page = RescaledRect(PageArea(tabs), metrics::OnBoardScale).Size();
     dialogs::OpenOnBoard(sheet, reinterpret_cast<HFONT>(::SendMessage(sheet, WM_GETFONT, 0, 0)));
     if (!alive)

@@ -9,7 +9,7 @@
 
 namespace dialogs {
 
-BEGIN_MESSAGE_MAP(SheetTabs, CWnd)
+BEGIN_MESSAGE_MAP(SheetTabs, CTabCtrl)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
 END_MESSAGE_MAP()
@@ -30,7 +30,7 @@ void SheetTabs::OnPaint()
 
 BOOL SheetTabs::OnEraseBkgnd(CDC* dc)
 {
-    return COnBoardUIGeneral::InOnBoardMode() ? TRUE : CWnd::OnEraseBkgnd(dc);
+    return COnBoardUIGeneral::InOnBoardMode() ? TRUE : CTabCtrl::OnEraseBkgnd(dc);
 }
 
 void SheetTabs::Draw(CDC& dc)

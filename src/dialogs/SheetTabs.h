@@ -1,12 +1,12 @@
 #pragma once
 
-#include <afxwin.h>
+#include <afxcmn.h>
 
 namespace dialogs {
 
 // The tabs of a property sheet, put over the platform's: in an on-board mode it paints them in the
 // colours of dialogs, with the active one like an active caption.
-class SheetTabs : public CWnd
+class SheetTabs : public CTabCtrl
 {
 protected:
     afx_msg void OnPaint();

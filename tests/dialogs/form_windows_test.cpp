@@ -152,7 +152,7 @@ TEST_F(FormWindowsTest, ASheetOpensInTheSizeOfTheModeWithItsPages)
                 EXPECT_EQ(sheet.GetStyle() & WS_SYSMENU, 0U);
                 const CPoint strip(sizeBefore.cx, 10); // of the tabs, right of the last one
                 EXPECT_EQ(
-                    ScreenPixels(CRect(ClientPoint(*CWnd::FromHandle(sheet.GetTabControl()), strip),
+                    ScreenPixels(CRect(ClientPoint(*sheet.GetTabControl(), strip),
                                        CSize(1, 1)))
                         .At(0, 0),
                     RGB(50, 50, 50));

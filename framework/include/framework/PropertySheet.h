@@ -6,6 +6,7 @@
 #include <vector>
 
 class CPropertySheet;
+class CTabCtrl;
 
 constexpr int ID_APPLY_NOW = 0x3021;
 
@@ -64,7 +65,7 @@ public:
     CPropertyPage* GetActivePage() const { return GetPage(GetActiveIndex()); }
     int GetActiveIndex() const;
     BOOL SetActivePage(int page);
-    HWND GetTabControl() const { return reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL)); }
+    CTabCtrl* GetTabControl() const;
     void SetTitle(LPCSTR text, UINT style = 0);
 
     using CWnd::Create;
