@@ -168,6 +168,14 @@ void ButtonsPage::CreateContent()
     AddLabel("Tab and arrow keys move, the space bar presses.", Heading(0, HintTop, 3));
 }
 
+void ButtonsPage::KeepState()
+{
+    for (int chooser = 0; chooser < ChooserCount; ++chooser)
+    {
+        m_chosen[chooser] = Chooser(chooser).GetCheck();
+    }
+}
+
 void ButtonsPage::OnLaidOut()
 {
     for (int index = 0; index < ChooserCount; ++index)
@@ -187,10 +195,7 @@ void ButtonsPage::OnClicked(UINT id)
 {
     static constexpr const char* States[] = {"off", "on", "partly on"};
     const int index = int(id - FirstId);
-    for (int chooser = 0; chooser < ChooserCount; ++chooser)
-    {
-        m_chosen[chooser] = Chooser(chooser).GetCheck();
-    }
+    KeepState();
     CString text;
     text.Format("BN_CLICKED from '%s'", PlaceOf(index).caption);
     if (index < ChooserCount)

@@ -14,6 +14,7 @@ public:
     using GalleryPage::GalleryPage;
 
     void PoseForPicture() override;
+    void KeepState() override;
 
     static constexpr int CheckCount = 5;
     static constexpr int RadioCount = 11;

@@ -153,6 +153,13 @@ void GalleryFrame::SwitchMode(APPMODE mode)
     {
         return;
     }
+    for (const auto& page : m_pages)
+    {
+        if (page != nullptr)
+        {
+            page->KeepState();
+        }
+    }
     OpenDialog::KeepStateAll();
     SetOnBoardAppMode(mode);
     OnBoardSetSysColors(mode);

@@ -171,13 +171,20 @@ void LabelsPage::OnLaidOut()
     m_checkBox.SetCheck(m_checked);
 }
 
-void LabelsPage::OnClicked(UINT id)
+void LabelsPage::KeepState()
 {
-    if (id < UINT(FirstRadio + RadioCount))
+    for (int index = 0; index < RadioCount; ++index)
     {
-        m_radio = int(id - FirstRadio);
+        if (m_radios[index].GetCheck() == BST_CHECKED)
+        {
+            m_radio = index;
+        }
     }
     m_checked = m_checkBox.GetCheck();
+}
+
+void LabelsPage::OnClicked(UINT id)
+{
     CString caption;
     GetDlgItemText(int(id), caption);
     Events().ParentWasTold("BN_CLICKED from '" + caption + "'");

@@ -16,6 +16,8 @@ class LabelsPage : public GalleryPage
 public:
     using GalleryPage::GalleryPage;
 
+    void KeepState() override;
+
 protected:
     void CreateContent() override;
     void OnLaidOut() override;

@@ -119,6 +119,10 @@ void ScreenKeyboard::Hide()
     m_target = nullptr;
     if (GetSafeHwnd() != nullptr)
     {
+        if (m_pressing)
+        {
+            ::ReleaseCapture();
+        }
         KillTimer(WatchTimer);
         ShowWindow(SW_HIDE);
     }

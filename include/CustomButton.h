@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AppMode.h"
 #include "OnBoardUIExport.h"
 
 #include <afxwin.h>
@@ -99,7 +100,8 @@ protected:
     COLORREF m_background; // of the client area, on-board
 
 private:
-    bool m_spaceHeld = false; // the platform's button has taken the space key down
+    APPMODE m_trackedIn = STD; // the mode in which the press began
+    bool m_spaceHeld = false;  // the platform's button has taken the space key down
 
     bool FollowMode();
 };

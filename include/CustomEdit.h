@@ -36,8 +36,9 @@ public:
     static CFont& GetOnBoardFont();
     static CFont& GetStdFont();
 
-    // From now on a user may scroll, select and copy, and no other key does anything. There is no
-    // way back. The host still sets the text.
+    // From now on keys scroll nothing and change nothing but the clipboard, by Ctrl+C and
+    // Ctrl+Insert; the bar scrolls and the pointer selects as before. There is no way back. The host
+    // still sets the text, and in the standard mode so does the platform's context menu.
     void SetFauxReadOnly() { m_fauxReadOnly = true; }
 
     // Take the vertical bar away, and give it back to an edit that was made with one. Text that

@@ -31,5 +31,5 @@ protected:
     int m_escapePressed = 0;
 
 private:
-    bool m_keyDone = false; // the last key has had its effect
+    WPARAM m_doneCharacter = 0; // of a key that has had its effect; 0 for none
 };

@@ -1,6 +1,7 @@
 #include "BoldStatic.h"
 
 #include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 
 BEGIN_MESSAGE_MAP(CBoldStatic, CCustomStatic)
@@ -51,8 +52,9 @@ void CBoldStatic::OnPaint()
 
 LRESULT CBoldStatic::OnLookChanged(WPARAM, LPARAM)
 {
+    const WindowAlive alive(*this); // the parent is told
     const LRESULT result = Default();
-    if (IsWindowVisible())
+    if (alive && IsWindowVisible())
     {
         // The label has no ground of its own: what it stands on takes the old text away.
         CRect place;

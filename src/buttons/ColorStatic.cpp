@@ -1,5 +1,7 @@
 #include "ColorStatic.h"
 
+#include "modes/WindowAlive.h"
+
 BEGIN_MESSAGE_MAP(CColorStatic, CStatic)
     ON_WM_PAINT()
     ON_WM_ENABLE()
@@ -28,6 +30,10 @@ void CColorStatic::OnPaint()
 // The platform's label draws itself at once.
 void CColorStatic::OnEnable(BOOL enable)
 {
+    const WindowAlive alive(*this); // the parent is told
     CStatic::OnEnable(enable);
-    Invalidate();
+    if (alive)
+    {
+        Invalidate();
+    }
 }

@@ -1,6 +1,7 @@
 #include "ColoredGroupBox.h"
 
 #include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 
@@ -41,6 +42,10 @@ void CColoredGroupBox::OnPaint()
 // The platform's label draws itself at once.
 void CColoredGroupBox::OnEnable(BOOL enable)
 {
+    const WindowAlive alive(*this); // the parent is told
     CStatic::OnEnable(enable);
-    Invalidate();
+    if (alive)
+    {
+        Invalidate();
+    }
 }

@@ -52,8 +52,13 @@ void MakeOnce(CPen& pen, int (*create)(CPen&, unsigned long), COLORREF color)
     }
 }
 
-bool IsInDisabledWindow(HWND window)
+// Hidden or disabled, by itself or with a window above it.
+bool IsOutOfReach(HWND window)
 {
+    if (!::IsWindowVisible(window))
+    {
+        return true;
+    }
     while ((::GetWindowLongPtr(window, GWL_STYLE) & WS_CHILD) != 0)
     {
         window = ::GetParent(window);
@@ -80,12 +85,12 @@ CCustomButton::CCustomButton()
 CCustomButton::~CCustomButton() = default;
 
 // Returns whether the mode is on-board, the first question of every handler. A press ends here that
-// a change to the standard mode or a disabled parent has cut off: neither sends the button a
+// a change of the mode or a hidden or disabled parent has cut off: none of them sends the button a
 // message.
 bool CCustomButton::FollowMode()
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if (m_tracking && (!onBoard || IsInDisabledWindow(m_hWnd)))
+    if (m_tracking && (COnBoardUIGeneral::GetAppMode() != m_trackedIn || IsOutOfReach(m_hWnd)))
     {
         EndTracking();
     }
@@ -141,7 +146,7 @@ void CCustomButton::StartTracking()
     }
     // Whoever loses the focus may do anything to the button, and then the press is none.
     const auto circumstances = [this] {
-        return std::tuple(COnBoardUIGeneral::InOnBoardMode(), IsWindowEnabled(), IsWindowVisible());
+        return std::tuple(COnBoardUIGeneral::GetAppMode(), IsWindowEnabled(), IsWindowVisible());
     };
     const auto before = circumstances();
     const WindowAlive alive(*this);
@@ -152,6 +157,7 @@ void CCustomButton::StartTracking()
     }
     SetCapture();
     m_tracking = true;
+    m_trackedIn = COnBoardUIGeneral::GetAppMode();
     m_pressed = true;
     if (COnBoardUIGeneral::InOnBoardMode())
     {
@@ -254,8 +260,7 @@ void CCustomButton::DrawRCText(CDC& dc, const CRect& item, const CRect& mark)
         const Selected pen(dc, m_FocusPen);
         dc.Rectangle(buttons::FocusFrame(caption));
     }
-    // A letter may reach a little beyond its measured width; only the window cuts a caption.
-    dc.DrawText(text, &caption, format | DT_NOCLIP);
+    dc.DrawText(text, &caption, format);
 }
 
 void CCustomButton::OnDestroy()

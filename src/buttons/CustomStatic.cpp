@@ -196,6 +196,10 @@ BOOL CCustomStatic::OnEraseBkgnd(CDC* dc)
     {
         return BOOL(Default());
     }
+    if (dc == nullptr)
+    {
+        return TRUE;
+    }
     CRect own;
     GetWindowRect(&own);
     std::vector<CWnd*> controls;

@@ -7,6 +7,8 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
+
 namespace buttons {
 
 constexpr int GroupCaptionInset = 10; // from the left edge, and at least as much to the right one
@@ -29,6 +31,9 @@ inline CRect InsideBorder(const CRect& client, CSize edge)
 {
     CRect inside(client);
     inside.DeflateRect(metrics::Border - edge.cx, metrics::Border - edge.cy);
+    // A window of no more than its border has an empty client area, not a reversed one.
+    inside.right = std::max(inside.left, inside.right);
+    inside.bottom = std::max(inside.top, inside.bottom);
     return inside;
 }
 

@@ -36,7 +36,10 @@ void ColorEdit::ShowColors()
 
 HBRUSH ColorEdit::CtlColor(CDC* dc, UINT)
 {
-    dc->SetBkColor(m_backgroundColor);
-    dc->SetTextColor(m_textColor);
+    if (dc != nullptr)
+    {
+        dc->SetBkColor(m_backgroundColor);
+        dc->SetTextColor(m_textColor);
+    }
     return m_brush;
 }

@@ -86,10 +86,14 @@ CFont& CCustomEdit::GetStdFont()
 void CCustomEdit::PreSubclassWindow()
 {
     CEdit::PreSubclassWindow();
-    if (!m_initialised)
-    {
-        Init();
-    }
+    // An object may get another window, and whatever the last one was in the middle of is over.
+    m_initialised = m_firstUpdateDone = false;
+    m_onBoard = m_following = m_updating = false;
+    m_barShown = m_wantsBar = false;
+    m_scrolling = m_leaveRequested = false;
+    m_lastHit = CFauxScrollBar::PRESSED_NONE;
+    m_bar.ShowScrollBar(FALSE);
+    Init();
     // An edit that exists already gets no message by which it would notice the mode.
     if (COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
     {
@@ -296,8 +300,8 @@ void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)
     const WindowAlive alive(*this);
     CEdit::OnStyleChanged(which, styles);
     constexpr DWORD bars = WS_VSCROLL | WS_HSCROLL;
-    const bool barsOnly =
-        which == GWL_STYLE && ((styles->styleOld ^ styles->styleNew) & ~bars) == 0;
+    const bool barsOnly = which == GWL_STYLE && styles != nullptr &&
+                          ((styles->styleOld ^ styles->styleNew) & ~bars) == 0;
     // Bars come and go without the text having changed.
     if (barsOnly || !alive || m_following || !FollowMode() || m_updating)
     {

@@ -121,6 +121,11 @@ void CCustomEdit::EndTracking()
 void CCustomEdit::OnNcLButtonUp(UINT, CPoint)
 {
     const WindowAlive alive(*this);
+    if (DraggingThumb())
+    {
+        // The bar has positions past the end of the text; the text is on its way to its end.
+        m_bar.SetScrollPos(std::min(m_bar.GetScrollPos(), m_lastTop));
+    }
     EndTracking();
     if (FollowMode())
     {
@@ -313,7 +318,8 @@ void CCustomEdit::OnChar(UINT character, UINT repeat, UINT flags)
 
 void CCustomEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    const bool copies = ControlDown() && (key == 'C' || key == VK_INSERT);
+    const bool copies =
+        ControlDown() && (key == 'C' || (key == VK_INSERT && ::GetKeyState(VK_SHIFT) >= 0));
     if (m_fauxReadOnly && !copies && key != VK_CONTROL)
     {
         return;

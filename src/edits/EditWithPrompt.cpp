@@ -25,6 +25,7 @@ void EditWithPrompt::PreSubclassWindow()
     {
         m_brush.CreateSolidBrush(::GetSysColor(COLOR_WINDOW));
     }
+    m_showingPrompt = m_prompt.IsEmpty() ? 0 : 1; // each window of the object begins with it
     if (m_showingPrompt)
     {
         // The messages are not ours yet: an edit that exists takes them as any text and selection,
@@ -195,6 +196,10 @@ HBRUSH EditWithPrompt::CtlColor(CDC* dc, UINT kind)
     if (!m_showingPrompt && kind == CTLCOLOR_STATIC)
     {
         return nullptr; // a disabled edit looks as its parent has it
+    }
+    if (dc == nullptr)
+    {
+        return m_brush;
     }
     dc->SetBkColor(::GetSysColor(COLOR_WINDOW));
     dc->SetTextColor(m_showingPrompt ? m_promptColor : ::GetSysColor(COLOR_WINDOWTEXT));

@@ -33,6 +33,9 @@ UINT ClipboardMessageOf(WPARAM key)
     }
 }
 
+// Of a letter's code; what is left is the character of that key with Ctrl.
+constexpr WPARAM ControlBits = 0x1F;
+
 } // namespace
 
 void QuixEdit::SetFixedPlace(int x, int y, int width)
@@ -62,7 +65,7 @@ BOOL QuixEdit::PreTranslateMessage(MSG* message)
     {
         m_escapePressed = message->wParam == VK_ESCAPE;
         const UINT clipboard = ClipboardMessageOf(message->wParam);
-        m_keyDone = clipboard != 0;
+        m_doneCharacter = clipboard != 0 ? message->wParam & ControlBits : 0;
         if (clipboard != 0)
         {
             const WindowAlive alive(*this);
@@ -73,10 +76,11 @@ BOOL QuixEdit::PreTranslateMessage(MSG* message)
             }
         }
     }
-    else if (message->message == WM_CHAR && m_keyDone && message->wParam < ' ')
+    else if (message->message == WM_CHAR && m_doneCharacter != 0 &&
+             message->wParam == m_doneCharacter)
     {
         // The character of the same key would paste, or undo, a second time.
-        m_keyDone = false;
+        m_doneCharacter = 0;
         return TRUE;
     }
     return CEdit::PreTranslateMessage(message);

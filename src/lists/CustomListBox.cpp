@@ -111,6 +111,7 @@ CFont& CCustomListBox::GetStdFont()
 void CCustomListBox::PreSubclassWindow()
 {
     CListBox::PreSubclassWindow();
+    m_onBoard = m_following = false; // an object may get another window
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
     // A list box that exists already gets no message by which it would notice the mode.
     if (COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
