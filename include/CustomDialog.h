@@ -129,11 +129,13 @@ protected:
     bool m_showEntire = false; // while it is dragged, all of the dialog stays in the host's area
 
 private:
-    bool m_frameActive = true; // as the system said last
-    DWORD m_takenStyles = 0;   // of the platform's caption, to be given back
+    bool m_initialising = false; // and scales the children at the end of that
+    bool m_frameActive = true;   // as the system said last
+    DWORD m_takenStyles = 0;     // of the platform's caption, to be given back
     std::unique_ptr<dialogs::ControlList> m_controlList;
 
     void MiscConstruction();
+    HFONT StandardFont() const;
     BOOL CreateFrom(LPCSTR templateName, CWnd* parent);
     INT_PTR DoModalOB();
 };

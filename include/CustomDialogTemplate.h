@@ -47,6 +47,9 @@ public:
     const std::vector<Control>& Controls() const { return m_controls; }
     HFONT StandardFont() const;
 
+    // Where the template was found; null for one from memory.
+    HINSTANCE Module() const { return m_module; }
+
     // The template, for creating a dialog from it, or null for none. While it is locked it neither
     // moves nor changes. Each Lock needs its Unlock.
     LPCDLGTEMPLATE Lock();
@@ -56,6 +59,7 @@ private:
     std::vector<std::byte> m_bytes;
     std::vector<Control> m_controls;
     CFont m_standardFont; // without a handle for the system font
+    HINSTANCE m_module = nullptr;
     bool m_rewritten = false;
     int m_locks = 0;
 

@@ -14,8 +14,8 @@ class ControlList;
 }
 
 // A form view that follows the display mode: registered from construction to destruction, it
-// rescales and restyles its children when the mode changes or when it is created in an on-board
-// mode.
+// rescales and restyles its children, and the range that it scrolls, when the mode changes or when
+// it is created in an on-board mode. Both begin at the top again then.
 class ONBOARDUI_API CCustomFormView : public CFormView
 {
     DECLARE_DYNAMIC(CCustomFormView)
@@ -35,6 +35,7 @@ protected:
     explicit CCustomFormView(LPCSTR templateName);
     explicit CCustomFormView(UINT templateId);
 
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     DECLARE_MESSAGE_MAP()
 
@@ -43,4 +44,6 @@ protected:
 private:
     std::unique_ptr<dialogs::ControlList> m_controlList;
     bool m_restyled = false; // the controls are those of the mode
+
+    void ScaleScrollRange(double scale);
 };

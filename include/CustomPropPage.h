@@ -31,6 +31,8 @@ public:
     BOOL OnInitDialog() override;
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     DECLARE_MESSAGE_MAP()
 
@@ -38,4 +40,5 @@ protected:
 
 private:
     std::unique_ptr<dialogs::ControlList> m_controlList;
+    bool m_initialising = false; // and scales the children at the end of that
 };

@@ -35,6 +35,8 @@ public:
     // left to its owner.
     void AppModeChanged(APPMODE newMode, APPMODE oldMode);
 
+    // Puts the on-board look over the platform's tabs and buttons. A derived class that has objects
+    // of its own for them attaches those first.
     BOOL OnInitDialog() override;
     INT_PTR DoModal() override;
 
@@ -68,9 +70,10 @@ protected:
     bool m_showEntire = false;  // while it is dragged, all of it stays in the host's area
 
 private:
-    bool m_laidOut = false;    // by the platform, with its own frame; ours comes after
-    bool m_frameActive = true; // as the system said last
-    DWORD m_takenStyles = 0;   // of the platform's caption, to be given back
+    bool m_initialising = false; // and scales the children at the end of that
+    bool m_laidOut = false;      // by the platform, with its own frame; ours comes after
+    bool m_frameActive = true;   // as the system said last
+    DWORD m_takenStyles = 0;     // of the platform's caption, to be given back
     std::unique_ptr<dialogs::SheetControls> m_sheetControls; // the platform's, with our look
 
     void Construct();

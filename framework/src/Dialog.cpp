@@ -40,6 +40,32 @@ HGLOBAL LoadTemplate(LPCSTR name, HINSTANCE& module)
     return found == nullptr ? nullptr : ::LoadResource(module, found);
 }
 
+// A template in global memory, which may move, or in a loaded resource.
+class TemplateMemory
+{
+public:
+    explicit TemplateMemory(HGLOBAL handle)
+        : m_handle(handle != nullptr && ::GlobalSize(handle) != 0 ? handle : nullptr)
+        , m_template(static_cast<LPCDLGTEMPLATE>(m_handle != nullptr ? ::GlobalLock(m_handle)
+                                                                     : ::LockResource(handle)))
+    {}
+    TemplateMemory(const TemplateMemory&) = delete;
+    TemplateMemory& operator=(const TemplateMemory&) = delete;
+    ~TemplateMemory()
+    {
+        if (m_handle != nullptr)
+        {
+            ::GlobalUnlock(m_handle);
+        }
+    }
+
+    LPCDLGTEMPLATE Get() const { return m_template; }
+
+private:
+    HGLOBAL m_handle; // null for a resource
+    LPCDLGTEMPLATE m_template;
+};
+
 } // namespace
 
 INT_PTR CALLBACK CDialog::DialogProc(HWND dialog, UINT message, WPARAM, LPARAM)
@@ -96,8 +122,8 @@ BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* 
 
 BOOL CDialog::CreateIndirect(HGLOBAL dialogTemplate, CWnd* parent)
 {
-    return CreateIndirect(static_cast<LPCDLGTEMPLATE>(::LockResource(dialogTemplate)), parent,
-                          nullptr);
+    const TemplateMemory memory(dialogTemplate);
+    return CreateIndirect(memory.Get(), parent, nullptr);
 }
 
 BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* initData)
@@ -113,15 +139,17 @@ BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, voi
 
 BOOL CDialog::InitModalIndirect(HGLOBAL dialogTemplate, CWnd* parent)
 {
-    m_hDialogTemplate = dialogTemplate;
-    return InitModalIndirect(static_cast<LPCDLGTEMPLATE>(::LockResource(dialogTemplate)), parent,
-                             nullptr);
+    m_hDialogTemplate = dialogTemplate; // locked while the dialog runs
+    InitModalIndirect(LPCDLGTEMPLATE(nullptr), parent, nullptr);
+    return dialogTemplate != nullptr;
 }
 
 INT_PTR CDialog::DoModal()
 {
     HINSTANCE module = nullptr;
-    LPCDLGTEMPLATE dialogTemplate = m_lpDialogTemplate;
+    const TemplateMemory memory(m_hDialogTemplate);
+    LPCDLGTEMPLATE dialogTemplate =
+        m_lpDialogTemplate != nullptr ? m_lpDialogTemplate : memory.Get();
     if (m_lpszTemplateName != nullptr)
     {
         dialogTemplate =

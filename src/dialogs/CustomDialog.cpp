@@ -8,7 +8,6 @@
 #include "dialogs/ControlList.h"
 #include "dialogs/OnBoardFrame.h"
 #include "dialogs/Opening.h"
-#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 
 IMPLEMENT_DYNAMIC(CCustomDialog, CDialog)
@@ -86,7 +85,14 @@ std::vector<CWnd*>& CCustomDialog::GetControls()
 
 void CCustomDialog::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
-    dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles);
+    dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles, {StandardFont(), m_initialising});
+}
+
+// What the controls have in the standard mode, unless they were given another.
+HFONT CCustomDialog::StandardFont() const
+{
+    return m_opening != nullptr ? m_opening->Template().StandardFont()
+                                : dialogs::ChildrenOf(*this, false).standardFont;
 }
 
 BOOL CCustomDialog::OnInitDialog()
@@ -98,14 +104,10 @@ BOOL CCustomDialog::OnInitDialog()
         return TRUE;
     }
     m_showEntire = GetSpecialConfigVal("Dialog", "ShowEntireDialog", 0) != 0;
-    if (m_opening != nullptr)
+    m_initialising = false;
     {
         const std::shared_ptr<dialogs::Opening> opening = m_opening; // the dialog may go meanwhile
-        dialogs::OpenOnBoard(GetSafeHwnd(), opening->Template().StandardFont());
-    }
-    else
-    {
-        RestyleNewWindow(GetSafeHwnd());
+        dialogs::OpenOnBoard(GetSafeHwnd(), StandardFont());
     }
     if (alive)
     {
@@ -130,6 +132,19 @@ template <class... From> OpeningPtr OpenFrom(From... from)
     auto opening = std::make_shared<dialogs::Opening>();
     CCustomDialogTemplate& source = opening->Template();
     return source.Load(from...) && source.ChangeTemplateForOB() ? opening : nullptr;
+}
+
+// From global memory, which may move, or from a loaded resource.
+OpeningPtr OpenFromHandle(HGLOBAL memory)
+{
+    const size_t bytes = memory == nullptr ? 0 : ::GlobalSize(memory);
+    if (bytes == 0)
+    {
+        return OpenFrom(static_cast<LPCDLGTEMPLATE>(::LockResource(memory)));
+    }
+    const OpeningPtr opening = OpenFrom<const void*>(::GlobalLock(memory), bytes);
+    ::GlobalUnlock(memory);
+    return opening;
 }
 
 } // namespace
@@ -168,13 +183,11 @@ BOOL CCustomDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, 
 
 BOOL CCustomDialog::CreateIndirect(HGLOBAL dialogTemplate, CWnd* parent)
 {
-    const void* const memory = ::LockResource(dialogTemplate);
-    const size_t bytes = ::GlobalSize(dialogTemplate); // 0 for a resource
-    if (!COnBoardUIGeneral::InOnBoardMode() || bytes == 0)
+    if (!COnBoardUIGeneral::InOnBoardMode())
     {
         return CDialog::CreateIndirect(dialogTemplate, parent);
     }
-    const OpeningPtr opening = OpenFrom(memory, bytes);
+    const OpeningPtr opening = OpenFromHandle(dialogTemplate);
     m_opening = opening;
     return CreateDlgIndirect(opening == nullptr ? nullptr : opening->Template().Lock(), parent,
                              nullptr);
@@ -184,17 +197,27 @@ BOOL CCustomDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* paren
                                       HINSTANCE instance)
 {
     OpeningPtr opening = m_opening;
-    if (COnBoardUIGeneral::InOnBoardMode() && (opening == nullptr || !opening->IsPending()))
+    if (opening == nullptr || !opening->IsPending())
     {
-        opening = OpenFrom(dialogTemplate);
+        const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+        opening = onBoard ? OpenFrom(dialogTemplate) : nullptr;
         m_opening = opening;
-        dialogTemplate = opening == nullptr ? nullptr : opening->Template().Lock();
+        if (onBoard)
+        {
+            dialogTemplate = opening == nullptr ? nullptr : opening->Template().Lock();
+        }
     }
     if (dialogTemplate == nullptr)
     {
         PostNcDestroy();
         return FALSE;
     }
+    if (instance == nullptr && opening != nullptr)
+    {
+        // Its pictures and window classes are looked for where the template was.
+        instance = opening->Template().Module();
+    }
+    m_initialising = true; // what the mode does to controls on their way is done at their end
     const BOOL created = CDialog::CreateDlgIndirect(dialogTemplate, parent, instance);
     if (opening != nullptr)
     {
@@ -206,9 +229,9 @@ BOOL CCustomDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* paren
 
 LRESULT CCustomDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const WindowAlive alive(*this);
     if (message == WM_INITDIALOG && m_opening != nullptr && m_opening->IsPending())
     {
-        const WindowAlive alive(*this);
         const OpeningPtr opening = m_opening;
         opening->End();
         opening->PlaceControls(GetSafeHwnd());
@@ -221,9 +244,15 @@ LRESULT CCustomDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_opening.reset();
         m_takenStyles = 0;
+        m_initialising = false;
         m_frameActive = true;
     }
-    return CDialog::WindowProc(message, wParam, lParam);
+    const LRESULT result = CDialog::WindowProc(message, wParam, lParam);
+    if (message == WM_INITDIALOG && alive)
+    {
+        m_initialising = false; // also when a derived class leaves our part out
+    }
+    return result;
 }
 
 int CCustomDialog::OnCreate(LPCREATESTRUCT cs)
@@ -232,7 +261,7 @@ int CCustomDialog::OnCreate(LPCREATESTRUCT cs)
     const int result = CDialog::OnCreate(cs);
     if (result != -1 && alive)
     {
-        m_takenStyles = dialogs::TakePlatformCaption(*this);
+        dialogs::TakePlatformCaption(*this, m_takenStyles);
     }
     return result;
 }
@@ -261,8 +290,10 @@ INT_PTR CCustomDialog::DoModalOB()
 {
     const LPCSTR name = m_lpszTemplateName;
     const LPCDLGTEMPLATE memory = m_lpDialogTemplate;
-    const OpeningPtr opening =
-        name != nullptr ? OpenFrom(name, HINSTANCE(nullptr)) : OpenFrom(memory);
+    const OpeningPtr opening = name != nullptr                ? OpenFrom(name, HINSTANCE(nullptr))
+                               : memory != nullptr            ? OpenFrom(memory)
+                               : m_hDialogTemplate != nullptr ? OpenFromHandle(m_hDialogTemplate)
+                                                              : nullptr;
     if (opening == nullptr)
     {
         return -1;

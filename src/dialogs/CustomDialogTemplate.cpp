@@ -14,6 +14,9 @@ namespace {
 constexpr int UnitsAcross = 4;
 constexpr int UnitsDown = 8;
 
+// In place of a dialog's left side: the platform chooses where it opens. No length.
+constexpr short DefaultPosition = SHRT_MIN;
+
 // What the platform makes of a font in a template: pixels of an average character, and the font.
 struct DialogFont
 {
@@ -125,6 +128,7 @@ void CCustomDialogTemplate::Clear()
     m_bytes.clear();
     m_controls.clear();
     m_standardFont.DeleteObject();
+    m_module = nullptr;
     m_rewritten = false;
 }
 
@@ -136,7 +140,12 @@ bool CCustomDialogTemplate::Load(LPCSTR name, HINSTANCE module)
         module != nullptr || name == nullptr ? module : AfxFindResourceHandle(name, RT_DIALOG);
     const HRSRC found = name == nullptr ? nullptr : ::FindResource(from, name, RT_DIALOG);
     const HGLOBAL loaded = found == nullptr ? nullptr : ::LoadResource(from, found);
-    return Load(::LockResource(loaded), found == nullptr ? 0 : ::SizeofResource(from, found));
+    if (!Load(::LockResource(loaded), found == nullptr ? 0 : ::SizeofResource(from, found)))
+    {
+        return false;
+    }
+    m_module = from;
+    return true;
 }
 
 bool CCustomDialogTemplate::Load(UINT id, HINSTANCE module)
@@ -202,7 +211,13 @@ bool CCustomDialogTemplate::ChangeTemplateForOB()
     const CSize growth = dialogs::OnBoardFrameGrowth(
         layout->style & ~(control ? DWORD(WS_CAPTION | WS_SYSMENU) : 0),
         layout->exStyle | ((layout->style & DS_MODALFRAME) != 0 ? WS_EX_DLGMODALFRAME : 0));
+    const dialogs::TemplatePlace before = layout->place;
     layout->place = InUnits(place, larger);
+    if (before.x == DefaultPosition)
+    {
+        layout->place.x = before.x;
+        layout->place.y = before.y;
+    }
     if (place.Width() > 0)
     {
         layout->place.cx = CoveringUnits(LONGLONG(client.cx) + growth.cx, larger.cx, UnitsAcross);

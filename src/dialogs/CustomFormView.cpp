@@ -3,13 +3,16 @@
 #include "OnBoardUIGeneral.h"
 #include "dialogs/ControlList.h"
 #include "dialogs/OnBoardFrame.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
+#include "paint/Metrics.h"
 
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CCustomFormView, CFormView)
 
 BEGIN_MESSAGE_MAP(CCustomFormView, CFormView)
+    ON_WM_CREATE()
     ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
@@ -45,8 +48,23 @@ void CCustomFormView::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     if (m_restyled || oldMode == STD)
     {
         m_restyled = true;
-        dialogs::FollowMode(*this, newMode, oldMode);
+        const WindowAlive alive(*this);
+        ScrollToPosition(CPoint(0, 0)); // children are scaled from the form's corner
+        if (alive)
+        {
+            dialogs::FollowMode(*this, newMode, oldMode, dialogs::ChildrenOf(*this, false));
+        }
+        if (alive)
+        {
+            ScaleScrollRange(ModeScale(newMode, oldMode));
+        }
     }
+}
+
+// The range is that of the controls.
+void CCustomFormView::ScaleScrollRange(double scale)
+{
+    SetScrollSizes(MM_TEXT, RescaledRect(CRect(CPoint(0, 0), GetTotalSize()), scale).Size());
 }
 
 void CCustomFormView::OnInitialUpdate()
@@ -61,11 +79,21 @@ void CCustomFormView::OnInitialUpdate()
     if (!std::exchange(m_restyled, true))
     {
         dialogs::OpenForm(*this, *m_controlList, m_controls);
+        if (alive && COnBoardUIGeneral::InOnBoardMode())
+        {
+            ScaleScrollRange(metrics::OnBoardScale);
+        }
     }
     else
     {
         dialogs::ListControls(GetSafeHwnd(), *m_controlList, m_controls);
     }
+}
+
+int CCustomFormView::OnCreate(LPCREATESTRUCT cs)
+{
+    m_restyled = false; // an object may get another window
+    return CFormView::OnCreate(cs);
 }
 
 std::vector<CWnd*>& CCustomFormView::GetControls()

@@ -26,7 +26,7 @@ CCustomPropPage::~CCustomPropPage()
 
 void CCustomPropPage::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
-    dialogs::FollowMode(*this, newMode, oldMode);
+    dialogs::FollowMode(*this, newMode, oldMode, dialogs::ChildrenOf(*this, m_initialising));
 }
 
 BOOL CCustomPropPage::OnInitDialog()
@@ -35,9 +35,22 @@ BOOL CCustomPropPage::OnInitDialog()
     CPropertyPage::OnInitDialog();
     if (alive)
     {
+        m_initialising = false;
         dialogs::OpenForm(*this, *m_controlList, m_controls);
     }
     return TRUE;
+}
+
+LRESULT CCustomPropPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WindowAlive alive(*this);
+    m_initialising = m_initialising || message == WM_INITDIALOG;
+    const LRESULT result = CPropertyPage::WindowProc(message, wParam, lParam);
+    if (alive && message == WM_INITDIALOG)
+    {
+        m_initialising = false;
+    }
+    return result;
 }
 
 std::vector<CWnd*>& CCustomPropPage::GetControls()

@@ -83,7 +83,8 @@ CCustomPropSheet::~CCustomPropSheet()
 
 void CCustomPropSheet::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
-    dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles);
+    dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles,
+                        dialogs::ChildrenOf(*this, m_initialising));
 }
 
 BOOL CCustomPropSheet::OnInitDialog()
@@ -93,6 +94,7 @@ BOOL CCustomPropSheet::OnInitDialog()
     if (alive)
     {
         m_showEntire = GetSpecialConfigVal("Dialog", "ShowEntireDialog", 0) != 0;
+        m_initialising = false;
         m_laidOut = true;
         m_sheetControls = std::make_unique<dialogs::SheetControls>(*this);
         if (COnBoardUIGeneral::InOnBoardMode())
@@ -138,7 +140,7 @@ void CCustomPropSheet::LayOutOnBoard()
     const HWND sheet = GetSafeHwnd();
     const HWND tabs = *GetTabControl();
     const CSize page = RescaledRect(PageArea(tabs), metrics::OnBoardScale).Size();
-    dialogs::OpenOnBoard(sheet, reinterpret_cast<HFONT>(::SendMessage(sheet, WM_GETFONT, 0, 0)));
+    dialogs::OpenOnBoard(sheet, dialogs::ChildrenOf(*this, false).standardFont);
     if (!alive)
     {
         return;
@@ -149,13 +151,17 @@ void CCustomPropSheet::LayOutOnBoard()
     const CSize more(std::max(0, int(page.cx) - pageBefore.Width()),
                      std::max(0, int(page.cy) - pageBefore.Height()));
     Place(tabs, CRect(tabsBefore.TopLeft(), tabsBefore.Size() + more));
+    if (!alive)
+    {
+        return;
+    }
     const auto shown = reinterpret_cast<HWND>(SendMessage(PSM_GETCURRENTPAGEHWND));
     if (shown != nullptr)
     {
         Place(shown, PageArea(tabs));
     }
     CSize extent = PlaceOf(tabs).BottomRight() - CPoint(0, 0);
-    for (HWND child = ::GetWindow(sheet, GW_CHILD); child != nullptr;
+    for (HWND child = ::GetWindow(sheet, GW_CHILD); alive && child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT))
     {
         CRect place = PlaceOf(child);
@@ -175,7 +181,14 @@ void CCustomPropSheet::LayOutOnBoard()
         }
     }
 
-    m_takenStyles = dialogs::TakePlatformCaption(*this);
+    if (alive)
+    {
+        dialogs::TakePlatformCaption(*this, m_takenStyles);
+    }
+    if (!alive)
+    {
+        return;
+    }
     CRect frame;
     GetWindowRect(&frame);
     CRect client;
@@ -213,7 +226,14 @@ LRESULT CCustomPropSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         m_takenStyles = 0;
         m_frameActive = true;
     }
-    return CPropertySheet::WindowProc(message, wParam, lParam);
+    const WindowAlive alive(*this);
+    m_initialising = message == WM_INITDIALOG || (m_initialising && message != WM_NCDESTROY);
+    const LRESULT result = CPropertySheet::WindowProc(message, wParam, lParam);
+    if (alive && message == WM_INITDIALOG)
+    {
+        m_initialising = false;
+    }
+    return result;
 }
 
 HBRUSH CCustomPropSheet::OnCtlColor(CDC* dc, CWnd* control, UINT kind)

@@ -16,6 +16,8 @@
 #include "paint/Palette.h"
 #include "scroll/NcBands.h"
 
+#include <utility>
+
 namespace dialogs {
 
 // Shared objects --------------------------------------------------------------------------------
@@ -60,22 +62,62 @@ void CreateSharedObjects()
 
 // Frame -----------------------------------------------------------------------------------------
 
-DWORD TakePlatformCaption(CWnd& window)
+void TakePlatformCaption(CWnd& window, DWORD& taken)
 {
+    taken = 0;
     if (!COnBoardUIGeneral::InOnBoardMode())
     {
-        return 0;
+        return;
     }
-    constexpr DWORD styles = WS_CAPTION | WS_MINIMIZEBOX | WS_SYSMENU;
-    const DWORD taken = window.GetStyle() & styles;
-    window.ModifyStyle(WS_CAPTION, 0);
-    window.ModifyStyle(WS_MINIMIZEBOX, 0);
-    window.ModifyStyle(WS_SYSMENU, 0);
+    constexpr DWORD styles[] = {WS_CAPTION, WS_MINIMIZEBOX, WS_SYSMENU};
+    for (const DWORD style : styles)
+    {
+        taken |= window.GetStyle() & style;
+    }
+    const WindowAlive alive(window);
+    for (const DWORD style : styles)
+    {
+        window.ModifyStyle(style, 0);
+        if (!alive)
+        {
+            return;
+        }
+    }
     scroll::RecalculateFrame(window);
-    return taken;
 }
 
-void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken)
+Children ChildrenOf(const CWnd& window, bool scaledLater)
+{
+    Children children;
+    children.scaledLater = scaledLater;
+    if (window.GetSafeHwnd() != nullptr)
+    {
+        children.standardFont =
+            reinterpret_cast<HFONT>(::SendMessage(window.GetSafeHwnd(), WM_GETFONT, 0, 0));
+    }
+    return children;
+}
+
+namespace {
+
+// Gives the direct children that have one font another.
+void SwapFonts(HWND window, HFONT from, HFONT to)
+{
+    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;)
+    {
+        const HWND next = ::GetWindow(child, GW_HWNDNEXT);
+        if (reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == from)
+        {
+            ::SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(to), FALSE);
+        }
+        child = ::IsWindow(next) ? next : nullptr;
+    }
+}
+
+} // namespace
+
+void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
+                const Children& children)
 {
     const HWND handle = window.GetSafeHwnd();
     if (newMode == oldMode || handle == nullptr)
@@ -86,10 +128,21 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken)
     if (!COnBoardUIGeneral::InOnBoardMode() && taken != 0)
     {
         // Or nothing would be left to move or close it by.
-        window.ModifyStyle(0, taken);
-        taken = 0;
+        window.ModifyStyle(0, std::exchange(taken, 0));
     }
-    RestyleChildren(handle, newMode, oldMode);
+    if (alive && !children.scaledLater)
+    {
+        RestyleChildren(handle, newMode, oldMode);
+        const HFONT onBoard = CCustomDialog::m_OBStaticTextFont;
+        if (alive && oldMode == STD)
+        {
+            SwapFonts(handle, children.standardFont, onBoard);
+        }
+        else if (alive && newMode == STD)
+        {
+            SwapFonts(handle, onBoard, children.standardFont);
+        }
+    }
     if (alive)
     {
         scroll::RecalculateFrame(window);
@@ -101,10 +154,10 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken)
     }
 }
 
-void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode)
+void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, const Children& children)
 {
     DWORD none = 0;
-    FollowMode(window, newMode, oldMode, none);
+    FollowMode(window, newMode, oldMode, none, children);
 }
 
 CSize OnBoardFrameGrowth(DWORD style, DWORD exStyle)
@@ -195,9 +248,9 @@ void DrawOnBoardFrame(CWnd& window, int captionHeight, bool active, bool centred
 
 namespace {
 
-HBRUSH FieldColors(CDC& dc, const CWnd& control)
+HBRUSH FieldColors(CDC& dc, HWND control)
 {
-    const bool enabled = control.IsWindowEnabled() != FALSE;
+    const bool enabled = ::IsWindowEnabled(control) != FALSE;
     dc.SetTextColor(enabled ? palette::FieldText : palette::FieldTextDisabled);
     dc.SetBkColor(enabled ? palette::Field : palette::FieldDisabled);
     return enabled ? CCustomDialog::m_BkEditBrush : CCustomDialog::m_BkEditDisabledBrush;
@@ -215,10 +268,10 @@ HBRUSH LabelColors(CDC& dc)
 }
 
 // A read-only or disabled edit asks with the message of labels.
-bool IsField(const CWnd& control)
+bool IsField(HWND control)
 {
     char name[16] = "";
-    ::GetClassName(control.GetSafeHwnd(), name, int(sizeof(name)));
+    ::GetClassName(control, name, int(sizeof(name)));
     return ::lstrcmpi(name, "Edit") == 0;
 }
 
@@ -239,13 +292,14 @@ std::optional<HBRUSH> OnBoardColors(CDC* dc, CWnd* control, UINT kind)
     {
         return std::nullopt;
     }
+    const HWND window = control->GetSafeHwnd(); // its own answer may end the object
     LRESULT own = 0;
     if (control->SendChildNotifyLastMsg(&own) && own != 0)
     {
         return reinterpret_cast<HBRUSH>(own);
     }
-    return kind == CTLCOLOR_STATIC && !IsField(*control) ? LabelColors(*dc)
-                                                         : FieldColors(*dc, *control);
+    return kind == CTLCOLOR_STATIC && !IsField(window) ? LabelColors(*dc)
+                                                       : FieldColors(*dc, window);
 }
 
 // The host --------------------------------------------------------------------------------------
@@ -269,15 +323,14 @@ void KeepInHostArea(IAppAccess* host, RECT& proposed, bool whole)
 
 void UpdateHostZOrder(IAppAccess* host)
 {
-    // The manager restacks windows, which comes back here.
-    static bool updating = false;
-    CZOrderManager* const manager =
-        host == nullptr || updating ? nullptr : host->GetZOrderManager();
-    if (manager != nullptr)
+    // A manager restacks windows, which comes back here.
+    static CZOrderManager* updating = nullptr;
+    CZOrderManager* const manager = host == nullptr ? nullptr : host->GetZOrderManager();
+    if (manager != nullptr && manager != updating)
     {
-        updating = true;
+        CZOrderManager* const outer = std::exchange(updating, manager);
         manager->UpdateZOrder();
-        updating = false;
+        updating = outer;
     }
 }
 
@@ -309,23 +362,14 @@ void OpenOnBoard(HWND window, HFONT standard)
         return;
     }
     RestyleNewWindow(window);
-    const auto font = WPARAM(CCustomDialog::m_OBStaticTextFont.GetSafeHandle());
-    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;)
-    {
-        const HWND next = ::GetWindow(child, GW_HWNDNEXT);
-        if (reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == standard)
-        {
-            ::SendMessage(child, WM_SETFONT, font, FALSE);
-        }
-        child = ::IsWindow(next) ? next : nullptr;
-    }
+    SwapFonts(window, standard, CCustomDialog::m_OBStaticTextFont);
 }
 
 void OpenForm(CWnd& window, ControlList& list, std::vector<CWnd*>& controls)
 {
     const WindowAlive alive(window);
     const HWND handle = window.GetSafeHwnd();
-    OpenOnBoard(handle, reinterpret_cast<HFONT>(::SendMessage(handle, WM_GETFONT, 0, 0)));
+    OpenOnBoard(handle, ChildrenOf(window, false).standardFont);
     if (alive)
     {
         ListControls(handle, list, controls);

@@ -22,15 +22,31 @@ class ControlList;
 void CreateSharedObjects();
 
 // Takes away the styles by which the platform would draw a caption, if the mode is on-board, and
-// has the frame calculated again. Returns the styles that were there.
-DWORD TakePlatformCaption(CWnd& window);
+// has the frame calculated again. Before that, taken gets the styles that were there, to be given
+// back; 0 in the standard mode.
+void TakePlatformCaption(CWnd& window, DWORD& taken);
 
-// After a change of mode: children, frame and colours follow. In the standard mode the window gets
-// the styles back that TakePlatformCaption took, and taken is cleared.
-void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken);
+// What a window knows of its children when the mode changes.
+struct Children
+{
+    // Theirs in the standard mode, unless they were given another.
+    HFONT standardFont = nullptr;
+    // The window is being initialised and scales them at the end of that.
+    bool scaledLater = false;
+};
+
+// As they are for a window whose own font is theirs in the standard mode.
+Children ChildrenOf(const CWnd& window, bool scaledLater);
+
+// After a change of mode: children, frame and colours follow. Children in the standard font get the
+// on-board one and back, so that what the platform draws fits its place in every mode. In the
+// standard mode the window gets the styles back that TakePlatformCaption took, and taken is
+// cleared.
+void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
+                const Children& children);
 
 // The same for a window without a caption of its own.
-void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode);
+void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, const Children& children);
 
 // How much wider and higher than its client area a window is with the on-board frame, less the
 // same with the platform's frame that the styles ask for.

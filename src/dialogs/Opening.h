@@ -23,11 +23,14 @@ public:
         HWND child = ::GetWindow(dialog, GW_CHILD);
         for (const CCustomDialogTemplate::Control& control : m_template.Controls())
         {
-            // A control that could not be created has left no window.
-            if (child == nullptr || LOWORD(::GetDlgCtrlID(child)) != LOWORD(control.id))
+            // A control that could not be created has left no window, and the dialog may have made
+            // children that the template knows nothing of.
+            const HWND found = FirstWithId(child, control.id);
+            if (found == nullptr)
             {
                 continue;
             }
+            child = found;
             const HWND next = ::GetWindow(child, GW_HWNDNEXT);
             // First the size, then the font, as when the platform creates a control: a list of
             // whole rows makes its height fit at either step.
@@ -41,6 +44,15 @@ public:
     }
 
 private:
+    static HWND FirstWithId(HWND from, DWORD id)
+    {
+        while (from != nullptr && LOWORD(::GetDlgCtrlID(from)) != LOWORD(id))
+        {
+            from = ::GetWindow(from, GW_HWNDNEXT);
+        }
+        return from;
+    }
+
     CCustomDialogTemplate m_template;
     bool m_pending = true;
 };

@@ -160,7 +160,7 @@ std::optional<TemplateLayout> ReadTemplate(Bytes bytes)
     Reader reader(bytes, at.count);
     const WORD count = reader.Read<WORD>();
     layout.place = reader.Read<TemplatePlace>();
-    layout.hasMenu = reader.SkipName();
+    reader.SkipName(); // the menu
     reader.SkipName(); // the class
     reader.ReadText(); // the title
     layout.fontBegin = reader.Position();

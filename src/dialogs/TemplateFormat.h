@@ -49,7 +49,6 @@ struct TemplateLayout
     bool extended = false;
     DWORD style = 0;
     DWORD exStyle = 0;
-    bool hasMenu = false;
     TemplatePlace place;
     size_t fontBegin = 0; // where the font stands or would stand
     std::optional<TemplateFont> font;

@@ -181,9 +181,16 @@ void RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode)
     {
         return;
     }
-    Enumerate(window, oldMode == STD   ? metrics::OnBoardScale
-                      : newMode == STD ? 1.0 / metrics::OnBoardScale
-                                       : 1.0);
+    Enumerate(window, ModeScale(newMode, oldMode));
+}
+
+double ModeScale(APPMODE newMode, APPMODE oldMode)
+{
+    if (newMode == oldMode || (newMode != STD && oldMode != STD))
+    {
+        return 1.0;
+    }
+    return oldMode == STD ? metrics::OnBoardScale : 1.0 / metrics::OnBoardScale;
 }
 
 void RestyleNewWindow(HWND window)

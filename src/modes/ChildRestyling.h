@@ -13,6 +13,9 @@ void RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode);
 // standard mode.
 void RestyleNewWindow(HWND window);
 
+// The factor of a change between two modes that differ; 1 between two on-board modes.
+double ModeScale(APPMODE newMode, APPMODE oldMode);
+
 // A child's rectangle under the factor of a mode change: scale down, and scale times the widening
 // across (a factor of 1 narrows by the widening, as leaving an on-board mode does). Truncated.
 CRect RescaledRect(const CRect& rect, double scale);

@@ -79,7 +79,7 @@ TEST_F(FormWindowsTest, FormsHaveTheColoursOfDialogs)
     ASSERT_TRUE(view.Open(Host()));
     view.OnInitialUpdate();
     PumpAll();
-    EXPECT_EQ(WindowPixels(view).At(490, 390), RGB(50, 50, 50));
+    EXPECT_EQ(WindowPixels(view).At(490, 300), RGB(50, 50, 50));
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
     const auto brush = [&](UINT message, int id) {
