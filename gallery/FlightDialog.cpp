@@ -193,6 +193,9 @@ BOOL FlightSheet::OnInitDialog()
     const BOOL result = CCustomPropSheet::OnInitDialog();
     m_tabs = StandardRect(PlaceInParent(*GetTabControl()));
     m_page = StandardRect(PageArea()).Size();
+    CRect item;
+    GetTabControl()->GetItemRect(0, &item);
+    m_tabItem = StandardRect(item).Size();
     for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP})
     {
         if (const CWnd* const button = GetDlgItem(id))
@@ -219,7 +222,7 @@ void FlightSheet::FollowMode()
     {
         return;
     }
-    GetTabControl()->SetFont(&PlatformControlFont(), FALSE);
+    GetTabControl()->SetItemSize(RectInMode(CRect(CPoint(0, 0), m_tabItem)).Size());
     CRect tabs(RectInMode(m_tabs).TopLeft(), CSize(AcrossInMode(m_page.cx), DownInMode(m_page.cy)));
     const CPoint margin = tabs.TopLeft();
     GetTabControl()->AdjustRect(TRUE, &tabs);

@@ -102,5 +102,6 @@ private:
     // In pixels of the standard mode.
     CRect m_tabs;
     CSize m_page;
+    CSize m_tabItem; // the library's rule makes tabs higher with each change
     std::vector<StandardPlace> m_buttons;
 };

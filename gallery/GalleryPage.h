@@ -32,8 +32,8 @@ public:
     // Makes the window, hidden, with its content. FALSE when it cannot be made.
     BOOL Open(CWnd& parent, UINT id);
 
-    // Before a change of the mode: the library's buttons have a check state in the standard mode and
-    // another in the others.
+    // Before a change of the mode: the library's buttons have a check state in the standard mode
+    // and another in the others.
     virtual void KeepState() {}
     // Lays the content out for the current mode and size. The owner calls it after each change of
     // the mode.

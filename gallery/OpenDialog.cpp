@@ -3,13 +3,10 @@
 #include "Look.h"
 #include "WindowMoves.h"
 
-#include <CustomDialog.h>
-#include <CustomStatic.h>
 #include <OnBoardUIGeneral.h>
 
 #include <algorithm>
 #include <cmath>
-#include <iterator>
 
 namespace {
 
@@ -27,13 +24,6 @@ std::vector<OpenDialog*>& All()
 int Standard(int inMode, double scale)
 {
     return look::Dark() ? int(std::ceil(inMode / scale)) : inMode;
-}
-
-bool IsPlainLabel(HWND window)
-{
-    char name[8];
-    return ::GetClassName(window, name, int(std::size(name))) != 0 &&
-           ::lstrcmpi(name, "Static") == 0;
 }
 
 } // namespace
@@ -58,11 +48,6 @@ CRect StandardRect(const CRect& inMode)
 {
     return CRect(CPoint(Standard(inMode.left, Across), Standard(inMode.top, Down)),
                  CSize(Standard(inMode.Width(), Across), Standard(inMode.Height(), Down)));
-}
-
-CFont& PlatformControlFont()
-{
-    return look::Dark() ? CCustomDialog::m_OBStaticTextFont : CCustomStatic::GetStdFont();
 }
 
 CRect PlaceInParent(HWND child)
@@ -153,12 +138,6 @@ void StandardLayout::Apply(CWnd& dialog) const
         for (const StandardPlace& child : m_children)
         {
             moves.Add(child.window, RectInMode(child.place));
-            if (IsPlainLabel(child.window))
-            {
-                // The library leaves the font of the platform's own labels to whoever made them.
-                ::SendMessage(child.window, WM_SETFONT,
-                              WPARAM(PlatformControlFont().GetSafeHandle()), FALSE);
-            }
         }
     }
     dialog.Invalidate();

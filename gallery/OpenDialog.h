@@ -48,9 +48,6 @@ int DownInMode(int standard);
 CRect RectInMode(const CRect& standard);
 CRect StandardRect(const CRect& inMode);
 
-// The mode's font for what the platform draws, which the library leaves to the dialog's owner.
-CFont& PlatformControlFont();
-
 // A child's rectangle in its parent's client area, as it is.
 CRect PlaceInParent(HWND child);
 
@@ -62,7 +59,7 @@ class StandardLayout
 {
 public:
     void Read(const CWnd& dialog);
-    void Apply(CWnd& dialog) const; // the children alone, with the fonts of plain labels
+    void Apply(CWnd& dialog) const; // the children alone
     CSize ClientInMode() const;
 
 private:

@@ -260,7 +260,8 @@ void CCustomButton::DrawRCText(CDC& dc, const CRect& item, const CRect& mark)
         const Selected pen(dc, m_FocusPen);
         dc.Rectangle(buttons::FocusFrame(caption));
     }
-    dc.DrawText(text, &caption, format);
+    // A letter may reach a little beyond its measured width; only the window cuts a caption.
+    dc.DrawText(text, &caption, format | DT_NOCLIP);
 }
 
 void CCustomButton::OnDestroy()
