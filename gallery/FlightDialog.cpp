@@ -15,6 +15,10 @@ constexpr const char* Airports[] = {
     "EDDF Frankfurt", "EDDM Munich", "EGLL London", "EHAM Amsterdam", "KJFK New York",
     "LFPG Paris",     "LIRF Rome",   "LSZH Zurich", "OMDB Dubai",     "ZBAA Beijing",
 };
+constexpr COLORREF FlightColour = RGB(232, 120, 30);
+constexpr COLORREF SquawkText = RGB(255, 214, 90);
+constexpr COLORREF SquawkGround = RGB(24, 52, 84);
+
 constexpr const char* Remarks = "Taxi clearance is given on the apron frequency.\r\n"
                                 "Birds near the approach path of runway 27.\r\n"
                                 "Noise abatement: maximum thrust on takeoff, then power back.\r\n"
@@ -37,7 +41,44 @@ void FlightControls::Attach(CWnd& dialog)
     {
         m_buttons[index].SubclassDlgItem(pushed[index], &dialog);
     }
+    if (dialog.GetDlgItem(IDC_FLIGHT_GATE) != nullptr)
+    {
+        AttachParticulars(dialog);
+    }
+    Fill();
+}
 
+void FlightControls::AttachParticulars(CWnd& dialog)
+{
+    m_caption.SubclassDlgItem(IDC_FLIGHT_CAPTION, &dialog);
+    m_colour.SubclassDlgItem(IDC_FLIGHT_COLOUR, &dialog);
+    m_colour.Set(FlightColour);
+    m_frame.SubclassDlgItem(IDC_FLIGHT_FRAME, &dialog);
+    m_frame.SetColor(FlightColour);
+    m_route.SetPromptText("Waypoints");
+    m_route.SubclassDlgItem(IDC_FLIGHT_ROUTE, &dialog);
+    m_squawk.SubclassDlgItem(IDC_FLIGHT_SQUAWK, &dialog);
+    m_squawk.SetTextColor(SquawkText);
+    m_squawk.SetBackgroundColor(SquawkGround);
+    m_squawk.SetWindowText("7000");
+    // The library has not scaled anything yet.
+    m_gatePlace = PlaceInParent(*dialog.GetDlgItem(IDC_FLIGHT_GATE));
+    m_gate.SetFixedPlace(m_gatePlace.left, m_gatePlace.top, m_gatePlace.Width());
+    m_gate.SubclassDlgItem(IDC_FLIGHT_GATE, &dialog);
+    m_gate.SetWindowText("B 42");
+}
+
+void FlightControls::PlaceFixed()
+{
+    if (m_gate.GetSafeHwnd() != nullptr)
+    {
+        const CRect place = RectInMode(m_gatePlace);
+        m_gate.SetFixedPlace(place.left, place.top, place.Width());
+    }
+}
+
+void FlightControls::Fill()
+{
     if (m_callsign.GetSafeHwnd() != nullptr)
     {
         m_callsign.SetWindowText("DLH 4711");
@@ -121,6 +162,7 @@ BOOL FlightDialog::OnInitDialog()
         title.Format("Flight, opened by a dialog (%d)", m_depth);
         SetWindowText(title);
     }
+    m_content.PlaceFixed();
     m_layout.Read(*this);
     NoteMode();
     return TRUE;
@@ -133,6 +175,7 @@ void FlightDialog::FollowMode()
         return;
     }
     ResizeClient(*this, m_layout.ClientInMode());
+    m_content.PlaceFixed();
     m_layout.Apply(*this);
     m_content.PutChecks();
     EnsureWndVisible(m_services, *this);

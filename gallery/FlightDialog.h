@@ -2,6 +2,10 @@
 
 #include "OpenDialog.h"
 
+#include <BoldStatic.h>
+#include <ColorEdit.h>
+#include <ColorStatic.h>
+#include <ColoredGroupBox.h>
 #include <CustomCheckBox.h>
 #include <CustomDialog.h>
 #include <CustomEdit.h>
@@ -11,6 +15,8 @@
 #include <CustomPushbutton.h>
 #include <CustomRadiobutton.h>
 #include <CustomStatic.h>
+#include <EditWithPrompt.h>
+#include <QuixEdit.h>
 
 // The controls of the gallery's dialogs, as far as a dialog has them, put over what its template
 // made. Attached before the library restyles them.
@@ -22,9 +28,13 @@ public:
     // The chosen states go along from one mode to another.
     void KeepChecks();
     void PutChecks();
+    // One edit stays where its owner puts it.
+    void PlaceFixed();
 
 private:
     std::vector<CCustomButton*> Choices();
+    void AttachParticulars(CWnd& dialog);
+    void Fill();
 
     std::vector<int> m_checks;
     CCustomEdit m_callsign;
@@ -35,6 +45,13 @@ private:
     CCustomStatic m_rules;
     CCustomListBox m_airports;
     CCustomPushbutton m_buttons[3];
+    CBoldStatic m_caption;
+    CColorStatic m_colour;
+    CColoredGroupBox m_frame;
+    EditWithPrompt m_route;
+    ColorEdit m_squawk;
+    QuixEdit m_gate;
+    CRect m_gatePlace; // in pixels of the standard mode
 };
 
 // A dialog from a template with the controls of the library. It can open another one of its kind.

@@ -23,6 +23,12 @@
 #define IDC_FLIGHT_ANOTHER 306
 #define IDC_FLIGHT_RULES 307
 #define IDC_FLIGHT_REMARKS 308
+#define IDC_FLIGHT_CAPTION 309
+#define IDC_FLIGHT_COLOUR 310
+#define IDC_FLIGHT_ROUTE 311
+#define IDC_FLIGHT_SQUAWK 312
+#define IDC_FLIGHT_GATE 313
+#define IDC_FLIGHT_FRAME 314
 
 // Controls of a page; each page counts its own from here.
 #define IDC_PAGE_FIRST 1000

@@ -85,11 +85,17 @@ TEST_F(ButtonOnBoard, APressThatIsCutOffLeavesNothingHeld)
         {"capture released", [](auto&) { ::ReleaseCapture(); }},
         {"capture taken", [&](auto&) { other.SetCapture(); }},
         {"hidden", [](auto& button) { button.ShowWindow(SW_HIDE); }},
+        {"hidden without a word",
+         [](auto& button) {
+             button.SetWindowPos(nullptr, 0, 0, 0, 0,
+                                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_HIDEWINDOW);
+         }},
         {"disabled", [](auto& button) { button.EnableWindow(FALSE); }},
         {"parent hidden", [&](auto&) { Host().ShowWindow(SW_HIDE); }},
         {"parent disabled", [&](auto&) { Host().EnableWindow(FALSE); }},
         {"focus moved", [&](auto&) { other.SetFocus(); }},
         {"mode left", [](auto&) { COnBoardUIGeneral::SetAppMode(STD); }},
+        {"another on-board mode", [](auto&) { COnBoardUIGeneral::SetAppMode(EFB); }},
         {"cancelled", [](auto& button) { button.SendMessage(WM_CANCELMODE); }},
         {"checked by message", [](auto& button) { button.SetCheck(BST_UNCHECKED); }},
         {"state set", [](auto& button) { button.SetState(FALSE); }},

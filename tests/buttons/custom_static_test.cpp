@@ -211,6 +211,28 @@ TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
     EXPECT_EQ(WindowPixels(bold).Count(RGB(200, 0, 0)), 0);
 }
 
+TEST_F(WindowTest, AParentMayDestroyALabelThatTellsItOfBeingDisabled)
+{
+    const auto dies = [&](auto made) {
+        auto* const label = made.release(); // the parent's to delete
+        ASSERT_TRUE(label->Create("label", WS_CHILD | WS_VISIBLE | SS_NOTIFY,
+                                  CRect(20, 20, 120, 60), &Host(), 77));
+        Host().hook = [=](ToldMessage& told) {
+            if (told.code == STN_DISABLE)
+            {
+                delete label;
+            }
+        };
+        const HWND window = label->m_hWnd;
+        ::EnableWindow(window, FALSE);
+        EXPECT_FALSE(::IsWindow(window));
+        Host().hook = nullptr;
+    };
+    dies(std::make_unique<CBoldStatic>());
+    dies(std::make_unique<CColorStatic>());
+    dies(std::make_unique<CColoredGroupBox>());
+}
+
 TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
 {
     auto made = std::make_unique<CColorStatic>();

@@ -124,8 +124,9 @@ TEST_F(CustomDialogTest, EveryWayOfCreatingGoesThroughTheTemplate)
 {
     const std::vector<BYTE> copy(static_cast<const BYTE*>(form.Data()),
                                  static_cast<const BYTE*>(form.Data()) + form.Size());
-    const HGLOBAL global = ::GlobalAlloc(GMEM_FIXED, copy.size());
-    std::memcpy(global, copy.data(), copy.size());
+    const HGLOBAL global = ::GlobalAlloc(GMEM_MOVEABLE, copy.size());
+    std::memcpy(::GlobalLock(global), copy.data(), copy.size());
+    ::GlobalUnlock(global);
     const struct
     {
         const char* name;
@@ -161,7 +162,10 @@ TEST_F(CustomDialogTest, EveryWayOfCreatingGoesThroughTheTemplate)
                 continue;
             }
             ASSERT_EQ(places.size(), before.size());
-            EXPECT_EQ(places.front(), Enlarged(before.front())) << each.name;
+            for (size_t child = 0; child < places.size(); ++child)
+            {
+                EXPECT_EQ(places[child], Enlarged(before[child])) << each.name << ' ' << child;
+            }
         }
     }
     ::GlobalFree(global);
@@ -179,7 +183,17 @@ TEST_F(CustomDialogTest, AnOpenDialogFollowsTheMode)
         return ClientPoint(dialog, CPoint(0, 0)).y - WindowRectOf(dialog).top - 3;
     };
     const int caption = bandHeight();
+    const auto font = [&](int id) {
+        LOGFONT description = {};
+        ::GetObject(reinterpret_cast<HFONT>(dialog.GetDlgItem(id)->SendMessage(WM_GETFONT)),
+                    sizeof(description), &description);
+        return description.lfHeight;
+    };
+    const LONG small = font(IdLabel);
     COnBoardUIGeneral::SetAppMode(ONBOARD);
+    const LONG large = font(IdLabel);
+    EXPECT_GT(std::abs(large), std::abs(small));
+    EXPECT_EQ(font(IdButton), large);
     EXPECT_EQ(WindowRectOf(dialog), window) << "its rectangle is its owner's";
     EXPECT_EQ(bandHeight(), BandOf(dialog)) << "also with the platform's caption style";
     EXPECT_EQ(ChildPlaces(dialog).front(), Enlarged(standard.front()));
@@ -188,15 +202,67 @@ TEST_F(CustomDialogTest, AnOpenDialogFollowsTheMode)
     EXPECT_EQ(ChildPlaces(dialog).front().Height(), height);
     COnBoardUIGeneral::SetAppMode(STD);
     EXPECT_EQ(bandHeight(), caption);
+    EXPECT_EQ(font(IdLabel), small);
     dialog.DestroyWindow();
 
     COnBoardUIGeneral::SetAppMode(EFB);
     ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
     EXPECT_EQ(dialog.GetStyle() & WS_CAPTION, 0U);
+    EXPECT_EQ(font(IdButton), large);
     COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_EQ(font(IdButton), small) << "however it was opened";
     const DWORD styles = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
     EXPECT_EQ(dialog.GetStyle() & styles, styles) << "something to move and close it by";
     EXPECT_EQ(bandHeight(), caption);
+}
+
+TEST_F(CustomDialogTest, ControlsAreScaledOnceWhenTheModeChangesOnTheirWay)
+{
+    DialogForTests plain;
+    ASSERT_TRUE(plain.CreateIndirect(form, &Host()));
+    const std::vector<CRect> standard = ChildPlaces(plain);
+    plain.DestroyWindow();
+    std::function<void()> DialogForTests::*const moments[] = {
+        &DialogForTests::inCreate, &DialogForTests::beforeInit, &DialogForTests::inInit};
+    for (const auto moment : moments)
+    {
+        for (const auto& [from, to] : {std::pair{STD, ONBOARD}, {ONBOARD, STD}})
+        {
+            const ModeScope mode(from);
+            DialogForTests dialog;
+            dialog.*moment = [to = to] { COnBoardUIGeneral::SetAppMode(to); };
+            ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+            const std::vector<CRect> places = ChildPlaces(dialog);
+            ASSERT_EQ(places.size(), standard.size());
+            for (size_t child = 0; child < places.size(); ++child)
+            {
+                const CRect expected = to == STD ? standard[child] : Enlarged(standard[child]);
+                // Scaled there and back, each side may have lost a fraction.
+                const int lost = moment == &DialogForTests::inInit && to == STD ? 1 : 0;
+                EXPECT_NEAR(places[child].left, expected.left, lost) << from << ' ' << child;
+                EXPECT_NEAR(places[child].bottom, expected.bottom, 2 * lost) << from << child;
+                EXPECT_NEAR(places[child].Width(), expected.Width(), lost) << from << child;
+            }
+        }
+    }
+}
+
+TEST_F(CustomDialogTest, ChildrenThatTheDialogMakesItselfDoNotDisturbTheTemplates)
+{
+    DialogForTests plain;
+    ASSERT_TRUE(plain.CreateIndirect(form, &Host()));
+    const std::vector<CRect> standard = ChildPlaces(plain);
+    const ModeScope mode(ONBOARD);
+    DialogForTests dialog;
+    CStatic own;
+    dialog.inCreate = [&] { own.Create("own", WS_CHILD, CRect(0, 0, 10, 10), &dialog, 900); };
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    const std::vector<CRect> places = ChildPlaces(dialog);
+    ASSERT_EQ(places.size(), standard.size() + 1);
+    for (size_t child = 0; child < standard.size(); ++child)
+    {
+        EXPECT_EQ(places[child + 1], Enlarged(standard[child])) << child;
+    }
 }
 
 TEST_F(CustomDialogTest, AHandlerMayEndTheDialogOrChangeTheMode)

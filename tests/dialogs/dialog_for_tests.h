@@ -20,10 +20,16 @@ public:
         : Scripted<CCustomDialog>(0U, parent, host)
     {}
 
-    std::function<void()> inInit; // after the dialog's own initialisation
+    std::function<void()> inCreate;   // before the template's controls are made
+    std::function<void()> beforeInit; // and after the dialog's own initialisation
+    std::function<void()> inInit;
 
     BOOL OnInitDialog() override
     {
+        if (beforeInit)
+        {
+            beforeInit();
+        }
         const BOOL result = Scripted<CCustomDialog>::OnInitDialog();
         if (inInit)
         {
@@ -51,6 +57,10 @@ protected:
     {
         constexpr UINT Step = WM_APP + 0x3E00;
         constexpr WPARAM Steps = 4;
+        if (message == WM_CREATE && inCreate)
+        {
+            inCreate();
+        }
         if (message == WM_ENTERSIZEMOVE)
         {
             ::GetCursorPos(&m_dragFrom);

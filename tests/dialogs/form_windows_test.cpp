@@ -72,6 +72,58 @@ TEST_F(FormWindowsTest, AFormIsRescaledOnceHoweverItReachesTheMode)
     EXPECT_EQ(ChildPlaces(early).front(), before) << "never scaled, never scaled back";
 }
 
+TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReach)
+{
+    View view;
+    ASSERT_TRUE(view.Open(Host()));
+    view.MoveWindow(0, 0, 120, 60);
+    const CRect before = ChildPlaces(view).front();
+    const CSize total = view.GetTotalSize();
+    view.ScrollToPosition(CPoint(30, 20));
+    ASSERT_EQ(view.GetScrollPosition(), CPoint(30, 20));
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 0));
+    EXPECT_EQ(ChildPlaces(view).front(), Enlarged(before)) << "from the form's own corner";
+    EXPECT_EQ(view.GetTotalSize(), Enlarged(CRect(CPoint(0, 0), total)).Size());
+}
+
+TEST_F(FormWindowsTest, PagesAndSheetsAreScaledOnceWhenAPageChangesTheModeOnItsWay)
+{
+    struct Page : CCustomPropPage
+    {
+        APPMODE change = STD;
+        Page()
+            : CCustomPropPage(IDD_TEST_PAGE_1)
+        {}
+        BOOL OnInitDialog() override
+        {
+            COnBoardUIGeneral::SetAppMode(change);
+            return CCustomPropPage::OnInitDialog();
+        }
+    };
+    CSize sheetSize;
+    CRect place;
+    for (const auto& [from, to] : {std::pair{ONBOARD, ONBOARD}, {STD, ONBOARD}})
+    {
+        const ModeScope mode(from);
+        Page page;
+        page.change = to;
+        Scripted<CCustomPropSheet> sheet("Sheet", static_cast<IAppAccess*>(nullptr), &Host());
+        sheet.AddPage(&page);
+        sheet.inLoop = [&, from = from] {
+            if (from == ONBOARD)
+            {
+                sheetSize = ClientRectOf(sheet).Size();
+                place = ChildPlaces(page).front();
+            }
+            EXPECT_EQ(ClientRectOf(sheet).Size(), sheetSize);
+            EXPECT_EQ(ChildPlaces(page).front(), place);
+            sheet.EndDialog(IDOK);
+        };
+        EXPECT_EQ(sheet.DoModal(), IDOK);
+    }
+}
+
 TEST_F(FormWindowsTest, FormsHaveTheColoursOfDialogs)
 {
     const ModeScope mode(EFB);
@@ -152,8 +204,7 @@ TEST_F(FormWindowsTest, ASheetOpensInTheSizeOfTheModeWithItsPages)
                 EXPECT_EQ(sheet.GetStyle() & WS_SYSMENU, 0U);
                 const CPoint strip(sizeBefore.cx, 10); // of the tabs, right of the last one
                 EXPECT_EQ(
-                    ScreenPixels(CRect(ClientPoint(*sheet.GetTabControl(), strip),
-                                       CSize(1, 1)))
+                    ScreenPixels(CRect(ClientPoint(*sheet.GetTabControl(), strip), CSize(1, 1)))
                         .At(0, 0),
                     RGB(50, 50, 50));
             }

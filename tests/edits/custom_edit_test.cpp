@@ -213,6 +213,20 @@ private:
 
 } // namespace
 
+TEST_F(EditOnBoard, AnotherWindowOfTheObjectIsLaidOutAnew)
+{
+    const CRect place(20, 20, 320, 160);
+    auto& edit = Add<EdgedEdit>(place, ManyLines);
+    edit.Fill(50);
+    const CRect client = ClientRectOf(edit);
+    ASSERT_TRUE(edit.m_barShown);
+    edit.DestroyWindow();
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | ManyLines, place, &Host(), 5));
+    edit.Fill(50);
+    EXPECT_TRUE(edit.m_barShown);
+    EXPECT_EQ(ClientRectOf(edit), client);
+}
+
 TEST_F(EditTest, DirectEditsGoThroughAllModesAndBack)
 {
     for (const APPMODE born : {STD, EFB})

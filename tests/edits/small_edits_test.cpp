@@ -149,6 +149,15 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithTemplatesToo)
     dialog.DestroyWindow();
 }
 
+TEST_F(SmallEditsTest, APromptComesBackWithAnotherWindow)
+{
+    auto& edit = Add<EditWithPrompt>(CRect(20, 20, 260, 60));
+    edit.SetWindowText("text");
+    edit.DestroyWindow();
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(20, 20, 260, 60), &Host(), 5));
+    EXPECT_EQ(Shown(edit), "<Enter text here>");
+}
+
 TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidth)
 {
     auto edit = std::make_unique<QuixEdit>();

@@ -1,0 +1,136 @@
+// The gallery as a user has it: its own program, worked by the pointer.
+
+#include "support/WindowTest.h"
+
+#include <string>
+
+namespace {
+
+// The gallery's program, from beside the tests'. Ended with the object.
+class RunningGallery
+{
+public:
+    explicit RunningGallery(const char* arguments)
+    {
+        char own[MAX_PATH] = "";
+        ::GetModuleFileName(nullptr, own, MAX_PATH);
+        std::string command(own);
+        command = '"' + command.substr(0, command.find_last_of('\\') + 1) + "gallery.exe\" ";
+        command += arguments;
+        STARTUPINFO start = {};
+        start.cb = sizeof(start);
+        PROCESS_INFORMATION made = {};
+        if (::CreateProcess(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                            &start, &made))
+        {
+            m_process = made.hProcess;
+            m_id = made.dwProcessId;
+            ::CloseHandle(made.hThread);
+        }
+    }
+    RunningGallery(const RunningGallery&) = delete;
+    RunningGallery& operator=(const RunningGallery&) = delete;
+    ~RunningGallery()
+    {
+        ::TerminateProcess(m_process, 0);
+        ::WaitForSingleObject(m_process, 5000);
+        ::CloseHandle(m_process);
+    }
+
+    // Its first visible top-level window with that text, once there is one.
+    HWND Window(const char* title) const
+    {
+        HWND found = nullptr;
+        PumpUntil(
+            [&] {
+                while ((found = ::FindWindowEx(nullptr, found, nullptr, title)) != nullptr)
+                {
+                    DWORD process = 0;
+                    ::GetWindowThreadProcessId(found, &process);
+                    if (process == m_id && ::IsWindowVisible(found))
+                    {
+                        return true;
+                    }
+                }
+                return false;
+            },
+            20000);
+        return found;
+    }
+
+private:
+    HANDLE m_process = nullptr;
+    DWORD m_id = 0;
+};
+
+CRect PlaceOf(HWND window)
+{
+    CRect place;
+    ::GetWindowRect(window, &place);
+    return place;
+}
+
+// The edit of the first line of the page.
+HWND FirstEdit(HWND frame)
+{
+    HWND first = nullptr;
+    ::EnumChildWindows(
+        frame,
+        [](HWND child, LPARAM found) -> BOOL {
+            char name[8] = "";
+            ::GetClassName(child, name, int(std::size(name)));
+            if (::lstrcmpi(name, "Edit") != 0 || !::IsWindowVisible(child))
+            {
+                return TRUE;
+            }
+            *reinterpret_cast<HWND*>(found) = child;
+            return FALSE;
+        },
+        reinterpret_cast<LPARAM>(&first));
+    return first;
+}
+
+std::string TextOf(HWND window)
+{
+    char text[256] = "";
+    ::SendMessage(window, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+// The middle of a key of the keyboard: five rows of 22 units, from a margin on.
+CPoint KeyAt(const CRect& keyboard, int row, int unit)
+{
+    return CPoint(keyboard.left + 10 + (unit + 1) * (keyboard.Width() - 14) / 22,
+                  keyboard.top + 10 + (2 * row + 1) * (keyboard.Height() - 14) / 10);
+}
+
+using ScreenKeyboardTest = WindowTest;
+
+TEST_F(ScreenKeyboardTest, TypesAWordIntoTheEditThatWasTappedAndHides)
+{
+    const RunningGallery gallery("--mode efbfs --page edits");
+    const HWND frame = gallery.Window("OnBoardUI Gallery");
+    ASSERT_NE(frame, nullptr);
+    const HWND edit = FirstEdit(frame);
+    ASSERT_NE(edit, nullptr);
+    ::SendMessage(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(""));
+    Click(PlaceOf(edit).CenterPoint());
+    const HWND keyboard = gallery.Window("Keyboard");
+    ASSERT_NE(keyboard, nullptr);
+    const CRect keys = PlaceOf(keyboard);
+    EXPECT_FALSE(CRect().IntersectRect(keys, PlaceOf(edit))) << "it covers what is typed";
+    const struct
+    {
+        int row;
+        int unit;
+    } word[] = {{2, 2}, {1, 16}, {3, 13}, {2, 18}, {1, 16}}; // s o n, back, o
+    for (const auto& key : word)
+    {
+        Click(KeyAt(keys, key.row, key.unit));
+    }
+    EXPECT_TRUE(PumpUntil([&] { return TextOf(edit) == "soo"; })) << TextOf(edit);
+    Click(KeyAt(keys, 4, 18));
+    EXPECT_TRUE(PumpUntil([&] { return !::IsWindowVisible(keyboard); }));
+}
+
+} // namespace
