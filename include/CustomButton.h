@@ -5,6 +5,7 @@
 
 #include <afxwin.h>
 
+#include <functional>
 #include <vector>
 
 // The base of the library's buttons. In the standard mode it is the platform's button. In an
@@ -84,6 +85,11 @@ protected:
 
     // Sets the on-board check state; shown by the next paint.
     void ChangeCheck(int check);
+    // A click that a key makes: shown at once.
+    void ClickByKey();
+    // Draws a button of a mark and a caption beside it. drawMark draws the mark into item and gives
+    // its rectangle.
+    void DrawChoice(CDC& dc, const std::function<void(const CRect& item, CRect& mark)>& drawMark);
 
     // Made with the first button and kept for the life of the process.
     static CPen m_OutlinePen;

@@ -217,6 +217,16 @@ void CCustomButton::HandleKeyDown(UINT, UINT, UINT)
     Default();
 }
 
+void CCustomButton::ClickByKey()
+{
+    const WindowAlive alive(*this);
+    HandleBMClick();
+    if (alive && COnBoardUIGeneral::InOnBoardMode())
+    {
+        DrawOB();
+    }
+}
+
 void CCustomButton::GetSiblingControls(std::vector<CWnd*>& controls, DWORD style)
 {
     for (HWND window = ::GetWindow(m_hWnd, GW_HWNDFIRST); window != nullptr;
@@ -245,6 +255,24 @@ void CCustomButton::DrawOB()
         DrawOB(buffer);
     }
     ReleaseDC(dc);
+}
+
+void CCustomButton::DrawChoice(CDC& dc, const std::function<void(const CRect&, CRect&)>& drawMark)
+{
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(&client, m_background);
+
+    const Selected pen(dc, m_OutlinePen);
+    const Selected brush(dc, ::GetStockObject(NULL_BRUSH));
+    const Selected font(dc, m_Font);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    const TextColor color(dc,
+                          IsWindowEnabled() ? palette::ButtonText : palette::ChoiceTextDisabled);
+    const CRect item = buttons::ItemArea(client);
+    CRect mark;
+    drawMark(item, mark);
+    DrawRCText(dc, item, mark);
 }
 
 void CCustomButton::DrawRCText(CDC& dc, const CRect& item, const CRect& mark)

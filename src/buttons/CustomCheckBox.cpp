@@ -3,7 +3,6 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "buttons/ButtonLayout.h"
-#include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
 
@@ -51,34 +50,15 @@ void CCustomCheckBox::HandleBMClick()
 
 void CCustomCheckBox::HandleKeyDown(UINT key, UINT, UINT)
 {
-    if (key != VK_SPACE)
+    if (key == VK_SPACE)
     {
-        return;
-    }
-    const WindowAlive alive(*this);
-    HandleBMClick();
-    if (alive && COnBoardUIGeneral::InOnBoardMode())
-    {
-        DrawOB();
+        ClickByKey();
     }
 }
 
 void CCustomCheckBox::DrawOB(CDC& dc)
 {
-    CRect client;
-    GetClientRect(&client);
-    dc.FillSolidRect(&client, m_background);
-
-    const Selected pen(dc, m_OutlinePen);
-    const Selected brush(dc, ::GetStockObject(NULL_BRUSH));
-    const Selected font(dc, m_Font);
-    const BackgroundMode mode(dc, TRANSPARENT);
-    const TextColor color(dc,
-                          IsWindowEnabled() ? palette::ButtonText : palette::ChoiceTextDisabled);
-    const CRect item = buttons::ItemArea(client);
-    CRect mark;
-    DrawCheckBox(dc, item, mark);
-    DrawRCText(dc, item, mark);
+    DrawChoice(dc, [&](const CRect& item, CRect& mark) { DrawCheckBox(dc, item, mark); });
 }
 
 void CCustomCheckBox::DrawCheckBox(CDC& dc, const CRect& item, CRect& mark)

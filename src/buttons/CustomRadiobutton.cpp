@@ -162,34 +162,15 @@ void CCustomRadiobutton::HandleGroupClick()
 
 void CCustomRadiobutton::HandleKeyDown(UINT key, UINT, UINT)
 {
-    if (key != VK_SPACE || m_check == BST_CHECKED)
+    if (key == VK_SPACE && m_check != BST_CHECKED)
     {
-        return;
-    }
-    const WindowAlive alive(*this);
-    HandleBMClick();
-    if (alive && COnBoardUIGeneral::InOnBoardMode())
-    {
-        DrawOB();
+        ClickByKey();
     }
 }
 
 void CCustomRadiobutton::DrawOB(CDC& dc)
 {
-    CRect client;
-    GetClientRect(&client);
-    dc.FillSolidRect(&client, m_background);
-
-    const Selected pen(dc, m_OutlinePen);
-    const Selected brush(dc, ::GetStockObject(NULL_BRUSH));
-    const Selected font(dc, m_Font);
-    const BackgroundMode mode(dc, TRANSPARENT);
-    const TextColor color(dc,
-                          IsWindowEnabled() ? palette::ButtonText : palette::ChoiceTextDisabled);
-    const CRect item = buttons::ItemArea(client);
-    CRect mark;
-    DrawRadioCircle(dc, item, mark);
-    DrawRCText(dc, item, mark);
+    DrawChoice(dc, [&](const CRect& item, CRect& mark) { DrawRadioCircle(dc, item, mark); });
 }
 
 void CCustomRadiobutton::DrawRadioCircle(CDC& dc, const CRect& item, CRect& mark)
