@@ -1,32 +1,102 @@
+// The drop-list combo: fonts, lists, following the display mode, layout and painting.
+
 #include "CustomDropListCombo.h"
 
+#include "CustomComboLBox.h"
+#include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
+#include "lists/ComboLayout.h"
+#include "modes/WindowAlive.h"
+#include "paint/BackBuffer.h"
 #include "paint/ControlFonts.h"
+#include "paint/GdiGuards.h"
+#include "paint/Metrics.h"
+#include "paint/Palette.h"
 
-IMPLEMENT_DYNAMIC(CCustomDropListCombo, CWnd)
+#include <algorithm>
+#include <iterator>
 
-BEGIN_MESSAGE_MAP(CCustomDropListCombo, CWnd)
-END_MESSAGE_MAP()
+namespace {
+
+constexpr int StandardEdge = 2; // a sunken edge of the platform
+constexpr int StandardPad = 2;  // above and below the text of the standard mode
+constexpr int SelectionGap = 1; // from the border to the ground of a focused text
+
+struct TextLook
+{
+    COLORREF text;
+    COLORREF ground;
+};
+
+TextLook LookOf(bool onBoard, bool enabled, bool focused)
+{
+    if (!enabled)
+    {
+        return onBoard ? TextLook{palette::FieldTextDisabled, palette::FieldDisabled}
+                       : TextLook{::GetSysColor(COLOR_GRAYTEXT), ::GetSysColor(COLOR_BTNFACE)};
+    }
+    if (focused)
+    {
+        return onBoard
+                   ? TextLook{palette::HighlightText, palette::Highlight}
+                   : TextLook{::GetSysColor(COLOR_HIGHLIGHTTEXT), ::GetSysColor(COLOR_HIGHLIGHT)};
+    }
+    return onBoard ? TextLook{palette::FieldText, palette::Field}
+                   : TextLook{::GetSysColor(COLOR_WINDOWTEXT), ::GetSysColor(COLOR_WINDOW)};
+}
+
+} // namespace
 
 CFont CCustomDropListCombo::m_OBFont;
 CFont CCustomDropListCombo::m_StdFont;
+CBrush CCustomDropListCombo::m_BkBrush;
+CBrush CCustomDropListCombo::m_BkDisabledBrush;
+CPen CCustomDropListCombo::m_OBOutlinePen;
 
 CCustomDropListCombo::CCustomDropListCombo()
+    : m_heights(std::size(APPMODE_NAMES))
+    , m_list(new CCustomComboLBox)
 {
+    Register();
+}
+
+CCustomDropListCombo::CCustomDropListCombo(CCustomComboLBox* list)
+    : m_heights(std::size(APPMODE_NAMES))
+    , m_list(nullptr)
+{
+    SetCustomComboLBox(list);
+    Register();
+}
+
+void CCustomDropListCombo::Register()
+{
+    if (m_BkBrush.GetSafeHandle() == nullptr)
+    {
+        m_BkBrush.CreateSolidBrush(palette::Field);
+        m_BkDisabledBrush.CreateSolidBrush(palette::FieldDisabled);
+        CreateOnBoardOutlinePen(m_OBOutlinePen, palette::Outline);
+    }
+    if (m_list != nullptr)
+    {
+        m_list->SetComboParent(this);
+    }
+    m_instances.push_back(this);
     COnBoardUIGeneral::AddCustomDropListCombo(this);
+    AppModeChanged(COnBoardUIGeneral::GetAppMode(), STD);
 }
 
 CCustomDropListCombo::~CCustomDropListCombo()
 {
     COnBoardUIGeneral::RemoveCustomDropListCombo(this);
-}
-
-void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
-{
-    if (newMode != oldMode && GetSafeHwnd() != nullptr)
+    std::erase(m_instances, this);
+    // While the message map is still ours: the window's last messages need it.
+    m_madeByClass = false;
+    m_ending = true;
+    if (GetSafeHwnd() != nullptr && FromHandlePermanent(GetSafeHwnd()) == this)
     {
-        Invalidate();
+        CWnd::DestroyWindow();
     }
+    SetCustomComboLBox(nullptr);
 }
 
 CFont& CCustomDropListCombo::GetOnBoardFont()
@@ -37,4 +107,333 @@ CFont& CCustomDropListCombo::GetOnBoardFont()
 CFont& CCustomDropListCombo::GetStdFont()
 {
     return StandardControlFont(m_StdFont);
+}
+
+// The list --------------------------------------------------------------------------------------
+
+void CCustomDropListCombo::SetCustomComboLBox(CCustomComboLBox* list)
+{
+    const bool owned = m_ownsList;
+    CCustomComboLBox* const before = DetachCustomComboLBox();
+    if (owned && before != list)
+    {
+        delete before;
+    }
+    m_list = list;
+    m_ownsList = list != nullptr && list == before && owned;
+    if (m_list == nullptr)
+    {
+        return;
+    }
+    // A list drops down from one combo only.
+    if (CCustomDropListCombo* const other = m_list->GetComboParent())
+    {
+        other->DetachCustomComboLBox();
+    }
+    m_list->SetComboParent(this);
+    SetLBFont();
+    if (GetSafeHwnd() != nullptr)
+    {
+        Repaint();
+    }
+}
+
+CCustomComboLBox* CCustomDropListCombo::DetachCustomComboLBox()
+{
+    const WindowAlive alive(*this);
+    if (m_expanded)
+    {
+        ToggleDropList();
+    }
+    CCustomComboLBox* const list = m_list;
+    m_list = nullptr;
+    m_ownsList = false;
+    if (list != nullptr)
+    {
+        list->SetComboParent(nullptr);
+    }
+    if (alive)
+    {
+        Repaint();
+    }
+    return list;
+}
+
+CCustomComboLBox* CCustomDropListCombo::ListIfMade() const
+{
+    return m_list != nullptr && m_list->GetSafeHwnd() != nullptr ? m_list : nullptr;
+}
+
+// The list with its window, which is made when it is first needed; null when there is none to be
+// had.
+CCustomComboLBox* CCustomDropListCombo::List()
+{
+    if (m_list != nullptr && m_list->GetSafeHwnd() == nullptr && GetSafeHwnd() != nullptr &&
+        !m_ending && m_list->CreatePopup())
+    {
+        SetLBFont();
+    }
+    return ListIfMade();
+}
+
+HFONT CCustomDropListCombo::Font() const
+{
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        return GetOnBoardFont();
+    }
+    return m_font != nullptr ? m_font : HFONT(GetStdFont());
+}
+
+void CCustomDropListCombo::SetLBFont()
+{
+    if (CCustomComboLBox* const list = ListIfMade())
+    {
+        list->SetListFont(*CFont::FromHandle(Font()));
+    }
+}
+
+// Following the display mode --------------------------------------------------------------------
+
+// The height that a row of the list asks for, in the mode and the font of the moment.
+int CCustomDropListCombo::NaturalHeight()
+{
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        CCustomComboLBox* const list = List();
+        return (list == nullptr ? 0 : list->GetEntryHeight("X")) + 2 * metrics::Border;
+    }
+    CClientDC dc(this);
+    const Selected font(dc, Font());
+    return int(dc.GetTextExtent("X", 1).cy) + 2 * (StandardEdge + StandardPad);
+}
+
+int CCustomDropListCombo::HeightFor(APPMODE mode)
+{
+    const int kept = size_t(mode) < m_heights.size() ? m_heights[size_t(mode)] : 0;
+    return kept > 0 ? kept : NaturalHeight();
+}
+
+void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
+{
+    if (newMode == oldMode)
+    {
+        return;
+    }
+    m_shapedFor = newMode;
+    const WindowAlive alive(*this);
+    CCustomComboLBox* const list = GetSafeHwnd() == nullptr ? nullptr : List();
+    if (list == nullptr)
+    {
+        return;
+    }
+    list->AppModeChanged(newMode, oldMode);
+    if (!alive || ListIfMade() != list)
+    {
+        return;
+    }
+    SetLBFont();
+    const int height = HeightFor(newMode);
+    CRect place;
+    CalcComboLBoxSize(height, place);
+    if (m_expanded)
+    {
+        list->PlacePopup(place);
+    }
+    if (!alive)
+    {
+        return;
+    }
+    CRect window;
+    GetWindowRect(&window);
+    m_sizing = true;
+    SetWindowPos(nullptr, 0, 0, window.Width(), height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    if (alive)
+    {
+        m_sizing = false;
+        CalculateSpacing();
+        Repaint();
+    }
+}
+
+void CCustomDropListCombo::OnSize(UINT type, int width, int height)
+{
+    const WindowAlive alive(*this);
+    CWnd::OnSize(type, width, height);
+    if (!alive)
+    {
+        return;
+    }
+    // The height that the host gives counts for the mode of the moment. While a mode change is on
+    // its way the parent scales its children, which says nothing about the new mode's height.
+    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+    if (!m_sizing && m_shapedFor == mode && size_t(mode) < m_heights.size())
+    {
+        CRect window;
+        GetWindowRect(&window);
+        m_heights[size_t(mode)] = window.Height();
+    }
+    CalculateSpacing();
+    Repaint();
+    if (m_expanded)
+    {
+        UpdateComboLBoxPos();
+    }
+}
+
+void CCustomDropListCombo::OnMove(int x, int y)
+{
+    const WindowAlive alive(*this);
+    CWnd::OnMove(x, y);
+    if (alive && m_expanded)
+    {
+        UpdateComboLBoxPos();
+    }
+}
+
+LRESULT CCustomDropListCombo::OnSetFont(WPARAM wParam, LPARAM lParam)
+{
+    const WindowAlive alive(*this);
+    Default();
+    if (!alive)
+    {
+        return 0;
+    }
+    m_font = reinterpret_cast<HFONT>(wParam);
+    SetLBFont();
+    if (alive && m_expanded)
+    {
+        UpdateComboLBoxPos();
+    }
+    if (alive && LOWORD(lParam) != 0)
+    {
+        Repaint();
+    }
+    return 0;
+}
+
+LRESULT CCustomDropListCombo::OnGetFont(WPARAM, LPARAM)
+{
+    return reinterpret_cast<LRESULT>(m_font);
+}
+
+// Layout ----------------------------------------------------------------------------------------
+
+void CCustomDropListCombo::CalculateSpacing()
+{
+    if (GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    const lists::ComboParts parts =
+        onBoard ? lists::LayOutCombo(client, metrics::Border, metrics::ScrollBand, true)
+                : lists::LayOutCombo(client, StandardEdge, ::GetSystemMetrics(SM_CXVSCROLL), false);
+    m_textArea = parts.text;
+    m_dropButton.SetArea(parts.button);
+}
+
+void CCustomDropListCombo::CalcComboLBoxSize(int height, CRect& list)
+{
+    list.SetRectEmpty();
+    const CCustomComboLBox* const made = ListIfMade();
+    if (GetSafeHwnd() == nullptr || made == nullptr)
+    {
+        return;
+    }
+    CRect combo;
+    GetWindowRect(&combo);
+    combo.bottom = combo.top + height;
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof(monitor);
+    ::GetMonitorInfo(::MonitorFromRect(&combo, MONITOR_DEFAULTTONEAREST), &monitor);
+    list = lists::PlaceList(combo, monitor.rcWork,
+                            {made->GetDropRows(), made->GetItemHeight(), made->GetFrameHeight()});
+}
+
+void CCustomDropListCombo::UpdateComboLBoxPos()
+{
+    if (CCustomComboLBox* const list = GetSafeHwnd() == nullptr ? nullptr : List())
+    {
+        CRect window;
+        CRect place;
+        GetWindowRect(&window);
+        CalcComboLBoxSize(window.Height(), place);
+        list->PlacePopup(place);
+    }
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+BOOL CCustomDropListCombo::OnEraseBkgnd(CDC*)
+{
+    return TRUE; // the painter covers everything
+}
+
+void CCustomDropListCombo::OnPaint()
+{
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    BackBuffer buffer(dc, client);
+    OnPaint(buffer.DC());
+}
+
+void CCustomDropListCombo::OnPaint(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    const bool enabled = IsWindowEnabled() != FALSE;
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    CalculateSpacing();
+    if (onBoard)
+    {
+        const Selected pen(dc, m_OBOutlinePen);
+        const Selected brush(dc, enabled ? m_BkBrush : m_BkDisabledBrush);
+        dc.Rectangle(&client);
+    }
+    else
+    {
+        CRect edge = client;
+        dc.FillSolidRect(&client, LookOf(false, enabled, false).ground);
+        dc.DrawEdge(&edge, EDGE_SUNKEN, BF_RECT);
+    }
+    DrawEditText(dc, GetCurSel());
+    m_dropButton.ReDraw(dc, m_expanded, enabled, COnBoardUIGeneral::GetAppMode());
+}
+
+void CCustomDropListCombo::DrawEditText(CDC& dc, int index)
+{
+    const bool focused = m_hasFocus && IsWindowEnabled();
+    const TextLook look =
+        LookOf(COnBoardUIGeneral::InOnBoardMode(), IsWindowEnabled() != FALSE, m_hasFocus);
+    CRect ground = m_textArea;
+    ground.DeflateRect(SelectionGap, SelectionGap);
+    if (ground.Width() <= 0 || ground.Height() <= 0)
+    {
+        return;
+    }
+    if (focused)
+    {
+        dc.FillSolidRect(&ground, look.ground);
+    }
+    CString text;
+    if (const CCustomComboLBox* const list = ListIfMade(); list != nullptr && index >= 0)
+    {
+        list->GetText(index, text);
+    }
+    {
+        const Selected font(dc, Font());
+        const TextColor color(dc, look.text);
+        const BackgroundMode transparent(dc, TRANSPARENT);
+        CRect inside = ground;
+        inside.DeflateRect(metrics::ListRowMargin - SelectionGap, 0);
+        dc.DrawText(text, &inside, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    }
+    if (focused && !COnBoardUIGeneral::InOnBoardMode())
+    {
+        dc.DrawFocusRect(&ground);
+    }
 }

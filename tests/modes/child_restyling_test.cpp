@@ -129,11 +129,7 @@ TEST_F(ChildRestylingTest, AbsurdFactorsDoNoHarm)
 TEST_F(ChildRestylingTest, ControlsGetTheFontOfTheMode)
 {
     static const char* const ComboClass = "CCUSTOMDROPLISTCOMBO";
-    WNDCLASS comboClass = {};
-    comboClass.lpfnWndProc = &::DefWindowProc;
-    comboClass.hInstance = AfxGetInstanceHandle();
-    comboClass.lpszClassName = ComboClass;
-    AfxRegisterClass(&comboClass);
+    ASSERT_TRUE(CCustomDropListCombo::RegisterWndClass(AfxGetInstanceHandle()));
     const struct
     {
         const char* windowClass;

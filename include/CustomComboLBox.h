@@ -1,0 +1,101 @@
+#pragma once
+
+#include "AppMode.h"
+#include "CustomListBox.h"
+#include "OnBoardUIExport.h"
+
+#include <memory>
+
+class CCustomDropListCombo;
+
+namespace lists {
+class ComboPopup;
+}
+
+// The list of a drop-list combo: a list box of the library in a popup window of its own. It takes
+// neither the focus nor the activation: the combo keeps both, holds the mouse capture while the
+// list is open and hands the pointer on to it. The row under the pointer is highlighted; the
+// selection changes only when a row is picked.
+class ONBOARDUI_API CCustomComboLBox : public CCustomListBox
+{
+    DECLARE_DYNAMIC(CCustomComboLBox)
+
+public:
+    static constexpr int DefaultMaxRows = 10;
+
+    CCustomComboLBox();
+    ~CCustomComboLBox() override;
+
+    // Makes the popup, hidden, with the empty list in it. FALSE when it cannot be made or is there.
+    BOOL CreatePopup();
+    void DestroyPopup();
+
+    // The combo that is told what happens in the list; null for none. Neither owns the other.
+    void SetComboParent(CCustomDropListCombo* combo) { m_combo = combo; }
+    CCustomDropListCombo* GetComboParent() const { return m_combo; }
+
+    // How many rows are shown at most; the default for 0 and less.
+    void SetMaxRows(int rows) { m_maxRows = rows > 0 ? rows : DefaultMaxRows; }
+    int GetMaxRows() const { return m_maxRows; }
+
+    // Height of a row in pixels, at least 1.
+    int GetItemHeight() const;
+    using CCustomListBox::GetItemHeight;
+    // What the popup is higher than its rows, in pixels.
+    int GetFrameHeight() const;
+    // How many rows drop down when there is room for them: at least 1.
+    int GetDropRows() const;
+    // Height in pixels of the popup as it is open, or as it would open in enough room.
+    int GetActualListHeight() const;
+
+    // Takes the font for the rows; they are measured anew.
+    void SetListFont(CFont& font);
+    // Brings rows, frame and bars into the shape of the mode; nothing when the modes are equal.
+    void AppModeChanged(APPMODE newMode, APPMODE oldMode);
+
+    // place: of the popup, on the screen.
+    void PlacePopup(const CRect& place);
+    // Shows the popup above all other windows, or hides it, without activating anything.
+    void ShowPopup(bool show);
+    bool IsPopupVisible() const;
+
+    // The pointer while the list is open, in screen coordinates. BarAt gives the hit code of a
+    // scroll bar, or 0; RowAt the index of a row, or -1. BarHeld: a press on a bar goes on.
+    bool HoldsPoint(const CPoint& screen) const;
+    UINT BarAt(const CPoint& screen) const;
+    int RowAt(const CPoint& screen) const;
+    bool IsBarHeld() const { return m_tracking; }
+
+    // Highlights the row under the pointer; elsewhere the last one stays highlighted.
+    void Track(const CPoint& screen);
+    // Takes the pointer's highlight away: the selection is highlighted again.
+    void EndTrack() { SetHotRow(-1); }
+    // The highlighted row: under the pointer or else the selected one; -1 for none.
+    int GetHighlightedRow() const;
+    // Selects the row, unless it is -1, and tells the combo that the list is done with.
+    void Pick(int row);
+
+    void DrawItem(LPDRAWITEMSTRUCT draw) override;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg int OnMouseActivate(CWnd* top, UINT hitTest, UINT message);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    std::unique_ptr<lists::ComboPopup> m_popup;
+    CCustomDropListCombo* m_combo = nullptr;
+    int m_maxRows = DefaultMaxRows;
+    int m_hotRow = -1; // under the pointer
+    CPoint m_seenPoint{-1, -1};
+
+    void SetHotRow(int row);
+    void InvalidateRow(int row);
+    void MeasureStandardRow();
+    void KeepSelectionInSight();
+};

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "CustomComboLBox.h"
+#include "CustomDropListCombo.h"
+#include "support/WindowTest.h"
+
+#include <string>
+
+// A combo that lets a test see its list.
+class ComboForTests : public CCustomDropListCombo
+{
+public:
+    using CCustomDropListCombo::CCustomDropListCombo;
+    using CCustomDropListCombo::m_hasFocus;
+    using CCustomDropListCombo::m_instances;
+
+    CCustomComboLBox& List() { return *m_list; }
+    bool HasList() const { return m_list != nullptr; }
+    CRect ListRect() { return WindowRectOf(*List().GetParent()); }
+
+    void Fill(int items)
+    {
+        for (int item = 0; item < items; ++item)
+        {
+            AddString(("Item " + std::to_string(item)).c_str());
+        }
+    }
+
+    // Screen points.
+    CPoint Middle() const { return WindowRectOf(*this).CenterPoint(); }
+    CPoint RowPoint(int row)
+    {
+        CRect rect;
+        List().GetItemRect(row, &rect);
+        return ClientPoint(List(), rect.CenterPoint());
+    }
+};
+
+class ComboTest : public WindowTest
+{
+protected:
+    const CPoint Elsewhere{850, 640}; // on the host's window, in screen coordinates
+
+    ComboForTests& AddCombo(int items, int selected = 0,
+                            const CRect& place = CRect(50, 50, 250, 80))
+    {
+        auto& combo = Add<ComboForTests>(place, WS_TABSTOP);
+        combo.Fill(items);
+        combo.SetCurSel(selected);
+        PumpAll();
+        return combo;
+    }
+
+    // The notifications of a combo since the last question.
+    std::vector<UINT> TakeCodes(const CWnd& combo)
+    {
+        const std::vector<UINT> codes = Host().CodesFrom(UINT(combo.GetDlgCtrlID()));
+        Host().Forget();
+        return codes;
+    }
+};
+
+// The same on either side of the mode switch.
+class ComboInMode : public ComboTest, public testing::WithParamInterface<APPMODE>
+{
+protected:
+    void SetUp() override
+    {
+        ComboTest::SetUp();
+        COnBoardUIGeneral::SetAppMode(GetParam());
+    }
+
+    void TearDown() override
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        ComboTest::TearDown();
+    }
+};

@@ -1,0 +1,272 @@
+// Real pointer and keyboard on a drop-list combo.
+
+#include "OnBoardUI.h"
+#include "lists/combo_for_tests.h"
+#include "support/DialogTemplate.h"
+#include "support/Scripted.h"
+
+#include <gmock/gmock.h>
+
+#include <afxwin.h>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr UINT Told = CBN_SELCHANGE;
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Modes, ComboInMode, testing::Values(STD, FULLSCREEN, ONBOARD, EFB, EFBFS),
+                         [](const auto& info) { return std::string(APPMODE_NAMES[info.param]); });
+
+TEST_P(ComboInMode, AClickOpensTheListTracksAndPicksOnRelease)
+{
+    auto& combo = AddCombo(20);
+    const HWND active = ::GetActiveWindow();
+    Click(combo.Middle());
+    ASSERT_TRUE(combo.IsExpanded());
+    EXPECT_TRUE(combo.List().IsPopupVisible());
+    EXPECT_EQ(::GetCapture(), combo.GetSafeHwnd());
+    // Right under the combo and as wide; the focus and the activation stay.
+    const CRect window = WindowRectOf(combo);
+    EXPECT_EQ(combo.ListRect().TopLeft(), CPoint(window.left, window.bottom));
+    EXPECT_EQ(combo.ListRect().Width(), window.Width());
+    EXPECT_EQ(ClientRectOf(combo.List()).Height(),
+              CCustomComboLBox::DefaultMaxRows * combo.List().GetItemHeight());
+    EXPECT_EQ(::GetFocus(), combo.GetSafeHwnd());
+    EXPECT_EQ(::GetActiveWindow(), active);
+
+    MoveTo(combo.RowPoint(3));
+    EXPECT_EQ(combo.List().GetHighlightedRow(), 3);
+    MoveTo(combo.RowPoint(2));
+    EXPECT_EQ(combo.List().GetHighlightedRow(), 2);
+    MoveTo(Elsewhere);
+    EXPECT_EQ(combo.List().GetHighlightedRow(), 2);
+    EXPECT_EQ(combo.GetCurSel(), 0);
+    MoveTo(combo.RowPoint(2));
+    Press();
+    EXPECT_TRUE(combo.IsExpanded());
+    EXPECT_THAT(TakeCodes(combo), IsEmpty());
+    Release();
+    EXPECT_FALSE(combo.IsExpanded());
+    EXPECT_FALSE(combo.List().IsPopupVisible());
+    EXPECT_EQ(combo.GetCurSel(), 2);
+    EXPECT_STREQ(combo.GetSelString(), "Item 2");
+    EXPECT_THAT(TakeCodes(combo), ElementsAre(Told));
+    EXPECT_EQ(::GetFocus(), combo.GetSafeHwnd());
+    EXPECT_EQ(::GetActiveWindow(), active);
+}
+
+TEST_P(ComboInMode, OnePressFromTheComboIntoTheListPicks)
+{
+    auto& combo = AddCombo(5);
+    MoveTo(combo.Middle());
+    Press();
+    ASSERT_TRUE(combo.IsExpanded());
+    DragTo(combo.RowPoint(4));
+    Release();
+    EXPECT_EQ(combo.GetCurSel(), 4);
+    EXPECT_FALSE(combo.IsExpanded());
+}
+
+TEST_P(ComboInMode, EveryClickOutsideTheListClosesItAndTells)
+{
+    auto& combo = AddCombo(5, 1);
+    auto& button = Add<CButton>(CRect(560, 10, 640, 40), BS_PUSHBUTTON, "other");
+    const CPoint places[] = {combo.Middle(), Elsewhere, WindowRectOf(button).CenterPoint(),
+                             CPoint(5, 5)};
+    for (const CPoint& place : places)
+    {
+        Click(combo.Middle());
+        MoveTo(combo.RowPoint(3));
+        ASSERT_TRUE(combo.IsExpanded());
+        Click(place);
+        EXPECT_FALSE(combo.IsExpanded());
+        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_EQ(combo.GetCurSel(), 1);
+        EXPECT_THAT(TakeCodes(combo), ElementsAre(Told)) << "closing tells, changed or not";
+        EXPECT_EQ(::GetFocus(), combo.GetSafeHwnd()) << "the click only closed the list";
+    }
+}
+
+TEST_P(ComboInMode, TheListsBarScrollsAndAPressOnItPicksNothing)
+{
+    auto& combo = AddCombo(50);
+    Click(combo.Middle());
+    const CRect list = combo.ListRect();
+    const int inBar = COnBoardUIGeneral::InOnBoardMode() ? 20 : 8;
+    const CPoint down(list.right - inBar, list.bottom - inBar);
+    for (int click = 1; click <= 2; ++click)
+    {
+        QueueClick(down); // the platform's bar runs a loop of its own
+        EXPECT_EQ(combo.List().GetTopIndex(), click);
+        ASSERT_TRUE(combo.IsExpanded());
+        ASSERT_TRUE(PumpUntil([&] { return ::GetCapture() == combo.GetSafeHwnd(); }));
+    }
+    MoveTo(combo.RowPoint(5));
+    const int top = combo.List().GetTopIndex();
+    Wheel(-WHEEL_DELTA);
+    EXPECT_GT(combo.List().GetTopIndex(), top);
+    EXPECT_EQ(combo.List().GetHighlightedRow(), combo.List().GetTopIndex() + 3);
+    EXPECT_THAT(TakeCodes(combo), IsEmpty());
+    Click(combo.RowPoint(7));
+    EXPECT_EQ(combo.GetCurSel(), 7);
+    EXPECT_THAT(TakeCodes(combo), ElementsAre(Told));
+    // The wheel over a closed combo is not meant for it.
+    MoveTo(combo.Middle());
+    Wheel(-WHEEL_DELTA);
+    EXPECT_EQ(combo.GetCurSel(), 7);
+}
+
+TEST_P(ComboInMode, KeysMoveTheSelectionAndTellEachTime)
+{
+    auto& combo = AddCombo(40, 5);
+    combo.SetFocus();
+    const int page = combo.List().GetActualListHeight() / combo.List().GetItemHeight();
+    ASSERT_GT(page, 2);
+    const struct
+    {
+        UINT key;
+        int selected;
+    } steps[] = {{VK_DOWN, 6},        {VK_RIGHT, 7}, {VK_UP, 6},   {VK_LEFT, 5},
+                 {VK_NEXT, 5 + page}, {VK_PRIOR, 5}, {VK_END, 39}, {VK_NEXT, 39},
+                 {VK_DOWN, 39},       {VK_HOME, 0},  {VK_UP, 0},   {VK_PRIOR, 0}};
+    for (const bool open : {false, true})
+    {
+        combo.SetCurSel(5);
+        if (open)
+        {
+            TypeKey(VK_DOWN, VK_MENU);
+            MoveTo(combo.RowPoint(8)); // the keys start from the selection all the same
+        }
+        TakeCodes(combo);
+        for (const auto& step : steps)
+        {
+            TypeKey(step.key);
+            EXPECT_EQ(combo.GetCurSel(), step.selected) << step.key;
+            EXPECT_THAT(TakeCodes(combo), ElementsAre(Told)) << step.key;
+            EXPECT_EQ(combo.IsExpanded(), open);
+            EXPECT_EQ(combo.List().GetHighlightedRow(), step.selected);
+        }
+    }
+    TypeKey(VK_ESCAPE);
+    combo.SetCurSel(-1);
+    TakeCodes(combo);
+    for (const auto& step : steps)
+    {
+        TypeKey(step.key);
+    }
+    TypeText("a");
+    EXPECT_EQ(combo.GetCurSel(), -1);
+    EXPECT_THAT(TakeCodes(combo), IsEmpty());
+}
+
+TEST_P(ComboInMode, AltDownOpensAndClosesEnterPicksEscapeDismisses)
+{
+    auto& combo = AddCombo(5, 1);
+    combo.SetFocus();
+    TypeKey(VK_DOWN, VK_MENU);
+    EXPECT_TRUE(combo.IsExpanded());
+    EXPECT_THAT(TakeCodes(combo), IsEmpty());
+    TypeKey(VK_DOWN, VK_MENU);
+    EXPECT_FALSE(combo.IsExpanded());
+    EXPECT_THAT(TakeCodes(combo), ElementsAre(Told));
+    const struct
+    {
+        UINT key;
+        int selected;
+    } ends[] = {{VK_ESCAPE, 1}, {VK_RETURN, 3}};
+    for (const auto& end : ends)
+    {
+        TypeKey(VK_DOWN, VK_MENU);
+        EXPECT_EQ(combo.List().GetHighlightedRow(), 1) << "a pointer at rest means nothing";
+        MoveTo(combo.RowPoint(2));
+        MoveTo(combo.RowPoint(3));
+        TypeKey(end.key);
+        EXPECT_FALSE(combo.IsExpanded());
+        EXPECT_EQ(combo.GetCurSel(), end.selected);
+        EXPECT_THAT(TakeCodes(combo), ElementsAre(Told));
+    }
+}
+
+TEST_P(ComboInMode, LosingTheFocusClosesAndTells)
+{
+    auto& combo = AddCombo(5);
+    Click(combo.Middle());
+    Host().SetFocus();
+    PumpAll();
+    EXPECT_FALSE(combo.IsExpanded());
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_THAT(TakeCodes(combo), ElementsAre(Told));
+    // So does disabling, and another window that takes the mouse.
+    Click(combo.Middle());
+    combo.EnableWindow(FALSE);
+    PumpAll();
+    EXPECT_FALSE(combo.IsExpanded());
+    Click(combo.Middle());
+    EXPECT_FALSE(combo.IsExpanded()) << "disabled";
+    combo.EnableWindow(TRUE);
+    Click(combo.Middle());
+    ASSERT_TRUE(combo.IsExpanded());
+    Host().SetCapture();
+    EXPECT_FALSE(combo.IsExpanded());
+    EXPECT_EQ(::GetCapture(), Host().GetSafeHwnd());
+    ::ReleaseCapture();
+}
+
+TEST_F(ComboTest, ADragOfTheThumbThatStraysIntoTheRowsPicksNothing)
+{
+    const ModeScope mode(ONBOARD);
+    auto& combo = AddCombo(200);
+    Click(combo.Middle());
+    const CRect list = combo.ListRect();
+    MoveTo(CPoint(list.right - 26, list.top + 60)); // the thumb stands at the top
+    Press();
+    ASSERT_TRUE(combo.List().IsBarHeld());
+    DragTo(CPoint(list.right - 26, list.top + 120));
+    EXPECT_GT(combo.List().GetTopIndex(), 20);
+    DragTo(CPoint(list.left + 20, list.top + 120));
+    ASSERT_TRUE(PumpUntil([&] { return ::GetCapture() == combo.GetSafeHwnd(); }));
+    Release();
+    EXPECT_TRUE(combo.IsExpanded());
+    EXPECT_EQ(combo.GetCurSel(), 0);
+    TypeKey(VK_ESCAPE);
+    EXPECT_FALSE(combo.IsExpanded());
+    Remove(combo);
+}
+
+TEST_F(ComboTest, AnOpenListKeepsEnterAndEscapeFromTheDialog)
+{
+    CCustomDropListCombo::RegisterWndClass(nullptr);
+    DialogTemplate form(CRect(40, 40, 240, 140));
+    form.Add("CCUSTOMDROPLISTCOMBO", "", WS_TABSTOP, CRect(5, 5, 100, 18), 7);
+    form.Add("BUTTON", "OK", WS_TABSTOP | BS_DEFPUSHBUTTON, CRect(5, 40, 60, 54), IDOK);
+    for (const UINT key : {UINT(VK_RETURN), UINT(VK_ESCAPE)})
+    {
+        Scripted<CDialog> dialog;
+        dialog.InitModalIndirect(form);
+        bool survived = false;
+        dialog.inLoop = [&] {
+            auto* const combo = CCustomDropListCombo::FromWindow(::GetDlgItem(dialog, 7));
+            ASSERT_NE(combo, nullptr);
+            combo->AddString("one");
+            combo->AddString("two");
+            combo->SetFocus();
+            TypeKey(VK_DOWN, VK_MENU);
+            EXPECT_TRUE(combo->IsExpanded());
+            // Held down: the repeats are not for the dialog either.
+            combo->PostMessage(WM_KEYDOWN, key, 1);
+            combo->PostMessage(WM_KEYDOWN, key, 0x40000001);
+            PumpAll();
+            EXPECT_FALSE(combo->IsExpanded());
+            combo->PostMessage(WM_KEYUP, key, LPARAM(0xC0000001));
+            PumpAll();
+            survived = ::IsWindowVisible(dialog) != FALSE;
+            TypeKey(key); // closed, it leaves them to the dialog
+        };
+        EXPECT_EQ(dialog.DoModal(), key == VK_RETURN ? IDOK : IDCANCEL);
+        EXPECT_TRUE(survived) << key;
+    }
+}

@@ -1,0 +1,414 @@
+// The drop-list combo as its host sees it: places, modes, ends, templates, items, looks.
+
+#include "OnBoardUI.h"
+#include "lists/ComboLayout.h"
+#include "lists/combo_for_tests.h"
+#include "support/DialogTemplate.h"
+#include "support/Scripted.h"
+
+#include <gmock/gmock.h>
+
+#include <functional>
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(ComboLayout, TheListOpensWhereThereIsRoom)
+{
+    const CRect screen(0, 0, 1000, 800);
+    const struct
+    {
+        int top;
+        lists::ListSize size;
+        CRect list;
+    } cases[] = {
+        {100, {10, 20, 4}, {50, 130, 250, 334}},
+        {700, {10, 20, 4}, {50, 496, 250, 700}},  // no room below
+        {566, {10, 20, 4}, {50, 596, 250, 800}},  // just enough
+        {567, {10, 20, 4}, {50, 363, 250, 567}},  // one pixel short
+        {300, {100, 20, 4}, {50, 330, 250, 794}}, // nowhere enough: whole rows on the larger side
+        {500, {100, 20, 4}, {50, 16, 250, 500}},  // above
+        {900, {3, 20, 4}, {50, 836, 250, 900}},   // below the screen
+        {-100, {0, 0, 0}, {50, -70, 250, -69}},   // nothing to show
+        {790, {1000000, 1000000, 0}, {50, -999210, 250, 790}},
+    };
+    for (const auto& each : cases)
+    {
+        EXPECT_EQ(lists::PlaceList(CRect(50, each.top, 250, each.top + 30), screen, each.size),
+                  each.list)
+            << each.top << " " << each.size.rows;
+    }
+}
+
+TEST(ComboLayout, ANarrowComboSharesItsWidth)
+{
+    const lists::ComboParts wide = lists::LayOutCombo(CRect(0, 0, 200, 30), 3, 52, true);
+    EXPECT_EQ(wide.button, CRect(148, 0, 200, 30));
+    EXPECT_EQ(wide.text, CRect(3, 3, 148, 27));
+    const lists::ComboParts narrow = lists::LayOutCombo(CRect(0, 0, 40, 30), 2, 52, false);
+    EXPECT_EQ(narrow.button, CRect(20, 2, 38, 28));
+    EXPECT_EQ(narrow.text.right, narrow.button.left);
+    const lists::ComboParts none = lists::LayOutCombo(CRect(0, 0, 0, 0), 3, 52, true);
+    EXPECT_TRUE(none.text.IsRectEmpty() && none.button.IsRectEmpty());
+}
+
+TEST_P(ComboInMode, AtTheScreensBottomEdgeTheListOpensUpwards)
+{
+    auto& combo = AddCombo(10);
+    CRect work;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &work, 0);
+    const CRect host = WindowRectOf(Host());
+    Host().SetWindowPos(nullptr, host.left, work.bottom - 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    PumpAll();
+    Click(combo.Middle());
+    EXPECT_EQ(combo.ListRect().bottom, WindowRectOf(combo).top);
+    Click(combo.RowPoint(9));
+    EXPECT_EQ(combo.GetCurSel(), 9);
+    // The height follows the items while there are few, and while it is open.
+    Host().SetWindowPos(nullptr, host.left, host.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    combo.ResetContent();
+    combo.ToggleDropList();
+    for (const int rows : {1, 2, 3})
+    {
+        combo.AddString("item");
+        EXPECT_EQ(ClientRectOf(combo.List()).Height(), rows * combo.List().GetItemHeight());
+    }
+    combo.ToggleDropList();
+}
+
+TEST_F(ComboTest, AModeChangeReshapesAComboAndItsOpenList)
+{
+    auto& combo = AddCombo(30, 4);
+    const CRect before = WindowRectOf(combo);
+    combo.ToggleDropList();
+    PumpAll();
+    for (const APPMODE mode : {ONBOARD, EFB, STD, EFBFS, STD})
+    {
+        const int row = combo.List().GetItemHeight();
+        const APPMODE old = COnBoardUIGeneral::GetAppMode();
+        COnBoardUIGeneral::SetAppMode(mode);
+        EXPECT_TRUE(combo.IsExpanded());
+        EXPECT_EQ((mode == STD) == (old == STD), row == combo.List().GetItemHeight());
+        EXPECT_EQ(combo.ListRect().top, WindowRectOf(combo).bottom);
+        EXPECT_EQ(ClientRectOf(combo.List()).Height(), 10 * combo.List().GetItemHeight());
+        EXPECT_EQ((combo.List().GetStyle() & WS_VSCROLL) != 0, mode == STD);
+        if (mode == STD)
+        {
+            EXPECT_EQ(WindowRectOf(combo), before);
+        }
+        else
+        {
+            // As high as a row of its list with its outline, and the list can be worked.
+            EXPECT_EQ(WindowRectOf(combo).Height(), combo.List().GetItemHeight() + 6);
+        }
+        PumpAll();
+        MoveTo(combo.RowPoint(combo.List().GetTopIndex() + 1));
+        EXPECT_EQ(combo.List().GetHighlightedRow(), combo.List().GetTopIndex() + 1);
+    }
+    combo.ToggleDropList();
+    // A height that the host gives in a mode is kept for it.
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    combo.SetWindowPos(nullptr, 0, 0, 200, 50, SWP_NOMOVE | SWP_NOZORDER);
+    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_EQ(WindowRectOf(combo).Height(), before.Height());
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    EXPECT_EQ(WindowRectOf(combo).Height(), 50);
+    COnBoardUIGeneral::SetAppMode(STD);
+}
+
+TEST_P(ComboInMode, AComboMayEndOpenAndInEveryNotification)
+{
+    // By the window, with its object left, and the object with its window.
+    for (const bool object : {false, true})
+    {
+        ComboForTests* combo = &AddCombo(5);
+        Click(combo->Middle());
+        ASSERT_TRUE(combo->IsExpanded());
+        Host().Forget();
+        combo->DestroyWindow();
+        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_FALSE(combo->IsExpanded());
+        EXPECT_THAT(Host().CodesFrom(FirstId), IsEmpty()) << "a window that ends tells nothing";
+        EXPECT_EQ(combo->AddString("late"), CB_ERR);
+        EXPECT_EQ(combo->GetCurSel(), -1);
+        combo->ToggleDropList();
+        Remove(*combo);
+
+        const std::function<void(ComboForTests&)> endings[] = {
+            [](ComboForTests& it) { Click(it.RowPoint(2)); },
+            [this](ComboForTests&) { Click(Elsewhere); },
+            [](ComboForTests&) { TypeKey(VK_ESCAPE); },
+            [](ComboForTests&) { TypeKey(VK_RETURN); },
+            [](ComboForTests&) { TypeKey(VK_DOWN); },
+            [](ComboForTests&) { TypeKey(VK_DOWN, VK_MENU); },
+            [this](ComboForTests&) { Host().SetFocus(); },
+            [](ComboForTests& it) { it.EnableWindow(FALSE); },
+            [](ComboForTests& it) { it.ShowWindow(SW_HIDE); },
+            [](ComboForTests&) { ::ReleaseCapture(); },
+        };
+        for (const auto& ending : endings)
+        {
+            combo = &AddCombo(5);
+            Click(combo->Middle());
+            ASSERT_TRUE(combo->IsExpanded());
+            bool told = false;
+            Host().hook = [&](ToldMessage& message) {
+                if (message.code == CBN_SELCHANGE && !told)
+                {
+                    told = true;
+                    object ? Remove(*combo) : void(combo->DestroyWindow());
+                }
+            };
+            ending(*combo);
+            Host().hook = nullptr;
+            EXPECT_TRUE(told) << &ending - endings;
+            EXPECT_EQ(::GetCapture(), nullptr);
+            PumpAll();
+            if (!object)
+            {
+                Remove(*combo);
+            }
+        }
+    }
+}
+
+TEST_P(ComboInMode, AHostMayActOnTheComboInItsNotification)
+{
+    auto& combo = AddCombo(5);
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == CBN_SELCHANGE)
+        {
+            EXPECT_FALSE(combo.IsExpanded());
+            COnBoardUIGeneral::SetAppMode(GetParam() == STD ? ONBOARD : STD);
+            combo.SetCurSel(1);
+            combo.RemoveString(0);
+        }
+    };
+    Click(combo.Middle());
+    Click(combo.RowPoint(4));
+    EXPECT_STREQ(combo.GetSelString(), "Item 1");
+    EXPECT_THAT(Host().CodesFrom(FirstId), ElementsAre(CBN_SELCHANGE));
+    Host().hook = nullptr;
+    // Open, by its program: nothing is told, also when the items go away meanwhile.
+    Host().Forget();
+    combo.ToggleDropList();
+    combo.SetCurSel(0);
+    EXPECT_FALSE(combo.IsExpanded());
+    combo.ToggleDropList();
+    MoveTo(combo.RowPoint(3));
+    combo.ResetContent();
+    EXPECT_EQ(combo.List().GetHighlightedRow(), -1);
+    combo.ToggleDropList();
+    EXPECT_THAT(Host().CodesFrom(FirstId), IsEmpty());
+}
+
+TEST_F(ComboTest, AListOfTheCallersStaysTheCallers)
+{
+    CCustomComboLBox list;
+    auto& combo = Add(std::make_unique<ComboForTests>(&list), CRect(50, 50, 250, 80));
+    auto& other = AddCombo(2);
+    combo.Fill(3);
+    combo.ToggleDropList();
+    EXPECT_EQ(combo.DetachCustomComboLBox(), &list);
+    EXPECT_FALSE(combo.IsExpanded());
+    EXPECT_EQ(list.GetCount(), 3);
+    EXPECT_EQ(combo.AddString("no list"), CB_ERR);
+    Click(combo.Middle()); // opens nothing
+    Click(combo.Middle());
+    other.SetCustomComboLBox(&list);
+    EXPECT_EQ(other.GetCount(), 3);
+    combo.SetCustomComboLBox(&list); // taken away from the other
+    EXPECT_FALSE(other.HasList());
+    EXPECT_EQ(combo.GetCount(), 3);
+    {
+        CCustomComboLBox shortLived;
+        other.SetCustomComboLBox(&shortLived);
+        EXPECT_EQ(other.AddString("a"), 0);
+    }
+    EXPECT_FALSE(other.HasList());
+    Remove(combo);
+    EXPECT_EQ(list.GetSafeHwnd(), nullptr); // its window served the combo
+}
+
+namespace {
+
+constexpr WORD ComboId = 7;
+
+const DialogTemplate& ComboForm()
+{
+    static const DialogTemplate form = [] {
+        CCustomDropListCombo::RegisterWndClass(nullptr);
+        DialogTemplate made(CRect(40, 40, 240, 140), WS_POPUP | WS_CAPTION | WS_VISIBLE);
+        made.Add("CCUSTOMDROPLISTCOMBO", "", WS_TABSTOP, CRect(5, 5, 100, 18), ComboId);
+        return made;
+    }();
+    return form;
+}
+
+class ExchangingDialog : public CDialog
+{
+public:
+    ComboForTests combo;
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override { DDX_Control(exchange, ComboId, combo); }
+};
+
+} // namespace
+
+TEST_F(ComboTest, AComboOfATemplateWorksWithoutAnObjectOfTheHosts)
+{
+    CDialog dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(ComboForm(), &Host()));
+    const HWND window = ::GetDlgItem(dialog, ComboId);
+    EXPECT_NE(::SendMessage(window, WM_GETFONT, 0, 0), 0) << "the dialog's";
+    PumpAll();
+    auto* const combo = CCustomDropListCombo::FromWindow(window);
+    ASSERT_NE(combo, nullptr);
+    EXPECT_EQ(CWnd::FromHandlePermanent(window), combo) << "made by the first paint";
+    EXPECT_EQ(combo->GetFont()->GetSafeHandle(), dialog.GetFont()->GetSafeHandle());
+    combo->AddString("one");
+    combo->AddString("two");
+    combo->SetCurSel(1);
+    EXPECT_EQ(CCustomDropListCombo::FromWindow(dialog), nullptr);
+    EXPECT_EQ(CCustomDropListCombo::FromWindow(nullptr), nullptr);
+
+    // An object of the host's takes it over as it is, also while it is open.
+    combo->ToggleDropList();
+    {
+        ComboForTests own;
+        EXPECT_TRUE(own.SubclassWindow(&dialog, ComboId, 4));
+        EXPECT_EQ(own.List().GetMaxRows(), 4);
+        EXPECT_STREQ(own.GetSelString(), "two");
+        EXPECT_EQ(::GetCapture(), nullptr);
+        Click(own.Middle());
+        Click(own.RowPoint(0));
+        EXPECT_EQ(own.GetCurSel(), 0);
+        ComboForTests second;
+        EXPECT_FALSE(second.SubclassWindow(&dialog, ComboId, 0)) << "there is one already";
+        EXPECT_FALSE(second.SubclassWindow(&dialog, 99, 0));
+        EXPECT_FALSE(second.SubclassWindow(nullptr, ComboId, 0));
+    }
+    dialog.DestroyWindow();
+}
+
+TEST_F(ComboTest, AnObjectOfTheHostsIsThereBeforeTheClassMakesOne)
+{
+    const size_t before = ComboForTests::m_instances.size();
+    ExchangingDialog dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(ComboForm(), &Host()));
+    PumpAll();
+    EXPECT_EQ(ComboForTests::m_instances.size(), before + 1);
+    EXPECT_EQ(dialog.combo.GetSafeHwnd(), ::GetDlgItem(dialog, ComboId));
+    dialog.combo.Fill(3);
+    Click(dialog.combo.Middle());
+    Click(dialog.combo.RowPoint(2));
+    EXPECT_EQ(dialog.combo.GetCurSel(), 2);
+
+    // What the class has made goes with its window, or by name; the host's stays.
+    CDialog other;
+    ASSERT_TRUE(other.CreateIndirect(ComboForm(), &Host()));
+    PumpAll();
+    EXPECT_EQ(ComboForTests::m_instances.size(), before + 2);
+    CCustomDropListCombo::FreeInstances();
+    EXPECT_EQ(ComboForTests::m_instances.size(), before + 1);
+    EXPECT_EQ(::GetDlgItem(other, ComboId), nullptr);
+    EXPECT_EQ(dialog.combo.GetCount(), 3);
+    dialog.DestroyWindow();
+    other.DestroyWindow();
+}
+
+TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
+{
+    auto& combo = AddCombo(0, -1);
+    int data[3] = {};
+    const char* const texts[] = {"beta", "Gamma", "alpha"};
+    for (int item = 0; item < 3; ++item)
+    {
+        EXPECT_EQ(combo.AddString(texts[item]), item);
+        EXPECT_NE(combo.SetItemDataPtr(item, &data[item]), CB_ERR);
+    }
+    combo.SetCurSel(1);
+    combo.Sort(true);
+    EXPECT_STREQ(combo.GetSelString(), "Gamma");
+    EXPECT_EQ(combo.GetCurSel(), 2);
+    EXPECT_EQ(combo.GetItemDataPtr(0), &data[2]);
+    combo.Sort(false);
+    EXPECT_EQ(combo.GetCurSel(), 0);
+    EXPECT_EQ(combo.FindString(-1, "al"), 2);
+    EXPECT_EQ(combo.FindStringExact(-1, "al"), CB_ERR);
+    EXPECT_EQ(combo.SelectString(-1, "be"), 1);
+    EXPECT_STREQ(combo.GetSelString(), "beta");
+    EXPECT_EQ(combo.RemoveItemDataPtr(1), &data[0]);
+    EXPECT_EQ(combo.GetItemDataPtr(1), nullptr);
+    EXPECT_EQ(combo.RemoveString(1), 2);
+    EXPECT_EQ(combo.GetSelString(), "");
+    EXPECT_EQ(combo.InsertString(0, nullptr), 0); // an empty text
+    EXPECT_EQ(combo.GetSize(), 3);
+    combo.SetCurSel(1);
+    for (const int absent : {-2, 3, 1 << 30, -(1 << 30)})
+    {
+        EXPECT_EQ(combo.RemoveString(absent), CB_ERR);
+        EXPECT_EQ(combo.SetCurSel(absent), CB_ERR);
+        EXPECT_EQ(combo.GetItemDataPtr(absent), nullptr);
+        EXPECT_EQ(combo.RemoveItemDataPtr(absent), nullptr);
+        EXPECT_EQ(combo.SetItemDataPtr(absent, data), CB_ERR);
+    }
+    EXPECT_EQ(combo.InsertString(99, "x"), CB_ERR);
+    EXPECT_EQ(combo.GetCurSel(), 1);
+    EXPECT_THAT(TakeCodes(combo), IsEmpty());
+}
+
+TEST_P(ComboInMode, DisabledFocusedOpenAndPlainLookDifferent)
+{
+    auto& combo = AddCombo(3);
+    const auto look = [&] {
+        PumpAll();
+        return WindowPixels(combo);
+    };
+    Host().SetFocus();
+    const Pixels plain = look();
+    combo.SetFocus();
+    const Pixels focused = look();
+    combo.ToggleDropList();
+    const Pixels open = look();
+    combo.ToggleDropList();
+    combo.SetCurSel(1);
+    const Pixels another = look();
+    combo.EnableWindow(FALSE);
+    const Pixels disabled = look();
+    EXPECT_FALSE(plain == focused);
+    EXPECT_FALSE(focused == open);
+    EXPECT_FALSE(focused == another);
+    EXPECT_FALSE(plain == disabled);
+    if (GetParam() != STD)
+    {
+        EXPECT_GT(plain.Count(RGB(180, 180, 180)), 1000);
+        EXPECT_GT(disabled.Count(RGB(100, 100, 100)), 1000);
+        EXPECT_GT(focused.Count(RGB(50, 80, 110)), 1000);
+        EXPECT_EQ(plain.At(1, 1), RGB(70, 70, 70));
+    }
+    combo.EnableWindow(TRUE);
+    Host().SetFocus();
+    combo.SetCurSel(0);
+    EXPECT_EQ(look(), plain);
+}
+
+TEST_P(ComboInMode, OpeningAndClosingKeepsNothing)
+{
+    auto& combo = AddCombo(30);
+    const auto cycle = [&] {
+        Click(combo.Middle());
+        MoveTo(combo.RowPoint(2));
+        Click(combo.RowPoint(3));
+    };
+    cycle();
+    const int objects = GraphicsObjects();
+    const size_t windows = TopLevelWindows().size();
+    for (int round = 0; round < 5; ++round)
+    {
+        cycle();
+    }
+    EXPECT_EQ(GraphicsObjects(), objects);
+    EXPECT_EQ(TopLevelWindows().size(), windows);
+}
