@@ -27,6 +27,7 @@ struct Row
 std::vector<Row> AllRows();
 
 std::vector<Row> ListBoxRows();
+std::vector<Row> ComboRows();
 std::vector<Row> EditRows();
 std::vector<Row> ButtonRows();
 std::vector<Row> ScrollBarRows();

@@ -1,6 +1,7 @@
 #include "Pages.h"
 
 #include "ButtonsPage.h"
+#include "CombosPage.h"
 #include "DialogsPage.h"
 #include "EditsPage.h"
 #include "LabelsPage.h"
@@ -16,7 +17,7 @@ template <class Page> std::unique_ptr<GalleryPage> Make(IAppAccess& host, Galler
 constexpr PageEntry AllPages[] = {
     {"list-boxes", "List boxes", &Make<ListBoxPage>},   {"buttons", "Buttons", &Make<ButtonsPage>},
     {"labels", "Labels and groups", &Make<LabelsPage>}, {"edits", "Edits", &Make<EditsPage>},
-    {"dialogs", "Dialogs", &Make<DialogsPage>},
+    {"dialogs", "Dialogs", &Make<DialogsPage>},         {"combos", "Combos", &Make<CombosPage>},
 };
 
 } // namespace

@@ -8,6 +8,7 @@
 #define IDD_GALLERY_SHEET_GENERAL 103
 #define IDD_GALLERY_SHEET_AIRPORTS 104
 #define IDD_GALLERY_SHEET_REMARKS 105
+#define IDD_GALLERY_COMBOS 120
 
 // The frame's own windows.
 #define IDC_MODE_SWITCHES 200
@@ -29,6 +30,8 @@
 #define IDC_FLIGHT_SQUAWK 312
 #define IDC_FLIGHT_GATE 313
 #define IDC_FLIGHT_FRAME 314
+#define IDC_COMBOS_RUNWAY 320
+#define IDC_COMBOS_PROCEDURE 321
 
 // Controls of a page; each page counts its own from here.
 #define IDC_PAGE_FIRST 1000

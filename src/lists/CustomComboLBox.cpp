@@ -80,10 +80,19 @@ void CCustomComboLBox::PlacePopup(const CRect& place)
         return;
     }
     const WindowAlive alive(*this);
-    const HWND popup = m_popup->GetSafeHwnd();
-    ::SetWindowPos(popup, HWND_TOPMOST, place.left, place.top, place.Width(), place.Height(),
-                   SWP_NOACTIVATE);
-    if (alive)
+    CRect before;
+    m_popup->GetWindowRect(&before);
+    if (before != place)
+    {
+        m_popup->SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(),
+                              SWP_NOACTIVATE | SWP_NOZORDER);
+    }
+    if (!alive)
+    {
+        return;
+    }
+    GetWindowRect(&before);
+    if (before != place)
     {
         SetWindowPos(nullptr, 0, 0, place.Width(), place.Height(), SWP_NOACTIVATE | SWP_NOZORDER);
     }
@@ -97,17 +106,23 @@ void CCustomComboLBox::ShowPopup(bool show)
     }
     const WindowAlive alive(*this);
     SetHotRow(-1);
+    const HWND popup = m_popup->GetSafeHwnd();
     if (!show)
     {
-        m_popup->ShowWindow(SW_HIDE);
+        ::ShowWindow(popup, SW_HIDE);
         return;
     }
+    // Owned by the combo's window it stays above it, whoever is activated. The owner is told each
+    // time: the combo may have moved to another window since.
+    const HWND combo = m_combo == nullptr ? nullptr : m_combo->GetSafeHwnd();
+    ::SetWindowLongPtr(popup, GWLP_HWNDPARENT,
+                       reinterpret_cast<LONG_PTR>(::GetAncestor(combo, GA_ROOT)));
     // A pointer that rests where the list opens means nothing yet.
     m_seenPoint = PointerNow();
     KeepSelectionInSight();
     if (alive)
     {
-        ::SetWindowPos(m_popup->GetSafeHwnd(), HWND_TOPMOST, 0, 0, 0, 0,
+        ::SetWindowPos(popup, HWND_TOPMOST, 0, 0, 0, 0,
                        SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     }
 }

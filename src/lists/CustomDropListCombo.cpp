@@ -375,9 +375,7 @@ BOOL CCustomDropListCombo::OnEraseBkgnd(CDC*)
 void CCustomDropListCombo::OnPaint()
 {
     CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    BackBuffer buffer(dc, client);
+    BackBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
     OnPaint(buffer.DC());
 }
 
@@ -400,7 +398,10 @@ void CCustomDropListCombo::OnPaint(CDC& dc)
         dc.FillSolidRect(&client, LookOf(false, enabled, false).ground);
         dc.DrawEdge(&edge, EDGE_SUNKEN, BF_RECT);
     }
-    DrawEditText(dc, GetCurSel());
+    if (dc.RectVisible(m_textArea))
+    {
+        DrawEditText(dc, GetCurSel());
+    }
     m_dropButton.ReDraw(dc, m_expanded, enabled, COnBoardUIGeneral::GetAppMode());
 }
 

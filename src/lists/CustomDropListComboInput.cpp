@@ -37,7 +37,7 @@ void CCustomDropListCombo::DoDropButton()
     }
     if (alive)
     {
-        Repaint();
+        RepaintButton();
     }
 }
 
@@ -56,7 +56,6 @@ void CCustomDropListCombo::ToggleDropList()
         SetCapture(); // the next click anywhere comes here
         return;
     }
-    Repaint();
     if (::GetCapture() == GetSafeHwnd())
     {
         ::ReleaseCapture();
