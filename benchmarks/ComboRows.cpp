@@ -12,7 +12,11 @@ namespace {
 constexpr int Items = 1'000;
 constexpr int Openings = 100;
 constexpr DWORD Style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP;
-constexpr int ListRows = CCustomComboLBox::DefaultMaxRows; // of both sides
+// Of both sides, in pixels as far as they are no counts.
+constexpr int ListRows = CCustomComboLBox::DefaultMaxRows;
+constexpr int RowHeight = 30;
+constexpr int Width = 300;
+constexpr int ComboHeight = 40;
 
 template <class Combo> void Fill(Combo& combo)
 {
@@ -40,7 +44,7 @@ template <APPMODE mode> Side Ours()
                 EnterMode(mode);
                 *list = std::make_unique<CCustomComboLBox>();
                 *combo = std::make_unique<CCustomDropListCombo>(list->get());
-                (*combo)->Create(Style, CRect(20, 20, 320, 60), &Stage(), 1);
+                (*combo)->Create(Style, CRect(20, 20, 20 + Width, 20 + ComboHeight), &Stage(), 1);
                 Fill(**combo);
             },
             [=] {
@@ -60,19 +64,32 @@ template <APPMODE mode> Side Ours()
             }};
 }
 
+CFont& RowFont()
+{
+    static CFont font;
+    if (font.GetSafeHandle() == nullptr)
+    {
+        font.CreateFont(RowHeight, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH,
+                        "Arial");
+    }
+    return font;
+}
+
 Side Platforms()
 {
+    auto font = std::make_shared<CFont>();
     auto combo = std::make_shared<std::unique_ptr<CComboBox>>();
     return {[=] {
                 EnterMode(STD);
                 *combo = std::make_unique<CComboBox>();
-                (*combo)->Create(Style | CBS_DROPDOWNLIST, CRect(20, 20, 320, 400), &Stage(), 1);
-                (*combo)->SetFont(&CCustomDropListCombo::GetOnBoardFont());
-                (*combo)->SetItemHeight(-1, 32);
-                (*combo)->SetItemHeight(0, 30);
-                // As many rows as ours shows.
-                const int height = ListRows * (*combo)->GetItemHeight(0);
-                (*combo)->SetWindowPos(nullptr, 0, 0, 300, 40 + height, SWP_NOMOVE | SWP_NOZORDER);
+                (*combo)->Create(Style | CBS_DROPDOWNLIST, CRect(20, 20, 20 + Width, 400), &Stage(),
+                                 1);
+                // As large and with as many rows as ours; the font decides how high a row is.
+                (*combo)->SetFont(&RowFont());
+                (*combo)->SetItemHeight(-1, ComboHeight - 6);
+                (*combo)->SetWindowPos(nullptr, 0, 0, Width, ComboHeight + ListRows * RowHeight + 2,
+                                       SWP_NOMOVE | SWP_NOZORDER);
                 Fill(**combo);
             },
             [=] {

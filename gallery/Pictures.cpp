@@ -145,6 +145,7 @@ bool WritePictures(GalleryFrame& frame, const CommandLine& options)
     const ImageServices images;
     // What else is on the display must not cover it.
     ::SetWindowPos(frame, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    Settled(frame); // its first activation would come over what a page opens
     ::CreateDirectory(options.pictures, nullptr);
 
     bool all = true;

@@ -122,8 +122,10 @@ void CCustomComboLBox::ShowPopup(bool show)
     KeepSelectionInSight();
     if (alive)
     {
+        // The list covers its popup, which has nothing to paint.
         ::SetWindowPos(popup, HWND_TOPMOST, 0, 0, 0, 0,
-                       SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+                       SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOREDRAW | SWP_SHOWWINDOW);
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ERASE);
     }
 }
 
@@ -332,10 +334,13 @@ void CCustomComboLBox::DrawItem(LPDRAWITEMSTRUCT draw)
         return;
     }
     DRAWITEMSTRUCT shown = *draw;
-    shown.itemState &= ~UINT(ODS_SELECTED | ODS_FOCUS);
-    if (int(draw->itemID) >= 0 && int(draw->itemID) == GetHighlightedRow())
+    shown.itemState &= ~UINT(ODS_FOCUS);
+    // Without a row under the pointer the selected one is marked already.
+    if (m_hotRow >= 0 && m_hotRow < GetCount())
     {
-        shown.itemState |= ODS_SELECTED;
+        const bool hot = int(draw->itemID) == m_hotRow;
+        shown.itemState =
+            hot ? shown.itemState | ODS_SELECTED : shown.itemState & ~UINT(ODS_SELECTED);
     }
     CCustomListBox::DrawItem(&shown);
 }

@@ -1,5 +1,6 @@
 // The drop-list combo as its host sees it: places, modes, ends, templates, items, looks.
 
+#include "CustomDialog.h"
 #include "OnBoardUI.h"
 #include "lists/ComboLayout.h"
 #include "lists/combo_for_tests.h"
@@ -316,6 +317,34 @@ TEST_F(ComboTest, AnObjectOfTheHostsIsThereBeforeTheClassMakesOne)
     EXPECT_EQ(dialog.combo.GetCount(), 3);
     dialog.DestroyWindow();
     other.DestroyWindow();
+}
+
+TEST_F(ComboTest, InADialogThatFollowsTheModeTheComboKeepsItsHeightForEach)
+{
+    CCustomDropListCombo::RegisterWndClass(nullptr);
+    CCustomDialog dialog(0U, nullptr);
+    ASSERT_TRUE(dialog.CreateIndirect(ComboForm(), &Host()));
+    PumpAll();
+    auto* const combo = CCustomDropListCombo::FromWindow(::GetDlgItem(dialog, ComboId));
+    ASSERT_NE(combo, nullptr);
+    combo->AddString("one");
+    const CRect standard = WindowRectOf(*combo);
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    const CRect large = WindowRectOf(*combo);
+    EXPECT_GT(large.Width(), 2 * standard.Width());
+    EXPECT_EQ(combo->GetFont()->GetSafeHandle(),
+              CCustomDropListCombo::GetOnBoardFont().GetSafeHandle());
+    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_EQ(WindowRectOf(*combo).Height(), standard.Height());
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    EXPECT_EQ(WindowRectOf(*combo).Height(), large.Height());
+    // The dialog may go while a list is open: nothing is left of it.
+    combo->SetFocus();
+    combo->ToggleDropList();
+    PumpAll();
+    dialog.DestroyWindow();
+    EXPECT_EQ(::GetCapture(), nullptr);
+    COnBoardUIGeneral::SetAppMode(STD);
 }
 
 TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
