@@ -5,7 +5,8 @@
 namespace lists {
 
 // The popup window round the list of a combo: parent to the list box, which speaks to it instead of
-// the host's window. It is never activated and has no frame.
+// the host's window. It is never activated and has no frame. Nobody owns it: it would end with its
+// owner, while a combo may move to another window (a bar that is torn off) and keep its items.
 class ComboPopup : public CWnd
 {
 public:

@@ -112,11 +112,6 @@ void CCustomComboLBox::ShowPopup(bool show)
         ::ShowWindow(popup, SW_HIDE);
         return;
     }
-    // Owned by the combo's window it stays above it, whoever is activated. The owner is told each
-    // time: the combo may have moved to another window since.
-    const HWND combo = m_combo == nullptr ? nullptr : m_combo->GetSafeHwnd();
-    ::SetWindowLongPtr(popup, GWLP_HWNDPARENT,
-                       reinterpret_cast<LONG_PTR>(::GetAncestor(combo, GA_ROOT)));
     // A pointer that rests where the list opens means nothing yet.
     m_seenPoint = PointerNow();
     KeepSelectionInSight();

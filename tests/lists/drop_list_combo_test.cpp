@@ -203,6 +203,22 @@ TEST_P(ComboInMode, AHostMayActOnTheComboInItsNotification)
     EXPECT_THAT(Host().CodesFrom(FirstId), IsEmpty());
 }
 
+TEST_F(ComboTest, AComboThatMovesToAnotherWindowKeepsItsItems)
+{
+    auto& combo = AddCombo(3, 2);
+    {
+        HostWindow bar;
+        combo.SetParent(&bar);
+        Click(combo.Middle());
+        EXPECT_TRUE(combo.IsExpanded());
+        Click(combo.RowPoint(1));
+        EXPECT_EQ(bar.CodesFrom(FirstId), std::vector<UINT>{CBN_SELCHANGE});
+        combo.SetParent(&Host());
+    }
+    EXPECT_EQ(combo.GetCount(), 3);
+    EXPECT_EQ(combo.GetCurSel(), 1);
+}
+
 TEST_F(ComboTest, AListOfTheCallersStaysTheCallers)
 {
     CCustomComboLBox list;
