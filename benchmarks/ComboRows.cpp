@@ -10,7 +10,7 @@
 namespace {
 
 constexpr int Items = 1'000;
-constexpr int Openings = 100;
+constexpr int Openings = 20;
 constexpr DWORD Style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP;
 // Of both sides, in pixels as far as they are no counts.
 constexpr int ListRows = CCustomComboLBox::DefaultMaxRows;
@@ -112,5 +112,5 @@ Side Platforms()
 
 std::vector<Row> ComboRows()
 {
-    return {{"combo.open", 1.3, 7, &Ours<ONBOARD>, &Platforms}};
+    return {{"combo.open", 1.3, 21, &Ours<ONBOARD>, &Platforms}};
 }

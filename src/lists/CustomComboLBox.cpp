@@ -347,6 +347,11 @@ LRESULT CCustomComboLBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const WindowAlive alive(*this);
     const bool held = m_tracking;
     const LRESULT result = CCustomListBox::WindowProc(message, wParam, lParam);
+    if (message == WM_MOUSEWHEEL && alive)
+    {
+        // Another row is under the pointer now, which has not moved.
+        SetHotRow(RowAt(CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))));
+    }
     if (held && alive && !m_tracking && m_combo != nullptr)
     {
         m_combo->BarReleased();

@@ -214,15 +214,7 @@ BOOL CCustomDropListCombo::OnMouseWheel(UINT flags, short delta, CPoint point)
         // A closed combo lets the wheel pass: a turn meant for its window must select nothing.
         return CWnd::OnMouseWheel(flags, delta, point);
     }
-    const WindowAlive alive(*list);
     list->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(flags, delta), MAKELPARAM(point.x, point.y));
-    if (alive)
-    {
-        // Another row is under the pointer now.
-        list->EndTrack();
-        list->Track(CPoint(-1, -1));
-        list->Track(point);
-    }
     return TRUE;
 }
 
