@@ -1,7 +1,8 @@
 #pragma once
 
-// Chart, route and string types of the maker's core library. The controls only hand pointers and
-// references on, so the names are enough; a host that owns the real types defines them.
+// Chart, route and string types of the maker's core library. The controls mostly hand pointers and
+// references on, so the names are enough here. Those that the library draws with have headers of
+// their own: K3Chart.h, K3Color.h, K3DevPt.h, K3Grfx.h; a host that owns the others defines them.
 
 class K3Chart;
 class K3Color;

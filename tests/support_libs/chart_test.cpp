@@ -1,0 +1,131 @@
+#include "GMSUtil.h"
+#include "K3Chart.h"
+#include "K3Grfx.h"
+#include "support/Canvas.h"
+#include "support/LiveObjects.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+
+namespace {
+
+constexpr K3DevPt Middle = {100, 50};
+
+TEST(K3ChartTest, GivesTheSamePositionBackForEachPointOfEitherProjection)
+{
+    for (const K3Chart::Projection projection : {K3Chart::Mercator, K3Chart::Orthographic})
+    {
+        for (const double longitude : {0.0, 11.0, 179.0, -180.0, 725.0})
+        {
+            const K3Chart chart(projection, 48, longitude, 20, Middle);
+            for (int x = -300; x <= 500; x += 50)
+            {
+                for (int y = -300; y <= 400; y += 50)
+                {
+                    double latitude = 99, east = 999, backX = 0, backY = 0;
+                    ASSERT_TRUE(chart.ToPosition(x, y, latitude, east));
+                    ASSERT_TRUE(chart.ToDevice(latitude, east, backX, backY));
+                    EXPECT_NEAR(backX, x, 1e-6);
+                    EXPECT_NEAR(backY, y, 1e-6);
+                    EXPECT_LE(std::abs(east), 180);
+                }
+            }
+        }
+    }
+}
+
+TEST(K3ChartTest, HasTheScaleOfItsProjection)
+{
+    double x = 0, y = 0;
+    const K3Chart flat(K3Chart::Mercator, 0, 10, 4, Middle);
+    ASSERT_TRUE(flat.ToDevice(60, 20, x, y));
+    EXPECT_NEAR(x, 100 + 10 * 4, 1e-9);
+    EXPECT_NEAR(y, 50 - 4 * 75.4561, 1e-3); // 60 degrees lie as far as 75.4561 on the equator
+    const K3Chart globe(K3Chart::Orthographic, 0, 10, 4, Middle);
+    ASSERT_TRUE(globe.ToDevice(30, 10, x, y));
+    EXPECT_NEAR(x, 100, 1e-9);
+    EXPECT_NEAR(y, 50 - 4 * 28.6479, 1e-3); // half the radius, which is 57.2958 degrees
+}
+
+TEST(K3ChartTest, GivesTheNearestPositionOutsideAndShowsNothingThere)
+{
+    double latitude = 0, longitude = 0, x = 7, y = 7;
+    const K3Chart globe(K3Chart::Orthographic, 0, 10, 1, Middle);
+    EXPECT_FALSE(globe.ToPosition(100 + 60, 50, latitude, longitude));
+    EXPECT_NEAR(latitude, 0, 1e-9);
+    EXPECT_NEAR(longitude, 100, 1e-9);
+    EXPECT_FALSE(globe.ToPosition(INT_MIN, INT_MIN, latitude, longitude));
+    EXPECT_FALSE(globe.ToDevice(0, -171, x, y)) << "the far side";
+
+    const K3Chart flat(K3Chart::Mercator, 95, 10, -3, Middle);
+    EXPECT_EQ(flat.Latitude(), 85);
+    EXPECT_EQ(flat.Scale(), 1);
+    EXPECT_FALSE(flat.ToPosition(100 + 181, 50, latitude, longitude));
+    EXPECT_NEAR(longitude, -170, 1e-9);
+    EXPECT_FALSE(flat.ToPosition(100, 49, latitude, longitude));
+    EXPECT_NEAR(latitude, 85, 1e-9);
+    EXPECT_FALSE(flat.ToDevice(86, 10, x, y));
+    EXPECT_EQ(x, 7);
+
+    EXPECT_FALSE(ZEPHYRIN_ChartDevice2LatLon(nullptr, 1, 2, nullptr, latitude, longitude));
+    EXPECT_EQ(latitude, 0);
+    EXPECT_EQ(longitude, 0);
+}
+
+TEST(K3ChartTest, CutsLinesAtItsEdges)
+{
+    const double onEquator[] = {0, 0, 0};
+    const double eastward[] = {170, -170, -160};
+    const K3Chart flat(K3Chart::Mercator, 0, 0, 1, {0, 0});
+    EXPECT_EQ(flat.Trace(onEquator, eastward, 3),
+              (K3Chart::Lines{{{170, 0}, {180, 0}}, {{-180, 0}, {-170, 0}, {-160, 0}}}));
+    const double polar[] = {80, 90, 80};
+    const double meridian[] = {0, 0, 0};
+    const K3Chart::Lines overPole = flat.Trace(polar, meridian, 3);
+    ASSERT_EQ(overPole.size(), 1u);
+    EXPECT_EQ(overPole[0][1].y, flat.Trace(std::data({85.0, 85.0}), meridian, 2)[0][0].y);
+
+    const K3Chart globe(K3Chart::Orthographic, 0, 0, 1, {0, 0});
+    const double through[] = {60, 120, 60}; // out over the horizon at 90 and back
+    const K3Chart::Lines seen = globe.Trace(onEquator, through, 3);
+    ASSERT_EQ(seen.size(), 1u) << "in again where it went out";
+    EXPECT_EQ(seen[0], (std::vector<K3DevPt>{{50, 0}, {57, 0}, {50, 0}}));
+
+    EXPECT_EQ(flat.Trace(onEquator, eastward, 1), K3Chart::Lines());
+    EXPECT_EQ(flat.Trace(onEquator, eastward, -5), K3Chart::Lines());
+    EXPECT_EQ(flat.Trace(nullptr, eastward, 3), K3Chart::Lines());
+    EXPECT_EQ(globe.Trace(onEquator, nullptr, 3), K3Chart::Lines());
+}
+
+TEST(K3GrfxTest, DrawsInItsColourAndThicknessAndLeavesTheContextAsItWas)
+{
+    Canvas canvas(40, 30);
+    const HGDIOBJ penBefore = ::GetCurrentObject(canvas.DC(), OBJ_PEN);
+    const K3DevPt line[] = {{5, 10}, {14, 10}};
+    const int objects = GraphicsObjects();
+    {
+        K3Grfx graphics(canvas.DC());
+        graphics.Polyline(line, 2);
+        EXPECT_EQ(canvas.Picture().Count(RGB(0, 0, 0)), 10) << "both ends";
+        graphics.SetLineColor(K3Color(1, 2, 3));
+        graphics.SetLineThickness(3);
+        graphics.Polyline(line, 2);
+        EXPECT_EQ(canvas.At(9, 9), RGB(1, 2, 3));
+        EXPECT_EQ(canvas.At(9, 11), RGB(1, 2, 3));
+        EXPECT_EQ(canvas.At(9, 12), Canvas::Untouched);
+        graphics.SetLineThickness(-1);
+        EXPECT_EQ(graphics.GetLineThickness(), 1);
+        graphics.SetLineColor(K3Color(9, 9, 9));
+        graphics.Polyline(line, 1);
+        graphics.Polyline(nullptr, 2);
+        EXPECT_EQ(canvas.Picture().Count(RGB(9, 9, 9)), 0);
+        EXPECT_EQ(::GetCurrentObject(canvas.DC(), OBJ_PEN), penBefore);
+    }
+    EXPECT_EQ(GraphicsObjects(), objects);
+    K3Grfx nowhere(nullptr);
+    nowhere.Polyline(line, 2);
+}
+
+} // namespace
