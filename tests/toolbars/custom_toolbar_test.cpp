@@ -1,0 +1,300 @@
+#include "CustomToolbar.h"
+#include "support/WindowTest.h"
+
+#include <algorithm>
+#include <map>
+#include <random>
+
+namespace {
+
+using Ids = std::vector<unsigned int>;
+using Messages = std::vector<std::string>;
+
+constexpr unsigned int Separator = 0;
+
+struct Button
+{
+    unsigned int id;
+    int image;
+    BYTE style = TBSTYLE_BUTTON;
+    BYTE state = TBSTATE_ENABLED;
+
+    friend bool operator==(const Button&, const Button&) = default;
+};
+
+const std::string Head = "Ordering Toolbar Btns: ";
+
+std::string Miscount(size_t current, size_t wanted)
+{
+    return Head + "Btn miscount.  Current = " + std::to_string(current) +
+           ".  New = " + std::to_string(wanted) + ".";
+}
+
+std::string NotFound(unsigned int id)
+{
+    return Head + "Target Btn " + std::to_string(id) + " not found.";
+}
+
+std::string NotInOrder(unsigned int id)
+{
+    return Head + "Existing Btn " + std::to_string(id) + " not in order list.";
+}
+
+class OrderedBar : public CustomToolbar
+{
+public:
+    bool refuses = false; // to give a place another command
+
+    void Fill(CWnd& parent, const std::vector<Button>& buttons)
+    {
+        EXPECT_TRUE(CreateEx(&parent, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE));
+        for (const Button& button : buttons)
+        {
+            TBBUTTON made = {};
+            made.idCommand = int(button.id);
+            made.iBitmap = button.image;
+            made.fsStyle = button.style;
+            made.fsState = button.state;
+            SendMessage(TB_ADDBUTTONS, 1, LPARAM(&made));
+        }
+        SetWindowPos(nullptr, 0, 0, 780, 60, SWP_NOZORDER);
+        PumpAll();
+    }
+
+    std::vector<Button> Buttons() const
+    {
+        std::vector<Button> buttons;
+        for (int index = 0; index < GetCount(); ++index)
+        {
+            TBBUTTON button = {};
+            SendMessage(TB_GETBUTTON, WPARAM(index), LPARAM(&button));
+            buttons.push_back(
+                {unsigned(button.idCommand), button.iBitmap, button.fsStyle, button.fsState});
+        }
+        return buttons;
+    }
+
+    Ids Order() const
+    {
+        Ids ids;
+        for (const Button& button : Buttons())
+        {
+            ids.push_back(button.id);
+        }
+        return ids;
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return message == TB_SETCMDID && refuses
+                   ? FALSE
+                   : CustomToolbar::WindowProc(message, wParam, lParam);
+    }
+};
+
+class CustomToolbarTest : public WindowTest
+{
+protected:
+    // The result goes with the messages: true where there are none.
+    static Messages OrderBar(OrderedBar& bar, const Ids& order)
+    {
+        Messages messages = {"from before"};
+        const bool done = bar.OrderBtns(order, messages);
+        EXPECT_EQ(messages.front(), "from before");
+        messages.erase(messages.begin());
+        EXPECT_EQ(done, messages.empty());
+        return messages;
+    }
+
+    static std::vector<Button> Five() { return {{10, 0}, {11, 1}, {1234, 2}, {13, 3}, {14, 4}}; }
+};
+
+TEST_F(CustomToolbarTest, TakesACompleteOrderWithoutAWord)
+{
+    OrderedBar bar;
+    bar.Fill(Host(), Five());
+    EXPECT_EQ(OrderBar(bar, {10, 11, 1234, 13, 14}), Messages());
+    EXPECT_EQ(bar.Buttons(), Five());
+    EXPECT_EQ(OrderBar(bar, {14, 1234, 10, 11, 13}), Messages());
+    EXPECT_EQ(bar.Buttons(), (std::vector<Button>{{14, 4}, {1234, 2}, {10, 0}, {11, 1}, {13, 3}}));
+
+    CRect first;
+    bar.GetItemRect(0, &first);
+    Click(ClientPoint(bar, first.CenterPoint()));
+    Ids commands;
+    for (const ToldMessage& told : Host().Told())
+    {
+        if (told.message == WM_COMMAND)
+        {
+            commands.push_back(told.id);
+        }
+    }
+    EXPECT_EQ(commands, Ids{14}) << "the button does what it now stands for";
+}
+
+TEST_F(CustomToolbarTest, ReportsWhatDoesNotFitAndOrdersTheRest)
+{
+    const struct
+    {
+        Ids order;
+        Messages messages;
+        Ids result;
+    } cases[] = {
+        {{14, 13, 11, 10}, {Miscount(5, 4), NotInOrder(1234)}, {14, 13, 11, 10, 1234}},
+        {{14, 999, 13, 11, 10}, {NotFound(999), NotInOrder(1234)}, {14, 13, 11, 10, 1234}},
+        {{999, 14, 1234, 11, 10, 13}, {Miscount(5, 6), NotFound(999)}, {14, 1234, 11, 10, 13}},
+        {{0, 10, 11, 0xFFFFFFFF, 14},
+         {NotFound(0), NotFound(0xFFFFFFFF), NotInOrder(1234), NotInOrder(13)},
+         {10, 11, 14, 1234, 13}},
+        {{},
+         {Miscount(5, 0), NotInOrder(10), NotInOrder(11), NotInOrder(1234), NotInOrder(13),
+          NotInOrder(14)},
+         {10, 11, 1234, 13, 14}},
+        // The second 10 takes it out of the first place again.
+        {{10, 10, 11, 1234, 13, 14}, {Miscount(5, 6)}, {14, 10, 11, 1234, 13}},
+    };
+    for (const auto& each : cases)
+    {
+        OrderedBar bar;
+        bar.Fill(Host(), Five());
+        EXPECT_EQ(OrderBar(bar, each.order), each.messages);
+        EXPECT_EQ(bar.Order(), each.result);
+    }
+}
+
+TEST_F(CustomToolbarTest, KeepsStyleAndStateWithThePlace)
+{
+    constexpr BYTE hidden = TBSTATE_ENABLED | TBSTATE_HIDDEN;
+    OrderedBar bar;
+    bar.Fill(Host(), {{10, 0},
+                      {11, 1, TBSTYLE_CHECK, TBSTATE_ENABLED | TBSTATE_CHECKED},
+                      {Separator, 0, TBSTYLE_SEP},
+                      {12, 2, TBSTYLE_BUTTON, hidden},
+                      {Separator, 0, TBSTYLE_SEP},
+                      {13, 3}});
+    EXPECT_EQ(OrderBar(bar, {13, 12, Separator, 11, Separator, 10}), Messages());
+    EXPECT_EQ(bar.Buttons(),
+              (std::vector<Button>{{13, 3},
+                                   {12, 2, TBSTYLE_CHECK, TBSTATE_ENABLED | TBSTATE_CHECKED},
+                                   {Separator, 0, TBSTYLE_SEP},
+                                   {11, 1, TBSTYLE_BUTTON, hidden},
+                                   {Separator, 0, TBSTYLE_SEP},
+                                   {10, 0}}));
+    EXPECT_EQ(OrderBar(bar, {13, 12, 11, 10}), (Messages{Miscount(6, 4), NotInOrder(Separator)}))
+        << "one report for both separators";
+    EXPECT_EQ(bar.Buttons()[2].style, TBSTYLE_SEP);
+}
+
+TEST_F(CustomToolbarTest, DoesWithManyOrdersWhatAPlainListDoes)
+{
+    std::mt19937 random(20261121);
+    const auto below = [&random](unsigned int end) { return unsigned(random() % end); };
+    OrderedBar bar;
+    bar.Fill(Host(), {});
+    for (int round = 0; round < 300; ++round)
+    {
+        SCOPED_TRACE(round);
+        while (bar.GetCount() > 0)
+        {
+            bar.SendMessage(TB_DELETEBUTTON, 0);
+        }
+        // Ids from few enough that some come twice; those that come once keep their picture.
+        std::map<unsigned int, int> pictures;
+        std::map<unsigned int, int> seen;
+        const unsigned int count = below(14);
+        for (unsigned int index = 0; index < count; ++index)
+        {
+            const bool separator = below(5) == 0;
+            TBBUTTON made = {};
+            made.idCommand = separator ? 0 : int(100 + below(40));
+            made.iBitmap = separator ? 0 : int(index);
+            made.fsStyle = BYTE(separator ? TBSTYLE_SEP : TBSTYLE_BUTTON);
+            made.fsState = BYTE(TBSTATE_ENABLED | (below(4) == 0 ? TBSTATE_HIDDEN : 0));
+            bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&made));
+            pictures[unsigned(made.idCommand)] = made.iBitmap;
+            ++seen[unsigned(made.idCommand)];
+        }
+        const std::vector<Button> before = bar.Buttons();
+        Ids model = bar.Order();
+
+        // The present order, shuffled, with some ids lost, some twice and some unknown.
+        Ids order = model;
+        std::ranges::shuffle(order, random);
+        for (unsigned int change = below(4); change > 0 && !order.empty(); --change)
+        {
+            unsigned int& one = order[below(unsigned(order.size()))];
+            one = below(2) == 0 ? 200 + below(5) : order[below(unsigned(order.size()))];
+        }
+        order.resize(order.size() - std::min<size_t>(below(3), order.size()));
+
+        Messages expected;
+        if (order.size() != model.size())
+        {
+            expected.push_back(Miscount(model.size(), order.size()));
+        }
+        Ids targets;
+        for (const unsigned int id : order)
+        {
+            seen.contains(id) ? targets.push_back(id) : expected.push_back(NotFound(id));
+        }
+        for (const unsigned int id : model)
+        {
+            if (std::ranges::find(targets, id) == targets.end())
+            {
+                targets.push_back(id);
+                expected.push_back(NotInOrder(id));
+            }
+        }
+        for (size_t place = 0; place < std::min(model.size(), targets.size()); ++place)
+        {
+            std::swap(model[place], *std::ranges::find(model, targets[place]));
+        }
+
+        EXPECT_EQ(OrderBar(bar, order), expected);
+        const std::vector<Button> after = bar.Buttons();
+        ASSERT_EQ(bar.Order(), model);
+        for (size_t place = 0; place < after.size(); ++place)
+        {
+            EXPECT_EQ(after[place].style, before[place].style);
+            EXPECT_EQ(after[place].state, before[place].state);
+            if (seen[after[place].id] == 1)
+            {
+                EXPECT_EQ(after[place].image, pictures[after[place].id]);
+            }
+        }
+    }
+}
+
+TEST_F(CustomToolbarTest, TakesOrdersOfTenThousandIdsAndABarWithoutWindow)
+{
+    Ids order;
+    for (unsigned int id = 10000; id > 0; --id)
+    {
+        order.push_back(id);
+    }
+    OrderedBar bar;
+    bar.Fill(Host(), Five());
+    EXPECT_EQ(OrderBar(bar, order).size(), 1 + 9995u);
+    EXPECT_EQ(bar.Order(), (Ids{1234, 14, 13, 11, 10}));
+    EXPECT_EQ(OrderBar(bar, Ids(10000, 13)).size(), 1 + 4u);
+    Ids left = bar.Order();
+    std::ranges::sort(left);
+    EXPECT_EQ(left, (Ids{10, 11, 13, 14, 1234})) << "none is lost";
+
+    OrderedBar none;
+    EXPECT_EQ(OrderBar(none, {}), Messages());
+    EXPECT_EQ(OrderBar(none, {10}), (Messages{Miscount(0, 1), NotFound(10)}));
+}
+
+TEST_F(CustomToolbarTest, ReportsPairsThatTheBarRefusesToSwap)
+{
+    OrderedBar bar;
+    bar.Fill(Host(), {{10, 0}, {11, 1}});
+    bar.refuses = true;
+    EXPECT_EQ(OrderBar(bar, {11, 10}), (Messages{Head + "SetButtonInfo failed for pair (10, 11)",
+                                                 Head + "SetButtonInfo failed for pair (11, 10)"}));
+    EXPECT_EQ(bar.Buttons(), (std::vector<Button>{{10, 0}, {11, 1}}));
+}
+
+} // namespace
