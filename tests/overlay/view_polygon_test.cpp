@@ -1,0 +1,192 @@
+#include "ViewPolygon.h"
+#include "support/Canvas.h"
+
+#include <GMSUtil.h>
+#include <K3Chart.h>
+#include <K3Grfx.h>
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+constexpr K3Color Line(200, 30, 40);
+
+// Shows what the outline is made of, and writes down what is called.
+class Outline : public CViewPolygon
+{
+public:
+    explicit Outline(int count, int thickness = 1)
+        : CViewPolygon(count, thickness, Line)
+    {}
+
+    std::vector<std::string> calls;
+
+    using CViewPolygon::Cleanup;
+    using CViewPolygon::m_pointsPerEdge;
+    K3DevPt Point(int index) const { return m_points[size_t(index)]; }
+    std::pair<double, double> Place(int index) const
+    {
+        return {m_firstCoords[size_t(index)], m_secondCoords[size_t(index)]};
+    }
+    bool IsEmpty() const { return !m_points && !m_firstCoords && !m_secondCoords; }
+
+    void PrepareToDraw(K3Chart* chart, K3Grfx* grfx, const CRect& rect) override
+    {
+        calls.push_back("prepare");
+        CViewPolygon::PrepareToDraw(chart, grfx, rect);
+    }
+    void InitializePoints(const CRect& rect) override
+    {
+        calls.push_back("corners");
+        CViewPolygon::InitializePoints(rect);
+    }
+    void InterpolateMidPoints() override
+    {
+        calls.push_back("between");
+        CViewPolygon::InterpolateMidPoints();
+    }
+    void CalcLatLons(K3Chart* chart, K3Grfx* grfx) override
+    {
+        calls.push_back("positions");
+        CViewPolygon::CalcLatLons(chart, grfx);
+    }
+};
+
+class ViewPolygonTest : public testing::Test
+{
+protected:
+    K3Chart source{K3Chart::Mercator, 48, 11, 10, {50, 20}};
+    K3Chart target{K3Chart::Orthographic, 45, 10, 4, {100, 75}};
+    Canvas canvas{200, 150};
+    K3Grfx graphics{canvas.DC()};
+    CRect view{0, 0, 100, 40};
+
+    bool NothingDrawn() const { return canvas.IsUntouched(); }
+};
+
+TEST_F(ViewPolygonTest, PutsItsPointsEvenlyAlongTheEdges)
+{
+    Outline outline(17);
+    EXPECT_EQ(outline.m_pointsPerEdge, 4);
+    outline.PrepareToDraw(&source, &graphics, view);
+    EXPECT_EQ(outline.calls,
+              (std::vector<std::string>{"prepare", "corners", "between", "positions"}));
+    const K3DevPt expected[] = {{0, 0},    {25, 0},   {50, 0},   {75, 0},  {100, 0}, {100, 10},
+                                {100, 20}, {100, 30}, {100, 40}, {75, 40}, {50, 40}, {25, 40},
+                                {0, 40},   {0, 30},   {0, 20},   {0, 10},  {0, 0}};
+    for (int index = 0; index < 17; ++index)
+    {
+        EXPECT_EQ(outline.Point(index), expected[index]) << index;
+        double latitude = 0, longitude = 0;
+        EXPECT_TRUE(ZEPHYRIN_ChartDevice2LatLon(&source, expected[index].x, expected[index].y,
+                                                nullptr, latitude, longitude));
+        EXPECT_EQ(outline.Place(index), std::pair(latitude, longitude)) << index;
+    }
+}
+
+TEST_F(ViewPolygonTest, ClosesAtTheOriginWhateverTheRectangleAndTheCount)
+{
+    // Left counts at the lower left corner alone; steps are cut towards zero.
+    Outline skewed(13);
+    skewed.PrepareToDraw(&source, nullptr, CRect(-10, 7, 100, 40));
+    const K3DevPt expected[] = {{0, 0},    {33, 0},   {66, 0},  {100, 0}, {100, 13},
+                                {100, 26}, {100, 40}, {64, 40}, {27, 40}, {-10, 40},
+                                {-7, 27},  {-4, 14},  {0, 0}};
+    for (int index = 0; index < 13; ++index)
+    {
+        EXPECT_EQ(skewed.Point(index), expected[index]) << index;
+    }
+
+    for (const int count : {18, 19, 20})
+    {
+        Outline outline(count);
+        EXPECT_EQ(outline.m_pointsPerEdge, 4);
+        outline.PrepareToDraw(&source, nullptr, view);
+        for (int index = 16; index < count; ++index)
+        {
+            EXPECT_EQ(outline.Point(index), K3DevPt()) << "never set";
+            EXPECT_EQ(outline.Place(index), outline.Place(0));
+        }
+    }
+
+    Outline huge(1001);
+    huge.PrepareToDraw(&source, nullptr, CRect(INT_MIN, INT_MIN, INT_MAX, INT_MAX));
+    EXPECT_EQ(huge.Point(250), (K3DevPt{INT_MAX, 0}));
+    EXPECT_EQ(huge.Point(625).y, INT_MAX);
+    EXPECT_EQ(huge.Point(750), (K3DevPt{INT_MIN, INT_MAX}));
+}
+
+TEST_F(ViewPolygonTest, DrawsTheViewOfTheOtherChartWhereTheFirstOneHasIt)
+{
+    Outline outline(401, 3);
+    outline.Draw(&graphics, &target, view, &source);
+    // Each corner and the middle of each edge are on the line, also where it is bent.
+    for (const K3DevPt& point : {K3DevPt{0, 0}, {100, 0}, {100, 40}, {0, 40}, {50, 0}, {50, 40}})
+    {
+        double latitude = 0, longitude = 0, x = 0, y = 0;
+        ASSERT_TRUE(source.ToPosition(point.x, point.y, latitude, longitude));
+        ASSERT_TRUE(target.ToDevice(latitude, longitude, x, y));
+        EXPECT_EQ(canvas.At(int(std::lround(x)), int(std::lround(y))), Line.ToColorRef());
+    }
+    EXPECT_EQ(canvas.At(100, 70), Canvas::Untouched) << "the outline is not filled";
+
+    // The chart has moved since: so has the outline.
+    const Pixels before = canvas.Picture();
+    canvas.DC().FillSolidRect(0, 0, 200, 150, Canvas::Untouched);
+    source = K3Chart(K3Chart::Mercator, 40, 20, 10, {50, 20});
+    outline.LineColor(K3Color(1, 2, 3));
+    outline.LineThickness(1);
+    outline.Draw(&graphics, &target, view, &source);
+    const Pixels after = canvas.Picture();
+    EXPECT_EQ(after.Count(Line.ToColorRef()), 0);
+    EXPECT_GT(after.Count(RGB(1, 2, 3)), 20);
+    EXPECT_LT(after.Count(RGB(1, 2, 3)), before.Count(Line.ToColorRef()));
+    EXPECT_EQ(outline.LineColor(), K3Color(1, 2, 3));
+    EXPECT_EQ(outline.LineThickness(), 1);
+}
+
+TEST_F(ViewPolygonTest, DrawsNothingForTooFewPointsOrWhenSomethingIsMissing)
+{
+    for (const int count : {INT_MIN, -17, -1, 0, 1, 4})
+    {
+        Outline outline(count);
+        EXPECT_EQ(outline.IsEmpty(), count <= 0);
+        outline.Draw(&graphics, &target, view, &source);
+        outline.PrepareToDraw(&source, &graphics, view);
+        EXPECT_TRUE(NothingDrawn()) << count;
+    }
+
+    Outline outline(17);
+    outline.Draw(nullptr, &target, view, &source);
+    outline.Draw(&graphics, nullptr, view, &source);
+    outline.Draw(&graphics, &target, view, nullptr);
+    EXPECT_TRUE(NothingDrawn());
+    outline.PrepareToDraw(nullptr, nullptr, view);
+    EXPECT_EQ(outline.Place(8), std::pair(0.0, 0.0)) << "no chart, no position";
+
+    outline.Cleanup(); // as when there was no memory
+    EXPECT_TRUE(outline.IsEmpty());
+    outline.calls.clear();
+    outline.Draw(&graphics, &target, view, &source);
+    EXPECT_TRUE(outline.calls.empty());
+    outline.PrepareToDraw(&source, &graphics, view);
+    EXPECT_TRUE(NothingDrawn());
+
+    // A derived class may give them up while it prepares.
+    class Fickle : public Outline
+    {
+    public:
+        using Outline::Outline;
+        void CalcLatLons(K3Chart*, K3Grfx*) override { Cleanup(); }
+    };
+    Fickle(17).Draw(&graphics, &target, view, &source);
+    EXPECT_TRUE(NothingDrawn());
+    Outline(5).Draw(&graphics, &target, view, &source);
+    EXPECT_FALSE(NothingDrawn()) << "five corners are enough";
+}
+
+} // namespace
