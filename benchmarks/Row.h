@@ -33,3 +33,5 @@ std::vector<Row> ButtonRows();
 std::vector<Row> ScrollBarRows();
 std::vector<Row> ModeRows();
 std::vector<Row> DialogRows();
+std::vector<Row> ToolbarRows();
+std::vector<Row> PolygonRows();
