@@ -1,9 +1,11 @@
-// Ordering the buttons of a tool bar against making them anew in that order. Either leaves the whole
-// bar to be painted, which is the same for both and not timed.
+// Ordering the buttons of a tool bar against making them anew in that order. Either leaves the
+// whole bar to be painted, which is the same for both and not timed.
 
 #include "CustomToolbar.h"
 #include "Row.h"
 #include "Stage.h"
+
+#include <afxcmn.h>
 
 namespace {
 
@@ -13,11 +15,23 @@ constexpr int FirstId = 100;
 TBBUTTON ButtonWith(int number)
 {
     TBBUTTON button = {};
-    button.iBitmap = number % 15; // of the platform's own pictures
+    button.iBitmap = number;
     button.idCommand = FirstId + number;
     button.fsState = TBSTATE_ENABLED;
     button.fsStyle = TBSTYLE_BUTTON;
     return button;
+}
+
+// One for each button, all the same to look at.
+CImageList& Pictures()
+{
+    static CImageList pictures;
+    if (pictures.GetSafeHandle() == nullptr)
+    {
+        pictures.Create(16, 16, ILC_COLOR32, 0, Buttons);
+        pictures.SetImageCount(Buttons);
+    }
+    return pictures;
 }
 
 using Bar = std::shared_ptr<std::unique_ptr<CustomToolbar>>;
@@ -26,9 +40,9 @@ void MakeBar(const Bar& bar)
 {
     EnterMode(STD);
     *bar = std::make_unique<CustomToolbar>();
-    (*bar)->CreateEx(&Stage(), TBSTYLE_FLAT | TBSTYLE_WRAPABLE, WS_CHILD | WS_VISIBLE);
+    (*bar)->CreateEx(&Stage(), TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE);
     (*bar)->SetWindowPos(nullptr, 10, 10, 960, 120, SWP_NOZORDER);
-    (*bar)->SendMessage(TB_LOADIMAGES, IDB_STD_SMALL_COLOR, LPARAM(HINST_COMMCTRL));
+    (*bar)->GetToolBarCtrl().SetImageList(&Pictures());
     for (int number = 0; number < Buttons; ++number)
     {
         TBBUTTON button = ButtonWith(number);
@@ -39,7 +53,7 @@ void MakeBar(const Bar& bar)
 
 Side Reverse()
 {
-    auto bar = std::make_shared<std::unique_ptr<CustomToolbar>>();
+    const Bar bar = std::make_shared<std::unique_ptr<CustomToolbar>>();
     return {[bar] { MakeBar(bar); },
             [bar] {
                 std::vector<unsigned int> order;
@@ -55,7 +69,7 @@ Side Reverse()
 
 Side DeleteAndAdd()
 {
-    auto bar = std::make_shared<std::unique_ptr<CustomToolbar>>();
+    const Bar bar = std::make_shared<std::unique_ptr<CustomToolbar>>();
     return {[bar] { MakeBar(bar); },
             [bar] {
                 for (int index = Buttons; index-- > 0;)

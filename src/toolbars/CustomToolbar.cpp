@@ -37,36 +37,34 @@ public:
     {
         return size_t(std::ranges::find(m_ids, id) - m_ids.begin());
     }
-    int PictureOf(unsigned int id) const { return m_pictures[Find(id)]; }
 
-    bool SetCommand(size_t place, unsigned int id)
+    // False when the bar refused a part of it; the other part is done nevertheless.
+    bool Swap(size_t a, size_t b)
     {
-        if (!m_bar.SendMessage(TB_SETCMDID, place, LPARAM(id)))
+        const unsigned int id = m_ids[a];
+        const int picture = m_pictures[a];
+        const bool first = Set(a, m_ids[b], m_pictures[b]);
+        const bool second = Set(b, id, picture);
+        return first && second;
+    }
+
+private:
+    bool Set(size_t place, unsigned int id, int picture)
+    {
+        TBBUTTONINFO info = {};
+        info.cbSize = sizeof(info);
+        info.dwMask = TBIF_BYINDEX | TBIF_COMMAND | TBIF_IMAGE;
+        info.idCommand = int(id);
+        info.iImage = picture;
+        if (!m_bar.SendMessage(TB_SETBUTTONINFO, place, LPARAM(&info)))
         {
             return false;
         }
         m_ids[place] = id;
+        m_pictures[place] = picture;
         return true;
     }
 
-    // Setting marks a button to be painted, the dearest part of all: a bar of mere texts needs
-    // none.
-    void SetPictureOf(unsigned int id, int picture)
-    {
-        const size_t place = Find(id);
-        if (place >= Count() || m_pictures[place] == picture)
-        {
-            return;
-        }
-        TBBUTTONINFO info = {};
-        info.cbSize = sizeof(info);
-        info.dwMask = TBIF_IMAGE;
-        info.iImage = picture;
-        m_bar.SendMessage(TB_SETBUTTONINFO, id, LPARAM(&info));
-        m_pictures[place] = picture;
-    }
-
-private:
     const CToolBar& m_bar;
     std::vector<unsigned int> m_ids;
     std::vector<int> m_pictures;
@@ -120,19 +118,10 @@ bool CustomToolbar::OrderBtns(const std::vector<unsigned int>& order,
     for (size_t place = 0; place < std::min(current, targets.size()); ++place)
     {
         const unsigned int target = targets[place];
-        const size_t index = places.Find(target);
-        if (index >= current || index == place)
-        {
-            continue;
-        }
         const unsigned int displaced = places.Ids()[place];
-        const int targetPicture = places.PictureOf(target);
-        const int displacedPicture = places.PictureOf(displaced);
-        const bool placed = places.SetCommand(place, target);
-        const bool moved = places.SetCommand(index, displaced);
-        places.SetPictureOf(displaced, displacedPicture);
-        places.SetPictureOf(target, targetPicture);
-        if (!placed || !moved)
+        const size_t index = places.Find(target);
+        // Of two buttons with one id neither takes the other's place.
+        if (index < current && displaced != target && !places.Swap(place, index))
         {
             report("SetButtonInfo failed for pair (" + std::to_string(displaced) + ", " +
                    std::to_string(target) + ")");
