@@ -1,8 +1,33 @@
 #include "GalleryHost.h"
 
+#include <AppIcons.h>
 #include <CustomDialog.h>
 #include <CustomEdit.h>
 #include <CustomPropSheet.h>
+
+namespace {
+
+constexpr int IconSize = 16;
+constexpr int LargeIconSize = 32;
+
+const MappedImageList* Filled(MappedImageList& list, int size)
+{
+    if (list.GetSafeHandle() == nullptr)
+    {
+        AppIcons icons;
+        icons.LoadIcons();
+        std::vector<AppIcons::ICON_INFO> all;
+        icons.GetIcons(all);
+        list.Create(size, size, ILC_COLOR32 | ILC_MASK, int(all.size()), 1);
+        for (const AppIcons::ICON_INFO& each : all)
+        {
+            list.AddIcon(each.id, each.icon);
+        }
+    }
+    return &list;
+}
+
+} // namespace
 
 GalleryEfb::GalleryEfb(IAppAccess& host)
     : m_host(host)
@@ -80,4 +105,14 @@ bool GalleryHost::GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, in
 void GalleryHost::GetProductName(CString& name)
 {
     name = "OnBoardUI Gallery";
+}
+
+const MappedImageList* GalleryHost::GetMasterIconList() const
+{
+    return Filled(m_icons, IconSize);
+}
+
+const MappedImageList* GalleryHost::GetMasterLargeIconList() const
+{
+    return Filled(m_largeIcons, LargeIconSize);
 }

@@ -4,6 +4,7 @@
 
 #include <AppAccess.h>
 #include <EFB.h>
+#include <MappedImageList.h>
 
 // The electronic-flight-bag side of the gallery. What is not overridden keeps its harmless default.
 class GalleryEfb : public IEFB
@@ -39,8 +40,14 @@ public:
     bool GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, int& height) override;
     IEFB* GetEFB() override { return &m_efb; }
     void GetProductName(CString& name) override;
+    // The application's icons at two sizes, known by the ids that they have as resources.
+    const MappedImageList* GetMasterIconList() const override;
+    const MappedImageList* GetMasterLargeIconList() const override;
 
 private:
     const CWnd* m_window = nullptr;
     GalleryEfb m_efb;
+    // Filled when first asked for.
+    mutable MappedImageList m_icons;
+    mutable MappedImageList m_largeIcons;
 };

@@ -4,8 +4,11 @@
 #include "CombosPage.h"
 #include "DialogsPage.h"
 #include "EditsPage.h"
+#include "IconsPage.h"
 #include "LabelsPage.h"
 #include "ListBoxPage.h"
+#include "PolygonPage.h"
+#include "ToolbarPage.h"
 
 namespace {
 
@@ -18,6 +21,14 @@ constexpr PageEntry AllPages[] = {
     {"list-boxes", "List boxes", &Make<ListBoxPage>},   {"buttons", "Buttons", &Make<ButtonsPage>},
     {"labels", "Labels and groups", &Make<LabelsPage>}, {"edits", "Edits", &Make<EditsPage>},
     {"dialogs", "Dialogs", &Make<DialogsPage>},         {"combos", "Combos", &Make<CombosPage>},
+    {"list-boxes", "List boxes", &Make<ListBoxPage>},
+    {"buttons", "Buttons", &Make<ButtonsPage>},
+    {"labels", "Labels and groups", &Make<LabelsPage>},
+    {"edits", "Edits", &Make<EditsPage>},
+    {"dialogs", "Dialogs", &Make<DialogsPage>},
+    {"toolbar", "Tool bar", &Make<ToolbarPage>},
+    {"icons", "Icons", &Make<IconsPage>},
+    {"polygon", "View polygon", &Make<PolygonPage>},
 };
 
 } // namespace
