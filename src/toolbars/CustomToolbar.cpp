@@ -18,7 +18,7 @@ class Places
 public:
     explicit Places(const CToolBar& bar)
         : m_bar(bar)
-        , m_ids(size_t(bar.GetCount()))
+        , m_ids(size_t(bar.SendMessage(TB_BUTTONCOUNT)))
         , m_pictures(m_ids.size())
     {
         for (size_t place = 0; place < m_ids.size(); ++place)

@@ -120,7 +120,9 @@ TEST_F(CustomToolbarTest, TakesACompleteOrderWithoutAWord)
     bar.Fill(Host(), Five());
     EXPECT_EQ(OrderBar(bar, {10, 11, 1234, 13, 14}), Messages());
     EXPECT_EQ(bar.Buttons(), Five());
+    Host().Forget();
     EXPECT_EQ(OrderBar(bar, {14, 1234, 10, 11, 13}), Messages());
+    EXPECT_TRUE(Host().Told().empty()) << "nobody can act, or end the bar, in the middle of it";
     EXPECT_EQ(bar.Buttons(), (std::vector<Button>{{14, 4}, {1234, 2}, {10, 0}, {11, 1}, {13, 3}}));
 
     CRect first;
