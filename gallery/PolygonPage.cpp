@@ -7,6 +7,7 @@
 #include <K3Grfx.h>
 
 #include <cmath>
+#include <numbers>
 
 namespace {
 
@@ -58,10 +59,7 @@ CString PositionText(double latitude, double longitude)
 
 void FillGlobe(CDC& dc, const K3Chart& chart, const K3Color& sea)
 {
-    double x = 0;
-    double y = 0;
-    chart.ToDevice(0, chart.Longitude() + 90, x, y); // where the equator meets the horizon
-    const int radius = int(x) - chart.Center().x;
+    const int radius = int(chart.Scale() * 180 / std::numbers::pi); // of so many points per degree
     const CPoint center(chart.Center().x, chart.Center().y);
     CBrush brush(sea.ToColorRef());
     CRgn disc;
