@@ -1,10 +1,12 @@
-// The list box with its own bar against the platform's list box with the platform's.
+// The list boxes with their own bar against the platform's list box with the platform's.
 
+#include "CustomChecklistBox.h"
 #include "CustomListBox.h"
 #include "Row.h"
 #include "Stage.h"
 
 #include <string>
+#include <type_traits>
 
 namespace {
 
@@ -44,7 +46,11 @@ template <class List, APPMODE mode> Side Fill()
             [list] {
                 for (const std::string& text : Texts())
                 {
-                    (*list)->AddString(text.c_str());
+                    const int row = (*list)->AddString(text.c_str());
+                    if constexpr (std::is_base_of_v<CCustomChecklistBox, List>)
+                    {
+                        (*list)->SetCheck(row, BST_CHECKED);
+                    }
                 }
                 PaintNow(**list);
             },
@@ -80,5 +86,6 @@ template <class List, APPMODE mode> Side Scroll()
 std::vector<Row> ListBoxRows()
 {
     return {{"listbox.fill", 1.3, 7, &Fill<CCustomListBox, ONBOARD>, &Fill<CListBox, STD>},
+            {"checklist.fill", 1.5, 7, &Fill<CCustomChecklistBox, ONBOARD>, &Fill<CListBox, STD>},
             {"listbox.scroll", 1.5, 7, &Scroll<CCustomListBox, ONBOARD>, &Scroll<CListBox, STD>}};
 }

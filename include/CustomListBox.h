@@ -67,6 +67,11 @@ public:
     virtual int GetMaxCharWidth();
 
 protected:
+    // The text of a row in the font that is selected, centred in its height and so many pixels
+    // further right than usual, on the ground and in the colour of its state (ODS_ bits), or else in
+    // the context's own.
+    void DrawRowText(CDC& dc, const CRect& row, const CString& text, UINT state, int indent = 0);
+
     // Places the bars against the client rectangle.
     virtual void ResizeOBScrollBars();
     // A press on a bar, by the part that its last hit test found.
@@ -85,6 +90,15 @@ public:
     void PreSubclassWindow() override;
 
 protected:
+    // Lays the window out for the display mode of the moment, if it is still laid out for the other
+    // kind; true when the mode is on-board and the list is still there. Every handler asks it first.
+    bool FollowMode();
+    // A message for the platform's list box alone, past the handlers of this class and its heirs.
+    int Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    bool HasText() const; // rows are strings
+    bool InColumns() const { return (GetStyle() & LBS_MULTICOLUMN) != 0; }
+    HFONT Font(); // of the control; null: the system's
+
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
@@ -172,20 +186,15 @@ private:
     std::unique_ptr<scroll::BarPainter> m_vPainter;
     std::unique_ptr<scroll::BarPainter> m_hPainter;
 
-    bool FollowMode();
     void EnterOnBoard();
     void LeaveOnBoard();
     void EndTracking();
 
     void MeasureRows();
 
-    int Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    bool HasText() const;
-    HFONT Font();
     int AverageCharWidth();
     int HeightOfRow(int index);
     int RowsInSight(int count, int height);
-    bool InColumns() const { return (GetStyle() & LBS_MULTICOLUMN) != 0; }
     int RowsInColumn();
     int ContentWidth() const;
     void CountWidth(int index, int change);

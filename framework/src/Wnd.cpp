@@ -26,6 +26,7 @@ BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_MESSAGE(WM_VKEYTOITEM, &CWnd::OnKeyToItem)
     ON_MESSAGE(WM_CHARTOITEM, &CWnd::OnKeyToItem)
     ON_WM_PARENTNOTIFY()
+    ON_MESSAGE(WM_GETOBJECT, &CWnd::OnGetObject)
 END_MESSAGE_MAP()
 
 // Handles and objects ---------------------------------------------------------------------------
@@ -70,6 +71,7 @@ BOOL CWnd::Attach(HWND window)
 HWND CWnd::Detach()
 {
     const HWND window = m_hWnd;
+    EndAccessibility();
     if (window != nullptr)
     {
         ThreadState& state = CurrentThreadState();
@@ -96,6 +98,7 @@ CWnd::~CWnd()
     {
         CWnd::DestroyWindow();
     }
+    EndAccessibility();
 }
 
 // Subclassing -----------------------------------------------------------------------------------

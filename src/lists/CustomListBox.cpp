@@ -140,9 +140,6 @@ int CCustomListBox::OnCreate(LPCREATESTRUCT cs)
     return result;
 }
 
-// Lays the window out for the mode of the moment when it is still laid out for the other kind.
-// Whether the mode is on-board (and the list has survived the change): the first question of every
-// handler.
 bool CCustomListBox::FollowMode()
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();

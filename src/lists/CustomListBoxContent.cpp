@@ -18,7 +18,6 @@ constexpr double EntryHeightFactor = 1.5; // of the text's height
 
 } // namespace
 
-// A message for the platform's list box alone, past the handlers of this class and its heirs.
 int CCustomListBox::Ask(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return int(DefWindowProc(message, wParam, lParam));
@@ -335,14 +334,16 @@ bool CCustomListBox::ContentChanged()
     return bool(alive);
 }
 
-LRESULT CCustomListBox::OnAddString(WPARAM, LPARAM)
+LRESULT CCustomListBox::OnAddString(WPARAM wParam, LPARAM lParam)
 {
+    const UINT message = GetCurrentMessage()->message;
     const WindowAlive alive(*this);
     if (FollowMode())
     {
         BeginFilling();
     }
-    const LRESULT result = alive ? Default() : LB_ERR;
+    // Its own parameters and not the message's: an heir may keep something else with the row.
+    const LRESULT result = alive ? DefWindowProc(message, wParam, lParam) : LB_ERR;
     if (alive && result >= 0 && FollowMode())
     {
         InvalidateFrom(int(result));
@@ -422,10 +423,10 @@ LRESULT CCustomListBox::OnSetFont(WPARAM, LPARAM)
     return result;
 }
 
-LRESULT CCustomListBox::OnContentReplaced(WPARAM, LPARAM)
+LRESULT CCustomListBox::OnContentReplaced(WPARAM wParam, LPARAM lParam)
 {
     const WindowAlive alive(*this);
-    const LRESULT result = Default();
+    const LRESULT result = DefWindowProc(GetCurrentMessage()->message, wParam, lParam);
     if (alive && FollowMode())
     {
         CountAllWidths();
@@ -434,10 +435,10 @@ LRESULT CCustomListBox::OnContentReplaced(WPARAM, LPARAM)
     return result;
 }
 
-LRESULT CCustomListBox::OnMayScroll(WPARAM, LPARAM)
+LRESULT CCustomListBox::OnMayScroll(WPARAM wParam, LPARAM lParam)
 {
     const WindowAlive alive(*this);
-    const LRESULT result = Default();
+    const LRESULT result = DefWindowProc(GetCurrentMessage()->message, wParam, lParam);
     if (alive && FollowMode())
     {
         MirrorContent();

@@ -19,14 +19,14 @@ struct RowColors
 };
 
 // given: what the parent set for the list.
-RowColors ColorsOf(const DRAWITEMSTRUCT& draw, const RowColors& given)
+RowColors ColorsOf(UINT state, const RowColors& given)
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if ((draw.itemState & ODS_DISABLED) != 0)
+    if ((state & ODS_DISABLED) != 0)
     {
         return {onBoard ? palette::ListTextDisabled : ::GetSysColor(COLOR_GRAYTEXT), given.ground};
     }
-    if ((draw.itemState & ODS_SELECTED) == 0)
+    if ((state & ODS_SELECTED) == 0)
     {
         return given;
     }
@@ -43,29 +43,35 @@ void CCustomListBox::DrawItem(LPDRAWITEMSTRUCT draw)
     {
         return;
     }
+    std::optional<Selected> font;
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        font.emplace(*dc, GetOnBoardFont());
+    }
     const CRect row(draw->rcItem);
-    CString text;
     if (draw->itemID != UINT(-1))
     {
+        CString text;
         GetText(int(draw->itemID), text);
-        std::optional<Selected> font;
-        if (COnBoardUIGeneral::InOnBoardMode())
-        {
-            font.emplace(*dc, GetOnBoardFont());
-        }
-        const RowColors colors = ColorsOf(*draw, {dc->GetTextColor(), dc->GetBkColor()});
-        const TextColor textColor(*dc, colors.text);
-        const COLORREF ground = dc->SetBkColor(colors.ground);
-        // Ground and text in one call, so that no row is ever seen empty.
-        const int top = row.top + (row.Height() - dc->GetTextExtent("X", 1).cy) / 2;
-        dc->ExtTextOut(row.left + metrics::ListRowMargin, top, ETO_OPAQUE | ETO_CLIPPED, row, text,
-                       nullptr);
-        dc->SetBkColor(ground);
+        DrawRowText(*dc, row, text, draw->itemState);
     }
     if ((draw->itemState & ODS_FOCUS) != 0 && (draw->itemState & ODS_NOFOCUSRECT) == 0)
     {
         dc->DrawFocusRect(row);
     }
+}
+
+void CCustomListBox::DrawRowText(CDC& dc, const CRect& row, const CString& text, UINT state,
+                                 int indent)
+{
+    const RowColors colors = ColorsOf(state, {dc.GetTextColor(), dc.GetBkColor()});
+    const TextColor textColor(dc, colors.text);
+    const COLORREF ground = dc.SetBkColor(colors.ground);
+    // Ground and text in one call, so that no row is ever seen empty.
+    const int top = row.top + (row.Height() - dc.GetTextExtent("X", 1).cy) / 2;
+    dc.ExtTextOut(row.left + indent + metrics::ListRowMargin, top, ETO_OPAQUE | ETO_CLIPPED, row,
+                  text, nullptr);
+    dc.SetBkColor(ground);
 }
 
 void CCustomListBox::MeasureItem(LPMEASUREITEMSTRUCT measure)

@@ -33,6 +33,12 @@ constexpr int RadioMark = 22;
 // From either edge of a list's row to its text.
 constexpr int ListRowMargin = 4;
 
+// The check box of a check list's row: from the row's edges to it, how far its target reaches from
+// the left edge beyond its width, and where the text begins, measured likewise.
+constexpr int RowCheckInset = 1;
+constexpr int RowCheckReach = 2;
+constexpr int RowCheckText = 3;
+
 // Scale of a window's children on entering an on-board mode, and how much more they widen.
 constexpr double OnBoardScale = 1.7;
 constexpr double OnBoardWidening = 1.32;

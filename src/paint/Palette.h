@@ -56,6 +56,7 @@ constexpr COLORREF StaticBorder = RGB(70, 70, 70);
 
 // Rows of lists.
 constexpr COLORREF ListTextDisabled = RGB(70, 70, 70);
+constexpr COLORREF CheckArea = RGB(26, 26, 26); // behind the mark of a check list's row
 
 // Borders of edits, by state: the left and upper edges, and the right and lower ones.
 constexpr COLORREF EditEdgeLit = RGB(93, 93, 93);

@@ -179,6 +179,9 @@ protected:                                                                      
 #define ON_LBN_DBLCLK(id, member) ON_CONTROL(LBN_DBLCLK, id, member)
 #define ON_LBN_SETFOCUS(id, member) ON_CONTROL(LBN_SETFOCUS, id, member)
 #define ON_LBN_KILLFOCUS(id, member) ON_CONTROL(LBN_KILLFOCUS, id, member)
+// A list with check boxes: the user has changed one.
+#define CLBN_CHKCHANGE 40
+#define ON_CLBN_CHKCHANGE(id, member) ON_CONTROL(CLBN_CHKCHANGE, id, member)
 #define ON_CBN_SELCHANGE(id, member) ON_CONTROL(CBN_SELCHANGE, id, member)
 #define ON_EN_CHANGE(id, member) ON_CONTROL(EN_CHANGE, id, member)
 #define ON_EN_UPDATE(id, member) ON_CONTROL(EN_UPDATE, id, member)

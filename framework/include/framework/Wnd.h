@@ -12,6 +12,10 @@ class CFrameWnd;
 class CScrollBar;
 class CView;
 
+namespace framework {
+class AccessibleWindow;
+}
+
 // What a frame tells a view that it creates.
 struct CCreateContext
 {
@@ -247,6 +251,33 @@ public:
 
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
+    // Accessibility. A window with parts that are no windows calls EnableActiveAccessibility in its
+    // constructor and overrides what it has to say of them; child ids count from 1, CHILDID_SELF is
+    // the window. The base forms give what the platform says of the window. Assistive programs
+    // reach the window only while its thread has COM initialised.
+    void EnableActiveAccessibility() { m_answersAccessibility = true; }
+    virtual HRESULT get_accParent(IDispatch** parent);
+    virtual HRESULT get_accChildCount(long* count);
+    virtual HRESULT get_accChild(VARIANT child, IDispatch** object);
+    virtual HRESULT get_accName(VARIANT child, BSTR* name);
+    virtual HRESULT get_accValue(VARIANT child, BSTR* value);
+    virtual HRESULT get_accDescription(VARIANT child, BSTR* description);
+    virtual HRESULT get_accRole(VARIANT child, VARIANT* role);
+    virtual HRESULT get_accState(VARIANT child, VARIANT* state);
+    virtual HRESULT get_accHelp(VARIANT child, BSTR* help);
+    virtual HRESULT get_accHelpTopic(BSTR* file, VARIANT child, long* topic);
+    virtual HRESULT get_accKeyboardShortcut(VARIANT child, BSTR* shortcut);
+    virtual HRESULT get_accFocus(VARIANT* child);
+    virtual HRESULT get_accSelection(VARIANT* children);
+    virtual HRESULT get_accDefaultAction(VARIANT child, BSTR* action);
+    virtual HRESULT accSelect(long flags, VARIANT child);
+    virtual HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child);
+    virtual HRESULT accNavigate(long direction, VARIANT start, VARIANT* end);
+    virtual HRESULT accHitTest(long left, long top, VARIANT* child);
+    virtual HRESULT accDoDefaultAction(VARIANT child);
+    virtual HRESULT put_accName(VARIANT child, BSTR name);
+    virtual HRESULT put_accValue(VARIANT child, BSTR value);
+
     // The previous procedure's turn with any message.
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // Called by the window procedure; calls the handlers, else DefWindowProc.
@@ -330,6 +361,7 @@ protected:
     afx_msg int OnCompareItem(int id, LPCOMPAREITEMSTRUCT compare);
     afx_msg void OnDeleteItem(int id, LPDELETEITEMSTRUCT deleted);
     afx_msg void OnParentNotify(UINT message, LPARAM lParam);
+    afx_msg LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     // What a list box is to do with a key: its own virtuals first.
     afx_msg LRESULT OnKeyToItem(WPARAM wParam, LPARAM lParam);
 
@@ -340,7 +372,10 @@ private:
     WNDPROC m_previousProc = nullptr;
     bool m_modalRunning = false;
     int m_modalResult = 0;
+    bool m_answersAccessibility = false;
+    framework::AccessibleWindow* m_accessible = nullptr; // one reference of it is ours
 
+    void EndAccessibility();
     void BindTo(HWND window);
     void TakeProcedure();
 

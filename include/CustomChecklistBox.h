@@ -1,0 +1,157 @@
+#pragma once
+
+#include "CustomListBox.h"
+
+#include <vector>
+
+namespace lists {
+class CheckRecords;
+}
+
+// What a check list keeps with an item: it lies in the item's data slot of the platform's list box.
+struct _KES_CHECKLIST_STATE
+{
+    int check = 0;       // 0 unchecked, 1 checked, 2 indeterminate
+    BOOL enabled = TRUE; // whether the user can change the check
+    ULONG_PTR data = 0;  // the caller's item data
+};
+
+// A list box with a check box before each row, drawn by itself in every mode. The user changes a
+// check by a click on it or by the space key (in the two styles that change by themselves), and the
+// parent is told by WM_COMMAND with CLBN_CHKCHANGE. It may end the list there.
+//
+// It needs a list box that is drawn by its owner; created by itself it sees to that. A caller's
+// item data, read and set by the messages and members of any list box, is the caller's own; the
+// owner of a list without strings finds it in its structures when it overrides DrawItem,
+// MeasureItem, CompareItem or DeleteItem. Only a parent that answers WM_DRAWITEM, WM_MEASUREITEM or
+// WM_COMPAREITEM itself sees the record instead. A list with items must not be detached from its
+// object.
+class ONBOARDUI_API CCustomChecklistBox : public CCustomListBox
+{
+    DECLARE_DYNAMIC(CCustomChecklistBox)
+
+public:
+    CCustomChecklistBox();
+    ~CCustomChecklistBox() override;
+
+    // Fonts of all check lists, made on first use and kept for the life of the process.
+    static CFont& GetOnBoardFont();
+    static CFont& GetStdFont();
+
+    // BS_CHECKBOX, BS_AUTOCHECKBOX (at first), BS_3STATE or BS_AUTO3STATE; others are ignored.
+    void SetCheckStyle(UINT style);
+    UINT GetCheckStyle() const { return m_checkStyle; }
+    // The parent is not told. Nothing for an item that does not exist, for a check other than 0, 1
+    // and 2, and for 2 in a style of two states.
+    void SetCheck(int index, int check);
+    // 0 for an item that does not exist.
+    int GetCheck(int index);
+    // Whether the user can change the check; the item itself can be selected all the same.
+    void Enable(int index, int enable = TRUE);
+    // FALSE for an item that does not exist.
+    BOOL IsEnabled(int index);
+
+    // Where a row's check box is drawn, in client coordinates; check is its usual place.
+    virtual CRect OnGetCheckPosition(CRect item, CRect check);
+    // For heirs: draws over what the list has drawn beside the check; hDC and rcItem say where.
+    void DrawItem(LPDRAWITEMSTRUCT draw) override;
+    // For heirs: may make a row higher than it comes.
+    void MeasureItem(LPMEASUREITEMSTRUCT measure) override;
+
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
+    // What assistive programs are told: each row is a check button with its check.
+    HRESULT get_accChildCount(long* count) override;
+    HRESULT get_accChild(VARIANT child, IDispatch** object) override;
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accFocus(VARIANT* child) override;
+    HRESULT get_accSelection(VARIANT* children) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    HRESULT accSelect(long flags, VARIANT child) override;
+    HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
+    HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
+    HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    // As a click on the row's check.
+    HRESULT accDoDefaultAction(VARIANT child) override;
+
+protected:
+    // The owner's messages as they come back from the parent: the record is taken out of them
+    // before the operations that heirs override are called.
+    virtual void PreDrawItem(LPDRAWITEMSTRUCT draw);
+    virtual void PreMeasureItem(LPMEASUREITEMSTRUCT measure);
+    virtual int PreCompareItem(LPCOMPAREITEMSTRUCT compare);
+    virtual void PreDeleteItem(LPDELETEITEMSTRUCT deleted);
+    // Draws the check of a row.
+    virtual void PreDrawItemNonThemed(CDC& dc, const DRAWITEMSTRUCT& draw);
+
+    // The least height of a row, in pixels: that of the text in a list of strings with rows of one
+    // height, and room for the check.
+    int CalcMinimumItemHeight();
+    // The row under a point in client coordinates, or -1; onCheck: whether it is on the check.
+    int CheckFromPoint(CPoint point, int& onCheck);
+    // The same check for every selected row whose check can be changed.
+    void SetSelectionCheck(int check);
+    void InvalidateCheck(int index);
+    void InvalidateItem(int index);
+
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg LRESULT OnCharacter(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnKillFocus(CWnd* taker);
+    afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAddString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnResetContent(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnFindString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSelectString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetItemData(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetItemData(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetItemHeight(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+    static CFont m_OBFont;
+    static CFont m_StdFont;
+
+    UINT m_checkStyle = BS_AUTOCHECKBOX;
+    int m_textHeight = 0; // pixels, as last measured for a row
+    std::unique_ptr<lists::CheckRecords> m_records;
+
+private:
+    int m_ownHeight[2] = {}; // what rows were last given in the standard and the on-board modes
+    bool m_emptied = false;  // all items go, and their owner is being told
+
+    bool Exists(int index);
+    ULONG_PTR SlotOf(int index);
+    _KES_CHECKLIST_STATE* RecordOf(int index);
+    _KES_CHECKLIST_STATE* MakeRecord(int index);
+    void ReleaseRecord(int index);
+    void ReleaseRecords();
+    template <class Search> LRESULT SearchData(WPARAM start, LPARAM data, Search search);
+    void AnnounceState(int index);
+    bool IsRow(const VARIANT& child, int& index);
+    std::vector<int> SelectedRows();
+
+    int RowHeight();
+    void FitRows();
+    CRect RowsArea();
+    CRect CheckRect(const CRect& row);
+    bool IsInSight(int index, CRect& row);
+
+    bool CanChange(int index);
+    bool ExtendsSelection() const { return (GetStyle() & LBS_EXTENDEDSEL) != 0; }
+    bool FlipsSelection() const;
+    bool IsSelected(int index) { return Ask(LB_GETSEL, WPARAM(index)) > 0; }
+    void ChangeCheck(int index, bool forSelection);
+    void ChangeSelection(int index);
+    void NotifyParent(UINT code);
+};

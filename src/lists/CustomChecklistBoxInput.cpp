@@ -1,0 +1,191 @@
+// The check list: clicks on checks and the space key.
+
+#include "CustomChecklistBox.h"
+
+#include "lists/CheckListLayout.h"
+#include "modes/WindowAlive.h"
+
+namespace {
+
+constexpr WPARAM Space = ' ';
+
+} // namespace
+
+// Whether the user can change a row's check.
+bool CCustomChecklistBox::CanChange(int index)
+{
+    return lists::ChangesItself(m_checkStyle) && IsEnabled(index);
+}
+
+// Whether each click and each space changes the selection of one row and leaves the others.
+bool CCustomChecklistBox::FlipsSelection() const
+{
+    return (GetStyle() & LBS_MULTIPLESEL) != 0 && !ExtendsSelection();
+}
+
+// The last thing that its callers do.
+void CCustomChecklistBox::NotifyParent(UINT code)
+{
+    ::SendMessage(::GetParent(GetSafeHwnd()), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code),
+                  reinterpret_cast<LPARAM>(GetSafeHwnd()));
+}
+
+// One turn of a row's check, for all of the selected rows too if so wished.
+void CCustomChecklistBox::ChangeCheck(int index, bool forSelection)
+{
+    const WindowAlive alive(*this);
+    const int check = lists::NextCheck(GetCheck(index), m_checkStyle);
+    SetCheck(index, check);
+    if (alive && forSelection)
+    {
+        SetSelectionCheck(check);
+    }
+}
+
+std::vector<int> CCustomChecklistBox::SelectedRows()
+{
+    const int count = Ask(LB_GETSELCOUNT); // an error in a list that selects one row
+    if (count < 0)
+    {
+        const int index = Ask(LB_GETCURSEL);
+        return index < 0 ? std::vector<int>() : std::vector<int>{index};
+    }
+    std::vector<int> rows(size_t{unsigned(count)});
+    Ask(LB_GETSELITEMS, WPARAM(count), reinterpret_cast<LPARAM>(rows.data()));
+    return rows;
+}
+
+void CCustomChecklistBox::SetSelectionCheck(int check)
+{
+    const WindowAlive alive(*this);
+    for (const int index : SelectedRows())
+    {
+        // Setting is told to listeners, who may end the list.
+        if (!alive)
+        {
+            return;
+        }
+        if (IsEnabled(index) && GetCheck(index) != check)
+        {
+            SetCheck(index, check);
+        }
+    }
+}
+
+// Clicks ----------------------------------------------------------------------------------------
+
+void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
+{
+    const WindowAlive alive(*this);
+    FollowMode();
+    if (!alive)
+    {
+        return;
+    }
+    int onCheck = FALSE;
+    const int index = CheckFromPoint(point, onCheck);
+    const bool changes = onCheck && CanChange(index);
+    if (changes && ExtendsSelection() && IsSelected(index) &&
+        (flags & (MK_CONTROL | MK_SHIFT)) == 0)
+    {
+        // The check goes to all selected rows, so the click leaves them selected.
+        SetFocus();
+        if (alive)
+        {
+            SendMessage(LB_SETCARETINDEX, WPARAM(index), TRUE);
+        }
+    }
+    else
+    {
+        CCustomListBox::OnLButtonDown(flags, point);
+    }
+    // On the way here the parent was told of the focus; the rows may be others.
+    if (changes && alive && CanChange(index))
+    {
+        ChangeCheck(index, ExtendsSelection() && IsSelected(index));
+        if (alive)
+        {
+            NotifyParent(CLBN_CHKCHANGE);
+        }
+    }
+}
+
+void CCustomChecklistBox::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    const WindowAlive alive(*this);
+    FollowMode();
+    if (!alive)
+    {
+        return;
+    }
+    int onCheck = FALSE;
+    const int index = CheckFromPoint(point, onCheck);
+    if (onCheck && CanChange(index))
+    {
+        SendMessage(WM_LBUTTONDOWN, flags, MAKELPARAM(point.x, point.y)); // a second click
+        return;
+    }
+    CCustomListBox::OnLButtonDblClk(flags, point);
+}
+
+// The space key ---------------------------------------------------------------------------------
+
+void CCustomChecklistBox::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (key != VK_SPACE || !lists::ChangesItself(m_checkStyle))
+    {
+        CCustomListBox::OnKeyDown(key, repeat, flags);
+        return;
+    }
+    const WindowAlive alive(*this);
+    FollowMode();
+    const int caret = alive ? Ask(LB_GETCARETINDEX) : LB_ERR;
+    if (!alive || !Exists(caret))
+    {
+        return;
+    }
+    const bool canChange = CanChange(caret);
+    const bool flips = FlipsSelection();
+    const bool changes = canChange && (!flips || IsSelected(caret));
+    if (changes)
+    {
+        ChangeCheck(caret, ExtendsSelection());
+    }
+    if (alive && (flips || !canChange))
+    {
+        ChangeSelection(caret);
+    }
+    if (alive && changes)
+    {
+        NotifyParent(CLBN_CHKCHANGE);
+    }
+}
+
+// What the space key does to the selection where it does not change a check alone.
+void CCustomChecklistBox::ChangeSelection(int index)
+{
+    const bool selected = IsSelected(index);
+    if (selected && !FlipsSelection())
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    if (FlipsSelection() || ExtendsSelection())
+    {
+        SendMessage(LB_SETSEL, WPARAM(!selected), LPARAM(index));
+    }
+    else
+    {
+        SendMessage(LB_SETCURSEL, WPARAM(index));
+    }
+    if (alive && (GetStyle() & LBS_NOTIFY) != 0)
+    {
+        NotifyParent(LBN_SELCHANGE);
+    }
+}
+
+LRESULT CCustomChecklistBox::OnCharacter(WPARAM wParam, LPARAM lParam)
+{
+    // The key was worth a check; the platform would look for a row that begins with a space.
+    return wParam == Space && lists::ChangesItself(m_checkStyle) ? 0 : OnMayScroll(wParam, lParam);
+}

@@ -1,0 +1,336 @@
+// The check list: heights, places and painting of its rows.
+
+#include "CustomChecklistBox.h"
+
+#include "OnBoardUIGeneral.h"
+#include "lists/CheckListLayout.h"
+#include "lists/CheckMarks.h"
+#include "lists/CheckRecords.h"
+#include "modes/WindowAlive.h"
+#include "paint/BackBuffer.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+
+#include <algorithm>
+
+namespace {
+
+CSize CheckSize()
+{
+    return lists::CheckMarks::Of(COnBoardUIGeneral::InOnBoardMode(), true).Size();
+}
+
+int TextHeight(CWnd& window, HFONT font)
+{
+    CClientDC dc(&window);
+    const Selected selected(dc, font);
+    return int(dc.GetTextExtent("X", 1).cy);
+}
+
+} // namespace
+
+// Heights ---------------------------------------------------------------------------------------
+
+int CCustomChecklistBox::CalcMinimumItemHeight()
+{
+    constexpr DWORD measured = LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
+    const int check = CheckSize().cy + metrics::RowCheckInset;
+    if ((GetStyle() & measured) != measured)
+    {
+        return check;
+    }
+    CFont& font = COnBoardUIGeneral::InOnBoardMode() ? GetOnBoardFont() : GetStdFont();
+    m_textHeight = TextHeight(*this, font);
+    return std::max(m_textHeight, check);
+}
+
+// What a row gets unless somebody wants it higher: in the standard mode it also holds a text in the
+// font that the host gave the control.
+int CCustomChecklistBox::RowHeight()
+{
+    const int least = CalcMinimumItemHeight();
+    return COnBoardUIGeneral::InOnBoardMode() || !HasText()
+               ? least
+               : std::max(least, TextHeight(*this, Font()));
+}
+
+// Gives the rows their height without waiting to be asked for it by way of the parent. Rows that
+// the host has made higher stay so.
+void CCustomChecklistBox::FitRows()
+{
+    const DWORD style = GetStyle();
+    const bool variable = (style & LBS_OWNERDRAWVARIABLE) != 0;
+    if (!variable && (style & LBS_OWNERDRAWFIXED) == 0)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    const int height = RowHeight();
+    int& own = m_ownHeight[COnBoardUIGeneral::InOnBoardMode()];
+    const int before = own;
+    own = height;
+    const int rows = variable ? Ask(LB_GETCOUNT) : 1;
+    for (int row = 0; row < rows && alive; ++row)
+    {
+        const int now = Ask(LB_GETITEMHEIGHT, WPARAM(row));
+        if (now != height && (now < height || now == before))
+        {
+            Ask(LB_SETITEMHEIGHT, WPARAM(row), LPARAM(height));
+        }
+    }
+}
+
+LRESULT CCustomChecklistBox::OnSetFont(WPARAM wParam, LPARAM lParam)
+{
+    const WindowAlive alive(*this);
+    const LRESULT result = CCustomListBox::OnSetFont(wParam, lParam);
+    if (alive)
+    {
+        FitRows();
+    }
+    return result;
+}
+
+// Places ----------------------------------------------------------------------------------------
+
+CRect CCustomChecklistBox::OnGetCheckPosition(CRect, CRect check)
+{
+    return check;
+}
+
+CRect CCustomChecklistBox::CheckRect(const CRect& row)
+{
+    return OnGetCheckPosition(row, lists::CheckPlace(row, CheckSize()));
+}
+
+// Whether any of a row can be seen; gives its place.
+bool CCustomChecklistBox::IsInSight(int index, CRect& row)
+{
+    CRect client;
+    GetClientRect(&client);
+    const int fromTop = index - Ask(LB_GETTOPINDEX);
+    // A row so far down that it is out of sight however low the rows are is not even looked up.
+    return fromTop >= 0 && (InColumns() || fromTop <= client.Height()) &&
+           Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row)) != LB_ERR &&
+           row.top < client.bottom && row.left < client.right;
+}
+
+int CCustomChecklistBox::CheckFromPoint(CPoint point, int& onCheck)
+{
+    onCheck = FALSE;
+    const int count = Ask(LB_GETCOUNT);
+    const int width = CheckSize().cx;
+    int index = Ask(LB_GETTOPINDEX);
+    CRect row;
+    const bool fixed =
+        (GetStyle() & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) == LBS_OWNERDRAWFIXED;
+    if (fixed && !InColumns())
+    {
+        const int height = Ask(LB_GETITEMHEIGHT);
+        if (height <= 0 || point.y < 0 || point.y / height >= count - index)
+        {
+            return -1;
+        }
+        index += point.y / height;
+        Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row));
+        onCheck = lists::IsOnCheck(point.x - row.left, width);
+        return index;
+    }
+    for (; index < count && IsInSight(index, row); ++index)
+    {
+        if (row.PtInRect(point))
+        {
+            onCheck = lists::IsOnCheck(point.x - row.left, width);
+            return index;
+        }
+    }
+    return -1;
+}
+
+void CCustomChecklistBox::InvalidateCheck(int index)
+{
+    CRect row;
+    if (IsInSight(index, row))
+    {
+        InvalidateRect(CheckRect(row), FALSE);
+    }
+}
+
+void CCustomChecklistBox::InvalidateItem(int index)
+{
+    CRect row;
+    if (Exists(index) && IsInSight(index, row))
+    {
+        InvalidateRect(row, FALSE);
+    }
+}
+
+// The part of the client area that rows paint themselves; not known in columns.
+CRect CCustomChecklistBox::RowsArea()
+{
+    const int count = InColumns() ? 0 : Ask(LB_GETCOUNT);
+    CRect area;
+    CRect row;
+    for (int index = Ask(LB_GETTOPINDEX); index < count && IsInSight(index, row); ++index)
+    {
+        area.UnionRect(area, row);
+    }
+    return area;
+}
+
+// The owner's messages --------------------------------------------------------------------------
+
+BOOL CCustomChecklistBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    LRESULT answer = TRUE;
+    switch (message)
+    {
+    case WM_DRAWITEM:
+        PreDrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        break;
+    case WM_MEASUREITEM:
+        PreMeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
+        break;
+    case WM_COMPAREITEM:
+        answer = PreCompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
+        break;
+    case WM_DELETEITEM:
+        PreDeleteItem(reinterpret_cast<LPDELETEITEMSTRUCT>(lParam));
+        break;
+    default:
+        return CCustomListBox::OnChildNotify(message, wParam, lParam, result);
+    }
+    if (result != nullptr)
+    {
+        *result = answer;
+    }
+    return TRUE;
+}
+
+void CCustomChecklistBox::DrawItem(LPDRAWITEMSTRUCT) {}
+
+void CCustomChecklistBox::MeasureItem(LPMEASUREITEMSTRUCT) {}
+
+void CCustomChecklistBox::PreMeasureItem(LPMEASUREITEMSTRUCT measure)
+{
+    MEASUREITEMSTRUCT given = *measure;
+    given.itemData = m_records->DataIn(given.itemData);
+    const int height = RowHeight();
+    m_ownHeight[COnBoardUIGeneral::InOnBoardMode()] = height;
+    given.itemHeight = UINT(height);
+    MeasureItem(&given);
+    measure->itemWidth = given.itemWidth;
+    measure->itemHeight = std::max(given.itemHeight, UINT(height));
+}
+
+int CCustomChecklistBox::PreCompareItem(LPCOMPAREITEMSTRUCT compare)
+{
+    COMPAREITEMSTRUCT given = *compare;
+    given.itemData1 = m_records->DataIn(given.itemData1);
+    given.itemData2 = m_records->DataIn(given.itemData2);
+    return CompareItem(&given);
+}
+
+void CCustomChecklistBox::PreDeleteItem(LPDELETEITEMSTRUCT deleted)
+{
+    DELETEITEMSTRUCT given = *deleted;
+    given.itemData = m_records->DataIn(given.itemData);
+    m_records->Free(m_records->Find(deleted->itemData));
+    DeleteItem(&given);
+}
+
+void CCustomChecklistBox::PreDrawItem(LPDRAWITEMSTRUCT draw)
+{
+    CDC* const dc = CDC::FromHandle(draw->hDC);
+    const CRect row(draw->rcItem);
+    // Some platforms ask for every row in the window when one of them is due.
+    if (dc == nullptr || !dc->RectVisible(row))
+    {
+        return;
+    }
+    const int indent = lists::TextIndent(CheckSize().cx);
+    const bool isRow = draw->itemID != UINT(-1); // an empty list shows its focus
+    DRAWITEMSTRUCT given = *draw;
+    given.itemData = m_records->DataIn(given.itemData);
+    given.rcItem.left += isRow ? indent : 0;
+
+    BackBuffer buffer(*dc, row);
+    CDC& to = buffer;
+    given.hDC = to;
+    const Selected font(to, COnBoardUIGeneral::InOnBoardMode()
+                                ? HGDIOBJ(GetOnBoardFont())
+                                : ::GetCurrentObject(draw->hDC, OBJ_FONT));
+    to.SetTextColor(dc->GetTextColor());
+    to.SetBkColor(dc->GetBkColor());
+    // A row whose check is fixed looks it, unless it is selected: that has to be seen.
+    const bool fixed = isRow && !IsEnabled(int(draw->itemID));
+    const bool looksDisabled = fixed && (draw->itemState & ODS_SELECTED) == 0;
+    CString text;
+    if (isRow && HasText())
+    {
+        GetText(int(draw->itemID), text);
+    }
+    DrawRowText(to, row, text, isRow ? draw->itemState | (looksDisabled ? ODS_DISABLED : 0) : 0,
+                indent);
+    if (isRow)
+    {
+        PreDrawItemNonThemed(to, *draw);
+    }
+    if ((draw->itemState & ODS_FOCUS) != 0 && (draw->itemState & ODS_NOFOCUSRECT) == 0)
+    {
+        to.DrawFocusRect(&given.rcItem);
+    }
+    DrawItem(&given);
+}
+
+void CCustomChecklistBox::PreDrawItemNonThemed(CDC& dc, const DRAWITEMSTRUCT& draw)
+{
+    const int index = int(draw.itemID);
+    const bool enabled = (draw.itemState & ODS_DISABLED) == 0 && IsEnabled(index);
+    const bool selected = (draw.itemState & ODS_SELECTED) != 0;
+    const CRect check = CheckRect(draw.rcItem);
+    const COLORREF before = dc.GetBkColor();
+    dc.FillSolidRect(check,
+                     selected && enabled ? ::GetSysColor(COLOR_HIGHLIGHT) : palette::CheckArea);
+    dc.SetBkColor(before);
+    lists::CheckMarks::Of(COnBoardUIGeneral::InOnBoardMode(), enabled)
+        .Draw(dc, check.TopLeft(), GetCheck(index));
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+void CCustomChecklistBox::OnPaint()
+{
+    const WindowAlive alive(*this);
+    const bool onBoard = FollowMode();
+    // A list box that existed before its object was measured by somebody else.
+    if (alive && m_ownHeight[onBoard] == 0)
+    {
+        FitRows();
+    }
+    if (alive)
+    {
+        Default();
+    }
+}
+
+BOOL CCustomChecklistBox::OnEraseBkgnd(CDC* dc)
+{
+    // A row is never seen without its ground: it is painted in one copy.
+    const int saved = dc->SaveDC();
+    dc->ExcludeClipRect(RowsArea());
+    const WindowAlive alive(*this);
+    const BOOL erased = BOOL(Default());
+    dc->RestoreDC(saved);
+    return erased;
+}
+
+void CCustomChecklistBox::OnKillFocus(CWnd* taker)
+{
+    const WindowAlive alive(*this);
+    CCustomListBox::OnKillFocus(taker);
+    if (alive)
+    {
+        InvalidateItem(Ask(LB_GETCARETINDEX)); // it shows no focus any more
+    }
+}

@@ -1,0 +1,94 @@
+#pragma once
+
+#include "CustomChecklistBox.h"
+#include "lists/CheckRecords.h"
+#include "support/WindowTest.h"
+
+#include <string>
+
+// A check list that lets a test see its records and its measures.
+class CheckListForTests : public CCustomChecklistBox
+{
+public:
+    using CCustomChecklistBox::CalcMinimumItemHeight;
+    using CCustomChecklistBox::CheckFromPoint;
+
+    size_t Records() const { return m_records->Count(); }
+
+    void Fill(int rows)
+    {
+        for (int row = 0; row < rows; ++row)
+        {
+            AddString(("Row " + std::to_string(row)).c_str());
+        }
+    }
+
+    CRect RowRect(int row) const
+    {
+        CRect rect;
+        GetItemRect(row, &rect);
+        return rect;
+    }
+
+    // Screen points on a row's check and on its text.
+    CPoint CheckPoint(int row) const
+    {
+        return ClientPoint(*this, CPoint(6, RowRect(row).CenterPoint().y));
+    }
+    CPoint TextPoint(int row) const
+    {
+        return ClientPoint(*this, CPoint(90, RowRect(row).CenterPoint().y));
+    }
+
+    std::vector<int> Checks()
+    {
+        std::vector<int> checks;
+        for (int row = 0; row < GetCount(); ++row)
+        {
+            checks.push_back(GetCheck(row));
+        }
+        return checks;
+    }
+};
+
+constexpr DWORD CheckListStyle =
+    WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
+
+// Check lists in the standard mode.
+class CheckListTest : public WindowTest
+{
+protected:
+    template <class List = CheckListForTests>
+    List& AddList(int rows, UINT checkStyle = BS_AUTOCHECKBOX, DWORD style = CheckListStyle)
+    {
+        auto& list = Add<List>(CRect(20, 20, 320, 320), style);
+        list.SetFont(&CCustomChecklistBox::GetStdFont());
+        list.SetCheckStyle(checkStyle);
+        list.Fill(rows);
+        PumpAll();
+        return list;
+    }
+
+    // What a list has told of its checks since the last Forget.
+    int Told(const CWnd& list)
+    {
+        const std::vector<UINT> codes = Host().CodesFrom(UINT(list.GetDlgCtrlID()));
+        return int(std::count(codes.begin(), codes.end(), UINT(CLBN_CHKCHANGE)));
+    }
+};
+
+class CheckListOnBoard : public CheckListTest
+{
+protected:
+    void SetUp() override
+    {
+        CheckListTest::SetUp();
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+    }
+
+    void TearDown() override
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        CheckListTest::TearDown();
+    }
+};

@@ -1,0 +1,272 @@
+// Checks worked by the pointer and by the space key.
+
+#include "lists/check_list_for_tests.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+void AwayFromDoubleClicks()
+{
+    PumpFor(int(::GetDoubleClickTime()) + 30);
+}
+
+} // namespace
+
+TEST_F(CheckListTest, AClickOnTheCheckChangesItAndOneBesideItOnlySelects)
+{
+    struct
+    {
+        UINT style;
+        std::vector<int> checks; // after each click
+    } const table[] = {{BS_CHECKBOX, {0, 0, 0}},
+                       {BS_AUTOCHECKBOX, {1, 0, 1}},
+                       {BS_3STATE, {0, 0, 0}},
+                       {BS_AUTO3STATE, {1, 2, 0}}};
+    for (const APPMODE mode : {STD, ONBOARD, EFBFS})
+    {
+        const ModeScope scope(mode);
+        for (const auto& row : table)
+        {
+            auto& list = AddList(4, row.style);
+            std::vector<int> seen;
+            for (size_t click = 0; click < row.checks.size(); ++click)
+            {
+                Click(list.CheckPoint(1)); // fast: the second one is a double click
+                seen.push_back(list.GetCheck(1));
+            }
+            EXPECT_EQ(seen, row.checks) << APPMODE_NAMES[mode] << " " << row.style;
+            const bool automatic = row.style == BS_AUTOCHECKBOX || row.style == BS_AUTO3STATE;
+            EXPECT_EQ(Told(list), automatic ? 3 : 0);
+            EXPECT_EQ(list.GetCurSel(), 1);
+
+            Host().Forget();
+            const std::vector<int> before = list.Checks();
+            Click(list.TextPoint(2));
+            Click(list.TextPoint(2));
+            EXPECT_EQ(list.GetCurSel(), 2);
+            EXPECT_EQ(list.Checks(), before);
+            EXPECT_EQ(Told(list), 0);
+            const auto codes = Host().CodesFrom(UINT(list.GetDlgCtrlID()));
+            EXPECT_EQ(std::count(codes.begin(), codes.end(), UINT(LBN_DBLCLK)), 1);
+
+            list.Enable(3, FALSE);
+            Click(list.CheckPoint(3));
+            EXPECT_EQ(list.GetCurSel(), 3);
+            EXPECT_EQ(list.GetCheck(3), 0);
+            // Below the last row there is nothing to be changed.
+            Click(list.CheckPoint(3) + CPoint(0, list.GetItemHeight(0)));
+            EXPECT_EQ(Told(list), 0);
+            Remove(list);
+        }
+    }
+}
+
+TEST_F(CheckListTest, SpaceGoesRoundTheStatesOfTheCaretsRow)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        auto& list = AddList(3, BS_AUTO3STATE);
+        list.SetFocus();
+        TypeKey(VK_SPACE);
+        list.SetCurSel(1);
+        Host().Forget();
+        for (const int expected : {1, 2, 0})
+        {
+            TypeKey(VK_SPACE);
+            EXPECT_EQ(list.GetCheck(1), expected);
+        }
+        EXPECT_EQ(Host().CodesFrom(UINT(list.GetDlgCtrlID())),
+                  std::vector<UINT>(3, CLBN_CHKCHANGE));
+        // A state that its style does not have counts as the last one that it has.
+        list.SetCheck(1, 2);
+        list.SetCheckStyle(BS_AUTOCHECKBOX);
+        TypeKey(VK_SPACE);
+        EXPECT_EQ(list.GetCheck(1), 0);
+        TypeKey(VK_DOWN);
+        EXPECT_EQ(list.GetCurSel(), 2) << "other keys are the list box's";
+
+        Host().Forget();
+        list.Enable(2, FALSE);
+        TypeKey(VK_SPACE);
+        list.SetCheckStyle(BS_CHECKBOX);
+        list.Enable(2);
+        TypeKey(VK_SPACE);
+        EXPECT_EQ(list.GetCheck(2), 0);
+        EXPECT_EQ(Told(list), 0);
+        list.ResetContent();
+        TypeKey(VK_SPACE);
+        EXPECT_EQ(list.Records(), 0U);
+        Remove(list);
+    }
+}
+
+TEST_F(CheckListTest, SpaceDoesNotLookForARowThatBeginsWithOne)
+{
+    auto& list = AddList(2);
+    list.AddString(" indented");
+    list.SetFocus();
+    list.SetCurSel(0);
+    TypeKey(VK_SPACE);
+    EXPECT_EQ(list.GetCurSel(), 0);
+    EXPECT_THAT(list.Checks(), ElementsAre(1, 0, 0));
+}
+
+TEST_F(CheckListTest, AnExtendedSelectionIsCheckedTogether)
+{
+    auto& list = AddList(6, BS_AUTOCHECKBOX, CheckListStyle | LBS_EXTENDEDSEL);
+    list.SetFocus();
+    list.SelItemRange(TRUE, 1, 3);
+    list.SetCaretIndex(2);
+    list.SetCheck(1, 1);
+    list.Enable(3, FALSE);
+    Host().Forget();
+    TypeKey(VK_SPACE);
+    EXPECT_THAT(list.Checks(), ElementsAre(0, 1, 1, 0, 0, 0)) << "a fixed check stays";
+    EXPECT_EQ(Told(list), 1);
+    EXPECT_EQ(list.GetSelCount(), 3);
+    // A click on the check of a selected row leaves the rows selected ...
+    Click(list.CheckPoint(1));
+    EXPECT_THAT(list.Checks(), ElementsAre(0, 0, 0, 0, 0, 0));
+    EXPECT_EQ(list.GetSelCount(), 3);
+    EXPECT_EQ(list.GetCaretIndex(), 1);
+    // ... and one on another row's check is for that row.
+    Click(list.CheckPoint(5));
+    EXPECT_THAT(list.Checks(), ElementsAre(0, 0, 0, 0, 0, 1));
+    EXPECT_EQ(list.GetSelCount(), 1);
+    // The caret's row is changed also when it is not selected.
+    list.SetSel(5, FALSE);
+    list.SetSel(4, TRUE);
+    list.SetCaretIndex(0);
+    TypeKey(VK_SPACE);
+    EXPECT_THAT(list.Checks(), ElementsAre(1, 0, 0, 0, 1, 1));
+}
+
+TEST_F(CheckListTest, WhereSpaceSelectsItFlipsTheSelectionEachTime)
+{
+    auto& list = AddList(3, BS_AUTOCHECKBOX, CheckListStyle | LBS_MULTIPLESEL);
+    list.SetFocus();
+    list.SetCaretIndex(1);
+    struct
+    {
+        int check;
+        int selected;
+        std::vector<UINT> told;
+    } const table[] = {{0, 1, {LBN_SELCHANGE}},
+                       {1, 0, {LBN_SELCHANGE, CLBN_CHKCHANGE}},
+                       {1, 1, {LBN_SELCHANGE}},
+                       {0, 0, {LBN_SELCHANGE, CLBN_CHKCHANGE}}};
+    for (const auto& step : table)
+    {
+        Host().Forget();
+        TypeKey(VK_SPACE);
+        EXPECT_EQ(list.GetCheck(1), step.check);
+        EXPECT_EQ(list.GetSel(1), step.selected);
+        EXPECT_EQ(Host().CodesFrom(UINT(list.GetDlgCtrlID())), step.told);
+    }
+    list.Enable(1, FALSE);
+    TypeKey(VK_SPACE);
+    EXPECT_EQ(list.GetSel(1), 1) << "a fixed check leaves the selection to the key";
+    TypeKey(VK_SPACE);
+    EXPECT_EQ(list.GetSel(1), 0);
+    EXPECT_EQ(list.GetCheck(1), 0);
+    Click(list.CheckPoint(2));
+    EXPECT_EQ(list.GetCheck(2), 1);
+    EXPECT_EQ(list.GetSel(2), 1);
+}
+
+TEST_F(CheckListTest, ScrolledRowsAreHitWhereTheyAreSeen)
+{
+    const ModeScope scope(ONBOARD);
+    auto& list = AddList(60);
+    list.SetTopIndex(25);
+    Click(list.CheckPoint(27));
+    EXPECT_EQ(list.GetCheck(27), 1);
+    EXPECT_EQ(list.GetCurSel(), 27);
+    EXPECT_EQ(list.GetTopIndex(), 25);
+}
+
+// The parent's notification ---------------------------------------------------------------------
+
+TEST_F(CheckListTest, TheParentMayDoAnythingWhenItIsTold)
+{
+    for (const UINT code : {UINT(CLBN_CHKCHANGE), UINT(LBN_SETFOCUS), UINT(LBN_SELCHANGE)})
+    {
+        for (const bool destroy : {true, false})
+        {
+            for (const bool byKey : {true, false})
+            {
+                const DWORD kind = code == LBN_SELCHANGE ? LBS_MULTIPLESEL : 0;
+                auto& list = AddList(4, BS_AUTOCHECKBOX, CheckListStyle | kind);
+                bool acted = false;
+                Host().hook = [&](ToldMessage& told) {
+                    if (told.code == code && !acted)
+                    {
+                        acted = true;
+                        if (destroy)
+                        {
+                            list.DestroyWindow();
+                        }
+                        else
+                        {
+                            list.ResetContent();
+                        }
+                    }
+                };
+                if (byKey)
+                {
+                    list.SetFocus();
+                    if (list.GetSafeHwnd() != nullptr)
+                    {
+                        list.SendMessage(LB_SETCURSEL, 1);
+                        list.SendMessage(LB_SETCARETINDEX, 1);
+                        TypeKey(VK_SPACE);
+                    }
+                }
+                else
+                {
+                    Click(list.CheckPoint(1));
+                }
+                EXPECT_TRUE(acted) << code << byKey;
+                EXPECT_EQ(list.GetSafeHwnd() == nullptr, destroy);
+                EXPECT_EQ(list.Records(), 0U);
+                Host().hook = nullptr;
+                Remove(list);
+                Host().SetFocus();
+                AwayFromDoubleClicks();
+            }
+        }
+    }
+}
+
+TEST_F(CheckListTest, AnOwnerMayUseTheListWhileItsItemsGo)
+{
+    auto& list = AddList(5);
+    for (int row = 0; row < 5; ++row)
+    {
+        list.SetItemData(row, DWORD_PTR(row) + 1);
+    }
+    std::vector<ULONG_PTR> deleted;
+    Host().AlsoRecord({WM_DELETEITEM});
+    Host().hook = [&](ToldMessage& told) {
+        if (told.message == WM_DELETEITEM)
+        {
+            const auto* item = reinterpret_cast<DELETEITEMSTRUCT*>(told.lParam);
+            deleted.push_back(item->itemData);
+            list.GetCheck(int(item->itemID));
+            list.GetItemData(0);
+            list.SetCheck(0, 1);
+        }
+    };
+    list.DeleteString(2);
+    EXPECT_THAT(deleted, ElementsAre(3U));
+    deleted.clear();
+    list.ResetContent();
+    EXPECT_THAT(deleted, testing::UnorderedElementsAre(1U, 2U, 4U, 5U));
+    list.Fill(1);
+    list.SetCheck(0, 1);
+    EXPECT_EQ(list.GetItemData(0), 0U);
+}
