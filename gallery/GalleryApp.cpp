@@ -35,6 +35,7 @@ BOOL GalleryApp::InitInstance()
         return FALSE;
     }
 
+    ::CoInitialize(nullptr); // assistive programs reach the windows by it
     COnBoardUIGeneral::SetStdModeGoals();
     CString title;
     m_host.GetProductName(title);

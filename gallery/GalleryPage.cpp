@@ -123,6 +123,15 @@ void GalleryPage::AddList(CCustomListBox& list, const char* caption, DWORD style
     Place(list, design, &label);
 }
 
+void GalleryPage::TapRow(CListBox& list, int row)
+{
+    CRect rect;
+    list.GetItemRect(row, &rect);
+    const CPoint point = rect.CenterPoint();
+    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+}
+
 void GalleryPage::Place(CWnd& control, const CRect& design, CWnd* caption)
 {
     m_placed.push_back({&control, design, caption});

@@ -66,6 +66,9 @@ protected:
     // Has a control that the page made follow the mode, with a caption above it or without one.
     void Place(CWnd& control, const CRect& design, CWnd* caption = nullptr);
 
+    // A press and its release in the middle of a row, as the pointer sends them.
+    static void TapRow(CListBox& list, int row);
+
     GalleryEvents& Events() { return m_events; }
 
     // A page is no dialog to be closed by a key.

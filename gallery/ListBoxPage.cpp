@@ -61,16 +61,6 @@ CString Waypoint(int number)
     return text;
 }
 
-// A press and its release on a row, as the pointer sends them.
-void TapRow(CListBox& list, int row)
-{
-    CRect rect;
-    list.GetItemRect(row, &rect);
-    const CPoint point = rect.CenterPoint();
-    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
-    list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(ListBoxPage, GalleryPage)

@@ -2,6 +2,7 @@
 
 #include "ButtonsPage.h"
 #include "CombosPage.h"
+#include "CheckListPage.h"
 #include "DialogsPage.h"
 #include "EditsPage.h"
 #include "IconsPage.h"
@@ -29,6 +30,7 @@ constexpr PageEntry AllPages[] = {
     {"toolbar", "Tool bar", &Make<ToolbarPage>},
     {"icons", "Icons", &Make<IconsPage>},
     {"polygon", "View polygon", &Make<PolygonPage>},
+    {"checklist", "Check lists", &Make<CheckListPage>},
 };
 
 } // namespace

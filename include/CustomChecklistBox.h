@@ -58,7 +58,11 @@ public:
     // For heirs: may make a row higher than it comes.
     void MeasureItem(LPMEASUREITEMSTRUCT measure) override;
 
+    // The check and what lies between it and the text included.
+    int GetEntryWidth(int index) override;
+
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    void PreSubclassWindow() override;
 
     // What assistive programs are told: each row is a check button with its check.
     HRESULT get_accChildCount(long* count) override;

@@ -74,10 +74,18 @@ BOOL CCustomChecklistBox::PreCreateWindow(CREATESTRUCT& cs)
     return CCustomListBox::PreCreateWindow(cs);
 }
 
+void CCustomChecklistBox::PreSubclassWindow()
+{
+    // The object may have had another window before.
+    m_emptied = false;
+    m_ownHeight[0] = 0;
+    m_ownHeight[1] = 0;
+    CCustomListBox::PreSubclassWindow();
+}
+
 int CCustomChecklistBox::OnCreate(LPCREATESTRUCT cs)
 {
     const WindowAlive alive(*this);
-    m_emptied = false;
     const int result = CCustomListBox::OnCreate(cs);
     if (alive && result != -1)
     {

@@ -63,7 +63,7 @@ const wchar_t* Verb(int nextCheck)
 // Whether a child id is that of a row; gives its index.
 bool CCustomChecklistBox::IsRow(const VARIANT& child, int& index)
 {
-    index = child.vt == VT_I4 ? child.lVal - 1 : -1;
+    index = child.vt == VT_I4 && child.lVal > 0 ? child.lVal - 1 : -1;
     return Exists(index);
 }
 

@@ -20,11 +20,11 @@ CSize CheckSize()
     return lists::CheckMarks::Of(COnBoardUIGeneral::InOnBoardMode(), true).Size();
 }
 
-int TextHeight(CWnd& window, HFONT font)
+CSize TextSize(CWnd& window, HFONT font, const CString& text = "X")
 {
     CClientDC dc(&window);
     const Selected selected(dc, font);
-    return int(dc.GetTextExtent("X", 1).cy);
+    return dc.GetTextExtent(text);
 }
 
 } // namespace
@@ -40,7 +40,7 @@ int CCustomChecklistBox::CalcMinimumItemHeight()
         return check;
     }
     CFont& font = COnBoardUIGeneral::InOnBoardMode() ? GetOnBoardFont() : GetStdFont();
-    m_textHeight = TextHeight(*this, font);
+    m_textHeight = TextSize(*this, font).cy;
     return std::max(m_textHeight, check);
 }
 
@@ -51,7 +51,7 @@ int CCustomChecklistBox::RowHeight()
     const int least = CalcMinimumItemHeight();
     return COnBoardUIGeneral::InOnBoardMode() || !HasText()
                ? least
-               : std::max(least, TextHeight(*this, Font()));
+               : std::max(least, int(TextSize(*this, Font()).cy));
 }
 
 // Gives the rows their height without waiting to be asked for it by way of the parent. Rows that
@@ -78,6 +78,18 @@ void CCustomChecklistBox::FitRows()
             Ask(LB_SETITEMHEIGHT, WPARAM(row), LPARAM(height));
         }
     }
+}
+
+int CCustomChecklistBox::GetEntryWidth(int index)
+{
+    if (!HasText() || !Exists(index))
+    {
+        return 0;
+    }
+    CString text;
+    GetText(index, text);
+    const HFONT font = COnBoardUIGeneral::InOnBoardMode() ? HFONT(GetOnBoardFont()) : Font();
+    return lists::TextIndent(CheckSize().cx) + TextSize(*this, font, text).cx;
 }
 
 LRESULT CCustomChecklistBox::OnSetFont(WPARAM wParam, LPARAM lParam)
@@ -319,7 +331,6 @@ BOOL CCustomChecklistBox::OnEraseBkgnd(CDC* dc)
     // A row is never seen without its ground: it is painted in one copy.
     const int saved = dc->SaveDC();
     dc->ExcludeClipRect(RowsArea());
-    const WindowAlive alive(*this);
     const BOOL erased = BOOL(Default());
     dc->RestoreDC(saved);
     return erased;

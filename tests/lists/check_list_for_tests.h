@@ -12,6 +12,7 @@ class CheckListForTests : public CCustomChecklistBox
 public:
     using CCustomChecklistBox::CalcMinimumItemHeight;
     using CCustomChecklistBox::CheckFromPoint;
+    using CCustomChecklistBox::m_hBarNeeded;
 
     size_t Records() const { return m_records->Count(); }
 

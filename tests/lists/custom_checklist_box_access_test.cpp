@@ -139,7 +139,7 @@ TEST_F(CheckListAccess, EachRowIsACheckButtonWithItsState)
     EXPECT_EQ(state(40), STATE_SYSTEM_OFFSCREEN);
     list.EnableWindow(FALSE);
     EXPECT_NE(state(1) & STATE_SYSTEM_UNAVAILABLE, 0);
-    for (const long child : {-1L, 41L, LONG_MAX})
+    for (const long child : {-1L, 41L, LONG_MAX, LONG_MIN})
     {
         EXPECT_EQ(Role(object, child), -1) << child;
         EXPECT_EQ(State(object, child), -1) << child;

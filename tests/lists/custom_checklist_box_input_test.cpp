@@ -189,6 +189,26 @@ TEST_F(CheckListTest, ScrolledRowsAreHitWhereTheyAreSeen)
     EXPECT_EQ(list.GetTopIndex(), 25);
 }
 
+TEST_F(CheckListOnBoard, SidewaysTheWholeRowIsReachedAndItsCheckMovesAlong)
+{
+    auto& list = AddList(2, BS_AUTOCHECKBOX, CheckListStyle | WS_HSCROLL);
+    const char* const wide = "A row that is a good deal wider than its window";
+    list.AddString(wide);
+    CClientDC dc(&list);
+    CFont* const before = dc.SelectObject(&CCustomChecklistBox::GetOnBoardFont());
+    EXPECT_EQ(list.GetEntryWidth(2), 35 + dc.GetTextExtent(wide).cx);
+    dc.SelectObject(before);
+    ASSERT_TRUE(list.m_hBarNeeded);
+    list.SendMessage(WM_HSCROLL, SB_RIGHT);
+    PumpAll();
+    Click(list.CheckPoint(1));
+    EXPECT_EQ(list.GetCheck(1), 0) << "there is text where the check was";
+    list.SendMessage(WM_HSCROLL, SB_LEFT);
+    PumpAll();
+    Click(list.CheckPoint(1));
+    EXPECT_EQ(list.GetCheck(1), 1);
+}
+
 // The parent's notification ---------------------------------------------------------------------
 
 TEST_F(CheckListTest, TheParentMayDoAnythingWhenItIsTold)

@@ -253,8 +253,8 @@ public:
 
     // Accessibility. A window with parts that are no windows calls EnableActiveAccessibility in its
     // constructor and overrides what it has to say of them; child ids count from 1, CHILDID_SELF is
-    // the window. The base forms give what the platform says of the window. Assistive programs
-    // reach the window only while its thread has COM initialised.
+    // the window. The base forms give what the platform says of the window. The application
+    // initialises COM on the window's thread, by which other processes reach it.
     void EnableActiveAccessibility() { m_answersAccessibility = true; }
     virtual HRESULT get_accParent(IDispatch** parent);
     virtual HRESULT get_accChildCount(long* count);
