@@ -147,11 +147,13 @@ private:
 
     int RowHeight();
     void FitRows();
+    CRect RowRect(int index);
     CRect RowsArea();
     CRect CheckRect(const CRect& row);
     bool IsInSight(int index, CRect& row);
 
     bool CanChange(int index);
+    int RowChangedAt(CPoint point);
     bool ExtendsSelection() const { return (GetStyle() & LBS_EXTENDEDSEL) != 0; }
     bool FlipsSelection() const;
     bool IsSelected(int index) { return Ask(LB_GETSEL, WPARAM(index)) > 0; }

@@ -227,8 +227,7 @@ HRESULT CCustomChecklistBox::accLocation(long* left, long* top, long* width, lon
     {
         return E_INVALIDARG;
     }
-    CRect row;
-    Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row));
+    CRect row = RowRect(index);
     ClientToScreen(&row);
     *left = row.left;
     *top = row.top;

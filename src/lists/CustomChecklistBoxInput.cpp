@@ -74,17 +74,29 @@ void CCustomChecklistBox::SetSelectionCheck(int check)
 
 // Clicks ----------------------------------------------------------------------------------------
 
-void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
+// The row whose check is changed by a click at a point, or -1.
+int CCustomChecklistBox::RowChangedAt(CPoint point)
 {
     const WindowAlive alive(*this);
     FollowMode();
     if (!alive)
     {
-        return;
+        return -1;
     }
     int onCheck = FALSE;
     const int index = CheckFromPoint(point, onCheck);
-    const bool changes = onCheck && CanChange(index);
+    return onCheck && CanChange(index) ? index : -1;
+}
+
+void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
+{
+    const WindowAlive alive(*this);
+    const int index = RowChangedAt(point);
+    if (!alive)
+    {
+        return;
+    }
+    const bool changes = index >= 0;
     if (changes && ExtendsSelection() && IsSelected(index) &&
         (flags & (MK_CONTROL | MK_SHIFT)) == 0)
     {
@@ -113,14 +125,12 @@ void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
 void CCustomChecklistBox::OnLButtonDblClk(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    FollowMode();
+    const bool changes = RowChangedAt(point) >= 0;
     if (!alive)
     {
         return;
     }
-    int onCheck = FALSE;
-    const int index = CheckFromPoint(point, onCheck);
-    if (onCheck && CanChange(index))
+    if (changes)
     {
         SendMessage(WM_LBUTTONDOWN, flags, MAKELPARAM(point.x, point.y)); // a second click
         return;

@@ -115,16 +115,33 @@ CRect CCustomChecklistBox::CheckRect(const CRect& row)
     return OnGetCheckPosition(row, lists::CheckPlace(row, CheckSize()));
 }
 
-// Whether any of a row can be seen; gives its place.
+// The place of an item that exists, in client coordinates. Some platforms tell it as it is before
+// the list is scrolled sideways.
+CRect CCustomChecklistBox::RowRect(int index)
+{
+    CRect row;
+    Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row));
+    const int left = InColumns() ? 0 : -::GetScrollPos(GetSafeHwnd(), SB_HORZ);
+    if (left < 0 && row.left > left)
+    {
+        row.MoveToX(left);
+    }
+    return row;
+}
+
+// Whether any of an item that exists can be seen; gives its place.
 bool CCustomChecklistBox::IsInSight(int index, CRect& row)
 {
     CRect client;
     GetClientRect(&client);
     const int fromTop = index - Ask(LB_GETTOPINDEX);
     // A row so far down that it is out of sight however low the rows are is not even looked up.
-    return fromTop >= 0 && (InColumns() || fromTop <= client.Height()) &&
-           Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row)) != LB_ERR &&
-           row.top < client.bottom && row.left < client.right;
+    if (fromTop < 0 || (!InColumns() && fromTop > client.Height()))
+    {
+        return false;
+    }
+    row = RowRect(index);
+    return row.top < client.bottom && row.left < client.right;
 }
 
 int CCustomChecklistBox::CheckFromPoint(CPoint point, int& onCheck)
@@ -144,7 +161,7 @@ int CCustomChecklistBox::CheckFromPoint(CPoint point, int& onCheck)
             return -1;
         }
         index += point.y / height;
-        Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row));
+        row = RowRect(index);
         onCheck = lists::IsOnCheck(point.x - row.left, width);
         return index;
     }

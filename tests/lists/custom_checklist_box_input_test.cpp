@@ -203,6 +203,15 @@ TEST_F(CheckListOnBoard, SidewaysTheWholeRowIsReachedAndItsCheckMovesAlong)
     PumpAll();
     Click(list.CheckPoint(1));
     EXPECT_EQ(list.GetCheck(1), 0) << "there is text where the check was";
+    // A little from the left edge a part of each check is in sight, and is painted there.
+    list.SendMessage(WM_HSCROLL, SB_LEFT);
+    list.SendMessage(WM_HSCROLL, SB_LINERIGHT);
+    PumpAll();
+    list.SetCheck(0, 1);
+    PumpAll();
+    const Pixels seen = WindowPixels(list);
+    list.RedrawWindow();
+    EXPECT_TRUE(seen == WindowPixels(list));
     list.SendMessage(WM_HSCROLL, SB_LEFT);
     PumpAll();
     Click(list.CheckPoint(1));
