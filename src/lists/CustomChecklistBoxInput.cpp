@@ -91,7 +91,13 @@ int CCustomChecklistBox::RowChangedAt(CPoint point)
 void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    const int index = RowChangedAt(point);
+    if (::GetFocus() != GetSafeHwnd())
+    {
+        // The parent is told of it and may end the list, which the platform's list box would not
+        // stand if it took the focus itself, in the middle of the click.
+        SetFocus();
+    }
+    const int index = alive ? RowChangedAt(point) : -1;
     if (!alive)
     {
         return;
@@ -101,17 +107,13 @@ void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
         (flags & (MK_CONTROL | MK_SHIFT)) == 0)
     {
         // The check goes to all selected rows, so the click leaves them selected.
-        SetFocus();
-        if (alive)
-        {
-            SendMessage(LB_SETCARETINDEX, WPARAM(index), TRUE);
-        }
+        SendMessage(LB_SETCARETINDEX, WPARAM(index), TRUE);
     }
     else
     {
         CCustomListBox::OnLButtonDown(flags, point);
     }
-    // On the way here the parent was told of the focus; the rows may be others.
+    // The parent may have been told of a selection; the rows may be others.
     if (changes && alive && CanChange(index))
     {
         ChangeCheck(index, ExtendsSelection() && IsSelected(index));

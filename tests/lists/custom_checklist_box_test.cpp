@@ -101,7 +101,13 @@ public:
     std::vector<ULONG_PTR> told;
 
     void DeleteItem(LPDELETEITEMSTRUCT deleted) override { told.push_back(deleted->itemData); }
-    void MeasureItem(LPMEASUREITEMSTRUCT measure) override { told.push_back(measure->itemData); }
+    void MeasureItem(LPMEASUREITEMSTRUCT measure) override
+    {
+        if ((this->GetStyle() & LBS_HASSTRINGS) == 0) // otherwise it is nothing yet
+        {
+            told.push_back(measure->itemData);
+        }
+    }
     int CompareItem(LPCOMPAREITEMSTRUCT compare) override
     {
         told.push_back(compare->itemData1);
