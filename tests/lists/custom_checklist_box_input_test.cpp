@@ -178,17 +178,6 @@ TEST_F(CheckListTest, WhereSpaceSelectsItFlipsTheSelectionEachTime)
     EXPECT_EQ(list.GetSel(2), 1);
 }
 
-TEST_F(CheckListTest, ScrolledRowsAreHitWhereTheyAreSeen)
-{
-    const ModeScope scope(ONBOARD);
-    auto& list = AddList(60);
-    list.SetTopIndex(25);
-    Click(list.CheckPoint(27));
-    EXPECT_EQ(list.GetCheck(27), 1);
-    EXPECT_EQ(list.GetCurSel(), 27);
-    EXPECT_EQ(list.GetTopIndex(), 25);
-}
-
 TEST_F(CheckListOnBoard, SidewaysTheWholeRowIsReachedAndItsCheckMovesAlong)
 {
     auto& list = AddList(2, BS_AUTOCHECKBOX, CheckListStyle | WS_HSCROLL);
