@@ -78,7 +78,20 @@ void Measure(const Row& row, bool tsv)
 std::vector<Row> AllRows()
 {
     std::vector<Row> rows;
-    for (auto part : {&ListBoxRows, &EditRows, &ButtonRows, &ScrollBarRows, &ModeRows, &DialogRows})
+    // clang-format off
+    constexpr std::vector<Row> (*parts[])() = {
+        &ListBoxRows,
+        &ComboRows,
+        &EditRows,
+        &ButtonRows,
+        &ScrollBarRows,
+        &ModeRows,
+        &DialogRows,
+        &ToolbarRows,
+        &PolygonRows,
+    };
+    // clang-format on
+    for (const auto part : parts)
     {
         const std::vector<Row> more = part();
         rows.insert(rows.end(), more.begin(), more.end());

@@ -1,8 +1,8 @@
 #include "Pages.h"
 
 #include "ButtonsPage.h"
-#include "CombosPage.h"
 #include "CheckListPage.h"
+#include "CombosPage.h"
 #include "DialogsPage.h"
 #include "EditsPage.h"
 #include "IconsPage.h"
@@ -18,11 +18,11 @@ template <class Page> std::unique_ptr<GalleryPage> Make(IAppAccess& host, Galler
     return std::make_unique<Page>(host, events);
 }
 
+// clang-format off
 constexpr PageEntry AllPages[] = {
-    {"list-boxes", "List boxes", &Make<ListBoxPage>},   {"buttons", "Buttons", &Make<ButtonsPage>},
-    {"labels", "Labels and groups", &Make<LabelsPage>}, {"edits", "Edits", &Make<EditsPage>},
-    {"dialogs", "Dialogs", &Make<DialogsPage>},         {"combos", "Combos", &Make<CombosPage>},
     {"list-boxes", "List boxes", &Make<ListBoxPage>},
+    {"checklist", "Check lists", &Make<CheckListPage>},
+    {"combos", "Combos", &Make<CombosPage>},
     {"buttons", "Buttons", &Make<ButtonsPage>},
     {"labels", "Labels and groups", &Make<LabelsPage>},
     {"edits", "Edits", &Make<EditsPage>},
@@ -30,8 +30,8 @@ constexpr PageEntry AllPages[] = {
     {"toolbar", "Tool bar", &Make<ToolbarPage>},
     {"icons", "Icons", &Make<IconsPage>},
     {"polygon", "View polygon", &Make<PolygonPage>},
-    {"checklist", "Check lists", &Make<CheckListPage>},
 };
+// clang-format on
 
 } // namespace
 
