@@ -388,6 +388,7 @@ void CCustomDropListCombo::OnPaint(CDC& dc)
     CalculateSpacing();
     if (onBoard)
     {
+        dc.FillSolidRect(&client, palette::Outline); // a thick line rounds its corners off
         const Selected pen(dc, m_OBOutlinePen);
         const Selected brush(dc, enabled ? m_BkBrush : m_BkDisabledBrush);
         dc.Rectangle(&client);
