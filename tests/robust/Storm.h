@@ -1,0 +1,51 @@
+#pragma once
+
+#include "robust/Subjects.h"
+
+#include <cstdint>
+#include <random>
+
+// A storm of messages on one window: whatever input, a parent, a host and the platform send it, in
+// any order, in any mode. The same seed gives the same storm.
+class Storm
+{
+public:
+    Storm(const Subject& subject, std::uint32_t seed);
+    Storm(const Storm&) = delete;
+    Storm& operator=(const Storm&) = delete;
+    ~Storm();
+
+    // So many messages. Ends early when the window is gone.
+    void Blow(CWnd& parent, CWnd& window, int messages);
+
+    // Subject, seed and the last messages, for whoever has to find out.
+    std::string Log() const;
+
+private:
+    struct Sent
+    {
+        UINT message;
+        WPARAM wParam;
+        LPARAM lParam;
+    };
+    static constexpr int Remembered = 24;
+
+    const Subject& m_subject;
+    std::uint32_t m_seed;
+    std::mt19937 m_random;
+    std::vector<Sent> m_last;
+    std::string m_texts[4];
+    std::vector<char> m_buffer;
+    CRect m_place;
+
+    int Between(int first, int last);
+    void Note(UINT message, WPARAM wParam, LPARAM lParam);
+    void Send(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam);
+    LPARAM Value(Argument argument, const CWnd& window);
+
+    void Input(CWnd& window);
+    void Press(CWnd& window, UINT down, UINT up, WPARAM wParam, LPARAM point);
+    void Scroll(CWnd& window);
+    void Life(CWnd& parent, CWnd& window);
+    void Own(CWnd& window);
+};

@@ -1,0 +1,265 @@
+#include "robust/Subjects.h"
+
+#include "BoldStatic.h"
+#include "ColorEdit.h"
+#include "ColorStatic.h"
+#include "ColoredGroupBox.h"
+#include "CustomCheckBox.h"
+#include "CustomChecklistBox.h"
+#include "CustomDialog.h"
+#include "CustomDropListCombo.h"
+#include "CustomEdit.h"
+#include "CustomListBox.h"
+#include "CustomPushbutton.h"
+#include "CustomRadiobutton.h"
+#include "EditWithPrompt.h"
+#include "QuixEdit.h"
+#include "support/DialogTemplate.h"
+
+namespace {
+
+constexpr DWORD Child = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+const CRect Room(40, 30, 300, 230);
+using enum Argument;
+
+// A control whose Create takes (text, style, place, parent, id).
+template <class Control> auto Titled(DWORD style)
+{
+    return [style](CWnd& parent) -> std::unique_ptr<CWnd> {
+        auto control = std::make_unique<Control>();
+        const bool made = control->Create("Direct to", Child | style, Room, &parent, SubjectId);
+        return made ? std::move(control) : nullptr;
+    };
+}
+
+template <class Edit> auto MadeEdit(DWORD style)
+{
+    return [style](CWnd& parent) -> std::unique_ptr<CWnd> {
+        auto edit = std::make_unique<Edit>();
+        if constexpr (std::is_same_v<Edit, QuixEdit>)
+        {
+            edit->SetFixedPlace(Room.left, Room.top, Room.Width());
+        }
+        if (!edit->CreateEx(WS_EX_CLIENTEDGE, "EDIT", "", Child | style, Room, &parent, SubjectId))
+        {
+            return nullptr;
+        }
+        std::string text;
+        for (int line = 0; line < 60; ++line)
+        {
+            text += "Line " + std::to_string(line) + "\r\n";
+        }
+        edit->CWnd::SetWindowText(text.c_str());
+        return edit;
+    };
+}
+
+template <class Base> class SeenBar : public Base
+{
+public:
+    using Base::Base;
+    static std::string Check(const CFauxScrollBar& bar)
+    {
+        int first = 0;
+        int last = 0;
+        bar.GetScrollRange(&first, &last);
+        const int at = bar.GetScrollPos();
+        return first <= at && at <= last && bar.GetPageSize() >= 0
+                   ? std::string()
+                   : "bar at " + std::to_string(at) + " of " + std::to_string(first) + " to " +
+                         std::to_string(last) + ", page " + std::to_string(bar.GetPageSize());
+    }
+};
+
+class SeenEdit : public SeenBar<CCustomEdit>
+{
+public:
+    static std::string Fault(CWnd& window)
+    {
+        auto& edit = static_cast<SeenEdit&>(window);
+        return edit.m_scrolling ? "a press goes on" : Check(edit.m_bar);
+    }
+};
+
+class SeenList : public SeenBar<CCustomListBox>
+{
+public:
+    static std::string Fault(CWnd& window)
+    {
+        auto& list = static_cast<SeenList&>(window);
+        return list.m_tracking ? "a press goes on" : Check(list.m_vBar) + Check(list.m_hBar);
+    }
+};
+
+std::unique_ptr<CWnd> MakeList(CWnd& parent, DWORD style)
+{
+    auto list = std::make_unique<SeenList>();
+    if (!list->CreateEx(WS_EX_CLIENTEDGE, "LISTBOX", "",
+                        Child | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | style, Room,
+                        &parent, SubjectId))
+    {
+        return nullptr;
+    }
+    for (int row = 0; row < 40; ++row)
+    {
+        list->AddString(("Row " + std::to_string(row)).c_str());
+    }
+    return list;
+}
+
+const std::vector<Word> ButtonWords = {
+    {BM_SETCHECK, Small},      {BM_GETCHECK},   {BM_SETSTATE, Flag}, {BM_GETSTATE}, {BM_CLICK},
+    {WM_UPDATEUISTATE, Small}, {WM_GETDLGCODE},
+};
+
+const std::vector<Word> EditWords = {
+    {EM_SETSEL, Row, Row},
+    {EM_REPLACESEL, Flag, Text},
+    {EM_UNDO},
+    {EM_SETREADONLY, Flag},
+    {EM_LINESCROLL, None, Small},
+    {EM_SCROLL, Small},
+    {EM_SCROLLCARET},
+    {EM_LIMITTEXT, Data},
+    {EM_GETLINE, Row, Buffer},
+    {EM_SETMARGINS, Flag, Flag},
+    {EM_GETRECT, None, Place},
+    {EM_SETRECT, None, Place},
+    {EM_CHARFROMPOS, None, Point},
+    {EM_LINEINDEX, Row},
+    {EM_GETFIRSTVISIBLELINE},
+    {WM_COPY},
+    {WM_PASTE},
+    {WM_CUT},
+    {WM_CLEAR},
+    {WM_UNDO},
+    {WM_CHAR, Letter},
+};
+
+const std::vector<Word> ListWords = {
+    {LB_ADDSTRING, None, Text},
+    {LB_INSERTSTRING, Row, Text},
+    {LB_DELETESTRING, Row},
+    {LB_RESETCONTENT},
+    {LB_SETCURSEL, Row},
+    {LB_GETCURSEL},
+    {LB_SETSEL, Flag, Row},
+    {LB_SETTOPINDEX, Row},
+    {LB_GETTOPINDEX},
+    {LB_GETTEXT, Row, Buffer},
+    {LB_GETTEXTLEN, Row},
+    {LB_FINDSTRING, Row, Text},
+    {LB_FINDSTRINGEXACT, Row, Text},
+    {LB_SELECTSTRING, Row, Text},
+    {LB_SETITEMDATA, Row, Data},
+    {LB_GETITEMDATA, Row},
+    {LB_SETITEMHEIGHT, Row, Small},
+    {LB_GETITEMHEIGHT, Row},
+    {LB_GETITEMRECT, Row, Place},
+    {LB_ITEMFROMPOINT, None, Point},
+    {LB_SETCARETINDEX, Row},
+    {LB_SETHORIZONTALEXTENT, Pixels},
+    {LB_SETCOLUMNWIDTH, Pixels},
+    {LB_SELITEMRANGE, Flag, Data},
+};
+
+std::unique_ptr<CWnd> MakeCheckList(CWnd& parent)
+{
+    auto list = std::make_unique<CCustomChecklistBox>();
+    if (!list->Create(Child | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS |
+                          LBS_OWNERDRAWFIXED,
+                      Room, &parent, SubjectId))
+    {
+        return nullptr;
+    }
+    list->SetCheckStyle(BS_AUTO3STATE);
+    for (int row = 0; row < 40; ++row)
+    {
+        list->AddString(("Row " + std::to_string(row)).c_str());
+        list->SetCheck(row, row % 3);
+        list->Enable(row, row % 5 != 0);
+    }
+    return list;
+}
+
+std::unique_ptr<CWnd> MakeCombo(CWnd& parent)
+{
+    auto combo = std::make_unique<CCustomDropListCombo>();
+    if (!combo->Create(Child, Room, &parent, SubjectId))
+    {
+        return nullptr;
+    }
+    for (int row = 0; row < 40; ++row)
+    {
+        combo->AddString(("Row " + std::to_string(row)).c_str());
+    }
+    combo->SetCurSel(3);
+    return combo;
+}
+
+std::unique_ptr<CWnd> MakeDialog(CWnd& parent)
+{
+    DialogTemplate form(CRect(10, 10, 160, 110),
+                        WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | DS_MODALFRAME);
+    form.Add("Static", "Label", 0, CRect(5, 5, 60, 17), 101)
+        .Add("Edit", "text", WS_TABSTOP, CRect(5, 20, 60, 32), 102)
+        .Add("ListBox", "", LBS_NOINTEGRALHEIGHT, CRect(80, 5, 140, 60), 103)
+        .Add("Button", "OK", WS_TABSTOP, CRect(5, 70, 50, 84), 104);
+    struct Stays : CCustomDialog
+    {
+        explicit Stays(CWnd* owner)
+            : CCustomDialog(0U, owner)
+        {}
+        void OnOK() override {}
+        void OnCancel() override {}
+    };
+    auto dialog = std::make_unique<Stays>(&parent);
+    return dialog->CreateIndirect(form, &parent) ? std::move(dialog) : nullptr;
+}
+
+std::vector<Subject> MakeSubjects()
+{
+    std::vector<Subject> subjects = {
+        {"push button", Titled<CCustomPushbutton>(BS_PUSHBUTTON), ButtonWords},
+        {"check box", Titled<CCustomCheckBox>(BS_AUTOCHECKBOX | BS_MULTILINE), ButtonWords},
+        {"radio button", Titled<CCustomRadiobutton>(BS_AUTORADIOBUTTON | WS_GROUP), ButtonWords},
+        {"label", Titled<CCustomStatic>(0)},
+        {"group box", Titled<CCustomStatic>(BS_GROUPBOX)},
+        {"bold label", Titled<CBoldStatic>(0)},
+        {"swatch", Titled<CColorStatic>(0)},
+        {"outline", Titled<CColoredGroupBox>(0)},
+        {"edit of many lines", MadeEdit<SeenEdit>(ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL),
+         EditWords, &SeenEdit::Fault},
+        {"edit of one line", MadeEdit<SeenEdit>(ES_AUTOHSCROLL), EditWords, &SeenEdit::Fault},
+        {"coloured edit", MadeEdit<ColorEdit>(ES_AUTOHSCROLL), EditWords},
+        {"edit with prompt", MadeEdit<EditWithPrompt>(ES_AUTOHSCROLL), EditWords},
+        {"fixed edit", MadeEdit<QuixEdit>(ES_AUTOHSCROLL), EditWords},
+        {"dialog", &MakeDialog, {}, {}, true},
+    };
+    const struct
+    {
+        const char* name;
+        DWORD style;
+    } lists[] = {
+        {"list box", WS_HSCROLL},
+        {"drawn list box", LBS_OWNERDRAWFIXED | LBS_HASSTRINGS},
+        {"list box of many selections", LBS_EXTENDEDSEL | LBS_SORT},
+        {"list box of columns", LBS_MULTICOLUMN | WS_HSCROLL},
+    };
+    subjects.push_back({"check list", &MakeCheckList, ListWords});
+    subjects.push_back({"combo", &MakeCombo});
+    for (const auto& [name, style] : lists)
+    {
+        subjects.push_back({name, [style = style](CWnd& parent) { return MakeList(parent, style); },
+                            ListWords, &SeenList::Fault});
+    }
+    return subjects;
+}
+
+} // namespace
+
+const std::vector<Subject>& Subjects()
+{
+    static const std::vector<Subject> subjects = MakeSubjects();
+    return subjects;
+}
