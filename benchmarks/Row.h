@@ -35,3 +35,4 @@ std::vector<Row> ModeRows();
 std::vector<Row> DialogRows();
 std::vector<Row> ToolbarRows();
 std::vector<Row> PolygonRows();
+std::vector<Row> MessageBoxRows();

@@ -42,10 +42,12 @@ public:
     // scaled when the dialog initialises. Once only; false when it cannot be done.
     bool ChangeTemplateForOB();
 
-    // The controls in the order of the template, and the font that they have in the standard mode.
-    // Known once the template was rewritten. The font is this object's.
+    // The controls in the order of the template, and the font that they have in the standard mode
+    // with the pixels of 4 x 8 dialog units there. Known once the template was rewritten. The font
+    // is this object's.
     const std::vector<Control>& Controls() const { return m_controls; }
     HFONT StandardFont() const;
+    CSize StandardUnit() const { return m_standardUnit; }
 
     // Where the template was found; null for one from memory.
     HINSTANCE Module() const { return m_module; }
@@ -60,6 +62,7 @@ private:
     std::vector<Control> m_controls;
     CFont m_standardFont; // without a handle for the system font
     HINSTANCE m_module = nullptr;
+    CSize m_standardUnit;
     bool m_rewritten = false;
     int m_locks = 0;
 

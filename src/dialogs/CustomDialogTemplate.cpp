@@ -230,6 +230,7 @@ bool CCustomDialogTemplate::ChangeTemplateForOB()
     layout->style |= DS_SETFONT;
 
     m_bytes = dialogs::WriteTemplate(m_bytes, *layout);
+    m_standardUnit = standard.character;
     m_standardFont.DeleteObject();
     if (standard.font.GetSafeHandle() != nullptr)
     {

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "OnBoardUIExport.h"
+
+#include <afxcmn.h>
+#include <afxwin.h>
+
+// A status bar that follows the display mode: the platform's in the standard mode; dark, in the
+// on-board font and high enough for it in the others, unless its owner places it (CCS_NORESIZE).
+// Created by Create or put over an existing status bar, in any mode.
+class ONBOARDUI_API CCustomStatusBar : public CStatusBarCtrl
+{
+    DECLARE_DYNAMIC(CCustomStatusBar)
+
+public:
+    CCustomStatusBar() = default;
+    ~CCustomStatusBar() override;
+
+    // Shared, made on first use and kept for the life of the process.
+    static CFont& GetOnBoardFont();
+
+    // Draws the whole client area in the on-board look.
+    virtual void DrawOB(CDC& dc);
+
+protected:
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnWindowPosChanged(WINDOWPOS* position);
+    DECLARE_MESSAGE_MAP()
+
+    static CFont m_OBFont;
+
+private:
+    bool m_onBoard = false; // laid out for an on-board mode
+    HFONT m_standardFont = nullptr;
+
+    bool FollowMode();
+    void DrawPane(CDC& dc, int pane, const CRect& place);
+};

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "CustomDialog.h"
+#include "CustomPushbutton.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace dialogs {
+class MessageText;
+} // namespace dialogs
+
+// The library's message box: a modal, topmost dialog with an icon, a text and a row of buttons. It
+// sizes itself to the text within an area, shows a longer text with a scroll bar, and follows the
+// display mode also while it is open.
+//
+// Enter presses the button that has the focus, or the default one; the arrows move between the
+// buttons; the initial letter of a button presses it. Escape and the close box stand for Cancel,
+// for OK when that is the only button, and do nothing when there is neither.
+class ONBOARDUI_API CZepMsgBoxDlg : public CCustomDialog
+{
+    DECLARE_DYNAMIC(CZepMsgBoxDlg)
+
+public:
+    static constexpr UINT IDD = 5000; // the dialog's template
+
+    // The text may have several lines; null counts as empty. style takes the flags of the
+    // platform's message box: buttons, icon and default button; other bits are ignored. area is the
+    // most, in pixels, that the box may take: a box that needs more for its buttons takes more. The
+    // host is kept, not owned, and may be null. The title is the application's.
+    CZepMsgBoxDlg(const char* text, unsigned int style, const CSize& area, IAppAccess* host);
+    ~CZepMsgBoxDlg() override;
+
+    // The id of the button that closed the box (IDOK, IDCANCEL, IDABORT, IDRETRY, IDIGNORE, IDYES
+    // or IDNO), 0 before. DoModal returns IDCANCEL for Cancel and IDOK for all others, -1 when the
+    // dialog could not be made.
+    int GetButtonPressed() const { return m_buttonPressed; }
+
+    BOOL PreTranslateMessage(MSG* message) override;
+
+protected:
+    // Chooses the icon by the style: by its icon, or by its buttons when it names none.
+    void DetermineIcon();
+    // Make the buttons of the style, or one more.
+    void CreateButtons();
+    void CreateButton(const CRect& rect, const char* caption, unsigned int id);
+    // Gives the box and all on it the sizes and places for the text, and centres the box.
+    void SizeToText();
+    // Measures a text in pixels; width is the least on the way in.
+    void GetStaticTextSize(const CString& text, int& width, int& height);
+    void GetButtonsSize(int& width, int& height);
+    int GetTitleWidth();
+    // Takes the lengths that are given in dialog units for the mode.
+    void CalcStdSizes();
+    // Breaks the message into the lines that are shown.
+    void SplitText();
+
+    BOOL OnInitDialog() override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    void DoDataExchange(CDataExchange* exchange) override;
+
+    afx_msg void OnClose();
+    afx_msg void OnSysColorChange();
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnWindowPosChanged(WINDOWPOS* position);
+    DECLARE_MESSAGE_MAP()
+
+    unsigned int m_style;
+    CSize m_area;
+    CString m_message;
+    CString m_displayText; // the message, broken into lines
+    CStatic m_icon;
+    std::unique_ptr<dialogs::MessageText> m_text;
+    std::vector<std::unique_ptr<CCustomPushbutton>> m_buttons; // from left to right
+    int m_iconId = 0;
+    // In pixels of the mode.
+    CSize m_buttonSize;
+    CSize m_margin;
+    CSize m_spacing;
+    CSize m_textUnit;
+    int m_buttonPressed = 0;
+
+private:
+    CBitmap m_iconPicture;       // on the ground of the mode
+    int m_standardTextWidth = 0; // of the text's control in the template
+    std::optional<APPMODE> m_laidOutFor;
+
+    void FollowMode();
+    void TakeLook();
+    void ShowIcon();
+    HFONT StandardFont() const;
+    CRect CentredPlace(const CSize& size) const;
+    void PlaceParts(const CSize& text, const CSize& box);
+    int FocusedButton() const;
+    int DefaultButton() const;
+    void Focus(int button);
+    int EscapeId() const;
+    void Answer(int id);
+    bool PressKey(UINT key);
+    bool PressInitial(UINT character);
+};

@@ -1,0 +1,108 @@
+#include "dialogs/MessageText.h"
+
+#include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
+#include "paint/Palette.h"
+
+namespace dialogs {
+
+BEGIN_MESSAGE_MAP(MessageText, CCustomEdit)
+    ON_WM_GETDLGCODE()
+    ON_WM_KEYDOWN()
+    ON_WM_CTLCOLOR_REFLECT()
+END_MESSAGE_MAP()
+
+void MessageText::SetScrolls(bool scrolls)
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    const bool barred = (GetStyle() & WS_VSCROLL) != 0;
+    if (m_wantsBar == scrolls && (onBoard || barred == scrolls))
+    {
+        return;
+    }
+    m_wantsBar = scrolls;
+    if (onBoard)
+    {
+        UpdateScrollPosFromText(); // our own bar comes when the text does not fit
+        return;
+    }
+    if (!scrolls)
+    {
+        RemoveVScrollBar();
+        return;
+    }
+    // The platform's edit changes its bars only while it can be written into.
+    const WindowAlive alive(*this);
+    SetReadOnly(FALSE);
+    if (alive)
+    {
+        ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED);
+    }
+    if (alive)
+    {
+        SetReadOnly(TRUE);
+    }
+}
+
+bool MessageText::ScrollByKey(UINT key)
+{
+    static constexpr struct
+    {
+        UINT key;
+        WPARAM code;
+    } codes[] = {{VK_UP, SB_LINEUP},     {VK_DOWN, SB_LINEDOWN}, {VK_PRIOR, SB_PAGEUP},
+                 {VK_NEXT, SB_PAGEDOWN}, {VK_HOME, SB_TOP},      {VK_END, SB_BOTTOM}};
+    for (const auto& each : codes)
+    {
+        if (each.key == key)
+        {
+            SendMessage(WM_VSCROLL, each.code);
+            return true;
+        }
+    }
+    return false;
+}
+
+void MessageText::CopyAll()
+{
+    int begin = 0;
+    int end = 0;
+    GetSel(begin, end);
+    const bool all = begin == end;
+    if (all)
+    {
+        SendMessage(EM_SETSEL, 0, -1);
+    }
+    SendMessage(WM_COPY);
+    if (all)
+    {
+        SendMessage(EM_SETSEL, WPARAM(begin), LPARAM(end));
+    }
+}
+
+// Enter, Escape and Tab are the box's, and the focus selects nothing.
+UINT MessageText::OnGetDlgCode()
+{
+    return DLGC_WANTARROWS;
+}
+
+void MessageText::OnKeyDown(UINT key, UINT repeat, UINT flags)
+{
+    if (!ScrollByKey(key))
+    {
+        CCustomEdit::OnKeyDown(key, repeat, flags);
+    }
+}
+
+HBRUSH MessageText::CtlColor(CDC* dc, UINT)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        return nullptr; // as the dialog colours its labels
+    }
+    dc->SetTextColor(palette::PanelText);
+    dc->SetBkColor(palette::Panel);
+    return CCustomDialog::m_BkBrush;
+}
+
+} // namespace dialogs

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "CustomDialog.h"
+#include "CustomEdit.h"
+
+namespace dialogs {
+
+// The text of a message box: an edit that looks like a label, is only read and, in the on-board
+// modes, asks for no keyboard. Keys scroll it and copy from it.
+class MessageText : public CCustomEdit
+{
+public:
+    MessageText() { SetFauxReadOnly(); }
+
+    // Whether there is a scroll bar.
+    void SetScrolls(bool scrolls);
+
+    // Scrolls by a key; whether the key is one that does.
+    bool ScrollByKey(UINT key);
+
+    void CopyAll();
+
+protected:
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);
+    DECLARE_MESSAGE_MAP()
+};
+
+} // namespace dialogs

@@ -1,0 +1,381 @@
+// The message box: its parts, and what it does with commands and keys.
+
+#include "ZepMsgBoxDlg.h"
+
+#include "MessageBoxResources.h"
+#include "OnBoardUIGeneral.h"
+#include "dialogs/MessageText.h"
+#include "dialogs/Opening.h"
+#include "modes/WindowAlive.h"
+
+#include <cctype>
+#include <span>
+
+IMPLEMENT_DYNAMIC(CZepMsgBoxDlg, CCustomDialog)
+
+BEGIN_MESSAGE_MAP(CZepMsgBoxDlg, CCustomDialog)
+    ON_WM_CLOSE()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_SIZE()
+    ON_WM_WINDOWPOSCHANGED()
+END_MESSAGE_MAP()
+
+namespace {
+
+struct ButtonEntry
+{
+    const char* caption;
+    int id;
+};
+
+// The buttons of each type, from left to right.
+constexpr ButtonEntry Ok[] = {{"OK", IDOK}};
+constexpr ButtonEntry OkCancel[] = {{"OK", IDOK}, {"Cancel", IDCANCEL}};
+constexpr ButtonEntry AbortRetryIgnore[] = {
+    {"Abort", IDABORT}, {"Retry", IDRETRY}, {"Ignore", IDIGNORE}};
+constexpr ButtonEntry YesNoCancel[] = {{"Yes", IDYES}, {"No", IDNO}, {"Cancel", IDCANCEL}};
+constexpr ButtonEntry YesNo[] = {{"Yes", IDYES}, {"No", IDNO}};
+constexpr ButtonEntry RetryCancel[] = {{"Retry", IDRETRY}, {"Cancel", IDCANCEL}};
+
+// In the order of the type bits; none for types beyond.
+constexpr std::span<const ButtonEntry> ButtonSets[] = {Ok,          OkCancel, AbortRetryIgnore,
+                                                       YesNoCancel, YesNo,    RetryCancel};
+
+std::span<const ButtonEntry> ButtonsOf(unsigned int style)
+{
+    const unsigned int type = style & MB_TYPEMASK;
+    return type < std::size(ButtonSets) ? ButtonSets[type] : std::span<const ButtonEntry>();
+}
+
+bool ControlDown()
+{
+    return ::GetKeyState(VK_CONTROL) < 0;
+}
+
+} // namespace
+
+CZepMsgBoxDlg::CZepMsgBoxDlg(const char* text, unsigned int style, const CSize& area,
+                             IAppAccess* host)
+    : CCustomDialog(IDD, nullptr, host)
+    , m_style(style)
+    , m_area(area)
+    , m_text(std::make_unique<dialogs::MessageText>())
+{
+    static_assert(IDD == IDD_MESSAGE_BOX);
+    m_message.SetString(text);
+    m_displayText = m_message;
+    DetermineIcon();
+}
+
+CZepMsgBoxDlg::~CZepMsgBoxDlg()
+{
+    // While the parts are still there that the window shows.
+    if (GetSafeHwnd() != nullptr && FromHandlePermanent(GetSafeHwnd()) == this)
+    {
+        CCustomDialog::DestroyWindow();
+    }
+}
+
+void CZepMsgBoxDlg::DetermineIcon()
+{
+    switch (m_style & MB_ICONMASK)
+    {
+    case MB_ICONHAND:
+        m_iconId = IDB_MESSAGE_HAND;
+        return;
+    case MB_ICONQUESTION:
+        m_iconId = IDB_MESSAGE_QUESTION;
+        return;
+    case MB_ICONEXCLAMATION:
+        m_iconId = IDB_MESSAGE_EXCLAMATION;
+        return;
+    case MB_ICONASTERISK:
+        m_iconId = IDB_MESSAGE_ASTERISK;
+        return;
+    default:
+        break;
+    }
+    const unsigned int type = m_style & MB_TYPEMASK;
+    m_iconId =
+        type == MB_OK || type == MB_OKCANCEL ? IDB_MESSAGE_EXCLAMATION : IDB_MESSAGE_QUESTION;
+}
+
+// Opening ---------------------------------------------------------------------------------------
+
+void CZepMsgBoxDlg::DoDataExchange(CDataExchange* exchange)
+{
+    CCustomDialog::DoDataExchange(exchange);
+    // A template of the application's own may do without them.
+    if (::GetDlgItem(m_hWnd, IDC_MESSAGE_ICON) != nullptr)
+    {
+        DDX_Control(exchange, IDC_MESSAGE_ICON, m_icon);
+    }
+    if (::GetDlgItem(m_hWnd, IDC_MESSAGE_TEXT) != nullptr)
+    {
+        DDX_Control(exchange, IDC_MESSAGE_TEXT, *m_text);
+    }
+}
+
+BOOL CZepMsgBoxDlg::OnInitDialog()
+{
+    const WindowAlive alive(*this);
+    // A box can be shown again: its parts begin anew with each window.
+    m_buttonPressed = 0;
+    m_laidOutFor.reset();
+    m_buttons.clear();
+    m_text = std::make_unique<dialogs::MessageText>();
+    CCustomDialog::OnInitDialog();
+    if (!alive)
+    {
+        return TRUE;
+    }
+    m_standardTextWidth = 0;
+    if (m_opening != nullptr)
+    {
+        for (const CCustomDialogTemplate::Control& control : m_opening->Template().Controls())
+        {
+            m_standardTextWidth =
+                control.id == IDC_MESSAGE_TEXT ? control.place.Width() : m_standardTextWidth;
+        }
+    }
+    else if (m_text->GetSafeHwnd() != nullptr)
+    {
+        CRect client;
+        m_text->GetClientRect(&client);
+        m_standardTextWidth = client.Width();
+    }
+
+    CalcStdSizes();
+    SplitText();
+    CreateButtons();
+    ShowIcon();
+    SetWindowText(COnBoardUIGeneral::GetAppTitle());
+    TakeLook();
+    SizeToText();
+    m_laidOutFor = COnBoardUIGeneral::GetAppMode();
+    // Last: each new width of the edit would break a long text anew.
+    if (alive && m_text->GetSafeHwnd() != nullptr)
+    {
+        m_text->SetWindowText(m_displayText);
+    }
+    if (alive)
+    {
+        ::SetWindowPos(m_hWnd, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    }
+    if (!alive || m_buttons.empty())
+    {
+        return TRUE;
+    }
+    Focus(DefaultButton());
+    return FALSE;
+}
+
+void CZepMsgBoxDlg::CreateButtons()
+{
+    CRect client;
+    GetClientRect(&client);
+    // Anywhere, until the box is sized.
+    const CRect place(
+        CPoint((client.Width() - m_buttonSize.cx) / 2, client.bottom - 2 * m_buttonSize.cy),
+        m_buttonSize);
+    for (const ButtonEntry& button : ButtonsOf(m_style))
+    {
+        CreateButton(place, button.caption, UINT(button.id));
+    }
+}
+
+void CZepMsgBoxDlg::CreateButton(const CRect& rect, const char* caption, unsigned int id)
+{
+    auto button = std::make_unique<CCustomPushbutton>();
+    const DWORD kind = COnBoardUIGeneral::InOnBoardMode() ? BS_OWNERDRAW : BS_PUSHBUTTON;
+    if (button->Create(caption, WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, rect, this, id))
+    {
+        m_buttons.push_back(std::move(button));
+    }
+}
+
+// Messages --------------------------------------------------------------------------------------
+
+BOOL CZepMsgBoxDlg::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const int id = LOWORD(wParam);
+    constexpr WORD Accelerator = 1;
+    const bool pressed = HIWORD(wParam) == BN_CLICKED || HIWORD(wParam) == Accelerator;
+    if (!pressed || id < IDOK || id > IDNO)
+    {
+        return CCustomDialog::OnCommand(wParam, lParam);
+    }
+    m_buttonPressed = id;
+    // Whatever is no Cancel ends the box as OK does.
+    return CCustomDialog::OnCommand(MAKEWPARAM(id == IDCANCEL ? IDCANCEL : IDOK, HIWORD(wParam)),
+                                    lParam);
+}
+
+void CZepMsgBoxDlg::OnClose()
+{
+    Answer(EscapeId());
+}
+
+// The icon lies on the dialogs' ground.
+void CZepMsgBoxDlg::OnSysColorChange()
+{
+    const WindowAlive alive(*this);
+    CCustomDialog::OnSysColorChange();
+    if (alive)
+    {
+        ShowIcon();
+    }
+}
+
+void CZepMsgBoxDlg::OnSize(UINT type, int width, int height)
+{
+    const WindowAlive alive(*this);
+    CCustomDialog::OnSize(type, width, height);
+    if (alive)
+    {
+        SplitText();
+    }
+}
+
+// A change of the mode ends with a new calculation of the frame, when all children were scaled: the
+// box places them by its own rules.
+void CZepMsgBoxDlg::OnWindowPosChanged(WINDOWPOS* position)
+{
+    const WindowAlive alive(*this);
+    CCustomDialog::OnWindowPosChanged(position);
+    if (alive && m_laidOutFor && *m_laidOutFor != COnBoardUIGeneral::GetAppMode())
+    {
+        FollowMode();
+    }
+}
+
+// Answers ---------------------------------------------------------------------------------------
+
+// The button that has the focus, or -1.
+int CZepMsgBoxDlg::FocusedButton() const
+{
+    const HWND focus = ::GetFocus();
+    for (size_t index = 0; focus != nullptr && index < m_buttons.size(); ++index)
+    {
+        if (m_buttons[index]->GetSafeHwnd() == focus)
+        {
+            return int(index);
+        }
+    }
+    return -1;
+}
+
+// The one that the style names; the first, when it names one that is not there.
+int CZepMsgBoxDlg::DefaultButton() const
+{
+    constexpr int DefaultShift = 8; // of the bits in the style
+    const int named = int((m_style & MB_DEFMASK) >> DefaultShift);
+    return named < int(m_buttons.size()) ? named : 0;
+}
+
+void CZepMsgBoxDlg::Focus(int button)
+{
+    const WindowAlive alive(*this);
+    CWnd* const target = m_buttons[size_t(button)].get();
+    SetDefID(UINT(target->GetDlgCtrlID()));
+    if (alive)
+    {
+        GotoDlgCtrl(target);
+    }
+}
+
+// What Escape and the close box answer; 0 for nothing. A box without buttons can be closed.
+int CZepMsgBoxDlg::EscapeId() const
+{
+    const unsigned int type = m_style & MB_TYPEMASK;
+    const bool choice = type == MB_YESNO || type == MB_ABORTRETRYIGNORE;
+    return type == MB_OK ? IDOK : choice ? 0 : IDCANCEL;
+}
+
+void CZepMsgBoxDlg::Answer(int id)
+{
+    const HWND button = ::GetDlgItem(m_hWnd, id);
+    if (id != 0 && (button == nullptr || ::IsWindowEnabled(button)))
+    {
+        SendMessage(WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), LPARAM(button));
+    }
+}
+
+BOOL CZepMsgBoxDlg::PreTranslateMessage(MSG* message)
+{
+    switch (message->message)
+    {
+    case WM_KEYDOWN:
+        if (PressKey(UINT(message->wParam)))
+        {
+            return TRUE;
+        }
+        break;
+    case WM_CHAR:
+    case WM_SYSCHAR:
+        if (PressInitial(UINT(message->wParam)))
+        {
+            return TRUE;
+        }
+        break;
+    default:
+        break;
+    }
+    return CCustomDialog::PreTranslateMessage(message);
+}
+
+// Whether the key was one of the box's own.
+bool CZepMsgBoxDlg::PressKey(UINT key)
+{
+    const int focused = FocusedButton();
+    const int count = int(m_buttons.size());
+    switch (key)
+    {
+    case VK_RETURN:
+        Answer(count == 0
+                   ? IDOK
+                   : m_buttons[size_t(focused >= 0 ? focused : DefaultButton())]->GetDlgCtrlID());
+        return true;
+    case VK_ESCAPE:
+        Answer(EscapeId());
+        return true;
+    case VK_LEFT:
+    case VK_UP:
+    case VK_RIGHT:
+    case VK_DOWN:
+        if (focused < 0)
+        {
+            return false;
+        }
+        Focus((focused + (key == VK_LEFT || key == VK_UP ? count - 1 : 1)) % count);
+        return true;
+    case VK_PRIOR:
+    case VK_NEXT:
+    case VK_HOME:
+    case VK_END:
+        return m_text->GetSafeHwnd() != nullptr && m_text->ScrollByKey(key);
+    case 'C':
+    case VK_INSERT:
+        if (ControlDown() && m_text->GetSafeHwnd() != nullptr)
+        {
+            m_text->CopyAll();
+            return true;
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool CZepMsgBoxDlg::PressInitial(UINT character)
+{
+    for (const ButtonEntry& button : ButtonsOf(m_style))
+    {
+        if (std::toupper(int(character & 0xFF)) == button.caption[0])
+        {
+            Answer(button.id);
+            return true;
+        }
+    }
+    return false;
+}

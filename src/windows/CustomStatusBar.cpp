@@ -1,0 +1,192 @@
+#include "CustomStatusBar.h"
+
+#include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
+#include "paint/BackBuffer.h"
+#include "paint/ControlFonts.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+
+IMPLEMENT_DYNAMIC(CCustomStatusBar, CStatusBarCtrl)
+
+BEGIN_MESSAGE_MAP(CCustomStatusBar, CStatusBarCtrl)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
+    ON_WM_WINDOWPOSCHANGED()
+END_MESSAGE_MAP()
+
+CFont CCustomStatusBar::m_OBFont;
+
+namespace {
+
+constexpr int TextMargin = 6;   // from either edge of a pane
+constexpr int SimplePane = 255; // stands for the whole bar's text in its simple form
+
+} // namespace
+
+CCustomStatusBar::~CCustomStatusBar() = default;
+
+CFont& CCustomStatusBar::GetOnBoardFont()
+{
+    return OnBoardControlFont(m_OBFont, LargeOnBoardFont);
+}
+
+// Following the display mode --------------------------------------------------------------------
+
+// Gives the bar the font of the mode's kind, and with it the height, when it still has the other
+// one. Returns whether the mode is on-board: the first question of every handler.
+bool CCustomStatusBar::FollowMode()
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if (onBoard == m_onBoard || GetSafeHwnd() == nullptr)
+    {
+        return onBoard;
+    }
+    const WindowAlive alive(*this);
+    m_onBoard = onBoard;
+    if (onBoard)
+    {
+        m_standardFont = reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));
+    }
+    SendMessage(WM_SETFONT,
+                onBoard ? WPARAM(GetOnBoardFont().GetSafeHandle()) : WPARAM(m_standardFont));
+    if (alive)
+    {
+        // The platform's bar takes its height and place when it is told of a size.
+        DefWindowProc(WM_SIZE, SIZE_RESTORED, 0);
+    }
+    if (alive)
+    {
+        Invalidate();
+    }
+    return COnBoardUIGeneral::InOnBoardMode();
+}
+
+int CCustomStatusBar::OnCreate(LPCREATESTRUCT cs)
+{
+    const WindowAlive alive(*this);
+    const int result = CStatusBarCtrl::OnCreate(cs);
+    if (result != -1 && alive)
+    {
+        FollowMode();
+    }
+    return result;
+}
+
+void CCustomStatusBar::OnDestroy()
+{
+    CStatusBarCtrl::OnDestroy();
+    m_onBoard = false;
+    m_standardFont = nullptr;
+}
+
+void CCustomStatusBar::OnSize(UINT type, int width, int height)
+{
+    const WindowAlive alive(*this);
+    CStatusBarCtrl::OnSize(type, width, height);
+    if (alive)
+    {
+        FollowMode();
+    }
+}
+
+// A mode-aware parent places its children when the mode changes.
+void CCustomStatusBar::OnWindowPosChanged(WINDOWPOS* position)
+{
+    const WindowAlive alive(*this);
+    CStatusBarCtrl::OnWindowPosChanged(position);
+    if (alive)
+    {
+        FollowMode();
+    }
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+BOOL CCustomStatusBar::OnEraseBkgnd(CDC* dc)
+{
+    return COnBoardUIGeneral::InOnBoardMode() ? TRUE : CStatusBarCtrl::OnEraseBkgnd(dc);
+}
+
+void CCustomStatusBar::OnPaint()
+{
+    const WindowAlive alive(*this);
+    if (!FollowMode())
+    {
+        if (alive)
+        {
+            Default();
+        }
+        return;
+    }
+    if (!alive)
+    {
+        return;
+    }
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    BackBuffer buffer(dc, client);
+    DrawOB(buffer);
+}
+
+void CCustomStatusBar::DrawOB(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    dc.FillSolidRect(&client, palette::Panel);
+    dc.FillSolidRect(client.left, client.top, client.Width(), 1, palette::Outline);
+    const Selected font(dc, GetOnBoardFont());
+    const TextColor color(dc, palette::PanelText);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    if (IsSimple())
+    {
+        DrawPane(dc, SimplePane, client);
+        return;
+    }
+    const int count = GetParts(0, nullptr);
+    for (int pane = 0; pane < count; ++pane)
+    {
+        CRect place;
+        GetRect(pane, &place);
+        DrawPane(dc, pane, place);
+        if (pane + 1 < count)
+        {
+            dc.FillSolidRect(place.right, client.top, 1, client.Height(), palette::Outline);
+        }
+    }
+}
+
+void CCustomStatusBar::DrawPane(CDC& dc, int pane, const CRect& place)
+{
+    int type = 0;
+    GetTextLength(pane, &type);
+    if ((type & SBT_OWNERDRAW) != 0)
+    {
+        DRAWITEMSTRUCT item = {};
+        item.CtlID = UINT(GetDlgCtrlID());
+        item.itemID = UINT(pane);
+        item.hwndItem = m_hWnd;
+        item.hDC = dc;
+        item.rcItem = place;
+        item.itemData = ULONG_PTR(SendMessage(SB_GETTEXT, WPARAM(pane)));
+        ::SendMessage(::GetParent(m_hWnd), WM_DRAWITEM, item.CtlID,
+                      reinterpret_cast<LPARAM>(&item));
+        return;
+    }
+    const CString text = GetText(pane);
+    // A tab in front centres the text, two put it to the right.
+    int tabs = 0;
+    while (tabs < 2 && tabs < text.GetLength() && text[tabs] == '\t')
+    {
+        ++tabs;
+    }
+    constexpr UINT alignments[] = {DT_LEFT, DT_CENTER, DT_RIGHT};
+    CRect area(place);
+    area.DeflateRect(TextMargin, 0);
+    dc.DrawText(text.Mid(tabs), &area,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | alignments[tabs]);
+}

@@ -1,0 +1,216 @@
+#include "dialogs/LineSplitting.h"
+#include "dialogs/MessageBoxLayout.h"
+#include "dialogs/dialog_for_tests.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+
+namespace {
+
+using namespace dialogs;
+
+// Lines -----------------------------------------------------------------------------------------
+
+TEST(MessageLines, BreakAfterTheLastSeparatorThatFits)
+{
+    constexpr UINT Western = 1252;
+    constexpr UINT Japanese = 932;
+    const struct
+    {
+        const char* text;
+        size_t limit;
+        const char* expected;
+        UINT codePage = Western;
+    } cases[] = {
+        {"", 8, ""},
+        {"one", 8, "one"},
+        {"exactly8", 8, "exactly8"},
+        {"one two three", 8, "one two \r\nthree"},
+        {"one two three", 13, "one two three"},
+        {"one two three", 12, "one two \r\nthree"},
+        {"one\ttwo\fthree", 5, "one\t\r\ntwo\f\r\nthree"},
+        {"one    two", 5, "one    \r\ntwo"},       // a run stays before the break
+        {"12345678   90", 8, "12345678   \r\n90"}, // also one after a full line
+        {"12345678901234567890", 8, "12345678\r\n90123456\r\n7890"},
+        {"a 12345678901", 8, "a \r\n12345678\r\n901"},
+        {"one two    ", 7, "one \r\ntwo    "},
+        {"one  ", 3, "one  "},           // nothing is left for another line
+        {"one\r\ntwo", 8, "one\r\ntwo"}, // its own line ends stay
+        {"one\ntwo\rthree", 8, "one\r\ntwo\r\nthree"},
+        {"\r\n\r\none\n\n", 8, "\r\n\r\none\r\n\r\n"},
+        {"one two\r\nthree four", 7, "one two\r\nthree \r\nfour"},
+        {"x", 1, "x"},
+        {"xyz", 1, "x\r\ny\r\nz"},
+        // Characters of two bytes are one, and stay whole; their second byte is no letter.
+        {"\x82\xA0\x82\xA2\x82\xA4", 2, "\x82\xA0\x82\xA2\r\n\x82\xA4", Japanese},
+        {"\x83\x5C\x83\x5C\x83\x5C", 1, "\x83\x5C\r\n\x83\x5C\r\n\x83\x5C", Japanese},
+        {"ab\x82", 2, "ab\r\n\x82", Japanese}, // half a character at the end
+        {"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x9B\xA9x", 3, "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x9B\xA9\r\nx",
+         CP_UTF8},
+        {"\x82\xA0\x82\xA2", 2, "\x82\xA0\r\n\x82\xA2"}, // four letters in a western text
+    };
+    for (const auto& each : cases)
+    {
+        EXPECT_EQ(SplitLines(each.text, each.limit, CodePage(each.codePage)), each.expected)
+            << '"' << each.text << "\" at " << each.limit;
+    }
+}
+
+TEST(MessageLines, AreLongerOnWiderScreens)
+{
+    const struct
+    {
+        int screen;
+        size_t limit;
+    } cases[] = {{0, 14},    {320, 32},  {640, 32},  {1024, 32}, {1279, 32},
+                 {1280, 50}, {1791, 50}, {1792, 68}, {1920, 68}, {3840, 140}};
+    for (const auto& each : cases)
+    {
+        EXPECT_EQ(LineLimit(each.screen), each.limit) << each.screen;
+    }
+    EXPECT_EQ(LineLimit(-100'000), 1U);
+}
+
+// Sizes and places ------------------------------------------------------------------------------
+
+// 8 point of the dialog's font; a screen with the usual metrics.
+const CSize Unit(6, 13);
+constexpr int Caption = 19;
+constexpr int Bar = 17;
+const CSize Wide(1280, 1024);
+
+MessageUnits Units(bool onBoard)
+{
+    return MessageUnits::Of(Unit, onBoard);
+}
+
+MessageContent Content(CSize text, int buttons, CSize area, bool onBoard, int title = 100)
+{
+    // In an on-board mode a frame of three pixels, with the higher band.
+    const CSize frame(6, onBoard ? 6 + 32 : 6 + Caption);
+    return {text, title, buttons, area, frame, Caption, Bar};
+}
+
+TEST(MessageBoxLayout, LengthsGrowWithTheFactorOfTheOnBoardModes)
+{
+    const MessageUnits standard = Units(false);
+    EXPECT_EQ(standard.button, CSize(75, 23));
+    EXPECT_EQ(standard.margin, CSize(11, 11));
+    EXPECT_EQ(standard.spacing, CSize(6, 7));
+    EXPECT_EQ(standard.text, CSize(75, 13));
+    const MessageUnits onBoard = Units(true);
+    EXPECT_EQ(onBoard.button, CSize(127, 39));
+    EXPECT_EQ(onBoard.margin, CSize(18, 18));
+    EXPECT_EQ(onBoard.spacing, CSize(10, 11));
+    EXPECT_EQ(onBoard.text, CSize(127, 22));
+    EXPECT_EQ(MessageButtonsSize(standard, 1).cx, 75);
+    EXPECT_EQ(MessageButtonsSize(standard, 2).cx, 2 * 75 + 2 * 7) << "as many gaps as buttons";
+    EXPECT_EQ(MessageButtonsSize(onBoard, 3).cx, 3 * 127 + 3 * 11);
+    EXPECT_EQ(MessageButtonsSize(onBoard, 0).cx, 0);
+}
+
+TEST(MessageBoxLayout, TheBoxHasTheSizeOfItsContent)
+{
+    const struct
+    {
+        const char* what;
+        bool onBoard;
+        MessageContent content;
+        CSize client;
+        CSize text;
+        bool scrolls;
+    } cases[] = {
+        {"a word", false, Content(CSize(224, 16), 1, Wide, false), CSize(324, 114), CSize(241, 17),
+         false},
+        {"a word", true, Content(CSize(502, 27), 1, Wide, true), CSize(624, 149), CSize(519, 28),
+         false},
+        {"lines", false, Content(CSize(400, 80), 2, Wide, false), CSize(500, 147), CSize(417, 81),
+         false},
+        {"just below the limit", false, Content(CSize(300, 613), 1, Wide, false), CSize(400, 680),
+         CSize(317, 614), false},
+        {"at the limit", false, Content(CSize(300, 614), 1, Wide, false), CSize(461, 680),
+         CSize(378, 614), true},
+        {"very long", true, Content(CSize(600, 10'827), 3, Wide, true), CSize(783, 715),
+         CSize(678, 614), true},
+        {"a long title", false, Content(CSize(224, 16), 1, Wide, false, 700), CSize(728, 114),
+         CSize(241, 17), false},
+        {"wide buttons", true, Content(CSize(100, 27), 3, Wide, true), CSize(460, 149),
+         CSize(117, 28), false},
+        {"a low area", true, Content(CSize(200, 300), 1, CSize(640, 240), true), CSize(383, 199),
+         CSize(278, 98), true},
+        {"a narrow area", false, Content(CSize(400, 80), 1, CSize(320, 240), false),
+         CSize(295, 147), CSize(212, 81), true},
+        {"a narrow area, a long title", false,
+         Content(CSize(100, 16), 1, CSize(320, 240), false, 900), CSize(295, 114), CSize(117, 17),
+         false},
+        {"only the frame is too wide", false, Content(CSize(217, 16), 1, CSize(320, 240), false),
+         CSize(311, 114), CSize(228, 17), false},
+    };
+    for (const auto& each : cases)
+    {
+        const MessageSize size = SizeMessageBox(Units(each.onBoard), each.content);
+        EXPECT_EQ(size.client, each.client)
+            << each.what << ' ' << size.client.cx << ' ' << size.client.cy;
+        EXPECT_EQ(size.text, each.text) << each.what << ' ' << size.text.cx << ' ' << size.text.cy;
+        EXPECT_EQ(size.scrolls, each.scrolls) << each.what;
+    }
+}
+
+TEST(MessageBoxLayout, ABoxKeepsItsSmallestSize)
+{
+    for (const bool onBoard : {false, true})
+    {
+        const MessageUnits units = Units(onBoard);
+        const CSize row = MessageButtonsSize(units, 3);
+        for (const CSize area :
+             {CSize(0, 0), CSize(-5, -5), CSize(1, 1), CSize(100, 100), CSize(INT_MIN, INT_MIN)})
+        {
+            const MessageSize size =
+                SizeMessageBox(units, Content(CSize(5'000, 5'000), 3, area, onBoard, 900));
+            EXPECT_EQ(size.client.cx, row.cx + 2 * units.margin.cx + units.spacing.cx) << area.cx;
+            EXPECT_EQ(size.client.cy, onBoard ? 149 : 114) << area.cx;
+            EXPECT_GE(size.text.cx, units.text.cx);
+            EXPECT_GE(size.text.cy, units.text.cy);
+            EXPECT_TRUE(size.scrolls);
+        }
+        const MessageSize huge =
+            SizeMessageBox(units, Content(CSize(500, 2'000), 1, CSize(INT_MAX, INT_MAX), onBoard));
+        EXPECT_EQ(huge.text.cy, 2'001);
+    }
+}
+
+TEST(MessageBoxLayout, ThePartsLieByTheRules)
+{
+    {
+        const MessageUnits units = Units(false);
+        const MessageSize size = {CSize(324, 114), CSize(241, 17), false};
+        const MessagePlaces places = PlaceMessageParts(units, size, CSize(326, 116), Caption, 1);
+        EXPECT_EQ(places.icon, CRect(11, -2, 59, 46));
+        EXPECT_EQ(places.text, CRect(70, 13, 311, 30)) << "beside the middle of the icon";
+        EXPECT_EQ(places.Button(0), CRect(123, 50, 198, 73));
+    }
+    {
+        const MessageUnits units = Units(true);
+        const MessageSize size = {CSize(783, 715), CSize(678, 614), true};
+        const MessagePlaces places = PlaceMessageParts(units, size, CSize(785, 717), Caption, 3);
+        EXPECT_EQ(places.icon, CRect(18, 5, 66, 53));
+        EXPECT_EQ(places.text, CRect(84, 5, 762, 619)) << "from the icon's top on";
+        EXPECT_EQ(places.Button(0), CRect(183, 628, 310, 667));
+        EXPECT_EQ(places.Button(2), CRect(459, 628, 586, 667));
+    }
+}
+
+TEST(MessageBoxLayout, TheWindowGrowsAboutItsMiddleAndStaysOnTheScreen)
+{
+    EXPECT_EQ(MessageGrowth(CSize(324, 114), CSize(291, 119)), CSize(17, -1));
+    EXPECT_EQ(MessageGrowth(CSize(300, 100), CSize(300, 100)), CSize(1, 1));
+    const CRect screen(0, 0, 800, 600);
+    EXPECT_EQ(MessageCentred(CSize(100, 50), CRect(200, 200, 400, 300), screen),
+              CRect(250, 225, 350, 275));
+    EXPECT_EQ(MessageCentred(CSize(100, 50), CRect(790, 590, 800, 600), screen),
+              CRect(700, 550, 800, 600));
+    EXPECT_EQ(MessageCentred(CSize(1000, 50), CRect(0, 0, 10, 10), screen), CRect(0, 0, 1000, 50));
+}
+
+} // namespace

@@ -1,0 +1,216 @@
+#include "SearchStatusBar.h"
+#include "support/WindowTest.h"
+
+namespace {
+
+// The bar with its protected side open to tests.
+class Bar : public CSearchStatusBar
+{
+public:
+    int gone = 0;
+    using CSearchStatusBar::m_activeTimer;
+    using CSearchStatusBar::m_frame;
+    using CSearchStatusBar::m_loadingFrames;
+    using CSearchStatusBar::m_period;
+    using CSearchStatusBar::m_searchFrames;
+
+    CString Text() const { return GetText(0); }
+};
+
+class SearchStatusBarTest : public WindowTest
+{
+protected:
+    Bar& AddBar(DWORD style = 0) { return Add<Bar>(CRect(0, 0, 300, 20), style); }
+};
+
+TEST_F(SearchStatusBarTest, ASearchGainsADotEachSecond)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        Bar& bar = AddBar();
+        const DWORD start = ::GetTickCount();
+        bar.StartSearchProgress();
+        EXPECT_EQ(bar.Text(), "Searching.");
+        ASSERT_TRUE(PumpUntil([&] { return bar.Text() == "Searching. ."; }));
+        const DWORD passed = ::GetTickCount() - start;
+        EXPECT_GE(passed, 900U);
+        EXPECT_LE(passed, 1'500U);
+        bar.StopSearchProgress();
+        Remove(bar);
+    }
+}
+
+TEST_F(SearchStatusBarTest, TheDotsBeginAgainAfterFiveAndGoOnWithTheNextSearch)
+{
+    Bar& bar = AddBar();
+    bar.m_period = 10;
+    bar.StartSearchProgress();
+    std::vector<CString> seen;
+    ASSERT_TRUE(PumpUntil([&] {
+        if (seen.empty() || seen.back() != bar.Text())
+        {
+            seen.push_back(bar.Text());
+        }
+        return seen.size() == 8;
+    }));
+    const std::vector<CString> expected = {
+        "Searching.",         "Searching. .",         "Searching. . .", "Searching. . . .",
+        "Searching. . . . .", "Searching. . . . . .", "Searching. .",   "Searching. . ."};
+    EXPECT_EQ(seen, expected);
+
+    bar.StopLoadingProgress(); // either ends it
+    EXPECT_EQ(bar.m_activeTimer, -1);
+    const CString last = bar.Text();
+    PumpFor(60);
+    EXPECT_EQ(bar.Text(), last) << "the last text stays";
+    bar.StopSearchProgress();
+    bar.StopSearchProgress();
+
+    const int frame = bar.m_frame;
+    bar.StartSearchProgress();
+    EXPECT_EQ(bar.Text(), "Searching.");
+    ASSERT_TRUE(PumpUntil([&] { return bar.Text() != "Searching."; }));
+    EXPECT_EQ(bar.Text(), bar.m_searchFrames[frame]);
+    bar.StopSearchProgress();
+}
+
+TEST_F(SearchStatusBarTest, LoadingStandsStillAndLetsNoSearchBegin)
+{
+    Bar& bar = AddBar();
+    bar.m_period = 10;
+    bar.StartLoadingProgress();
+    EXPECT_EQ(bar.Text(), "Loading Results.");
+    EXPECT_EQ(bar.m_activeTimer, 1190);
+    bar.StartSearchProgress();
+    bar.StartLoadingProgress();
+    MessageLog log(bar, {WM_TIMER});
+    ASSERT_TRUE(PumpUntil([&] { return log.Count(WM_TIMER) > 2; }));
+    EXPECT_EQ(log.WParams(WM_TIMER).front(), 1190U);
+    EXPECT_EQ(bar.Text(), "Loading Results.");
+    EXPECT_EQ(bar.m_frame, 0);
+    EXPECT_EQ(bar.m_loadingFrames[4], "Loading Results. . . . . .");
+    bar.SendMessage(WM_TIMER, 7);
+    EXPECT_EQ(bar.Text(), "Loading Results.");
+
+    bar.StopSearchProgress();
+    bar.StartSearchProgress();
+    EXPECT_EQ(bar.m_activeTimer, 1189);
+    bar.StartLoadingProgress();
+    EXPECT_NE(bar.Text(), "Loading Results.");
+    bar.StopSearchProgress();
+}
+
+TEST_F(SearchStatusBarTest, ABarMayGoWhileItsTimerRuns)
+{
+    Bar bar;
+    bar.StartSearchProgress(); // without a window
+    bar.StartLoadingProgress();
+    bar.StopSearchProgress();
+    EXPECT_EQ(bar.m_activeTimer, -1);
+    for (int round = 0; round < 2; ++round)
+    {
+        ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
+        bar.m_period = 10;
+        bar.StartSearchProgress();
+        EXPECT_EQ(bar.m_activeTimer, 1189);
+        bar.DestroyWindow();
+        EXPECT_EQ(bar.m_activeTimer, -1);
+        PumpFor(50);
+    }
+    // Inside its own tick.
+    auto* const ending = new Bar;
+    ASSERT_TRUE(ending->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
+    const int pane = 40;
+    int edges[] = {pane};
+    ending->SetParts(1, edges);
+    ending->SetText("", 0, SBT_OWNERDRAW);
+    ASSERT_TRUE(ending->GetSafeHwnd() != nullptr);
+    ending->StartSearchProgress();
+    delete ending;
+    PumpFor(30);
+}
+
+TEST_F(SearchStatusBarTest, TheBarErasesNothing)
+{
+    Bar& bar = AddBar();
+    CClientDC dc(&bar);
+    EXPECT_EQ(bar.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())), 0);
+    const ModeScope scope(ONBOARD);
+    EXPECT_EQ(bar.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())), 0);
+}
+
+// The look --------------------------------------------------------------------------------------
+
+class StatusBarTest : public WindowTest
+{};
+
+TEST_F(StatusBarTest, OnBoardItIsDarkAndHighEnoughAndTheStandardLookComesBack)
+{
+    auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0));
+    int edges[] = {150, 300, -1};
+    bar.SetParts(3, edges);
+    bar.SetText("Left", 0, 0);
+    bar.SetText("\tMiddle", 1, 0);
+    bar.SetText("\t\tRight", 2, 0);
+    PumpAll();
+    const Pixels standard = WindowPixels(bar);
+    const int height = ClientRectOf(bar).Height();
+    for (const APPMODE mode : {ONBOARD, EFB})
+    {
+        const ModeScope scope(mode);
+        bar.Invalidate();
+        PumpAll();
+        const CRect client = ClientRectOf(bar);
+        EXPECT_GE(client.Height(), 27 + 4);
+        EXPECT_EQ(WindowRectOf(bar).bottom, WindowRectOf(Host()).bottom);
+        const Pixels dark = WindowPixels(bar);
+        const auto inked = [&](int from, int to) {
+            return dark.Count(RGB(230, 230, 230), CRect(from, 0, to, client.bottom));
+        };
+        EXPECT_GT(dark.Count(RGB(50, 50, 50)), client.Width() * client.Height() * 8 / 10);
+        EXPECT_GT(inked(0, 75), 20);
+        EXPECT_EQ(inked(75, 150), 0);
+        EXPECT_GT(inked(190, 260), 20);
+        EXPECT_GT(inked(client.right - 80, client.right), 20);
+        EXPECT_EQ(inked(310, client.right - 100), 0);
+        bar.SetSimple();
+        bar.SetText("Simple", 255, 0);
+        PumpAll();
+        EXPECT_FALSE(WindowPixels(bar) == dark);
+        bar.SetSimple(FALSE);
+        PumpAll();
+        EXPECT_TRUE(WindowPixels(bar) == dark);
+    }
+    bar.Invalidate();
+    PumpAll();
+    EXPECT_EQ(ClientRectOf(bar).Height(), height);
+    EXPECT_TRUE(WindowPixels(bar) == standard);
+}
+
+TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryMode)
+{
+    auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0));
+    int drawn = 0;
+    Host().AlsoRecord({WM_DRAWITEM});
+    Host().hook = [&](ToldMessage& told) {
+        if (told.message == WM_DRAWITEM)
+        {
+            const auto* const item = reinterpret_cast<const DRAWITEMSTRUCT*>(told.lParam);
+            EXPECT_EQ(item->hwndItem, bar.GetSafeHwnd());
+            EXPECT_EQ(item->itemData, 77U);
+            ++drawn;
+        }
+    };
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        bar.SendMessage(SB_SETTEXT, SBT_OWNERDRAW, 77);
+        drawn = 0;
+        bar.Invalidate();
+        PumpAll();
+        EXPECT_GT(drawn, 0) << mode;
+    }
+}
+
+} // namespace
