@@ -10,6 +10,8 @@
 #include "ListBoxPage.h"
 #include "PolygonPage.h"
 #include "ToolbarPage.h"
+#include "MessageBoxPage.h"
+#include "SearchBarPage.h"
 
 namespace {
 
@@ -30,6 +32,8 @@ constexpr PageEntry AllPages[] = {
     {"toolbar", "Tool bar", &Make<ToolbarPage>},
     {"icons", "Icons", &Make<IconsPage>},
     {"polygon", "View polygon", &Make<PolygonPage>},
+    {"messagebox", "Message boxes", &Make<MessageBoxPage>},
+    {"searchbar", "Search bar", &Make<SearchBarPage>},
 };
 // clang-format on
 
