@@ -4,6 +4,8 @@
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 
+#include <algorithm>
+
 namespace dialogs {
 
 BEGIN_MESSAGE_MAP(MessageText, CCustomEdit)
@@ -61,6 +63,14 @@ bool MessageText::ScrollByKey(UINT key)
         }
     }
     return false;
+}
+
+void MessageText::ScrollByWheel(int delta)
+{
+    UINT lines = 3;
+    ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    constexpr UINT Most = 20; // also for a user who has pages scrolled
+    SendMessage(EM_LINESCROLL, 0, -::MulDiv(int(std::min(lines, Most)), delta, WHEEL_DELTA));
 }
 
 void MessageText::CopyAll()

@@ -17,6 +17,7 @@ public:
 
     // Scrolls by a key; whether the key is one that does.
     bool ScrollByKey(UINT key);
+    void ScrollByWheel(int delta);
 
     void CopyAll();
 

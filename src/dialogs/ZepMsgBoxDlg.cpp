@@ -318,6 +318,14 @@ BOOL CZepMsgBoxDlg::PreTranslateMessage(MSG* message)
             return TRUE;
         }
         break;
+    case WM_MOUSEWHEEL:
+        // It goes to the focus, which a button has.
+        if (FocusedButton() >= 0 && m_text->GetSafeHwnd() != nullptr)
+        {
+            m_text->ScrollByWheel(GET_WHEEL_DELTA_WPARAM(message->wParam));
+            return TRUE;
+        }
+        break;
     default:
         break;
     }

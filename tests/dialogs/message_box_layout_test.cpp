@@ -183,14 +183,6 @@ TEST(MessageBoxLayout, ABoxKeepsItsSmallestSize)
 TEST(MessageBoxLayout, ThePartsLieByTheRules)
 {
     {
-        const MessageUnits units = Units(false);
-        const MessageSize size = {CSize(324, 114), CSize(241, 17), false};
-        const MessagePlaces places = PlaceMessageParts(units, size, CSize(326, 116), Caption, 1);
-        EXPECT_EQ(places.icon, CRect(11, -2, 59, 46));
-        EXPECT_EQ(places.text, CRect(70, 13, 311, 30)) << "beside the middle of the icon";
-        EXPECT_EQ(places.Button(0), CRect(123, 50, 198, 73));
-    }
-    {
         const MessageUnits units = Units(true);
         const MessageSize size = {CSize(783, 715), CSize(678, 614), true};
         const MessagePlaces places = PlaceMessageParts(units, size, CSize(785, 717), Caption, 3);

@@ -7,7 +7,17 @@ namespace {
 class Bar : public CSearchStatusBar
 {
 public:
-    int gone = 0;
+    bool ended = false; // by its next painting
+
+    void DrawOB(CDC& dc) override
+    {
+        CSearchStatusBar::DrawOB(dc);
+        if (ended)
+        {
+            DestroyWindow();
+        }
+    }
+
     using CSearchStatusBar::m_activeTimer;
     using CSearchStatusBar::m_frame;
     using CSearchStatusBar::m_loadingFrames;
@@ -119,16 +129,13 @@ TEST_F(SearchStatusBarTest, ABarMayGoWhileItsTimerRuns)
         PumpFor(50);
     }
     // Inside its own tick.
-    auto* const ending = new Bar;
-    ASSERT_TRUE(ending->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
-    const int pane = 40;
-    int edges[] = {pane};
-    ending->SetParts(1, edges);
-    ending->SetText("", 0, SBT_OWNERDRAW);
-    ASSERT_TRUE(ending->GetSafeHwnd() != nullptr);
-    ending->StartSearchProgress();
-    delete ending;
-    PumpFor(30);
+    const ModeScope scope(ONBOARD);
+    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
+    bar.StartSearchProgress();
+    PumpAll();
+    bar.ended = true;
+    ASSERT_TRUE(PumpUntil([&] { return bar.GetSafeHwnd() == nullptr; }));
+    EXPECT_EQ(bar.m_activeTimer, -1);
 }
 
 TEST_F(SearchStatusBarTest, TheBarErasesNothing)

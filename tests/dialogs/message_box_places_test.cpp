@@ -1,0 +1,266 @@
+#include "dialogs/message_box_for_tests.h"
+
+namespace {
+
+using Box = MessageBoxForTests;
+
+TEST_F(MessageBoxTest, AShortBoxIsExactInBothLooks)
+{
+    const struct
+    {
+        APPMODE mode;
+        CSize client;
+        CRect icon;
+        CRect text;
+        CRect yes;
+        CRect no;
+    } cases[] = {
+        {STD, CSize(326, 116), CRect(11, -2, 59, 46), CRect(70, 13, 311, 30),
+         CRect(79, 50, 154, 73), CRect(161, 50, 236, 73)},
+        {ONBOARD, CSize(626, 151), CRect(18, 5, 66, 53), CRect(84, 15, 603, 43),
+         CRect(173, 62, 300, 101), CRect(311, 62, 438, 101)},
+    };
+    for (const auto& each : cases)
+    {
+        const ModeScope scope(each.mode);
+        Box box("Ready", MB_YESNO);
+        box.inLoop = [&] {
+            const CSize client = ClientRectOf(box).Size();
+            EXPECT_NEAR(client.cx, each.client.cx, 1) << "by the rounding of the halves";
+            EXPECT_NEAR(client.cy, each.client.cy, 1);
+            const CPoint up(0, client.cy - each.client.cy);
+            EXPECT_EQ(box.PlaceOf(box.m_icon), each.icon);
+            EXPECT_EQ(box.PlaceOf(*box.m_text), each.text);
+            EXPECT_EQ(box.PlaceOf(box.Button(0)), each.yes + up);
+            EXPECT_EQ(box.PlaceOf(box.Button(1)), each.no + up);
+            EXPECT_NE(box.GetExStyle() & WS_EX_TOPMOST, 0U);
+            CString title;
+            box.GetWindowText(title);
+            EXPECT_EQ(title, "Flight");
+            box.EndDialog(1);
+        };
+        box.DoModal();
+    }
+}
+
+void ExpectOrdered(Box& box, const CSize& area, bool fits)
+{
+    const CRect client = ClientRectOf(box);
+    std::vector<CRect> places = {box.PlaceOf(box.m_icon), box.PlaceOf(*box.m_text)};
+    for (const auto& button : box.m_buttons)
+    {
+        places.push_back(box.PlaceOf(*button));
+        CRect inside;
+        inside.IntersectRect(client, places.back());
+        EXPECT_EQ(inside, places.back()) << "a button lies inside";
+    }
+    for (size_t one = 0; one < places.size(); ++one)
+    {
+        for (size_t other = one + 1; other < places.size(); ++other)
+        {
+            CRect both;
+            EXPECT_FALSE(both.IntersectRect(places[one], places[other])) << one << ' ' << other;
+        }
+    }
+    if (fits)
+    {
+        const CSize window = WindowRectOf(box).Size();
+        EXPECT_LE(window.cx, area.cx);
+        EXPECT_LE(window.cy, area.cy);
+    }
+    EXPECT_LE(places[1].right, client.right);
+}
+
+TEST_F(MessageBoxTest, NothingOverlapsForAnyTextButtonsAndArea)
+{
+    const std::string texts[] = {
+        "Word", Lines(3), Lines(40), Lines(400), std::string(5'000, 'x'), [] {
+            std::string line;
+            while (line.size() < 5'000)
+            {
+                line += "several words ";
+            }
+            return line;
+        }()};
+    const CSize areas[] = {CSize(320, 240),   CSize(640, 480), CSize(800, 300),
+                           CSize(1280, 1024), CSize(0, 0),     CSize(-1, 5)};
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        for (const std::string& text : texts)
+        {
+            for (const CSize& area : areas)
+            {
+                for (const UINT style : {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE, MB_YESNOCANCEL,
+                                         MB_YESNO, MB_RETRYCANCEL})
+                {
+                    // The other sets with one text: it is the widest that makes a difference.
+                    if (style != MB_ABORTRETRYIGNORE && &text != &texts[1])
+                    {
+                        continue;
+                    }
+                    SCOPED_TRACE(std::to_string(area.cx) + " " + std::to_string(text.size()) + " " +
+                                 std::to_string(style) + " " + APPMODE_NAMES[mode]);
+                    Box box(text.c_str(), style, area);
+                    ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+                    // Three large buttons need more.
+                    const bool fits =
+                        area.cy >= 240 && area.cx >= (mode == STD || box.m_buttons.size() < 2 ? 320
+                                                      : box.m_buttons.size() < 3              ? 340
+                                                                                 : 480);
+                    ExpectOrdered(box, area, fits);
+                    const CRect shown = ClientRectOf(*box.m_text);
+                    const int lines = int(box.m_text->SendMessage(EM_GETLINECOUNT));
+                    const int lineHeight = mode == STD ? 13 : 27;
+                    if (lines * lineHeight > shown.Height())
+                    {
+                        const bool bar =
+                            mode == STD ? (box.m_text->GetStyle() & WS_VSCROLL) != 0
+                                        : shown.Width() <= WindowRectOf(*box.m_text).Width() - 52;
+                        EXPECT_TRUE(bar) << lines << " lines in " << shown.Height();
+                        box.m_text->SendMessage(WM_VSCROLL, SB_BOTTOM);
+                        EXPECT_GT(box.FirstLine(), 0);
+                    }
+                }
+            }
+        }
+    }
+}
+
+// What the platform measures in the font of the box's sizes.
+CSize Extent(CWnd& box, const std::string& text)
+{
+    CClientDC dc(&box);
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        dc.SelectObject(&CCustomDialog::m_OBStaticTextFont);
+    }
+    CSize extent;
+    ::GetTextExtentPoint32(dc, text.data(), int(text.size()), &extent);
+    return extent;
+}
+
+TEST_F(MessageBoxTest, ATextMeasuresAsItsWidestLineAndALineMoreThanItHas)
+{
+    const struct
+    {
+        const char* text;
+        int lines;
+        const char* widest;
+    } cases[] = {{"one", 1, "one"},
+                 {"one\r\nfourteen", 3, "fourteen"},
+                 {"WWWW\r\niiiiiii\r\n", 3, "WWWW\r"},
+                 {"one\n\ntwo", 4, "one"},
+                 {"Z\xFCrich\nBern", 3, "Z\xFCrich"},
+                 {"Bern\n\xE4\xE4\xE4\xE4\xE4\xE4", 3, "\xE4\xE4\xE4\xE4\xE4\xE4"}};
+    const std::string title(100, 'W');
+    SetOnBoardAppTitle(title.c_str());
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        Box box("Ready", MB_OK, CSize(9'000, 1'000));
+        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+        EXPECT_GT(ClientRectOf(box).Width(), Extent(box, title).cx);
+        for (const auto& each : cases)
+        {
+            int width = 10;
+            int height = 0;
+            box.GetStaticTextSize(each.text, width, height);
+            EXPECT_EQ(height, each.lines * (mode == STD ? 16 : 27)) << each.text;
+            EXPECT_EQ(width, Extent(box, each.widest).cx) << each.text;
+            width = 900;
+            box.GetStaticTextSize(each.text, width, height);
+            EXPECT_EQ(width, 900);
+        }
+    }
+}
+
+// Modes -----------------------------------------------------------------------------------------
+
+std::vector<CRect> Arrangement(Box& box)
+{
+    std::vector<CRect> places = ChildPlaces(box);
+    const CRect client = ClientRectOf(box);
+    // The client area is by up to two pixels larger than it has to be, as its halves round: what
+    // hangs on its lower edge is told from there.
+    for (size_t index = 2; index < places.size(); ++index)
+    {
+        places[index] -= CPoint(0, client.Height());
+    }
+    return places;
+}
+
+TEST_F(MessageBoxTest, AnOpenBoxFollowsTheModeAndIsThenAnsweredByPointerAndKey)
+{
+    for (const int lines : {3, 400})
+    {
+        const std::string text = Lines(lines);
+        for (const APPMODE from : AllModes)
+        {
+            for (const APPMODE to : AllModes)
+            {
+                if (lines == 400 && (from == to || from % 2 != 0 || to % 2 != 0))
+                {
+                    continue; // long texts take their time
+                }
+                SCOPED_TRACE(std::string(APPMODE_NAMES[from]) + " " + APPMODE_NAMES[to]);
+                std::vector<CRect> expected;
+                bool bar = false;
+                {
+                    const ModeScope scope(to);
+                    Box fresh(text.c_str(), MB_YESNOCANCEL);
+                    ASSERT_TRUE(fresh.Create(CZepMsgBoxDlg::IDD, &Host()));
+                    expected = Arrangement(fresh);
+                    bar = ClientRectOf(*fresh.m_text).Width() < expected[1].Width();
+                }
+                const ModeScope scope(from);
+                Box box(text.c_str(), MB_YESNOCANCEL);
+                box.inLoop = [&] {
+                    COnBoardUIGeneral::SetAppMode(to);
+                    PumpAll();
+                    EXPECT_EQ(Arrangement(box), expected);
+                    EXPECT_EQ(ClientRectOf(*box.m_text).Width() < expected[1].Width(), bar);
+                    EXPECT_EQ((box.Button(0).GetStyle() & BS_TYPEMASK) == BS_OWNERDRAW, to != STD);
+                    if (from < to)
+                    {
+                        box.ClickOn(1);
+                    }
+                    else
+                    {
+                        TypeKey(VK_RIGHT);
+                        TypeKey(VK_RETURN);
+                    }
+                    if (box.GetButtonPressed() == 0)
+                    {
+                        box.EndDialog(-2);
+                    }
+                };
+                box.DoModal();
+                EXPECT_EQ(box.GetButtonPressed(), IDNO);
+            }
+        }
+    }
+}
+
+TEST_F(MessageBoxTest, APressThatTheModeCutsOffAnswersNothing)
+{
+    for (const APPMODE to : {STD, ONBOARD})
+    {
+        const ModeScope scope(to == STD ? EFB : STD);
+        Box box("Ready", MB_YESNO);
+        box.inLoop = [&] {
+            MoveTo(WindowRectOf(box.Button(0)).CenterPoint());
+            Press();
+            COnBoardUIGeneral::SetAppMode(to);
+            RestPointer();
+            Release();
+            EXPECT_EQ(::GetCapture(), nullptr);
+            EXPECT_EQ(box.GetButtonPressed(), 0);
+            box.ClickOn(1);
+        };
+        EXPECT_EQ(box.DoModal(), IDOK);
+        EXPECT_EQ(box.GetButtonPressed(), IDNO);
+    }
+}
+
+} // namespace
