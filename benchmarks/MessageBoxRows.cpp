@@ -13,10 +13,10 @@ namespace {
 constexpr int Lines = 400;
 const CSize Area(1000, 800);
 
-std::string Message()
+std::string Message(int lines)
 {
     std::string text;
-    for (int line = 1; line <= Lines; ++line)
+    for (int line = 1; line <= lines; ++line)
     {
         text += (line > 1 ? "\r\n" : "") + ("Waypoint " + std::to_string(line)) + " is passed";
     }
@@ -27,9 +27,10 @@ class Box : public CZepMsgBoxDlg
 {
 public:
     Box()
-        : CZepMsgBoxDlg(Message().c_str(), MB_YESNOCANCEL, Area, nullptr)
+        : CZepMsgBoxDlg(Message(Lines - 1).c_str(), MB_YESNOCANCEL, Area, nullptr)
     {
         Create(IDD, &Stage());
+        m_message = Message(Lines).c_str(); // not split yet
         // Back to before its layout: when a box opens, its edit is given the text last.
         m_text->SetWindowText("");
         m_text->MoveWindow(0, 0, 200, 100);
@@ -60,7 +61,7 @@ Side MeasureText()
     auto text = std::make_shared<std::string>();
     return {[text] {
                 EnterMode(ONBOARD);
-                *text = Message();
+                *text = Message(Lines);
             },
             [text] {
                 CClientDC dc(&Stage());

@@ -82,7 +82,11 @@ protected:
     int m_buttonPressed = 0;
 
 private:
-    CBitmap m_iconPicture;       // on the ground of the mode
+    CBitmap m_iconPicture; // on the ground of the mode
+    // What the display text was made of.
+    CString m_splitMessage;
+    size_t m_splitLimit = 0;
+    bool m_splitThemed = false;
     int m_standardTextWidth = 0; // of the text's control in the template
     std::optional<APPMODE> m_laidOutFor;
 

@@ -148,6 +148,11 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     CalcStdSizes();
     SplitText();
     CreateButtons();
+    if (m_icon.GetSafeHwnd() != nullptr)
+    {
+        // What the control loaded from the template is nobody's once it is replaced.
+        ::DeleteObject(m_icon.SetBitmap(nullptr));
+    }
     ShowIcon();
     SetWindowText(COnBoardUIGeneral::GetAppTitle());
     TakeLook();

@@ -7,114 +7,16 @@
 #include "dialogs/LineSplitting.h"
 #include "dialogs/MessageBoxLayout.h"
 #include "dialogs/MessageIcon.h"
+#include "dialogs/MessageMeasure.h"
 #include "dialogs/MessageText.h"
 #include "dialogs/Opening.h"
 #include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
-#include "paint/GdiGuards.h"
 #include "paint/Palette.h"
-
-#include <uxtheme.h>
-
-#include <array>
-#include <numeric>
 
 namespace {
 
 constexpr UINT PlaceOnly = SWP_NOZORDER | SWP_NOACTIVATE;
-constexpr int ThemedExtra = 5; // pixels of width, with visual styles
-
-bool VisualStyles()
-{
-    return ::IsAppThemed() && ::IsThemeActive();
-}
-
-// Measures text in the font that the box's sizes are based on: the on-board one, or in the standard
-// mode that of a window's fresh device context.
-class TextMeasure
-{
-public:
-    explicit TextMeasure(CWnd& window)
-        : m_dc(&window)
-        , m_font(m_dc, COnBoardUIGeneral::InOnBoardMode()
-                           ? CCustomDialog::m_OBStaticTextFont.GetSafeHandle()
-                           : nullptr)
-    {}
-
-    CSize Extent(std::string_view text)
-    {
-        CSize extent(0, 0);
-        ::GetTextExtentPoint32(m_dc, text.data(), int(text.size()), &extent);
-        return extent;
-    }
-
-    // The widths of the characters of all code pages, which add up to a text's; one by one.
-    std::array<int, 128> CharacterWidths()
-    {
-        std::array<char, 127> characters;
-        std::iota(characters.begin(), characters.end(), char(1));
-        std::array<int, 128> widths = {};
-        CSize extent(0, 0);
-        ::GetTextExtentExPoint(m_dc, characters.data(), int(characters.size()), 0, nullptr,
-                               widths.data() + 1, &extent);
-        std::adjacent_difference(widths.begin(), widths.end(), widths.begin());
-        return widths;
-    }
-
-private:
-    CClientDC m_dc;
-    Selected m_font;
-};
-
-// The widest and the highest of pieces of text. Of those whose width is the sum of their
-// characters' only the widest is measured: the platform takes its time for each.
-class LargestPiece
-{
-public:
-    explicit LargestPiece(TextMeasure& measure)
-        : m_measure(measure)
-        , m_widths(measure.CharacterWidths())
-    {}
-
-    void Add(std::string_view piece)
-    {
-        int width = 0;
-        for (const char character : piece)
-        {
-            if (static_cast<unsigned char>(character) >= m_widths.size())
-            {
-                Measure(piece);
-                return;
-            }
-            width += m_widths[size_t(character)];
-        }
-        if (width > m_widestSum || m_widest.empty())
-        {
-            m_widestSum = width;
-            m_widest = piece;
-        }
-    }
-
-    CSize Size()
-    {
-        Measure(m_widest);
-        return m_size;
-    }
-
-private:
-    void Measure(std::string_view piece)
-    {
-        const CSize extent = m_measure.Extent(piece);
-        m_size.cx = std::max(m_size.cx, extent.cx);
-        m_size.cy = std::max(m_size.cy, extent.cy);
-    }
-
-    TextMeasure& m_measure;
-    std::array<int, 128> m_widths;
-    std::string_view m_widest;
-    int m_widestSum = 0;
-    CSize m_size = CSize(0, 0);
-};
 
 void Place(const CWnd& part, const CRect& place)
 {
@@ -153,52 +55,35 @@ void CZepMsgBoxDlg::CalcStdSizes()
 
 void CZepMsgBoxDlg::SplitText()
 {
-    const std::string_view message(m_message, size_t(m_message.GetLength()));
     const size_t limit = dialogs::LineLimit(::GetSystemMetrics(SM_CXSCREEN));
+    const bool themed = dialogs::VisualStyles();
+    // Every change of the size comes here.
+    if (m_splitMessage == m_message && m_splitLimit == limit && m_splitThemed == themed)
+    {
+        return;
+    }
+    const std::string_view message(m_message, size_t(m_message.GetLength()));
     m_displayText = dialogs::SplitLines(message, limit, dialogs::CodePage(::GetACP())).c_str();
-    if (VisualStyles())
+    if (themed)
     {
         m_displayText += "\r\n";
     }
+    m_splitMessage = m_message;
+    m_splitLimit = limit;
+    m_splitThemed = themed;
 }
 
 void CZepMsgBoxDlg::GetStaticTextSize(const CString& text, int& width, int& height)
 {
-    TextMeasure measure(*this);
-    LargestPiece largest(measure);
-    std::string_view rest(text, size_t(text.GetLength()));
-    // It is meant that a text of several lines counts one more: room below it. And that what ends
-    // its lines is measured along with them.
-    int lines = 1;
-    size_t end = rest.find('\n');
-    if (end == std::string_view::npos)
-    {
-        largest.Add(rest);
-    }
-    else
-    {
-        for (; end != std::string_view::npos; end = rest.find('\n'))
-        {
-            largest.Add(rest.substr(0, end));
-            ++lines;
-            rest.remove_prefix(end + 1);
-        }
-        if (!rest.empty())
-        {
-            largest.Add(rest);
-            ++lines;
-        }
-    }
-    const CSize size = largest.Size();
-    width = std::max(width, int(size.cx)) + (VisualStyles() ? ThemedExtra : 0);
-    height = size.cy * lines;
+    dialogs::TextMeasure measure(*this);
+    const CSize size = measure.Lines({text, size_t(text.GetLength())}, width);
+    width = size.cx;
+    height = size.cy;
 }
 
 int CZepMsgBoxDlg::GetTitleWidth()
 {
-    CString title;
-    GetWindowText(title);
-    return TextMeasure(*this).Extent({title, size_t(title.GetLength())}).cx;
+    return dialogs::TextMeasure(*this).Title(*this);
 }
 
 void CZepMsgBoxDlg::GetButtonsSize(int& width, int& height)
@@ -219,16 +104,17 @@ void CZepMsgBoxDlg::SizeToText()
         COnBoardUIGeneral::InOnBoardMode()
             ? RescaledRect(CRect(0, 0, m_standardTextWidth, 0), metrics::OnBoardScale).Width()
             : m_standardTextWidth;
-    int height = 0;
-    GetStaticTextSize(m_displayText, width, height);
 
     CRect window;
     GetWindowRect(&window);
     CRect client;
     GetClientRect(&client);
     dialogs::MessageContent content;
-    content.text = CSize(width, height);
-    content.titleWidth = GetTitleWidth();
+    {
+        dialogs::TextMeasure measure(*this);
+        content.text = measure.Lines({m_displayText, size_t(m_displayText.GetLength())}, width);
+        content.titleWidth = measure.Title(*this);
+    }
     content.buttons = int(m_buttons.size());
     content.area = m_area;
     content.frame = window.Size() - client.Size();
@@ -343,12 +229,7 @@ void CZepMsgBoxDlg::ShowIcon()
     dialogs::LoadPictureOver(picture, UINT(m_iconId),
                              COnBoardUIGeneral::InOnBoardMode() ? palette::Panel
                                                                 : ::GetSysColor(COLOR_3DFACE));
-    // What the control loaded itself is nobody's once it is replaced.
-    const HBITMAP before = m_icon.SetBitmap(picture);
-    if (before != nullptr && before != HBITMAP(m_iconPicture))
-    {
-        ::DeleteObject(before);
-    }
+    m_icon.SetBitmap(picture);
     m_iconPicture.DeleteObject();
     if (picture.GetSafeHandle() != nullptr)
     {

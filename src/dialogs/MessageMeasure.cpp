@@ -1,0 +1,124 @@
+#include "dialogs/MessageMeasure.h"
+
+#include "CustomDialog.h"
+#include "OnBoardUIGeneral.h"
+
+#include <uxtheme.h>
+
+#include <algorithm>
+#include <numeric>
+
+namespace dialogs {
+
+bool VisualStyles()
+{
+    return ::IsAppThemed() && ::IsThemeActive();
+}
+
+TextMeasure::TextMeasure(CWnd& box)
+    : m_dc(&box)
+    , m_font(m_dc, COnBoardUIGeneral::InOnBoardMode()
+                       ? CCustomDialog::m_OBStaticTextFont.GetSafeHandle()
+                       : nullptr)
+{}
+
+CSize TextMeasure::Extent(std::string_view text)
+{
+    CSize extent(0, 0);
+    ::GetTextExtentPoint32(m_dc, text.data(), int(text.size()), &extent);
+    return extent;
+}
+
+TextMeasure::Widths TextMeasure::CharacterWidths()
+{
+    std::array<char, std::tuple_size_v<Widths> - 1> characters; // all but the null character
+    std::iota(characters.begin(), characters.end(), char(1));
+    Widths widths = {};
+    CSize extent(0, 0);
+    ::GetTextExtentExPoint(m_dc, characters.data(), int(characters.size()), 0, nullptr,
+                           widths.data() + 1, &extent);
+    std::adjacent_difference(widths.begin(), widths.end(), widths.begin());
+    return widths;
+}
+
+// The widest and the highest of pieces of text. Of those whose width is the sum of their
+// characters' only the widest is measured: the platform takes its time for each.
+class TextMeasure::LargestPiece
+{
+public:
+    explicit LargestPiece(TextMeasure& measure)
+        : m_measure(measure)
+        , m_widths(measure.CharacterWidths())
+    {}
+
+    void Add(std::string_view piece)
+    {
+        int width = 0;
+        for (const char character : piece)
+        {
+            if (static_cast<unsigned char>(character) >= m_widths.size())
+            {
+                Measure(piece);
+                return;
+            }
+            width += m_widths[size_t(character)];
+        }
+        if (width > m_widestSum || m_widest.empty())
+        {
+            m_widestSum = width;
+            m_widest = piece;
+        }
+    }
+
+    CSize Size()
+    {
+        Measure(m_widest);
+        return m_size;
+    }
+
+private:
+    void Measure(std::string_view piece)
+    {
+        const CSize extent = m_measure.Extent(piece);
+        m_size.cx = std::max(m_size.cx, extent.cx);
+        m_size.cy = std::max(m_size.cy, extent.cy);
+    }
+
+    TextMeasure& m_measure;
+    const Widths m_widths;
+    std::string_view m_widest;
+    int m_widestSum = 0;
+    CSize m_size = CSize(0, 0);
+};
+
+CSize TextMeasure::Lines(std::string_view text, int width)
+{
+    constexpr int themedExtra = 5; // pixels of width
+    LargestPiece largest(*this);
+    int lines = 1;
+    size_t end = text.find('\n');
+    const bool several = end != std::string_view::npos;
+    for (; end != std::string_view::npos; end = text.find('\n'))
+    {
+        largest.Add(text.substr(0, end));
+        ++lines;
+        text.remove_prefix(end + 1);
+    }
+    if (!text.empty())
+    {
+        largest.Add(text);
+        lines += several ? 1 : 0;
+    }
+    const CSize size = largest.Size();
+    return CSize(std::max(width, int(size.cx)) + (VisualStyles() ? themedExtra : 0),
+                 size.cy * lines);
+}
+
+int TextMeasure::Title(const CWnd& window)
+{
+    CString title;
+    window.GetWindowText(title);
+    return Extent({title, size_t(title.GetLength())}).cx;
+}
+
+} // namespace dialogs
