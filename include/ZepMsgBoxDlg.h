@@ -89,6 +89,7 @@ private:
     bool m_splitThemed = false;
     int m_standardTextWidth = 0; // of the text's control in the template
     std::optional<APPMODE> m_laidOutFor;
+    bool m_sizing = false; // to the lines that the text has
 
     void FollowMode();
     void TakeLook();

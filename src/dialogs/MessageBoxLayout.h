@@ -164,17 +164,22 @@ inline MessagePlaces PlaceMessageParts(const MessageUnits& units, const MessageS
     return places;
 }
 
-// A window's place with its middle over another rectangle's, moved into the bounds; its upper left
-// corner stays in them whatever its size.
-inline CRect MessageCentred(const CSize& size, const CRect& over, const CRect& bounds)
+// A window's place with its middle over another rectangle's.
+inline CRect MessageCentred(const CSize& size, const CRect& over)
 {
-    const auto inside = [](int place, int length, int from, int to) {
-        return std::max(std::min(place, to - length), from);
-    };
     const CPoint middle = over.CenterPoint();
-    return CRect(CPoint(inside(middle.x - size.cx / 2, size.cx, bounds.left, bounds.right),
-                        inside(middle.y - size.cy / 2, size.cy, bounds.top, bounds.bottom)),
-                 size);
+    return CRect(CPoint(middle.x - size.cx / 2, middle.y - size.cy / 2), size);
+}
+
+// A place moved into bounds; its upper left corner stays in them whatever its size.
+inline CRect MessageMovedInto(const CRect& place, const CRect& bounds)
+{
+    const auto moved = [](int from, int length, int first, int end) {
+        return std::max(std::min(from, end - length), first);
+    };
+    return CRect(CPoint(moved(place.left, place.Width(), bounds.left, bounds.right),
+                        moved(place.top, place.Height(), bounds.top, bounds.bottom)),
+                 place.Size());
 }
 
 } // namespace dialogs

@@ -122,6 +122,7 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     // A box can be shown again: its parts begin anew with each window.
     m_buttonPressed = 0;
     m_laidOutFor.reset();
+    m_sizing = false;
     m_buttons.clear();
     m_text = std::make_unique<dialogs::MessageText>();
     CCustomDialog::OnInitDialog();
@@ -236,7 +237,7 @@ void CZepMsgBoxDlg::OnSize(UINT type, int width, int height)
 {
     const WindowAlive alive(*this);
     CCustomDialog::OnSize(type, width, height);
-    if (alive)
+    if (alive && !m_sizing)
     {
         SplitText();
     }

@@ -125,12 +125,14 @@ void CZepMsgBoxDlg::SizeToText()
 
     const CSize growth = dialogs::MessageGrowth(size.client, client.Size());
     const CRect place = CentredPlace(window.Size() + growth + growth);
+    m_sizing = true;
     ::SetWindowPos(m_hWnd, nullptr, place.left, place.top, place.Width(), place.Height(),
                    PlaceOnly);
     if (!alive)
     {
         return;
     }
+    m_sizing = false;
     GetClientRect(&client);
     const dialogs::MessagePlaces places = dialogs::PlaceMessageParts(
         units, size, client.Size(), m_captionHeight, int(m_buttons.size()));
@@ -151,16 +153,25 @@ CRect CZepMsgBoxDlg::CentredPlace(const CSize& size) const
 {
     const HWND owner = ::GetWindow(m_hWnd, GW_OWNER);
     const bool over = owner != nullptr && ::IsWindowVisible(owner) && !::IsIconic(owner);
-    MONITORINFO monitor = {};
-    monitor.cbSize = sizeof(monitor);
-    ::GetMonitorInfo(::MonitorFromWindow(over ? owner : m_hWnd, MONITOR_DEFAULTTOPRIMARY),
-                     &monitor);
-    CRect middle = monitor.rcWork;
+    CRect work;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &work, 0);
+    CRect middle = work;
     if (over)
     {
         ::GetWindowRect(owner, &middle);
     }
-    return dialogs::MessageCentred(size, middle, monitor.rcWork);
+    const CRect place = dialogs::MessageCentred(size, middle);
+    CRect shown;
+    shown.IntersectRect(&place, &work);
+    if (over && shown != place)
+    {
+        // On another screen, or not whole on this one.
+        MONITORINFO monitor = {};
+        monitor.cbSize = sizeof(monitor);
+        ::GetMonitorInfo(::MonitorFromWindow(owner, MONITOR_DEFAULTTOPRIMARY), &monitor);
+        work = monitor.rcWork;
+    }
+    return dialogs::MessageMovedInto(place, work);
 }
 
 // Following the display mode --------------------------------------------------------------------

@@ -197,12 +197,11 @@ TEST(MessageBoxLayout, TheWindowGrowsAboutItsMiddleAndStaysOnTheScreen)
 {
     EXPECT_EQ(MessageGrowth(CSize(324, 114), CSize(291, 119)), CSize(17, -1));
     EXPECT_EQ(MessageGrowth(CSize(300, 100), CSize(300, 100)), CSize(1, 1));
+    EXPECT_EQ(MessageCentred(CSize(100, 50), CRect(200, 200, 400, 300)), CRect(250, 225, 350, 275));
     const CRect screen(0, 0, 800, 600);
-    EXPECT_EQ(MessageCentred(CSize(100, 50), CRect(200, 200, 400, 300), screen),
-              CRect(250, 225, 350, 275));
-    EXPECT_EQ(MessageCentred(CSize(100, 50), CRect(790, 590, 800, 600), screen),
-              CRect(700, 550, 800, 600));
-    EXPECT_EQ(MessageCentred(CSize(1000, 50), CRect(0, 0, 10, 10), screen), CRect(0, 0, 1000, 50));
+    EXPECT_EQ(MessageMovedInto(CRect(10, 20, 60, 70), screen), CRect(10, 20, 60, 70));
+    EXPECT_EQ(MessageMovedInto(CRect(790, 590, 890, 640), screen), CRect(700, 550, 800, 600));
+    EXPECT_EQ(MessageMovedInto(CRect(-100, -9, 900, 41), screen), CRect(0, 0, 1000, 50));
 }
 
 } // namespace

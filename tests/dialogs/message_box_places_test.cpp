@@ -34,6 +34,9 @@ TEST_F(MessageBoxTest, AShortBoxIsExactInBothLooks)
             EXPECT_EQ(box.PlaceOf(box.Button(0)), each.yes + up);
             EXPECT_EQ(box.PlaceOf(box.Button(1)), each.no + up);
             EXPECT_NE(box.GetExStyle() & WS_EX_TOPMOST, 0U);
+            const CPoint middle = WindowRectOf(box).CenterPoint();
+            EXPECT_NEAR(middle.x, 1280 / 2, 1);
+            EXPECT_NEAR(middle.y, 1024 / 2, 1);
             CString title;
             box.GetWindowText(title);
             EXPECT_EQ(title, "Flight");

@@ -35,24 +35,20 @@ protected:
 
 TEST_F(SearchStatusBarTest, ASearchGainsADotEachSecond)
 {
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        const ModeScope scope(mode);
-        Bar& bar = AddBar();
-        const DWORD start = ::GetTickCount();
-        bar.StartSearchProgress();
-        EXPECT_EQ(bar.Text(), "Searching.");
-        ASSERT_TRUE(PumpUntil([&] { return bar.Text() == "Searching. ."; }));
-        const DWORD passed = ::GetTickCount() - start;
-        EXPECT_GE(passed, 900U);
-        EXPECT_LE(passed, 1'500U);
-        bar.StopSearchProgress();
-        Remove(bar);
-    }
+    Bar& bar = AddBar();
+    const DWORD start = ::GetTickCount();
+    bar.StartSearchProgress();
+    EXPECT_EQ(bar.Text(), "Searching.");
+    ASSERT_TRUE(PumpUntil([&] { return bar.Text() == "Searching. ."; }));
+    const DWORD passed = ::GetTickCount() - start;
+    EXPECT_GE(passed, 900U);
+    EXPECT_LE(passed, 1'800U);
+    bar.StopSearchProgress();
 }
 
 TEST_F(SearchStatusBarTest, TheDotsBeginAgainAfterFiveAndGoOnWithTheNextSearch)
 {
+    const ModeScope scope(EFB);
     Bar& bar = AddBar();
     bar.m_period = 10;
     bar.StartSearchProgress();
