@@ -96,7 +96,6 @@ private:
     void ShowIcon();
     HFONT StandardFont() const;
     CRect CentredPlace(const CSize& size) const;
-    void PlaceParts(const CSize& text, const CSize& box);
     int FocusedButton() const;
     int DefaultButton() const;
     void Focus(int button);

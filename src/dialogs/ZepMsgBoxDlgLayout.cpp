@@ -137,7 +137,10 @@ void CZepMsgBoxDlg::SizeToText()
     const dialogs::MessagePlaces places = dialogs::PlaceMessageParts(
         units, size, client.Size(), m_captionHeight, int(m_buttons.size()));
     Place(m_icon, places.icon);
-    Place(*m_text, places.text);
+    if (alive)
+    {
+        Place(*m_text, places.text);
+    }
     for (size_t index = 0; alive && index < m_buttons.size(); ++index)
     {
         Place(*m_buttons[index], places.Button(int(index)));
@@ -180,6 +183,11 @@ void CZepMsgBoxDlg::FollowMode()
 {
     const WindowAlive alive(*this);
     m_laidOutFor = COnBoardUIGeneral::GetAppMode();
+    const int focused = FocusedButton();
+    if (focused >= 0)
+    {
+        SetDefID(UINT(m_buttons[size_t(focused)]->GetDlgCtrlID()));
+    }
     CalcStdSizes();
     ShowIcon();
     TakeLook();
@@ -187,8 +195,7 @@ void CZepMsgBoxDlg::FollowMode()
     {
         SizeToText();
     }
-    const int focused = alive ? FocusedButton() : -1;
-    if (focused >= 0)
+    if (alive && focused >= 0)
     {
         // The platform's button and the library's each remember a focus of their own.
         m_buttons[size_t(focused)]->SendMessage(WM_SETFOCUS);
