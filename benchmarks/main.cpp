@@ -89,6 +89,7 @@ std::vector<Row> AllRows()
         &DialogRows,
         &ToolbarRows,
         &PolygonRows,
+        &MessageBoxRows,
     };
     // clang-format on
     for (const auto part : parts)

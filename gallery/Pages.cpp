@@ -29,11 +29,11 @@ constexpr PageEntry AllPages[] = {
     {"labels", "Labels and groups", &Make<LabelsPage>},
     {"edits", "Edits", &Make<EditsPage>},
     {"dialogs", "Dialogs", &Make<DialogsPage>},
+    {"messagebox", "Message boxes", &Make<MessageBoxPage>},
+    {"searchbar", "Search bar", &Make<SearchBarPage>},
     {"toolbar", "Tool bar", &Make<ToolbarPage>},
     {"icons", "Icons", &Make<IconsPage>},
     {"polygon", "View polygon", &Make<PolygonPage>},
-    {"messagebox", "Message boxes", &Make<MessageBoxPage>},
-    {"searchbar", "Search bar", &Make<SearchBarPage>},
 };
 // clang-format on
 
