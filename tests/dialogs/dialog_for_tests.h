@@ -57,6 +57,8 @@ protected:
     {
         constexpr UINT Step = WM_APP + 0x3E00;
         constexpr WPARAM Steps = 4;
+        constexpr UINT_PTR Arrival = 0x3E00;
+        constexpr UINT ArrivalPeriod = 15; // ms
         if (message == WM_CREATE && inCreate)
         {
             inCreate();
@@ -75,11 +77,29 @@ protected:
                                                  between(m_dragFrom.y, m_dragTo.y)));
             if (wParam == Steps)
             {
-                SendPointer(MOUSEEVENTF_LEFTUP, m_dragTo);
+                SetTimer(Arrival, ArrivalPeriod, nullptr);
             }
             else
             {
                 PostMessage(Step, wParam + 1);
+            }
+        }
+        if (message == WM_TIMER && wParam == Arrival)
+        {
+            // The display tells of each move once more, on a busy machine some time later: until
+            // that has happened the pointer may be put back.
+            CPoint now;
+            ::GetCursorPos(&now);
+            m_arrivals = now == m_dragTo ? m_arrivals + 1 : 0;
+            if (m_arrivals < 3)
+            {
+                SendPointer(MOUSEEVENTF_MOVE, m_dragTo);
+            }
+            else
+            {
+                m_arrivals = 0;
+                KillTimer(Arrival);
+                SendPointer(MOUSEEVENTF_LEFTUP, m_dragTo);
             }
         }
         return Scripted<CCustomDialog>::WindowProc(message, wParam, lParam);
@@ -88,6 +108,7 @@ protected:
 private:
     CPoint m_dragFrom;
     CPoint m_dragTo;
+    int m_arrivals = 0; // how often the pointer was found there
 
     // Without pumping: this is inside the loop.
     static void SendPointer(DWORD what, CPoint point)
