@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <intrin.h>
+#include <iterator>
 
 namespace {
 
@@ -54,4 +55,24 @@ std::vector<HWND> TopLevelWindows()
     std::vector<HWND> windows;
     ::EnumThreadWindows(::GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(&windows));
     return windows;
+}
+
+size_t AllocatedBytes()
+{
+    // The run-time library may have a heap of its own.
+    HANDLE heaps[32] = {};
+    const DWORD count = std::min<DWORD>(::GetProcessHeaps(DWORD(std::size(heaps)), heaps),
+                                        DWORD(std::size(heaps)));
+    size_t bytes = 0;
+    for (DWORD index = 0; index < count; ++index)
+    {
+        ::HeapLock(heaps[index]);
+        PROCESS_HEAP_ENTRY entry = {};
+        while (::HeapWalk(heaps[index], &entry))
+        {
+            bytes += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
+        }
+        ::HeapUnlock(heaps[index]);
+    }
+    return bytes;
 }

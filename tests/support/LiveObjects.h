@@ -12,3 +12,6 @@ int GraphicsObjects();
 
 // Top-level windows of this thread, without the input method's own.
 std::vector<HWND> TopLevelWindows();
+
+// Bytes that the process's heaps have handed out and not got back.
+size_t AllocatedBytes();

@@ -75,6 +75,12 @@ TEST_F(SupportTest, LiveObjectsAreCounted)
         ::DeleteObject(object);
     }
     EXPECT_EQ(GraphicsObjects(), before);
+
+    const size_t bytes = AllocatedBytes();
+    auto kept = std::make_unique<char[]>(50'000);
+    EXPECT_GE(AllocatedBytes(), bytes + 50'000);
+    kept.reset();
+    EXPECT_LT(AllocatedBytes(), bytes + 50'000);
 }
 
 TEST_F(SupportTest, PumpingEndsWhenItShould)

@@ -1,0 +1,67 @@
+// Nothing grows with the windows that come and go: graphics objects and windows from the process's
+// own tables, memory from its heap.
+
+#include "robust/Subjects.h"
+#include "support/LiveObjects.h"
+#include "support/WindowTest.h"
+
+#include <cstdlib>
+
+namespace {
+
+class Leaks : public WindowTest, public testing::WithParamInterface<size_t>
+{
+protected:
+    static const Subject& Tested() { return Subjects()[GetParam()]; }
+
+    // One life, through the modes.
+    void Live()
+    {
+        std::unique_ptr<CWnd> window = Tested().make(Host());
+        ASSERT_NE(window, nullptr);
+        for (const APPMODE mode : {ONBOARD, EFB, STD})
+        {
+            COnBoardUIGeneral::SetAppMode(mode);
+            window->ShowWindow(SW_HIDE);
+            window->ShowWindow(SW_SHOWNA);
+            window->RedrawWindow(nullptr, nullptr,
+                                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+            window->SendMessage(WM_KEYDOWN, VK_DOWN, 1);
+            window->SendMessage(WM_KEYUP, VK_DOWN, LPARAM(0xC0000001));
+        }
+        window.reset();
+        PumpAll();
+        Host().Forget();
+    }
+};
+
+TEST_P(Leaks, ManyLivesLeaveNothing)
+{
+    const char* const asked = std::getenv("ONBOARDUI_LEAK_CYCLES");
+    const int cycles = asked != nullptr ? std::atoi(asked) : 12;
+    for (int warm = 0; warm < 4; ++warm)
+    {
+        Live();
+    }
+    const int objects = GraphicsObjects();
+    const size_t windows = TopLevelWindows().size();
+    const size_t kept = AllocatedBytes();
+    for (int cycle = 0; cycle < cycles; ++cycle)
+    {
+        Live();
+    }
+    EXPECT_EQ(GraphicsObjects(), objects) << Tested().name;
+    EXPECT_EQ(TopLevelWindows().size(), windows) << Tested().name;
+    // The platform keeps a little for itself that comes and goes; a leak grows with the cycles.
+    const auto growth = std::int64_t(AllocatedBytes()) - std::int64_t(kept);
+    EXPECT_LT(growth, cycles * 64) << Tested().name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, Leaks, testing::Range(size_t(0), Subjects().size()),
+                         [](const auto& info) {
+                             std::string name = Subjects()[info.param].name;
+                             std::replace(name.begin(), name.end(), ' ', '_');
+                             return name;
+                         });
+
+} // namespace
