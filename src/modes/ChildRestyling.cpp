@@ -107,7 +107,9 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
 {
     const auto* change = reinterpret_cast<const ModifyChildWndsData*>(data);
     // The system's enumeration visits grandchildren too.
-    if (change == nullptr || child == nullptr || ::GetParent(child) != change->parent)
+    // Without a parent the record would take in every top-level window.
+    if (change == nullptr || child == nullptr || change->parent == nullptr ||
+        ::GetParent(child) != change->parent)
     {
         return TRUE;
     }

@@ -7,6 +7,7 @@
 #include "paint/Palette.h"
 
 #include <iterator>
+#include <vector>
 
 ModifyChildWndsData::ModifyChildWndsData()
     : parent(nullptr)
@@ -96,8 +97,14 @@ void ChangeDialogFont(CWnd* wnd, CFont* font)
     const HWND window = wnd->GetSafeHwnd();
     wnd->SetFont(font, TRUE);
     const auto handle = WPARAM(font == nullptr ? nullptr : font->GetSafeHandle());
+    // Collected first: a child may be gone after its message, and its place among the others too.
+    std::vector<HWND> children;
     for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        children.push_back(child);
+    }
+    for (HWND child : children)
     {
         ::SendMessage(child, WM_SETFONT, handle, TRUE);
     }

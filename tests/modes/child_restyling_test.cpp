@@ -110,6 +110,14 @@ TEST_F(ChildRestylingTest, OnlyDirectChildrenAreTouched)
     EXPECT_EQ(PlaceOf(box).Width(), 224);
 
     EXPECT_EQ(ModifyChildsForAppMode(box, 0), 1);
+
+    // A record that names no parent is not one of all top-level windows.
+    const CRect place = WindowRectOf(Host());
+    ModifyChildWndsData nobody;
+    nobody.scale = Enlarging;
+    nobody.mode = ONBOARD;
+    EXPECT_EQ(ModifyChildsForAppMode(Host(), reinterpret_cast<LPARAM>(&nobody)), 1);
+    EXPECT_EQ(WindowRectOf(Host()), place);
 }
 
 TEST_F(ChildRestylingTest, AbsurdFactorsDoNoHarm)

@@ -5,6 +5,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <functional>
 
 namespace {
 
@@ -91,6 +92,49 @@ TEST_F(OnBoardHelpersTest, SystemColoursComeAndGoWithTheOnBoardModes)
     }
     const ModeScope scope(ONBOARD);
     EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHT), own) << "the mode alone leaves them alone";
+}
+
+// Ends, and does something before, when it gets its font.
+class LeavingLabel : public CStatic
+{
+public:
+    std::function<void()> last;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_SETFONT)
+        {
+            last();
+            DestroyWindow();
+            return 0;
+        }
+        return CStatic::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(OnBoardHelpersTest, AChildThatEndsDoesNotKeepTheFontFromTheOthers)
+{
+    auto& panel = Add<CWnd>(CRect(0, 0, 200, 200));
+    const CRect place(0, 0, 50, 20);
+    auto& first = Add<CStatic>(place);
+    auto& leaving = Add<LeavingLabel>(place);
+    auto& second = Add<CStatic>(place);
+    auto& taken = Add<CStatic>(place);
+    for (CWnd* child : {static_cast<CWnd*>(&first), static_cast<CWnd*>(&leaving),
+                        static_cast<CWnd*>(&second), static_cast<CWnd*>(&taken)})
+    {
+        child->SetParent(&panel);
+        ::SetWindowPos(*child, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    }
+    leaving.last = [&] { taken.DestroyWindow(); };
+    MessageLog firstLog(first, {WM_SETFONT});
+    MessageLog secondLog(second, {WM_SETFONT});
+    ChangeDialogFont(&panel, nullptr);
+    EXPECT_EQ(leaving.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(taken.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(firstLog.Count(WM_SETFONT), 1);
+    EXPECT_EQ(secondLog.Count(WM_SETFONT), 1);
 }
 
 TEST_F(OnBoardHelpersTest, ADialogsFontReachesItsDirectChildren)
