@@ -43,7 +43,9 @@ void CFauxButton::SetLeftRight(int left, int right)
 
 void CFauxButton::ShiftArea(int dx, int dy)
 {
-    m_area.OffsetRect(dx, dy);
+    const auto moved = [](LONGLONG edge, int by) { return scroll::Saturated(edge + by); };
+    m_area.SetRect(moved(m_area.left, dx), moved(m_area.top, dy), moved(m_area.right, dx),
+                   moved(m_area.bottom, dy));
 }
 
 int CFauxButton::GetVCenter() const

@@ -1,5 +1,7 @@
 #include "FauxDropButton.h"
 
+#include "scroll/FauxScrollGeometry.h"
+
 CFauxDropButton::CFauxDropButton() = default;
 
 CFauxDropButton::~CFauxDropButton() = default;
@@ -29,7 +31,7 @@ void CFauxDropButton::ReDrawOnBoard(CDC& dc, int pressed, int enabled)
     CalculateOBTriangle(points, 6, SB_VERT, false);
     for (POINT& point : points)
     {
-        point.y += ArrowDrop;
+        point.y = scroll::Saturated(LONGLONG{point.y} + ArrowDrop);
     }
     // Meant: the arrow takes the opposite face of the button, so that it stands out in both states.
     const CBrush& opposite = pressed ? m_normalBrush : m_pressedBrush;

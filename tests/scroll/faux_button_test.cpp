@@ -47,6 +47,25 @@ TEST(FauxButton, ArrowPointsFollowTheArea)
     }
 }
 
+TEST(FauxButton, AreasAtTheEdgeOfTheNumbersStayThere)
+{
+    CFauxDropButton part;
+    part.SetArea(CRect(10, 20, INT_MAX - 5, INT_MAX));
+    part.ShiftArea(10, 1);
+    EXPECT_EQ(part.GetArea(), CRect(20, 21, INT_MAX, INT_MAX));
+    part.SetArea(CRect(INT_MIN, INT_MIN + 3, 0, 7));
+    part.ShiftArea(INT_MIN, -4);
+    EXPECT_EQ(part.GetArea(), CRect(INT_MIN, INT_MIN, INT_MIN, 3));
+    // Parts so far away are painted, to no effect and without harm.
+    Canvas canvas(80, 80);
+    for (const CRect& away : {CRect(10, INT_MAX - 60, 65, INT_MAX), CRect(0, INT_MAX, 9, INT_MAX)})
+    {
+        part.SetArea(away);
+        part.ReDraw(canvas.DC(), Pressed, Enabled, ONBOARD);
+    }
+    EXPECT_TRUE(canvas.IsUntouched());
+}
+
 TEST(FauxButton, TheStandardLookIsThePlatforms)
 {
     CFauxScrollButton up(true, SB_VERT), down(false, SB_VERT), left(true, SB_HORZ),
