@@ -37,8 +37,8 @@ public:
     static CFont& GetStdFont();
 
     // From now on keys scroll nothing and change nothing but the clipboard, by Ctrl+C and
-    // Ctrl+Insert; the bar scrolls and the pointer selects as before. There is no way back. The host
-    // still sets the text, and in the standard mode so does the platform's context menu.
+    // Ctrl+Insert; the bar scrolls and the pointer selects as before. There is no way back. The
+    // host still sets the text, and in the standard mode so does the platform's context menu.
     void SetFauxReadOnly() { m_fauxReadOnly = true; }
 
     // Take the vertical bar away, and give it back to an edit that was made with one. Text that
@@ -120,8 +120,9 @@ private:
     bool m_following = false;
     bool m_updating = false;
     bool m_leaveRequested = false;
-    int m_lines = 0;   // of the text, when the bar was last taken from it
-    int m_lastTop = 0; // the furthest that the text scrolls
+    APPMODE m_trackedIn = STD; // the mode in which the press began
+    int m_lines = 0;           // of the text, when the bar was last taken from it
+    int m_lastTop = 0;         // the furthest that the text scrolls
     std::unique_ptr<scroll::BarPainter> m_painter;
 
     struct View

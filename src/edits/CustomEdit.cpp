@@ -158,6 +158,10 @@ int CCustomEdit::OnCreate(LPCREATESTRUCT cs)
 bool CCustomEdit::FollowMode()
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if (m_scrolling && COnBoardUIGeneral::GetAppMode() != m_trackedIn)
+    {
+        EndTracking(); // a change between two on-board modes sends no message either
+    }
     if (onBoard != m_onBoard && !m_following && GetSafeHwnd() != nullptr && IsReady())
     {
         const WindowAlive alive(*this);

@@ -81,6 +81,7 @@ void CCustomEdit::ProcessVScroll()
         return;
     }
     m_scrolling = true;
+    m_trackedIn = COnBoardUIGeneral::GetAppMode();
     if (DraggingThumb())
     {
         m_leaveRequested = true;

@@ -112,6 +112,11 @@ TEST_F(EditOnBoard, WhateverCutsAPressOffEndsIt)
              COnBoardUIGeneral::SetAppMode(STD);
              edit.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
          }},
+        {"another on-board mode",
+         [](EditForTests& edit, HostWindow&) {
+             COnBoardUIGeneral::SetAppMode(EFB);
+             edit.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+         }},
         {"destroyed", [](EditForTests& edit, HostWindow&) { edit.DestroyWindow(); }}};
     for (const auto part : {Second, Thumb})
     {
