@@ -1,0 +1,122 @@
+// The list box: range, page and visibility of its bars, taken from rows and size.
+
+#include "CustomListBox.h"
+#include "modes/WindowAlive.h"
+#include "scroll/NcBands.h"
+
+#include <algorithm>
+
+bool CCustomListBox::VerifyAllowVScrollBar()
+{
+    return !InColumns();
+}
+
+bool CCustomListBox::VerifyAllowHScrollBar()
+{
+    return (m_platformBars & WS_HSCROLL) != 0 || InColumns();
+}
+
+void CCustomListBox::UpdateScrollData()
+{
+    const WindowAlive alive(*this);
+    UpdateVScrollData();
+    if (alive)
+    {
+        UpdateHScrollData();
+    }
+}
+
+void CCustomListBox::UpdateVScrollData()
+{
+    const int count = Ask(LB_GETCOUNT);
+    if (count <= 0)
+    {
+        m_vBar.SetScrollPos(0, TRUE);
+    }
+    bool needed = false;
+    m_itemHeight = Ask(LB_GETITEMHEIGHT, 0);
+    if (m_itemHeight > 0)
+    {
+        CRect client;
+        GetClientRect(&client);
+        const int visible = RowsInSight(count, client.Height());
+        needed = visible < count && VerifyAllowVScrollBar();
+        if (needed)
+        {
+            m_vBar.SetScrollRange(0, count - visible + 1, TRUE);
+            m_vBar.SetPageSize(visible <= 1 ? 1 : visible - 1, TRUE);
+        }
+    }
+    if (!needed)
+    {
+        m_vBar.SetScrollRange(0, 0, TRUE);
+    }
+    ShowBar(SB_VERT, needed);
+}
+
+void CCustomListBox::UpdateHScrollData()
+{
+    // A step is an average character, or a column in a list of columns. The range has no position
+    // to spare, unlike the vertical one: a horizontal bar divides its track by all of its steps.
+    int hidden = 0;
+    int page = 1;
+    const int count = Ask(LB_GETCOUNT);
+    if (count > 0 && VerifyAllowHScrollBar())
+    {
+        CRect client;
+        GetClientRect(&client);
+        int step = AverageCharWidth();
+        int content = 0;
+        if (InColumns())
+        {
+            CRect row;
+            Ask(LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+            step = std::max(1, row.Width());
+            const int rows = RowsInColumn();
+            const int inSight = std::max(1, client.Width() / step);
+            hidden = std::max(0, (count + rows - 1) / rows - inSight);
+        }
+        else
+        {
+            content = ContentWidth();
+            hidden = std::max(0, (content - client.Width() + step - 1) / step);
+            if (!ApplyHorizontalExtent())
+            {
+                return;
+            }
+        }
+        page = std::max(1, int(client.Width()) / step - 1);
+    }
+    m_hBar.SetScrollRange(0, hidden, TRUE);
+    m_hBar.SetPageSize(page, TRUE);
+    ShowBar(SB_HORZ, hidden > 0);
+}
+
+// The platform scrolls sideways as far as it is told that there is something to see. False when
+// the list did not survive it.
+bool CCustomListBox::ApplyHorizontalExtent()
+{
+    const WindowAlive alive(*this);
+    const int extent = ContentWidth();
+    if (Ask(LB_GETHORIZONTALEXTENT) != extent)
+    {
+        Ask(LB_SETHORIZONTALEXTENT, WPARAM(extent));
+    }
+    return bool(alive);
+}
+
+void CCustomListBox::ShowBar(int axis, bool needed)
+{
+    const bool changed = Needed(axis) != needed;
+    Needed(axis) = needed;
+    if (Bar(axis).ShowScrollBar() != int(needed))
+    {
+        Bar(axis).ShowScrollBar(needed);
+    }
+    if (changed && m_ncSizeDone)
+    {
+        // The new client size comes back as WM_SIZE, which places the bars. Last: it leaves our
+        // code.
+        scroll::RecalculateFrame(*this, false);
+    }
+}
