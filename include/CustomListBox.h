@@ -61,7 +61,8 @@ public:
 
     // Height in pixels of a row for this text in the on-board font: one and a half times the text.
     virtual int GetEntryHeight(const char* text);
-    // Width in pixels of a row's text in the control's font; 0 for rows without text.
+    // Width in pixels of a row's text: in the control's font, and on-board for rows that the list
+    // draws itself in the font that DrawItem takes. 0 for rows without text.
     virtual int GetEntryWidth(int index);
     // Width in pixels of the widest character of the control's font.
     virtual int GetMaxCharWidth();
@@ -131,8 +132,10 @@ protected:
     afx_msg LRESULT OnDeleteString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnResetContent(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
-    // Messages after which every row may be another (LB_DIR, LB_SETCOUNT ...).
+    // Messages after which every row may be another (LB_DIR, LB_SETCOUNT).
     afx_msg LRESULT OnContentReplaced(WPARAM wParam, LPARAM lParam);
+    // Messages that give the same rows another place (LB_SETITEMHEIGHT, LB_SETCOLUMNWIDTH).
+    afx_msg LRESULT OnRowsMeasured(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     // Messages that may scroll the list without a scroll message (LB_SETTOPINDEX, WM_CHAR ...).
     afx_msg LRESULT OnMayScroll(WPARAM wParam, LPARAM lParam);
@@ -168,10 +171,13 @@ protected:
     CFauxScrollBar::ePRESSED m_hPressed = CFauxScrollBar::PRESSED_NONE;
 
 private:
+    static constexpr LONGLONG MaxOffset = 0xFFFF; // pixels: a scroll message holds no more
+
     bool m_onBoard = false;   // the window is laid out for an on-board mode
-    DWORD m_platformBars = 0; // scroll bar styles to give back in the standard mode
+    DWORD m_platformBars = 0; // scroll bar styles that the list was made with or got since
     int m_hostExtent = 0;     // horizontal extent that the host set, pixels
     bool m_leaveRequested = false;
+    APPMODE m_trackedIn = STD;    // the mode in which the press began
     bool m_following = false;     // in FollowMode
     bool m_hostRedraw = true;     // the host's WM_SETREDRAW
     bool m_redrawKnown = false;   // that the platform's redraw is the host's
@@ -181,6 +187,8 @@ private:
     CSize m_onBoardSize;          // what the platform made of it in the on-board mode
     int m_stdItemHeight = 0;      // pixels, in the standard mode; 0: not known
     int m_averageWidth = 0;       // of a character of the font; 0: not measured
+    bool m_made = false;          // made as this object, so that its style was seen whole
+    bool m_refitting = false;     // both bars go at once
     bool m_filling = false;       // the platform's redraw is off while rows are added in a row
     std::map<int, int> m_widths;  // how many rows have a width; kept only with WS_HSCROLL
     std::unique_ptr<scroll::BarPainter> m_vPainter;
@@ -188,15 +196,20 @@ private:
 
     void EnterOnBoard();
     void LeaveOnBoard();
+    void BeginAfresh();
+    void HideBars();
     void EndTracking();
 
     void MeasureRows();
 
     int AverageCharWidth();
+    HFONT RowFont();
     int HeightOfRow(int index);
     int RowsInSight(int count, int height);
     int RowsInColumn();
+    bool FitsWithoutBars();
     int ContentWidth() const;
+    bool CountsWidths();
     void CountWidth(int index, int change);
     void CountAllWidths();
     bool ApplyHorizontalExtent();

@@ -47,13 +47,14 @@ BEGIN_MESSAGE_MAP(CCustomListBox, CListBox)
     ON_WM_HSCROLL()
     ON_WM_TIMER()
     ON_MESSAGE(LB_ADDSTRING, &CCustomListBox::OnAddString)
+    ON_MESSAGE(LB_ADDFILE, &CCustomListBox::OnAddString)
     ON_MESSAGE(LB_INSERTSTRING, &CCustomListBox::OnInsertString)
     ON_MESSAGE(LB_DELETESTRING, &CCustomListBox::OnDeleteString)
     ON_MESSAGE(LB_RESETCONTENT, &CCustomListBox::OnResetContent)
     ON_MESSAGE(LB_DIR, &CCustomListBox::OnContentReplaced)
-    ON_MESSAGE(LB_ADDFILE, &CCustomListBox::OnContentReplaced)
     ON_MESSAGE(LB_SETCOUNT, &CCustomListBox::OnContentReplaced)
-    ON_MESSAGE(LB_SETITEMHEIGHT, &CCustomListBox::OnContentReplaced)
+    ON_MESSAGE(LB_SETITEMHEIGHT, &CCustomListBox::OnRowsMeasured)
+    ON_MESSAGE(LB_SETCOLUMNWIDTH, &CCustomListBox::OnRowsMeasured)
     ON_MESSAGE(WM_SETFONT, &CCustomListBox::OnSetFont)
     ON_MESSAGE(WM_SETREDRAW, &CCustomListBox::OnSetRedraw)
     ON_MESSAGE(WM_CHAR, &CCustomListBox::OnMayScroll)
@@ -109,12 +110,43 @@ CFont& CCustomListBox::GetStdFont()
 void CCustomListBox::PreSubclassWindow()
 {
     CListBox::PreSubclassWindow();
-    m_onBoard = m_following = false; // an object may get another window
-    m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
+    BeginAfresh();
     // A list box that exists already gets no message by which it would notice the mode.
     if (COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
     {
         RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+    }
+}
+
+// An object may get another window, and whatever the last one was in the middle of is over.
+void CCustomListBox::BeginAfresh()
+{
+    // Asked now: later the platform takes the style of a bar that it does not show.
+    m_platformBars = GetStyle() & (WS_VSCROLL | WS_HSCROLL);
+    m_hostExtent = 0;
+    m_averageWidth = 0;
+    m_made = m_onBoard = m_following = m_refitting = false;
+    m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
+    m_tracking = m_leaveRequested = false;
+    m_vPressed = m_hPressed = CFauxScrollBar::PRESSED_NONE;
+    m_lastNcHit = 0;
+    m_filling = m_endPosted = m_redrawKnown = false;
+    m_hostRedraw = true;
+    HideBars();
+    m_vPainter->Invalidate();
+    m_hPainter->Invalidate();
+}
+
+void CCustomListBox::HideBars()
+{
+    m_ncSizeDone = false;
+    m_resizePending = true;
+    m_widths.clear();
+    for (const int axis : {SB_VERT, SB_HORZ})
+    {
+        Needed(axis) = false;
+        Bar(axis).ShowScrollBar(FALSE);
+        Bar(axis).SetScrollRange(0, 0);
     }
 }
 
@@ -124,9 +156,14 @@ int CCustomListBox::OnCreate(LPCREATESTRUCT cs)
     // on-board mode the frame has taken the styles away already.
     const WindowAlive alive(*this);
     scroll::RestoreScrollStyles(*this, m_platformBars);
+    if (!alive)
+    {
+        return -1;
+    }
     const int result = CListBox::OnCreate(cs);
     if (alive)
     {
+        m_made = true;
         // Only a list made by us is known to paint at once, unless it was made not to.
         m_redrawKnown = (GetStyle() & LBS_NOREDRAW) == 0;
         m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
@@ -140,27 +177,36 @@ int CCustomListBox::OnCreate(LPCREATESTRUCT cs)
 
 bool CCustomListBox::FollowMode()
 {
-    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if (onBoard == m_onBoard || m_following || GetSafeHwnd() == nullptr)
+    if (m_tracking && COnBoardUIGeneral::GetAppMode() != m_trackedIn)
     {
-        return onBoard;
+        EndTracking(); // a change between two on-board modes sends no message either
+    }
+    if (m_following || GetSafeHwnd() == nullptr)
+    {
+        return COnBoardUIGeneral::InOnBoardMode();
     }
     const WindowAlive alive(*this);
-    m_following = true;
-    m_onBoard = onBoard;
-    if (onBoard)
+    // The parent is asked on the way and may change the mode again: the list follows it back, but
+    // not for ever.
+    for (int change = 0; change < 2 && alive && COnBoardUIGeneral::InOnBoardMode() != m_onBoard;
+         ++change)
     {
-        EnterOnBoard();
+        m_following = true;
+        m_onBoard = !m_onBoard;
+        if (m_onBoard)
+        {
+            EnterOnBoard();
+        }
+        else
+        {
+            LeaveOnBoard();
+        }
+        if (alive)
+        {
+            m_following = false;
+        }
     }
-    else
-    {
-        LeaveOnBoard();
-    }
-    if (alive)
-    {
-        m_following = false;
-    }
-    return onBoard && alive;
+    return alive && m_onBoard && COnBoardUIGeneral::InOnBoardMode();
 }
 
 namespace {
@@ -184,10 +230,28 @@ void CCustomListBox::EnterOnBoard()
     SCROLLINFO sideways = {};
     sideways.cbSize = sizeof(sideways);
     sideways.fMask = SIF_POS;
-    const bool scrolled =
-        (GetStyle() & WS_HSCROLL) != 0 && ::GetScrollInfo(GetSafeHwnd(), SB_HORZ, &sideways);
+    // Columns are asked for their place afterwards.
+    const bool scrolled = !InColumns() && (GetStyle() & WS_HSCROLL) != 0 &&
+                          ::GetScrollInfo(GetSafeHwnd(), SB_HORZ, &sideways) && sideways.nPos > 0;
     DisableScrollBars();
-    MeasureRows();
+    if (alive && !m_made && (m_platformBars & WS_HSCROLL) == 0 && !InColumns())
+    {
+        // The platform had taken the style of a bar that it did not show before this object came.
+        // A list made with it shows the bar as soon as there is something to see.
+        Ask(LB_SETHORIZONTALEXTENT, WPARAM(MaxOffset));
+        if (alive)
+        {
+            DisableScrollBars();
+        }
+        if (alive)
+        {
+            Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));
+        }
+    }
+    if (alive)
+    {
+        MeasureRows();
+    }
     if (!alive)
     {
         return;
@@ -199,8 +263,9 @@ void CCustomListBox::EnterOnBoard()
         return;
     }
     ResizeOBScrollBars();
-    if (alive && scrolled && m_hBarNeeded)
+    if (alive && scrolled)
     {
+        // Rows that all fit now go back to their beginning.
         m_hBar.SetScrollPos(sideways.nPos / AverageCharWidth(), TRUE);
         MoveContent(SB_HORZ);
     }
@@ -218,14 +283,8 @@ void CCustomListBox::LeaveOnBoard()
     // it since, it gets back what it had.
     const bool givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
     EndTracking();
-    m_ncSizeDone = false;
+    HideBars();
     m_standardKnown = true;
-    m_resizePending = true;
-    m_vBarNeeded = false;
-    m_hBarNeeded = false;
-    m_vBar.ShowScrollBar(FALSE);
-    m_hBar.ShowScrollBar(FALSE);
-    m_widths.clear();
     if (m_stdItemHeight > 0 && (GetStyle() & LBS_OWNERDRAWFIXED) != 0)
     {
         Ask(LB_SETITEMHEIGHT, 0, m_stdItemHeight); // as the host had it
@@ -239,8 +298,10 @@ void CCustomListBox::LeaveOnBoard()
         return;
     }
     scroll::RestoreScrollStyles(*this, m_platformBars);
-    m_platformBars = 0;
-    Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));
+    if (alive)
+    {
+        Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));
+    }
     if (!alive)
     {
         return;
@@ -267,7 +328,12 @@ void CCustomListBox::LeaveOnBoard()
 
 void CCustomListBox::DisableScrollBars()
 {
-    m_platformBars |= scroll::StripScrollStyles(*this);
+    const WindowAlive alive(*this);
+    const DWORD had = scroll::StripScrollStyles(*this); // tells heirs and hooks of the change
+    if (alive)
+    {
+        m_platformBars |= had;
+    }
 }
 
 void CCustomListBox::OnDestroy()
@@ -286,7 +352,12 @@ void CCustomListBox::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params
         return;
     }
     // The platform's list box puts its styles back whenever its content changes.
+    const WindowAlive alive(*this);
     DisableScrollBars();
+    if (!alive)
+    {
+        return;
+    }
     if (calcValidRects)
     {
         scroll::TakeBands(params->rgrc[0],
@@ -300,11 +371,12 @@ void CCustomListBox::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params
 
 void CCustomListBox::OnWindowPosChanging(WINDOWPOS* position)
 {
+    const WindowAlive alive(*this);
     CListBox::OnWindowPosChanging(position);
     // The platform shows the bar that its content asks for by adding the style and recalculating
     // the frame. Taking the style away again here saves the recalculation, row after row.
     constexpr UINT frameOnly = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;
-    if (m_onBoard && COnBoardUIGeneral::InOnBoardMode() && m_ncSizeDone &&
+    if (alive && m_onBoard && COnBoardUIGeneral::InOnBoardMode() && m_ncSizeDone &&
         (GetStyle() & (WS_VSCROLL | WS_HSCROLL)) != 0)
     {
         DisableScrollBars();
@@ -349,8 +421,14 @@ void CCustomListBox::ReCheckScrollBars()
         return;
     }
     DisableScrollBars();
-    CountAllWidths();
-    ResizeOBScrollBars();
+    if (alive)
+    {
+        CountAllWidths();
+    }
+    if (alive)
+    {
+        ResizeOBScrollBars();
+    }
     if (alive)
     {
         MirrorContent();

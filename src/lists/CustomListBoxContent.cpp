@@ -16,6 +16,11 @@ namespace {
 
 constexpr double EntryHeightFactor = 1.5; // of the text's height
 
+bool OwnerDrawn(const CListBox& list)
+{
+    return (list.GetStyle() & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0;
+}
+
 } // namespace
 
 int CCustomListBox::Ask(UINT message, WPARAM wParam, LPARAM lParam)
@@ -25,9 +30,7 @@ int CCustomListBox::Ask(UINT message, WPARAM wParam, LPARAM lParam)
 
 bool CCustomListBox::HasText() const
 {
-    const DWORD style = GetStyle();
-    return (style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) == 0 ||
-           (style & LBS_HASSTRINGS) != 0;
+    return !OwnerDrawn(*this) || (GetStyle() & LBS_HASSTRINGS) != 0;
 }
 
 // Measures --------------------------------------------------------------------------------------
@@ -35,6 +38,14 @@ bool CCustomListBox::HasText() const
 HFONT CCustomListBox::Font()
 {
     return reinterpret_cast<HFONT>(DefWindowProc(WM_GETFONT, 0, 0));
+}
+
+// The font in which rows are drawn: DrawItem has its own on-board.
+HFONT CCustomListBox::RowFont()
+{
+    return OwnerDrawn(*this) && COnBoardUIGeneral::InOnBoardMode()
+               ? static_cast<HFONT>(GetOnBoardFont().GetSafeHandle())
+               : Font();
 }
 
 int CCustomListBox::GetEntryHeight(const char* text)
@@ -56,8 +67,8 @@ int CCustomListBox::GetEntryWidth(int index)
     const int copied = std::clamp(
         Ask(LB_GETTEXT, WPARAM(index), reinterpret_cast<LPARAM>(text.data())), 0, length);
     CClientDC dc(this);
-    const Selected font(dc, Font());
-    if ((GetStyle() & LBS_USETABSTOPS) != 0)
+    const Selected font(dc, RowFont());
+    if ((GetStyle() & LBS_USETABSTOPS) != 0 && !OwnerDrawn(*this))
     {
         // Stops that the host has set are not to be had back; these are the platform's own.
         return LOWORD(::GetTabbedTextExtent(dc, text.c_str(), copied, 0, nullptr));
@@ -120,10 +131,16 @@ int CCustomListBox::RowsInColumn()
 }
 
 // The widths of all rows are kept counted, so that the widest is known without measuring what has
-// not changed. Lists that never scroll sideways are spared the measuring.
+// not changed. Lists that never scroll sideways, and those that keep nothing for each row, are
+// spared the measuring.
+bool CCustomListBox::CountsWidths()
+{
+    return VerifyAllowHScrollBar() && !InColumns() && (GetStyle() & LBS_NODATA) == 0;
+}
+
 void CCustomListBox::CountWidth(int index, int change)
 {
-    if (index >= 0 && VerifyAllowHScrollBar() && !InColumns())
+    if (index >= 0 && CountsWidths())
     {
         const int width = GetEntryWidth(index);
         int& count = m_widths[width];
@@ -138,7 +155,7 @@ void CCustomListBox::CountWidth(int index, int change)
 void CCustomListBox::CountAllWidths()
 {
     m_widths.clear();
-    if (VerifyAllowHScrollBar() && !InColumns())
+    if (CountsWidths())
     {
         const int count = Ask(LB_GETCOUNT);
         for (int index = 0; index < count; ++index)
@@ -173,7 +190,7 @@ bool CCustomListBox::MoveContent(int axis)
     else
     {
         const LONGLONG pixels = LONGLONG{position} * AverageCharWidth();
-        Ask(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, std::min<LONGLONG>(pixels, 0xFFFF)));
+        Ask(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, std::min(pixels, MaxOffset)));
     }
     if (alive)
     {
@@ -326,6 +343,17 @@ LRESULT CCustomListBox::OnMayScroll(WPARAM wParam, LPARAM lParam)
     {
         MirrorContent();
         DrawOBScrollBars();
+    }
+    return result;
+}
+
+LRESULT CCustomListBox::OnRowsMeasured(WPARAM, LPARAM)
+{
+    const WindowAlive alive(*this);
+    const LRESULT result = Default();
+    if (alive && FollowMode())
+    {
+        ContentChanged();
     }
     return result;
 }

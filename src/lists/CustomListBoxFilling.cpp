@@ -94,6 +94,10 @@ LRESULT CCustomListBox::OnSetRedraw(WPARAM wParam, LPARAM lParam)
 {
     if (lParam == EndOfFilling)
     {
+        if (!m_endPosted)
+        {
+            return Default(); // of a filling that was going on when the object took the window over
+        }
         m_endPosted = false;
         return 0; // the filling ended on the way here
     }

@@ -85,6 +85,7 @@ void CCustomListBox::Press(int axis)
     const CFauxScrollBar::ePRESSED part = Bar(axis).GetLastHit();
     Pressed(axis) = part;
     m_tracking = true;
+    m_trackedIn = COnBoardUIGeneral::GetAppMode();
     if (part == CFauxScrollBar::PRESSED_THUMB)
     {
         DrawOBScrollBars();

@@ -107,8 +107,8 @@ void CCustomListBox::MeasureRows()
     }
     const WindowAlive alive(*this);
     const HWND parent = ::GetParent(GetSafeHwnd());
-    const int rows = variable ? Ask(LB_GETCOUNT) : 1;
-    for (int row = 0; row < rows && alive; ++row)
+    // The parent may take rows away while it is asked about one.
+    for (int row = 0; alive && row < (variable ? Ask(LB_GETCOUNT) : 1); ++row)
     {
         MEASUREITEMSTRUCT measure = {};
         measure.CtlType = ODT_LISTBOX;

@@ -2,6 +2,8 @@
 
 #include "CustomListBox.h"
 #include "modes/WindowAlive.h"
+#include "paint/Metrics.h"
+#include "scroll/FauxScrollGeometry.h"
 #include "scroll/NcBands.h"
 
 #include <algorithm>
@@ -16,10 +18,43 @@ bool CCustomListBox::VerifyAllowHScrollBar()
     return (m_platformBars & WS_HSCROLL) != 0 || InColumns();
 }
 
+// Whether all rows are seen once the bars give their bands back.
+bool CCustomListBox::FitsWithoutBars()
+{
+    CRect client;
+    GetClientRect(&client);
+    m_itemHeight = Ask(LB_GETITEMHEIGHT, 0);
+    if (client.IsRectEmpty() || m_itemHeight <= 0)
+    {
+        return false; // the bands are not taken whole, or there is nothing to judge by
+    }
+    const int count = Ask(LB_GETCOUNT);
+    return RowsInSight(count, client.Height() + metrics::ScrollBand) >= count &&
+           ContentWidth() <= client.Width() + metrics::ScrollBand;
+}
+
 void CCustomListBox::UpdateScrollData()
 {
     const WindowAlive alive(*this);
-    UpdateVScrollData();
+    if (m_vBarNeeded && m_hBarNeeded && m_ncSizeDone && !m_refitting && FitsWithoutBars())
+    {
+        // Each bar is judged by the room that the other one leaves, so neither would ever go.
+        m_refitting = true;
+        for (const int axis : {SB_VERT, SB_HORZ})
+        {
+            Needed(axis) = false;
+            Bar(axis).ShowScrollBar(FALSE);
+        }
+        scroll::RecalculateFrame(*this, false);
+        if (alive)
+        {
+            m_refitting = false;
+        }
+    }
+    if (alive)
+    {
+        UpdateVScrollData();
+    }
     if (alive)
     {
         UpdateHScrollData();
@@ -43,7 +78,7 @@ void CCustomListBox::UpdateVScrollData()
         needed = visible < count && VerifyAllowVScrollBar();
         if (needed)
         {
-            m_vBar.SetScrollRange(0, count - visible + 1, TRUE);
+            m_vBar.SetScrollRange(0, scroll::Saturated(LONGLONG{count} - visible + 1), TRUE);
             m_vBar.SetPageSize(visible <= 1 ? 1 : visible - 1, TRUE);
         }
     }
@@ -72,14 +107,15 @@ void CCustomListBox::UpdateHScrollData()
             CRect row;
             Ask(LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
             step = std::max(1, row.Width());
-            const int rows = RowsInColumn();
+            const LONGLONG rows = RowsInColumn();
             const int inSight = std::max(1, client.Width() / step);
-            hidden = std::max(0, (count + rows - 1) / rows - inSight);
+            hidden = int(std::max(0LL, (count + rows - 1) / rows - inSight));
         }
         else
         {
             content = ContentWidth();
-            hidden = std::max(0, (content - client.Width() + step - 1) / step);
+            const LONGLONG outside = LONGLONG{content} - client.Width();
+            hidden = int(std::clamp((outside + step - 1) / step, 0LL, MaxOffset / step));
             if (!ApplyHorizontalExtent())
             {
                 return;
@@ -87,8 +123,14 @@ void CCustomListBox::UpdateHScrollData()
         }
         page = std::max(1, int(client.Width()) / step - 1);
     }
+    const int before = m_hBar.GetScrollPos();
     m_hBar.SetScrollRange(0, hidden, TRUE);
     m_hBar.SetPageSize(page, TRUE);
+    // Rows that the shorter bar cannot bring back go with it; columns go by themselves.
+    if (m_hBar.GetScrollPos() != before && !InColumns() && !MoveContent(SB_HORZ))
+    {
+        return;
+    }
     ShowBar(SB_HORZ, hidden > 0);
 }
 

@@ -265,10 +265,8 @@ TEST_F(ListBoxOnBoard, WhateverCutsAPressOffEndsIt)
         {"disabled", [](ListBoxForTests& list) { list.EnableWindow(FALSE); }},
         {"hidden", [](ListBoxForTests& list) { list.ShowWindow(SW_HIDE); }},
         {"cancelled", [](ListBoxForTests& list) { list.SendMessage(WM_CANCELMODE); }},
-        {"mode", [](ListBoxForTests& list) {
-             COnBoardUIGeneral::SetAppMode(STD);
-             list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-         }}};
+        {"mode", [](ListBoxForTests& list) { SetMode(STD, list); }},
+        {"another on-board mode", [](ListBoxForTests& list) { SetMode(EFB, list); }}};
     for (const auto part : {Second, Thumb})
     {
         for (const auto& row : table)

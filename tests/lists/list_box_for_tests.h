@@ -56,6 +56,21 @@ public:
 
 constexpr DWORD ListStyle = WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
 
+inline CPoint RangeOf(const CFauxScrollBar& bar)
+{
+    int minimum = 0;
+    int maximum = 0;
+    bar.GetScrollRange(&minimum, &maximum);
+    return CPoint(minimum, maximum);
+}
+
+// The list notices the mode at its next message.
+inline void SetMode(APPMODE mode, CWnd& list)
+{
+    COnBoardUIGeneral::SetAppMode(mode);
+    list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
 // Lists as hosts make them: in whichever mode is set, with the style that a host gives.
 class ListBoxTest : public WindowTest
 {

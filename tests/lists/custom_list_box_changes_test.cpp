@@ -1,0 +1,351 @@
+// Lists whose size, content, mode or window changes under their bars.
+
+#include "lists/list_box_for_tests.h"
+
+namespace {
+
+constexpr const char* WideText =
+    "A row that is a good deal wider than the window that is to show it, by far";
+
+// The pixels that both a list with bars and one without show of the first rows.
+Pixels LeftOfRows(CListBox& list)
+{
+    PumpAll();
+    list.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    return ScreenPixels(CRect(WindowPoint(list, CPoint(20, 20)), CSize(60, 20)));
+}
+
+} // namespace
+
+// Modes -----------------------------------------------------------------------------------------
+
+TEST_F(ListBoxTest, TheHorizontalBarComesBackAfterTheStandardMode)
+{
+    for (const APPMODE born : {STD, ONBOARD})
+    {
+        COnBoardUIGeneral::SetAppMode(born);
+        auto& list = AddList(3, ListStyle | WS_HSCROLL);
+        list.AddString(WideText);
+        int standardWidth = 0;
+        for (const APPMODE mode : {STD, ONBOARD, STD, EFB, STD})
+        {
+            SetMode(mode, list);
+            EXPECT_EQ(list.m_hBarNeeded, mode != STD) << APPMODE_NAMES[born];
+            if (mode == STD)
+            {
+                // No extent was set, so the platform's list shows no bar.
+                EXPECT_EQ(list.GetStyle() & WS_HSCROLL, 0U);
+                const int width = ClientRectOf(list).Height();
+                EXPECT_EQ(standardWidth == 0 ? width : standardWidth, width);
+                standardWidth = width;
+            }
+        }
+        Remove(list);
+    }
+    auto& narrow = AddList(3, ListStyle);
+    narrow.AddString(WideText);
+    SetMode(ONBOARD, narrow);
+    EXPECT_FALSE(narrow.m_hBarNeeded) << "not asked for";
+    SetMode(STD, narrow);
+    // The same for lists that were there before.
+    for (const DWORD bar : {DWORD(WS_HSCROLL), DWORD(0)})
+    {
+        for (const APPMODE bound : {STD, ONBOARD})
+        {
+            COnBoardUIGeneral::SetAppMode(bound);
+            auto& plain = Add<CListBox>(CRect(340, 20, 640, 320), ListStyle | bar);
+            plain.AddString(WideText);
+            ListBoxForTests list;
+            ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
+            for (const APPMODE mode : {STD, ONBOARD, STD, EFB, STD})
+            {
+                SetMode(mode, list);
+                PumpAll();
+                EXPECT_EQ(list.m_hBarNeeded, mode != STD && bar != 0) << APPMODE_NAMES[bound];
+                EXPECT_EQ(list.GetStyle() & WS_HSCROLL, 0U);
+                EXPECT_EQ(list.GetHorizontalExtent(), 0);
+            }
+            list.DestroyWindow();
+        }
+    }
+}
+
+TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
+{
+    auto& list = AddList(3, ListStyle | WS_HSCROLL);
+    list.AddString("Some row");
+    const Pixels standard = LeftOfRows(list);
+    SetMode(ONBOARD, list);
+    const Pixels onBoard = LeftOfRows(list);
+    SetMode(STD, list);
+    EXPECT_TRUE(LeftOfRows(list) == standard);
+
+    // Scrolled in the standard mode, where more is to be seen than on-board.
+    list.SetHorizontalExtent(600);
+    list.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 100));
+    const Pixels scrolled = LeftOfRows(list);
+    EXPECT_FALSE(scrolled == standard);
+    SetMode(ONBOARD, list);
+    ASSERT_TRUE(list.m_hBarNeeded);
+    EXPECT_GT(list.m_hBar.GetScrollPos(), 0);
+    EXPECT_FALSE(LeftOfRows(list) == onBoard);
+    list.SetHorizontalExtent(0);
+    EXPECT_FALSE(list.m_hBarNeeded);
+    EXPECT_TRUE(LeftOfRows(list) == onBoard);
+
+    // Scrolled on-board, and nothing to scroll in the standard mode.
+    list.AddString(WideText);
+    ASSERT_TRUE(list.m_hBarNeeded);
+    list.CCustomListBox::SetScrollPos(SB_HORZ, 20);
+    EXPECT_FALSE(LeftOfRows(list) == onBoard);
+    SetMode(STD, list);
+    EXPECT_TRUE(LeftOfRows(list) == standard);
+    SetMode(EFB, list);
+    EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
+    EXPECT_TRUE(LeftOfRows(list) == onBoard);
+    SetMode(STD, list);
+}
+
+TEST_F(ListBoxTest, ColumnsStayWhereTheyAreWhenTheModeChanges)
+{
+    auto& list = AddList(400, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN | WS_HSCROLL);
+    list.SetColumnWidth(80);
+    list.SendMessage(WM_HSCROLL, SB_PAGERIGHT);
+    ASSERT_GT(list.GetTopIndex(), 0);
+    SetMode(ONBOARD, list);
+    const int top = list.GetTopIndex();
+    EXPECT_GT(top, 0);
+    EXPECT_GT(list.m_hBar.GetScrollPos(), 0);
+    SetMode(STD, list);
+    EXPECT_GT(list.GetTopIndex(), 0);
+}
+
+TEST_F(ListBoxTest, AnObjectsNextWindowBeginsAfresh)
+{
+    const CRect place(20, 20, 320, 320);
+    ListBoxForTests list;
+    const auto create = [&](DWORD style) {
+        ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | style, place, &Host(), 77));
+        PumpAll();
+    };
+    const auto fill = [&] {
+        list.Fill(100);
+        list.AddString(WideText);
+    };
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    create(ListStyle | WS_HSCROLL);
+    fill();
+    PumpAll();
+    ASSERT_TRUE(list.m_hBarNeeded && list.m_vBarNeeded);
+    list.CCustomListBox::SetScrollPos(SB_HORZ, 5);
+    list.SetRedraw(FALSE);
+    list.DestroyWindow();
+
+    // A window made without bars is not given those of the one before.
+    COnBoardUIGeneral::SetAppMode(STD);
+    create(LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
+    EXPECT_EQ(list.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
+    EXPECT_EQ(ClientRectOf(list).Width(), place.Width());
+    fill();
+    SetMode(ONBOARD, list);
+    EXPECT_FALSE(list.m_hBarNeeded);
+    EXPECT_TRUE(list.m_vBarNeeded);
+    // A filling whose end is still on its way.
+    list.AddString("One more");
+    list.DestroyWindow();
+
+    // Rows are added at once again, and the frame is that of an empty list.
+    create(ListStyle | WS_HSCROLL);
+    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
+    EXPECT_FALSE(list.m_hBar.ShowScrollBar());
+    MessageLog log(list, {WM_SETREDRAW});
+    fill();
+    PumpAll();
+    EXPECT_EQ(log.Count(WM_SETREDRAW), 1) << "the end of the filling";
+    EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
+
+    // Let go of in the middle of a drag: the next window is not dragged.
+    MoveTo(list.PartPoint(CFauxScrollBar::PRESSED_THUMB));
+    Press();
+    ASSERT_TRUE(list.m_tracking);
+    ::DestroyWindow(list.UnsubclassWindow());
+    create(ListStyle);
+    fill();
+    MoveTo(WindowPoint(list, CPoint(270, 150)));
+    DragTo(WindowPoint(list, CPoint(270, 200)), 5);
+    EXPECT_EQ(list.GetTopIndex(), 0);
+    Release();
+
+    // Let go of in the middle of a filling: the next one keeps its redraw off.
+    list.AddString("One more");
+    const HWND first = list.UnsubclassWindow();
+    auto& plain = Add<CListBox>(CRect(340, 20, 640, 320), ListStyle);
+    plain.SetRedraw(FALSE);
+    const HWND second = plain.Detach();
+    ASSERT_TRUE(list.SubclassWindow(second));
+    const Pixels before = WindowPixels(list);
+    for (int row = 0; row < 5; ++row)
+    {
+        ::SendMessage(second, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("Hidden"));
+    }
+    ::SendMessage(second, LB_SETCURSEL, 1, 0);
+    PumpAll();
+    ::UpdateWindow(second);
+    EXPECT_EQ(WindowPixels(list).Count(::GetSysColor(COLOR_HIGHLIGHT)), 0);
+    // And back over the first one before its filling has ended.
+    ::DestroyWindow(list.UnsubclassWindow());
+    ASSERT_TRUE(list.SubclassWindow(first));
+    list.AddString("One more");
+    ASSERT_EQ(list.UnsubclassWindow(), first);
+    ASSERT_TRUE(list.SubclassWindow(first));
+    PumpAll();
+    ::SendMessage(first, LB_SETCURSEL, 1, 0);
+    ::UpdateWindow(first);
+    EXPECT_GT(WindowPixels(list).Count(::GetSysColor(COLOR_HIGHLIGHT)), 100);
+    list.DestroyWindow();
+    COnBoardUIGeneral::SetAppMode(STD);
+}
+
+// Size and content ------------------------------------------------------------------------------
+
+TEST_F(ListBoxOnBoard, RowsAreNotLeftOutOfSightWhenTheirBarGoes)
+{
+    auto& list = AddList(3, ListStyle | WS_HSCROLL);
+    const Pixels unscrolled = LeftOfRows(list);
+    list.SetHorizontalExtent(400);
+    list.SendMessage(WM_HSCROLL, SB_RIGHT);
+    ASSERT_GT(list.m_hBar.GetScrollPos(), 0);
+    EXPECT_FALSE(LeftOfRows(list) == unscrolled);
+    list.SetWindowPos(nullptr, 0, 0, 500, 300, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_FALSE(list.m_hBarNeeded);
+    EXPECT_TRUE(LeftOfRows(list) == unscrolled);
+    // Nor are rows above the first in sight, or columns before it.
+    list.Fill(40);
+    list.SetTopIndex(39);
+    ASSERT_GT(list.GetTopIndex(), 0);
+    while (list.GetCount() > 12)
+    {
+        list.DeleteString(list.GetCount() - 1);
+    }
+    list.SetWindowPos(nullptr, 0, 0, 500, 560, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_FALSE(list.m_vBarNeeded);
+    EXPECT_EQ(list.GetTopIndex(), 0);
+    auto& columns = AddList(60, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN | WS_HSCROLL);
+    columns.SetColumnWidth(140);
+    columns.SendMessage(WM_HSCROLL, SB_RIGHT);
+    ASSERT_GT(columns.GetTopIndex(), 0);
+    columns.SetWindowPos(nullptr, 0, 0, 780, 500, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_FALSE(columns.m_hBarNeeded);
+    EXPECT_EQ(columns.GetTopIndex(), 0);
+    Remove(columns);
+    list.SetWindowPos(nullptr, 0, 0, 500, 300, SWP_NOMOVE | SWP_NOZORDER);
+    // Wider, but not as wide as the rows: the bar goes back, and the rows with it.
+    list.SetHorizontalExtent(1000);
+    list.SendMessage(WM_HSCROLL, SB_RIGHT);
+    list.SetWindowPos(nullptr, 0, 0, 700, 300, SWP_NOMOVE | SWP_NOZORDER);
+    const CPoint range = RangeOf(list.m_hBar);
+    EXPECT_EQ(list.m_hBar.GetScrollPos(), range.y);
+    const Pixels end = LeftOfRows(list);
+    list.CCustomListBox::SetScrollPos(SB_HORZ, range.y);
+    EXPECT_TRUE(LeftOfRows(list) == end);
+}
+
+TEST_F(ListBoxOnBoard, BothBarsGoWhenTheContentFitsWithoutThem)
+{
+    auto& list = AddList(0, ListStyle | WS_HSCROLL);
+    const int height = list.GetItemHeight(0);
+    const int fit = ClientRectOf(list).Height() / height;
+    const int width = ClientRectOf(list).Width();
+    list.Fill(fit + 1);
+    list.SetHorizontalExtent(width + 20);
+    ASSERT_TRUE(list.m_vBarNeeded && list.m_hBarNeeded);
+    // Fits without the bars, but neither way beside one of them.
+    list.SetHorizontalExtent(width - 10);
+    EXPECT_TRUE(list.m_vBarNeeded && list.m_hBarNeeded) << "one row too many";
+    list.DeleteString(0);
+    EXPECT_FALSE(list.m_vBarNeeded || list.m_hBarNeeded);
+    EXPECT_EQ(ClientRectOf(list).Width(), width);
+    // A list so small that its bands do not fit either comes to an end.
+    list.Fill(20);
+    for (const CSize size : {CSize(40, 40), CSize(80, 40), CSize(40, 80), CSize(5, 5)})
+    {
+        list.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        EXPECT_TRUE(list.m_vBarNeeded);
+    }
+}
+
+TEST_F(ListBoxOnBoard, ColumnsOfAnotherWidthAreCountedAnew)
+{
+    auto& list = AddList(200, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN | WS_HSCROLL);
+    list.SetColumnWidth(140);
+    ASSERT_TRUE(list.m_hBarNeeded);
+    const CPoint wide = RangeOf(list.m_hBar);
+    list.SetColumnWidth(45);
+    const CPoint slim = RangeOf(list.m_hBar);
+    EXPECT_LT(slim.y, wide.y);
+    list.ReCheckScrollBars();
+    EXPECT_EQ(RangeOf(list.m_hBar), slim);
+}
+
+TEST_F(ListBoxOnBoard, DrawnRowsAreMeasuredInTheFontTheyAreDrawnIn)
+{
+    auto& list = AddList(1, ListStyle | WS_HSCROLL | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    CClientDC dc(&list);
+    const HGDIOBJ old = ::SelectObject(dc, CCustomListBox::GetOnBoardFont());
+    const int row = dc.GetTextExtent("Row 0").cx;
+    CString text = "x";
+    while (dc.GetTextExtent(text).cx <= ClientRectOf(list).Width())
+    {
+        text += "x";
+    }
+    ::SelectObject(dc, old);
+    EXPECT_EQ(list.GetEntryWidth(0), row);
+    list.AddString(text);
+    EXPECT_TRUE(list.m_hBarNeeded);
+    // By their own rows the platform's lists go: another font, another width.
+    auto& own = AddList(1, ListStyle | WS_HSCROLL);
+    EXPECT_LT(own.GetEntryWidth(0), row);
+}
+
+namespace {
+
+class ListThatCounts : public ListBoxForTests
+{
+public:
+    int measured = 0;
+
+    int GetEntryWidth(int index) override
+    {
+        ++measured;
+        return ListBoxForTests::GetEntryWidth(index);
+    }
+};
+
+} // namespace
+
+TEST_F(ListBoxOnBoard, WidthsAreMeasuredOncePerRow)
+{
+    const DWORD style = ListStyle | WS_HSCROLL | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
+    auto& list = Add<ListThatCounts>(CRect(20, 20, 320, 320), style);
+    list.Fill(60);
+    EXPECT_EQ(list.measured, 60);
+    const CPoint before = RangeOf(list.m_vBar);
+    for (int row = 0; row < 60; ++row)
+    {
+        list.SetItemHeight(row, 50);
+    }
+    EXPECT_EQ(list.measured, 60);
+    EXPECT_GT(RangeOf(list.m_vBar).y, before.y) << "fewer rows in sight";
+    list.SetFont(&CCustomListBox::GetOnBoardFont());
+    EXPECT_EQ(list.measured, 120);
+    char self[MAX_PATH] = "";
+    ::GetModuleFileName(nullptr, self, MAX_PATH);
+    EXPECT_GE(list.SendMessage(LB_ADDFILE, 0, reinterpret_cast<LPARAM>(self)), 0);
+    EXPECT_EQ(list.measured, 121);
+
+    const DWORD noText = ListStyle | WS_HSCROLL | LBS_OWNERDRAWFIXED | LBS_NODATA;
+    auto& count = Add<ListThatCounts>(CRect(340, 20, 640, 320), noText);
+    count.SendMessage(LB_SETCOUNT, 100000);
+    EXPECT_EQ(count.GetCount(), 100000);
+    EXPECT_EQ(count.measured, 0);
+}
