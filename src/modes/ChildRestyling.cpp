@@ -30,6 +30,13 @@ int Sum(int a, int b)
     return Truncated(double(a) + b);
 }
 
+// Size of a rectangle whose edges may be as far apart as numbers go.
+CSize SizeOf(const CRect& rect)
+{
+    return CSize(Truncated(double(rect.right) - rect.left),
+                 Truncated(double(rect.bottom) - rect.top));
+}
+
 void SendFont(HWND child, const CFont& font)
 {
     if (font.GetSafeHandle() != nullptr)
@@ -99,8 +106,9 @@ CRect RescaledRect(const CRect& rect, double scale)
 {
     const int left = Truncated(Across(rect.left, scale));
     const int top = Truncated(rect.top * scale);
-    return CRect(left, top, Sum(left, Truncated(Across(rect.Width(), scale))),
-                 Sum(top, Truncated(rect.Height() * scale)));
+    const CSize size = SizeOf(rect);
+    return CRect(left, top, Sum(left, Truncated(Across(size.cx, scale))),
+                 Sum(top, Truncated(size.cy * scale)));
 }
 
 BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
@@ -129,8 +137,8 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
         // A combo's window height takes in its list.
         CRect dropped;
         ::SendMessage(child, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
-        target.bottom = Sum(target.bottom, standard ? dropped.Height()
-                                                    : Truncated(dropped.Height() * change->scale));
+        const int height = SizeOf(dropped).cy;
+        target.bottom = Sum(target.bottom, standard ? height : Truncated(height * change->scale));
     }
     else if (is("CCUSTOMDROPLISTCOMBO"))
     {
@@ -159,7 +167,8 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
     {
         ResizeTabs(child, change->scale);
     }
-    ::SetWindowPos(child, nullptr, target.left, target.top, target.Width(), target.Height(), flags);
+    const CSize size = SizeOf(target);
+    ::SetWindowPos(child, nullptr, target.left, target.top, size.cx, size.cy, flags);
     return TRUE;
 }
 
