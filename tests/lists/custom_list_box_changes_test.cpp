@@ -192,9 +192,10 @@ TEST_F(ListBoxTest, AnObjectsNextWindowBeginsAfresh)
     PumpAll();
     ::UpdateWindow(second);
     EXPECT_EQ(WindowPixels(list).Count(::GetSysColor(COLOR_HIGHLIGHT)), 0);
-    // And back over the first one before its filling has ended.
+    // Taken over again before its filling has ended, a list paints afterwards.
     ::DestroyWindow(list.UnsubclassWindow());
     ASSERT_TRUE(list.SubclassWindow(first));
+    list.SetRedraw(TRUE);
     list.AddString("One more");
     ASSERT_EQ(list.UnsubclassWindow(), first);
     ASSERT_TRUE(list.SubclassWindow(first));
