@@ -15,6 +15,9 @@ else()
     # For C++ alone: the resource compiler would take these for its own.
     target_compile_options(compiling INTERFACE
         "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Werror>")
+    # The framework's interface hides CWnd's Create in every control, on purpose.
+    target_compile_options(compiling INTERFACE
+        "$<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wno-overloaded-virtual>")
     if(ONBOARDUI_UBSAN)
         # The trapping kind: the other would need a run-time library that does not exist here.
         target_compile_options(compiling INTERFACE
@@ -28,22 +31,19 @@ function(precompile_headers target)
         ${ARGN} <windows.h> <map> <memory> <string> <vector>)
 endfunction()
 
-# The compiler's shared run-time libraries beside the programs, so that these start by themselves.
-# Shared, because objects and exceptions cross the borders of our own shared libraries.
+# The compiler's shared run-time libraries beside the programs, so that these start by themselves,
+# here and where it is installed. Shared, because objects and exceptions cross the borders of our
+# own shared libraries.
 function(place_runtime_libraries folder)
     if(NOT MINGW)
         return()
     endif()
     foreach(name libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-        execute_process(
-            COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${name}
-            OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE)
-        if(NOT IS_ABSOLUTE "${path}")
-            find_file(path_of_${name} ${name}
-                PATHS /usr/x86_64-w64-mingw32/lib /usr/x86_64-w64-mingw32/bin
-                NO_CMAKE_FIND_ROOT_PATH NO_CACHE REQUIRED)
-            set(path "${path_of_${name}}")
-        endif()
-        file(COPY "${path}" DESTINATION "${folder}")
+        find_file(path_of_${name} ${name}
+            PATHS ${CMAKE_CXX_IMPLICIT_LINK_DIRECTORIES}
+                /usr/x86_64-w64-mingw32/lib /usr/x86_64-w64-mingw32/bin
+            NO_DEFAULT_PATH NO_CMAKE_FIND_ROOT_PATH NO_CACHE REQUIRED)
+        file(COPY "${path_of_${name}}" DESTINATION "${folder}")
+        install(FILES "${path_of_${name}}" DESTINATION bin)
     endforeach()
 endfunction()

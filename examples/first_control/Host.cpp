@@ -1,29 +1,40 @@
-// The README's first example, kept the same as there.
-
+#include <CustomDialog.h>
 #include <CustomListBox.h>
+#include <CustomPushbutton.h>
 #include <OnBoardUI.h>
 #include <OnBoardUIGeneral.h>
 
-class HostFrame : public CFrameWnd
+class HostDialog : public CCustomDialog
 {
 public:
-    HostFrame()
-    {
-        Create(nullptr, "Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(50, 50, 650, 450));
-        m_list.CreateEx(WS_EX_CLIENTEDGE, "LISTBOX", "",
-                        WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT |
-                            LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, // rows drawn by the library
-                        CRect(20, 20, 420, 340), this, 100);
-        for (int leg = 1; leg <= 60; ++leg)
-        {
-            CString text;
-            text.Format("Leg %d", leg);
-            m_list.AddString(text);
-        }
-    }
+    using CCustomDialog::CCustomDialog;
 
 private:
-    CCustomListBox m_list;
+    CCustomListBox m_airports;
+    CCustomPushbutton m_mode;
+
+    BOOL OnInitDialog() override
+    {
+        m_airports.SubclassDlgItem(101, this); // the template's controls become the library's
+        m_mode.SubclassDlgItem(IDOK, this);
+        for (const char* name : {"EDDF", "EDDM", "EGLL", "EHAM", "EKCH", "ESSA", "LFPG", "LSZH"})
+        {
+            m_airports.AddString(name);
+        }
+        return CCustomDialog::OnInitDialog();
+    }
+
+    void OnOK() override
+    {
+        CRect window, before, after;
+        GetWindowRect(window);
+        m_airports.GetWindowRect(before);
+        SetOnBoardAppMode(COnBoardUIGeneral::InOnBoardMode() ? STD : ONBOARD);
+        m_airports.GetWindowRect(after); // changed already; the dialog's size is its host's
+        SetWindowPos(nullptr, 0, 0, ::MulDiv(window.Width(), after.Width(), before.Width()),
+                     ::MulDiv(window.Height(), after.Height(), before.Height()),
+                     SWP_NOMOVE | SWP_NOZORDER);
+    }
 };
 
 class HostApp : public CWinApp
@@ -31,15 +42,7 @@ class HostApp : public CWinApp
     BOOL InitInstance() override
     {
         COnBoardUIGeneral::SetStdModeGoals(); // the standard fonts for this screen
-        SetOnBoardAppMode(ONBOARD);
-        OnBoardSetSysColors(ONBOARD); // system-wide, so ...
-        m_pMainWnd = new HostFrame;
-        return TRUE;
-    }
-
-    int ExitInstance() override
-    {
-        OnBoardRestoreSysColors(); // ... the host gives them back
-        return CWinApp::ExitInstance();
+        HostDialog(100, nullptr).DoModal();
+        return FALSE; // the dialog was all
     }
 } theApp;

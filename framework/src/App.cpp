@@ -236,6 +236,11 @@ int AfxWinMain(HINSTANCE instance, HINSTANCE previous, LPSTR commandLine, int sh
         {
             app->m_pMainWnd->DestroyWindow();
         }
+        // The last message of a modal dialog is not the application's exit code.
+        if (app->m_msgCur.message != WM_QUIT)
+        {
+            app->m_msgCur = {};
+        }
         return app->ExitInstance();
     }
     return app->Run();
