@@ -25,6 +25,12 @@ else()
     endif()
 endif()
 
+if(ONBOARDUI_GUARDED_HEAP)
+    # In every module and with a run-time library in each: what one allocates another may free.
+    target_sources(compiling INTERFACE "${PROJECT_SOURCE_DIR}/checks/GuardedHeap.cpp")
+    target_link_options(compiling INTERFACE -static-libstdc++ -static-libgcc)
+endif()
+
 # The slow headers are compiled once per target. afxwin.h stands first, as it has to.
 function(precompile_headers target)
     target_precompile_headers(${target} PRIVATE

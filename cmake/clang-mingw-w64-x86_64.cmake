@@ -15,8 +15,13 @@ execute_process(
     OUTPUT_VARIABLE folder OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 cmake_path(GET folder PARENT_PATH folder)
 set(headers "${folder}/include/c++")
-set(CMAKE_CXX_FLAGS_INIT
-    "-isystem ${headers} -isystem ${headers}/x86_64-w64-mingw32 -isystem ${headers}/backward")
+string(JOIN " " CMAKE_CXX_FLAGS_INIT
+    "-isystem ${headers}"
+    "-isystem ${headers}/x86_64-w64-mingw32"
+    "-isystem ${headers}/backward")
+
+# The first compiler's linker, and the thread library that it names by itself.
 foreach(kind EXE SHARED MODULE)
-    set(CMAKE_${kind}_LINKER_FLAGS_INIT "-B${folder} -L${folder}")
+    set(CMAKE_${kind}_LINKER_FLAGS_INIT
+        "-B${folder} -L${folder} --ld-path=/usr/bin/x86_64-w64-mingw32-ld -pthread")
 endforeach()

@@ -1,5 +1,6 @@
 # The Debian packages the commands need. Sourced, not run by itself.
-# The X libraries are those that Wine's display driver opens while running.
+# The X libraries are those that Wine's display driver opens while running. A command that needs more
+# adds it before it asks for them.
 
 needed_packages=(
     cmake ninja-build

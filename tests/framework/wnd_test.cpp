@@ -55,13 +55,16 @@ protected:
         {
             inCreate();
         }
+        const bool refused = message == refuses; // asked before the object may be gone
         const LRESULT result = CWnd::WindowProc(message, wParam, lParam);
-        return message == refuses ? LRESULT(message == WM_CREATE ? -1 : 0) : result;
+        return refused ? LRESULT(message == WM_CREATE ? -1 : 0) : result;
     }
     void OnLButtonDown(UINT flags, CPoint point)
     {
-        inPress();
-        if (!ownsItself)
+        const bool endsItself = ownsItself; // as above
+        const auto press = inPress;
+        press();
+        if (!endsItself)
         {
             CWnd::OnLButtonDown(flags, point);
         }
