@@ -74,6 +74,8 @@ enum MENUCATEGORY : int;         // which menus
 enum UIItem : int;               // which chart view or similar of the host is meant
 enum ZEP_STOCK_PANE : int;       // one of the host's built-in panes
 
-// What a host that does not override the question or the insertion answers.
+// What a host that does not override the insertion answers.
 inline constexpr CSP_INSERT_RESULT CSP_INSERT_DEFAULT{2};
+
+// What a host that does not override the question answers.
 inline constexpr FEATUREALLOWED FEATUREALLOWED_DEFAULT{-1};
