@@ -1,6 +1,8 @@
 #pragma once
 
-// The common controls for views; a view made of one of them comes with the first that needs it.
+// The common controls as views.
 
 #include <afxcmn.h>
 #include <afxwin.h>
+
+#include "framework/CtrlView.h"

@@ -3,3 +3,4 @@
 // The collection templates.
 
 #include "framework/Collections.h"
+#include "framework/PtrList.h"

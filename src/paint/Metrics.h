@@ -12,8 +12,8 @@ constexpr int ScrollBar = ScrollBand + Border;
 // Inside-frame width of the on-board outline pen.
 constexpr int OutlineWidth = 3;
 
-// The caption of an on-board dialog: from either edge to its text, and how far above its bottom edge
-// the line across it runs.
+// The caption of an on-board dialog: from either edge to its text, and how far above its bottom
+// edge the line across it runs.
 constexpr int CaptionMargin = 6;
 constexpr int CaptionLineRise = 2;
 
@@ -38,6 +38,15 @@ constexpr int ListRowMargin = 4;
 constexpr int RowCheckInset = 1;
 constexpr int RowCheckReach = 2;
 constexpr int RowCheckText = 3;
+// Rows of a tree: high enough for a finger, which is also how far a level is indented, so that the
+// mark that opens a branch can be hit. The mark is a triangle of this height and half its width.
+constexpr int FingerRow = 40;
+constexpr int BranchMark = 14;
+constexpr int TreeTextMargin = 2; // from either edge of the label to its text
+
+// The line of a rubber band.
+constexpr int RubberBandLine = 1;
+constexpr int RubberBandLineOnBoard = 2;
 
 // Scale of a window's children on entering an on-board mode, and how much more they widen.
 constexpr double OnBoardScale = 1.7;

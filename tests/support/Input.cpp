@@ -141,6 +141,72 @@ void QueueClick(CPoint point)
     PumpAll();
 }
 
+void QueueMove(CPoint point)
+{
+    SendMove(point);
+}
+
+void QueueButton(bool down, bool right)
+{
+    SendMouse(right ? (down ? MOUSEEVENTF_RIGHTDOWN : MOUSEEVENTF_RIGHTUP)
+                    : (down ? MOUSEEVENTF_LEFTDOWN : MOUSEEVENTF_LEFTUP));
+}
+
+void QueueKey(UINT key, bool down)
+{
+    SendKey(key, down ? 0 : KEYEVENTF_KEYUP);
+}
+
+namespace {
+
+std::vector<std::function<void()>> stepsToPlay;
+size_t nextStep = 0;
+bool inStep = false;
+
+// A timer's turn comes when no other message waits.
+void CALLBACK PlayStep(HWND, UINT, UINT_PTR timer, DWORD)
+{
+    if (inStep)
+    {
+        return; // a step that pumps
+    }
+    if (nextStep < stepsToPlay.size())
+    {
+        inStep = true;
+        stepsToPlay[nextStep]();
+        ++nextStep;
+        inStep = false;
+    }
+    else
+    {
+        ::KillTimer(nullptr, timer);
+    }
+}
+
+} // namespace
+
+void PlaySteps(std::vector<std::function<void()>> steps)
+{
+    constexpr int Bound = 10'000; // milliseconds
+    stepsToPlay = std::move(steps);
+    nextStep = 0;
+    const UINT_PTR timer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &PlayStep);
+    // A WM_QUIT of a step would end the pumping, and with it the steps.
+    bool quit = false;
+    PumpUntil(
+        [&] {
+            quit = TakeQuit() || quit;
+            return nextStep >= stepsToPlay.size();
+        },
+        Bound);
+    ::KillTimer(nullptr, timer);
+    PumpAll();
+    if (quit)
+    {
+        ::PostQuitMessage(0);
+    }
+}
+
 void TypeKey(UINT key, UINT held)
 {
     if (held != 0)

@@ -2,6 +2,9 @@
 
 #include <afxwin.h>
 
+#include <functional>
+#include <vector>
+
 // The pointer and the keyboard, through the system, exact to the pixel. All points are screen
 // points; each verb pumps afterwards, so what it causes has happened when it returns.
 
@@ -26,6 +29,16 @@ void RestPointer();
 
 // For a control that runs a loop of its own on a press: both are queued before anything is pumped.
 void QueueClick(CPoint point);
+
+// The same as single events, which pump nothing, for the steps below.
+void QueueMove(CPoint point);
+void QueueButton(bool down, bool right = false);
+void QueueKey(UINT key, bool down);
+
+// For a control that runs a loop of its own while a button is down: each step runs once all input
+// before it has been handled, whoever pumps at that time. Returns when the last has run and all is
+// pumped.
+void PlaySteps(std::vector<std::function<void()>> steps);
 
 void TypeKey(UINT key, UINT held = 0); // with another one held down
 void TypeText(const char* text);

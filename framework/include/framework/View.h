@@ -2,6 +2,9 @@
 
 #include "framework/Wnd.h"
 
+// The style of a view that nobody gives another.
+constexpr DWORD AFX_WS_DEFAULT_VIEW = WS_CHILD | WS_VISIBLE | WS_BORDER;
+
 // The part of a frame that shows something. Made on the heap; deletes itself with its window.
 class FRAMEWORK_API CView : public CWnd
 {

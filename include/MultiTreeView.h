@@ -1,0 +1,146 @@
+#pragma once
+
+#include "OnBoardUIExport.h"
+#include "TreeItemState.h"
+
+#include <afxcview.h>
+#include <afxtempl.h>
+
+#include <YAUL.h>
+
+#include <memory>
+
+namespace trees {
+class TreeSelection;
+template <class Tree, class PlatformBase> class OwnerOf;
+} // namespace trees
+
+// The tree of many selected items as a view, which also drags them to other windows of the
+// application. The selection is MultiTree's in every respect.
+//
+// A drag sends registered messages to the window under the pointer: Drop, or Copy with Ctrl, where
+// the button is released (wParam a POINT on the screen, lParam the payload, a KArray; the pointers
+// in it belong to who put them there), and Leave (0, 0) to a window that the pointer leaves. A
+// window that takes the payload answers other than 0. As a target a view scrolls by itself while it
+// is sent Track (wParam a POINT on the screen) near its upper or lower edge; a derived view takes
+// what is dropped. A window of another process is sent null for both pointers and takes nothing.
+//
+// As every view it is made on the heap and deletes itself with its window.
+class ONBOARDUI_API MultiTreeView : public CTreeView
+{
+    DECLARE_DYNCREATE(MultiTreeView)
+
+public:
+    MultiTreeView();
+    ~MultiTreeView() override;
+
+    // Selection, as MultiTree's.
+    bool IsMultiSelect() const;
+    void SetMultiSelect(bool multi);
+    bool IsEmulatedNotify() const;
+    void SetBandingHit(bool wholeRow);
+    UINT GetSelectedCount() const;
+    HTREEITEM GetFirstSelectedItem() const;
+    HTREEITEM GetNextSelectedItem(HTREEITEM item) const;
+    void GetSelectedList(CTypedPtrList<CPtrList, HTREEITEM>& list) const;
+    HTREEITEM GetFocusedItem() const;
+    bool IsSelected(HTREEITEM item) const;
+    virtual void SelectAll(bool select, bool notify);
+    // Of what lies in branch, itself included; null: of everything.
+    void SelectAllIgnore(HTREEITEM branch, bool select, HTREEITEM ignore);
+    bool SelectChildren(HTREEITEM item, bool select, bool recurse);
+    virtual void SelectRange(HTREEITEM first, HTREEITEM last, bool only);
+    virtual bool CanCtrlSelectItem(HTREEITEM item) const;
+    int SetItemState(HTREEITEM item, UINT state, UINT mask, bool notify = true);
+    UINT GetItemState(HTREEITEM item, UINT mask) const;
+    bool SelectItem(HTREEITEM item);
+    void FocusItem(HTREEITEM item);
+    void InvalidateItem(HTREEITEM item, bool erase);
+
+    // The picture of a drag; without one there is no drag to be seen or tracked.
+    virtual CImageList* CreateDragImage();
+    // For a derived class: what kind of thing a drag carries. Nobody asks here.
+    virtual int GetDragKind(int& kind);
+    // Appends what an item contributes to the payload of a drag that starts. Nothing here.
+    virtual void GetSelectedItems(HTREEITEM item, KArray& payload);
+    // A drag has ended over the window that took it; null: nobody did, or it was cancelled.
+    virtual void DragEnded(HWND accepted);
+    virtual CSize GetDragThreshold();
+    // Pixels of the cursor's picture; the image of a drag lies beside it.
+    CSize GetCursorSize() const;
+
+    int _SendNotify(NMHDR* header);
+
+    void PreSubclassWindow() override;
+
+    // The registered messages, the same for all views of the process; 0 before the first view.
+    static UINT mnDragTrackMsg;
+    static UINT mnDragLeaveMsg;
+    static UINT mnDragDropMsg;
+    static UINT mnDragCopyMsg;
+
+    // Private messages: lParam says whether the view is torn off; and the buffer in lParam, of the
+    // length in wParam, gets the caption if that fits (non-zero then).
+    static constexpr UINT TogglePeeledMessage = WM_USER + 20;
+    static constexpr UINT GetCaptionTextMessage = WM_USER + 21;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    void OnButtonDown(bool left, UINT flags, CPoint point);
+    void DoPreSelection(HTREEITEM item, bool left, UINT flags);
+    void DoAction(HTREEITEM item, bool left, UINT flags, CPoint point);
+    void DoBanding(bool left, UINT flags, CPoint point);
+    void UpdateSelectionForRect(const CRect& rect, UINT flags);
+    int GetAutoScrollDirection(CPoint point) const;
+    void DoAutoScroll();
+    void StopAutoScroll();
+
+    // Ends a drag whose button is no longer down.
+    void CheckDragState();
+
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnKillFocus(CWnd* taker);
+    afx_msg void OnItemExpanding(NMHDR* header, LRESULT* result);
+    afx_msg void OnBeginDrag(NMHDR* header, LRESULT* result);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* taker);
+    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg int OnMouseActivate(CWnd* desktop, UINT hitTest, UINT message);
+    afx_msg LRESULT OnDragTrack(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDragLeave(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDragDrop(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDragCopy(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnTogglePeeled(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetCaptionText(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+    KArray m_payload;      // what is being dragged
+    bool m_peeled = false; // shown in a torn-off window
+    std::unique_ptr<CImageList> m_dragImage;
+    bool m_dragging = false;
+    HWND m_dragTarget = nullptr;   // the window under the pointer at its last move
+    UINT_PTR m_dragCheckTimer = 0; // 0: not running
+
+private:
+    using Owner = trees::OwnerOf<MultiTreeView, CTreeView>;
+    friend Owner;
+    struct DragItem;
+
+    bool m_creating = false; // the window is being made by this object
+    std::unique_ptr<Owner> m_owner;
+    std::unique_ptr<trees::TreeSelection> m_selection;
+    std::unique_ptr<DragItem> m_dragItem; // the item that the drag started on
+
+    bool IsDragShown() const;
+    void ForgetDrag();
+    void CancelDrag();
+};

@@ -1,0 +1,444 @@
+// The selection: the rubber band and scrolling by timer. And the messages on their way to the
+// platform, which may scroll or change what the band lies on.
+
+#include "trees/TreeSelection.h"
+
+#include "modes/WindowAlive.h"
+#include "trees/DragImage.h"
+#include "trees/TreeLook.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace trees {
+
+// A rubber band from its press to its end.
+struct TreeSelection::Band
+{
+    Band(TreeSelection& selection, UINT pressFlags, CPoint point)
+        : flags(pressFlags)
+        , pressed(point - selection.ContentOrigin())
+        , pointer(point)
+        , before(selection.m_items, selection.m_items.Selected())
+        , met(selection.m_items, {})
+    {}
+
+    UINT flags;
+    CPoint pressed; // from where the content begins, so that it scrolls along
+    CPoint pointer; // client pixels
+    bool stretched = false;
+    CRect rect = CRect(0, 0, 0, 0); // as shown, in client pixels
+    WatchedItems before;            // selected before the press
+    WatchedItems met;
+};
+
+namespace {
+
+CRect Between(CPoint a, CPoint b)
+{
+    return CRect(std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x) + 1,
+                 std::max(a.y, b.y) + 1);
+}
+
+bool Meet(const CRect& a, const CRect& b)
+{
+    CRect both;
+    return both.IntersectRect(&a, &b) != FALSE;
+}
+
+} // namespace
+
+// Where the first item's text begins: the content moves with it.
+CPoint TreeSelection::ContentOrigin() const
+{
+    return m_items.Rect(m_items.Root(), true).TopLeft();
+}
+
+// What of an item the band has to meet.
+CRect TreeSelection::BandBox(HTREEITEM item) const
+{
+    if (m_bandMeets == BandMeets::Row)
+    {
+        return m_items.Rect(item, false);
+    }
+    return m_look->IconAndText(item);
+}
+
+// In order from the top. Looks at the rows in sight and at those that the rectangle reaches.
+std::vector<HTREEITEM> TreeSelection::ItemsMeeting(const CRect& rect) const
+{
+    std::vector<HTREEITEM> items;
+    const HTREEITEM top = m_items.Next(nullptr, TVGN_FIRSTVISIBLE);
+    for (HTREEITEM item = top; item != nullptr && m_items.Rect(item, false).bottom > rect.top;)
+    {
+        item = m_items.Next(item, TVGN_PREVIOUSVISIBLE);
+        if (item != nullptr && Meet(BandBox(item), rect))
+        {
+            items.push_back(item);
+        }
+    }
+    std::reverse(items.begin(), items.end());
+    for (HTREEITEM item = top; item != nullptr && m_items.Rect(item, false).top < rect.bottom;
+         item = m_items.Next(item, TVGN_NEXTVISIBLE))
+    {
+        if (Meet(BandBox(item), rect))
+        {
+            items.push_back(item);
+        }
+    }
+    return items;
+}
+
+// Selects what meets rect and deselects what does not; with MK_CONTROL only what a band had
+// selected itself is deselected again.
+void TreeSelection::UpdateSelectionForRect(const CRect& rect, UINT flags)
+{
+    const WindowAlive alive(Window());
+    const bool add = (flags & MK_CONTROL) != 0;
+    std::unordered_set<HTREEITEM> kept;
+    std::vector<HTREEITEM> candidates;
+    std::unordered_set<HTREEITEM> refused; // asked for already
+    if (m_band == nullptr)
+    {
+        candidates = add ? std::vector<HTREEITEM>() : m_items.Selected();
+    }
+    else
+    {
+        candidates = m_band->stretched ? m_band->met.All() : m_items.Selected();
+        refused.insert(m_band->met.All().begin(), m_band->met.All().end());
+        if (add)
+        {
+            kept.insert(m_band->before.All().begin(), m_band->before.All().end());
+        }
+        m_band->stretched = true;
+    }
+    std::vector<HTREEITEM> meeting = ItemsMeeting(rect);
+    const std::unordered_set<HTREEITEM> inside(meeting.begin(), meeting.end());
+    std::erase_if(candidates, [&](HTREEITEM item) {
+        return item == nullptr || inside.count(item) != 0 || kept.count(item) != 0 ||
+               !m_items.IsSelected(item);
+    });
+    const WatchedItems held(m_items, meeting);
+    if (m_band != nullptr)
+    {
+        m_band->met.Set(meeting);
+    }
+    ChangeEach(candidates, false, true);
+    if (!alive)
+    {
+        return;
+    }
+    meeting = held.All();
+    std::erase_if(meeting, [&](HTREEITEM item) {
+        return item == nullptr || refused.count(item) != 0 || m_items.IsSelected(item);
+    });
+    ChangeEach(meeting, true, true);
+}
+
+void TreeSelection::RestoreBeforeBand(Band& band)
+{
+    const WindowAlive alive(Window());
+    const std::unordered_set<HTREEITEM> before(band.before.All().begin(), band.before.All().end());
+    std::vector<HTREEITEM> away = band.met.All();
+    std::erase_if(away, [&](HTREEITEM item) {
+        return item == nullptr || before.count(item) != 0 || !m_items.IsSelected(item);
+    });
+    ChangeEach(away, false, true);
+    if (!alive)
+    {
+        return;
+    }
+    std::vector<HTREEITEM> back = band.before.All();
+    std::erase_if(back,
+                  [&](HTREEITEM item) { return item == nullptr || m_items.IsSelected(item); });
+    ChangeEach(back, true, true);
+}
+
+// Where the band is, for the next paint.
+void TreeSelection::PlaceBand()
+{
+    CRect client;
+    Window().GetClientRect(&client);
+    const CPoint end(
+        std::clamp(m_band->pointer.x, client.left, std::max(client.left, client.right - 1)),
+        std::clamp(m_band->pointer.y, client.top, std::max(client.top, client.bottom - 1)));
+    const CRect old = m_band->rect;
+    m_band->rect = Between(m_band->pressed + ContentOrigin(), end);
+    if (old != m_band->rect)
+    {
+        TreeLook::InvalidateBand(Handle(), old);
+        TreeLook::InvalidateBand(Handle(), m_band->rect);
+    }
+}
+
+void TreeSelection::MoveBand()
+{
+    const WindowAlive alive(Window());
+    PlaceBand();
+    UpdateSelectionForRect(m_band->rect, m_band->flags);
+    if (alive && m_band != nullptr && m_scrollTimer == 0)
+    {
+        StartAutoScroll(BandTimer, BandTimerPeriod, 0);
+    }
+}
+
+TreeSelection::LoopEnd TreeSelection::RunBand(Band& band, MSG& last)
+{
+    const WindowAlive alive(Window());
+    const CSize threshold = m_owner.GetDragThreshold();
+    const CPoint first = band.pointer;
+    while (alive)
+    {
+        const LoopEnd end = NextOfPress(last);
+        if (end != LoopEnd::Moved)
+        {
+            return end;
+        }
+        if (last.message == WM_KEYDOWN && last.wParam == VK_ESCAPE)
+        {
+            return LoopEnd::Lost; // of all that a key may close, the band comes first
+        }
+        ::TranslateMessage(&last);
+        ::DispatchMessage(&last);
+        if (!alive || last.message != WM_MOUSEMOVE || last.hwnd != Handle())
+        {
+            continue;
+        }
+        band.pointer = CPoint(GET_X_LPARAM(last.lParam), GET_Y_LPARAM(last.lParam));
+        if (band.stretched || std::abs(band.pointer.x - first.x) > threshold.cx ||
+            std::abs(band.pointer.y - first.y) > threshold.cy)
+        {
+            MoveBand();
+        }
+    }
+    return LoopEnd::Lost;
+}
+
+void TreeSelection::DoBanding(bool left, UINT flags, CPoint point)
+{
+    if (m_inLoop || Handle() == nullptr)
+    {
+        return;
+    }
+    const WindowAlive alive(Window());
+    ::SetFocus(Handle()); // Escape has to come here
+    if (!alive)
+    {
+        return;
+    }
+    Band band(*this, flags, point);
+    m_band = &band;
+    m_inLoop = true;
+    ::SetCapture(Handle());
+    MSG last = {};
+    const LoopEnd end = RunBand(band, last);
+    if (!alive)
+    {
+        return;
+    }
+    m_band = nullptr;
+    TreeLook::InvalidateBand(Handle(), band.rect);
+    StopAutoScroll();
+    EndLoop();
+    if (!alive)
+    {
+        return;
+    }
+    if (end == LoopEnd::Lost)
+    {
+        if (band.stretched)
+        {
+            RestoreBeforeBand(band);
+        }
+        return;
+    }
+    if (band.stretched)
+    {
+        return;
+    }
+    if ((flags & MK_CONTROL) == 0)
+    {
+        m_owner.SelectAll(false, true);
+    }
+    if (alive)
+    {
+        TellClick(WatchedItem(m_items), left, point, last);
+    }
+}
+
+// Scrolling by timer ----------------------------------------------------------------------------
+
+int TreeSelection::GetAutoScrollDirection(CPoint point)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    if (Handle() == nullptr || !::GetScrollInfo(Handle(), SB_VERT, &info))
+    {
+        return 0;
+    }
+    CRect client;
+    Window().GetClientRect(&client);
+    const int row = m_items.RowHeight();
+    const int last = info.nMax - std::max(0, int(info.nPage) - 1);
+    if (point.y >= client.top && point.y < client.top + row && info.nPos > info.nMin)
+    {
+        return -1;
+    }
+    if (point.y < client.bottom && point.y >= client.bottom - row && info.nPos < last)
+    {
+        return 1;
+    }
+    return 0;
+}
+
+void TreeSelection::StartAutoScroll(UINT_PTR id, UINT period, int direction)
+{
+    if (m_band != nullptr && id != BandTimer)
+    {
+        return; // the pointer is the band's
+    }
+    m_scrollDirection = direction;
+    if (m_scrollTimer != id)
+    {
+        StopAutoScroll();
+        m_scrollDirection = direction;
+        m_scrollTimer = ::SetTimer(Handle(), id, period, nullptr) != 0 ? id : 0;
+    }
+}
+
+void TreeSelection::StopAutoScroll()
+{
+    if (m_scrollTimer != 0)
+    {
+        ::KillTimer(Handle(), m_scrollTimer);
+        m_scrollTimer = 0;
+    }
+    m_scrollDirection = 0;
+}
+
+void TreeSelection::DoAutoScroll()
+{
+    if (m_band != nullptr)
+    {
+        ScrollForBand();
+    }
+    else if (m_scrollDirection != 0)
+    {
+        const DragImageHidden hidden; // it would scroll along
+        const WindowAlive alive(Window());
+        ::SendMessage(Handle(), WM_VSCROLL, m_scrollDirection < 0 ? SB_LINEUP : SB_LINEDOWN, 0);
+        if (alive)
+        {
+            Window().UpdateWindow();
+        }
+    }
+}
+
+void TreeSelection::ScrollForBand()
+{
+    const WindowAlive alive(Window());
+    const HWND window = Handle();
+    CRect client;
+    Window().GetClientRect(&client);
+    // Beyond an edge counts as at it: the pointer is captured.
+    const CPoint pointer(
+        std::clamp(m_band->pointer.x, client.left, std::max(client.left, client.right - 1)),
+        std::clamp(m_band->pointer.y, client.top, std::max(client.top, client.bottom - 1)));
+    const int edge = m_items.RowHeight();
+    const int down = GetAutoScrollDirection(pointer);
+    const int across = pointer.x < client.left + edge     ? -1
+                       : pointer.x >= client.right - edge ? 1
+                                                          : 0;
+    const CPoint before = ContentOrigin();
+    if (down != 0)
+    {
+        ::SendMessage(window, WM_VSCROLL, down < 0 ? SB_LINEUP : SB_LINEDOWN, 0);
+    }
+    if (alive && across != 0 && (Window().GetStyle() & WS_HSCROLL) != 0)
+    {
+        ::SendMessage(window, WM_HSCROLL, across < 0 ? SB_LINELEFT : SB_LINERIGHT, 0);
+    }
+    if (alive && m_band != nullptr && ContentOrigin() != before)
+    {
+        MoveBand();
+    }
+}
+
+// Messages on their way to the platform ---------------------------------------------------------
+
+namespace {
+
+// Messages by which the platform may move the pixels that a band lies on.
+bool MovesContent(UINT message)
+{
+    switch (message)
+    {
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+    case WM_MOUSEWHEEL:
+    case WM_KEYDOWN:
+    case WM_SIZE:
+    case TVM_ENSUREVISIBLE:
+    case TVM_SELECTITEM:
+    case TVM_EXPAND:
+    case TVM_DELETEITEM:
+    case TVM_INSERTITEMA:
+    case TVM_INSERTITEMW:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_RBUTTONUP && m_endsClick)
+    {
+        return 0; // the platform would ask for the context menu, as the click is about to do
+    }
+    if (m_inLoop && (message == WM_CAPTURECHANGED || message == WM_DESTROY))
+    {
+        ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0); // wakes the loop
+    }
+    const WindowAlive alive(Window());
+    if (const HTREEITEM branch = TreeItems::Real(HTREEITEM(lParam));
+        message == TVM_EXPAND && branch != nullptr && Closes(branch, UINT(wParam)))
+    {
+        // The platform asks the parent, and us by it, only when the user closes the branch.
+        const WatchedItem held(m_items, branch);
+        LeaveBranch(branch);
+        if (!alive || held.Get() == nullptr)
+        {
+            return FALSE;
+        }
+    }
+    m_look->Before(message, wParam);
+    const LRESULT result = m_items.Native(message, wParam, lParam);
+    if (!alive)
+    {
+        return result;
+    }
+    m_look->After(message);
+    if (m_band != nullptr && MovesContent(message))
+    {
+        // The platform copies pixels when it scrolls, those of the band among them.
+        PlaceBand();
+        ::InvalidateRect(Handle(), nullptr, FALSE);
+    }
+    return result;
+}
+
+void TreeSelection::Paint()
+{
+    m_look->Paint(m_band != nullptr && m_band->stretched ? &m_band->rect : nullptr);
+}
+
+bool TreeSelection::EraseBackground()
+{
+    return m_look->PaintsAll() || m_band != nullptr;
+}
+
+} // namespace trees

@@ -1,0 +1,384 @@
+#include "trees/TreeLook.h"
+
+#include "CustomListBox.h"
+#include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
+#include "paint/BackBuffer.h"
+#include "paint/GdiGuards.h"
+#include "paint/Metrics.h"
+#include "paint/Palette.h"
+#include "trees/DragImage.h"
+
+#include <algorithm>
+
+namespace trees {
+
+// Following the mode ----------------------------------------------------------------------------
+
+void TreeLook::Before(UINT message, WPARAM)
+{
+    switch (message)
+    {
+    case WM_SIZE:
+    case WM_PAINT:
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+    case WM_KEYDOWN:
+        Follow();
+        break;
+    default:
+        break;
+    }
+}
+
+void TreeLook::After(UINT message)
+{
+    if (message != WM_SETFONT)
+    {
+        return;
+    }
+    m_bold.DeleteObject();
+    if (m_onBoard)
+    {
+        MakeRowsForFinger(); // the host has given it another font
+    }
+}
+
+void TreeLook::Follow()
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if (m_following || m_owner.Window().GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    if (!onBoard && !m_onBoard)
+    {
+        m_sawStandard = true;
+    }
+    if (onBoard == m_onBoard)
+    {
+        return;
+    }
+    const WindowAlive alive(m_owner.Window());
+    m_following = true;
+    m_onBoard = onBoard;
+    if (onBoard)
+    {
+        EnterOnBoard();
+    }
+    else
+    {
+        LeaveOnBoard();
+    }
+    if (alive)
+    {
+        m_following = false;
+        m_bold.DeleteObject();
+        m_owner.Window().Invalidate();
+    }
+}
+
+void TreeLook::EnterOnBoard()
+{
+    m_standardFont = reinterpret_cast<HFONT>(m_items.Ask(WM_GETFONT));
+    m_standardIndent = int(m_items.Ask(TVM_GETINDENT));
+    // A height that is not the platform's own choice was set by the host, to be given back.
+    const int height = m_items.RowHeight();
+    m_items.Ask(TVM_SETITEMHEIGHT, WPARAM(-1));
+    m_standardRow = height == m_items.RowHeight() ? -1 : height;
+    m_items.Ask(WM_SETFONT, WPARAM(CCustomListBox::GetOnBoardFont().GetSafeHandle()), FALSE);
+    m_items.Ask(TVM_SETINDENT, WPARAM(std::max(m_standardIndent, metrics::FingerRow)));
+    MakeRowsForFinger();
+}
+
+void TreeLook::LeaveOnBoard()
+{
+    // A tree that began on-board has no font of the host's to go back to, and the host's may be
+    // gone by now.
+    const bool hosts =
+        m_sawStandard && (m_standardFont == nullptr || ::GetObjectType(m_standardFont) == OBJ_FONT);
+    m_items.Ask(WM_SETFONT,
+                hosts ? WPARAM(m_standardFont)
+                      : WPARAM(CCustomListBox::GetStdFont().GetSafeHandle()),
+                FALSE);
+    m_items.Ask(TVM_SETINDENT, WPARAM(m_standardIndent));
+    m_items.Ask(TVM_SETITEMHEIGHT, WPARAM(m_standardRow));
+    m_sawStandard = true;
+}
+
+void TreeLook::MakeRowsForFinger()
+{
+    m_items.Ask(TVM_SETITEMHEIGHT, WPARAM(-1));
+    m_items.Ask(TVM_SETITEMHEIGHT,
+                WPARAM(std::max({metrics::FingerRow, m_items.RowHeight(), m_standardRow})));
+}
+
+// Layout ----------------------------------------------------------------------------------------
+
+CSize TreeLook::ImageSize(int list) const
+{
+    const auto images = HIMAGELIST(m_items.Ask(TVM_GETIMAGELIST, WPARAM(list)));
+    int width = 0;
+    int height = 0;
+    if (images != nullptr)
+    {
+        ::ImageList_GetIconSize(images, &width, &height);
+    }
+    return CSize(width, height);
+}
+
+CRect TreeLook::IconAndText(HTREEITEM item) const
+{
+    CRect rect = m_items.Rect(item, true);
+    if (!rect.IsRectEmpty())
+    {
+        rect.left -= ImageSize(TVSIL_NORMAL).cx;
+    }
+    return rect;
+}
+
+bool TreeLook::Read(HTREEITEM item, Row& row) const
+{
+    char buffer[MAX_PATH] = "";
+    TVITEM data = {};
+    data.mask =
+        TVIF_HANDLE | TVIF_TEXT | TVIF_STATE | TVIF_CHILDREN | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    data.hItem = item;
+    data.stateMask = UINT(-1);
+    data.pszText = buffer;
+    data.cchTextMax = int(sizeof(buffer)) - 1;
+    const WindowAlive alive(m_owner.Window());
+    // Items may leave text, icon and children to the parent, which is asked now.
+    if (!m_items.Ask(TVM_GETITEM, 0, reinterpret_cast<LPARAM>(&data)) || !alive)
+    {
+        return false;
+    }
+    row.item = item;
+    row.state = data.state;
+    row.image = (data.state & TVIS_SELECTED) != 0 ? data.iSelectedImage : data.iImage;
+    row.branch = data.cChildren != 0;
+    row.label = data.pszText == nullptr ? "" : data.pszText;
+    row.text = m_items.Rect(item, true);
+    return true;
+}
+
+HGDIOBJ TreeLook::Font(bool bold)
+{
+    const auto font = HGDIOBJ(m_items.Ask(WM_GETFONT));
+    if (!bold)
+    {
+        return font != nullptr ? font : ::GetStockObject(SYSTEM_FONT);
+    }
+    LOGFONT description = {};
+    if (m_bold.GetSafeHandle() == nullptr &&
+        ::GetObject(font != nullptr ? font : ::GetStockObject(SYSTEM_FONT), sizeof(description),
+                    &description) != 0)
+    {
+        description.lfWeight = FW_BOLD;
+        m_bold.CreateFontIndirect(&description);
+    }
+    return m_bold.GetSafeHandle();
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+void TreeLook::InvalidateBand(HWND window, const CRect& band)
+{
+    constexpr int Line = metrics::RubberBandLineOnBoard;
+    const CRect sides[] = {CRect(band.left, band.top, band.right, band.top + Line),
+                           CRect(band.left, band.bottom - Line, band.right, band.bottom),
+                           CRect(band.left, band.top, band.left + Line, band.bottom),
+                           CRect(band.right - Line, band.top, band.right, band.bottom)};
+    for (const CRect& side : sides)
+    {
+        ::InvalidateRect(window, &side, TRUE); // the platform paints no ground of its own
+    }
+}
+
+void TreeLook::PaintBand(CDC& dc, const CRect& band) const
+{
+    const int line = m_onBoard ? metrics::RubberBandLineOnBoard : metrics::RubberBandLine;
+    const COLORREF color = m_onBoard ? palette::RubberBand : ::GetSysColor(COLOR_HIGHLIGHT);
+    dc.FillSolidRect(CRect(band.left, band.top, band.right, band.top + line), color);
+    dc.FillSolidRect(CRect(band.left, band.bottom - line, band.right, band.bottom), color);
+    dc.FillSolidRect(CRect(band.left, band.top, band.left + line, band.bottom), color);
+    dc.FillSolidRect(CRect(band.right - line, band.top, band.right, band.bottom), color);
+}
+
+void TreeLook::Paint(const CRect* band)
+{
+    const WindowAlive alive(m_owner.Window());
+    Follow();
+    if (!alive)
+    {
+        return;
+    }
+    const DragImageHidden hidden; // it would be painted over, and its ground be out of date
+    if (!m_onBoard && band == nullptr)
+    {
+        m_owner.DefaultOfCurrent();
+        return;
+    }
+    CWnd& window = m_owner.Window();
+    CPaintDC dc(&window);
+    CRect client;
+    window.GetClientRect(&client);
+    const CRect given = band == nullptr ? CRect(0, 0, 0, 0) : *band;
+    if (m_onBoard)
+    {
+        BackBuffer buffer(dc, dc.m_ps.rcPaint);
+        PaintRows(buffer, dc.m_ps.rcPaint);
+        if (alive && band != nullptr)
+        {
+            PaintBand(buffer, given);
+        }
+        return;
+    }
+    // The platform paints all of itself into a context that it is given, and erases nothing.
+    BackBuffer buffer(dc, client);
+    const auto ground = COLORREF(m_items.Ask(TVM_GETBKCOLOR));
+    buffer.DC().FillSolidRect(client,
+                              ground == COLORREF(-1) ? ::GetSysColor(COLOR_WINDOW) : ground);
+    m_items.Ask(WM_PAINT, WPARAM(buffer.DC().GetSafeHdc()));
+    if (alive)
+    {
+        PaintBand(buffer, given);
+    }
+}
+
+void TreeLook::PaintRows(CDC& dc, const CRect& area)
+{
+    const WindowAlive alive(m_owner.Window());
+    const bool enabled = m_owner.Window().IsWindowEnabled();
+    dc.FillSolidRect(area, enabled ? palette::Field : palette::FieldDisabled);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    // The parent may take items away when it is asked for their texts.
+    WatchedItem item(m_items, m_items.Next(nullptr, TVGN_FIRSTVISIBLE));
+    while (alive && item.Get() != nullptr)
+    {
+        const CRect row = m_items.Rect(item.Get(), false);
+        if (row.top >= area.bottom)
+        {
+            break;
+        }
+        Row content = {};
+        if (row.bottom > area.top && Read(item.Get(), content))
+        {
+            PaintRow(dc, content);
+        }
+        if (alive)
+        {
+            item.Set(item.Get() == nullptr ? nullptr : m_items.Next(item.Get(), TVGN_NEXTVISIBLE));
+        }
+    }
+}
+
+void TreeLook::PaintLabel(CDC& dc, const Row& row, COLORREF ground, COLORREF color)
+{
+    const Selected font(dc, Font((row.state & TVIS_BOLD) != 0));
+    const TextColor textColor(dc, color);
+    const COLORREF before = dc.SetBkColor(ground);
+    const int top = row.text.top + (row.text.Height() - dc.GetTextExtent("X", 1).cy) / 2;
+    dc.ExtTextOut(row.text.left + metrics::TreeTextMargin, top, ETO_OPAQUE | ETO_CLIPPED, row.text,
+                  row.label, nullptr);
+    dc.SetBkColor(before);
+}
+
+void TreeLook::PaintRow(CDC& dc, const Row& row)
+{
+    const CWnd& window = m_owner.Window();
+    const DWORD style = window.GetStyle();
+    const bool enabled = window.IsWindowEnabled();
+    const bool marked = (row.state & (TVIS_SELECTED | TVIS_DROPHILITED)) != 0;
+    CRect label = row.text;
+    if (marked && (style & TVS_FULLROWSELECT) != 0)
+    {
+        CRect full = m_items.Rect(row.item, false);
+        dc.FillSolidRect(full, palette::Highlight);
+    }
+    PaintLabel(dc, row,
+               !enabled ? palette::FieldDisabled
+               : marked ? palette::Highlight
+                        : palette::Field,
+               !enabled ? palette::FieldTextDisabled
+               : marked ? palette::HighlightText
+                        : palette::FieldText);
+    if ((row.state & TVIS_FOCUSED) != 0 || row.item == m_items.Caret())
+    {
+        if (::GetFocus() == window.GetSafeHwnd())
+        {
+            dc.DrawFocusRect(label);
+        }
+    }
+    int left = row.text.left;
+    const auto draw = [&](int list, int image) {
+        const auto images = HIMAGELIST(m_items.Ask(TVM_GETIMAGELIST, WPARAM(list)));
+        const CSize size = ImageSize(list);
+        left -= size.cx;
+        if (images != nullptr && image >= 0)
+        {
+            const UINT cut = (row.state & TVIS_CUT) != 0 ? ILD_BLEND50 : ILD_NORMAL;
+            const UINT overlay = list == TVSIL_NORMAL ? row.state & TVIS_OVERLAYMASK : 0;
+            ::ImageList_Draw(images, image, dc.GetSafeHdc(), left,
+                             row.text.top + (row.text.Height() - size.cy) / 2,
+                             cut | overlay | ILD_TRANSPARENT);
+        }
+    };
+    draw(TVSIL_NORMAL, row.image);
+    if (const UINT stateImage = (row.state & TVIS_STATEIMAGEMASK) >> 12; stateImage != 0)
+    {
+        draw(TVSIL_STATE, int(stateImage));
+    }
+    if (row.branch && (style & TVS_HASBUTTONS) != 0 &&
+        ((style & TVS_LINESATROOT) != 0 || m_items.Parent(row.item) != nullptr))
+    {
+        PaintMark(dc, row, left);
+    }
+}
+
+// A triangle that points to the right at a closed branch and down at an open one.
+void TreeLook::PaintMark(CDC& dc, const Row& row, int right)
+{
+    const COLORREF color =
+        m_owner.Window().IsWindowEnabled() ? palette::BranchMark : palette::BranchMarkDisabled;
+    constexpr int Long = metrics::BranchMark;
+    constexpr int Short = Long / 2;
+    const CPoint middle(right - int(m_items.Ask(TVM_GETINDENT)) / 2,
+                        row.text.top + row.text.Height() / 2);
+    const bool open = (row.state & TVIS_EXPANDED) != 0;
+    const POINT closedMark[] = {{middle.x - Short / 2, middle.y - Long / 2},
+                                {middle.x - Short / 2, middle.y + Long / 2},
+                                {middle.x + Short / 2, middle.y}};
+    const POINT openMark[] = {{middle.x - Long / 2, middle.y - Short / 2},
+                              {middle.x + Long / 2, middle.y - Short / 2},
+                              {middle.x, middle.y + Short / 2}};
+    CBrush brush(color);
+    CPen pen(PS_SOLID, 1, color);
+    const Selected selectedBrush(dc, brush);
+    const Selected selectedPen(dc, pen);
+    dc.Polygon(open ? openMark : closedMark, 3);
+}
+
+void TreeLook::DrawIconAndText(CDC& dc, HTREEITEM item, const CRect& text, bool selected)
+{
+    Row row = {};
+    if (!Read(item, row))
+    {
+        return;
+    }
+    row.text = text;
+    const COLORREF ground = m_onBoard ? palette::Highlight : ::GetSysColor(COLOR_HIGHLIGHT);
+    const COLORREF color = m_onBoard ? palette::HighlightText : ::GetSysColor(COLOR_HIGHLIGHTTEXT);
+    const BackgroundMode mode(dc, TRANSPARENT);
+    PaintLabel(dc, row, selected ? ground : ::GetSysColor(COLOR_WINDOW),
+               selected ? color : ::GetSysColor(COLOR_WINDOWTEXT));
+    const auto images = HIMAGELIST(m_items.Ask(TVM_GETIMAGELIST, TVSIL_NORMAL));
+    const CSize size = ImageSize(TVSIL_NORMAL);
+    if (images != nullptr && row.image >= 0)
+    {
+        ::ImageList_Draw(images, row.image, dc.GetSafeHdc(), text.left - size.cx,
+                         text.top + (text.Height() - size.cy) / 2, ILD_TRANSPARENT);
+    }
+}
+
+} // namespace trees

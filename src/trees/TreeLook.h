@@ -1,0 +1,75 @@
+#pragma once
+
+#include "trees/TreeItems.h"
+
+namespace trees {
+
+// How a tree looks in the display mode: in the standard mode as the platform draws it, in the
+// on-board modes in the library's colours and font with rows for a finger. A tree has no place in
+// the registries of mode changes, so it looks at the mode whenever it is sized, painted or pressed;
+// its dialog's restyling sizes it, and a paint follows every change.
+class TreeLook
+{
+public:
+    TreeLook(TreeItems& items, TreeOwner& owner)
+        : m_items(items)
+        , m_owner(owner)
+    {}
+    TreeLook(const TreeLook&) = delete;
+    TreeLook& operator=(const TreeLook&) = delete;
+
+    // Each message before and after the platform's tree has it.
+    void Before(UINT message, WPARAM wParam);
+    void After(UINT message);
+    // Takes up the mode of the moment.
+    void Follow();
+
+    // Whether Paint covers everything, so that nothing is to be erased.
+    bool PaintsAll() const { return m_onBoard; }
+    // In answer to WM_PAINT; with a rubber band (client pixels) over the items, or null.
+    void Paint(const CRect* band);
+    // Has the line of a band painted again.
+    static void InvalidateBand(HWND window, const CRect& band);
+
+    // Client rectangle of what an item shows: its icon and its text. Empty when it is hidden.
+    CRect IconAndText(HTREEITEM item) const;
+    // Draws icon and text of an item, selected or not, with its text at rect.
+    void DrawIconAndText(CDC& dc, HTREEITEM item, const CRect& text, bool selected);
+
+private:
+    // What an item's row shows.
+    struct Row
+    {
+        HTREEITEM item;
+        UINT state;
+        int image;
+        bool branch;
+        CString label;
+        CRect text;
+    };
+
+    TreeItems& m_items;
+    TreeOwner& m_owner;
+    bool m_onBoard = false;         // laid out for an on-board mode
+    bool m_following = false;       // in Follow
+    bool m_sawStandard = false;     // the host has had the tree in the standard mode
+    HFONT m_standardFont = nullptr; // the host's
+    int m_standardRow = -1;         // pixels; -1 leaves it to the platform
+    int m_standardIndent = 0;       // pixels
+    CFont m_bold;                   // of the tree's font, made when an item is bold
+
+    void EnterOnBoard();
+    void LeaveOnBoard();
+    void MakeRowsForFinger();
+
+    bool Read(HTREEITEM item, Row& row) const;
+    void PaintRows(CDC& dc, const CRect& area);
+    void PaintRow(CDC& dc, const Row& row);
+    void PaintMark(CDC& dc, const Row& row, int right);
+    void PaintBand(CDC& dc, const CRect& band) const;
+    void PaintLabel(CDC& dc, const Row& row, COLORREF ground, COLORREF color);
+    CSize ImageSize(int list) const;
+    HGDIOBJ Font(bool bold);
+};
+
+} // namespace trees
