@@ -36,3 +36,4 @@ std::vector<Row> DialogRows();
 std::vector<Row> ToolbarRows();
 std::vector<Row> PolygonRows();
 std::vector<Row> MessageBoxRows();
+std::vector<Row> TreeRows();

@@ -3,6 +3,7 @@
 #include <CustomDialog.h>
 #include <CustomListBox.h>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -44,6 +45,13 @@ public:
 
     // Brings the controls into the state that a picture should show, by messages as input sends.
     virtual void PoseForPicture() {}
+    // Has each of the page's pictures made, with what its name gets beyond page and mode.
+    using TakePicture = std::function<void(const char* suffix)>;
+    virtual void TakePictures(const TakePicture& take)
+    {
+        PoseForPicture();
+        take("");
+    }
 
     BOOL OnInitDialog() override;
     // The frame sees every key first: its mode switches work wherever the focus is.

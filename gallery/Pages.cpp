@@ -12,6 +12,7 @@
 #include "ToolbarPage.h"
 #include "MessageBoxPage.h"
 #include "SearchBarPage.h"
+#include "TreesPage.h"
 
 namespace {
 
@@ -34,6 +35,9 @@ constexpr PageEntry AllPages[] = {
     {"toolbar", "Tool bar", &Make<ToolbarPage>},
     {"icons", "Icons", &Make<IconsPage>},
     {"polygon", "View polygon", &Make<PolygonPage>},
+    {"list-boxes", "List boxes", &Make<ListBoxPage>},   {"buttons", "Buttons", &Make<ButtonsPage>},
+    {"labels", "Labels and groups", &Make<LabelsPage>}, {"edits", "Edits", &Make<EditsPage>},
+    {"dialogs", "Dialogs", &Make<DialogsPage>},         {"trees", "Trees", &Make<TreesPage>},
 };
 // clang-format on
 

@@ -131,9 +131,9 @@ std::unique_ptr<Snapshot> Settled(GalleryFrame& frame)
     return last;
 }
 
-CString PicturePath(const CString& folder, const PageEntry& page, APPMODE mode)
+CString PicturePath(const CString& folder, const PageEntry& page, APPMODE mode, const char* suffix)
 {
-    CString name = CString(page.name) + "-" + APPMODE_NAMES[mode] + ".png";
+    CString name = CString(page.name) + "-" + APPMODE_NAMES[mode] + suffix + ".png";
     name.MakeLower();
     return folder + "\\" + name;
 }
@@ -165,18 +165,20 @@ bool WritePictures(GalleryFrame& frame, const CommandLine& options)
                 continue;
             }
             frame.Switches().Tap(APPMODE(mode));
-            frame.Page().PoseForPicture();
-            const auto picture = Settled(frame);
-            const CString path = PicturePath(options.pictures, pages[page], APPMODE(mode));
-            if (images.WritePng(picture->Bitmap(), path))
-            {
-                PrintLine(path);
-            }
-            else
-            {
-                PrintLine("Could not be written: " + path);
-                all = false;
-            }
+            frame.Page().TakePictures([&](const char* suffix) {
+                const auto picture = Settled(frame);
+                const CString path =
+                    PicturePath(options.pictures, pages[page], APPMODE(mode), suffix);
+                if (images.WritePng(picture->Bitmap(), path))
+                {
+                    PrintLine(path);
+                }
+                else
+                {
+                    PrintLine("Could not be written: " + path);
+                    all = false;
+                }
+            });
         }
     }
     frame.Switches().Tap(STD);

@@ -61,7 +61,7 @@ constexpr COLORREF CheckArea = RGB(26, 26, 26); // behind the mark of a check li
 // Trees lie on the ground of fields and lists. The mark opens and closes a branch.
 constexpr COLORREF BranchMark = RGB(26, 26, 26);
 constexpr COLORREF BranchMarkDisabled = RGB(70, 70, 70);
-constexpr COLORREF RubberBand = RGB(50, 80, 110);
+constexpr COLORREF RubberBand = RGB(26, 26, 26);
 
 // Borders of edits, by state: the left and upper edges, and the right and lower ones.
 constexpr COLORREF EditEdgeLit = RGB(93, 93, 93);

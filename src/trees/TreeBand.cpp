@@ -228,8 +228,7 @@ void TreeSelection::DoBanding(bool left, UINT flags, CPoint point)
     }
     Band band(*this, flags, point);
     m_band = &band;
-    m_inLoop = true;
-    ::SetCapture(Handle());
+    BeginLoop();
     MSG last = {};
     const LoopEnd end = RunBand(band, last);
     if (!alive)

@@ -72,6 +72,11 @@ LPARAM TreeItems::Data(HTREEITEM item) const
 
 void TreeItems::Apply(HTREEITEM item, UINT state, UINT mask)
 {
+    if (m_known && m_inPlatform == 0 && mask == TVIS_SELECTED &&
+        HoldsSelected(item) == (state != 0))
+    {
+        return; // what it costs the platform grows with the tree, even for no change
+    }
     TVITEM data = {};
     data.mask = TVIF_HANDLE | TVIF_STATE;
     data.hItem = item;
@@ -114,7 +119,12 @@ void TreeItems::Learn()
 
 void TreeItems::Refresh(HTREEITEM item)
 {
-    if (IsSelected(item))
+    Hold(item, IsSelected(item));
+}
+
+void TreeItems::Hold(HTREEITEM item, bool selected)
+{
+    if (selected)
     {
         m_selected.insert(item);
     }
@@ -434,24 +444,20 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     {
         return result;
     }
-    HTREEITEM changed = nullptr;
     if ((message == TVM_SETITEMA || message == TVM_SETITEMW) && result && lParam != 0)
     {
         // Both forms begin alike.
         const auto& item = *reinterpret_cast<const TVITEM*>(lParam);
-        changed = (item.mask & TVIF_STATE) != 0 && (item.stateMask & TVIS_SELECTED) != 0
-                      ? item.hItem
-                      : nullptr;
+        if ((item.mask & TVIF_STATE) != 0 && (item.stateMask & TVIS_SELECTED) != 0)
+        {
+            Hold(item.hItem, (item.state & TVIS_SELECTED) != 0);
+        }
     }
-    else if (message == TVM_INSERTITEMA || message == TVM_INSERTITEMW)
+    else if ((message == TVM_INSERTITEMA || message == TVM_INSERTITEMW) && result)
     {
-        changed = HTREEITEM(result);
+        Refresh(HTREEITEM(result));
     }
-    if (changed != nullptr)
-    {
-        Refresh(changed);
-    }
-    if (changed != nullptr || movesCaret || message == TVM_DELETEITEM)
+    if (movesCaret || message == TVM_DELETEITEM || m_inPlatform > 0)
     {
         FollowCaret();
     }

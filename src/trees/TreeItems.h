@@ -91,6 +91,7 @@ private:
 
     void Learn();
     void Refresh(HTREEITEM item);
+    void Hold(HTREEITEM item, bool selected);
     void FollowCaret();
     std::vector<HTREEITEM> Forget(HTREEITEM branch, bool itself);
     void ForgetAll();

@@ -198,7 +198,7 @@ void TreeLook::InvalidateBand(HWND window, const CRect& band)
 void TreeLook::PaintBand(CDC& dc, const CRect& band) const
 {
     const int line = m_onBoard ? metrics::RubberBandLineOnBoard : metrics::RubberBandLine;
-    const COLORREF color = m_onBoard ? palette::RubberBand : ::GetSysColor(COLOR_HIGHLIGHT);
+    const COLORREF color = m_onBoard ? palette::RubberBand : ::GetSysColor(COLOR_WINDOWTEXT);
     dc.FillSolidRect(CRect(band.left, band.top, band.right, band.top + line), color);
     dc.FillSolidRect(CRect(band.left, band.bottom - line, band.right, band.bottom), color);
     dc.FillSolidRect(CRect(band.left, band.top, band.left + line, band.bottom), color);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr UINT FocusAndSelect = TVIS_FOCUSED | TVIS_SELECTED;
 
-// How long a press waits for a message before it asks whether the button is still down.
+// How long after the last of its pointer messages a press asks whether the button is still down.
 constexpr DWORD PressWait = 250; // milliseconds
 
 bool AnyButtonDown()
@@ -121,24 +121,29 @@ TreeSelection::LoopEnd TreeSelection::NextOfPress(MSG& message)
     const HWND window = Handle();
     while (alive && ::GetCapture() == window)
     {
-        if (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-        {
-            if (message.message == WM_QUIT)
-            {
-                ::PostQuitMessage(int(message.wParam));
-                return LoopEnd::Lost;
-            }
-            return message.message == WM_LBUTTONUP || message.message == WM_RBUTTONUP
-                       ? LoopEnd::ButtonUp
-                       : LoopEnd::Moved;
-        }
         // A button-up that somebody else took must not keep the loop for ever.
-        if (::MsgWaitForMultipleObjects(0, nullptr, FALSE, PressWait, QS_ALLINPUT) ==
-                WAIT_TIMEOUT &&
-            !AnyButtonDown())
+        if (::GetTickCount() - m_pressSeen >= PressWait && !AnyButtonDown() &&
+            HIWORD(::GetQueueStatus(QS_MOUSEBUTTON)) == 0)
         {
             return LoopEnd::Lost;
         }
+        if (!::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
+        {
+            ::MsgWaitForMultipleObjects(0, nullptr, FALSE, PressWait, QS_ALLINPUT);
+            continue;
+        }
+        if (message.message == WM_QUIT)
+        {
+            ::PostQuitMessage(int(message.wParam));
+            return LoopEnd::Lost;
+        }
+        if (message.message >= WM_MOUSEFIRST && message.message <= WM_MOUSELAST)
+        {
+            m_pressSeen = ::GetTickCount();
+        }
+        return message.message == WM_LBUTTONUP || message.message == WM_RBUTTONUP
+                   ? LoopEnd::ButtonUp
+                   : LoopEnd::Moved;
     }
     return LoopEnd::Lost;
 }
@@ -149,8 +154,7 @@ TreeSelection::LoopEnd TreeSelection::WaitForMove(MSG& last)
     const WindowAlive alive(Window());
     const CSize threshold = m_owner.GetDragThreshold();
     std::optional<CPoint> first;
-    ::SetCapture(Handle());
-    m_inLoop = true;
+    BeginLoop();
     LoopEnd end = LoopEnd::Lost;
     while (alive)
     {
@@ -181,6 +185,13 @@ TreeSelection::LoopEnd TreeSelection::WaitForMove(MSG& last)
     }
     EndLoop();
     return alive ? end : LoopEnd::Lost;
+}
+
+void TreeSelection::BeginLoop()
+{
+    ::SetCapture(Handle());
+    m_inLoop = true;
+    m_pressSeen = ::GetTickCount();
 }
 
 void TreeSelection::EndLoop()

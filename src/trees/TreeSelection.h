@@ -114,6 +114,7 @@ private:
     int m_scrollDirection = 0;
     bool m_inLoop = false;    // waiting for what a press becomes
     bool m_endsClick = false; // the button-up of a click is being dispatched
+    DWORD m_pressSeen = 0;    // tick count of the press's last pointer message
     Band* m_band = nullptr;   // lives in DoBanding
 
     CWnd& Window() const { return m_owner.Window(); }
@@ -130,6 +131,7 @@ private:
 
     LoopEnd NextOfPress(MSG& message);
     LoopEnd WaitForMove(MSG& last);
+    void BeginLoop();
     void EndLoop();
     void Click(const WatchedItem& item, UINT flags);
     void TellClick(const WatchedItem& item, bool left, CPoint point, const MSG& up);
