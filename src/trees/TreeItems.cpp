@@ -77,6 +77,32 @@ void TreeItems::Apply(HTREEITEM item, UINT state, UINT mask)
     {
         return; // what it costs the platform grows with the tree, even for no change
     }
+    if (m_known && m_inPlatform == 0 && mask == TVIS_SELECTED && state == 0 && item == Caret())
+    {
+        // As a rule the caret is about to leave the item, and takes its selection along for
+        // nothing.
+        const CRect row = Rect(item, false);
+        Hold(item, false);
+        m_unwritten = item;
+        ::InvalidateRect(m_owner.Window().GetSafeHwnd(), &row, TRUE);
+        return;
+    }
+    WriteState(item, state, mask);
+}
+
+// Before anybody could see that an item is still selected at the platform.
+void TreeItems::WriteUnwritten()
+{
+    if (m_unwritten != nullptr)
+    {
+        const HTREEITEM item = m_unwritten;
+        m_unwritten = nullptr;
+        WriteState(item, 0, TVIS_SELECTED);
+    }
+}
+
+void TreeItems::WriteState(HTREEITEM item, UINT state, UINT mask)
+{
     TVITEM data = {};
     data.mask = TVIF_HANDLE | TVIF_STATE;
     data.hItem = item;
@@ -372,6 +398,12 @@ bool MovesCaret(UINT message)
 
 LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    const bool caretLeaves =
+        message == TVM_SELECTITEM && wParam == TVGN_CARET && HTREEITEM(lParam) != m_unwritten;
+    if (!caretLeaves && message != WM_DESTROY)
+    {
+        WriteUnwritten();
+    }
     std::vector<HTREEITEM> going;
     bool goingAll = false;
     if (message == TVM_DELETEITEM && m_inPlatform > 0)
@@ -404,6 +436,7 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_DESTROY:
         // The items stay for whoever asks while the window ends, but nothing may be held of them.
         ForgetAll();
+        m_unwritten = nullptr;
         m_going.clear();
         m_goingAll = 0;
         m_inPlatform = 0;
@@ -427,6 +460,14 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
         return result;
     }
     m_inPlatform -= movesCaret;
+    if (caretLeaves && m_unwritten != nullptr)
+    {
+        if (Caret() == m_unwritten)
+        {
+            WriteUnwritten(); // the parent has refused
+        }
+        m_unwritten = nullptr;
+    }
     m_goingAll -= goingAll;
     for (const HTREEITEM item : going)
     {

@@ -46,12 +46,15 @@ public:
     HTREEITEM Caret() const { return Next(nullptr, TVGN_CARET); }
     UINT State(HTREEITEM item, UINT mask) const
     {
-        return item == nullptr ? 0 : UINT(Ask(TVM_GETITEMSTATE, WPARAM(item), mask)) & mask;
+        const UINT written = item == m_unwritten ? mask & ~TVIS_SELECTED : mask;
+        return item == nullptr ? 0 : UINT(Ask(TVM_GETITEMSTATE, WPARAM(item), mask)) & written;
     }
     bool IsSelected(HTREEITEM item) const { return State(item, TVIS_SELECTED) != 0; }
     LPARAM Data(HTREEITEM item) const;
     // Sets state bits without asking or telling anybody.
     void Apply(HTREEITEM item, UINT state, UINT mask);
+    // Has the platform know all that Apply was told; due before it is asked past this class.
+    void WriteUnwritten();
 
     // Layout in client pixels; empty for an item that is hidden.
     CRect Rect(HTREEITEM item, bool textOnly) const;
@@ -78,9 +81,10 @@ public:
 
 private:
     TreeOwner& m_owner;
-    bool m_known = false;        // m_selected is what the item states say
-    bool m_hostRedraw = true;    // the host's WM_SETREDRAW
-    HTREEITEM m_caret = nullptr; // when the knowledge was last brought into step
+    bool m_known = false;            // m_selected is what the item states say
+    bool m_hostRedraw = true;        // the host's WM_SETREDRAW
+    HTREEITEM m_caret = nullptr;     // when the knowledge was last brought into step
+    HTREEITEM m_unwritten = nullptr; // the caret, deselected here and not yet at the platform
     std::unordered_set<HTREEITEM> m_selected;
     std::unordered_set<HTREEITEM> m_going;     // being deleted by the platform
     int m_goingAll = 0;                        // depth of deletions of everything
@@ -89,6 +93,7 @@ private:
     // Outlives this object if a watch does.
     std::shared_ptr<WatchList> m_watches = std::make_shared<WatchList>();
 
+    void WriteState(HTREEITEM item, UINT state, UINT mask);
     void Learn();
     void Refresh(HTREEITEM item);
     void Hold(HTREEITEM item, bool selected);

@@ -213,6 +213,7 @@ void TreeLook::Paint(const CRect* band)
     {
         return;
     }
+    m_items.WriteUnwritten();
     const DragImageHidden hidden; // it would be painted over, and its ground be out of date
     if (!m_onBoard && band == nullptr)
     {
