@@ -334,6 +334,18 @@ void TreeSelection::DoAutoScroll()
     }
 }
 
+namespace {
+
+bool CanScroll(HWND window, int axis)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_RANGE | SIF_PAGE;
+    return ::GetScrollInfo(window, axis, &info) && info.nMax - info.nMin >= int(info.nPage);
+}
+
+} // namespace
+
 void TreeSelection::ScrollForBand()
 {
     const WindowAlive alive(Window());
@@ -354,7 +366,7 @@ void TreeSelection::ScrollForBand()
     {
         ::SendMessage(window, WM_VSCROLL, down < 0 ? SB_LINEUP : SB_LINEDOWN, 0);
     }
-    if (alive && across != 0 && (Window().GetStyle() & WS_HSCROLL) != 0)
+    if (alive && across != 0 && CanScroll(window, SB_HORZ))
     {
         ::SendMessage(window, WM_HSCROLL, across < 0 ? SB_LINELEFT : SB_LINERIGHT, 0);
     }
@@ -414,13 +426,21 @@ LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
             return FALSE;
         }
     }
-    m_look->Before(message, wParam);
-    const LRESULT result = m_items.Native(message, wParam, lParam);
+    LRESULT result = 0;
+    if (m_look->Before(message, wParam, lParam, result) || !alive)
+    {
+        return result;
+    }
+    result = m_items.Native(message, wParam, lParam);
     if (!alive)
     {
         return result;
     }
-    m_look->After(message);
+    m_look->After(message, wParam, lParam, result);
+    if (!alive)
+    {
+        return result;
+    }
     if (m_band != nullptr && MovesContent(message))
     {
         // The platform copies pixels when it scrolls, those of the band among them.

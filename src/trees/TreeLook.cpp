@@ -15,7 +15,7 @@ namespace trees {
 
 // Following the mode ----------------------------------------------------------------------------
 
-void TreeLook::Before(UINT message, WPARAM)
+bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
     switch (message)
     {
@@ -29,16 +29,26 @@ void TreeLook::Before(UINT message, WPARAM)
     default:
         break;
     }
+    return m_onBoard && m_bars.Before(message, wParam, lParam, result);
 }
 
-void TreeLook::After(UINT message)
+void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
-    if (message != WM_SETFONT)
+    const WindowAlive alive(m_owner.Window());
+    if (m_onBoard && !m_following)
+    {
+        m_bars.After(message, wParam, lParam, result);
+    }
+    else if (m_onBoard && (message == WM_NCCALCSIZE || message == WM_WINDOWPOSCHANGING))
+    {
+        m_bars.After(message, wParam, lParam, result);
+    }
+    if (!alive || message != WM_SETFONT)
     {
         return;
     }
     m_bold.DeleteObject();
-    if (m_onBoard)
+    if (m_onBoard && !m_following)
     {
         MakeRowsForFinger(); // the host has given it another font
     }
@@ -89,10 +99,17 @@ void TreeLook::EnterOnBoard()
     m_items.Ask(WM_SETFONT, WPARAM(CCustomListBox::GetOnBoardFont().GetSafeHandle()), FALSE);
     m_items.Ask(TVM_SETINDENT, WPARAM(std::max(m_standardIndent, metrics::FingerRow)));
     MakeRowsForFinger();
+    m_bars.EnterOnBoard();
 }
 
 void TreeLook::LeaveOnBoard()
 {
+    const WindowAlive alive(m_owner.Window());
+    m_bars.LeaveOnBoard();
+    if (!alive)
+    {
+        return;
+    }
     // A tree that began on-board has no font of the host's to go back to, and the host's may be
     // gone by now.
     const bool hosts =
@@ -214,6 +231,14 @@ void TreeLook::Paint(const CRect* band)
         return;
     }
     m_items.WriteUnwritten();
+    if (m_onBoard)
+    {
+        m_bars.Mirror();
+        if (!alive)
+        {
+            return;
+        }
+    }
     const DragImageHidden hidden; // it would be painted over, and its ground be out of date
     if (!m_onBoard && band == nullptr)
     {

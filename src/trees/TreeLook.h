@@ -1,5 +1,6 @@
 #pragma once
 
+#include "trees/TreeBars.h"
 #include "trees/TreeItems.h"
 
 namespace trees {
@@ -14,13 +15,14 @@ public:
     TreeLook(TreeItems& items, TreeOwner& owner)
         : m_items(items)
         , m_owner(owner)
+        , m_bars(owner)
     {}
     TreeLook(const TreeLook&) = delete;
     TreeLook& operator=(const TreeLook&) = delete;
 
-    // Each message before and after the platform's tree has it.
-    void Before(UINT message, WPARAM wParam);
-    void After(UINT message);
+    // Each message before the platform's tree has it; true when it is done with. And after.
+    bool Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    void After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
     // Takes up the mode of the moment.
     void Follow();
 
@@ -50,6 +52,7 @@ private:
 
     TreeItems& m_items;
     TreeOwner& m_owner;
+    TreeBars m_bars;
     bool m_onBoard = false;         // laid out for an on-board mode
     bool m_following = false;       // in Follow
     bool m_sawStandard = false;     // the host has had the tree in the standard mode

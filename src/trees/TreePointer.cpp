@@ -123,7 +123,7 @@ TreeSelection::LoopEnd TreeSelection::NextOfPress(MSG& message)
     {
         // A button-up that somebody else took must not keep the loop for ever.
         if (::GetTickCount() - m_pressSeen >= PressWait && !AnyButtonDown() &&
-            HIWORD(::GetQueueStatus(QS_MOUSEBUTTON)) == 0)
+            !::PeekMessage(&message, nullptr, WM_MOUSEFIRST, WM_MOUSELAST, PM_NOREMOVE))
         {
             return LoopEnd::Lost;
         }

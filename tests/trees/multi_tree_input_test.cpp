@@ -332,4 +332,41 @@ TEST_F(MultiTreeInputTest, TheDragImageShowsTheSelectionInSight)
     EXPECT_EQ(CRect(info.rcImage).Size(), TextRectOf(tree, m_items[1]).Size());
 }
 
+TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
+{
+    auto& tree = AddLongTree();
+    const CSize standard = ClientRectOf(tree).Size();
+    {
+        const ModeScope mode(ONBOARD);
+        tree.Invalidate();
+        PumpAll();
+        EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
+        constexpr int Band = 52;
+        EXPECT_EQ(ClientRectOf(tree).Size(), CSize(200 - Band, 200 - Band));
+        const auto top = [&] { return tree.GetFirstVisibleItem(); };
+        const CPoint downArrow = WindowPoint(tree, CPoint(200 - Band / 2, 200 - Band - 10));
+        Click(downArrow);
+        EXPECT_EQ(top(), m_items[1]);
+        MoveTo(downArrow);
+        Press();
+        EXPECT_TRUE(PumpUntil([&] { return top() == m_items[4]; })) << "held, it repeats";
+        Release();
+        const HTREEITEM released = top();
+        PumpFor(300);
+        EXPECT_EQ(top(), released);
+        Click(WindowPoint(tree, CPoint(200 - Band - 10, 200 - Band / 2)));
+        EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0);
+        // Back by the thumb, to the upper end.
+        Click(WindowPoint(tree, CPoint(200 - Band / 2, 10)));
+        Drag(WindowPoint(tree, CPoint(200 - Band / 2, 52)),
+             WindowPoint(tree, CPoint(200 - Band / 2, 5)));
+        EXPECT_EQ(top(), m_items[0]);
+        EXPECT_EQ(tree.GetSelectedCount(), 0U);
+    }
+    tree.Invalidate();
+    PumpAll();
+    EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), DWORD(WS_VSCROLL | WS_HSCROLL));
+    EXPECT_EQ(ClientRectOf(tree).Size(), standard);
+}
+
 } // namespace

@@ -1,0 +1,369 @@
+#include "trees/TreeBars.h"
+
+#include "modes/WindowAlive.h"
+#include "paint/Metrics.h"
+#include "paint/Palette.h"
+#include "scroll/NcBands.h"
+#include "scroll/ScrollCodes.h"
+
+#include <algorithm>
+
+namespace trees {
+
+namespace {
+
+constexpr DWORD BothStyles = WS_VSCROLL | WS_HSCROLL;
+
+CPoint PointIn(LPARAM lParam)
+{
+    return CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+}
+
+} // namespace
+
+TreeBars::TreeBars(TreeOwner& owner)
+    : m_owner(owner)
+{}
+
+void TreeBars::EnterOnBoard()
+{
+    m_platformStyles = scroll::StripScrollStyles(Window());
+    const WindowAlive alive(Window());
+    scroll::RecalculateFrame(Window(), false);
+    if (alive)
+    {
+        Mirror();
+    }
+}
+
+void TreeBars::LeaveOnBoard()
+{
+    EndPress();
+    for (Bar* each : {&m_vertical, &m_horizontal})
+    {
+        each->shown = false;
+        each->bar.ShowScrollBar(FALSE);
+        // As the platform would show them now.
+        SCROLLINFO info = {};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_RANGE | SIF_PAGE;
+        const bool needed = ::GetScrollInfo(Window(), each->axis, &info) && info.nPage > 0 &&
+                            info.nMax - info.nMin >= int(info.nPage);
+        if (needed)
+        {
+            scroll::RestoreScrollStyles(Window(), scroll::StyleOf(each->axis));
+        }
+    }
+    const WindowAlive alive(Window());
+    scroll::RecalculateFrame(Window(), false);
+    if (alive)
+    {
+        Window().RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+    }
+}
+
+// Mirroring -------------------------------------------------------------------------------------
+
+// Whether the bar has come or gone.
+bool TreeBars::MirrorOne(Bar& each)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    const bool known = ::GetScrollInfo(Window(), each.axis, &info) && info.nPage > 0;
+    const int last = info.nMax - std::max(0, int(info.nPage) - 1);
+    const bool needed = known && last > info.nMin;
+    if (needed && m_held != &each)
+    {
+        each.bar.SetPageSize(int(info.nPage));
+        // The vertical bar has a position to spare, past the last one.
+        each.bar.SetScrollRange(info.nMin, last + (each.axis == SB_VERT ? 1 : 0));
+        each.bar.SetScrollPos(info.nPos);
+    }
+    const bool changed = needed != each.shown;
+    each.shown = needed;
+    each.bar.ShowScrollBar(needed);
+    return changed;
+}
+
+void TreeBars::Mirror()
+{
+    const WindowAlive alive(Window());
+    // The room that one bar takes may call for the other.
+    for (int round = 0; round < 2 && alive; ++round)
+    {
+        const bool vertical = MirrorOne(m_vertical);
+        const bool horizontal = MirrorOne(m_horizontal);
+        if (!vertical && !horizontal)
+        {
+            break;
+        }
+        scroll::RecalculateFrame(Window(), false);
+    }
+    if (alive)
+    {
+        Place();
+        Draw();
+    }
+}
+
+void TreeBars::Place()
+{
+    const CRect client = scroll::ClientRectInWindow(Window());
+    for (Bar* each : {&m_vertical, &m_horizontal})
+    {
+        CRect area =
+            each->axis == SB_VERT
+                ? CRect(client.right, client.top, client.right + metrics::ScrollBand, client.bottom)
+                : CRect(client.left, client.bottom, client.right,
+                        client.bottom + metrics::ScrollBand);
+        // Setting it puts the thumb back onto its step, so not in the middle of a drag.
+        if (each->shown && area != each->bar.GetArea())
+        {
+            each->bar.SetArea(area);
+        }
+    }
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+void TreeBars::Draw(bool force)
+{
+    for (Bar* each : {&m_vertical, &m_horizontal})
+    {
+        if (each->shown)
+        {
+            each->painter.Draw(Window(), each->bar,
+                               m_held == each ? m_part : CFauxScrollBar::PRESSED_NONE, force);
+        }
+    }
+}
+
+// The border, and the corner between two bars.
+void TreeBars::DrawBorder()
+{
+    CWindowDC dc(&Window());
+    CRect window;
+    Window().GetWindowRect(&window);
+    window.OffsetRect(-window.left, -window.top);
+    const CRect client = scroll::ClientRectInWindow(Window());
+    if (m_vertical.shown && m_horizontal.shown)
+    {
+        dc.FillSolidRect(CRect(client.right, client.bottom, window.right, window.bottom),
+                         palette::Trough);
+    }
+    const int bands[] = {client.left, client.top,
+                         window.right - client.right - (m_vertical.shown ? metrics::ScrollBand : 0),
+                         window.bottom - client.bottom -
+                             (m_horizontal.shown ? metrics::ScrollBand : 0)};
+    const CRect sides[] = {CRect(0, 0, bands[0], window.bottom),
+                           CRect(0, 0, window.right, bands[1]),
+                           CRect(window.right - bands[2], 0, window.right, window.bottom),
+                           CRect(0, window.bottom - bands[3], window.right, window.bottom)};
+    for (const CRect& side : sides)
+    {
+        if (!side.IsRectEmpty())
+        {
+            dc.FillSolidRect(side, palette::Outline);
+        }
+    }
+}
+
+// Messages --------------------------------------------------------------------------------------
+
+bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
+{
+    result = 0;
+    switch (message)
+    {
+    case WM_NCCALCSIZE:
+        // The platform puts its styles back whenever its content changes.
+        scroll::StripScrollStyles(Window());
+        return false;
+    case WM_NCLBUTTONDOWN:
+    case WM_NCLBUTTONDBLCLK: // fast touches on an arrow
+        if (wParam == HTVSCROLL || wParam == HTHSCROLL)
+        {
+            Press(wParam, PointIn(lParam));
+            return true;
+        }
+        return false;
+    case WM_NCLBUTTONUP:
+    case WM_NCMOUSELEAVE:
+        // A held arrow goes on until its button is released, wherever the pointer is by then.
+        if (m_held != nullptr && (message == WM_NCLBUTTONUP || !scroll::Repeats(m_part)))
+        {
+            EndPress();
+        }
+        return false;
+    case WM_NCMOUSEMOVE:
+        DragTo(PointIn(lParam));
+        return false;
+    case WM_TIMER:
+        if (wParam != RepeatTimer)
+        {
+            return false;
+        }
+        if (m_held == nullptr || !scroll::LeftButtonDown())
+        {
+            EndPress(); // released somewhere else, where no message told of it
+            Window().KillTimer(RepeatTimer);
+        }
+        else
+        {
+            Scroll(*m_held, scroll::CodeOf(m_part));
+        }
+        return true;
+    case WM_CAPTURECHANGED:
+    case WM_CANCELMODE:
+    case WM_ENABLE:
+    case WM_SHOWWINDOW:
+        EndPress();
+        return false;
+    case WM_DESTROY:
+        EndPress();
+        return false;
+    default:
+        return false;
+    }
+}
+
+void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
+{
+    switch (message)
+    {
+    case WM_NCCALCSIZE:
+        if (wParam != FALSE)
+        {
+            auto& proposed = reinterpret_cast<NCCALCSIZE_PARAMS*>(lParam)->rgrc[0];
+            scroll::TakeBands(proposed, CSize(0, 0), m_vertical.shown, m_horizontal.shown);
+        }
+        break;
+    case WM_WINDOWPOSCHANGING:
+        scroll::RefusePlatformBars(Window(), *reinterpret_cast<WINDOWPOS*>(lParam), BothStyles);
+        break;
+    case WM_NCHITTEST:
+        if (result == HTNOWHERE || result == HTBORDER)
+        {
+            const CPoint point = scroll::ScreenToWindow(Window(), PointIn(lParam));
+            for (Bar* each : {&m_vertical, &m_horizontal})
+            {
+                const UINT hit = each->shown ? each->bar.GetHitTest(point) : 0;
+                if (hit != 0)
+                {
+                    result = LRESULT(hit);
+                    break;
+                }
+            }
+        }
+        break;
+    case WM_NCPAINT:
+        Place();
+        DrawBorder();
+        m_vertical.painter.Invalidate();
+        m_horizontal.painter.Invalidate();
+        Draw();
+        break;
+    case WM_SIZE:
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+    case WM_MOUSEWHEEL:
+    case WM_KEYDOWN:
+        Mirror();
+        break;
+    default:
+        break;
+    }
+}
+
+// Presses ---------------------------------------------------------------------------------------
+
+void TreeBars::Press(WPARAM hitTest, CPoint screen)
+{
+    EndPress();
+    Bar& pressed = hitTest == HTVSCROLL ? m_vertical : m_horizontal;
+    m_last = screen; // a drag starts here, also when a touch came without a move before it
+    const CPoint point = scroll::ScreenToWindow(Window(), screen);
+    if (!pressed.shown || pressed.bar.GetHitTest(point) == 0)
+    {
+        return;
+    }
+    const WindowAlive alive(Window());
+    m_part = pressed.bar.GetLastHit();
+    m_held = &pressed;
+    scroll::RequestNcLeave(Window());
+    if (scroll::Repeats(m_part))
+    {
+        Window().SetTimer(RepeatTimer, RepeatPeriod, nullptr);
+    }
+    if (m_part != CFauxScrollBar::PRESSED_THUMB)
+    {
+        Scroll(pressed, scroll::CodeOf(m_part));
+    }
+    if (alive)
+    {
+        Draw();
+    }
+}
+
+// By the window's own handlers, as if a bar of the platform had been used.
+void TreeBars::Scroll(Bar& bar, int code, int position)
+{
+    if (code == scroll::NoCode)
+    {
+        return;
+    }
+    const WindowAlive alive(Window());
+    Bar* const held = m_held;
+    m_held = nullptr; // the bar takes the new position over
+    Window().SendMessage(scroll::MessageOf(bar.axis), MAKEWPARAM(code, position));
+    if (alive)
+    {
+        m_held = m_held == nullptr && m_part != CFauxScrollBar::PRESSED_NONE ? held : m_held;
+        Draw();
+    }
+}
+
+// Relative: the thumb follows the pointer's movement, not its place.
+void TreeBars::DragTo(CPoint screen)
+{
+    const CPoint last = m_last;
+    m_last = screen;
+    if (m_held == nullptr || m_part != CFauxScrollBar::PRESSED_THUMB)
+    {
+        return;
+    }
+    Bar& dragged = *m_held;
+    const int before = dragged.bar.GetScrollPos();
+    dragged.bar.IncrementScrollByPixels(scroll::Along(dragged.axis, screen) -
+                                        scroll::Along(dragged.axis, last));
+    const int after = dragged.bar.GetScrollPos();
+    const WindowAlive alive(Window());
+    if (after != before)
+    {
+        // The message has sixteen bits for a position.
+        constexpr int Highest = 0xFFFF;
+        Window().SendMessage(scroll::MessageOf(dragged.axis),
+                             MAKEWPARAM(SB_THUMBTRACK, std::clamp(after, 0, Highest)));
+    }
+    if (alive)
+    {
+        Draw();
+    }
+}
+
+// The one way out of a press, however it ends.
+void TreeBars::EndPress()
+{
+    m_part = CFauxScrollBar::PRESSED_NONE;
+    if (m_held == nullptr)
+    {
+        return;
+    }
+    m_held = nullptr;
+    Window().KillTimer(RepeatTimer);
+    scroll::CancelNcLeave(Window());
+    Mirror();
+}
+
+} // namespace trees

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "FauxScrollBar.h"
+#include "scroll/BarPaint.h"
+#include "trees/TreeOwner.h"
+
+namespace trees {
+
+// The tree's wide scroll bars in the on-board modes, painted in its non-client area. The platform
+// keeps its own account of what can be scrolled, which the bars mirror at every paint; presses on
+// them become the scroll messages of the platform's bars.
+class TreeBars
+{
+public:
+    static constexpr UINT_PTR RepeatTimer = 101;
+    static constexpr UINT RepeatPeriod = 130; // milliseconds
+
+    explicit TreeBars(TreeOwner& owner);
+    TreeBars(const TreeBars&) = delete;
+    TreeBars& operator=(const TreeBars&) = delete;
+
+    // Takes the platform's bars away and gives them back.
+    void EnterOnBoard();
+    void LeaveOnBoard();
+
+    // Each message in an on-board mode before the platform has it: true when it is done with, with
+    // its answer in result. And after.
+    bool Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    void After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    // Takes over what can be scrolled and where it is.
+    void Mirror();
+
+private:
+    struct Bar
+    {
+        explicit Bar(int direction)
+            : axis(direction)
+            , bar(direction)
+        {
+            bar.ShowScrollBar(FALSE);
+        }
+        int axis;
+        CFauxScrollBar bar;
+        scroll::BarPainter painter;
+        bool shown = false;
+    };
+
+    TreeOwner& m_owner;
+    Bar m_vertical{SB_VERT};
+    Bar m_horizontal{SB_HORZ};
+    DWORD m_platformStyles = 0; // to be given back
+    Bar* m_held = nullptr;      // the bar that is pressed
+    CFauxScrollBar::ePRESSED m_part = CFauxScrollBar::PRESSED_NONE;
+    CPoint m_last; // of the pointer, on the screen
+
+    CWnd& Window() const { return m_owner.Window(); }
+    bool MirrorOne(Bar& bar);
+    void Place();
+    void Draw(bool force = false);
+    void DrawBorder();
+    void Press(WPARAM hitTest, CPoint screen);
+    void Scroll(Bar& bar, int code, int position = 0);
+    void DragTo(CPoint screen);
+    void EndPress();
+};
+
+} // namespace trees
