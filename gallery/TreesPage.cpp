@@ -372,7 +372,7 @@ void TreesPage::TakePictures(const TakePicture& take)
     m_view->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(item.x, item.y));
     CRect area;
     m_area.GetClientRect(&area);
-    CPoint over(area.left + area.Width() / 4, area.top + area.Height() / 8);
+    CPoint over(area.left + area.Width() / 16, area.top + area.Height() / 16);
     m_area.MapWindowPoints(m_view, &over, 1);
     m_view->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(over.x, over.y));
     take("-drag");

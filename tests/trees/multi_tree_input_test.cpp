@@ -195,6 +195,22 @@ TEST_F(MultiTreeInputTest, ArrowsMoveExtendOrPassTheSelection)
     EXPECT_EQ(tree.GetFocusedItem(), d);
 }
 
+TEST_F(MultiTreeInputTest, ATreeWithoutAParentIsClickedAsWell)
+{
+    TreeForTests tree;
+    ASSERT_TRUE(tree.CWnd::CreateEx(0, WC_TREEVIEW, "", WS_POPUP | WS_VISIBLE | TreeStyle, 500, 300,
+                                    200, 200, nullptr, nullptr));
+    const auto items = AddItems(tree, "abc");
+    PumpAll();
+    ClickItem(tree, items[0]);
+    ClickItem(tree, items[2], {VK_CONTROL});
+    EXPECT_EQ(SelectedTexts(tree), "ac");
+    const CPoint start = PointOf(tree, items[0]);
+    PressScript(start).Move(start + CPoint(1, 0)).Move(start + CPoint(20, 0)).Release();
+    EXPECT_EQ(SelectedTexts(tree), "ac") << "a drag that nobody is told of";
+    tree.DestroyWindow();
+}
+
 TEST_F(MultiTreeInputTest, ABandSelectsWhatItMeetsAndLeavesNoTrace)
 {
     auto& tree = AddTree();

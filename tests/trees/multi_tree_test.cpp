@@ -406,6 +406,21 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
     PumpAll();
     EXPECT_EQ(TextRectOf(tree, a).Size(), before);
     EXPECT_EQ(HFONT(tree.SendMessage(WM_GETFONT)), font);
+
+    // One that begins on-board has nothing of the host's to go back to.
+    int row = 0;
+    {
+        const ModeScope mode(EFB);
+        auto& begun = Add<TreeForTests>(CRect(340, 20, 640, 320), TreeStyle);
+        AddItems(begun, "ab");
+        PumpAll();
+        row = begun.GetItemHeight();
+        COnBoardUIGeneral::SetAppMode(STD);
+        begun.Invalidate();
+        PumpAll();
+        EXPECT_GE(row, 40);
+        EXPECT_LT(begun.GetItemHeight(), 30);
+    }
 }
 
 } // namespace

@@ -152,7 +152,11 @@ TEST_F(MultiTreeViewTest, CtrlMakesItACopyAndARefusalEndsItWithNobody)
     EXPECT_THAT(m_source->ended, ElementsAre(nullptr)) << "it answered 0";
     Begun().Move(OverNothing()).Release();
     EXPECT_THAT(m_source->ended, ElementsAre(nullptr, nullptr));
+    // The desktop: a window of another process.
+    Begun().Move(CPoint(5, 5)).Release();
+    EXPECT_THAT(m_source->ended, ElementsAre(nullptr, nullptr, nullptr));
     EXPECT_THAT(m_target->received, ElementsAre("copy"));
+    EXPECT_FALSE(m_source->m_dragging);
 }
 
 TEST_F(MultiTreeViewTest, AWindowIsLeftOnce)
