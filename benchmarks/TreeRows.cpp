@@ -14,6 +14,7 @@ constexpr int AllItems = 10'000;
 constexpr int RangeItems = 5'000;
 constexpr int FewItems = 10;
 constexpr int Clicks = 50;
+constexpr int RowHeight = 40; // pixels, on-board
 constexpr DWORD Style =
     WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
 
@@ -23,9 +24,9 @@ template <class Tree> struct Filled
     Tree tree;
     std::vector<HTREEITEM> items;
 
-    Filled(int count, int height)
+    Filled(int count, int height, APPMODE mode = STD)
     {
-        EnterMode(STD);
+        EnterMode(mode);
         tree.Create(Style, CRect(20, 20, 320, 20 + height), &Stage(), 1);
         tree.SetRedraw(FALSE);
         for (int item = 0; item < count; ++item)
@@ -116,12 +117,13 @@ Side LoopOverRange()
             [filled] { filled->reset(); }};
 }
 
-// As many rows in sight in both trees, so that as much is painted.
+// On-board, where the library does the painting too, and with the same ten rows in sight in both
+// trees, so that as much is painted.
 template <int count> Side ClickOneByOne()
 {
     auto filled = std::make_shared<std::unique_ptr<Filled<MultiTree>>>();
     return {[filled] {
-                *filled = std::make_unique<Filled<MultiTree>>(count, 160);
+                *filled = std::make_unique<Filled<MultiTree>>(count, FewItems * RowHeight, ONBOARD);
                 (*filled)->tree.SetFocus();
                 (*filled)->tree.SelectItem((*filled)->items.front());
                 PaintNow((*filled)->tree);
