@@ -221,10 +221,16 @@ void TreeSelection::DoBanding(bool left, UINT flags, CPoint point)
         return;
     }
     const WindowAlive alive(Window());
+    const bool hadCaret = m_items.Caret() != nullptr;
     ::SetFocus(Handle()); // Escape has to come here
     if (!alive)
     {
         return;
+    }
+    if (!hadCaret)
+    {
+        // The platform gives the first item its caret with the focus, and selects it.
+        m_items.Apply(m_items.Caret(), 0, TVIS_SELECTED);
     }
     Band band(*this, flags, point);
     m_band = &band;

@@ -252,6 +252,11 @@ TEST_F(MultiTreeInputTest, ABandKeepsOrReplacesTheSelection)
     EXPECT_EQ(SelectedTexts(tree), "de");
 
     const CPoint empty = EmptyBeside(tree, f);
+    tree.SelectItem(nullptr);
+    Host().SetFocus();
+    PressScript(empty, {VK_CONTROL}).Release();
+    EXPECT_EQ(SelectedTexts(tree), "") << "the focus that comes with it selects nothing";
+    band({});
     PressScript(empty, {VK_CONTROL}).Release();
     EXPECT_EQ(SelectedTexts(tree), "de");
     PressScript(empty).Release();
