@@ -38,6 +38,7 @@ constexpr int ListRowMargin = 4;
 constexpr int RowCheckInset = 1;
 constexpr int RowCheckReach = 2;
 constexpr int RowCheckText = 3;
+
 // Rows of a tree: high enough for a finger, which is also how far a level is indented, so that the
 // mark that opens a branch can be hit. The mark is a triangle of this height and half its width.
 constexpr int FingerRow = 40;
