@@ -1,24 +1,279 @@
 #pragma once
 
+#include "CustomListCtrlHdr.h"
+#include "FauxScrollBar.h"
+#include "GridLines.h"
 #include "OnBoardUIExport.h"
 
 #include <afxcmn.h>
 
-// The report list as far as other controls refer to it: its shared fonts.
+#include <memory>
+#include <optional>
+#include <set>
+#include <vector>
+
+namespace scroll {
+class BarPainter;
+}
+
+// The report list of the library. In the standard mode it is the platform's list view. In an
+// on-board mode it takes the platform's scroll bars away, drives wide ones of its own, painted in
+// its non-client area, and paints rows, selection and grid lines itself. It then scrolls by a
+// drawing offset: the platform's list stays at its first row, so rectangles that it tells
+// (GetItemRect ...) are those of the unscrolled list. It may be created, made from a dialog
+// template or put over an existing list view, in any mode, and follows mode changes both ways with
+// its top row and its selection in sight.
+//
+// Columns are 1.7 times as wide in the on-board modes as they were asked for in either kind of
+// mode; the last one fills the rest of the list.
 class ONBOARDUI_API CCustomListCtrl : public CListCtrl
 {
     DECLARE_DYNCREATE(CCustomListCtrl)
 
 public:
-    CCustomListCtrl() = default;
+    CCustomListCtrl();
+    ~CCustomListCtrl() override;
 
     // Shared fonts, made on first use and kept for the life of the process.
     static CFont& GetOnBoardFont();
     static CFont& GetStdFont();
 
+    // Adds the selected rows to what the set holds; while rows are being painted, those of them
+    // that are in sight.
+    virtual void GetSelectedRows(std::set<int>& rows) const;
+
+    // Scrolls back to the first row first. Non-zero on success.
+    int DeleteAllItems();
+
+    // Makes the bars anew from content and size, after changes that the list is not told of.
+    void ReCheckScrollBars();
+
+    // The faux bar for SB_VERT or SB_HORZ, under the type that the framework asks for; null for
+    // anything else. It has no window and is no CScrollBar: a caller may compare the pointer and
+    // hand it back to this list, or cast it back to CFauxScrollBar, but call nothing through it.
+    CScrollBar* GetScrollBarCtrl(int bar) const override;
+
+    // The least width to which a user may drag a column, in pixels of the standard mode; -1 for
+    // none. Setting ignores negative widths.
+    int GetMinColWidth() const { return m_minColWidth; }
+    void SetMinColWidth(int width);
+
+    // Non-zero while a click selects the row that the platform picks from its unscrolled rows, on
+    // the way to the row that was clicked: a parent that is told of a change asks for it.
+    int IsSelChanging() const { return m_selChanging; }
+
 protected:
+    // Frame and bars, at once; the client area is left to be painted.
+    virtual void DrawNC();
+    // Bars that look different from what is on the screen; then fits the last column.
+    virtual void DrawScrollBars();
+
+    // Take range, page and visibility of a bar from the content and the client rectangle.
+    // frameChanged: whether the frame was recalculated for it.
+    virtual void UpdateVScrollData();
+    virtual void UpdateHScrollData(bool& frameChanged);
+
+    // Places the bars against the client rectangle if that is due.
+    virtual void ResizeOBScrollBars();
+
+    // A press on a bar, by the part that is under the pointer.
+    virtual void ProcessVScroll();
+    virtual void ProcessHScroll();
+    // The pointer moved, in client coordinates; drags the thumb that is held.
+    virtual void HandleMouseMoveScroll(const CPoint& point);
+
+    // Scroll the drawing by the difference of two positions of a bar, or by a scroll code.
+    virtual void PerformHScroll(int newPos, int oldPos);
+    virtual void PerformHScroll(int code);
+    virtual void PerformVScroll(int newPos, int oldPos);
+    virtual void PerformVScroll(int code);
+
+    // Takes the dividers of so many columns from the header.
+    virtual void GetVerticalDivides(int columns);
+    // Selection and texts of the rows in rect, in client coordinates.
+    virtual void DrawCells(CDC& dc, int items, int columns, bool fullRowSelect, const CRect& rect);
+    virtual void DrawGrid(CDC& dc, int items, const CRect& rect);
+    // The whole client area.
+    virtual void DrawOB(CDC& dc);
+
+public:
+    void PreSubclassWindow() override;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
+    afx_msg void OnDestroy();
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnNcPaint();
+    afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);
+    afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* position);
+    afx_msg void OnEnable(BOOL enable);
+    afx_msg void OnShowWindow(BOOL show, UINT status);
+    afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
+    afx_msg void OnNcLButtonDblClk(UINT hitTest, CPoint point);
+    afx_msg void OnNcLButtonUp(UINT hitTest, CPoint point);
+    afx_msg void OnNcMouseMove(UINT hitTest, CPoint point);
+    afx_msg LRESULT OnNCMouseLeave(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnCancelMode();
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnTimer(UINT_PTR id);
+    // Takes the header that exists by now.
+    afx_msg LRESULT OnSubclassCustomHeader(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnInsertColumn(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteColumn(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetColumnWidth(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnDeleteAllItems(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnEnsureVisible(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnScroll(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnHdnTrack(NMHDR* header, LRESULT* result);
+    afx_msg void OnHdnEndtrack(NMHDR* header, LRESULT* result);
+    afx_msg void OnLvnInsertitem(NMHDR* header, LRESULT* result);
+    // The parent hears of these as well.
+    afx_msg BOOL OnLvnColumnclick(NMHDR* header, LRESULT* result);
+    afx_msg BOOL OnNmClick(NMHDR* header, LRESULT* result);
+    DECLARE_MESSAGE_MAP()
+
+    static UINT m_timerid;                // auto-repeat
+    static UINT m_timerperiod;            // milliseconds
+    static UINT m_timerInitialWaitID;     // a longer wait before the first repeat
+    static UINT m_timerInitialWaitPeriod; // milliseconds
+    static CPen m_OutlinePen;
+    static CBrush m_OutlineBrush;
     static CFont m_OBFont;
     static CFont m_StdFont;
 
-    DECLARE_MESSAGE_MAP()
+    CCustomListCtrlHdr m_header;
+    bool m_ncSizeDone = false;   // the frame has been calculated
+    bool m_resizePending = true; // the bars are not placed yet
+    bool m_pressed = false;      // a button or the thumb of a bar is held
+    int m_minColWidth = -1;      // pixels of the standard mode; -1: none
+    CFauxScrollBar::ePRESSED m_vPart = CFauxScrollBar::PRESSED_NONE; // under the pointer
+    CFauxScrollBar::ePRESSED m_hPart = CFauxScrollBar::PRESSED_NONE;
+    CFauxScrollBar m_vBar;
+    CFauxScrollBar m_hBar;
+    CPoint m_lastPoint;     // of the pointer, in client coordinates
+    UINT m_lastNcHit = 0;   // hit code of the last press
+    CSize m_scrollUnit;     // pixels: a step sideways, a row's height
+    CPoint m_drawOffset;    // pixels, 0 or negative
+    CPoint m_furtherOffset; // cleared together with the offset
+    int m_wheel = 0;        // turned and not scrolled yet
+    GridLines m_gridLines;
+    int m_selChanging = FALSE;
+
+private:
+    // A column's width in the two kinds of mode.
+    struct ColumnWidth
+    {
+        int standard;
+        int onBoard;
+    };
+    // What a change of mode, font or size keeps in sight.
+    struct View
+    {
+        int top;
+        int selected; // -1: none was in sight
+    };
+    // What the bars were last taken from.
+    struct Measured
+    {
+        int items = -1;
+        int rowHeight = 0;
+        int columns = 0;
+        int right = 0; // of the last column
+        CSize client;
+
+        bool operator==(const Measured& other) const = default;
+    };
+    struct RowSpan
+    {
+        int first;
+        int end;
+    };
+
+    bool m_onBoard = false;  // the window is laid out for an on-board mode
+    bool m_creating = false; // the platform's part of the window is not made yet
+    bool m_following = false;
+    bool m_settling = false;
+    bool m_fitting = false;
+    DWORD m_platformBars = 0; // scroll bar styles to give back in the standard mode
+    bool m_leaveRequested = false;
+    CFauxScrollBar::ePRESSED m_heldPart = CFauxScrollBar::PRESSED_NONE;
+    int m_fittedColumn = -1; // the last column, once it fills the list
+    CRect m_fittedTo;        // client width and place of that column when it was fitted
+    std::vector<ColumnWidth> m_columnWidths;
+    std::optional<View> m_view;
+    std::optional<RowSpan> m_paintedRows; // while they are being painted
+    Measured m_measured;
+    std::unique_ptr<scroll::BarPainter> m_vPainter;
+    std::unique_ptr<scroll::BarPainter> m_hPainter;
+
+    friend class CCustomListCtrlHdr;
+
+    LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    bool InOnBoard() const;
+
+    // Mode
+    bool FollowMode();
+    void EnterOnBoard();
+    void LeaveOnBoard();
+    void StripBars();
+    void ForgetWindow();
+    View CurrentView();
+    void RestoreView();
+    void RelayoutFrame();
+    void ScalePlatformColumns(bool toOnBoard);
+
+    // Bars and pointer
+    CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
+    CFauxScrollBar::ePRESSED& Part(int axis) { return axis == SB_VERT ? m_vPart : m_hPart; }
+    CFauxScrollBar::ePRESSED DrawnPart(int axis);
+    void DrawBars();
+    void ShowBar(int axis, bool needed, bool& frameChanged);
+    void Perform(int axis, int code);
+    void Press(int axis);
+    void PressNc(UINT hitTest, const CPoint& screen);
+    void StepHeld(int axis, bool startRepeat);
+    void EndTracking();
+    void ReleaseButton();
+
+    // Content
+    HWND HeaderWindow() const;
+    int ColumnCount() const;
+    int HeaderBottom() const;
+    bool HeaderItemRect(int column, CRect& rect) const;
+    bool FirstRowRect(CRect& rect) const;
+    int RowsInSight() const;
+    int TopRow() const;
+    void TakeHeader();
+    int HeadingWidth(int column);
+    void FitLastColumn();
+    void HoldPlatform();
+    void KeepInStep(UINT message);
+    void UpdateScrollData();
+    Measured Measure();
+    void MoveTo(int axis, int position);
+    void HomeSideways();
+    void ShiftPixels(int dy);
+    void InvalidateRows(int first, int last);
+    void InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam);
+    void BringIntoSight(int row);
+    void SelectRow(int row, bool extend, bool toggle);
+    void SelectRange(int from, int to, bool select);
+    void ClearSelection();
+    bool MoveByPage(UINT key, UINT flags);
+    void SelectClicked(const CPoint& point, UINT flags);
+    void DrawRow(CDC& dc, int row, const CRect& rowRect, const std::vector<CRect>& cells,
+                 const CRect& clip);
 };

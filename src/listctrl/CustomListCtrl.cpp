@@ -1,14 +1,105 @@
+// The report list: fonts, life, frame, and following the display mode.
+
 #include "CustomListCtrl.h"
 
+#include "OnBoardUI.h"
+#include "OnBoardUIGeneral.h"
+#include "listctrl/ListLayout.h"
+#include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
+#include "paint/GdiGuards.h"
+#include "paint/Palette.h"
+#include "scroll/BarPaint.h"
+#include "scroll/NcBands.h"
+
+namespace {
+
+// Posted to take the header that a list makes for itself while it is created.
+constexpr UINT SubclassHeaderMessage = 0x069A;
+
+constexpr LPARAM CommonControlsVersion = 5;
+
+} // namespace
 
 IMPLEMENT_DYNCREATE(CCustomListCtrl, CListCtrl)
 
 BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+    ON_WM_NCPAINT()
+    ON_WM_NCCALCSIZE()
+    ON_WM_SIZE()
+    ON_WM_WINDOWPOSCHANGING()
+    ON_WM_ENABLE()
+    ON_WM_SHOWWINDOW()
+    ON_WM_NCHITTEST()
+    ON_WM_NCLBUTTONDOWN()
+    ON_WM_NCLBUTTONDBLCLK()
+    ON_WM_NCLBUTTONUP()
+    ON_WM_NCMOUSEMOVE()
+    ON_MESSAGE(WM_NCMOUSELEAVE, &CCustomListCtrl::OnNCMouseLeave)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_RBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_CANCELMODE()
+    ON_WM_KEYDOWN()
+    ON_WM_VSCROLL()
+    ON_WM_HSCROLL()
+    ON_WM_TIMER()
+    ON_MESSAGE(SubclassHeaderMessage, &CCustomListCtrl::OnSubclassCustomHeader)
+    ON_MESSAGE(LVM_INSERTCOLUMNA, &CCustomListCtrl::OnInsertColumn)
+    ON_MESSAGE(LVM_INSERTCOLUMNW, &CCustomListCtrl::OnInsertColumn)
+    ON_MESSAGE(LVM_DELETECOLUMN, &CCustomListCtrl::OnDeleteColumn)
+    ON_MESSAGE(LVM_SETCOLUMNWIDTH, &CCustomListCtrl::OnSetColumnWidth)
+    ON_MESSAGE(LVM_DELETEALLITEMS, &CCustomListCtrl::OnDeleteAllItems)
+    ON_MESSAGE(LVM_ENSUREVISIBLE, &CCustomListCtrl::OnEnsureVisible)
+    ON_MESSAGE(LVM_SCROLL, &CCustomListCtrl::OnScroll)
+    ON_NOTIFY(HDN_TRACKA, 0, &CCustomListCtrl::OnHdnTrack)
+    ON_NOTIFY(HDN_TRACKW, 0, &CCustomListCtrl::OnHdnTrack)
+    ON_NOTIFY(HDN_ENDTRACKA, 0, &CCustomListCtrl::OnHdnEndtrack)
+    ON_NOTIFY(HDN_ENDTRACKW, 0, &CCustomListCtrl::OnHdnEndtrack)
+    ON_NOTIFY_REFLECT(LVN_INSERTITEM, &CCustomListCtrl::OnLvnInsertitem)
+    ON_NOTIFY_REFLECT_EX(LVN_COLUMNCLICK, &CCustomListCtrl::OnLvnColumnclick)
+    ON_NOTIFY_REFLECT_EX(NM_CLICK, &CCustomListCtrl::OnNmClick)
+    ON_NOTIFY_REFLECT_EX(NM_DBLCLK, &CCustomListCtrl::OnNmClick)
+    ON_NOTIFY_REFLECT_EX(NM_RCLICK, &CCustomListCtrl::OnNmClick)
+    ON_NOTIFY_REFLECT_EX(NM_RDBLCLK, &CCustomListCtrl::OnNmClick)
 END_MESSAGE_MAP()
 
+UINT CCustomListCtrl::m_timerid = 101;
+UINT CCustomListCtrl::m_timerperiod = 130;
+UINT CCustomListCtrl::m_timerInitialWaitID = 104;
+UINT CCustomListCtrl::m_timerInitialWaitPeriod = 300;
+CPen CCustomListCtrl::m_OutlinePen;
+CBrush CCustomListCtrl::m_OutlineBrush;
 CFont CCustomListCtrl::m_OBFont;
 CFont CCustomListCtrl::m_StdFont;
+
+CCustomListCtrl::CCustomListCtrl()
+    : m_vBar(SB_VERT)
+    , m_hBar(SB_HORZ)
+    , m_vPainter(std::make_unique<scroll::BarPainter>())
+    , m_hPainter(std::make_unique<scroll::BarPainter>())
+{
+    if (m_OutlinePen.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardOutlinePen(m_OutlinePen, palette::Outline);
+        m_OutlineBrush.CreateSolidBrush(palette::Outline);
+    }
+    // Hidden until the content asks for them.
+    m_vBar.ShowScrollBar(FALSE);
+    m_hBar.ShowScrollBar(FALSE);
+}
+
+CCustomListCtrl::~CCustomListCtrl()
+{
+    // The header's window belongs to the list's, which may outlive this object.
+    m_header.UnsubclassWindow();
+}
 
 CFont& CCustomListCtrl::GetOnBoardFont()
 {
@@ -18,4 +109,493 @@ CFont& CCustomListCtrl::GetOnBoardFont()
 CFont& CCustomListCtrl::GetStdFont()
 {
     return StandardControlFont(m_StdFont);
+}
+
+void CCustomListCtrl::SetMinColWidth(int width)
+{
+    if (width >= 0)
+    {
+        m_minColWidth = width;
+    }
+}
+
+CScrollBar* CCustomListCtrl::GetScrollBarCtrl(int bar) const
+{
+    const CFauxScrollBar* const faux = bar == SB_VERT   ? &m_vBar
+                                       : bar == SB_HORZ ? &m_hBar
+                                                        : nullptr;
+    return reinterpret_cast<CScrollBar*>(const_cast<CFauxScrollBar*>(faux));
+}
+
+// A message for the platform's list alone, past the handlers of this class and its heirs.
+LRESULT CCustomListCtrl::Ask(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return DefWindowProc(message, wParam, lParam);
+}
+
+// The question of every handler: the window has followed the mode before the message came to it.
+bool CCustomListCtrl::InOnBoard() const
+{
+    return m_onBoard && COnBoardUIGeneral::InOnBoardMode();
+}
+
+// Life ------------------------------------------------------------------------------------------
+
+void CCustomListCtrl::PreSubclassWindow()
+{
+    const WindowAlive alive(*this);
+    ForgetWindow();
+    TakeHeader();
+    if (m_header.GetSafeHwnd() == nullptr)
+    {
+        PostMessage(SubclassHeaderMessage);
+    }
+    CListCtrl::PreSubclassWindow();
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        StripBars();
+    }
+    SendMessage(CCM_SETVERSION, WPARAM(CommonControlsVersion));
+    // A list that exists already gets no message by which it would notice the mode.
+    if (alive && COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+    }
+}
+
+// What belonged to a window before: one object may serve several, one after the other.
+void CCustomListCtrl::ForgetWindow()
+{
+    m_ncSizeDone = false;
+    m_resizePending = true;
+    m_vBar.ShowScrollBar(FALSE);
+    m_hBar.ShowScrollBar(FALSE);
+    for (CFauxScrollBar* bar : {&m_vBar, &m_hBar})
+    {
+        bar->SetScrollRange(0, 0);
+        bar->SetArea(CRect(0, 0, 0, 0));
+    }
+    EndTracking();
+    m_drawOffset = CPoint(0, 0);
+    m_furtherOffset = CPoint(0, 0);
+    m_scrollUnit = CSize(0, 0);
+    m_wheel = 0;
+    m_selChanging = FALSE;
+    m_gridLines.Clear();
+    m_onBoard = false;
+    m_creating = false;
+    m_following = false;
+    m_settling = false;
+    m_fitting = false;
+    m_platformBars = 0;
+    m_fittedColumn = -1;
+    m_columnWidths.clear();
+    m_view.reset();
+    m_paintedRows.reset();
+    m_measured = Measured();
+    m_vPainter->Invalidate();
+    m_hPainter->Invalidate();
+}
+
+void CCustomListCtrl::TakeHeader()
+{
+    const auto header = reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER));
+    if (m_header.GetSafeHwnd() == nullptr && ::IsWindow(header))
+    {
+        m_header.SubclassWindow(header);
+    }
+}
+
+LRESULT CCustomListCtrl::OnSubclassCustomHeader(WPARAM, LPARAM)
+{
+    TakeHeader();
+    return 0;
+}
+
+int CCustomListCtrl::OnCreate(LPCREATESTRUCT cs)
+{
+    // The platform decides by its style whether it will ever work a bar of its own. In an on-board
+    // mode the frame has taken the styles away already.
+    const WindowAlive alive(*this);
+    scroll::RestoreScrollStyles(*this, m_platformBars);
+    const int result = CListCtrl::OnCreate(cs);
+    if (alive)
+    {
+        m_creating = false;
+        Ask(CCM_SETVERSION, WPARAM(CommonControlsVersion));
+        TakeHeader();
+        if (COnBoardUIGeneral::InOnBoardMode())
+        {
+            StripBars();
+        }
+    }
+    return result;
+}
+
+void CCustomListCtrl::OnDestroy()
+{
+    EndTracking();
+    m_onBoard = false; // nothing is laid out any more
+    m_following = true;
+    CListCtrl::OnDestroy();
+}
+
+namespace {
+
+// Messages on which a window is not laid out anew: it is being made, ended, or its frame is just
+// being calculated.
+bool IsTooEarly(UINT message)
+{
+    switch (message)
+    {
+    case WM_NCCREATE:
+    case WM_CREATE:
+    case WM_GETMINMAXINFO:
+    case WM_NCCALCSIZE:
+    case WM_WINDOWPOSCHANGING:
+    case WM_DESTROY:
+    case WM_NCDESTROY:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const WindowAlive alive(*this);
+    if (message == WM_NCCREATE)
+    {
+        m_creating = true;
+    }
+    if (!IsTooEarly(message))
+    {
+        FollowMode();
+        if (!alive)
+        {
+            return 0;
+        }
+    }
+    const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
+    if (alive && m_onBoard)
+    {
+        InvalidateChangedRows(message, wParam, lParam);
+    }
+    if (alive)
+    {
+        KeepInStep(message);
+    }
+    return result;
+}
+
+// Following the display mode --------------------------------------------------------------------
+
+// Lays the window out for the mode of the moment when it is still laid out for the other kind.
+// Returns whether it is laid out for an on-board mode.
+bool CCustomListCtrl::FollowMode()
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if (onBoard == m_onBoard || m_following || m_creating || GetSafeHwnd() == nullptr)
+    {
+        return InOnBoard();
+    }
+    const WindowAlive alive(*this);
+    m_following = true;
+    m_view = CurrentView();
+    m_onBoard = onBoard;
+    if (onBoard)
+    {
+        EnterOnBoard();
+    }
+    else
+    {
+        LeaveOnBoard();
+    }
+    if (!alive)
+    {
+        return false;
+    }
+    m_following = false;
+    return InOnBoard();
+}
+
+void CCustomListCtrl::EnterOnBoard()
+{
+    const WindowAlive alive(*this);
+    m_wheel = 0;
+    m_resizePending = true;
+    m_measured = Measured();
+    StripBars();
+    TakeHeader();
+    HoldPlatform();
+    if (alive)
+    {
+        ScalePlatformColumns(true);
+    }
+    if (alive)
+    {
+        RelayoutFrame();
+    }
+    if (alive)
+    {
+        ReCheckScrollBars();
+    }
+    if (alive)
+    {
+        RestoreView();
+    }
+    if (alive)
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
+    }
+}
+
+void CCustomListCtrl::LeaveOnBoard()
+{
+    const WindowAlive alive(*this);
+    EndTracking();
+    for (const int axis : {SB_VERT, SB_HORZ})
+    {
+        Bar(axis).ShowScrollBar(FALSE);
+        Bar(axis).SetScrollRange(0, 0);
+    }
+    m_drawOffset = CPoint(0, 0);
+    m_furtherOffset = CPoint(0, 0);
+    m_fittedColumn = -1;
+    m_resizePending = true;
+    m_header.OBResetScroll(FALSE);
+    ScalePlatformColumns(false);
+    if (!alive)
+    {
+        return;
+    }
+    scroll::RestoreScrollStyles(*this, m_platformBars);
+    m_platformBars = 0;
+    RelayoutFrame();
+    if (alive)
+    {
+        RestoreView();
+    }
+    if (alive)
+    {
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    }
+}
+
+void CCustomListCtrl::RelayoutFrame()
+{
+    const WindowAlive alive(*this);
+    scroll::RecalculateFrame(*this, false);
+    if (alive)
+    {
+        // The platform's list lays itself out again when its size is told.
+        CRect client;
+        GetClientRect(&client);
+        Ask(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+    }
+}
+
+void CCustomListCtrl::StripBars()
+{
+    m_platformBars |= scroll::StripScrollStyles(*this);
+}
+
+// The row at the top, and a selected row in sight: the one with the focus before others.
+CCustomListCtrl::View CCustomListCtrl::CurrentView()
+{
+    View view = {m_onBoard ? TopRow() : int(Ask(LVM_GETTOPINDEX)), -1};
+    const int rows = m_onBoard ? RowsInSight() : int(Ask(LVM_GETCOUNTPERPAGE));
+    const int end = std::min(view.top + rows, GetItemCount());
+    const auto selected = [this](int row) {
+        return row >= 0 && Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
+    };
+    const int focus = GetNextItem(-1, LVNI_FOCUSED);
+    if (focus >= view.top && focus < end && selected(focus))
+    {
+        view.selected = focus;
+    }
+    for (int row = view.top; row < end && view.selected == -1; ++row)
+    {
+        view.selected = selected(row) ? row : -1;
+    }
+    return view;
+}
+
+void CCustomListCtrl::RestoreView()
+{
+    CRect first;
+    if (!m_view || !FirstRowRect(first) || first.Height() <= 0)
+    {
+        return;
+    }
+    const int rows = m_onBoard ? RowsInSight() : int(Ask(LVM_GETCOUNTPERPAGE));
+    const int top = m_view->selected == -1
+                        ? m_view->top
+                        : listctrl::TopToShow(m_view->selected, m_view->top, rows);
+    if (m_onBoard)
+    {
+        MoveTo(SB_VERT, top);
+    }
+    else
+    {
+        Ask(LVM_SCROLL, 0, LPARAM(top - int(Ask(LVM_GETTOPINDEX))) * first.Height());
+    }
+}
+
+// Frame -----------------------------------------------------------------------------------------
+
+void CCustomListCtrl::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        Default();
+        return;
+    }
+    // The platform's list puts its styles back whenever its content changes.
+    StripBars();
+    if (calcValidRects)
+    {
+        // The metrics of the other direction: it is meant.
+        scroll::TakeBands(params->rgrc[0],
+                          CSize(::GetSystemMetrics(SM_CYFRAME) - metrics::Border,
+                                ::GetSystemMetrics(SM_CXFRAME) - metrics::Border),
+                          m_vBar.ShowScrollBar() != 0, m_hBar.ShowScrollBar() != 0);
+    }
+    m_ncSizeDone = true;
+    m_resizePending = true; // a paint of the frame may come before the new size is told
+    Default();
+}
+
+void CCustomListCtrl::OnWindowPosChanging(WINDOWPOS* position)
+{
+    CListCtrl::OnWindowPosChanging(position);
+    if (InOnBoard() && m_ncSizeDone)
+    {
+        scroll::RefusePlatformBars(*this, *position, WS_VSCROLL | WS_HSCROLL);
+    }
+}
+
+void CCustomListCtrl::OnSize(UINT type, int width, int height)
+{
+    const WindowAlive alive(*this);
+    CListCtrl::OnSize(type, width, height);
+    if (!alive)
+    {
+        return;
+    }
+    m_resizePending = true;
+    m_fittedTo.SetRectEmpty();
+    if (!InOnBoard())
+    {
+        RestoreView();
+        return;
+    }
+    StripBars();
+    if (width > 0)
+    {
+        scroll::RecalculateFrame(*this);
+    }
+    if (alive)
+    {
+        m_resizePending = true;
+        ReCheckScrollBars();
+    }
+    if (alive)
+    {
+        RestoreView();
+    }
+}
+
+void CCustomListCtrl::ResizeOBScrollBars()
+{
+    if (!m_resizePending)
+    {
+        return;
+    }
+    m_resizePending = false;
+    const CRect client = scroll::ClientRectInWindow(*this);
+    for (const int axis : {SB_VERT, SB_HORZ})
+    {
+        Bar(axis).SetArea(Bar(axis).ShowScrollBar() ? scroll::BarArea(axis, client)
+                                                    : CRect(0, 0, 0, 0));
+    }
+}
+
+void CCustomListCtrl::OnNcPaint()
+{
+    if (!InOnBoard())
+    {
+        Default();
+        return;
+    }
+    if (scroll::TouchesFrame(*this, reinterpret_cast<HRGN>(GetCurrentMessage()->wParam)))
+    {
+        m_vPainter->Invalidate();
+        m_hPainter->Invalidate();
+        ResizeOBScrollBars();
+        DrawNC();
+    }
+}
+
+void CCustomListCtrl::DrawNC()
+{
+    CRect frame;
+    GetWindowRect(&frame);
+    frame.OffsetRect(-frame.TopLeft());
+    {
+        CWindowDC dc(this);
+        // Only round the client area: what lies in it is painted in its own time.
+        dc.ExcludeClipRect(scroll::ClientRectInWindow(*this));
+        for (const int axis : {SB_VERT, SB_HORZ})
+        {
+            if (Bar(axis).ShowScrollBar())
+            {
+                dc.ExcludeClipRect(Bar(axis).GetArea());
+            }
+        }
+        {
+            const Selected pen(dc, m_OutlinePen);
+            const Selected brush(dc, m_OutlineBrush);
+            dc.Rectangle(frame);
+        }
+        dc.SetPixelV(frame.TopLeft(), palette::Outline); // the pen leaves the corners out
+        dc.SetPixelV(frame.right - 1, frame.top, palette::Outline);
+        dc.SetPixelV(frame.left, frame.bottom - 1, palette::Outline);
+        dc.SetPixelV(frame.right - 1, frame.bottom - 1, palette::Outline);
+        if (m_vBar.ShowScrollBar() && m_hBar.ShowScrollBar())
+        {
+            // Where the two bands meet belongs to neither bar.
+            CRect corner(m_vBar.GetArea().left, m_hBar.GetArea().top, m_vBar.GetArea().right,
+                         m_hBar.GetArea().bottom);
+            corner.DeflateRect(metrics::Border, metrics::Border);
+            dc.FillSolidRect(corner, palette::ListCorner);
+        }
+    }
+    DrawBars();
+    Invalidate();
+}
+
+void CCustomListCtrl::OnEnable(BOOL enable)
+{
+    const WindowAlive alive(*this);
+    if (!enable)
+    {
+        EndTracking();
+    }
+    CListCtrl::OnEnable(enable);
+    if (alive)
+    {
+        DrawBars();
+    }
+}
+
+void CCustomListCtrl::OnShowWindow(BOOL show, UINT status)
+{
+    if (!show)
+    {
+        EndTracking();
+    }
+    CListCtrl::OnShowWindow(show, status);
 }

@@ -3,6 +3,7 @@
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
 #include "modes/WindowAlive.h"
+#include "scroll/BarDrag.h"
 #include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
 
@@ -309,16 +310,7 @@ void CCustomListBox::Drag(int axis, int pixels)
     const WindowAlive alive(*this);
     CFauxScrollBar& bar = Bar(axis);
     const int before = bar.GetScrollPos();
-    bar.IncrementScrollByPixels(pixels);
-    if (axis == SB_HORZ && pixels > 0 &&
-        bar.GetPartArea(CFauxScrollBar::PRESSED_THUMB).right >=
-            bar.GetPartArea(CFauxScrollBar::PRESSED_SECOND).left)
-    {
-        // Past its last band a horizontal bar tells no position; at the end of the track a drag
-        // has reached the end of the content all the same.
-        bar.HandleScroll(SB_RIGHT);
-    }
-    const int after = bar.GetScrollPos();
+    const int after = scroll::DragThumb(bar, pixels);
     DrawOBScrollBars();
     if (after != before)
     {

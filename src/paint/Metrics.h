@@ -48,6 +48,8 @@ constexpr int TreeTextMargin = 2; // from either edge of the label to its text
 // The line of a rubber band.
 constexpr int RubberBandLine = 1;
 constexpr int RubberBandLineOnBoard = 2;
+// From the text of a report list's heading to its right edge, past the sort arrow.
+constexpr int HeaderArrowRoom = 23;
 
 // Scale of a window's children on entering an on-board mode, and how much more they widen.
 constexpr double OnBoardScale = 1.7;

@@ -63,6 +63,11 @@ constexpr COLORREF BranchMark = RGB(26, 26, 26);
 constexpr COLORREF BranchMarkDisabled = RGB(70, 70, 70);
 constexpr COLORREF RubberBand = RGB(26, 26, 26);
 
+// Report lists: where the bands of both bars meet, and the header, whose ground is a face's.
+constexpr COLORREF ListCorner = RGB(80, 80, 80);
+constexpr COLORREF HeaderText = RGB(26, 26, 26);
+constexpr COLORREF SortArrow = RGB(192, 192, 192);
+
 // Borders of edits, by state: the left and upper edges, and the right and lower ones.
 constexpr COLORREF EditEdgeLit = RGB(93, 93, 93);
 constexpr COLORREF EditEdgeShade = RGB(220, 220, 220);

@@ -166,6 +166,10 @@ public:
     {
         return ::PolyBezier(m_hDC, points, DWORD(count));
     }
+    BOOL PolyDraw(const POINT* points, const BYTE* kinds, int count)
+    {
+        return ::PolyDraw(m_hDC, points, kinds, count);
+    }
     BOOL Polygon(const POINT* points, int count) { return ::Polygon(m_hDC, points, count); }
     BOOL PolyPolygon(const POINT* points, const INT* counts, int polygons)
     {

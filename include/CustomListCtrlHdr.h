@@ -1,0 +1,95 @@
+#pragma once
+
+#include "OnBoardUIExport.h"
+
+#include <afxcmn.h>
+
+#include <vector>
+
+class CCustomListCtrl;
+
+// The header of the library's report list, put over the platform's header. In the standard mode it
+// is the platform's, with the theme's menu font and with sort arrows from the application's bitmaps
+// 10017 (ascending) and 10018 (descending), 16 x 16 pixels; the colour of a bitmap's top left pixel
+// is transparent, and without the bitmaps there are no arrows.
+//
+// In an on-board mode it paints itself, shifted by the offset by which the list is scrolled
+// sideways, and resizes columns itself: a press less than ten pixels from a divider holds it, the
+// width is applied on release. It also lives without a list, then without resizing anybody's
+// columns.
+class ONBOARDUI_API CCustomListCtrlHdr : public CHeaderCtrl
+{
+    DECLARE_DYNCREATE(CCustomListCtrlHdr)
+
+public:
+    CCustomListCtrlHdr();
+    ~CCustomListCtrlHdr() override;
+
+    // Shifts what is drawn by dx pixels more (negative: to the left). Paints at once with redraw.
+    void OBScrollHeader(int dx, int redraw);
+    // Back to no shift; with relayout laid out and painted at once.
+    void OBResetScroll(int relayout);
+    // Brings the strip over the list's columns and lets the last column fill the list.
+    void RepositionHeaderStrip();
+
+    // Whether a divider is being dragged.
+    bool IsHotTracking() const { return m_tracking; }
+
+    // Nothing: all drawing happens in answer to a paint message.
+    void DrawItem(LPDRAWITEMSTRUCT draw) override;
+
+protected:
+    // Once, before the first paint: the arrows and the font.
+    void DoCreate();
+    // An item's sort arrow, for the HDF_SORTUP or HDF_SORTDOWN of its format; else nothing.
+    void DrawOBSortArrow(CDC* dc, CRect item, int format);
+    void DrawStdSortArrow(CDC* dc, CRect item, int format);
+
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg BOOL OnSetCursor(CWnd* window, UINT hitTest, UINT message);
+    afx_msg void OnCaptureChanged(CWnd* taker);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg LRESULT OnSetHotDivider(WPARAM wParam, LPARAM lParam);
+    // The list hears of it as well.
+    afx_msg BOOL OnHdnItemclick(NMHDR* header, LRESULT* result);
+    DECLARE_MESSAGE_MAP()
+
+    static CSize m_arrowSize; // pixels
+
+    CPoint m_offset;               // of what is drawn and hit, pixels
+    bool m_tracking = false;       // a divider is held
+    HCURSOR m_oldCursor = nullptr; // before the resize cursor was set in a drag
+    int m_pressedItem = -1;
+    bool m_created = false;       // DoCreate has run
+    CImageList m_arrows;          // ascending, descending; empty without the bitmaps
+    std::vector<int> m_itemLefts; // as last laid out, in the order of display
+    std::vector<int> m_itemWidths;
+
+private:
+    bool m_repositioning = false;
+    bool m_dragged = false; // the pointer has moved since a divider was pressed
+    int m_hotDivider = -1;  // where a dragged column would be put; -1: nowhere
+    CPoint m_pressPoint;    // in client coordinates
+    CFont m_themeFont;
+
+    HWND ListWindow() const;
+    CCustomListCtrl* List() const;
+    bool ItemRect(int item, CRect& rect) const;
+    int ItemAt(CPoint point) const;
+    int DividerAt(int x) const;
+    LRESULT DefaultAt(UINT message, UINT flags, CPoint point);
+    void LoadArrows();
+    void TakeThemeFont();
+    void DrawOB(CDC& dc);
+    void DrawOBItem(CDC& dc, int item, bool last, const CRect& client);
+    void DrawStdArrows();
+    void TellTracking();
+    void ApplyDrag(int x);
+    void ApplyMinimum(int item);
+    void EndTracking();
+};

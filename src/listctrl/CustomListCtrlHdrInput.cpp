@@ -1,0 +1,342 @@
+// The header: presses, and columns resized by dragging their dividers.
+
+#include "CustomListCtrl.h"
+#include "CustomListCtrlHdr.h"
+#include "OnBoardUIGeneral.h"
+#include "listctrl/ListLayout.h"
+#include "modes/WindowAlive.h"
+
+#include <cstdlib>
+
+namespace {
+
+constexpr int DividerReach = 10; // a point less than this from a divider is on it
+
+} // namespace
+
+// The first item whose right edge is that near to x (shifted, as drawn), or -1.
+int CCustomListCtrlHdr::DividerAt(int x) const
+{
+    const int count = GetItemCount();
+    for (int item = 0; item < count; ++item)
+    {
+        CRect rect;
+        if (ItemRect(item, rect) && std::abs(rect.right + m_offset.x - x) < DividerReach)
+        {
+            return item;
+        }
+    }
+    return -1;
+}
+
+// The platform's processing of a pointer message, at the point of the unshifted header. What is an
+// item's for us is not a divider for the platform, which would begin to resize by itself.
+LRESULT CCustomListCtrlHdr::DefaultAt(UINT message, UINT flags, CPoint point)
+{
+    point.x -= m_offset.x;
+    const int item = ItemAt(point);
+    HDHITTESTINFO hit = {};
+    hit.pt = point;
+    DefWindowProc(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    CRect rect;
+    if (item != -1 && (hit.flags & (HHT_ONDIVIDER | HHT_ONDIVOPEN)) != 0 && ItemRect(item, rect))
+    {
+        point.x = rect.CenterPoint().x;
+        hit.pt = point;
+        DefWindowProc(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        if (hit.iItem != item || (hit.flags & HHT_ONHEADER) == 0)
+        {
+            return 0; // too narrow to be anything but a divider
+        }
+    }
+    return DefWindowProc(message, flags, MAKELPARAM(point.x, point.y));
+}
+
+// Cursor ----------------------------------------------------------------------------------------
+
+LRESULT CCustomListCtrlHdr::OnNcHitTest(CPoint)
+{
+    return Default();
+}
+
+BOOL CCustomListCtrlHdr::OnSetCursor(CWnd* window, UINT hitTest, UINT message)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || hitTest != HTCLIENT || message != WM_MOUSEMOVE)
+    {
+        return CHeaderCtrl::OnSetCursor(window, hitTest, message);
+    }
+    CPoint pointer;
+    ::GetCursorPos(&pointer);
+    ScreenToClient(&pointer);
+    ::SetCursor(::LoadCursor(nullptr, DividerAt(pointer.x) != -1 ? IDC_SIZEWE : IDC_ARROW));
+    return TRUE;
+}
+
+// Presses ---------------------------------------------------------------------------------------
+
+void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
+{
+    const WindowAlive alive(*this);
+    m_pressPoint = point;
+    m_dragged = false;
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        HDHITTESTINFO hit = {};
+        hit.pt = point;
+        m_pressedItem = HitTest(&hit);
+        m_dragged = (hit.flags & HHT_ONDIVIDER) != 0;
+        Default();
+        return;
+    }
+    const int divider = DividerAt(point.x);
+    if (divider != -1)
+    {
+        m_pressedItem = divider;
+        m_tracking = true;
+        SetCapture();
+        m_oldCursor = ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
+        return;
+    }
+    m_pressedItem = ItemAt(CPoint(point.x - m_offset.x, point.y));
+    DefaultAt(WM_LBUTTONDOWN, flags, point);
+    if (alive)
+    {
+        Invalidate(FALSE);
+    }
+}
+
+void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
+{
+    const WindowAlive alive(*this);
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        Default();
+        return;
+    }
+    if (!m_tracking)
+    {
+        DefaultAt(WM_MOUSEMOVE, flags, point);
+        return;
+    }
+    m_dragged = m_dragged || point.x != m_pressPoint.x;
+    const HCURSOR before = ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
+    if (m_oldCursor == nullptr)
+    {
+        m_oldCursor = before;
+    }
+    TellTracking();
+    if (alive)
+    {
+        RepositionHeaderStrip();
+    }
+    if (alive)
+    {
+        Invalidate(FALSE); // the line at the pointer
+    }
+}
+
+void CCustomListCtrlHdr::TellTracking()
+{
+    CPoint pointer;
+    ::GetCursorPos(&pointer);
+    ScreenToClient(&pointer);
+    CRect rect;
+    ItemRect(m_pressedItem, rect);
+    HDITEM item = {};
+    item.mask = HDI_WIDTH;
+    item.cxy = std::max(0, int(pointer.x - m_offset.x - rect.left));
+    NMHEADER told = {};
+    told.hdr = {GetSafeHwnd(), UINT_PTR(GetDlgCtrlID()), UINT(HDN_TRACKA)};
+    told.iItem = m_pressedItem;
+    told.pitem = &item;
+    ::SendMessage(::GetParent(GetSafeHwnd()), WM_NOTIFY, told.hdr.idFrom,
+                  reinterpret_cast<LPARAM>(&told));
+}
+
+void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
+{
+    const WindowAlive alive(*this);
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    const int pressed = m_pressedItem;
+    if (m_tracking)
+    {
+        EndTracking();
+        // A press and its release alone resize nothing.
+        if (alive && onBoard && m_dragged)
+        {
+            m_pressedItem = pressed;
+            ApplyDrag(point.x);
+        }
+        if (!alive)
+        {
+            return;
+        }
+    }
+    m_pressedItem = -1;
+    if (!onBoard)
+    {
+        Default();
+        if (alive && m_dragged)
+        {
+            ApplyMinimum(pressed);
+        }
+        return;
+    }
+    DefaultAt(WM_LBUTTONUP, flags, point);
+    if (alive)
+    {
+        RepositionHeaderStrip();
+    }
+    if (alive)
+    {
+        Invalidate(FALSE);
+    }
+}
+
+// The one way out of a drag: released, or the capture lost.
+void CCustomListCtrlHdr::EndTracking()
+{
+    m_tracking = false;
+    m_pressedItem = -1;
+    const HCURSOR cursor = m_oldCursor;
+    m_oldCursor = nullptr;
+    if (::GetCapture() == GetSafeHwnd())
+    {
+        ::ReleaseCapture();
+    }
+    if (cursor != nullptr)
+    {
+        ::SetCursor(cursor);
+    }
+}
+
+void CCustomListCtrlHdr::OnCaptureChanged(CWnd* taker)
+{
+    const WindowAlive alive(*this);
+    const HWND list = ListWindow();
+    CHeaderCtrl::OnCaptureChanged(taker);
+    if (alive && (m_tracking || m_pressedItem != -1) && COnBoardUIGeneral::InOnBoardMode())
+    {
+        EndTracking();
+        if (alive)
+        {
+            Invalidate(FALSE);
+            if (list != nullptr)
+            {
+                ::InvalidateRect(list, nullptr, FALSE); // the line at the pointer
+            }
+        }
+    }
+}
+
+// The column's new right edge is at x, as drawn.
+void CCustomListCtrlHdr::ApplyDrag(int x)
+{
+    CRect rect;
+    if (!ItemRect(m_pressedItem, rect))
+    {
+        return; // gone meanwhile
+    }
+    const CCustomListCtrl* const list = List();
+    const HWND listWindow = ListWindow();
+    int width = std::max(0, int(x - m_offset.x - rect.left));
+    if (list != nullptr && list->GetMinColWidth() != -1)
+    {
+        // As wide as the least width is on-board, like all columns.
+        width = std::max(width, listctrl::OnBoardWidth(list->GetMinColWidth()));
+    }
+    HDITEM item = {};
+    item.mask = HDI_WIDTH;
+    item.cxy = width;
+    SetItem(m_pressedItem, &item);
+    if (listWindow != nullptr)
+    {
+        ::InvalidateRect(listWindow, nullptr, TRUE);
+    }
+}
+
+// In the standard mode the platform resizes, and need not ask for the width that it is told.
+void CCustomListCtrlHdr::ApplyMinimum(int item)
+{
+    const CCustomListCtrl* const list = List();
+    CRect rect;
+    if (list != nullptr && ItemRect(item, rect) && rect.Width() < list->GetMinColWidth())
+    {
+        ::SendMessage(ListWindow(), LVM_SETCOLUMNWIDTH, WPARAM(item),
+                      MAKELPARAM(list->GetMinColWidth(), 0));
+    }
+}
+
+void CCustomListCtrlHdr::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    const WindowAlive alive(*this);
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    int item = onBoard ? DividerAt(point.x) : -1;
+    if (item == -1)
+    {
+        HDHITTESTINFO hit = {};
+        hit.pt = CPoint(onBoard ? point.x - m_offset.x : point.x, point.y);
+        item = onBoard ? ItemAt(hit.pt) : HitTest(&hit);
+    }
+    const HWND list = ListWindow();
+    const auto toHeading = [&] {
+        if (item >= 0 && list != nullptr)
+        {
+            ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(item),
+                          MAKELPARAM(LVSCW_AUTOSIZE_USEHEADER, 0));
+        }
+    };
+    toHeading();
+    if (!alive)
+    {
+        return;
+    }
+    if (onBoard)
+    {
+        point.x -= m_offset.x;
+        DefWindowProc(WM_LBUTTONDBLCLK, flags, MAKELPARAM(point.x, point.y));
+    }
+    else
+    {
+        Default();
+    }
+    if (alive)
+    {
+        toHeading(); // the platform's answer to the divider is the width of the column's texts
+    }
+}
+
+// What the list is told ---------------------------------------------------------------------------
+
+BOOL CCustomListCtrlHdr::OnHdnItemclick(NMHDR*, LRESULT*)
+{
+    return FALSE;
+}
+
+LRESULT CCustomListCtrlHdr::OnSetHotDivider(WPARAM wParam, LPARAM lParam)
+{
+    int divider = int(lParam);
+    if (wParam != 0)
+    {
+        const CPoint point(short(LOWORD(lParam)) - m_offset.x, short(HIWORD(lParam)));
+        const int item = ItemAt(point);
+        HDITEM data = {};
+        data.mask = HDI_ORDER;
+        CRect rect;
+        divider = -1;
+        if (GetItem(item, &data) && ItemRect(item, rect))
+        {
+            divider = data.iOrder + (point.x > rect.CenterPoint().x ? 1 : 0);
+        }
+    }
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        DefWindowProc(HDM_SETHOTDIVIDER, FALSE, divider);
+    }
+    else if (divider != m_hotDivider)
+    {
+        m_hotDivider = divider;
+        Invalidate(FALSE);
+    }
+    return divider;
+}

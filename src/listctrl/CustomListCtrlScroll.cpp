@@ -1,0 +1,369 @@
+// The report list: what its bars show, and scrolling by the drawing offset.
+
+#include "CustomListCtrl.h"
+#include "GMSUtil.h"
+#include "OnBoardUIGeneral.h"
+#include "listctrl/ListLayout.h"
+#include "modes/WindowAlive.h"
+#include "scroll/BarPaint.h"
+#include "scroll/NcBands.h"
+#include "scroll/ScrollCodes.h"
+
+// Painting the bars ------------------------------------------------------------------------------
+
+// The part that a bar shows as held: what is under the pointer while its button is down.
+CFauxScrollBar::ePRESSED CCustomListCtrl::DrawnPart(int axis)
+{
+    if (m_pressed && m_heldPart == CFauxScrollBar::PRESSED_THUMB)
+    {
+        return m_lastNcHit == scroll::HitCodeOf(axis) ? m_heldPart : CFauxScrollBar::PRESSED_NONE;
+    }
+    return m_pressed || scroll::LeftButtonDown() ? Part(axis) : CFauxScrollBar::PRESSED_NONE;
+}
+
+void CCustomListCtrl::DrawBars()
+{
+    if (InOnBoard() && GetSafeHwnd() != nullptr)
+    {
+        ResizeOBScrollBars();
+        m_hPainter->Draw(*this, m_hBar, DrawnPart(SB_HORZ));
+        m_vPainter->Draw(*this, m_vBar, DrawnPart(SB_VERT));
+    }
+}
+
+void CCustomListCtrl::DrawScrollBars()
+{
+    if (COnBoardUIGeneral::InOnBoardMode() && GetSafeHwnd() != nullptr)
+    {
+        DrawBars();
+        FitLastColumn();
+    }
+}
+
+// What the bars show -----------------------------------------------------------------------------
+
+void CCustomListCtrl::ShowBar(int axis, bool needed, bool& frameChanged)
+{
+    CFauxScrollBar& bar = Bar(axis);
+    if ((bar.ShowScrollBar() != 0) == needed)
+    {
+        return;
+    }
+    bar.ShowScrollBar(needed);
+    m_resizePending = true;
+    if (m_ncSizeDone)
+    {
+        RelayoutFrame();
+        frameChanged = true;
+    }
+}
+
+void CCustomListCtrl::UpdateVScrollData()
+{
+    const WindowAlive alive(*this);
+    bool frameChanged = false;
+    CRect row;
+    CRect client;
+    GetClientRect(&client);
+    const int items = GetItemCount();
+    const int height = FirstRowRect(row) ? row.Height() : 0;
+    m_measured.items = items;
+    m_measured.rowHeight = height;
+    if (items > 0 && height <= 0)
+    {
+        return;
+    }
+    if (height > 0 && m_scrollUnit.cy > 0 && height != m_scrollUnit.cy)
+    {
+        m_drawOffset.y = -TopRow() * height; // the same row at the top, whatever the height
+    }
+    m_scrollUnit.cy = height > 0 ? height : m_scrollUnit.cy;
+
+    const listctrl::BarData data = listctrl::VerticalBar(items, height, client.Height());
+    const int limit = data.needed ? data.lastPosition : 0;
+    if (items > 0 && m_vBar.GetScrollPos() > limit)
+    {
+        PerformVScroll(SB_LINEUP);
+        if (!alive)
+        {
+            return;
+        }
+    }
+    if (data.needed)
+    {
+        m_vBar.SetScrollRange(0, data.maximum, TRUE);
+        m_vBar.SetPageSize(data.page, TRUE);
+        MoveTo(SB_VERT, m_vBar.GetScrollPos());
+    }
+    else
+    {
+        MoveTo(SB_VERT, 0); // what is left to scroll could not be reached without a bar
+    }
+    if (alive)
+    {
+        ShowBar(SB_VERT, data.needed, frameChanged);
+    }
+}
+
+void CCustomListCtrl::UpdateHScrollData(bool& frameChanged)
+{
+    const WindowAlive alive(*this);
+    frameChanged = false;
+    if (m_fittedColumn != -1 && m_fittedColumn == ColumnCount() - 1)
+    {
+        FitLastColumn();
+        if (!alive)
+        {
+            return;
+        }
+    }
+    CRect last;
+    CRect client;
+    GetClientRect(&client);
+    const int columns = ColumnCount();
+    const int total = columns > 0 && HeaderItemRect(columns - 1, last) ? int(last.right) : 0;
+    m_measured.columns = columns;
+    m_measured.right = total;
+    m_measured.client = client.Size();
+    const int step = client.Width() / listctrl::StepsAcross;
+    if (step <= 0)
+    {
+        return;
+    }
+    m_scrollUnit.cx = step;
+    const listctrl::BarData data = listctrl::HorizontalBar(total, step, client.Width());
+    const int limit = data.needed ? data.lastPosition : 0;
+    if (m_hBar.GetScrollPos() > limit)
+    {
+        PerformHScroll(SB_LINELEFT);
+        if (!alive)
+        {
+            return;
+        }
+    }
+    if (data.needed)
+    {
+        m_hBar.SetScrollRange(0, data.maximum, TRUE);
+        m_hBar.SetPageSize(data.page, TRUE);
+        MoveTo(SB_HORZ, m_hBar.GetScrollPos());
+    }
+    else
+    {
+        MoveTo(SB_HORZ, 0);
+    }
+    if (alive)
+    {
+        ShowBar(SB_HORZ, data.needed, frameChanged);
+    }
+}
+
+void CCustomListCtrl::ReCheckScrollBars()
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || GetSafeHwnd() == nullptr)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    StripBars();
+    UpdateScrollData();
+    if (alive)
+    {
+        DrawScrollBars();
+    }
+    if (alive)
+    {
+        Invalidate(FALSE);
+    }
+}
+
+// Scrolling --------------------------------------------------------------------------------------
+
+void CCustomListCtrl::PerformVScroll(int newPos, int oldPos)
+{
+    if (m_vBar.GetScrollPos() != newPos)
+    {
+        m_vBar.SetScrollPos(newPos, TRUE);
+    }
+    const LONGLONG down = (LONGLONG{newPos} - oldPos) * m_scrollUnit.cy;
+    const int before = int(m_drawOffset.y);
+    m_drawOffset.y = scroll::Saturated(before - down);
+    const WindowAlive alive(*this);
+    DrawScrollBars();
+    if (alive)
+    {
+        ShiftPixels(int(m_drawOffset.y) - before);
+    }
+}
+
+void CCustomListCtrl::PerformVScroll(int code)
+{
+    Perform(SB_VERT, code);
+}
+
+void CCustomListCtrl::PerformHScroll(int newPos, int oldPos)
+{
+    if (m_hBar.GetScrollPos() != newPos)
+    {
+        m_hBar.SetScrollPos(newPos, TRUE);
+    }
+    const int dx = scroll::Saturated((LONGLONG{oldPos} - newPos) * m_scrollUnit.cx);
+    const WindowAlive alive(*this);
+    m_drawOffset.x = scroll::Saturated(LONGLONG{m_drawOffset.x} + dx);
+    m_header.OBScrollHeader(dx, TRUE);
+    if (alive)
+    {
+        DrawScrollBars();
+    }
+    if (alive)
+    {
+        Invalidate(FALSE);
+    }
+}
+
+void CCustomListCtrl::PerformHScroll(int code)
+{
+    Perform(SB_HORZ, code);
+}
+
+void CCustomListCtrl::Perform(int axis, int code)
+{
+    const int before = Bar(axis).GetScrollPos();
+    Bar(axis).HandleScroll(UINT(code), 0, nullptr);
+    const int after = Bar(axis).GetScrollPos();
+    if (axis == SB_VERT)
+    {
+        PerformVScroll(after, before);
+    }
+    else
+    {
+        PerformHScroll(after, before);
+    }
+}
+
+// Brings bar and offset to a position, also when they have come apart.
+void CCustomListCtrl::MoveTo(int axis, int position)
+{
+    CFauxScrollBar& bar = Bar(axis);
+    bar.SetScrollPos(position, TRUE);
+    const bool vertical = axis == SB_VERT;
+    const int unit = int(vertical ? m_scrollUnit.cy : m_scrollUnit.cx);
+    const int wanted = scroll::Saturated(-LONGLONG{bar.GetScrollPos()} * unit);
+    const int now = int(vertical ? m_drawOffset.y : m_drawOffset.x);
+    if (wanted == now)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    if (vertical)
+    {
+        m_drawOffset.y = wanted;
+    }
+    else
+    {
+        m_drawOffset.x = wanted;
+        m_header.OBScrollHeader(wanted - now, TRUE);
+    }
+    if (alive)
+    {
+        DrawBars();
+        Invalidate(FALSE);
+    }
+}
+
+// After the rows were scrolled: what is on the screen moves along, so that only the rows that come
+// into sight are to be painted.
+void CCustomListCtrl::ShiftPixels(int dy)
+{
+    CRect area;
+    GetClientRect(&area);
+    const int height = int(m_scrollUnit.cy);
+    area.top = HeaderBottom();
+    if (height > 0)
+    {
+        // Below the last row that is drawn nothing is.
+        area.bottom = std::min<LONG>(area.bottom, area.top + area.bottom / height * height);
+    }
+    if (dy == 0)
+    {
+        return;
+    }
+    if (height <= 0 || area.Height() <= 0 || dy >= area.Height() || -dy >= area.Height() ||
+        m_header.IsHotTracking() || !::IsWindowVisible(GetSafeHwnd()))
+    {
+        Invalidate(FALSE);
+        return;
+    }
+    ::ScrollWindowEx(GetSafeHwnd(), 0, dy, area, area, nullptr, nullptr, SW_INVALIDATE);
+}
+
+void CCustomListCtrl::BringIntoSight(int row)
+{
+    if (row >= 0 && row < GetItemCount() && m_vBar.ShowScrollBar())
+    {
+        const int before = m_vBar.GetScrollPos();
+        m_vBar.SetScrollPos(listctrl::TopToShow(row, TopRow(), RowsInSight()), TRUE);
+        PerformVScroll(m_vBar.GetScrollPos(), before);
+    }
+}
+
+LRESULT CCustomListCtrl::OnEnsureVisible(WPARAM wParam, LPARAM)
+{
+    const int row = int(wParam);
+    if (!InOnBoard())
+    {
+        return Default();
+    }
+    BringIntoSight(row);
+    return row >= 0 && row < GetItemCount();
+}
+
+// Pixels, taken as whole rows and steps.
+LRESULT CCustomListCtrl::OnScroll(WPARAM wParam, LPARAM lParam)
+{
+    if (!InOnBoard())
+    {
+        return Default();
+    }
+    const WindowAlive alive(*this);
+    if (m_scrollUnit.cy > 0 && m_vBar.ShowScrollBar())
+    {
+        const int before = m_vBar.GetScrollPos();
+        m_vBar.IncrementScrollPos(int(lParam) / int(m_scrollUnit.cy));
+        PerformVScroll(m_vBar.GetScrollPos(), before);
+    }
+    if (alive && m_scrollUnit.cx > 0 && m_hBar.ShowScrollBar())
+    {
+        const int before = m_hBar.GetScrollPos();
+        m_hBar.IncrementScrollPos(int(wParam) / int(m_scrollUnit.cx));
+        PerformHScroll(m_hBar.GetScrollPos(), before);
+    }
+    return TRUE;
+}
+
+void CCustomListCtrl::OnVScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    if (!InOnBoard() || bar != nullptr)
+    {
+        CListCtrl::OnVScroll(code, position, bar);
+        if (bar == nullptr && !IsVistaOrHigher())
+        {
+            RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        }
+        return;
+    }
+    // A drag has scrolled by itself.
+    if (m_vPart != CFauxScrollBar::PRESSED_THUMB)
+    {
+        PerformVScroll(int(code));
+    }
+}
+
+void CCustomListCtrl::OnHScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    if (!InOnBoard() || bar != nullptr || m_hPart == CFauxScrollBar::PRESSED_THUMB)
+    {
+        CListCtrl::OnHScroll(code, position, bar);
+        return;
+    }
+    PerformHScroll(int(code));
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+// The report list's arithmetic, free of windows and device contexts. Differences are taken in 64
+// bits and results saturate, so no number of rows, position or width overflows.
+
+#include "modes/Rounding.h"
+#include "paint/Metrics.h"
+#include "scroll/FauxScrollGeometry.h"
+
+#include <algorithm>
+
+namespace listctrl {
+
+// What a bar is to show.
+struct BarData
+{
+    bool needed;
+    int lastPosition; // without a step: the position from which on one line too much is scrolled
+    int maximum;
+    int page;
+};
+
+// Two steps more than it takes: the last rows, or columns, come free of the lower, or right, edge.
+constexpr int StepsPastEnd = 2;
+
+// Part of the client height that no row gets.
+constexpr int HeightMargin = 6;
+
+constexpr BarData VerticalBar(int items, int rowHeight, int clientHeight)
+{
+    const int visible = std::max(0, (clientHeight - HeightMargin) / std::max(1, rowHeight));
+    const int hidden = items - visible;
+    return {items > 0 && hidden >= 0, hidden, scroll::Saturated(LONGLONG{hidden} + StepsPastEnd),
+            std::max(1, visible - 1)};
+}
+
+// The client width in steps.
+constexpr int StepsAcross = 10;
+
+constexpr BarData HorizontalBar(int total, int step, int clientWidth)
+{
+    const int steps = (total - clientWidth) / std::max(1, step);
+    const int maximum = steps + StepsPastEnd;
+    const int page =
+        total <= 0 ? 1 : scroll::Saturated(LONGLONG{clientWidth} * maximum / LONGLONG{total});
+    return {total > clientWidth, steps, maximum, page};
+}
+
+// The rows that are drawn into a height, from the first one on.
+constexpr int FirstDrawnRow(int offset, int rowHeight)
+{
+    return rowHeight <= 0 ? 0 : -offset / rowHeight;
+}
+
+constexpr int EndOfDrawnRows(int offset, int rowHeight, int bottom, int items)
+{
+    const LONGLONG first = FirstDrawnRow(offset, rowHeight);
+    return rowHeight <= 0
+               ? 0
+               : scroll::Saturated(std::clamp<LONGLONG>(first + bottom / rowHeight, 0, items));
+}
+
+// A column's width in the on-board modes, and back.
+inline int OnBoardWidth(int width)
+{
+    return width < 0 ? width : Truncated(width * metrics::OnBoardScale);
+}
+
+inline int StandardWidth(int width)
+{
+    // The least width that is scaled to this one, so that there and back changes nothing.
+    const int scaled = Truncated(width / metrics::OnBoardScale);
+    return OnBoardWidth(scaled) < width ? scaled + 1 : scaled;
+}
+
+// Where a page key takes the focus: to the edge of what is in sight, from there on by a page.
+constexpr int PageTarget(bool down, int focus, int top, int rowsInSight, int items)
+{
+    const int page = std::max(1, rowsInSight - 1);
+    const int last = std::min<int>(items - 1, top + std::max(1, rowsInSight) - 1);
+    const bool inSight = focus >= top && focus <= last;
+    int target = down ? focus + page : focus - page;
+    if (inSight && focus != (down ? last : top))
+    {
+        target = down ? last : top;
+    }
+    return std::clamp(target, 0, std::max(0, items - 1));
+}
+
+// The first row in sight so that a row is, moved as little as possible.
+constexpr int TopToShow(int row, int top, int rowsInSight)
+{
+    const int rows = std::max(1, rowsInSight);
+    return row < top ? row : row >= top + rows ? row - rows + 1 : top;
+}
+
+} // namespace listctrl

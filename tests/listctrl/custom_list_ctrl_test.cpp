@@ -1,0 +1,488 @@
+// What a report list shows: frame, ranges, painting, and following mode, rows and columns.
+
+#include "listctrl/list_for_tests.h"
+#include "listctrl/ListLayout.h"
+#include "paint/Palette.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+TEST(ListLayout, RangesAndTargets)
+{
+    // (client height - 6) / row height rows count as visible.
+    EXPECT_FALSE(listctrl::VerticalBar(9, 20, 206).needed);
+    const auto fits = listctrl::VerticalBar(11, 20, 206); // one more than fits
+    EXPECT_TRUE(fits.needed);
+    EXPECT_EQ(fits.maximum, 3);
+    EXPECT_EQ(fits.page, 9);
+    EXPECT_FALSE(listctrl::VerticalBar(0, 20, 206).needed);
+    EXPECT_EQ(listctrl::VerticalBar(5, 20, 30).page, 1);
+    EXPECT_EQ(listctrl::VerticalBar(INT_MAX, 20, -50).maximum, INT_MAX);
+
+    EXPECT_FALSE(listctrl::HorizontalBar(300, 30, 300).needed);
+    const auto wide = listctrl::HorizontalBar(450, 30, 300);
+    EXPECT_TRUE(wide.needed);
+    EXPECT_EQ(wide.maximum, 7);
+    EXPECT_EQ(wide.page, 300 * 7 / 450);
+
+    for (const int width : {0, 1, 7, 100, 123, 999})
+    {
+        EXPECT_EQ(listctrl::StandardWidth(listctrl::OnBoardWidth(width)), width);
+    }
+    EXPECT_EQ(listctrl::OnBoardWidth(100), 170);
+    EXPECT_EQ(listctrl::OnBoardWidth(INT_MAX), INT_MAX);
+
+    // 100 rows, 10 in sight from row 20 on.
+    struct
+    {
+        bool down;
+        int focus;
+        int target;
+    } const pages[] = {{true, 22, 29}, {true, 29, 38}, {true, 98, 99}, {true, 5, 14},
+                       {false, 22, 20}, {false, 20, 11}, {false, 3, 0}, {true, 99, 99}};
+    for (const auto& page : pages)
+    {
+        EXPECT_EQ(listctrl::PageTarget(page.down, page.focus, 20, 10, 100), page.target)
+            << page.focus;
+    }
+    EXPECT_EQ(listctrl::TopToShow(5, 3, 4), 3);
+    EXPECT_EQ(listctrl::TopToShow(7, 3, 4), 4);
+    EXPECT_EQ(listctrl::TopToShow(1, 3, 4), 1);
+    EXPECT_EQ(listctrl::TopToShow(7, 3, 0), 7);
+}
+
+TEST(GridLinesTest, FirstAndLast)
+{
+    GridLines lines;
+    EXPECT_EQ(lines.firstgrid(), -1);
+    EXPECT_EQ(lines.lastgrid(), -1);
+    lines.Add(40);
+    lines.Add(-7);
+    GridLines copy(lines);
+    lines.Clear();
+    EXPECT_EQ(copy.firstgrid(), 40);
+    EXPECT_EQ(copy.lastgrid(), -7);
+    lines = copy;
+    EXPECT_EQ(lines.firstgrid(), 40);
+}
+
+// The standard mode ------------------------------------------------------------------------------
+
+TEST_F(ListCtrlTest, InTheStandardModeItIsThePlatformsList)
+{
+    auto& list = AddList(60);
+    auto& plain = Add<CListCtrl>(CRect(430, 20, 790, 420), ReportStyle);
+    plain.InsertColumn(0, "One", LVCFMT_LEFT, 100);
+    EXPECT_EQ(list.GetColumnWidth(0), 60);
+    EXPECT_NE(list.GetStyle() & WS_VSCROLL, 0U);
+    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
+    list.SetFocus();
+    list.SetItemState(0, 3, 3);
+    TypeKey(VK_END);
+    EXPECT_GT(list.GetTopIndex(), 0);
+    EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
+    EXPECT_EQ(list.Selected(), std::set<int>{59});
+    EXPECT_TRUE(CWnd::FromHandlePermanent(*list.GetHeaderCtrl())
+                    ->IsKindOf(RUNTIME_CLASS(CCustomListCtrlHdr)));
+    EXPECT_EQ(static_cast<void*>(list.GetScrollBarCtrl(SB_VERT)), &list.m_vBar);
+    EXPECT_EQ(static_cast<void*>(list.GetScrollBarCtrl(SB_HORZ)), &list.m_hBar);
+    EXPECT_EQ(list.GetScrollBarCtrl(SB_BOTH), nullptr);
+}
+
+// Ranges -----------------------------------------------------------------------------------------
+
+TEST_F(ListCtrlOnBoard, TheBarComesWithTheFirstRowThatDoesNotFit)
+{
+    auto& list = AddList(1);
+    EXPECT_EQ(list.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
+    const int fit = list.VisibleRows();
+    const int width = ClientRectOf(list).Width();
+    list.Fill(fit - 2); // one row was there
+    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
+    list.InsertItem(0, "one more");
+    EXPECT_TRUE(list.m_vBar.ShowScrollBar());
+    EXPECT_EQ(ClientRectOf(list).Width(), width - 52);
+    list.InsertItem(0, "one more");
+    EXPECT_EQ(list.Maximum(SB_VERT), 3);
+    EXPECT_EQ(list.m_vBar.GetPageSize(), fit - 1);
+    list.ExpectInStep("one more");
+    list.DeleteItem(0);
+    list.DeleteItem(0);
+    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
+    EXPECT_EQ(ClientRectOf(list).Width(), width);
+}
+
+TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
+{
+    auto& list = Add<ListForTests>(CRect(20, 20, 420, 420), ReportStyle);
+    list.InsertColumn(0, "A", LVCFMT_LEFT, 100);
+    EXPECT_EQ(list.GetColumnWidth(0), 170);
+    LVCOLUMNW wide = {};
+    wide.mask = LVCF_WIDTH;
+    wide.cx = 33;
+    list.SendMessage(LVM_INSERTCOLUMNW, 1, reinterpret_cast<LPARAM>(&wide));
+    EXPECT_EQ(list.GetColumnWidth(1), 56);
+    EXPECT_EQ(wide.cx, 33) << "the caller's description is the caller's";
+    list.InsertColumn(2, "C", LVCFMT_LEFT, 70);
+    list.SetColumnWidth(1, 85);
+    COnBoardUIGeneral::SetAppMode(STD);
+    PumpAll();
+    list.SendMessage(WM_NULL);
+    EXPECT_EQ(list.GetColumnWidth(0), 100);
+    EXPECT_EQ(list.GetColumnWidth(1), 50);
+    EXPECT_EQ(list.GetColumnWidth(2), 70);
+    COnBoardUIGeneral::SetAppMode(EFB);
+    list.SendMessage(WM_NULL);
+    EXPECT_EQ(list.GetColumnWidth(0), 170);
+}
+
+TEST_F(ListCtrlOnBoard, TheLastColumnFillsTheList)
+{
+    auto& list = AddList(5);
+    CRect last;
+    list.m_header.GetItemRect(2, &last);
+    EXPECT_EQ(last.right, ClientRectOf(list).Width());
+    list.SetWindowPos(nullptr, 0, 0, 360, 300, SWP_NOMOVE | SWP_NOZORDER);
+    list.m_header.GetItemRect(2, &last);
+    EXPECT_EQ(last.right, ClientRectOf(list).Width());
+    EXPECT_FALSE(list.m_hBar.ShowScrollBar());
+    // A new last column takes over, and what filled the list has its own width again.
+    list.InsertColumn(3, "D", LVCFMT_LEFT, 20);
+    list.InsertItem(0, "row");
+    EXPECT_EQ(list.GetColumnWidth(2), 102);
+    list.m_header.GetItemRect(3, &last);
+    EXPECT_GE(last.right, ClientRectOf(list).Width());
+    list.DeleteColumn(3);
+    list.m_header.GetItemRect(2, &last);
+    EXPECT_EQ(last.right, ClientRectOf(list).Width());
+    list.ExpectInStep("columns came and went");
+}
+
+TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
+{
+    auto& list = AddList(100, 8, ReportStyle, CRect(20, 20, 400, 400));
+    ASSERT_TRUE(list.m_vBar.ShowScrollBar());
+    ASSERT_TRUE(list.m_hBar.ShowScrollBar());
+    list.ExpectInStep("made");
+    list.PerformVScroll(SB_BOTTOM);
+    list.PerformHScroll(SB_RIGHT);
+    list.ExpectInStep("scrolled to the end");
+    list.DeleteItem(99);
+    list.ExpectInStep("row deleted");
+    for (int row = 0; row < 60; ++row)
+    {
+        list.DeleteItem(0);
+    }
+    list.ExpectInStep("rows deleted");
+    EXPECT_LE(list.TopRow(), 40);
+    list.InsertItem(20, "new");
+    list.ExpectInStep("row inserted");
+    list.SetColumnWidth(3, 400);
+    list.ExpectInStep("column resized");
+    list.DeleteColumn(2);
+    list.ExpectInStep("column removed");
+    list.SetWindowPos(nullptr, 0, 0, 250, 250, SWP_NOMOVE | SWP_NOZORDER);
+    list.ExpectInStep("smaller");
+    list.SetWindowPos(nullptr, 0, 0, 700, 500, SWP_NOMOVE | SWP_NOZORDER);
+    list.ExpectInStep("larger");
+    list.SetFont(&CCustomListCtrl::GetOnBoardFont());
+    list.ExpectInStep("font");
+    for (int column = list.m_header.GetItemCount() - 1; column > 0; --column)
+    {
+        list.DeleteColumn(column);
+        list.ExpectInStep("columns removed one by one");
+    }
+    EXPECT_FALSE(list.m_hBar.ShowScrollBar());
+    EXPECT_EQ(list.m_drawOffset.x, 0);
+    list.PerformVScroll(SB_BOTTOM);
+    list.SetItemCount(list.GetItemCount());
+    list.DeleteAllItems();
+    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
+    EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
+    EXPECT_EQ(list.m_vBar.GetScrollPos(), 0);
+}
+
+TEST_F(ListCtrlOnBoard, TheFirstRowBringsTheColumnsHome)
+{
+    auto& list = AddList(0, 10);
+    list.ReCheckScrollBars();
+    ASSERT_TRUE(list.m_hBar.ShowScrollBar());
+    list.PerformHScroll(SB_LINERIGHT);
+    EXPECT_LT(HeaderAccess::Offset(list.m_header).x, 0);
+    list.InsertItem(0, "first");
+    EXPECT_EQ(HeaderAccess::Offset(list.m_header).x, 0);
+    list.ExpectInStep("first row");
+    EXPECT_EQ(list.m_drawOffset.x, 0);
+}
+
+// Painting ---------------------------------------------------------------------------------------
+
+namespace {
+
+bool HasText(const Pixels& picture, const CRect& cell, COLORREF color)
+{
+    return picture.Count(color, cell) > 5;
+}
+
+} // namespace
+
+TEST_F(ListCtrlOnBoard, CellsShowTextSelectionAndEndAtTheDivider)
+{
+    for (const bool fullRow : {false, true})
+    {
+        auto& list = AddList(30, 3, ReportStyle | LVS_SINGLESEL);
+        list.SetItemText(6, 1, "WWW");
+        list.SetItemState(6, 3, 3);
+        list.PerformVScroll(5, 0);
+        const CRect client = ClientRectOf(list);
+        Canvas canvas(client.Width(), client.Height());
+        list.GetVerticalDivides(3);
+        canvas.DC().SetBkMode(TRANSPARENT);
+        const CRect drawn(0, 0, 300, client.bottom);
+        list.DrawCells(canvas.DC(), 30, 3, fullRow, drawn);
+        const Pixels picture = canvas.Picture();
+        const int top = list.HeaderRect().bottom;
+        const int height = list.RowHeight();
+        const int y = top + height + 1; // row 6 is the second one drawn
+        const int divider = list.m_gridLines.firstgrid();
+        EXPECT_EQ(divider, 102);
+        EXPECT_EQ(picture.At(0, y), palette::Highlight);
+        EXPECT_EQ(picture.At(divider - 1, y), palette::Highlight);
+        EXPECT_EQ(picture.At(divider, y), fullRow ? palette::Highlight : Canvas::Untouched);
+        EXPECT_EQ(picture.At(299, y), fullRow ? palette::Highlight : Canvas::Untouched);
+        EXPECT_EQ(picture.At(300, y), Canvas::Untouched);
+        EXPECT_EQ(picture.At(0, y - height), Canvas::Untouched) << "row 5 is not selected";
+        EXPECT_TRUE(HasText(picture, CRect(0, top, divider, top + height), palette::FieldText));
+        EXPECT_TRUE(HasText(picture, CRect(0, y, divider, y + height - 1),
+                            palette::HighlightText));
+        EXPECT_TRUE(HasText(picture, CRect(divider, y, 204, y + height - 1),
+                            palette::HighlightText));
+        // As many rows as the rectangle is high, from the first on.
+        const int end = client.bottom / height;
+        EXPECT_EQ(picture.Count(palette::FieldText,
+                                CRect(0, top + end * height, 300, client.bottom)),
+                  0);
+        Remove(list);
+    }
+    auto& single = AddList(3, 1);
+    single.SetItemState(1, 3, 3);
+    Canvas canvas(500, 400);
+    single.GetVerticalDivides(1);
+    single.DrawCells(canvas.DC(), 3, 1, false, CRect(0, 0, 500, 400));
+    CRect row;
+    single.GetItemRect(1, &row, LVIR_BOUNDS);
+    EXPECT_EQ(canvas.At(row.right - 1, row.top), palette::Highlight);
+    EXPECT_EQ(canvas.At(row.right, row.top), Canvas::Untouched);
+}
+
+TEST_F(ListCtrlOnBoard, GridLinesStandAtRowsAndDividers)
+{
+    const COLORREF gray = ::GetSysColor(COLOR_GRAYTEXT);
+    auto& list = AddList(30, 3);
+    const CRect client = ClientRectOf(list);
+    const int top = list.HeaderRect().bottom;
+    const int height = list.RowHeight();
+    list.PerformVScroll(4, 0);
+    list.GetVerticalDivides(3);
+    {
+        Canvas canvas(client.Width(), client.Height());
+        list.DrawGrid(canvas.DC(), 30, client);
+        for (int y = top; y < client.bottom; y += height)
+        {
+            EXPECT_EQ(canvas.At(50, y), gray);
+            EXPECT_EQ(canvas.At(50, y + 1), Canvas::Untouched);
+        }
+        EXPECT_EQ(canvas.At(102, top + 3), gray);
+        EXPECT_EQ(canvas.At(204, client.bottom - 1), gray);
+        EXPECT_EQ(canvas.At(list.m_gridLines.lastgrid() - 1, top + 3), Canvas::Untouched);
+    }
+    auto& empty = AddList(0, 2);
+    {
+        Canvas canvas(300, 300);
+        empty.GetVerticalDivides(2);
+        empty.DrawGrid(canvas.DC(), 0, CRect(0, 0, 300, 300));
+        const int first = empty.HeaderRect().bottom + ::GetSystemMetrics(SM_CXFRAME) / 2;
+        const int step = int(canvas.DC().GetTextExtent("Aj", 2).cy) + 1;
+        EXPECT_EQ(canvas.At(5, first), gray);
+        EXPECT_EQ(canvas.At(5, first + step), gray);
+        EXPECT_EQ(canvas.At(5, first + 5 * step), gray);
+        EXPECT_EQ(canvas.At(5, first + 1), Canvas::Untouched);
+    }
+}
+
+TEST_F(ListCtrlOnBoard, WhatIsOnTheScreenIsWhatAFullPaintGives)
+{
+    auto& list = AddList(200, 8, ReportStyle, CRect(20, 20, 400, 400));
+    list.SetExtendedStyle(LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
+    list.SetItemState(4, 3, 3);
+    PumpAll();
+    struct
+    {
+        const char* name;
+        std::function<void()> act;
+    } const steps[] = {
+        {"line down", [&] { list.PerformVScroll(SB_LINEDOWN); }},
+        {"two lines", [&] { list.PerformVScroll(SB_LINEDOWN), list.PerformVScroll(SB_LINEDOWN); }},
+        {"line up", [&] { list.PerformVScroll(SB_LINEUP); }},
+        {"text", [&] { list.SetItemText(3, 0, "changed"); }},
+        {"state", [&] { list.SetItemState(6, 3, 3); }},
+        {"page down", [&] { list.PerformVScroll(SB_PAGEDOWN); }},
+        {"sideways", [&] { list.PerformHScroll(SB_LINERIGHT); }},
+        {"inserted", [&] { list.InsertItem(list.TopRow() + 2, "inserted"); }},
+        {"deleted", [&] { list.DeleteItem(list.TopRow()); }},
+        {"sorted", [&] { list.SortItems([](LPARAM, LPARAM, LPARAM) { return 0; }, 0); }},
+        {"to the end", [&] { list.PerformVScroll(SB_BOTTOM); }},
+        {"line up from there", [&] { list.PerformVScroll(SB_LINEUP); }},
+    };
+    for (const auto& step : steps)
+    {
+        step.act();
+        PumpAll();
+        const Pixels shown = WindowPixels(list);
+        list.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ALLCHILDREN);
+        PumpAll();
+        EXPECT_EQ(shown, WindowPixels(list)) << step.name;
+    }
+}
+
+TEST_F(ListCtrlOnBoard, FrameBandAndCornerArePainted)
+{
+    auto& list = AddList(200, 8, ReportStyle, CRect(20, 20, 400, 400));
+    const Pixels picture = WindowPixels(list);
+    EXPECT_EQ(picture.At(0, 0), palette::Outline);
+    EXPECT_EQ(picture.At(1, 200), palette::Outline);
+    const CRect vertical = list.m_vBar.GetArea();
+    const CRect horizontal = list.m_hBar.GetArea();
+    EXPECT_EQ(vertical.Width(), 55);
+    EXPECT_EQ(horizontal.Height(), 55);
+    EXPECT_EQ(vertical.right, picture.Width());
+    EXPECT_EQ(picture.At(picture.Width() - 20, picture.Height() - 20), palette::ListCorner);
+    EXPECT_EQ(picture.At(picture.Width() - 3, picture.Height() - 20), palette::Outline);
+    EXPECT_GT(picture.Count(palette::Trough, vertical), 1000);
+    EXPECT_GT(picture.Count(palette::Trough, horizontal), 1000);
+    EXPECT_EQ(picture.At(200, 300), palette::Field);
+}
+
+// Only what is in sight --------------------------------------------------------------------------
+
+TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
+{
+    auto& list = Add<ListForTests>(CRect(20, 20, 420, 420), ReportStyle | LVS_OWNERDATA);
+    list.AddColumns(2);
+    std::set<int> asked;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(LVN_GETDISPINFOA) || told.code == UINT(LVN_GETDISPINFOW))
+        {
+            auto& item = reinterpret_cast<NMLVDISPINFO*>(told.lParam)->item;
+            asked.insert(item.iItem);
+            if ((item.mask & LVIF_TEXT) != 0 && told.code == UINT(LVN_GETDISPINFOA))
+            {
+                ::wsprintfA(item.pszText, "R%d", item.iItem);
+            }
+        }
+    };
+    list.SetItemCount(1'000'000);
+    PumpAll();
+    list.ExpectInStep("a million");
+    asked.clear();
+    list.SetFocus();
+    TypeKey(VK_END);
+    EXPECT_EQ(list.Focused(), 999'999);
+    EXPECT_EQ(list.Selected(), std::set<int>{999'999});
+    list.ExpectInStep("end");
+    EXPECT_LE(asked.size(), size_t(3 * list.VisibleRows()));
+    EXPECT_TRUE(asked.count(999'999));
+    const Pixels picture = WindowPixels(list);
+    EXPECT_GT(picture.Count(palette::HighlightText), 5);
+    Host().hook = nullptr;
+}
+
+// Modes ------------------------------------------------------------------------------------------
+
+TEST_F(ListCtrlTest, SwitchingModesKeepsTopRowAndSelectionInSight)
+{
+    auto& list = AddList(300, 3, ReportStyle, CRect(20, 20, 420, 320));
+    list.EnsureVisible(299, FALSE);
+    list.EnsureVisible(40, FALSE);
+    ASSERT_EQ(list.GetTopIndex(), 40);
+    list.SetItemState(44, 3, 3);
+    for (const APPMODE mode : {ONBOARD, EFB, STD, FULLSCREEN, STD})
+    {
+        const APPMODE before = COnBoardUIGeneral::GetAppMode();
+        COnBoardUIGeneral::SetAppMode(mode);
+        // As a dialog restyles it.
+        list.SetFont(mode == STD ? &CCustomListCtrl::GetStdFont()
+                                 : &CCustomListCtrl::GetOnBoardFont());
+        const int height = mode == STD ? 300 : before == STD ? 510 : 510;
+        list.SetWindowPos(nullptr, 0, 0, 400, height,
+                          SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED);
+        PumpAll();
+        const int top = mode == STD ? list.GetTopIndex() : list.TopRow();
+        EXPECT_EQ(top, 40) << APPMODE_NAMES[mode];
+        EXPECT_EQ(list.Selected(), std::set<int>{44});
+        if (mode != STD)
+        {
+            list.ExpectInStep(APPMODE_NAMES[mode]);
+        }
+        else
+        {
+            EXPECT_NE(list.GetStyle() & WS_VSCROLL, 0U);
+            EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
+        }
+    }
+    // Too little room for both: the selection stays in sight.
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    list.SetFont(&CCustomListCtrl::GetOnBoardFont());
+    list.SetWindowPos(nullptr, 0, 0, 400, 130, SWP_NOMOVE | SWP_NOZORDER);
+    PumpAll();
+    EXPECT_LE(list.TopRow(), 44);
+    EXPECT_LE(list.RowPoint(44).y, ClientRectOf(list).bottom);
+    COnBoardUIGeneral::SetAppMode(STD);
+}
+
+TEST_F(ListCtrlTest, ItIsMadeOfAnExistingListAndByName)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        auto& plain = Add<CListCtrl>(CRect(20, 20, 420, 320), ReportStyle);
+        plain.InsertColumn(0, "One", LVCFMT_LEFT, 100);
+        for (int row = 0; row < 50; ++row)
+        {
+            plain.InsertItem(row, "row");
+        }
+        const HWND window = plain.Detach();
+        {
+            ListForTests list;
+            ASSERT_TRUE(list.SubclassWindow(window));
+            EXPECT_NE(list.m_header.GetSafeHwnd(), nullptr);
+            PumpAll();
+            EXPECT_EQ(list.m_vBar.ShowScrollBar() != 0, mode != STD);
+            list.UnsubclassWindow();
+            EXPECT_TRUE(::IsWindow(window));
+        }
+        EXPECT_TRUE(::IsWindow(::GetDlgItem(window, 0))) << "the header is the list's";
+        ::DestroyWindow(window);
+    }
+    std::unique_ptr<CObject> made(RUNTIME_CLASS(CCustomListCtrl)->CreateObject());
+    EXPECT_TRUE(made->IsKindOf(RUNTIME_CLASS(CListCtrl)));
+    std::unique_ptr<CObject> header(RUNTIME_CLASS(CCustomListCtrlHdr)->CreateObject());
+    EXPECT_TRUE(header->IsKindOf(RUNTIME_CLASS(CHeaderCtrl)));
+}
+
+TEST_F(ListCtrlOnBoard, NothingIsLeftBehind)
+{
+    const auto round = [this] {
+        auto& list = AddList(100, 8);
+        list.PerformVScroll(SB_PAGEDOWN);
+        list.PerformHScroll(SB_LINERIGHT);
+        PumpAll();
+        Remove(list);
+    };
+    round();
+    const int before = GraphicsObjects();
+    round();
+    round();
+    EXPECT_EQ(GraphicsObjects(), before);
+}

@@ -1,0 +1,172 @@
+#pragma once
+
+#include "CustomListCtrl.h"
+#include "support/Canvas.h"
+#include "support/WindowTest.h"
+
+#include <string>
+
+// A header that lets a test see its state.
+struct HeaderAccess : CCustomListCtrlHdr
+{
+    static CPoint Offset(const CCustomListCtrlHdr& header)
+    {
+        return header.*(&HeaderAccess::m_offset);
+    }
+    static int Pressed(const CCustomListCtrlHdr& header)
+    {
+        return header.*(&HeaderAccess::m_pressedItem);
+    }
+};
+
+// A report list that lets a test see its bars and paint by parts.
+class ListForTests : public CCustomListCtrl
+{
+public:
+    using CCustomListCtrl::DrawCells;
+    using CCustomListCtrl::DrawGrid;
+    using CCustomListCtrl::DrawOB;
+    using CCustomListCtrl::GetVerticalDivides;
+    using CCustomListCtrl::m_drawOffset;
+    using CCustomListCtrl::m_gridLines;
+    using CCustomListCtrl::m_hBar;
+    using CCustomListCtrl::m_header;
+    using CCustomListCtrl::m_pressed;
+    using CCustomListCtrl::m_scrollUnit;
+    using CCustomListCtrl::m_timerid;
+    using CCustomListCtrl::m_timerInitialWaitID;
+    using CCustomListCtrl::m_vBar;
+    using CCustomListCtrl::PerformHScroll;
+    using CCustomListCtrl::PerformVScroll;
+
+    CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
+
+    int Maximum(int axis)
+    {
+        int minimum = 0;
+        int maximum = 0;
+        Bar(axis).GetScrollRange(&minimum, &maximum);
+        return maximum;
+    }
+
+    void AddColumns(int count, int width = 60)
+    {
+        for (int column = 0; column < count; ++column)
+        {
+            InsertColumn(column, ("Col " + std::to_string(column)).c_str(), LVCFMT_LEFT, width);
+        }
+    }
+
+    void Fill(int rows)
+    {
+        SetRedraw(FALSE);
+        for (int row = 0; row < rows; ++row)
+        {
+            InsertItem(row, ("Row " + std::to_string(row)).c_str());
+        }
+        SetRedraw(TRUE);
+    }
+
+    int RowHeight() const
+    {
+        CRect row;
+        GetItemRect(0, &row, LVIR_BOUNDS);
+        return row.Height();
+    }
+
+    int TopRow() const { return -int(m_drawOffset.y) / RowHeight(); }
+    int VisibleRows() const { return (ClientRectOf(*this).Height() - 6) / RowHeight(); }
+
+    CRect HeaderRect() const
+    {
+        CRect rect = WindowRectOf(m_header);
+        ScreenToClient(&rect);
+        return rect;
+    }
+
+    // Of the list as drawn, in client coordinates.
+    CPoint RowPoint(int row, int x = 20) const
+    {
+        return CPoint(x, HeaderRect().bottom + (row - TopRow()) * RowHeight() + RowHeight() / 2);
+    }
+
+    // Screen point of a column's divider as drawn, in the header.
+    CPoint DividerPoint(int column, int dx = 0) const
+    {
+        CRect rect;
+        m_header.GetItemRect(column, &rect);
+        return ClientPoint(*this, CPoint(rect.right + m_drawOffset.x + dx, 8));
+    }
+
+    CPoint PartPoint(CFauxScrollBar::ePRESSED part, int axis = SB_VERT)
+    {
+        return WindowPoint(*this, Bar(axis).GetPartArea(part).CenterPoint());
+    }
+
+    std::set<int> Selected() const
+    {
+        std::set<int> rows;
+        GetSelectedRows(rows);
+        return rows;
+    }
+    int Focused() const { return GetNextItem(-1, LVNI_FOCUSED); }
+    int PlatformTop() const { return GetTopIndex(); }
+
+    // Whether ranges, offset and header tell of the same place.
+    void ExpectInStep(const char* when)
+    {
+        EXPECT_EQ(PlatformTop(), 0) << when;
+        EXPECT_EQ(m_drawOffset.y, -m_vBar.GetScrollPos() * RowHeight()) << when;
+        EXPECT_EQ(m_drawOffset.x, -m_hBar.GetScrollPos() * m_scrollUnit.cx) << when;
+        EXPECT_EQ(HeaderAccess::Offset(m_header).x, m_drawOffset.x) << when;
+        EXPECT_GE(HeaderRect().right, ClientRectOf(*this).right) << when;
+        const int visible = VisibleRows();
+        EXPECT_EQ(m_vBar.ShowScrollBar() != 0, GetItemCount() > 0 && visible <= GetItemCount())
+            << when;
+        if (m_vBar.ShowScrollBar())
+        {
+            EXPECT_EQ(Maximum(SB_VERT), GetItemCount() - visible + 2) << when;
+        }
+        CRect last;
+        m_header.GetItemRect(m_header.GetItemCount() - 1, &last);
+        const int width = ClientRectOf(*this).Width();
+        EXPECT_EQ(m_hBar.ShowScrollBar() != 0, last.right > width) << when;
+        if (m_hBar.ShowScrollBar())
+        {
+            EXPECT_EQ(Maximum(SB_HORZ), (last.right - width) / (width / 10) + 2) << when;
+        }
+    }
+};
+
+constexpr DWORD ReportStyle = LVS_REPORT | LVS_SHOWSELALWAYS;
+
+class ListCtrlTest : public WindowTest
+{
+protected:
+    ListForTests& AddList(int rows, int columns = 3, DWORD style = ReportStyle,
+                          const CRect& place = CRect(20, 20, 420, 420))
+    {
+        auto& list = Add<ListForTests>(place, style);
+        list.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED);
+        list.AddColumns(columns);
+        list.Fill(rows);
+        PumpAll();
+        return list;
+    }
+};
+
+class ListCtrlOnBoard : public ListCtrlTest
+{
+protected:
+    void SetUp() override
+    {
+        ListCtrlTest::SetUp();
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+    }
+
+    void TearDown() override
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        ListCtrlTest::TearDown();
+    }
+};
