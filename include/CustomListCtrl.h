@@ -126,6 +126,7 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnCancelMode();
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnTimer(UINT_PTR id);

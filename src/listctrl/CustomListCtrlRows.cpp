@@ -267,6 +267,21 @@ void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
     }
 }
 
+// The first letters of a row are looked for by the platform.
+void CCustomListCtrl::OnChar(UINT, UINT, UINT)
+{
+    const WindowAlive alive(*this);
+    const int before = InOnBoard() ? GetNextItem(-1, LVNI_FOCUSED) : -1;
+    Default();
+    const int focus = alive && InOnBoard() ? GetNextItem(-1, LVNI_FOCUSED) : before;
+    if (alive && focus != before)
+    {
+        HoldPlatform();
+        BringIntoSight(focus);
+        Invalidate();
+    }
+}
+
 // Painting --------------------------------------------------------------------------------------
 
 void CCustomListCtrl::OnPaint()

@@ -26,8 +26,9 @@ void CCustomListCtrl::DrawBars()
     if (InOnBoard() && GetSafeHwnd() != nullptr)
     {
         ResizeOBScrollBars();
-        m_hPainter->Draw(*this, m_hBar, DrawnPart(SB_HORZ));
-        m_vPainter->Draw(*this, m_vBar, DrawnPart(SB_VERT));
+        // The outlines cross in the corner; the vertical bar's lies on top.
+        const bool painted = m_hPainter->Draw(*this, m_hBar, DrawnPart(SB_HORZ));
+        m_vPainter->Draw(*this, m_vBar, DrawnPart(SB_VERT), painted);
     }
 }
 

@@ -1,0 +1,324 @@
+// The header: its look, its place over the columns, and columns resized with the pointer.
+
+#include "listctrl/list_for_tests.h"
+#include "paint/Palette.h"
+
+namespace {
+
+// A header of the test's own, which paints onto a canvas.
+class HeaderForTests : public CCustomListCtrlHdr
+{
+public:
+    using CCustomListCtrlHdr::DrawOBSortArrow;
+    using CCustomListCtrlHdr::DrawStdSortArrow;
+    using CCustomListCtrlHdr::m_arrows;
+
+    void AddItem(const char* text, int width)
+    {
+        HDITEM item = {};
+        item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
+        item.pszText = const_cast<char*>(text);
+        item.cxy = width;
+        item.fmt = HDF_STRING;
+        InsertItem(GetItemCount(), &item);
+    }
+};
+
+Pixels HeaderPixels(const ListForTests& list)
+{
+    return WindowPixels(list.m_header);
+}
+
+// The header's row of pixels at y, from the window's upper edge.
+COLORREF GradientAt(int y, int height, COLORREF from, COLORREF to)
+{
+    const int red = GetRValue(from) + (GetRValue(to) - GetRValue(from)) * y / height;
+    return RGB(red, red, red);
+}
+
+} // namespace
+
+TEST_F(ListCtrlOnBoard, TheHeaderIsAGradientAndAPressedItemTheReverse)
+{
+    auto& list = AddList(20);
+    const int height = list.HeaderRect().Height();
+    const Pixels picture = HeaderPixels(list);
+    EXPECT_EQ(picture.At(80, 0), RGB(150, 150, 150));
+    EXPECT_NEAR(GetRValue(picture.At(80, height - 1)),
+                GetRValue(GradientAt(height - 1, height, RGB(150, 150, 150), RGB(90, 90, 90))), 2);
+    EXPECT_EQ(picture.At(102, 3), RGB(0, 0, 0)) << "divider";
+    EXPECT_GT(picture.Count(palette::HeaderText), 20);
+    MoveTo(ClientPoint(list, CPoint(50, 8)));
+    Press();
+    EXPECT_EQ(HeaderAccess::Pressed(list.m_header), 0);
+    const Pixels pressed = HeaderPixels(list);
+    EXPECT_EQ(pressed.At(80, 0), RGB(90, 90, 90));
+    EXPECT_GT(GetRValue(pressed.At(80, height - 1)), 140);
+    EXPECT_EQ(pressed.At(150, 0), RGB(150, 150, 150));
+    Host().Forget();
+    Release();
+    EXPECT_EQ(HeaderAccess::Pressed(list.m_header), -1);
+    EXPECT_EQ(HeaderPixels(list), picture);
+    const auto codes = Host().CodesFrom(WindowTest::FirstId);
+    EXPECT_EQ(std::count(codes.begin(), codes.end(), UINT(LVN_COLUMNCLICK)), 1);
+}
+
+TEST_F(ListCtrlOnBoard, SortArrowsPointUpAndDown)
+{
+    HeaderForTests header;
+    const CRect item(10, 0, 110, 30);
+    {
+        Canvas up(120, 40);
+        header.DrawOBSortArrow(&up.DC(), item, HDF_SORTUP | HDF_SORTDOWN);
+        EXPECT_EQ(up.At(92, 5), palette::SortArrow) << "the apex";
+        EXPECT_EQ(up.At(83, 24), palette::SortArrow);
+        EXPECT_EQ(up.At(102, 24), palette::SortArrow);
+        EXPECT_EQ(up.At(92, 24), palette::SortArrow);
+        EXPECT_EQ(up.At(83, 5), Canvas::Untouched);
+        EXPECT_EQ(up.At(92, 15), Canvas::Untouched) << "an outline";
+    }
+    {
+        Canvas down(120, 40);
+        header.DrawOBSortArrow(&down.DC(), item, HDF_SORTDOWN);
+        EXPECT_EQ(down.At(92, 24), palette::SortArrow);
+        EXPECT_EQ(down.At(83, 5), palette::SortArrow);
+        EXPECT_EQ(down.At(83, 24), Canvas::Untouched);
+    }
+    Canvas none(120, 40);
+    header.DrawOBSortArrow(&none.DC(), item, HDF_STRING);
+    header.DrawStdSortArrow(&none.DC(), item, HDF_SORTUP); // the application has no bitmaps
+    header.DrawOBSortArrow(nullptr, item, HDF_SORTUP);
+    EXPECT_TRUE(none.IsUntouched());
+}
+
+TEST_F(ListCtrlOnBoard, TheStripStandsOverTheShiftedColumns)
+{
+    auto& list = AddList(50, 8);
+    list.SetExtendedStyle(LVS_EX_GRIDLINES);
+    for (int step = 0; step < 4; ++step)
+    {
+        list.PerformHScroll(SB_LINERIGHT);
+        PumpAll();
+        const Pixels picture = WindowPixels(list);
+        const int y = list.HeaderRect().bottom;
+        const CPoint origin = ClientPoint(list, CPoint(0, 0)) - WindowRectOf(list).TopLeft();
+        list.GetVerticalDivides(8);
+        for (const int x : list.m_gridLines.Positions())
+        {
+            if (x > 0 && x < ClientRectOf(list).right - 1)
+            {
+                EXPECT_EQ(picture.At(origin.x + x, origin.y + 2), RGB(0, 0, 0)) << x;
+                EXPECT_EQ(picture.At(origin.x + x, origin.y + y + 3),
+                          ::GetSysColor(COLOR_GRAYTEXT))
+                    << x;
+            }
+        }
+        list.ExpectInStep("scrolled sideways");
+    }
+    // A click on a column that has come in from the right is a click on that column.
+    Host().Forget();
+    CRect item;
+    list.m_header.GetItemRect(5, &item);
+    int clicked = -1;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(LVN_COLUMNCLICK))
+        {
+            clicked = reinterpret_cast<const NMLISTVIEW*>(told.lParam)->iSubItem;
+        }
+    };
+    Click(ClientPoint(list, CPoint(item.CenterPoint().x + list.m_drawOffset.x, 8)));
+    EXPECT_EQ(clicked, 5);
+    Host().hook = nullptr;
+}
+
+TEST_F(ListCtrlOnBoard, ADividerIsTakenLessThanTenPixelsAway)
+{
+    auto& list = AddList(20);
+    struct
+    {
+        int dx;
+        bool taken;
+    } const table[] = {{-10, false}, {-9, true}, {0, true}, {9, true}, {10, false}};
+    for (const auto& row : table)
+    {
+        MoveTo(list.DividerPoint(0, row.dx));
+        const HCURSOR wanted = ::LoadCursor(nullptr, row.taken ? IDC_SIZEWE : IDC_ARROW);
+        EXPECT_EQ(::GetCursor(), wanted) << row.dx;
+        Press();
+        EXPECT_EQ(list.m_header.IsHotTracking(), row.taken) << row.dx;
+        Release();
+        EXPECT_FALSE(list.m_header.IsHotTracking());
+        EXPECT_EQ(list.GetColumnWidth(0), 102) << "a press alone resizes nothing";
+    }
+}
+
+TEST_F(ListCtrlOnBoard, ADividerIsDraggedAlsoWithTheListScrolledSideways)
+{
+    auto& list = AddList(40, 8);
+    for (const int steps : {0, 3})
+    {
+        for (int step = 0; step < steps; ++step)
+        {
+            list.PerformHScroll(SB_LINERIGHT);
+        }
+        PumpAll();
+        const int column = steps == 0 ? 1 : 3;
+        MessageLog log(list, {WM_NOTIFY});
+        std::vector<UINT> codes;
+        const CPoint from = list.DividerPoint(column);
+        MoveTo(from);
+        Press();
+        DragTo(from + CPoint(25, 0), 3);
+        EXPECT_TRUE(list.m_header.IsHotTracking());
+        EXPECT_EQ(::GetCapture(), list.m_header.GetSafeHwnd());
+        EXPECT_GE(log.Count(WM_NOTIFY), 3) << "the list is told of each move";
+        EXPECT_EQ(list.GetColumnWidth(column), 102) << "not yet";
+        // The line at the pointer, in list and header.
+        PumpAll();
+        CPoint pointer = from + CPoint(25, 0);
+        list.ScreenToClient(&pointer);
+        const CPoint origin = ClientPoint(list, CPoint(0, 0)) - WindowRectOf(list).TopLeft();
+        const Pixels picture = WindowPixels(list);
+        EXPECT_EQ(picture.At(origin.x + pointer.x, origin.y + 200), RGB(0, 0, 0));
+        EXPECT_EQ(picture.At(origin.x + pointer.x, origin.y + 2), RGB(0, 0, 0));
+        Release();
+        EXPECT_EQ(list.GetColumnWidth(column), 127);
+        EXPECT_EQ(::GetCapture(), nullptr);
+        list.ExpectInStep("dragged");
+    }
+}
+
+TEST_F(ListCtrlOnBoard, TheLeastWidthHoldsInADrag)
+{
+    auto& list = AddList(10);
+    list.SetMinColWidth(40);
+    const CPoint from = list.DividerPoint(0);
+    Drag(from, from - CPoint(102 - 30, 0));
+    EXPECT_EQ(list.GetColumnWidth(0), 68);
+    const CPoint again = list.DividerPoint(0);
+    Drag(again, again - CPoint(400, 0)); // out of the list
+    EXPECT_EQ(list.GetColumnWidth(0), 68);
+}
+
+TEST_F(ListCtrlTest, TheLeastWidthHoldsInTheStandardModeToo)
+{
+    auto& list = AddList(10);
+    list.SetMinColWidth(40);
+    const CPoint from = list.DividerPoint(0);
+    Drag(from, from - CPoint(50, 0));
+    EXPECT_EQ(list.GetColumnWidth(0), 40);
+    HDITEM item = {};
+    item.mask = HDI_WIDTH;
+    for (const int code : {HDN_ENDTRACKA, HDN_ENDTRACKW})
+    {
+        item.cxy = 12;
+        NMHEADER told = {};
+        told.hdr = {list.m_header.GetSafeHwnd(), 0, UINT(code)};
+        told.pitem = &item;
+        list.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&told));
+        EXPECT_EQ(item.cxy, 40);
+    }
+}
+
+TEST_F(ListCtrlTest, ADoubleClickOnADividerGivesTheHeadingsWidth)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        auto& list = AddList(10);
+        for (const int row : {0, 5})
+        {
+            list.SetItemText(row, 0, "i");
+        }
+        list.SetColumnWidth(0, 150);
+        list.SetColumnWidth(1, LVSCW_AUTOSIZE_USEHEADER);
+        const int heading = list.GetColumnWidth(1);
+        const CPoint point = list.DividerPoint(0, -2);
+        Click(point);
+        Press();
+        Release();
+        EXPECT_EQ(list.GetColumnWidth(0), heading) << APPMODE_NAMES[mode];
+        Remove(list);
+    }
+}
+
+TEST_F(ListCtrlOnBoard, LosingTheCaptureEndsADragWithoutAWidth)
+{
+    auto& list = AddList(10);
+    const CPoint from = list.DividerPoint(0);
+    MoveTo(from);
+    Press();
+    DragTo(from + CPoint(30, 0));
+    ::ReleaseCapture();
+    EXPECT_FALSE(list.m_header.IsHotTracking());
+    Release();
+    EXPECT_EQ(list.GetColumnWidth(0), 102);
+}
+
+TEST_F(ListCtrlOnBoard, AColumnMayVanishUnderADragAndTheListInTheMiddleOfIt)
+{
+    for (const bool wholeList : {false, true})
+    {
+        auto& list = AddList(10, 4);
+        const CPoint from = list.DividerPoint(2);
+        MoveTo(from);
+        Press();
+        if (wholeList)
+        {
+            list.DestroyWindow();
+        }
+        else
+        {
+            list.DeleteColumn(3);
+            list.DeleteColumn(2);
+        }
+        DragTo(from + CPoint(30, 0));
+        Release();
+        EXPECT_EQ(::GetCapture(), nullptr);
+        Remove(list);
+    }
+}
+
+TEST_F(ListCtrlOnBoard, TheHotDividerIsNextToTheItemUnderThePoint)
+{
+    auto& list = AddList(10, 4);
+    CHeaderCtrl& header = list.m_header;
+    EXPECT_EQ(header.SetHotDivider(2), 2);
+    EXPECT_EQ(header.SetHotDivider(CPoint(20, 5)), 0);
+    EXPECT_EQ(header.SetHotDivider(CPoint(90, 5)), 1);
+    EXPECT_EQ(header.SetHotDivider(CPoint(102 + 90, 5)), 2);
+    EXPECT_EQ(header.SetHotDivider(CPoint(-5, 5)), -1);
+    list.m_header.OBScrollHeader(-100, TRUE);
+    EXPECT_EQ(header.SetHotDivider(CPoint(50, 5)), 1) << "column 1 begins at 2";
+    list.m_header.OBResetScroll(TRUE);
+    EXPECT_EQ(HeaderAccess::Offset(list.m_header), CPoint(0, 0));
+}
+
+TEST_F(ListCtrlTest, AHeaderLivesWithoutAList)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        auto& header = Add<HeaderForTests>(CRect(20, 20, 420, 50), HDS_BUTTONS);
+        header.AddItem("One", 100);
+        header.AddItem("Two", 100);
+        PumpAll();
+        MessageLog log(Host(), {LVM_SETCOLUMNWIDTH, LVM_GETCOLUMNWIDTH});
+        header.OBScrollHeader(-50, TRUE);
+        header.OBResetScroll(TRUE);
+        header.RepositionHeaderStrip();
+        Drag(ClientPoint(header, CPoint(100, 10)), ClientPoint(header, CPoint(140, 10)));
+        CRect item;
+        header.GetItemRect(0, &item);
+        EXPECT_EQ(item.Width(), 140) << APPMODE_NAMES[mode];
+        Click(ClientPoint(header, CPoint(139, 10)));
+        Press();
+        Release();
+        EXPECT_EQ(log.All().size(), 0U) << "nobody else's columns are touched";
+        Remove(header);
+    }
+    HeaderForTests none; // no window at all
+    none.OBScrollHeader(5, TRUE);
+    none.RepositionHeaderStrip();
+    EXPECT_FALSE(none.IsHotTracking());
+}

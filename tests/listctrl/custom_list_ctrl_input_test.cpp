@@ -1,0 +1,452 @@
+// Real presses, holds, drags, turns, keys and clicks on a report list, and what a parent may do in
+// the middle of them.
+
+#include "listctrl/list_for_tests.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+constexpr auto First = CFauxScrollBar::PRESSED_FIRST;
+constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
+constexpr auto BeforeThumb = CFauxScrollBar::PRESSED_BEFORE_THUMB;
+constexpr auto AfterThumb = CFauxScrollBar::PRESSED_AFTER_THUMB;
+constexpr auto Thumb = CFauxScrollBar::PRESSED_THUMB;
+
+} // namespace
+
+TEST_F(ListCtrlTest, EveryOnBoardModeScrollsByPointerAndWheel)
+{
+    for (const APPMODE mode : {FULLSCREEN, ONBOARD, EFB, EFBFS})
+    {
+        const ModeScope scope(mode);
+        auto& list = AddList(500, 8);
+        Click(list.PartPoint(Second));
+        EXPECT_EQ(list.TopRow(), 1) << APPMODE_NAMES[mode];
+        Click(list.PartPoint(Second)); // fast enough to be a double click
+        EXPECT_EQ(list.TopRow(), 2);
+        Click(list.PartPoint(First));
+        EXPECT_EQ(list.TopRow(), 1);
+        const CRect second = list.m_vBar.GetPartArea(Second);
+        Click(WindowPoint(list, CPoint(second.CenterPoint().x, second.top - 10)));
+        EXPECT_EQ(list.TopRow(), 1 + list.m_vBar.GetPageSize()) << "trough";
+        const CRect first = list.m_vBar.GetPartArea(First);
+        list.PerformVScroll(SB_BOTTOM);
+        Click(WindowPoint(list, CPoint(first.CenterPoint().x, first.bottom + 10)));
+        EXPECT_EQ(list.TopRow(), list.Maximum(SB_VERT) - list.m_vBar.GetPageSize());
+        list.PerformVScroll(SB_TOP);
+        Wheel(-WHEEL_DELTA);
+        EXPECT_EQ(list.TopRow(), 1);
+        Wheel(-60);
+        EXPECT_EQ(list.TopRow(), 1) << "half a notch is not enough";
+        Wheel(-60);
+        EXPECT_EQ(list.TopRow(), 2);
+        Wheel(WHEEL_DELTA * 3);
+        EXPECT_EQ(list.TopRow(), 1) << "a turn of any size is one row";
+        Click(list.PartPoint(Second, SB_HORZ));
+        EXPECT_EQ(list.m_drawOffset.x, -(ClientRectOf(list).Width() / 10));
+        Click(list.PartPoint(First, SB_HORZ));
+        EXPECT_EQ(list.m_drawOffset.x, 0);
+        list.ExpectInStep(APPMODE_NAMES[mode]);
+        Remove(list);
+    }
+}
+
+TEST_F(ListCtrlOnBoard, AHeldArrowWaitsThenRepeatsToTheEndOfTheList)
+{
+    auto& list = AddList(30);
+    MoveTo(list.PartPoint(Second));
+    Press();
+    EXPECT_EQ(list.TopRow(), 1);
+    PumpFor(200);
+    EXPECT_EQ(list.TopRow(), 1) << "the first repeat comes after 300 ms";
+    const int end = list.Maximum(SB_VERT);
+    ASSERT_TRUE(PumpUntil([&] { return list.TopRow() == end; }, 6000));
+    PumpFor(300);
+    EXPECT_EQ(list.TopRow(), end);
+    // All rows are to be seen there.
+    EXPECT_LE(list.RowPoint(29).y, ClientRectOf(list).bottom);
+    Release();
+    PumpFor(200);
+    MessageLog log(list, {WM_TIMER});
+    PumpFor(300);
+    EXPECT_EQ(log.Count(WM_TIMER), 0);
+    list.ExpectInStep("at the end");
+}
+
+TEST_F(ListCtrlOnBoard, ThePressedArrowAndOnlyTheLeftOnesAreHeld)
+{
+    auto& list = AddList(100, 8);
+    MoveTo(list.PartPoint(First, SB_HORZ));
+    Press();
+    EXPECT_TRUE(list.m_pressed);
+    Release();
+    EXPECT_FALSE(list.m_pressed);
+    MoveTo(list.PartPoint(Second, SB_HORZ));
+    const Pixels before = WindowPixels(list);
+    Press();
+    EXPECT_FALSE(list.m_pressed) << "the right arrow is not";
+    const CRect arrow = list.m_hBar.GetPartArea(Second);
+    const Pixels held = WindowPixels(list);
+    EXPECT_NE(held.At(arrow.left + 8, arrow.top + 8), before.At(arrow.left + 8, arrow.top + 8));
+    ASSERT_TRUE(PumpUntil([&] { return list.m_hBar.GetScrollPos() >= 3; })) << "it repeats";
+    Release();
+}
+
+TEST_F(ListCtrlOnBoard, TheThumbIsDraggedFromEndToEnd)
+{
+    auto& list = AddList(5000, 8);
+    const CPoint grip = list.PartPoint(Thumb) + CPoint(0, 9); // off its middle
+    MoveTo(grip);
+    Press();
+    EXPECT_EQ(list.TopRow(), 0) << "the press alone moves nothing";
+    DragTo(grip + CPoint(0, 40));
+    EXPECT_NEAR(list.TopRow(), 40 / list.m_vBar.GetPixelsPerScroll(), 25);
+    const CRect track = list.m_vBar.GetArea();
+    DragTo(WindowPoint(list, CPoint(track.CenterPoint().x, track.bottom - 5)), 10);
+    EXPECT_GE(list.TopRow(), list.Maximum(SB_VERT) - 2);
+    DragTo(WindowPoint(list, CPoint(track.CenterPoint().x, track.top + 2)), 10);
+    EXPECT_EQ(list.TopRow(), 0);
+    Release();
+    EXPECT_FALSE(list.m_pressed);
+    list.ExpectInStep("dragged");
+
+    const CRect across = list.m_hBar.GetArea();
+    Drag(list.PartPoint(Thumb, SB_HORZ),
+         WindowPoint(list, CPoint(across.right - 5, across.CenterPoint().y)), 10);
+    EXPECT_EQ(list.m_hBar.GetScrollPos(), list.Maximum(SB_HORZ));
+    list.ExpectInStep("sideways");
+    Drag(list.PartPoint(Thumb, SB_HORZ),
+         WindowPoint(list, CPoint(across.left + 3, across.CenterPoint().y)), 10);
+    EXPECT_EQ(list.m_drawOffset.x, 0);
+    // Leaving the band ends a drag.
+    MoveTo(list.PartPoint(Thumb));
+    Press();
+    MoveTo(ClientPoint(Host(), CPoint(700, 500)));
+    ASSERT_TRUE(PumpUntil([&] { return !list.m_pressed; }));
+    Release();
+}
+
+TEST_F(ListCtrlOnBoard, WhateverCutsAPressOffEndsIt)
+{
+    struct
+    {
+        const char* name;
+        void (*cut)(ListForTests&);
+    } const table[] = {{"disabled", [](ListForTests& list) { list.EnableWindow(FALSE); }},
+                       {"hidden", [](ListForTests& list) { list.ShowWindow(SW_HIDE); }},
+                       {"cancelled", [](ListForTests& list) { list.SendMessage(WM_CANCELMODE); }},
+                       {"mode", [](ListForTests& list) {
+                            COnBoardUIGeneral::SetAppMode(STD);
+                            list.SendMessage(WM_NULL);
+                        }}};
+    for (const auto part : {Second, Thumb})
+    {
+        for (const auto& row : table)
+        {
+            auto& list = AddList(500);
+            MoveTo(list.PartPoint(part));
+            Press();
+            ASSERT_TRUE(list.m_pressed) << row.name;
+            row.cut(list);
+            EXPECT_FALSE(list.m_pressed) << row.name;
+            const CPoint offset = list.m_drawOffset;
+            MoveTo(ClientPoint(list, CPoint(100, 100)));
+            PumpFor(350);
+            EXPECT_EQ(list.m_drawOffset, offset) << row.name;
+            Release();
+            COnBoardUIGeneral::SetAppMode(ONBOARD);
+            Remove(list);
+        }
+    }
+}
+
+// Keys -------------------------------------------------------------------------------------------
+
+TEST_F(ListCtrlOnBoard, KeysMoveTheFocusAndTheFocusedRowIsInSight)
+{
+    auto& list = AddList(300);
+    list.SetFocus();
+    list.SetItemState(0, 3, 3);
+    const auto expectFocus = [&](int row, UINT key) {
+        EXPECT_EQ(list.Focused(), row) << key;
+        EXPECT_GE(row, list.TopRow()) << key;
+        EXPECT_LE(list.RowPoint(row).y + list.RowHeight() / 2, ClientRectOf(list).bottom) << key;
+        list.ExpectInStep("key");
+    };
+    const int rows = (ClientRectOf(list).Height() - list.HeaderRect().bottom) / list.RowHeight();
+    struct
+    {
+        UINT key;
+        int focus;
+    } const table[] = {{VK_DOWN, 1},
+                       {VK_NEXT, rows - 1},
+                       {VK_NEXT, 2 * rows - 2},
+                       {VK_DOWN, 2 * rows - 1},
+                       {VK_PRIOR, rows},
+                       {VK_PRIOR, 1},
+                       {VK_UP, 0},
+                       {VK_END, 299},
+                       {VK_NEXT, 299},
+                       {VK_UP, 298},
+                       {VK_HOME, 0},
+                       {VK_PRIOR, 0}};
+    for (const auto& step : table)
+    {
+        TypeKey(step.key);
+        expectFocus(step.focus, step.key);
+        EXPECT_EQ(list.Selected(), std::set<int>{step.focus}) << step.key;
+    }
+    // The first letter of a row.
+    list.SetItemText(250, 0, "Zulu");
+    TypeText("z");
+    expectFocus(250, 'z');
+    // Whatever was scrolled by other means.
+    list.PerformVScroll(SB_TOP);
+    TypeKey(VK_DOWN);
+    expectFocus(251, VK_DOWN);
+}
+
+TEST_F(ListCtrlOnBoard, ShiftAndPagesSelectRanges)
+{
+    auto& list = AddList(300);
+    list.SetFocus();
+    list.SetItemState(0, 3, 3);
+    list.SetSelectionMark(0);
+    TypeKey(VK_NEXT, VK_SHIFT);
+    const int page = list.Focused();
+    EXPECT_GT(page, 5);
+    EXPECT_EQ(int(list.GetSelectedCount()), page + 1);
+    TypeKey(VK_NEXT, VK_SHIFT);
+    EXPECT_EQ(int(list.GetSelectedCount()), list.Focused() + 1);
+    TypeKey(VK_PRIOR, VK_SHIFT);
+    TypeKey(VK_PRIOR, VK_SHIFT);
+    EXPECT_EQ(list.Selected(), std::set<int>{0});
+    TypeKey(VK_NEXT, VK_CONTROL);
+    EXPECT_EQ(list.Selected(), std::set<int>{0}) << "with Ctrl only the focus moves";
+    EXPECT_EQ(list.Focused(), page);
+    // The parent hears of each key once.
+    Host().Forget();
+    TypeKey(VK_NEXT);
+    const auto codes = Host().CodesFrom(WindowTest::FirstId);
+    EXPECT_EQ(std::count(codes.begin(), codes.end(), UINT(LVN_KEYDOWN)), 1);
+}
+
+TEST_F(ListCtrlOnBoard, EnsureVisibleAndScrollMoveTheDrawing)
+{
+    auto& list = AddList(300, 8);
+    EXPECT_TRUE(list.EnsureVisible(200, FALSE));
+    list.ExpectInStep("row 200");
+    EXPECT_LE(list.RowPoint(200).y, ClientRectOf(list).bottom);
+    const int top = list.TopRow();
+    EXPECT_TRUE(list.EnsureVisible(top, FALSE));
+    EXPECT_EQ(list.TopRow(), top) << "it was in sight";
+    EXPECT_FALSE(list.EnsureVisible(300, FALSE));
+    EXPECT_FALSE(list.EnsureVisible(-1, FALSE));
+    list.Scroll(CSize(list.m_scrollUnit.cx, -2 * list.RowHeight()));
+    EXPECT_EQ(list.TopRow(), top - 2);
+    EXPECT_EQ(list.m_hBar.GetScrollPos(), 1);
+    list.Scroll(CSize(INT_MAX, INT_MAX));
+    list.Scroll(CSize(INT_MIN, INT_MIN));
+    EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
+    list.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    list.SendMessage(WM_HSCROLL, SB_LINERIGHT);
+    EXPECT_EQ(list.TopRow(), 1);
+    list.ExpectInStep("messages");
+}
+
+// Clicks -----------------------------------------------------------------------------------------
+
+TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThere)
+{
+    auto& list = AddList(100, 3, ReportStyle | LVS_SINGLESEL);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    list.PerformVScroll(5, 0);
+    std::vector<std::pair<int, bool>> told; // rows that were selected, and whether finally
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == UINT(LVN_ITEMCHANGED))
+        {
+            const auto& change = *reinterpret_cast<const NMLISTVIEW*>(message.lParam);
+            if ((change.uNewState & LVIS_SELECTED) != 0)
+            {
+                told.push_back({change.iItem, list.IsSelChanging() == 0});
+            }
+        }
+    };
+    Click(ClientPoint(list, list.RowPoint(7)));
+    EXPECT_EQ(list.Selected(), std::set<int>{7});
+    EXPECT_EQ(list.Focused(), 7);
+    EXPECT_THAT(told, ElementsAre(std::pair(2, false), std::pair(7, true)));
+    told.clear();
+    Click(ClientPoint(list, list.RowPoint(9)));
+    EXPECT_EQ(list.Selected(), std::set<int>{9});
+    Host().hook = nullptr;
+    // The keyboard goes on from there.
+    TypeKey(VK_DOWN);
+    EXPECT_EQ(list.Selected(), std::set<int>{10});
+    Press(); // on row 9 as a double click
+    Release();
+    list.ExpectInStep("clicks");
+    // Below the last row nothing is selected, and the parent is told of a change all the same.
+    list.PerformVScroll(SB_BOTTOM);
+    Host().Forget();
+    Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
+    EXPECT_EQ(list.GetSelectedCount(), 0U);
+    const auto codes = Host().CodesFrom(WindowTest::FirstId);
+    EXPECT_GE(std::count(codes.begin(), codes.end(), UINT(LVN_ITEMCHANGED)), 2);
+}
+
+TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheScrolledRows)
+{
+    auto& list = AddList(100);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    list.PerformVScroll(20, 0);
+    const auto clickWith = [&](int row, UINT held) {
+        const CPoint point = list.RowPoint(row);
+        MoveTo(ClientPoint(list, point));
+        list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | held, MAKELPARAM(point.x, point.y));
+        list.SendMessage(WM_LBUTTONUP, held, MAKELPARAM(point.x, point.y));
+        PumpAll();
+    };
+    clickWith(22, 0);
+    EXPECT_EQ(list.Selected(), std::set<int>{22});
+    clickWith(25, MK_SHIFT);
+    EXPECT_EQ(list.Selected(), (std::set<int>{22, 23, 24, 25}));
+    clickWith(24, MK_CONTROL);
+    EXPECT_EQ(list.Selected(), (std::set<int>{22, 23, 25}));
+    clickWith(28, MK_CONTROL);
+    EXPECT_EQ(list.Selected(), (std::set<int>{22, 23, 25, 28}));
+    clickWith(23, 0);
+    EXPECT_EQ(list.Selected(), std::set<int>{23});
+}
+
+// Bad input and parents that act -------------------------------------------------------------------
+
+TEST_F(ListCtrlOnBoard, ValuesOutOfRangeAreAnsweredAndHarmless)
+{
+    auto& list = AddList(50, 4);
+    list.SetMinColWidth(40);
+    list.SetMinColWidth(-5);
+    EXPECT_EQ(list.GetMinColWidth(), 40);
+    for (const int column : {-1, 4, INT_MAX, INT_MIN})
+    {
+        EXPECT_FALSE(list.DeleteColumn(column));
+        list.SetColumnWidth(column, 100);
+    }
+    for (const int width : {-30000, -3, 0, 32767})
+    {
+        list.SetColumnWidth(1, width);
+        PumpAll();
+        list.ExpectInStep("width");
+    }
+    LVCOLUMN column = {};
+    column.mask = LVCF_WIDTH;
+    for (const int width : {INT_MIN, -2, INT_MAX})
+    {
+        column.cx = width;
+        list.InsertColumn(1, &column);
+        PumpAll();
+        list.DeleteColumn(1);
+    }
+    list.SendMessage(LVM_INSERTCOLUMN, 0, 0);
+    for (const int row : {-1, 50, INT_MAX, INT_MIN})
+    {
+        EXPECT_FALSE(list.DeleteItem(row));
+        list.SetItemText(row, 0, "x");
+        list.RedrawItems(row, row);
+    }
+    list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+    EXPECT_EQ(list.GetSelectedCount(), 50U);
+    for (const int position : {INT_MAX, INT_MIN})
+    {
+        list.PerformVScroll(position, 0);
+        list.PerformHScroll(position, 0);
+        PumpAll();
+    }
+    list.SetWindowPos(nullptr, 0, 0, 3, 3, SWP_NOMOVE | SWP_NOZORDER);
+    list.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOZORDER);
+    list.SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER);
+    PumpAll();
+    list.ExpectInStep("small and large again");
+}
+
+TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
+{
+    struct
+    {
+        const char* name;
+        void (*act)(ListForTests&);
+    } const acts[] = {{"destroyed", [](ListForTests& list) { list.DestroyWindow(); }},
+                      {"rows gone", [](ListForTests& list) { list.DeleteAllItems(); }},
+                      {"columns gone",
+                       [](ListForTests& list) {
+                           while (list.DeleteColumn(0))
+                           {}
+                       }},
+                      {"other mode", [](ListForTests&) { COnBoardUIGeneral::SetAppMode(STD); }}};
+    for (const auto& act : acts)
+    {
+        for (const UINT code : {UINT(LVN_ITEMCHANGED), UINT(LVN_KEYDOWN), UINT(LVN_INSERTITEM),
+                                UINT(LVN_COLUMNCLICK), UINT(NM_CLICK)})
+        {
+            auto& list = AddList(100, 8);
+            list.SetFocus();
+            list.SetItemState(0, 3, 3);
+            list.PerformVScroll(SB_PAGEDOWN);
+            bool done = false;
+            Host().hook = [&](ToldMessage& told) {
+                if (told.code == code && !done)
+                {
+                    done = true;
+                    act.act(list);
+                }
+            };
+            if (code == UINT(LVN_INSERTITEM))
+            {
+                list.InsertItem(0, "new");
+            }
+            else if (code == UINT(LVN_COLUMNCLICK))
+            {
+                Click(ClientPoint(list, CPoint(40, 8)));
+            }
+            else if (code == UINT(LVN_KEYDOWN))
+            {
+                TypeKey(VK_NEXT);
+            }
+            else
+            {
+                Click(ClientPoint(list, list.RowPoint(list.TopRow() + 2)));
+            }
+            PumpAll();
+            EXPECT_TRUE(done) << act.name << " " << int(code);
+            Host().hook = nullptr;
+            if (list.GetSafeHwnd() != nullptr && COnBoardUIGeneral::InOnBoardMode() &&
+                list.GetItemCount() > 0 && list.m_header.GetItemCount() > 0)
+            {
+                list.ExpectInStep(act.name);
+            }
+            Remove(list);
+            COnBoardUIGeneral::SetAppMode(ONBOARD);
+        }
+    }
+}
+
+TEST_F(ListCtrlOnBoard, AParentMayEndTheListWhileItIsPainted)
+{
+    auto& list = Add<ListForTests>(CRect(20, 20, 420, 420), ReportStyle | LVS_OWNERDATA);
+    list.AddColumns(2);
+    int asked = 0;
+    Host().hook = [&](ToldMessage& told) {
+        if ((told.code == UINT(LVN_GETDISPINFOA) || told.code == UINT(LVN_GETDISPINFOW)) &&
+            ++asked == 5)
+        {
+            list.DestroyWindow();
+        }
+    };
+    list.SetItemCount(100);
+    PumpAll();
+    EXPECT_EQ(list.GetSafeHwnd(), nullptr);
+    Host().hook = nullptr;
+}
