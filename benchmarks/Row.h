@@ -28,6 +28,7 @@ std::vector<Row> AllRows();
 
 std::vector<Row> ListBoxRows();
 std::vector<Row> ComboRows();
+std::vector<Row> ListCtrlRows();
 std::vector<Row> EditRows();
 std::vector<Row> ButtonRows();
 std::vector<Row> ScrollBarRows();

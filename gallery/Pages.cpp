@@ -13,6 +13,7 @@
 #include "MessageBoxPage.h"
 #include "SearchBarPage.h"
 #include "TreesPage.h"
+#include "ReportListPage.h"
 
 namespace {
 
@@ -38,6 +39,8 @@ constexpr PageEntry AllPages[] = {
     {"list-boxes", "List boxes", &Make<ListBoxPage>},   {"buttons", "Buttons", &Make<ButtonsPage>},
     {"labels", "Labels and groups", &Make<LabelsPage>}, {"edits", "Edits", &Make<EditsPage>},
     {"dialogs", "Dialogs", &Make<DialogsPage>},         {"trees", "Trees", &Make<TreesPage>},
+    {"dialogs", "Dialogs", &Make<DialogsPage>},
+    {"reportlist", "Report list", &Make<ReportListPage>},
 };
 // clang-format on
 

@@ -36,6 +36,10 @@
 // Controls of a page; each page counts its own from here.
 #define IDC_PAGE_FIRST 1000
 
+// The numbers under which the library looks for them.
+#define IDB_SORT_ASCENDING 10017
+#define IDB_SORT_DESCENDING 10018
+
 // One command for each display mode, in the order of their values.
 #define ID_MODE_FIRST 40000
 #define ID_MODE_LAST 40004

@@ -322,7 +322,8 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheScrolledRows)
     EXPECT_EQ(list.Selected(), std::set<int>{23});
 }
 
-// Bad input and parents that act -------------------------------------------------------------------
+// Bad input and parents that act
+// -------------------------------------------------------------------
 
 TEST_F(ListCtrlOnBoard, ValuesOutOfRangeAreAnsweredAndHarmless)
 {

@@ -1,7 +1,7 @@
 // What a report list shows: frame, ranges, painting, and following mode, rows and columns.
 
-#include "listctrl/list_for_tests.h"
 #include "listctrl/ListLayout.h"
+#include "listctrl/list_for_tests.h"
 #include "paint/Palette.h"
 
 #include <gmock/gmock.h>
@@ -39,8 +39,8 @@ TEST(ListLayout, RangesAndTargets)
         bool down;
         int focus;
         int target;
-    } const pages[] = {{true, 22, 29}, {true, 29, 38}, {true, 98, 99}, {true, 5, 14},
-                       {false, 22, 20}, {false, 20, 11}, {false, 3, 0}, {true, 99, 99}};
+    } const pages[] = {{true, 22, 29},  {true, 29, 38},  {true, 98, 99}, {true, 5, 14},
+                       {false, 22, 20}, {false, 20, 11}, {false, 3, 0},  {true, 99, 99}};
     for (const auto& page : pages)
     {
         EXPECT_EQ(listctrl::PageTarget(page.down, page.focus, 20, 10, 100), page.target)
@@ -254,15 +254,13 @@ TEST_F(ListCtrlOnBoard, CellsShowTextSelectionAndEndAtTheDivider)
         EXPECT_EQ(picture.At(300, y), Canvas::Untouched);
         EXPECT_EQ(picture.At(0, y - height), Canvas::Untouched) << "row 5 is not selected";
         EXPECT_TRUE(HasText(picture, CRect(0, top, divider, top + height), palette::FieldText));
-        EXPECT_TRUE(HasText(picture, CRect(0, y, divider, y + height - 1),
-                            palette::HighlightText));
-        EXPECT_TRUE(HasText(picture, CRect(divider, y, 204, y + height - 1),
-                            palette::HighlightText));
+        EXPECT_TRUE(HasText(picture, CRect(0, y, divider, y + height - 1), palette::HighlightText));
+        EXPECT_TRUE(
+            HasText(picture, CRect(divider, y, 204, y + height - 1), palette::HighlightText));
         // As many rows as the rectangle is high, from the first on.
         const int end = client.bottom / height;
-        EXPECT_EQ(picture.Count(palette::FieldText,
-                                CRect(0, top + end * height, 300, client.bottom)),
-                  0);
+        EXPECT_EQ(
+            picture.Count(palette::FieldText, CRect(0, top + end * height, 300, client.bottom)), 0);
         Remove(list);
     }
     auto& single = AddList(3, 1);
@@ -415,8 +413,7 @@ TEST_F(ListCtrlTest, SwitchingModesKeepsTopRowAndSelectionInSight)
         list.SetFont(mode == STD ? &CCustomListCtrl::GetStdFont()
                                  : &CCustomListCtrl::GetOnBoardFont());
         const int height = mode == STD ? 300 : before == STD ? 510 : 510;
-        list.SetWindowPos(nullptr, 0, 0, 400, height,
-                          SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED);
+        list.SetWindowPos(nullptr, 0, 0, 400, height, SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED);
         PumpAll();
         const int top = mode == STD ? list.GetTopIndex() : list.TopRow();
         EXPECT_EQ(top, 40) << APPMODE_NAMES[mode];
