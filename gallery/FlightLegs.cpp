@@ -7,10 +7,10 @@
 namespace legs {
 
 const Column Columns[ColumnCount] = {
-    {"Flight", 58, LVCFMT_LEFT}, {"From", 44, LVCFMT_LEFT},     {"To", 44, LVCFMT_LEFT},
-    {"Type", 44, LVCFMT_LEFT},   {"Aircraft", 60, LVCFMT_LEFT}, {"Off", 42, LVCFMT_LEFT},
-    {"On", 42, LVCFMT_LEFT},     {"Block", 46, LVCFMT_LEFT},    {"Miles", 46, LVCFMT_LEFT},
-    {"Level", 46, LVCFMT_LEFT},  {"Fuel", 52, LVCFMT_LEFT},     {"Status", 60, LVCFMT_LEFT},
+    {"Flight", 58, LVCFMT_LEFT}, {"From", 52, LVCFMT_LEFT},     {"To", 52, LVCFMT_LEFT},
+    {"Type", 50, LVCFMT_LEFT},   {"Aircraft", 70, LVCFMT_LEFT}, {"Off", 54, LVCFMT_LEFT},
+    {"On", 50, LVCFMT_LEFT},     {"Block", 52, LVCFMT_LEFT},    {"Miles", 52, LVCFMT_LEFT},
+    {"Level", 52, LVCFMT_LEFT},  {"Fuel", 56, LVCFMT_LEFT},     {"Status", 70, LVCFMT_LEFT},
 };
 
 namespace {

@@ -2,6 +2,8 @@
 
 #include "resource.h"
 
+#include <CustomStatic.h>
+
 namespace {
 
 constexpr UINT FirstId = IDC_PAGE_FIRST;
@@ -125,8 +127,18 @@ void ReportListPage::AddSwitch(int control, CCustomCheckBox& box)
     const ReportPlace& place = Places[control];
     box.Create(place.caption, BS_AUTOCHECKBOX | WS_CHILD | WS_VISIBLE | WS_TABSTOP, place.design,
                this, FirstId + UINT(control));
+    box.SetFont(&CCustomStatic::GetStdFont());
+    m_on[control - ListCount] = true;
     box.SetCheck(BST_CHECKED);
     Place(box, place.design);
+}
+
+void ReportListPage::OnLaidOut()
+{
+    for (int index = 0; index < ControlCount - ListCount; ++index)
+    {
+        m_switches[index].SetCheck(m_on[index] ? BST_CHECKED : BST_UNCHECKED);
+    }
 }
 
 void ReportListPage::FillFlights()
@@ -165,8 +177,8 @@ void ReportListPage::SortBy(int column, bool descending)
 
 void ReportListPage::ApplySwitches()
 {
-    const bool grid = m_switches[0].GetCheck() == BST_CHECKED;
-    const bool fullRow = m_switches[1].GetCheck() == BST_CHECKED;
+    const bool grid = m_on[GridSwitch - ListCount];
+    const bool fullRow = m_on[FullRowSwitch - ListCount];
     for (CCustomListCtrl& list : m_lists)
     {
         list.SetExtendedStyle((grid ? LVS_EX_GRIDLINES : 0U) |
@@ -239,5 +251,9 @@ void ReportListPage::OnGetDispInfo(NMHDR* header, LRESULT* result)
 
 void ReportListPage::OnSwitch(UINT)
 {
+    for (int index = 0; index < ControlCount - ListCount; ++index)
+    {
+        m_on[index] = m_switches[index].GetCheck() == BST_CHECKED;
+    }
     ApplySwitches();
 }

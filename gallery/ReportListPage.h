@@ -18,6 +18,7 @@ public:
 protected:
     void CreateContent() override;
     bool FillsPage() const override { return true; }
+    void OnLaidOut() override;
 
     afx_msg void OnItemChanged(UINT id, NMHDR* header, LRESULT* result);
     afx_msg void OnDoubleClick(UINT id, NMHDR* header, LRESULT* result);
@@ -49,6 +50,7 @@ private:
 
     CCustomListCtrl m_lists[ListCount];
     CCustomCheckBox m_switches[ControlCount - ListCount];
+    bool m_on[ControlCount - ListCount] = {};
     int m_sortColumn = -1;
     bool m_descending = false;
 };

@@ -132,6 +132,7 @@ protected:
     afx_msg void OnTimer(UINT_PTR id);
     // Takes the header that exists by now.
     afx_msg LRESULT OnSubclassCustomHeader(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInsertColumn(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteColumn(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetColumnWidth(WPARAM wParam, LPARAM lParam);
@@ -208,7 +209,11 @@ private:
     bool m_following = false;
     bool m_settling = false;
     bool m_fitting = false;
-    DWORD m_platformBars = 0; // scroll bar styles to give back in the standard mode
+    bool m_filling = false;     // the platform's redraw is off while rows are added in a row
+    bool m_endPosted = false;   // a message that ends the filling is on its way
+    bool m_hostRedraw = true;   // the host's WM_SETREDRAW
+    bool m_redrawKnown = false; // that the platform's redraw is the host's
+    DWORD m_platformBars = 0;   // scroll bar styles to give back in the standard mode
     bool m_leaveRequested = false;
     CFauxScrollBar::ePRESSED m_heldPart = CFauxScrollBar::PRESSED_NONE;
     int m_fittedColumn = -1; // the last column, once it fills the list
@@ -261,6 +266,8 @@ private:
     int HeadingWidth(int column);
     void FitLastColumn();
     void HoldPlatform();
+    bool FollowFilling(UINT message);
+    void EndFilling();
     void KeepInStep(UINT message);
     void UpdateScrollData();
     Measured Measure();

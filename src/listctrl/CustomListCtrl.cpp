@@ -1,4 +1,4 @@
-// The report list: fonts, life, frame, and following the display mode.
+// The report list: fonts, life, frame and messages.
 
 #include "CustomListCtrl.h"
 
@@ -52,6 +52,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_WM_HSCROLL()
     ON_WM_TIMER()
     ON_MESSAGE(SubclassHeaderMessage, &CCustomListCtrl::OnSubclassCustomHeader)
+    ON_MESSAGE(WM_SETREDRAW, &CCustomListCtrl::OnSetRedraw)
     ON_MESSAGE(LVM_INSERTCOLUMNA, &CCustomListCtrl::OnInsertColumn)
     ON_MESSAGE(LVM_INSERTCOLUMNW, &CCustomListCtrl::OnInsertColumn)
     ON_MESSAGE(LVM_DELETECOLUMN, &CCustomListCtrl::OnDeleteColumn)
@@ -188,6 +189,10 @@ void CCustomListCtrl::ForgetWindow()
     m_following = false;
     m_settling = false;
     m_fitting = false;
+    m_filling = false;
+    m_endPosted = false;
+    m_hostRedraw = true;
+    m_redrawKnown = false;
     m_platformBars = 0;
     m_fittedColumn = -1;
     m_columnWidths.clear();
@@ -223,6 +228,7 @@ int CCustomListCtrl::OnCreate(LPCREATESTRUCT cs)
     if (alive)
     {
         m_creating = false;
+        m_redrawKnown = true; // a list made by us paints at once
         Ask(CCM_SETVERSION, WPARAM(CommonControlsVersion));
         TakeHeader();
         if (COnBoardUIGeneral::InOnBoardMode())
@@ -274,7 +280,7 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (!IsTooEarly(message))
     {
         FollowMode();
-        if (!alive)
+        if (!alive || !FollowFilling(message))
         {
             return 0;
         }
@@ -289,160 +295,6 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         KeepInStep(message);
     }
     return result;
-}
-
-// Following the display mode --------------------------------------------------------------------
-
-// Lays the window out for the mode of the moment when it is still laid out for the other kind.
-// Returns whether it is laid out for an on-board mode.
-bool CCustomListCtrl::FollowMode()
-{
-    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if (onBoard == m_onBoard || m_following || m_creating || GetSafeHwnd() == nullptr)
-    {
-        return InOnBoard();
-    }
-    const WindowAlive alive(*this);
-    m_following = true;
-    m_view = CurrentView();
-    m_onBoard = onBoard;
-    if (onBoard)
-    {
-        EnterOnBoard();
-    }
-    else
-    {
-        LeaveOnBoard();
-    }
-    if (!alive)
-    {
-        return false;
-    }
-    m_following = false;
-    return InOnBoard();
-}
-
-void CCustomListCtrl::EnterOnBoard()
-{
-    const WindowAlive alive(*this);
-    m_wheel = 0;
-    m_resizePending = true;
-    m_measured = Measured();
-    StripBars();
-    TakeHeader();
-    HoldPlatform();
-    if (alive)
-    {
-        ScalePlatformColumns(true);
-    }
-    if (alive)
-    {
-        RelayoutFrame();
-    }
-    if (alive)
-    {
-        ReCheckScrollBars();
-    }
-    if (alive)
-    {
-        RestoreView();
-    }
-    if (alive)
-    {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
-    }
-}
-
-void CCustomListCtrl::LeaveOnBoard()
-{
-    const WindowAlive alive(*this);
-    EndTracking();
-    for (const int axis : {SB_VERT, SB_HORZ})
-    {
-        Bar(axis).ShowScrollBar(FALSE);
-        Bar(axis).SetScrollRange(0, 0);
-    }
-    m_drawOffset = CPoint(0, 0);
-    m_furtherOffset = CPoint(0, 0);
-    m_fittedColumn = -1;
-    m_resizePending = true;
-    m_header.OBResetScroll(FALSE);
-    ScalePlatformColumns(false);
-    if (!alive)
-    {
-        return;
-    }
-    scroll::RestoreScrollStyles(*this, m_platformBars);
-    m_platformBars = 0;
-    RelayoutFrame();
-    if (alive)
-    {
-        RestoreView();
-    }
-    if (alive)
-    {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-    }
-}
-
-void CCustomListCtrl::RelayoutFrame()
-{
-    const WindowAlive alive(*this);
-    scroll::RecalculateFrame(*this, false);
-    if (alive)
-    {
-        // The platform's list lays itself out again when its size is told.
-        CRect client;
-        GetClientRect(&client);
-        Ask(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
-    }
-}
-
-void CCustomListCtrl::StripBars()
-{
-    m_platformBars |= scroll::StripScrollStyles(*this);
-}
-
-// The row at the top, and a selected row in sight: the one with the focus before others.
-CCustomListCtrl::View CCustomListCtrl::CurrentView()
-{
-    View view = {m_onBoard ? TopRow() : int(Ask(LVM_GETTOPINDEX)), -1};
-    const int rows = m_onBoard ? RowsInSight() : int(Ask(LVM_GETCOUNTPERPAGE));
-    const int end = std::min(view.top + rows, GetItemCount());
-    const auto selected = [this](int row) {
-        return row >= 0 && Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
-    };
-    const int focus = GetNextItem(-1, LVNI_FOCUSED);
-    if (focus >= view.top && focus < end && selected(focus))
-    {
-        view.selected = focus;
-    }
-    for (int row = view.top; row < end && view.selected == -1; ++row)
-    {
-        view.selected = selected(row) ? row : -1;
-    }
-    return view;
-}
-
-void CCustomListCtrl::RestoreView()
-{
-    CRect first;
-    if (!m_view || !FirstRowRect(first) || first.Height() <= 0)
-    {
-        return;
-    }
-    const int rows = m_onBoard ? RowsInSight() : int(Ask(LVM_GETCOUNTPERPAGE));
-    const int top = m_view->selected == -1
-                        ? m_view->top
-                        : listctrl::TopToShow(m_view->selected, m_view->top, rows);
-    if (m_onBoard)
-    {
-        MoveTo(SB_VERT, top);
-    }
-    else
-    {
-        Ask(LVM_SCROLL, 0, LPARAM(top - int(Ask(LVM_GETTOPINDEX))) * first.Height());
-    }
 }
 
 // Frame -----------------------------------------------------------------------------------------

@@ -1,0 +1,236 @@
+// The report list: its columns, their widths in either kind of mode, and the header's messages.
+
+#include "CustomListCtrl.h"
+#include "OnBoardUIGeneral.h"
+#include "listctrl/ListLayout.h"
+#include "modes/WindowAlive.h"
+#include "paint/GdiGuards.h"
+#include "paint/Metrics.h"
+#include "scroll/NcBands.h"
+
+#include <cstddef>
+#include <cstring>
+#include <utility>
+
+namespace {
+
+// The description of a new column for the platform, with another width. The caller's may be
+// shorter than the structure of today, so only what its mask names is read.
+LVCOLUMN WithWidth(const LVCOLUMN& given, int width)
+{
+    constexpr UINT oldFields = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT | LVCF_SUBITEM;
+    LVCOLUMN column = {};
+    const bool old = (given.mask & ~oldFields) == 0;
+    std::memcpy(&column, &given, old ? offsetof(LVCOLUMN, iImage) : sizeof(column));
+    column.cx = width;
+    return column;
+}
+
+} // namespace
+
+LRESULT CCustomListCtrl::OnInsertColumn(WPARAM wParam, LPARAM lParam)
+{
+    const auto* given = reinterpret_cast<const LVCOLUMN*>(lParam);
+    if (!COnBoardUIGeneral::InOnBoardMode() || given == nullptr)
+    {
+        return Default();
+    }
+    const WindowAlive alive(*this);
+    const bool sized = (given->mask & LVCF_WIDTH) != 0;
+    ColumnWidth width = {sized ? given->cx : 0, sized ? listctrl::OnBoardWidth(given->cx) : 0};
+    const int before = ColumnCount();
+    LVCOLUMN scaled = sized ? WithWidth(*given, width.onBoard) : LVCOLUMN();
+    const bool settling = std::exchange(m_settling, true); // not half way
+    const LRESULT index = Ask(GetCurrentMessage()->message, wParam,
+                              sized ? reinterpret_cast<LPARAM>(&scaled) : lParam);
+    if (alive)
+    {
+        m_settling = settling;
+    }
+    if (!alive || index < 0 || size_t(before) != m_columnWidths.size())
+    {
+        return index;
+    }
+    if (!sized || given->cx < 0)
+    {
+        width.onBoard = GetColumnWidth(int(index));
+        width.standard = listctrl::StandardWidth(width.onBoard);
+    }
+    m_columnWidths.insert(m_columnWidths.begin() + std::min<LRESULT>(index, before), width);
+    // What filled the list is the last column no longer.
+    if (m_fittedColumn != -1 && m_fittedColumn == before - 1)
+    {
+        const bool stillLast = index < before;
+        m_fittedColumn = stillLast ? before : -1;
+        if (!stillLast)
+        {
+            Ask(LVM_SETCOLUMNWIDTH, WPARAM(before - 1),
+                MAKELPARAM(m_columnWidths[size_t(before - 1)].onBoard, 0));
+        }
+    }
+    return index;
+}
+
+LRESULT CCustomListCtrl::OnDeleteColumn(WPARAM wParam, LPARAM)
+{
+    const WindowAlive alive(*this);
+    const LRESULT deleted = Default();
+    if (alive && deleted && wParam < m_columnWidths.size())
+    {
+        m_columnWidths.erase(m_columnWidths.begin() + std::ptrdiff_t(wParam));
+    }
+    if (alive && deleted && m_fittedColumn != -1)
+    {
+        m_fittedColumn = ColumnCount() - 1; // the new last column fills the list
+        m_fittedTo.SetRectEmpty();
+    }
+    return deleted;
+}
+
+LRESULT CCustomListCtrl::OnSetColumnWidth(WPARAM wParam, LPARAM lParam)
+{
+    const int last = ColumnCount() - 1;
+    if (InOnBoard() && last >= 0 && int(wParam) == last &&
+        short(LOWORD(lParam)) == LVSCW_AUTOSIZE_USEHEADER)
+    {
+        m_fittedTo.SetRectEmpty();
+        FitLastColumn();
+        return TRUE;
+    }
+    return Default();
+}
+
+// What a column's heading takes, with its margins and its arrow.
+int CCustomListCtrl::HeadingWidth(int column)
+{
+    const HWND header = HeaderWindow();
+    char text[256] = "";
+    HDITEM item = {};
+    item.mask = HDI_TEXT | HDI_FORMAT;
+    item.pszText = text;
+    item.cchTextMax = sizeof(text);
+    if (header == nullptr ||
+        !::SendMessage(header, HDM_GETITEM, WPARAM(column), reinterpret_cast<LPARAM>(&item)) ||
+        item.pszText == nullptr)
+    {
+        return 0;
+    }
+    CClientDC dc(this);
+    const Selected font(dc, reinterpret_cast<HGDIOBJ>(::SendMessage(header, WM_GETFONT, 0, 0)));
+    const int arrow = (item.fmt & (HDF_SORTUP | HDF_SORTDOWN)) != 0 ? metrics::HeaderArrowRoom : 0;
+    return int(dc.GetTextExtent(item.pszText, ::lstrlen(item.pszText)).cx) +
+           2 * metrics::ListRowMargin + arrow;
+}
+
+// The last column fills what the others leave of the list, and is at least as wide as its heading.
+void CCustomListCtrl::FitLastColumn()
+{
+    const int last = ColumnCount() - 1;
+    CRect column;
+    if (last < 0 || m_fitting || !HeaderItemRect(last, column))
+    {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    const CRect fitted(column.left, 0, column.right, client.Width());
+    if (m_fittedColumn == last && fitted == m_fittedTo)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    m_fitting = true;
+    m_fittedColumn = last;
+    Ask(LVM_SETCOLUMNWIDTH, WPARAM(last), MAKELPARAM(LVSCW_AUTOSIZE_USEHEADER, 0));
+    // Where nothing is left to fill, platforms differ.
+    const int wanted = alive ? std::max(HeadingWidth(last), int(client.Width() - column.left)) : 0;
+    if (alive && GetColumnWidth(last) != wanted)
+    {
+        Ask(LVM_SETCOLUMNWIDTH, WPARAM(last), MAKELPARAM(wanted, 0));
+    }
+    if (!alive)
+    {
+        return;
+    }
+    m_fitting = false;
+    if (HeaderItemRect(last, column))
+    {
+        m_fittedTo = CRect(column.left, 0, column.right, client.Width());
+    }
+    Invalidate(FALSE);
+}
+
+// Widths of all columns for the other kind of mode. The last one fills the list in the on-board
+// modes and gets back what it had.
+void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
+{
+    const WindowAlive alive(*this);
+    const int count = ColumnCount();
+    if (toOnBoard || m_columnWidths.size() != size_t(count))
+    {
+        m_columnWidths.clear();
+        for (int column = 0; column < count; ++column)
+        {
+            const int width = GetColumnWidth(column);
+            m_columnWidths.push_back(toOnBoard
+                                         ? ColumnWidth{width, listctrl::OnBoardWidth(width)}
+                                         : ColumnWidth{listctrl::StandardWidth(width), width});
+        }
+    }
+    const std::vector<ColumnWidth> widths = m_columnWidths;
+    for (int column = 0; column < count && alive; ++column)
+    {
+        const ColumnWidth& width = widths[size_t(column)];
+        const int now = GetColumnWidth(column);
+        const bool kept = toOnBoard || column == count - 1 || now == width.onBoard;
+        const int wanted = toOnBoard ? width.onBoard
+                           : kept    ? width.standard
+                                     : listctrl::StandardWidth(now);
+        Ask(LVM_SETCOLUMNWIDTH, WPARAM(column), MAKELPARAM(wanted, 0));
+    }
+}
+
+// What the header tells --------------------------------------------------------------------------
+
+BOOL CCustomListCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    const auto* header = reinterpret_cast<const NMHEADER*>(lParam);
+    if ((header->hdr.code == HDN_ENDTRACKA || header->hdr.code == HDN_ENDTRACKW) &&
+        m_minColWidth != -1 && header->pitem != nullptr && header->pitem->cxy < m_minColWidth)
+    {
+        header->pitem->cxy = m_minColWidth;
+    }
+    return CListCtrl::OnNotify(wParam, lParam, result);
+}
+
+void CCustomListCtrl::OnHdnTrack(NMHDR*, LRESULT* result)
+{
+    if (!InOnBoard())
+    {
+        *result = Default();
+        return;
+    }
+    *result = 0;
+    Invalidate(FALSE);
+}
+
+void CCustomListCtrl::OnHdnEndtrack(NMHDR*, LRESULT* result)
+{
+    const WindowAlive alive(*this);
+    *result = 0;
+    Default();
+    if (!alive || !InOnBoard())
+    {
+        return;
+    }
+    bool frameChanged = false;
+    UpdateHScrollData(frameChanged);
+    if (alive && !frameChanged)
+    {
+        scroll::RecalculateFrame(*this);
+    }
+    if (alive)
+    {
+        Invalidate();
+    }
+}

@@ -1,0 +1,229 @@
+// The report list: painting rows, cells and grid lines.
+
+#include "CustomListCtrl.h"
+#include "OnBoardUIGeneral.h"
+#include "listctrl/ListLayout.h"
+#include "modes/WindowAlive.h"
+#include "paint/BackBuffer.h"
+#include "paint/GdiGuards.h"
+#include "paint/Metrics.h"
+#include "paint/Palette.h"
+
+namespace {
+
+// A cell's text is drawn like this: it is meant that a row's text may have several lines.
+constexpr UINT CellText = DT_END_ELLIPSIS | DT_VCENTER;
+
+} // namespace
+
+void CCustomListCtrl::OnPaint()
+{
+    if (!InOnBoard())
+    {
+        Default();
+        return;
+    }
+    CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    const int top = HeaderBottom();
+    dc.ExcludeClipRect(0, 0, client.right, top); // the header paints itself
+    CRect area(dc.m_ps.rcPaint);
+    area.top = std::max<LONG>(area.top, top);
+    BackBuffer buffer(dc, area);
+    DrawOB(buffer);
+}
+
+BOOL CCustomListCtrl::OnEraseBkgnd(CDC* dc)
+{
+    return InOnBoard() ? TRUE : CListCtrl::OnEraseBkgnd(dc);
+}
+
+void CCustomListCtrl::DrawOB(CDC& dc)
+{
+    CRect client;
+    GetClientRect(&client);
+    const Selected font(dc, reinterpret_cast<HGDIOBJ>(Ask(WM_GETFONT)));
+    dc.FillSolidRect(client, palette::Field);
+    const BackgroundMode transparent(dc, TRANSPARENT);
+    const auto style = DWORD(Ask(LVM_GETEXTENDEDLISTVIEWSTYLE));
+    const int columns = ColumnCount();
+    const WindowAlive alive(*this);
+    m_gridLines.Clear();
+    GetVerticalDivides(columns);
+    DrawCells(dc, GetItemCount(), columns, (style & LVS_EX_FULLROWSELECT) != 0, client);
+    if (alive && (style & LVS_EX_GRIDLINES) != 0)
+    {
+        DrawGrid(dc, GetItemCount(), client);
+    }
+    if (alive && m_header.IsHotTracking())
+    {
+        CPoint pointer;
+        ::GetCursorPos(&pointer);
+        ScreenToClient(&pointer);
+        const Selected pen(dc, ::GetStockObject(BLACK_PEN));
+        dc.MoveTo(pointer.x, client.top);
+        dc.LineTo(pointer.x, client.bottom);
+    }
+}
+
+void CCustomListCtrl::GetVerticalDivides(int columns)
+{
+    m_gridLines.Clear();
+    for (int column = 0; column < columns; ++column)
+    {
+        CRect item;
+        if (HeaderItemRect(column, item))
+        {
+            m_gridLines.Add(std::int32_t(item.right + m_drawOffset.x));
+        }
+    }
+}
+
+namespace {
+
+// Cells of the first row, unscrolled; the first one ends where the second begins.
+std::vector<CRect> CellsOfFirstRow(const CListCtrl& list, int columns)
+{
+    std::vector<CRect> cells(size_t(std::max(0, columns)));
+    for (int column = 0; column < columns; ++column)
+    {
+        list.GetSubItemRect(0, column, LVIR_BOUNDS, cells[size_t(column)]);
+    }
+    if (columns > 1)
+    {
+        cells[0].right = cells[1].left;
+    }
+    return cells;
+}
+
+} // namespace
+
+void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSelect,
+                                const CRect& rect)
+{
+    CRect first;
+    CRect clip;
+    if (items <= 0 || !FirstRowRect(first) || first.Height() <= 0)
+    {
+        return;
+    }
+    dc.GetClipBox(&clip);
+    const int height = first.Height();
+    const auto topOf = [&](int row) {
+        return scroll::Saturated(LONGLONG{first.top} + LONGLONG{row} * height + m_drawOffset.y);
+    };
+    RowSpan rows = {listctrl::FirstDrawnRow(int(m_drawOffset.y), height),
+                    listctrl::EndOfDrawnRows(int(m_drawOffset.y), height, int(rect.bottom), items)};
+    while (rows.first < rows.end && topOf(rows.first) + height <= clip.top)
+    {
+        ++rows.first;
+    }
+    while (rows.first < rows.end && topOf(rows.end - 1) >= clip.bottom)
+    {
+        --rows.end;
+    }
+    const WindowAlive alive(*this);
+    std::set<int> selected;
+    m_paintedRows = rows;
+    GetSelectedRows(selected);
+    if (!alive)
+    {
+        return;
+    }
+    m_paintedRows.reset();
+
+    std::vector<CRect> cells = CellsOfFirstRow(*this, columns);
+    for (CRect& cell : cells)
+    {
+        cell.OffsetRect(m_drawOffset.x, 0);
+    }
+    const bool upToDivider = !fullRowSelect && columns > 1;
+    for (int row = rows.first; row < rows.end && alive; ++row)
+    {
+        CRect bounds = first;
+        bounds.MoveToY(topOf(row));
+        const bool marked = selected.count(row) != 0;
+        if (marked)
+        {
+            bounds.right = fullRowSelect ? rect.right
+                           : upToDivider ? LONG(m_gridLines.firstgrid())
+                                         : bounds.right;
+            if (bounds.Width() > 0)
+            {
+                dc.FillSolidRect(bounds, palette::Highlight);
+            }
+        }
+        const TextColor color(dc, marked ? palette::HighlightText : palette::FieldText);
+        DrawRow(dc, row, bounds, cells, clip);
+    }
+}
+
+void CCustomListCtrl::DrawRow(CDC& dc, int row, const CRect& rowRect,
+                              const std::vector<CRect>& cells, const CRect& clip)
+{
+    constexpr int longest = 512; // characters; no cell shows as many
+    WCHAR text[longest];
+    const WindowAlive alive(*this);
+    // From the last column on, so that the first one ends on top.
+    for (int column = int(cells.size()) - 1; column >= 0 && alive; --column)
+    {
+        CRect cell = cells[size_t(column)];
+        if (cell.Width() <= 0 || cell.right <= clip.left || cell.left >= clip.right)
+        {
+            continue;
+        }
+        text[0] = L'\0';
+        LVITEMW item = {};
+        item.iSubItem = column;
+        item.pszText = text;
+        item.cchTextMax = longest;
+        Ask(LVM_GETITEMTEXTW, WPARAM(row), reinterpret_cast<LPARAM>(&item));
+        if (alive && item.pszText != nullptr && *item.pszText != L'\0')
+        {
+            cell.top = rowRect.top;
+            cell.bottom = rowRect.bottom;
+            cell.left += metrics::ListRowMargin; // under the heading
+            ::DrawTextW(dc.GetSafeHdc(), item.pszText, -1, &cell, CellText);
+        }
+    }
+}
+
+void CCustomListCtrl::DrawGrid(CDC& dc, int items, const CRect& rect)
+{
+    CRect first;
+    const int headerBottom = HeaderBottom();
+    int top = headerBottom;
+    int height = 0;
+    if (items > 0 && FirstRowRect(first))
+    {
+        height = first.Height();
+        // The first row in sight: the rows before it have no place on the screen.
+        top = int(first.top) + int((LONGLONG{TopRow()} * height + m_drawOffset.y));
+    }
+    else
+    {
+        top += ::GetSystemMetrics(SM_CXFRAME) / 2;
+        height = int(dc.GetTextExtent("Aj", 2).cy) + 1;
+    }
+    CPen pen(PS_SOLID, 1, ::GetSysColor(COLOR_GRAYTEXT));
+    const Selected selected(dc, pen);
+    for (int y = top; height > 0 && y < rect.bottom; y += height)
+    {
+        dc.MoveTo(rect.left, y);
+        dc.LineTo(rect.right, y);
+    }
+    CRect header;
+    const HWND headerWindow = HeaderWindow();
+    if (headerWindow != nullptr)
+    {
+        ::GetWindowRect(headerWindow, &header);
+        ScreenToClient(&header);
+    }
+    const auto& dividers = m_gridLines.Positions();
+    for (size_t divider = 0; divider + 1 < dividers.size(); ++divider)
+    {
+        dc.MoveTo(dividers[divider], header.top);
+        dc.LineTo(dividers[divider], rect.bottom);
+    }
+}
