@@ -126,7 +126,6 @@ bool MayChangeContent(UINT message)
     case WM_MOUSEMOVE:
     case WM_SETFOCUS:
     case WM_HSCROLL:
-    case WM_VSCROLL:
     case WM_SETREDRAW:
         return true;
     default:

@@ -16,8 +16,9 @@ namespace {
 constexpr UINT AscendingArrow = 10017; // bitmaps of the application
 constexpr UINT DescendingArrow = 10018;
 
-constexpr int StdArrowMargin = 3; // from the arrow to an item's right edge
-constexpr int LongestText = 256;  // with the null
+constexpr int StdArrowMargin = 3;     // from the arrow to an item's right edge
+constexpr int PlatformArrowReach = 6; // of the platform's arrow to the left of ours
+constexpr int LongestText = 256;      // with the null
 
 // The on-board arrow's corners, from an item's top right.
 constexpr int ArrowLeft = 27;
@@ -432,6 +433,12 @@ void CCustomListCtrlHdr::DrawStdArrows()
         if (GetItem(item, &data) && (data.fmt & SortFormats) != 0 && ItemRect(item, rect))
         {
             CClientDC dc(this);
+            // Some platforms draw an arrow of their own there, which must not look out beside ours.
+            CRect room = rect;
+            room.DeflateRect(0, StdArrowMargin);
+            room.right -= StdArrowMargin;
+            room.left = room.right - m_arrowSize.cx - PlatformArrowReach;
+            dc.FillSolidRect(room, dc.GetPixel(room.right - 1, room.top));
             DrawStdSortArrow(&dc, rect, data.fmt);
         }
     }

@@ -4,10 +4,12 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
-#include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
+#include "paint/KeptBuffer.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
+
+#include <cwchar>
 
 namespace {
 
@@ -30,8 +32,7 @@ void CCustomListCtrl::OnPaint()
     dc.ExcludeClipRect(0, 0, client.right, top); // the header paints itself
     CRect area(dc.m_ps.rcPaint);
     area.top = std::max<LONG>(area.top, top);
-    BackBuffer buffer(dc, area);
-    DrawOB(buffer);
+    KeptBuffer::Paint(m_buffer, dc, area, [this](CDC& buffer) { DrawOB(buffer); });
 }
 
 BOOL CCustomListCtrl::OnEraseBkgnd(CDC* dc)
@@ -159,6 +160,26 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
     }
 }
 
+namespace {
+
+// Most texts fit and are plain; the others are cut, broken and underlined by the platform.
+void DrawCellText(HDC dc, const WCHAR* text, CRect cell)
+{
+    const int length = ::lstrlenW(text);
+    SIZE size = {};
+    if (std::wcspbrk(text, L"&\r\n\t") == nullptr &&
+        ::GetTextExtentPoint32W(dc, text, length, &size) && size.cx <= cell.Width())
+    {
+        ::ExtTextOutW(dc, cell.left, cell.top, ETO_CLIPPED, &cell, text, UINT(length), nullptr);
+    }
+    else
+    {
+        ::DrawTextW(dc, text, length, &cell, CellText);
+    }
+}
+
+} // namespace
+
 void CCustomListCtrl::DrawRow(CDC& dc, int row, const CRect& rowRect,
                               const std::vector<CRect>& cells, const CRect& clip)
 {
@@ -184,7 +205,7 @@ void CCustomListCtrl::DrawRow(CDC& dc, int row, const CRect& rowRect,
             cell.top = rowRect.top;
             cell.bottom = rowRect.bottom;
             cell.left += metrics::ListRowMargin; // under the heading
-            ::DrawTextW(dc.GetSafeHdc(), item.pszText, -1, &cell, CellText);
+            DrawCellText(dc.GetSafeHdc(), item.pszText, cell);
         }
     }
 }

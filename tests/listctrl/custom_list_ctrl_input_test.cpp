@@ -1,6 +1,7 @@
 // Real presses, holds, drags, turns, keys and clicks on a report list, and what a parent may do in
 // the middle of them.
 
+#include "OnBoardUI.h"
 #include "listctrl/list_for_tests.h"
 
 #include <gmock/gmock.h>
@@ -320,6 +321,45 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheScrolledRows)
     EXPECT_EQ(list.Selected(), (std::set<int>{22, 23, 25, 28}));
     clickWith(23, 0);
     EXPECT_EQ(list.Selected(), std::set<int>{23});
+}
+
+TEST_F(ListCtrlOnBoard, AListWithoutAHeaderScrollsAndIsClicked)
+{
+    auto& list = AddList(100, 2, ReportStyle | LVS_NOCOLUMNHEADER | LVS_SINGLESEL);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT | LVS_EX_GRIDLINES);
+    EXPECT_EQ(list.m_header.GetStyle() & WS_VISIBLE, 0U);
+    Click(list.PartPoint(Second));
+    EXPECT_EQ(list.TopRow(), 1);
+    Click(ClientPoint(list, CPoint(20, list.RowHeight() + 3)));
+    EXPECT_EQ(list.Selected(), std::set<int>{2});
+    list.SetFocus();
+    TypeKey(VK_END);
+    EXPECT_EQ(list.Focused(), 99);
+    CRect client = ClientRectOf(list);
+    EXPECT_LE((99 - list.TopRow() + 1) * list.RowHeight(), client.bottom);
+    EXPECT_EQ(list.PlatformTop(), 0);
+}
+
+TEST_F(ListCtrlOnBoard, ADialogRestylesAListWithItsChildren)
+{
+    COnBoardUIGeneral::SetAppMode(STD);
+    auto& list = AddList(200, 3, ReportStyle, CRect(10, 10, 210, 170));
+    list.EnsureVisible(199, FALSE);
+    list.EnsureVisible(100, FALSE);
+    list.SetItemState(102, 3, 3);
+    for (const APPMODE mode : {ONBOARD, STD})
+    {
+        COnBoardUIGeneral::SetAppMode(mode);
+        ModifyChildWndsData change;
+        change.parent = Host();
+        change.scale = mode == STD ? 1 / 1.7 : 1.7;
+        change.mode = mode;
+        ModifyChildsForAppMode(list, reinterpret_cast<LPARAM>(&change));
+        PumpAll();
+        EXPECT_EQ(mode == STD ? list.GetTopIndex() : list.TopRow(), 100);
+        EXPECT_EQ(list.GetColumnWidth(0), mode == STD ? 60 : 102);
+    }
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
 }
 
 // Bad input and parents that act
