@@ -149,10 +149,13 @@ protected:
     afx_msg BOOL OnNmClick(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 
+public:
     static UINT m_timerid;                // auto-repeat
     static UINT m_timerperiod;            // milliseconds
     static UINT m_timerInitialWaitID;     // a longer wait before the first repeat
     static UINT m_timerInitialWaitPeriod; // milliseconds
+
+protected:
     static CPen m_OutlinePen;
     static CBrush m_OutlineBrush;
     static CFont m_OBFont;
@@ -254,6 +257,7 @@ private:
     void Press(int axis);
     void PressNc(UINT hitTest, const CPoint& screen);
     void StepHeld(int axis, bool startRepeat);
+    void ForgetPress();
     void EndTracking();
     void ReleaseButton();
 

@@ -112,13 +112,18 @@ void CCustomListCtrl::Press(int axis)
     }
 }
 
-// The one way out of a press, however it ends.
-void CCustomListCtrl::EndTracking()
+void CCustomListCtrl::ForgetPress()
 {
     m_pressed = false;
     m_heldPart = CFauxScrollBar::PRESSED_NONE;
     m_vPart = CFauxScrollBar::PRESSED_NONE;
     m_hPart = CFauxScrollBar::PRESSED_NONE;
+}
+
+// The one way out of a press that is cut off.
+void CCustomListCtrl::EndTracking()
+{
+    ForgetPress();
     const bool leave = m_leaveRequested;
     m_leaveRequested = false;
     if (GetSafeHwnd() != nullptr)
@@ -145,10 +150,7 @@ void CCustomListCtrl::OnNcLButtonUp(UINT, CPoint)
 // The repeat timer sees by itself that the button is up.
 void CCustomListCtrl::ReleaseButton()
 {
-    m_pressed = false;
-    m_heldPart = CFauxScrollBar::PRESSED_NONE;
-    m_vPart = CFauxScrollBar::PRESSED_NONE;
-    m_hPart = CFauxScrollBar::PRESSED_NONE;
+    ForgetPress();
     if (m_leaveRequested)
     {
         m_leaveRequested = false;
@@ -166,10 +168,7 @@ void CCustomListCtrl::ReleaseButton()
 LRESULT CCustomListCtrl::OnNCMouseLeave(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this);
-    m_pressed = false;
-    m_heldPart = CFauxScrollBar::PRESSED_NONE;
-    m_vPart = CFauxScrollBar::PRESSED_NONE;
-    m_hPart = CFauxScrollBar::PRESSED_NONE;
+    ForgetPress();
     m_leaveRequested = false;
     if (InOnBoard())
     {
@@ -310,10 +309,7 @@ void CCustomListCtrl::HandleMouseMoveScroll(const CPoint& point)
 
 BOOL CCustomListCtrl::OnMouseWheel(UINT flags, short delta, CPoint point)
 {
-    m_pressed = false;
-    m_heldPart = CFauxScrollBar::PRESSED_NONE;
-    m_vPart = CFauxScrollBar::PRESSED_NONE;
-    m_hPart = CFauxScrollBar::PRESSED_NONE;
+    ForgetPress();
     if (!InOnBoard())
     {
         return CListCtrl::OnMouseWheel(flags, delta, point);

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 using testing::ElementsAre;
 
 namespace {
@@ -299,6 +301,49 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThere)
     EXPECT_GE(std::count(codes.begin(), codes.end(), UINT(LVN_ITEMCHANGED)), 2);
 }
 
+namespace {
+
+// Notes the rows of the clicks that it has let through to its parent.
+class ListThatNotes : public ListForTests
+{
+public:
+    std::vector<int> clicked;
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
+    {
+        const BOOL taken = ListForTests::OnChildNotify(message, wParam, lParam, result);
+        const auto* header = reinterpret_cast<const NMHDR*>(lParam);
+        if (!taken && message == WM_NOTIFY &&
+            (header->code == UINT(NM_CLICK) || header->code == UINT(NM_DBLCLK)))
+        {
+            clicked.push_back(reinterpret_cast<const NMITEMACTIVATE*>(header)->iItem);
+        }
+        return taken;
+    }
+};
+
+} // namespace
+
+TEST_F(ListCtrlOnBoard, AParentIsToldOfClicksOnTheRowThatIsDrawnThere)
+{
+    auto& list = Add<ListThatNotes>(CRect(20, 20, 420, 420), ReportStyle | LVS_SINGLESEL);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    list.AddColumns(2);
+    list.Fill(100);
+    PumpAll();
+    list.PerformVScroll(30, 0);
+    Click(ClientPoint(list, list.RowPoint(33)));
+    Press();
+    Release();
+    ASSERT_GE(list.clicked.size(), 2U);
+    for (const int row : list.clicked)
+    {
+        EXPECT_EQ(row, 33);
+    }
+    EXPECT_EQ(list.Selected(), std::set<int>{33});
+}
+
 TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheScrolledRows)
 {
     auto& list = AddList(100);
@@ -471,6 +516,52 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
             Remove(list);
             COnBoardUIGeneral::SetAppMode(ONBOARD);
         }
+    }
+}
+
+TEST_F(ListCtrlOnBoard, AParentMayDeleteTheListObjectInANotification)
+{
+    for (const UINT code : {UINT(LVN_ITEMCHANGED), UINT(LVN_KEYDOWN), UINT(LVN_INSERTITEM),
+                            UINT(LVN_COLUMNCLICK), UINT(HDN_TRACKA)})
+    {
+        auto* list = &AddList(100, 8);
+        list->SetFocus();
+        list->SetItemState(0, 3, 3);
+        const CPoint row = ClientPoint(*list, list->RowPoint(2));
+        const CPoint heading = ClientPoint(*list, CPoint(40, 8));
+        Host().hook = [&](ToldMessage& told) {
+            if (told.code == code && list != nullptr)
+            {
+                Remove(*std::exchange(list, nullptr));
+            }
+        };
+        if (code == UINT(LVN_INSERTITEM))
+        {
+            list->InsertItem(0, "new");
+        }
+        else if (code == UINT(LVN_COLUMNCLICK))
+        {
+            Click(heading);
+        }
+        else if (code == UINT(LVN_KEYDOWN))
+        {
+            TypeKey(VK_NEXT);
+        }
+        else if (code == UINT(LVN_ITEMCHANGED))
+        {
+            Click(row);
+        }
+        else
+        {
+            // What the header tells its list stays there; the list goes in the middle of a drag.
+            MoveTo(list->DividerPoint(0));
+            Press();
+            Remove(*std::exchange(list, nullptr));
+            DragTo(heading);
+            Release();
+        }
+        EXPECT_EQ(list, nullptr) << int(code);
+        Host().hook = nullptr;
     }
 }
 

@@ -90,6 +90,53 @@ TEST_F(ListCtrlTest, InTheStandardModeItIsThePlatformsList)
     EXPECT_EQ(list.GetScrollBarCtrl(SB_BOTH), nullptr);
 }
 
+TEST_F(ListCtrlTest, AScriptInTheStandardModeGivesWhatThePlatformsListGives)
+{
+    const auto run = [this](CListCtrl& list) {
+        for (int column = 0; column < 3; ++column)
+        {
+            list.InsertColumn(column, "Column", LVCFMT_LEFT, 80);
+        }
+        for (int row = 0; row < 80; ++row)
+        {
+            list.InsertItem(row, "row");
+        }
+        PumpAll();
+        list.SetFocus();
+        Click(ClientPoint(list, CPoint(20, 60)));
+        for (const UINT key : {VK_DOWN, VK_NEXT, VK_NEXT, VK_END, VK_PRIOR, VK_UP})
+        {
+            TypeKey(key);
+        }
+        TypeKey(VK_DOWN, VK_SHIFT);
+        MoveTo(ClientPoint(list, CPoint(20, 100)));
+        Wheel(-WHEEL_DELTA);
+        Wheel(WHEEL_DELTA * 4);
+        Click(ClientPoint(list, CPoint(40, 8)));
+        Drag(ClientPoint(list, CPoint(80, 8)), ClientPoint(list, CPoint(130, 8)));
+        list.DeleteItem(3);
+        list.EnsureVisible(10, FALSE);
+        struct
+        {
+            std::vector<UINT> codes;
+            std::vector<int> state;
+        } outcome;
+        outcome.codes = Host().CodesFrom(UINT(list.GetDlgCtrlID()));
+        outcome.state = {list.GetTopIndex(),           list.GetNextItem(-1, LVNI_FOCUSED),
+                         int(list.GetSelectedCount()), list.GetColumnWidth(0),
+                         list.GetColumnWidth(2),       ClientRectOf(list).Width()};
+        return outcome;
+    };
+    auto& ours = Add<ListForTests>(CRect(10, 10, 390, 300), ReportStyle);
+    const auto oursGave = run(ours);
+    Remove(ours);
+    Host().Forget();
+    auto& plain = Add<CListCtrl>(CRect(10, 10, 390, 300), ReportStyle);
+    const auto plainGave = run(plain);
+    EXPECT_EQ(oursGave.codes, plainGave.codes);
+    EXPECT_EQ(oursGave.state, plainGave.state);
+}
+
 // Ranges -----------------------------------------------------------------------------------------
 
 TEST_F(ListCtrlOnBoard, TheBarComesWithTheFirstRowThatDoesNotFit)

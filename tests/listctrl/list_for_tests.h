@@ -33,8 +33,6 @@ public:
     using CCustomListCtrl::m_header;
     using CCustomListCtrl::m_pressed;
     using CCustomListCtrl::m_scrollUnit;
-    using CCustomListCtrl::m_timerid;
-    using CCustomListCtrl::m_timerInitialWaitID;
     using CCustomListCtrl::m_vBar;
     using CCustomListCtrl::PerformHScroll;
     using CCustomListCtrl::PerformVScroll;
