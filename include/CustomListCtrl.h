@@ -123,6 +123,7 @@ protected:
     afx_msg LRESULT OnNCMouseLeave(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
@@ -147,6 +148,7 @@ protected:
     // The parent hears of these as well.
     afx_msg BOOL OnLvnColumnclick(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnNmClick(NMHDR* header, LRESULT* result);
+    afx_msg BOOL OnLvnItemActivate(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 
 public:
@@ -214,6 +216,7 @@ private:
     bool m_following = false;
     bool m_settling = false;
     bool m_fitting = false;
+    bool m_activating = false;  // by a double click
     bool m_filling = false;     // the platform's redraw is off while rows are added in a row
     bool m_endPosted = false;   // a message that ends the filling is on its way
     bool m_hostRedraw = true;   // the host's WM_SETREDRAW

@@ -43,6 +43,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_MESSAGE(WM_NCMOUSELEAVE, &CCustomListCtrl::OnNCMouseLeave)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDOWN()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSEWHEEL()
@@ -71,6 +72,9 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_NOTIFY_REFLECT_EX(NM_DBLCLK, &CCustomListCtrl::OnNmClick)
     ON_NOTIFY_REFLECT_EX(NM_RCLICK, &CCustomListCtrl::OnNmClick)
     ON_NOTIFY_REFLECT_EX(NM_RDBLCLK, &CCustomListCtrl::OnNmClick)
+    ON_NOTIFY_REFLECT_EX(LVN_BEGINDRAG, &CCustomListCtrl::OnNmClick)
+    ON_NOTIFY_REFLECT_EX(LVN_BEGINRDRAG, &CCustomListCtrl::OnNmClick)
+    ON_NOTIFY_REFLECT_EX(LVN_ITEMACTIVATE, &CCustomListCtrl::OnLvnItemActivate)
 END_MESSAGE_MAP()
 
 UINT CCustomListCtrl::m_timerid = 101;
@@ -191,6 +195,7 @@ void CCustomListCtrl::ForgetWindow()
     m_following = false;
     m_settling = false;
     m_fitting = false;
+    m_activating = false;
     m_filling = false;
     m_endPosted = false;
     m_hostRedraw = true;

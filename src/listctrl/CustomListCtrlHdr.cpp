@@ -11,6 +11,8 @@
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr UINT AscendingArrow = 10017; // bitmaps of the application
@@ -76,7 +78,8 @@ CCustomListCtrl* CCustomListCtrlHdr::List() const
 void CCustomListCtrlHdr::OBScrollHeader(int dx, int redraw)
 {
     const WindowAlive alive(*this);
-    m_offset.x += dx;
+    constexpr LONGLONG farthest = 1 << 30; // columns' coordinates can still be added to it
+    m_offset.x = LONG(std::clamp(LONGLONG{m_offset.x} + dx, -farthest, farthest));
     RepositionHeaderStrip();
     if (redraw && alive)
     {

@@ -112,6 +112,17 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
     SelectClicked(point, flags);
 }
 
+void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
+{
+    const WindowAlive alive(*this);
+    m_activating = true;
+    Default();
+    if (alive)
+    {
+        m_activating = false;
+    }
+}
+
 void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
     if (!InOnBoard() || TopRow() == 0)

@@ -76,7 +76,8 @@ void CCustomListCtrl::UpdateVScrollData()
     }
     if (height > 0 && m_scrollUnit.cy > 0 && height != m_scrollUnit.cy)
     {
-        m_drawOffset.y = -TopRow() * height; // the same row at the top, whatever the height
+        m_drawOffset.y = listctrl::OffsetDown(
+            -LONGLONG{TopRow()} * height); // the same row at the top, whatever the height
     }
     m_scrollUnit.cy = height > 0 ? height : m_scrollUnit.cy;
 
@@ -187,7 +188,7 @@ void CCustomListCtrl::PerformVScroll(int newPos, int oldPos)
     }
     const LONGLONG down = (LONGLONG{newPos} - oldPos) * m_scrollUnit.cy;
     const int before = int(m_drawOffset.y);
-    m_drawOffset.y = scroll::Saturated(before - down);
+    m_drawOffset.y = listctrl::OffsetDown(before - down);
     const WindowAlive alive(*this);
     DrawScrollBars();
     if (alive)
@@ -207,10 +208,11 @@ void CCustomListCtrl::PerformHScroll(int newPos, int oldPos)
     {
         m_hBar.SetScrollPos(newPos, TRUE);
     }
-    const int dx = scroll::Saturated((LONGLONG{oldPos} - newPos) * m_scrollUnit.cx);
+    const LONGLONG right = (LONGLONG{newPos} - oldPos) * m_scrollUnit.cx;
+    const int before = int(m_drawOffset.x);
+    m_drawOffset.x = listctrl::OffsetAcross(before - right);
     const WindowAlive alive(*this);
-    m_drawOffset.x = scroll::Saturated(LONGLONG{m_drawOffset.x} + dx);
-    m_header.OBScrollHeader(dx, TRUE);
+    m_header.OBScrollHeader(int(m_drawOffset.x) - before, TRUE);
     if (alive)
     {
         DrawScrollBars();
@@ -248,7 +250,8 @@ void CCustomListCtrl::MoveTo(int axis, int position)
     bar.SetScrollPos(position, TRUE);
     const bool vertical = axis == SB_VERT;
     const int unit = int(vertical ? m_scrollUnit.cy : m_scrollUnit.cx);
-    const int wanted = scroll::Saturated(-LONGLONG{bar.GetScrollPos()} * unit);
+    const LONGLONG scrolled = -LONGLONG{bar.GetScrollPos()} * unit;
+    const int wanted = vertical ? listctrl::OffsetDown(scrolled) : listctrl::OffsetAcross(scrolled);
     const int now = int(vertical ? m_drawOffset.y : m_drawOffset.x);
     if (wanted == now)
     {

@@ -46,6 +46,20 @@ constexpr BarData HorizontalBar(int total, int step, int clientWidth)
     return {total > clientWidth, steps, maximum, page};
 }
 
+// An offset is never above 0, and so far from the limits of an int that coordinates of columns can
+// be added to it; down, rows are placed in 64 bits.
+constexpr int FarthestAcross = -(1 << 30);
+
+constexpr int OffsetAcross(LONGLONG offset)
+{
+    return static_cast<int>(std::clamp<LONGLONG>(offset, FarthestAcross, 0));
+}
+
+constexpr int OffsetDown(LONGLONG offset)
+{
+    return static_cast<int>(std::clamp<LONGLONG>(offset, -INT_MAX, 0));
+}
+
 // The rows that are drawn into a height, from the first one on.
 constexpr int FirstDrawnRow(int offset, int rowHeight)
 {
