@@ -137,7 +137,16 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
 // drawn in its place. While it is not yet, IsSelChanging tells so.
 void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
 {
+    // The focus first: the platform's list does not survive its end in the middle of its click.
     const WindowAlive alive(*this);
+    if (::GetFocus() != GetSafeHwnd())
+    {
+        SetFocus();
+        if (!alive)
+        {
+            return;
+        }
+    }
     LVHITTESTINFO hit = {};
     hit.pt = point;
     Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
@@ -145,11 +154,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     if (several && hit.iItem >= 0 && TopRow() != 0 && (GetStyle() & LVS_SINGLESEL) == 0)
     {
         // What is selected so far is known by rows that the platform would take for others.
-        SetFocus();
-        if (alive)
-        {
-            SelectRow(hit.iItem + TopRow(), (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
-        }
+        SelectRow(hit.iItem + TopRow(), (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
         if (alive)
         {
             Invalidate();

@@ -476,10 +476,13 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
     for (const auto& act : acts)
     {
         for (const UINT code : {UINT(LVN_ITEMCHANGED), UINT(LVN_KEYDOWN), UINT(LVN_INSERTITEM),
-                                UINT(LVN_COLUMNCLICK), UINT(NM_CLICK)})
+                                UINT(LVN_COLUMNCLICK), UINT(NM_CLICK), UINT(NM_SETFOCUS)})
         {
             auto& list = AddList(100, 8);
-            list.SetFocus();
+            if (code != UINT(NM_SETFOCUS))
+            {
+                list.SetFocus();
+            }
             list.SetItemState(0, 3, 3);
             list.PerformVScroll(SB_PAGEDOWN);
             bool done = false;
