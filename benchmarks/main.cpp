@@ -82,6 +82,8 @@ std::vector<Row> AllRows()
     constexpr std::vector<Row> (*parts[])() = {
         &ListBoxRows,
         &ComboRows,
+        &ListCtrlRows,
+        &TreeRows,
         &EditRows,
         &ButtonRows,
         &ScrollBarRows,

@@ -8,12 +8,12 @@
 #include "IconsPage.h"
 #include "LabelsPage.h"
 #include "ListBoxPage.h"
-#include "PolygonPage.h"
-#include "ToolbarPage.h"
 #include "MessageBoxPage.h"
-#include "SearchBarPage.h"
-#include "TreesPage.h"
+#include "PolygonPage.h"
 #include "ReportListPage.h"
+#include "SearchBarPage.h"
+#include "ToolbarPage.h"
+#include "TreesPage.h"
 
 namespace {
 
@@ -27,6 +27,8 @@ constexpr PageEntry AllPages[] = {
     {"list-boxes", "List boxes", &Make<ListBoxPage>},
     {"checklist", "Check lists", &Make<CheckListPage>},
     {"combos", "Combos", &Make<CombosPage>},
+    {"reportlist", "Report list", &Make<ReportListPage>},
+    {"trees", "Trees", &Make<TreesPage>},
     {"buttons", "Buttons", &Make<ButtonsPage>},
     {"labels", "Labels and groups", &Make<LabelsPage>},
     {"edits", "Edits", &Make<EditsPage>},
@@ -36,11 +38,6 @@ constexpr PageEntry AllPages[] = {
     {"toolbar", "Tool bar", &Make<ToolbarPage>},
     {"icons", "Icons", &Make<IconsPage>},
     {"polygon", "View polygon", &Make<PolygonPage>},
-    {"list-boxes", "List boxes", &Make<ListBoxPage>},   {"buttons", "Buttons", &Make<ButtonsPage>},
-    {"labels", "Labels and groups", &Make<LabelsPage>}, {"edits", "Edits", &Make<EditsPage>},
-    {"dialogs", "Dialogs", &Make<DialogsPage>},         {"trees", "Trees", &Make<TreesPage>},
-    {"dialogs", "Dialogs", &Make<DialogsPage>},
-    {"reportlist", "Report list", &Make<ReportListPage>},
 };
 // clang-format on
 
