@@ -370,6 +370,7 @@ bool MovesCaret(UINT message)
     switch (message)
     {
     case TVM_SELECTITEM:
+    case TVM_DELETEITEM:
     case TVM_EXPAND:
     case TVM_INSERTITEMA:
     case TVM_INSERTITEMW:
@@ -404,6 +405,11 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     {
         WriteUnwritten();
     }
+    // The platform goes on with what it has even after it has told a parent that ends the window.
+    // What it has is better lost than freed under it.
+    const bool abandons =
+        (message == WM_DESTROY && m_inPlatform > 0) || (message == WM_NCDESTROY && m_abandoned);
+    m_abandoned = abandons || (m_abandoned && message != WM_CREATE);
     std::vector<HTREEITEM> going;
     bool goingAll = false;
     if (message == TVM_DELETEITEM && m_inPlatform > 0)
@@ -454,7 +460,9 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     const bool movesCaret = MovesCaret(message);
     const WindowAlive alive(m_owner.Window());
     m_inPlatform += movesCaret;
-    const LRESULT result = m_owner.Platform(message, wParam, lParam);
+    const LRESULT result =
+        abandons ? ::DefWindowProc(m_owner.Window().GetSafeHwnd(), message, wParam, lParam)
+                 : m_owner.Platform(message, wParam, lParam);
     if (!alive)
     {
         return result;
@@ -498,7 +506,7 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     {
         Refresh(HTREEITEM(result));
     }
-    if (movesCaret || message == TVM_DELETEITEM || m_inPlatform > 0)
+    if (movesCaret || m_inPlatform > 0)
     {
         FollowCaret();
     }

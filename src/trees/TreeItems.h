@@ -90,6 +90,7 @@ private:
     int m_goingAll = 0;                        // depth of deletions of everything
     int m_inPlatform = 0;                      // depth of messages by which the caret may move
     std::unique_ptr<WatchedItems> m_postponed; // to be deleted when that is over
+    bool m_abandoned = false; // the platform's tree does not hear of the window's end
     // Outlives this object if a watch does.
     std::shared_ptr<WatchList> m_watches = std::make_shared<WatchList>();
 
