@@ -264,7 +264,7 @@ void TreesPage::OnTold(UINT id, NMHDR* header, LRESULT* result)
                              : code == UINT(TVN_BEGINRDRAG) ? "TVN_BEGINRDRAG"
                              : code == UINT(NM_CLICK)       ? "NM_CLICK"
                                                             : "NM_RCLICK";
-    Tell(CString(name) + (id == TreeId ? " from the tree" : " from the view"));
+    Tell(CString(id == TreeId ? "Tree: " : "View: ") + name);
 }
 
 void TreesPage::Dropped(const char* where, const char* how, const KArray& payload)
@@ -304,7 +304,7 @@ void TreesPage::WriteTold()
     CString row = m_line;
     if (m_times > 1)
     {
-        row.Format("%s, %d times", static_cast<LPCTSTR>(m_line), m_times);
+        row.Format("%s (%d)", static_cast<LPCTSTR>(m_line), m_times);
     }
     m_times = 0;
     m_told.AddString(row);
