@@ -25,7 +25,6 @@ public:
     {}
     void GetSelectedItems(HTREEITEM item, KArray& payload) override;
     void DragEnded(HWND accepted) override;
-    void Receive(const char* how, const KArray& payload);
 
 protected:
     afx_msg LRESULT OnDropped(WPARAM wParam, LPARAM lParam);
