@@ -1,12 +1,9 @@
-// Real presses, holds, drags, turns, keys and clicks on a report list, and what a parent may do in
-// the middle of them.
+// Real presses, holds, drags, turns, keys and clicks on a report list.
 
 #include "OnBoardUI.h"
 #include "listctrl/list_for_tests.h"
 
 #include <gmock/gmock.h>
-
-#include <utility>
 
 using testing::ElementsAre;
 
@@ -14,8 +11,6 @@ namespace {
 
 constexpr auto First = CFauxScrollBar::PRESSED_FIRST;
 constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
-constexpr auto BeforeThumb = CFauxScrollBar::PRESSED_BEFORE_THUMB;
-constexpr auto AfterThumb = CFauxScrollBar::PRESSED_AFTER_THUMB;
 constexpr auto Thumb = CFauxScrollBar::PRESSED_THUMB;
 
 } // namespace
@@ -406,183 +401,4 @@ TEST_F(ListCtrlOnBoard, ADialogRestylesAListWithItsChildren)
         EXPECT_EQ(list.GetColumnWidth(0), mode == STD ? 60 : 102);
     }
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-}
-
-// Bad input and parents that act
-// -------------------------------------------------------------------
-
-TEST_F(ListCtrlOnBoard, ValuesOutOfRangeAreAnsweredAndHarmless)
-{
-    auto& list = AddList(50, 4);
-    list.SetMinColWidth(40);
-    list.SetMinColWidth(-5);
-    EXPECT_EQ(list.GetMinColWidth(), 40);
-    for (const int column : {-1, 4, INT_MAX, INT_MIN})
-    {
-        EXPECT_FALSE(list.DeleteColumn(column));
-        list.SetColumnWidth(column, 100);
-    }
-    for (const int width : {-30000, -3, 0, 32767})
-    {
-        list.SetColumnWidth(1, width);
-        PumpAll();
-        list.ExpectInStep("width");
-    }
-    LVCOLUMN column = {};
-    column.mask = LVCF_WIDTH;
-    for (const int width : {INT_MIN, -2, INT_MAX})
-    {
-        column.cx = width;
-        list.InsertColumn(1, &column);
-        PumpAll();
-        list.DeleteColumn(1);
-    }
-    list.SendMessage(LVM_INSERTCOLUMN, 0, 0);
-    for (const int row : {-1, 50, INT_MAX, INT_MIN})
-    {
-        EXPECT_FALSE(list.DeleteItem(row));
-        list.SetItemText(row, 0, "x");
-        list.RedrawItems(row, row);
-    }
-    list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
-    EXPECT_EQ(list.GetSelectedCount(), 50U);
-    for (const int position : {INT_MAX, INT_MIN})
-    {
-        list.PerformVScroll(position, 0);
-        list.PerformHScroll(position, 0);
-        PumpAll();
-    }
-    list.SetWindowPos(nullptr, 0, 0, 3, 3, SWP_NOMOVE | SWP_NOZORDER);
-    list.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOZORDER);
-    list.SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER);
-    PumpAll();
-    list.ExpectInStep("small and large again");
-}
-
-TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
-{
-    struct
-    {
-        const char* name;
-        void (*act)(ListForTests&);
-    } const acts[] = {{"destroyed", [](ListForTests& list) { list.DestroyWindow(); }},
-                      {"rows gone", [](ListForTests& list) { list.DeleteAllItems(); }},
-                      {"columns gone",
-                       [](ListForTests& list) {
-                           while (list.DeleteColumn(0))
-                           {}
-                       }},
-                      {"other mode", [](ListForTests&) { COnBoardUIGeneral::SetAppMode(STD); }}};
-    for (const auto& act : acts)
-    {
-        for (const UINT code : {UINT(LVN_ITEMCHANGED), UINT(LVN_KEYDOWN), UINT(LVN_INSERTITEM),
-                                UINT(LVN_COLUMNCLICK), UINT(NM_CLICK), UINT(NM_SETFOCUS)})
-        {
-            auto& list = AddList(100, 8);
-            if (code != UINT(NM_SETFOCUS))
-            {
-                list.SetFocus();
-            }
-            list.SetItemState(0, 3, 3);
-            list.PerformVScroll(SB_PAGEDOWN);
-            bool done = false;
-            Host().hook = [&](ToldMessage& told) {
-                if (told.code == code && !done)
-                {
-                    done = true;
-                    act.act(list);
-                }
-            };
-            if (code == UINT(LVN_INSERTITEM))
-            {
-                list.InsertItem(0, "new");
-            }
-            else if (code == UINT(LVN_COLUMNCLICK))
-            {
-                Click(ClientPoint(list, CPoint(40, 8)));
-            }
-            else if (code == UINT(LVN_KEYDOWN))
-            {
-                TypeKey(VK_NEXT);
-            }
-            else
-            {
-                Click(ClientPoint(list, list.RowPoint(list.TopRow() + 2)));
-            }
-            PumpAll();
-            EXPECT_TRUE(done) << act.name << " " << int(code);
-            Host().hook = nullptr;
-            if (list.GetSafeHwnd() != nullptr && COnBoardUIGeneral::InOnBoardMode() &&
-                list.GetItemCount() > 0 && list.m_header.GetItemCount() > 0)
-            {
-                list.ExpectInStep(act.name);
-            }
-            Remove(list);
-            COnBoardUIGeneral::SetAppMode(ONBOARD);
-        }
-    }
-}
-
-TEST_F(ListCtrlOnBoard, AParentMayDeleteTheListObjectInANotification)
-{
-    for (const UINT code : {UINT(LVN_ITEMCHANGED), UINT(LVN_KEYDOWN), UINT(LVN_INSERTITEM),
-                            UINT(LVN_COLUMNCLICK), UINT(HDN_TRACKA)})
-    {
-        auto* list = &AddList(100, 8);
-        list->SetFocus();
-        list->SetItemState(0, 3, 3);
-        const CPoint row = ClientPoint(*list, list->RowPoint(2));
-        const CPoint heading = ClientPoint(*list, CPoint(40, 8));
-        Host().hook = [&](ToldMessage& told) {
-            if (told.code == code && list != nullptr)
-            {
-                Remove(*std::exchange(list, nullptr));
-            }
-        };
-        if (code == UINT(LVN_INSERTITEM))
-        {
-            list->InsertItem(0, "new");
-        }
-        else if (code == UINT(LVN_COLUMNCLICK))
-        {
-            Click(heading);
-        }
-        else if (code == UINT(LVN_KEYDOWN))
-        {
-            TypeKey(VK_NEXT);
-        }
-        else if (code == UINT(LVN_ITEMCHANGED))
-        {
-            Click(row);
-        }
-        else
-        {
-            // What the header tells its list stays there; the list goes in the middle of a drag.
-            MoveTo(list->DividerPoint(0));
-            Press();
-            Remove(*std::exchange(list, nullptr));
-            DragTo(heading);
-            Release();
-        }
-        EXPECT_EQ(list, nullptr) << int(code);
-        Host().hook = nullptr;
-    }
-}
-
-TEST_F(ListCtrlOnBoard, AParentMayEndTheListWhileItIsPainted)
-{
-    auto& list = Add<ListForTests>(CRect(20, 20, 420, 420), ReportStyle | LVS_OWNERDATA);
-    list.AddColumns(2);
-    int asked = 0;
-    Host().hook = [&](ToldMessage& told) {
-        if ((told.code == UINT(LVN_GETDISPINFOA) || told.code == UINT(LVN_GETDISPINFOW)) &&
-            ++asked == 5)
-        {
-            list.DestroyWindow();
-        }
-    };
-    list.SetItemCount(100);
-    PumpAll();
-    EXPECT_EQ(list.GetSafeHwnd(), nullptr);
-    Host().hook = nullptr;
 }
