@@ -245,7 +245,7 @@ private:
     void LeaveOnBoard();
     void StripBars();
     void ForgetWindow();
-    View CurrentView();
+    View CurrentView(int top, int rows);
     void RestoreView();
     void RelayoutFrame();
     void ScalePlatformColumns(bool toOnBoard);

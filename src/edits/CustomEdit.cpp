@@ -5,6 +5,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "edits/EditBorder.h"
+#include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
 #include "scroll/BarPaint.h"
@@ -157,31 +158,15 @@ int CCustomEdit::OnCreate(LPCREATESTRUCT cs)
 // Returns whether it is laid out for an on-board mode: the first question of every handler.
 bool CCustomEdit::FollowMode()
 {
-    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
     if (m_scrolling && COnBoardUIGeneral::GetAppMode() != m_trackedIn)
     {
         EndTracking(); // a change between two on-board modes sends no message either
     }
-    if (onBoard != m_onBoard && !m_following && GetSafeHwnd() != nullptr && IsReady())
-    {
-        const WindowAlive alive(*this);
-        m_following = true;
-        m_onBoard = onBoard;
-        if (onBoard)
-        {
-            EnterOnBoard();
-        }
-        else
-        {
-            LeaveOnBoard();
-        }
-        if (!alive)
-        {
-            return false;
-        }
-        m_following = false;
-    }
-    return onBoard && m_onBoard;
+    const bool notYet = GetSafeHwnd() == nullptr || !IsReady();
+    return notYet ? COnBoardUIGeneral::InOnBoardMode() && m_onBoard
+                  : ::FollowMode(
+                        *this, m_onBoard, m_following, [this] { EnterOnBoard(); },
+                        [this] { LeaveOnBoard(); });
 }
 
 void CCustomEdit::EnterOnBoard()

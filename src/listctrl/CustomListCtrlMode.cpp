@@ -3,6 +3,7 @@
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListLayout.h"
+#include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
 #include "scroll/NcBands.h"
 
@@ -10,34 +11,18 @@
 // Returns whether it is laid out for an on-board mode.
 bool CCustomListCtrl::FollowMode()
 {
-    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if (onBoard == m_onBoard || m_following || m_creating || GetSafeHwnd() == nullptr)
-    {
-        return InOnBoard();
-    }
-    const WindowAlive alive(*this);
-    m_following = true;
-    m_view = CurrentView();
-    m_onBoard = onBoard;
-    if (onBoard)
-    {
-        EnterOnBoard();
-    }
-    else
-    {
-        LeaveOnBoard();
-    }
-    if (!alive)
+    if (m_creating)
     {
         return false;
     }
-    m_following = false;
-    return InOnBoard();
+    return ::FollowMode(
+        *this, m_onBoard, m_following, [this] { EnterOnBoard(); }, [this] { LeaveOnBoard(); });
 }
 
 void CCustomListCtrl::EnterOnBoard()
 {
     const WindowAlive alive(*this);
+    m_view = CurrentView(int(Ask(LVM_GETTOPINDEX)), int(Ask(LVM_GETCOUNTPERPAGE)));
     m_wheel = 0;
     m_resizePending = true;
     m_measured = Measured();
@@ -69,6 +54,7 @@ void CCustomListCtrl::EnterOnBoard()
 void CCustomListCtrl::LeaveOnBoard()
 {
     const WindowAlive alive(*this);
+    m_view = CurrentView(TopRow(), RowsInSight());
     EndTracking();
     for (const int axis : {SB_VERT, SB_HORZ})
     {
@@ -117,11 +103,10 @@ void CCustomListCtrl::StripBars()
 }
 
 // The row at the top, and a selected row in sight: the one with the focus before others.
-CCustomListCtrl::View CCustomListCtrl::CurrentView()
+CCustomListCtrl::View CCustomListCtrl::CurrentView(int top, int rows)
 {
-    View view = {m_onBoard ? TopRow() : int(Ask(LVM_GETTOPINDEX)), -1};
-    const int rows = m_onBoard ? RowsInSight() : int(Ask(LVM_GETCOUNTPERPAGE));
-    const int end = std::min(view.top + rows, GetItemCount());
+    View view = {top, -1};
+    const int end = std::min(top + rows, GetItemCount());
     const auto selected = [this](int row) {
         return row >= 0 && Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
     };
