@@ -12,8 +12,6 @@
 #include <set>
 #include <vector>
 
-class KeptBuffer;
-
 namespace scroll {
 class BarPainter;
 }
@@ -232,7 +230,6 @@ private:
     Measured m_measured;
     std::unique_ptr<scroll::BarPainter> m_vPainter;
     std::unique_ptr<scroll::BarPainter> m_hPainter;
-    std::shared_ptr<KeptBuffer> m_buffer; // of the client area
 
     friend class CCustomListCtrlHdr;
 

@@ -8,7 +8,6 @@
 #include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
-#include "paint/KeptBuffer.h"
 #include "paint/Palette.h"
 #include "scroll/BarPaint.h"
 #include "scroll/NcBands.h"
@@ -91,7 +90,6 @@ CCustomListCtrl::CCustomListCtrl()
     , m_hBar(SB_HORZ)
     , m_vPainter(std::make_unique<scroll::BarPainter>())
     , m_hPainter(std::make_unique<scroll::BarPainter>())
-    , m_buffer(std::make_shared<KeptBuffer>())
 {
     if (m_OutlinePen.GetSafeHandle() == nullptr)
     {

@@ -4,8 +4,8 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
+#include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
-#include "paint/KeptBuffer.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 
@@ -32,7 +32,8 @@ void CCustomListCtrl::OnPaint()
     dc.ExcludeClipRect(0, 0, client.right, top); // the header paints itself
     CRect area(dc.m_ps.rcPaint);
     area.top = std::max<LONG>(area.top, top);
-    KeptBuffer::Paint(m_buffer, dc, area, [this](CDC& buffer) { DrawOB(buffer); });
+    BackBuffer buffer(dc, area);
+    DrawOB(buffer);
 }
 
 BOOL CCustomListCtrl::OnEraseBkgnd(CDC* dc)
