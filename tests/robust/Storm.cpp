@@ -149,6 +149,28 @@ LPARAM Storm::Value(Argument argument, const CWnd& window)
         window.GetClientRect(&client);
         return MAKELPARAM(Between(-20, client.right + 60), Between(-20, client.bottom + 20));
     }
+    case Argument::ListItem:
+        m_item.mask = LVIF_TEXT | LVIF_STATE;
+        m_item.iItem = Between(-1, 60);
+        m_item.iSubItem = Between(0, 3);
+        m_item.pszText = const_cast<char*>(m_texts[Between(0, 3)].c_str());
+        m_item.state = UINT(Between(0, 3));
+        m_item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+        return reinterpret_cast<LPARAM>(&m_item);
+    case Argument::TreeItem:
+    {
+        const HWND tree = window.GetSafeHwnd();
+        LRESULT item = ::SendMessage(tree, TVM_GETNEXTITEM, TVGN_ROOT, 0);
+        for (int steps = Between(0, 30); steps > 0 && item != 0; --steps)
+        {
+            const LRESULT child = ::SendMessage(tree, TVM_GETNEXTITEM, TVGN_CHILD, item);
+            const LRESULT next = ::SendMessage(tree, TVM_GETNEXTITEM, TVGN_NEXT, item);
+            item = child != 0 && Between(0, 1) ? child : next;
+        }
+        return item;
+    }
+    case Argument::Fixed:
+        break;
     case Argument::Font:
         return reinterpret_cast<LPARAM>(
             ::GetStockObject(Between(0, 1) ? DEFAULT_GUI_FONT : SYSTEM_FONT));
@@ -309,7 +331,8 @@ void Storm::Own(CWnd& window)
         return;
     }
     const Word& word = m_subject.words[size_t(Between(0, int(m_subject.words.size()) - 1))];
-    const WPARAM wParam = WPARAM(Value(word.wParam, window));
+    const WPARAM wParam =
+        word.wParam == Argument::Fixed ? word.fixed : WPARAM(Value(word.wParam, window));
     Send(window, word.message, wParam, Value(word.lParam, window));
 }
 

@@ -2,6 +2,8 @@
 
 #include "robust/Subjects.h"
 
+#include <afxcmn.h>
+
 #include <cstdint>
 #include <random>
 
@@ -37,6 +39,7 @@ private:
     std::string m_texts[4];
     std::vector<char> m_buffer;
     CRect m_place;
+    LVITEM m_item = {};
 
     int Between(int first, int last);
     void Note(UINT message, WPARAM wParam, LPARAM lParam);

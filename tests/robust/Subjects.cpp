@@ -10,10 +10,15 @@
 #include "CustomDropListCombo.h"
 #include "CustomEdit.h"
 #include "CustomListBox.h"
+#include "CustomListCtrl.h"
 #include "CustomPushbutton.h"
 #include "CustomRadiobutton.h"
 #include "EditWithPrompt.h"
+#include "MultiTree.h"
+#include "MultiTreeView.h"
 #include "QuixEdit.h"
+#include "SearchStatusBar.h"
+#include "ZepMsgBoxDlg.h"
 #include "support/DialogTemplate.h"
 
 namespace {
@@ -197,6 +202,120 @@ std::unique_ptr<CWnd> MakeCombo(CWnd& parent)
     return combo;
 }
 
+const std::vector<Word> ReportWords = {
+    {LVM_INSERTITEM, None, ListItem},
+    {LVM_SETITEM, None, ListItem},
+    {LVM_DELETEITEM, Row},
+    {LVM_DELETEALLITEMS},
+    {LVM_SETITEMSTATE, Row, ListItem},
+    {LVM_ENSUREVISIBLE, Row, Flag},
+    {LVM_SCROLL, Small, Small},
+    {LVM_SETCOLUMNWIDTH, Small, Pixels},
+    {LVM_DELETECOLUMN, Small},
+    {LVM_SETITEMCOUNT, Row},
+    {LVM_GETTOPINDEX},
+    {LVM_GETCOUNTPERPAGE},
+    {LVM_REDRAWITEMS, Row, Row},
+    {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21},
+};
+
+std::unique_ptr<CWnd> MakeReport(CWnd& parent)
+{
+    auto list = std::make_unique<CCustomListCtrl>();
+    if (!list->Create(Child | LVS_REPORT | LVS_SHOWSELALWAYS, Room, &parent, SubjectId))
+    {
+        return nullptr;
+    }
+    for (int column = 0; column < 4; ++column)
+    {
+        list->InsertColumn(column, "Column", LVCFMT_LEFT, 90);
+    }
+    for (int row = 0; row < 40; ++row)
+    {
+        list->InsertItem(row, ("Row " + std::to_string(row)).c_str());
+        list->SetItemText(row, 1, "EDDF");
+    }
+    return list;
+}
+
+const std::vector<Word> TreeWords = {
+    {TVM_SELECTITEM, Fixed, TreeItem, TVGN_CARET},
+    {TVM_SELECTITEM, Fixed, TreeItem, TVGN_FIRSTVISIBLE},
+    {TVM_EXPAND, Fixed, TreeItem, TVE_EXPAND},
+    {TVM_EXPAND, Fixed, TreeItem, TVE_COLLAPSE},
+    {TVM_EXPAND, Fixed, TreeItem, TVE_COLLAPSE | TVE_COLLAPSERESET},
+    {TVM_ENSUREVISIBLE, None, TreeItem},
+    {TVM_DELETEITEM, None, TreeItem},
+    {TVM_GETCOUNT},
+    {TVM_GETVISIBLECOUNT},
+};
+
+template <class Tree> std::unique_ptr<CWnd> Filled(std::unique_ptr<Tree> tree, bool made)
+{
+    if (!made)
+    {
+        return nullptr;
+    }
+    for (int branch = 0; branch < 20; ++branch)
+    {
+        TVINSERTSTRUCT insert = {};
+        insert.hInsertAfter = TVI_LAST;
+        insert.item.mask = TVIF_TEXT;
+        insert.item.pszText = const_cast<char*>("Branch");
+        insert.hParent = HTREEITEM(tree->SendMessage(TVM_INSERTITEM, 0, LPARAM(&insert)));
+        for (int leaf = 0; leaf < 5; ++leaf)
+        {
+            tree->SendMessage(TVM_INSERTITEM, 0, LPARAM(&insert));
+        }
+    }
+    return tree;
+}
+
+constexpr DWORD TreeLook = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
+
+std::unique_ptr<CWnd> MakeTree(CWnd& parent)
+{
+    auto tree = std::make_unique<MultiTree>();
+    const bool made = tree->Create(Child | TreeLook, Room, &parent, SubjectId) != FALSE;
+    if (made)
+    {
+        tree->SetMultiSelect(true);
+    }
+    return Filled(std::move(tree), made);
+}
+
+std::unique_ptr<CWnd> MakeTreeView(CWnd& parent)
+{
+    struct View : MultiTreeView
+    {
+        void PostNcDestroy() override {} // the test owns it
+    };
+    auto tree = std::make_unique<View>();
+    const bool made =
+        tree->Create(nullptr, nullptr, Child | TreeLook, Room, &parent, SubjectId) != FALSE;
+    return Filled(std::move(tree), made);
+}
+
+std::unique_ptr<CWnd> MakeSearchBar(CWnd& parent)
+{
+    auto bar = std::make_unique<CSearchStatusBar>();
+    return bar->Create(Child, Room, &parent, SubjectId) ? std::move(bar) : nullptr;
+}
+
+std::unique_ptr<CWnd> MakeMessageBox(CWnd& parent)
+{
+    struct Stays : CZepMsgBoxDlg
+    {
+        Stays()
+            : CZepMsgBoxDlg("A message of a line", MB_YESNOCANCEL, CSize(800, 600), nullptr)
+        {}
+        void OnOK() override {}
+        void OnCancel() override {}
+    };
+    auto box = std::make_unique<Stays>();
+    return box->Create(CZepMsgBoxDlg::IDD, &parent) ? std::move(box) : nullptr;
+}
+
 std::unique_ptr<CWnd> MakeDialog(CWnd& parent)
 {
     DialogTemplate form(CRect(10, 10, 160, 110),
@@ -248,6 +367,11 @@ std::vector<Subject> MakeSubjects()
     };
     subjects.push_back({"check list", &MakeCheckList, ListWords});
     subjects.push_back({"combo", &MakeCombo});
+    subjects.push_back({"report list", &MakeReport, ReportWords, {}, true});
+    subjects.push_back({"tree", &MakeTree, TreeWords, {}, true});
+    subjects.push_back({"tree view", &MakeTreeView, TreeWords, {}, true});
+    subjects.push_back({"search bar", &MakeSearchBar});
+    subjects.push_back({"message box", &MakeMessageBox, {}, {}, true});
     for (const auto& [name, style] : lists)
     {
         subjects.push_back({name, [style = style](CWnd& parent) { return MakeList(parent, style); },

@@ -26,6 +26,9 @@ enum class Argument
     Place,  // a rectangle
     Point,  // packed client coordinates
     Font,
+    ListItem, // an LVITEM
+    TreeItem, // an item of the tree, or none
+    Fixed,    // what the word says
 };
 
 // A message of a control's own.
@@ -34,6 +37,7 @@ struct Word
     UINT message;
     Argument wParam = Argument::None;
     Argument lParam = Argument::None;
+    WPARAM fixed = 0;
 };
 
 constexpr UINT SubjectId = 77;
