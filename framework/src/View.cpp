@@ -28,11 +28,8 @@ BOOL CView::PreCreateWindow(CREATESTRUCT& cs)
 
 CView::~CView()
 {
+    // A window that is still there ends with the base class: here the view would delete itself again.
     LeaveFrame(FALSE);
-    if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
-    {
-        CWnd::DestroyWindow();
-    }
 }
 
 void CView::LeaveFrame(BOOL notify)

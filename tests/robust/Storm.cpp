@@ -18,6 +18,7 @@ constexpr int Patience = 15; // seconds
 
 std::atomic<const Storm*> s_blowing = nullptr;
 std::atomic<unsigned> s_progress = 0;
+std::atomic<int> s_faults = 0;
 
 void SayWhatHappened(const char* what)
 {
@@ -51,6 +52,8 @@ LONG CALLBACK SayWhatLedToIt(EXCEPTION_POINTERS* fault)
     if (code == EXCEPTION_ACCESS_VIOLATION || code == EXCEPTION_ILLEGAL_INSTRUCTION ||
         code == EXCEPTION_STACK_OVERFLOW || code == fastFail)
     {
+        // The platform may catch it and go on: then nothing but this tells.
+        ++s_faults;
         SayWhatHappened("Fault");
     }
     return EXCEPTION_CONTINUE_SEARCH;
@@ -77,6 +80,11 @@ Storm::Storm(const Subject& subject, std::uint32_t seed)
 Storm::~Storm()
 {
     s_blowing = nullptr;
+}
+
+int Storm::Faults()
+{
+    return s_faults;
 }
 
 std::string Storm::Log() const

@@ -20,6 +20,9 @@ public:
     // So many messages. Ends early when the window is gone.
     void Blow(CWnd& parent, CWnd& window, int messages);
 
+    // How often memory was touched that is not there, by any storm so far.
+    static int Faults();
+
     // Subject, seed and the last messages, for whoever has to find out.
     std::string Log() const;
 

@@ -28,6 +28,7 @@ protected:
         std::unique_ptr<CWnd> window = subject.make(Host());
         ASSERT_NE(window, nullptr) << subject.name;
         const HWND handle = window->GetSafeHwnd();
+        const int faults = Storm::Faults();
         Storm storm(subject, seed);
         storm.Blow(Host(), *window, messages);
 
@@ -56,6 +57,7 @@ protected:
         COnBoardUIGeneral::SetAppMode(STD);
         window.reset();
         PumpAll();
+        EXPECT_EQ(Storm::Faults(), faults);
     }
 
 private:
