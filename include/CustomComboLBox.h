@@ -96,6 +96,7 @@ private:
 
     void SetHotRow(int row);
     void InvalidateRow(int row);
+    void TellBarReleased(bool wasHeld);
     void MeasureStandardRow();
     void KeepSelectionInSight();
 };

@@ -31,7 +31,7 @@ class ONBOARDUI_API CCustomDropListCombo : public CWnd
 public:
     CCustomDropListCombo();
     // With a list of the caller's, which stays the caller's and has to outlive the combo or its
-    // detaching. Null: no list, and no items.
+    // detaching. Null: no list, and no items until one is given or taken over.
     explicit CCustomDropListCombo(CCustomComboLBox* list);
     ~CCustomDropListCombo() override;
 
@@ -46,7 +46,8 @@ public:
 
     // Makes the window, a child of parent; registers the class if need be.
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
-    // As CWnd's; a window for which the class has made an object is handed over with its items.
+    // As CWnd's; a window for which the class has made an object is handed over with its items and
+    // the heights it has kept. A list that the caller has given stays, and the items go instead.
     BOOL SubclassWindow(HWND window);
 
     // Called on every mode change; nothing when the modes are equal.
@@ -67,7 +68,8 @@ public:
     // Opens or closes the list and takes or gives back the mouse capture. Says nothing to the
     // parent.
     void ToggleDropList();
-    // The same without the capture.
+    // The same without the capture: rows can be picked, but only a press that takes the focus or
+    // falls on the combo dismisses the list.
     void DoDropButton();
 
     // Shared fonts, made on first use and kept for the life of the process.
@@ -75,7 +77,8 @@ public:
     static CFont& GetStdFont();
 
     // Items. They give CB_ERR when there is no window or no list yet. AddString and InsertString
-    // give the index, RemoveString the number of items left. An index of -1 inserts at the end.
+    // give the index, RemoveString the number of items left. An index of -1 inserts at the end, and
+    // one below it is none.
     virtual int AddString(LPCSTR text);
     virtual int RemoveString(int index);
     // The text of the selected item; empty without one.
@@ -171,7 +174,8 @@ protected:
     CCustomComboLBox* m_list;
     bool m_barHeld = false; // a press on the list's bar goes on; the capture is the list's business
     bool m_expanded = false;
-    bool m_pickArmed = false; // the press in progress picks the row on which it is released
+    bool m_listClosing = false; // the list has a row picked and is about to say so
+    bool m_pickArmed = false;   // the press in progress picks the row on which it is released
     bool m_hasFocus = false;
     bool m_ownsList = true;
 

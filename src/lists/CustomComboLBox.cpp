@@ -217,11 +217,16 @@ void CCustomComboLBox::AppModeChanged(APPMODE newMode, APPMODE oldMode)
         return;
     }
     const WindowAlive alive(*this);
+    const bool held = m_tracking;
     ReCheckScrollBars();
     if (alive)
     {
         MeasureStandardRow();
         Invalidate(FALSE);
+    }
+    if (alive)
+    {
+        TellBarReleased(held);
     }
 }
 
@@ -312,6 +317,10 @@ void CCustomComboLBox::SetHotRow(int row)
 void CCustomComboLBox::Pick(int row)
 {
     const WindowAlive alive(*this);
+    if (m_combo != nullptr)
+    {
+        m_combo->m_listClosing = true;
+    }
     if (row >= 0 && GetSafeHwnd() != nullptr)
     {
         SetCurSel(row);
@@ -352,11 +361,20 @@ LRESULT CCustomComboLBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         // Another row is under the pointer now, which has not moved.
         SetHotRow(RowAt(CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))));
     }
-    if (held && alive && !m_tracking && m_combo != nullptr)
+    if (alive)
+    {
+        TellBarReleased(held);
+    }
+    return result;
+}
+
+// The combo takes its capture back when a press on a bar has ended, however it did.
+void CCustomComboLBox::TellBarReleased(bool wasHeld)
+{
+    if (wasHeld && !m_tracking && m_combo != nullptr)
     {
         m_combo->BarReleased();
     }
-    return result;
 }
 
 int CCustomComboLBox::OnMouseActivate(CWnd*, UINT, UINT)
@@ -364,14 +382,31 @@ int CCustomComboLBox::OnMouseActivate(CWnd*, UINT, UINT)
     return MA_NOACTIVATE;
 }
 
-// The combo has the capture; what comes here came while a bar was held. The platform's list box
-// would take the focus.
+// The combo works the list, whether or not it has the capture. The platform's list box would take
+// the focus.
 
-void CCustomComboLBox::OnLButtonDown(UINT, CPoint) {}
+void CCustomComboLBox::OnLButtonDown(UINT, CPoint point)
+{
+    if (m_combo != nullptr && m_combo->IsExpanded())
+    {
+        ClientToScreen(&point);
+        m_combo->PressAt(point);
+    }
+}
 
-void CCustomComboLBox::OnLButtonDblClk(UINT, CPoint) {}
+void CCustomComboLBox::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
+}
 
-void CCustomComboLBox::OnLButtonUp(UINT, CPoint) {}
+void CCustomComboLBox::OnLButtonUp(UINT, CPoint point)
+{
+    if (m_combo != nullptr)
+    {
+        ClientToScreen(&point);
+        m_combo->ReleaseAt(point);
+    }
+}
 
 void CCustomComboLBox::OnMouseMove(UINT, CPoint point)
 {

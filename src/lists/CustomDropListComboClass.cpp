@@ -154,19 +154,41 @@ BOOL CCustomDropListCombo::Create(DWORD style, const RECT& rect, CWnd* parent, U
 BOOL CCustomDropListCombo::SubclassWindow(HWND window)
 {
     auto* const made = DYNAMIC_DOWNCAST(CCustomDropListCombo, FromHandlePermanent(window));
-    if (GetSafeHwnd() == nullptr && made != nullptr && made != this && made->m_madeByClass)
+    if (GetSafeHwnd() != nullptr || made == nullptr || made == this || !made->m_madeByClass)
     {
-        CCustomComboLBox* const list = made->DetachCustomComboLBox();
-        if (list != nullptr)
+        return CWnd::SubclassWindow(window);
+    }
+    // A list that the caller has given is not thrown away for that of the class's object.
+    if (m_ownsList || m_list == nullptr)
+    {
+        const bool owned = made->m_ownsList;
+        if (CCustomComboLBox* const list = made->DetachCustomComboLBox())
         {
             SetCustomComboLBox(list);
-            m_ownsList = true;
+            m_ownsList = owned;
         }
-        made->m_madeByClass = false;
-        made->UnsubclassWindow();
-        delete made;
     }
-    return CWnd::SubclassWindow(window);
+    else
+    {
+        made->SetCustomComboLBox(nullptr);
+    }
+    const std::vector<int> heights = made->m_heights;
+    made->m_madeByClass = false;
+    made->UnsubclassWindow();
+    delete made;
+    if (!CWnd::SubclassWindow(window))
+    {
+        return FALSE;
+    }
+    // The one of the mode of the moment has just been measured.
+    for (size_t mode = 0; mode < m_heights.size(); ++mode)
+    {
+        if (m_heights[mode] == 0)
+        {
+            m_heights[mode] = heights[mode];
+        }
+    }
+    return TRUE;
 }
 
 BOOL CCustomDropListCombo::SubclassWindow(CWnd* parent, int id, int rows)
@@ -187,6 +209,7 @@ void CCustomDropListCombo::PreSubclassWindow()
 {
     CWnd::PreSubclassWindow();
     m_ending = false;
+    m_sizing = false;
     m_hasFocus = ::GetFocus() == GetSafeHwnd();
     // The window's own procedure still answers.
     m_font = reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));

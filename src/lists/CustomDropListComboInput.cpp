@@ -44,6 +44,7 @@ void CCustomDropListCombo::DoDropButton()
 void CCustomDropListCombo::ToggleDropList()
 {
     const WindowAlive alive(*this);
+    m_listClosing = false;
     m_pickArmed = false;
     m_barHeld = false;
     DoDropButton();
@@ -65,6 +66,7 @@ void CCustomDropListCombo::ToggleDropList()
 void CCustomDropListCombo::ListClosed(int)
 {
     const WindowAlive alive(*this);
+    m_listClosing = false;
     if (m_expanded)
     {
         ToggleDropList();
@@ -138,8 +140,10 @@ void CCustomDropListCombo::PressAt(const CPoint& screen)
         {
             ToggleDropList();
         }
-        // The pointer may go on into the list and pick there.
-        m_pickArmed = alive && m_expanded;
+        if (alive)
+        {
+            m_pickArmed = m_expanded; // the pointer may go on into the list and pick there
+        }
         return;
     }
     if (list == nullptr || !list->HoldsPoint(screen))
@@ -257,7 +261,8 @@ void CCustomDropListCombo::OnCaptureChanged(CWnd* taker)
 {
     const WindowAlive alive(*this);
     CWnd::OnCaptureChanged(taker);
-    if (alive && m_expanded && !m_barHeld && ::GetCapture() != GetSafeHwnd())
+    // A press on the list's bar goes on, and a list that is closing tells it itself.
+    if (alive && m_expanded && !m_barHeld && !m_listClosing && ::GetCapture() != GetSafeHwnd())
     {
         ListClosed(GetCurSel());
     }

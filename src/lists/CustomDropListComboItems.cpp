@@ -87,7 +87,7 @@ int CCustomDropListCombo::AddString(LPCSTR text)
 int CCustomDropListCombo::InsertString(int index, LPCSTR text)
 {
     CCustomComboLBox* const list = List();
-    if (list == nullptr)
+    if (list == nullptr || index < -1)
     {
         return CB_ERR;
     }

@@ -9,6 +9,9 @@
 
 #include <afxwin.h>
 
+#include <algorithm>
+#include <vector>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -32,6 +35,23 @@ protected:
         ++keys;
         CDialog::OnCancel();
     }
+};
+
+// A combo whose memory can be looked at when it is gone.
+class ComboInKeptMemory : public ComboForTests
+{
+public:
+    using ComboForTests::ComboForTests;
+
+    static inline std::vector<unsigned char> kept;
+    static constexpr unsigned char Gone = 0xDD;
+
+    static void* operator new(std::size_t size)
+    {
+        kept.assign(size, 0); // one at a time
+        return kept.data();
+    }
+    static void operator delete(void*) { std::fill(kept.begin(), kept.end(), Gone); }
 };
 
 } // namespace
@@ -238,6 +258,73 @@ TEST_P(ComboInMode, LosingTheFocusClosesAndTells)
     EXPECT_FALSE(combo.IsExpanded());
     EXPECT_EQ(::GetCapture(), Host().GetSafeHwnd());
     ::ReleaseCapture();
+}
+
+TEST_F(ComboTest, AComboMayEndInTheFocusChangeOfThePressThatOpensIt)
+{
+    auto& combo = Add(std::make_unique<ComboInKeptMemory>(), CRect(50, 50, 250, 80));
+    auto& edit = Add<CEdit>(CRect(560, 10, 640, 40));
+    edit.SetFocus();
+    bool ended = false;
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == EN_KILLFOCUS && !ended)
+        {
+            ended = true;
+            Remove(combo);
+        }
+    };
+    Click(combo.Middle());
+    Host().hook = nullptr;
+    ASSERT_TRUE(ended);
+    const auto& kept = ComboInKeptMemory::kept;
+    EXPECT_EQ(std::count(kept.begin(), kept.end(), ComboInKeptMemory::Gone),
+              std::ptrdiff_t(kept.size()));
+    EXPECT_EQ(::GetCapture(), nullptr);
+}
+
+TEST_P(ComboInMode, AListOpenedWithoutTheCaptureIsPickedFromAllTheSame)
+{
+    auto& combo = AddCombo(5);
+    combo.DoDropButton();
+    ASSERT_TRUE(combo.IsExpanded());
+    EXPECT_EQ(::GetCapture(), nullptr);
+    MoveTo(combo.RowPoint(3));
+    Press();
+    EXPECT_TRUE(combo.IsExpanded());
+    EXPECT_THAT(TakeCodes(combo), IsEmpty());
+    Release();
+    EXPECT_FALSE(combo.IsExpanded());
+    EXPECT_EQ(combo.GetCurSel(), 3);
+    EXPECT_THAT(TakeCodes(combo), ElementsAre(Told));
+    // The combo may end in that, which ends the list in the middle of its click.
+    combo.DoDropButton();
+    const CPoint row = combo.RowPoint(1);
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == CBN_SELCHANGE)
+        {
+            Remove(combo);
+        }
+    };
+    Click(row);
+    Host().hook = nullptr;
+    EXPECT_THAT(Host().CodesFrom(FirstId), ElementsAre(Told));
+}
+
+TEST_F(ComboTest, AModeChangeWhileTheListsBarIsHeldGivesTheCaptureBack)
+{
+    const ModeScope mode(ONBOARD);
+    auto& combo = AddCombo(200, 2);
+    Click(combo.Middle());
+    const CRect list = combo.ListRect();
+    MoveTo(CPoint(list.right - 20, list.bottom - 20));
+    Press();
+    ASSERT_TRUE(combo.List().IsBarHeld());
+    COnBoardUIGeneral::SetAppMode(EFB);
+    Release();
+    EXPECT_EQ(::GetCapture(), combo.GetSafeHwnd());
+    Click(Elsewhere);
+    EXPECT_FALSE(combo.IsExpanded());
+    EXPECT_EQ(combo.GetCurSel(), 2);
 }
 
 TEST_F(ComboTest, ADragOfTheThumbThatStraysIntoTheRowsPicksNothing)

@@ -309,6 +309,30 @@ TEST_F(ComboTest, AComboOfATemplateWorksWithoutAnObjectOfTheHosts)
     dialog.DestroyWindow();
 }
 
+TEST_F(ComboTest, ACombosOwnListAndHeightsOutliveTheClasssObject)
+{
+    CDialog dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(ComboForm(), &Host()));
+    auto* const made = CCustomDropListCombo::FromWindow(::GetDlgItem(dialog, ComboId));
+    ASSERT_NE(made, nullptr);
+    made->AddString("the class's");
+    const int standard = WindowRectOf(*made).Height();
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    ASSERT_NE(WindowRectOf(*made).Height(), standard);
+    {
+        CCustomComboLBox list;
+        ComboForTests own(&list);
+        ASSERT_TRUE(own.SubclassWindow(&dialog, ComboId, 4));
+        EXPECT_EQ(&own.List(), &list);
+        EXPECT_EQ(list.GetMaxRows(), 4);
+        EXPECT_EQ(own.GetCount(), 0);
+        EXPECT_EQ(own.AddString("the host's"), 0);
+        COnBoardUIGeneral::SetAppMode(STD);
+        EXPECT_EQ(WindowRectOf(own).Height(), standard);
+    }
+    dialog.DestroyWindow();
+}
+
 TEST_F(ComboTest, AnObjectOfTheHostsIsThereBeforeTheClassMakesOne)
 {
     const size_t before = ComboForTests::m_instances.size();
@@ -400,6 +424,8 @@ TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
         EXPECT_EQ(combo.SetItemDataPtr(absent, data), CB_ERR);
     }
     EXPECT_EQ(combo.InsertString(99, "x"), CB_ERR);
+    EXPECT_EQ(combo.InsertString(-2, "x"), CB_ERR);
+    EXPECT_EQ(combo.InsertString(-1, "last"), 3);
     EXPECT_EQ(combo.GetCurSel(), 1);
     EXPECT_THAT(TakeCodes(combo), IsEmpty());
 }
