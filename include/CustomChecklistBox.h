@@ -41,8 +41,8 @@ public:
     // BS_CHECKBOX, BS_AUTOCHECKBOX (at first), BS_3STATE or BS_AUTO3STATE; others are ignored.
     void SetCheckStyle(UINT style);
     UINT GetCheckStyle() const { return m_checkStyle; }
-    // The parent is not told. Nothing for an item that does not exist, for a check other than 0, 1
-    // and 2, and for 2 in a style of two states.
+    // The parent is not told. Nothing for an item that does not exist and for 2 in a style of two
+    // states. Any other number is kept: below 0 it looks unchecked, above 2 indeterminate.
     void SetCheck(int index, int check);
     // 0 for an item that does not exist.
     int GetCheck(int index);
@@ -77,7 +77,8 @@ public:
     HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
     HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
-    // As a click on the row's check.
+    // Changes the row's check as a click on it would, of this one row, and tells the parent; the
+    // selection and the focus stay.
     HRESULT accDoDefaultAction(VARIANT child) override;
 
 protected:
@@ -95,7 +96,7 @@ protected:
     int CalcMinimumItemHeight();
     // The row under a point in client coordinates, or -1; onCheck: whether it is on the check.
     int CheckFromPoint(CPoint point, int& onCheck);
-    // The same check for every selected row whose check can be changed.
+    // The same check for every selected row, also where the user cannot change it by itself.
     void SetSelectionCheck(int check);
     void InvalidateCheck(int index);
     void InvalidateItem(int index);

@@ -49,12 +49,17 @@ constexpr bool HasThreeStates(UINT style)
     return style == BS_3STATE || style == BS_AUTO3STATE;
 }
 
-// The check that follows when the user works it. A check that the style does not have counts as
-// its last one.
+// The check that follows when the user works it, always one of the style's. The first number that
+// the style does not have counts as its last one.
 constexpr int NextCheck(int check, UINT style)
 {
     const int cycle = HasThreeStates(style) ? 3 : 2;
-    return ((check == cycle ? check - 1 : check) + 1) % cycle;
+    if (check == cycle)
+    {
+        return 0;
+    }
+    const int rest = check % cycle; // no number overflows, and one below 0 comes round too
+    return (rest + cycle + 1) % cycle;
 }
 
 } // namespace lists

@@ -1,5 +1,7 @@
 #include "lists/CheckMarks.h"
 
+#include <algorithm>
+
 namespace lists {
 
 namespace {
@@ -44,7 +46,8 @@ CSize CheckMarks::Size()
 void CheckMarks::Draw(CDC& dc, const CPoint& place, int check)
 {
     Load();
-    dc.BitBlt(place.x, place.y, m_size.cx, m_size.cy - 1, &m_dc, m_size.cx * check, 0, SRCCOPY);
+    const int column = std::clamp(check, 0, Checks - 1);
+    dc.BitBlt(place.x, place.y, m_size.cx, m_size.cy - 1, &m_dc, m_size.cx * column, 0, SRCCOPY);
 }
 
 } // namespace lists

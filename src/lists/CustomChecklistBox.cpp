@@ -174,10 +174,6 @@ void CCustomChecklistBox::SetCheckStyle(UINT style)
 
 void CCustomChecklistBox::SetCheck(int index, int check)
 {
-    if (check < BST_UNCHECKED || check > BST_INDETERMINATE || !Exists(index))
-    {
-        return;
-    }
     if (check == BST_INDETERMINATE && !lists::HasThreeStates(m_checkStyle))
     {
         AnnounceState(index); // who listens asks again and finds it as it was
@@ -224,7 +220,11 @@ BOOL CCustomChecklistBox::IsEnabled(int index)
 // For assistive programs. A listener in this process may do anything in it.
 void CCustomChecklistBox::AnnounceState(int index)
 {
-    ::NotifyWinEvent(EVENT_OBJECT_STATECHANGE, GetSafeHwnd(), OBJID_CLIENT, index + 1);
+    if (GetSafeHwnd() != nullptr)
+    {
+        const LONG child = LONG(ULONG(index) + 1); // also of an index that no item has
+        ::NotifyWinEvent(EVENT_OBJECT_STATECHANGE, GetSafeHwnd(), OBJID_CLIENT, child);
+    }
 }
 
 // List messages ---------------------------------------------------------------------------------

@@ -45,6 +45,14 @@ BSTR Wide(const CString& text)
     return wide;
 }
 
+// Whether a list does what the flags ask for; only one of many selected rows adds to them.
+constexpr bool CanSelect(long flags, bool many)
+{
+    const long selects = flags & ~long(SELFLAG_TAKEFOCUS);
+    return selects == SELFLAG_NONE || selects == SELFLAG_TAKESELECTION ||
+           (many && (selects == SELFLAG_ADDSELECTION || selects == SELFLAG_REMOVESELECTION));
+}
+
 const wchar_t* Verb(int nextCheck)
 {
     switch (nextCheck)
@@ -127,7 +135,7 @@ HRESULT CCustomChecklistBox::get_accState(VARIANT child, VARIANT* state)
     const auto add = [&bits](bool when, long bit) { bits |= when ? bit : 0; };
     const int check = GetCheck(index);
     add(check == BST_CHECKED, STATE_SYSTEM_CHECKED);
-    add(check == BST_INDETERMINATE, STATE_SYSTEM_MIXED);
+    add(check >= BST_INDETERMINATE, STATE_SYSTEM_MIXED);
     add(!IsWindowEnabled() || !IsEnabled(index), STATE_SYSTEM_UNAVAILABLE);
     add(IsWindowEnabled(), STATE_SYSTEM_FOCUSABLE);
     add(::GetFocus() == GetSafeHwnd() && index == Ask(LB_GETCARETINDEX), STATE_SYSTEM_FOCUSED);
@@ -182,8 +190,13 @@ HRESULT CCustomChecklistBox::accSelect(long flags, VARIANT child)
     {
         return E_INVALIDARG;
     }
-    const WindowAlive alive(*this);
     const bool many = FlipsSelection() || ExtendsSelection();
+    if (!CanSelect(flags, many))
+    {
+        return E_INVALIDARG;
+    }
+    const WindowAlive alive(*this);
+    const std::vector<int> before = SelectedRows();
     if ((flags & SELFLAG_TAKEFOCUS) != 0)
     {
         SetFocus();
@@ -211,6 +224,10 @@ HRESULT CCustomChecklistBox::accSelect(long flags, VARIANT child)
     if (alive && many && (flags & SELFLAG_REMOVESELECTION) != 0)
     {
         SendMessage(LB_SETSEL, FALSE, LPARAM(index));
+    }
+    if (alive && (GetStyle() & LBS_NOTIFY) != 0 && SelectedRows() != before)
+    {
+        NotifyParent(LBN_SELCHANGE);
     }
     return S_OK;
 }

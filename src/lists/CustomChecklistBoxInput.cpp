@@ -14,13 +14,15 @@ constexpr WPARAM Space = ' ';
 // Whether the user can change a row's check.
 bool CCustomChecklistBox::CanChange(int index)
 {
-    return lists::ChangesItself(m_checkStyle) && IsEnabled(index);
+    // A list without data has nowhere to keep a check.
+    return lists::ChangesItself(m_checkStyle) && (GetStyle() & LBS_NODATA) == 0 && IsEnabled(index);
 }
 
-// Whether each click and each space changes the selection of one row and leaves the others.
+// Whether each space changes the selection of one row and leaves the others. Of a list with both
+// styles that is true of the key alone: to clicks it is one of an extended selection.
 bool CCustomChecklistBox::FlipsSelection() const
 {
-    return (GetStyle() & LBS_MULTIPLESEL) != 0 && !ExtendsSelection();
+    return (GetStyle() & LBS_MULTIPLESEL) != 0;
 }
 
 // The last thing that its callers do.
@@ -65,7 +67,7 @@ void CCustomChecklistBox::SetSelectionCheck(int check)
         {
             return;
         }
-        if (IsEnabled(index) && GetCheck(index) != check)
+        if (GetCheck(index) != check)
         {
             SetCheck(index, check);
         }
@@ -161,7 +163,7 @@ void CCustomChecklistBox::OnKeyDown(UINT key, UINT repeat, UINT flags)
     const bool changes = canChange && (!flips || IsSelected(caret));
     if (changes)
     {
-        ChangeCheck(caret, ExtendsSelection());
+        ChangeCheck(caret, ExtendsSelection() && !flips);
     }
     if (alive && (flips || !canChange))
     {

@@ -345,6 +345,10 @@ void CCustomChecklistBox::OnPaint()
 
 BOOL CCustomChecklistBox::OnEraseBkgnd(CDC* dc)
 {
+    if (dc == nullptr)
+    {
+        return BOOL(Default());
+    }
     // A row is never seen without its ground: it is painted in one copy.
     const int saved = dc->SaveDC();
     dc->ExcludeClipRect(RowsArea());

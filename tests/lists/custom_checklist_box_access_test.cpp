@@ -148,7 +148,7 @@ TEST_F(CheckListAccess, EachRowIsACheckButtonWithItsState)
     }
 }
 
-TEST_F(CheckListAccess, TheDefaultActionIsAClickOnTheCheck)
+TEST_F(CheckListAccess, TheDefaultActionChangesTheCheck)
 {
     auto& list = AddList(3, BS_AUTO3STATE);
     const Held<IAccessible> object = Reached(list);
@@ -222,6 +222,18 @@ TEST_F(CheckListAccess, PlacesFocusAndSelection)
     EXPECT_EQ(ids[0].lVal, 5);
     EXPECT_EQ(ids[1].lVal, 7);
     answer.punkVal->Release();
+    // The parent is told what came of it, and what cannot be done is said.
+    EXPECT_EQ(Host().CodesFrom(FirstId),
+              (std::vector<UINT>{LBN_SETFOCUS, LBN_SELCHANGE, LBN_SELCHANGE}));
+    for (const long flags : {long(SELFLAG_EXTENDSELECTION), 0x20L, -1L,
+                             long(SELFLAG_ADDSELECTION | SELFLAG_REMOVESELECTION)})
+    {
+        EXPECT_EQ(object->accSelect(flags, Child(2)), E_INVALIDARG) << flags;
+    }
+    auto& single = AddList(3);
+    EXPECT_EQ(Reached(single)->accSelect(SELFLAG_ADDSELECTION, Child(2)), E_INVALIDARG);
+    EXPECT_EQ(list.GetSelCount(), 2);
+    EXPECT_EQ(Host().CodesFrom(FirstId).size(), 3U);
 }
 
 namespace {
@@ -246,6 +258,7 @@ TEST_F(CheckListAccess, ChangesOfStateAreAnnounced)
     list.SetCheck(2, 1);
     list.SetCheck(1, 2); // refused, and announced all the same
     list.SetCheck(9, 1);
+    list.SetCheck(9, 2); // refused before the row is looked for
     Click(list.CheckPoint(0));
     list.Enable(3, FALSE);
     list.Enable(3, FALSE);
@@ -258,7 +271,7 @@ TEST_F(CheckListAccess, ChangesOfStateAreAnnounced)
             children.push_back(child);
         }
     }
-    EXPECT_THAT(children, ElementsAre(3, 2, 1, 4));
+    EXPECT_THAT(children, ElementsAre(3, 2, 10, 1, 4));
     EXPECT_EQ(list.GetCheck(1), 0);
 }
 

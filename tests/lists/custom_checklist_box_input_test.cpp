@@ -125,7 +125,7 @@ TEST_F(CheckListTest, AnExtendedSelectionIsCheckedTogether)
     list.Enable(3, FALSE);
     Host().Forget();
     TypeKey(VK_SPACE);
-    EXPECT_THAT(list.Checks(), ElementsAre(0, 1, 1, 0, 0, 0)) << "a fixed check stays";
+    EXPECT_THAT(list.Checks(), ElementsAre(0, 1, 1, 1, 0, 0));
     EXPECT_EQ(Told(list), 1);
     EXPECT_EQ(list.GetSelCount(), 3);
     // A click on the check of a selected row leaves the rows selected ...
@@ -145,9 +145,26 @@ TEST_F(CheckListTest, AnExtendedSelectionIsCheckedTogether)
     EXPECT_THAT(list.Checks(), ElementsAre(1, 0, 0, 0, 1, 1));
 }
 
-TEST_F(CheckListTest, WhereSpaceSelectsItFlipsTheSelectionEachTime)
+TEST_F(CheckListTest, AListThatKeepsNoDataTellsOfNoChange)
 {
-    auto& list = AddList(3, BS_AUTOCHECKBOX, CheckListStyle | LBS_MULTIPLESEL);
+    auto& list = AddList(0, BS_AUTOCHECKBOX, LBS_NODATA | LBS_OWNERDRAWFIXED | LBS_NOTIFY);
+    list.SendMessage(LB_SETCOUNT, 3);
+    list.SetFocus();
+    list.SetCurSel(1);
+    TypeKey(VK_SPACE);
+    Click(list.CheckPoint(1));
+    EXPECT_EQ(Told(list), 0);
+}
+
+class MultipleCheckList : public CheckListTest, public testing::WithParamInterface<DWORD>
+{};
+
+INSTANTIATE_TEST_SUITE_P(Kinds, MultipleCheckList,
+                         testing::Values(LBS_MULTIPLESEL, LBS_MULTIPLESEL | LBS_EXTENDEDSEL));
+
+TEST_P(MultipleCheckList, WhereSpaceSelectsItFlipsTheSelectionEachTime)
+{
+    auto& list = AddList(3, BS_AUTOCHECKBOX, CheckListStyle | GetParam());
     list.SetFocus();
     list.SetCaretIndex(1);
     struct

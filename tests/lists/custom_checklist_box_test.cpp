@@ -46,19 +46,32 @@ TEST_F(CheckListTest, OddArgumentsHaveADefinedResult)
         EXPECT_EQ(list.SetItemData(index, 7), LB_ERR) << index;
         EXPECT_EQ(list.GetItemData(index), DWORD_PTR(LB_ERR)) << index;
     }
-    for (const int check : {-1, 3, INT_MAX})
-    {
-        list.SetCheck(0, check);
-        EXPECT_EQ(list.GetCheck(0), 0) << check;
-    }
     for (const UINT style : {0U, 4U, UINT(BS_OWNERDRAW), 999U})
     {
         list.SetCheckStyle(style);
         EXPECT_EQ(list.GetCheckStyle(), UINT(BS_3STATE));
     }
     EXPECT_EQ(list.Records(), 0U);
+    // Any number is kept, looks like the state next to it and goes round from there.
+    for (const int check : {-1, 3, INT_MAX, INT_MIN})
+    {
+        list.SetCheck(0, check);
+        list.SetCheck(1, check < 0 ? 0 : 2);
+        EXPECT_EQ(list.GetCheck(0), check);
+        PumpAll();
+        EXPECT_EQ(ScreenPixels(CRect(list.CheckPoint(0) - CSize(4, 4), CSize(9, 9))),
+                  ScreenPixels(CRect(list.CheckPoint(1) - CSize(4, 4), CSize(9, 9))))
+            << check;
+        for (const UINT style : {BS_AUTOCHECKBOX, BS_AUTO3STATE})
+        {
+            const int next = lists::NextCheck(check, style);
+            EXPECT_TRUE(next >= 0 && next < (style == BS_AUTO3STATE ? 3 : 2)) << check;
+        }
+    }
+    list.SendMessage(WM_ERASEBKGND); // with nothing to erase on
     CCustomChecklistBox unborn;
     unborn.SetCheck(0, 1);
+    unborn.SetCheck(0, 2);
     EXPECT_EQ(unborn.GetCheck(0), 0);
 
     auto& noData = AddList(0, BS_AUTOCHECKBOX, LBS_NODATA | LBS_OWNERDRAWFIXED);
