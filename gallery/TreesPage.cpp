@@ -101,6 +101,10 @@ END_MESSAGE_MAP()
 
 LRESULT WorldTree::Receive(const char* how, LPARAM lParam)
 {
+    if (::InSendMessage())
+    {
+        return FALSE; // from another thread or process, where the pointer means nothing
+    }
     const auto* payload = reinterpret_cast<const KArray*>(lParam);
     if (payload == nullptr || payload->GetCount() == 0)
     {
@@ -163,6 +167,10 @@ void DropArea::OnPaint()
 
 LRESULT DropArea::Receive(const char* how, LPARAM lParam)
 {
+    if (::InSendMessage())
+    {
+        return FALSE; // from another thread or process, where the pointer means nothing
+    }
     const auto* payload = reinterpret_cast<const KArray*>(lParam);
     if (payload == nullptr || payload->GetCount() == 0)
     {
