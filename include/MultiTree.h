@@ -65,7 +65,7 @@ public:
     virtual void SelectRange(HTREEITEM first, HTREEITEM last, bool only);
     virtual bool IsSelected(HTREEITEM item) const;
     // Whether the user may add an item to the selection with Ctrl, and drag it: not null.
-    virtual bool CanCtrlSelectItem(HTREEITEM item) const;
+    virtual bool CanCtrlSelectItem(HTREEITEM item);
 
     // Changes state bits. TVIS_FOCUSED moves the caret without selecting; TVIS_SELECTED asks and
     // tells the parent, as above. FALSE when it is refused.

@@ -51,6 +51,7 @@ BOOL MultiTree::PreCreateWindow(CREATESTRUCT& cs)
 void MultiTree::PreSubclassWindow()
 {
     CTreeCtrl::PreSubclassWindow();
+    m_selection->BeginWindow();
     if (!m_creating)
     {
         ModifyStyle(0, TVS_SHOWSELALWAYS); // a tree that exists already
@@ -137,7 +138,7 @@ bool MultiTree::IsSelected(HTREEITEM item) const
     return m_selection->Items().IsSelected(TreeItems::Real(item));
 }
 
-bool MultiTree::CanCtrlSelectItem(HTREEITEM item) const
+bool MultiTree::CanCtrlSelectItem(HTREEITEM item)
 {
     return TreeItems::Real(item) != nullptr;
 }

@@ -187,7 +187,7 @@ TreeSelection::LoopEnd TreeSelection::RunBand(Band& band, MSG& last)
     const WindowAlive alive(Window());
     const CSize threshold = m_owner.GetDragThreshold();
     const CPoint first = band.pointer;
-    while (alive)
+    while (alive && m_band == &band)
     {
         const LoopEnd end = NextOfPress(last);
         if (end != LoopEnd::Moved)
@@ -200,7 +200,7 @@ TreeSelection::LoopEnd TreeSelection::RunBand(Band& band, MSG& last)
         }
         ::TranslateMessage(&last);
         ::DispatchMessage(&last);
-        if (!alive || last.message != WM_MOUSEMOVE || last.hwnd != Handle())
+        if (!alive || m_band != &band || last.message != WM_MOUSEMOVE || last.hwnd != Handle())
         {
             continue;
         }
@@ -221,16 +221,10 @@ void TreeSelection::DoBanding(bool left, UINT flags, CPoint point)
         return;
     }
     const WindowAlive alive(Window());
-    const bool hadCaret = m_items.Caret() != nullptr;
-    ::SetFocus(Handle()); // Escape has to come here
-    if (!alive)
+    // Escape has to come here.
+    if (!TakeKeyboard() || m_inLoop)
     {
         return;
-    }
-    if (!hadCaret)
-    {
-        // The platform gives the first item its caret with the focus, and selects it.
-        m_items.Apply(m_items.Caret(), 0, TVIS_SELECTED);
     }
     Band band(*this, flags, point);
     m_band = &band;
@@ -432,6 +426,12 @@ LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
             return FALSE;
         }
     }
+    if (message == WM_NCDESTROY)
+    {
+        Reset();
+        m_look->Reset();
+        m_laidOut = nullptr;
+    }
     LRESULT result = 0;
     if (m_look->Before(message, wParam, lParam, result) || !alive)
     {
@@ -463,7 +463,7 @@ void TreeSelection::Paint()
 
 bool TreeSelection::EraseBackground()
 {
-    return m_look->PaintsAll() || m_band != nullptr;
+    return m_look->PaintsAll() || (m_band != nullptr && m_band->stretched);
 }
 
 } // namespace trees

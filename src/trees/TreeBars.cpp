@@ -62,6 +62,19 @@ void TreeBars::LeaveOnBoard()
     }
 }
 
+void TreeBars::Reset()
+{
+    m_held = nullptr;
+    m_part = CFauxScrollBar::PRESSED_NONE;
+    m_platformStyles = 0;
+    for (Bar* each : {&m_vertical, &m_horizontal})
+    {
+        each->shown = false;
+        each->bar.ShowScrollBar(FALSE);
+        each->painter.Invalidate();
+    }
+}
+
 // Mirroring -------------------------------------------------------------------------------------
 
 // Whether the bar has come or gone.
@@ -206,8 +219,8 @@ bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
         }
         if (m_held == nullptr || !scroll::LeftButtonDown())
         {
-            EndPress(); // released somewhere else, where no message told of it
             Window().KillTimer(RepeatTimer);
+            EndPress(); // released somewhere else, where no message told of it
         }
         else
         {

@@ -22,6 +22,8 @@ public:
     // Takes the platform's bars away and gives them back.
     void EnterOnBoard();
     void LeaveOnBoard();
+    // Neither bar is there any more, and no window to be changed for that.
+    void Reset();
 
     // Each message in an on-board mode before the platform has it: true when it is done with, with
     // its answer in result. And after.

@@ -125,6 +125,10 @@ CRect TreeItems::Rect(HTREEITEM item, bool textOnly) const
 
 void TreeItems::Learn()
 {
+    if (m_known && m_owner.Window().GetSafeHwnd() == nullptr)
+    {
+        Reset(); // the window was let go without ending
+    }
     if (m_known)
     {
         FollowCaret();
@@ -168,7 +172,7 @@ void TreeItems::FollowCaret()
         return;
     }
     HTREEITEM caret = Caret();
-    if (m_goingAll > 0 || m_going.count(caret) != 0)
+    if (IsGoing(caret))
     {
         caret = nullptr; // about to be deleted, and not to be asked about afterwards
     }
@@ -235,7 +239,7 @@ std::vector<HTREEITEM> TreeItems::Unselected(HTREEITEM branch)
     for (HTREEITEM item = branch == nullptr ? Root() : branch; item != nullptr;
          item = NextInBranch(item, branch))
     {
-        if (m_selected.count(item) == 0)
+        if (m_selected.count(item) == 0 && !IsGoing(item))
         {
             found.push_back(item);
         }
@@ -278,6 +282,18 @@ void TreeItems::ForgetAll()
     {
         std::fill(watch->m_items.begin(), watch->m_items.end(), nullptr);
     }
+}
+
+void TreeItems::Reset()
+{
+    ForgetAll();
+    m_known = false;
+    m_hostRedraw = true;
+    m_unwritten = nullptr;
+    m_going.clear();
+    m_goingAll = 0;
+    m_inPlatform = 0;
+    m_postponed.reset();
 }
 
 // The items that go with a branch, or with what is below it.
@@ -401,7 +417,7 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const bool caretLeaves =
         message == TVM_SELECTITEM && wParam == TVGN_CARET && HTREEITEM(lParam) != m_unwritten;
-    if (!caretLeaves && message != WM_DESTROY)
+    if (!caretLeaves && message != WM_DESTROY && message != WM_NCDESTROY)
     {
         WriteUnwritten();
     }
@@ -409,7 +425,7 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     // What it has is better lost than freed under it.
     const bool abandons =
         (message == WM_DESTROY && m_inPlatform > 0) || (message == WM_NCDESTROY && m_abandoned);
-    m_abandoned = abandons || (m_abandoned && message != WM_CREATE);
+    m_abandoned = message != WM_NCDESTROY && message != WM_CREATE && (abandons || m_abandoned);
     std::vector<HTREEITEM> going;
     bool goingAll = false;
     if (message == TVM_DELETEITEM && m_inPlatform > 0)
@@ -440,14 +456,9 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
         m_known = true; // a new tree is empty
         break;
     case WM_DESTROY:
+    case WM_NCDESTROY:
         // The items stay for whoever asks while the window ends, but nothing may be held of them.
-        ForgetAll();
-        m_unwritten = nullptr;
-        m_going.clear();
-        m_goingAll = 0;
-        m_inPlatform = 0;
-        m_postponed.reset();
-        m_known = false;
+        Reset();
         break;
     case WM_SETREDRAW:
         m_hostRedraw = wParam != FALSE;
@@ -467,7 +478,14 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     {
         return result;
     }
-    m_inPlatform -= movesCaret;
+    if (message == WM_NCDESTROY)
+    {
+        Reset(); // whoever asked while the items went has had them counted again
+        return result;
+    }
+    // Both may have begun anew meanwhile.
+    m_inPlatform -= movesCaret && m_inPlatform > 0;
+    m_goingAll -= goingAll && m_goingAll > 0;
     if (caretLeaves && m_unwritten != nullptr)
     {
         if (Caret() == m_unwritten)
@@ -476,7 +494,6 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
         }
         m_unwritten = nullptr;
     }
-    m_goingAll -= goingAll;
     for (const HTREEITEM item : going)
     {
         m_going.erase(item);

@@ -66,8 +66,13 @@ public:
     std::vector<HTREEITEM> Selected(HTREEITEM branch = nullptr);
     std::vector<HTREEITEM> Unselected(HTREEITEM branch = nullptr);
     HTREEITEM NextSelected(HTREEITEM after); // in tree order; after null: the first
+    // Whether an item is there only until the platform is done, and gone for everybody else.
+    bool IsGoing(HTREEITEM item) const { return m_goingAll > 0 || m_going.count(item) != 0; }
     // As IsSelected, without asking the platform.
     bool HoldsSelected(HTREEITEM item);
+
+    // Nothing is known any more: the tree's window has ended, or another one is taken over.
+    void Reset();
 
     // Every message on its way to the platform's tree comes through here.
     LRESULT Native(UINT message, WPARAM wParam, LPARAM lParam);

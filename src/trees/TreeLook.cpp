@@ -17,6 +17,7 @@ namespace trees {
 
 bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
+    const WindowAlive alive(m_owner.Window());
     switch (message)
     {
     case WM_SIZE:
@@ -25,6 +26,10 @@ bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
     case WM_RBUTTONDOWN:
     case WM_KEYDOWN:
         Follow();
+        if (!alive)
+        {
+            return true;
+        }
         break;
     default:
         break;
@@ -86,6 +91,18 @@ void TreeLook::Follow()
         m_bold.DeleteObject();
         m_owner.Window().Invalidate();
     }
+}
+
+void TreeLook::Reset()
+{
+    m_bars.Reset();
+    m_onBoard = false;
+    m_following = false;
+    m_sawStandard = false;
+    m_standardFont = nullptr;
+    m_standardRow = -1;
+    m_standardIndent = 0;
+    m_bold.DeleteObject();
 }
 
 void TreeLook::EnterOnBoard()
@@ -165,8 +182,10 @@ bool TreeLook::Read(HTREEITEM item, Row& row) const
     data.pszText = buffer;
     data.cchTextMax = int(sizeof(buffer)) - 1;
     const WindowAlive alive(m_owner.Window());
+    const WatchedItem held(m_items, item);
     // Items may leave text, icon and children to the parent, which is asked now.
-    if (!m_items.Ask(TVM_GETITEM, 0, reinterpret_cast<LPARAM>(&data)) || !alive)
+    if (!m_items.Ask(TVM_GETITEM, 0, reinterpret_cast<LPARAM>(&data)) || !alive ||
+        held.Get() == nullptr)
     {
         return false;
     }
@@ -175,8 +194,8 @@ bool TreeLook::Read(HTREEITEM item, Row& row) const
     row.image = (data.state & TVIS_SELECTED) != 0 ? data.iSelectedImage : data.iImage;
     row.branch = data.cChildren != 0;
     row.label = data.pszText == nullptr ? "" : data.pszText;
-    row.text = m_items.Rect(item, true);
-    return true;
+    row.text = m_items.Rect(item, true); // by the text, which the parent may be asked for again
+    return alive && held.Get() != nullptr;
 }
 
 HGDIOBJ TreeLook::Font(bool bold)

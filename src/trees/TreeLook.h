@@ -25,6 +25,8 @@ public:
     void After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
     // Takes up the mode of the moment.
     void Follow();
+    // The window that was laid out has ended or is no longer ours: the next one begins afresh.
+    void Reset();
 
     // Whether Paint covers everything, so that nothing is to be erased.
     bool PaintsAll() const { return m_onBoard; }

@@ -126,7 +126,7 @@ bool TreeSelection::SelectChildren(HTREEITEM given, bool select, bool recurse)
         for (HTREEITEM child = item == nullptr ? m_items.Root() : m_items.Next(item, TVGN_CHILD);
              child != nullptr; child = m_items.Next(child, TVGN_NEXT))
         {
-            if (!m_items.IsSelected(child))
+            if (!m_items.IsSelected(child) && !m_items.IsGoing(child))
             {
                 items.push_back(child);
             }
@@ -155,7 +155,10 @@ void TreeSelection::SelectRange(HTREEITEM first, HTREEITEM last, bool only)
         const bool end = item == first || item == last;
         if (inside || end)
         {
-            range.push_back(item);
+            if (!m_items.IsGoing(item))
+            {
+                range.push_back(item);
+            }
             if (end && (inside || first == last))
             {
                 break;
@@ -169,6 +172,7 @@ void TreeSelection::SelectRange(HTREEITEM first, HTREEITEM last, bool only)
     }
     const WindowAlive alive(Window());
     const WatchedItems held(m_items, range);
+    const WatchedItems asked(m_items, before);
     const BulkChange bulk(*this, before.size() + range.size() + m_items.SelectedCount());
     ChangeEach(before, false, false);
     if (!alive)
@@ -180,9 +184,11 @@ void TreeSelection::SelectRange(HTREEITEM first, HTREEITEM last, bool only)
     {
         return;
     }
-    const std::unordered_set<HTREEITEM> inRange(held.All().begin(), held.All().end());
+    // The parent is asked once for each item, also where it has refused before the range.
+    std::unordered_set<HTREEITEM> done(held.All().begin(), held.All().end());
+    done.insert(asked.All().begin(), asked.All().end());
     std::vector<HTREEITEM> later = m_items.Selected();
-    std::erase_if(later, [&](HTREEITEM item) { return inRange.count(item) != 0; });
+    std::erase_if(later, [&](HTREEITEM item) { return done.count(item) != 0; });
     ChangeEach(later, false, false);
 }
 

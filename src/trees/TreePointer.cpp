@@ -5,6 +5,7 @@
 #include "modes/WindowAlive.h"
 #include "trees/TreeLook.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace trees {
@@ -187,6 +188,27 @@ TreeSelection::LoopEnd TreeSelection::WaitForMove(MSG& last)
     return alive ? end : LoopEnd::Lost;
 }
 
+// Takes the keyboard focus and leaves the selection as it is. False when the window went by that.
+bool TreeSelection::TakeKeyboard()
+{
+    const WindowAlive alive(Window());
+    const bool hadCaret = m_items.Caret() != nullptr;
+    const WatchedItems before(m_items, hadCaret ? std::vector<HTREEITEM>() : m_items.Selected());
+    ::SetFocus(Handle());
+    if (!alive)
+    {
+        return false;
+    }
+    // Without a caret the platform gives its own to the first item, and selects that.
+    const HTREEITEM caret = m_items.Caret();
+    if (!hadCaret && caret != nullptr &&
+        std::find(before.All().begin(), before.All().end(), caret) == before.All().end())
+    {
+        m_items.Apply(caret, 0, TVIS_SELECTED);
+    }
+    return true;
+}
+
 void TreeSelection::BeginLoop()
 {
     ::SetCapture(Handle());
@@ -262,13 +284,9 @@ void TreeSelection::TellClick(const WatchedItem& item, bool left, CPoint point, 
 {
     const WindowAlive alive(Window());
     const HWND window = Handle();
-    if (::GetFocus() != window)
+    if (::GetFocus() != window && !TakeKeyboard())
     {
-        ::SetFocus(window);
-        if (!alive)
-        {
-            return;
-        }
+        return;
     }
     NMTREEVIEW notify = {};
     notify.hdr.code = left ? NM_CLICK : NM_RCLICK;

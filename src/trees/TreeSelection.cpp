@@ -34,6 +34,30 @@ TreeSelection::TreeSelection(TreeOwner& owner)
 
 TreeSelection::~TreeSelection() = default;
 
+// What belongs to one window ends with it: the object may get another one. The loops and calls that
+// are still on the stack find their window gone and touch nothing here.
+void TreeSelection::Reset()
+{
+    m_items.Reset();
+    m_emulated = false;
+    m_bulk = false;
+    m_scrollTimer = 0;
+    m_scrollDirection = 0;
+    m_inLoop = false;
+    m_endsClick = false;
+    m_band = nullptr;
+}
+
+void TreeSelection::BeginWindow()
+{
+    Reset();
+    if (m_laidOut != Handle())
+    {
+        m_look->Reset();
+        m_laidOut = Handle();
+    }
+}
+
 void TreeSelection::SetMultiSelect(bool multi)
 {
     if (m_multi && !multi && Handle() != nullptr)

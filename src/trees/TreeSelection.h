@@ -88,6 +88,8 @@ public:
     void StopAutoScroll();
     bool IsAutoScroll(UINT_PTR timer) const { return timer != 0 && timer == m_scrollTimer; }
 
+    // At the begin of each window, made or taken over.
+    void BeginWindow();
     void Paint();
     bool EraseBackground();
     LRESULT Native(UINT message, WPARAM wParam, LPARAM lParam);
@@ -116,6 +118,7 @@ private:
     bool m_endsClick = false; // the button-up of a click is being dispatched
     DWORD m_pressSeen = 0;    // tick count of the press's last pointer message
     Band* m_band = nullptr;   // lives in DoBanding
+    HWND m_laidOut = nullptr; // the window that the look is of
 
     CWnd& Window() const { return m_owner.Window(); }
     HWND Handle() const { return Window().GetSafeHwnd(); }
@@ -131,6 +134,8 @@ private:
 
     LoopEnd NextOfPress(MSG& message);
     LoopEnd WaitForMove(MSG& last);
+    void Reset();
+    bool TakeKeyboard();
     void BeginLoop();
     void EndLoop();
     void Click(const WatchedItem& item, UINT flags);

@@ -99,6 +99,33 @@ TEST_F(MultiTreeInputTest, TheRightButtonKeepsASelectionAndOpensOneMenu)
     EXPECT_EQ(SelectedTexts(tree), "bcd");
 }
 
+TEST_F(MultiTreeInputTest, TheKeyboardFocusSelectsNothing)
+{
+    // Without focus and caret: the platform selects the first item with its caret.
+    auto& tree = AddTree();
+    const auto rest = [&](HTREEITEM selected) {
+        tree.SelectItem(nullptr);
+        Host().SetFocus();
+        tree.CTreeCtrl::SelectItem(nullptr);
+        if (selected != nullptr)
+        {
+            tree.SetItemState(selected, TVIS_SELECTED, TVIS_SELECTED);
+        }
+        ASSERT_EQ(tree.GetFocusedItem(), nullptr);
+    };
+    for (const UINT key : {VK_CONTROL, VK_SHIFT})
+    {
+        rest(nullptr);
+        ClickItem(tree, d, {key}, true);
+        EXPECT_EQ(::GetFocus(), tree.GetSafeHwnd());
+        EXPECT_EQ(SelectedTexts(tree), "") << key;
+    }
+    rest(a);
+    const CPoint beside = EmptyBeside(tree, e);
+    PressScript(beside, {VK_CONTROL}).Move(beside + CPoint(10, 5)).Release();
+    EXPECT_EQ(SelectedTexts(tree), "a") << "what was selected stays so";
+}
+
 TEST_F(MultiTreeInputTest, APressIsADragOnceItMovesFarEnough)
 {
     struct Case

@@ -163,6 +163,106 @@ struct RangeCase
     const char* selected; // f is selected before
 };
 
+TEST_F(MultiTreeTest, ARangeAsksOnceForEachItem)
+{
+    auto& tree = AddTree();
+    for (const HTREEITEM item : {a, b, f})
+    {
+        tree.SetItemState(item, TVIS_SELECTED, TVIS_SELECTED);
+    }
+    std::string asked;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(TVN_SELCHANGING))
+        {
+            const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
+            const TVITEM& side = notify.itemNew.hItem != nullptr ? notify.itemNew : notify.itemOld;
+            asked += tree.GetItemText(side.hItem)[0];
+            told.answer = side.hItem == a || side.hItem == f;
+        }
+    };
+    tree.SelectRange(d, e, true);
+    EXPECT_EQ(asked, "abdef") << "a and f are refused, and not asked for again";
+    EXPECT_EQ(SelectedTexts(tree), "adef");
+}
+
+TEST_F(MultiTreeTest, ASecondWindowOfTheObjectBeginsAfresh)
+{
+    const CRect place(20, 20, 320, 320);
+    const DWORD style = TreeStyle | WS_CHILD | WS_VISIBLE;
+    auto& tree = AddTree();
+    const auto makeAgain = [&] {
+        if (tree.GetSafeHwnd() != nullptr)
+        {
+            tree.DestroyWindow();
+        }
+        EXPECT_TRUE(tree.Create(style, place, &Host(), FirstId));
+        d = AddItems(tree, "def")[0];
+        PumpAll();
+    };
+    const UINT ownHeight = tree.GetItemHeight();
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    for (int round = 0; round < 2; ++round)
+    {
+        makeAgain();
+        EXPECT_GE(tree.GetItemHeight(), 40) << "window " << round;
+        EXPECT_GE(tree.GetIndent(), 40U);
+    }
+    COnBoardUIGeneral::SetAppMode(STD);
+    makeAgain();
+    EXPECT_EQ(tree.GetItemHeight(), ownHeight);
+
+    // The window ends while a press, a band and a notification are on.
+    PressScript(PointOf(tree, d)).Do([&] { tree.DestroyWindow(); }).Release();
+    makeAgain();
+    ClickItem(tree, d);
+    EXPECT_EQ(SelectedTexts(tree), "d") << "after a press";
+    const CPoint beside = EmptyBeside(tree, d);
+    PressScript(beside)
+        .Move(beside + CPoint(20, 20))
+        .Do([&] { tree.DestroyWindow(); })
+        .Do([&] { makeAgain(); })
+        .Release();
+    ClickItem(tree, d);
+    EXPECT_EQ(SelectedTexts(tree), "d") << "after a band";
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(TVN_SELCHANGED) && tree.IsEmulatedNotify())
+        {
+            Host().hook = nullptr;
+            tree.DestroyWindow();
+        }
+    };
+    tree.SelectAll(true, true);
+    makeAgain();
+    EXPECT_FALSE(tree.IsEmulatedNotify());
+}
+
+TEST_F(MultiTreeTest, ASecondTreeIsTakenOverAfterTheFirst)
+{
+    const auto addPlain = [&](const char* names, size_t selected) {
+        auto& plain = Add<CTreeCtrl>(CRect(20, 20, 220, 220), TreeStyle);
+        const auto items = AddItems(plain, names);
+        plain.SetItemState(items[selected], TVIS_SELECTED, TVIS_SELECTED);
+        const UINT id = UINT(plain.GetDlgCtrlID());
+        plain.UnsubclassWindow();
+        return id;
+    };
+    const UINT first = addPlain("ab", 1);
+    const UINT second = addPlain("xyz", 2);
+    TreeForTests tree;
+    ASSERT_TRUE(tree.SubclassTreeCtrlId(first, &Host()));
+    tree.SelectAll(true, false);
+    EXPECT_EQ(SelectedTexts(tree), "ab");
+    const HWND formerWindow = tree.UnsubclassWindow();
+    EXPECT_EQ(tree.GetSelectedCount(), 0U) << "of no window";
+    ::DestroyWindow(formerWindow);
+    ASSERT_TRUE(tree.SubclassTreeCtrlId(second, &Host()));
+    EXPECT_EQ(tree.GetSelectedCount(), 1U);
+    EXPECT_EQ(SelectedTexts(tree), "z");
+    tree.SelectAll(true, false);
+    EXPECT_EQ(SelectedTexts(tree), "xyz");
+    tree.DestroyWindow();
+}
+
 TEST_F(MultiTreeTest, RangesRunAsTheUserSeesTheItems)
 {
     constexpr int None = -1;

@@ -16,7 +16,7 @@ public:
     using MultiTree::GetAutoScrollDirection;
     using MultiTree::UpdateSelectionForRect;
 
-    bool CanCtrlSelectItem(HTREEITEM item) const override
+    bool CanCtrlSelectItem(HTREEITEM item) override
     {
         return MultiTree::CanCtrlSelectItem(item) && item != refused;
     }
