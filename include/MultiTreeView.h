@@ -50,7 +50,7 @@ public:
     void SelectAllIgnore(HTREEITEM branch, bool select, HTREEITEM ignore);
     bool SelectChildren(HTREEITEM item, bool select, bool recurse);
     virtual void SelectRange(HTREEITEM first, HTREEITEM last, bool only);
-    virtual bool CanCtrlSelectItem(HTREEITEM item) const;
+    virtual bool CanCtrlSelectItem(HTREEITEM item);
     int SetItemState(HTREEITEM item, UINT state, UINT mask, bool notify = true);
     UINT GetItemState(HTREEITEM item, UINT mask) const;
     bool SelectItem(HTREEITEM item);
@@ -141,6 +141,8 @@ private:
     std::unique_ptr<DragItem> m_dragItem; // the item that the drag started on
 
     bool IsDragShown() const;
+    // Whether a drag has the pointer, so that a press is nothing to the selection.
+    bool HoldsPointer() const { return m_dragging && m_dragImage != nullptr; }
     void ForgetDrag();
     void CancelDrag();
 };

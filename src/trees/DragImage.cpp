@@ -13,7 +13,7 @@ namespace {
 constexpr COLORREF Clear = RGB(255, 0, 254);
 
 // One picture is dragged at a time, by the user interface's only thread.
-bool dragging = false;
+const CImageList* dragged = nullptr; // compared, never followed
 int hidden = 0;
 
 } // namespace
@@ -22,7 +22,6 @@ CImageList* ComposeDragImage(TreeItems& items, TreeLook& look, const CWnd& windo
 {
     struct Part
     {
-        HTREEITEM item;
         CRect box;
         CRect text;
     };
@@ -30,21 +29,36 @@ CImageList* ComposeDragImage(TreeItems& items, TreeLook& look, const CWnd& windo
     window.GetClientRect(&client);
     std::vector<Part> parts;
     CRect all(0, 0, 0, 0);
-    for (HTREEITEM item = items.Next(nullptr, TVGN_FIRSTVISIBLE); item != nullptr;
-         item = items.Next(item, TVGN_NEXTVISIBLE))
+    const WindowAlive alive(const_cast<CWnd&>(window));
+    // The parent may be asked for texts all along, and may take items away then.
+    WatchedItem item(items, items.Next(nullptr, TVGN_FIRSTVISIBLE));
+    WatchedItems held(items, {}); // of parts
+    while (item.Get() != nullptr)
     {
-        const CRect text = items.Rect(item, true);
-        if (text.top >= client.bottom)
+        const CRect text = items.Rect(item.Get(), true);
+        if (!alive || item.Get() == nullptr || text.top >= client.bottom)
         {
             break;
         }
-        const CRect box = look.IconAndText(item);
-        CRect inSight;
-        if (items.IsSelected(item) && inSight.IntersectRect(&box, &client))
+        const CRect box = look.IconAndText(item.Get());
+        if (!alive || item.Get() == nullptr)
         {
-            parts.push_back({item, box, text});
+            break;
+        }
+        CRect inSight;
+        if (items.IsSelected(item.Get()) && inSight.IntersectRect(&box, &client))
+        {
+            parts.push_back({box, text});
+            std::vector<HTREEITEM> more = held.All();
+            more.push_back(item.Get());
+            held.Set(std::move(more));
             all.UnionRect(&all, &inSight);
         }
+        item.Set(items.Next(item.Get(), TVGN_NEXTVISIBLE));
+    }
+    if (!alive)
+    {
+        return nullptr;
     }
     if (parts.empty())
     {
@@ -62,14 +76,6 @@ CImageList* ComposeDragImage(TreeItems& items, TreeLook& look, const CWnd& windo
         const Selected selected(memory, bitmap);
         memory.SetViewportOrg(-all.left, -all.top);
         memory.FillSolidRect(all, Clear);
-        const WindowAlive alive(const_cast<CWnd&>(window));
-        // The parent may be asked for texts, and may take items away then.
-        std::vector<HTREEITEM> order;
-        for (const Part& part : parts)
-        {
-            order.push_back(part.item);
-        }
-        const WatchedItems held(items, order);
         for (size_t index = 0; index < parts.size() && alive; ++index)
         {
             if (held[index] != nullptr)
@@ -93,25 +99,29 @@ CImageList* ComposeDragImage(TreeItems& items, TreeLook& look, const CWnd& windo
 
 void ShowDragImage(CImageList& image, CPoint hotSpot, CPoint screen)
 {
+    if (dragged != nullptr)
+    {
+        EndDragImage(*dragged);
+    }
     image.BeginDrag(0, hotSpot);
     CImageList::DragShowNolock(TRUE);
     CImageList::DragMove(screen);
-    dragging = true;
+    dragged = &image;
 }
 
 void MoveDragImage(CPoint screen)
 {
-    if (dragging)
+    if (dragged != nullptr)
     {
         CImageList::DragMove(screen);
     }
 }
 
-void EndDragImage()
+void EndDragImage(const CImageList& image)
 {
-    if (dragging)
+    if (dragged == &image)
     {
-        dragging = false;
+        dragged = nullptr;
         CImageList::DragShowNolock(FALSE);
         CImageList::EndDrag();
     }
@@ -119,7 +129,7 @@ void EndDragImage()
 
 DragImageHidden::DragImageHidden()
 {
-    if (hidden++ == 0 && dragging)
+    if (hidden++ == 0 && dragged != nullptr)
     {
         CImageList::DragShowNolock(FALSE);
     }
@@ -127,7 +137,7 @@ DragImageHidden::DragImageHidden()
 
 DragImageHidden::~DragImageHidden()
 {
-    if (--hidden == 0 && dragging)
+    if (--hidden == 0 && dragged != nullptr)
     {
         ::GdiFlush(); // what was painted has to lie on the screen before the picture is put over it
         CImageList::DragShowNolock(TRUE);

@@ -9,10 +9,11 @@ namespace trees {
 // caller's; null when nothing selected is in sight or memory is short.
 CImageList* ComposeDragImage(TreeItems& items, TreeLook& look, const CWnd& window);
 
-// The picture that is being dragged over the screen: one at a time in a process.
+// The picture that is being dragged over the screen: one at a time in a process, so that showing
+// one ends another. End does nothing for a picture that is not the one.
 void ShowDragImage(CImageList& image, CPoint hotSpot, CPoint screen);
 void MoveDragImage(CPoint screen);
-void EndDragImage();
+void EndDragImage(const CImageList& image);
 
 // While windows are painted or scrolled the picture has to be away: what lies under it is kept
 // aside, and would come back out of date.

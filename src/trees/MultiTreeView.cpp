@@ -10,6 +10,7 @@
 #include <climits>
 
 using trees::TreeSelection;
+using trees::WatchedItem;
 using trees::WatchedItems;
 
 namespace {
@@ -43,15 +44,31 @@ bool SendDragMessage(HWND to, UINT message, POINT* point, KArray* payload)
     return false;
 }
 
-// Whether the message in progress comes from here, so that its pointers may be followed.
+// Whether the message in progress comes from here, so that its pointers may be followed. One that
+// was posted looks the same, whoever it is from.
 bool FromThisThread()
 {
     return !::InSendMessage();
 }
 
+// Whether a point lies at an address that came with a message.
+bool CanBeRead(WPARAM address)
+{
+    constexpr DWORD Readable = PAGE_READONLY | PAGE_READWRITE | PAGE_WRITECOPY | PAGE_EXECUTE_READ |
+                               PAGE_EXECUTE_READWRITE | PAGE_EXECUTE_WRITECOPY;
+    MEMORY_BASIC_INFORMATION memory = {};
+    if (::VirtualQuery(reinterpret_cast<const void*>(address), &memory, sizeof(memory)) == 0)
+    {
+        return false;
+    }
+    const auto end = reinterpret_cast<WPARAM>(memory.BaseAddress) + memory.RegionSize;
+    return memory.State == MEM_COMMIT && (memory.Protect & Readable) != 0 &&
+           (memory.Protect & PAGE_GUARD) == 0 && end - address >= sizeof(POINT);
+}
+
 } // namespace
 
-struct MultiTreeView::DragItem : trees::WatchedItem
+struct MultiTreeView::DragItem : WatchedItem
 {
     using WatchedItem::WatchedItem;
 };
@@ -104,20 +121,23 @@ MultiTreeView::~MultiTreeView()
 {
     if (m_dragImage != nullptr)
     {
-        trees::EndDragImage();
+        trees::EndDragImage(*m_dragImage);
     }
 }
 
 BOOL MultiTreeView::PreCreateWindow(CREATESTRUCT& cs)
 {
-    cs.style |= TVS_SHOWSELALWAYS;
     m_creating = true;
-    return CTreeView::PreCreateWindow(cs);
+    // First, since it puts the view's own style in the place of the usual one.
+    const BOOL proceed = CTreeView::PreCreateWindow(cs);
+    cs.style |= TVS_SHOWSELALWAYS;
+    return proceed;
 }
 
 void MultiTreeView::PreSubclassWindow()
 {
     CTreeView::PreSubclassWindow();
+    m_selection->BeginWindow();
     if (!m_creating)
     {
         ModifyStyle(0, TVS_SHOWSELALWAYS); // a tree that exists already
@@ -180,7 +200,7 @@ void MultiTreeView::ForgetDrag()
     m_payload.RemoveAll();
     if (m_dragImage != nullptr)
     {
-        trees::EndDragImage();
+        trees::EndDragImage(*m_dragImage);
         m_dragImage.reset();
     }
 }
@@ -194,11 +214,10 @@ void MultiTreeView::OnBeginDrag(NMHDR* header, LRESULT* result)
     }
     const WindowAlive alive(*this);
     m_payload.RemoveAll();
-    m_dragging = true;
-    m_dragItem->Set(reinterpret_cast<const NMTREEVIEW*>(header)->itemNew.hItem);
-    m_dragTarget = nullptr;
+    const WatchedItem item(m_selection->Items(),
+                           reinterpret_cast<const NMTREEVIEW*>(header)->itemNew.hItem);
     const WatchedItems selected(m_selection->Items(), m_selection->Items().Selected());
-    for (size_t index = 0; index < selected.Size() && alive; ++index)
+    for (size_t index = 0; index < selected.Size() && alive && !m_dragging; ++index)
     {
         if (selected[index] != nullptr)
         {
@@ -209,16 +228,32 @@ void MultiTreeView::OnBeginDrag(NMHDR* header, LRESULT* result)
     {
         SetFocus(); // Escape has to come here
     }
-    CImageList* const image = alive ? CreateDragImage() : nullptr;
-    if (!alive)
+    if (!alive || m_dragging || m_dragImage != nullptr)
     {
-        delete image;
         return;
     }
-    m_dragImage.reset(image);
+    if (item.Get() == nullptr)
+    {
+        m_payload.RemoveAll();
+        return;
+    }
+    m_dragging = true;
+    m_dragItem->Set(item.Get());
+    m_dragTarget = nullptr;
+    std::unique_ptr<CImageList> image(CreateDragImage());
+    // The drag may be over by now, or another one have begun after it.
+    if (!alive || !m_dragging || m_dragImage != nullptr)
+    {
+        return;
+    }
+    m_dragImage = std::move(image);
     if (m_dragImage != nullptr)
     {
-        SetCapture();
+        SetCapture(); // tells the window that had it
+        if (!alive || !m_dragging || m_dragImage == nullptr)
+        {
+            return;
+        }
         CPoint pointer;
         ::GetCursorPos(&pointer);
         trees::ShowDragImage(*m_dragImage, CPoint(-GetCursorSize().cx, 0), pointer);
@@ -290,22 +325,31 @@ void MultiTreeView::OnLButtonUp(UINT flags, CPoint point)
     {
         return;
     }
+    if (m_dragImage == nullptr)
+    {
+        ForgetDrag(); // nothing was there to be shown, and nobody has seen a drag
+        return;
+    }
     if (!IsDragShown())
     {
-        CancelDrag(); // the item it began with is gone, or nothing was there to be shown
+        CancelDrag(); // the item it began with is gone
         return;
     }
     // The target may do anything, and take its time: nothing of the drag goes on meanwhile. It gets
     // a payload that lives until it answers, whatever becomes of the view.
     m_dragging = false;
-    trees::EndDragImage();
-    m_dragImage.reset();
-    if (GetCapture() == this)
-    {
-        ::ReleaseCapture();
-    }
+    trees::EndDragImage(*m_dragImage);
     KArray payload = m_payload;
     ::ClientToScreen(m_hWnd, &point);
+    if (::GetCapture() == m_hWnd)
+    {
+        ::ReleaseCapture();
+        if (!alive)
+        {
+            return;
+        }
+    }
+    m_dragImage.reset();
     const HWND under = ::WindowFromPoint(point);
     const bool accepted =
         under != nullptr &&
@@ -315,7 +359,7 @@ void MultiTreeView::OnLButtonUp(UINT flags, CPoint point)
     {
         DragEnded(accepted ? under : nullptr);
     }
-    if (alive)
+    if (alive && !m_dragging) // a new one may have begun where target or view waited
     {
         ForgetDrag();
     }
@@ -337,11 +381,7 @@ void MultiTreeView::CancelDrag()
     }
     const WindowAlive alive(*this);
     m_dragging = false;
-    if (m_dragImage != nullptr)
-    {
-        trees::EndDragImage();
-        m_dragImage.reset();
-    }
+    const trees::DragImageHidden hidden; // whatever the view does when it hears of the end
     if (::GetCapture() == m_hWnd)
     {
         ::ReleaseCapture();
@@ -350,7 +390,7 @@ void MultiTreeView::CancelDrag()
     {
         DragEnded(nullptr);
     }
-    if (alive)
+    if (alive && !m_dragging)
     {
         ForgetDrag();
     }
@@ -394,7 +434,7 @@ void MultiTreeView::OnTimer(UINT_PTR id)
 
 LRESULT MultiTreeView::OnDragTrack(WPARAM wParam, LPARAM)
 {
-    if (wParam == 0 || !FromThisThread())
+    if (wParam == 0 || !FromThisThread() || !CanBeRead(wParam))
     {
         return 0;
     }

@@ -82,7 +82,7 @@ bool MultiTreeView::IsSelected(HTREEITEM item) const
     return m_selection->Items().IsSelected(TreeItems::Real(item));
 }
 
-bool MultiTreeView::CanCtrlSelectItem(HTREEITEM item) const
+bool MultiTreeView::CanCtrlSelectItem(HTREEITEM item)
 {
     return TreeItems::Real(item) != nullptr;
 }
@@ -194,12 +194,18 @@ BOOL MultiTreeView::OnEraseBkgnd(CDC* dc)
 
 void MultiTreeView::OnLButtonDown(UINT flags, CPoint point)
 {
-    OnButtonDown(true, flags, point);
+    if (!HoldsPointer())
+    {
+        OnButtonDown(true, flags, point);
+    }
 }
 
 void MultiTreeView::OnRButtonDown(UINT flags, CPoint point)
 {
-    OnButtonDown(false, flags, point);
+    if (!HoldsPointer())
+    {
+        OnButtonDown(false, flags, point);
+    }
 }
 
 void MultiTreeView::OnSetFocus(CWnd*)

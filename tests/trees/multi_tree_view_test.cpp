@@ -20,9 +20,19 @@ public:
 
     void GetSelectedItems(HTREEITEM item, KArray& payload) override { payload.Add(item); }
     void DragEnded(HWND accepted) override { ended.push_back(accepted); }
+    CImageList* CreateDragImage() override
+    {
+        CImageList* const image = MultiTreeView::CreateDragImage();
+        if (onImage)
+        {
+            onImage();
+        }
+        return image;
+    }
 
     bool accepts = false;
     std::function<void()> onDrop;
+    std::function<void()> onImage;
     std::vector<HWND> ended;
     std::vector<std::string> received; // names of the messages
     std::vector<void*> dropped;
@@ -236,6 +246,30 @@ TEST_F(MultiTreeViewTest, IsCancelledByWhateverInterruptsIt)
         .Do([&] { EXPECT_TRUE(PumpUntil([&] { return !m_source->m_dragging; })); })
         .Release();
     EXPECT_THAT(m_source->ended, ElementsAre(nullptr));
+}
+
+TEST_F(MultiTreeViewTest, ADragOverBeforeItIsShownIsNotShown)
+{
+    m_source->onImage = [&] { m_source->SendMessage(WM_LBUTTONUP); };
+    Begun()
+        .Do([&] {
+            EXPECT_FALSE(m_source->m_dragging);
+            EXPECT_EQ(m_source->m_dragImage, nullptr);
+            EXPECT_EQ(::GetCapture(), nullptr);
+        })
+        .Release();
+    EXPECT_THAT(m_source->ended, IsEmpty()) << "nobody has seen a drag";
+
+    // And the next one goes its way, whatever the other button does.
+    m_source->onImage = nullptr;
+    m_target->accepts = true;
+    Begun()
+        .Do([] { QueueButton(true, true); })
+        .Do([] { QueueButton(false, true); })
+        .Move(OverTarget())
+        .Release();
+    EXPECT_THAT(m_target->received, ElementsAre("drop"));
+    EXPECT_EQ(m_target->dropped.size(), 2U);
 }
 
 TEST_F(MultiTreeViewTest, SurvivesWhatEndsDuringADrag)
