@@ -38,7 +38,12 @@ void TreeBars::EnterOnBoard()
 
 void TreeBars::LeaveOnBoard()
 {
+    const WindowAlive alive(Window());
     EndPress();
+    if (!alive)
+    {
+        return;
+    }
     for (Bar* each : {&m_vertical, &m_horizontal})
     {
         each->shown = false;
@@ -54,7 +59,6 @@ void TreeBars::LeaveOnBoard()
             scroll::RestoreScrollStyles(Window(), scroll::StyleOf(each->axis));
         }
     }
-    const WindowAlive alive(Window());
     scroll::RecalculateFrame(Window(), false);
     if (alive)
     {
@@ -293,7 +297,12 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
 
 void TreeBars::Press(WPARAM hitTest, CPoint screen)
 {
+    const WindowAlive alive(Window());
     EndPress();
+    if (!alive)
+    {
+        return;
+    }
     Bar& pressed = hitTest == HTVSCROLL ? m_vertical : m_horizontal;
     m_last = screen; // a drag starts here, also when a touch came without a move before it
     const CPoint point = scroll::ScreenToWindow(Window(), screen);
@@ -301,7 +310,6 @@ void TreeBars::Press(WPARAM hitTest, CPoint screen)
     {
         return;
     }
-    const WindowAlive alive(Window());
     m_part = pressed.bar.GetLastHit();
     m_held = &pressed;
     scroll::RequestNcLeave(Window());
