@@ -264,6 +264,29 @@ TEST_F(MultiTreeInputTest, ABandSelectsWhatItMeetsAndLeavesNoTrace)
     EXPECT_EQ(WindowPixels(tree), before) << "without a trace";
 }
 
+TEST_F(MultiTreeInputTest, WhatGoesDuringAPressInEmptySpaceLeavesNoTrace)
+{
+    auto& tree = AddTree();
+    CRect below = ClientRectOf(tree);
+    below.top = TextRectOf(tree, d).top;
+    below.OffsetRect(ClientPoint(tree, CPoint(0, 0)));
+    const Pixels before = ScreenPixels(below);
+    Pixels during;
+    PressScript(EmptyBeside(tree, b))
+        .Do([&] {
+            for (const HTREEITEM item : {d, e, f})
+            {
+                tree.DeleteItem(item);
+            }
+        })
+        .Do([&] { during = ScreenPixels(below); })
+        .Release();
+    Host().RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+    PumpAll();
+    EXPECT_NE(during, before);
+    EXPECT_EQ(during, ScreenPixels(below));
+}
+
 TEST_F(MultiTreeInputTest, ABandKeepsOrReplacesTheSelection)
 {
     auto& tree = AddTree();
