@@ -102,6 +102,9 @@ bool BackBuffer::BorrowShared(LONGLONG width, LONGLONG height)
     t_shared.lent = true;
     m_memory.Attach(t_shared.context);
     m_memory.SetViewportOrg(-m_area.left, -m_area.top);
+    // The bitmap is as large as the largest area so far: painters that ask what is to be drawn are
+    // to see the area alone.
+    m_memory.IntersectClipRect(m_area);
     return true;
 }
 

@@ -64,6 +64,9 @@ TEST_F(BackBufferOnScreen, TwoAtATimeKeepApartAndEachBeginsFresh)
     {
         BackBuffer outer(dc, CRect(10, 10, 10 + size, 20));
         EXPECT_EQ(begins(outer), std::tuple(::GetStockObject(BLACK_PEN), COLORREF(0), int(OPAQUE)));
+        CRect clip;
+        outer.DC().GetClipBox(&clip);
+        EXPECT_EQ(clip, CRect(10, 10, 10 + size, 20)) << "whatever the kept bitmap's size";
         outer.DC().FillSolidRect(0, 0, 800, 800, Ink);
         {
             BackBuffer inner(dc, CRect(0, 40, size, 50));
