@@ -254,6 +254,7 @@ private:
     void DrawBars();
     void ShowBar(int axis, bool needed, bool& frameChanged);
     void Perform(int axis, int code);
+    void Step(int axis, int code);
     void Press(int axis);
     void PressNc(UINT hitTest, const CPoint& screen);
     void StepHeld(int axis, bool startRepeat);

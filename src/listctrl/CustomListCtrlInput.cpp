@@ -97,18 +97,25 @@ void CCustomListCtrl::Press(int axis)
     // A press on the right arrow is not held: it is meant, and such a list relies on it.
     m_pressed = m_pressed || axis == SB_VERT || part != CFauxScrollBar::PRESSED_SECOND;
     m_heldPart = part;
-    if (part == CFauxScrollBar::PRESSED_THUMB)
+    const WindowAlive alive(*this);
+    if (part != CFauxScrollBar::PRESSED_THUMB)
     {
-        // Released outside, no message would tell: leaving ends the drag.
-        m_leaveRequested = true;
-        scroll::RequestNcLeave(*this);
+        Step(axis, code);
+    }
+    // What was told on the way may have ended the list or the press.
+    if (!alive || m_heldPart != part)
+    {
         return;
     }
-    const WindowAlive alive(*this);
-    Perform(axis, code);
-    if (alive && scroll::Repeats(part))
+    if (scroll::Repeats(part))
     {
         SetTimer(m_timerInitialWaitID, m_timerInitialWaitPeriod, nullptr);
+    }
+    else
+    {
+        // Released outside, no message would tell: leaving ends the press.
+        m_leaveRequested = true;
+        scroll::RequestNcLeave(*this);
     }
 }
 
@@ -205,7 +212,7 @@ void CCustomListCtrl::StepHeld(int axis, bool startRepeat)
         return;
     }
     const WindowAlive alive(*this);
-    Perform(axis, scroll::CodeOf(Part(axis)));
+    Step(axis, scroll::CodeOf(Part(axis)));
     if (alive && startRepeat)
     {
         SetTimer(m_timerid, m_timerperiod, nullptr);
@@ -234,7 +241,7 @@ void CCustomListCtrl::OnTimer(UINT_PTR id)
             StepHeld(SB_HORZ, initial);
         }
     }
-    else if (!initial)
+    else
     {
         EndTracking(); // released somewhere else, where no message told of it
     }

@@ -100,6 +100,7 @@ void CCustomListCtrl::UpdateVScrollData()
     else
     {
         MoveTo(SB_VERT, 0); // what is left to scroll could not be reached without a bar
+        m_vBar.SetScrollRange(0, 0, TRUE); // nor is there anything for a wheel to scroll
     }
     if (alive)
     {
@@ -152,6 +153,7 @@ void CCustomListCtrl::UpdateHScrollData(bool& frameChanged)
     else
     {
         MoveTo(SB_HORZ, 0);
+        m_hBar.SetScrollRange(0, 0, TRUE);
     }
     if (alive)
     {
@@ -240,6 +242,19 @@ void CCustomListCtrl::Perform(int axis, int code)
     else
     {
         PerformHScroll(after, before);
+    }
+}
+
+// A step as an heir of the list wants it.
+void CCustomListCtrl::Step(int axis, int code)
+{
+    if (axis == SB_VERT)
+    {
+        PerformVScroll(code);
+    }
+    else
+    {
+        PerformHScroll(code);
     }
 }
 

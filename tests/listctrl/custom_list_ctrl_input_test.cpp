@@ -74,6 +74,68 @@ TEST_F(ListCtrlOnBoard, AHeldArrowWaitsThenRepeatsToTheEndOfTheList)
     list.ExpectInStep("at the end");
 }
 
+TEST_F(ListCtrlOnBoard, WithoutABarNothingScrolls)
+{
+    auto& list = AddList(100, 8);
+    list.PerformVScroll(SB_BOTTOM);
+    list.PerformHScroll(SB_RIGHT);
+    while (list.GetItemCount() > 3)
+    {
+        list.DeleteItem(0);
+    }
+    while (list.m_header.GetItemCount() > 2)
+    {
+        list.DeleteColumn(2);
+    }
+    ASSERT_FALSE(list.m_vBar.ShowScrollBar());
+    ASSERT_FALSE(list.m_hBar.ShowScrollBar());
+    MoveTo(ClientPoint(list, list.RowPoint(0)));
+    Wheel(-WHEEL_DELTA);
+    for (const WPARAM code : {SB_LINEDOWN, SB_PAGEDOWN, SB_BOTTOM})
+    {
+        list.SendMessage(WM_VSCROLL, code);
+        list.SendMessage(WM_HSCROLL, code);
+    }
+    EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
+    list.ExpectInStep("bars gone");
+}
+
+TEST_F(ListCtrlOnBoard, APressLetGoElsewhereIsForgotten)
+{
+    auto& list = AddList(100, 8);
+    const CRect arrow = list.m_vBar.GetPartArea(Second);
+    const CPoint parts[] = {arrow.CenterPoint(),
+                            CPoint(arrow.CenterPoint().x, arrow.top - 10)}; // and the trough
+    for (const CPoint& part : parts)
+    {
+        MoveTo(WindowPoint(list, part));
+        Press();
+        EXPECT_TRUE(list.m_pressed);
+        MoveTo(ClientPoint(Host(), CPoint(700, 500)));
+        Release();
+        EXPECT_TRUE(PumpUntil([&] { return !list.m_pressed; })) << part.y;
+    }
+}
+
+TEST_F(ListCtrlOnBoard, AnHeirDecidesWhatPressesAndHoldsDo)
+{
+    struct Heir : ListForTests
+    {
+        void PerformVScroll(int) override { ++steps; }
+        int steps = 0;
+    };
+    auto& list = Add<Heir>(CRect(20, 20, 420, 420), ReportStyle);
+    list.AddColumns(1);
+    list.Fill(100);
+    PumpAll();
+    MoveTo(list.PartPoint(Second));
+    Press();
+    EXPECT_EQ(list.steps, 1);
+    EXPECT_TRUE(PumpUntil([&] { return list.steps > 1; })) << "held";
+    Release();
+    EXPECT_EQ(list.m_drawOffset.y, 0);
+}
+
 TEST_F(ListCtrlOnBoard, ThePressedArrowAndOnlyTheLeftOnesAreHeld)
 {
     auto& list = AddList(100, 8);
