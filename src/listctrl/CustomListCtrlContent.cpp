@@ -243,8 +243,12 @@ void CCustomListCtrl::HoldPlatform()
     const LPARAM down = -Ask(LVM_GETTOPINDEX) * first.Height();
     if (down != 0 || first.left != 0)
     {
+        const WindowAlive alive(*this);
         Ask(LVM_SCROLL, WPARAM(first.left), down);
-        Invalidate(FALSE);
+        if (alive)
+        {
+            Invalidate(FALSE);
+        }
     }
 }
 

@@ -47,7 +47,8 @@ void CCustomListCtrl::SelectRow(int row, bool extend, bool toggle)
     }
     const WindowAlive alive(*this);
     const bool single = (GetStyle() & LVS_SINGLESEL) != 0;
-    const int mark = GetSelectionMark();
+    // The host may have set a mark where no row is, or rows may have gone since.
+    const int mark = std::min(GetSelectionMark(), GetItemCount() - 1);
     const int focus = GetNextItem(-1, LVNI_FOCUSED);
     if (extend && !single && mark >= 0)
     {
@@ -59,7 +60,10 @@ void CCustomListCtrl::SelectRow(int row, bool extend, bool toggle)
         if (!grows)
         {
             ClearSelection();
-            SelectRange(mark, row, true);
+            if (alive)
+            {
+                SelectRange(mark, row, true);
+            }
         }
         else
         {
@@ -197,7 +201,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
             m_selChanging = FALSE;
             SetItemState(picked + TopRow(), SelectedAndFocused, SelectedAndFocused);
         }
-        if (alive)
+        if (alive && picked + TopRow() < GetItemCount())
         {
             SetSelectionMark(picked + TopRow());
         }
@@ -286,7 +290,13 @@ void CCustomListCtrl::OnChar(UINT, UINT, UINT)
     if (alive && focus != before)
     {
         HoldPlatform();
-        BringIntoSight(focus);
-        Invalidate();
+        if (alive)
+        {
+            BringIntoSight(focus);
+        }
+        if (alive)
+        {
+            Invalidate();
+        }
     }
 }

@@ -162,6 +162,62 @@ TEST_F(ListCtrlOnBoard, AParentMayDeleteTheListObjectInANotification)
     }
 }
 
+namespace {
+
+// A list whose memory cannot be touched any more once it is deleted.
+struct FencedList : ListForTests
+{
+    static void* operator new(size_t size)
+    {
+        return ::VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+    }
+    static void operator delete(void* memory) { ::VirtualFree(memory, 0, MEM_RELEASE); }
+};
+
+} // namespace
+
+TEST_F(ListCtrlOnBoard, AParentMayDeleteTheListObjectWhileARangeIsSelected)
+{
+    auto* list = &Add<FencedList>(CRect(20, 20, 420, 420), ReportStyle);
+    list->AddColumns(3);
+    list->Fill(100);
+    list->SetFocus();
+    list->SetItemState(3, 3, 3); // not the range that began at 0
+    list->SetSelectionMark(0);
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(LVN_ITEMCHANGED) && list != nullptr)
+        {
+            Remove(*std::exchange(list, nullptr));
+        }
+    };
+    TypeKey(VK_NEXT, VK_SHIFT);
+    EXPECT_EQ(list, nullptr);
+    Host().hook = nullptr;
+}
+
+TEST_F(ListCtrlOnBoard, ARangeEndsAtTheLastRowWhereverItsMarkIs)
+{
+    // As on a platform that keeps the mark as a host has set it.
+    struct WildMark : ListForTests
+    {
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            return message == LVM_GETSELECTIONMARK
+                       ? INT_MAX
+                       : ListForTests::WindowProc(message, wParam, lParam);
+        }
+    };
+    auto& list = Add<WildMark>(CRect(20, 20, 420, 420), ReportStyle);
+    list.AddColumns(1);
+    list.Fill(50);
+    PumpAll();
+    list.SetFocus();
+    list.SetItemState(5, 3, 3);
+    TypeKey(VK_PRIOR, VK_SHIFT);
+    EXPECT_EQ(list.Focused(), 0);
+    EXPECT_EQ(list.GetSelectedCount(), 50U);
+}
+
 TEST_F(ListCtrlOnBoard, AParentMayEndTheListWhileItIsPainted)
 {
     auto& list = Add<ListForTests>(CRect(20, 20, 420, 420), ReportStyle | LVS_OWNERDATA);
