@@ -84,7 +84,8 @@ void CCustomListCtrl::GetVerticalDivides(int columns)
 
 namespace {
 
-// Cells of the first row, unscrolled; the first one ends where the second begins.
+// Cells of the first row, unscrolled. The platform tells the whole row as the first column's; its
+// cell stands under its heading, also when the columns were put in another order.
 std::vector<CRect> CellsOfFirstRow(const CListCtrl& list, int columns)
 {
     std::vector<CRect> cells(size_t(std::max(0, columns)));
@@ -94,7 +95,17 @@ std::vector<CRect> CellsOfFirstRow(const CListCtrl& list, int columns)
     }
     if (columns > 1)
     {
-        cells[0].right = cells[1].left;
+        CRect heading;
+        const CHeaderCtrl* const header = list.GetHeaderCtrl();
+        if (header != nullptr && header->GetItemRect(0, &heading))
+        {
+            cells[0].left = std::max(cells[0].left, heading.left);
+            cells[0].right = heading.right;
+        }
+        else
+        {
+            cells[0].right = cells[1].left;
+        }
     }
     return cells;
 }

@@ -129,6 +129,28 @@ TEST_F(ListCtrlOnBoard, WhatIsOnTheScreenIsWhatAFullPaintGives)
     }
 }
 
+TEST_F(ListCtrlOnBoard, TheFirstColumnsTextsFollowItWhereverItStands)
+{
+    auto& list = AddList(5, 3);
+    int order[] = {1, 0, 2};
+    list.SetColumnOrderArray(3, order);
+    PumpAll();
+    const CRect client = ClientRectOf(list);
+    Canvas canvas(client.Width(), client.Height());
+    list.GetVerticalDivides(3);
+    canvas.DC().SetBkMode(TRANSPARENT);
+    list.DrawCells(canvas.DC(), 5, 3, false, client);
+    CRect column;
+    list.m_header.GetItemRect(0, &column);
+    ASSERT_EQ(column.left, 102);
+    const int top = list.HeaderRect().bottom;
+    const int bottom = top + list.RowHeight();
+    const Pixels picture = canvas.Picture();
+    EXPECT_TRUE(
+        HasText(picture, CRect(column.left, top, column.right, bottom), palette::FieldText));
+    EXPECT_FALSE(HasText(picture, CRect(0, top, column.left, bottom), palette::FieldText));
+}
+
 TEST_F(ListCtrlOnBoard, FrameBandAndCornerArePainted)
 {
     auto& list = AddList(200, 8, ReportStyle, CRect(20, 20, 400, 400));
