@@ -38,6 +38,8 @@ public:
     // Nothing: all drawing happens in answer to a paint message.
     void DrawItem(LPDRAWITEMSTRUCT draw) override;
 
+    void PreSubclassWindow() override;
+
 protected:
     // Once, before the first paint: the arrows and the font.
     void DoCreate();
@@ -67,7 +69,7 @@ protected:
     int m_pressedItem = -1;
     bool m_created = false;       // DoCreate has run
     CImageList m_arrows;          // ascending, descending; empty without the bitmaps
-    std::vector<int> m_itemLefts; // as last laid out, in the order of display
+    std::vector<int> m_itemLefts; // as last laid out and drawn, in the order of display
     std::vector<int> m_itemWidths;
 
 private:
@@ -76,6 +78,8 @@ private:
     int m_hotDivider = -1;  // where a dragged column would be put; -1: nowhere
     CPoint m_pressPoint;    // in client coordinates
     CFont m_themeFont;
+
+    friend class CCustomListCtrl;
 
     HWND ListWindow() const;
     CCustomListCtrl* List() const;
@@ -88,8 +92,9 @@ private:
     void DrawOB(CDC& dc);
     void DrawOBItem(CDC& dc, int item, bool last, const CRect& client);
     void DrawStdArrows();
-    void TellTracking();
+    void TellTracking(int x);
     void ApplyDrag(int x);
     void ApplyMinimum(int item);
     void EndTracking();
+    void LeaveWindow();
 };

@@ -206,6 +206,7 @@ void CCustomListCtrl::ForgetWindow()
     m_measured = Measured();
     m_vPainter->Invalidate();
     m_hPainter->Invalidate();
+    m_header.LeaveWindow();
 }
 
 void CCustomListCtrl::TakeHeader()

@@ -186,7 +186,17 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         const int wanted = toOnBoard ? width.onBoard
                            : kept    ? width.standard
                                      : listctrl::StandardWidth(now);
-        Ask(LVM_SETCOLUMNWIDTH, WPARAM(column), MAKELPARAM(wanted, 0));
+        if (wanted <= listctrl::WidestColumn)
+        {
+            Ask(LVM_SETCOLUMNWIDTH, WPARAM(column), MAKELPARAM(wanted, 0));
+        }
+        else
+        {
+            LVCOLUMN wide = {};
+            wide.mask = LVCF_WIDTH;
+            wide.cx = wanted;
+            Ask(LVM_SETCOLUMN, WPARAM(column), reinterpret_cast<LPARAM>(&wide));
+        }
     }
 }
 

@@ -5,6 +5,7 @@
 #include "CustomListCtrl.h"
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
@@ -58,6 +59,32 @@ CCustomListCtrlHdr::CCustomListCtrlHdr()
 }
 
 CCustomListCtrlHdr::~CCustomListCtrlHdr() = default;
+
+// One object may serve several windows, one after the other.
+void CCustomListCtrlHdr::PreSubclassWindow()
+{
+    OBResetScroll(FALSE);
+    m_tracking = false;
+    m_dragged = false;
+    m_oldCursor = nullptr;
+    m_pressedItem = -1;
+    m_hotDivider = -1;
+    m_created = false; // the theme's font is the window's
+    m_repositioning = false;
+    m_itemLefts.clear();
+    m_itemWidths.clear();
+    CHeaderCtrl::PreSubclassWindow();
+}
+
+// The window stays, as part of a list that the object has left.
+void CCustomListCtrlHdr::LeaveWindow()
+{
+    if (GetSafeHwnd() != nullptr)
+    {
+        EndTracking();
+        UnsubclassWindow();
+    }
+}
 
 // The list that the header belongs to; null when it stands alone.
 HWND CCustomListCtrlHdr::ListWindow() const
@@ -113,7 +140,7 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
     m_itemWidths.clear();
     const HWND list = ListWindow();
     const int count = std::max(0, GetItemCount());
-    int left = 0;
+    int left = int(m_offset.x);
     for (int order = 0; order < count && alive; ++order)
     {
         const int item = OrderToIndex(order);
@@ -122,7 +149,8 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
         if (list != nullptr && item != count - 1 &&
             ::SendMessage(list, LVM_GETCOLUMNWIDTH, WPARAM(item), 0) != rect.Width())
         {
-            ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(item), MAKELPARAM(rect.Width(), 0));
+            ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(item),
+                          MAKELPARAM(std::min(rect.Width(), listctrl::WidestColumn), 0));
         }
         m_itemLefts.push_back(left);
         m_itemWidths.push_back(rect.Width());
@@ -441,7 +469,11 @@ void CCustomListCtrlHdr::DrawStdArrows()
             room.DeflateRect(0, StdArrowMargin);
             room.right -= StdArrowMargin;
             room.left = room.right - m_arrowSize.cx - PlatformArrowReach;
-            dc.FillSolidRect(room, dc.GetPixel(room.right - 1, room.top));
+            const COLORREF background = dc.GetPixel(room.right - 1, room.top);
+            if (background != CLR_INVALID) // out of sight
+            {
+                dc.FillSolidRect(room, background);
+            }
             DrawStdSortArrow(&dc, rect, data.fmt);
         }
     }

@@ -124,7 +124,7 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
     {
         m_oldCursor = before;
     }
-    TellTracking();
+    TellTracking(int(point.x));
     if (alive)
     {
         RepositionHeaderStrip();
@@ -135,16 +135,17 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
     }
 }
 
-void CCustomListCtrlHdr::TellTracking()
+// The column's right edge would come to x, as drawn.
+void CCustomListCtrlHdr::TellTracking(int x)
 {
-    CPoint pointer;
-    ::GetCursorPos(&pointer);
-    ScreenToClient(&pointer);
     CRect rect;
-    ItemRect(m_pressedItem, rect);
+    if (!ItemRect(m_pressedItem, rect))
+    {
+        return; // gone meanwhile
+    }
     HDITEM item = {};
     item.mask = HDI_WIDTH;
-    item.cxy = std::max(0, int(pointer.x - m_offset.x - rect.left));
+    item.cxy = std::max(0, int(x - m_offset.x - rect.left));
     NMHEADER told = {};
     told.hdr = {GetSafeHwnd(), UINT_PTR(GetDlgCtrlID()), UINT(HDN_TRACKA)};
     told.iItem = m_pressedItem;
@@ -215,13 +216,15 @@ void CCustomListCtrlHdr::OnCaptureChanged(CWnd* taker)
     const WindowAlive alive(*this);
     const HWND list = ListWindow();
     CHeaderCtrl::OnCaptureChanged(taker);
-    if (alive && (m_tracking || m_pressedItem != -1) && COnBoardUIGeneral::InOnBoardMode())
+    // In whatever mode: it may have changed since the press.
+    if (alive && (m_tracking || m_pressedItem != -1))
     {
+        const bool tracked = m_tracking;
         EndTracking();
         if (alive)
         {
             Invalidate(FALSE);
-            if (list != nullptr)
+            if (tracked && list != nullptr)
             {
                 ::InvalidateRect(list, nullptr, FALSE); // the line at the pointer
             }
@@ -263,7 +266,7 @@ void CCustomListCtrlHdr::ApplyMinimum(int item)
     if (list != nullptr && ItemRect(item, rect) && rect.Width() < list->GetMinColWidth())
     {
         ::SendMessage(ListWindow(), LVM_SETCOLUMNWIDTH, WPARAM(item),
-                      MAKELPARAM(list->GetMinColWidth(), 0));
+                      MAKELPARAM(std::min(list->GetMinColWidth(), listctrl::WidestColumn), 0));
     }
 }
 

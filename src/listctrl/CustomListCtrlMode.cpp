@@ -56,6 +56,14 @@ void CCustomListCtrl::LeaveOnBoard()
     const WindowAlive alive(*this);
     m_view = CurrentView(TopRow(), RowsInSight());
     EndTracking();
+    if (m_header.IsHotTracking())
+    {
+        m_header.EndTracking();
+        if (!alive)
+        {
+            return;
+        }
+    }
     for (const int axis : {SB_VERT, SB_HORZ})
     {
         Bar(axis).ShowScrollBar(FALSE);

@@ -8,6 +8,7 @@
 #include "scroll/FauxScrollGeometry.h"
 
 #include <algorithm>
+#include <climits>
 
 namespace listctrl {
 
@@ -74,10 +75,13 @@ constexpr int EndOfDrawnRows(int offset, int rowHeight, int bottom, int items)
                : scroll::Saturated(std::clamp<LONGLONG>(first + bottom / rowHeight, 0, items));
 }
 
+// The message that sets a column's width has no room for more.
+constexpr int WidestColumn = SHRT_MAX;
+
 // A column's width in the on-board modes, and back.
 inline int OnBoardWidth(int width)
 {
-    return width < 0 ? width : Truncated(width * metrics::OnBoardScale);
+    return width < 0 ? width : std::min(Truncated(width * metrics::OnBoardScale), WidestColumn);
 }
 
 inline int StandardWidth(int width)

@@ -251,6 +251,33 @@ TEST_F(ListCtrlOnBoard, LosingTheCaptureEndsADragWithoutAWidth)
     EXPECT_EQ(list.GetColumnWidth(0), 102);
 }
 
+TEST_F(ListCtrlOnBoard, ADragEndsWithTheModeThatItBeganIn)
+{
+    auto& list = AddList(10);
+    for (const bool captureFirst : {true, false})
+    {
+        const int column = captureFirst ? 0 : 1; // another, or it would be a double click
+        const CPoint from = list.DividerPoint(column);
+        MoveTo(from);
+        Press();
+        DragTo(from + CPoint(30, 0));
+        ASSERT_TRUE(list.m_header.IsHotTracking());
+        COnBoardUIGeneral::SetAppMode(STD);
+        if (captureFirst)
+        {
+            ::ReleaseCapture(); // before the list has followed the mode
+        }
+        list.SendMessage(WM_NULL);
+        EXPECT_FALSE(list.m_header.IsHotTracking()) << captureFirst;
+        EXPECT_EQ(::GetCapture(), nullptr);
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        list.SendMessage(WM_NULL);
+        EXPECT_FALSE(list.m_header.IsHotTracking());
+        Release();
+        EXPECT_EQ(list.GetColumnWidth(column), 102);
+    }
+}
+
 TEST_F(ListCtrlOnBoard, AColumnMayVanishUnderADragAndTheListInTheMiddleOfIt)
 {
     for (const bool wholeList : {false, true})

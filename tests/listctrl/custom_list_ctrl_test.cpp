@@ -27,7 +27,7 @@ TEST(ListLayout, RangesAndTargets)
         EXPECT_EQ(listctrl::StandardWidth(listctrl::OnBoardWidth(width)), width);
     }
     EXPECT_EQ(listctrl::OnBoardWidth(100), 170);
-    EXPECT_EQ(listctrl::OnBoardWidth(INT_MAX), INT_MAX);
+    EXPECT_EQ(listctrl::OnBoardWidth(INT_MAX), SHRT_MAX);
 
     // 100 rows, 10 in sight from row 20 on.
     struct
@@ -333,6 +333,65 @@ TEST_F(ListCtrlTest, SwitchingModesKeepsTopRowAndSelectionInSight)
     EXPECT_LE(list.TopRow(), 44);
     EXPECT_LE(list.RowPoint(44).y, ClientRectOf(list).bottom);
     COnBoardUIGeneral::SetAppMode(STD);
+}
+
+TEST_F(ListCtrlTest, WidthsBeyondTheMessagesReachComeBackFromTheOnBoardModes)
+{
+    auto& list = AddList(3, 4);
+    const int widths[] = {19276, 32767, 50000}; // the last column is fitted
+    for (int column = 0; column < 3; ++column)
+    {
+        LVCOLUMN wide = {};
+        wide.mask = LVCF_WIDTH;
+        wide.cx = widths[column];
+        list.SetColumn(column, &wide);
+        ASSERT_EQ(list.GetColumnWidth(column), widths[column]);
+    }
+    for (int round = 0; round < 2; ++round)
+    {
+        for (const APPMODE mode : {ONBOARD, STD})
+        {
+            COnBoardUIGeneral::SetAppMode(mode);
+            list.SendMessage(WM_NULL);
+            for (int column = 0; column < 3; ++column)
+            {
+                EXPECT_EQ(list.GetColumnWidth(column), mode == STD ? widths[column] : SHRT_MAX);
+            }
+        }
+    }
+}
+
+TEST_F(ListCtrlOnBoard, OneObjectServesSeveralWindowsOneAfterTheOther)
+{
+    auto& list = AddList(0, 10);
+    for (int window = 0; window < 2; ++window)
+    {
+        list.InsertItem(0, "row");
+        list.PerformHScroll(SB_LINERIGHT);
+        MoveTo(list.DividerPoint(1));
+        Press();
+        ASSERT_TRUE(list.m_header.IsHotTracking());
+        list.DestroyWindow();
+        Release();
+        ASSERT_TRUE(list.Create(ReportStyle | WS_CHILD | WS_VISIBLE, CRect(20, 20, 420, 420),
+                                &Host(), FirstId));
+        EXPECT_FALSE(list.m_header.IsHotTracking());
+        EXPECT_EQ(HeaderAccess::Offset(list.m_header), CPoint(0, 0));
+        EXPECT_EQ(HeaderAccess::Pressed(list.m_header), -1);
+        list.AddColumns(10);
+    }
+    list.DestroyWindow();
+
+    // Windows that stay, left by the object.
+    for (int window = 0; window < 2; ++window)
+    {
+        auto& plain = Add<CListCtrl>(CRect(20, 20, 420, 320), ReportStyle);
+        plain.InsertColumn(0, "One", LVCFMT_LEFT, 100);
+        ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
+        PumpAll();
+        EXPECT_EQ(list.m_header.GetSafeHwnd(), ::GetDlgItem(list, 0));
+        list.UnsubclassWindow();
+    }
 }
 
 TEST_F(ListCtrlTest, ItIsMadeOfAnExistingListAndByName)
