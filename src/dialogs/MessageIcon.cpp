@@ -2,15 +2,6 @@
 
 namespace dialogs {
 
-namespace {
-
-BYTE Mixed(int over, int under, int alpha)
-{
-    return BYTE((over * alpha + under * (255 - alpha) + 127) / 255);
-}
-
-} // namespace
-
 bool LoadPictureOver(CBitmap& picture, UINT id, COLORREF ground)
 {
     const LPCTSTR name = MAKEINTRESOURCE(id);
@@ -24,16 +15,9 @@ bool LoadPictureOver(CBitmap& picture, UINT id, COLORREF ground)
     if (::GetObject(loaded, sizeof(section), &section) == sizeof(section) &&
         section.dsBm.bmBitsPixel == 32 && section.dsBm.bmBits != nullptr)
     {
-        auto* const bits = static_cast<RGBQUAD*>(section.dsBm.bmBits);
-        const int count = section.dsBm.bmWidth * section.dsBm.bmHeight;
-        for (RGBQUAD* pixel = bits; pixel != bits + count; ++pixel)
-        {
-            const int alpha = pixel->rgbReserved;
-            pixel->rgbRed = Mixed(pixel->rgbRed, GetRValue(ground), alpha);
-            pixel->rgbGreen = Mixed(pixel->rgbGreen, GetGValue(ground), alpha);
-            pixel->rgbBlue = Mixed(pixel->rgbBlue, GetBValue(ground), alpha);
-            pixel->rgbReserved = 255;
-        }
+        const std::span pixels(static_cast<RGBQUAD*>(section.dsBm.bmBits),
+                               size_t(section.dsBm.bmWidth) * size_t(section.dsBm.bmHeight));
+        LayOver(pixels, ground);
     }
     picture.DeleteObject();
     return picture.Attach(loaded) != FALSE;

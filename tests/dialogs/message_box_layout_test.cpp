@@ -1,5 +1,6 @@
 #include "dialogs/LineSplitting.h"
 #include "dialogs/MessageBoxLayout.h"
+#include "dialogs/MessageIcon.h"
 #include "dialogs/dialog_for_tests.h"
 
 #include <gtest/gtest.h>
@@ -70,6 +71,25 @@ TEST(MessageLines, AreLongerOnWiderScreens)
         EXPECT_EQ(LineLimit(each.screen), each.limit) << each.screen;
     }
     EXPECT_EQ(LineLimit(-100'000), 1U);
+}
+
+// Pictures --------------------------------------------------------------------------------------
+
+TEST(MessagePicture, OnlyAnAlphaChannelLetsTheGroundThrough)
+{
+    const auto color = [](const RGBQUAD& pixel) {
+        EXPECT_EQ(pixel.rgbReserved, 0);
+        return RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue);
+    };
+    RGBQUAD opaque[] = {{1, 2, 3, 0}, {255, 255, 255, 0}};
+    LayOver(opaque, RGB(50, 60, 70));
+    EXPECT_EQ(color(opaque[0]), RGB(3, 2, 1));
+    EXPECT_EQ(color(opaque[1]), RGB(255, 255, 255));
+    RGBQUAD blended[] = {{1, 2, 3, 0}, {1, 2, 3, 255}, {255, 255, 255, 51}};
+    LayOver(blended, RGB(50, 60, 70));
+    EXPECT_EQ(color(blended[0]), RGB(50, 60, 70));
+    EXPECT_EQ(color(blended[1]), RGB(3, 2, 1));
+    EXPECT_EQ(color(blended[2]), RGB(91, 99, 107));
 }
 
 // Sizes and places ------------------------------------------------------------------------------
