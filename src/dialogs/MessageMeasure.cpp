@@ -6,6 +6,7 @@
 #include <uxtheme.h>
 
 #include <algorithm>
+#include <climits>
 #include <numeric>
 
 namespace dialogs {
@@ -110,8 +111,9 @@ CSize TextMeasure::Lines(std::string_view text, int width)
         lines += several ? 1 : 0;
     }
     const CSize size = largest.Size();
+    constexpr LONGLONG Highest = INT_MAX / 4; // what is around the text is added
     return CSize(std::max(width, int(size.cx)) + (VisualStyles() ? themedExtra : 0),
-                 size.cy * lines);
+                 int(std::min(LONGLONG(size.cy) * lines, Highest)));
 }
 
 int TextMeasure::Title(const CWnd& window)
