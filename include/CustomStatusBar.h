@@ -28,6 +28,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg LRESULT OnSetFont(WPARAM font, LPARAM redraw);
     afx_msg void OnWindowPosChanged(WINDOWPOS* position);
     DECLARE_MESSAGE_MAP()
 

@@ -34,4 +34,7 @@ protected:
     UINT m_searchTimer = 1189;
     UINT m_loadingTimer = 1190;
     int m_activeTimer = -1; // -1 for none
+
+private:
+    void StartTimer(UINT id);
 };

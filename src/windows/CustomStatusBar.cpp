@@ -16,6 +16,7 @@ BEGIN_MESSAGE_MAP(CCustomStatusBar, CStatusBarCtrl)
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
     ON_WM_WINDOWPOSCHANGED()
+    ON_MESSAGE(WM_SETFONT, &CCustomStatusBar::OnSetFont)
 END_MESSAGE_MAP()
 
 CFont CCustomStatusBar::m_OBFont;
@@ -51,8 +52,8 @@ bool CCustomStatusBar::FollowMode()
     {
         m_standardFont = reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));
     }
-    SendMessage(WM_SETFONT,
-                onBoard ? WPARAM(GetOnBoardFont().GetSafeHandle()) : WPARAM(m_standardFont));
+    DefWindowProc(WM_SETFONT,
+                  onBoard ? WPARAM(GetOnBoardFont().GetSafeHandle()) : WPARAM(m_standardFont), 0);
     if (alive)
     {
         // The platform's bar takes its height and place when it is told of a size.
@@ -91,6 +92,17 @@ void CCustomStatusBar::OnSize(UINT type, int width, int height)
     {
         FollowMode();
     }
+}
+
+// A font that comes while the bar has the on-board one is kept for the standard mode.
+LRESULT CCustomStatusBar::OnSetFont(WPARAM font, LPARAM)
+{
+    if (!m_onBoard)
+    {
+        return Default();
+    }
+    m_standardFont = reinterpret_cast<HFONT>(font);
+    return 0;
 }
 
 // A mode-aware parent places its children when the mode changes.
@@ -147,13 +159,14 @@ void CCustomStatusBar::DrawOB(CDC& dc)
         DrawPane(dc, SimplePane, client);
         return;
     }
+    const WindowAlive alive(*this);
     const int count = GetParts(0, nullptr);
-    for (int pane = 0; pane < count; ++pane)
+    for (int pane = 0; pane < count && alive; ++pane)
     {
         CRect place;
         GetRect(pane, &place);
         DrawPane(dc, pane, place);
-        if (pane + 1 < count)
+        if (alive && pane + 1 < count)
         {
             dc.FillSolidRect(place.right, client.top, 1, client.Height(), palette::Outline);
         }
@@ -173,8 +186,11 @@ void CCustomStatusBar::DrawPane(CDC& dc, int pane, const CRect& place)
         item.hDC = dc;
         item.rcItem = place;
         item.itemData = ULONG_PTR(SendMessage(SB_GETTEXT, WPARAM(pane)));
+        // What the owner selects and clips is not meant for the next pane. It may end the bar.
+        const int saved = ::SaveDC(dc);
         ::SendMessage(::GetParent(m_hWnd), WM_DRAWITEM, item.CtlID,
                       reinterpret_cast<LPARAM>(&item));
+        ::RestoreDC(dc, saved);
         return;
     }
     const CString text = GetText(pane);

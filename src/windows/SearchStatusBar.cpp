@@ -38,10 +38,10 @@ void CSearchStatusBar::StartSearchProgress()
     }
     const WindowAlive alive(*this);
     SetText(Searching, 0, 0);
-    if (alive && SetTimer(m_searchTimer, m_period, nullptr) != 0)
+    if (alive)
     {
-        m_activeTimer = int(m_searchTimer);
         Invalidate(FALSE);
+        StartTimer(m_searchTimer);
     }
 }
 
@@ -53,11 +53,23 @@ void CSearchStatusBar::StartLoadingProgress()
     }
     const WindowAlive alive(*this);
     SetText(Loading, 0, 0);
-    if (alive && SetTimer(m_loadingTimer, m_period, nullptr) != 0)
+    if (alive)
     {
-        m_activeTimer = int(m_loadingTimer);
         Invalidate();
         UpdateWindow();
+    }
+    if (alive)
+    {
+        StartTimer(m_loadingTimer);
+    }
+}
+
+// Unless showing the text has started one.
+void CSearchStatusBar::StartTimer(UINT id)
+{
+    if (m_activeTimer == -1 && SetTimer(id, m_period, nullptr) != 0)
+    {
+        m_activeTimer = int(id);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "SearchStatusBar.h"
 #include "support/WindowTest.h"
+#include "windows/freed_at_once.h"
 
 namespace {
 
@@ -8,9 +9,11 @@ class Bar : public CSearchStatusBar
 {
 public:
     bool ended = false; // by its next painting
+    std::vector<int> timersAtPainting;
 
     void DrawOB(CDC& dc) override
     {
+        timersAtPainting.push_back(m_activeTimer);
         CSearchStatusBar::DrawOB(dc);
         if (ended)
         {
@@ -107,6 +110,22 @@ TEST_F(SearchStatusBarTest, LoadingStandsStillAndLetsNoSearchBegin)
     bar.StopSearchProgress();
 }
 
+TEST_F(SearchStatusBarTest, TheTextOfLoadingShowsBeforeItsTimerRuns)
+{
+    const ModeScope scope(ONBOARD);
+    Bar& bar = AddBar();
+    PumpAll();
+    bar.timersAtPainting.clear();
+    bar.StartLoadingProgress();
+    EXPECT_FALSE(bar.timersAtPainting.empty());
+    for (const int timer : bar.timersAtPainting)
+    {
+        EXPECT_EQ(timer, -1);
+    }
+    EXPECT_EQ(bar.m_activeTimer, 1190);
+    bar.StopLoadingProgress();
+}
+
 TEST_F(SearchStatusBarTest, ABarMayGoWhileItsTimerRuns)
 {
     Bar bar;
@@ -194,6 +213,9 @@ TEST_F(StatusBarTest, OnBoardItIsDarkAndHighEnoughAndTheStandardLookComesBack)
 TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryMode)
 {
     auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0));
+    int edges[] = {50, -1};
+    bar.SetParts(2, edges);
+    bar.SetText("Other", 1, 0);
     int drawn = 0;
     Host().AlsoRecord({WM_DRAWITEM});
     Host().hook = [&](ToldMessage& told) {
@@ -203,6 +225,9 @@ TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryMode)
             EXPECT_EQ(item->hwndItem, bar.GetSafeHwnd());
             EXPECT_EQ(item->itemData, 77U);
             ++drawn;
+            // What it leaves behind shows nowhere else.
+            ::SetTextColor(item->hDC, RGB(255, 0, 0));
+            ::IntersectClipRect(item->hDC, 0, 0, 1, 1);
         }
     };
     for (const APPMODE mode : {STD, ONBOARD})
@@ -213,7 +238,53 @@ TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryMode)
         bar.Invalidate();
         PumpAll();
         EXPECT_GT(drawn, 0) << mode;
+        if (mode != STD)
+        {
+            EXPECT_GT(WindowPixels(bar).Count(RGB(230, 230, 230)), 20) << "of the other pane";
+        }
     }
+}
+
+TEST_F(StatusBarTest, AnOwnerMayDeleteTheBarThatItDraws)
+{
+    const ModeScope scope(ONBOARD);
+    auto* bar = new FreedAtOnce<CCustomStatusBar>;
+    ASSERT_TRUE(bar->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
+    int edges[] = {50, 100, -1};
+    bar->SetParts(3, edges);
+    bar->SendMessage(SB_SETTEXT, 1 | SBT_OWNERDRAW, 0);
+    Host().AlsoRecord({WM_DRAWITEM});
+    Host().hook = [&](ToldMessage& told) {
+        if (told.message == WM_DRAWITEM && bar != nullptr)
+        {
+            delete bar;
+            bar = nullptr;
+        }
+    };
+    bar->Invalidate();
+    PumpAll();
+    EXPECT_EQ(bar, nullptr);
+    Host().hook = nullptr;
+}
+
+TEST_F(StatusBarTest, AFontThatComesOnBoardIsThatOfTheStandardMode)
+{
+    auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0));
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(120, "Arial"));
+    {
+        const ModeScope scope(ONBOARD);
+        bar.Invalidate();
+        PumpAll();
+        const int height = ClientRectOf(bar).Height();
+        bar.SetFont(&font);
+        PumpAll();
+        EXPECT_EQ(ClientRectOf(bar).Height(), height);
+        EXPECT_NE(bar.SendMessage(WM_GETFONT), LRESULT(font.GetSafeHandle()));
+    }
+    bar.Invalidate();
+    PumpAll();
+    EXPECT_EQ(bar.SendMessage(WM_GETFONT), LRESULT(font.GetSafeHandle()));
 }
 
 } // namespace

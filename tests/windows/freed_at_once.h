@@ -1,0 +1,17 @@
+#pragma once
+
+#include <windows.h>
+
+// An object whose memory cannot be touched any more once it is deleted: the test program ends
+// there.
+template <class Base> class FreedAtOnce : public Base
+{
+public:
+    using Base::Base;
+
+    static void* operator new(size_t size)
+    {
+        return ::VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
+    }
+    static void operator delete(void* memory) { ::VirtualFree(memory, 0, MEM_RELEASE); }
+};
