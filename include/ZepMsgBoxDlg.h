@@ -89,18 +89,23 @@ private:
     bool m_splitThemed = false;
     int m_standardTextWidth = 0; // of the text's control in the template
     std::optional<APPMODE> m_laidOutFor;
+    CString m_shownText;   // as the edit was last given it
     bool m_sizing = false; // to the lines that the text has
 
     void FollowMode();
     void TakeLook();
     void ShowIcon();
+    void ShowText();
     HFONT StandardFont() const;
     CRect CentredPlace(const CSize& size) const;
+    int ButtonWith(HWND window) const;
     int FocusedButton() const;
     int DefaultButton() const;
     void Focus(int button);
     int EscapeId() const;
     void Answer(int id);
+    bool IsOwnPart(HWND window) const;
+    bool IsEscape(const MSG& message) const;
     bool PressKey(UINT key);
     bool PressInitial(UINT character);
 };

@@ -123,6 +123,7 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     m_buttonPressed = 0;
     m_laidOutFor.reset();
     m_sizing = false;
+    m_shownText.Empty();
     m_buttons.clear();
     m_text = std::make_unique<dialogs::MessageText>();
     CCustomDialog::OnInitDialog();
@@ -149,20 +150,32 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     CalcStdSizes();
     SplitText();
     CreateButtons();
-    if (m_icon.GetSafeHwnd() != nullptr)
+    if (alive && m_icon.GetSafeHwnd() != nullptr)
     {
         // What the control loaded from the template is nobody's once it is replaced.
         ::DeleteObject(m_icon.SetBitmap(nullptr));
     }
-    ShowIcon();
-    SetWindowText(COnBoardUIGeneral::GetAppTitle());
-    TakeLook();
-    SizeToText();
-    m_laidOutFor = COnBoardUIGeneral::GetAppMode();
-    // Last: each new width of the edit would break a long text anew.
-    if (alive && m_text->GetSafeHwnd() != nullptr)
+    if (alive)
     {
-        m_text->SetWindowText(m_displayText);
+        ShowIcon();
+    }
+    if (alive)
+    {
+        SetWindowText(COnBoardUIGeneral::GetAppTitle());
+    }
+    if (alive)
+    {
+        TakeLook();
+    }
+    if (alive)
+    {
+        SizeToText();
+    }
+    if (alive)
+    {
+        m_laidOutFor = COnBoardUIGeneral::GetAppMode();
+        // Last: each new width of the edit would break a long text anew.
+        ShowText();
     }
     if (alive)
     {
@@ -184,8 +197,13 @@ void CZepMsgBoxDlg::CreateButtons()
     const CRect place(
         CPoint((client.Width() - m_buttonSize.cx) / 2, client.bottom - 2 * m_buttonSize.cy),
         m_buttonSize);
+    const WindowAlive alive(*this);
     for (const ButtonEntry& button : ButtonsOf(m_style))
     {
+        if (!alive)
+        {
+            return;
+        }
         CreateButton(place, button.caption, UINT(button.id));
     }
 }
@@ -194,7 +212,8 @@ void CZepMsgBoxDlg::CreateButton(const CRect& rect, const char* caption, unsigne
 {
     auto button = std::make_unique<CCustomPushbutton>();
     const DWORD kind = COnBoardUIGeneral::InOnBoardMode() ? BS_OWNERDRAW : BS_PUSHBUTTON;
-    if (button->Create(caption, WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, rect, this, id))
+    const WindowAlive alive(*this);
+    if (button->Create(caption, WS_CHILD | WS_VISIBLE | WS_TABSTOP | kind, rect, this, id) && alive)
     {
         m_buttons.push_back(std::move(button));
     }
@@ -257,18 +276,22 @@ void CZepMsgBoxDlg::OnWindowPosChanged(WINDOWPOS* position)
 
 // Answers ---------------------------------------------------------------------------------------
 
-// The button that has the focus, or -1.
-int CZepMsgBoxDlg::FocusedButton() const
+// The button with this window, or -1.
+int CZepMsgBoxDlg::ButtonWith(HWND window) const
 {
-    const HWND focus = ::GetFocus();
-    for (size_t index = 0; focus != nullptr && index < m_buttons.size(); ++index)
+    for (size_t index = 0; window != nullptr && index < m_buttons.size(); ++index)
     {
-        if (m_buttons[index]->GetSafeHwnd() == focus)
+        if (m_buttons[index]->GetSafeHwnd() == window)
         {
             return int(index);
         }
     }
     return -1;
+}
+
+int CZepMsgBoxDlg::FocusedButton() const
+{
+    return ButtonWith(::GetFocus());
 }
 
 // The one that the style names; the first, when it names one that is not there.
@@ -307,19 +330,54 @@ void CZepMsgBoxDlg::Answer(int id)
     }
 }
 
+// Messages of the windows that the box owns come here too, and so do those of controls that a
+// derived class has added: their keys are their own.
+bool CZepMsgBoxDlg::IsOwnPart(HWND window) const
+{
+    return window == m_hWnd || (window != nullptr && window == m_text->GetSafeHwnd()) ||
+           ButtonWith(window) >= 0;
+}
+
+// Whether a key stands for Escape. An added control may want it for itself, such as to close a list
+// that it has dropped; passed on by any other it would be a Cancel, which the box need not have.
+bool CZepMsgBoxDlg::IsEscape(const MSG& message) const
+{
+    // Ctrl+Break stands for Escape in every dialog.
+    if (message.message != WM_KEYDOWN ||
+        (message.wParam != VK_ESCAPE && message.wParam != VK_CANCEL))
+    {
+        return false;
+    }
+    return IsOwnPart(message.hwnd) || (::IsChild(m_hWnd, message.hwnd) &&
+                                       (::SendMessage(message.hwnd, WM_GETDLGCODE, message.wParam,
+                                                      reinterpret_cast<LPARAM>(&message)) &
+                                        DLGC_WANTMESSAGE) == 0);
+}
+
 BOOL CZepMsgBoxDlg::PreTranslateMessage(MSG* message)
 {
+    const WindowAlive alive(*this);
+    const bool escape = IsEscape(*message);
+    if (!alive)
+    {
+        return TRUE;
+    }
+    if (escape)
+    {
+        Answer(EscapeId());
+        return TRUE;
+    }
     switch (message->message)
     {
     case WM_KEYDOWN:
-        if (PressKey(UINT(message->wParam)))
+        if (IsOwnPart(message->hwnd) && PressKey(UINT(message->wParam)))
         {
             return TRUE;
         }
         break;
     case WM_CHAR:
     case WM_SYSCHAR:
-        if (PressInitial(UINT(message->wParam)))
+        if (IsOwnPart(message->hwnd) && PressInitial(UINT(message->wParam)))
         {
             return TRUE;
         }
@@ -349,9 +407,6 @@ bool CZepMsgBoxDlg::PressKey(UINT key)
         Answer(count == 0
                    ? IDOK
                    : m_buttons[size_t(focused >= 0 ? focused : DefaultButton())]->GetDlgCtrlID());
-        return true;
-    case VK_ESCAPE:
-        Answer(EscapeId());
         return true;
     case VK_LEFT:
     case VK_UP:
@@ -385,7 +440,7 @@ bool CZepMsgBoxDlg::PressInitial(UINT character)
 {
     for (const ButtonEntry& button : ButtonsOf(m_style))
     {
-        if (std::toupper(int(character & 0xFF)) == button.caption[0])
+        if (character < 0x80 && std::toupper(int(character)) == button.caption[0])
         {
             Answer(button.id);
             return true;

@@ -16,14 +16,27 @@
 
 namespace {
 
-constexpr UINT PlaceOnly = SWP_NOZORDER | SWP_NOACTIVATE;
-
-void Place(const CWnd& part, const CRect& place)
+// How windows are moved: what is not shown need not be drawn.
+UINT MoveFlags(HWND box)
 {
-    if (part.GetSafeHwnd() != nullptr)
+    constexpr UINT PlaceOnly = SWP_NOZORDER | SWP_NOACTIVATE;
+    constexpr UINT Undrawn = SWP_NOREDRAW | SWP_DEFERERASE | SWP_NOCOPYBITS;
+    return ::IsWindowVisible(box) ? PlaceOnly : PlaceOnly | Undrawn;
+}
+
+// Moves a window of the box, unless it is there. The place is one within the window's parent.
+void Place(const CWnd& part, const CRect& place, UINT flags)
+{
+    if (part.GetSafeHwnd() == nullptr)
     {
-        ::SetWindowPos(part, nullptr, place.left, place.top, place.Width(), place.Height(),
-                       PlaceOnly);
+        return;
+    }
+    CRect now;
+    part.GetWindowRect(&now);
+    ::MapWindowPoints(nullptr, ::GetAncestor(part, GA_PARENT), reinterpret_cast<POINT*>(&now), 2);
+    if (now != place)
+    {
+        ::SetWindowPos(part, nullptr, place.left, place.top, place.Width(), place.Height(), flags);
     }
 }
 
@@ -125,9 +138,9 @@ void CZepMsgBoxDlg::SizeToText()
 
     const CSize growth = dialogs::MessageGrowth(size.client, client.Size());
     const CRect place = CentredPlace(window.Size() + growth + growth);
+    const UINT flags = MoveFlags(m_hWnd);
     m_sizing = true;
-    ::SetWindowPos(m_hWnd, nullptr, place.left, place.top, place.Width(), place.Height(),
-                   PlaceOnly);
+    Place(*this, place, flags);
     if (!alive)
     {
         return;
@@ -136,14 +149,16 @@ void CZepMsgBoxDlg::SizeToText()
     GetClientRect(&client);
     const dialogs::MessagePlaces places = dialogs::PlaceMessageParts(
         units, size, client.Size(), m_captionHeight, int(m_buttons.size()));
-    Place(m_icon, places.icon);
+    // The library's text changes its place as it is told of it; labels and buttons do not.
+    constexpr UINT Unasked = SWP_NOSENDCHANGING;
+    Place(m_icon, places.icon, flags | Unasked);
     if (alive)
     {
-        Place(*m_text, places.text);
+        Place(*m_text, places.text, flags);
     }
     for (size_t index = 0; alive && index < m_buttons.size(); ++index)
     {
-        Place(*m_buttons[index], places.Button(int(index)));
+        Place(*m_buttons[index], places.Button(int(index)), flags | Unasked);
     }
     if (alive && m_text->GetSafeHwnd() != nullptr)
     {
@@ -189,11 +204,19 @@ void CZepMsgBoxDlg::FollowMode()
         SetDefID(UINT(m_buttons[size_t(focused)]->GetDlgCtrlID()));
     }
     CalcStdSizes();
+    SplitText(); // for the screen as it is now
     ShowIcon();
-    TakeLook();
+    if (alive)
+    {
+        TakeLook();
+    }
     if (alive)
     {
         SizeToText();
+    }
+    if (alive)
+    {
+        ShowText();
     }
     if (alive && focused >= 0)
     {
@@ -219,21 +242,38 @@ void CZepMsgBoxDlg::TakeLook()
         m_text->SendMessage(WM_SETFONT,
                             onBoard ? WPARAM(CCustomEdit::GetOnBoardFont().GetSafeHandle()) : font);
     }
-    const DWORD defaultId = GetDefID();
-    for (const auto& button : m_buttons)
+    const DWORD defaultId = alive ? GetDefID() : 0;
+    for (size_t index = 0; alive && index < m_buttons.size(); ++index)
     {
         // In the on-board modes a button paints itself.
-        const bool isDefault = DWORD(button->GetDlgCtrlID()) == LOWORD(defaultId);
-        button->SetButtonStyle(onBoard     ? BS_OWNERDRAW
-                               : isDefault ? BS_DEFPUSHBUTTON
-                                           : BS_PUSHBUTTON,
-                               FALSE);
-        button->SendMessage(WM_SETFONT, font);
+        CCustomPushbutton& button = *m_buttons[index];
+        const bool isDefault = DWORD(button.GetDlgCtrlID()) == LOWORD(defaultId);
+        button.SetButtonStyle(onBoard     ? BS_OWNERDRAW
+                              : isDefault ? BS_DEFPUSHBUTTON
+                                          : BS_PUSHBUTTON,
+                              FALSE);
+        if (alive)
+        {
+            button.SendMessage(WM_SETFONT, font);
+        }
+    }
+    if (!alive)
+    {
+        return;
     }
     const HMENU menu = onBoard ? nullptr : ::GetSystemMenu(m_hWnd, FALSE);
     if (menu != nullptr)
     {
         ::EnableMenuItem(menu, SC_CLOSE, MF_BYCOMMAND | (EscapeId() != 0 ? MF_ENABLED : MF_GRAYED));
+    }
+}
+
+void CZepMsgBoxDlg::ShowText()
+{
+    if (m_text->GetSafeHwnd() != nullptr && m_shownText != m_displayText)
+    {
+        m_shownText = m_displayText;
+        m_text->SetWindowText(m_displayText);
     }
 }
 
@@ -247,7 +287,12 @@ void CZepMsgBoxDlg::ShowIcon()
     dialogs::LoadPictureOver(picture, UINT(m_iconId),
                              COnBoardUIGeneral::InOnBoardMode() ? palette::Panel
                                                                 : ::GetSysColor(COLOR_3DFACE));
+    const WindowAlive alive(*this);
     m_icon.SetBitmap(picture);
+    if (!alive)
+    {
+        return;
+    }
     m_iconPicture.DeleteObject();
     if (picture.GetSafeHandle() != nullptr)
     {

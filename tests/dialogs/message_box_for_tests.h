@@ -3,6 +3,7 @@
 #include "CustomEdit.h"
 #include "OnBoardUI.h"
 #include "ZepMsgBoxDlg.h"
+#include "dialogs/MessageBoxLayout.h"
 #include "dialogs/MessageText.h"
 #include "dialogs/dialog_for_tests.h"
 
@@ -35,11 +36,30 @@ public:
         return std::string(text);
     }
 
+    // The box's measures, and what it measures, as the rules of its layout take them.
+    dialogs::MessageUnits Units() const { return {m_buttonSize, m_margin, m_spacing, m_textUnit}; }
+    dialogs::MessageContent Content(int leastWidth)
+    {
+        dialogs::MessageContent content;
+        int width = leastWidth;
+        int height = 0;
+        GetStaticTextSize(m_displayText, width, height);
+        content.text = CSize(width, height);
+        content.titleWidth = GetTitleWidth();
+        content.buttons = int(m_buttons.size());
+        content.area = m_area;
+        content.frame = WindowRectOf(*this).Size() - ClientRectOf(*this).Size();
+        content.captionHeight = m_captionHeight;
+        content.barWidth = ::GetSystemMetrics(SM_CXVSCROLL);
+        return content;
+    }
+
     using CZepMsgBoxDlg::GetStaticTextSize;
     using CZepMsgBoxDlg::m_buttons;
     using CZepMsgBoxDlg::m_icon;
     using CZepMsgBoxDlg::m_iconId;
     using CZepMsgBoxDlg::m_lpszTemplateName;
+    using CZepMsgBoxDlg::m_message;
     using CZepMsgBoxDlg::m_text;
 };
 

@@ -1,4 +1,9 @@
 #include "dialogs/message_box_for_tests.h"
+#include "windows/freed_at_once.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
 
 namespace {
 
@@ -74,15 +79,23 @@ TEST_F(MessageBoxTest, TheStyleNamesTheIcon)
         const ModeScope scope(mode);
         for (const UINT icon : {MB_ICONHAND, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONASTERISK})
         {
+            ptrdiff_t alphas = -1;
             Box box("Look", MB_OK | icon);
             box.inLoop = [&] {
                 PumpAll();
                 pictures.push_back(WindowPixels(box.m_icon));
+                DIBSECTION section = {};
+                ::GetObject(box.m_icon.GetBitmap(), sizeof(section), &section);
+                ASSERT_NE(section.dsBm.bmBits, nullptr);
+                const std::span pixels(static_cast<const RGBQUAD*>(section.dsBm.bmBits), 48 * 48);
+                alphas = std::ranges::count_if(
+                    pixels, [](const RGBQUAD& pixel) { return pixel.rgbReserved != 0; });
                 box.EndDialog(1);
             };
             box.DoModal();
             const Pixels& picture = pictures.back();
             const COLORREF ground = mode == STD ? ::GetSysColor(COLOR_3DFACE) : RGB(50, 50, 50);
+            EXPECT_EQ(alphas, 0) << "the platform would keep a copy";
             EXPECT_EQ(picture.Width(), 48);
             EXPECT_EQ(picture.Height(), 48);
             EXPECT_GT(picture.Count(ground), 48 * 48 / 8) << "what is not painted is ground";
@@ -107,6 +120,7 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
     } cases[] = {
         {MB_OK, {VK_RETURN}, IDOK},
         {MB_OK, {VK_ESCAPE}, IDOK},
+        {MB_OK, {VK_CANCEL}, IDOK},
         {MB_OK, {VK_SPACE}, IDOK},
         {MB_OK, {'O'}, IDOK},
         {MB_OKCANCEL, {VK_ESCAPE}, IDCANCEL},
@@ -127,7 +141,7 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
         {MB_YESNOCANCEL, {'N'}, IDNO},
         {MB_YESNOCANCEL, {'C'}, IDCANCEL},
         {MB_YESNOCANCEL, {VK_ESCAPE}, IDCANCEL},
-        {MB_YESNO, {VK_ESCAPE, VK_TAB, VK_RETURN}, IDNO},
+        {MB_YESNO, {VK_ESCAPE, VK_CANCEL, VK_TAB, VK_RETURN}, IDNO},
         // The text is the last stop, and there the default button answers.
         {MB_YESNO, {VK_TAB, VK_TAB, VK_RETURN}, IDYES},
         {MB_YESNO | MB_DEFBUTTON2, {VK_TAB, VK_RETURN}, IDNO},
@@ -137,13 +151,18 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
         {7, {VK_ESCAPE}, IDCANCEL}, // without buttons there is still a way out
         {7, {VK_RETURN}, IDOK},
     };
-    for (const APPMODE mode : {STD, ONBOARD, EFB})
+    // The last two change the mode of the open box first.
+    const std::pair<APPMODE, APPMODE> modes[] = {
+        {STD, STD}, {ONBOARD, ONBOARD}, {EFB, EFB}, {STD, EFB}, {ONBOARD, STD}};
+    for (const auto& [opened, mode] : modes)
     {
-        const ModeScope scope(mode);
         for (const auto& each : cases)
         {
+            const ModeScope scope(opened);
             Box box("Go on?", each.style);
             box.inLoop = [&] {
+                COnBoardUIGeneral::SetAppMode(mode);
+                PumpAll();
                 for (const UINT key : each.keys)
                 {
                     EXPECT_NE(box.GetSafeHwnd(), nullptr);
@@ -158,8 +177,40 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
             };
             box.DoModal();
             EXPECT_EQ(box.GetButtonPressed(), each.pressed)
-                << APPMODE_NAMES[mode] << ", style " << each.style;
+                << APPMODE_NAMES[opened] << ' ' << APPMODE_NAMES[mode] << ", style " << each.style;
         }
+    }
+}
+
+TEST_F(MessageBoxTest, OtherWindowsKeepTheirKeys)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        Box box("Go on?", MB_YESNO);
+        box.inLoop = [&] {
+            CWnd popup;  // owned by the box
+            CEdit added; // as a derived class has it
+            ASSERT_TRUE(popup.CreateEx(0, "EDIT", "", WS_POPUP | WS_VISIBLE | ES_MULTILINE,
+                                       CRect(10, 10, 200, 100), &box, 0));
+            ASSERT_TRUE(added.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &box, 900));
+            for (CWnd* const own : {&popup, static_cast<CWnd*>(&added)})
+            {
+                own->SetFocus();
+                TypeText("yn");
+                TypeKey(VK_ESCAPE);
+                CString typed;
+                own->GetWindowText(typed);
+                EXPECT_EQ(typed, "yn");
+                EXPECT_EQ(box.GetButtonPressed(), 0);
+            }
+            box.Button(0).SetFocus();
+            box.Button(0).PostMessage(WM_CHAR, 0x159); // no Y
+            PumpAll();
+            EXPECT_EQ(box.GetButtonPressed(), 0);
+            box.EndDialog(-2);
+        };
+        box.DoModal();
     }
 }
 
@@ -318,6 +369,27 @@ TEST_F(MessageBoxTest, ABoxCanBeShownAgainAndCanGoInsideItsLoop)
     const HWND window = *modeless;
     delete modeless;
     EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
+{
+    static FreedAtOnce<Box>* box;
+    static WNDPROC before;
+    box = new FreedAtOnce<Box>(Lines(3).c_str(), MB_YESNOCANCEL);
+    ASSERT_TRUE(box->Create(CZepMsgBoxDlg::IDD, &Host()));
+    const auto goes = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        const WNDPROC next = before;
+        if (message == BM_SETSTYLE && box != nullptr)
+        {
+            delete std::exchange(box, nullptr);
+            return 0;
+        }
+        return ::CallWindowProc(next, window, message, wParam, lParam);
+    };
+    before = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtr(box->Button(0), GWLP_WNDPROC, LONG_PTR(static_cast<WNDPROC>(+goes))));
+    const ModeScope scope(ONBOARD);
+    EXPECT_EQ(box, nullptr);
 }
 
 TEST_F(MessageBoxTest, BoxesLeaveNoGraphicsObjectsBehind)
