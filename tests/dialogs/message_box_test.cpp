@@ -388,8 +388,10 @@ TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
     };
     before = reinterpret_cast<WNDPROC>(
         ::SetWindowLongPtr(box->Button(0), GWLP_WNDPROC, LONG_PTR(static_cast<WNDPROC>(+goes))));
+    const AccessFaults faults;
     const ModeScope scope(ONBOARD);
     EXPECT_EQ(box, nullptr);
+    EXPECT_EQ(faults.Count(), 0);
 }
 
 TEST_F(MessageBoxTest, BoxesLeaveNoGraphicsObjectsBehind)

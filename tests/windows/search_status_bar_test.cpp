@@ -261,9 +261,11 @@ TEST_F(StatusBarTest, AnOwnerMayDeleteTheBarThatItDraws)
             bar = nullptr;
         }
     };
+    const AccessFaults faults;
     bar->Invalidate();
     PumpAll();
     EXPECT_EQ(bar, nullptr);
+    EXPECT_EQ(faults.Count(), 0);
     Host().hook = nullptr;
 }
 
