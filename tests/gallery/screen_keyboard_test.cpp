@@ -123,14 +123,16 @@ TEST_F(ScreenKeyboardTest, TypesAWordIntoTheEditThatWasTappedAndHides)
     {
         int row;
         int unit;
-    } word[] = {{2, 2}, {1, 16}, {3, 13}, {2, 18}, {1, 16}}; // s o n, back, o
+        const char* text; // afterwards
+    } word[] = {{2, 2, "s"}, {1, 16, "so"}, {3, 13, "son"}, {2, 18, "so"}, {1, 16, "soo"}};
     for (const auto& key : word)
     {
+        // Not faster than a finger that sees what it has typed.
         Click(KeyAt(keys, key.row, key.unit));
+        EXPECT_TRUE(PumpUntil([&] { return TextOf(edit) == key.text; }, 10000)) << TextOf(edit);
     }
-    EXPECT_TRUE(PumpUntil([&] { return TextOf(edit) == "soo"; })) << TextOf(edit);
     Click(KeyAt(keys, 4, 18));
-    EXPECT_TRUE(PumpUntil([&] { return !::IsWindowVisible(keyboard); }));
+    EXPECT_TRUE(PumpUntil([&] { return !::IsWindowVisible(keyboard); }, 10000));
 }
 
 } // namespace
