@@ -30,7 +30,7 @@ constexpr PageEntry AllPages[] = {
     {"reportlist", "Report list", &Make<ReportListPage>},
     {"trees", "Trees", &Make<TreesPage>},
     {"buttons", "Buttons", &Make<ButtonsPage>},
-    {"labels", "Labels and groups", &Make<LabelsPage>},
+    {"labels", "Labels", &Make<LabelsPage>},
     {"edits", "Edits", &Make<EditsPage>},
     {"dialogs", "Dialogs", &Make<DialogsPage>},
     {"messagebox", "Message boxes", &Make<MessageBoxPage>},
