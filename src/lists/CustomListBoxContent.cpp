@@ -347,8 +347,12 @@ LRESULT CCustomListBox::OnMayScroll(WPARAM wParam, LPARAM lParam)
     return result;
 }
 
-LRESULT CCustomListBox::OnRowsMeasured(WPARAM, LPARAM)
+LRESULT CCustomListBox::OnRowsMeasured(WPARAM wParam, LPARAM)
 {
+    if (GetCurrentMessage()->message == LB_SETCOLUMNWIDTH && int(wParam) <= 0)
+    {
+        return 0; // the platform divides by it
+    }
     const WindowAlive alive(*this);
     const LRESULT result = Default();
     if (alive && FollowMode())

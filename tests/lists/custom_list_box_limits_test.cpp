@@ -5,9 +5,30 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <climits>
 #include <cstddef>
 #include <memory>
 #include <new>
+
+TEST_F(ListBoxTest, ColumnsOfNoWidthKeepTheWidthThatTheyHave)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        auto& columns = AddList(60, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN);
+        columns.SetColumnWidth(90);
+        CRect before;
+        columns.GetItemRect(0, &before);
+        for (const int width : {0, -1, INT_MIN})
+        {
+            columns.SetColumnWidth(width);
+            CRect now;
+            columns.GetItemRect(0, &now);
+            EXPECT_EQ(now.Width(), before.Width()) << width;
+        }
+        Remove(columns);
+    }
+}
 
 TEST_F(ListBoxOnBoard, AHugeExtentScrollsAsFarAsThePlatformGoes)
 {
