@@ -1,10 +1,13 @@
-// A change of mode against the least that it takes: placing each child and giving it its font.
+// Changes of the mode. mode.change: there and back against the least that it takes, placing each
+// child and giving it its font. mode.all: a host with a window of every kind through all modes
+// against repaints of the same windows, one in each mode.
 
 #include "CustomDialog.h"
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
 #include "Row.h"
 #include "Stage.h"
+#include "catalog/Controls.h"
 
 namespace {
 
@@ -97,9 +100,109 @@ Side LoopThereAndBack()
             [parent] { parent->reset(); }};
 }
 
+// A window of every kind, in rows on a dialog that follows the mode.
+class Host : public CCustomDialog
+{
+public:
+    Host()
+        : CCustomDialog(0U, &Stage())
+    {
+        struct
+        {
+            DLGTEMPLATE head;
+            WORD menu, windowClass, title;
+        } const empty = {{WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 0, 0, 480, 380}, 0, 0, 0};
+        CreateIndirect(&empty.head, &Stage());
+        int place = 0;
+        for (const Control& control : Controls())
+        {
+            const CRect room(CPoint(4 + place % 7 * 70, 4 + place / 7 * 100), CSize(66, 96));
+            m_windows.push_back(control.make(*this, {room, "Direct to", Rows}));
+            ++place;
+        }
+        RepaintAll();
+        Settle();
+    }
+
+    ~Host() override
+    {
+        for (const std::unique_ptr<CWnd>& window : m_windows)
+        {
+            window->DestroyWindow();
+        }
+        DestroyWindow();
+    }
+
+    void PaintAll()
+    {
+        PaintNow(*this);
+        for (const std::unique_ptr<CWnd>& window : m_windows)
+        {
+            PaintNow(*window); // also what is no child
+        }
+    }
+
+    void RepaintAll()
+    {
+        Invalidate();
+        for (const std::unique_ptr<CWnd>& window : m_windows)
+        {
+            window->RedrawWindow(nullptr, nullptr,
+                                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+        }
+        PaintAll();
+    }
+
+private:
+    static constexpr int Rows = 1000;
+    std::vector<std::unique_ptr<CWnd>> m_windows;
+};
+
+constexpr APPMODE AllModes[] = {FULLSCREEN, ONBOARD, EFB, EFBFS, STD};
+
+Side CycleAll()
+{
+    auto host = std::make_shared<std::unique_ptr<Host>>();
+    return {[host] {
+                EnterMode(STD);
+                *host = std::make_unique<Host>();
+            },
+            [host] {
+                for (const APPMODE mode : AllModes)
+                {
+                    COnBoardUIGeneral::SetAppMode(mode);
+                    (*host)->PaintAll();
+                }
+            },
+            [host] { host->reset(); }};
+}
+
+Side RepaintInEach()
+{
+    auto host = std::make_shared<std::unique_ptr<Host>>();
+    return {[host] {
+                EnterMode(STD);
+                *host = std::make_unique<Host>();
+            },
+            [host] {
+                for (const APPMODE mode : AllModes)
+                {
+                    {
+                        const Untimed change;
+                        COnBoardUIGeneral::SetAppMode(mode);
+                        (*host)->PaintAll();
+                        Settle();
+                    }
+                    (*host)->RepaintAll();
+                }
+            },
+            [host] { host->reset(); }};
+}
+
 } // namespace
 
 std::vector<Row> ModeRows()
 {
-    return {{"mode.change", 1.3, 7, &ModeThereAndBack, &LoopThereAndBack}};
+    return {{"mode.all", 1.5, 5, &CycleAll, &RepaintInEach},
+            {"mode.change", 1.3, 7, &ModeThereAndBack, &LoopThereAndBack}};
 }

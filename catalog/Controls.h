@@ -1,0 +1,33 @@
+#pragma once
+
+#include <afxwin.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+// Every control and window of the library, made the way a host makes it. What walks all of them
+// takes them from here: the audit, the rows of the benchmarks and the tests of the whole.
+
+struct Contents
+{
+    CRect place;      // pixels of the parent's client area; of the screen for a dialog
+    std::string text; // begins every text that is shown; empty: the same without any text
+    int rows = 40;    // of lists
+};
+
+constexpr UINT ControlId = 77;
+
+struct Control
+{
+    const char* name;
+    // Visible, enabled and filled, with the id ControlId if it is a child. Null when it could not
+    // be made.
+    std::function<std::unique_ptr<CWnd>(CWnd& parent, const Contents& contents)> make;
+};
+
+const std::vector<Control>& Controls();
+
+// Makes the one of that name, which has to be there.
+std::unique_ptr<CWnd> MakeControl(const char* name, CWnd& parent, const Contents& contents);
