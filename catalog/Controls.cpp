@@ -24,16 +24,19 @@
 #include "SearchStatusBar.h"
 #include "ZepMsgBoxDlg.h"
 
+#include <algorithm>
+
 namespace {
+
+using Made = std::unique_ptr<CWnd>;
 
 constexpr DWORD Child = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 constexpr int Lines = 40;
 constexpr int Branches = 20;
-using Made = std::unique_ptr<CWnd>;
 
 std::string Numbered(const Contents& contents, int row)
 {
-    return contents.text.empty() ? "" : contents.text + " " + std::to_string(row);
+    return contents.numbered ? contents.text + " " + std::to_string(row) : contents.text;
 }
 
 // A control whose Create takes (text, style, place, parent, id).
@@ -107,7 +110,8 @@ Made MakeCheckList(CWnd& parent, const Contents& contents)
 Made MakeCombo(CWnd& parent, const Contents& contents)
 {
     auto combo = std::make_unique<CCustomDropListCombo>();
-    if (!combo->Create(Child, contents.place, &parent, ControlId))
+    const CRect field(contents.place.TopLeft(), CSize(contents.place.Width(), 24));
+    if (!combo->Create(Child, field, &parent, ControlId))
     {
         return nullptr;
     }
@@ -115,7 +119,7 @@ Made MakeCombo(CWnd& parent, const Contents& contents)
     {
         combo->AddString(Numbered(contents, row).c_str());
     }
-    combo->SetCurSel(3);
+    combo->SetCurSel(0);
     return combo;
 }
 
@@ -147,7 +151,7 @@ void Fill(CWnd& tree, const Contents& contents)
     insert.hInsertAfter = TVI_LAST;
     insert.item.mask = TVIF_TEXT;
     insert.item.pszText = text.data();
-    for (int branch = 0; branch < Branches; ++branch)
+    for (int branch = 0; branch < std::min(contents.rows, Branches); ++branch)
     {
         insert.hParent = TVI_ROOT;
         insert.hParent = HTREEITEM(tree.SendMessage(TVM_INSERTITEM, 0, LPARAM(&insert)));

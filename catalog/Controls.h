@@ -12,9 +12,10 @@
 
 struct Contents
 {
-    CRect place;      // pixels of the parent's client area; of the screen for a dialog
-    std::string text; // begins every text that is shown; empty: the same without any text
-    int rows = 40;    // of lists
+    CRect place;          // pixels of the parent's client area; of the screen for a dialog
+    std::string text;     // of every title, row, line and branch
+    int rows = 40;        // of lists; a tree has up to 20 branches
+    bool numbered = true; // rows, lines and branches, behind the text
 };
 
 constexpr UINT ControlId = 77;

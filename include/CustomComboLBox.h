@@ -41,6 +41,8 @@ public:
     // Height of a row in pixels, at least 1.
     int GetItemHeight() const;
     using CCustomListBox::GetItemHeight;
+    // On-board at least what a finger hits, in every font.
+    int GetEntryHeight(const char* text) override;
     // What the popup is higher than its rows, in pixels.
     int GetFrameHeight() const;
     // How many rows drop down when there is room for them: at least 1.

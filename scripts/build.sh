@@ -28,3 +28,11 @@ build() {
 leave_build() {
     exec {build_lock}>&-
 }
+
+# release_program NAME [ARGUMENT...]: runs what the release build has made; its lines end as here.
+release_program() {
+    local name=$1
+    shift
+    wine "$root/build/release/bin/$name.exe" "$@" | sed -u 's/\r$//'
+    return "${PIPESTATUS[0]}"
+}

@@ -6,6 +6,7 @@
 #include "OnBoardUIGeneral.h"
 #include "lists/ComboPopup.h"
 #include "modes/WindowAlive.h"
+#include "paint/Metrics.h"
 
 #include <algorithm>
 
@@ -134,6 +135,12 @@ bool CCustomComboLBox::IsPopupVisible() const
 int CCustomComboLBox::GetItemHeight() const
 {
     return GetSafeHwnd() == nullptr ? 1 : std::max(1, CCustomListBox::GetItemHeight(0));
+}
+
+int CCustomComboLBox::GetEntryHeight(const char* text)
+{
+    const int height = CCustomListBox::GetEntryHeight(text);
+    return COnBoardUIGeneral::InOnBoardMode() ? std::max(height, metrics::FingerRow) : height;
 }
 
 int CCustomComboLBox::GetFrameHeight() const
