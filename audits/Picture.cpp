@@ -1,5 +1,7 @@
 #include "Picture.h"
 
+#include <cstring>
+
 Picture::Picture(const CWnd& window)
 {
     CRect place;
@@ -36,4 +38,11 @@ COLORREF Picture::At(int x, int y) const
 {
     const RGBQUAD& pixel = m_pixels[size_t(y) * size_t(m_width) + size_t(x)];
     return RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue);
+}
+
+bool Picture::operator==(const Picture& other) const
+{
+    return m_width == other.m_width && m_height == other.m_height &&
+           std::memcmp(m_pixels.data(), other.m_pixels.data(), m_pixels.size() * sizeof(RGBQUAD)) ==
+               0;
 }

@@ -3,10 +3,13 @@
 // - the contrast of its text against what it is drawn on, whose mark is 4.5 to 1 where the control
 //   is enabled,
 // - how large that is which a finger must hit, whose mark in the on-board modes is 52 pixels, which
-//   are 13.8 mm at 96 dots per inch.
+//   are 13.8 mm at 96 dots per inch,
+// - what it answers to an assistive program, its role, name, value and state, and whether the focus
+//   is seen on it.
 // What misses its mark is marked "below", with the reason if it is known to. The exit code is 1
 // when something else does, 2 for a wrong call.
 
+#include "Access.h"
 #include "Contrast.h"
 #include "CustomDialog.h"
 #include "KnownShortfalls.h"
@@ -181,6 +184,34 @@ void PrintContrast(APPMODE mode, const Control& control, const State& state)
     }
 }
 
+// What an assistive program is told of the control, and whether one sees that it has the focus.
+void PrintAccess(APPMODE mode, const Control& control)
+{
+    Shown shown(control, mode, Sample, State{}.rows);
+    CWnd& window = shown.Window();
+    const Answers answers = AskWindow(window);
+    const Picture before(window);
+    const bool takesFocus =
+        (window.GetStyle() & (WS_CHILD | WS_TABSTOP)) == (WS_CHILD | WS_TABSTOP) &&
+        (window.SendMessage(WM_GETDLGCODE) & DLGC_STATIC) == 0;
+    window.SetFocus();
+    if (std::strcmp(control.name, "report list") == 0)
+    {
+        window.SendMessage(WM_KEYDOWN, VK_DOWN); // the platform's shows it on a row alone
+    }
+    Settle(window);
+    const char* focus = "";
+    if (takesFocus)
+    {
+        const bool seen = CWnd::GetFocus() == &window && !(Picture(window) == before);
+        focus = seen ? " focus seen" : " focus not seen";
+        surprised = surprised || !seen;
+    }
+    std::printf("%-11s %-34s %s \"%s\" \"%s\" %lX%s\n", APPMODE_NAMES[mode], control.name,
+                answers.role.c_str(), answers.name.c_str(), answers.value.c_str(),
+                (unsigned long)answers.state, focus);
+}
+
 void PrintTargets(APPMODE mode, const Control& control)
 {
     const auto extent = [](int pixels) {
@@ -216,6 +247,7 @@ int main(int argc, char** argv)
         return 2;
     }
     AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOW);
+    ::CoInitialize(nullptr);
     COnBoardUIGeneral::SetStdModeGoals();
     for (int mode = 0; mode < Modes; ++mode)
     {
@@ -228,6 +260,7 @@ int main(int argc, char** argv)
                     PrintContrast(APPMODE(mode), control, state);
                 }
                 PrintTargets(APPMODE(mode), control);
+                PrintAccess(APPMODE(mode), control);
             }
         }
     }

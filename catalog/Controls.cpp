@@ -30,7 +30,8 @@ namespace {
 
 using Made = std::unique_ptr<CWnd>;
 
-constexpr DWORD Child = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
+constexpr DWORD Shown = WS_CHILD | WS_VISIBLE;
+constexpr DWORD Child = Shown | WS_TABSTOP;
 constexpr int Lines = 40;
 constexpr int Branches = 20;
 
@@ -44,7 +45,7 @@ template <class Button> auto Titled(DWORD style)
 {
     return [style](CWnd& parent, const Contents& contents) -> Made {
         auto control = std::make_unique<Button>();
-        const bool made = control->Create(contents.text.c_str(), Child | style, contents.place,
+        const bool made = control->Create(contents.text.c_str(), Shown | style, contents.place,
                                           &parent, ControlId);
         return made ? std::move(control) : nullptr;
     };
@@ -192,7 +193,7 @@ Made MakeTreeView(CWnd& parent, const Contents& contents)
 template <class Bar> Made MakeStatusBar(CWnd& parent, const Contents& contents)
 {
     auto bar = std::make_unique<Bar>();
-    if (!bar->Create(Child, contents.place, &parent, ControlId))
+    if (!bar->Create(Shown, contents.place, &parent, ControlId))
     {
         return nullptr;
     }
@@ -241,9 +242,9 @@ const std::vector<Control>& Controls()
 {
     constexpr DWORD manyLines = ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL;
     static const std::vector<Control> controls = {
-        {"push button", Titled<CCustomPushbutton>(BS_PUSHBUTTON)},
-        {"check box", Titled<CCustomCheckBox>(BS_AUTOCHECKBOX | BS_MULTILINE)},
-        {"radio button", Titled<CCustomRadiobutton>(BS_AUTORADIOBUTTON | WS_GROUP)},
+        {"push button", Titled<CCustomPushbutton>(BS_PUSHBUTTON | WS_TABSTOP)},
+        {"check box", Titled<CCustomCheckBox>(BS_AUTOCHECKBOX | BS_MULTILINE | WS_TABSTOP)},
+        {"radio button", Titled<CCustomRadiobutton>(BS_AUTORADIOBUTTON | WS_GROUP | WS_TABSTOP)},
         {"label", Titled<CCustomStatic>(0)},
         {"group box", Titled<CCustomStatic>(BS_GROUPBOX)},
         {"bold label", Titled<CBoldStatic>(0)},

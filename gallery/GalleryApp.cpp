@@ -35,6 +35,7 @@ BOOL GalleryApp::InitInstance()
         return FALSE;
     }
 
+    ::SetProcessDPIAware();  // pixels are pixels, whatever the resolution
     ::CoInitialize(nullptr); // assistive programs reach the windows by it
     COnBoardUIGeneral::SetStdModeGoals();
     CString title;

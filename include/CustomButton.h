@@ -59,9 +59,19 @@ public:
     // selected; with a frame while the button has the focus.
     virtual void DrawRCText(CDC& dc, const CRect& item, const CRect& mark);
 
+    // Assistive programs are told the mode's own check and press. The default action is a click,
+    // posted to the button.
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    HRESULT accDoDefaultAction(VARIANT child) override;
+
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
 
 protected:
+    // The ROLE_SYSTEM_ value that assistive programs are told; here a push button's.
+    virtual long GetAccessibleRole() const;
+
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
     afx_msg void OnEnable(BOOL enable);

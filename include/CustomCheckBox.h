@@ -21,6 +21,8 @@ public:
     virtual void DrawCheckBox(CDC& dc, const CRect& item, CRect& mark);
 
 protected:
+    long GetAccessibleRole() const override;
+
     afx_msg void OnUpdateUIState(UINT action, UINT element);
     DECLARE_MESSAGE_MAP()
 

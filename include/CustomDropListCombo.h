@@ -128,6 +128,15 @@ public:
     BOOL DestroyWindow() override;
     BOOL PreTranslateMessage(MSG* message) override;
 
+    // Assistive programs are told of a combo box, named by the label before it, whose value is the
+    // selected text. The default action opens or closes the list.
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accValue(VARIANT child, BSTR* value) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    HRESULT accDoDefaultAction(VARIANT child) override;
+
 protected:
     void PostNcDestroy() override;
 

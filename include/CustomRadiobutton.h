@@ -28,6 +28,8 @@ public:
     virtual void HandleRadioGroup();
 
 protected:
+    long GetAccessibleRole() const override;
+
     afx_msg void OnUpdateUIState(UINT action, UINT element);
     DECLARE_MESSAGE_MAP()
 

@@ -2,6 +2,7 @@
 
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "buttons/ButtonLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
@@ -80,6 +81,7 @@ CCustomButton::CCustomButton()
     MakeOnce(m_FocusPen, &CreateOnBoardFocusPen, palette::Outline);
     MakeOnce(m_PressedFocusPen, &CreateOnBoardFocusPen, palette::PressedOutline);
     OnBoardControlFont(m_Font, LargeOnBoardFont);
+    EnableActiveAccessibility();
 }
 
 CCustomButton::~CCustomButton() = default;
@@ -132,6 +134,7 @@ void CCustomButton::ChangeCheck(int check)
         if (GetSafeHwnd() != nullptr)
         {
             Invalidate(FALSE);
+            access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE); // the platform's button knows nothing
         }
     }
 }

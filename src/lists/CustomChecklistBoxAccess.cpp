@@ -3,46 +3,20 @@
 
 #include "CustomChecklistBox.h"
 
+#include "access/Answers.h"
 #include "lists/CheckListLayout.h"
 #include "lists/ChildIds.h"
 #include "modes/WindowAlive.h"
 
-#include <oleacc.h>
-
 namespace {
+
+using access::Give;
+using access::GiveNothing;
+using access::IsSelf;
 
 constexpr long ChildOf(int index)
 {
     return index + 1;
-}
-
-HRESULT Give(VARIANT& place, long value)
-{
-    place.vt = VT_I4;
-    place.lVal = value;
-    return S_OK;
-}
-
-HRESULT GiveNothing(VARIANT& place)
-{
-    place.vt = VT_EMPTY;
-    return S_FALSE;
-}
-
-bool IsSelf(const VARIANT& child)
-{
-    return child.vt == VT_I4 && child.lVal == CHILDID_SELF;
-}
-
-BSTR Wide(const CString& text)
-{
-    const int length = ::MultiByteToWideChar(CP_ACP, 0, text, text.GetLength(), nullptr, 0);
-    const BSTR wide = ::SysAllocStringLen(nullptr, UINT(length));
-    if (wide != nullptr)
-    {
-        ::MultiByteToWideChar(CP_ACP, 0, text, text.GetLength(), wide, length);
-    }
-    return wide;
 }
 
 // Whether a list does what the flags ask for; only one of many selected rows adds to them.
@@ -106,8 +80,7 @@ HRESULT CCustomChecklistBox::get_accName(VARIANT child, BSTR* name)
     }
     CString text;
     GetText(index, text);
-    *name = Wide(text);
-    return *name == nullptr ? E_OUTOFMEMORY : S_OK;
+    return Give(*name, text);
 }
 
 HRESULT CCustomChecklistBox::get_accRole(VARIANT child, VARIANT* role)

@@ -70,6 +70,7 @@ CCustomDropListCombo::CCustomDropListCombo(CCustomComboLBox* list)
 
 void CCustomDropListCombo::Register()
 {
+    EnableActiveAccessibility();
     if (m_BkBrush.GetSafeHandle() == nullptr)
     {
         m_BkBrush.CreateSolidBrush(palette::Field);

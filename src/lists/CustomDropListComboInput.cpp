@@ -2,6 +2,8 @@
 
 #include "CustomComboLBox.h"
 #include "CustomDropListCombo.h"
+
+#include "access/Answers.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
@@ -38,6 +40,7 @@ void CCustomDropListCombo::DoDropButton()
     if (alive)
     {
         RepaintButton();
+        access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
     }
 }
 
@@ -85,6 +88,7 @@ bool CCustomDropListCombo::TellSelChange()
     if (parent != nullptr && !m_ending)
     {
         Repaint();
+        access::Tell(m_hWnd, EVENT_OBJECT_VALUECHANGE);
         ::SendMessage(parent, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), CBN_SELCHANGE),
                       reinterpret_cast<LPARAM>(GetSafeHwnd()));
     }

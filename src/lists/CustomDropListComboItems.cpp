@@ -2,6 +2,8 @@
 
 #include "CustomComboLBox.h"
 #include "CustomDropListCombo.h"
+
+#include "access/Answers.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
@@ -51,6 +53,7 @@ int CCustomDropListCombo::SetCurSel(int index)
     if (alive)
     {
         Repaint();
+        access::Tell(m_hWnd, EVENT_OBJECT_VALUECHANGE);
     }
     return result;
 }

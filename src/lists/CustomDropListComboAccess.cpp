@@ -1,0 +1,89 @@
+// The combo: what assistive programs are told of it. Its window class is the library's own, so the
+// platform knows nothing of it. The list is a window of its own and speaks for itself.
+
+#include "CustomDropListCombo.h"
+
+#include "access/Answers.h"
+#include "modes/WindowAlive.h"
+
+namespace {
+
+// The text of a label without the mark of its mnemonic.
+CString Plain(const CString& label)
+{
+    CString plain;
+    for (int index = 0; index < label.GetLength(); ++index)
+    {
+        if (label[index] == '&' && index + 1 < label.GetLength())
+        {
+            ++index; // "&&" stands for one
+        }
+        plain += label[index];
+    }
+    return plain;
+}
+
+} // namespace
+
+// The name is that of the label before it, as the platform's combos have it.
+HRESULT CCustomDropListCombo::get_accName(VARIANT child, BSTR* name)
+{
+    const HWND before = access::IsSelf(child) ? ::GetWindow(GetSafeHwnd(), GW_HWNDPREV) : nullptr;
+    if (before == nullptr || (::SendMessage(before, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) == 0)
+    {
+        return CWnd::get_accName(child, name);
+    }
+    CString label;
+    CWnd::FromHandle(before)->GetWindowText(label);
+    return access::Give(*name, Plain(label));
+}
+
+HRESULT CCustomDropListCombo::get_accValue(VARIANT child, BSTR* value)
+{
+    return access::IsSelf(child) ? access::Give(*value, GetSelString())
+                                 : CWnd::get_accValue(child, value);
+}
+
+HRESULT CCustomDropListCombo::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_COMBOBOX)
+                                 : CWnd::get_accRole(child, role);
+}
+
+HRESULT CCustomDropListCombo::get_accState(VARIANT child, VARIANT* state)
+{
+    const HRESULT result = CWnd::get_accState(child, state);
+    if (SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4)
+    {
+        state->lVal |= STATE_SYSTEM_HASPOPUP | STATE_SYSTEM_FOCUSABLE |
+                       (m_expanded ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
+    }
+    return result;
+}
+
+HRESULT CCustomDropListCombo::get_accDefaultAction(VARIANT child, BSTR* action)
+{
+    return access::IsSelf(child) ? access::Give(*action, m_expanded ? "Close" : "Open")
+                                 : CWnd::get_accDefaultAction(child, action);
+}
+
+// As Alt+Down does it.
+HRESULT CCustomDropListCombo::accDoDefaultAction(VARIANT child)
+{
+    if (!access::IsSelf(child))
+    {
+        return CWnd::accDoDefaultAction(child);
+    }
+    const WindowAlive alive(*this);
+    if (!IsWindowEnabled())
+    {
+        return E_FAIL;
+    }
+    SetFocus();
+    if (!alive)
+    {
+        return E_FAIL;
+    }
+    ToggleDropList();
+    return S_OK;
+}
