@@ -80,12 +80,11 @@ std::string TextOf(int choice)
     default:
     {
         static constexpr const char Sentence[] = "Climb on runway heading, then turn left. ";
-        std::string text;
-        while (text.size() < 5'000)
+        std::string text(5'000, ' ');
+        for (size_t index = 0; index < text.size(); ++index)
         {
-            text += Sentence;
+            text[index] = Sentence[index % (sizeof(Sentence) - 1)];
         }
-        text.resize(5'000);
         return text;
     }
     }
