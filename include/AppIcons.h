@@ -13,6 +13,7 @@
 class ONBOARDUI_API AppIcons
 {
 public:
+    // An icon and its resource id.
     struct ICON_INFO
     {
         UINT id;
