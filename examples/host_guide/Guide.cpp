@@ -1,0 +1,349 @@
+// The host of docs/hosts.md: each block of C++ that the guide shows stands here, and the build
+// fails when one does not.
+
+#include "GuideIds.h"
+
+#include <AppAccess.h>
+#include <CustomChecklistBox.h>
+#include <CustomDialog.h>
+#include <CustomDropListCombo.h>
+#include <CustomEdit.h>
+#include <CustomFormView.h>
+#include <CustomListBox.h>
+#include <CustomListCtrl.h>
+#include <CustomPropPage.h>
+#include <CustomPropSheet.h>
+#include <CustomPushbutton.h>
+#include <CustomRadiobutton.h>
+#include <CustomStatic.h>
+#include <EFB.h>
+#include <MultiTree.h>
+#include <OnBoardUI.h>
+#include <OnBoardUIGeneral.h>
+#include <ZepMsgBoxDlg.h>
+
+// Services --------------------------------------------------------------------------------------
+
+class DeskFlightBag : public IEFB
+{
+public:
+    const char* GetProviderName() override { return "Desk flight bag"; }
+
+    void ShowVKB(bool show, VKB_SHOW_POS, HWND window) override
+    {
+        m_keyboardFor = show ? window : nullptr; // a real host shows its keyboard here
+    }
+
+private:
+    HWND m_keyboardFor = nullptr;
+};
+
+class DeskHost : public IAppAccess
+{
+public:
+    const char* GetProviderName() override { return "Desk"; }
+
+    IEFB* GetEFB() override { return &m_flightBag; }
+
+    bool GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, int& height) override
+    {
+        CRect area;
+        if (type != GAA_WINDOW_AREA || !::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0))
+        {
+            return IAppAccess::GetAvailableArea(type, x, y, width, height);
+        }
+        x = area.left;
+        y = area.top;
+        width = area.Width();
+        height = area.Height();
+        return true;
+    }
+
+private:
+    DeskFlightBag m_flightBag;
+};
+
+// A control of the host's own -------------------------------------------------------------------
+
+class FuelGauge : public CStatic
+{
+protected:
+    afx_msg void OnPaint()
+    {
+        CPaintDC dc(this);
+        CRect area;
+        GetClientRect(&area);
+        const bool dark = COnBoardUIGeneral::InOnBoardMode(); // asked at each paint
+        dc.FillSolidRect(area, dark ? RGB(50, 50, 50) : ::GetSysColor(COLOR_BTNFACE));
+        area.right = area.left + area.Width() * 2 / 3;
+        dc.FillSolidRect(area, dark ? RGB(160, 160, 160) : RGB(60, 110, 60));
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(FuelGauge, CStatic)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+// Other windows that follow the mode ------------------------------------------------------------
+
+class RemarksPage : public CCustomPropPage
+{
+public:
+    RemarksPage()
+        : CCustomPropPage(IDD_SHEET_REMARKS)
+    {}
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        CCustomPropPage::DoDataExchange(exchange);
+        DDX_Control(exchange, IDC_REMARKS, m_remarks);
+    }
+
+private:
+    CCustomEdit m_remarks;
+};
+
+class RemarksForm : public CCustomFormView
+{
+public:
+    RemarksForm()
+        : CCustomFormView(IDD_SHEET_REMARKS)
+    {}
+};
+
+// A dialog --------------------------------------------------------------------------------------
+
+class FlightDialog : public CCustomDialog
+{
+public:
+    explicit FlightDialog(IAppAccess* host)
+        : CCustomDialog(IDD_FLIGHT, nullptr, host)
+        , m_services(host)
+    {}
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        CCustomDialog::DoDataExchange(exchange);
+        DDX_Control(exchange, IDC_AIRPORTS, m_airports);
+        DDX_Control(exchange, IDC_EQUIPMENT, m_equipment);
+        DDX_Control(exchange, IDC_RUNWAY, m_runway);
+        DDX_Control(exchange, IDC_LEGS, m_legs);
+        DDX_Control(exchange, IDC_REMARKS, m_remarks);
+        DDX_Control(exchange, IDC_RULES, m_rules);
+        DDX_Control(exchange, IDC_VISUAL, m_visual);
+        DDX_Control(exchange, IDC_INSTRUMENT, m_instrument);
+        DDX_Control(exchange, IDC_GAUGE, m_gauge);
+        DDX_Control(exchange, IDC_MODE, m_mode);
+        DDX_Control(exchange, IDC_ASK, m_ask);
+        DDX_Control(exchange, IDC_SHEET, m_sheet);
+        DDX_Control(exchange, IDOK, m_ok);
+    }
+
+    BOOL OnInitDialog() override
+    {
+        CCustomDialog::OnInitDialog(); // attaches the controls, then scales them
+        m_route.SubclassTreeCtrlId(IDC_ROUTE, this);
+        FillAirports();
+        FillEquipment();
+        FillRunways();
+        FillLegs();
+        FillRoute();
+        m_visual.SetCheck(BST_CHECKED);
+        return TRUE;
+    }
+
+    afx_msg void OnAirport();
+    afx_msg void OnEquipment();
+    afx_msg void OnRunway();
+    afx_msg void OnLegClick(NMHDR* header, LRESULT* result);
+    afx_msg void OnMode();
+    afx_msg void OnAsk();
+    afx_msg void OnSheet();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void FillAirports();
+    void FillEquipment();
+    void FillRunways();
+    void FillLegs();
+    void FillRoute();
+    void SwitchMode(APPMODE mode);
+
+    IAppAccess* m_services;
+    CCustomListBox m_airports;
+    CCustomChecklistBox m_equipment;
+    CCustomDropListCombo m_runway;
+    CCustomListCtrl m_legs;
+    MultiTree m_route;
+    CCustomEdit m_remarks;
+    CCustomStatic m_rules;
+    CCustomRadiobutton m_visual;
+    CCustomRadiobutton m_instrument;
+    FuelGauge m_gauge;
+    CCustomPushbutton m_mode;
+    CCustomPushbutton m_ask;
+    CCustomPushbutton m_sheet;
+    CCustomPushbutton m_ok;
+};
+
+BEGIN_MESSAGE_MAP(FlightDialog, CCustomDialog)
+    ON_LBN_SELCHANGE(IDC_AIRPORTS, &FlightDialog::OnAirport)
+    ON_CONTROL(CLBN_CHKCHANGE, IDC_EQUIPMENT, &FlightDialog::OnEquipment)
+    ON_CBN_SELCHANGE(IDC_RUNWAY, &FlightDialog::OnRunway)
+    ON_NOTIFY(NM_CLICK, IDC_LEGS, &FlightDialog::OnLegClick)
+    ON_BN_CLICKED(IDC_MODE, &FlightDialog::OnMode)
+    ON_BN_CLICKED(IDC_ASK, &FlightDialog::OnAsk)
+    ON_BN_CLICKED(IDC_SHEET, &FlightDialog::OnSheet)
+END_MESSAGE_MAP()
+
+void FlightDialog::FillAirports()
+{
+    for (const char* name : {"EDDF Frankfurt", "EGLL London", "EHAM Amsterdam", "LSZH Zurich"})
+    {
+        m_airports.AddString(name);
+    }
+    m_airports.SetCurSel(0);
+}
+
+void FlightDialog::OnAirport()
+{
+    CString name;
+    m_airports.GetText(m_airports.GetCurSel(), name);
+    SetWindowText("Flight to " + name);
+}
+
+void FlightDialog::FillEquipment()
+{
+    m_equipment.SetCheckStyle(BS_AUTO3STATE);
+    m_equipment.AddString("Transponder");
+    m_equipment.AddString("Weather radar");
+    m_equipment.SetCheck(0, 1);
+    m_equipment.Enable(1, FALSE); // can be selected, not checked
+}
+
+void FlightDialog::OnEquipment()
+{
+    m_remarks.SetWindowText(m_equipment.GetCheck(0) == 1 ? "Mode S" : "No transponder");
+}
+
+void FlightDialog::FillRunways()
+{
+    for (const char* runway : {"07L", "07R", "18", "25L", "25R"})
+    {
+        m_runway.AddString(runway);
+    }
+    m_runway.SetCurSel(0); // without a selection the arrow keys select nothing
+}
+
+void FlightDialog::OnRunway()
+{
+    SetWindowText("Runway " + m_runway.GetSelString());
+}
+
+void FlightDialog::FillLegs()
+{
+    // Widths in pixels of the standard mode, in whatever mode they are given.
+    m_legs.InsertColumn(0, "From", LVCFMT_LEFT, 50);
+    m_legs.InsertColumn(1, "To", LVCFMT_LEFT, 50);
+    m_legs.InsertColumn(2, "Miles", LVCFMT_RIGHT, 50); // on-board it fills the list
+    m_legs.SetMinColWidth(20);
+    m_legs.InsertItem(0, "EDDF");
+    m_legs.SetItemText(0, 1, "EGLL");
+    m_legs.SetItemText(0, 2, "355");
+}
+
+void FlightDialog::OnLegClick(NMHDR* header, LRESULT* result)
+{
+    const auto* const click = reinterpret_cast<const NMITEMACTIVATE*>(header);
+    if (click->iItem >= 0)
+    {
+        SetWindowText("Leg from " + m_legs.GetItemText(click->iItem, 0));
+    }
+    *result = 0;
+}
+
+void FlightDialog::FillRoute()
+{
+    const HTREEITEM route = m_route.InsertItem("EDDF - EGLL");
+    for (const char* point : {"TOBAK", "NOKDI", "SUMUM"})
+    {
+        m_route.InsertItem(point, route);
+    }
+    m_route.Expand(route, TVE_EXPAND);
+}
+
+void FlightDialog::SwitchMode(APPMODE mode)
+{
+    const int visual = m_visual.GetCheck(); // the two kinds of mode keep their own checks
+    const int instrument = m_instrument.GetCheck();
+    CRect before, after, window;
+    m_legs.GetWindowRect(&before);
+    GetWindowRect(&window);
+
+    SetOnBoardAppMode(mode); // every window of the library has followed when this returns
+    OnBoardSetSysColors(mode);
+
+    m_visual.SetCheck(visual);
+    m_instrument.SetCheck(instrument);
+    m_legs.GetWindowRect(&after); // the dialog's own size is its host's
+    SetWindowPos(nullptr, 0, 0, ::MulDiv(window.Width(), after.Width(), before.Width()),
+                 ::MulDiv(window.Height(), after.Height(), before.Height()),
+                 SWP_NOMOVE | SWP_NOZORDER);
+    EnsureWndVisible(m_services, GetSafeHwnd());
+}
+
+void FlightDialog::OnMode()
+{
+    SwitchMode(COnBoardUIGeneral::InOnBoardMode() ? STD : ONBOARD);
+}
+
+void FlightDialog::OnAsk()
+{
+    CZepMsgBoxDlg box("The route has changed.\nFile it again?",
+                      MB_YESNOCANCEL | MB_ICONQUESTION | MB_DEFBUTTON2, CSize(600, 400),
+                      m_services);
+    box.DoModal();
+    if (box.GetButtonPressed() == IDYES)
+    {
+        SetWindowText("Filed");
+    }
+}
+
+void FlightDialog::OnSheet()
+{
+    RemarksPage remarks;
+    CCustomPropSheet sheet("Particulars", m_services, this);
+    sheet.AddPage(&remarks);
+    sheet.DoModal();
+}
+
+// Start-up --------------------------------------------------------------------------------------
+
+class DeskApp : public CWinApp
+{
+    DeskHost m_host;
+
+    BOOL InitInstance() override
+    {
+        ::CoInitialize(nullptr);              // assistive programs reach the windows by it
+        COnBoardUIGeneral::SetStdModeGoals(); // before the first control of the standard mode
+        SetOnBoardAppTitle("Flight desk");    // of message boxes
+        CCustomDropListCombo::RegisterWndClass(AfxGetInstanceHandle()); // templates may name it
+        CCustomEdit::SetEfb(m_host.GetEFB());
+        CCustomDialog::SetEfb(m_host.GetEFB());
+        CCustomPropSheet::SetEfb(m_host.GetEFB());
+        FlightDialog flight(&m_host);
+        m_pMainWnd = &flight; // the owner of message boxes
+        flight.DoModal();
+        return FALSE; // the dialog was all
+    }
+
+    int ExitInstance() override
+    {
+        OnBoardRestoreSysColors(); // they are the whole system's
+        return CWinApp::ExitInstance();
+    }
+} theApp;

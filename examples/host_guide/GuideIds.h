@@ -1,0 +1,18 @@
+#pragma once
+
+#define IDD_FLIGHT 100
+#define IDD_SHEET_REMARKS 101
+
+#define IDC_AIRPORTS 1000
+#define IDC_EQUIPMENT 1001
+#define IDC_RUNWAY 1002
+#define IDC_LEGS 1003
+#define IDC_ROUTE 1004
+#define IDC_REMARKS 1005
+#define IDC_RULES 1006
+#define IDC_VISUAL 1007
+#define IDC_INSTRUMENT 1008
+#define IDC_GAUGE 1009
+#define IDC_MODE 1010
+#define IDC_ASK 1011
+#define IDC_SHEET 1012
