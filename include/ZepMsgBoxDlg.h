@@ -8,6 +8,8 @@
 #include <vector>
 
 namespace dialogs {
+struct MessageLayout;
+struct MessagePremises;
 class MessageText;
 } // namespace dialogs
 
@@ -60,9 +62,11 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void DoDataExchange(CDataExchange* exchange) override;
 
+    afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnClose();
     afx_msg void OnSysColorChange();
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* position);
     afx_msg void OnWindowPosChanged(WINDOWPOS* position);
     DECLARE_MESSAGE_MAP()
 
@@ -91,7 +95,13 @@ private:
     std::optional<APPMODE> m_laidOutFor;
     CString m_shownText;   // as the edit was last given it
     bool m_sizing = false; // to the lines that the text has
+    bool m_beingCreated = false;
+    std::unique_ptr<dialogs::MessageLayout> m_opensWith; // what the box was created for
 
+    void OpenInPlace(WINDOWPOS& position);
+    dialogs::MessageLayout LayOut(const dialogs::MessagePremises& premises);
+    int TemplateTextWidth() const;
+    int ButtonCount() const;
     void FollowMode();
     void TakeLook();
     void ShowIcon();

@@ -107,7 +107,9 @@ BOOL CCustomDialog::OnInitDialog()
     m_initialising = false;
     {
         const std::shared_ptr<dialogs::Opening> opening = m_opening; // the dialog may go meanwhile
-        dialogs::OpenOnBoard(GetSafeHwnd(), StandardFont());
+        dialogs::OpenOnBoard(GetSafeHwnd(), StandardFont(),
+                             opening != nullptr ? std::span(opening->Fixed())
+                                                : std::span<const HWND>());
     }
     if (alive)
     {

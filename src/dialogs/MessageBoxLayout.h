@@ -2,6 +2,7 @@
 
 // Where the parts of a message box lie: pure functions of measures. All lengths are pixels.
 
+#include "AppMode.h"
 #include "modes/Rounding.h"
 #include "paint/Metrics.h"
 
@@ -163,6 +164,27 @@ inline MessagePlaces PlaceMessageParts(const MessageUnits& units, const MessageS
     places.buttonStep = units.button.cx + units.spacing.cy;
     return places;
 }
+
+// What the decision about a box's layout rests on, beside the area and the system's metrics.
+struct MessagePremises
+{
+    APPMODE mode;
+    CString text; // in lines
+    CString title;
+    int buttons;
+    CSize window; // that the box has so far
+    CSize client;
+
+    bool operator==(const MessagePremises&) const = default;
+};
+
+// The layout that was decided on.
+struct MessageLayout
+{
+    MessagePremises premises;
+    MessageSize size;
+    CRect window; // on the screen
+};
 
 // A window's place with its middle over another rectangle's.
 inline CRect MessageCentred(const CSize& size, const CRect& over)

@@ -116,10 +116,8 @@ CSize TextMeasure::Lines(std::string_view text, int width)
                  int(std::min(LONGLONG(size.cy) * lines, Highest)));
 }
 
-int TextMeasure::Title(const CWnd& window)
+int TextMeasure::Title(const CString& title)
 {
-    CString title;
-    window.GetWindowText(title);
     return Extent({title, size_t(title.GetLength())}).cx;
 }
 

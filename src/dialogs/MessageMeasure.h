@@ -22,8 +22,8 @@ public:
     // counts one more, as room below it, and that what ends a line is measured with it.
     CSize Lines(std::string_view text, int width);
 
-    // The width of a window's title.
-    int Title(const CWnd& window);
+    // The width of a title.
+    int Title(const CString& title);
 
 private:
     // The widths of the characters that are the same in all code pages. They add up to a text's.

@@ -46,6 +46,30 @@ void MessageText::SetScrolls(bool scrolls)
     }
 }
 
+void MessageText::Show(const CString& text)
+{
+    const WindowAlive alive(*this);
+    if (m_wantsBar && COnBoardUIGeneral::InOnBoardMode() && GetWindowTextLength() == 0)
+    {
+        // Or our bar came when the text is there, and had all its lines broken once more.
+        m_keepingBar = true;
+        IncludeVScrollBar();
+    }
+    if (alive)
+    {
+        m_keepingBar = false;
+        SetWindowText(text);
+    }
+}
+
+void MessageText::UpdateScrollPosFromText()
+{
+    if (!m_keepingBar)
+    {
+        CCustomEdit::UpdateScrollPosFromText();
+    }
+}
+
 bool MessageText::ScrollByKey(UINT key)
 {
     static constexpr struct

@@ -15,17 +15,25 @@ public:
     // Whether there is a scroll bar.
     void SetScrolls(bool scrolls);
 
+    // Shows a text. Before a text too long for the edit its bar is to be set.
+    void Show(const CString& text);
+
     // Scrolls by a key; whether the key is one that does.
     bool ScrollByKey(UINT key);
     void ScrollByWheel(int delta);
 
     void CopyAll();
 
+    void UpdateScrollPosFromText() override;
+
 protected:
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);
     DECLARE_MESSAGE_MAP()
+
+private:
+    bool m_keepingBar = false; // for the text to come
 };
 
 } // namespace dialogs

@@ -355,13 +355,13 @@ ModalNotice::~ModalNotice()
 
 // Opening ---------------------------------------------------------------------------------------
 
-void OpenOnBoard(HWND window, HFONT standard)
+void OpenOnBoard(HWND window, HFONT standard, std::span<const HWND> placed)
 {
     if (!COnBoardUIGeneral::InOnBoardMode() || window == nullptr)
     {
         return;
     }
-    RestyleNewWindow(window);
+    RestyleNewWindow(window, placed);
     SwapFonts(window, standard, CCustomDialog::m_OBStaticTextFont);
 }
 

@@ -9,6 +9,7 @@
 #include <afxwin.h>
 
 #include <optional>
+#include <span>
 #include <vector>
 
 class IAppAccess;
@@ -104,9 +105,10 @@ private:
     IEFB* m_told = nullptr;
 };
 
-// Scales the children of a window that opens in an on-board mode and gives those that still have
-// its standard font the on-board one. Nothing in the standard mode.
-void OpenOnBoard(HWND window, HFONT standard);
+// Scales the children of a window that opens in an on-board mode, but for those that are placed
+// already, and gives those that still have its standard font the on-board one. Nothing in the
+// standard mode.
+void OpenOnBoard(HWND window, HFONT standard, std::span<const HWND> placed = {});
 
 // The same for a form or a page whose template is not rewritten, and the list of its controls.
 void OpenForm(CWnd& window, ControlList& list, std::vector<CWnd*>& controls);

@@ -2,6 +2,9 @@
 
 #include "CustomDialogTemplate.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace dialogs {
 
 // A dialog on its way from a template rewritten for on-board display to its initialisation. Shared
@@ -14,6 +17,12 @@ public:
     // Whether the dialog has still to be initialised.
     bool IsPending() const { return m_pending; }
     void End() { m_pending = false; }
+
+    // Gives the first control with an id its place in the mode in advance.
+    void Fix(DWORD id, const CRect& place) { m_fixed.push_back({id, place}); }
+
+    // The controls that have theirs and are not scaled.
+    const std::vector<HWND>& Fixed() const { return m_fixedControls; }
 
     // Puts the controls where they stand in the standard mode, in its font, so that scaling them
     // starts from there whatever dialog units and font the rewritten template has.
@@ -32,11 +41,11 @@ public:
             }
             child = found;
             const HWND next = ::GetWindow(child, GW_HWNDNEXT);
+            const CRect place = PlaceOf(control, child);
             // First the size, then the font, as when the platform creates a control: a list of
             // whole rows makes its height fit at either step.
             ::SendMessage(child, WM_SETFONT, 0, FALSE);
-            ::SetWindowPos(child, nullptr, control.place.left, control.place.top,
-                           control.place.Width(), control.place.Height(),
+            ::SetWindowPos(child, nullptr, place.left, place.top, place.Width(), place.Height(),
                            SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
             ::SendMessage(child, WM_SETFONT, font, FALSE);
             child = ::IsWindow(next) ? next : nullptr;
@@ -44,6 +53,20 @@ public:
     }
 
 private:
+    CRect PlaceOf(const CCustomDialogTemplate::Control& control, HWND window)
+    {
+        const auto hasId = [&](const auto& fixed) { return fixed.id == control.id; };
+        const auto found = std::ranges::find_if(m_fixed, hasId);
+        if (found == m_fixed.end())
+        {
+            return control.place;
+        }
+        m_fixedControls.push_back(window);
+        const CRect place = found->place;
+        m_fixed.erase(found);
+        return place;
+    }
+
     static HWND FirstWithId(HWND from, DWORD id)
     {
         while (from != nullptr && LOWORD(::GetDlgCtrlID(from)) != LOWORD(id))
@@ -55,6 +78,8 @@ private:
 
     CCustomDialogTemplate m_template;
     bool m_pending = true;
+    std::vector<CCustomDialogTemplate::Control> m_fixed; // as yet without their windows
+    std::vector<HWND> m_fixedControls;
 };
 
 } // namespace dialogs

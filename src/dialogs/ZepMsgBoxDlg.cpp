@@ -4,19 +4,23 @@
 
 #include "MessageBoxResources.h"
 #include "OnBoardUIGeneral.h"
+#include "dialogs/MessageBoxLayout.h"
 #include "dialogs/MessageText.h"
 #include "dialogs/Opening.h"
 #include "modes/WindowAlive.h"
 
 #include <cctype>
 #include <span>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CZepMsgBoxDlg, CCustomDialog)
 
 BEGIN_MESSAGE_MAP(CZepMsgBoxDlg, CCustomDialog)
+    ON_WM_CREATE()
     ON_WM_CLOSE()
     ON_WM_SYSCOLORCHANGE()
     ON_WM_SIZE()
+    ON_WM_WINDOWPOSCHANGING()
     ON_WM_WINDOWPOSCHANGED()
 END_MESSAGE_MAP()
 
@@ -116,9 +120,8 @@ void CZepMsgBoxDlg::DoDataExchange(CDataExchange* exchange)
     }
 }
 
-BOOL CZepMsgBoxDlg::OnInitDialog()
+int CZepMsgBoxDlg::OnCreate(LPCREATESTRUCT cs)
 {
-    const WindowAlive alive(*this);
     // A box can be shown again: its parts begin anew with each window.
     m_buttonPressed = 0;
     m_laidOutFor.reset();
@@ -126,26 +129,26 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     m_shownText.Empty();
     m_buttons.clear();
     m_text = std::make_unique<dialogs::MessageText>();
+    m_opensWith.reset();
+    m_beingCreated = true;
+    const WindowAlive alive(*this);
+    const int result = CCustomDialog::OnCreate(cs);
+    if (alive)
+    {
+        m_beingCreated = false;
+    }
+    return result;
+}
+
+BOOL CZepMsgBoxDlg::OnInitDialog()
+{
+    const WindowAlive alive(*this);
     CCustomDialog::OnInitDialog();
     if (!alive)
     {
         return TRUE;
     }
-    m_standardTextWidth = 0;
-    if (m_opening != nullptr)
-    {
-        for (const CCustomDialogTemplate::Control& control : m_opening->Template().Controls())
-        {
-            m_standardTextWidth =
-                control.id == IDC_MESSAGE_TEXT ? control.place.Width() : m_standardTextWidth;
-        }
-    }
-    else if (m_text->GetSafeHwnd() != nullptr)
-    {
-        CRect client;
-        m_text->GetClientRect(&client);
-        m_standardTextWidth = client.Width();
-    }
+    m_standardTextWidth = TemplateTextWidth();
 
     CalcStdSizes();
     SplitText();
@@ -187,6 +190,11 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     }
     Focus(DefaultButton());
     return FALSE;
+}
+
+int CZepMsgBoxDlg::ButtonCount() const
+{
+    return int(ButtonsOf(m_style).size());
 }
 
 void CZepMsgBoxDlg::CreateButtons()
@@ -259,6 +267,18 @@ void CZepMsgBoxDlg::OnSize(UINT type, int width, int height)
     if (alive && !m_sizing)
     {
         SplitText();
+    }
+}
+
+void CZepMsgBoxDlg::OnWindowPosChanging(WINDOWPOS* position)
+{
+    const WindowAlive alive(*this);
+    CCustomDialog::OnWindowPosChanging(position);
+    constexpr UINT FrameOnly = SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE;
+    if (alive && m_opening != nullptr && (position->flags & FrameOnly) == FrameOnly &&
+        std::exchange(m_beingCreated, false))
+    {
+        OpenInPlace(*position);
     }
 }
 

@@ -14,6 +14,8 @@
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 
+#include <utility>
+
 namespace {
 
 // How windows are moved: what is not shown need not be drawn.
@@ -66,6 +68,26 @@ void CZepMsgBoxDlg::CalcStdSizes()
     m_textUnit = units.text;
 }
 
+// Of the text's control in the standard mode.
+int CZepMsgBoxDlg::TemplateTextWidth() const
+{
+    int width = 0;
+    if (m_opening != nullptr)
+    {
+        for (const CCustomDialogTemplate::Control& control : m_opening->Template().Controls())
+        {
+            width = control.id == IDC_MESSAGE_TEXT ? control.place.Width() : width;
+        }
+    }
+    else if (m_text->GetSafeHwnd() != nullptr)
+    {
+        CRect client;
+        m_text->GetClientRect(&client);
+        width = client.Width();
+    }
+    return width;
+}
+
 void CZepMsgBoxDlg::SplitText()
 {
     const size_t limit = dialogs::LineLimit(::GetSystemMetrics(SM_CXSCREEN));
@@ -96,7 +118,9 @@ void CZepMsgBoxDlg::GetStaticTextSize(const CString& text, int& width, int& heig
 
 int CZepMsgBoxDlg::GetTitleWidth()
 {
-    return dialogs::TextMeasure(*this).Title(*this);
+    CString title;
+    GetWindowText(title);
+    return dialogs::TextMeasure(*this).Title(title);
 }
 
 void CZepMsgBoxDlg::GetButtonsSize(int& width, int& height)
@@ -109,46 +133,99 @@ void CZepMsgBoxDlg::GetButtonsSize(int& width, int& height)
 
 // Places ----------------------------------------------------------------------------------------
 
-void CZepMsgBoxDlg::SizeToText()
+dialogs::MessageLayout CZepMsgBoxDlg::LayOut(const dialogs::MessagePremises& premises)
 {
-    const WindowAlive alive(*this);
     // The width of the text's control as it opens in the mode.
-    int width =
+    const int width =
         COnBoardUIGeneral::InOnBoardMode()
             ? RescaledRect(CRect(0, 0, m_standardTextWidth, 0), metrics::OnBoardScale).Width()
             : m_standardTextWidth;
-
-    CRect window;
-    GetWindowRect(&window);
-    CRect client;
-    GetClientRect(&client);
     dialogs::MessageContent content;
     {
         dialogs::TextMeasure measure(*this);
-        content.text = measure.Lines({m_displayText, size_t(m_displayText.GetLength())}, width);
-        content.titleWidth = measure.Title(*this);
+        content.text = measure.Lines({premises.text, size_t(premises.text.GetLength())}, width);
+        content.titleWidth = measure.Title(premises.title);
     }
-    content.buttons = int(m_buttons.size());
+    content.buttons = premises.buttons;
     content.area = m_area;
-    content.frame = window.Size() - client.Size();
+    content.frame = premises.window - premises.client;
     content.captionHeight = m_captionHeight;
     content.barWidth = ::GetSystemMetrics(SM_CXVSCROLL);
     const dialogs::MessageUnits units = {m_buttonSize, m_margin, m_spacing, m_textUnit};
     const dialogs::MessageSize size = dialogs::SizeMessageBox(units, content);
 
-    const CSize growth = dialogs::MessageGrowth(size.client, client.Size());
-    const CRect place = CentredPlace(window.Size() + growth + growth);
+    const CSize growth = dialogs::MessageGrowth(size.client, premises.client);
+    return {premises, size, CentredPlace(premises.window + growth + growth)};
+}
+
+// On-board the frame of a box is calculated anew while the box is created, when its caption's
+// styles are gone. With that the box gets its place, since each further move of a top-level window
+// takes its time; and so do its controls when they are made.
+void CZepMsgBoxDlg::OpenInPlace(WINDOWPOS& position)
+{
+    CRect window;
+    GetWindowRect(&window);
+    CRect client = window;
+    const WindowAlive alive(*this);
+    SendMessage(WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&client));
+    if (!alive)
+    {
+        return;
+    }
+    m_standardTextWidth = TemplateTextWidth();
+    CalcStdSizes();
+    SplitText();
+    const dialogs::MessageLayout layout =
+        LayOut({COnBoardUIGeneral::GetAppMode(), m_displayText, COnBoardUIGeneral::GetAppTitle(),
+                ButtonCount(), window.Size(), client.Size()});
+    position.x = layout.window.left;
+    position.y = layout.window.top;
+    position.cx = layout.window.Width();
+    position.cy = layout.window.Height();
+    position.flags &= ~UINT(SWP_NOMOVE | SWP_NOSIZE);
+
+    const dialogs::MessagePlaces places = dialogs::PlaceMessageParts(
+        {m_buttonSize, m_margin, m_spacing, m_textUnit}, layout.size,
+        client.Size() + layout.window.Size() - window.Size(), m_captionHeight, ButtonCount());
+    m_opening->Fix(IDC_MESSAGE_ICON, places.icon);
+    m_opening->Fix(IDC_MESSAGE_TEXT, places.text);
+    m_opensWith = std::make_unique<dialogs::MessageLayout>(layout);
+}
+
+void CZepMsgBoxDlg::SizeToText()
+{
+    const WindowAlive alive(*this);
+    CRect window;
+    GetWindowRect(&window);
+    CRect client;
+    GetClientRect(&client);
+    CString title;
+    GetWindowText(title);
+    dialogs::MessagePremises premises = {
+        COnBoardUIGeneral::GetAppMode(), m_displayText, title,
+        int(m_buttons.size()),           window.Size(), client.Size()};
+    // A box that was created in its place has grown from the size of its template.
+    const auto opened = std::exchange(m_opensWith, nullptr);
+    if (opened != nullptr && opened->window == window && opened->premises.mode == premises.mode)
+    {
+        premises.window = opened->premises.window;
+        premises.client = opened->premises.client;
+    }
+    const dialogs::MessageLayout layout =
+        opened != nullptr && opened->premises == premises ? *opened : LayOut(premises);
+
     const UINT flags = MoveFlags(m_hWnd);
     m_sizing = true;
-    Place(*this, place, flags);
+    Place(*this, layout.window, flags);
     if (!alive)
     {
         return;
     }
     m_sizing = false;
     GetClientRect(&client);
-    const dialogs::MessagePlaces places = dialogs::PlaceMessageParts(
-        units, size, client.Size(), m_captionHeight, int(m_buttons.size()));
+    const dialogs::MessagePlaces places =
+        dialogs::PlaceMessageParts({m_buttonSize, m_margin, m_spacing, m_textUnit}, layout.size,
+                                   client.Size(), m_captionHeight, int(m_buttons.size()));
     // The library's text changes its place as it is told of it; labels and buttons do not.
     constexpr UINT Unasked = SWP_NOSENDCHANGING;
     Place(m_icon, places.icon, flags | Unasked);
@@ -162,7 +239,7 @@ void CZepMsgBoxDlg::SizeToText()
     }
     if (alive && m_text->GetSafeHwnd() != nullptr)
     {
-        m_text->SetScrolls(size.scrolls);
+        m_text->SetScrolls(layout.size.scrolls);
     }
 }
 
@@ -273,7 +350,7 @@ void CZepMsgBoxDlg::ShowText()
     if (m_text->GetSafeHwnd() != nullptr && m_shownText != m_displayText)
     {
         m_shownText = m_displayText;
-        m_text->SetWindowText(m_displayText);
+        m_text->Show(m_displayText);
     }
 }
 

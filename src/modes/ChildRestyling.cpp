@@ -11,6 +11,8 @@
 
 #include <afxcmn.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr double JustAboveOne = 1.0000000000000002;
@@ -174,13 +176,22 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
 
 namespace {
 
-void Enumerate(HWND window, double scale)
+void Enumerate(HWND window, double scale, std::span<const HWND> placed = {})
 {
-    ModifyChildWndsData change;
-    change.parent = window;
-    change.scale = scale;
-    change.mode = COnBoardUIGeneral::GetAppMode();
-    ::EnumChildWindows(window, &ModifyChildsForAppMode, reinterpret_cast<LPARAM>(&change));
+    struct Enumeration
+    {
+        ModifyChildWndsData change;
+        std::span<const HWND> placed;
+    } enumeration = {{}, placed};
+    enumeration.change.parent = window;
+    enumeration.change.scale = scale;
+    enumeration.change.mode = COnBoardUIGeneral::GetAppMode();
+    const auto modify = [](HWND child, LPARAM data) -> BOOL {
+        auto& all = *reinterpret_cast<Enumeration*>(data);
+        return std::ranges::find(all.placed, child) != all.placed.end() ||
+               ModifyChildsForAppMode(child, reinterpret_cast<LPARAM>(&all.change));
+    };
+    ::EnumChildWindows(window, modify, reinterpret_cast<LPARAM>(&enumeration));
 }
 
 } // namespace
@@ -204,10 +215,10 @@ double ModeScale(APPMODE newMode, APPMODE oldMode)
     return oldMode == STD ? metrics::OnBoardScale : 1.0 / metrics::OnBoardScale;
 }
 
-void RestyleNewWindow(HWND window)
+void RestyleNewWindow(HWND window, std::span<const HWND> placed)
 {
     if (window != nullptr && COnBoardUIGeneral::InOnBoardMode())
     {
-        Enumerate(window, metrics::OnBoardScale);
+        Enumerate(window, metrics::OnBoardScale, placed);
     }
 }

@@ -4,14 +4,16 @@
 
 #include <afxwin.h>
 
+#include <span>
+
 // Rescales and restyles the direct children of a window for a change of mode; what every
 // mode-aware window does when it is told of one. Nothing when the modes are equal or the window
 // does not exist.
 void RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode);
 
 // The same for a window that opens while an on-board mode is active: its children stand as in the
-// standard mode.
-void RestyleNewWindow(HWND window);
+// standard mode, but for those that are placed already, which are left alone.
+void RestyleNewWindow(HWND window, std::span<const HWND> placed = {});
 
 // The factor of a change between two modes that differ; 1 between two on-board modes.
 double ModeScale(APPMODE newMode, APPMODE oldMode);
