@@ -1,0 +1,119 @@
+// How a message box comes to stand in its place: where it is created, and when that was too early.
+
+#include "dialogs/message_box_for_tests.h"
+
+#include <algorithm>
+#include <functional>
+#include <random>
+#include <span>
+
+namespace {
+
+class OpeningBox : public MessageBoxForTests
+{
+public:
+    using MessageBoxForTests::MessageBoxForTests;
+
+    std::function<void()> atDataExchange; // the box is being initialised, its text not yet shown
+    int moves = 0;                        // of the box, since its initialisation began
+    std::vector<int> textWidths;          // each time that the text was broken into lines
+
+protected:
+    void DoDataExchange(CDataExchange* exchange) override
+    {
+        MessageBoxForTests::DoDataExchange(exchange);
+        if (atDataExchange)
+        {
+            atDataExchange();
+        }
+    }
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    {
+        if (HIWORD(wParam) == EN_VSCROLL)
+        {
+            textWidths.push_back(ClientRectOf(*m_text).Width());
+        }
+        return MessageBoxForTests::OnCommand(wParam, lParam);
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        moves = message == WM_INITDIALOG ? 0 : moves + (message == WM_MOVE || message == WM_SIZE);
+        return MessageBoxForTests::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(MessageBoxTest, ABoxOpensWhereItStandsAndItsTextIsBrokenOnce)
+{
+    const ModeScope scope(ONBOARD);
+    for (const int lines : {1, 9, 400})
+    {
+        OpeningBox box(Lines(lines).c_str(), MB_YESNO);
+        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+        EXPECT_EQ(box.moves, 0) << lines;
+        const int width = ClientRectOf(*box.m_text).Width();
+        EXPECT_EQ(std::ranges::count(box.textWidths, width), ptrdiff_t(box.textWidths.size()));
+        EXPECT_EQ(width < WindowRectOf(*box.m_text).Width(), lines == 400) << "beside its bar";
+    }
+}
+
+TEST_F(MessageBoxTest, WhatChangesWhileTheBoxOpensCounts)
+{
+    for (const bool changesMode : {false, true})
+    {
+        SCOPED_TRACE(changesMode);
+        const std::string text = Lines(9);
+        std::vector<CRect> expected;
+        int expectedHeight = 0;
+        {
+            const ModeScope scope(changesMode ? STD : ONBOARD);
+            OpeningBox fresh(text.c_str(), MB_YESNO);
+            ASSERT_TRUE(fresh.Create(CZepMsgBoxDlg::IDD, &Host()));
+            expected = ChildPlaces(fresh);
+            expectedHeight = ClientRectOf(fresh).Height();
+        }
+        const ModeScope scope(ONBOARD);
+        OpeningBox box(changesMode ? text.c_str() : "Ready", MB_YESNO);
+        box.atDataExchange = [&] {
+            box.m_message = text.c_str();
+            COnBoardUIGeneral::SetAppMode(changesMode ? STD : ONBOARD);
+        };
+        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+        const std::vector<CRect> places = ChildPlaces(box);
+        // From another window size the halves may round otherwise, below the label and the text.
+        EXPECT_NEAR(ClientRectOf(box).Height(), expectedHeight, changesMode ? 2 : 0);
+        expected.resize(changesMode ? 2 : places.size());
+        EXPECT_TRUE(std::ranges::equal(expected, std::span(places).first(expected.size())));
+    }
+}
+
+TEST_F(MessageBoxTest, ATextMeasuresAsThePlatformMeasuresItsWidestLine)
+{
+    const ModeScope scope(ONBOARD);
+    OpeningBox box("Ready", MB_OK);
+    ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+    CClientDC dc(&box);
+    dc.SelectObject(&CCustomDialog::m_OBStaticTextFont);
+    std::mt19937 random(1);
+    for (int round = 0; round < 100; ++round)
+    {
+        std::string text;
+        LONG widest = 0;
+        for (int line = 0; line < 20; ++line)
+        {
+            std::string piece(random() % 30, ' ');
+            std::ranges::generate(piece, [&] { return char(' ' + random() % 95); });
+            piece += '\r';
+            CSize extent;
+            ::GetTextExtentPoint32(dc, piece.data(), int(piece.size()), &extent);
+            widest = std::max(widest, extent.cx);
+            text += piece + '\n';
+        }
+        int width = 0;
+        int height = 0;
+        box.GetStaticTextSize(text.c_str(), width, height);
+        EXPECT_EQ(width, widest) << text;
+        EXPECT_EQ(height, 21 * 27);
+    }
+}
+
+} // namespace
