@@ -94,7 +94,7 @@ private:
     int m_standardTextWidth = 0; // of the text's control in the template
     std::optional<APPMODE> m_laidOutFor;
     CString m_shownText;   // as the edit was last given it
-    bool m_sizing = false; // to the lines that the text has
+    bool m_sizing = false; // to the lines that the text has, or not yet initialised
     bool m_beingCreated = false;
     std::unique_ptr<dialogs::MessageLayout> m_opensWith; // what the box was created for
 

@@ -125,7 +125,7 @@ int CZepMsgBoxDlg::OnCreate(LPCREATESTRUCT cs)
     // A box can be shown again: its parts begin anew with each window.
     m_buttonPressed = 0;
     m_laidOutFor.reset();
-    m_sizing = false;
+    m_sizing = true; // its lines are made when it initialises
     m_shownText.Empty();
     m_buttons.clear();
     m_text = std::make_unique<dialogs::MessageText>();
@@ -148,6 +148,7 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     {
         return TRUE;
     }
+    m_sizing = false;
     m_standardTextWidth = TemplateTextWidth();
 
     CalcStdSizes();
