@@ -2,22 +2,16 @@
 
 #include "resource.h"
 
-#include <CustomStatic.h>
 #include <OnBoardUIGeneral.h>
 
 #include <iterator>
 
 namespace {
 
-// The places, in pixels of the standard mode: three columns of short rows, then higher ones.
-constexpr int ColumnWidth = 124;
-constexpr int ColumnStep = 136;
-constexpr int ChoiceHeight = 16;
-// On-board, the square of a check box is as high as the box and whole only in a low one.
-constexpr int CheckHeight = 14;
+// Three columns of short rows, then higher ones.
+constexpr int Columns = 3;
 constexpr int ChoiceStep = 21;
 constexpr int WrappedHeight = 34;
-constexpr int PushHeight = 29;
 constexpr int WrappedPushHeight = 46;
 
 constexpr int ChoicesTop = 0;
@@ -35,10 +29,7 @@ struct ButtonPlace
     int height;
     int chosen = BST_UNCHECKED;
 
-    CRect Design() const
-    {
-        return CRect(CPoint(column * ColumnStep, top), CSize(ColumnWidth, height));
-    }
+    CRect Design() const { return grid::Cell(Columns, column, top, height); }
 };
 
 constexpr int ChoiceTop(int row)
@@ -48,7 +39,7 @@ constexpr int ChoiceTop(int row)
 
 constexpr int CheckTop(int row)
 {
-    return ChoiceTop(row) + (ChoiceHeight - CheckHeight) / 2;
+    return ChoiceTop(row) + (grid::Choice - grid::Check) / 2;
 }
 
 constexpr DWORD Check = BS_AUTOCHECKBOX | WS_TABSTOP;
@@ -56,23 +47,23 @@ constexpr DWORD Radio = BS_AUTORADIOBUTTON;
 constexpr DWORD Push = BS_PUSHBUTTON | WS_TABSTOP;
 
 constexpr ButtonPlace CheckBoxes[] = {
-    {"Terrain", Check | WS_GROUP, 0, CheckTop(0), CheckHeight},
-    {"Routes", Check, 0, CheckTop(1), CheckHeight, BST_CHECKED},
-    {"Some areas", BS_AUTO3STATE | WS_TABSTOP, 0, CheckTop(2), CheckHeight, BST_INDETERMINATE},
-    {"Disabled", Check | WS_DISABLED, 0, CheckTop(3), CheckHeight},
-    {"Disabled but on", Check | WS_DISABLED, 0, CheckTop(4), CheckHeight, BST_CHECKED},
+    {"Terrain", Check | WS_GROUP, 0, CheckTop(0), grid::Check},
+    {"Routes", Check, 0, CheckTop(1), grid::Check, BST_CHECKED},
+    {"Some areas", BS_AUTO3STATE | WS_TABSTOP, 0, CheckTop(2), grid::Check, BST_INDETERMINATE},
+    {"Disabled", Check | WS_DISABLED, 0, CheckTop(3), grid::Check},
+    {"Disabled but on", Check | WS_DISABLED, 0, CheckTop(4), grid::Check, BST_CHECKED},
 };
 
 // A group ends where the next control with WS_GROUP begins; the headings are such controls.
 constexpr ButtonPlace Radios[] = {
-    {"Metres", Radio | WS_GROUP | WS_TABSTOP, 1, ChoiceTop(0), ChoiceHeight},
-    {"Feet", Radio, 1, ChoiceTop(1), ChoiceHeight, BST_CHECKED},
-    {"Flight levels", Radio, 1, ChoiceTop(2), ChoiceHeight},
-    {"Disabled", Radio | WS_DISABLED, 1, ChoiceTop(3), ChoiceHeight},
-    {"Disabled but on", Radio | WS_DISABLED | WS_GROUP, 1, ChoiceTop(4), ChoiceHeight, BST_CHECKED},
-    {"North up", Radio | WS_TABSTOP, 2, ChoiceTop(0), ChoiceHeight, BST_CHECKED},
-    {"Track up", Radio, 2, ChoiceTop(1), ChoiceHeight},
-    {"Heading up", Radio, 2, ChoiceTop(2), ChoiceHeight},
+    {"Metres", Radio | WS_GROUP | WS_TABSTOP, 1, ChoiceTop(0), grid::Choice},
+    {"Feet", Radio, 1, ChoiceTop(1), grid::Choice, BST_CHECKED},
+    {"Flight levels", Radio, 1, ChoiceTop(2), grid::Choice},
+    {"Disabled", Radio | WS_DISABLED, 1, ChoiceTop(3), grid::Choice},
+    {"Disabled but on", Radio | WS_DISABLED | WS_GROUP, 1, ChoiceTop(4), grid::Choice, BST_CHECKED},
+    {"North up", Radio | WS_TABSTOP, 2, ChoiceTop(0), grid::Choice, BST_CHECKED},
+    {"Track up", Radio, 2, ChoiceTop(1), grid::Choice},
+    {"Heading up", Radio, 2, ChoiceTop(2), grid::Choice},
     {"Along the airways of the route", Radio | BS_MULTILINE | WS_GROUP | WS_TABSTOP, 0,
      CaptionsTop + UnderHeading, WrappedHeight, BST_CHECKED},
     {"Direct, without any waypoints", Radio | BS_MULTILINE, 1, CaptionsTop + UnderHeading,
@@ -83,11 +74,11 @@ constexpr ButtonPlace Radios[] = {
 constexpr int FirstWithoutHead = 5;
 constexpr int FirstWrapped = 8;
 
-constexpr int SecondPushRow = PushesTop + UnderHeading + PushHeight + 10;
+constexpr int SecondPushRow = PushesTop + UnderHeading + grid::Push + 10;
 constexpr ButtonPlace Pushes[] = {
-    {"Default", BS_DEFPUSHBUTTON | WS_TABSTOP | WS_GROUP, 0, PushesTop + UnderHeading, PushHeight},
-    {"Plain", Push, 1, PushesTop + UnderHeading, PushHeight},
-    {"Disabled", Push | WS_DISABLED, 2, PushesTop + UnderHeading, PushHeight},
+    {"Default", BS_DEFPUSHBUTTON | WS_TABSTOP | WS_GROUP, 0, PushesTop + UnderHeading, grid::Push},
+    {"Plain", Push, 1, PushesTop + UnderHeading, grid::Push},
+    {"Disabled", Push | WS_DISABLED, 2, PushesTop + UnderHeading, grid::Push},
     {"A caption that takes two lines", Push | BS_MULTILINE, 0, SecondPushRow, WrappedPushHeight},
     {"Top left", Push | BS_TOP | BS_LEFT, 1, SecondPushRow, WrappedPushHeight},
     {"Bottom right ", Push | BS_BOTTOM | BS_RIGHT, 2, SecondPushRow, WrappedPushHeight},
@@ -112,10 +103,9 @@ const ButtonPlace& PlaceOf(int index)
                                            : Pushes[index - ButtonsPage::RadioCount];
 }
 
-CRect Heading(int column, int top, int columns = 1)
+CRect Heading(int column, int top, int span = 1)
 {
-    return CRect(CPoint(column * ColumnStep, top),
-                 CSize((columns - 1) * ColumnStep + ColumnWidth, ChoiceHeight));
+    return grid::Cell(Columns, column, top, grid::Choice, span);
 }
 
 } // namespace
@@ -134,10 +124,7 @@ void ButtonsPage::CreateContent()
 {
     UINT id = FirstId;
     const auto create = [&](CCustomButton& button, const ButtonPlace& place) {
-        button.Create(place.caption, place.style | WS_CHILD | WS_VISIBLE, place.Design(), this, id);
-        button.SetFont(&CCustomStatic::GetStdFont());
-        Place(button, place.Design());
-        ++id;
+        AddButton(button, place.caption, place.style, place.Design(), id++);
     };
     AddLabel("Check boxes", Heading(0, ChoicesTop));
     for (int index = 0; index < CheckCount; ++index)

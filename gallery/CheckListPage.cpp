@@ -8,12 +8,8 @@ namespace {
 
 constexpr UINT FirstId = IDC_PAGE_FIRST;
 
-// The places, in pixels of the standard mode: three columns, two rows.
-constexpr int ColumnWidth = 124;
-constexpr int ColumnStep = 136;
-constexpr int RowHeight = 190;
-constexpr int RowStep = 202;
 constexpr int Columns = 3;
+constexpr int RowHeight = (grid::Height - grid::Gap) / 2;
 
 struct ListKind
 {
@@ -87,8 +83,8 @@ void CheckListPage::CreateContent()
 {
     for (int index = 0; index < ListCount; ++index)
     {
-        const CRect place(CPoint(index % Columns * ColumnStep, index / Columns * RowStep),
-                          CSize(ColumnWidth, RowHeight));
+        const CRect place = grid::Cell(Columns, index % Columns,
+                                       index / Columns * (RowHeight + grid::Gap), RowHeight);
         CCustomChecklistBox& list = ListOf(index);
         AddList(list, Kinds[index].caption, index == Disabled ? WS_DISABLED : 0, place,
                 FirstId + UINT(index));

@@ -8,11 +8,7 @@ namespace {
 
 constexpr UINT FirstId = IDC_PAGE_FIRST;
 
-// The places, in pixels of the standard mode: two columns.
-constexpr int ColumnWidth = 160;
-constexpr int ColumnStep = 184;
-constexpr int ComboHeight = 22;
-constexpr int OpenerHeight = 29;
+constexpr int Columns = 2;
 
 struct ComboPlace
 {
@@ -67,10 +63,9 @@ void CombosPage::CreateContent()
     for (int index = 0; index < ComboCount; ++index)
     {
         const ComboPlace& place = Places[index];
-        const CPoint corner(place.column * ColumnStep, place.top);
-        AddLabel(place.caption, CRect(corner, CSize(ColumnWidth, CaptionHeight)));
-        const CRect design(CPoint(corner.x, corner.y + CaptionStep),
-                           CSize(ColumnWidth, ComboHeight));
+        AddLabel(place.caption, grid::Cell(Columns, place.column, place.top, grid::Caption));
+        const CRect design =
+            grid::Cell(Columns, place.column, place.top + grid::CaptionStep, grid::Line);
         CCustomDropListCombo& combo = m_combos[index];
         combo.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | (index == Disabled ? WS_DISABLED : 0),
                      design, this, FirstId + UINT(index));
@@ -95,12 +90,8 @@ void CombosPage::CreateContent()
     for (int index = ComboCount; index < ControlCount; ++index)
     {
         const OpenerPlace& place = Openers[index - ComboCount];
-        const CRect design(CPoint(ColumnStep, place.top), CSize(ColumnWidth, OpenerHeight));
-        CCustomPushbutton& opener = m_openers[index - ComboCount];
-        opener.Create(place.caption, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, design,
-                      this, FirstId + UINT(index));
-        opener.SetFont(&CCustomStatic::GetStdFont());
-        Place(opener, design);
+        AddButton(m_openers[index - ComboCount], place.caption, PushStyle,
+                  grid::Cell(Columns, 1, place.top, grid::Push), FirstId + UINT(index));
     }
 }
 

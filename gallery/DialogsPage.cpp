@@ -8,11 +8,7 @@ namespace {
 
 constexpr UINT FirstId = IDC_PAGE_FIRST;
 
-// In pixels of the standard mode.
-constexpr int OpenerWidth = 124;
-constexpr int OpenerHeight = 29;
-constexpr int OpenerStep = 40;
-constexpr int HintTop = 134;
+constexpr int Columns = 3;
 constexpr int HintHeight = 90;
 
 constexpr const char* Captions[] = {"Modal dialog", "Modeless dialog", "Property sheet"};
@@ -36,15 +32,12 @@ void DialogsPage::CreateContent()
 {
     for (int index = 0; index < OpenerCount; ++index)
     {
-        const CRect design(CPoint(0, index * OpenerStep), CSize(OpenerWidth, OpenerHeight));
-        CCustomPushbutton& opener = m_openers[index];
-        opener.Create(Captions[index], WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, design,
-                      this, FirstId + UINT(index));
-        opener.SetFont(&CCustomStatic::GetStdFont());
-        Place(opener, design);
+        AddButton(m_openers[index], Captions[index], PushStyle,
+                  grid::Cell(Columns, 0, index * grid::PushStep, grid::Push),
+                  FirstId + UINT(index));
     }
     AddLabel("On-board, a dialog is dragged by its caption and stops at the edges of this window.",
-             CRect(CPoint(0, HintTop), CSize(OpenerWidth, HintHeight)));
+             grid::Cell(Columns, 0, OpenerCount * grid::PushStep + grid::Gap, HintHeight));
 }
 
 CPoint DialogsPage::DialogCorner() const

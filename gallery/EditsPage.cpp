@@ -11,11 +11,7 @@ namespace {
 
 constexpr UINT FirstId = IDC_PAGE_FIRST;
 
-// The places, in pixels of the standard mode: two columns.
-constexpr int ColumnWidth = 192;
-constexpr int ColumnStep = 204;
-constexpr int LineHeight = 22; // of an edit of one line
-constexpr int CaptionRoom = 17;
+constexpr int Columns = 2;
 
 struct EditPlace
 {
@@ -25,20 +21,17 @@ struct EditPlace
     int height; // of the edit, without its caption
     DWORD style;
 
-    CRect Design() const
-    {
-        return CRect(CPoint(column * ColumnStep, top), CSize(ColumnWidth, CaptionRoom + height));
-    }
+    CRect Design() const { return grid::Cell(Columns, column, top, grid::CaptionStep + height); }
 };
 
 constexpr DWORD OneLine = ES_AUTOHSCROLL;
 constexpr DWORD ManyLines = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;
 
 constexpr EditPlace Places[] = {
-    {"Single line", 0, 0, LineHeight, OneLine},
-    {"With a prompt", 1, 0, LineHeight, OneLine},
-    {"Coloured", 0, 50, LineHeight, OneLine},
-    {"Fixed in its place", 1, 50, LineHeight, OneLine},
+    {"Single line", 0, 0, grid::Line, OneLine},
+    {"With a prompt", 1, 0, grid::Line, OneLine},
+    {"Coloured", 0, 50, grid::Line, OneLine},
+    {"Fixed in its place", 1, 50, grid::Line, OneLine},
     {"Long", 0, 100, 275, ManyLines},
     {"Read-only", 1, 100, 125, ManyLines | ES_READONLY},
     {"Read-only, and looks as if it were not", 1, 250, 125, ManyLines},
@@ -109,7 +102,7 @@ void EditsPage::CreateContent()
         const EditPlace& place = Places[index];
         const CRect design = place.Design();
         CStatic& caption =
-            AddLabel(place.caption, CRect(design.TopLeft(), CSize(design.Width(), CaptionHeight)));
+            AddLabel(place.caption, CRect(design.TopLeft(), CSize(design.Width(), grid::Caption)));
         CEdit& edit = At(index);
         edit.CreateEx(WS_EX_CLIENTEDGE, "EDIT", "",
                       WS_CHILD | WS_VISIBLE | WS_TABSTOP | place.style, design, this,
@@ -121,7 +114,8 @@ void EditsPage::CreateContent()
         }
         else
         {
-            Place(edit, CRect(design.left, design.top + CaptionRoom, design.right, design.bottom));
+            Place(edit,
+                  CRect(design.left, design.top + grid::CaptionStep, design.right, design.bottom));
         }
     }
     m_single.SetWindowText("EDDF 25C");

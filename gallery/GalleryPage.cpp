@@ -33,7 +33,7 @@ GalleryPage::GalleryPage(IAppAccess& host, GalleryEvents& events)
 
 CSize GalleryPage::SizeInMode()
 {
-    return CSize(AcrossInMode(DesignWidth), DownInMode(DesignHeight));
+    return CSize(AcrossInMode(grid::Width), DownInMode(grid::Height));
 }
 
 BOOL GalleryPage::Open(CWnd& parent, UINT id)
@@ -67,8 +67,8 @@ void GalleryPage::FollowMode()
             if (placed.caption != nullptr)
             {
                 moves.Add(*placed.caption,
-                          CRect(rect.TopLeft(), CSize(rect.Width(), DownInMode(CaptionHeight))));
-                rect.top += DownInMode(CaptionStep);
+                          CRect(rect.TopLeft(), CSize(rect.Width(), DownInMode(grid::Caption))));
+                rect.top += DownInMode(grid::CaptionStep);
             }
             moves.Add(*placed.control, rect);
         }
@@ -96,17 +96,17 @@ CRect GalleryPage::InPage(const CRect& design) const
                  Spread(rect.bottom, page.Height(), designed.cy));
 }
 
-CStatic& GalleryPage::MakeLabel(const char* text)
+CCustomStatic& GalleryPage::MakeLabel(const char* text)
 {
-    m_labels.push_back(std::make_unique<CStatic>());
-    CStatic& label = *m_labels.back();
+    m_labels.push_back(std::make_unique<CCustomStatic>());
+    CCustomStatic& label = *m_labels.back();
     label.Create(text, WS_CHILD | WS_VISIBLE | SS_LEFT, CRect(0, 0, 0, 0), this);
     return label;
 }
 
-CStatic& GalleryPage::AddLabel(const char* text, const CRect& design)
+CCustomStatic& GalleryPage::AddLabel(const char* text, const CRect& design)
 {
-    CStatic& label = MakeLabel(text);
+    CCustomStatic& label = MakeLabel(text);
     Place(label, design);
     return label;
 }
@@ -114,13 +114,21 @@ CStatic& GalleryPage::AddLabel(const char* text, const CRect& design)
 void GalleryPage::AddList(CCustomListBox& list, const char* caption, DWORD style,
                           const CRect& design, UINT id)
 {
-    CStatic& label = MakeLabel(caption);
+    CCustomStatic& label = MakeLabel(caption);
     list.CreateEx(WS_EX_CLIENTEDGE, "LISTBOX", "",
                   style | WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | LBS_NOTIFY |
                       LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS,
                   design, this, id);
     list.SetFont(&CCustomListBox::GetStdFont());
     Place(list, design, &label);
+}
+
+void GalleryPage::AddButton(CCustomButton& button, const char* caption, DWORD style,
+                            const CRect& design, UINT id)
+{
+    button.Create(caption, style | WS_CHILD | WS_VISIBLE, design, this, id);
+    button.SetFont(&CCustomStatic::GetStdFont());
+    Place(button, design);
 }
 
 void GalleryPage::TapRow(CListBox& list, int row)

@@ -1,7 +1,11 @@
 #pragma once
 
+#include "PageGrid.h"
+
+#include <CustomButton.h>
 #include <CustomDialog.h>
 #include <CustomListBox.h>
+#include <CustomStatic.h>
 
 #include <functional>
 #include <memory>
@@ -22,10 +26,7 @@ protected:
 class GalleryPage : public CCustomDialog
 {
 public:
-    // Every page is designed for this many pixels of the standard mode.
-    static constexpr int DesignWidth = 396;
-    static constexpr int DesignHeight = 392;
-    // The room that this takes in the current mode.
+    // The room that a page of the grid takes in the current mode.
     static CSize SizeInMode();
 
     GalleryPage(IAppAccess& host, GalleryEvents& events);
@@ -65,12 +66,14 @@ protected:
     // After the content was laid out, for what depends on the mode's fonts.
     virtual void OnLaidOut() {}
 
-    // design is in pixels of the standard mode. A caption takes the first CaptionStep of it.
-    static constexpr int CaptionHeight = 15;
-    static constexpr int CaptionStep = 17;
-    CStatic& AddLabel(const char* text, const CRect& design);
+    // design is in pixels of the standard mode, on the grid. A list's caption takes the first
+    // CaptionStep of it.
+    CCustomStatic& AddLabel(const char* text, const CRect& design);
     void AddList(CCustomListBox& list, const char* caption, DWORD style, const CRect& design,
                  UINT id);
+    static constexpr DWORD PushStyle = BS_PUSHBUTTON | WS_TABSTOP;
+    void AddButton(CCustomButton& button, const char* caption, DWORD style, const CRect& design,
+                   UINT id);
     // Has a control that the page made follow the mode, with a caption above it or without one.
     void Place(CWnd& control, const CRect& design, CWnd* caption = nullptr);
 
@@ -100,9 +103,9 @@ private:
     };
 
     CRect InPage(const CRect& design) const;
-    CStatic& MakeLabel(const char* text);
+    CCustomStatic& MakeLabel(const char* text);
 
     GalleryEvents& m_events;
-    std::vector<std::unique_ptr<CStatic>> m_labels;
+    std::vector<std::unique_ptr<CCustomStatic>> m_labels;
     std::vector<Placed> m_placed;
 };

@@ -9,10 +9,8 @@
 
 namespace {
 
-// The places, in pixels of the standard mode.
-constexpr int LabelHeight = 16;
-constexpr int IconsHeight = 296;
-constexpr int ImagesTop = LabelHeight + IconsHeight + 22;
+constexpr int ImagesTop = 334;
+constexpr int IconsHeight = ImagesTop - 2 * grid::CaptionStep - 4;
 
 // The table by id: heads of rows, then ten columns.
 constexpr UINT FirstTen = 3520;
@@ -163,13 +161,13 @@ IconsPage::IconsPage(IAppAccess& host, GalleryEvents& events)
 void IconsPage::CreateContent()
 {
     AppIcons().LoadIcons();
-    AddLabel("The application's icons by id", CRect(0, 0, DesignWidth, LabelHeight));
+    AddLabel("The application's icons by id", grid::Across(0, grid::Caption));
     m_icons.Open(*this, IconsId);
-    Place(m_icons, CRect(0, LabelHeight, DesignWidth, LabelHeight + IconsHeight));
+    Place(m_icons, grid::Across(grid::CaptionStep, IconsHeight));
     AddLabel("The same as images of the host's mapped list",
-             CRect(0, ImagesTop - LabelHeight, DesignWidth, ImagesTop));
+             grid::Across(ImagesTop - grid::CaptionStep, grid::Caption));
     m_images.Open(*this, ImagesId);
-    Place(m_images, CRect(0, ImagesTop, DesignWidth, DesignHeight));
+    Place(m_images, grid::Across(ImagesTop, grid::Height - ImagesTop));
 }
 
 void IconsPage::OnLaidOut()

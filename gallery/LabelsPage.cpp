@@ -5,18 +5,13 @@
 
 namespace {
 
-// The places, in pixels of the standard mode: labels on the left, what has colours on the right,
-// the group boxes below in two columns.
-constexpr int ColumnWidth = 190;
-constexpr int ColumnStep = 206;
+// Labels on the left, what has colours on the right, the group boxes below in two columns.
+constexpr int Columns = 2;
 constexpr int LineHeight = 17;
 constexpr int LineStep = 22;
-constexpr int ChoiceHeight = 16;
-constexpr int CheckHeight = 14; // its square is whole only in a low box
 constexpr int ChoiceStep = 20;
 constexpr int BoxInset = 10;
 
-constexpr int LabelsTop = 0;
 constexpr int BoxesTop = 138;
 constexpr int BoxHeight = 102;
 constexpr int LowBoxesTop = BoxesTop + BoxHeight + 14;
@@ -30,19 +25,18 @@ constexpr COLORREF BoldColors[] = {RGB(170, 30, 30), RGB(20, 70, 150)};
 
 CRect Line(int column, int row)
 {
-    return CRect(CPoint(column * ColumnStep, LabelsTop + row * LineStep),
-                 CSize(ColumnWidth, LineHeight));
+    return grid::Cell(Columns, column, row * LineStep, LineHeight);
 }
 
 CRect Box(int column, int top, int height)
 {
-    return CRect(CPoint(column * ColumnStep, top), CSize(ColumnWidth, height));
+    return grid::Cell(Columns, column, top, height);
 }
 
 CRect InBox(const CRect& box, int row)
 {
     return CRect(CPoint(box.left + BoxInset, box.top + 26 + row * ChoiceStep),
-                 CSize(box.Width() - 2 * BoxInset, ChoiceHeight));
+                 CSize(box.Width() - 2 * BoxInset, grid::Choice));
 }
 
 enum ControlId : UINT
@@ -75,19 +69,11 @@ void LabelsPage::MakeBox(int index, const char* caption, const CRect& design)
     Place(m_boxes[index], design);
 }
 
-void LabelsPage::MakeButton(CCustomButton& button, const char* caption, DWORD style,
-                            const CRect& design, UINT id)
-{
-    button.Create(caption, style | WS_CHILD | WS_VISIBLE, design, this, id);
-    button.SetFont(&CCustomStatic::GetStdFont());
-    Place(button, design);
-}
-
 void LabelsPage::CreateContent()
 {
     MakeStatic(m_labels[0], "A plain label", 0, SS_LEFT, Line(0, 0));
     MakeStatic(m_labels[1], "A label with a border", WS_EX_CLIENTEDGE, SS_LEFT | SS_CENTERIMAGE,
-               CRect(Line(0, 1).TopLeft(), CSize(ColumnWidth, LineHeight + 4)));
+               grid::Cell(Columns, 0, LineStep, LineHeight + 4));
     MakeStatic(m_labels[2], "A disabled label", 0, SS_LEFT | WS_DISABLED,
                Line(0, 2) + CPoint(0, 6));
     // Transparent: what has no ground of its own shows the page between its lines.
@@ -103,34 +89,32 @@ void LabelsPage::CreateContent()
     {
         m_swatches[index].Set(Swatches[index]);
         MakeStatic(m_swatches[index], "", 0, SS_LEFT,
-                   CRect(CPoint(ColumnStep + index * SwatchStep, LineStep),
+                   CRect(CPoint(grid::Left(Columns, 1) + index * SwatchStep, LineStep),
                          CSize(SwatchSize, SwatchSize)));
     }
     AddLabel("Outlines", Line(1, 2) + CPoint(0, 6));
     for (int index = 0; index < OutlineCount; ++index)
     {
         m_outlines[index].SetColor(Swatches[index == 0 ? 1 : 3]);
-        constexpr int Half = (ColumnWidth - 12) / 2;
-        MakeStatic(
-            m_outlines[index], "", WS_EX_TRANSPARENT, SS_LEFT,
-            CRect(CPoint(ColumnStep + index * (Half + 12), 3 * LineStep + 6), CSize(Half, 38)));
+        MakeStatic(m_outlines[index], "", WS_EX_TRANSPARENT, SS_LEFT,
+                   grid::Cell(2 * Columns, Columns + index, 3 * LineStep + 6, 38));
     }
 
     const CRect units = Box(0, BoxesTop, BoxHeight);
     MakeBox(0, "Units", units);
-    MakeButton(m_radios[0], "Metres", BS_AUTORADIOBUTTON | WS_GROUP | WS_TABSTOP, InBox(units, 0),
-               FirstRadio);
-    MakeButton(m_radios[1], "Feet", BS_AUTORADIOBUTTON, InBox(units, 1), FirstRadio + 1);
-    MakeButton(m_radios[2], "Flight levels", BS_AUTORADIOBUTTON, InBox(units, 2), FirstRadio + 2);
+    AddButton(m_radios[0], "Metres", BS_AUTORADIOBUTTON | WS_GROUP | WS_TABSTOP, InBox(units, 0),
+              FirstRadio);
+    AddButton(m_radios[1], "Feet", BS_AUTORADIOBUTTON, InBox(units, 1), FirstRadio + 1);
+    AddButton(m_radios[2], "Flight levels", BS_AUTORADIOBUTTON, InBox(units, 2), FirstRadio + 2);
 
     const CRect route = Box(1, BoxesTop, BoxHeight);
     MakeBox(1, "Route", route);
-    MakeButton(m_checkBox, "Show the route", BS_AUTOCHECKBOX | WS_GROUP | WS_TABSTOP,
-               CRect(InBox(route, 0).TopLeft() + CPoint(0, 1),
-                     CSize(ColumnWidth - 2 * BoxInset, CheckHeight)),
-               CheckBox);
-    MakeButton(m_push, "Calculate", BS_PUSHBUTTON | WS_TABSTOP,
-               CRect(InBox(route, 1).TopLeft() + CPoint(0, 6), CSize(110, 29)), PushButton);
+    AddButton(m_checkBox, "Show the route", BS_AUTOCHECKBOX | WS_GROUP | WS_TABSTOP,
+              CRect(InBox(route, 0).TopLeft() + CPoint(0, 1),
+                    CSize(route.Width() - 2 * BoxInset, grid::Check)),
+              CheckBox);
+    AddButton(m_push, "Calculate", PushStyle,
+              CRect(InBox(route, 1).TopLeft() + CPoint(0, 6), CSize(110, grid::Push)), PushButton);
 
     MakeBox(2, "", Box(0, LowBoxesTop, LowBoxHeight));
     AddLabel("A box without a caption", InBox(Box(0, LowBoxesTop, LowBoxHeight), 0));

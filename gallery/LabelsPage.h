@@ -48,6 +48,4 @@ private:
     CRect MakeStatic(CStatic& label, const char* text, DWORD exStyle, DWORD style,
                      const CRect& design);
     void MakeBox(int index, const char* caption, const CRect& design);
-    void MakeButton(CCustomButton& button, const char* caption, DWORD style, const CRect& design,
-                    UINT id);
 };

@@ -10,23 +10,19 @@ namespace {
 
 constexpr UINT FirstId = IDC_PAGE_FIRST;
 
-// The places, in pixels of the standard mode: three columns, two rows.
-constexpr int ColumnWidth = 124;
-constexpr int ColumnStep = 136;
-constexpr int RowHeight = 190;
-constexpr int RowStep = 202;
+constexpr int Columns = 3;
+constexpr int RowHeight = (grid::Height - grid::Gap) / 2;
 
 struct ListPlace
 {
     const char* caption;
     int column;
-    int columns;
+    int span; // columns
     int row;
 
     CRect Design() const
     {
-        return CRect(CPoint(column * ColumnStep, row * RowStep),
-                     CSize((columns - 1) * ColumnStep + ColumnWidth, RowHeight));
+        return grid::Cell(Columns, column, row * (RowHeight + grid::Gap), RowHeight, span);
     }
 };
 

@@ -3,7 +3,6 @@
 #include "resource.h"
 
 #include <AppAccess.h>
-#include <CustomStatic.h>
 #include <OnBoardUI.h>
 
 #include <iterator>
@@ -14,15 +13,13 @@ namespace {
 constexpr UINT FirstId = IDC_PAGE_FIRST;
 constexpr UINT ShowId = FirstId + 10;
 
-// The places, in pixels of the standard mode: three columns, two rows.
-constexpr int ColumnWidth = 124;
-constexpr int ColumnStep = 136;
+// Three columns, two rows.
+constexpr int Columns = 3;
 constexpr int UpperHeight = 128;
 constexpr int LowerTop = 136;
 constexpr int LowerHeight = 110;
-constexpr int ShowTop = LowerTop + 17;
-constexpr int ShowHeight = 29;
-constexpr int AnswerTop = ShowTop + ShowHeight + 12;
+constexpr int ShowTop = LowerTop + grid::CaptionStep;
+constexpr int AnswerTop = ShowTop + grid::Push + grid::Gap;
 constexpr int AnswerHeight = 40;
 
 struct Entry
@@ -126,12 +123,6 @@ template <size_t count> unsigned int Chosen(const CListBox& list, const Entry (&
     return chosen >= 0 && chosen < int(count) ? entries[chosen].style : 0;
 }
 
-CRect Cell(int column, int top, int columns, int height)
-{
-    return CRect(CPoint(column * ColumnStep, top),
-                 CSize((columns - 1) * ColumnStep + ColumnWidth, height));
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(MessageBoxPage, GalleryPage)
@@ -146,11 +137,13 @@ MessageBoxPage::MessageBoxPage(IAppAccess& host, GalleryEvents& events)
 
 void MessageBoxPage::CreateContent()
 {
-    AddList(m_choices[Buttons], "Buttons", 0, Cell(0, 0, 1, UpperHeight), FirstId + Buttons);
-    AddList(m_choices[Icon], "Icon", 0, Cell(1, 0, 1, UpperHeight), FirstId + Icon);
-    AddList(m_choices[First], "Has the focus first", 0, Cell(2, 0, 1, UpperHeight),
+    AddList(m_choices[Buttons], "Buttons", 0, grid::Cell(Columns, 0, 0, UpperHeight),
+            FirstId + Buttons);
+    AddList(m_choices[Icon], "Icon", 0, grid::Cell(Columns, 1, 0, UpperHeight), FirstId + Icon);
+    AddList(m_choices[First], "Has the focus first", 0, grid::Cell(Columns, 2, 0, UpperHeight),
             FirstId + First);
-    AddList(m_choices[Text], "Text", 0, Cell(0, LowerTop, 2, LowerHeight), FirstId + Text);
+    AddList(m_choices[Text], "Text", 0, grid::Cell(Columns, 0, LowerTop, LowerHeight, 2),
+            FirstId + Text);
     Fill(m_choices[Buttons], ButtonSets, 3);
     Fill(m_choices[Icon], Icons, 0);
     Fill(m_choices[First], Defaults, 0);
@@ -160,12 +153,9 @@ void MessageBoxPage::CreateContent()
     }
     m_choices[Text].SetCurSel(ThreeLines);
 
-    const CRect show = Cell(2, ShowTop, 1, ShowHeight);
-    m_show.Create("Show the box", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, show, this,
-                  ShowId);
-    m_show.SetFont(&CCustomStatic::GetStdFont());
-    Place(m_show, show);
-    m_answer = &AddLabel("No answer yet", Cell(2, AnswerTop, 1, AnswerHeight));
+    AddButton(m_show, "Show the box", PushStyle, grid::Cell(Columns, 2, ShowTop, grid::Push),
+              ShowId);
+    m_answer = &AddLabel("No answer yet", grid::Cell(Columns, 2, AnswerTop, AnswerHeight));
 }
 
 unsigned int MessageBoxPage::ChosenStyle() const

@@ -11,12 +11,9 @@
 
 namespace {
 
-// The places, in pixels of the standard mode.
-constexpr int ColumnWidth = 192;
-constexpr int ColumnStep = 204;
-constexpr int LabelHeight = 17;
-constexpr int HintHeight = 16;
-constexpr int ChartsBottom = GalleryPage::DesignHeight - HintHeight - 6;
+constexpr int Columns = 2;
+constexpr int HintTop = grid::Height - grid::Caption;
+constexpr int ChartsBottom = HintTop - 6;
 
 // Enough for an edge to bend smoothly.
 constexpr int OutlinePoints = 401;
@@ -42,12 +39,6 @@ enum ControlId : UINT
 };
 
 constexpr UINT ChartMoved = 1; // the notification of a chart that was dragged
-
-CRect Column(int column)
-{
-    return CRect(CPoint(column * ColumnStep, LabelHeight),
-                 CSize(ColumnWidth, ChartsBottom - LabelHeight));
-}
 
 CString PositionText(double latitude, double longitude)
 {
@@ -202,15 +193,15 @@ PolygonPage::PolygonPage(IAppAccess& host, GalleryEvents& events)
 void PolygonPage::CreateContent()
 {
     const auto add = [this](ChartWindow& chart, const char* caption, int column, UINT id) {
-        const CRect place = Column(column);
-        AddLabel(caption, CRect(place.left, 0, place.right, LabelHeight));
+        AddLabel(caption, grid::Cell(Columns, column, 0, grid::Caption));
         chart.Open(*this, id);
-        Place(chart, place);
+        Place(chart,
+              grid::Cell(Columns, column, grid::CaptionStep, ChartsBottom - grid::CaptionStep));
     };
     add(m_view, "Mercator", 0, ViewId);
     add(m_globe, "The globe, with the left view's outline", 1, GlobeId);
     AddLabel("Drag the left chart, and its outline follows; the globe turns as well.",
-             CRect(0, DesignHeight - HintHeight, DesignWidth, DesignHeight));
+             grid::Across(HintTop, grid::Caption));
 }
 
 void PolygonPage::OnLaidOut()

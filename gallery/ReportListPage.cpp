@@ -2,26 +2,29 @@
 
 #include "resource.h"
 
-#include <CustomStatic.h>
-
 namespace {
 
 constexpr UINT FirstId = IDC_PAGE_FIRST;
 
-// The places, in pixels of the standard mode.
 struct ReportPlace
 {
     const char* caption;
     CRect design;
 };
 
+constexpr int Columns = 3;
+constexpr int SwitchTop = 228;
+constexpr int SwitchHeight = 18;
+constexpr int LowerTop = SwitchTop + SwitchHeight + 6;
+constexpr int LowerHeight = grid::Height - LowerTop;
+
 const ReportPlace Places[] = {
-    {"Flight legs; a click on a heading sorts", CRect(0, 0, 396, 222)},
-    {"Empty", CRect(0, 252, 124, 392)},
-    {"One column", CRect(136, 252, 260, 392)},
-    {"A million rows", CRect(272, 252, 396, 392)},
-    {"Grid lines", CRect(0, 228, 124, 246)},
-    {"Full-row select", CRect(136, 228, 396, 246)},
+    {"Flight legs; a click on a heading sorts", grid::Across(0, SwitchTop - 6)},
+    {"Empty", grid::Cell(Columns, 0, LowerTop, LowerHeight)},
+    {"One column", grid::Cell(Columns, 1, LowerTop, LowerHeight)},
+    {"A million rows", grid::Cell(Columns, 2, LowerTop, LowerHeight)},
+    {"Grid lines", grid::Cell(Columns, 0, SwitchTop, SwitchHeight)},
+    {"Full-row select", grid::Cell(Columns, 1, SwitchTop, SwitchHeight, 2)},
 };
 
 constexpr int LegRows = 5000;
@@ -110,10 +113,10 @@ void ReportListPage::AddReport(int list, DWORD style)
 {
     const ReportPlace& place = Places[list];
     CRect caption = place.design;
-    caption.bottom = caption.top + CaptionHeight;
+    caption.bottom = caption.top + grid::Caption;
     AddLabel(place.caption, caption);
     CRect design = place.design;
-    design.top += CaptionStep;
+    design.top += grid::CaptionStep;
     m_lists[list].CreateEx(WS_EX_CLIENTEDGE,
                            style | WS_CHILD | WS_VISIBLE | WS_TABSTOP | LVS_REPORT |
                                LVS_SHOWSELALWAYS,
@@ -125,12 +128,10 @@ void ReportListPage::AddReport(int list, DWORD style)
 void ReportListPage::AddSwitch(int control, CCustomCheckBox& box)
 {
     const ReportPlace& place = Places[control];
-    box.Create(place.caption, BS_AUTOCHECKBOX | WS_CHILD | WS_VISIBLE | WS_TABSTOP, place.design,
-               this, FirstId + UINT(control));
-    box.SetFont(&CCustomStatic::GetStdFont());
+    AddButton(box, place.caption, BS_AUTOCHECKBOX | WS_TABSTOP, place.design,
+              FirstId + UINT(control));
     m_on[control - ListCount] = true;
     box.SetCheck(BST_CHECKED);
-    Place(box, place.design);
 }
 
 void ReportListPage::OnLaidOut()

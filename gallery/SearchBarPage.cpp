@@ -2,21 +2,14 @@
 
 #include "resource.h"
 
-#include <CustomStatic.h>
-
 namespace {
 
 constexpr UINT FirstId = IDC_PAGE_FIRST;
 constexpr UINT BarId = FirstId + 10;
 
-// In pixels of the standard mode: two columns of buttons, a hint below.
-constexpr int ButtonWidth = 124;
-constexpr int ButtonHeight = 29;
-constexpr int ColumnStep = 136;
-constexpr int RowStep = 40;
-constexpr int HintTop = 94;
+// Two columns of buttons, a hint below.
+constexpr int Columns = 3;
 constexpr int HintHeight = 60;
-constexpr int HintWidth = ColumnStep + ButtonWidth;
 
 constexpr const char* Captions[] = {"Start search", "Stop search", "Start loading", "Stop loading"};
 
@@ -31,17 +24,13 @@ void SearchBarPage::CreateContent()
 {
     for (int index = 0; index < CommandCount; ++index)
     {
-        const CRect design(CPoint(index % 2 * ColumnStep, index / 2 * RowStep),
-                           CSize(ButtonWidth, ButtonHeight));
-        CCustomPushbutton& button = m_commands[index];
-        button.Create(Captions[index], WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, design,
-                      this, FirstId + UINT(index));
-        button.SetFont(&CCustomStatic::GetStdFont());
-        Place(button, design);
+        AddButton(m_commands[index], Captions[index], PushStyle,
+                  grid::Cell(Columns, index % 2, index / 2 * grid::PushStep, grid::Push),
+                  FirstId + UINT(index));
     }
     AddLabel("A search gains a dot each second; loading stands still. Neither starts while the "
              "other goes on, and both keep their text when they are stopped.",
-             CRect(CPoint(0, HintTop), CSize(HintWidth, HintHeight)));
+             grid::Cell(Columns, 0, 2 * grid::PushStep + grid::Gap, HintHeight, 2));
     m_bar.Create(WS_CHILD | WS_VISIBLE | CCS_BOTTOM, CRect(0, 0, 0, 0), this, BarId);
 }
 

@@ -3,8 +3,6 @@
 #include "Look.h"
 #include "resource.h"
 
-#include <CustomStatic.h>
-
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
@@ -12,21 +10,11 @@
 
 namespace {
 
-// The places, in pixels of the standard mode.
-CRect Across(int top, int height)
-{
-    return CRect(0, top, GalleryPage::DesignWidth, top + height);
-}
-constexpr int CaptionHeight = 17;
-constexpr int BarTop = CaptionHeight;
+constexpr int BarTop = grid::CaptionStep;
 constexpr int BarHeight = 42;
-constexpr int EditTop = BarTop + BarHeight + 10 + CaptionHeight;
-constexpr int EditHeight = 22;
-constexpr int ActionsTop = EditTop + EditHeight + 10;
-constexpr int ActionWidth = 124;
-constexpr int ActionStep = 136;
-constexpr int ActionHeight = 29;
-constexpr int MessagesTop = ActionsTop + ActionHeight + 12;
+constexpr int EditTop = BarTop + BarHeight + 10 + grid::CaptionStep;
+constexpr int ActionsTop = EditTop + grid::Line + 10;
+constexpr int MessagesTop = ActionsTop + grid::Push + grid::Gap;
 
 constexpr int PictureSize = 32;
 constexpr int LargePictureSize = 64;
@@ -79,7 +67,7 @@ END_MESSAGE_MAP()
 
 void ToolbarPage::CreateContent()
 {
-    AddLabel("The bar", Across(0, CaptionHeight));
+    AddLabel("The bar", grid::Across(0, grid::Caption));
     m_bar.CreateEx(this, TBSTYLE_FLAT | TBSTYLE_TRANSPARENT, WS_CHILD | WS_VISIBLE | CBRS_TOP,
                    CRect(0, 0, 0, 0), Bar);
     m_pictures.Create(PictureSize, PictureSize, ILC_COLOR32 | ILC_MASK, int(std::size(Buttons)), 1);
@@ -99,29 +87,25 @@ void ToolbarPage::CreateContent()
         button.fsStyle = BYTE(id == 0 ? TBSTYLE_SEP : TBSTYLE_BUTTON);
         m_bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
     }
-    Place(m_bar, Across(BarTop, BarHeight));
+    Place(m_bar, grid::Across(BarTop, BarHeight));
 
     AddLabel("Its order: command ids from left to right, 0 for a separator",
-             Across(EditTop - CaptionHeight, CaptionHeight));
+             grid::Across(EditTop - grid::CaptionStep, grid::Caption));
     m_order.CreateEx(WS_EX_CLIENTEDGE, "EDIT", "",
                      WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL,
-                     Across(EditTop, EditHeight), this, OrderEdit);
+                     grid::Across(EditTop, grid::Line), this, OrderEdit);
     m_order.SetFont(&CCustomEdit::GetStdFont());
-    Place(m_order, Across(EditTop, EditHeight));
+    Place(m_order, grid::Across(EditTop, grid::Line));
     ShowOrder(FirstOrder());
 
     for (int action = 0; action < ActionCount; ++action)
     {
-        const CRect design(CPoint(action * ActionStep, ActionsTop),
-                           CSize(ActionWidth, ActionHeight));
-        CCustomPushbutton& button = m_actions[action];
-        button.Create(Actions[action], WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_PUSHBUTTON, design,
-                      this, FirstAction + UINT(action));
-        button.SetFont(&CCustomStatic::GetStdFont());
-        Place(button, design);
+        AddButton(m_actions[action], Actions[action], PushStyle,
+                  grid::Cell(ActionCount, action, ActionsTop, grid::Push),
+                  FirstAction + UINT(action));
     }
     AddList(m_messages, "What the bar said", LBS_NOSEL,
-            Across(MessagesTop, DesignHeight - MessagesTop), Messages);
+            grid::Across(MessagesTop, grid::Height - MessagesTop), Messages);
 }
 
 void ToolbarPage::OnLaidOut()

@@ -4,8 +4,6 @@
 #include "SmallWorld.h"
 #include "resource.h"
 
-#include <CustomStatic.h>
-
 namespace {
 
 // In the order of the page.
@@ -19,21 +17,23 @@ constexpr UINT ToldId = TreeId + 4;
 constexpr UINT WriteToldMessage = WM_APP + 1;
 constexpr UINT PoseMessage = WM_APP + 2;
 
-// The places, in pixels of the standard mode.
-constexpr int Column = 192;
-constexpr int SecondColumn = 204;
-constexpr int CaptionHeight = 15;
-constexpr int TreesTop = 17;
-constexpr int TreesBottom = 236;
+constexpr int Columns = 2;
+constexpr int TreesHeight = 219;
 constexpr int SwitchTop = 246;
-constexpr int SwitchHeight = 14;
 constexpr int AreaTop = 270;
-constexpr int PageBottom = 392;
 constexpr int ToldTop = 244;
 
 constexpr int ToldRows = 200; // older ones go
 constexpr DWORD TreeStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | TVS_HASBUTTONS |
                             TVS_HASLINES | TVS_LINESATROOT;
+
+// What a drop or copy message brings; null for nothing. From another thread or process the pointer
+// means nothing.
+const KArray* PayloadIn(LPARAM lParam)
+{
+    const auto* const payload = reinterpret_cast<const KArray*>(lParam);
+    return ::InSendMessage() || payload == nullptr || payload->GetCount() == 0 ? nullptr : payload;
+}
 
 CString NamesIn(const KArray& payload)
 {
@@ -101,12 +101,8 @@ END_MESSAGE_MAP()
 
 LRESULT WorldTree::Receive(const char* how, LPARAM lParam)
 {
-    if (::InSendMessage())
-    {
-        return FALSE; // from another thread or process, where the pointer means nothing
-    }
-    const auto* payload = reinterpret_cast<const KArray*>(lParam);
-    if (payload == nullptr || payload->GetCount() == 0)
+    const KArray* const payload = PayloadIn(lParam);
+    if (payload == nullptr)
     {
         return FALSE;
     }
@@ -167,12 +163,8 @@ void DropArea::OnPaint()
 
 LRESULT DropArea::Receive(const char* how, LPARAM lParam)
 {
-    if (::InSendMessage())
-    {
-        return FALSE; // from another thread or process, where the pointer means nothing
-    }
-    const auto* payload = reinterpret_cast<const KArray*>(lParam);
-    if (payload == nullptr || payload->GetCount() == 0)
+    const KArray* const payload = PayloadIn(lParam);
+    if (payload == nullptr)
     {
         return FALSE;
     }
@@ -216,30 +208,24 @@ TreesPage::TreesPage(IAppAccess& host, GalleryEvents& events)
 
 void TreesPage::CreateContent()
 {
-    const auto caption = [](int left) {
-        return CRect(CPoint(left, 0), CSize(Column, CaptionHeight));
-    };
-    const CRect tree(0, TreesTop, Column, TreesBottom);
-    const CRect view(SecondColumn, TreesTop, SecondColumn + Column, TreesBottom);
-    AddLabel("Tree", caption(0));
+    const CRect tree = grid::Cell(Columns, 0, grid::CaptionStep, TreesHeight);
+    const CRect view = grid::Cell(Columns, 1, grid::CaptionStep, TreesHeight);
+    AddLabel("Tree", grid::Cell(Columns, 0, 0, grid::Caption));
     m_tree.Create(TreeStyle, tree, this, TreeId);
     Place(m_tree, tree);
-    AddLabel("View: drag from here", caption(SecondColumn));
+    AddLabel("View: drag from here", grid::Cell(Columns, 1, 0, grid::Caption));
     m_view->Create(nullptr, "Routes", TreeStyle, view, this, ViewId);
     Place(*m_view, view);
 
-    const CRect several(CPoint(0, SwitchTop), CSize(Column, SwitchHeight));
-    m_several.Create("Several items at once", WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_AUTOCHECKBOX,
-                     several, this, SeveralId);
-    m_several.SetFont(&CCustomStatic::GetStdFont());
+    AddButton(m_several, "Several items at once", BS_AUTOCHECKBOX | WS_TABSTOP,
+              grid::Cell(Columns, 0, SwitchTop, grid::Check), SeveralId);
     m_several.SetCheck(BST_CHECKED);
-    Place(m_several, several);
 
-    const CRect area(0, AreaTop, Column, PageBottom);
+    const CRect area = grid::Cell(Columns, 0, AreaTop, grid::Height - AreaTop);
     m_area.Create(nullptr, "", WS_CHILD | WS_VISIBLE, area, this, AreaId);
     Place(m_area, area);
-    AddList(m_told, "Told to the page", 0,
-            CRect(SecondColumn, ToldTop, SecondColumn + Column, PageBottom), ToldId);
+    AddList(m_told, "Told to the page", 0, grid::Cell(Columns, 1, ToldTop, grid::Height - ToldTop),
+            ToldId);
 
     m_treeRoute = world::Fill(m_tree);
     m_viewRoute = world::Fill(m_view->GetTreeCtrl());

@@ -1,0 +1,42 @@
+#pragma once
+
+// The grid that the pages are laid out on, in pixels of the standard mode. On-board it grows with
+// the mode's scale, so that what is PushHeight high here is some 50 pixels there: a finger's.
+
+#include <afxwin.h>
+
+namespace grid {
+
+constexpr int Width = 396; // of every page
+constexpr int Height = 392;
+constexpr int Gap = 12; // between columns, and between what stands apart
+
+// Heights.
+constexpr int Caption = 15; // a label of one line
+constexpr int CaptionStep = 17;
+constexpr int Line = 22;   // an edit or combo of one line
+constexpr int Choice = 16; // a radio button
+constexpr int Check = 14; // on-board, a check box's square is as high as it, and whole only in this
+constexpr int Push = 29;
+constexpr int PushStep = Push + 11;
+
+// A page is divided into so many equal columns.
+constexpr int Left(int columns, int column, int gap = Gap)
+{
+    return (Width + gap) * column / columns;
+}
+
+// A rectangle over so many of the columns.
+inline CRect Cell(int columns, int column, int top, int height, int span = 1, int gap = Gap)
+{
+    return CRect(Left(columns, column, gap), top, Left(columns, column + span, gap) - gap,
+                 top + height);
+}
+
+// Over all of them.
+inline CRect Across(int top, int height)
+{
+    return CRect(0, top, Width, top + height);
+}
+
+} // namespace grid
