@@ -1,32 +1,28 @@
 #include "CommandLine.h"
 
-#include <iterator>
+#include "DisplayModes.h"
+#include "Pages.h"
 
 namespace {
 
-std::optional<size_t> PageNamed(LPCSTR name)
+CString ModeNames()
 {
-    const auto pages = Pages();
-    for (size_t index = 0; index < pages.size(); ++index)
+    CString names;
+    for (const char* name : APPMODE_NAMES)
     {
-        if (::lstrcmpi(pages[index].name, name) == 0)
-        {
-            return index;
-        }
+        names += CString(" ") + name;
     }
-    return std::nullopt;
+    return names;
 }
 
-std::optional<APPMODE> ModeNamed(LPCSTR name)
+CString PageNames()
 {
-    for (size_t mode = 0; mode < std::size(APPMODE_NAMES); ++mode)
+    CString names;
+    for (const PageEntry& page : Pages())
     {
-        if (::lstrcmpi(APPMODE_NAMES[mode], name) == 0)
-        {
-            return APPMODE(mode);
-        }
+        names += CString(" ") + page.name;
     }
-    return std::nullopt;
+    return names;
 }
 
 } // namespace
@@ -42,9 +38,11 @@ CommandLine CommandLine::Parse(int count, char** arguments)
             result.help = true;
             continue;
         }
-        if (option != "--pictures" && option != "--page" && option != "--mode")
+        if (option != "--pictures" && option != "--page" && option != "--mode" &&
+            option != "--settings")
         {
-            result.problem = "Unknown argument: " + option;
+            result.problem =
+                "Unknown argument: " + option + "; gallery --help tells what there is.";
             continue;
         }
         const CString value = index + 1 < count ? arguments[++index] : "";
@@ -56,13 +54,17 @@ CommandLine CommandLine::Parse(int count, char** arguments)
         {
             result.pictures = value;
         }
+        else if (option == "--settings")
+        {
+            result.settings = value;
+        }
         else if (option == "--page" && !(result.page = PageNamed(value)))
         {
-            result.problem = "There is no page " + value + ".";
+            result.problem = "There is no page " + value + ". The pages are" + PageNames();
         }
         else if (option == "--mode" && !(result.mode = ModeNamed(value)))
         {
-            result.problem = "There is no mode " + value + ".";
+            result.problem = "There is no mode " + value + ". The modes are" + ModeNames();
         }
     }
     return result;
@@ -70,24 +72,16 @@ CommandLine CommandLine::Parse(int count, char** arguments)
 
 CString CommandLine::Usage()
 {
-    CString text =
-        "gallery [--page NAME] [--mode NAME] [--pictures FOLDER] [--help]\r\n"
-        "\r\n"
-        "  --page NAME        opens this page; with --pictures, takes no other\r\n"
-        "  --mode NAME        starts in this display mode; with --pictures, takes no other\r\n"
-        "  --pictures FOLDER  writes a picture of each page in each mode and ends\r\n"
-        "\r\n"
-        "F5 to F9 or Ctrl+1 to Ctrl+5 switch the display mode.\r\n"
-        "\r\n"
-        "Modes:";
-    for (const char* name : APPMODE_NAMES)
-    {
-        text += CString(" ") + name;
-    }
-    text += "\r\nPages:";
-    for (const PageEntry& page : Pages())
-    {
-        text += CString(" ") + page.name;
-    }
-    return text;
+    return "gallery [--page NAME] [--mode NAME] [--settings FILE] [--pictures FOLDER] [--help]\r\n"
+           "\r\n"
+           "  --page NAME        opens this page; with --pictures, takes no other\r\n"
+           "  --mode NAME        starts in this display mode, not in the one used last;\r\n"
+           "                     with --pictures, takes no other\r\n"
+           "  --settings FILE    keeps there what the next run starts with\r\n"
+           "  --pictures FOLDER  writes a picture of each page in each mode and ends\r\n"
+           "\r\n"
+           "F5 to F9 or Ctrl+1 to Ctrl+5 switch the display mode.\r\n"
+           "\r\n"
+           "Modes:" +
+           ModeNames() + "\r\nPages:" + PageNames();
 }

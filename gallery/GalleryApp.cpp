@@ -22,16 +22,21 @@ constexpr int CommandLineFailed = 2;
 BOOL GalleryApp::InitInstance()
 {
     const CommandLine options = CommandLine::Parse(__argc, __argv);
-    if (options.help || !options.problem.IsEmpty())
+    if (!options.problem.IsEmpty())
     {
-        const CString text = options.problem.IsEmpty()
-                                 ? CommandLine::Usage()
-                                 : options.problem + "\r\n\r\n" + CommandLine::Usage();
-        if (!PrintLine(text))
+        if (!PrintProblem(options.problem))
         {
-            AfxMessageBox(text);
+            AfxMessageBox(options.problem);
         }
-        m_exitCode = options.problem.IsEmpty() ? 0 : CommandLineFailed;
+        m_exitCode = CommandLineFailed;
+        return FALSE;
+    }
+    if (options.help)
+    {
+        if (!PrintLine(CommandLine::Usage()))
+        {
+            AfxMessageBox(CommandLine::Usage());
+        }
         return FALSE;
     }
 
@@ -49,10 +54,13 @@ BOOL GalleryApp::InitInstance()
         return FALSE;
     }
     m_pMainWnd = frame;
+    // Pictures show every mode and are the same whoever takes them: nothing is kept, nor read.
     const bool pictures = !options.pictures.IsEmpty();
-    if (options.mode && !pictures)
+    if (!pictures)
     {
-        frame->SwitchMode(*options.mode);
+        m_host.KeepSettingsIn(options.settings.IsEmpty() ? Settings::UsualFile()
+                                                         : options.settings);
+        frame->SwitchMode(options.mode.value_or(m_host.KeptMode()));
     }
     frame->ShowWindow(pictures ? SW_SHOW : m_nCmdShow);
     frame->UpdateWindow();

@@ -1,6 +1,7 @@
 #include "GalleryFrame.h"
 
 #include "AppIcon.h"
+#include "DisplayModes.h"
 #include "Look.h"
 #include "OpenDialog.h"
 #include "Pages.h"
@@ -31,10 +32,16 @@ const Measures& CurrentMeasures()
     return look::Dark() ? OnBoard : Standard;
 }
 
-// The modes whose window is the screen.
-bool CoversScreen(APPMODE mode)
+// The dark frame: a line round the window and a caption that a finger can hold.
+constexpr int Border = 3;
+constexpr int CaptionHeight = 60;
+constexpr int CaptionInset = 4; // of the switches in it
+constexpr int SwitchesWidth = 272;
+constexpr int GripWidth = 12; // what takes hold of an edge
+
+bool OwnFrame()
 {
-    return mode == FULLSCREEN || mode == EFBFS;
+    return look::Dark() && !CoversScreen(COnBoardUIGeneral::GetAppMode());
 }
 
 MONITORINFO MonitorOf(HWND window)
@@ -64,9 +71,13 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_WM_ERASEBKGND()
     ON_WM_CTLCOLOR()
     ON_WM_GETMINMAXINFO()
+    ON_WM_NCHITTEST()
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
     ON_COMMAND_RANGE(ID_MODE_FIRST, ID_MODE_LAST, &GalleryFrame::OnModeCommand)
+    ON_COMMAND_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, &GalleryFrame::OnPageCommand)
+    ON_COMMAND(ID_WINDOW_MINIMIZE, &GalleryFrame::OnMinimize)
+    ON_COMMAND(ID_WINDOW_CLOSE, &GalleryFrame::OnClose)
     ON_LBN_SELCHANGE(IDC_PAGE_LIST, &GalleryFrame::OnPageSelected)
 END_MESSAGE_MAP()
 
@@ -94,8 +105,8 @@ BOOL GalleryFrame::Open(size_t page)
 
 int GalleryFrame::OnCreate(LPCREATESTRUCT cs)
 {
-    if (CFrameWnd::OnCreate(cs) == -1 || !m_switches.Create(*this, IDC_MODE_SWITCHES) ||
-        !m_list.Create(*this, IDC_PAGE_LIST))
+    if (CFrameWnd::OnCreate(cs) == -1 || !m_windowSwitches.Create(*this, IDC_WINDOW_SWITCHES) ||
+        !m_switches.Create(*this, IDC_MODE_SWITCHES) || !m_list.Create(*this, IDC_PAGE_LIST))
     {
         return -1;
     }
@@ -130,17 +141,21 @@ bool GalleryFrame::ShowPage(size_t index)
         auto page = Pages()[index].make(m_host, *this);
         if (!page->Open(*this, IDC_PAGE + UINT(index)))
         {
-            m_list.SetCurSel(int(m_shown));
+            m_list.Show(int(m_shown));
             return false;
         }
         m_pages[index] = std::move(page);
     }
     m_shown = index;
-    m_list.SetCurSel(int(index));
     RecalcLayout();
     m_pages[index]->ShowWindow(SW_SHOW);
     if (before != index && m_pages[before] != nullptr)
     {
+        ParentWasTold("nothing yet");
+        if (::IsChild(*m_pages[before], ::GetFocus()))
+        {
+            m_list.SetFocus(); // the keys go on from where the page stands in the list
+        }
         m_pages[before]->ShowWindow(SW_HIDE);
     }
     return true;
@@ -183,7 +198,14 @@ CRect GalleryFrame::InitialPlace() const
     const CSize page = GalleryPage::SizeInMode();
     CRect rect(0, 0, 2 * m.margin + m.list + m.gap + page.cx,
                3 * m.margin + m.switches + page.cy + m.line);
-    ::AdjustWindowRectEx(&rect, WS_OVERLAPPEDWINDOW, FALSE, 0);
+    if (OwnFrame())
+    {
+        rect.InflateRect(Border, Border + CaptionHeight / 2);
+    }
+    else
+    {
+        ::AdjustWindowRectEx(&rect, WS_OVERLAPPEDWINDOW, FALSE, 0);
+    }
     const CRect work = MonitorOf(m_hWnd).rcWork;
     const CSize size(std::min(rect.Width(), work.Width()), std::min(rect.Height(), work.Height()));
     return CRect(work.CenterPoint() - CSize(size.cx / 2, size.cy / 2), size);
@@ -206,7 +228,8 @@ void GalleryFrame::TakePlace(APPMODE newMode, APPMODE oldMode)
                      SWP_NOZORDER | SWP_FRAMECHANGED);
         return;
     }
-    ModifyStyle(WS_MAXIMIZE, WS_OVERLAPPEDWINDOW);
+    ModifyStyle(WS_OVERLAPPEDWINDOW | WS_MAXIMIZE,
+                newMode == STD ? WS_OVERLAPPEDWINDOW : WS_SYSMENU | WS_MINIMIZEBOX);
     const auto& place = m_places[newMode != STD];
     const CRect initial = InitialPlace();
     SetWindowPos(nullptr, initial.left, initial.top, initial.Width(), initial.Height(),
@@ -225,6 +248,15 @@ GalleryFrame::Layout GalleryFrame::CurrentLayout() const
     CRect area;
     GetClientRect(&area);
     Layout layout;
+    if (OwnFrame())
+    {
+        area.DeflateRect(Border, Border);
+        layout.caption = CRect(area.left, area.top, area.right, area.top + CaptionHeight);
+        layout.window = layout.caption;
+        layout.window.DeflateRect(CaptionInset, CaptionInset);
+        layout.window.left = layout.window.right - SwitchesWidth;
+        area.top = layout.caption.bottom;
+    }
     layout.line = CRect(area.left, area.bottom - m.line, area.right, area.bottom);
     area.bottom = layout.line.top;
     area.DeflateRect(m.margin, m.margin);
@@ -244,6 +276,7 @@ void GalleryFrame::RecalcLayout(BOOL)
     const Layout layout = CurrentLayout();
     {
         WindowMoves moves;
+        moves.Add(m_windowSwitches, layout.window);
         moves.Add(m_switches, layout.switches);
         moves.Add(m_list, layout.list);
         if (m_pages[m_shown] != nullptr)
@@ -251,6 +284,8 @@ void GalleryFrame::RecalcLayout(BOOL)
             moves.Add(*m_pages[m_shown], layout.page);
         }
     }
+    m_list.Show(int(m_shown)); // its height has changed, or that of its rows
+    m_windowSwitches.ShowWindow(OwnFrame() ? SW_SHOWNA : SW_HIDE);
     Invalidate(FALSE);
 }
 
@@ -258,7 +293,12 @@ void GalleryFrame::OnPaint()
 {
     BufferedPaint paint(*this);
     CDC& dc = paint.Context();
-    CRect line = CurrentLayout().line;
+    const Layout layout = CurrentLayout();
+    if (OwnFrame())
+    {
+        DrawFrame(dc, layout.caption);
+    }
+    CRect line = layout.line;
     if (look::Dark())
     {
         dc.FillSolidRect(line.left, line.top, line.Width(), 3, look::DarkOutline);
@@ -275,6 +315,25 @@ void GalleryFrame::OnPaint()
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
+void GalleryFrame::DrawFrame(CDC& dc, const CRect& caption) const
+{
+    CRect edge;
+    GetClientRect(&edge);
+    for (int line = 0; line < Border; ++line)
+    {
+        dc.Draw3dRect(&edge, look::DarkOutline, look::DarkOutline);
+        edge.DeflateRect(1, 1);
+    }
+    dc.FillSolidRect(&caption, look::DarkPressed);
+    CRect text = caption;
+    text.DeflateRect(CurrentMeasures().margin, 0);
+    text.right -= SwitchesWidth;
+    CString title;
+    GetWindowText(title);
+    const FontInUse font(dc, look::BoldFont());
+    dc.DrawText(title, &text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
 HBRUSH GalleryFrame::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
 {
     return look::Dark() ? look::GroundBrush() : CFrameWnd::OnCtlColor(dc, control, kind);
@@ -284,6 +343,25 @@ void GalleryFrame::OnGetMinMaxInfo(MINMAXINFO* info)
 {
     const CRect least = InitialPlace();
     info->ptMinTrackSize = {least.Width(), least.Height()};
+}
+
+LRESULT GalleryFrame::OnNcHitTest(CPoint point)
+{
+    if (!OwnFrame())
+    {
+        return Default();
+    }
+    static constexpr LRESULT Edges[3][3] = {{HTTOPLEFT, HTTOP, HTTOPRIGHT},
+                                            {HTLEFT, HTCLIENT, HTRIGHT},
+                                            {HTBOTTOMLEFT, HTBOTTOM, HTBOTTOMRIGHT}};
+    CRect area;
+    GetClientRect(&area);
+    ScreenToClient(&point);
+    const auto along = [](LONG place, LONG end) {
+        return place < GripWidth ? 0 : place >= end - GripWidth ? 2 : 1;
+    };
+    const LRESULT edge = Edges[along(point.y, area.bottom)][along(point.x, area.right)];
+    return edge == HTCLIENT && CurrentLayout().caption.PtInRect(point) ? HTCAPTION : edge;
 }
 
 void GalleryFrame::ParentWasTold(const CString& what)
@@ -330,7 +408,23 @@ void GalleryFrame::OnSetFocus(CWnd*)
 
 void GalleryFrame::OnModeCommand(UINT id)
 {
-    SwitchMode(APPMODE(id - ID_MODE_FIRST));
+    const auto mode = APPMODE(id - ID_MODE_FIRST);
+    SwitchMode(mode);
+    m_host.KeepMode(mode);
+}
+
+void GalleryFrame::OnPageCommand(UINT id)
+{
+    const size_t page = id - ID_PAGE_FIRST;
+    if (page < m_pages.size())
+    {
+        ShowPage(page);
+    }
+}
+
+void GalleryFrame::OnMinimize()
+{
+    SendMessage(WM_SYSCOMMAND, SC_MINIMIZE);
 }
 
 void GalleryFrame::OnPageSelected()

@@ -2,15 +2,16 @@
 
 #include "GalleryHost.h"
 #include "GalleryPage.h"
-#include "ModeSwitches.h"
 #include "PageList.h"
+#include "SwitchStrip.h"
 
 #include <memory>
 #include <optional>
 #include <vector>
 
 // The gallery's window: the mode switches on top, the list of pages at the left, the page, and
-// below a line with what the page was told last. In two of the modes it covers the whole screen.
+// below a line with what the page was told last. In two of the modes it covers the whole screen; in
+// the other on-board modes it has a dark frame of its own, which is part of its client area.
 class GalleryFrame : public CFrameWnd, private GalleryEvents
 {
 public:
@@ -33,6 +34,8 @@ public:
 private:
     struct Layout
     {
+        CRect caption; // of the frame of its own; empty without one
+        CRect window;  // the switches in it
         CRect switches;
         CRect list;
         CRect page;
@@ -48,18 +51,23 @@ private:
     afx_msg BOOL OnEraseBkgnd(CDC*) { return TRUE; }
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
+    afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnModeCommand(UINT id);
+    afx_msg void OnPageCommand(UINT id);
+    afx_msg void OnMinimize();
     afx_msg void OnPageSelected();
     DECLARE_MESSAGE_MAP()
 
     Layout CurrentLayout() const;
+    void DrawFrame(CDC& dc, const CRect& caption) const;
     // Size and place of the window in a mode that leaves it one.
     CRect InitialPlace() const;
     void TakePlace(APPMODE newMode, APPMODE oldMode);
 
     GalleryHost& m_host;
+    WindowSwitches m_windowSwitches;
     ModeSwitches m_switches;
     PageList m_list;
     std::vector<std::unique_ptr<GalleryPage>> m_pages; // made when first shown

@@ -1,14 +1,22 @@
 #include "GalleryHost.h"
 
+#include "DisplayModes.h"
+
 #include <AppIcons.h>
 #include <CustomDialog.h>
 #include <CustomEdit.h>
 #include <CustomPropSheet.h>
 
+#include <cstdlib>
+
 namespace {
 
 constexpr int IconSize = 16;
 constexpr int LargeIconSize = 32;
+
+// Where the display mode is kept, by its name.
+constexpr const char* DisplaySection = "Display";
+constexpr const char* ModeKey = "Mode";
 
 const MappedImageList* Filled(MappedImageList& list, int size)
 {
@@ -85,6 +93,39 @@ void GalleryEfb::ShowVKB(bool show, VKB_SHOW_POS, HWND window)
 GalleryHost::GalleryHost()
     : m_efb(*this)
 {}
+
+APPMODE GalleryHost::KeptMode()
+{
+    return ModeNamed(GetConfigVal(DisplaySection, ModeKey, "")).value_or(STD);
+}
+
+void GalleryHost::KeepMode(APPMODE mode)
+{
+    SetConfigVal(DisplaySection, ModeKey, APPMODE_NAMES[mode]);
+}
+
+CString GalleryHost::GetConfigVal(const char* section, const char* key, const char* fallback)
+{
+    return m_settings.Get(section, key, fallback);
+}
+
+int GalleryHost::GetConfigVal(const char* section, const char* key, int fallback)
+{
+    const CString value = m_settings.Get(section, key, "");
+    return value.IsEmpty() ? fallback : std::atoi(value);
+}
+
+void GalleryHost::SetConfigVal(const char* section, const char* key, const char* value)
+{
+    m_settings.Set(section, key, value);
+}
+
+void GalleryHost::SetConfigVal(const char* section, const char* key, int value)
+{
+    CString text;
+    text.Format("%d", value);
+    m_settings.Set(section, key, text);
+}
 
 bool GalleryHost::GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, int& height)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ScreenKeyboard.h"
+#include "Settings.h"
 
 #include <AppAccess.h>
 #include <EFB.h>
@@ -36,7 +37,17 @@ public:
     // owned, and taken back before it is destroyed.
     void SetWindow(const CWnd* window) { m_window = window; }
 
+    // Where the configuration values come from and go to; before, there are none.
+    void KeepSettingsIn(const CString& file) { m_settings.KeepIn(file); }
+    // The display mode that the user left the gallery in.
+    APPMODE KeptMode();
+    void KeepMode(APPMODE mode);
+
     const char* GetProviderName() override { return "Gallery"; }
+    CString GetConfigVal(const char* section, const char* key, const char* fallback) override;
+    int GetConfigVal(const char* section, const char* key, int fallback) override;
+    void SetConfigVal(const char* section, const char* key, const char* value) override;
+    void SetConfigVal(const char* section, const char* key, int value) override;
     bool GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, int& height) override;
     IEFB* GetEFB() override { return &m_efb; }
     void GetProductName(CString& name) override;
@@ -47,6 +58,7 @@ public:
 private:
     const CWnd* m_window = nullptr;
     GalleryEfb m_efb;
+    Settings m_settings;
     // Filled when first asked for.
     mutable MappedImageList m_icons;
     mutable MappedImageList m_largeIcons;

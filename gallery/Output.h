@@ -2,6 +2,7 @@
 
 #include <afxwin.h>
 
-// Writes one line to the standard output. False when nothing is connected to it: a windowed program
-// has one only if whoever started it gave it one.
+// Each writes a line, to the standard output and to the standard error output. False when there is
+// none: a windowed program has one only if whoever started it gave it one, or has a console.
 bool PrintLine(const CString& line);
+bool PrintProblem(const CString& line);

@@ -7,12 +7,16 @@
 
 namespace {
 
-constexpr UINT StandardRow = 20; // pixels
-constexpr UINT OnBoardRow = 52;
+// At 96 dots per inch. On-board a row is as high as the bar beside it is wide: 13.8 mm, so that a
+// finger hits the row that it is meant for, wherever in the row it comes down.
+constexpr int StandardRow = 20;
+constexpr int OnBoardRow = 52;
 
 UINT RowHeight()
 {
-    return look::Dark() ? OnBoardRow : StandardRow;
+    const CClientDC screen(nullptr);
+    return UINT(
+        ::MulDiv(look::Dark() ? OnBoardRow : StandardRow, screen.GetDeviceCaps(LOGPIXELSY), 96));
 }
 
 } // namespace
@@ -46,6 +50,18 @@ void PageList::FollowMode(APPMODE newMode, APPMODE oldMode)
     change.parent = ::GetParent(*this);
     change.mode = newMode;
     ModifyChildsForAppMode(*this, reinterpret_cast<LPARAM>(&change));
+}
+
+void PageList::Show(int row)
+{
+    SetCurSel(row);
+    CRect area;
+    CRect place;
+    GetClientRect(&area);
+    if (GetItemRect(row, &place) != LB_ERR && place.bottom > area.bottom)
+    {
+        SetTopIndex(GetTopIndex() + 1);
+    }
 }
 
 void PageList::MeasureItem(LPMEASUREITEMSTRUCT measure)

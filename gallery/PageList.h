@@ -14,6 +14,9 @@ public:
     // that the library knows, so its owner calls this after a change of the mode.
     void FollowMode(APPMODE newMode, APPMODE oldMode);
 
+    // Selects a row and brings all of it in sight.
+    void Show(int row);
+
     void MeasureItem(LPMEASUREITEMSTRUCT measure) override;
     void DrawItem(LPDRAWITEMSTRUCT draw) override;
 };

@@ -14,6 +14,10 @@
 #include "SearchBarPage.h"
 #include "ToolbarPage.h"
 #include "TreesPage.h"
+#include "WelcomePage.h"
+#include "resource.h"
+
+#include <iterator>
 
 namespace {
 
@@ -22,28 +26,47 @@ template <class Page> std::unique_ptr<GalleryPage> Make(IAppAccess& host, Galler
     return std::make_unique<Page>(host, events);
 }
 
+constexpr const char* Lists = "Lists, combos and trees";
+constexpr const char* Fields = "Buttons, labels and edits";
+constexpr const char* Pictures = "Pictures";
+constexpr const char* Windows = "Windows and bars";
+
 // clang-format off
 constexpr PageEntry AllPages[] = {
-    {"list-boxes", "List boxes", &Make<ListBoxPage>},
-    {"checklist", "Check lists", &Make<CheckListPage>},
-    {"combos", "Combos", &Make<CombosPage>},
-    {"reportlist", "Report list", &Make<ReportListPage>},
-    {"trees", "Trees", &Make<TreesPage>},
-    {"buttons", "Buttons", &Make<ButtonsPage>},
-    {"labels", "Labels", &Make<LabelsPage>},
-    {"edits", "Edits", &Make<EditsPage>},
-    {"dialogs", "Dialogs", &Make<DialogsPage>},
-    {"messagebox", "Message boxes", &Make<MessageBoxPage>},
-    {"searchbar", "Search bar", &Make<SearchBarPage>},
-    {"toolbar", "Tool bar", &Make<ToolbarPage>},
-    {"icons", "Icons", &Make<IconsPage>},
-    {"polygon", "View polygon", &Make<PolygonPage>},
+    {"start", "Start", "", &Make<WelcomePage>},
+    {"list-boxes", "List boxes", Lists, &Make<ListBoxPage>},
+    {"checklist", "Check lists", Lists, &Make<CheckListPage>},
+    {"combos", "Combos", Lists, &Make<CombosPage>},
+    {"reportlist", "Report list", Lists, &Make<ReportListPage>},
+    {"trees", "Trees", Lists, &Make<TreesPage>},
+    {"buttons", "Buttons", Fields, &Make<ButtonsPage>},
+    {"labels", "Labels", Fields, &Make<LabelsPage>},
+    {"edits", "Edits", Fields, &Make<EditsPage>},
+    {"icons", "Icons", Pictures, &Make<IconsPage>},
+    {"polygon", "View polygon", Pictures, &Make<PolygonPage>},
+    {"dialogs", "Dialogs", Windows, &Make<DialogsPage>},
+    {"messagebox", "Messages", Windows, &Make<MessageBoxPage>},
+    {"searchbar", "Search bar", Windows, &Make<SearchBarPage>},
+    {"toolbar", "Tool bar", Windows, &Make<ToolbarPage>},
 };
 // clang-format on
+static_assert(std::size(AllPages) <= ID_PAGE_LAST - ID_PAGE_FIRST + 1);
 
 } // namespace
 
 std::span<const PageEntry> Pages()
 {
     return AllPages;
+}
+
+std::optional<size_t> PageNamed(LPCSTR name)
+{
+    for (size_t index = 0; index < std::size(AllPages); ++index)
+    {
+        if (::lstrcmpi(AllPages[index].name, name) == 0)
+        {
+            return index;
+        }
+    }
+    return std::nullopt;
 }

@@ -1,6 +1,7 @@
 #include "Pictures.h"
 
 #include "Output.h"
+#include "Pages.h"
 
 #include <gdiplus.h>
 

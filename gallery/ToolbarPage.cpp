@@ -113,6 +113,14 @@ void ToolbarPage::OnLaidOut()
     const MappedImageList& pictures = look::Dark() ? m_largePictures : m_pictures;
     const int size = look::Dark() ? LargePictureSize : PictureSize;
     m_bar.SendMessage(TB_SETIMAGELIST, 0, LPARAM(pictures.GetSafeHandle()));
+    // What the bar draws its separators with.
+    COLORSCHEME colors = {sizeof(colors), CLR_DEFAULT, CLR_DEFAULT};
+    if (look::Dark())
+    {
+        colors.clrBtnHighlight = look::DarkOutline;
+        colors.clrBtnShadow = look::DarkPressed;
+    }
+    m_bar.SendMessage(TB_SETCOLORSCHEME, 0, LPARAM(&colors));
     m_bar.SetSizes(CSize(size + ButtonRoom, size + ButtonRoom), CSize(size, size));
 }
 

@@ -308,7 +308,10 @@ void TreesPage::WriteTold()
     }
     m_told.SetTopIndex(m_told.GetCount() - 1);
     m_told.Invalidate();
-    Events().ParentWasTold(row);
+    if (IsWindowVisible())
+    {
+        Events().ParentWasTold(row);
+    }
 }
 
 LRESULT TreesPage::OnWriteTold(WPARAM, LPARAM)

@@ -13,7 +13,8 @@
 // The frame's own windows.
 #define IDC_MODE_SWITCHES 200
 #define IDC_PAGE_LIST 201
-#define IDC_PAGE 202
+#define IDC_WINDOW_SWITCHES 202
+#define IDC_PAGE 210
 
 // Controls of the dialogs.
 #define IDC_FLIGHT_CALLSIGN 301
@@ -40,6 +41,11 @@
 #define IDB_SORT_ASCENDING 10017
 #define IDB_SORT_DESCENDING 10018
 
-// One command for each display mode, in the order of their values.
+// One command for each display mode, in the order of their values, one for each page, in the order
+// of the list, and those of the window itself.
 #define ID_MODE_FIRST 40000
 #define ID_MODE_LAST 40004
+#define ID_PAGE_FIRST 40010
+#define ID_PAGE_LAST 40059
+#define ID_WINDOW_MINIMIZE 40060
+#define ID_WINDOW_CLOSE 40061

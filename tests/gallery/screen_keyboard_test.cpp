@@ -1,74 +1,9 @@
 // The gallery as a user has it: its own program, worked by the pointer.
 
+#include "gallery/RunningGallery.h"
 #include "support/WindowTest.h"
 
-#include <string>
-
 namespace {
-
-// The gallery's program, from beside the tests'. Ended with the object.
-class RunningGallery
-{
-public:
-    explicit RunningGallery(const char* arguments)
-    {
-        char own[MAX_PATH] = "";
-        ::GetModuleFileName(nullptr, own, MAX_PATH);
-        std::string command(own);
-        command = '"' + command.substr(0, command.find_last_of('\\') + 1) + "gallery.exe\" ";
-        command += arguments;
-        STARTUPINFO start = {};
-        start.cb = sizeof(start);
-        PROCESS_INFORMATION made = {};
-        if (::CreateProcess(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                            &start, &made))
-        {
-            m_process = made.hProcess;
-            m_id = made.dwProcessId;
-            ::CloseHandle(made.hThread);
-        }
-    }
-    RunningGallery(const RunningGallery&) = delete;
-    RunningGallery& operator=(const RunningGallery&) = delete;
-    ~RunningGallery()
-    {
-        ::TerminateProcess(m_process, 0);
-        ::WaitForSingleObject(m_process, 5000);
-        ::CloseHandle(m_process);
-    }
-
-    // Its first visible top-level window with that text, once there is one.
-    HWND Window(const char* title) const
-    {
-        HWND found = nullptr;
-        PumpUntil(
-            [&] {
-                while ((found = ::FindWindowEx(nullptr, found, nullptr, title)) != nullptr)
-                {
-                    DWORD process = 0;
-                    ::GetWindowThreadProcessId(found, &process);
-                    if (process == m_id && ::IsWindowVisible(found))
-                    {
-                        return true;
-                    }
-                }
-                return false;
-            },
-            20000);
-        return found;
-    }
-
-private:
-    HANDLE m_process = nullptr;
-    DWORD m_id = 0;
-};
-
-CRect PlaceOf(HWND window)
-{
-    CRect place;
-    ::GetWindowRect(window, &place);
-    return place;
-}
 
 // The edit of the first line of the page.
 HWND FirstEdit(HWND frame)

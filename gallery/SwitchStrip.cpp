@@ -1,4 +1,4 @@
-#include "ModeSwitches.h"
+#include "SwitchStrip.h"
 
 #include "Look.h"
 #include "resource.h"
@@ -11,8 +11,17 @@
 
 namespace {
 
-constexpr int SwitchCount = int(std::size(APPMODE_NAMES));
-static_assert(ID_MODE_LAST - ID_MODE_FIRST + 1 == SwitchCount);
+constexpr SwitchStrip::Switch Modes[] = {
+    {APPMODE_NAMES[STD], ID_MODE_FIRST + STD},
+    {APPMODE_NAMES[FULLSCREEN], ID_MODE_FIRST + FULLSCREEN},
+    {APPMODE_NAMES[ONBOARD], ID_MODE_FIRST + ONBOARD},
+    {APPMODE_NAMES[EFB], ID_MODE_FIRST + EFB},
+    {APPMODE_NAMES[EFBFS], ID_MODE_FIRST + EFBFS},
+};
+static_assert(std::size(Modes) == std::size(APPMODE_NAMES));
+
+constexpr SwitchStrip::Switch WindowCommands[] = {{"Minimise", ID_WINDOW_MINIMIZE},
+                                                  {"Close", ID_WINDOW_CLOSE}};
 
 void DrawStandardFace(CDC& dc, CRect face, bool active, bool down)
 {
@@ -51,7 +60,7 @@ void DrawDarkFace(CDC& dc, CRect face, bool active, bool down)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(ModeSwitches, CWnd)
+BEGIN_MESSAGE_MAP(SwitchStrip, CWnd)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
@@ -65,55 +74,57 @@ BEGIN_MESSAGE_MAP(ModeSwitches, CWnd)
     ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
 
-BOOL ModeSwitches::Create(CWnd& parent, UINT id)
+BOOL SwitchStrip::Create(CWnd& parent, UINT id, const char* name, std::span<const Switch> switches,
+                         DWORD style)
 {
+    m_switches = switches;
     // Without the double-click style, so that fast taps are all taps.
-    return Create(AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW)), "Display mode",
-                  WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(0, 0, 0, 0), &parent, id);
+    return Create(AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW)), name,
+                  WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 0, 0), &parent, id);
 }
 
-void ModeSwitches::Tap(APPMODE mode)
+void SwitchStrip::Tap(int index)
 {
-    const CPoint point = SwitchRect(mode).CenterPoint();
+    const CPoint point = SwitchRect(index).CenterPoint();
     SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
     SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
 }
 
-CRect ModeSwitches::SwitchRect(int mode) const
+CRect SwitchStrip::SwitchRect(int index) const
 {
     CRect area;
     GetClientRect(&area);
     const int gap = look::Dark() ? 8 : 4;
-    const auto left = [&](int index) { return index * (area.Width() + gap) / SwitchCount; };
-    return CRect(left(mode), area.top, left(mode + 1) - gap, area.bottom);
+    const auto left = [&](int each) { return each * (area.Width() + gap) / Count(); };
+    return CRect(left(index), area.top, left(index + 1) - gap, area.bottom);
 }
 
-int ModeSwitches::SwitchAt(CPoint point) const
+int SwitchStrip::SwitchAt(CPoint point) const
 {
-    for (int mode = 0; mode < SwitchCount; ++mode)
+    for (int index = 0; index < Count(); ++index)
     {
-        if (SwitchRect(mode).PtInRect(point))
+        if (SwitchRect(index).PtInRect(point))
         {
-            return mode;
+            return index;
         }
     }
     return None;
 }
 
-void ModeSwitches::OnPaint()
+void SwitchStrip::OnPaint()
 {
     BufferedPaint paint(*this);
-    for (int mode = 0; mode < SwitchCount; ++mode)
+    for (int index = 0; index < Count(); ++index)
     {
-        DrawSwitch(paint.Context(), mode);
+        DrawSwitch(paint.Context(), index);
     }
 }
 
-void ModeSwitches::DrawSwitch(CDC& dc, int mode) const
+void SwitchStrip::DrawSwitch(CDC& dc, int index) const
 {
-    const bool active = mode == COnBoardUIGeneral::GetAppMode();
-    const bool down = mode == m_pressed && m_inside;
-    CRect face = SwitchRect(mode);
+    const bool active = index == Active();
+    const bool down = index == m_pressed && m_inside;
+    CRect face = SwitchRect(index);
     if (look::Dark())
     {
         DrawDarkFace(dc, face, active, down);
@@ -129,27 +140,28 @@ void ModeSwitches::DrawSwitch(CDC& dc, int mode) const
     {
         text.OffsetRect(1, 1);
     }
-    dc.DrawText(APPMODE_NAMES[mode], &text, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
-    if (mode == m_focused && ::GetFocus() == m_hWnd)
+    dc.DrawText(m_switches[size_t(index)].caption, &text, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+    if (index == m_focused && ::GetFocus() == m_hWnd)
     {
         face.DeflateRect(5, 5);
         dc.DrawFocusRect(&face);
     }
 }
 
-void ModeSwitches::Choose(int mode)
+void SwitchStrip::Choose(int index)
 {
-    m_focused = mode;
-    ::SendMessage(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(ID_MODE_FIRST + mode, 0), 0);
+    m_focused = index;
+    const UINT command = m_switches[size_t(index)].command;
+    ::SendMessage(::GetParent(m_hWnd), WM_COMMAND, MAKEWPARAM(command, 0), 0);
 }
 
-void ModeSwitches::OnSize(UINT type, int width, int height)
+void SwitchStrip::OnSize(UINT type, int width, int height)
 {
     CWnd::OnSize(type, width, height);
     Invalidate(FALSE);
 }
 
-void ModeSwitches::OnLButtonDown(UINT, CPoint point)
+void SwitchStrip::OnLButtonDown(UINT, CPoint point)
 {
     // The focus stays where it is, so that switching the mode takes nothing from the page.
     m_pressed = SwitchAt(point);
@@ -161,7 +173,7 @@ void ModeSwitches::OnLButtonDown(UINT, CPoint point)
     }
 }
 
-void ModeSwitches::OnLButtonUp(UINT, CPoint point)
+void SwitchStrip::OnLButtonUp(UINT, CPoint point)
 {
     const int pressed = m_pressed;
     if (pressed == None)
@@ -175,7 +187,7 @@ void ModeSwitches::OnLButtonUp(UINT, CPoint point)
     }
 }
 
-void ModeSwitches::OnMouseMove(UINT, CPoint point)
+void SwitchStrip::OnMouseMove(UINT, CPoint point)
 {
     if (m_pressed != None && m_inside != (SwitchAt(point) == m_pressed))
     {
@@ -184,14 +196,14 @@ void ModeSwitches::OnMouseMove(UINT, CPoint point)
     }
 }
 
-void ModeSwitches::OnCaptureChanged(CWnd*)
+void SwitchStrip::OnCaptureChanged(CWnd*)
 {
     m_pressed = None;
     m_inside = false;
     Invalidate(FALSE);
 }
 
-void ModeSwitches::OnKeyDown(UINT key, UINT repeat, UINT flags)
+void SwitchStrip::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
     switch (key)
     {
@@ -201,7 +213,7 @@ void ModeSwitches::OnKeyDown(UINT key, UINT repeat, UINT flags)
         break;
     case VK_RIGHT:
     case VK_DOWN:
-        m_focused = std::min(m_focused + 1, SwitchCount - 1);
+        m_focused = std::min(m_focused + 1, Count() - 1);
         break;
     case VK_SPACE:
         Choose(m_focused);
@@ -213,13 +225,28 @@ void ModeSwitches::OnKeyDown(UINT key, UINT repeat, UINT flags)
     Invalidate(FALSE);
 }
 
-void ModeSwitches::OnSetFocus(CWnd*)
+void SwitchStrip::OnSetFocus(CWnd*)
 {
-    m_focused = COnBoardUIGeneral::GetAppMode();
+    m_focused = std::max(Active(), 0);
     Invalidate(FALSE);
 }
 
-void ModeSwitches::OnKillFocus(CWnd*)
+void SwitchStrip::OnKillFocus(CWnd*)
 {
     Invalidate(FALSE);
+}
+
+BOOL ModeSwitches::Create(CWnd& parent, UINT id)
+{
+    return Create(parent, id, "Display mode", Modes, WS_TABSTOP);
+}
+
+int ModeSwitches::Active() const
+{
+    return COnBoardUIGeneral::GetAppMode();
+}
+
+BOOL WindowSwitches::Create(CWnd& parent, UINT id)
+{
+    return Create(parent, id, "Window", WindowCommands, 0);
 }
