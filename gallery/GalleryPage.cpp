@@ -7,12 +7,19 @@
 
 #include <OnBoardUIGeneral.h>
 
+#include <algorithm>
+
 namespace {
 
-// A length that grows with the page once the page is larger than its design.
-int Spread(int length, int available, int designed)
+// The least share of its design that a page's content shrinks to.
+constexpr int LeastShare = 75; // percent
+
+// A length of the content in a page that is larger or smaller than its design.
+int Fitted(int length, int available, int designed, bool grows)
 {
-    return available > designed ? ::MulDiv(length, available, designed) : length;
+    const int least = ::MulDiv(designed, LeastShare, 100);
+    const int most = grows ? std::max(available, designed) : designed;
+    return ::MulDiv(length, std::clamp(available, least, most), designed);
 }
 
 } // namespace
@@ -82,18 +89,13 @@ void GalleryPage::FollowMode()
 
 CRect GalleryPage::InPage(const CRect& design) const
 {
-    const CRect rect = RectInMode(design);
-    if (!FillsPage())
-    {
-        return rect;
-    }
     CRect page;
     GetClientRect(&page);
+    const CRect rect = RectInMode(design);
     const CSize designed = SizeInMode();
-    return CRect(Spread(rect.left, page.Width(), designed.cx),
-                 Spread(rect.top, page.Height(), designed.cy),
-                 Spread(rect.right, page.Width(), designed.cx),
-                 Spread(rect.bottom, page.Height(), designed.cy));
+    const auto across = [&](int x) { return Fitted(x, page.Width(), designed.cx, FillsPage()); };
+    const auto down = [&](int y) { return Fitted(y, page.Height(), designed.cy, FillsPage()); };
+    return CRect(across(rect.left), down(rect.top), across(rect.right), down(rect.bottom));
 }
 
 CCustomStatic& GalleryPage::MakeLabel(const char* text)
@@ -148,10 +150,7 @@ void GalleryPage::Place(CWnd& control, const CRect& design, CWnd* caption)
 void GalleryPage::OnSize(UINT type, int width, int height)
 {
     CCustomDialog::OnSize(type, width, height);
-    if (FillsPage())
-    {
-        FollowMode();
-    }
+    FollowMode();
 }
 
 BOOL GalleryPage::OnEraseBkgnd(CDC* dc)

@@ -61,7 +61,8 @@ public:
 protected:
     // Makes the controls, with the helpers below.
     virtual void CreateContent() = 0;
-    // Whether the content spreads over a page that is larger than its design.
+    // Whether the content spreads over a page that is larger than its design. In one that is
+    // smaller, on a small screen, the content of every page shrinks.
     virtual bool FillsPage() const { return false; }
     // After the content was laid out, for what depends on the mode's fonts.
     virtual void OnLaidOut() {}

@@ -43,7 +43,7 @@ constexpr PageEntry AllPages[] = {
     {"labels", "Labels", Fields, &Make<LabelsPage>},
     {"edits", "Edits", Fields, &Make<EditsPage>},
     {"icons", "Icons", Pictures, &Make<IconsPage>},
-    {"polygon", "View polygon", Pictures, &Make<PolygonPage>},
+    {"polygon", "Polygon", Pictures, &Make<PolygonPage>},
     {"dialogs", "Dialogs", Windows, &Make<DialogsPage>},
     {"messagebox", "Messages", Windows, &Make<MessageBoxPage>},
     {"searchbar", "Search bar", Windows, &Make<SearchBarPage>},
