@@ -15,7 +15,7 @@
 
 namespace {
 
-// Measures of the frame, in pixels.
+// Measures of the window, in pixels at 96 dots per inch.
 struct Measures
 {
     int margin;
@@ -23,21 +23,23 @@ struct Measures
     int list;     // width
     int gap;      // between the list and the page
     int line;     // height
+    int caption;  // height; that of a frame of its own
+    int window;   // width of the switches in it
 };
-constexpr Measures Standard = {8, 32, 150, 12, 24};
-constexpr Measures OnBoard = {12, 60, 236, 24, 44};
+constexpr Measures Standard = {8, 32, 150, 12, 24, 0, 0};
+constexpr Measures OnBoard = {12, 60, 236, 24, 44, 60, 272};
 
-const Measures& CurrentMeasures()
+Measures CurrentMeasures()
 {
-    return look::Dark() ? OnBoard : Standard;
+    const Measures& m = look::Dark() ? OnBoard : Standard;
+    return {look::Scaled(m.margin), look::Scaled(m.switches), look::Scaled(m.list),
+            look::Scaled(m.gap),    look::Scaled(m.line),     look::Scaled(m.caption),
+            look::Scaled(m.window)};
 }
 
 // The dark frame: a line round the window and a caption that a finger can hold.
 constexpr int Border = 3;
-constexpr int CaptionHeight = 60;
 constexpr int CaptionInset = 4; // of the switches in it
-constexpr int SwitchesWidth = 272;
-constexpr int GripWidth = 12; // what takes hold of an edge
 
 bool OwnFrame()
 {
@@ -194,13 +196,13 @@ void GalleryFrame::SwitchMode(APPMODE mode)
 
 CRect GalleryFrame::InitialPlace() const
 {
-    const Measures& m = CurrentMeasures();
+    const Measures m = CurrentMeasures();
     const CSize page = GalleryPage::SizeInMode();
     CRect rect(0, 0, 2 * m.margin + m.list + m.gap + page.cx,
                3 * m.margin + m.switches + page.cy + m.line);
     if (OwnFrame())
     {
-        rect.InflateRect(Border, Border + CaptionHeight / 2);
+        rect.InflateRect(Border, Border + m.caption / 2);
     }
     else
     {
@@ -244,17 +246,17 @@ void GalleryFrame::TakePlace(APPMODE newMode, APPMODE oldMode)
 
 GalleryFrame::Layout GalleryFrame::CurrentLayout() const
 {
-    const Measures& m = CurrentMeasures();
+    const Measures m = CurrentMeasures();
     CRect area;
     GetClientRect(&area);
     Layout layout;
     if (OwnFrame())
     {
         area.DeflateRect(Border, Border);
-        layout.caption = CRect(area.left, area.top, area.right, area.top + CaptionHeight);
+        layout.caption = CRect(area.left, area.top, area.right, area.top + m.caption);
         layout.window = layout.caption;
         layout.window.DeflateRect(CaptionInset, CaptionInset);
-        layout.window.left = layout.window.right - SwitchesWidth;
+        layout.window.left = layout.window.right - m.window;
         area.top = layout.caption.bottom;
     }
     layout.line = CRect(area.left, area.bottom - m.line, area.right, area.bottom);
@@ -327,7 +329,7 @@ void GalleryFrame::DrawFrame(CDC& dc, const CRect& caption) const
     dc.FillSolidRect(&caption, look::DarkPressed);
     CRect text = caption;
     text.DeflateRect(CurrentMeasures().margin, 0);
-    text.right -= SwitchesWidth;
+    text.right -= CurrentMeasures().window;
     CString title;
     GetWindowText(title);
     const FontInUse font(dc, look::BoldFont());
@@ -357,8 +359,8 @@ LRESULT GalleryFrame::OnNcHitTest(CPoint point)
     CRect area;
     GetClientRect(&area);
     ScreenToClient(&point);
-    const auto along = [](LONG place, LONG end) {
-        return place < GripWidth ? 0 : place >= end - GripWidth ? 2 : 1;
+    const auto along = [grip = CurrentMeasures().margin](LONG place, LONG end) {
+        return place < grip ? 0 : place >= end - grip ? 2 : 1;
     };
     const LRESULT edge = Edges[along(point.y, area.bottom)][along(point.x, area.right)];
     return edge == HTCLIENT && CurrentLayout().caption.PtInRect(point) ? HTCAPTION : edge;

@@ -40,7 +40,7 @@ GalleryPage::GalleryPage(IAppAccess& host, GalleryEvents& events)
 
 CSize GalleryPage::SizeInMode()
 {
-    return CSize(AcrossInMode(grid::Width), DownInMode(grid::Height));
+    return CSize(AcrossInMode(look::Scaled(grid::Width)), DownInMode(look::Scaled(grid::Height)));
 }
 
 BOOL GalleryPage::Open(CWnd& parent, UINT id)
@@ -67,15 +67,16 @@ void GalleryPage::FollowMode()
     // on-board modes narrow them each time, so places are taken from the design: the same whichever
     // way the mode was reached.
     {
+        const int caption = DownInMode(look::Scaled(grid::Caption));
+        const int captionStep = DownInMode(look::Scaled(grid::CaptionStep));
         WindowMoves moves;
         for (const Placed& placed : m_placed)
         {
             CRect rect = InPage(placed.design);
             if (placed.caption != nullptr)
             {
-                moves.Add(*placed.caption,
-                          CRect(rect.TopLeft(), CSize(rect.Width(), DownInMode(grid::Caption))));
-                rect.top += DownInMode(grid::CaptionStep);
+                moves.Add(*placed.caption, CRect(rect.TopLeft(), CSize(rect.Width(), caption)));
+                rect.top += captionStep;
             }
             moves.Add(*placed.control, rect);
         }
@@ -91,7 +92,7 @@ CRect GalleryPage::InPage(const CRect& design) const
 {
     CRect page;
     GetClientRect(&page);
-    const CRect rect = RectInMode(design);
+    const CRect rect = RectInMode(look::Scaled(design));
     const CSize designed = SizeInMode();
     const auto across = [&](int x) { return Fitted(x, page.Width(), designed.cx, FillsPage()); };
     const auto down = [&](int y) { return Fitted(y, page.Height(), designed.cy, FillsPage()); };

@@ -22,7 +22,8 @@ protected:
 };
 
 // A page of the gallery: a dialog of the library used as a child window. It declares its content
-// once, in pixels of the standard mode, and follows the display mode from there.
+// once, in pixels of the standard mode at 96 dots per inch, and follows screen and display mode
+// from there.
 class GalleryPage : public CCustomDialog
 {
 public:

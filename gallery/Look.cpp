@@ -38,6 +38,18 @@ bool Dark()
     return COnBoardUIGeneral::InOnBoardMode();
 }
 
+int Scaled(int pixels)
+{
+    // The same for the life of the process.
+    static const int dotsPerInch = CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY);
+    return ::MulDiv(pixels, dotsPerInch, 96);
+}
+
+CRect Scaled(const CRect& rect)
+{
+    return CRect(Scaled(rect.left), Scaled(rect.top), Scaled(rect.right), Scaled(rect.bottom));
+}
+
 COLORREF Ground()
 {
     return Dark() ? DarkGround : ::GetSysColor(COLOR_BTNFACE);

@@ -10,6 +10,10 @@ namespace look {
 // Whether the dark, large look applies.
 bool Dark();
 
+// What is so many pixels at 96 dots per inch, on this screen.
+int Scaled(int pixels);
+CRect Scaled(const CRect& rect);
+
 COLORREF Ground();
 COLORREF Text();
 

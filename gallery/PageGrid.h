@@ -1,6 +1,7 @@
 #pragma once
 
-// The grid that the pages are laid out on, in pixels of the standard mode. On-board it grows with
+// The grid that the pages are laid out on, in pixels of the standard mode at 96 dots
+// per inch. On-board it grows with
 // the mode's scale, so that what is PushHeight high here is some 50 pixels there: a finger's.
 
 #include <afxwin.h>

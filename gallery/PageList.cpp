@@ -14,9 +14,7 @@ constexpr int OnBoardRow = 52;
 
 UINT RowHeight()
 {
-    const CClientDC screen(nullptr);
-    return UINT(
-        ::MulDiv(look::Dark() ? OnBoardRow : StandardRow, screen.GetDeviceCaps(LOGPIXELSY), 96));
+    return UINT(look::Scaled(look::Dark() ? OnBoardRow : StandardRow));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ReportListPage.h"
 
+#include "Look.h"
 #include "resource.h"
 
 namespace {
@@ -83,7 +84,7 @@ void ReportListPage::CreateContent()
     for (int column = 0; column < legs::ColumnCount; ++column)
     {
         const legs::Column& data = legs::Columns[column];
-        m_lists[Flights].InsertColumn(column, data.heading, data.format, data.width);
+        m_lists[Flights].InsertColumn(column, data.heading, data.format, look::Scaled(data.width));
     }
     m_lists[Flights].SetMinColWidth(LeastWidth);
     FillFlights();
@@ -92,19 +93,19 @@ void ReportListPage::CreateContent()
     AddSwitch(FullRowSwitch, m_switches[1]);
 
     AddReport(Empty, LVS_SINGLESEL);
-    m_lists[Empty].InsertColumn(0, "Flight", LVCFMT_LEFT, 60);
-    m_lists[Empty].InsertColumn(1, "Remark", LVCFMT_LEFT, 60);
+    m_lists[Empty].InsertColumn(0, "Flight", LVCFMT_LEFT, look::Scaled(60));
+    m_lists[Empty].InsertColumn(1, "Remark", LVCFMT_LEFT, look::Scaled(60));
 
     AddReport(Airports, LVS_SINGLESEL);
-    m_lists[Airports].InsertColumn(0, "Airport", LVCFMT_LEFT, 100);
+    m_lists[Airports].InsertColumn(0, "Airport", LVCFMT_LEFT, look::Scaled(100));
     for (const char* airport : AirportNames)
     {
         m_lists[Airports].InsertItem(m_lists[Airports].GetItemCount(), airport);
     }
 
     AddReport(Million, LVS_OWNERDATA | LVS_SINGLESEL);
-    m_lists[Million].InsertColumn(0, "Flight", LVCFMT_LEFT, 56);
-    m_lists[Million].InsertColumn(1, "Fuel", LVCFMT_LEFT, 50);
+    m_lists[Million].InsertColumn(0, "Flight", LVCFMT_LEFT, look::Scaled(56));
+    m_lists[Million].InsertColumn(1, "Fuel", LVCFMT_LEFT, look::Scaled(50));
     m_lists[Million].SetItemCountEx(OwnedRows);
     ApplySwitches();
 }

@@ -20,7 +20,7 @@ constexpr int Units = 22; // a row's width; a key of one letter has two
 constexpr int Rows = 5;
 constexpr int Gap = 6; // pixels between keys
 constexpr int Margin = 10;
-constexpr int Height = 290;
+constexpr int StandardHeight = 290; // at 96 dots per inch
 
 struct KeyFace
 {
@@ -100,11 +100,12 @@ void ScreenKeyboard::ShowFor(HWND target, CWnd& owner, const CRect& area)
     }
     m_target = target;
     m_shift = false;
-    CRect place(area.left, area.bottom - Height, area.right, area.bottom);
+    const int height = look::Scaled(StandardHeight);
+    CRect place(area.left, area.bottom - height, area.right, area.bottom);
     CRect covered;
     CRect typed;
     ::GetWindowRect(target, &typed);
-    if (covered.IntersectRect(place, typed) && typed.top - area.top > Height)
+    if (covered.IntersectRect(place, typed) && typed.top - area.top > height)
     {
         place.OffsetRect(0, area.top - place.top);
     }

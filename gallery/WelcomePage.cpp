@@ -112,7 +112,7 @@ void WelcomePage::OnLaidOut()
         CCustomPushbutton& button = *m_buttons[size_t(mode)];
         CRect place;
         button.GetWindowRect(&place);
-        button.SetWindowPos(nullptr, 0, 0, place.Width(), DownInMode(ButtonHeight),
+        button.SetWindowPos(nullptr, 0, 0, place.Width(), DownInMode(look::Scaled(ButtonHeight)),
                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
 }
