@@ -15,8 +15,9 @@ class TemporaryFile
 public:
     TemporaryFile()
     {
-        ::GetTempPath(MAX_PATH, m_name);
-        ::GetTempFileName(m_name, "gal", 0, m_name);
+        char folder[MAX_PATH] = "";
+        ::GetTempPath(MAX_PATH, folder);
+        ::GetTempFileName(folder, "gal", 0, m_name);
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
@@ -74,8 +75,9 @@ TEST_F(GalleryTest, OpensPagesAndSwitchesModesFromItsStartPageAndKeepsTheMode)
         Click(PlaceOf(Shown(frame, "Flight bag\nfull screen")).CenterPoint());
         EXPECT_NE(Shown(frame, "Display mode: EFBFS"), nullptr);
         TypeKey(VK_TAB); // from the button that was tapped to the first tile
+        TypeKey(VK_RIGHT);
         TypeKey(VK_SPACE);
-        EXPECT_NE(Shown(frame, "Five hundred"), nullptr);
+        EXPECT_NE(Shown(frame, "Two states"), nullptr) << "the page of the second tile";
     }
     EXPECT_NE(Shown(RunningGallery(settings.Option()).Window(Title), "Display mode: EFBFS"),
               nullptr);
