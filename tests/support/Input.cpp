@@ -100,8 +100,11 @@ bool IsPressed()
 void Click(CPoint point)
 {
     MoveTo(point);
-    Press();
-    Release();
+    // Each with the place: another program's late word of where the pointer was may come between.
+    SendMouse(MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, point);
+    PumpAll();
+    SendMouse(MOUSEEVENTF_LEFTUP | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, point);
+    PumpAll();
 }
 
 void Wheel(int delta)
