@@ -1,7 +1,10 @@
 #pragma once
 
 #include "CustomListCtrl.h"
+#include "support/Bars.h"
 #include "support/Canvas.h"
+#include "support/OnBoard.h"
+#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <string>
@@ -18,6 +21,8 @@ struct HeaderAccess : CCustomListCtrlHdr
         return header.*(&HeaderAccess::m_pressedItem);
     }
 };
+
+constexpr DWORD ReportStyle = LVS_REPORT | LVS_SHOWSELALWAYS;
 
 // A report list that lets a test see its bars and paint by parts.
 class ListForTests : public CCustomListCtrl
@@ -37,15 +42,7 @@ public:
     using CCustomListCtrl::PerformHScroll;
     using CCustomListCtrl::PerformVScroll;
 
-    CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
-
-    int Maximum(int axis)
-    {
-        int minimum = 0;
-        int maximum = 0;
-        Bar(axis).GetScrollRange(&minimum, &maximum);
-        return maximum;
-    }
+    int Maximum(int axis) { return RangeOf(Bar(axis)).y; }
 
     void AddColumns(int count, int width = 60)
     {
@@ -91,14 +88,31 @@ public:
     // Screen point of a column's divider as drawn, in the header.
     CPoint DividerPoint(int column, int dx = 0) const
     {
-        CRect rect;
-        m_header.GetItemRect(column, &rect);
-        return ClientPoint(*this, CPoint(rect.right + m_drawOffset.x + dx, 8));
+        return ClientPoint(*this, CPoint(ColumnRect(column).right + m_drawOffset.x + dx, 8));
     }
 
     CPoint PartPoint(CFauxScrollBar::ePRESSED part, int axis = SB_VERT)
     {
-        return WindowPoint(*this, Bar(axis).GetPartArea(part).CenterPoint());
+        return ::PartPoint(*this, Bar(axis), part);
+    }
+
+    CRect ColumnRect(int column) const
+    {
+        CRect rect;
+        m_header.GetItemRect(column, &rect);
+        return rect;
+    }
+
+    // What the tests of all lists with bars of their own ask for.
+    static constexpr DWORD BothBarsStyle = ReportStyle;
+    static constexpr int SureWait = 200; // milliseconds without a repeat of a held arrow
+    CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
+    bool IsBarPressed() const { return m_pressed; }
+    int LastTopRow() { return Maximum(SB_VERT); }
+    void FillBothWays(int rows)
+    {
+        AddColumns(8);
+        Fill(rows);
     }
 
     std::set<int> Selected() const
@@ -125,8 +139,7 @@ public:
         {
             EXPECT_EQ(Maximum(SB_VERT), GetItemCount() - visible + 2) << when;
         }
-        CRect last;
-        m_header.GetItemRect(m_header.GetItemCount() - 1, &last);
+        const CRect last = ColumnRect(m_header.GetItemCount() - 1);
         const int width = ClientRectOf(*this).Width();
         EXPECT_EQ(m_hBar.ShowScrollBar() != 0, last.right > width) << when;
         if (m_hBar.ShowScrollBar())
@@ -136,15 +149,14 @@ public:
     }
 };
 
-constexpr DWORD ReportStyle = LVS_REPORT | LVS_SHOWSELALWAYS;
-
 class ListCtrlTest : public WindowTest
 {
 protected:
-    ListForTests& AddList(int rows, int columns = 3, DWORD style = ReportStyle,
-                          const CRect& place = CRect(20, 20, 420, 420))
+    template <class List = ListForTests>
+    List& AddList(int rows, int columns = 3, DWORD style = ReportStyle,
+                  const CRect& place = CRect(20, 20, 420, 420))
     {
-        auto& list = Add<ListForTests>(place, style);
+        auto& list = Add<List>(place, style);
         list.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED);
         list.AddColumns(columns);
         list.Fill(rows);
@@ -153,18 +165,4 @@ protected:
     }
 };
 
-class ListCtrlOnBoard : public ListCtrlTest
-{
-protected:
-    void SetUp() override
-    {
-        ListCtrlTest::SetUp();
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
-    }
-
-    void TearDown() override
-    {
-        COnBoardUIGeneral::SetAppMode(STD);
-        ListCtrlTest::TearDown();
-    }
-};
+using ListCtrlOnBoard = OnBoard<ListCtrlTest>;

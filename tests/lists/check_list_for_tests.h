@@ -2,6 +2,8 @@
 
 #include "CustomChecklistBox.h"
 #include "lists/CheckRecords.h"
+#include "support/OnBoard.h"
+#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <string>
@@ -32,13 +34,11 @@ public:
     }
 
     // Screen points on a row's check and on its text.
-    CPoint CheckPoint(int row) const
+    CPoint CheckPoint(int row) const { return RowPoint(row, 6); }
+    CPoint TextPoint(int row) const { return RowPoint(row, 90); }
+    CPoint RowPoint(int row, int x) const
     {
-        return ClientPoint(*this, CPoint(6, RowRect(row).CenterPoint().y));
-    }
-    CPoint TextPoint(int row) const
-    {
-        return ClientPoint(*this, CPoint(90, RowRect(row).CenterPoint().y));
+        return ClientPoint(*this, CPoint(x, RowRect(row).CenterPoint().y));
     }
 
     std::vector<int> Checks()
@@ -55,7 +55,10 @@ public:
 constexpr DWORD CheckListStyle =
     WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
 
-// Check lists in the standard mode.
+// Rows of a height of their own each.
+constexpr DWORD VariableCheckListStyle =
+    WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
+
 class CheckListTest : public WindowTest
 {
 protected:
@@ -70,26 +73,15 @@ protected:
         return list;
     }
 
-    // What a list has told of its checks since the last Forget.
+    std::vector<UINT> Codes(const CWnd& list)
+    {
+        return Host().CodesFrom(UINT(list.GetDlgCtrlID()));
+    }
+
+    // How many changes of a check a list has told since the last Forget.
     int Told(const CWnd& list)
     {
-        const std::vector<UINT> codes = Host().CodesFrom(UINT(list.GetDlgCtrlID()));
+        const std::vector<UINT> codes = Codes(list);
         return int(std::count(codes.begin(), codes.end(), UINT(CLBN_CHKCHANGE)));
-    }
-};
-
-class CheckListOnBoard : public CheckListTest
-{
-protected:
-    void SetUp() override
-    {
-        CheckListTest::SetUp();
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
-    }
-
-    void TearDown() override
-    {
-        COnBoardUIGeneral::SetAppMode(STD);
-        CheckListTest::TearDown();
     }
 };

@@ -53,31 +53,6 @@ VARIANT Child(long id)
     return child;
 }
 
-// What comes back as a number; -1 when it does not.
-long Number(HRESULT (STDMETHODCALLTYPE IAccessible::*question)(VARIANT, VARIANT*),
-            IAccessible& object, long child)
-{
-    VARIANT answer = {};
-    const HRESULT result = (object.*question)(Child(child), &answer);
-    return result == S_OK && answer.vt == VT_I4 ? answer.lVal : -1;
-}
-
-// What comes back as text; "(none)" when there is none, "(error)" when it fails.
-std::string Text(HRESULT (STDMETHODCALLTYPE IAccessible::*question)(VARIANT, BSTR*),
-                 IAccessible& object, long child)
-{
-    BSTR answer = nullptr;
-    const HRESULT result = (object.*question)(Child(child), &answer);
-    std::string text = FAILED(result) ? "(error)" : "(none)";
-    if (result == S_OK && answer != nullptr)
-    {
-        const std::wstring wide(answer);
-        text.assign(wide.begin(), wide.end());
-    }
-    ::SysFreeString(answer);
-    return text;
-}
-
 } // namespace
 
 class CheckListAccess : public CheckListTest
@@ -94,21 +69,44 @@ protected:
         ::CoUninitialize();
     }
 
+    // Answers as numbers; -1 where there is none.
     static long Role(const Held<IAccessible>& object, long child)
     {
-        return Number(&IAccessible::get_accRole, *object.operator->(), child);
+        VARIANT answer = {};
+        const HRESULT result = object->get_accRole(Child(child), &answer);
+        return result == S_OK && answer.vt == VT_I4 ? answer.lVal : -1;
     }
     static long State(const Held<IAccessible>& object, long child)
     {
-        return Number(&IAccessible::get_accState, *object.operator->(), child);
+        VARIANT answer = {};
+        const HRESULT result = object->get_accState(Child(child), &answer);
+        return result == S_OK && answer.vt == VT_I4 ? answer.lVal : -1;
     }
+    // Answers as texts; "(none)" where there is none, "(error)" where there cannot be one.
     static std::string Name(const Held<IAccessible>& object, long child)
     {
-        return Text(&IAccessible::get_accName, *object.operator->(), child);
+        BSTR answer = nullptr;
+        const HRESULT result = object->get_accName(Child(child), &answer);
+        return Text(result, answer);
     }
     static std::string Action(const Held<IAccessible>& object, long child)
     {
-        return Text(&IAccessible::get_accDefaultAction, *object.operator->(), child);
+        BSTR answer = nullptr;
+        const HRESULT result = object->get_accDefaultAction(Child(child), &answer);
+        return Text(result, answer);
+    }
+
+private:
+    static std::string Text(HRESULT result, BSTR answer)
+    {
+        std::string text = FAILED(result) ? "(error)" : "(none)";
+        if (result == S_OK && answer != nullptr)
+        {
+            const std::wstring wide(answer);
+            text.assign(wide.begin(), wide.end());
+        }
+        ::SysFreeString(answer);
+        return text;
     }
 };
 
@@ -178,9 +176,9 @@ TEST_F(CheckListAccess, TheDefaultActionChangesTheCheck)
     EXPECT_EQ(Told(list), 3);
 }
 
-TEST_F(CheckListAccess, PlacesFocusAndSelection)
+TEST_F(CheckListAccess, PlacesAndNeighbours)
 {
-    auto& list = AddList(8, BS_AUTOCHECKBOX, CheckListStyle | LBS_EXTENDEDSEL);
+    auto& list = AddList(8);
     const Held<IAccessible> object = Reached(list);
     ASSERT_TRUE(bool(object));
     long left = 0;
@@ -200,7 +198,14 @@ TEST_F(CheckListAccess, PlacesFocusAndSelection)
     EXPECT_EQ(object->accNavigate(NAVDIR_LASTCHILD, Child(CHILDID_SELF), &answer), S_OK);
     EXPECT_EQ(answer.lVal, 8);
     EXPECT_EQ(object->accNavigate(NAVDIR_NEXT, Child(8), &answer), S_FALSE);
+}
 
+TEST_F(CheckListAccess, FocusAndSelectionAreToldAndTaken)
+{
+    auto& list = AddList(8, BS_AUTOCHECKBOX, CheckListStyle | LBS_EXTENDEDSEL);
+    const Held<IAccessible> object = Reached(list);
+    ASSERT_TRUE(bool(object));
+    VARIANT answer = {};
     EXPECT_EQ(object->get_accFocus(&answer), S_FALSE);
     EXPECT_EQ(object->get_accSelection(&answer), S_FALSE);
     EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(5)), S_OK);
@@ -215,45 +220,39 @@ TEST_F(CheckListAccess, PlacesFocusAndSelection)
     ASSERT_EQ(answer.punkVal->QueryInterface(IID_IEnumVARIANT, reinterpret_cast<void**>(&found)),
               S_OK);
     const Held<IEnumVARIANT> rows(found);
+    answer.punkVal->Release();
     VARIANT ids[3] = {};
     ULONG given = 0;
     EXPECT_EQ(rows->Next(3, ids, &given), S_FALSE);
     ASSERT_EQ(given, 2U);
     EXPECT_EQ(ids[0].lVal, 5);
     EXPECT_EQ(ids[1].lVal, 7);
-    answer.punkVal->Release();
     // The parent is told what came of it, and what cannot be done is said.
-    EXPECT_EQ(Host().CodesFrom(FirstId),
-              (std::vector<UINT>{LBN_SETFOCUS, LBN_SELCHANGE, LBN_SELCHANGE}));
+    EXPECT_THAT(Codes(list), ElementsAre(LBN_SETFOCUS, LBN_SELCHANGE, LBN_SELCHANGE));
     for (const long flags : {long(SELFLAG_EXTENDSELECTION), 0x20L, -1L,
                              long(SELFLAG_ADDSELECTION | SELFLAG_REMOVESELECTION)})
     {
         EXPECT_EQ(object->accSelect(flags, Child(2)), E_INVALIDARG) << flags;
     }
-    auto& single = AddList(3);
-    EXPECT_EQ(Reached(single)->accSelect(SELFLAG_ADDSELECTION, Child(2)), E_INVALIDARG);
     EXPECT_EQ(list.GetSelCount(), 2);
-    EXPECT_EQ(Host().CodesFrom(FirstId).size(), 3U);
+    EXPECT_EQ(Codes(list).size(), 3U);
+    EXPECT_EQ(Reached(AddList(3))->accSelect(SELFLAG_ADDSELECTION, Child(2)), E_INVALIDARG);
 }
-
-namespace {
-
-std::vector<std::pair<LONG, LONG>> announced; // object and child of each event
-
-void CALLBACK OnStateChange(HWINEVENTHOOK, DWORD, HWND, LONG object, LONG child, DWORD, DWORD)
-{
-    announced.push_back({object, child});
-}
-
-} // namespace
 
 TEST_F(CheckListAccess, ChangesOfStateAreAnnounced)
 {
+    static std::vector<LONG> announced; // the child of each event
+    const WINEVENTPROC note = [](HWINEVENTHOOK, DWORD, HWND, LONG object, LONG child, DWORD,
+                                 DWORD) {
+        if (object == OBJID_CLIENT)
+        {
+            announced.push_back(child);
+        }
+    };
     auto& list = AddList(4);
-    announced.clear();
     const HWINEVENTHOOK hook = ::SetWinEventHook(
-        EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_STATECHANGE, ::GetModuleHandle(nullptr),
-        &OnStateChange, ::GetCurrentProcessId(), ::GetCurrentThreadId(), WINEVENT_INCONTEXT);
+        EVENT_OBJECT_STATECHANGE, EVENT_OBJECT_STATECHANGE, ::GetModuleHandle(nullptr), note,
+        ::GetCurrentProcessId(), ::GetCurrentThreadId(), WINEVENT_INCONTEXT);
     ASSERT_NE(hook, nullptr);
     list.SetCheck(2, 1);
     list.SetCheck(1, 2); // refused, and announced all the same
@@ -263,15 +262,7 @@ TEST_F(CheckListAccess, ChangesOfStateAreAnnounced)
     list.Enable(3, FALSE);
     list.Enable(3, FALSE);
     ::UnhookWinEvent(hook);
-    std::vector<LONG> children;
-    for (const auto& [object, child] : announced)
-    {
-        if (object == OBJID_CLIENT)
-        {
-            children.push_back(child);
-        }
-    }
-    EXPECT_THAT(children, ElementsAre(3, 2, 10, 1, 4));
+    EXPECT_THAT(announced, ElementsAre(3, 2, 10, 1, 4));
     EXPECT_EQ(list.GetCheck(1), 0);
 }
 

@@ -1,8 +1,7 @@
+// The check list's checks, its items' data, and the look of its rows.
+
 #include "lists/CheckListLayout.h"
 #include "lists/check_list_for_tests.h"
-#include "support/DialogTemplate.h"
-
-#include "CustomDialog.h"
 
 #include <gmock/gmock.h>
 
@@ -10,7 +9,7 @@
 
 using testing::ElementsAre;
 
-// Checks and records ----------------------------------------------------------------------------
+// Checks and data -------------------------------------------------------------------------------
 
 TEST_F(CheckListTest, ChecksBelongToTheirItems)
 {
@@ -21,17 +20,28 @@ TEST_F(CheckListTest, ChecksBelongToTheirItems)
     list.SetCheck(0, 1);
     list.SetCheck(2, 2);
     list.Enable(1, FALSE);
+    EXPECT_EQ(list.Records(), 3U);
     list.InsertString(0, "First");
     list.DeleteString(1);
+    list.DeleteString(40);
     EXPECT_THAT(list.Checks(), ElementsAre(0, 0, 2));
     EXPECT_FALSE(list.IsEnabled(1));
     list.Enable(1);
     EXPECT_TRUE(list.IsEnabled(1));
-    // A state that the style does not have stays where it was and goes on from its last one.
+    // A state that the style does not have stays where it was and is not given anew.
     list.SetCheckStyle(BS_AUTOCHECKBOX);
     list.SetCheck(0, 2);
     EXPECT_THAT(list.Checks(), ElementsAre(0, 0, 2));
     EXPECT_EQ(Told(list), 0) << "only the user's changes are told";
+    // Records go with their items, all at once too, and with the window.
+    EXPECT_EQ(list.Records(), 2U);
+    list.ResetContent();
+    EXPECT_EQ(list.Records(), 0U);
+    list.Fill(2);
+    list.SetCheck(1, 1);
+    EXPECT_EQ(list.Records(), 1U);
+    list.DestroyWindow();
+    EXPECT_EQ(list.Records(), 0U);
 }
 
 TEST_F(CheckListTest, OddArgumentsHaveADefinedResult)
@@ -71,38 +81,22 @@ TEST_F(CheckListTest, OddArgumentsHaveADefinedResult)
     list.SendMessage(WM_ERASEBKGND); // with nothing to erase on
     CCustomChecklistBox unborn;
     unborn.SetCheck(0, 1);
-    unborn.SetCheck(0, 2);
     EXPECT_EQ(unborn.GetCheck(0), 0);
-
-    auto& noData = AddList(0, BS_AUTOCHECKBOX, LBS_NODATA | LBS_OWNERDRAWFIXED);
-    noData.SendMessage(LB_SETCOUNT, 5);
-    noData.SetCheck(1, 1);
-    noData.SetItemData(1, 3);
-    EXPECT_EQ(noData.Records(), 0U);
 }
 
-TEST_F(CheckListTest, RecordsGoWithTheirItems)
+TEST_F(CheckListTest, AListThatKeepsNoDataHasNoChecksAndTellsOfNone)
 {
-    auto& list = AddList(10);
-    const auto checkAll = [&] {
-        for (int row = 0; row < list.GetCount(); ++row)
-        {
-            list.SetCheck(row, 1);
-        }
-    };
-    checkAll();
-    EXPECT_EQ(list.Records(), 10U);
-    list.DeleteString(4);
-    list.DeleteString(0);
-    list.DeleteString(40);
-    EXPECT_EQ(list.Records(), 8U);
-    list.ResetContent();
+    auto& list = AddList(0, BS_AUTOCHECKBOX, LBS_NODATA | LBS_OWNERDRAWFIXED | LBS_NOTIFY);
+    list.SendMessage(LB_SETCOUNT, 3);
+    list.SetCheck(1, 1);
+    list.SetItemData(1, 3);
+    list.SetFocus();
+    list.SetCurSel(1);
+    TypeKey(VK_SPACE);
+    Click(list.CheckPoint(1));
+    EXPECT_THAT(list.Checks(), ElementsAre(0, 0, 0));
     EXPECT_EQ(list.Records(), 0U);
-    list.Fill(5);
-    checkAll();
-    EXPECT_EQ(list.Records(), 5U);
-    list.DestroyWindow();
-    EXPECT_EQ(list.Records(), 0U);
+    EXPECT_EQ(Told(list), 0);
 }
 
 namespace {
@@ -123,10 +117,9 @@ public:
     }
     int CompareItem(LPCOMPAREITEMSTRUCT compare) override
     {
-        told.push_back(compare->itemData1);
-        told.push_back(compare->itemData2);
         const auto a = compare->itemData1;
         const auto b = compare->itemData2;
+        told.insert(told.end(), {a, b});
         return a < b ? -1 : int(a > b);
     }
 };
@@ -163,7 +156,6 @@ TEST_F(CheckListTest, CallersFindTheirDataAsInAnyListBox)
         check(3);
         send(LB_INSERTSTRING, 2, value(1));
         send(LB_INSERTSTRING, 99, value(1));
-        send(LB_GETITEMDATA, 1, 0);
         send(LB_SETITEMDATA, 4, 77);
         check(4);
         send(LB_SETITEMDATA, 0, 78);
@@ -185,7 +177,6 @@ TEST_F(CheckListTest, CallersFindTheirDataAsInAnyListBox)
         }
         send(LB_DELETESTRING, 4, 0);
         send(LB_DELETESTRING, 0, 0);
-        send(LB_DELETESTRING, 9, 0);
         send(LB_GETITEMDATA, 2, 0);
         send(LB_RESETCONTENT, 0, 0);
         send(LB_ADDSTRING, 0, value(4));
@@ -197,7 +188,7 @@ TEST_F(CheckListTest, CallersFindTheirDataAsInAnyListBox)
         return results;
     };
     for (const DWORD kind :
-         {DWORD(LBS_HASSTRINGS), DWORD(LBS_HASSTRINGS | LBS_SORT), DWORD(0), DWORD(LBS_SORT)})
+         std::initializer_list<DWORD>{LBS_HASSTRINGS, LBS_HASSTRINGS | LBS_SORT, 0, LBS_SORT})
     {
         for (const DWORD drawn : {LBS_OWNERDRAWFIXED, LBS_OWNERDRAWVARIABLE})
         {
@@ -215,21 +206,47 @@ TEST_F(CheckListTest, CallersFindTheirDataAsInAnyListBox)
 
 TEST_F(CheckListTest, AListThatWasFilledBeforeKeepsItsData)
 {
-    auto& window = Add<CWnd>(CRect(0, 0, 10, 10)); // the list's object comes later
-    const HWND plain = ::CreateWindow("ListBox", "", CheckListStyle | WS_CHILD | WS_VISIBLE, 20, 20,
-                                      200, 200, Host(), nullptr, nullptr, nullptr);
-    ::SendMessage(plain, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("one"));
-    ::SendMessage(plain, LB_SETITEMDATA, 0, 4711);
+    auto& plain = Add<CListBox>(CRect(20, 20, 220, 220), CheckListStyle);
+    plain.AddString("one");
+    plain.SetItemData(0, 4711);
     CheckListForTests list;
-    ASSERT_TRUE(list.SubclassWindow(plain));
+    ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
     EXPECT_EQ(list.GetItemData(0), 4711U);
     list.SetCheck(0, 1);
     EXPECT_EQ(list.GetItemData(0), 4711U);
     PumpAll();
     EXPECT_GE(list.GetItemHeight(0), list.CalcMinimumItemHeight());
-    ::DestroyWindow(plain);
+    list.DestroyWindow();
     EXPECT_EQ(list.Records(), 0U);
-    Remove(window);
+}
+
+TEST_F(CheckListTest, AnOwnerMayUseTheListWhileItsItemsGo)
+{
+    auto& list = AddList(5);
+    for (int row = 0; row < 5; ++row)
+    {
+        list.SetItemData(row, DWORD_PTR(row) + 1);
+    }
+    std::vector<ULONG_PTR> deleted;
+    Host().AlsoRecord({WM_DELETEITEM});
+    Host().hook = [&](ToldMessage& told) {
+        if (told.message == WM_DELETEITEM)
+        {
+            const auto* item = reinterpret_cast<DELETEITEMSTRUCT*>(told.lParam);
+            deleted.push_back(item->itemData);
+            list.GetCheck(int(item->itemID));
+            list.GetItemData(0);
+            list.SetCheck(0, 1);
+        }
+    };
+    list.DeleteString(2);
+    EXPECT_THAT(deleted, ElementsAre(3U));
+    deleted.clear();
+    list.ResetContent();
+    EXPECT_THAT(deleted, testing::UnorderedElementsAre(1U, 2U, 4U, 5U));
+    list.Fill(1);
+    list.SetCheck(0, 1);
+    EXPECT_EQ(list.GetItemData(0), 0U);
 }
 
 // Rows ------------------------------------------------------------------------------------------
@@ -242,69 +259,52 @@ TEST_F(CheckListTest, APointFindsItsRowAndCheck)
         return std::pair(row, onCheck);
     };
     using Hit = std::pair<int, int>;
-    for (const DWORD kind : {LBS_OWNERDRAWFIXED, LBS_OWNERDRAWVARIABLE})
+    for (const DWORD style : {CheckListStyle, VariableCheckListStyle})
     {
-        auto& list =
-            AddList(30, BS_AUTOCHECKBOX, WS_VSCROLL | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS | kind);
+        auto& list = AddList(30, BS_AUTOCHECKBOX, style);
         const int height = list.GetItemHeight(0);
         EXPECT_EQ(hit(list, 0, 0), Hit(0, 1));
         EXPECT_EQ(hit(list, 14, 2 * height), Hit(2, 1)); // the check is 13 wide
         EXPECT_EQ(hit(list, 15, 2 * height - 1), Hit(1, 0));
         EXPECT_EQ(hit(list, -1, 5).second, 0);
         EXPECT_EQ(hit(list, 5, -1), Hit(-1, 0));
-        list.SetTopIndex(10);
-        EXPECT_EQ(hit(list, 5, height), Hit(11, 1));
-        while (list.GetCount() > 3)
-        {
-            list.DeleteString(3);
-        }
-        EXPECT_EQ(hit(list, 5, 3 * height - 1), Hit(2, 1));
-        EXPECT_EQ(hit(list, 5, 3 * height), Hit(-1, 0));
+        // Scrolled to the end, a point below the last row is on no row either.
+        list.MoveWindow(20, 20, 300, 5 * height + 7);
+        list.SetTopIndex(29);
+        EXPECT_EQ(hit(list, 5, height), Hit(list.GetTopIndex() + 1, 1));
+        EXPECT_EQ(hit(list, 5, 5 * height + 1).first, -1);
         list.ResetContent();
         EXPECT_EQ(hit(list, 5, 5), Hit(-1, 0));
         Remove(list);
     }
-    // Scrolled to the end, a point below the last row is on no row either.
-    auto& list = AddList(30);
-    list.MoveWindow(20, 20, 300, 5 * list.GetItemHeight(0) + 7);
-    list.SetTopIndex(29);
-    EXPECT_EQ(hit(list, 5, 5 * list.GetItemHeight(0) + 1).first, -1);
     auto& columns = AddList(60, BS_AUTOCHECKBOX, CheckListStyle | LBS_MULTICOLUMN | WS_HSCROLL);
     columns.SetColumnWidth(100);
-    const CRect second = columns.RowRect(columns.GetCount() / 2);
+    const CRect second = columns.RowRect(30);
     ASSERT_GE(second.left, 100);
     EXPECT_EQ(hit(columns, second.left + 3, second.top + 3), Hit(30, 1));
     EXPECT_EQ(hit(columns, second.left + 50, second.top + 3), Hit(30, 0));
 }
 
-TEST(CheckListLayout, TheCheckLiesInTheMiddleOfItsRow)
+TEST_F(CheckListTest, RowsAreHighEnoughInEveryModeAndKeepTheirChecks)
 {
-    using lists::CheckPlace;
-    EXPECT_EQ(CheckPlace(CRect(0, 0, 100, 34), CSize(32, 33)), CRect(1, 1, 33, 34));
-    EXPECT_EQ(CheckPlace(CRect(10, 40, 100, 80), CSize(13, 14)), CRect(11, 54, 24, 68));
-    EXPECT_EQ(CheckPlace(CRect(0, 20, 100, 26), CSize(13, 14)), CRect(1, 21, 14, 35));
-    EXPECT_EQ(lists::NextCheck(3, BS_AUTO3STATE), 0);
-    EXPECT_EQ(lists::NextCheck(2, BS_AUTOCHECKBOX), 0);
-}
-
-TEST_F(CheckListTest, RowsAreHighEnoughForCheckAndTextInEveryMode)
-{
-    for (const DWORD kind : {LBS_OWNERDRAWFIXED, LBS_OWNERDRAWVARIABLE})
+    for (const DWORD style : {CheckListStyle, VariableCheckListStyle})
     {
-        auto& list =
-            AddList(10, BS_AUTOCHECKBOX, WS_VSCROLL | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS | kind);
+        auto& list = AddList(10, BS_AUTOCHECKBOX, style);
+        list.SetCheck(2, 1);
+        list.SetItemData(3, 8);
         const int standard = list.GetItemHeight(0);
         EXPECT_EQ(standard, list.CalcMinimumItemHeight());
         EXPECT_GE(standard, 15);
         list.SetItemHeight(0, 3);
         EXPECT_EQ(list.GetItemHeight(0), standard) << "no lower than its check";
+        for (const APPMODE mode : {ONBOARD, STD, EFBFS, STD})
         {
-            const ModeScope scope(ONBOARD);
-            list.RedrawWindow(); // its first paint in the mode
+            SetMode(mode, list);
             EXPECT_EQ(list.GetItemHeight(0), list.CalcMinimumItemHeight());
-            EXPECT_GE(list.GetItemHeight(9), 34);
+            EXPECT_GE(list.GetItemHeight(9), mode == STD ? standard : 34);
+            EXPECT_EQ(list.GetCheck(2), 1);
+            EXPECT_EQ(list.GetItemData(3), 8U);
         }
-        list.RedrawWindow();
         EXPECT_EQ(list.GetItemHeight(0), standard);
         list.SetItemHeight(0, 40);
         list.SetFont(&CCustomListBox::GetOnBoardFont());
@@ -318,8 +318,7 @@ TEST_F(CheckListTest, RowsAreHighEnoughForCheckAndTextInEveryMode)
     CString text;
     born.GetText(2, text);
     EXPECT_STREQ(text, "Row 2");
-    COnBoardUIGeneral::SetAppMode(STD);
-    born.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    SetMode(STD, born);
     EXPECT_EQ(born.GetItemHeight(0), born.CalcMinimumItemHeight());
 }
 
@@ -351,14 +350,19 @@ TEST_F(CheckListTest, EachStateHasItsPicture)
 {
     for (const APPMODE mode : {STD, ONBOARD})
     {
+        SCOPED_TRACE(APPMODE_NAMES[mode]);
         const ModeScope scope(mode);
         auto& list = AddList<DrawnList>(8, BS_AUTO3STATE);
         const int side = mode == STD ? 13 : 32;
+        const int middle = side / 2;
         const auto box = [&](int row) {
             const CRect rect = list.RowRect(row);
             const int top = rect.top + std::max(0, (rect.Height() - side - 1) / 2) + 1;
             return ScreenPixels(
                 CRect(ClientPoint(list, CPoint(rect.left + 1, top)), CSize(side, side + 1)));
+        };
+        const auto pixel = [&](int x, int y) {
+            return ScreenPixels(CRect(ClientPoint(list, CPoint(x, y)), CSize(1, 1))).At(0, 0);
         };
         list.SetCheck(1, 1);
         list.SetCheck(2, 2);
@@ -369,43 +373,35 @@ TEST_F(CheckListTest, EachStateHasItsPicture)
         PumpAll();
         const Pixels empty = box(0);
         EXPECT_EQ(empty.At(0, 0), RGB(93, 93, 93));
-        EXPECT_EQ(empty.At(side / 2, side / 2), RGB(180, 180, 180));
-        EXPECT_EQ(empty.At(side - 1, side / 2), RGB(220, 220, 220));
+        EXPECT_EQ(empty.At(middle, middle), RGB(180, 180, 180));
+        EXPECT_EQ(empty.At(side - 1, middle), RGB(220, 220, 220));
         EXPECT_EQ(empty.At(2, side), RGB(26, 26, 26)) << "of the ground, not of the picture";
         EXPECT_EQ(empty, box(7));
         EXPECT_FALSE(empty == box(1));
-        EXPECT_EQ(box(1).At(side / 2, side / 2), RGB(26, 26, 26));
+        EXPECT_EQ(box(1).At(middle, middle), RGB(26, 26, 26));
         EXPECT_FALSE(box(1) == box(2));
         EXPECT_EQ(box(1), box(4));
-        EXPECT_EQ(box(3).At(side / 2, side / 2), RGB(100, 100, 100));
-        EXPECT_EQ(box(5).At(side / 2, side / 2), RGB(70, 70, 70));
+        EXPECT_EQ(box(3).At(middle, middle), RGB(100, 100, 100));
+        EXPECT_EQ(box(5).At(middle, middle), RGB(70, 70, 70));
         list.SetCurSel(0);
         EXPECT_EQ(box(0).At(2, side), ::GetSysColor(COLOR_HIGHLIGHT));
         list.SetCurSel(3);
         EXPECT_EQ(box(3).At(2, side), RGB(26, 26, 26)) << "its check cannot be changed";
         list.EnableWindow(FALSE);
         PumpAll();
-        EXPECT_EQ(box(0).At(side / 2, side / 2), RGB(100, 100, 100));
+        EXPECT_EQ(box(0).At(middle, middle), RGB(100, 100, 100));
 
         // What is left to an heir: the place of the check, and what lies beside it.
         EXPECT_EQ(list.textArea.left, side + 3);
-        EXPECT_EQ(ScreenPixels(
-                      CRect(ClientPoint(list, CPoint(list.textArea.right - 1, list.textArea.top)),
-                            CSize(1, 1)))
-                      .At(0, 0),
-                  RGB(1, 2, 3));
+        EXPECT_EQ(pixel(list.textArea.right - 1, list.textArea.top), RGB(1, 2, 3));
         list.SetItemData(6, 99);
         PumpAll();
         list.drawn.clear();
         list.moves = true;
-        list.RedrawWindow(list.RowRect(6), nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-        EXPECT_THAT(list.drawn, ElementsAre(99U));
         const CRect row = list.RowRect(6);
-        EXPECT_EQ(ScreenPixels(CRect(ClientPoint(list, CPoint(row.right - side / 2 - 1,
-                                                              row.CenterPoint().y)),
-                                     CSize(1, 1)))
-                      .At(0, 0),
-                  RGB(100, 100, 100));
+        list.RedrawWindow(row, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+        EXPECT_THAT(list.drawn, ElementsAre(99U));
+        EXPECT_EQ(pixel(row.right - middle - 1, row.CenterPoint().y), RGB(100, 100, 100));
         Remove(list);
     }
 }
@@ -416,93 +412,24 @@ TEST_F(CheckListTest, WhatIsShownIsWhatARepaintWouldShow)
     {
         const ModeScope scope(mode);
         auto& list = AddList(12);
-        const auto settled = [&](const char* when) {
-            PumpAll();
-            const Pixels seen = WindowPixels(list);
-            list.RedrawWindow(nullptr, nullptr,
-                              RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-            EXPECT_TRUE(seen == WindowPixels(list)) << when << " " << APPMODE_NAMES[mode];
+        const struct
+        {
+            const char* name;
+            std::function<void()> act;
+        } steps[] = {
+            {"checked", [&] { list.SetCheck(3, 1); }},
+            {"disabled under the focus",
+             [&] { list.SetFocus(), list.SetCurSel(2), list.Enable(2, FALSE); }},
+            {"the focus went", [&] { Host().SetFocus(); }},
+            {"shorter", [&] { list.DeleteString(0), list.DeleteString(5); }},
+            {"scrolled", [&] { list.Fill(40), list.SetCheck(45, 1), list.SetTopIndex(20); }},
+            {"empty", [&] { list.ResetContent(); }},
         };
-        list.SetCheck(3, 1);
-        settled("checked");
-        list.SetFocus();
-        list.SetCurSel(2);
-        list.Enable(2, FALSE);
-        settled("disabled under the focus");
-        Host().SetFocus();
-        settled("the focus went");
-        list.DeleteString(0);
-        list.DeleteString(5);
-        settled("shorter");
-        list.Fill(40);
-        list.SetCheck(45, 1);
-        list.SetTopIndex(20);
-        settled("scrolled");
-        list.ResetContent();
-        settled("empty");
+        for (const auto& step : steps)
+        {
+            step.act();
+            EXPECT_TRUE(ShowsWhatAPaintWould(list)) << step.name << " " << APPMODE_NAMES[mode];
+        }
         Remove(list);
     }
-}
-
-TEST_F(CheckListTest, TemplateListsFollowTheirDialog)
-{
-    class ChecksDialog : public CCustomDialog
-    {
-    public:
-        ChecksDialog()
-            : CCustomDialog(0U, nullptr)
-        {}
-        CheckListForTests list;
-
-    protected:
-        BOOL OnInitDialog() override
-        {
-            list.SubclassDlgItem(101, this);
-            return CCustomDialog::OnInitDialog();
-        }
-    };
-    DialogTemplate form(CRect(0, 0, 200, 160), WS_POPUP | WS_CAPTION | WS_VISIBLE);
-    form.Add("ListBox", "", CheckListStyle | WS_BORDER, CRect(10, 10, 110, 100), 101);
-    for (const APPMODE born : {STD, ONBOARD})
-    {
-        COnBoardUIGeneral::SetAppMode(born);
-        ChecksDialog dialog;
-        ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-        dialog.list.Fill(30);
-        dialog.list.SetCheck(2, 1);
-        dialog.list.SetItemData(3, 8);
-        for (const APPMODE mode : {ONBOARD, STD, EFBFS, STD})
-        {
-            COnBoardUIGeneral::SetAppMode(mode);
-            PumpAll();
-            const int least = dialog.list.CalcMinimumItemHeight();
-            EXPECT_GE(dialog.list.GetItemHeight(0), least) << APPMODE_NAMES[mode];
-            EXPECT_LE(dialog.list.GetItemHeight(0), least + 2) << APPMODE_NAMES[mode];
-            EXPECT_EQ(dialog.list.GetCheck(2), 1);
-            EXPECT_EQ(dialog.list.GetItemData(3), 8U);
-        }
-        dialog.DestroyWindow();
-    }
-    COnBoardUIGeneral::SetAppMode(STD);
-}
-
-TEST_F(CheckListOnBoard, ListsLeaveNoGraphicsObjectsBehind)
-{
-    const auto live = [this] {
-        auto& list = AddList(40);
-        list.SetCheck(1, 1);
-        list.Enable(2, FALSE);
-        PumpAll();
-        Remove(list);
-    };
-    for (int turn = 0; turn < 5; ++turn)
-    {
-        live();
-    }
-    const int before = GraphicsObjects();
-    for (int turn = 0; turn < 20; ++turn)
-    {
-        live();
-    }
-    EXPECT_EQ(GraphicsObjects(), before);
 }

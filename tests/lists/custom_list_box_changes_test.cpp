@@ -4,9 +4,6 @@
 
 namespace {
 
-constexpr const char* WideText =
-    "A row that is a good deal wider than the window that is to show it, by far";
-
 // The pixels that both a list with bars and one without show of the first rows.
 Pixels LeftOfRows(CListBox& list)
 {
@@ -24,7 +21,7 @@ TEST_F(ListBoxTest, TheHorizontalBarComesBackAfterTheStandardMode)
     for (const APPMODE born : {STD, ONBOARD})
     {
         COnBoardUIGeneral::SetAppMode(born);
-        auto& list = AddList(3, ListStyle | WS_HSCROLL);
+        auto& list = AddList(3, WideListStyle);
         list.AddString(WideText);
         int standardWidth = 0;
         for (const APPMODE mode : {STD, ONBOARD, STD, EFB, STD})
@@ -72,7 +69,7 @@ TEST_F(ListBoxTest, TheHorizontalBarComesBackAfterTheStandardMode)
 
 TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
 {
-    auto& list = AddList(3, ListStyle | WS_HSCROLL);
+    auto& list = AddList(3, WideListStyle);
     list.AddString("Some row");
     const Pixels standard = LeftOfRows(list);
     SetMode(ONBOARD, list);
@@ -96,7 +93,7 @@ TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
     // Scrolled on-board, and nothing to scroll in the standard mode.
     list.AddString(WideText);
     ASSERT_TRUE(list.m_hBarNeeded);
-    list.CCustomListBox::SetScrollPos(SB_HORZ, 20);
+    list.ScrollTo(SB_HORZ, 20);
     EXPECT_FALSE(LeftOfRows(list) == onBoard);
     SetMode(STD, list);
     EXPECT_TRUE(LeftOfRows(list) == standard);
@@ -108,7 +105,7 @@ TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
 
 TEST_F(ListBoxTest, ColumnsStayWhereTheyAreWhenTheModeChanges)
 {
-    auto& list = AddList(400, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN | WS_HSCROLL);
+    auto& list = AddList(400, ColumnsStyle);
     list.SetColumnWidth(80);
     list.SendMessage(WM_HSCROLL, SB_PAGERIGHT);
     ASSERT_GT(list.GetTopIndex(), 0);
@@ -133,11 +130,11 @@ TEST_F(ListBoxTest, AnObjectsNextWindowBeginsAfresh)
         list.AddString(WideText);
     };
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-    create(ListStyle | WS_HSCROLL);
+    create(WideListStyle);
     fill();
     PumpAll();
     ASSERT_TRUE(list.m_hBarNeeded && list.m_vBarNeeded);
-    list.CCustomListBox::SetScrollPos(SB_HORZ, 5);
+    list.ScrollTo(SB_HORZ, 5);
     list.SetRedraw(FALSE);
     list.DestroyWindow();
 
@@ -155,7 +152,7 @@ TEST_F(ListBoxTest, AnObjectsNextWindowBeginsAfresh)
     list.DestroyWindow();
 
     // Rows are added at once again, and the frame is that of an empty list.
-    create(ListStyle | WS_HSCROLL);
+    create(WideListStyle);
     EXPECT_FALSE(list.m_vBar.ShowScrollBar());
     EXPECT_FALSE(list.m_hBar.ShowScrollBar());
     MessageLog log(list, {WM_SETREDRAW});
@@ -211,7 +208,7 @@ TEST_F(ListBoxTest, AnObjectsNextWindowBeginsAfresh)
 
 TEST_F(ListBoxOnBoard, RowsAreNotLeftOutOfSightWhenTheirBarGoes)
 {
-    auto& list = AddList(3, ListStyle | WS_HSCROLL);
+    auto& list = AddList(3, WideListStyle);
     const Pixels unscrolled = LeftOfRows(list);
     list.SetHorizontalExtent(400);
     list.SendMessage(WM_HSCROLL, SB_RIGHT);
@@ -231,7 +228,7 @@ TEST_F(ListBoxOnBoard, RowsAreNotLeftOutOfSightWhenTheirBarGoes)
     list.SetWindowPos(nullptr, 0, 0, 500, 560, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_FALSE(list.m_vBarNeeded);
     EXPECT_EQ(list.GetTopIndex(), 0);
-    auto& columns = AddList(60, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN | WS_HSCROLL);
+    auto& columns = AddList(60, ColumnsStyle);
     columns.SetColumnWidth(140);
     columns.SendMessage(WM_HSCROLL, SB_RIGHT);
     ASSERT_GT(columns.GetTopIndex(), 0);
@@ -247,13 +244,13 @@ TEST_F(ListBoxOnBoard, RowsAreNotLeftOutOfSightWhenTheirBarGoes)
     const CPoint range = RangeOf(list.m_hBar);
     EXPECT_EQ(list.m_hBar.GetScrollPos(), range.y);
     const Pixels end = LeftOfRows(list);
-    list.CCustomListBox::SetScrollPos(SB_HORZ, range.y);
+    list.ScrollTo(SB_HORZ, range.y);
     EXPECT_TRUE(LeftOfRows(list) == end);
 }
 
 TEST_F(ListBoxOnBoard, BothBarsGoWhenTheContentFitsWithoutThem)
 {
-    auto& list = AddList(0, ListStyle | WS_HSCROLL);
+    auto& list = AddList(0, WideListStyle);
     const int height = list.GetItemHeight(0);
     const int fit = ClientRectOf(list).Height() / height;
     const int width = ClientRectOf(list).Width();
@@ -277,7 +274,7 @@ TEST_F(ListBoxOnBoard, BothBarsGoWhenTheContentFitsWithoutThem)
 
 TEST_F(ListBoxOnBoard, ColumnsOfAnotherWidthAreCountedAnew)
 {
-    auto& list = AddList(200, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN | WS_HSCROLL);
+    auto& list = AddList(200, ColumnsStyle);
     list.SetColumnWidth(140);
     ASSERT_TRUE(list.m_hBarNeeded);
     const CPoint wide = RangeOf(list.m_hBar);
@@ -290,7 +287,7 @@ TEST_F(ListBoxOnBoard, ColumnsOfAnotherWidthAreCountedAnew)
 
 TEST_F(ListBoxOnBoard, DrawnRowsAreMeasuredInTheFontTheyAreDrawnIn)
 {
-    auto& list = AddList(1, ListStyle | WS_HSCROLL | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    auto& list = AddList(1, WideListStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
     CClientDC dc(&list);
     const HGDIOBJ old = ::SelectObject(dc, CCustomListBox::GetOnBoardFont());
     const int row = dc.GetTextExtent("Row 0").cx;
@@ -304,7 +301,7 @@ TEST_F(ListBoxOnBoard, DrawnRowsAreMeasuredInTheFontTheyAreDrawnIn)
     list.AddString(text);
     EXPECT_TRUE(list.m_hBarNeeded);
     // By their own rows the platform's lists go: another font, another width.
-    auto& own = AddList(1, ListStyle | WS_HSCROLL);
+    auto& own = AddList(1, WideListStyle);
     EXPECT_LT(own.GetEntryWidth(0), row);
 }
 
@@ -326,7 +323,7 @@ public:
 
 TEST_F(ListBoxOnBoard, WidthsAreMeasuredOncePerRow)
 {
-    const DWORD style = ListStyle | WS_HSCROLL | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
+    const DWORD style = WideListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
     auto& list = Add<ListThatCounts>(CRect(20, 20, 320, 320), style);
     list.Fill(60);
     EXPECT_EQ(list.measured, 60);
@@ -344,7 +341,7 @@ TEST_F(ListBoxOnBoard, WidthsAreMeasuredOncePerRow)
     EXPECT_GE(list.SendMessage(LB_ADDFILE, 0, reinterpret_cast<LPARAM>(self)), 0);
     EXPECT_EQ(list.measured, 121);
 
-    const DWORD noText = ListStyle | WS_HSCROLL | LBS_OWNERDRAWFIXED | LBS_NODATA;
+    const DWORD noText = WideListStyle | LBS_OWNERDRAWFIXED | LBS_NODATA;
     auto& count = Add<ListThatCounts>(CRect(340, 20, 640, 320), noText);
     count.SendMessage(LB_SETCOUNT, 100000);
     EXPECT_EQ(count.GetCount(), 100000);

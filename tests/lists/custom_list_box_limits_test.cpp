@@ -15,7 +15,7 @@ TEST_F(ListBoxTest, ColumnsOfNoWidthKeepTheWidthThatTheyHave)
     for (const APPMODE mode : {STD, ONBOARD})
     {
         const ModeScope scope(mode);
-        auto& columns = AddList(60, LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN);
+        auto& columns = AddList(60, ColumnsStyle);
         columns.SetColumnWidth(90);
         CRect before;
         columns.GetItemRect(0, &before);
@@ -32,7 +32,7 @@ TEST_F(ListBoxTest, ColumnsOfNoWidthKeepTheWidthThatTheyHave)
 
 TEST_F(ListBoxOnBoard, AHugeExtentScrollsAsFarAsThePlatformGoes)
 {
-    auto& list = AddList(3, ListStyle | WS_HSCROLL);
+    auto& list = AddList(3, WideListStyle);
     for (const CSize size : {CSize(300, 300), CSize(5, 5), CSize(300, 300)})
     {
         list.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
@@ -49,7 +49,7 @@ TEST_F(ListBoxOnBoard, AHugeExtentScrollsAsFarAsThePlatformGoes)
     // The last step moves the rows like every other.
     const int step = list.m_hBar.GetScrollPos();
     const auto ends = [&](int position) {
-        list.CCustomListBox::SetScrollPos(SB_HORZ, position);
+        list.ScrollTo(SB_HORZ, position);
         SCROLLINFO info = {};
         info.cbSize = sizeof(info);
         info.fMask = SIF_POS;
@@ -59,9 +59,13 @@ TEST_F(ListBoxOnBoard, AHugeExtentScrollsAsFarAsThePlatformGoes)
     EXPECT_EQ(list.GetHorizontalExtent(), 400000);
 }
 
-TEST_F(ListBoxOnBoard, OddIndicesAndCountsHaveADefinedResult)
+TEST_F(ListBoxOnBoard, OddArgumentsHaveADefinedResult)
 {
-    auto& list = AddList(50, ListStyle | WS_HSCROLL);
+    auto& list = AddList(0, WideListStyle);
+    EXPECT_EQ(list.GetEntryHeight(nullptr), list.GetEntryHeight("x"));
+    EXPECT_EQ(list.GetEntryWidth(0), 0);
+    EXPECT_EQ(list.GetEntryWidth(-7), 0);
+    list.Fill(50);
     for (const WPARAM odd :
          {WPARAM(INT_MAX), WPARAM(UINT(INT_MIN)), WPARAM(-1), ~WPARAM(0) / 2, WPARAM(1) << 32})
     {
@@ -70,7 +74,13 @@ TEST_F(ListBoxOnBoard, OddIndicesAndCountsHaveADefinedResult)
         EXPECT_EQ(list.m_vBar.GetScrollPos(), list.GetTopIndex()) << odd;
         list.SendMessage(LB_DELETESTRING, odd);
         EXPECT_GE(list.GetCount(), 49);
-        EXPECT_GE(list.m_vBar.GetScrollPos(), 0);
+    }
+    for (const CSize size : {CSize(0, 0), CSize(5, 5), CSize(60, 300), CSize(300, 40)})
+    {
+        list.MoveWindow(10, 10, size.cx, size.cy);
+        Repaint(list);
+        list.SendMessage(WM_VSCROLL, SB_PAGEDOWN);
+        EXPECT_EQ(list.m_vBar.GetScrollPos(), list.GetTopIndex()) << size.cx;
     }
     const DWORD noText = ListStyle | LBS_OWNERDRAWFIXED | LBS_NODATA;
     auto& flat = AddList(0, noText, CRect(340, 20, 640, 25));
@@ -87,8 +97,7 @@ TEST_F(ListBoxOnBoard, OddIndicesAndCountsHaveADefinedResult)
 
 TEST_F(ListBoxTest, AParentMayChangeModeAndRowsWhileItIsAsked)
 {
-    const DWORD style = ListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
-    auto& list = AddList(30, style);
+    auto& list = AddList(30, ListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS);
     const CRect client = ClientRectOf(list);
     Host().AlsoRecord({WM_MEASUREITEM});
     Host().hook = [&](ToldMessage& told) {
@@ -149,36 +158,35 @@ protected:
     }
 };
 
+void Paint(HWND window)
+{
+    ::RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
+void RenewFrame(HWND window)
+{
+    ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
+}
+
 } // namespace
 
 TEST_F(ListBoxTest, AListMayEndWhenItsStyleChanges)
 {
-    struct
+    const struct
     {
         const char* name;
         APPMODE before;
+        APPMODE after;
         bool asked; // the platform has asked for its bar
         void (*act)(HWND);
-    } const table[] = {
-        {"on board", STD, false,
-         [](HWND window) {
-             COnBoardUIGeneral::SetAppMode(ONBOARD);
-             ::RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-         }},
-        {"standard", ONBOARD, false,
-         [](HWND window) {
-             COnBoardUIGeneral::SetAppMode(STD);
-             ::RedrawWindow(window, nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-         }},
-        {"frame", ONBOARD, true,
-         [](HWND window) {
-             NCCALCSIZE_PARAMS params = {};
-             ::SendMessage(window, WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params));
-         }},
-        {"position", ONBOARD, true, [](HWND window) {
-             ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
-                            SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
-         }}};
+    } table[] = {{"on board", STD, ONBOARD, false, &Paint},
+                 {"standard", ONBOARD, STD, false, &Paint},
+                 {"position", ONBOARD, ONBOARD, true, &RenewFrame},
+                 {"frame", ONBOARD, ONBOARD, true, [](HWND window) {
+                      NCCALCSIZE_PARAMS params = {};
+                      ::SendMessage(window, WM_NCCALCSIZE, TRUE, reinterpret_cast<LPARAM>(&params));
+                  }}};
     for (const auto& row : table)
     {
         COnBoardUIGeneral::SetAppMode(row.before);
@@ -191,6 +199,7 @@ TEST_F(ListBoxTest, AListMayEndWhenItsStyleChanges)
         const HWND window = *list;
         list->ModifyStyle(0, row.asked ? WS_VSCROLL : 0);
         list->ends = true;
+        COnBoardUIGeneral::SetAppMode(row.after);
         row.act(window);
         EXPECT_FALSE(::IsWindow(window)) << row.name;
         EXPECT_EQ(std::count(std::begin(place), std::end(place), ListThatEnds::Rubble),

@@ -1,9 +1,19 @@
 #pragma once
 
 #include "CustomListBox.h"
+#include "support/Bars.h"
+#include "support/OnBoard.h"
+#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <string>
+
+constexpr DWORD ListStyle = WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
+constexpr DWORD WideListStyle = ListStyle | WS_HSCROLL;
+constexpr DWORD ColumnsStyle = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLUMN | WS_HSCROLL;
+
+constexpr const char* WideText =
+    "A row that is a good deal wider than the window that is to show it, by far";
 
 // A list box that lets a test see its bars.
 class ListBoxForTests : public CCustomListBox
@@ -15,8 +25,6 @@ public:
     using CCustomListBox::m_vBar;
     using CCustomListBox::m_vBarNeeded;
     using CCustomListBox::m_vPressed;
-
-    CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
 
     void Fill(int rows)
     {
@@ -33,52 +41,36 @@ public:
         return client.Height() / GetItemHeight(0);
     }
 
-    // Screen point in the middle of a part of a bar.
+    // Of the base class, whose names the platform's list box hides.
+    int ScrollTo(int axis, int position) { return CCustomListBox::SetScrollPos(axis, position); }
+
     CPoint PartPoint(CFauxScrollBar::ePRESSED part, int axis = SB_VERT)
     {
-        const CRect first = Bar(axis).GetPartArea(CFauxScrollBar::PRESSED_FIRST);
-        const CRect second = Bar(axis).GetPartArea(CFauxScrollBar::PRESSED_SECOND);
-        const CRect thumb = Bar(axis).GetPartArea(CFauxScrollBar::PRESSED_THUMB);
-        CRect area = Bar(axis).GetPartArea(part);
-        if (part == CFauxScrollBar::PRESSED_BEFORE_THUMB)
-        {
-            area = axis == SB_VERT ? CRect(first.left, first.bottom, first.right, thumb.top)
-                                   : CRect(first.right, first.top, thumb.left, first.bottom);
-        }
-        if (part == CFauxScrollBar::PRESSED_AFTER_THUMB)
-        {
-            area = axis == SB_VERT ? CRect(first.left, thumb.bottom, first.right, second.top)
-                                   : CRect(thumb.right, first.top, second.left, first.bottom);
-        }
-        return WindowPoint(*this, area.CenterPoint());
+        return ::PartPoint(*this, Bar(axis), part);
+    }
+
+    // What the tests of all lists with bars of their own ask for.
+    static constexpr DWORD BothBarsStyle = WideListStyle;
+    static constexpr int SureWait = 80; // milliseconds without a repeat of a held arrow
+    CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
+    bool IsBarPressed() const { return m_tracking; }
+    int TopRow() const { return GetTopIndex(); }
+    int LastTopRow() const { return GetCount() - VisibleRows(); }
+    void FillBothWays(int rows)
+    {
+        Fill(rows - 1);
+        AddString(WideText);
     }
 };
-
-constexpr DWORD ListStyle = WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
-
-inline CPoint RangeOf(const CFauxScrollBar& bar)
-{
-    int minimum = 0;
-    int maximum = 0;
-    bar.GetScrollRange(&minimum, &maximum);
-    return CPoint(minimum, maximum);
-}
-
-// The list notices the mode at its next message.
-inline void SetMode(APPMODE mode, CWnd& list)
-{
-    COnBoardUIGeneral::SetAppMode(mode);
-    list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-}
 
 // Lists as hosts make them: in whichever mode is set, with the style that a host gives.
 class ListBoxTest : public WindowTest
 {
 protected:
-    ListBoxForTests& AddList(int rows, DWORD style = ListStyle,
-                             const CRect& place = CRect(20, 20, 320, 320))
+    template <class List = ListBoxForTests>
+    List& AddList(int rows, DWORD style = ListStyle, const CRect& place = CRect(20, 20, 320, 320))
     {
-        auto& list = Add<ListBoxForTests>(place, style);
+        auto& list = Add<List>(place, style);
         list.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED);
         list.Fill(rows);
         PumpAll();
@@ -86,18 +78,4 @@ protected:
     }
 };
 
-class ListBoxOnBoard : public ListBoxTest
-{
-protected:
-    void SetUp() override
-    {
-        ListBoxTest::SetUp();
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
-    }
-
-    void TearDown() override
-    {
-        COnBoardUIGeneral::SetAppMode(STD);
-        ListBoxTest::TearDown();
-    }
-};
+using ListBoxOnBoard = OnBoard<ListBoxTest>;
