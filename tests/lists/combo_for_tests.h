@@ -26,6 +26,13 @@ public:
         }
     }
 
+    // Opens the list by a click on the combo.
+    void Open()
+    {
+        Click(Middle());
+        EXPECT_TRUE(IsExpanded());
+    }
+
     // Screen points.
     CPoint Middle() const { return WindowRectOf(*this).CenterPoint(); }
     CPoint RowPoint(int row)

@@ -12,29 +12,11 @@ using testing::ElementsAre;
 
 namespace {
 
-// Holds a reference.
-template <class Interface> class Held
+struct Releaser
 {
-public:
-    explicit Held(Interface* object = nullptr)
-        : m_object(object)
-    {}
-    Held(Held&& other) noexcept
-        : m_object(std::exchange(other.m_object, nullptr))
-    {}
-    ~Held()
-    {
-        if (m_object != nullptr)
-        {
-            m_object->Release();
-        }
-    }
-    Interface* operator->() const { return m_object; }
-    explicit operator bool() const { return m_object != nullptr; }
-
-private:
-    Interface* m_object;
+    void operator()(IUnknown* object) const { object->Release(); }
 };
+template <class Interface> using Held = std::unique_ptr<Interface, Releaser>;
 
 Held<IAccessible> Reached(HWND window)
 {
@@ -42,7 +24,7 @@ Held<IAccessible> Reached(HWND window)
     const HRESULT result = ::AccessibleObjectFromWindow(
         window, DWORD(OBJID_CLIENT), IID_IAccessible, reinterpret_cast<void**>(&reached));
     EXPECT_EQ(result, S_OK);
-    return Held(reached);
+    return Held<IAccessible>(reached);
 }
 
 VARIANT Child(long id)
@@ -52,6 +34,46 @@ VARIANT Child(long id)
     child.lVal = id;
     return child;
 }
+
+std::string Taken(BSTR text)
+{
+    const std::wstring wide(text != nullptr ? text : L"(none)");
+    ::SysFreeString(text);
+    return std::string(wide.begin(), wide.end());
+}
+
+// What an assistive program reads of a row. Where it is refused, -1 and "(error)".
+struct Read
+{
+    Read(IAccessible& object, long child)
+    {
+        VARIANT number = {};
+        BSTR text = nullptr;
+        if (SUCCEEDED(object.get_accRole(Child(child), &number)))
+        {
+            role = number.lVal;
+        }
+        if (SUCCEEDED(object.get_accState(Child(child), &number)))
+        {
+            state = number.lVal &
+                    (STATE_SYSTEM_CHECKED | STATE_SYSTEM_MIXED | STATE_SYSTEM_UNAVAILABLE |
+                     STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN);
+        }
+        if (SUCCEEDED(object.get_accName(Child(child), &text)))
+        {
+            name = Taken(std::exchange(text, nullptr));
+        }
+        if (SUCCEEDED(object.get_accDefaultAction(Child(child), &text)))
+        {
+            action = Taken(text);
+        }
+    }
+
+    long role = -1;
+    long state = -1;
+    std::string name = "(error)";
+    std::string action = "(error)";
+};
 
 } // namespace
 
@@ -68,80 +90,39 @@ protected:
         CheckListTest::TearDown();
         ::CoUninitialize();
     }
-
-    // Answers as numbers; -1 where there is none.
-    static long Role(const Held<IAccessible>& object, long child)
-    {
-        VARIANT answer = {};
-        const HRESULT result = object->get_accRole(Child(child), &answer);
-        return result == S_OK && answer.vt == VT_I4 ? answer.lVal : -1;
-    }
-    static long State(const Held<IAccessible>& object, long child)
-    {
-        VARIANT answer = {};
-        const HRESULT result = object->get_accState(Child(child), &answer);
-        return result == S_OK && answer.vt == VT_I4 ? answer.lVal : -1;
-    }
-    // Answers as texts; "(none)" where there is none, "(error)" where there cannot be one.
-    static std::string Name(const Held<IAccessible>& object, long child)
-    {
-        BSTR answer = nullptr;
-        const HRESULT result = object->get_accName(Child(child), &answer);
-        return Text(result, answer);
-    }
-    static std::string Action(const Held<IAccessible>& object, long child)
-    {
-        BSTR answer = nullptr;
-        const HRESULT result = object->get_accDefaultAction(Child(child), &answer);
-        return Text(result, answer);
-    }
-
-private:
-    static std::string Text(HRESULT result, BSTR answer)
-    {
-        std::string text = FAILED(result) ? "(error)" : "(none)";
-        if (result == S_OK && answer != nullptr)
-        {
-            const std::wstring wide(answer);
-            text.assign(wide.begin(), wide.end());
-        }
-        ::SysFreeString(answer);
-        return text;
-    }
 };
 
 TEST_F(CheckListAccess, EachRowIsACheckButtonWithItsState)
 {
     auto& list = AddList(40, BS_AUTO3STATE);
     const Held<IAccessible> object = Reached(list);
-    ASSERT_TRUE(bool(object));
+    ASSERT_TRUE(object);
     long count = 0;
     EXPECT_EQ(object->get_accChildCount(&count), S_OK);
     EXPECT_EQ(count, 40);
-    EXPECT_EQ(Role(object, CHILDID_SELF), ROLE_SYSTEM_LIST);
-    EXPECT_EQ(Role(object, 1), ROLE_SYSTEM_CHECKBUTTON);
-    EXPECT_EQ(Name(object, 3), "Row 2");
+    EXPECT_EQ(Read(*object, CHILDID_SELF).role, ROLE_SYSTEM_LIST);
+    EXPECT_EQ(Read(*object, 1).role, ROLE_SYSTEM_CHECKBUTTON);
+    EXPECT_EQ(Read(*object, 3).name, "Row 2");
 
     list.SetCheck(1, 1);
     list.SetCheck(2, 2);
     list.Enable(3, FALSE);
     list.SetFocus();
     list.SetCurSel(1);
-    constexpr long looked = STATE_SYSTEM_CHECKED | STATE_SYSTEM_MIXED | STATE_SYSTEM_UNAVAILABLE |
-                            STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN;
-    const auto state = [&](long child) { return State(object, child) & looked; };
-    EXPECT_EQ(state(1), 0);
-    EXPECT_EQ(state(2), STATE_SYSTEM_CHECKED | STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED);
-    EXPECT_EQ(state(3), STATE_SYSTEM_MIXED);
-    EXPECT_EQ(state(4), STATE_SYSTEM_UNAVAILABLE);
-    EXPECT_EQ(state(40), STATE_SYSTEM_OFFSCREEN);
+    EXPECT_EQ(Read(*object, 1).state, 0);
+    EXPECT_EQ(Read(*object, 2).state,
+              STATE_SYSTEM_CHECKED | STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED);
+    EXPECT_EQ(Read(*object, 3).state, STATE_SYSTEM_MIXED);
+    EXPECT_EQ(Read(*object, 4).state, STATE_SYSTEM_UNAVAILABLE);
+    EXPECT_EQ(Read(*object, 40).state, STATE_SYSTEM_OFFSCREEN);
     list.EnableWindow(FALSE);
-    EXPECT_NE(state(1) & STATE_SYSTEM_UNAVAILABLE, 0);
+    EXPECT_EQ(Read(*object, 1).state, STATE_SYSTEM_UNAVAILABLE);
     for (const long child : {-1L, 41L, LONG_MAX, LONG_MIN})
     {
-        EXPECT_EQ(Role(object, child), -1) << child;
-        EXPECT_EQ(State(object, child), -1) << child;
-        EXPECT_EQ(Name(object, child), "(error)") << child;
+        const Read absent(*object, child);
+        EXPECT_EQ(absent.role, -1) << child;
+        EXPECT_EQ(absent.state, -1) << child;
+        EXPECT_EQ(absent.name, "(error)") << child;
         EXPECT_EQ(object->accDoDefaultAction(Child(child)), E_INVALIDARG) << child;
     }
 }
@@ -150,12 +131,12 @@ TEST_F(CheckListAccess, TheDefaultActionChangesTheCheck)
 {
     auto& list = AddList(3, BS_AUTO3STATE);
     const Held<IAccessible> object = Reached(list);
-    ASSERT_TRUE(bool(object));
+    ASSERT_TRUE(object);
     std::vector<std::string> actions;
     std::vector<int> checks;
     for (int turn = 0; turn < 3; ++turn)
     {
-        actions.push_back(Action(object, 2));
+        actions.push_back(Read(*object, 2).action);
         EXPECT_EQ(object->accDoDefaultAction(Child(2)), S_OK);
         checks.push_back(list.GetCheck(1));
     }
@@ -164,23 +145,23 @@ TEST_F(CheckListAccess, TheDefaultActionChangesTheCheck)
     EXPECT_EQ(Told(list), 3);
     list.SetCheckStyle(BS_AUTOCHECKBOX);
     list.SetCheck(1, 1);
-    EXPECT_EQ(Action(object, 2), "Uncheck");
+    EXPECT_EQ(Read(*object, 2).action, "Uncheck");
     // Where the user can change nothing, nor can an assistive program.
     list.Enable(0, FALSE);
-    EXPECT_EQ(Action(object, 1), "(none)");
+    EXPECT_EQ(Read(*object, 1).action, "(none)");
     EXPECT_EQ(object->accDoDefaultAction(Child(1)), DISP_E_MEMBERNOTFOUND);
     list.SetCheckStyle(BS_CHECKBOX);
-    EXPECT_EQ(Action(object, 2), "(none)");
+    EXPECT_EQ(Read(*object, 2).action, "(none)");
     EXPECT_EQ(object->accDoDefaultAction(Child(2)), DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(list.GetCheck(1), 1);
     EXPECT_EQ(Told(list), 3);
 }
 
-TEST_F(CheckListAccess, PlacesAndNeighbours)
+TEST_F(CheckListAccess, PlacesFocusAndSelection)
 {
-    auto& list = AddList(8);
+    auto& list = AddList(8, BS_AUTOCHECKBOX, CheckListStyle | LBS_EXTENDEDSEL);
     const Held<IAccessible> object = Reached(list);
-    ASSERT_TRUE(bool(object));
+    ASSERT_TRUE(object);
     long left = 0;
     long top = 0;
     long width = 0;
@@ -198,14 +179,7 @@ TEST_F(CheckListAccess, PlacesAndNeighbours)
     EXPECT_EQ(object->accNavigate(NAVDIR_LASTCHILD, Child(CHILDID_SELF), &answer), S_OK);
     EXPECT_EQ(answer.lVal, 8);
     EXPECT_EQ(object->accNavigate(NAVDIR_NEXT, Child(8), &answer), S_FALSE);
-}
 
-TEST_F(CheckListAccess, FocusAndSelectionAreToldAndTaken)
-{
-    auto& list = AddList(8, BS_AUTOCHECKBOX, CheckListStyle | LBS_EXTENDEDSEL);
-    const Held<IAccessible> object = Reached(list);
-    ASSERT_TRUE(bool(object));
-    VARIANT answer = {};
     EXPECT_EQ(object->get_accFocus(&answer), S_FALSE);
     EXPECT_EQ(object->get_accSelection(&answer), S_FALSE);
     EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(5)), S_OK);
@@ -270,7 +244,7 @@ TEST_F(CheckListAccess, TheObjectOutlivesItsList)
 {
     auto& list = AddList(3);
     const Held<IAccessible> object = Reached(list);
-    ASSERT_TRUE(bool(object));
+    ASSERT_TRUE(object);
     Host().hook = [&](ToldMessage& told) {
         if (told.code == CLBN_CHKCHANGE)
         {
@@ -299,8 +273,8 @@ TEST_F(CheckListAccess, AnotherThreadReadsAndWorksTheChecks)
             const Held<IAccessible> object = Reached(window);
             if (object)
             {
-                seen.push_back(Role(object, 1));
-                seen.push_back(State(object, 2) & STATE_SYSTEM_CHECKED);
+                seen.push_back(Read(*object, 1).role);
+                seen.push_back(Read(*object, 2).state);
                 seen.push_back(object->accDoDefaultAction(Child(3)));
             }
         }

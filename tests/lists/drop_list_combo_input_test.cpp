@@ -1,16 +1,12 @@
 // Real pointer and keyboard on a drop-list combo.
 
-#include "OnBoardUI.h"
 #include "lists/combo_for_tests.h"
 #include "support/DialogTemplate.h"
 #include "support/Scripted.h"
 
 #include <gmock/gmock.h>
 
-#include <afxwin.h>
-
 #include <algorithm>
-#include <vector>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -63,8 +59,7 @@ TEST_P(ComboInMode, AClickOpensTheListTracksAndPicksOnRelease)
 {
     auto& combo = AddCombo(20);
     const HWND active = ::GetActiveWindow();
-    Click(combo.Middle());
-    ASSERT_TRUE(combo.IsExpanded());
+    combo.Open();
     EXPECT_TRUE(combo.List().IsPopupVisible());
     EXPECT_EQ(::GetCapture(), combo.GetSafeHwnd());
     // Right under the combo and as wide; the focus and the activation stay.
@@ -73,13 +68,13 @@ TEST_P(ComboInMode, AClickOpensTheListTracksAndPicksOnRelease)
     EXPECT_EQ(combo.ListRect().Width(), window.Width());
     EXPECT_EQ(ClientRectOf(combo.List()).Height(),
               CCustomComboLBox::DefaultMaxRows * combo.List().GetItemHeight());
-    EXPECT_EQ(::GetFocus(), combo.GetSafeHwnd());
     EXPECT_EQ(::GetActiveWindow(), active);
 
-    MoveTo(combo.RowPoint(3));
-    EXPECT_EQ(combo.List().GetHighlightedRow(), 3);
-    MoveTo(combo.RowPoint(2));
-    EXPECT_EQ(combo.List().GetHighlightedRow(), 2);
+    for (const int row : {3, 2})
+    {
+        MoveTo(combo.RowPoint(row));
+        EXPECT_EQ(combo.List().GetHighlightedRow(), row);
+    }
     MoveTo(Elsewhere);
     EXPECT_EQ(combo.List().GetHighlightedRow(), 2);
     EXPECT_EQ(combo.GetCurSel(), 0);
@@ -95,11 +90,7 @@ TEST_P(ComboInMode, AClickOpensTheListTracksAndPicksOnRelease)
     EXPECT_THAT(TakeCodes(combo), ElementsAre(Told));
     EXPECT_EQ(::GetFocus(), combo.GetSafeHwnd());
     EXPECT_EQ(::GetActiveWindow(), active);
-}
-
-TEST_P(ComboInMode, OnePressFromTheComboIntoTheListPicks)
-{
-    auto& combo = AddCombo(5);
+    // The same in one movement, from the combo into the list.
     MoveTo(combo.Middle());
     Press();
     ASSERT_TRUE(combo.IsExpanded());
@@ -113,13 +104,11 @@ TEST_P(ComboInMode, EveryClickOutsideTheListClosesItAndTells)
 {
     auto& combo = AddCombo(5, 1);
     auto& button = Add<CButton>(CRect(560, 10, 640, 40), BS_PUSHBUTTON, "other");
-    const CPoint places[] = {combo.Middle(), Elsewhere, WindowRectOf(button).CenterPoint(),
-                             CPoint(5, 5)};
-    for (const CPoint& place : places)
+    for (const CPoint place :
+         {combo.Middle(), Elsewhere, WindowRectOf(button).CenterPoint(), CPoint(5, 5)})
     {
-        Click(combo.Middle());
+        combo.Open();
         MoveTo(combo.RowPoint(3));
-        ASSERT_TRUE(combo.IsExpanded());
         Click(place);
         EXPECT_FALSE(combo.IsExpanded());
         EXPECT_EQ(::GetCapture(), nullptr);
@@ -132,7 +121,7 @@ TEST_P(ComboInMode, EveryClickOutsideTheListClosesItAndTells)
 TEST_P(ComboInMode, TheListsBarScrollsAndAPressOnItPicksNothing)
 {
     auto& combo = AddCombo(50);
-    Click(combo.Middle());
+    combo.Open();
     const CRect list = combo.ListRect();
     const int inBar = COnBoardUIGeneral::InOnBoardMode() ? 20 : 8;
     const CPoint down(list.right - inBar, list.bottom - inBar);
@@ -235,29 +224,31 @@ TEST_P(ComboInMode, AltDownOpensAndClosesEnterPicksEscapeDismisses)
     }
 }
 
-TEST_P(ComboInMode, LosingTheFocusClosesAndTells)
+TEST_P(ComboInMode, LosingFocusOrCaptureOrBeingDisabledClosesAndTells)
 {
     auto& combo = AddCombo(5);
-    Click(combo.Middle());
-    Host().SetFocus();
-    PumpAll();
-    EXPECT_FALSE(combo.IsExpanded());
-    EXPECT_EQ(::GetCapture(), nullptr);
-    EXPECT_THAT(TakeCodes(combo), ElementsAre(Told));
-    // So does disabling, and another window that takes the mouse.
-    Click(combo.Middle());
-    combo.EnableWindow(FALSE);
-    PumpAll();
-    EXPECT_FALSE(combo.IsExpanded());
-    Click(combo.Middle());
-    EXPECT_FALSE(combo.IsExpanded()) << "disabled";
-    combo.EnableWindow(TRUE);
-    Click(combo.Middle());
-    ASSERT_TRUE(combo.IsExpanded());
-    Host().SetCapture();
-    EXPECT_FALSE(combo.IsExpanded());
+    const struct
+    {
+        const char* name;
+        std::function<void()> act;
+    } losses[] = {{"focus", [&] { Host().SetFocus(); }},
+                  {"disabled", [&] { combo.EnableWindow(FALSE); }},
+                  {"capture", [&] { Host().SetCapture(); }}};
+    for (const auto& loss : losses)
+    {
+        combo.EnableWindow(TRUE);
+        combo.Open();
+        loss.act();
+        PumpAll();
+        EXPECT_FALSE(combo.IsExpanded()) << loss.name;
+        EXPECT_NE(::GetCapture(), combo.GetSafeHwnd()) << loss.name;
+        EXPECT_THAT(TakeCodes(combo), testing::Contains(Told)) << loss.name;
+    }
     EXPECT_EQ(::GetCapture(), Host().GetSafeHwnd());
     ::ReleaseCapture();
+    combo.EnableWindow(FALSE);
+    Click(combo.Middle());
+    EXPECT_FALSE(combo.IsExpanded());
 }
 
 TEST_F(ComboTest, AComboMayEndInTheFocusChangeOfThePressThatOpensIt)
@@ -290,7 +281,6 @@ TEST_P(ComboInMode, AListOpenedWithoutTheCaptureIsPickedFromAllTheSame)
     EXPECT_EQ(::GetCapture(), nullptr);
     MoveTo(combo.RowPoint(3));
     Press();
-    EXPECT_TRUE(combo.IsExpanded());
     EXPECT_THAT(TakeCodes(combo), IsEmpty());
     Release();
     EXPECT_FALSE(combo.IsExpanded());
@@ -306,33 +296,15 @@ TEST_P(ComboInMode, AListOpenedWithoutTheCaptureIsPickedFromAllTheSame)
         }
     };
     Click(row);
-    Host().hook = nullptr;
     EXPECT_THAT(Host().CodesFrom(FirstId), ElementsAre(Told));
 }
 
-TEST_F(ComboTest, AModeChangeWhileTheListsBarIsHeldGivesTheCaptureBack)
-{
-    const ModeScope mode(ONBOARD);
-    auto& combo = AddCombo(200, 2);
-    Click(combo.Middle());
-    const CRect list = combo.ListRect();
-    MoveTo(CPoint(list.right - 20, list.bottom - 20));
-    Press();
-    ASSERT_TRUE(combo.List().IsBarHeld());
-    COnBoardUIGeneral::SetAppMode(EFB);
-    Release();
-    EXPECT_EQ(::GetCapture(), combo.GetSafeHwnd());
-    Click(Elsewhere);
-    EXPECT_FALSE(combo.IsExpanded());
-    EXPECT_EQ(combo.GetCurSel(), 2);
-}
-
-TEST_F(ComboTest, ADragOfTheThumbThatStraysIntoTheRowsPicksNothing)
+TEST_F(ComboTest, APressOnTheListsBarThatEndsElsewherePicksNothing)
 {
     const ModeScope mode(ONBOARD);
     auto& combo = AddCombo(200);
-    Click(combo.Middle());
-    const CRect list = combo.ListRect();
+    combo.Open();
+    CRect list = combo.ListRect();
     MoveTo(CPoint(list.right - 26, list.top + 60)); // the thumb stands at the top
     Press();
     ASSERT_TRUE(combo.List().IsBarHeld());
@@ -341,11 +313,17 @@ TEST_F(ComboTest, ADragOfTheThumbThatStraysIntoTheRowsPicksNothing)
     DragTo(CPoint(list.left + 20, list.top + 120));
     ASSERT_TRUE(PumpUntil([&] { return ::GetCapture() == combo.GetSafeHwnd(); }));
     Release();
-    EXPECT_TRUE(combo.IsExpanded());
-    EXPECT_EQ(combo.GetCurSel(), 0);
-    TypeKey(VK_ESCAPE);
+    EXPECT_TRUE(combo.IsExpanded()) << "the thumb was dragged into the rows";
+
+    MoveTo(CPoint(list.right - 20, list.bottom - 20));
+    Press();
+    ASSERT_TRUE(combo.List().IsBarHeld());
+    COnBoardUIGeneral::SetAppMode(EFB);
+    Release();
+    EXPECT_EQ(::GetCapture(), combo.GetSafeHwnd()) << "the mode changed under the press";
+    Click(Elsewhere);
     EXPECT_FALSE(combo.IsExpanded());
-    Remove(combo);
+    EXPECT_EQ(combo.GetCurSel(), 0);
 }
 
 TEST_F(ComboTest, AnOpenListKeepsEnterAndEscapeFromTheDialog)
@@ -362,7 +340,6 @@ TEST_F(ComboTest, AnOpenListKeepsEnterAndEscapeFromTheDialog)
             auto* const combo = CCustomDropListCombo::FromWindow(::GetDlgItem(dialog, 7));
             ASSERT_NE(combo, nullptr);
             combo->AddString("one");
-            combo->AddString("two");
             combo->SetFocus();
             // Also in a loop that asks only the platform.
             combo->ToggleDropList();

