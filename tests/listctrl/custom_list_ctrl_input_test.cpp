@@ -1,6 +1,6 @@
-// Real presses, holds, drags, turns, keys and clicks on a report list.
+// Real input on a report list: what lists/own_bars_test.cpp does not say of every list with bars of
+// its own.
 
-#include "OnBoardUI.h"
 #include "listctrl/list_for_tests.h"
 
 #include <gmock/gmock.h>
@@ -11,66 +11,28 @@ namespace {
 
 constexpr auto First = CFauxScrollBar::PRESSED_FIRST;
 constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
-constexpr auto Thumb = CFauxScrollBar::PRESSED_THUMB;
 
 } // namespace
 
-TEST_F(ListCtrlTest, EveryOnBoardModeScrollsByPointerAndWheel)
+TEST_F(ListCtrlOnBoard, TheWheelCountsUpToANotchAndAnArrowGoesATenthSideways)
 {
-    for (const APPMODE mode : {FULLSCREEN, ONBOARD, EFB, EFBFS})
+    auto& list = AddList(500, 8);
+    MoveTo(ClientPoint(list, list.RowPoint(3)));
+    const struct
     {
-        const ModeScope scope(mode);
-        auto& list = AddList(500, 8);
-        Click(list.PartPoint(Second));
-        EXPECT_EQ(list.TopRow(), 1) << APPMODE_NAMES[mode];
-        Click(list.PartPoint(Second)); // fast enough to be a double click
-        EXPECT_EQ(list.TopRow(), 2);
-        Click(list.PartPoint(First));
-        EXPECT_EQ(list.TopRow(), 1);
-        const CRect second = list.m_vBar.GetPartArea(Second);
-        Click(WindowPoint(list, CPoint(second.CenterPoint().x, second.top - 10)));
-        EXPECT_EQ(list.TopRow(), 1 + list.m_vBar.GetPageSize()) << "trough";
-        const CRect first = list.m_vBar.GetPartArea(First);
-        list.PerformVScroll(SB_BOTTOM);
-        Click(WindowPoint(list, CPoint(first.CenterPoint().x, first.bottom + 10)));
-        EXPECT_EQ(list.TopRow(), list.Maximum(SB_VERT) - list.m_vBar.GetPageSize());
-        list.PerformVScroll(SB_TOP);
-        Wheel(-WHEEL_DELTA);
-        EXPECT_EQ(list.TopRow(), 1);
-        Wheel(-60);
-        EXPECT_EQ(list.TopRow(), 1) << "half a notch is not enough";
-        Wheel(-60);
-        EXPECT_EQ(list.TopRow(), 2);
-        Wheel(WHEEL_DELTA * 3);
-        EXPECT_EQ(list.TopRow(), 1) << "a turn of any size is one row";
-        Click(list.PartPoint(Second, SB_HORZ));
-        EXPECT_EQ(list.m_drawOffset.x, -(ClientRectOf(list).Width() / 10));
-        Click(list.PartPoint(First, SB_HORZ));
-        EXPECT_EQ(list.m_drawOffset.x, 0);
-        list.ExpectInStep(APPMODE_NAMES[mode]);
-        Remove(list);
+        int turn;
+        int top;
+    } turns[] = {{-WHEEL_DELTA, 1}, {-60, 1}, {-60, 2}, {WHEEL_DELTA * 3, 1}};
+    for (const auto& step : turns)
+    {
+        Wheel(step.turn);
+        EXPECT_EQ(list.TopRow(), step.top) << step.turn;
     }
-}
-
-TEST_F(ListCtrlOnBoard, AHeldArrowWaitsThenRepeatsToTheEndOfTheList)
-{
-    auto& list = AddList(30);
-    MoveTo(list.PartPoint(Second));
-    Press();
-    EXPECT_EQ(list.TopRow(), 1);
-    PumpFor(200);
-    EXPECT_EQ(list.TopRow(), 1) << "the first repeat comes after 300 ms";
-    const int end = list.Maximum(SB_VERT);
-    ASSERT_TRUE(PumpUntil([&] { return list.TopRow() == end; }, 6000));
-    PumpFor(300);
-    EXPECT_EQ(list.TopRow(), end);
-    // All rows are to be seen there.
-    EXPECT_LE(list.RowPoint(29).y, ClientRectOf(list).bottom);
-    Release();
-    PumpFor(200);
-    MessageLog log(list, {WM_TIMER});
-    PumpFor(300);
-    EXPECT_EQ(log.Count(WM_TIMER), 0);
+    Click(list.PartPoint(Second, SB_HORZ));
+    EXPECT_EQ(list.m_drawOffset.x, -(ClientRectOf(list).Width() / 10));
+    list.ExpectInStep("one to the right");
+    list.PerformVScroll(SB_BOTTOM);
+    EXPECT_LE(list.RowPoint(499).y, ClientRectOf(list).bottom) << "the last row is in sight";
     list.ExpectInStep("at the end");
 }
 
@@ -111,10 +73,7 @@ TEST_F(ListCtrlOnBoard, AnArrowLetGoElsewhereIsForgotten)
                                               : ListForTests::WindowProc(message, wParam, lParam);
         }
     };
-    auto& list = Add<Untold>(CRect(20, 20, 420, 420), ReportStyle);
-    list.AddColumns(1);
-    list.Fill(100);
-    PumpAll();
+    auto& list = AddList<Untold>(100);
     MoveTo(list.PartPoint(Second));
     Press();
     EXPECT_TRUE(list.m_pressed);
@@ -131,10 +90,7 @@ TEST_F(ListCtrlOnBoard, AnHeirDecidesWhatPressesAndHoldsDo)
         void PerformVScroll(int) override { ++steps; }
         int steps = 0;
     };
-    auto& list = Add<Heir>(CRect(20, 20, 420, 420), ReportStyle);
-    list.AddColumns(1);
-    list.Fill(100);
-    PumpAll();
+    auto& list = AddList<Heir>(100);
     MoveTo(list.PartPoint(Second));
     Press();
     EXPECT_EQ(list.steps, 1);
@@ -160,74 +116,6 @@ TEST_F(ListCtrlOnBoard, ThePressedArrowAndOnlyTheLeftOnesAreHeld)
     EXPECT_NE(held.At(arrow.left + 8, arrow.top + 8), before.At(arrow.left + 8, arrow.top + 8));
     ASSERT_TRUE(PumpUntil([&] { return list.m_hBar.GetScrollPos() >= 3; })) << "it repeats";
     Release();
-}
-
-TEST_F(ListCtrlOnBoard, TheThumbIsDraggedFromEndToEnd)
-{
-    auto& list = AddList(5000, 8);
-    const CPoint grip = list.PartPoint(Thumb) + CPoint(0, 9); // off its middle
-    MoveTo(grip);
-    Press();
-    EXPECT_EQ(list.TopRow(), 0) << "the press alone moves nothing";
-    DragTo(grip + CPoint(0, 40));
-    EXPECT_NEAR(list.TopRow(), 40 / list.m_vBar.GetPixelsPerScroll(), 25);
-    const CRect track = list.m_vBar.GetArea();
-    DragTo(WindowPoint(list, CPoint(track.CenterPoint().x, track.bottom - 5)), 10);
-    EXPECT_GE(list.TopRow(), list.Maximum(SB_VERT) - 2);
-    DragTo(WindowPoint(list, CPoint(track.CenterPoint().x, track.top + 2)), 10);
-    EXPECT_EQ(list.TopRow(), 0);
-    Release();
-    EXPECT_FALSE(list.m_pressed);
-    list.ExpectInStep("dragged");
-
-    const CRect across = list.m_hBar.GetArea();
-    Drag(list.PartPoint(Thumb, SB_HORZ),
-         WindowPoint(list, CPoint(across.right - 5, across.CenterPoint().y)), 10);
-    EXPECT_EQ(list.m_hBar.GetScrollPos(), list.Maximum(SB_HORZ));
-    list.ExpectInStep("sideways");
-    Drag(list.PartPoint(Thumb, SB_HORZ),
-         WindowPoint(list, CPoint(across.left + 3, across.CenterPoint().y)), 10);
-    EXPECT_EQ(list.m_drawOffset.x, 0);
-    // Leaving the band ends a drag.
-    MoveTo(list.PartPoint(Thumb));
-    Press();
-    MoveTo(ClientPoint(Host(), CPoint(700, 500)));
-    ASSERT_TRUE(PumpUntil([&] { return !list.m_pressed; }));
-    Release();
-}
-
-TEST_F(ListCtrlOnBoard, WhateverCutsAPressOffEndsIt)
-{
-    struct
-    {
-        const char* name;
-        void (*cut)(ListForTests&);
-    } const table[] = {{"disabled", [](ListForTests& list) { list.EnableWindow(FALSE); }},
-                       {"hidden", [](ListForTests& list) { list.ShowWindow(SW_HIDE); }},
-                       {"cancelled", [](ListForTests& list) { list.SendMessage(WM_CANCELMODE); }},
-                       {"mode", [](ListForTests& list) {
-                            COnBoardUIGeneral::SetAppMode(STD);
-                            list.SendMessage(WM_NULL);
-                        }}};
-    for (const auto part : {Second, Thumb})
-    {
-        for (const auto& row : table)
-        {
-            auto& list = AddList(500);
-            MoveTo(list.PartPoint(part));
-            Press();
-            ASSERT_TRUE(list.m_pressed) << row.name;
-            row.cut(list);
-            EXPECT_FALSE(list.m_pressed) << row.name;
-            const CPoint offset = list.m_drawOffset;
-            MoveTo(ClientPoint(list, CPoint(100, 100)));
-            PumpFor(350);
-            EXPECT_EQ(list.m_drawOffset, offset) << row.name;
-            Release();
-            COnBoardUIGeneral::SetAppMode(ONBOARD);
-            Remove(list);
-        }
-    }
 }
 
 // Keys -------------------------------------------------------------------------------------------
@@ -297,8 +185,7 @@ TEST_F(ListCtrlOnBoard, ShiftAndPagesSelectRanges)
     // The parent hears of each key once.
     Host().Forget();
     TypeKey(VK_NEXT);
-    const auto codes = Host().CodesFrom(WindowTest::FirstId);
-    EXPECT_EQ(std::count(codes.begin(), codes.end(), UINT(LVN_KEYDOWN)), 1);
+    EXPECT_THAT(Host().CodesFrom(FirstId), testing::Contains(UINT(LVN_KEYDOWN)).Times(1));
 }
 
 TEST_F(ListCtrlOnBoard, EnsureVisibleAndScrollMoveTheDrawing)
@@ -361,8 +248,8 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThere)
     Host().Forget();
     Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
     EXPECT_EQ(list.GetSelectedCount(), 0U);
-    const auto codes = Host().CodesFrom(WindowTest::FirstId);
-    EXPECT_GE(std::count(codes.begin(), codes.end(), UINT(LVN_ITEMCHANGED)), 2);
+    EXPECT_THAT(Host().CodesFrom(FirstId),
+                testing::Contains(UINT(LVN_ITEMCHANGED)).Times(testing::Ge(2)));
 }
 
 namespace {
@@ -392,20 +279,14 @@ protected:
 
 TEST_F(ListCtrlOnBoard, AParentIsToldOfClicksOnTheRowThatIsDrawnThere)
 {
-    auto& list = Add<ListThatNotes>(CRect(20, 20, 420, 420), ReportStyle | LVS_SINGLESEL);
+    auto& list = AddList<ListThatNotes>(100, 2, ReportStyle | LVS_SINGLESEL);
     list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
-    list.AddColumns(2);
-    list.Fill(100);
-    PumpAll();
     list.PerformVScroll(30, 0);
     Click(ClientPoint(list, list.RowPoint(33)));
     Press();
     Release();
     EXPECT_GE(list.clicked.size(), 3U);
-    for (const int row : list.clicked)
-    {
-        EXPECT_EQ(row, 33);
-    }
+    EXPECT_THAT(list.clicked, testing::Each(33));
     EXPECT_EQ(list.Selected(), std::set<int>{33});
 }
 
@@ -414,23 +295,25 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheScrolledRows)
     auto& list = AddList(100);
     list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
     list.PerformVScroll(20, 0);
-    const auto clickWith = [&](int row, UINT held) {
-        const CPoint point = list.RowPoint(row);
+    const struct
+    {
+        int row;
+        UINT held;
+        std::set<int> selected;
+    } clicks[] = {{22, 0, {22}},
+                  {25, MK_SHIFT, {22, 23, 24, 25}},
+                  {24, MK_CONTROL, {22, 23, 25}},
+                  {28, MK_CONTROL, {22, 23, 25, 28}},
+                  {23, 0, {23}}};
+    for (const auto& click : clicks)
+    {
+        const CPoint point = list.RowPoint(click.row);
         MoveTo(ClientPoint(list, point));
-        list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | held, MAKELPARAM(point.x, point.y));
-        list.SendMessage(WM_LBUTTONUP, held, MAKELPARAM(point.x, point.y));
+        list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | click.held, MAKELPARAM(point.x, point.y));
+        list.SendMessage(WM_LBUTTONUP, click.held, MAKELPARAM(point.x, point.y));
         PumpAll();
-    };
-    clickWith(22, 0);
-    EXPECT_EQ(list.Selected(), std::set<int>{22});
-    clickWith(25, MK_SHIFT);
-    EXPECT_EQ(list.Selected(), (std::set<int>{22, 23, 24, 25}));
-    clickWith(24, MK_CONTROL);
-    EXPECT_EQ(list.Selected(), (std::set<int>{22, 23, 25}));
-    clickWith(28, MK_CONTROL);
-    EXPECT_EQ(list.Selected(), (std::set<int>{22, 23, 25, 28}));
-    clickWith(23, 0);
-    EXPECT_EQ(list.Selected(), std::set<int>{23});
+        EXPECT_EQ(list.Selected(), click.selected) << click.row;
+    }
 }
 
 TEST_F(ListCtrlOnBoard, AListWithoutAHeaderScrollsAndIsClicked)
@@ -448,26 +331,4 @@ TEST_F(ListCtrlOnBoard, AListWithoutAHeaderScrollsAndIsClicked)
     CRect client = ClientRectOf(list);
     EXPECT_LE((99 - list.TopRow() + 1) * list.RowHeight(), client.bottom);
     EXPECT_EQ(list.PlatformTop(), 0);
-}
-
-TEST_F(ListCtrlOnBoard, ADialogRestylesAListWithItsChildren)
-{
-    COnBoardUIGeneral::SetAppMode(STD);
-    auto& list = AddList(200, 3, ReportStyle, CRect(10, 10, 210, 170));
-    list.EnsureVisible(199, FALSE);
-    list.EnsureVisible(100, FALSE);
-    list.SetItemState(102, 3, 3);
-    for (const APPMODE mode : {ONBOARD, STD})
-    {
-        COnBoardUIGeneral::SetAppMode(mode);
-        ModifyChildWndsData change;
-        change.parent = Host();
-        change.scale = mode == STD ? 1 / 1.7 : 1.7;
-        change.mode = mode;
-        ModifyChildsForAppMode(list, reinterpret_cast<LPARAM>(&change));
-        PumpAll();
-        EXPECT_EQ(mode == STD ? list.GetTopIndex() : list.TopRow(), 100);
-        EXPECT_EQ(list.GetColumnWidth(0), mode == STD ? 60 : 102);
-    }
-    COnBoardUIGeneral::SetAppMode(ONBOARD);
 }

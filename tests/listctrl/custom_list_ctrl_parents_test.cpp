@@ -27,7 +27,6 @@ TEST_F(ListCtrlOnBoard, ValuesOutOfRangeAreAnsweredAndHarmless)
     {
         column.cx = width;
         list.InsertColumn(1, &column);
-        PumpAll();
         list.DeleteColumn(1);
     }
     list.SendMessage(LVM_INSERTCOLUMN, 0, 0);
@@ -45,34 +44,53 @@ TEST_F(ListCtrlOnBoard, ValuesOutOfRangeAreAnsweredAndHarmless)
         list.PerformHScroll(position, 0);
         PumpAll();
     }
-    list.SetWindowPos(nullptr, 0, 0, 3, 3, SWP_NOMOVE | SWP_NOZORDER);
-    list.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOZORDER);
-    list.SetWindowPos(nullptr, 0, 0, 400, 300, SWP_NOMOVE | SWP_NOZORDER);
+    for (const CSize size : {CSize(3, 3), CSize(0, 0), CSize(400, 300)})
+    {
+        list.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+    }
     PumpAll();
     list.ExpectInStep("small and large again");
 }
 
 TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
 {
-    struct
+    const struct
     {
         const char* name;
-        void (*act)(ListForTests&);
-    } const acts[] = {{"destroyed", [](ListForTests& list) { list.DestroyWindow(); }},
-                      {"rows gone", [](ListForTests& list) { list.DeleteAllItems(); }},
-                      {"columns gone",
-                       [](ListForTests& list) {
-                           while (list.DeleteColumn(0))
-                           {}
-                       }},
-                      {"other mode", [](ListForTests&) { COnBoardUIGeneral::SetAppMode(STD); }}};
+        std::function<void(ListForTests&)> act;
+    } acts[] = {{"destroyed", [](ListForTests& list) { list.DestroyWindow(); }},
+                {"deleted", [this](ListForTests& list) { Remove(list); }},
+                {"rows gone", [](ListForTests& list) { list.DeleteAllItems(); }},
+                {"columns gone",
+                 [](ListForTests& list) {
+                     while (list.DeleteColumn(0))
+                     {}
+                 }},
+                {"other mode", [](ListForTests&) { COnBoardUIGeneral::SetAppMode(STD); }}};
+    const auto clickRow = [](ListForTests& list) {
+        Click(ClientPoint(list, list.RowPoint(list.TopRow() + 2)));
+    };
+    const struct
+    {
+        const char* name;
+        UINT code;
+        std::function<void(ListForTests&)> bring;
+    } notifications[] = {
+        {"row changed", UINT(LVN_ITEMCHANGED), clickRow},
+        {"click", UINT(NM_CLICK), clickRow},
+        {"focus", UINT(NM_SETFOCUS), clickRow},
+        {"key", UINT(LVN_KEYDOWN), [](ListForTests&) { TypeKey(VK_NEXT); }},
+        {"row inserted", UINT(LVN_INSERTITEM), [](ListForTests& list) { list.InsertItem(0, ""); }},
+        {"heading", UINT(LVN_COLUMNCLICK),
+         [](ListForTests& list) { Click(ClientPoint(list, CPoint(40, 8))); }}};
     for (const auto& act : acts)
     {
-        for (const UINT code : {UINT(LVN_ITEMCHANGED), UINT(LVN_KEYDOWN), UINT(LVN_INSERTITEM),
-                                UINT(LVN_COLUMNCLICK), UINT(NM_CLICK), UINT(NM_SETFOCUS)})
+        for (const auto& notification : notifications)
         {
+            SCOPED_TRACE(testing::Message() << act.name << " in " << notification.name);
             auto& list = AddList(100, 8);
-            if (code != UINT(NM_SETFOCUS))
+            const HWND window = list;
+            if (notification.code != UINT(NM_SETFOCUS))
             {
                 list.SetFocus();
             }
@@ -80,85 +98,27 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
             list.PerformVScroll(SB_PAGEDOWN);
             bool done = false;
             Host().hook = [&](ToldMessage& told) {
-                if (told.code == code && !done)
+                if (told.code == notification.code && !std::exchange(done, true))
                 {
-                    done = true;
                     act.act(list);
                 }
             };
-            if (code == UINT(LVN_INSERTITEM))
-            {
-                list.InsertItem(0, "new");
-            }
-            else if (code == UINT(LVN_COLUMNCLICK))
-            {
-                Click(ClientPoint(list, CPoint(40, 8)));
-            }
-            else if (code == UINT(LVN_KEYDOWN))
-            {
-                TypeKey(VK_NEXT);
-            }
-            else
-            {
-                Click(ClientPoint(list, list.RowPoint(list.TopRow() + 2)));
-            }
+            notification.bring(list);
             PumpAll();
-            EXPECT_TRUE(done) << act.name << " " << int(code);
+            EXPECT_TRUE(done);
             Host().hook = nullptr;
-            if (list.GetSafeHwnd() != nullptr && COnBoardUIGeneral::InOnBoardMode() &&
-                list.GetItemCount() > 0 && list.m_header.GetItemCount() > 0)
+            if (::IsWindow(window))
             {
-                list.ExpectInStep(act.name);
+                if (list.GetItemCount() > 0 && list.m_header.GetItemCount() > 0 &&
+                    COnBoardUIGeneral::InOnBoardMode())
+                {
+                    list.ExpectInStep("afterwards");
+                }
+                ::DestroyWindow(window);
             }
-            Remove(list);
             COnBoardUIGeneral::SetAppMode(ONBOARD);
+            Host().SetFocus();
         }
-    }
-}
-
-TEST_F(ListCtrlOnBoard, AParentMayDeleteTheListObjectInANotification)
-{
-    for (const UINT code : {UINT(LVN_ITEMCHANGED), UINT(LVN_KEYDOWN), UINT(LVN_INSERTITEM),
-                            UINT(LVN_COLUMNCLICK), UINT(HDN_TRACKA)})
-    {
-        auto* list = &AddList(100, 8);
-        list->SetFocus();
-        list->SetItemState(0, 3, 3);
-        const CPoint row = ClientPoint(*list, list->RowPoint(2));
-        const CPoint heading = ClientPoint(*list, CPoint(40, 8));
-        Host().hook = [&](ToldMessage& told) {
-            if (told.code == code && list != nullptr)
-            {
-                Remove(*std::exchange(list, nullptr));
-            }
-        };
-        if (code == UINT(LVN_INSERTITEM))
-        {
-            list->InsertItem(0, "new");
-        }
-        else if (code == UINT(LVN_COLUMNCLICK))
-        {
-            Click(heading);
-        }
-        else if (code == UINT(LVN_KEYDOWN))
-        {
-            TypeKey(VK_NEXT);
-        }
-        else if (code == UINT(LVN_ITEMCHANGED))
-        {
-            Click(row);
-        }
-        else
-        {
-            // What the header tells its list stays there; the list goes in the middle of a drag.
-            MoveTo(list->DividerPoint(0));
-            Press();
-            Remove(*std::exchange(list, nullptr));
-            DragTo(heading);
-            Release();
-        }
-        EXPECT_EQ(list, nullptr) << int(code);
-        Host().hook = nullptr;
     }
 }
 
@@ -178,9 +138,7 @@ struct FencedList : ListForTests
 
 TEST_F(ListCtrlOnBoard, AParentMayDeleteTheListObjectWhileARangeIsSelected)
 {
-    auto* list = &Add<FencedList>(CRect(20, 20, 420, 420), ReportStyle);
-    list->AddColumns(3);
-    list->Fill(100);
+    auto* list = &AddList<FencedList>(100);
     list->SetFocus();
     list->SetItemState(3, 3, 3); // not the range that began at 0
     list->SetSelectionMark(0);
@@ -207,10 +165,7 @@ TEST_F(ListCtrlOnBoard, ARangeEndsAtTheLastRowWhereverItsMarkIs)
                        : ListForTests::WindowProc(message, wParam, lParam);
         }
     };
-    auto& list = Add<WildMark>(CRect(20, 20, 420, 420), ReportStyle);
-    list.AddColumns(1);
-    list.Fill(50);
-    PumpAll();
+    auto& list = AddList<WildMark>(50);
     list.SetFocus();
     list.SetItemState(5, 3, 3);
     TypeKey(VK_PRIOR, VK_SHIFT);
