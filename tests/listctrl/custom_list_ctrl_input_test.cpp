@@ -9,7 +9,6 @@ using testing::ElementsAre;
 
 namespace {
 
-constexpr auto First = CFauxScrollBar::PRESSED_FIRST;
 constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
 
 } // namespace
@@ -97,25 +96,6 @@ TEST_F(ListCtrlOnBoard, AnHeirDecidesWhatPressesAndHoldsDo)
     EXPECT_TRUE(PumpUntil([&] { return list.steps > 1; })) << "held";
     Release();
     EXPECT_EQ(list.m_drawOffset.y, 0);
-}
-
-TEST_F(ListCtrlOnBoard, ThePressedArrowAndOnlyTheLeftOnesAreHeld)
-{
-    auto& list = AddList(100, 8);
-    MoveTo(list.PartPoint(First, SB_HORZ));
-    Press();
-    EXPECT_TRUE(list.m_pressed);
-    Release();
-    EXPECT_FALSE(list.m_pressed);
-    MoveTo(list.PartPoint(Second, SB_HORZ));
-    const Pixels before = WindowPixels(list);
-    Press();
-    EXPECT_FALSE(list.m_pressed) << "the right arrow is not";
-    const CRect arrow = list.m_hBar.GetPartArea(Second);
-    const Pixels held = WindowPixels(list);
-    EXPECT_NE(held.At(arrow.left + 8, arrow.top + 8), before.At(arrow.left + 8, arrow.top + 8));
-    ASSERT_TRUE(PumpUntil([&] { return list.m_hBar.GetScrollPos() >= 3; })) << "it repeats";
-    Release();
 }
 
 // Keys -------------------------------------------------------------------------------------------

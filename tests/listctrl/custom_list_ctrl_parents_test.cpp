@@ -1,6 +1,7 @@
 // Bad input, and parents that take rows, columns or the list away in the middle of things.
 
 #include "listctrl/list_for_tests.h"
+#include "support/Fenced.h"
 
 #include <utility>
 
@@ -122,23 +123,9 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
     }
 }
 
-namespace {
-
-// A list whose memory cannot be touched any more once it is deleted.
-struct FencedList : ListForTests
-{
-    static void* operator new(size_t size)
-    {
-        return ::VirtualAlloc(nullptr, size, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE);
-    }
-    static void operator delete(void* memory) { ::VirtualFree(memory, 0, MEM_RELEASE); }
-};
-
-} // namespace
-
 TEST_F(ListCtrlOnBoard, AParentMayDeleteTheListObjectWhileARangeIsSelected)
 {
-    auto* list = &AddList<FencedList>(100);
+    auto* list = &AddList<Fenced<ListForTests>>(100);
     list->SetFocus();
     list->SetItemState(3, 3, 3); // not the range that began at 0
     list->SetSelectionMark(0);

@@ -166,18 +166,6 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
     EXPECT_EQ(list.m_vBar.GetScrollPos(), 0);
 }
 
-TEST_F(ListCtrlOnBoard, TheFirstRowBringsTheColumnsHome)
-{
-    auto& list = AddList(0, 10);
-    list.ReCheckScrollBars();
-    ASSERT_TRUE(list.m_hBar.ShowScrollBar());
-    list.PerformHScroll(SB_LINERIGHT);
-    EXPECT_LT(HeaderAccess::Offset(list.m_header).x, 0);
-    list.InsertItem(0, "first");
-    EXPECT_EQ(list.m_drawOffset.x, 0);
-    list.ExpectInStep("first row");
-}
-
 // Only what is in sight --------------------------------------------------------------------------
 
 TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
@@ -336,8 +324,4 @@ TEST_F(ListCtrlTest, ItIsMadeOfAnExistingListAndByName)
         EXPECT_TRUE(::IsWindow(::GetDlgItem(window, 0))) << "the header is the list's";
         ::DestroyWindow(window);
     }
-    std::unique_ptr<CObject> made(RUNTIME_CLASS(CCustomListCtrl)->CreateObject());
-    EXPECT_TRUE(made->IsKindOf(RUNTIME_CLASS(CListCtrl)));
-    std::unique_ptr<CObject> header(RUNTIME_CLASS(CCustomListCtrlHdr)->CreateObject());
-    EXPECT_TRUE(header->IsKindOf(RUNTIME_CLASS(CHeaderCtrl)));
 }

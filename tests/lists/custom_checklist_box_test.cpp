@@ -367,7 +367,6 @@ TEST_F(CheckListTest, EachStateHasItsPicture)
         list.SetCheck(1, 1);
         list.SetCheck(2, 2);
         list.Enable(3, FALSE);
-        list.SetCheck(4, 1);
         list.SetCheck(5, 1);
         list.Enable(5, FALSE);
         PumpAll();
@@ -376,11 +375,9 @@ TEST_F(CheckListTest, EachStateHasItsPicture)
         EXPECT_EQ(empty.At(middle, middle), RGB(180, 180, 180));
         EXPECT_EQ(empty.At(side - 1, middle), RGB(220, 220, 220));
         EXPECT_EQ(empty.At(2, side), RGB(26, 26, 26)) << "of the ground, not of the picture";
-        EXPECT_EQ(empty, box(7));
         EXPECT_FALSE(empty == box(1));
         EXPECT_EQ(box(1).At(middle, middle), RGB(26, 26, 26));
         EXPECT_FALSE(box(1) == box(2));
-        EXPECT_EQ(box(1), box(4));
         EXPECT_EQ(box(3).At(middle, middle), RGB(100, 100, 100));
         EXPECT_EQ(box(5).At(middle, middle), RGB(70, 70, 70));
         list.SetCurSel(0);

@@ -16,57 +16,6 @@ Pixels LeftOfRows(CListBox& list)
 
 // Modes -----------------------------------------------------------------------------------------
 
-TEST_F(ListBoxTest, TheHorizontalBarComesBackAfterTheStandardMode)
-{
-    for (const APPMODE born : {STD, ONBOARD})
-    {
-        COnBoardUIGeneral::SetAppMode(born);
-        auto& list = AddList(3, WideListStyle);
-        list.AddString(WideText);
-        int standardWidth = 0;
-        for (const APPMODE mode : {STD, ONBOARD, STD, EFB, STD})
-        {
-            SetMode(mode, list);
-            EXPECT_EQ(list.m_hBarNeeded, mode != STD) << APPMODE_NAMES[born];
-            if (mode == STD)
-            {
-                // No extent was set, so the platform's list shows no bar.
-                EXPECT_EQ(list.GetStyle() & WS_HSCROLL, 0U);
-                const int width = ClientRectOf(list).Height();
-                EXPECT_EQ(standardWidth == 0 ? width : standardWidth, width);
-                standardWidth = width;
-            }
-        }
-        Remove(list);
-    }
-    auto& narrow = AddList(3, ListStyle);
-    narrow.AddString(WideText);
-    SetMode(ONBOARD, narrow);
-    EXPECT_FALSE(narrow.m_hBarNeeded) << "not asked for";
-    SetMode(STD, narrow);
-    // The same for lists that were there before.
-    for (const DWORD bar : {DWORD(WS_HSCROLL), DWORD(0)})
-    {
-        for (const APPMODE bound : {STD, ONBOARD})
-        {
-            COnBoardUIGeneral::SetAppMode(bound);
-            auto& plain = Add<CListBox>(CRect(340, 20, 640, 320), ListStyle | bar);
-            plain.AddString(WideText);
-            ListBoxForTests list;
-            ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
-            for (const APPMODE mode : {STD, ONBOARD, STD, EFB, STD})
-            {
-                SetMode(mode, list);
-                PumpAll();
-                EXPECT_EQ(list.m_hBarNeeded, mode != STD && bar != 0) << APPMODE_NAMES[bound];
-                EXPECT_EQ(list.GetStyle() & WS_HSCROLL, 0U);
-                EXPECT_EQ(list.GetHorizontalExtent(), 0);
-            }
-            list.DestroyWindow();
-        }
-    }
-}
-
 TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
 {
     auto& list = AddList(3, WideListStyle);
@@ -103,36 +52,68 @@ TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
     SetMode(STD, list);
 }
 
-TEST_F(ListBoxTest, ColumnsStayWhereTheyAreWhenTheModeChanges)
+TEST_F(ListBoxTest, ColumnsStayWhereTheyAreAndAreCountedAnew)
 {
     auto& list = AddList(400, ColumnsStyle);
     list.SetColumnWidth(80);
     list.SendMessage(WM_HSCROLL, SB_PAGERIGHT);
     ASSERT_GT(list.GetTopIndex(), 0);
     SetMode(ONBOARD, list);
-    const int top = list.GetTopIndex();
-    EXPECT_GT(top, 0);
+    EXPECT_GT(list.GetTopIndex(), 0);
     EXPECT_GT(list.m_hBar.GetScrollPos(), 0);
+    const CPoint wide = RangeOf(list.m_hBar);
+    list.SetColumnWidth(45);
+    const CPoint slim = RangeOf(list.m_hBar);
+    EXPECT_LT(slim.y, wide.y);
+    list.ReCheckScrollBars();
+    EXPECT_EQ(RangeOf(list.m_hBar), slim);
     SetMode(STD, list);
     EXPECT_GT(list.GetTopIndex(), 0);
 }
 
-TEST_F(ListBoxTest, AnObjectsNextWindowBeginsAfresh)
+namespace {
+
+// One object for several windows, one after the other.
+class ListBoxInTurn : public ListBoxTest
 {
-    const CRect place(20, 20, 320, 320);
+protected:
     ListBoxForTests list;
-    const auto create = [&](DWORD style) {
-        ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | style, place, &Host(), 77));
+
+    void Create(DWORD style, bool fill = true)
+    {
+        ASSERT_TRUE(
+            list.Create(WS_CHILD | WS_VISIBLE | style, CRect(20, 20, 320, 320), &Host(), 77));
+        if (fill)
+        {
+            list.Fill(100);
+            list.AddString(WideText);
+        }
         PumpAll();
-    };
-    const auto fill = [&] {
-        list.Fill(100);
-        list.AddString(WideText);
-    };
+    }
+
+    // Of the window as it shows a selection.
+    int HighlightedPixels()
+    {
+        PumpAll();
+        ::SendMessage(list, LB_SETCURSEL, 1, 0);
+        ::UpdateWindow(list);
+        return WindowPixels(list).Count(::GetSysColor(COLOR_HIGHLIGHT));
+    }
+
+    void TearDown() override
+    {
+        list.DestroyWindow();
+        COnBoardUIGeneral::SetAppMode(STD);
+        ListBoxTest::TearDown();
+    }
+};
+
+} // namespace
+
+TEST_F(ListBoxInTurn, TheNextWindowBeginsAfresh)
+{
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-    create(WideListStyle);
-    fill();
-    PumpAll();
+    Create(WideListStyle);
     ASSERT_TRUE(list.m_hBarNeeded && list.m_vBarNeeded);
     list.ScrollTo(SB_HORZ, 5);
     list.SetRedraw(FALSE);
@@ -140,68 +121,56 @@ TEST_F(ListBoxTest, AnObjectsNextWindowBeginsAfresh)
 
     // A window made without bars is not given those of the one before.
     COnBoardUIGeneral::SetAppMode(STD);
-    create(LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
+    Create(LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
     EXPECT_EQ(list.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
-    EXPECT_EQ(ClientRectOf(list).Width(), place.Width());
-    fill();
+    EXPECT_EQ(ClientRectOf(list).Width(), 300);
     SetMode(ONBOARD, list);
     EXPECT_FALSE(list.m_hBarNeeded);
     EXPECT_TRUE(list.m_vBarNeeded);
-    // A filling whose end is still on its way.
-    list.AddString("One more");
+    list.AddString("One more"); // a filling whose end is still on its way
     list.DestroyWindow();
 
     // Rows are added at once again, and the frame is that of an empty list.
-    create(WideListStyle);
+    Create(WideListStyle, false);
     EXPECT_FALSE(list.m_vBar.ShowScrollBar());
     EXPECT_FALSE(list.m_hBar.ShowScrollBar());
     MessageLog log(list, {WM_SETREDRAW});
-    fill();
+    list.AddString(WideText);
     PumpAll();
     EXPECT_EQ(log.Count(WM_SETREDRAW), 1) << "the end of the filling";
     EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
+}
 
-    // Let go of in the middle of a drag: the next window is not dragged.
+TEST_F(ListBoxInTurn, AWindowLetGoOfInTheMiddleOfSomethingLeavesNothing)
+{
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    Create(ListStyle);
     MoveTo(list.PartPoint(CFauxScrollBar::PRESSED_THUMB));
     Press();
     ASSERT_TRUE(list.m_tracking);
     ::DestroyWindow(list.UnsubclassWindow());
-    create(ListStyle);
-    fill();
+    Create(ListStyle);
     MoveTo(WindowPoint(list, CPoint(270, 150)));
     DragTo(WindowPoint(list, CPoint(270, 200)), 5);
-    EXPECT_EQ(list.GetTopIndex(), 0);
+    EXPECT_EQ(list.GetTopIndex(), 0) << "the next window is not dragged";
     Release();
 
-    // Let go of in the middle of a filling: the next one keeps its redraw off.
+    // Of a filling: the next one keeps its redraw off.
     list.AddString("One more");
     const HWND first = list.UnsubclassWindow();
     auto& plain = Add<CListBox>(CRect(340, 20, 640, 320), ListStyle);
     plain.SetRedraw(FALSE);
-    const HWND second = plain.Detach();
-    ASSERT_TRUE(list.SubclassWindow(second));
-    const Pixels before = WindowPixels(list);
-    for (int row = 0; row < 5; ++row)
-    {
-        ::SendMessage(second, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("Hidden"));
-    }
-    ::SendMessage(second, LB_SETCURSEL, 1, 0);
-    PumpAll();
-    ::UpdateWindow(second);
-    EXPECT_EQ(WindowPixels(list).Count(::GetSysColor(COLOR_HIGHLIGHT)), 0);
-    // Taken over again before its filling has ended, a list paints afterwards.
+    ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
+    list.Fill(5);
+    EXPECT_EQ(HighlightedPixels(), 0);
     ::DestroyWindow(list.UnsubclassWindow());
+    // Taken over again before its filling has ended, a list paints afterwards.
     ASSERT_TRUE(list.SubclassWindow(first));
     list.SetRedraw(TRUE);
     list.AddString("One more");
     ASSERT_EQ(list.UnsubclassWindow(), first);
     ASSERT_TRUE(list.SubclassWindow(first));
-    PumpAll();
-    ::SendMessage(first, LB_SETCURSEL, 1, 0);
-    ::UpdateWindow(first);
-    EXPECT_GT(WindowPixels(list).Count(::GetSysColor(COLOR_HIGHLIGHT)), 100);
-    list.DestroyWindow();
-    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_GT(HighlightedPixels(), 100);
 }
 
 // Size and content ------------------------------------------------------------------------------
@@ -218,13 +187,9 @@ TEST_F(ListBoxOnBoard, RowsAreNotLeftOutOfSightWhenTheirBarGoes)
     EXPECT_FALSE(list.m_hBarNeeded);
     EXPECT_TRUE(LeftOfRows(list) == unscrolled);
     // Nor are rows above the first in sight, or columns before it.
-    list.Fill(40);
-    list.SetTopIndex(39);
+    list.Fill(27);
+    list.SetTopIndex(29);
     ASSERT_GT(list.GetTopIndex(), 0);
-    while (list.GetCount() > 12)
-    {
-        list.DeleteString(list.GetCount() - 1);
-    }
     list.SetWindowPos(nullptr, 0, 0, 500, 560, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_FALSE(list.m_vBarNeeded);
     EXPECT_EQ(list.GetTopIndex(), 0);
@@ -251,10 +216,8 @@ TEST_F(ListBoxOnBoard, RowsAreNotLeftOutOfSightWhenTheirBarGoes)
 TEST_F(ListBoxOnBoard, BothBarsGoWhenTheContentFitsWithoutThem)
 {
     auto& list = AddList(0, WideListStyle);
-    const int height = list.GetItemHeight(0);
-    const int fit = ClientRectOf(list).Height() / height;
     const int width = ClientRectOf(list).Width();
-    list.Fill(fit + 1);
+    list.Fill(list.VisibleRows() + 1);
     list.SetHorizontalExtent(width + 20);
     ASSERT_TRUE(list.m_vBarNeeded && list.m_hBarNeeded);
     // Fits without the bars, but neither way beside one of them.
@@ -270,19 +233,6 @@ TEST_F(ListBoxOnBoard, BothBarsGoWhenTheContentFitsWithoutThem)
         list.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
         EXPECT_TRUE(list.m_vBarNeeded);
     }
-}
-
-TEST_F(ListBoxOnBoard, ColumnsOfAnotherWidthAreCountedAnew)
-{
-    auto& list = AddList(200, ColumnsStyle);
-    list.SetColumnWidth(140);
-    ASSERT_TRUE(list.m_hBarNeeded);
-    const CPoint wide = RangeOf(list.m_hBar);
-    list.SetColumnWidth(45);
-    const CPoint slim = RangeOf(list.m_hBar);
-    EXPECT_LT(slim.y, wide.y);
-    list.ReCheckScrollBars();
-    EXPECT_EQ(RangeOf(list.m_hBar), slim);
 }
 
 TEST_F(ListBoxOnBoard, DrawnRowsAreMeasuredInTheFontTheyAreDrawnIn)
@@ -323,9 +273,8 @@ public:
 
 TEST_F(ListBoxOnBoard, WidthsAreMeasuredOncePerRow)
 {
-    const DWORD style = WideListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
-    auto& list = Add<ListThatCounts>(CRect(20, 20, 320, 320), style);
-    list.Fill(60);
+    auto& list =
+        AddList<ListThatCounts>(60, WideListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS);
     EXPECT_EQ(list.measured, 60);
     const CPoint before = RangeOf(list.m_vBar);
     for (int row = 0; row < 60; ++row)
@@ -341,8 +290,7 @@ TEST_F(ListBoxOnBoard, WidthsAreMeasuredOncePerRow)
     EXPECT_GE(list.SendMessage(LB_ADDFILE, 0, reinterpret_cast<LPARAM>(self)), 0);
     EXPECT_EQ(list.measured, 121);
 
-    const DWORD noText = WideListStyle | LBS_OWNERDRAWFIXED | LBS_NODATA;
-    auto& count = Add<ListThatCounts>(CRect(340, 20, 640, 320), noText);
+    auto& count = AddList<ListThatCounts>(0, WideListStyle | LBS_OWNERDRAWFIXED | LBS_NODATA);
     count.SendMessage(LB_SETCOUNT, 100000);
     EXPECT_EQ(count.GetCount(), 100000);
     EXPECT_EQ(count.measured, 0);

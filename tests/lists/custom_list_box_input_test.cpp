@@ -40,21 +40,6 @@ TEST_F(ListBoxOnBoard, AHeldArrowRepeatsAlsoWithThePointerElsewhere)
     EXPECT_EQ(list.GetTopIndex(), released - 1);
 }
 
-TEST_F(ListBoxOnBoard, APressReleasedElsewhereLeavesNoTimer)
-{
-    // Also when a derived list waits before the first repeat, and no press goes on.
-    auto& list = AddList(500);
-    MoveTo(ClientPoint(Host(), CPoint(700, 400)));
-    MessageLog log(list, {WM_TIMER});
-    list.SetTimer(CCustomListBox::m_timerInitialWaitID, 20, nullptr);
-    Press();
-    ASSERT_TRUE(PumpUntil([&] { return log.Count(WM_TIMER) > 0; }));
-    Release();
-    log.Clear();
-    PumpFor(300);
-    EXPECT_EQ(log.Count(WM_TIMER), 0);
-}
-
 TEST_F(ListBoxOnBoard, AnotherOnBoardModeEndsAPress)
 {
     auto& list = AddList(500);

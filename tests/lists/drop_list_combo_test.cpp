@@ -62,7 +62,6 @@ TEST_P(ComboInMode, AtTheScreensBottomEdgeTheListOpensUpwards)
     Click(combo.RowPoint(9));
     EXPECT_EQ(combo.GetCurSel(), 9);
     // The height follows the items while there are few, and while it is open.
-    Host().SetWindowPos(nullptr, host.left, host.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     combo.ResetContent();
     combo.ToggleDropList();
     for (const int rows : {1, 2, 3})
@@ -249,14 +248,11 @@ namespace {
 
 constexpr WORD ComboId = 7;
 
-const DialogTemplate& ComboForm()
+DialogTemplate ComboForm()
 {
-    static const DialogTemplate form = [] {
-        CCustomDropListCombo::RegisterWndClass(nullptr);
-        DialogTemplate made(CRect(40, 40, 240, 140), WS_POPUP | WS_CAPTION | WS_VISIBLE);
-        made.Add("CCUSTOMDROPLISTCOMBO", "", WS_TABSTOP, CRect(5, 5, 100, 18), ComboId);
-        return made;
-    }();
+    CCustomDropListCombo::RegisterWndClass(nullptr);
+    DialogTemplate form(CRect(40, 40, 240, 140), WS_POPUP | WS_CAPTION | WS_VISIBLE);
+    form.Add("CCUSTOMDROPLISTCOMBO", "", WS_TABSTOP, CRect(5, 5, 100, 18), ComboId);
     return form;
 }
 
@@ -307,7 +303,7 @@ TEST_F(ComboTest, AComboOfATemplateWorksWithoutAnObjectOfTheHosts)
     dialog.DestroyWindow();
 }
 
-TEST_F(ComboTest, ACombosOwnListAndHeightsOutliveTheClasssObject)
+TEST_F(ComboTest, ACallersListAndTheHeightsOutliveTheClasssObject)
 {
     CDialog dialog;
     ASSERT_TRUE(dialog.CreateIndirect(ComboForm(), &Host()));
@@ -316,14 +312,13 @@ TEST_F(ComboTest, ACombosOwnListAndHeightsOutliveTheClasssObject)
     made->AddString("the class's");
     const int standard = WindowRectOf(*made).Height();
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-    ASSERT_NE(WindowRectOf(*made).Height(), standard);
     {
         CCustomComboLBox list;
         ComboForTests own(&list);
         ASSERT_TRUE(own.SubclassWindow(&dialog, ComboId, 4));
         EXPECT_EQ(&own.List(), &list);
-        EXPECT_EQ(own.GetCount(), 0);
         EXPECT_EQ(own.AddString("the host's"), 0);
+        EXPECT_NE(WindowRectOf(own).Height(), standard);
         COnBoardUIGeneral::SetAppMode(STD);
         EXPECT_EQ(WindowRectOf(own).Height(), standard);
     }
@@ -410,7 +405,7 @@ TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
     EXPECT_EQ(combo.InsertString(0, nullptr), 0); // an empty text
     EXPECT_EQ(combo.GetSize(), 3);
     combo.SetCurSel(1);
-    for (const int absent : {-2, 3, 1 << 30, -(1 << 30)})
+    for (const int absent : {-2, 3, INT_MAX, INT_MIN})
     {
         EXPECT_EQ(combo.RemoveString(absent), CB_ERR);
         EXPECT_EQ(combo.SetCurSel(absent), CB_ERR);
