@@ -230,17 +230,14 @@ TEST_F(ListCtrlTest, ADoubleClickOnADividerGivesTheHeadingsWidth)
 
 TEST_F(ListCtrlOnBoard, ADragThatIsCutOffEndsWithoutAWidth)
 {
-    const struct
-    {
-        const char* name;
-        void (*cut)(ListForTests&);
-    } cuts[] = {{"capture", [](ListForTests&) { ::ReleaseCapture(); }},
-                {"mode", [](ListForTests& list) { SetMode(STD, list); }},
-                {"capture before the list has followed the mode", [](ListForTests& list) {
-                     COnBoardUIGeneral::SetAppMode(STD);
-                     ::ReleaseCapture();
-                     list.SendMessage(WM_NULL);
-                 }}};
+    const Act<ListForTests&> cuts[] = {
+        {"capture", [](ListForTests&) { ::ReleaseCapture(); }},
+        {"mode", [](ListForTests& list) { SetMode(STD, list); }},
+        {"capture before the list has followed the mode", [](ListForTests& list) {
+             COnBoardUIGeneral::SetAppMode(STD);
+             ::ReleaseCapture();
+             list.SendMessage(WM_NULL);
+         }}};
     for (const auto& row : cuts)
     {
         SCOPED_TRACE(row.name);
@@ -250,7 +247,7 @@ TEST_F(ListCtrlOnBoard, ADragThatIsCutOffEndsWithoutAWidth)
         Press();
         DragTo(from + CPoint(30, 0));
         ASSERT_TRUE(list.m_header.IsHotTracking());
-        row.cut(list);
+        row.act(list);
         EXPECT_FALSE(list.m_header.IsHotTracking());
         EXPECT_EQ(::GetCapture(), nullptr);
         SetMode(ONBOARD, list);

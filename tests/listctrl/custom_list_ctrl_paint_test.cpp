@@ -100,11 +100,7 @@ TEST_F(ListCtrlOnBoard, WhatIsOnTheScreenIsWhatAFullPaintGives)
     list.SetExtendedStyle(LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
     list.SetItemState(4, 3, 3);
     PumpAll();
-    struct
-    {
-        const char* name;
-        std::function<void()> act;
-    } const steps[] = {
+    const Act<> steps[] = {
         {"two lines", [&] { list.PerformVScroll(SB_LINEDOWN), list.PerformVScroll(SB_LINEDOWN); }},
         {"line up", [&] { list.PerformVScroll(SB_LINEUP); }},
         {"text", [&] { list.SetItemText(3, 0, "changed"); }},

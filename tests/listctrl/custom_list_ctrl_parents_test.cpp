@@ -55,19 +55,16 @@ TEST_F(ListCtrlOnBoard, ValuesOutOfRangeAreAnsweredAndHarmless)
 
 TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
 {
-    const struct
-    {
-        const char* name;
-        std::function<void(ListForTests&)> act;
-    } acts[] = {{"destroyed", [](ListForTests& list) { list.DestroyWindow(); }},
-                {"deleted", [this](ListForTests& list) { Remove(list); }},
-                {"rows gone", [](ListForTests& list) { list.DeleteAllItems(); }},
-                {"columns gone",
-                 [](ListForTests& list) {
-                     while (list.DeleteColumn(0))
-                     {}
-                 }},
-                {"other mode", [](ListForTests&) { COnBoardUIGeneral::SetAppMode(STD); }}};
+    const Act<ListForTests&> acts[] = {
+        {"destroyed", [](ListForTests& list) { list.DestroyWindow(); }},
+        {"deleted", [this](ListForTests& list) { Remove(list); }},
+        {"rows gone", [](ListForTests& list) { list.DeleteAllItems(); }},
+        {"columns gone",
+         [](ListForTests& list) {
+             while (list.DeleteColumn(0))
+             {}
+         }},
+        {"other mode", [](ListForTests&) { COnBoardUIGeneral::SetAppMode(STD); }}};
     const auto clickRow = [](ListForTests& list) {
         Click(ClientPoint(list, list.RowPoint(list.TopRow() + 2)));
     };
@@ -97,17 +94,10 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
             }
             list.SetItemState(0, 3, 3);
             list.PerformVScroll(SB_PAGEDOWN);
-            bool done = false;
-            Host().hook = [&](ToldMessage& told) {
-                if (told.code == notification.code && !std::exchange(done, true))
-                {
-                    act.act(list);
-                }
-            };
+            const OnceTold done(Host(), notification.code, [&] { act.act(list); });
             notification.bring(list);
             PumpAll();
-            EXPECT_TRUE(done);
-            Host().hook = nullptr;
+            EXPECT_TRUE(bool(done));
             if (::IsWindow(window))
             {
                 if (list.GetItemCount() > 0 && list.m_header.GetItemCount() > 0 &&
@@ -125,19 +115,13 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyOrEndTheListInANotification)
 
 TEST_F(ListCtrlOnBoard, AParentMayDeleteTheListObjectWhileARangeIsSelected)
 {
-    auto* list = &AddList<Fenced<ListForTests>>(100);
-    list->SetFocus();
-    list->SetItemState(3, 3, 3); // not the range that began at 0
-    list->SetSelectionMark(0);
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(LVN_ITEMCHANGED) && list != nullptr)
-        {
-            Remove(*std::exchange(list, nullptr));
-        }
-    };
+    auto& list = AddList<Fenced<ListForTests>>(100);
+    list.SetFocus();
+    list.SetItemState(3, 3, 3); // not the range that began at 0
+    list.SetSelectionMark(0);
+    const OnceTold gone(Host(), UINT(LVN_ITEMCHANGED), [&] { Remove(list); });
     TypeKey(VK_NEXT, VK_SHIFT);
-    EXPECT_EQ(list, nullptr);
-    Host().hook = nullptr;
+    EXPECT_TRUE(bool(gone));
 }
 
 TEST_F(ListCtrlOnBoard, ARangeEndsAtTheLastRowWhereverItsMarkIs)
@@ -175,5 +159,4 @@ TEST_F(ListCtrlOnBoard, AParentMayEndTheListWhileItIsPainted)
     list.SetItemCount(100);
     PumpAll();
     EXPECT_EQ(list.GetSafeHwnd(), nullptr);
-    Host().hook = nullptr;
 }

@@ -125,11 +125,7 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
     const auto resize = [&](int width, int height) {
         list.SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
     };
-    const struct
-    {
-        const char* name;
-        std::function<void()> act;
-    } changes[] = {
+    const Act<> changes[] = {
         {"made", [] {}},
         {"scrolled to the end",
          [&] { list.PerformVScroll(SB_BOTTOM), list.PerformHScroll(SB_RIGHT); }},

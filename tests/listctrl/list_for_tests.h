@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CustomListCtrl.h"
+#include "support/Acts.h"
 #include "support/Bars.h"
 #include "support/Canvas.h"
 #include "support/OnBoard.h"

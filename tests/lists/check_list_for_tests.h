@@ -2,6 +2,7 @@
 
 #include "CustomChecklistBox.h"
 #include "lists/CheckRecords.h"
+#include "support/Acts.h"
 #include "support/OnBoard.h"
 #include "support/Repaint.h"
 #include "support/WindowTest.h"

@@ -2,6 +2,7 @@
 
 #include "CustomComboLBox.h"
 #include "CustomDropListCombo.h"
+#include "support/Acts.h"
 #include "support/WindowTest.h"
 
 #include <string>

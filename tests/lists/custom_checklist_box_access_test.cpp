@@ -245,18 +245,12 @@ TEST_F(CheckListAccess, TheObjectOutlivesItsList)
     auto& list = AddList(3);
     const Held<IAccessible> object = Reached(list);
     ASSERT_TRUE(object);
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == CLBN_CHKCHANGE)
-        {
-            list.DestroyWindow();
-        }
-    };
+    const OnceTold end(Host(), CLBN_CHKCHANGE, [&] { list.DestroyWindow(); });
     EXPECT_EQ(object->accDoDefaultAction(Child(1)), S_OK);
     EXPECT_EQ(list.GetSafeHwnd(), nullptr);
     long count = 0;
     EXPECT_EQ(object->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
     EXPECT_EQ(object->accDoDefaultAction(Child(1)), CO_E_OBJNOTCONNECTED);
-    Host().hook = nullptr;
 }
 
 // As from another program: asked on another thread, answered where the list lives.

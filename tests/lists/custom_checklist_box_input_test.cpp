@@ -201,13 +201,8 @@ TEST_F(CheckListTest, TheParentMayDoAnythingWhenItIsTold)
             const CPoint check = list.CheckPoint(1);
             list.SendMessage(LB_SETCURSEL, 1);
             list.SendMessage(LB_SETCARETINDEX, 1);
-            bool acted = false;
-            Host().hook = [&](ToldMessage& told) {
-                if (told.code == code && !std::exchange(acted, true))
-                {
-                    destroy ? void(list.DestroyWindow()) : list.ResetContent();
-                }
-            };
+            const OnceTold acted(
+                Host(), code, [&] { destroy ? void(list.DestroyWindow()) : list.ResetContent(); });
             if (byKey)
             {
                 list.SetFocus();
@@ -217,7 +212,7 @@ TEST_F(CheckListTest, TheParentMayDoAnythingWhenItIsTold)
             {
                 Click(check);
             }
-            EXPECT_TRUE(acted) << code << byKey;
+            EXPECT_TRUE(bool(acted)) << code << byKey;
             EXPECT_EQ(list.GetSafeHwnd() == nullptr, destroy);
             EXPECT_EQ(list.Records(), 0U);
             Host().hook = nullptr;

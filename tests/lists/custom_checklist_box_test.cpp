@@ -409,11 +409,7 @@ TEST_F(CheckListTest, WhatIsShownIsWhatARepaintWouldShow)
     {
         const ModeScope scope(mode);
         auto& list = AddList(12);
-        const struct
-        {
-            const char* name;
-            std::function<void()> act;
-        } steps[] = {
+        const Act<> steps[] = {
             {"checked", [&] { list.SetCheck(3, 1); }},
             {"disabled under the focus",
              [&] { list.SetFocus(), list.SetCurSel(2), list.Enable(2, FALSE); }},

@@ -181,12 +181,7 @@ TEST_F(ListBoxOnBoard, AParentMayDestroyTheListInItsNotification)
     {
         auto& list = AddList(300);
         list.SetFocus();
-        Host().hook = [&](ToldMessage& told) {
-            if (told.code == LBN_SELCHANGE)
-            {
-                list.DestroyWindow();
-            }
-        };
+        const OnceTold end(Host(), LBN_SELCHANGE, [&] { list.DestroyWindow(); });
         byKey ? TypeKey(VK_DOWN) : Click(ClientPoint(list, CPoint(30, 30)));
         EXPECT_EQ(list.GetSafeHwnd(), nullptr) << byKey;
     }

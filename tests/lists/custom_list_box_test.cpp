@@ -130,11 +130,7 @@ TEST_F(ListBoxOnBoard, WhatIsShownIsWhatARepaintWouldShow)
     const auto resize = [&](int width, int height) {
         list.SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
     };
-    const struct
-    {
-        const char* name;
-        std::function<void()> act;
-    } steps[] = {
+    const Act<> steps[] = {
         {"between two rows in sight", [&] { list.AddString("Row 01"), list.UpdateWindow(); }},
         {"first, and painted at once by the platform",
          [&] { list.InsertString(0, "First"), list.SetCurSel(2); }},

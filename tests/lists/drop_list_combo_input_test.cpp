@@ -209,13 +209,9 @@ TEST_P(ComboInMode, AltDownOpensAndClosesEnterPicksEscapeDismisses)
 TEST_P(ComboInMode, LosingFocusOrCaptureOrBeingDisabledClosesAndTells)
 {
     auto& combo = AddCombo(5);
-    const struct
-    {
-        const char* name;
-        std::function<void()> act;
-    } losses[] = {{"focus", [&] { Host().SetFocus(); }},
-                  {"disabled", [&] { combo.EnableWindow(FALSE); }},
-                  {"capture", [&] { Host().SetCapture(); }}};
+    const Act<> losses[] = {{"focus", [&] { Host().SetFocus(); }},
+                            {"disabled", [&] { combo.EnableWindow(FALSE); }},
+                            {"capture", [&] { Host().SetCapture(); }}};
     for (const auto& loss : losses)
     {
         combo.EnableWindow(TRUE);
@@ -237,15 +233,9 @@ TEST_F(ComboTest, AComboMayEndInTheFocusChangeOfThePressThatOpensIt)
 {
     auto& combo = Add<Fenced<ComboForTests>>(CRect(50, 50, 250, 80));
     Add<CEdit>(CRect(560, 10, 640, 40)).SetFocus();
-    bool ended = false;
-    Host().hook = [&](ToldMessage& message) {
-        if (message.code == EN_KILLFOCUS && !std::exchange(ended, true))
-        {
-            Remove(combo);
-        }
-    };
+    const OnceTold ended(Host(), EN_KILLFOCUS, [&] { Remove(combo); });
     Click(combo.Middle());
-    EXPECT_TRUE(ended);
+    EXPECT_TRUE(bool(ended));
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
@@ -265,12 +255,7 @@ TEST_P(ComboInMode, AListOpenedWithoutTheCaptureIsPickedFromAllTheSame)
     // The combo may end in that, which ends the list in the middle of its click.
     combo.DoDropButton();
     const CPoint row = combo.RowPoint(1);
-    Host().hook = [&](ToldMessage& message) {
-        if (message.code == CBN_SELCHANGE)
-        {
-            Remove(combo);
-        }
-    };
+    const OnceTold end(Host(), Told, [&] { Remove(combo); });
     Click(row);
     EXPECT_THAT(Host().CodesFrom(FirstId), ElementsAre(Told));
 }

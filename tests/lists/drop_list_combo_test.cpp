@@ -128,11 +128,7 @@ TEST_P(ComboInMode, AnOpenComboMayEndAndTellsNothing)
 
 TEST_P(ComboInMode, AComboMayEndInEveryNotification)
 {
-    const struct
-    {
-        const char* name;
-        std::function<void(ComboForTests&)> act;
-    } endings[] = {
+    const Act<ComboForTests&> endings[] = {
         {"pick", [](ComboForTests& combo) { Click(combo.RowPoint(2)); }},
         {"click outside", [this](ComboForTests&) { Click(Elsewhere); }},
         {"Escape", [](ComboForTests&) { TypeKey(VK_ESCAPE); }},
@@ -151,16 +147,10 @@ TEST_P(ComboInMode, AComboMayEndInEveryNotification)
         {
             ComboForTests& combo = AddCombo(5);
             combo.Open();
-            bool told = false;
-            Host().hook = [&](ToldMessage& message) {
-                if (message.code == CBN_SELCHANGE && !std::exchange(told, true))
-                {
-                    object ? Remove(combo) : void(combo.DestroyWindow());
-                }
-            };
+            const OnceTold told(Host(), CBN_SELCHANGE,
+                                [&] { object ? Remove(combo) : void(combo.DestroyWindow()); });
             ending.act(combo);
-            Host().hook = nullptr;
-            EXPECT_TRUE(told) << ending.name;
+            EXPECT_TRUE(bool(told)) << ending.name;
             EXPECT_EQ(::GetCapture(), nullptr) << ending.name;
             PumpAll();
             if (!object)
@@ -174,20 +164,16 @@ TEST_P(ComboInMode, AComboMayEndInEveryNotification)
 TEST_P(ComboInMode, AHostMayActOnTheComboInItsNotification)
 {
     auto& combo = AddCombo(5);
-    Host().hook = [&](ToldMessage& message) {
-        if (message.code == CBN_SELCHANGE)
-        {
-            EXPECT_FALSE(combo.IsExpanded());
-            COnBoardUIGeneral::SetAppMode(GetParam() == STD ? ONBOARD : STD);
-            combo.SetCurSel(1);
-            combo.RemoveString(0);
-        }
-    };
+    const OnceTold act(Host(), CBN_SELCHANGE, [&] {
+        EXPECT_FALSE(combo.IsExpanded());
+        COnBoardUIGeneral::SetAppMode(GetParam() == STD ? ONBOARD : STD);
+        combo.SetCurSel(1);
+        combo.RemoveString(0);
+    });
     combo.Open();
     Click(combo.RowPoint(4));
     EXPECT_STREQ(combo.GetSelString(), "Item 1");
     EXPECT_THAT(Host().CodesFrom(FirstId), ElementsAre(CBN_SELCHANGE));
-    Host().hook = nullptr;
     // Open, by its program: nothing is told, also when the items go away meanwhile.
     Host().Forget();
     combo.ToggleDropList();

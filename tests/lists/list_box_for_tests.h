@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CustomListBox.h"
+#include "support/Acts.h"
 #include "support/Bars.h"
 #include "support/OnBoard.h"
 #include "support/Repaint.h"

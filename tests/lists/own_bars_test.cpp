@@ -167,14 +167,11 @@ TYPED_TEST(OwnBars, APressThatLeavesTheBandEnds)
 
 TYPED_TEST(OwnBars, WhateverCutsAPressOffEndsIt)
 {
-    const struct
-    {
-        const char* name;
-        void (*cut)(TypeParam&);
-    } cuts[] = {{"disabled", [](TypeParam& list) { list.EnableWindow(FALSE); }},
-                {"hidden", [](TypeParam& list) { list.ShowWindow(SW_HIDE); }},
-                {"cancelled", [](TypeParam& list) { list.SendMessage(WM_CANCELMODE); }},
-                {"standard mode", [](TypeParam& list) { SetMode(STD, list); }}};
+    const Act<TypeParam&> cuts[] = {
+        {"disabled", [](TypeParam& list) { list.EnableWindow(FALSE); }},
+        {"hidden", [](TypeParam& list) { list.ShowWindow(SW_HIDE); }},
+        {"cancelled", [](TypeParam& list) { list.SendMessage(WM_CANCELMODE); }},
+        {"standard mode", [](TypeParam& list) { SetMode(STD, list); }}};
     for (const auto part : {Second, Thumb})
     {
         for (const auto& row : cuts)
@@ -183,7 +180,7 @@ TYPED_TEST(OwnBars, WhateverCutsAPressOffEndsIt)
             auto& list = this->AddList();
             this->PressOn(list, part);
             ASSERT_TRUE(list.IsBarPressed());
-            row.cut(list);
+            row.act(list);
             EXPECT_FALSE(list.IsBarPressed());
             const int top = list.TopRow();
             MessageLog log(list, {WM_TIMER});
