@@ -162,6 +162,20 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
     EXPECT_EQ(list.m_vBar.GetScrollPos(), 0);
 }
 
+TEST_F(ListCtrlOnBoard, AnEmptiedListAndItsFirstRowBringTheColumnsHome)
+{
+    auto& list = AddList(20, 10);
+    list.PerformHScroll(SB_LINERIGHT);
+    list.DeleteAllItems();
+    EXPECT_EQ(HeaderAccess::Offset(list.m_header), CPoint(0, 0));
+    list.ReCheckScrollBars();
+    list.PerformHScroll(SB_LINERIGHT);
+    ASSERT_LT(HeaderAccess::Offset(list.m_header).x, 0);
+    list.InsertItem(0, "first");
+    EXPECT_EQ(list.m_drawOffset.x, 0);
+    list.ExpectInStep("first row");
+}
+
 // Only what is in sight --------------------------------------------------------------------------
 
 TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
@@ -205,15 +219,16 @@ TEST_F(ListCtrlTest, SwitchingModesKeepsTopRowAndSelectionInSight)
     list.SetItemState(44, 3, 3);
     for (const APPMODE mode : {ONBOARD, EFB, STD, FULLSCREEN, STD})
     {
-        COnBoardUIGeneral::SetAppMode(mode);
+        const auto top = [&] { return mode == STD ? list.GetTopIndex() : list.TopRow(); };
+        SetMode(mode, list);
+        EXPECT_EQ(top(), 40) << APPMODE_NAMES[mode];
         // As a dialog restyles it.
         list.SetFont(mode == STD ? &CCustomListCtrl::GetStdFont()
                                  : &CCustomListCtrl::GetOnBoardFont());
         const int height = mode == STD ? 300 : 510;
         list.SetWindowPos(nullptr, 0, 0, 400, height, SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED);
         PumpAll();
-        const int top = mode == STD ? list.GetTopIndex() : list.TopRow();
-        EXPECT_EQ(top, 40) << APPMODE_NAMES[mode];
+        EXPECT_EQ(top(), 40) << APPMODE_NAMES[mode];
         EXPECT_EQ(list.Selected(), std::set<int>{44});
         if (mode != STD)
         {

@@ -296,7 +296,8 @@ TEST_F(ComboTest, ACallersListAndTheHeightsOutliveTheClasssObject)
     auto* const made = CCustomDropListCombo::FromWindow(::GetDlgItem(dialog, ComboId));
     ASSERT_NE(made, nullptr);
     made->AddString("the class's");
-    const int standard = WindowRectOf(*made).Height();
+    constexpr int standard = 70; // as the host has it, not as the combo would
+    made->SetWindowPos(nullptr, 0, 0, 200, standard, SWP_NOMOVE | SWP_NOZORDER);
     COnBoardUIGeneral::SetAppMode(ONBOARD);
     {
         CCustomComboLBox list;
