@@ -61,22 +61,21 @@ TEST_F(ListCtrlOnBoard, SortArrowsPointUpAndDown)
 {
     HeaderForTests header;
     const CRect item(10, 0, 110, 30);
+    const struct
     {
-        Canvas up(120, 40);
-        header.DrawOBSortArrow(&up.DC(), item, HDF_SORTUP | HDF_SORTDOWN);
-        EXPECT_EQ(up.At(92, 5), palette::SortArrow) << "the apex";
-        EXPECT_EQ(up.At(83, 24), palette::SortArrow);
-        EXPECT_EQ(up.At(102, 24), palette::SortArrow);
-        EXPECT_EQ(up.At(92, 24), palette::SortArrow);
-        EXPECT_EQ(up.At(83, 5), Canvas::Untouched);
-        EXPECT_EQ(up.At(92, 15), Canvas::Untouched) << "an outline";
-    }
+        int format;
+        int apex;
+        int base;
+    } arrows[] = {{HDF_SORTUP | HDF_SORTDOWN, 5, 24}, {HDF_SORTDOWN, 24, 5}};
+    for (const auto& arrow : arrows)
     {
-        Canvas down(120, 40);
-        header.DrawOBSortArrow(&down.DC(), item, HDF_SORTDOWN);
-        EXPECT_EQ(down.At(92, 24), palette::SortArrow);
-        EXPECT_EQ(down.At(83, 5), palette::SortArrow);
-        EXPECT_EQ(down.At(83, 24), Canvas::Untouched);
+        Canvas canvas(120, 40);
+        header.DrawOBSortArrow(&canvas.DC(), item, arrow.format);
+        EXPECT_EQ(canvas.At(92, arrow.apex), palette::SortArrow);
+        EXPECT_EQ(canvas.At(83, arrow.base), palette::SortArrow);
+        EXPECT_EQ(canvas.At(102, arrow.base), palette::SortArrow);
+        EXPECT_EQ(canvas.At(83, arrow.apex), Canvas::Untouched);
+        EXPECT_EQ(canvas.At(92, 15), Canvas::Untouched) << "an outline";
     }
     Canvas none(120, 40);
     header.DrawOBSortArrow(&none.DC(), item, HDF_STRING);

@@ -49,6 +49,10 @@ TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
     SetMode(EFB, list);
     EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
     EXPECT_TRUE(LeftOfRows(list) == onBoard);
+    // The bar goes with the row that was too wide.
+    EXPECT_TRUE(list.m_hBarNeeded);
+    list.DeleteString(4);
+    EXPECT_FALSE(list.m_hBarNeeded);
     SetMode(STD, list);
 }
 
@@ -211,6 +215,24 @@ TEST_F(ListBoxOnBoard, RowsAreNotLeftOutOfSightWhenTheirBarGoes)
     const Pixels end = LeftOfRows(list);
     list.ScrollTo(SB_HORZ, range.y);
     EXPECT_TRUE(LeftOfRows(list) == end);
+}
+
+TEST_F(ListBoxOnBoard, RowsAndHorizontalBarAgreeAfterAResetAndAnotherFont)
+{
+    auto& list = AddList(3, WideListStyle);
+    list.SetHorizontalExtent(2000);
+    const Pixels unscrolled = LeftOfRows(list);
+    list.ScrollTo(SB_HORZ, 30);
+    EXPECT_FALSE(LeftOfRows(list) == unscrolled);
+    list.ResetContent();
+    list.Fill(3);
+    EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
+    EXPECT_TRUE(LeftOfRows(list) == unscrolled);
+    list.ScrollTo(SB_HORZ, 20);
+    list.SetFont(&CCustomListBox::GetOnBoardFont());
+    const Pixels scrolled = LeftOfRows(list);
+    list.ScrollTo(SB_HORZ, 20);
+    EXPECT_TRUE(LeftOfRows(list) == scrolled);
 }
 
 TEST_F(ListBoxOnBoard, BothBarsGoWhenTheContentFitsWithoutThem)

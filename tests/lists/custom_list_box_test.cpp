@@ -75,33 +75,6 @@ TEST_F(ListBoxOnBoard, BarFollowsEveryWayOfScrollingAndResizing)
     }
 }
 
-TEST_F(ListBoxOnBoard, WideRowsScrollSideways)
-{
-    auto& list = AddList(3, WideListStyle);
-    EXPECT_FALSE(list.m_hBarNeeded);
-    list.AddString(WideText);
-    ASSERT_TRUE(list.m_hBarNeeded);
-    PumpAll();
-    const CRect client = ClientRectOf(list);
-    const auto rowPixels = [&] {
-        PumpAll();
-        return ScreenPixels(CRect(WindowPoint(list, CPoint(0, 0)), CSize(240, 120)));
-    };
-    const Pixels before = rowPixels();
-    list.SendMessage(WM_HSCROLL, SB_LINERIGHT);
-    EXPECT_EQ(list.m_hBar.GetScrollPos(), 1);
-    EXPECT_FALSE(rowPixels() == before);
-    list.SendMessage(WM_HSCROLL, SB_LEFT);
-    EXPECT_TRUE(rowPixels() == before);
-
-    // Both bars: narrower by the vertical band, which may ask for the horizontal one.
-    list.Fill(100);
-    EXPECT_TRUE(list.m_vBarNeeded);
-    EXPECT_EQ(ClientRectOf(list).Width(), client.Width() - 52);
-    list.DeleteString(3);
-    EXPECT_FALSE(list.m_hBarNeeded);
-}
-
 // Looks -----------------------------------------------------------------------------------------
 
 TEST_F(ListBoxOnBoard, TheFrameIsPaintedFromEdgeToEdge)
