@@ -6,7 +6,9 @@
 
 root=${root:-$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)}
 wine_folder=$root/build/wine
-screen=1280x1024x24
+# ONBOARDUI_SCREEN and ONBOARDUI_DPI give another size in pixels and another resolution in dots per
+# inch, which programs see that say that they are aware of it.
+screen=${ONBOARDUI_SCREEN:-1280x1024}x24
 
 display_pid=
 server_pid=
@@ -180,6 +182,11 @@ start_server() {
     wait_until test -e "$ready" || fail "The Wine desktop did not start."
 }
 
+# The server must not run yet: it keeps the registry and writes it when it ends.
+set_resolution() {
+    sed -i "s/^\"LogPixels\"=.*/\"LogPixels\"=dword:$(printf %08x "$1")/" "$WINEPREFIX"/{user,system}.reg
+}
+
 # start_wine [--windowed] [PREFIX]: display, prefix and server for this run. PREFIX names a folder
 # to use and keep. --windowed is for the user's own display, where a window manager runs.
 start_wine() {
@@ -212,6 +219,7 @@ start_wine() {
     else
         start_display
     fi
+    [[ -n ${ONBOARDUI_DPI-} ]] && set_resolution "$ONBOARDUI_DPI"
     start_server
 }
 
