@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
@@ -15,16 +14,20 @@ protected:
     {
         auto& tree = Add<TreeForTests>(CRect(20, 20, 220, 220), TreeStyle);
         m_items = AddItems(tree, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
-        for (int letter = 0; letter < 3; ++letter)
+        for (const char letter : {'0', '1', '2'})
         {
-            const std::string wide(60, char('0' + letter));
-            tree.InsertItem(wide.c_str());
+            tree.InsertItem(std::string(60, letter).c_str());
         }
-        tree.SetFocus();
-        tree.SelectItem(nullptr);
-        PumpAll();
-        Host().Forget();
+        Begin(tree);
         return tree;
+    }
+
+    // A press in empty space that has begun to stretch its band over the item beside it.
+    PressScript Band(const CTreeCtrl& tree, HTREEITEM beside, std::vector<UINT> held = {})
+    {
+        PressScript script(EmptyBeside(tree, beside), std::move(held));
+        script.Move(script.start - CPoint(30, -5));
+        return script;
     }
 
     std::vector<HTREEITEM> m_items;
@@ -33,32 +36,34 @@ protected:
 TEST_F(MultiTreeInputTest, ClicksSelectAsTheKeysSay)
 {
     auto& tree = AddTree();
-    ClickItem(tree, b);
-    EXPECT_EQ(SelectedTexts(tree), "b");
-    ClickItem(tree, d, {VK_CONTROL});
-    ClickItem(tree, f, {VK_CONTROL});
-    EXPECT_EQ(SelectedTexts(tree), "bdf");
-    ClickItem(tree, d, {VK_CONTROL});
-    EXPECT_EQ(SelectedTexts(tree), "bf") << "a second click with Ctrl takes it out";
-    EXPECT_EQ(tree.GetFocusedItem(), d) << "and leaves it the caret";
-    ClickItem(tree, f, {VK_SHIFT});
-    EXPECT_EQ(SelectedTexts(tree), "def") << "from the caret";
-    ClickItem(tree, b, {VK_SHIFT});
-    EXPECT_EQ(SelectedTexts(tree), "bcd") << "the other way from the same anchor";
-    ClickItem(tree, f);
-    ClickItem(tree, b, {VK_CONTROL});
-    ClickItem(tree, c, {VK_SHIFT, VK_CONTROL});
-    EXPECT_EQ(SelectedTexts(tree), "bcf") << "with both keys the others stay";
-    ClickItem(tree, e);
-    EXPECT_EQ(SelectedTexts(tree), "e");
+    const struct
+    {
+        HTREEITEM item;
+        std::vector<UINT> keys;
+        const char* selected;
+        const char* what;
+    } clicks[] = {
+        {d, {VK_SHIFT}, "d", "neither anchor nor caret"},
+        {b, {}, "b", "alone"},
+        {d, {VK_CONTROL}, "bd", "added"},
+        {f, {VK_CONTROL}, "bdf", "added"},
+        {d, {VK_CONTROL}, "bf", "taken out, but for the caret"},
+        {f, {VK_SHIFT}, "def", "from the caret"},
+        {b, {VK_SHIFT}, "bcd", "the other way from the same anchor"},
+        {f, {}, "f", "alone"},
+        {b, {VK_CONTROL}, "bf", "added"},
+        {c, {VK_SHIFT, VK_CONTROL}, "bcf", "with both keys the others stay"},
+        {e, {}, "e", "alone"},
+    };
+    for (const auto& click : clicks)
+    {
+        ClickItem(tree, click.item, click.keys);
+        EXPECT_EQ(SelectedTexts(tree), click.selected) << click.what;
+    }
     tree.refused = f;
     ClickItem(tree, f, {VK_CONTROL});
     EXPECT_EQ(SelectedTexts(tree), "e");
     EXPECT_EQ(tree.GetFocusedItem(), f);
-
-    tree.SelectItem(nullptr);
-    ClickItem(tree, d, {VK_SHIFT});
-    EXPECT_EQ(SelectedTexts(tree), "d") << "neither anchor nor caret";
 }
 
 TEST_F(MultiTreeInputTest, AClickTellsTheParentInOrder)
@@ -72,12 +77,9 @@ TEST_F(MultiTreeInputTest, AClickTellsTheParentInOrder)
     EXPECT_THAT(Codes(), ElementsAre(Changing, Changed, int(NM_CLICK)));
     Host().Forget();
     ClickItem(tree, d, {VK_SHIFT});
-    const std::vector<int> codes = Codes();
-    EXPECT_EQ(std::count(codes.begin(), codes.end(), Changing) -
-                  std::count(codes.begin(), codes.end(), Changed),
-              3)
+    EXPECT_EQ(CountOf(Changing) - CountOf(Changed), 3)
         << "a range of three is asked for and not told";
-    EXPECT_EQ(codes.back(), int(NM_CLICK));
+    EXPECT_EQ(Codes().back(), int(NM_CLICK));
 }
 
 TEST_F(MultiTreeInputTest, TheRightButtonKeepsASelectionAndOpensOneMenu)
@@ -107,10 +109,7 @@ TEST_F(MultiTreeInputTest, TheKeyboardFocusSelectsNothing)
         tree.SelectItem(nullptr);
         Host().SetFocus();
         tree.CTreeCtrl::SelectItem(nullptr);
-        if (selected != nullptr)
-        {
-            tree.SetItemState(selected, TVIS_SELECTED, TVIS_SELECTED);
-        }
+        tree.SetItemState(selected, TVIS_SELECTED, TVIS_SELECTED);
         ASSERT_EQ(tree.GetFocusedItem(), nullptr);
     };
     for (const UINT key : {VK_CONTROL, VK_SHIFT})
@@ -120,50 +119,47 @@ TEST_F(MultiTreeInputTest, TheKeyboardFocusSelectsNothing)
         EXPECT_EQ(::GetFocus(), tree.GetSafeHwnd());
         EXPECT_EQ(SelectedTexts(tree), "") << key;
     }
-    rest(a);
-    const CPoint beside = EmptyBeside(tree, e);
-    PressScript(beside, {VK_CONTROL}).Move(beside + CPoint(10, 5)).Release();
-    EXPECT_EQ(SelectedTexts(tree), "a") << "what was selected stays so";
+    for (const HTREEITEM selected : {HTREEITEM(nullptr), a})
+    {
+        rest(selected);
+        PressScript(EmptyBeside(tree, e), {VK_CONTROL}).Release();
+        EXPECT_EQ(tree.IsSelected(a), selected != nullptr) << "what was selected stays so";
+        EXPECT_LE(tree.GetSelectedCount(), 1U);
+    }
 }
 
 TEST_F(MultiTreeInputTest, APressIsADragOnceItMovesFarEnough)
 {
-    struct Case
-    {
-        int pixels; // from the first move on
-        int last;   // notification
-    };
-    const int threshold = ::GetSystemMetrics(SM_CXDRAG);
-    const Case cases[] = {{threshold - 1, int(NM_CLICK)}, {threshold + 1, int(TVN_BEGINDRAG)}};
     auto& tree = AddTree();
-    for (const Case& press : cases)
+    CPoint start;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(TVN_BEGINDRAG))
+        {
+            const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
+            EXPECT_EQ(notify.itemNew.hItem, d);
+            EXPECT_EQ(ClientPoint(tree, notify.ptDrag), start);
+        }
+    };
+    const auto pull = [&](HTREEITEM item, CPoint by) {
+        Host().Forget();
+        start = PointOf(tree, item);
+        PressScript(start).Pull(by).Release();
+        EXPECT_TRUE(tree.IsSelected(item));
+        return Codes().empty() ? 0 : Codes().back();
+    };
+    const CPoint threshold(::GetSystemMetrics(SM_CXDRAG), ::GetSystemMetrics(SM_CYDRAG));
+    for (const CPoint way : {CPoint(1, 0), CPoint(0, 1)})
     {
         tree.SelectItem(nullptr);
-        Host().Forget();
-        CPoint start;
-        Host().hook = [&](ToldMessage& told) {
-            if (told.code == UINT(TVN_BEGINDRAG))
-            {
-                const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
-                EXPECT_EQ(notify.itemNew.hItem, d);
-                EXPECT_EQ(ClientPoint(tree, notify.ptDrag), start);
-            }
+        const auto along = [&](int more) {
+            return CPoint(way.x * (threshold.x + more), way.y * (threshold.y + more));
         };
-        start = PointOf(tree, d);
-        PressScript(start)
-            .Move(start + CPoint(1, 0))
-            .Move(start + CPoint(1 + press.pixels, 0))
-            .Release();
-        ASSERT_FALSE(Codes().empty());
-        EXPECT_EQ(Codes().back(), press.last) << press.pixels << " pixels";
-        EXPECT_EQ(SelectedTexts(tree), "d");
+        EXPECT_EQ(pull(d, along(-1)), int(NM_CLICK)) << way.x;
+        EXPECT_EQ(pull(d, along(1)), int(TVN_BEGINDRAG)) << way.x;
     }
     tree.ModifyStyle(0, TVS_DISABLEDRAGDROP);
-    Host().Forget();
-    const CPoint start = PointOf(tree, e);
-    PressScript(start).Move(start + CPoint(1, 0)).Move(start + CPoint(20, 0)).Release();
+    pull(e, CPoint(20, 0));
     EXPECT_EQ(CountOf(int(TVN_BEGINDRAG)), 0);
-    EXPECT_EQ(SelectedTexts(tree), "e");
 }
 
 TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
@@ -171,17 +167,15 @@ TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
     auto& tree = AddTree();
     // Escape and a capture that somebody takes make it neither a click nor a drag.
     PressScript(PointOf(tree, d)).Do([] { TypeKey(VK_ESCAPE); }).Release();
-    EXPECT_EQ(CountOf(int(NM_CLICK)), 0);
     PressScript(PointOf(tree, e)).Do([&] { Host().SetCapture(); }).Release();
     ::ReleaseCapture();
     EXPECT_EQ(CountOf(int(NM_CLICK)), 0);
 
     // The item goes between press and release; the click is told without it.
-    Host().Forget();
     Host().hook = [&](ToldMessage& told) {
         if (told.code == UINT(NM_CLICK))
         {
-            EXPECT_EQ(reinterpret_cast<NMTREEVIEW*>(told.lParam)->itemNew.hItem, nullptr);
+            EXPECT_EQ(ItemOf(told), nullptr);
         }
     };
     PressScript(PointOf(tree, d)).Do([&] { tree.DeleteItem(d); }).Release();
@@ -194,7 +188,6 @@ TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
     PumpAll();
 
     PressScript(PointOf(tree, e)).Do([] { COnBoardUIGeneral::SetAppMode(ONBOARD); }).Release();
-    EXPECT_EQ(COnBoardUIGeneral::GetAppMode(), ONBOARD);
     COnBoardUIGeneral::SetAppMode(STD);
     PumpAll();
 
@@ -205,37 +198,24 @@ TEST_F(MultiTreeInputTest, ArrowsMoveExtendOrPassTheSelection)
 {
     auto& tree = AddTree();
     ClickItem(tree, b);
-    TypeKey(VK_DOWN);
-    EXPECT_EQ(SelectedTexts(tree), "c");
-    TypeKey(VK_DOWN, VK_SHIFT);
-    TypeKey(VK_DOWN, VK_SHIFT);
-    EXPECT_EQ(SelectedTexts(tree), "cde");
-    TypeKey(VK_UP, VK_SHIFT);
-    EXPECT_EQ(SelectedTexts(tree), "cd") << "back towards the anchor";
-    Host().Forget();
-    TypeKey(VK_DOWN, VK_CONTROL);
-    EXPECT_EQ(SelectedTexts(tree), "cd") << "Ctrl moves the caret alone";
-    EXPECT_EQ(tree.GetFocusedItem(), e);
-    EXPECT_EQ(Codes().back(), Changed);
-    TypeKey(VK_UP);
-    EXPECT_EQ(SelectedTexts(tree), "d");
-    EXPECT_EQ(tree.GetFocusedItem(), d);
-}
-
-TEST_F(MultiTreeInputTest, ATreeWithoutAParentIsClickedAsWell)
-{
-    TreeForTests tree;
-    ASSERT_TRUE(tree.CWnd::CreateEx(0, WC_TREEVIEW, "", WS_POPUP | WS_VISIBLE | TreeStyle, 500, 300,
-                                    200, 200, nullptr, nullptr));
-    const auto items = AddItems(tree, "abc");
-    PumpAll();
-    ClickItem(tree, items[0]);
-    ClickItem(tree, items[2], {VK_CONTROL});
-    EXPECT_EQ(SelectedTexts(tree), "ac");
-    const CPoint start = PointOf(tree, items[0]);
-    PressScript(start).Move(start + CPoint(1, 0)).Move(start + CPoint(20, 0)).Release();
-    EXPECT_EQ(SelectedTexts(tree), "ac") << "a drag that nobody is told of";
-    tree.DestroyWindow();
+    const struct
+    {
+        UINT key, held;
+        const char* selected;
+        HTREEITEM caret;
+    } keys[] = {
+        {VK_DOWN, 0, "c", c},           {VK_DOWN, VK_SHIFT, "cd", d},
+        {VK_DOWN, VK_SHIFT, "cde", e},  {VK_UP, VK_SHIFT, "cd", d}, // back towards the anchor
+        {VK_DOWN, VK_CONTROL, "cd", e}, {VK_UP, 0, "d", d},         // Ctrl moves the caret alone
+    };
+    for (const auto& [key, held, selected, caret] : keys)
+    {
+        Host().Forget();
+        TypeKey(key, held);
+        EXPECT_EQ(SelectedTexts(tree), selected) << key << ' ' << held;
+        EXPECT_EQ(tree.GetFocusedItem(), caret) << key << ' ' << held;
+        EXPECT_EQ(Codes().back(), Changed);
+    }
 }
 
 TEST_F(MultiTreeInputTest, ABandSelectsWhatItMeetsAndLeavesNoTrace)
@@ -245,19 +225,15 @@ TEST_F(MultiTreeInputTest, ABandSelectsWhatItMeetsAndLeavesNoTrace)
     tree.SelectItem(nullptr);
     PumpAll();
     const Pixels before = WindowPixels(tree);
-    const CPoint start = EmptyBeside(tree, b);
-    std::string during;
-    PressScript(start)
-        .Move(start - CPoint(30, -5))
+    Band(tree, b)
         .Move(PointOf(tree, d))
         .Do([&] {
-            during = SelectedTexts(tree);
+            EXPECT_EQ(SelectedTexts(tree), "bcd");
             EXPECT_NE(WindowPixels(tree), before) << "the band is to be seen";
             EXPECT_EQ(::GetCapture(), tree.GetSafeHwnd());
         })
         .Move(PointOf(tree, c))
         .Release();
-    EXPECT_EQ(during, "bcd");
     EXPECT_EQ(SelectedTexts(tree), "bc") << "released as the band leaves it";
     tree.SelectItem(nullptr);
     PumpAll();
@@ -290,26 +266,15 @@ TEST_F(MultiTreeInputTest, WhatGoesDuringAPressInEmptySpaceLeavesNoTrace)
 TEST_F(MultiTreeInputTest, ABandKeepsOrReplacesTheSelection)
 {
     auto& tree = AddTree();
-    const auto band = [&](std::vector<UINT> keys) {
-        const CPoint start = EmptyBeside(tree, d);
-        PressScript(start, keys).Move(start - CPoint(30, -5)).Move(PointOf(tree, e)).Release();
-    };
     ClickItem(tree, b);
-    band({VK_CONTROL});
+    Band(tree, d, {VK_CONTROL}).Move(PointOf(tree, e)).Release();
     EXPECT_EQ(SelectedTexts(tree), "bde");
     ClickItem(tree, b);
-    band({});
+    Band(tree, d).Move(PointOf(tree, e)).Release();
     EXPECT_EQ(SelectedTexts(tree), "de");
-
-    const CPoint empty = EmptyBeside(tree, f);
-    tree.SelectItem(nullptr);
-    Host().SetFocus();
-    PressScript(empty, {VK_CONTROL}).Release();
-    EXPECT_EQ(SelectedTexts(tree), "") << "the focus that comes with it selects nothing";
-    band({});
-    PressScript(empty, {VK_CONTROL}).Release();
+    PressScript(EmptyBeside(tree, f), {VK_CONTROL}).Release();
     EXPECT_EQ(SelectedTexts(tree), "de");
-    PressScript(empty).Release();
+    PressScript(EmptyBeside(tree, f)).Release();
     EXPECT_EQ(SelectedTexts(tree), "") << "a press alone clears";
     EXPECT_EQ(Codes().back(), int(NM_CLICK));
 }
@@ -331,9 +296,7 @@ TEST_F(MultiTreeInputTest, AnInterruptedBandGivesTheSelectionBack)
         tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
         PumpAll();
         const Pixels before = WindowPixels(tree);
-        const CPoint start = EmptyBeside(tree, d);
-        PressScript(start)
-            .Move(start - CPoint(30, -5))
+        Band(tree, d)
             .Move(PointOf(tree, e))
             .Do([&] { EXPECT_EQ(SelectedTexts(tree), "de"); })
             .Do(interrupt)
@@ -342,14 +305,12 @@ TEST_F(MultiTreeInputTest, AnInterruptedBandGivesTheSelectionBack)
         EXPECT_EQ(::GetCapture(), nullptr);
         EXPECT_EQ(WindowPixels(tree), before);
     }
-    const CPoint start = EmptyBeside(tree, d);
-    PressScript(start).Move(start - CPoint(30, -5)).Do([] { ::PostQuitMessage(3); }).Release();
+    Band(tree, d).Do([] { ::PostQuitMessage(3); }).Release();
     EXPECT_TRUE(TakeQuit());
     PumpAll();
-    PressScript(start).Move(start - CPoint(30, -5)).Do([&] { tree.DeleteAllItems(); }).Release();
-    AddItems(tree, "xyz");
-    const CPoint again = ClientPoint(tree, CPoint(200, 200));
-    PressScript(again).Move(again - CPoint(150, 195)).Do([&] { Remove(tree); }).Release();
+    Band(tree, d).Do([&] { tree.DeleteAllItems(); }).Release();
+    const HTREEITEM again = AddItems(tree, "xyz")[1];
+    Band(tree, again).Do([&] { Remove(tree); }).Release();
 }
 
 TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
@@ -358,26 +319,22 @@ TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
     tree.SetBandingHit(true); // rows, which reach as far as the band does
     const CRect client = ClientRectOf(tree);
     const CPoint start = EmptyBeside(tree, m_items[3], 30);
-    const auto top = [&] { return tree.GetFirstVisibleItem(); };
-    size_t grown = 0;
     PressScript(start)
         .Move(start + CPoint(-10, 10))
-        .Move(ClientPoint(tree, CPoint(client.right - 4, client.bottom - 4)))
+        .Move(ClientPoint(tree, client.BottomRight() - CPoint(4, 4)))
         .Do([&] {
-            const HTREEITEM first = top();
             PumpFor(400);
-            EXPECT_NE(top(), first) << "the lower edge scrolls down";
+            EXPECT_NE(tree.GetFirstVisibleItem(), m_items[0]) << "the lower edge scrolls down";
             EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0) << "and the right edge to the right";
-            grown = tree.GetSelectedCount();
+            EXPECT_GT(tree.GetSelectedCount(), 10U) << "items out of sight belong to the band";
         })
         .Move(ClientPoint(tree, CPoint(4, 4)))
         .Do([&] {
             PumpFor(1200);
-            EXPECT_EQ(top(), m_items[0]) << "the upper edge scrolls up again";
+            EXPECT_EQ(tree.GetFirstVisibleItem(), m_items[0]) << "the upper edge scrolls up again";
             EXPECT_EQ(tree.GetScrollPos(SB_HORZ), 0);
         })
         .Release();
-    EXPECT_GT(grown, 10U) << "items out of sight belong to the band";
     EXPECT_EQ(SelectedTexts(tree), "abcd") << "from the press up to the first item";
     EXPECT_EQ(tree.GetAutoScrollDirection(CPoint(10, 5)), 0) << "there is no more above";
     EXPECT_EQ(tree.GetAutoScrollDirection(CPoint(10, client.bottom - 5)), 1);
@@ -387,38 +344,37 @@ TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
 TEST_F(MultiTreeInputTest, TheDragImageShowsTheSelectionInSight)
 {
     auto& tree = AddLongTree();
-    EXPECT_EQ(tree.CreateDragImage(), nullptr) << "nothing is selected";
+    const auto imageSize = [&] {
+        const std::unique_ptr<CImageList> image(tree.CreateDragImage());
+        IMAGEINFO info = {};
+        return image != nullptr && image->GetImageInfo(0, &info) ? CRect(info.rcImage).Size()
+                                                                 : CSize(0, 0);
+    };
+    EXPECT_EQ(imageSize(), CSize(0, 0)) << "nothing is selected";
     tree.SetItemState(m_items.back(), TVIS_SELECTED, TVIS_SELECTED);
-    EXPECT_EQ(tree.CreateDragImage(), nullptr) << "nothing selected is in sight";
+    EXPECT_EQ(imageSize(), CSize(0, 0)) << "nothing selected is in sight";
     tree.SelectAll(true, false);
-    const std::unique_ptr<CImageList> all(tree.CreateDragImage());
-    ASSERT_NE(all, nullptr);
-    IMAGEINFO info = {};
-    ASSERT_TRUE(all->GetImageInfo(0, &info));
-    EXPECT_LE(info.rcImage.bottom - info.rcImage.top, ClientRectOf(tree).Height());
+    EXPECT_GT(imageSize().cy, 0);
+    EXPECT_LE(imageSize().cy, ClientRectOf(tree).Height());
     tree.SelectAll(false, false);
     tree.SetItemState(m_items[1], TVIS_SELECTED, TVIS_SELECTED);
-    const std::unique_ptr<CImageList> one(tree.CreateDragImage());
-    ASSERT_TRUE(one != nullptr && one->GetImageInfo(0, &info));
-    EXPECT_EQ(CRect(info.rcImage).Size(), TextRectOf(tree, m_items[1]).Size());
+    EXPECT_EQ(imageSize(), TextRectOf(tree, m_items[1]).Size());
 }
 
 TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
 {
     auto& tree = AddLongTree();
     const CSize standard = ClientRectOf(tree).Size();
+    const auto top = [&] { return tree.GetFirstVisibleItem(); };
+    constexpr int Band = 52;
+    const auto onBar = [&](int y) { return WindowPoint(tree, CPoint(200 - Band / 2, y)); };
     {
         const ModeScope mode(ONBOARD);
         tree.Invalidate();
         PumpAll();
-        EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
-        constexpr int Band = 52;
         EXPECT_EQ(ClientRectOf(tree).Size(), CSize(200 - Band, 200 - Band));
-        const auto top = [&] { return tree.GetFirstVisibleItem(); };
-        const CPoint downArrow = WindowPoint(tree, CPoint(200 - Band / 2, 200 - Band - 10));
-        Click(downArrow);
+        Click(onBar(200 - Band - 10));
         EXPECT_EQ(top(), m_items[1]);
-        MoveTo(downArrow);
         Press();
         EXPECT_TRUE(PumpUntil([&] { return top() == m_items[4]; })) << "held, it repeats";
         Release();
@@ -428,9 +384,8 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
         Click(WindowPoint(tree, CPoint(200 - Band - 10, 200 - Band / 2)));
         EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0);
         // Back by the thumb, to the upper end.
-        Click(WindowPoint(tree, CPoint(200 - Band / 2, 10)));
-        Drag(WindowPoint(tree, CPoint(200 - Band / 2, 52)),
-             WindowPoint(tree, CPoint(200 - Band / 2, 5)));
+        Click(onBar(10));
+        Drag(onBar(52), onBar(5));
         EXPECT_EQ(top(), m_items[0]);
         EXPECT_EQ(tree.GetSelectedCount(), 0U);
     }

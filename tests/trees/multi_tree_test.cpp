@@ -24,23 +24,27 @@ std::string StatesSay(TreeForTests& tree, HTREEITEM item)
     return texts;
 }
 
-TEST_F(MultiTreeTest, IsMadeByNameAndOverATreeOfADialog)
+TEST_F(MultiTreeTest, TakesOverOneTreeOfADialogAfterTheOther)
 {
     const std::unique_ptr<CObject> made(CRuntimeClass::CreateObject("MultiTree"));
     EXPECT_NE(DYNAMIC_DOWNCAST(MultiTree, made.get()), nullptr);
-
-    auto& plain = Add<CTreeCtrl>(CRect(20, 20, 220, 220), TreeStyle);
-    const auto items = AddItems(plain, "ab");
-    plain.SetItemState(items[1], TVIS_SELECTED, TVIS_SELECTED);
-    const UINT id = UINT(plain.GetDlgCtrlID());
-    plain.UnsubclassWindow();
     TreeForTests tree;
-    EXPECT_FALSE(tree.SubclassTreeCtrlId(id + 100, &Host()));
-    EXPECT_FALSE(tree.SubclassTreeCtrlId(id, nullptr));
-    ASSERT_TRUE(tree.SubclassTreeCtrlId(id, &Host()));
-    EXPECT_EQ(SelectedTexts(tree), "b") << "what was selected before is known";
-    tree.DestroyWindow();
-    EXPECT_EQ(tree.GetSelectedCount(), 0U);
+    EXPECT_FALSE(tree.SubclassTreeCtrlId(FirstId, &Host()));
+    for (const std::string names : {"ab", "xyz"})
+    {
+        auto& plain = Add<CTreeCtrl>(CRect(20, 20, 220, 220), TreeStyle);
+        plain.SetItemState(AddItems(plain, names).back(), TVIS_SELECTED, TVIS_SELECTED);
+        const UINT id = UINT(plain.GetDlgCtrlID());
+        const HWND window = plain.UnsubclassWindow();
+        EXPECT_FALSE(tree.SubclassTreeCtrlId(id, nullptr));
+        ASSERT_TRUE(tree.SubclassTreeCtrlId(id, &Host()));
+        EXPECT_EQ(SelectedTexts(tree), names.substr(names.size() - 1)) << "selected before";
+        tree.SelectAll(true, false);
+        EXPECT_EQ(SelectedTexts(tree), names);
+        tree.UnsubclassWindow();
+        EXPECT_EQ(tree.GetSelectedCount(), 0U) << "of no window";
+        ::DestroyWindow(window);
+    }
 }
 
 TEST_F(MultiTreeTest, TheKnownSelectionIsWhatTheStatesSay)
@@ -61,21 +65,15 @@ TEST_F(MultiTreeTest, TheKnownSelectionIsWhatTheStatesSay)
     expectInStep("abcdef");
     tree.DeleteItem(a);
     expectInStep("def");
-    TVINSERTSTRUCT insert = {};
-    insert.hParent = TVI_ROOT;
-    insert.hInsertAfter = TVI_FIRST;
-    insert.item.mask = TVIF_TEXT | TVIF_STATE;
-    insert.item.pszText = const_cast<char*>("n");
-    insert.item.state = insert.item.stateMask = TVIS_SELECTED;
-    tree.InsertItem(&insert);
+    tree.InsertItem(TVIF_TEXT | TVIF_STATE, "n", 0, 0, TVIS_SELECTED, TVIS_SELECTED, 0, TVI_ROOT,
+                    TVI_FIRST);
     expectInStep("ndef");
     tree.DeleteAllItems();
     expectInStep("");
 
     CTypedPtrList<CPtrList, HTREEITEM> list;
     const auto again = AddItems(tree, "xyz");
-    tree.SetItemState(again[2], TVIS_SELECTED, TVIS_SELECTED);
-    tree.SetItemState(again[0], TVIS_SELECTED, TVIS_SELECTED);
+    tree.SelectAllIgnore(true, again[1]);
     tree.GetSelectedList(list);
     ASSERT_EQ(list.GetCount(), 2);
     EXPECT_EQ(list.GetHead(), again[0]);
@@ -88,7 +86,7 @@ TEST_F(MultiTreeTest, EachStateChangeAsksAndTellsTheParent)
     tree.SetItemData(d, 77);
     std::vector<std::string> sides;
     Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(TVN_SELCHANGING) || told.code == UINT(TVN_SELCHANGED))
+        if (told.code == UINT(Changing) || told.code == UINT(Changed))
         {
             const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
             EXPECT_TRUE(tree.IsEmulatedNotify());
@@ -132,141 +130,97 @@ TEST_F(MultiTreeTest, TheCaretMovesWithoutTheSelection)
     EXPECT_EQ(tree.GetFocusedItem(), nullptr);
 }
 
-TEST_F(MultiTreeTest, ARefusalLeavesEverythingAsItWas)
+TEST_F(MultiTreeTest, ARefusalLeavesEverythingAsItWasAndIsAskedForOnce)
 {
     auto& tree = AddTree();
     tree.SelectItem(b);
     Host().Forget();
-    Host().hook = [](ToldMessage& told) {
+    std::string asked;
+    std::vector<HTREEITEM> refused = {a, b, c, d, e, f};
+    Host().hook = [&](ToldMessage& told) {
         if (told.code == UINT(TVN_SELCHANGING))
         {
-            told.answer = TRUE;
+            asked += tree.GetItemText(ItemOf(told))[0];
+            told.answer = std::ranges::count(refused, ItemOf(told)) > 0;
         }
     };
     EXPECT_FALSE(tree.SetItemState(d, TVIS_SELECTED, TVIS_SELECTED));
     EXPECT_FALSE(tree.SetItemState(b, 0, TVIS_SELECTED));
     EXPECT_FALSE(tree.SetItemState(e, TVIS_FOCUSED | TVIS_SELECTED, TVIS_FOCUSED | TVIS_SELECTED));
     tree.SelectAll(true, true);
-    tree.SelectRange(a, f, true);
     EXPECT_FALSE(tree.SelectChildren(a, true, true));
     EXPECT_EQ(SelectedTexts(tree), "b");
     EXPECT_EQ(tree.GetFocusedItem(), b);
     EXPECT_EQ(CountOf(Changed), 0);
-}
 
-struct RangeCase
-{
-    const char* description;
-    int first;
-    int last;
-    bool only;
-    const char* selected; // f is selected before
-};
-
-TEST_F(MultiTreeTest, ARangeAsksOnceForEachItem)
-{
-    auto& tree = AddTree();
-    for (const HTREEITEM item : {a, b, f})
-    {
-        tree.SetItemState(item, TVIS_SELECTED, TVIS_SELECTED);
-    }
-    std::string asked;
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(TVN_SELCHANGING))
-        {
-            const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
-            const TVITEM& side = notify.itemNew.hItem != nullptr ? notify.itemNew : notify.itemOld;
-            asked += tree.GetItemText(side.hItem)[0];
-            told.answer = side.hItem == a || side.hItem == f;
-        }
-    };
+    refused.clear();
+    tree.SetItemState(a, TVIS_SELECTED, TVIS_SELECTED);
+    tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
+    refused = {a, f};
+    asked.clear();
     tree.SelectRange(d, e, true);
-    EXPECT_EQ(asked, "abdef") << "a and f are refused, and not asked for again";
+    EXPECT_EQ(asked, "abdef");
     EXPECT_EQ(SelectedTexts(tree), "adef");
 }
 
 TEST_F(MultiTreeTest, ASecondWindowOfTheObjectBeginsAfresh)
 {
-    const CRect place(20, 20, 320, 320);
-    const DWORD style = TreeStyle | WS_CHILD | WS_VISIBLE;
     auto& tree = AddTree();
+    const UINT ownHeight = tree.GetItemHeight();
     const auto makeAgain = [&] {
         if (tree.GetSafeHwnd() != nullptr)
         {
             tree.DestroyWindow();
         }
-        EXPECT_TRUE(tree.Create(style, place, &Host(), FirstId));
+        EXPECT_TRUE(tree.Create(TreeStyle | WS_CHILD | WS_VISIBLE, CRect(20, 20, 320, 320), &Host(),
+                                FirstId));
         d = AddItems(tree, "def")[0];
         PumpAll();
     };
-    const UINT ownHeight = tree.GetItemHeight();
-    COnBoardUIGeneral::SetAppMode(ONBOARD);
-    for (int round = 0; round < 2; ++round)
+    for (const APPMODE mode : {ONBOARD, ONBOARD, STD})
     {
+        COnBoardUIGeneral::SetAppMode(mode);
         makeAgain();
-        EXPECT_GE(tree.GetItemHeight(), 40) << "window " << round;
-        EXPECT_GE(tree.GetIndent(), 40U);
+        EXPECT_EQ(tree.GetItemHeight() >= 40, mode != STD) << APPMODE_NAMES[mode];
+        EXPECT_EQ(tree.GetIndent() >= 40U, mode != STD);
     }
-    COnBoardUIGeneral::SetAppMode(STD);
-    makeAgain();
     EXPECT_EQ(tree.GetItemHeight(), ownHeight);
 
     // The window ends while a press, a band and a notification are on.
-    PressScript(PointOf(tree, d)).Do([&] { tree.DestroyWindow(); }).Release();
-    makeAgain();
-    ClickItem(tree, d);
-    EXPECT_EQ(SelectedTexts(tree), "d") << "after a press";
     const CPoint beside = EmptyBeside(tree, d);
-    PressScript(beside)
-        .Move(beside + CPoint(20, 20))
-        .Do([&] { tree.DestroyWindow(); })
-        .Do([&] { makeAgain(); })
-        .Release();
-    ClickItem(tree, d);
-    EXPECT_EQ(SelectedTexts(tree), "d") << "after a band";
+    for (const CPoint press : {PointOf(tree, d), beside})
+    {
+        PressScript(press)
+            .Move(beside + CPoint(20, 20))
+            .Do([&] { tree.DestroyWindow(); })
+            .Do([&] { makeAgain(); })
+            .Release();
+        ClickItem(tree, d);
+        EXPECT_EQ(SelectedTexts(tree), "d");
+    }
     Host().hook = [&](ToldMessage& told) {
         if (told.code == UINT(TVN_SELCHANGED) && tree.IsEmulatedNotify())
         {
-            Host().hook = nullptr;
             tree.DestroyWindow();
         }
     };
     tree.SelectAll(true, true);
+    Host().hook = nullptr;
     makeAgain();
     EXPECT_FALSE(tree.IsEmulatedNotify());
 }
 
-TEST_F(MultiTreeTest, ASecondTreeIsTakenOverAfterTheFirst)
-{
-    const auto addPlain = [&](const char* names, size_t selected) {
-        auto& plain = Add<CTreeCtrl>(CRect(20, 20, 220, 220), TreeStyle);
-        const auto items = AddItems(plain, names);
-        plain.SetItemState(items[selected], TVIS_SELECTED, TVIS_SELECTED);
-        const UINT id = UINT(plain.GetDlgCtrlID());
-        plain.UnsubclassWindow();
-        return id;
-    };
-    const UINT first = addPlain("ab", 1);
-    const UINT second = addPlain("xyz", 2);
-    TreeForTests tree;
-    ASSERT_TRUE(tree.SubclassTreeCtrlId(first, &Host()));
-    tree.SelectAll(true, false);
-    EXPECT_EQ(SelectedTexts(tree), "ab");
-    const HWND formerWindow = tree.UnsubclassWindow();
-    EXPECT_EQ(tree.GetSelectedCount(), 0U) << "of no window";
-    ::DestroyWindow(formerWindow);
-    ASSERT_TRUE(tree.SubclassTreeCtrlId(second, &Host()));
-    EXPECT_EQ(tree.GetSelectedCount(), 1U);
-    EXPECT_EQ(SelectedTexts(tree), "z");
-    tree.SelectAll(true, false);
-    EXPECT_EQ(SelectedTexts(tree), "xyz");
-    tree.DestroyWindow();
-}
-
 TEST_F(MultiTreeTest, RangesRunAsTheUserSeesTheItems)
 {
-    constexpr int None = -1;
-    const RangeCase cases[] = {
+    constexpr int None = 6;
+    const struct
+    {
+        const char* description;
+        int first;
+        int last;
+        bool only;
+        const char* selected; // f is selected before
+    } cases[] = {
         {"downwards", 1, 3, true, "bcd"},
         {"upwards", 3, 1, true, "bcd"},
         {"one item", 2, 2, true, "c"},
@@ -276,14 +230,13 @@ TEST_F(MultiTreeTest, RangesRunAsTheUserSeesTheItems)
         {"no end at all", None, None, true, "f"},
     };
     auto& tree = AddTree();
-    const HTREEITEM items[] = {a, b, c, d, e, f};
-    const auto item = [&](int index) { return index == None ? nullptr : items[index]; };
-    for (const RangeCase& range : cases)
+    const HTREEITEM items[] = {a, b, c, d, e, f, nullptr};
+    for (const auto& range : cases)
     {
-        tree.SelectAll(false, false);
+        tree.SelectAllIgnore(false, nullptr);
         tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED, false);
         Host().Forget();
-        tree.SelectRange(item(range.first), item(range.last), range.only);
+        tree.SelectRange(items[range.first], items[range.last], range.only);
         EXPECT_EQ(SelectedTexts(tree), range.selected) << range.description;
         EXPECT_EQ(CountOf(Changed), 0) << range.description;
     }
@@ -297,26 +250,24 @@ TEST_F(MultiTreeTest, RangesRunAsTheUserSeesTheItems)
 TEST_F(MultiTreeTest, BranchesAreSelectedByTheirLevel)
 {
     auto& tree = AddTree();
-    const HTREEITEM deep = AddItems(tree, "x", b)[0];
+    AddItems(tree, "x", b);
     EXPECT_TRUE(tree.SelectChildren(a, true, false));
     EXPECT_EQ(SelectedTexts(tree), "bc");
     EXPECT_TRUE(tree.SelectChildren(a, true, true));
     EXPECT_EQ(SelectedTexts(tree), "bxc");
     EXPECT_FALSE(tree.SelectChildren(a, true, true)) << "nothing left to change";
     EXPECT_TRUE(tree.SelectChildren(a, false, false));
-    EXPECT_TRUE(tree.IsSelected(deep));
-    tree.SelectAll(true, false);
+    EXPECT_EQ(SelectedTexts(tree), "x");
+    EXPECT_TRUE(tree.SelectChildren(nullptr, true, false));
+    EXPECT_EQ(SelectedTexts(tree), "axdef");
     tree.SelectAllIgnore(false, d);
     EXPECT_EQ(SelectedTexts(tree), "d");
-    EXPECT_TRUE(tree.SelectChildren(nullptr, true, false));
-    EXPECT_EQ(SelectedTexts(tree), "adef");
 }
 
 TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
 {
     auto& tree = AddTree();
     tree.SelectItem(b);
-    tree.SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
     tree.SetItemState(e, TVIS_SELECTED, TVIS_SELECTED);
     tree.Expand(a, TVE_COLLAPSE);
     EXPECT_EQ(SelectedTexts(tree), "e");
@@ -334,15 +285,12 @@ TEST_F(MultiTreeTest, WithoutMultipleSelectionItIsThePlatformsTree)
 {
     auto& tree = AddTree();
     auto& plain = Add<CTreeCtrl>(CRect(340, 20, 640, 320), TreeStyle | TVS_SHOWSELALWAYS);
-    const HTREEITEM plainA = AddItems(plain, "a")[0];
-    AddItems(plain, "bc", plainA);
-    const auto plainMore = AddItems(plain, "def");
-    plain.Expand(plainA, TVE_EXPAND);
+    const auto plainItems = AddItems(plain, "adef");
     tree.SelectAll(true, false);
     tree.FocusItem(d);
     tree.SetMultiSelect(false);
     EXPECT_EQ(SelectedTexts(tree), "d") << "a plain tree shows its caret alone";
-    plain.SelectItem(plainMore[0]);
+    plain.SelectItem(plainItems[1]);
 
     // The same input gives the same notifications.
     const auto script = [&](CTreeCtrl& used, HTREEITEM clicked) {
@@ -352,9 +300,9 @@ TEST_F(MultiTreeTest, WithoutMultipleSelectionItIsThePlatformsTree)
         TypeKey(VK_UP, VK_SHIFT);
         return Codes(UINT(used.GetDlgCtrlID()));
     };
-    EXPECT_EQ(script(tree, e), script(plain, plainMore[1]));
+    EXPECT_EQ(script(tree, e), script(plain, plainItems[2]));
     EXPECT_EQ(SelectedTexts(tree), "e");
-    EXPECT_EQ(plain.GetSelectedItem(), plainMore[1]);
+    EXPECT_EQ(plain.GetSelectedItem(), plainItems[2]);
 }
 
 TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
@@ -364,8 +312,8 @@ TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
         TreeForTests tree;
         if (withWindow)
         {
-            tree.CWnd::CreateEx(0, WC_TREEVIEW, "", WS_POPUP | TreeStyle, 0, 0, 100, 100, nullptr,
-                                nullptr);
+            tree.CWnd::CreateEx(0, WC_TREEVIEW, "", WS_POPUP | WS_VISIBLE | TreeStyle, 500, 300,
+                                200, 200, nullptr, nullptr);
         }
         for (const HTREEITEM item : {HTREEITEM(nullptr), TVI_ROOT, TVI_LAST})
         {
@@ -388,88 +336,59 @@ TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
         EXPECT_EQ(tree.GetAutoScrollDirection(CPoint(0, 0)), 0);
         if (withWindow)
         {
-            const auto items = AddItems(tree, "ab");
-            EXPECT_TRUE(tree.SetItemState(items[1], 3, 3)) << "nobody is there to refuse";
-            EXPECT_EQ(SelectedTexts(tree), "b");
+            const auto items = AddItems(tree, "abc");
+            PumpAll();
+            ClickItem(tree, items[0]);
+            ClickItem(tree, items[2], {VK_CONTROL});
+            EXPECT_EQ(SelectedTexts(tree), "ac") << "nobody is there to refuse";
+            PressScript(PointOf(tree, items[0])).Pull(CPoint(20, 0)).Release();
+            EXPECT_EQ(SelectedTexts(tree), "ac") << "a drag that nobody is told of";
         }
     }
 }
 
-// What a parent may do inside a notification: n of them pass before it acts.
+// What a parent may do inside a notification.
 TEST_F(MultiTreeTest, SurvivesItsParent)
 {
-    enum Act
-    {
-        DeleteTheItem,
-        DeleteTheNext,
-        ClearTheTree,
-        DestroyTheTree,
-        EndTheObject,
-        ActCount
+    TreeForTests* tree = nullptr;
+    const std::pair<const char*, std::function<void(HTREEITEM)>> acts[] = {
+        {"deletes the item", [&](HTREEITEM item) { tree->DeleteItem(item); }},
+        {"deletes the next", [&](HTREEITEM item) { tree->DeleteItem(item == d ? e : d); }},
+        {"clears the tree", [&](HTREEITEM) { tree->DeleteAllItems(); }},
+        {"destroys the tree", [&](HTREEITEM) { tree->DestroyWindow(); }},
+        {"ends the object", [&](HTREEITEM) { Remove(*tree); }},
     };
-    for (int act = 0; act < ActCount; ++act)
+    const std::pair<const char*, std::function<void()>> operations[] = {
+        {"all", [&] { tree->SelectAll(true, true); }},
+        {"range", [&] { tree->SelectRange(b, f, true); }},
+        {"state", [&] { tree->SetItemState(d, 3, 3); }},
+        {"item", [&] { tree->SelectItem(d); }},
+        {"collapse", [&] { tree->Expand(a, TVE_COLLAPSE); }},
+    };
+    for (const auto& [act, acting] : acts)
     {
-        for (const UINT when : {UINT(TVN_SELCHANGING), UINT(TVN_SELCHANGED)})
+        for (const auto& [operation, operate] : operations)
         {
-            for (int operation = 0; operation < 5; ++operation)
+            for (const int when : {Changing, Changed})
             {
-                auto& tree = AddTree();
-                const WindowAlive alive(tree);
-                tree.SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
-                tree.FocusItem(e);
+                SCOPED_TRACE(testing::Message() << act << " in " << when << " of " << operation);
+                tree = &AddTree();
+                const WindowAlive alive(*tree);
+                tree->SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
+                tree->FocusItem(e);
                 bool done = false;
                 Host().hook = [&](ToldMessage& told) {
-                    if (told.code != when || done)
+                    if (told.code == UINT(when) && !std::exchange(done, true))
                     {
-                        return;
-                    }
-                    done = true;
-                    const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
-                    const HTREEITEM item = notify.itemNew.hItem != nullptr ? notify.itemNew.hItem
-                                                                           : notify.itemOld.hItem;
-                    switch (act)
-                    {
-                    case DeleteTheItem:
-                        tree.DeleteItem(item);
-                        break;
-                    case DeleteTheNext:
-                        tree.DeleteItem(item == d ? e : d);
-                        break;
-                    case ClearTheTree:
-                        tree.DeleteAllItems();
-                        break;
-                    case DestroyTheTree:
-                        tree.DestroyWindow();
-                        break;
-                    default:
-                        Remove(tree);
-                        break;
+                        acting(ItemOf(told));
                     }
                 };
-                switch (operation)
-                {
-                case 0:
-                    tree.SelectAll(true, true);
-                    break;
-                case 1:
-                    tree.SelectRange(b, f, true);
-                    break;
-                case 2:
-                    tree.SetItemState(d, 3, 3);
-                    break;
-                case 3:
-                    tree.SelectItem(d);
-                    break;
-                default:
-                    tree.Expand(a, TVE_COLLAPSE);
-                    break;
-                }
+                operate();
                 Host().hook = nullptr;
                 if (alive)
                 {
-                    EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), SelectedTexts(tree))
-                        << act << ' ' << operation;
-                    Remove(tree);
+                    EXPECT_EQ(StatesSay(*tree, tree->GetRootItem()), SelectedTexts(*tree));
+                    Remove(*tree);
                 }
             }
         }
@@ -483,44 +402,39 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
     const HFONT font = HFONT(tree.SendMessage(WM_GETFONT));
     tree.SelectItem(d);
     tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
+    const auto paint = [](CWnd& window) {
+        window.Invalidate();
+        PumpAll();
+    };
     {
         const ModeScope mode(ONBOARD);
-        tree.Invalidate();
-        PumpAll();
+        paint(tree);
         EXPECT_GE(tree.GetItemHeight(), 40) << "a row for a finger";
-        const Pixels focused = WindowPixels(tree);
-        const auto ground = [&](HTREEITEM item, const Pixels& pixels) {
+        const auto ground = [&](HTREEITEM item) {
             const CRect text = TextRectOf(tree, item);
-            return pixels.At(text.right - 1, text.top + 2);
+            return WindowPixels(tree).At(text.right - 1, text.top + 2);
         };
         constexpr COLORREF Highlight = RGB(50, 80, 110);
-        constexpr COLORREF Field = RGB(180, 180, 180);
-        EXPECT_EQ(ground(f, focused), Highlight);
-        EXPECT_EQ(ground(e, focused), Field);
+        EXPECT_EQ(ground(f), Highlight);
+        EXPECT_EQ(ground(e), RGB(180, 180, 180));
         Host().SetFocus();
         PumpAll();
-        EXPECT_EQ(ground(f, WindowPixels(tree)), Highlight) << "selected without the focus, too";
-        EXPECT_EQ(ground(d, WindowPixels(tree)), Highlight);
+        EXPECT_EQ(ground(f), Highlight) << "selected without the focus, too";
+        EXPECT_EQ(ground(d), Highlight);
     }
-    tree.Invalidate();
-    PumpAll();
+    paint(tree);
     EXPECT_EQ(TextRectOf(tree, a).Size(), before);
     EXPECT_EQ(HFONT(tree.SendMessage(WM_GETFONT)), font);
 
     // One that begins on-board has nothing of the host's to go back to.
-    int row = 0;
-    {
-        const ModeScope mode(EFB);
-        auto& begun = Add<TreeForTests>(CRect(340, 20, 640, 320), TreeStyle);
-        AddItems(begun, "ab");
-        PumpAll();
-        row = begun.GetItemHeight();
-        COnBoardUIGeneral::SetAppMode(STD);
-        begun.Invalidate();
-        PumpAll();
-        EXPECT_GE(row, 40);
-        EXPECT_LT(begun.GetItemHeight(), 30);
-    }
+    COnBoardUIGeneral::SetAppMode(EFB);
+    auto& begun = Add<TreeForTests>(CRect(340, 20, 640, 320), TreeStyle);
+    AddItems(begun, "ab");
+    PumpAll();
+    EXPECT_GE(begun.GetItemHeight(), 40);
+    COnBoardUIGeneral::SetAppMode(STD);
+    paint(begun);
+    EXPECT_LT(begun.GetItemHeight(), 30);
 }
 
 } // namespace

@@ -23,16 +23,13 @@ public:
     CImageList* CreateDragImage() override
     {
         CImageList* const image = MultiTreeView::CreateDragImage();
-        if (onImage)
-        {
-            onImage();
-        }
+        onImage();
         return image;
     }
 
     bool accepts = false;
-    std::function<void()> onDrop;
-    std::function<void()> onImage;
+    std::function<void()> onDrop = [] {};
+    std::function<void()> onImage = [] {};
     std::vector<HWND> ended;
     std::vector<std::string> received; // names of the messages
     std::vector<void*> dropped;
@@ -41,10 +38,6 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == mnDragLeaveMsg)
-        {
-            received.push_back("leave");
-        }
         if (message == mnDragDropMsg || message == mnDragCopyMsg)
         {
             received.push_back(message == mnDragDropMsg ? "drop" : "copy");
@@ -54,13 +47,12 @@ protected:
             {
                 dropped.push_back(payload.GetAt(index));
             }
-            if (onDrop)
-            {
-                onDrop();
-                return accepts;
-            }
-            MultiTreeView::WindowProc(message, wParam, lParam);
+            onDrop();
             return accepts;
+        }
+        if (message == mnDragLeaveMsg)
+        {
+            received.push_back("leave");
         }
         return MultiTreeView::WindowProc(message, wParam, lParam);
     }
@@ -83,9 +75,9 @@ protected:
     {
         TreeTest::SetUp();
         m_source = &AddView(CRect(20, 20, 220, 320), 71);
-        m_target = &AddView(CRect(240, 20, 440, 320), 72);
-        m_items = AddItems(*m_source, "abcd");
-        AddItems(*m_target, "xyz");
+        m_target = &AddView(TargetPlace, 72);
+        m_items = AddItems(Items(), "abcd");
+        AddItems(m_target->GetTreeCtrl(), "xyz");
         m_source->SetFocus();
         m_source->SelectItem(m_items[0]);
         m_source->SetItemState(m_items[2], TVIS_SELECTED, TVIS_SELECTED);
@@ -93,17 +85,27 @@ protected:
         Host().Forget();
     }
 
-    // Presses on the selected item a and moves far enough.
-    PressScript Begun(std::vector<UINT> held = {})
+    // Presses on the first item and moves far enough.
+    PressScript Begun()
     {
-        const CPoint start = PointOf(*m_source, m_items[0]);
-        PressScript script(start, std::move(held));
-        script.Move(start + CPoint(1, 0)).Move(start + CPoint(20, 2));
+        PressScript script(PointOf(Items(), m_items[0]));
+        script.Pull(CPoint(20, 2));
         return script;
     }
+    CTreeCtrl& Items() const { return m_source->GetTreeCtrl(); }
     CPoint OverTarget() const { return ClientPoint(*m_target, CPoint(60, 150)); }
     CPoint OverNothing() const { return ClientPoint(*m_target, CPoint(300, 150)); }
 
+    // Nothing of a drag is left; and who was said to have taken it.
+    std::vector<HWND> Ended()
+    {
+        EXPECT_FALSE(m_source->m_dragging);
+        EXPECT_EQ(m_source->m_dragImage, nullptr);
+        EXPECT_EQ(::GetCapture(), nullptr);
+        return std::exchange(m_source->ended, {});
+    }
+
+    static inline const CRect TargetPlace{240, 20, 440, 320};
     ViewForTests* m_source = nullptr;
     ViewForTests* m_target = nullptr;
     std::vector<HTREEITEM> m_items;
@@ -111,46 +113,34 @@ protected:
 
 TEST_F(MultiTreeViewTest, IsMadeByNameAndKeepsTheSelectionsRules)
 {
-    CObject* const made = CRuntimeClass::CreateObject("MultiTreeView");
-    EXPECT_NE(DYNAMIC_DOWNCAST(MultiTreeView, made), nullptr);
-    delete made;
-    char name[32] = "";
-    ::GetClassName(*m_source, name, sizeof(name));
-    EXPECT_STREQ(name, "SysTreeView32");
-    EXPECT_EQ(m_source->GetTreeCtrl().GetCount(), 4U);
-    EXPECT_EQ(SelectedTexts(*m_source), "ac");
-    ClickItem(*m_source, m_items[1]);
-    ClickItem(*m_source, m_items[3], {VK_SHIFT});
-    EXPECT_EQ(SelectedTexts(*m_source), "bcd");
+    const std::unique_ptr<CObject> made(CRuntimeClass::CreateObject("MultiTreeView"));
+    EXPECT_NE(DYNAMIC_DOWNCAST(MultiTreeView, made.get()), nullptr);
+    EXPECT_EQ(Items().GetCount(), 4U);
+    EXPECT_EQ(SelectedTexts(*m_source, Items()), "ac");
+    ClickItem(Items(), m_items[1]);
+    ClickItem(Items(), m_items[3], {VK_SHIFT});
+    EXPECT_EQ(SelectedTexts(*m_source, Items()), "bcd");
     m_source->SelectAllIgnore(m_items[2], false, nullptr);
-    EXPECT_EQ(SelectedTexts(*m_source), "bd") << "the branch c alone";
+    EXPECT_EQ(SelectedTexts(*m_source, Items()), "bd") << "the branch c alone";
     EXPECT_EQ(MultiTreeView::mnDragDropMsg, ::RegisterWindowMessage("Kest Drag Drop"));
-    EXPECT_NE(MultiTreeView::mnDragTrackMsg, MultiTreeView::mnDragLeaveMsg);
 }
 
-TEST_F(MultiTreeViewTest, DropsTheSelectionOnAnotherView)
+TEST_F(MultiTreeViewTest, ADragEndsWithTheWindowUnderIt)
 {
     m_target->accepts = true;
-    bool imageShown = false;
     Begun()
         .Move(OverTarget())
         .Do([&] {
-            imageShown = m_source->m_dragImage != nullptr;
+            EXPECT_NE(m_source->m_dragImage, nullptr);
             EXPECT_EQ(::GetCapture(), m_source->GetSafeHwnd());
         })
         .Release();
-    EXPECT_TRUE(imageShown);
     EXPECT_THAT(m_target->received, ElementsAre("drop"));
     EXPECT_THAT(m_target->dropped, ElementsAre(m_items[0], m_items[2]));
     EXPECT_EQ(m_target->dropPoint, OverTarget());
-    EXPECT_THAT(m_source->ended, ElementsAre(m_target->GetSafeHwnd()));
-    EXPECT_FALSE(m_source->m_dragging);
-    EXPECT_EQ(m_source->m_dragImage, nullptr);
-    EXPECT_EQ(::GetCapture(), nullptr);
-}
+    EXPECT_THAT(Ended(), ElementsAre(m_target->GetSafeHwnd()));
 
-TEST_F(MultiTreeViewTest, CtrlMakesItACopyAndARefusalEndsItWithNobody)
-{
+    m_target->accepts = false;
     Begun()
         .Move(OverTarget())
         .Do([] { PumpFor(30); })
@@ -158,15 +148,14 @@ TEST_F(MultiTreeViewTest, CtrlMakesItACopyAndARefusalEndsItWithNobody)
         .Release();
     QueueKey(VK_CONTROL, false);
     PumpAll();
-    EXPECT_THAT(m_target->received, ElementsAre("copy"));
-    EXPECT_THAT(m_source->ended, ElementsAre(nullptr)) << "it answered 0";
-    Begun().Move(OverNothing()).Release();
-    EXPECT_THAT(m_source->ended, ElementsAre(nullptr, nullptr));
-    // The desktop: a window of another process.
-    Begun().Move(CPoint(5, 5)).Release();
-    EXPECT_THAT(m_source->ended, ElementsAre(nullptr, nullptr, nullptr));
-    EXPECT_THAT(m_target->received, ElementsAre("copy"));
-    EXPECT_FALSE(m_source->m_dragging);
+    EXPECT_THAT(Ended(), ElementsAre(nullptr)) << "it answered 0";
+    // No window that takes drags, and the desktop: a window of another process.
+    for (const CPoint nobody : {OverNothing(), CPoint(5, 5)})
+    {
+        Begun().Move(nobody).Release();
+        EXPECT_THAT(Ended(), ElementsAre(nullptr));
+    }
+    EXPECT_THAT(m_target->received, ElementsAre("drop", "copy"));
 }
 
 TEST_F(MultiTreeViewTest, AWindowIsLeftOnce)
@@ -174,8 +163,8 @@ TEST_F(MultiTreeViewTest, AWindowIsLeftOnce)
     Begun()
         .Move(OverTarget())
         .Move(OverTarget() + CPoint(0, 20))
-        .Move(PointOf(*m_source, m_items[3]))
-        .Move(PointOf(*m_source, m_items[2]))
+        .Move(PointOf(Items(), m_items[3]))
+        .Move(PointOf(Items(), m_items[2]))
         .Release();
     EXPECT_THAT(m_target->received, ElementsAre("leave"));
     EXPECT_THAT(m_source->received, ElementsAre("leave", "drop")) << "a view may be its own target";
@@ -218,51 +207,35 @@ TEST_F(MultiTreeViewTest, IsCancelledByWhateverInterruptsIt)
             ::ReleaseCapture();
         },
         [] { ::ReleaseCapture(); },
-    };
-    for (const auto& interrupt : interruptions)
-    {
-        m_source->ended.clear();
-        Begun()
-            .Move(OverTarget())
-            .Do(interrupt)
-            .Do([&] { EXPECT_FALSE(m_source->m_dragging); })
-            .Release();
-        EXPECT_THAT(m_source->ended, ElementsAre(nullptr));
-        EXPECT_THAT(m_target->received, IsEmpty());
-        EXPECT_EQ(::GetCapture(), nullptr);
-    }
-    // A release that never comes to the view: the timer finds the button up.
-    m_source->ended.clear();
-    Begun()
-        .Move(OverTarget())
-        .Do([&] {
+        // A release that never comes to the view: the timer finds the button up.
+        [] {
             MSG taken;
             QueueButton(false);
             const DWORD until = ::GetTickCount() + 1000;
             while (!::PeekMessage(&taken, nullptr, WM_LBUTTONUP, WM_LBUTTONUP, PM_REMOVE) &&
                    ::GetTickCount() < until)
             {}
-        })
-        .Do([&] { EXPECT_TRUE(PumpUntil([&] { return !m_source->m_dragging; })); })
-        .Release();
-    EXPECT_THAT(m_source->ended, ElementsAre(nullptr));
+        },
+    };
+    for (const auto& interrupt : interruptions)
+    {
+        Begun()
+            .Move(OverTarget())
+            .Do(interrupt)
+            .Do([&] { EXPECT_TRUE(PumpUntil([&] { return !m_source->m_dragging; })); })
+            .Release();
+        EXPECT_THAT(Ended(), ElementsAre(nullptr));
+        EXPECT_THAT(m_target->received, IsEmpty());
+    }
 }
 
 TEST_F(MultiTreeViewTest, ADragOverBeforeItIsShownIsNotShown)
 {
     m_source->onImage = [&] { m_source->SendMessage(WM_LBUTTONUP); };
-    Begun()
-        .Do([&] {
-            EXPECT_FALSE(m_source->m_dragging);
-            EXPECT_EQ(m_source->m_dragImage, nullptr);
-            EXPECT_EQ(::GetCapture(), nullptr);
-        })
-        .Release();
-    EXPECT_THAT(m_source->ended, IsEmpty()) << "nobody has seen a drag";
+    Begun().Do([&] { EXPECT_THAT(Ended(), IsEmpty()) << "nobody has seen a drag"; }).Release();
 
     // And the next one goes its way, whatever the other button does.
-    m_source->onImage = nullptr;
-    m_target->accepts = true;
+    m_source->onImage = [] {};
     Begun()
         .Do([] { QueueButton(true, true); })
         .Do([] { QueueButton(false, true); })
@@ -275,13 +248,9 @@ TEST_F(MultiTreeViewTest, ADragOverBeforeItIsShownIsNotShown)
 TEST_F(MultiTreeViewTest, SurvivesWhatEndsDuringADrag)
 {
     // The item that the drag began with.
-    Begun()
-        .Do([&] { m_source->GetTreeCtrl().DeleteItem(m_items[0]); })
-        .Move(OverTarget())
-        .Release();
-    EXPECT_THAT(m_source->ended, ElementsAre(nullptr));
+    Begun().Do([&] { Items().DeleteItem(m_items[0]); }).Move(OverTarget()).Release();
+    EXPECT_THAT(Ended(), ElementsAre(nullptr));
     EXPECT_THAT(m_target->received, IsEmpty());
-    EXPECT_EQ(::GetCapture(), nullptr);
     m_items.erase(m_items.begin());
     m_source->SelectItem(m_items[0]);
 
@@ -291,27 +260,25 @@ TEST_F(MultiTreeViewTest, SurvivesWhatEndsDuringADrag)
         .Do([&] { m_target->DestroyWindow(); })
         .Move(OverTarget() + CPoint(0, 5))
         .Release();
-    EXPECT_EQ(m_source->ended.back(), nullptr);
+    EXPECT_THAT(Ended(), ElementsAre(nullptr));
 
     // The source, while the target has the payload.
-    m_target = &AddView(CRect(240, 20, 440, 320), 73);
-    m_target->accepts = true;
+    m_target = &AddView(TargetPlace, 73);
     m_target->onDrop = [&] { m_source->DestroyWindow(); };
     Begun().Move(OverTarget()).Release();
-    EXPECT_THAT(m_target->received, ElementsAre("drop"));
     EXPECT_EQ(m_target->dropped.size(), 1U);
 
     // The source, while it waits for the first move.
     m_source = &AddView(CRect(20, 20, 220, 320), 74);
-    m_items = AddItems(*m_source, "ab");
+    m_items = AddItems(Items(), "ab");
     PumpAll();
-    PressScript(PointOf(*m_source, m_items[0])).Do([&] { m_source->DestroyWindow(); }).Release();
+    PressScript(PointOf(Items(), m_items[0])).Do([&] { m_source->DestroyWindow(); }).Release();
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 TEST_F(MultiTreeViewTest, ScrollsAsATarget)
 {
-    AddItems(*m_target, "abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrstuvwxyz");
+    AddItems(m_target->GetTreeCtrl(), "abcdefghijklmnopqrstuvwxyzabcdefghijklmnopqrstuvwxyz");
     PumpAll();
     const CRect client = ClientRectOf(*m_target);
     const auto track = [&](CPoint at) {
@@ -341,29 +308,25 @@ TEST_F(MultiTreeViewTest, TornOffItActivatesNoFrameAndTellsItsCaption)
                               nullptr, nullptr, 0, &context));
     auto* view = STATIC_DOWNCAST(ViewForTests, frame->GetActiveView());
     ASSERT_NE(view, nullptr);
-    const auto activates = [&] {
+    for (const bool peeled : {false, true, false})
+    {
+        view->SendMessage(MultiTreeView::TogglePeeledMessage, 0, peeled);
         frame->SetActiveView(nullptr);
         view->SendMessage(WM_MOUSEACTIVATE, WPARAM(frame->GetSafeHwnd()),
                           MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN));
-        return frame->GetActiveView() == view;
-    };
-    EXPECT_TRUE(activates());
-    EXPECT_EQ(view->SendMessage(MultiTreeView::TogglePeeledMessage, 0, TRUE), 0);
-    EXPECT_FALSE(activates());
-    view->SendMessage(MultiTreeView::TogglePeeledMessage, 0, FALSE);
-    EXPECT_TRUE(activates());
+        EXPECT_EQ(frame->GetActiveView(), peeled ? nullptr : view);
+    }
 
     view->SetWindowText("Routes");
     char text[8] = "unset";
-    const auto caption = [&](size_t size) {
-        return view->SendMessage(MultiTreeView::GetCaptionTextMessage, size,
-                                 reinterpret_cast<LPARAM>(text));
+    const auto caption = [&](size_t size, char* to) {
+        return view->SendMessage(MultiTreeView::GetCaptionTextMessage, size, LPARAM(to)) != 0;
     };
-    EXPECT_FALSE(caption(6));
+    EXPECT_FALSE(caption(6, text));
+    EXPECT_FALSE(caption(100, nullptr));
     EXPECT_STREQ(text, "unset");
-    EXPECT_TRUE(caption(7));
+    EXPECT_TRUE(caption(7, text));
     EXPECT_STREQ(text, "Routes");
-    EXPECT_FALSE(view->SendMessage(MultiTreeView::GetCaptionTextMessage, 100, 0));
     frame->DestroyWindow();
 }
 

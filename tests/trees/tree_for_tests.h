@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <string>
+#include <tuple>
 
 constexpr DWORD TreeStyle = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
 
@@ -14,7 +15,6 @@ class TreeForTests : public MultiTree
 {
 public:
     using MultiTree::GetAutoScrollDirection;
-    using MultiTree::UpdateSelectionForRect;
 
     bool CanCtrlSelectItem(HTREEITEM item) override
     {
@@ -24,75 +24,72 @@ public:
 };
 
 // The first letters of the selected items, in tree order.
-template <class Tree> std::string SelectedTexts(Tree& tree)
+template <class Tree> std::string SelectedTexts(const Tree& tree, const CTreeCtrl& items)
 {
     std::string texts;
     for (HTREEITEM item = tree.GetFirstSelectedItem(); item != nullptr;
          item = tree.GetNextSelectedItem(item))
     {
-        char text[16] = "";
-        TVITEM data = {};
-        data.mask = TVIF_HANDLE | TVIF_TEXT;
-        data.hItem = item;
-        data.pszText = text;
-        data.cchTextMax = int(sizeof(text));
-        tree.SendMessage(TVM_GETITEM, 0, reinterpret_cast<LPARAM>(&data));
-        texts += text[0];
+        texts += items.GetItemText(item)[0];
     }
     return texts;
 }
 
+inline std::string SelectedTexts(const MultiTree& tree)
+{
+    return SelectedTexts(tree, tree);
+}
+
 // Adds items whose texts begin with the letters of names below parent.
-inline std::vector<HTREEITEM> AddItems(const CWnd& tree, const std::string& names,
+inline std::vector<HTREEITEM> AddItems(CTreeCtrl& tree, const std::string& names,
                                        HTREEITEM parent = TVI_ROOT)
 {
     std::vector<HTREEITEM> items;
     for (const char name : names)
     {
-        const std::string text = std::string(1, name) + " of the tree";
-        TVINSERTSTRUCT insert = {};
-        insert.hParent = parent;
-        insert.hInsertAfter = TVI_LAST;
-        insert.item.mask = TVIF_TEXT;
-        insert.item.pszText = const_cast<char*>(text.c_str());
-        items.push_back(
-            HTREEITEM(tree.SendMessage(TVM_INSERTITEM, 0, reinterpret_cast<LPARAM>(&insert))));
+        items.push_back(tree.InsertItem((name + std::string(" of the tree")).c_str(), parent));
     }
     return items;
 }
 
-inline CRect TextRectOf(const CWnd& tree, HTREEITEM item)
+inline CRect TextRectOf(const CTreeCtrl& tree, HTREEITEM item)
 {
-    CRect rect(0, 0, 0, 0);
-    ::CopyMemory(&rect, &item, sizeof(item));
-    tree.SendMessage(TVM_GETITEMRECT, TRUE, reinterpret_cast<LPARAM>(&rect));
+    CRect rect;
+    tree.GetItemRect(item, &rect, TRUE);
     return rect;
 }
 
 // Screen point of the middle of an item's text.
-inline CPoint PointOf(const CWnd& tree, HTREEITEM item)
+inline CPoint PointOf(const CTreeCtrl& tree, HTREEITEM item)
 {
     return ClientPoint(tree, TextRectOf(tree, item).CenterPoint());
 }
 
+// The item that a notification of the tree is about.
+inline HTREEITEM ItemOf(const ToldMessage& told)
+{
+    const auto& notify = *reinterpret_cast<const NMTREEVIEW*>(told.lParam);
+    return notify.itemNew.hItem != nullptr ? notify.itemNew.hItem : notify.itemOld.hItem;
+}
+
 // Screen point right of an item's text, where nothing is.
-inline CPoint EmptyBeside(const CWnd& tree, HTREEITEM item, int away = 60)
+inline CPoint EmptyBeside(const CTreeCtrl& tree, HTREEITEM item, int away = 60)
 {
     const CRect text = TextRectOf(tree, item);
     return ClientPoint(tree, CPoint(text.right + away, text.CenterPoint().y));
 }
 
-using Steps = std::vector<std::function<void()>>;
-
 // One press at a point and what follows it, with keys held from before the press to after it.
 struct PressScript
 {
-    Steps steps;
+    std::vector<std::function<void()>> steps;
+    CPoint start;
     std::vector<UINT> held;
     bool right = false;
 
     PressScript(CPoint at, std::vector<UINT> keys = {}, bool rightButton = false)
-        : held(std::move(keys))
+        : start(at)
+        , held(std::move(keys))
         , right(rightButton)
     {
         steps.push_back([at] { QueueMove(at); });
@@ -108,6 +105,11 @@ struct PressScript
     {
         steps.push_back([to] { QueueMove(to); });
         return *this;
+    }
+    // A distance counts from the first move on.
+    PressScript& Pull(CPoint by)
+    {
+        return Move(start + CPoint(1, 0)).Move(start + CPoint(1, 0) + by);
     }
     PressScript& Do(std::function<void()> what)
     {
@@ -125,7 +127,7 @@ struct PressScript
     }
 };
 
-inline void ClickItem(const CWnd& tree, HTREEITEM item, std::vector<UINT> held = {},
+inline void ClickItem(const CTreeCtrl& tree, HTREEITEM item, std::vector<UINT> held = {},
                       bool right = false)
 {
     PressScript(PointOf(tree, item), std::move(held), right).Release();
@@ -151,46 +153,44 @@ protected:
     }
 
     // a (b c) d e f; the branch a is open.
-    TreeForTests& AddTree(APPMODE = STD)
+    TreeForTests& AddTree()
     {
         auto& tree = Add<TreeForTests>(CRect(20, 20, 320, 320), TreeStyle);
         a = AddItems(tree, "a")[0];
         const auto below = AddItems(tree, "bc", a);
-        b = below[0];
-        c = below[1];
         const auto more = AddItems(tree, "def");
-        d = more[0];
-        e = more[1];
-        f = more[2];
+        std::tie(b, c) = std::tie(below[0], below[1]);
+        std::tie(d, e, f) = std::tie(more[0], more[1], more[2]);
         tree.Expand(a, TVE_EXPAND);
+        Begin(tree);
+        return tree;
+    }
+
+    // With the focus, without the caret that the platform has given the first item.
+    void Begin(MultiTree& tree)
+    {
         tree.SetFocus();
-        tree.SelectItem(nullptr); // the platform has given the first one the caret
+        tree.SelectItem(nullptr);
         PumpAll();
         Host().Forget();
-        return tree;
     }
 
     // The selection notifications and those of the button, in order.
     std::vector<int> Codes(UINT id = FirstId)
     {
+        static constexpr int Chosen[] = {Changing, Changed, int(NM_CLICK), int(NM_RCLICK),
+                                         int(TVN_BEGINDRAG)};
         std::vector<int> codes;
         for (const UINT code : Host().CodesFrom(id))
         {
-            if (code == UINT(TVN_SELCHANGING) || code == UINT(TVN_SELCHANGED) ||
-                code == UINT(NM_CLICK) || code == UINT(NM_RCLICK) || code == UINT(TVN_BEGINDRAG) ||
-                code == UINT(TVN_BEGINRDRAG))
+            if (std::ranges::find(Chosen, int(code)) != std::end(Chosen))
             {
                 codes.push_back(int(code));
             }
         }
         return codes;
     }
-
-    int CountOf(int code)
-    {
-        const std::vector<int> codes = Codes();
-        return int(std::count(codes.begin(), codes.end(), code));
-    }
+    int CountOf(int code) { return int(std::ranges::count(Codes(), code)); }
 
     UINT m_doubleClickTime = 0;
     HTREEITEM a = nullptr, b = nullptr, c = nullptr, d = nullptr, e = nullptr, f = nullptr;
