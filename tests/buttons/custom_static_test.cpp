@@ -17,40 +17,43 @@ constexpr COLORREF Text = RGB(230, 230, 230);
 class TestStatic : public CCustomStatic
 {
 public:
+    explicit TestStatic(DWORD exStyle = 0, DWORD buttonType = 0)
+        : m_exStyle(exStyle)
+        , m_type(buttonType)
+    {}
     using CCustomStatic::m_groupBox;
-    DWORD type = 0; // of the button, for a group box
-    DWORD exStyle = 0;
-    BOOL Create(DWORD style, const RECT& place, CWnd* parent, UINT id)
+    BOOL Create(LPCTSTR text, DWORD style, const RECT& place, CWnd* parent, UINT id) override
     {
-        return CreateEx(exStyle, type != 0 ? "BUTTON" : "STATIC", text, style | type, place, parent,
-                        id);
+        return CreateEx(m_exStyle, m_type != 0 ? "BUTTON" : "STATIC", text, style | m_type, place,
+                        parent, id);
     }
-    CString text;
+
+private:
+    DWORD m_exStyle;
+    DWORD m_type; // of the button, for a group box
 };
 
-std::unique_ptr<TestStatic> GroupBox(const char* text)
+std::unique_ptr<TestStatic> GroupBox(DWORD exStyle = 0)
 {
-    auto box = std::make_unique<TestStatic>();
-    box->type = BS_GROUPBOX;
-    box->text = text;
-    return box;
+    return std::make_unique<TestStatic>(exStyle, BS_GROUPBOX);
 }
 
 } // namespace
 
 TEST_F(ButtonOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
 {
-    auto& box = Add(GroupBox("HH"), CRect(20, 20, 220, 120));
+    auto& box = Add(GroupBox(), CRect(20, 20, 220, 120), 0, "HH");
     EXPECT_TRUE(box.m_groupBox);
     const Pixels seen = WindowPixels(box);
     constexpr int Top = 12; // three quarters of the 16 pixels of the system font
     EXPECT_EQ(seen.At(5, Top - 1), Panel);
     for (int depth = 0; depth < 3; ++depth)
     {
-        EXPECT_EQ(seen.At(5, Top + depth), Frame);
-        EXPECT_EQ(seen.At(depth, 60), Frame);
-        EXPECT_EQ(seen.At(199 - depth, 60), Frame);
-        EXPECT_EQ(seen.At(100, 99 - depth), Frame);
+        for (const CPoint side : {CPoint(5, Top + depth), CPoint(depth, 60),
+                                  CPoint(199 - depth, 60), CPoint(100, 99 - depth)})
+        {
+            EXPECT_EQ(seen.At(side), Frame) << side.x << ", " << side.y;
+        }
     }
     EXPECT_EQ(seen.At(3, 60), Panel);
     EXPECT_EQ(seen.At(100, Top + 3), Panel);
@@ -62,47 +65,40 @@ TEST_F(ButtonOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
     EXPECT_GT(letters.Height(), 12);
 
     EXPECT_EQ(box.SetBackgroundColor(0, RGB(0, 0, 90)), Panel);
-    box.RedrawWindow();
-    EXPECT_EQ(WindowPixels(box).At(100, 60), RGB(0, 0, 90));
-    EXPECT_EQ(box.SetBackgroundColor(1, RGB(1, 2, 3)), RGB(0, 0, 90));
     box.SetWindowText("");
     PumpAll();
+    EXPECT_EQ(WindowPixels(box).At(100, 60), RGB(0, 0, 90));
     EXPECT_EQ(WindowPixels(box).Count(Text), 0);
     EXPECT_EQ(WindowPixels(box).Count(Frame, CRect(1, Top, 199, Top + 3)), 3 * 198);
-}
+    EXPECT_EQ(box.SetBackgroundColor(1, RGB(1, 2, 3)), RGB(0, 0, 90));
 
-TEST_F(ButtonOnBoard, ACaptionTooWideForItsBoxIsLeftOut)
-{
-    CClientDC dc(nullptr);
-    const CString padded = " A caption ";
-    const int width = dc.GetTextExtent(padded).cx;
+    // A caption too wide for its box is left out.
+    const int width = CClientDC(nullptr).GetTextExtent(CString(" A caption ")).cx;
     for (const int spare : {20, 19})
     {
-        auto& box = Add(GroupBox("A caption"), CRect(CPoint(0, 0), CSize(width + spare, 60)));
-        EXPECT_EQ(WindowPixels(box).Count(Text) > 0, spare >= 20) << spare;
-        Remove(box);
+        auto& narrow = Add(GroupBox(), CRect(0, 200, width + spare, 260), 0, "A caption");
+        EXPECT_EQ(WindowPixels(narrow).Count(Text) > 0, spare >= 20) << spare;
+        Remove(narrow);
     }
 }
 
 TEST_F(ButtonOnBoard, AClientEdgeBecomesABorderOfThreePixels)
 {
-    for (const DWORD exStyle : {DWORD(WS_EX_CLIENTEDGE), DWORD(0)})
+    for (const APPMODE mode : {ONBOARD, STD})
     {
-        auto made = std::make_unique<TestStatic>();
-        made->exStyle = exStyle;
-        auto& label = Add(std::move(made), CRect(20, 20, 120, 60));
-        label.SetWindowPos(nullptr, 20, 20, 100, 40, SWP_FRAMECHANGED | SWP_NOZORDER);
-        PumpAll();
-        const int border = exStyle != 0 ? 3 : 0;
-        EXPECT_EQ(ClientRectOf(label).Size(), CSize(100 - 2 * border, 40 - 2 * border));
-        const Pixels seen = WindowPixels(label);
-        EXPECT_EQ(seen.Count(RGB(70, 70, 70)), exStyle != 0 ? 100 * 40 - 94 * 34 : 0);
-        Remove(label);
+        COnBoardUIGeneral::SetAppMode(mode);
+        for (const DWORD exStyle : {DWORD(WS_EX_CLIENTEDGE), DWORD(0)})
+        {
+            auto& label = Add(std::make_unique<TestStatic>(exStyle), CRect(20, 20, 120, 60));
+            label.SetWindowPos(nullptr, 20, 20, 100, 40, SWP_FRAMECHANGED | SWP_NOZORDER);
+            PumpAll();
+            const int border = exStyle == 0 ? 0 : mode == STD ? 2 : 3;
+            EXPECT_EQ(ClientRectOf(label).Size(), CSize(100 - 2 * border, 40 - 2 * border));
+            EXPECT_EQ(WindowPixels(label).Count(RGB(70, 70, 70)),
+                      border == 3 ? 100 * 40 - 94 * 34 : 0);
+            Remove(label);
+        }
     }
-    COnBoardUIGeneral::SetAppMode(STD);
-    auto made = std::make_unique<TestStatic>();
-    made->exStyle = WS_EX_CLIENTEDGE;
-    EXPECT_EQ(ClientRectOf(Add(std::move(made), CRect(20, 20, 120, 60))).Width(), 96);
 }
 
 namespace {
@@ -115,8 +111,7 @@ public:
     {
         DialogTemplate form(CRect(0, 0, 200, 100), WS_POPUP | WS_VISIBLE);
         CreateIndirect(form, nullptr);
-        m_box.type = BS_GROUPBOX;
-        m_box.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 110), this, 1);
+        m_box.Create("", WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 110), this, 1);
         m_inside.Set(RGB(255, 0, 0));
         m_inside.Create("", WS_CHILD | WS_VISIBLE, CRect(30, 40, 60, 70), this, 2);
         m_across.Set(RGB(0, 255, 0));
@@ -126,7 +121,7 @@ public:
     }
     ~GroupDialog() override { DestroyWindow(); }
 
-    TestStatic m_box;
+    TestStatic m_box{0, BS_GROUPBOX};
     CColorStatic m_inside;
     CColorStatic m_across;
     CColorStatic m_gone;
@@ -145,20 +140,12 @@ TEST_F(ButtonOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
         dialog.m_box.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.DC().m_hDC));
         return canvas.Picture();
     };
-    Pixels seen = erased();
+    const Pixels seen = erased();
     EXPECT_EQ(seen.Count(Canvas::Untouched, CRect(20, 30, 50, 60)), 900);
     EXPECT_EQ(seen.Count(Canvas::Untouched, CRect(180, 30, 200, 60)), 600) << "reaches out of it";
     EXPECT_EQ(seen.Count(Panel), 200 * 100 - 1500) << "what is hidden is painted over";
 
-    dialog.m_gone.ShowWindow(SW_SHOW);
-    dialog.m_inside.ShowWindow(SW_HIDE);
-    seen = erased();
-    EXPECT_EQ(seen.Count(Canvas::Untouched, CRect(90, 30, 120, 60)), 900);
-    EXPECT_EQ(seen.Count(Panel, CRect(20, 30, 50, 60)), 900);
-    dialog.m_inside.ShowWindow(SW_SHOW);
-
     // On the screen, the box being painted last.
-    PumpAll();
     dialog.m_box.RedrawWindow();
     const Pixels screen = WindowPixels(dialog.m_box);
     EXPECT_EQ(screen.Count(RGB(255, 0, 0)), 900);
@@ -170,13 +157,11 @@ TEST_F(ButtonOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
 
 TEST_F(WindowTest, TheModeOfItsMakingDecidesWhetherAGroupBoxIsTransparent)
 {
-    auto& standard = Add(GroupBox("Box"), CRect(20, 20, 220, 120));
-    EXPECT_TRUE(standard.GetExStyle() & WS_EX_TRANSPARENT);
+    auto& standard = Add(GroupBox(), CRect(20, 20, 220, 120));
     const ModeScope mode(EFB);
     EXPECT_TRUE(standard.GetExStyle() & WS_EX_TRANSPARENT);
-    auto made = GroupBox("Box");
-    made->exStyle = WS_EX_TRANSPARENT;
-    EXPECT_FALSE(Add(std::move(made), CRect(20, 220, 220, 320)).GetExStyle() & WS_EX_TRANSPARENT);
+    auto& onBoard = Add(GroupBox(WS_EX_TRANSPARENT), CRect(20, 220, 220, 320));
+    EXPECT_FALSE(onBoard.GetExStyle() & WS_EX_TRANSPARENT);
     standard.SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
     standard.Invalidate();
     PumpAll();
@@ -185,6 +170,7 @@ TEST_F(WindowTest, TheModeOfItsMakingDecidesWhetherAGroupBoxIsTransparent)
 
 TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
 {
+    constexpr COLORREF Red = RGB(200, 0, 0);
     CFont font;
     font.CreateFont(-16, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, "Arial");
     auto& plain = Add<CCustomStatic>(CRect(20, 20, 220, 50), 0, "HHHH");
@@ -192,23 +178,22 @@ TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
     bold.ModifyStyleEx(0, WS_EX_TRANSPARENT); // the host clips what is not
     plain.SetFont(&font);
     bold.SetFont(&font);
-    bold.SetColor(RGB(200, 0, 0));
+    bold.SetColor(Red);
     PumpAll();
-    const CRect all(0, 0, 200, 30);
     const COLORREF black = ::GetSysColor(COLOR_WINDOWTEXT);
-    const int thin = WindowPixels(plain).Count(black, all);
-    const CRect letters = Extent(WindowPixels(bold), RGB(200, 0, 0), all);
-    EXPECT_GT(WindowPixels(bold).Count(RGB(200, 0, 0)), thin * 5 / 4);
-    EXPECT_LE(letters.left, 4);
-    EXPECT_LE(letters.top, 8);
+    EXPECT_GT(WindowPixels(bold).Count(Red), WindowPixels(plain).Count(black) * 5 / 4);
+    const auto letters = [&] { return Extent(WindowPixels(bold), Red, CRect(0, 0, 200, 30)); };
+    const CRect four = letters();
+    EXPECT_LE(four.left, 4);
+    EXPECT_LE(four.top, 8);
     bold.SetWindowText("H");
     PumpAll();
-    EXPECT_LT(Extent(WindowPixels(bold), RGB(200, 0, 0), all).right, letters.right);
+    EXPECT_LT(letters().right, four.right);
     EXPECT_EQ(WindowPixels(bold).Count(black), 0) << "the platform's own text must not stay";
     const ModeScope mode(ONBOARD);
     bold.Invalidate();
     PumpAll();
-    EXPECT_EQ(WindowPixels(bold).Count(RGB(200, 0, 0)), 0);
+    EXPECT_EQ(WindowPixels(bold).Count(Red), 0);
 }
 
 TEST_F(WindowTest, AParentMayDestroyALabelThatTellsItOfBeingDisabled)

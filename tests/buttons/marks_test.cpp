@@ -3,12 +3,12 @@
 #include "OnBoardUI.h"
 #include "buttons/ButtonLayout.h"
 #include "buttons/buttons_for_tests.h"
+#include "support/Acting.h"
 
 #include <gmock/gmock.h>
 
 #include <map>
 
-using testing::Each;
 using testing::ElementsAre;
 
 namespace {
@@ -84,23 +84,18 @@ TEST_F(ButtonOnBoard, TheCheckSquareHasThreeSunkenRingsAndACross)
 
 TEST(ButtonLayout, TheCheckSquareIsAsHighAsItsItem)
 {
-    struct
-    {
-        CRect item;
-        int line;
-        CRect mark;
-    } const cases[] = {
-        {CRect(1, 1, 200, 22), 27, CRect(4, 1, 25, 22)},  // (21 - 27) / 2 + 3 = 0
-        {CRect(1, 1, 200, 28), 27, CRect(4, 4, 31, 31)},  // as high as the text: 3 lower
-        {CRect(1, 1, 200, 52), 27, CRect(4, 16, 55, 67)}, // goes on below the edge
-        {CRect(1, 1, 200, 1), 27, CRect(4, -9, 4, -9)},
+    constexpr int Line = 27;
+    const std::pair<int, CRect> cases[] = {
+        {22, CRect(4, 1, 25, 22)},  // (21 - 27) / 2 + 3 = 0
+        {28, CRect(4, 4, 31, 31)},  // as high as the text: 3 lower
+        {52, CRect(4, 16, 55, 67)}, // goes on below the edge
+        {1, CRect(4, -9, 4, -9)},
     };
-    for (const auto& [item, line, mark] : cases)
+    for (const auto& [bottom, mark] : cases)
     {
-        EXPECT_EQ(buttons::CheckSquare(item, line), mark) << item.Height();
+        EXPECT_EQ(buttons::CheckSquare(CRect(1, 1, 200, bottom), Line), mark) << bottom;
     }
     EXPECT_EQ(buttons::RadioSquare(CRect(1, 1, 200, 24)), CRect(4, 1, 26, 23));
-    EXPECT_EQ(buttons::RadioSquare(CRect(1, 1, 200, 62)), CRect(4, 20, 26, 42));
     EXPECT_EQ(buttons::RadioSquare(CRect(1, 1, 200, 10)), CRect(4, -5, 26, 17));
 }
 
@@ -117,27 +112,29 @@ TEST_F(ButtonOnBoard, TheRadioCircleIsThisPicture)
         "........LLLLLL........",
     };
     using Colors = std::map<char, COLORREF>;
-    const Colors looks[] = {
-        {{'.', Ground},
-         {'r', RGB(93, 93, 93)},
-         {'L', RGB(220, 220, 220)},
-         {'f', RGB(180, 180, 180)},
-         {'D', RGB(26, 26, 26)}},
-        {{'.', Ground},
-         {'r', RGB(90, 90, 90)},
-         {'L', RGB(130, 130, 130)},
-         {'f', RGB(100, 100, 100)},
-         {'D', RGB(70, 70, 70)}},
+    const std::pair<DWORD, Colors> looks[] = {
+        {0,
+         {{'.', Ground},
+          {'r', RGB(93, 93, 93)},
+          {'L', RGB(220, 220, 220)},
+          {'f', RGB(180, 180, 180)},
+          {'D', RGB(26, 26, 26)}}},
+        {WS_DISABLED,
+         {{'.', Ground},
+          {'r', RGB(90, 90, 90)},
+          {'L', RGB(130, 130, 130)},
+          {'f', RGB(100, 100, 100)},
+          {'D', RGB(70, 70, 70)}}},
     };
-    for (const bool enabled : {true, false})
+    for (const auto& [style, colors] : looks)
     {
-        auto& radio = Add<TestRadio>(CRect(0, 0, 200, 41), enabled ? 0 : WS_DISABLED);
+        auto& radio = Add<TestRadio>(CRect(0, 0, 200, 41), style);
         for (const int check : {BST_UNCHECKED, BST_CHECKED})
         {
             radio.SetCheck(check);
             const Pixels seen = radio.Drawn();
-            const Colors& colors = looks[enabled ? 0 : 1];
             int wrong = 0;
+            int blank = 200 * 41 - 22 * 22;
             for (int y = 0; y < 22; ++y)
             {
                 for (int x = 0; x < 22; ++x)
@@ -145,12 +142,11 @@ TEST_F(ButtonOnBoard, TheRadioCircleIsThisPicture)
                     const char part = Circle[y][x];
                     const char shown = part == 'D' && check == BST_UNCHECKED ? 'f' : part;
                     wrong += seen.At(4 + x, 10 + y) != colors.at(shown);
+                    blank += shown == '.';
                 }
             }
             EXPECT_EQ(wrong, 0);
-            EXPECT_EQ(seen.Count(Ground),
-                      200 * 41 - seen.Count(colors.at('r')) - seen.Count(colors.at('L')) -
-                          seen.Count(colors.at('f')) - seen.Count(colors.at('D')));
+            EXPECT_EQ(seen.Count(Ground), blank);
         }
         Remove(radio);
     }
@@ -158,6 +154,7 @@ TEST_F(ButtonOnBoard, TheRadioCircleIsThisPicture)
 
 TEST_F(ButtonOnBoard, TheCaptionStandsBesideTheMarkAndInTheMiddle)
 {
+    constexpr COLORREF Text = RGB(230, 230, 230);
     const int line = int(CaptionMetrics().tmHeight);
     struct
     {
@@ -166,13 +163,14 @@ TEST_F(ButtonOnBoard, TheCaptionStandsBesideTheMarkAndInTheMiddle)
         int lines;
         COLORREF color;
     } const cases[] = {
-        {0, "HHH", 1, RGB(230, 230, 230)},
         {WS_DISABLED, "HHH", 1, RGB(90, 90, 90)},
-        {BS_MULTILINE, "HHHHH HHHHH", 2, RGB(230, 230, 230)},
-        {0, "HHHHH HHHHH HHHHH", 1, RGB(230, 230, 230)}, // cut, not wrapped
+        {BS_MULTILINE, "HHHHH HHHHH", 2, Text},
+        {0, "HHHHH HHHHH HHHHH", 1, Text}, // cut, not wrapped
+        {BS_MULTILINE, "HHH", 1, Text},
     };
     for (const auto& [style, text, lines, color] : cases)
     {
+        SCOPED_TRACE(text);
         auto& radio = Add<TestRadio>(CRect(0, 0, 160, 101), style, text);
         const CRect beside(34, 0, 160, 101); // the mark ends at 26, 8 pixels of gap
         const Pixels seen = radio.Drawn();
@@ -181,23 +179,24 @@ TEST_F(ButtonOnBoard, TheCaptionStandsBesideTheMarkAndInTheMiddle)
         EXPECT_LE(letters.left, 38);
         const int block = lines * line;
         const int top = 1 + (100 - block) / 2;
-        EXPECT_GE(letters.top, top) << text;
-        EXPECT_LE(letters.bottom, top + block) << text;
+        EXPECT_GE(letters.top, top);
+        EXPECT_LE(letters.bottom, top + block);
         EXPECT_GT(letters.Height(), block - line / 2);
+
+        // The focus frame goes round the text and moves nothing.
+        if (style == BS_MULTILINE && lines == 1)
+        {
+            radio.SetFocus();
+            const Pixels focused = radio.Drawn();
+            const CRect frame = Extent(focused, RGB(70, 70, 70), CRect(30, 0, 160, 101));
+            EXPECT_EQ(frame.left, 33);
+            EXPECT_EQ(frame.Height(), line);
+            EXPECT_NEAR(frame.top, top - 1, 1);
+            EXPECT_EQ(Extent(focused, Text, beside), letters);
+            EXPECT_GE(frame.right, letters.right);
+        }
         Remove(radio);
     }
-    // The focus frame goes round the text and moves nothing.
-    auto& radio = Add<TestRadio>(CRect(0, 0, 160, 101), BS_MULTILINE, "HHH");
-    const Pixels before = radio.Drawn();
-    radio.SetFocus();
-    const Pixels seen = radio.Drawn();
-    const CRect frame = Extent(seen, RGB(70, 70, 70), CRect(30, 0, 160, 101));
-    EXPECT_EQ(frame.left, 33);
-    EXPECT_EQ(frame.Height(), line + 2 - 2);
-    EXPECT_NEAR(frame.top, 1 + (100 - line) / 2 - 1, 1);
-    const CRect letters = Extent(before, RGB(230, 230, 230), CRect(30, 0, 160, 101));
-    EXPECT_EQ(Extent(seen, RGB(230, 230, 230), CRect(30, 0, 160, 101)), letters);
-    EXPECT_GT(frame.right, letters.right);
 }
 
 TEST_F(ButtonOnBoard, ACheckBoxTellsOfAClickTwiceAndOfAKeyOnce)
@@ -301,6 +300,7 @@ TEST_F(RadioGroup, AHeadThatIsSkippedDoesNotHangTheWalk)
     second.ShowWindow(SW_HIDE);
     second.SendMessage(BM_CLICK);
     EXPECT_EQ(second.GetCheck(), 1);
+    EXPECT_FALSE(CCustomRadiobutton::IsAutoRadio(nullptr));
 }
 
 TEST_F(RadioGroup, AMemberMayBeDestroyedWhileItIsTold)
@@ -308,23 +308,11 @@ TEST_F(RadioGroup, AMemberMayBeDestroyedWhileItIsTold)
     AddRadio(WS_GROUP);
     auto& second = AddRadio();
     auto& third = AddRadio();
-    struct Killer : TestRadio
-    {
-        std::function<void()> kill;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == BM_SETCHECK && kill)
-            {
-                std::exchange(kill, nullptr)();
-            }
-            return TestRadio::WindowProc(message, wParam, lParam);
-        }
-    };
-    auto& killer = Add<Killer>(CRect(300, 40, 400, 70), BS_AUTORADIOBUTTON, "K");
-    killer.kill = [&] {
+    auto& killer = Add<Acting<TestRadio>>(CRect(300, 40, 400, 70), BS_AUTORADIOBUTTON, "K");
+    killer.ActIn(BM_SETCHECK, [&] {
         Remove(second);
         Remove(third);
-    };
+    });
     Click(second.Middle());
     EXPECT_EQ(::GetCapture(), nullptr);
 }
@@ -349,73 +337,32 @@ TEST_F(RadioGroup, GroupBoxesThatItLiesInHearOfEachClickInEveryMode)
 
 TEST_F(RadioGroup, AGroupBoxMayDestroyTheRadioButtonThatTellsIt)
 {
-    struct KillerBox : CButton
-    {
-        std::function<void()> kill;
-        int told = 0;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == WM_COMMAND)
-            {
-                ++told;
-                kill();
-            }
-            return CButton::WindowProc(message, wParam, lParam);
-        }
-    };
     auto& radio = AddRadio(WS_GROUP);
-    auto& first = Add<KillerBox>(CRect(20, 20, 300, 200), BS_GROUPBOX, "First");
-    auto& second = Add<KillerBox>(CRect(25, 25, 290, 190), BS_GROUPBOX, "Second");
-    first.kill = second.kill = [&] { Remove(radio); };
-    Click(radio.Middle());
-    EXPECT_EQ(first.told + second.told, 1);
-    EXPECT_EQ(::GetCapture(), nullptr);
-}
-
-TEST_F(ButtonOnBoard, AutomaticRadioButtonsAreToldByTheirBits)
-{
-    EXPECT_FALSE(CCustomRadiobutton::IsAutoRadio(nullptr));
-    for (const auto& [type, is] : std::vector<std::pair<DWORD, bool>>{{BS_PUSHBUTTON, false},
-                                                                      {BS_RADIOBUTTON, false},
-                                                                      {BS_GROUPBOX, false},
-                                                                      {BS_AUTORADIOBUTTON, true},
-                                                                      {BS_OWNERDRAW, true},
-                                                                      {0xD, true},
-                                                                      {0xF, true}})
+    auto& first = Add<Acting<CButton>>(CRect(20, 20, 300, 200), BS_GROUPBOX, "First");
+    auto& second = Add<Acting<CButton>>(CRect(25, 25, 290, 190), BS_GROUPBOX, "Second");
+    int told = 0;
+    for (Acting<CButton>* const box : {&first, &second})
     {
-        auto& button = Add<CButton>(ButtonPlace, BS_PUSHBUTTON);
-        button.ModifyStyle(0, type);
-        EXPECT_EQ(CCustomRadiobutton::IsAutoRadio(&button), is) << type;
-        EXPECT_FALSE(CCustomRadiobutton::IsAutoRadioGroupCtrl(&button));
-        button.ModifyStyle(0, WS_GROUP);
-        EXPECT_EQ(CCustomRadiobutton::IsAutoRadioGroupCtrl(&button), is);
+        box->ActIn(WM_COMMAND, [&] {
+            ++told;
+            Remove(radio);
+        });
     }
+    Click(radio.Middle());
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesDrawsAtOnce)
 {
-    struct CountingRadio : TestRadio
-    {
-        int defaults = 0;
-        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            defaults += message == WM_UPDATEUISTATE;
-            return TestRadio::DefWindowProc(message, wParam, lParam);
-        }
-    };
-    auto& radio = Add<CountingRadio>(ButtonPlace, BS_AUTORADIOBUTTON, "R");
-    auto& box = Add<TestCheckBox>(ButtonPlace + CPoint(0, 40), 0, "B");
-    auto& push = Add<TestPush>(ButtonPlace + CPoint(0, 80), 0, "P");
-    const WPARAM cues = MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS);
-    for (CWnd* const button :
-         {static_cast<CWnd*>(&radio), static_cast<CWnd*>(&box), static_cast<CWnd*>(&push)})
+    CWnd* const buttons[] = {&Add<TestRadio>(ButtonPlace, 0, "R"),
+                             &Add<TestCheckBox>(ButtonPlace + CPoint(0, 40), 0, "B"),
+                             &Add<TestPush>(ButtonPlace + CPoint(0, 80), 0, "P")};
+    for (CWnd* const button : buttons)
     {
         const Pixels before = WindowPixels(*button);
         CClientDC(button).FillSolidRect(0, 0, 50, 20, RGB(255, 0, 0));
-        button->SendMessage(WM_UPDATEUISTATE, cues);
+        button->SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
         EXPECT_TRUE(WindowPixels(*button) == before);
     }
-    COnBoardUIGeneral::SetAppMode(STD);
-    radio.SendMessage(WM_UPDATEUISTATE, cues);
-    EXPECT_EQ(radio.defaults, 0) << "goes no further in any mode";
 }
