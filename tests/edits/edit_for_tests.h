@@ -16,15 +16,16 @@ public:
     using CCustomEdit::m_lastHit;
     using CCustomEdit::m_scrolling;
 
-    void Fill(int lines)
+    static std::string Lines(int count)
     {
         std::string text;
-        for (int line = 0; line < lines; ++line)
+        for (int line = 0; line < count; ++line)
         {
             text += (line > 0 ? "\r\nLine " : "Line ") + std::to_string(line);
         }
-        SetWindowText(text.c_str());
+        return text;
     }
+    void Fill(int lines) { SetWindowText(Lines(lines).c_str()); }
 
     std::string Text() const
     {
@@ -90,39 +91,44 @@ protected:
     }
 };
 
+// A change of mode, which the edit takes up as it is painted.
+inline void Enter(APPMODE mode, CWnd& edit)
+{
+    COnBoardUIGeneral::SetAppMode(mode);
+    edit.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+}
+
 // Text, caret and bar tell the same story.
 inline void ExpectAgreement(EditForTests& edit, const std::string& after)
 {
+    SCOPED_TRACE(after);
     const int first = edit.GetFirstVisibleLine();
     const int lines = edit.GetLineCount();
-    const bool fits = first == 0 && lines <= edit.VisibleLines();
+    const int page = edit.VisibleLines();
+    const bool fits = first == 0 && lines <= page;
     const int sides = (edit.GetExStyle() & WS_EX_CLIENTEDGE) != 0 ? 6 : 0;
-    EXPECT_EQ(edit.m_barShown, !fits && lines > 1) << after;
-    EXPECT_EQ(edit.m_bar.ShowScrollBar() != 0, edit.m_barShown) << after;
+    EXPECT_EQ(edit.m_barShown, !fits && lines > 1);
+    EXPECT_EQ(edit.m_bar.ShowScrollBar() != 0, edit.m_barShown);
     EXPECT_EQ(ClientRectOf(edit).Width(),
-              WindowRectOf(edit).Width() - sides - (edit.m_barShown ? 52 : 0))
-        << after;
-    EXPECT_EQ(edit.GetStyle() & WS_VSCROLL, 0U) << after;
-    EXPECT_EQ(edit.m_bar.GetScrollPos(), first) << after;
+              WindowRectOf(edit).Width() - sides - (edit.m_barShown ? 52 : 0));
+    EXPECT_EQ(edit.GetStyle() & WS_VSCROLL, 0U);
+    EXPECT_EQ(edit.m_bar.GetScrollPos(), first);
     if (edit.m_barShown)
     {
-        int minimum = 0;
-        int maximum = 0;
-        edit.m_bar.GetScrollRange(&minimum, &maximum);
-        EXPECT_EQ(edit.m_bar.GetPageSize(), edit.VisibleLines()) << after;
-        EXPECT_EQ(maximum, lines - edit.VisibleLines() + 2) << after;
+        SCROLLINFO info = {};
+        edit.m_bar.GetScrollInfo(&info, SIF_RANGE | SIF_PAGE);
+        EXPECT_EQ(int(info.nPage), page);
+        EXPECT_EQ(info.nMax, lines - page + 2);
     }
-    if (::GetFocus() == edit.m_hWnd)
+    int start = 0;
+    int end = 0;
+    edit.GetSel(start, end);
+    const CPoint character = edit.PosFromChar(UINT(end));
+    if (::GetFocus() == edit.m_hWnd && end < edit.GetWindowTextLength() &&
+        ClientRectOf(edit).PtInRect(character))
     {
-        int start = 0;
-        int end = 0;
-        edit.GetSel(start, end);
         CPoint caret;
         ::GetCaretPos(&caret);
-        const CPoint character = edit.PosFromChar(UINT(end));
-        if (end < edit.GetWindowTextLength() && ClientRectOf(edit).PtInRect(character))
-        {
-            EXPECT_EQ(caret.y, character.y) << after;
-        }
+        EXPECT_EQ(caret.y, character.y);
     }
 }

@@ -12,7 +12,7 @@
 class SmallEditsTest : public WindowTest
 {
 protected:
-    static std::string TextOf(const EditWithPrompt& edit)
+    template <class Edit> static std::string TextOf(const Edit& edit)
     {
         CString text;
         edit.GetWindowText(text);
@@ -102,21 +102,22 @@ TEST_F(SmallEditsTest, PromptRules)
     };
     for (const auto& row : table)
     {
+        SCOPED_TRACE(row.name);
         auto& edit = Add<EditWithPrompt>(CRect(20, 20, 220, 50), ES_AUTOHSCROLL);
         edit.SetFocus();
         row.deed(edit);
         PumpAll();
-        EXPECT_EQ(TextOf(edit), row.text) << row.name;
-        EXPECT_EQ(Shown(edit), row.shown) << row.name;
+        EXPECT_EQ(TextOf(edit), row.text);
+        EXPECT_EQ(Shown(edit), row.shown);
         char told[20] = "unset";
-        EXPECT_EQ(edit.GetWindowText(told, sizeof(told)), int(std::strlen(row.text))) << row.name;
-        EXPECT_STREQ(told, row.text) << row.name;
+        EXPECT_EQ(edit.GetWindowText(told, sizeof(told)), int(std::strlen(row.text)));
+        EXPECT_STREQ(told, row.text);
         ::SendMessage(edit, WM_GETTEXT, sizeof(told), LPARAM(told));
-        EXPECT_STREQ(told, row.text) << row.name;
-        EXPECT_EQ(::GetWindowTextLength(edit), int(std::strlen(row.text))) << row.name;
+        EXPECT_STREQ(told, row.text);
+        EXPECT_EQ(::GetWindowTextLength(edit), int(std::strlen(row.text)));
         if (std::strcmp(row.text, row.shown) != 0)
         {
-            EXPECT_EQ(edit.GetSel(), 0U) << row.name << ": caret in front, nothing selected";
+            EXPECT_EQ(edit.GetSel(), 0U) << "caret in front, nothing selected";
         }
         Remove(edit);
     }
@@ -127,16 +128,21 @@ TEST_F(SmallEditsTest, PromptRules)
     EXPECT_EQ(untouched, 'u');
 }
 
-TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithTemplatesToo)
+TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
 {
     auto& edit = Add<EditWithPrompt>(CRect(20, 20, 260, 60));
-    EXPECT_GT(WindowPixels(edit).Count(RGB(119, 121, 118)), 20);
+    const auto count = [&](COLORREF color) {
+        PumpAll();
+        return WindowPixels(edit).Count(color);
+    };
+    EXPECT_GT(count(RGB(119, 121, 118)), 20);
     edit.SetPromptColor(RGB(200, 30, 30));
-    PumpAll();
-    EXPECT_GT(WindowPixels(edit).Count(RGB(200, 30, 30)), 20);
+    EXPECT_GT(count(RGB(200, 30, 30)), 20);
     edit.SetWindowText("text");
-    PumpAll();
-    EXPECT_EQ(WindowPixels(edit).Count(RGB(200, 30, 30)), 0);
+    EXPECT_EQ(count(RGB(200, 30, 30)), 0);
+    edit.DestroyWindow();
+    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(20, 20, 260, 60), &Host(), 5));
+    EXPECT_EQ(Shown(edit), "<Enter text here>");
 
     DialogTemplate form(CRect(0, 0, 200, 60), WS_POPUP | WS_VISIBLE);
     form.Add("Edit", "", ES_AUTOHSCROLL | WS_TABSTOP, CRect(10, 10, 110, 22), 101);
@@ -147,15 +153,6 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithTemplatesToo)
     EXPECT_EQ(Shown(subclassed), "<Enter text here>");
     EXPECT_EQ(TextOf(subclassed), "");
     dialog.DestroyWindow();
-}
-
-TEST_F(SmallEditsTest, APromptComesBackWithAnotherWindow)
-{
-    auto& edit = Add<EditWithPrompt>(CRect(20, 20, 260, 60));
-    edit.SetWindowText("text");
-    edit.DestroyWindow();
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(20, 20, 260, 60), &Host(), 5));
-    EXPECT_EQ(Shown(edit), "<Enter text here>");
 }
 
 TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidth)
@@ -186,11 +183,6 @@ TEST_F(SmallEditsTest, ClipboardKeysWorkOnceEach)
     auto& edit = Add<QuixEdit>(CRect(20, 20, 220, 50), ES_AUTOHSCROLL);
     edit.SetFixedPlace(20, 20, 200);
     auto& platform = Add<CEdit>(CRect(20, 60, 220, 90), ES_AUTOHSCROLL);
-    const auto text = [](const CEdit& of) {
-        CString got;
-        of.GetWindowText(got);
-        return std::string(got.GetString());
-    };
     edit.SetWindowText("abcdef");
     platform.SetWindowText("abcdef");
     edit.SetFocus();
@@ -200,14 +192,14 @@ TEST_F(SmallEditsTest, ClipboardKeysWorkOnceEach)
         platform.SetSel(row.start, row.end);
         TypeKey(row.key, VK_CONTROL);
         row.command(platform);
-        EXPECT_EQ(text(edit), text(platform)) << char(row.key);
-        EXPECT_NE(text(edit), "") << char(row.key);
+        EXPECT_EQ(TextOf(edit), TextOf(platform)) << char(row.key);
+        EXPECT_NE(TextOf(edit), "") << char(row.key);
     }
     EXPECT_FALSE(edit.EscapePressed());
     TypeKey(VK_ESCAPE);
     EXPECT_TRUE(edit.EscapePressed());
     edit.SetSel(0, -1);
     TypeText("vz");
-    EXPECT_EQ(text(edit), "vz");
+    EXPECT_EQ(TextOf(edit), "vz");
     EXPECT_FALSE(edit.EscapePressed());
 }
