@@ -150,34 +150,29 @@ TEST_F(ChildRestylingTest, ControlsGetTheFontOfTheMode)
         {ComboClass, &CCustomDropListCombo::GetStdFont(), &CCustomDropListCombo::GetOnBoardFont()},
         {"Static", nullptr, nullptr},
     };
-    for (const auto& each : cases)
+    for (const auto& [windowClass, standard, onBoard] : cases)
     {
-        CWnd& control = AddPlain(each.windowClass, CRect(10, 20, 110, 50));
+        SCOPED_TRACE(windowClass);
+        Plain& control = AddPlain(windowClass, CRect(10, 20, 110, 50));
         MessageLog log(control, {WM_SETFONT});
         Restyle(Host(), Enlarging, EFB);
         Restyle(Host(), 1.0, FULLSCREEN);
         Restyle(Host(), Reducing, STD);
-        std::vector<Received> expected;
-        for (CFont* font : {each.onBoard, each.onBoard, each.standard})
+        std::vector<WPARAM> expected;
+        if (standard != nullptr)
         {
-            if (font != nullptr)
-            {
-                ASSERT_NE(font->GetSafeHandle(), nullptr) << each.windowClass;
-                expected.push_back({WM_SETFONT, WPARAM(font->GetSafeHandle()), TRUE});
-            }
+            ASSERT_NE(onBoard->GetSafeHandle(), nullptr);
+            expected.assign(2, WPARAM(onBoard->GetSafeHandle()));
+            expected.push_back(WPARAM(standard->GetSafeHandle()));
         }
-        EXPECT_EQ(log.All(), expected) << each.windowClass;
+        EXPECT_EQ(log.WParams(WM_SETFONT), expected);
+        ASSERT_TRUE(control.asked);
+        EXPECT_EQ((control.asked->flags & SWP_FRAMECHANGED) != 0,
+                  windowClass == cases[0].windowClass)
+            << "a report list lays out its frame again";
+        EXPECT_NE(control.asked->flags & SWP_NOZORDER, 0U);
         control.DestroyWindow();
     }
-}
-
-TEST_F(ChildRestylingTest, AReportListLaysOutItsFrameAgain)
-{
-    Plain& list = AddPlain("SysListView32", CRect(10, 20, 110, 50), LVS_REPORT);
-    Restyle(Host(), Enlarging, ONBOARD);
-    ASSERT_TRUE(list.asked);
-    EXPECT_NE(list.asked->flags & SWP_FRAMECHANGED, 0U);
-    EXPECT_NE(list.asked->flags & SWP_NOZORDER, 0U);
 }
 
 TEST_F(ChildRestylingTest, AListBoxGetsThePlatformsBarBackInTheStandardModeOnly)
@@ -216,30 +211,32 @@ TEST_F(ChildRestylingTest, ACombosHeightTakesInItsList)
 TEST_F(ChildRestylingTest, AnAttachedRichEditChangesItsDefaultCharacters)
 {
     auto& edit = Add<CRichEditCtrl>(CRect(10, 20, 210, 120), ES_MULTILINE);
-    const auto format = [](const CWnd& window) {
-        CHARFORMAT read = {};
-        read.cbSize = sizeof(read);
-        window.SendMessage(EM_GETCHARFORMAT, 0, reinterpret_cast<LPARAM>(&read));
-        return read;
-    };
-    const auto expect = [&](const char* face, LONG height, bool bold) {
-        const CHARFORMAT now = format(edit);
-        EXPECT_STREQ(now.szFaceName, face);
-        EXPECT_EQ(now.yHeight, height);
-        EXPECT_EQ((now.dwEffects & CFE_BOLD) != 0, bold);
-    };
-    CHARFORMAT start = format(edit);
-    start.dwMask = CFM_SIZE;
-    start.yHeight = 202;
-    edit.SetDefaultCharFormat(start);
+    CHARFORMAT format = {};
+    format.cbSize = sizeof(format);
+    const auto read = [&] { edit.SendMessage(EM_GETCHARFORMAT, 0, LPARAM(&format)); };
+    read();
+    format.dwMask = CFM_SIZE;
+    format.yHeight = 202;
+    edit.SetDefaultCharFormat(format);
     MessageLog log(edit, {EM_SETBKGNDCOLOR});
-
-    Restyle(Host(), Enlarging, ONBOARD);
-    expect("Arial", 252, true); // 252.5
-    Restyle(Host(), 1.0, EFBFS);
-    expect("Arial", 315, true);
-    Restyle(Host(), Reducing, STD);
-    expect("MS Sans Serif", 252, false);
+    const struct
+    {
+        double scale;
+        APPMODE mode;
+        const char* face;
+        LONG height;
+        bool bold;
+    } steps[] = {{Enlarging, ONBOARD, "Arial", 252, true}, // 252.5
+                 {1.0, EFBFS, "Arial", 315, true},
+                 {Reducing, STD, "MS Sans Serif", 252, false}};
+    for (const auto& step : steps)
+    {
+        Restyle(Host(), step.scale, step.mode);
+        read();
+        EXPECT_STREQ(format.szFaceName, step.face);
+        EXPECT_EQ(format.yHeight, step.height);
+        EXPECT_EQ((format.dwEffects & CFE_BOLD) != 0, step.bold);
+    }
     const Received background = {EM_SETBKGNDCOLOR, FALSE, RGB(180, 180, 180)};
     EXPECT_EQ(log.All(), std::vector<Received>(3, background));
 }

@@ -1,11 +1,11 @@
 #include "AppAccess.h"
 #include "OnBoardUI.h"
+#include "support/Acting.h"
 #include "support/Canvas.h"
 #include "support/WindowTest.h"
 
 #include <cmath>
 #include <cstring>
-#include <functional>
 
 namespace {
 
@@ -94,57 +94,27 @@ TEST_F(OnBoardHelpersTest, SystemColoursComeAndGoWithTheOnBoardModes)
     EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHT), own) << "the mode alone leaves them alone";
 }
 
-// Ends, and does something before, when it gets its font.
-class LeavingLabel : public CStatic
-{
-public:
-    std::function<void()> last;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == WM_SETFONT)
-        {
-            last();
-            DestroyWindow();
-            return 0;
-        }
-        return CStatic::WindowProc(message, wParam, lParam);
-    }
-};
-
-TEST_F(OnBoardHelpersTest, AChildThatEndsDoesNotKeepTheFontFromTheOthers)
+TEST_F(OnBoardHelpersTest, ADialogsFontReachesItsDirectChildrenThoughOneEnds)
 {
     auto& panel = Add<CWnd>(CRect(0, 0, 200, 200));
     const CRect place(0, 0, 50, 20);
     auto& first = Add<CStatic>(place);
-    auto& leaving = Add<LeavingLabel>(place);
+    auto& leaving = Add<Acting<CStatic>>(place);
     auto& second = Add<CStatic>(place);
     auto& taken = Add<CStatic>(place);
-    for (CWnd* child : {static_cast<CWnd*>(&first), static_cast<CWnd*>(&leaving),
-                        static_cast<CWnd*>(&second), static_cast<CWnd*>(&taken)})
+    auto& inner = Add<CStatic>(place);
+    for (CWnd* const child : std::initializer_list<CWnd*>{&first, &leaving, &second, &taken})
     {
         child->SetParent(&panel);
         ::SetWindowPos(*child, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     }
-    leaving.last = [&] { taken.DestroyWindow(); };
+    inner.SetParent(&first);
+    leaving.ActIn(WM_SETFONT, [&] {
+        taken.DestroyWindow();
+        leaving.DestroyWindow();
+    });
     MessageLog firstLog(first, {WM_SETFONT});
     MessageLog secondLog(second, {WM_SETFONT});
-    ChangeDialogFont(&panel, nullptr);
-    EXPECT_EQ(leaving.GetSafeHwnd(), nullptr);
-    EXPECT_EQ(taken.GetSafeHwnd(), nullptr);
-    EXPECT_EQ(firstLog.Count(WM_SETFONT), 1);
-    EXPECT_EQ(secondLog.Count(WM_SETFONT), 1);
-}
-
-TEST_F(OnBoardHelpersTest, ADialogsFontReachesItsDirectChildren)
-{
-    auto& panel = Add<CWnd>(CRect(0, 0, 200, 200));
-    auto& label = Add<CStatic>(CRect(0, 0, 50, 20));
-    auto& inner = Add<CStatic>(CRect(0, 0, 20, 20));
-    label.SetParent(&panel);
-    inner.SetParent(&label);
-    MessageLog labelLog(label, {WM_SETFONT});
     MessageLog innerLog(inner, {WM_SETFONT});
     CFont font;
     CreateOnBoardFont(font, 1.7, 0, 400);
@@ -155,7 +125,8 @@ TEST_F(OnBoardHelpersTest, ADialogsFontReachesItsDirectChildren)
     ChangeDialogFont(&noWindow, &font);
     const std::vector<Received> expected = {{WM_SETFONT, WPARAM(font.GetSafeHandle()), TRUE},
                                             {WM_SETFONT, 0, TRUE}};
-    EXPECT_EQ(labelLog.All(), expected);
+    EXPECT_EQ(firstLog.All(), expected);
+    EXPECT_EQ(secondLog.All(), expected);
     EXPECT_EQ(innerLog.All(), std::vector<Received>());
 }
 
