@@ -22,10 +22,7 @@ public:
     }
 
     using CSearchStatusBar::m_activeTimer;
-    using CSearchStatusBar::m_frame;
-    using CSearchStatusBar::m_loadingFrames;
     using CSearchStatusBar::m_period;
-    using CSearchStatusBar::m_searchFrames;
 
     CString Text() const { return GetText(0); }
 };
@@ -33,7 +30,7 @@ public:
 class SearchStatusBarTest : public WindowTest
 {
 protected:
-    Bar& AddBar(DWORD style = 0) { return Add<Bar>(CRect(0, 0, 300, 20), style); }
+    Bar& AddBar() { return Add<Bar>(CRect(0, 0, 300, 20)); }
 };
 
 TEST_F(SearchStatusBarTest, ASearchGainsADotEachSecond)
@@ -41,12 +38,10 @@ TEST_F(SearchStatusBarTest, ASearchGainsADotEachSecond)
     Bar& bar = AddBar();
     const DWORD start = ::GetTickCount();
     bar.StartSearchProgress();
-    EXPECT_EQ(bar.Text(), "Searching.");
     ASSERT_TRUE(PumpUntil([&] { return bar.Text() == "Searching. ."; }));
     const DWORD passed = ::GetTickCount() - start;
     EXPECT_GE(passed, 900U);
     EXPECT_LE(passed, 1'800U);
-    bar.StopSearchProgress();
 }
 
 TEST_F(SearchStatusBarTest, TheDotsBeginAgainAfterFiveAndGoOnWithTheNextSearch)
@@ -56,49 +51,47 @@ TEST_F(SearchStatusBarTest, TheDotsBeginAgainAfterFiveAndGoOnWithTheNextSearch)
     bar.m_period = 10;
     bar.StartSearchProgress();
     std::vector<CString> seen;
-    ASSERT_TRUE(PumpUntil([&] {
-        if (seen.empty() || seen.back() != bar.Text())
-        {
-            seen.push_back(bar.Text());
-        }
-        return seen.size() == 8;
-    }));
+    const auto see = [&](size_t count) {
+        return PumpUntil([&] {
+            if (seen.empty() || seen.back() != bar.Text())
+            {
+                seen.push_back(bar.Text());
+            }
+            return seen.size() == count;
+        });
+    };
+    ASSERT_TRUE(see(8));
     const std::vector<CString> expected = {
         "Searching.",         "Searching. .",         "Searching. . .", "Searching. . . .",
         "Searching. . . . .", "Searching. . . . . .", "Searching. .",   "Searching. . ."};
     EXPECT_EQ(seen, expected);
 
     bar.StopLoadingProgress(); // either ends it
-    EXPECT_EQ(bar.m_activeTimer, -1);
-    const CString last = bar.Text();
     PumpFor(60);
-    EXPECT_EQ(bar.Text(), last) << "the last text stays";
-    bar.StopSearchProgress();
+    EXPECT_EQ(bar.Text(), seen.back()) << "the last text stays";
     bar.StopSearchProgress();
 
-    const int frame = bar.m_frame;
+    seen.clear();
     bar.StartSearchProgress();
-    EXPECT_EQ(bar.Text(), "Searching.");
-    ASSERT_TRUE(PumpUntil([&] { return bar.Text() != "Searching."; }));
-    EXPECT_EQ(bar.Text(), bar.m_searchFrames[frame]);
-    bar.StopSearchProgress();
+    ASSERT_TRUE(see(2));
+    EXPECT_EQ(seen, (std::vector<CString>{"Searching.", "Searching. . . ."}));
 }
 
 TEST_F(SearchStatusBarTest, LoadingStandsStillAndLetsNoSearchBegin)
 {
+    const ModeScope scope(ONBOARD);
     Bar& bar = AddBar();
     bar.m_period = 10;
+    bar.timersAtPainting.clear();
     bar.StartLoadingProgress();
-    EXPECT_EQ(bar.Text(), "Loading Results.");
-    EXPECT_EQ(bar.m_activeTimer, 1190);
+    ASSERT_FALSE(bar.timersAtPainting.empty()) << "its text shows at once";
+    EXPECT_EQ(bar.timersAtPainting.front(), -1) << "before its timer runs";
     bar.StartSearchProgress();
     bar.StartLoadingProgress();
+    EXPECT_EQ(bar.m_activeTimer, 1190);
     MessageLog log(bar, {WM_TIMER});
     ASSERT_TRUE(PumpUntil([&] { return log.Count(WM_TIMER) > 2; }));
     EXPECT_EQ(log.WParams(WM_TIMER).front(), 1190U);
-    EXPECT_EQ(bar.Text(), "Loading Results.");
-    EXPECT_EQ(bar.m_frame, 0);
-    EXPECT_EQ(bar.m_loadingFrames[4], "Loading Results. . . . . .");
     bar.SendMessage(WM_TIMER, 7);
     EXPECT_EQ(bar.Text(), "Loading Results.");
 
@@ -107,23 +100,6 @@ TEST_F(SearchStatusBarTest, LoadingStandsStillAndLetsNoSearchBegin)
     EXPECT_EQ(bar.m_activeTimer, 1189);
     bar.StartLoadingProgress();
     EXPECT_NE(bar.Text(), "Loading Results.");
-    bar.StopSearchProgress();
-}
-
-TEST_F(SearchStatusBarTest, TheTextOfLoadingShowsBeforeItsTimerRuns)
-{
-    const ModeScope scope(ONBOARD);
-    Bar& bar = AddBar();
-    PumpAll();
-    bar.timersAtPainting.clear();
-    bar.StartLoadingProgress();
-    EXPECT_FALSE(bar.timersAtPainting.empty());
-    for (const int timer : bar.timersAtPainting)
-    {
-        EXPECT_EQ(timer, -1);
-    }
-    EXPECT_EQ(bar.m_activeTimer, 1190);
-    bar.StopLoadingProgress();
 }
 
 TEST_F(SearchStatusBarTest, ABarMayGoWhileItsTimerRuns)
@@ -133,60 +109,66 @@ TEST_F(SearchStatusBarTest, ABarMayGoWhileItsTimerRuns)
     bar.StartLoadingProgress();
     bar.StopSearchProgress();
     EXPECT_EQ(bar.m_activeTimer, -1);
-    for (int round = 0; round < 2; ++round)
+    const ModeScope scope(ONBOARD);
+    bar.m_period = 10;
+    for (const bool inItsOwnTick : {false, false, true})
     {
         ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
-        bar.m_period = 10;
         bar.StartSearchProgress();
         EXPECT_EQ(bar.m_activeTimer, 1189);
-        bar.DestroyWindow();
+        PumpAll();
+        bar.ended = inItsOwnTick;
+        if (!inItsOwnTick)
+        {
+            bar.DestroyWindow();
+        }
+        EXPECT_TRUE(PumpUntil([&] { return bar.GetSafeHwnd() == nullptr; }));
         EXPECT_EQ(bar.m_activeTimer, -1);
         PumpFor(50);
     }
-    // Inside its own tick.
-    const ModeScope scope(ONBOARD);
-    ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
-    bar.StartSearchProgress();
-    PumpAll();
-    bar.ended = true;
-    ASSERT_TRUE(PumpUntil([&] { return bar.GetSafeHwnd() == nullptr; }));
-    EXPECT_EQ(bar.m_activeTimer, -1);
 }
 
 TEST_F(SearchStatusBarTest, TheBarErasesNothing)
 {
     Bar& bar = AddBar();
-    CClientDC dc(&bar);
-    EXPECT_EQ(bar.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())), 0);
-    const ModeScope scope(ONBOARD);
-    EXPECT_EQ(bar.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc.GetSafeHdc())), 0);
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        EXPECT_EQ(bar.SendMessage(WM_ERASEBKGND, WPARAM(CClientDC(&bar).m_hDC)), 0);
+    }
 }
 
-// The look --------------------------------------------------------------------------------------
-
 class StatusBarTest : public WindowTest
-{};
+{
+protected:
+    CCustomStatusBar& AddBar(std::vector<int> edges)
+    {
+        auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0));
+        bar.SetParts(int(edges.size()), edges.data());
+        return bar;
+    }
+    static Pixels Painted(CWnd& bar)
+    {
+        bar.Invalidate();
+        PumpAll();
+        return WindowPixels(bar);
+    }
+};
 
 TEST_F(StatusBarTest, OnBoardItIsDarkAndHighEnoughAndTheStandardLookComesBack)
 {
-    auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0));
-    int edges[] = {150, 300, -1};
-    bar.SetParts(3, edges);
+    auto& bar = AddBar({150, 300, -1});
     bar.SetText("Left", 0, 0);
     bar.SetText("\tMiddle", 1, 0);
     bar.SetText("\t\tRight", 2, 0);
-    PumpAll();
-    const Pixels standard = WindowPixels(bar);
-    const int height = ClientRectOf(bar).Height();
+    const Pixels standard = Painted(bar);
     for (const APPMODE mode : {ONBOARD, EFB})
     {
         const ModeScope scope(mode);
-        bar.Invalidate();
-        PumpAll();
+        const Pixels dark = Painted(bar);
         const CRect client = ClientRectOf(bar);
         EXPECT_GE(client.Height(), 27 + 4);
         EXPECT_EQ(WindowRectOf(bar).bottom, WindowRectOf(Host()).bottom);
-        const Pixels dark = WindowPixels(bar);
         const auto inked = [&](int from, int to) {
             return dark.Count(RGB(230, 230, 230), CRect(from, 0, to, client.bottom));
         };
@@ -194,8 +176,8 @@ TEST_F(StatusBarTest, OnBoardItIsDarkAndHighEnoughAndTheStandardLookComesBack)
         EXPECT_GT(inked(0, 75), 20);
         EXPECT_EQ(inked(75, 150), 0);
         EXPECT_GT(inked(190, 260), 20);
-        EXPECT_GT(inked(client.right - 80, client.right), 20);
         EXPECT_EQ(inked(310, client.right - 100), 0);
+        EXPECT_GT(inked(client.right - 80, client.right), 20);
         bar.SetSimple();
         bar.SetText("Simple", 255, 0);
         PumpAll();
@@ -204,17 +186,12 @@ TEST_F(StatusBarTest, OnBoardItIsDarkAndHighEnoughAndTheStandardLookComesBack)
         PumpAll();
         EXPECT_TRUE(WindowPixels(bar) == dark);
     }
-    bar.Invalidate();
-    PumpAll();
-    EXPECT_EQ(ClientRectOf(bar).Height(), height);
-    EXPECT_TRUE(WindowPixels(bar) == standard);
+    EXPECT_TRUE(Painted(bar) == standard);
 }
 
 TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryMode)
 {
-    auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0));
-    int edges[] = {50, -1};
-    bar.SetParts(2, edges);
+    auto& bar = AddBar({50, -1});
     bar.SetText("Other", 1, 0);
     int drawn = 0;
     Host().AlsoRecord({WM_DRAWITEM});
@@ -235,13 +212,9 @@ TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryMode)
         const ModeScope scope(mode);
         bar.SendMessage(SB_SETTEXT, SBT_OWNERDRAW, 77);
         drawn = 0;
-        bar.Invalidate();
-        PumpAll();
+        const Pixels seen = Painted(bar);
         EXPECT_GT(drawn, 0) << mode;
-        if (mode != STD)
-        {
-            EXPECT_GT(WindowPixels(bar).Count(RGB(230, 230, 230)), 20) << "of the other pane";
-        }
+        EXPECT_EQ(seen.Count(RGB(230, 230, 230)) > 20, mode != STD) << "of the other pane";
     }
 }
 
@@ -271,21 +244,19 @@ TEST_F(StatusBarTest, AnOwnerMayDeleteTheBarThatItDraws)
 
 TEST_F(StatusBarTest, AFontThatComesOnBoardIsThatOfTheStandardMode)
 {
-    auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0));
+    auto& bar = AddBar({-1});
     CFont font;
     ASSERT_TRUE(font.CreatePointFont(120, "Arial"));
     {
         const ModeScope scope(ONBOARD);
-        bar.Invalidate();
-        PumpAll();
+        Painted(bar);
         const int height = ClientRectOf(bar).Height();
         bar.SetFont(&font);
         PumpAll();
         EXPECT_EQ(ClientRectOf(bar).Height(), height);
         EXPECT_NE(bar.SendMessage(WM_GETFONT), LRESULT(font.GetSafeHandle()));
     }
-    bar.Invalidate();
-    PumpAll();
+    Painted(bar);
     EXPECT_EQ(bar.SendMessage(WM_GETFONT), LRESULT(font.GetSafeHandle()));
 }
 
