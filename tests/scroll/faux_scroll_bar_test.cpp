@@ -119,6 +119,10 @@ TEST_F(FauxScrollBarTest, TheThumbFollowsPositionRangeAndArea)
     const ModeScope standard(STD);
     vert.SetArea(VertArea);
     EXPECT_EQ(vert.GetPartArea(Bar::PRESSED_SECOND), CRect(100, 365, 154, 420));
+    horz.SetScrollPos(0);
+    horz.SetArea(CRect(10, 5, 210, 22));
+    EXPECT_EQ(horz.GetPartArea(Bar::PRESSED_FIRST), CRect(10, 5, 27, 21));
+    EXPECT_EQ(horz.GetPartArea(Bar::PRESSED_THUMB), CRect(27, 5, 44, 21));
 }
 
 TEST_F(FauxScrollBarTest, HitTestsFindEachPart)

@@ -178,16 +178,12 @@ protected:
     // The selection notifications and those of the button, in order.
     std::vector<int> Codes(UINT id = FirstId)
     {
-        static constexpr int Chosen[] = {Changing, Changed, int(NM_CLICK), int(NM_RCLICK),
-                                         int(TVN_BEGINDRAG)};
-        std::vector<int> codes;
-        for (const UINT code : Host().CodesFrom(id))
-        {
-            if (std::ranges::find(Chosen, int(code)) != std::end(Chosen))
-            {
-                codes.push_back(int(code));
-            }
-        }
+        const std::vector<UINT> all = Host().CodesFrom(id);
+        std::vector<int> codes(all.begin(), all.end());
+        std::erase_if(codes, [](int code) {
+            return code != Changing && code != Changed && code != int(NM_CLICK) &&
+                   code != int(NM_RCLICK) && code != int(TVN_BEGINDRAG);
+        });
         return codes;
     }
     int CountOf(int code) { return int(std::ranges::count(Codes(), code)); }
