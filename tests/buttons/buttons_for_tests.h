@@ -12,10 +12,8 @@
 template <class Base> class Traced : public Base
 {
 public:
-    using Base::m_background;
     using Base::m_check;
     using Base::m_focused;
-    using Base::m_mouseDown;
     using Base::m_pressed;
     using Base::m_tracking;
 
@@ -77,11 +75,5 @@ protected:
     {
         WindowTest::SetUp();
         COnBoardUIGeneral::SetAppMode(ONBOARD);
-    }
-
-    void TearDown() override
-    {
-        COnBoardUIGeneral::SetAppMode(STD);
-        WindowTest::TearDown();
     }
 };

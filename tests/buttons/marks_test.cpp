@@ -257,9 +257,12 @@ TEST_F(RadioGroup, AClickClearsTheOthersOfTheGroupOnly)
     AddRadio(WS_GROUP).SetCheck(1);
     auto& second = AddRadio();
     auto& third = AddRadio();
+    auto& box = Add<TestCheckBox>(CRect(300, 40, 400, 70), BS_AUTOCHECKBOX, "no radio button");
+    box.SetCheck(1);
     AddRadio(WS_GROUP).SetCheck(1); // the next group
     Click(second.Middle());
     EXPECT_THAT(Checks(), ElementsAre(0, 1, 0, 1));
+    EXPECT_EQ(box.GetCheck(), 1);
     EXPECT_EQ(Host().Count(WM_COMMAND), 1);
     for (TestRadio* const radio : m_radios)
     {

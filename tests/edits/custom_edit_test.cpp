@@ -37,7 +37,14 @@ TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
              Wheel(-WHEEL_DELTA);
          }},
         {"shorter", [](EditForTests& edit) { edit.MoveWindow(20, 20, 300, 140); }},
-        {"larger", [](EditForTests& edit) { edit.MoveWindow(20, 20, 300, 240); }},
+        {"no size and back",
+         [](EditForTests& edit) {
+             for (const int height : {0, 9, 240})
+             {
+                 edit.MoveWindow(20, 20, height * 300 / 240, height);
+                 edit.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+             }
+         }},
         {"font", [](EditForTests& edit) { edit.SetFont(&CCustomEdit::GetStdFont()); }},
         {"read-only", [](EditForTests& edit) { edit.SetReadOnly(TRUE); }},
         {"all but little gone",
@@ -76,39 +83,20 @@ TEST_F(EditOnBoard, ATextThatFitsHasNoBarAndTheWholeWidth)
     EXPECT_EQ(edit.m_bar.GetArea(), CRect(300 - 55, 3, 300 - 3, 240 - 3));
     TypeKey(VK_BACK);
     EXPECT_FALSE(edit.m_barShown) << "at line " << edit.GetFirstVisibleLine();
+    // The band lies beside the client area whatever the border is.
+    for (const DWORD border : {DWORD(0), DWORD(WS_BORDER)})
+    {
+        auto& other = Add<EditForTests>(CRect(20, 20, 320, 260), ManyLines | border);
+        other.Fill(80);
+        PumpAll();
+        const int line = (300 - 52 - ClientRectOf(other).Width()) / 2;
+        EXPECT_LE(line, border != 0 ? 1 : 0);
+        EXPECT_EQ(other.m_bar.GetArea(), CRect(300 - line - 52, line, 300 - line, 240 - line));
+    }
     // Without the style there is never one.
     auto& plain = AddEdit(50, ManyLines & ~DWORD(WS_VSCROLL));
     EXPECT_FALSE(plain.m_barShown);
     EXPECT_EQ(ClientRectOf(plain).Width(), 294);
-}
-
-TEST_F(EditOnBoard, EditsOfAnySizeAndBorderKeepWithinTheirWindow)
-{
-    for (const CSize size : {CSize(0, 0), CSize(4, 4), CSize(90, 9), CSize(300, 40)})
-    {
-        auto& edit = AddEdit(80);
-        edit.MoveWindow(CRect(CPoint(20, 20), size));
-        PumpAll();
-        edit.SendMessage(WM_VSCROLL, SB_LINEDOWN);
-        edit.Fill(1);
-        edit.Fill(90);
-        PumpAll();
-        EXPECT_LE(ClientRectOf(edit).Width(), size.cx);
-        edit.MoveWindow(CRect(20, 20, 320, 260));
-        PumpAll();
-        ExpectAgreement(edit, "grown again");
-        Remove(edit);
-    }
-    // The band lies beside the client area whatever the border is.
-    for (const DWORD border : {DWORD(0), DWORD(WS_BORDER)})
-    {
-        auto& edit = Add<EditForTests>(CRect(20, 20, 320, 260), ManyLines | border);
-        edit.Fill(80);
-        PumpAll();
-        const int line = (300 - 52 - ClientRectOf(edit).Width()) / 2;
-        EXPECT_LE(line, border != 0 ? 1 : 0);
-        EXPECT_EQ(edit.m_bar.GetArea(), CRect(300 - line - 52, line, 300 - line, 240 - line));
-    }
 }
 
 TEST_F(EditOnBoard, TheBorderTellsTheState)

@@ -68,7 +68,6 @@ protected:
     void TearDown() override
     {
         CCustomEdit::SetEfb(nullptr);
-        COnBoardUIGeneral::SetAppMode(STD);
         WindowTest::TearDown();
     }
 

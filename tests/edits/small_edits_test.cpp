@@ -77,7 +77,6 @@ TEST_F(SmallEditsTest, PromptRules)
              e.Reset();
          },
          "", prompt},
-        {"other prompt", [](EditWithPrompt& e) { e.SetPromptText("?"); }, "", "?"},
         {"no prompt", [](EditWithPrompt& e) { e.SetPromptText(""); }, "", ""},
         {"null prompt, then text",
          [](EditWithPrompt& e) {
@@ -94,8 +93,6 @@ TEST_F(SmallEditsTest, PromptRules)
         {"key", [](EditWithPrompt&) { TypeText("q"); }, "q", "q"},
         {"on-screen key", [](EditWithPrompt& e) { e.SendMessage(WM_CHAR, 'q', 1); }, "q", "q"},
         {"press", [](EditWithPrompt& e) { Click(ClientPoint(e, CPoint(9, 9))); }, "", ""},
-        {"middle press", [](EditWithPrompt& e) { e.SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, 0); },
-         "", ""},
         {"right press", [](EditWithPrompt& e) { e.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, 0); }, "",
          ""},
         {"all selected", [](EditWithPrompt& e) { e.SetSel(0, -1); }, "", prompt},

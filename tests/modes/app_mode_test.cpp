@@ -75,12 +75,6 @@ class AppModeTest : public WindowTest
 protected:
     Journal journal;
 
-    void TearDown() override
-    {
-        COnBoardUIGeneral::SetAppMode(STD);
-        WindowTest::TearDown();
-    }
-
     void MakeWindow(CWnd& window)
     {
         ASSERT_TRUE(window.CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE,

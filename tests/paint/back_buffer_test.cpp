@@ -1,4 +1,5 @@
 #include "paint/BackBuffer.h"
+#include "paint/GdiGuards.h"
 #include "support/Canvas.h"
 #include "support/WindowTest.h"
 
@@ -10,6 +11,11 @@
 namespace {
 
 constexpr COLORREF Ink = RGB(10, 20, 30);
+
+auto StateOf(const CDC& dc)
+{
+    return std::tuple(::GetCurrentObject(dc, OBJ_PEN), dc.GetTextColor(), dc.GetBkMode());
+}
 
 TEST(BackBuffer, CopiesItsAreaAtTheEndAndNothingElse)
 {
@@ -43,15 +49,11 @@ TEST_F(BackBufferOnScreen, TwoAtATimeKeepApartAndEachBeginsFresh)
 {
     constexpr COLORREF Inner = RGB(200, 100, 50);
     CClientDC dc(&Host());
-    const auto stateOf = [](const CDC& context) {
-        return std::tuple(::GetCurrentObject(context, OBJ_PEN), context.GetTextColor(),
-                          context.GetBkMode());
-    };
     const CPen pen(PS_SOLID, 1, Ink);
     for (const int size : {30, 700, 30}) // grown in between, and smaller than what is kept
     {
         BackBuffer outer(dc, CRect(10, 10, 10 + size, 20));
-        EXPECT_EQ(stateOf(outer.DC()),
+        EXPECT_EQ(StateOf(outer.DC()),
                   std::tuple(::GetStockObject(BLACK_PEN), COLORREF(0), int(OPAQUE)));
         CRect clip;
         outer.DC().GetClipBox(&clip);
@@ -69,6 +71,22 @@ TEST_F(BackBufferOnScreen, TwoAtATimeKeepApartAndEachBeginsFresh)
     const Pixels screen = WindowPixels(Host());
     EXPECT_EQ(screen.Count(Ink), 700 * 10);
     EXPECT_EQ(screen.Count(Inner), 700 * 10);
+}
+
+TEST(GdiGuards, PutBackWhatTheyFound)
+{
+    Canvas canvas(10, 10);
+    CDC& dc = canvas.DC();
+    const auto before = StateOf(dc);
+    {
+        const Selected outer(dc, ::GetStockObject(WHITE_PEN));
+        const Selected inner(dc, ::GetStockObject(NULL_PEN));
+        const Selected none(dc, HGDIOBJ(nullptr));
+        const TextColor color(dc, Ink);
+        const BackgroundMode mode(dc, TRANSPARENT);
+        EXPECT_EQ(StateOf(dc), std::tuple(::GetStockObject(NULL_PEN), Ink, TRANSPARENT));
+    }
+    EXPECT_EQ(StateOf(dc), before);
 }
 
 } // namespace
