@@ -2,10 +2,6 @@
 #include "support/DialogTemplate.h"
 
 #include "CustomDialog.h"
-#include "edits/EditBorder.h"
-#include "support/Canvas.h"
-
-#include <gmock/gmock.h>
 
 TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
 {
@@ -126,10 +122,6 @@ TEST_F(EditOnBoard, TheBorderTellsTheState)
         }
         EXPECT_EQ(seen.At(245, 120), RGB(70, 70, 70)) << "the bar's outline";
     }
-    Canvas canvas(8, 8);
-    DrawEditBorder(canvas.DC(), CRect(1, 1, 5, 5), EditBorderOf(true, false));
-    EXPECT_EQ(canvas.At(2, 2), RGB(93, 93, 93)) << "smaller than twice the border";
-    EXPECT_EQ(canvas.At(5, 5), Canvas::Untouched);
 }
 
 // Modes -----------------------------------------------------------------------------------------
@@ -150,28 +142,23 @@ bool PlatformBarWorks(CEdit& edit)
     return shows && edit.GetFirstVisibleLine() == 6;
 }
 
-class EditDialog : public CCustomDialog
+struct EditDialog : CCustomDialog
 {
-public:
-    explicit EditDialog(bool early)
+    explicit EditDialog(bool bindsInTime)
         : CCustomDialog(0U, nullptr)
-        , m_early(early)
+        , early(bindsInTime)
     {}
-
-    EditForTests edit;
-
-protected:
     BOOL OnInitDialog() override
     {
-        if (m_early)
+        if (early)
         {
             edit.SubclassDlgItem(101, this);
         }
         return CCustomDialog::OnInitDialog();
     }
 
-private:
-    bool m_early;
+    const bool early;
+    EditForTests edit;
 };
 
 } // namespace

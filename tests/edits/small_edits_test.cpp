@@ -49,59 +49,44 @@ TEST_F(SmallEditsTest, ColoursAreBlackOnFacesUntilSet)
 
 TEST_F(SmallEditsTest, PromptRules)
 {
-    using Deed = void (*)(EditWithPrompt&);
+    using Edit = EditWithPrompt;
     constexpr const char* prompt = "<Enter text here>";
     struct
     {
         const char* name;
-        Deed deed;
+        const char* before; // the text, or none
+        void (*deed)(Edit&);
         const char* text;  // as told
         const char* shown; // as seen
     } const table[] = {
-        {"fresh", [](EditWithPrompt&) {}, "", prompt},
-        {"empty text", [](EditWithPrompt& e) { e.SetWindowText(""); }, "", prompt},
-        {"null text", [](EditWithPrompt& e) { e.SetWindowText(nullptr); }, "", prompt},
-        {"prompt as text", [](EditWithPrompt& e) { e.SetWindowText(prompt); }, "", prompt},
-        {"a text", [](EditWithPrompt& e) { e.SetWindowText("abc"); }, "abc", "abc"},
-        {"a text by message",
-         [](EditWithPrompt& e) { e.SendMessage(WM_SETTEXT, 0, LPARAM("abc")); }, "abc", "abc"},
-        {"a text taken away",
-         [](EditWithPrompt& e) {
-             e.SetWindowText("abc");
-             e.SetWindowText("");
-         },
-         "", ""},
-        {"reset",
-         [](EditWithPrompt& e) {
-             e.SetWindowText("abc");
-             e.Reset();
-         },
-         "", prompt},
-        {"no prompt", [](EditWithPrompt& e) { e.SetPromptText(""); }, "", ""},
-        {"null prompt, then text",
-         [](EditWithPrompt& e) {
-             e.SetPromptText(nullptr);
-             e.SetWindowText("x");
-         },
-         "x", "x"},
-        {"prompt under a text",
-         [](EditWithPrompt& e) {
-             e.SetWindowText("abc");
-             e.SetPromptText("?");
-         },
+        {"fresh", nullptr, [](Edit&) {}, "", prompt},
+        {"a text", "abc", [](Edit&) {}, "abc", "abc"},
+        {"empty text", nullptr, [](Edit& e) { e.SetWindowText(""); }, "", prompt},
+        {"null text", nullptr, [](Edit& e) { e.SetWindowText(nullptr); }, "", prompt},
+        {"prompt as text", nullptr, [](Edit& e) { e.SetWindowText(prompt); }, "", prompt},
+        {"a text by message", nullptr, [](Edit& e) { e.SendMessage(WM_SETTEXT, 0, LPARAM("abc")); },
          "abc", "abc"},
-        {"key", [](EditWithPrompt&) { TypeText("q"); }, "q", "q"},
-        {"on-screen key", [](EditWithPrompt& e) { e.SendMessage(WM_CHAR, 'q', 1); }, "q", "q"},
-        {"press", [](EditWithPrompt& e) { Click(ClientPoint(e, CPoint(9, 9))); }, "", ""},
-        {"right press", [](EditWithPrompt& e) { e.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, 0); }, "",
+        {"a text taken away", "abc", [](Edit& e) { e.SetWindowText(""); }, "", ""},
+        {"reset", "abc", [](Edit& e) { e.Reset(); }, "", prompt},
+        {"other prompt", nullptr, [](Edit& e) { e.SetPromptText("?"); }, "", "?"},
+        {"null prompt", nullptr, [](Edit& e) { e.SetPromptText(nullptr); }, "", ""},
+        {"prompt under a text", "abc", [](Edit& e) { e.SetPromptText("?"); }, "abc", "abc"},
+        {"key", nullptr, [](Edit&) { TypeText("q"); }, "q", "q"},
+        {"on-screen key", nullptr, [](Edit& e) { e.SendMessage(WM_CHAR, 'q', 1); }, "q", "q"},
+        {"press", nullptr, [](Edit& e) { Click(ClientPoint(e, CPoint(9, 9))); }, "", ""},
+        {"right press", nullptr, [](Edit& e) { e.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, 0); }, "",
          ""},
-        {"all selected", [](EditWithPrompt& e) { e.SetSel(0, -1); }, "", prompt},
+        {"all selected", nullptr, [](Edit& e) { e.SetSel(0, -1); }, "", prompt},
     };
     for (const auto& row : table)
     {
         SCOPED_TRACE(row.name);
         auto& edit = Add<EditWithPrompt>(CRect(20, 20, 220, 50), ES_AUTOHSCROLL);
         edit.SetFocus();
+        if (row.before != nullptr)
+        {
+            edit.SetWindowText(row.before);
+        }
         row.deed(edit);
         PumpAll();
         EXPECT_EQ(TextOf(edit), row.text);

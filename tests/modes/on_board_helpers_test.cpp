@@ -9,8 +9,7 @@
 
 namespace {
 
-class OnBoardHelpersTest : public WindowTest
-{};
+using OnBoardHelpersTest = WindowTest;
 
 TEST_F(OnBoardHelpersTest, OnBoardFontsComeFromTheSystemFont)
 {
@@ -32,20 +31,6 @@ TEST_F(OnBoardHelpersTest, OnBoardFontsComeFromTheSystemFont)
         EXPECT_EQ(std::memcmp(&made, &expected, offsetof(LOGFONT, lfFaceName)), 0) << factor;
     }
     EXPECT_EQ(GraphicsObjects(), objects) << "the one before is not left behind";
-}
-
-TEST_F(OnBoardHelpersTest, PensHaveTheirStyleWidthAndColour)
-{
-    CPen pen;
-    LOGPEN made = {};
-    ASSERT_NE(CreateOnBoardOutlinePen(pen, RGB(70, 80, 90)), 0);
-    pen.GetLogPen(&made);
-    EXPECT_EQ(made.lopnStyle, UINT(PS_INSIDEFRAME));
-    EXPECT_EQ(made.lopnWidth.x, 3);
-    ASSERT_NE(CreateOnBoardFocusPen(pen, RGB(70, 80, 90)), 0);
-    pen.GetLogPen(&made);
-    EXPECT_EQ(made.lopnStyle, UINT(PS_DOT));
-    EXPECT_EQ(made.lopnColor, RGB(70, 80, 90));
 }
 
 TEST_F(OnBoardHelpersTest, GradientsRunFromCornerToCorner)

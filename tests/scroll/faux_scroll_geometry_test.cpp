@@ -1,4 +1,5 @@
 #include "scroll/FauxScrollGeometry.h"
+#include "scroll/NcBands.h"
 
 #include <gtest/gtest.h>
 
@@ -42,6 +43,13 @@ TEST(StepBands, FindTheBandThatASearchFinds)
             }
         }
     }
+}
+
+TEST(NcBands, AWindowSmallerThanItsBandsHasNoClientArea)
+{
+    CRect rect(10, 20, 40, 50);
+    scroll::TakeBands(rect, CSize(1, 1), true, true);
+    EXPECT_EQ(rect, CRect(11, 21, 11, 21));
 }
 
 } // namespace

@@ -14,8 +14,8 @@
 #include <vector>
 
 // A test with a host window and controls on it. Afterwards nothing may be left: no window, capture,
-// pressed button, display mode, registered window or WM_QUIT. What is left fails the test and is
-// cleared away, so that the next one begins clean.
+// pressed button, registered window or WM_QUIT. What is left fails the test and is cleared away, so
+// that the next one begins clean, in the standard mode.
 class WindowTest : public testing::Test
 {
 protected:
