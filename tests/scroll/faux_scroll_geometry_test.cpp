@@ -45,6 +45,13 @@ TEST(StepBands, FindTheBandThatASearchFinds)
     }
 }
 
+TEST(ScrollGeometry, AThumbWithoutRoomStaysBetweenTheButtons)
+{
+    const scroll::Span thumb = {70, 90};
+    EXPECT_EQ(scroll::LimitedShift(thumb, {80, 85}, 0), 10) << "the near end wins";
+    EXPECT_EQ(scroll::ThumbAt(thumb, {50, 60}, 0, 0, 0.0), (scroll::Span{50, 60})) << "shorter";
+}
+
 TEST(NcBands, AWindowSmallerThanItsBandsHasNoClientArea)
 {
     CRect rect(10, 20, 40, 50);
