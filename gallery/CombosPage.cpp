@@ -21,8 +21,8 @@ struct ComboPlace
 constexpr ComboPlace Places[] = {
     {"Two hundred", 0, 0},
     {"A few", 1, 0},
-    {"Disabled", 1, 46},
-    {"Empty", 1, 92},
+    {"Disabled", 1, 54},
+    {"Empty", 1, 108},
 };
 
 struct OpenerPlace
@@ -31,7 +31,8 @@ struct OpenerPlace
     int top;
 };
 
-constexpr OpenerPlace Openers[] = {{"In a dialog", 146}, {"At the screen's bottom", 182}};
+constexpr OpenerPlace Openers[] = {{"In a dialog", 168},
+                                   {"At the screen's bottom", 168 + grid::PushStep}};
 
 constexpr const char* Airports[] = {
     "EDDF Frankfurt",
@@ -65,7 +66,7 @@ void CombosPage::CreateContent()
         const ComboPlace& place = Places[index];
         AddLabel(place.caption, grid::Cell(Columns, place.column, place.top, grid::Caption));
         const CRect design =
-            grid::Cell(Columns, place.column, place.top + grid::CaptionStep, grid::Line);
+            grid::Cell(Columns, place.column, place.top + grid::CaptionStep, grid::Drop);
         CCustomDropListCombo& combo = m_combos[index];
         combo.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | (index == Disabled ? WS_DISABLED : 0),
                      design, this, FirstId + UINT(index));

@@ -1,8 +1,8 @@
 #pragma once
 
-// The grid that the pages are laid out on, in pixels of the standard mode at 96 dots
-// per inch. On-board it grows with
-// the mode's scale, so that what is PushHeight high here is some 50 pixels there: a finger's.
+// The grid that the pages are laid out on, in pixels of the standard mode at 96 dots per inch.
+// On-board it grows with the mode's scale, so that what is Push high here is some 50 pixels there:
+// a finger's.
 
 #include <afxwin.h>
 
@@ -15,7 +15,8 @@ constexpr int Gap = 12; // between columns, and between what stands apart
 // Heights.
 constexpr int Caption = 15; // a label of one line
 constexpr int CaptionStep = 17;
-constexpr int Line = 22;   // an edit or combo of one line
+constexpr int Line = 22;   // an edit of one line
+constexpr int Drop = 31;   // a combo
 constexpr int Choice = 16; // a radio button
 constexpr int Check = 14; // on-board, a check box's square is as high as it, and whole only in this
 constexpr int Push = 29;
