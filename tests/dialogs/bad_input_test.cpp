@@ -11,8 +11,6 @@
 
 namespace {
 
-constexpr APPMODE AllModes[] = {STD, FULLSCREEN, ONBOARD, EFB, EFBFS};
-
 TEST_F(CustomDialogTest, DialogsTakeNoParentNoHostAndUnknownIds)
 {
     const std::string endless(5000, 'W');
@@ -55,40 +53,35 @@ TEST_F(CustomDialogTest, DialogsTakeNoParentNoHostAndUnknownIds)
     }
 }
 
-template <class Control> void PaintAndSwitch(Control& control)
-{
-    control.SetWindowText(std::string(5000, 'W').c_str());
-    for (const APPMODE mode : AllModes)
-    {
-        COnBoardUIGeneral::SetAppMode(mode);
-        control.SetWindowPos(nullptr, 0, 0, 0, 0,
-                             SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
-        control.RedrawWindow(nullptr, nullptr,
-                             RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
-        PumpAll();
-        const CRect client = ClientRectOf(control);
-        EXPECT_GE(client.Width(), 0) << typeid(Control).name() << ' ' << mode;
-        EXPECT_GE(client.Height(), 0) << typeid(Control).name() << ' ' << mode;
-    }
-    COnBoardUIGeneral::SetAppMode(STD);
-}
-
 TEST_F(CustomDialogTest, LabelsAndEditsOfNoSizeTakeEndlessTexts)
 {
-    const auto check = [&]<class Control>(Control*, DWORD style) {
+    const std::string endless(5000, 'W');
+    const auto check = [&]<class Control>(Control*, DWORD style = 0) {
         for (const CSize size : {CSize(0, 0), CSize(1, 40), CSize(3, 3), CSize(200, 1)})
         {
             auto& control = Add<Control>(CRect(CPoint(10, 10), size), style);
             control.ModifyStyleEx(0, WS_EX_CLIENTEDGE);
-            PaintAndSwitch(control);
+            control.SetWindowText(endless.c_str());
+            for (const APPMODE mode : AllModes)
+            {
+                const ModeScope scope(mode);
+                control.SetWindowPos(nullptr, 0, 0, 0, 0,
+                                     SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_FRAMECHANGED);
+                control.RedrawWindow(nullptr, nullptr,
+                                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+                PumpAll();
+                const CRect client = ClientRectOf(control);
+                EXPECT_GE(client.Width(), 0) << typeid(Control).name() << ' ' << mode;
+                EXPECT_GE(client.Height(), 0) << typeid(Control).name() << ' ' << mode;
+            }
             Remove(control);
         }
     };
-    check(static_cast<CCustomStatic*>(nullptr), 0);
+    check(static_cast<CCustomStatic*>(nullptr));
     check(static_cast<CCustomStatic*>(nullptr), BS_GROUPBOX);
-    check(static_cast<CBoldStatic*>(nullptr), 0);
-    check(static_cast<CColorStatic*>(nullptr), 0);
-    check(static_cast<CColoredGroupBox*>(nullptr), 0);
+    check(static_cast<CBoldStatic*>(nullptr));
+    check(static_cast<CColorStatic*>(nullptr));
+    check(static_cast<CColoredGroupBox*>(nullptr));
     check(static_cast<CCustomEdit*>(nullptr), ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL);
     check(static_cast<ColorEdit*>(nullptr), ES_AUTOHSCROLL);
     check(static_cast<EditWithPrompt*>(nullptr), ES_AUTOHSCROLL);

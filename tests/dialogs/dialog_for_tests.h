@@ -11,6 +11,9 @@
 #include "support/WindowTest.h"
 
 #include <ostream>
+#include <string>
+
+constexpr APPMODE AllModes[] = {STD, FULLSCREEN, ONBOARD, EFB, EFBFS};
 
 // A dialog with its protected side open to tests, from a template in memory.
 class DialogForTests : public Scripted<CCustomDialog>
@@ -20,27 +23,17 @@ public:
         : Scripted<CCustomDialog>(0U, parent, host)
     {}
 
-    std::function<void()> inCreate;   // before the template's controls are made
-    std::function<void()> beforeInit; // and after the dialog's own initialisation
-    std::function<void()> inInit;
+    std::function<void()> inCreate = [] {};   // before the template's controls are made
+    std::function<void()> beforeInit = [] {}; // and after the dialog's own initialisation
+    std::function<void()> inInit = [] {};
 
     BOOL OnInitDialog() override
     {
-        if (beforeInit)
-        {
-            beforeInit();
-        }
+        beforeInit();
         const BOOL result = Scripted<CCustomDialog>::OnInitDialog();
-        if (inInit)
-        {
-            inInit();
-        }
+        inInit();
         return result;
     }
-
-    // Once the platform's loop for moves runs, the pointer goes there and lets go. Input that is
-    // queued before the loop has the capture would go to whatever lies under it.
-    void DragOnPress(CPoint to) { m_dragTo = to; }
 
     using CCustomDialog::BuildListOfControls;
     using CCustomDialog::CheckForChildDialog;
@@ -55,70 +48,11 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        constexpr UINT Step = WM_APP + 0x3E00;
-        constexpr WPARAM Steps = 4;
-        constexpr UINT_PTR Arrival = 0x3E00;
-        constexpr UINT ArrivalPeriod = 15; // ms
-        if (message == WM_CREATE && inCreate)
+        if (message == WM_CREATE)
         {
             inCreate();
         }
-        if (message == WM_ENTERSIZEMOVE)
-        {
-            ::GetCursorPos(&m_dragFrom);
-            PostMessage(Step, 1);
-        }
-        if (message == Step)
-        {
-            const auto between = [=](int from, int to) {
-                return from + (to - from) * int(wParam) / int(Steps);
-            };
-            SendPointer(MOUSEEVENTF_MOVE, CPoint(between(m_dragFrom.x, m_dragTo.x),
-                                                 between(m_dragFrom.y, m_dragTo.y)));
-            if (wParam == Steps)
-            {
-                SetTimer(Arrival, ArrivalPeriod, nullptr);
-            }
-            else
-            {
-                PostMessage(Step, wParam + 1);
-            }
-        }
-        if (message == WM_TIMER && wParam == Arrival)
-        {
-            // The display tells of each move once more, on a busy machine some time later: until
-            // that has happened the pointer may be put back.
-            CPoint now;
-            ::GetCursorPos(&now);
-            m_arrivals = now == m_dragTo ? m_arrivals + 1 : 0;
-            if (m_arrivals < 3)
-            {
-                SendPointer(MOUSEEVENTF_MOVE, m_dragTo);
-            }
-            else
-            {
-                m_arrivals = 0;
-                KillTimer(Arrival);
-                SendPointer(MOUSEEVENTF_LEFTUP, m_dragTo);
-            }
-        }
         return Scripted<CCustomDialog>::WindowProc(message, wParam, lParam);
-    }
-
-private:
-    CPoint m_dragFrom;
-    CPoint m_dragTo;
-    int m_arrivals = 0; // how often the pointer was found there
-
-    // Without pumping: this is inside the loop.
-    static void SendPointer(DWORD what, CPoint point)
-    {
-        INPUT input = {};
-        input.type = INPUT_MOUSE;
-        input.mi.dwFlags = what | MOUSEEVENTF_ABSOLUTE;
-        input.mi.dx = point.x * 65536 / ::GetSystemMetrics(SM_CXSCREEN) + 1;
-        input.mi.dy = point.y * 65536 / ::GetSystemMetrics(SM_CYSCREEN) + 1;
-        ::SendInput(1, &input, sizeof(input));
     }
 };
 
@@ -142,6 +76,30 @@ public:
     CZOrderManager* manager = nullptr;
 };
 
+using Journal = std::vector<std::string>;
+
+// Writes down what it is told.
+class FlightBag : public IEFB
+{
+public:
+    explicit FlightBag(Journal& journal)
+        : m_journal(journal)
+    {}
+    const char* GetProviderName() override { return "bag"; }
+    bool BeginModalDialog() override { return Note("begin"); }
+    bool EndModalDialog() override { return Note("end"); }
+    void ShowVKB(bool, VKB_SHOW_POS, HWND) override { Note("keyboard"); }
+
+private:
+    Journal& m_journal;
+
+    bool Note(const char* what)
+    {
+        m_journal.push_back(what);
+        return true;
+    }
+};
+
 inline int BandOf(const DialogForTests& dialog)
 {
     return int(dialog.m_captionHeight * 1.7);
@@ -154,11 +112,27 @@ inline CRect Enlarged(const CRect& place)
                  CSize(int(place.Width() * 1.7 * 1.32), int(place.Height() * 1.7)));
 }
 
+inline std::vector<CRect> Enlarged(std::vector<CRect> places)
+{
+    for (CRect& place : places)
+    {
+        place = Enlarged(place);
+    }
+    return places;
+}
+
 // Failures show places by their numbers.
 inline void PrintTo(const CRect& rect, std::ostream* out)
 {
     *out << '(' << rect.left << ", " << rect.top << ")-(" << rect.right << ", " << rect.bottom
          << ')';
+}
+
+inline CRect PlaceIn(const CWnd& parent, const CWnd& child)
+{
+    CRect place = WindowRectOf(child);
+    parent.ScreenToClient(&place);
+    return place;
 }
 
 inline std::vector<CRect> ChildPlaces(const CWnd& parent)
@@ -167,12 +141,16 @@ inline std::vector<CRect> ChildPlaces(const CWnd& parent)
     for (HWND child = ::GetWindow(parent, GW_CHILD); child != nullptr;
          child = ::GetWindow(child, GW_HWNDNEXT))
     {
-        CRect place;
-        ::GetWindowRect(child, &place);
-        parent.ScreenToClient(&place);
-        places.push_back(place);
+        places.push_back(PlaceIn(parent, *CWnd::FromHandle(child)));
     }
     return places;
+}
+
+// The brush with which a window answers a control's request for colours, which it sets in dc.
+inline HGDIOBJ AskColors(const CWnd& window, UINT message, CDC& dc, HWND control)
+{
+    return reinterpret_cast<HGDIOBJ>(
+        window.SendMessage(message, WPARAM(dc.GetSafeHdc()), reinterpret_cast<LPARAM>(control)));
 }
 
 // What the tests put on a dialog.
@@ -205,6 +183,15 @@ class CustomDialogTest : public WindowTest
 protected:
     const TemplateBytes form = Form();
     DialogHost host;
+
+    // Of the form's controls in the standard mode.
+    std::vector<CRect> StandardPlaces()
+    {
+        const ModeScope mode(STD);
+        DialogForTests plain;
+        EXPECT_TRUE(plain.CreateIndirect(form, &Host()));
+        return ChildPlaces(plain);
+    }
 
     void TearDown() override
     {

@@ -1,6 +1,5 @@
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
-#include "CustomPropSheet.h"
 #include "dialogs/dialog_for_tests.h"
 #include "support/forms.h"
 
@@ -26,53 +25,55 @@ protected:
     void PostNcDestroy() override {} // the test owns it
 };
 
-class FormWindowsTest : public WindowTest
+class Sheet : public Scripted<CCustomPropSheet>
 {
-protected:
-    void TearDown() override
+public:
+    Sheet(CWnd* owner, std::initializer_list<CPropertyPage*> pages)
+        : Scripted("Sheet", static_cast<IAppAccess*>(nullptr), owner)
     {
-        COnBoardUIGeneral::SetAppMode(STD);
-        CCustomPropSheet::SetEfb(nullptr);
-        WindowTest::TearDown();
+        for (CPropertyPage* const page : pages)
+        {
+            AddPage(page);
+        }
     }
 };
+
+using FormWindowsTest = CustomDialogTest;
 
 TEST_F(FormWindowsTest, AFormIsRescaledOnceHoweverItReachesTheMode)
 {
     View standard;
     ASSERT_TRUE(standard.Open(Host()));
     const CRect before = ChildPlaces(standard).front();
-    enum When
+    const struct
     {
-        Always,
-        BeforeInitialUpdate,
-        AfterInitialUpdate
+        APPMODE opened;
+        APPMODE atItsUpdate;
+        APPMODE after;
+    } cases[] = {
+        {ONBOARD, ONBOARD, ONBOARD},
+        {STD, ONBOARD, ONBOARD},
+        {STD, STD, ONBOARD},
+        {ONBOARD, STD, STD}, // never scaled, never scaled back
     };
-    for (const When when : {Always, BeforeInitialUpdate, AfterInitialUpdate})
+    for (const auto& each : cases)
     {
-        COnBoardUIGeneral::SetAppMode(when == Always ? ONBOARD : STD);
+        SCOPED_TRACE(&each - cases);
+        COnBoardUIGeneral::SetAppMode(each.opened);
         View view;
         ASSERT_TRUE(view.Open(Host()));
-        if (when == BeforeInitialUpdate)
-        {
-            COnBoardUIGeneral::SetAppMode(ONBOARD);
-        }
+        COnBoardUIGeneral::SetAppMode(each.atItsUpdate);
         view.OnInitialUpdate();
         view.OnInitialUpdate(); // for another document
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
-        EXPECT_EQ(ChildPlaces(view).front(), Enlarged(before)) << when;
+        COnBoardUIGeneral::SetAppMode(each.after);
+        EXPECT_EQ(ChildPlaces(view).front(), each.after == STD ? before : Enlarged(before));
         EXPECT_EQ(view.GetControls().size(), 2U);
         EXPECT_EQ(view.GetControls()[1]->GetDlgCtrlID(), IDC_TEST_CHECK);
+        COnBoardUIGeneral::SetAppMode(STD);
     }
-    COnBoardUIGeneral::SetAppMode(ONBOARD);
-    View early;
-    ASSERT_TRUE(early.Open(Host()));
-    COnBoardUIGeneral::SetAppMode(STD);
-    early.OnInitialUpdate();
-    EXPECT_EQ(ChildPlaces(early).front(), before) << "never scaled, never scaled back";
 }
 
-TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReach)
+TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndHasTheColoursOfDialogs)
 {
     View view;
     ASSERT_TRUE(view.Open(Host()));
@@ -81,10 +82,18 @@ TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReach)
     const CSize total = view.GetTotalSize();
     view.ScrollToPosition(CPoint(30, 20));
     ASSERT_EQ(view.GetScrollPosition(), CPoint(30, 20));
-    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    COnBoardUIGeneral::SetAppMode(EFB);
     EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 0));
     EXPECT_EQ(ChildPlaces(view).front(), Enlarged(before)) << "from the form's own corner";
     EXPECT_EQ(view.GetTotalSize(), Enlarged(CRect(CPoint(0, 0), total)).Size());
+
+    view.MoveWindow(0, 0, 500, 400);
+    PumpAll();
+    EXPECT_EQ(WindowPixels(view).At(490, 300), RGB(50, 50, 50));
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    EXPECT_EQ(AskColors(view, WM_CTLCOLOREDIT, dc, ::GetDlgItem(view, IDC_TEST_EDIT)),
+              CCustomDialog::m_BkEditBrush.GetSafeHandle());
 }
 
 TEST_F(FormWindowsTest, PagesAndSheetsAreScaledOnceWhenAPageChangesTheModeOnItsWay)
@@ -103,14 +112,13 @@ TEST_F(FormWindowsTest, PagesAndSheetsAreScaledOnceWhenAPageChangesTheModeOnItsW
     };
     CSize sheetSize;
     CRect place;
-    for (const auto& [from, to] : {std::pair{ONBOARD, ONBOARD}, {STD, ONBOARD}})
+    for (const APPMODE from : {ONBOARD, STD})
     {
         const ModeScope mode(from);
         Page page;
-        page.change = to;
-        Scripted<CCustomPropSheet> sheet("Sheet", static_cast<IAppAccess*>(nullptr), &Host());
-        sheet.AddPage(&page);
-        sheet.inLoop = [&, from = from] {
+        page.change = ONBOARD;
+        Sheet sheet(&Host(), {&page});
+        sheet.inLoop = [&] {
             if (from == ONBOARD)
             {
                 sheetSize = ClientRectOf(sheet).Size();
@@ -124,96 +132,61 @@ TEST_F(FormWindowsTest, PagesAndSheetsAreScaledOnceWhenAPageChangesTheModeOnItsW
     }
 }
 
-TEST_F(FormWindowsTest, FormsHaveTheColoursOfDialogs)
-{
-    const ModeScope mode(EFB);
-    View view;
-    ASSERT_TRUE(view.Open(Host()));
-    view.OnInitialUpdate();
-    PumpAll();
-    EXPECT_EQ(WindowPixels(view).At(490, 300), RGB(50, 50, 50));
-    CDC dc;
-    dc.CreateCompatibleDC(nullptr);
-    const auto brush = [&](UINT message, int id) {
-        return reinterpret_cast<HGDIOBJ>(view.SendMessage(
-            message, WPARAM(dc.GetSafeHdc()), reinterpret_cast<LPARAM>(::GetDlgItem(view, id))));
-    };
-    EXPECT_EQ(brush(WM_CTLCOLOREDIT, IDC_TEST_EDIT), CCustomDialog::m_BkEditBrush.GetSafeHandle());
-    EXPECT_EQ(brush(WM_CTLCOLORSTATIC, IDC_TEST_CHECK), CCustomDialog::m_BkBrush.GetSafeHandle());
-}
-
 TEST_F(FormWindowsTest, ASheetOpensInTheSizeOfTheModeWithItsPages)
 {
     static_assert(std::is_constructible_v<CCustomPropSheet, UINT, IAppAccess*, CWnd*, UINT> &&
                   std::is_constructible_v<CCustomPropSheet, LPCSTR, IAppAccess*, CWnd*, UINT>);
     CRect before;
-    CSize sizeBefore;
+    CRect sheetBefore;
     CSize pageBefore;
+    Journal journal;
+    FlightBag bag(journal);
+    CCustomPropSheet::SetEfb(&bag);
     for (const APPMODE mode : {STD, EFB})
     {
         const ModeScope scope(mode);
         CCustomPropPage first(IDD_TEST_PAGE_1);
         CCustomPropPage second(IDD_TEST_PAGE_2);
-        Scripted<CCustomPropSheet> sheet("Sheet", static_cast<IAppAccess*>(nullptr), &Host());
-        sheet.AddPage(&first);
-        sheet.AddPage(&second);
-        EXPECT_EQ(COnBoardUIGeneral::m_createdPropPages.size(), 2U);
-        EXPECT_EQ(COnBoardUIGeneral::m_createdPropSheets.size(), 1U);
-        int notices = 0;
-        struct Bag : IEFB
-        {
-            int& count;
-            explicit Bag(int& notices)
-                : count(notices)
-            {}
-            const char* GetProviderName() override { return "bag"; }
-            bool BeginModalDialog() override { return ++count == 1; }
-            bool EndModalDialog() override { return (count += 10) == 11; }
-        } bag(notices);
-        CCustomPropSheet::SetEfb(&bag);
+        Sheet sheet(&Host(), {&first, &second});
+        const auto standard = [&] {
+            before = ChildPlaces(first).front();
+            sheetBefore = ClientRectOf(sheet);
+            pageBefore = WindowRectOf(first).Size();
+        };
+        const auto onBoard = [&] {
+            EXPECT_EQ(journal, Journal{"begin"});
+            EXPECT_EQ(ChildPlaces(first).front(), Enlarged(before));
+            const CRect client = ClientRectOf(sheet);
+            EXPECT_GE(client.Width(), Enlarged(sheetBefore).Width() - 1);
+            for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW})
+            {
+                const CRect button = PlaceIn(sheet, *sheet.GetDlgItem(id));
+                EXPECT_LE(button.right, client.right);
+                EXPECT_LE(button.bottom, client.bottom);
+                EXPECT_GE(button.top, ChildPlaces(sheet).front().bottom) << "below the page";
+            }
+            const CRect firstRect = WindowRectOf(first);
+            EXPECT_GE(firstRect.Height(), int(pageBefore.cy * 1.7));
+            EXPECT_TRUE(sheet.SetActivePage(1));
+            EXPECT_EQ(WindowRectOf(second), firstRect);
+            PumpAll();
+            EXPECT_EQ(WindowPixels(sheet).At(sheetBefore.right, 5), RGB(70, 90, 110));
+            EXPECT_EQ(sheet.GetStyle() & WS_SYSMENU, 0U);
+            const CPoint strip(sheetBefore.right, 10); // of the tabs, right of the last one
+            EXPECT_EQ(ScreenPixels(CRect(ClientPoint(*sheet.GetTabControl(), strip), CSize(1, 1)))
+                          .At(0, 0),
+                      RGB(50, 50, 50));
+        };
         sheet.inLoop = [&] {
             EXPECT_TRUE(sheet.IsModal());
-            EXPECT_EQ(notices, mode == EFB ? 1 : 0);
-            const CRect place = ChildPlaces(first).front();
             EXPECT_EQ(first.GetControls().size(), 1U);
-            if (mode == STD)
-            {
-                before = place;
-                sizeBefore = ClientRectOf(sheet).Size();
-                pageBefore = WindowRectOf(first).Size();
-            }
-            else
-            {
-                EXPECT_EQ(place, Enlarged(before));
-                const CRect client = ClientRectOf(sheet);
-                EXPECT_GE(client.Width(), int(sizeBefore.cx * 1.7 * 1.32) - 1);
-                for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW})
-                {
-                    CRect button = WindowRectOf(*sheet.GetDlgItem(id));
-                    sheet.ScreenToClient(&button);
-                    EXPECT_LE(button.right, client.right);
-                    EXPECT_LE(button.bottom, client.bottom);
-                    EXPECT_GE(button.top, ChildPlaces(sheet).front().bottom) << "below the page";
-                }
-                EXPECT_GE(WindowRectOf(first).Height(), int(pageBefore.cy * 1.7));
-                const CRect firstRect = WindowRectOf(first);
-                EXPECT_TRUE(sheet.SetActivePage(1));
-                EXPECT_EQ(WindowRectOf(second), firstRect);
-                PumpAll();
-                EXPECT_EQ(WindowPixels(sheet).At(sizeBefore.cx, 5), RGB(70, 90, 110));
-                EXPECT_EQ(sheet.GetStyle() & WS_SYSMENU, 0U);
-                const CPoint strip(sizeBefore.cx, 10); // of the tabs, right of the last one
-                EXPECT_EQ(
-                    ScreenPixels(CRect(ClientPoint(*sheet.GetTabControl(), strip), CSize(1, 1)))
-                        .At(0, 0),
-                    RGB(50, 50, 50));
-            }
+            mode == STD ? standard() : onBoard();
             Click(ClientPoint(*sheet.GetDlgItem(IDOK), CPoint(8, 8)));
         };
         EXPECT_EQ(sheet.DoModal(), IDOK);
         EXPECT_FALSE(sheet.IsModal());
-        EXPECT_EQ(notices, mode == EFB ? 11 : 0);
     }
+    EXPECT_EQ(journal, (Journal{"begin", "end"})) << "nothing in the standard mode";
 }
 
 } // namespace

@@ -25,23 +25,16 @@ TEST(MessageLines, BreakAfterTheLastSeparatorThatFits)
         UINT codePage = Western;
     } cases[] = {
         {"", 8, ""},
-        {"one", 8, "one"},
-        {"exactly8", 8, "exactly8"},
-        {"one two three", 8, "one two \r\nthree"},
         {"one two three", 13, "one two three"},
         {"one two three", 12, "one two \r\nthree"},
         {"one\ttwo\fthree", 5, "one\t\r\ntwo\f\r\nthree"},
         {"one    two", 5, "one    \r\ntwo"},       // a run stays before the break
         {"12345678   90", 8, "12345678   \r\n90"}, // also one after a full line
-        {"12345678901234567890", 8, "12345678\r\n90123456\r\n7890"},
         {"a 12345678901", 8, "a \r\n12345678\r\n901"},
-        {"one two    ", 7, "one \r\ntwo    "},
-        {"one  ", 3, "one  "},           // nothing is left for another line
-        {"one\r\ntwo", 8, "one\r\ntwo"}, // its own line ends stay
+        {"one  ", 3, "one  "}, // nothing is left for another line
         {"one\ntwo\rthree", 8, "one\r\ntwo\r\nthree"},
-        {"\r\n\r\none\n\n", 8, "\r\n\r\none\r\n\r\n"},
+        {"\r\n\r\none\n\n", 8, "\r\n\r\none\r\n\r\n"}, // its own line ends stay
         {"one two\r\nthree four", 7, "one two\r\nthree \r\nfour"},
-        {"x", 1, "x"},
         {"xyz", 1, "x\r\ny\r\nz"},
         // Characters of two bytes are one, and stay whole; their second byte is no letter.
         {"\x82\xA0\x82\xA2\x82\xA4", 2, "\x82\xA0\x82\xA2\r\n\x82\xA4", Japanese},
@@ -56,21 +49,12 @@ TEST(MessageLines, BreakAfterTheLastSeparatorThatFits)
         EXPECT_EQ(SplitLines(each.text, each.limit, CodePage(each.codePage)), each.expected)
             << '"' << each.text << "\" at " << each.limit;
     }
-}
-
-TEST(MessageLines, AreLongerOnWiderScreens)
-{
-    const struct
+    const std::pair<int, size_t> limits[] = {{-100'000, 1}, {0, 14},    {320, 32},  {1279, 32},
+                                             {1280, 50},    {1791, 50}, {1792, 68}, {3840, 140}};
+    for (const auto& [screen, limit] : limits)
     {
-        int screen;
-        size_t limit;
-    } cases[] = {{0, 14},    {320, 32},  {640, 32},  {1024, 32}, {1279, 32},
-                 {1280, 50}, {1791, 50}, {1792, 68}, {1920, 68}, {3840, 140}};
-    for (const auto& each : cases)
-    {
-        EXPECT_EQ(LineLimit(each.screen), each.limit) << each.screen;
+        EXPECT_EQ(LineLimit(screen), limit) << screen;
     }
-    EXPECT_EQ(LineLimit(-100'000), 1U);
 }
 
 // Pictures --------------------------------------------------------------------------------------
@@ -112,24 +96,6 @@ MessageContent Content(CSize text, int buttons, CSize area, bool onBoard, int ti
     return {text, title, buttons, area, frame, Caption, Bar};
 }
 
-TEST(MessageBoxLayout, LengthsGrowWithTheFactorOfTheOnBoardModes)
-{
-    const MessageUnits standard = Units(false);
-    EXPECT_EQ(standard.button, CSize(75, 23));
-    EXPECT_EQ(standard.margin, CSize(11, 11));
-    EXPECT_EQ(standard.spacing, CSize(6, 7));
-    EXPECT_EQ(standard.text, CSize(75, 13));
-    const MessageUnits onBoard = Units(true);
-    EXPECT_EQ(onBoard.button, CSize(127, 39));
-    EXPECT_EQ(onBoard.margin, CSize(18, 18));
-    EXPECT_EQ(onBoard.spacing, CSize(10, 11));
-    EXPECT_EQ(onBoard.text, CSize(127, 22));
-    EXPECT_EQ(MessageButtonsSize(standard, 1).cx, 75);
-    EXPECT_EQ(MessageButtonsSize(standard, 2).cx, 2 * 75 + 2 * 7) << "as many gaps as buttons";
-    EXPECT_EQ(MessageButtonsSize(onBoard, 3).cx, 3 * 127 + 3 * 11);
-    EXPECT_EQ(MessageButtonsSize(onBoard, 0).cx, 0);
-}
-
 TEST(MessageBoxLayout, TheBoxHasTheSizeOfItsContent)
 {
     const struct
@@ -143,24 +109,18 @@ TEST(MessageBoxLayout, TheBoxHasTheSizeOfItsContent)
     } cases[] = {
         {"a word", false, Content(CSize(224, 16), 1, Wide, false), CSize(324, 114), CSize(241, 17),
          false},
-        {"a word", true, Content(CSize(502, 27), 1, Wide, true), CSize(624, 149), CSize(519, 28),
-         false},
-        {"lines", false, Content(CSize(400, 80), 2, Wide, false), CSize(500, 147), CSize(417, 81),
+        {"lines", true, Content(CSize(502, 80), 1, Wide, true), CSize(624, 182), CSize(519, 81),
          false},
         {"just below the limit", false, Content(CSize(300, 613), 1, Wide, false), CSize(400, 680),
          CSize(317, 614), false},
         {"at the limit", false, Content(CSize(300, 614), 1, Wide, false), CSize(461, 680),
          CSize(378, 614), true},
-        {"very long", true, Content(CSize(600, 10'827), 3, Wide, true), CSize(783, 715),
-         CSize(678, 614), true},
         {"a long title", false, Content(CSize(224, 16), 1, Wide, false, 700), CSize(728, 114),
          CSize(241, 17), false},
         {"wide buttons", true, Content(CSize(100, 27), 3, Wide, true), CSize(460, 149),
          CSize(117, 28), false},
         {"a low area", true, Content(CSize(200, 300), 1, CSize(640, 240), true), CSize(383, 199),
          CSize(278, 98), true},
-        {"a narrow area", false, Content(CSize(400, 80), 1, CSize(320, 240), false),
-         CSize(295, 147), CSize(212, 81), true},
         {"a narrow area, a long title", false,
          Content(CSize(100, 16), 1, CSize(320, 240), false, 900), CSize(295, 114), CSize(117, 17),
          false},
@@ -169,55 +129,26 @@ TEST(MessageBoxLayout, TheBoxHasTheSizeOfItsContent)
     };
     for (const auto& each : cases)
     {
+        SCOPED_TRACE(each.what);
         const MessageSize size = SizeMessageBox(Units(each.onBoard), each.content);
-        EXPECT_EQ(size.client, each.client)
-            << each.what << ' ' << size.client.cx << ' ' << size.client.cy;
-        EXPECT_EQ(size.text, each.text) << each.what << ' ' << size.text.cx << ' ' << size.text.cy;
-        EXPECT_EQ(size.scrolls, each.scrolls) << each.what;
+        EXPECT_EQ(size.client, each.client) << size.client.cx << ' ' << size.client.cy;
+        EXPECT_EQ(size.text, each.text) << size.text.cx << ' ' << size.text.cy;
+        EXPECT_EQ(size.scrolls, each.scrolls);
     }
-}
-
-TEST(MessageBoxLayout, ABoxKeepsItsSmallestSize)
-{
-    for (const bool onBoard : {false, true})
+    // Areas smaller than the smallest box.
+    for (const CSize area : {CSize(0, 0), CSize(-5, -5), CSize(100, 100), CSize(INT_MIN, INT_MIN)})
     {
-        const MessageUnits units = Units(onBoard);
-        const CSize row = MessageButtonsSize(units, 3);
-        for (const CSize area :
-             {CSize(0, 0), CSize(-5, -5), CSize(1, 1), CSize(100, 100), CSize(INT_MIN, INT_MIN)})
-        {
-            const MessageSize size =
-                SizeMessageBox(units, Content(CSize(5'000, 5'000), 3, area, onBoard, 900));
-            EXPECT_EQ(size.client.cx, row.cx + 2 * units.margin.cx + units.spacing.cx) << area.cx;
-            EXPECT_EQ(size.client.cy, onBoard ? 149 : 114) << area.cx;
-            EXPECT_GE(size.text.cx, units.text.cx);
-            EXPECT_GE(size.text.cy, units.text.cy);
-            EXPECT_TRUE(size.scrolls);
-        }
-        const MessageSize huge =
-            SizeMessageBox(units, Content(CSize(500, 2'000), 1, CSize(INT_MAX, INT_MAX), onBoard));
-        EXPECT_EQ(huge.text.cy, 2'001);
+        const MessageSize size =
+            SizeMessageBox(Units(true), Content(CSize(5'000, 5'000), 3, area, true, 900));
+        EXPECT_EQ(size.client, CSize(460, 149)) << area.cx;
+        EXPECT_GE(size.text.cx, Units(true).text.cx);
+        EXPECT_GE(size.text.cy, Units(true).text.cy);
+        EXPECT_TRUE(size.scrolls);
     }
 }
 
-TEST(MessageBoxLayout, ThePartsLieByTheRules)
+TEST(MessageBoxLayout, ABoxIsMovedOntoTheScreen)
 {
-    {
-        const MessageUnits units = Units(true);
-        const MessageSize size = {CSize(783, 715), CSize(678, 614), true};
-        const MessagePlaces places = PlaceMessageParts(units, size, CSize(785, 717), Caption, 3);
-        EXPECT_EQ(places.icon, CRect(18, 5, 66, 53));
-        EXPECT_EQ(places.text, CRect(84, 5, 762, 619)) << "from the icon's top on";
-        EXPECT_EQ(places.Button(0), CRect(183, 628, 310, 667));
-        EXPECT_EQ(places.Button(2), CRect(459, 628, 586, 667));
-    }
-}
-
-TEST(MessageBoxLayout, TheWindowGrowsAboutItsMiddleAndStaysOnTheScreen)
-{
-    EXPECT_EQ(MessageGrowth(CSize(324, 114), CSize(291, 119)), CSize(17, -1));
-    EXPECT_EQ(MessageGrowth(CSize(300, 100), CSize(300, 100)), CSize(1, 1));
-    EXPECT_EQ(MessageCentred(CSize(100, 50), CRect(200, 200, 400, 300)), CRect(250, 225, 350, 275));
     const CRect screen(0, 0, 800, 600);
     EXPECT_EQ(MessageMovedInto(CRect(10, 20, 60, 70), screen), CRect(10, 20, 60, 70));
     EXPECT_EQ(MessageMovedInto(CRect(790, 590, 890, 640), screen), CRect(700, 550, 800, 600));

@@ -1,8 +1,6 @@
 #include "dialogs/message_box_for_tests.h"
 #include "windows/freed_at_once.h"
 
-#include <algorithm>
-#include <span>
 #include <utility>
 
 namespace {
@@ -11,35 +9,39 @@ using Box = MessageBoxForTests;
 
 // Buttons and icons -----------------------------------------------------------------------------
 
-struct Set
+TEST_F(MessageBoxTest, EveryButtonOfEverySetAnswersToThePointerInEveryMode)
 {
-    unsigned int style;
-    int icon;
-    struct
+    struct Button
     {
         const char* caption;
         int id;
-    } buttons[3];
-};
-constexpr Set Sets[] = {
-    {MB_OK, 10002, {{"OK", IDOK}}},
-    {MB_OKCANCEL, 10002, {{"OK", IDOK}, {"Cancel", IDCANCEL}}},
-    {MB_ABORTRETRYIGNORE, 10006, {{"Abort", IDABORT}, {"Retry", IDRETRY}, {"Ignore", IDIGNORE}}},
-    {MB_YESNOCANCEL, 10006, {{"Yes", IDYES}, {"No", IDNO}, {"Cancel", IDCANCEL}}},
-    {MB_YESNO, 10006, {{"Yes", IDYES}, {"No", IDNO}}},
-    {MB_RETRYCANCEL, 10006, {{"Retry", IDRETRY}, {"Cancel", IDCANCEL}}},
-};
-
-TEST_F(MessageBoxTest, EveryButtonOfEverySetAnswersToThePointerInEveryMode)
-{
+    };
+    const Button ok = {"OK", IDOK};
+    const Button cancel = {"Cancel", IDCANCEL};
+    const Button retry = {"Retry", IDRETRY};
+    const Button yes = {"Yes", IDYES};
+    const Button no = {"No", IDNO};
+    const struct
+    {
+        unsigned int style;
+        int icon;
+        std::vector<Button> buttons;
+    } sets[] = {
+        {MB_OK, 10002, {ok}},
+        {MB_OKCANCEL, 10002, {ok, cancel}},
+        {MB_ABORTRETRYIGNORE, 10006, {{"Abort", IDABORT}, retry, {"Ignore", IDIGNORE}}},
+        {MB_YESNOCANCEL, 10006, {yes, no, cancel}},
+        {MB_YESNO, 10006, {yes, no}},
+        {MB_RETRYCANCEL, 10006, {retry, cancel}},
+    };
     for (const APPMODE mode : AllModes)
     {
         const ModeScope scope(mode);
-        for (const Set& set : Sets)
+        for (const auto& set : sets)
         {
-            for (size_t index = 0; index < 3 && set.buttons[index].caption != nullptr; ++index)
+            for (size_t index = 0; index < set.buttons.size(); ++index)
             {
-                const auto& button = set.buttons[index];
+                const Button& button = set.buttons[index];
                 Box box("Go on?", set.style);
                 box.inLoop = [&] {
                     CString caption;
@@ -50,9 +52,7 @@ TEST_F(MessageBoxTest, EveryButtonOfEverySetAnswersToThePointerInEveryMode)
                 EXPECT_EQ(box.DoModal(), button.id == IDCANCEL ? IDCANCEL : IDOK);
                 EXPECT_EQ(box.GetButtonPressed(), button.id) << APPMODE_NAMES[mode];
                 EXPECT_EQ(box.m_iconId, set.icon);
-                const size_t next = index + 1;
-                EXPECT_EQ(box.m_buttons.size() > next,
-                          next < 3 && set.buttons[next].caption != nullptr);
+                EXPECT_EQ(box.m_buttons.size(), set.buttons.size());
             }
         }
     }
@@ -79,23 +79,15 @@ TEST_F(MessageBoxTest, TheStyleNamesTheIcon)
         const ModeScope scope(mode);
         for (const UINT icon : {MB_ICONHAND, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONASTERISK})
         {
-            ptrdiff_t alphas = -1;
             Box box("Look", MB_OK | icon);
             box.inLoop = [&] {
                 PumpAll();
                 pictures.push_back(WindowPixels(box.m_icon));
-                DIBSECTION section = {};
-                ::GetObject(box.m_icon.GetBitmap(), sizeof(section), &section);
-                ASSERT_NE(section.dsBm.bmBits, nullptr);
-                const std::span pixels(static_cast<const RGBQUAD*>(section.dsBm.bmBits), 48 * 48);
-                alphas = std::ranges::count_if(
-                    pixels, [](const RGBQUAD& pixel) { return pixel.rgbReserved != 0; });
                 box.EndDialog(1);
             };
             box.DoModal();
             const Pixels& picture = pictures.back();
             const COLORREF ground = mode == STD ? ::GetSysColor(COLOR_3DFACE) : RGB(50, 50, 50);
-            EXPECT_EQ(alphas, 0) << "the platform would keep a copy";
             EXPECT_EQ(picture.Width(), 48);
             EXPECT_EQ(picture.Height(), 48);
             EXPECT_GT(picture.Count(ground), 48 * 48 / 8) << "what is not painted is ground";
@@ -121,10 +113,8 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
         {MB_OK, {VK_RETURN}, IDOK},
         {MB_OK, {VK_ESCAPE}, IDOK},
         {MB_OK, {VK_CANCEL}, IDOK},
-        {MB_OK, {VK_SPACE}, IDOK},
         {MB_OK, {'O'}, IDOK},
         {MB_OKCANCEL, {VK_ESCAPE}, IDCANCEL},
-        {MB_OKCANCEL, {VK_TAB, VK_RETURN}, IDCANCEL},
         {MB_OKCANCEL, {VK_TAB, VK_SPACE}, IDCANCEL},
         {MB_OKCANCEL | MB_DEFBUTTON2, {VK_RETURN}, IDCANCEL},
         {MB_OKCANCEL | MB_DEFBUTTON3, {VK_RETURN}, IDOK}, // there is no third
@@ -133,14 +123,12 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
         {MB_ABORTRETRYIGNORE, {VK_RIGHT, VK_RETURN}, IDRETRY},
         {MB_ABORTRETRYIGNORE, {VK_LEFT, VK_RETURN}, IDIGNORE}, // round the end
         {MB_ABORTRETRYIGNORE, {VK_DOWN, VK_DOWN, VK_DOWN, VK_RETURN}, IDABORT},
-        {MB_ABORTRETRYIGNORE, {VK_DOWN, VK_UP, VK_UP, VK_SPACE}, IDIGNORE},
+        {MB_ABORTRETRYIGNORE, {VK_UP, VK_SPACE}, IDIGNORE},
         {MB_ABORTRETRYIGNORE, {VK_ESCAPE, 'R'}, IDRETRY}, // nothing to cancel
         {MB_ABORTRETRYIGNORE, {'Y', 'N', 'O', 'A'}, IDABORT},
         {MB_ABORTRETRYIGNORE, {'I'}, IDIGNORE},
         {MB_YESNOCANCEL, {'Y'}, IDYES},
-        {MB_YESNOCANCEL, {'N'}, IDNO},
         {MB_YESNOCANCEL, {'C'}, IDCANCEL},
-        {MB_YESNOCANCEL, {VK_ESCAPE}, IDCANCEL},
         {MB_YESNO, {VK_ESCAPE, VK_CANCEL, VK_TAB, VK_RETURN}, IDNO},
         // The text is the last stop, and there the default button answers.
         {MB_YESNO, {VK_TAB, VK_TAB, VK_RETURN}, IDYES},
@@ -169,15 +157,12 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
                     EXPECT_EQ(box.GetButtonPressed(), 0) << "before key " << key;
                     TypeKey(key);
                 }
-                if (box.GetButtonPressed() == 0)
-                {
-                    ADD_FAILURE() << "style " << each.style << ", key " << each.keys.back();
-                    box.EndDialog(-2);
-                }
+                box.EndUnanswered();
             };
             box.DoModal();
             EXPECT_EQ(box.GetButtonPressed(), each.pressed)
-                << APPMODE_NAMES[opened] << ' ' << APPMODE_NAMES[mode] << ", style " << each.style;
+                << APPMODE_NAMES[opened] << ' ' << APPMODE_NAMES[mode] << ", style " << each.style
+                << ", key " << each.keys.back();
         }
     }
 }
@@ -282,14 +267,10 @@ TEST_F(MessageBoxTest, ALongTextIsScrolledAndCopiedByKeys)
 
 TEST_F(MessageBoxTest, OnBoardTheTextLooksLikeALabelAndAsksForNoKeyboard)
 {
-    struct Keyboard : IEFB
-    {
-        const char* GetProviderName() override { return "bag"; }
-        void ShowVKB(bool, VKB_SHOW_POS, HWND) override { ++asked; }
-        int asked = 0;
-    } keyboard;
+    Journal journal;
+    FlightBag bag(journal);
     const ModeScope scope(EFB);
-    CCustomEdit::SetEfb(&keyboard);
+    CCustomEdit::SetEfb(&bag);
     Box box("Ready", MB_OK);
     box.inLoop = [&] {
         PumpAll();
@@ -301,7 +282,7 @@ TEST_F(MessageBoxTest, OnBoardTheTextLooksLikeALabelAndAsksForNoKeyboard)
     };
     box.DoModal();
     CCustomEdit::SetEfb(nullptr);
-    EXPECT_EQ(keyboard.asked, 0);
+    EXPECT_EQ(journal, Journal());
 }
 
 // What a host may do wrong ----------------------------------------------------------------------
@@ -392,27 +373,6 @@ TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
     const ModeScope scope(ONBOARD);
     EXPECT_EQ(box, nullptr);
     EXPECT_EQ(faults.Count(), 0);
-}
-
-TEST_F(MessageBoxTest, BoxesLeaveNoGraphicsObjectsBehind)
-{
-    const auto show = [] {
-        Box box("Ready", MB_YESNO);
-        box.inLoop = [&] {
-            COnBoardUIGeneral::SetAppMode(ONBOARD);
-            box.SendMessage(WM_SYSCOLORCHANGE);
-            COnBoardUIGeneral::SetAppMode(STD);
-            box.EndDialog(1);
-        };
-        box.DoModal();
-    };
-    show();
-    const int before = GraphicsObjects();
-    for (int round = 0; round < 5; ++round)
-    {
-        show();
-    }
-    EXPECT_EQ(GraphicsObjects(), before);
 }
 
 } // namespace

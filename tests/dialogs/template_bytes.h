@@ -2,25 +2,12 @@
 
 #include <afxwin.h>
 
-#include <cstring>
-#include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
-// A name in a template: nothing, an ordinal or a text.
-struct TemplateName
-{
-    std::optional<WORD> ordinal;
-    std::u16string text;
-
-    TemplateName() = default;
-    TemplateName(WORD number)
-        : ordinal(number)
-    {}
-    TemplateName(const char16_t* letters)
-        : text(letters)
-    {}
-};
+// A name in a template: nothing or a text, or an ordinal.
+using TemplateName = std::variant<std::u16string, WORD>;
 
 // Writes dialog templates of both formats with any of their fields.
 class TemplateBytes
@@ -42,19 +29,11 @@ public:
     explicit TemplateBytes(const Header& header)
         : m_extended(header.extended)
     {
-        const DWORD style = header.style | (header.points != 0 ? DS_SETFONT : 0);
         if (m_extended)
         {
             Append({1, 0xFFFF});
-            AppendLong(0);
-            AppendLong(header.exStyle);
-            AppendLong(style);
         }
-        else
-        {
-            AppendLong(style);
-            AppendLong(header.exStyle);
-        }
+        AppendStyles(header.style | (header.points != 0 ? DS_SETFONT : 0), header.exStyle);
         m_count = m_words.size();
         Append({0});
         AppendPlace(header.place);
@@ -64,39 +43,30 @@ public:
         if (header.points != 0)
         {
             Append({header.points});
-            if (header.points != 0x7FFF)
+            if (m_extended)
             {
-                if (m_extended)
-                {
-                    Append({FW_BOLD, 0x0100}); // default character set
-                }
-                AppendText(header.face);
+                Append({FW_BOLD, 0x0100}); // default character set
             }
+            AppendText(header.face);
         }
     }
 
-    TemplateBytes& Add(const TemplateName& windowClass, const TemplateName& text, DWORD style,
+    TemplateBytes& Add(const TemplateName& windowClass, const char16_t* text, DWORD style,
                        const CRect& place, WORD id, const std::vector<WORD>& data = {})
     {
         if (m_words.size() % 2 != 0)
         {
             Append({0});
         }
+        AppendStyles(style | WS_CHILD | WS_VISIBLE, 0);
+        AppendPlace(place);
+        Append({id});
         if (m_extended)
         {
-            AppendLong(0);
-            AppendLong(0);
-            AppendLong(style | WS_CHILD | WS_VISIBLE);
+            Append({0}); // its ids are long ones
         }
-        else
-        {
-            AppendLong(style | WS_CHILD | WS_VISIBLE);
-            AppendLong(0);
-        }
-        AppendPlace(place);
-        m_extended ? AppendLong(id) : Append({id});
         AppendName(windowClass);
-        AppendName(text);
+        AppendText(text);
         Append({WORD(data.size() * sizeof(WORD))});
         Append(data);
         ++m_words[m_count];
@@ -116,28 +86,35 @@ private:
     {
         m_words.insert(m_words.end(), words.begin(), words.end());
     }
-    void AppendLong(DWORD value) { Append({LOWORD(value), HIWORD(value)}); }
+    // The formats have them the other way round, the extended one behind a help id.
+    void AppendStyles(DWORD style, DWORD exStyle)
+    {
+        const DWORD first = m_extended ? exStyle : style;
+        const DWORD second = m_extended ? style : exStyle;
+        if (m_extended)
+        {
+            Append({0, 0});
+        }
+        Append({LOWORD(first), HIWORD(first), LOWORD(second), HIWORD(second)});
+    }
     void AppendPlace(const CRect& place)
     {
         Append({WORD(place.left), WORD(place.top), WORD(place.Width()), WORD(place.Height())});
     }
     void AppendText(const std::u16string& text)
     {
-        for (const char16_t letter : text)
-        {
-            Append({WORD(letter)});
-        }
+        m_words.insert(m_words.end(), text.begin(), text.end());
         Append({0});
     }
     void AppendName(const TemplateName& name)
     {
-        if (name.ordinal)
+        if (const WORD* const ordinal = std::get_if<WORD>(&name))
         {
-            Append({0xFFFF, *name.ordinal});
+            Append({0xFFFF, *ordinal});
         }
         else
         {
-            AppendText(name.text);
+            AppendText(std::get<std::u16string>(name));
         }
     }
 };

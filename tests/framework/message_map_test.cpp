@@ -84,7 +84,6 @@ class Speaker : public CButton
 public:
     Journal journal;
     BOOL keep = TRUE;
-    HBRUSH brush = nullptr;
 
 protected:
     void OnReflectedClick() { journal.push_back("clicked"); }
@@ -99,11 +98,6 @@ protected:
         *result = 6;
         return keep;
     }
-    HBRUSH CtlColor(CDC* dc, UINT)
-    {
-        dc->SetTextColor(RGB(1, 2, 3));
-        return brush;
-    }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -111,7 +105,6 @@ BEGIN_MESSAGE_MAP(Speaker, CButton)
     ON_CONTROL_REFLECT(BN_CLICKED, &Speaker::OnReflectedClick)
     ON_NOTIFY_REFLECT(NM_RCLICK, &Speaker::OnReflectedNotify)
     ON_NOTIFY_REFLECT_EX(NM_CLICK, &Speaker::OnReflectedNotifyEx)
-    ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
 class MessageMap : public WindowTest
@@ -221,24 +214,6 @@ TEST_F(MessageMap, AChildHearsFirstAndTheParentOnlyWhatItDeclines)
     EXPECT_EQ(Notify(panel, child, UINT(NM_CLICK)), 0) << "the parent's own result";
     EXPECT_EQ(panel.journal, Journal{"notify -2"});
     EXPECT_EQ(child.journal, (Journal{"clicked", "notify", "notify ex", "notify ex"}));
-}
-
-TEST_F(MessageMap, AChildGivesItsOwnColoursOrLeavesThemToTheParent)
-{
-    Panel& panel = AddPanel();
-    Speaker child;
-    ASSERT_TRUE(child.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &panel, 31));
-    CClientDC dc(&child);
-    const auto ask = [&] {
-        dc.SetTextColor(RGB(200, 0, 0));
-        return reinterpret_cast<HBRUSH>(panel.SendMessage(WM_CTLCOLORBTN, WPARAM(dc.GetSafeHdc()),
-                                                          reinterpret_cast<LPARAM>(child.m_hWnd)));
-    };
-    child.brush = static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH));
-    EXPECT_EQ(ask(), child.brush);
-    EXPECT_EQ(dc.GetTextColor(), RGB(1, 2, 3));
-    child.brush = nullptr;
-    EXPECT_EQ(ask(), ::GetSysColorBrush(COLOR_BTNFACE)) << "the platform's own";
 }
 
 } // namespace

@@ -58,15 +58,23 @@ protected:
 class Sheet : public Scripted<CPropertySheet>
 {
 public:
-    explicit Sheet(CWnd* parent)
+    explicit Sheet(CWnd* parent, std::initializer_list<CPropertyPage*> pages = {})
         : Scripted("Sheet", parent)
-    {}
-    int inits = 0;
+    {
+        for (CPropertyPage* const page : pages)
+        {
+            AddPage(page);
+        }
+    }
+    bool endAtOnce = false; // before its loop begins
 
     BOOL OnInitDialog() override
     {
-        ++inits;
         EXPECT_NE(GetTabControl(), nullptr) << "the platform has set it up";
+        if (endAtOnce)
+        {
+            EndDialog(77);
+        }
         return CPropertySheet::OnInitDialog();
     }
     void Press(int button) { SendMessage(PSM_PRESSBUTTON, WPARAM(button)); }
@@ -86,12 +94,9 @@ TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
 {
     for (const bool bothShown : {false, true})
     {
-        Sheet sheet(&Host());
-        sheet.AddPage(&first);
-        sheet.AddPage(&second);
+        Sheet sheet(&Host(), {&first, &second});
         sheet.inLoop = [&] {
             EXPECT_FALSE(Host().IsWindowEnabled());
-            EXPECT_EQ(sheet.GetActivePage(), &first);
             EXPECT_EQ(second.GetSafeHwnd(), nullptr) << "made when it is first shown";
             EXPECT_EQ(TakeJournal(), (Journal{"first init", "first active"}));
             first.SetDlgItemText(IDC_TEST_EDIT, "typed");
@@ -107,7 +112,6 @@ TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
         EXPECT_EQ(TakeJournal(), bothShown ? (Journal{"second left", "first ok", "second ok"})
                                            : (Journal{"first left", "first ok"}));
         EXPECT_STREQ(first.text, "typed");
-        EXPECT_EQ(sheet.inits, 1);
         EXPECT_EQ(sheet.gone, 1);
         EXPECT_EQ(first.GetSafeHwnd(), nullptr);
         EXPECT_TRUE(Host().IsWindowEnabled());
@@ -133,9 +137,7 @@ TEST_F(PropertySheetTest, EveryWayOfCancellingResetsThePages)
     for (const auto& each : cases)
     {
         SCOPED_TRACE(&each - cases);
-        Sheet sheet(&Host());
-        sheet.AddPage(&first);
-        sheet.AddPage(&second);
+        Sheet sheet(&Host(), {&first, &second});
         sheet.inLoop = [&] { each.end(sheet); };
         EXPECT_EQ(sheet.DoModal(), IDCANCEL);
         EXPECT_EQ(TakeJournal(), each.expected);
@@ -145,14 +147,15 @@ TEST_F(PropertySheetTest, EveryWayOfCancellingResetsThePages)
     }
     EXPECT_TRUE(TakeQuit());
     EXPECT_EQ(Sheet(&Host()).DoModal(), -1) << "it has no pages";
+    Sheet over(&Host(), {&first});
+    over.endAtOnce = true;
+    EXPECT_EQ(over.DoModal(), 77);
     EXPECT_TRUE(Host().IsWindowEnabled());
 }
 
 TEST_F(PropertySheetTest, APageMayKeepTheUser)
 {
-    Sheet sheet(&Host());
-    sheet.AddPage(&first);
-    sheet.AddPage(&second);
+    Sheet sheet(&Host(), {&first, &second});
     sheet.inLoop = [&] {
         first.lets = FALSE;
         sheet.SetActivePage(1);
@@ -168,24 +171,26 @@ TEST_F(PropertySheetTest, APageMayKeepTheUser)
     EXPECT_TRUE(Host().IsWindowEnabled());
 }
 
-TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwner)
+TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwnerUntilItIsClosed)
 {
-    Sheet sheet(&Host());
-    sheet.AddPage(&first);
-    ASSERT_TRUE(sheet.Create(&Host()));
-    PumpAll();
-    EXPECT_TRUE(Host().IsWindowEnabled());
-    EXPECT_TRUE(sheet.IsWindowVisible());
-    EXPECT_EQ(first.GetParent(), &sheet);
-    sheet.AddPage(&second);
-    EXPECT_TRUE(sheet.SetActivePage(1));
-    EXPECT_EQ(second.GetParent(), &sheet);
-    EXPECT_EQ(sheet.GetPageCount(), 2);
-    sheet.RemovePage(0);
-    EXPECT_EQ(sheet.GetActivePage(), &second);
-    sheet.DestroyWindow();
-    EXPECT_EQ(sheet.gone, 1);
-    EXPECT_EQ(second.GetSafeHwnd(), nullptr);
+    for (const bool byFrame : {true, false})
+    {
+        Sheet sheet(&Host(), {&first});
+        ASSERT_TRUE(sheet.Create(&Host()));
+        PumpAll();
+        EXPECT_TRUE(Host().IsWindowEnabled());
+        EXPECT_TRUE(sheet.IsWindowVisible());
+        EXPECT_FALSE(sheet.GetDlgItem(IDOK)->IsWindowVisible());
+        sheet.AddPage(&second);
+        EXPECT_TRUE(sheet.SetActivePage(1));
+        EXPECT_EQ(second.GetParent(), &sheet);
+        sheet.RemovePage(0);
+        EXPECT_EQ(sheet.GetPageCount(), 1);
+        EXPECT_EQ(sheet.GetActivePage(), &second);
+        ::SendMessage(sheet, byFrame ? WM_CLOSE : UINT(PSM_PRESSBUTTON), byFrame ? 0 : PSBTN_OK, 0);
+        EXPECT_EQ(sheet.gone, 1) << byFrame;
+        EXPECT_EQ(second.GetSafeHwnd(), nullptr);
+    }
 }
 
 } // namespace

@@ -20,46 +20,36 @@ void PrintTo(const CString& text, std::ostream* out)
     *out << text.GetString();
 }
 
-TEST(Geometry, PointsAndSizesMoveARectangleWhileRectanglesWidenIt)
+TEST(Geometry, RectanglesAreMovedWidenedAndIntersected)
 {
-    const CRect rect(10, 20, 30, 40);
+    CRect rect(10, 20, 30, 40);
     const RECT by = {1, 2, 3, 4};
     EXPECT_EQ(rect + CPoint(5, 6), CRect(15, 26, 35, 46));
     EXPECT_EQ(rect - CSize(5, 6), CRect(5, 14, 25, 34));
     EXPECT_EQ(rect + &by, CRect(9, 18, 33, 44));
+    rect.DeflateRect(&by);
+    EXPECT_EQ(rect, CRect(11, 22, 27, 36));
+    rect.InflateRect(1, 2, 3, 4);
+    EXPECT_EQ(rect, CRect(10, 20, 30, 40));
 
-    CRect changed = rect;
-    changed.DeflateRect(&by);
-    EXPECT_EQ(changed, rect - &by);
-    changed.InflateRect(1, 2, 3, 4);
-    EXPECT_EQ(changed, rect);
-}
-
-TEST(Geometry, IntersectionMayTakeTheRectangleItself)
-{
-    CRect rect(0, 0, 10, 10);
-    EXPECT_TRUE(rect.IntersectRect(rect, CRect(5, 5, 20, 20)));
-    EXPECT_EQ(rect, CRect(5, 5, 10, 10));
+    EXPECT_TRUE(rect.IntersectRect(rect, CRect(15, 25, 90, 90))) << "with itself as the result";
+    EXPECT_EQ(rect, CRect(15, 25, 30, 40));
     EXPECT_FALSE(rect.IntersectRect(rect, CRect(50, 50, 60, 60)));
     EXPECT_TRUE(rect.IsRectNull());
     EXPECT_EQ(CPoint(MAKELPARAM(-3, -5)), CPoint(-3, -5)) << "packed positions are signed";
 }
 
-TEST(Text, NullIsEmptyEverywhere)
+TEST(Text, NullIsEmptyAndPartsAreCutToTheText)
 {
     const LPCTSTR null = nullptr;
-    CString text(null);
-    EXPECT_TRUE(text.IsEmpty());
-    text += null;
-    EXPECT_EQ(text.Compare(null), 0);
-    EXPECT_TRUE(text == null);
+    CString empty(null);
+    empty += null;
+    EXPECT_TRUE(empty.IsEmpty());
+    EXPECT_EQ(empty.Compare(null), 0);
     EXPECT_EQ(CString("ab").Find(null), 0);
     EXPECT_EQ(CString("ab").Replace(null, "x"), 0);
     EXPECT_EQ(CString("ab") + null, CString("ab"));
-}
 
-TEST(Text, PartsAreCutToTheText)
-{
     const CString text("abcdef");
     const std::pair<CString, const char*> parts[] = {
         {text.Left(2), "ab"},    {text.Left(99), "abcdef"},        {text.Left(-1), ""},
@@ -87,33 +77,23 @@ TEST(Text, SearchesAndChanges)
     EXPECT_STREQ(text, "one!");
     EXPECT_STREQ(CString(" \t a b \n").Trim(), "a b");
     EXPECT_STREQ(CString("***").TrimLeft('*'), "");
-}
 
-TEST(Text, MayTakePartsOfItself)
-{
-    CString text("abc");
+    text = "abc"; // parts of itself
     text += text;
     text = text.GetString() + 2;
-    EXPECT_STREQ(text, "cabc");
     text.Format("%s-%s", text.GetString(), text.GetString());
-    EXPECT_STREQ(text, "cabc-cabc");
     text.Insert(0, text.Right(2));
     EXPECT_STREQ(text, "bccabc-cabc");
-}
 
-TEST(Text, TokensEndWithMinusOne)
-{
-    const CString text("%First Second##Third");
-    std::vector<std::string> tokens;
+    std::string tokens;
     int position = 0;
-    for (CString token = text.Tokenize("% #", position); !token.IsEmpty();
-         token = text.Tokenize("% #", position))
+    for (CString token = CString("%First Second##Third").Tokenize("% #", position);
+         !token.IsEmpty(); token = CString("%First Second##Third").Tokenize("% #", position))
     {
-        tokens.emplace_back(token);
+        tokens += token + '|';
     }
-    EXPECT_EQ(tokens, (std::vector<std::string>{"First", "Second", "Third"}));
+    EXPECT_EQ(tokens, "First|Second|Third|");
     EXPECT_EQ(position, -1);
-    EXPECT_TRUE(text.Tokenize("#", position).IsEmpty());
 }
 
 TEST(Text, StringResources)
@@ -129,7 +109,7 @@ TEST(Text, StringResources)
     EXPECT_STREQ(text, "7 of x");
 }
 
-TEST(Collections, ArrayGrowsWhereItIsTold)
+TEST(Collections, ArraysGrowWhereTheyAreToldAlsoByTheirOwnElements)
 {
     CArray<int> numbers;
     numbers.SetAtGrow(2, 5);
@@ -137,13 +117,10 @@ TEST(Collections, ArrayGrowsWhereItIsTold)
     numbers.InsertAt(5, 9, 2);
     EXPECT_EQ(numbers.GetSize(), 7);
     EXPECT_EQ(numbers[4], 0);
-    EXPECT_EQ(numbers[6], 9);
     numbers.RemoveAt(0, 6);
     EXPECT_EQ(numbers.GetUpperBound(), 0);
-}
+    EXPECT_EQ(numbers[0], 9);
 
-TEST(Collections, ElementsMayBeInsertedIntoTheirOwnArray)
-{
     CStringArray texts;
     texts.Add("a text that is long enough to live on the heap");
     for (int index = 0; index < 20; ++index)
@@ -164,9 +141,7 @@ TEST(Collections, MapFindsByTextAndWalksEachKeyOnce)
     CMap<CString, LPCTSTR, int, int> map;
     for (int number = 0; number < 100; ++number)
     {
-        CString key;
-        key.Format("%d", number);
-        map.SetAt(key, number);
+        map.SetAt(std::to_string(number).c_str(), number);
     }
     map["7"] = -7;
     int value = 0;
@@ -185,4 +160,49 @@ TEST(Collections, MapFindsByTextAndWalksEachKeyOnce)
     }
     EXPECT_EQ(sum, 99 * 100 / 2 - 14);
     EXPECT_TRUE(map.IsEmpty());
+}
+
+TEST(Collections, AListKeepsItsPlacesThroughInsertionsAndRemovals)
+{
+    using Letters = CTypedPtrList<CPtrList, char*>;
+    const auto forwards = [](const Letters& list) {
+        std::string texts;
+        for (POSITION at = list.GetHeadPosition(); at != nullptr;)
+        {
+            texts += list.GetNext(at);
+        }
+        return texts;
+    };
+    char letters[][2] = {"a", "b", "c", "d", "e", "x"};
+    auto& [a, b, c, d, e, x] = letters;
+    Letters list;
+    EXPECT_EQ(list.GetHeadPosition(), nullptr);
+    list.AddTail(b);
+    const POSITION fourth = list.AddTail(d);
+    list.AddHead(a);
+    list.InsertBefore(fourth, c);
+    list.InsertAfter(fourth, e);
+    EXPECT_EQ(forwards(list), "abcde");
+    std::string backwards;
+    for (POSITION at = list.GetTailPosition(); at != nullptr;)
+    {
+        backwards += list.GetPrev(at);
+    }
+    EXPECT_EQ(backwards, "edcba");
+    list.SetAt(fourth, x);
+    EXPECT_EQ(list.RemoveHead(), a);
+    EXPECT_EQ(list.RemoveTail(), e);
+    list.RemoveAt(list.FindIndex(1));
+    EXPECT_EQ(forwards(list), "bx");
+    EXPECT_EQ(list.FindIndex(2), nullptr);
+
+    Letters more;
+    more.AddTail(c);
+    more.AddTail(&list);
+    more.AddHead(&list);
+    EXPECT_EQ(forwards(more), "bxcbx");
+    EXPECT_EQ(more.Find(b, more.Find(b)), more.FindIndex(3));
+    EXPECT_EQ(more.Find(nullptr), nullptr);
+    more.RemoveAll();
+    EXPECT_TRUE(more.IsEmpty());
 }

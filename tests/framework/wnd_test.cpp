@@ -23,7 +23,7 @@ public:
     BOOL allowClass = TRUE;
     UINT refuses = 0; // the message that ends its creation
     bool ownsItself = false;
-    std::function<void()> inCreate;
+    std::function<void()> inCreate = [] {};
     std::function<void()> inPress;
 
     void Note(const char* what) { journal.push_back(name + what); }
@@ -51,7 +51,7 @@ protected:
         {
             Note(found->second);
         }
-        if (message == WM_CREATE && inCreate)
+        if (message == WM_CREATE)
         {
             inCreate();
         }
@@ -182,29 +182,6 @@ TEST_F(WndTest, AWindowMayEndInsideItsOwnHandler)
     }
 }
 
-TEST_F(WndTest, AParentMayDeleteTheControlThatNotifiesIt)
-{
-    auto& button = Add<CButton>(CRect(10, 10, 90, 40), BS_PUSHBUTTON, "Push");
-    Host().hook = [&](ToldMessage& message) {
-        if (message.code == BN_CLICKED)
-        {
-            Remove(button); // deletes the object, and its window with it
-        }
-    };
-    Click(ClientPoint(button, CPoint(20, 10)));
-    EXPECT_EQ(::GetWindow(Host(), GW_CHILD), nullptr);
-}
-
-TEST_F(WndTest, TheMainWindowsEndQuitsTheProgram)
-{
-    LifeWindow window;
-    ASSERT_TRUE(window.Make(&Host()));
-    AfxGetApp()->m_pMainWnd = &window;
-    window.DestroyWindow();
-    EXPECT_TRUE(TakeQuit());
-    EXPECT_EQ(AfxGetMainWnd(), nullptr);
-}
-
 // Handles and objects ---------------------------------------------------------------------------
 
 TEST_F(WndTest, TemporaryObjectsOwnNothingAndEndWhenIdle)
@@ -280,40 +257,6 @@ TEST_F(WndTest, ASubclassedControlWorksBeforeDuringAndAfter)
         EXPECT_TRUE(moved.Attach(ours.Detach()));
         EXPECT_EQ(addAndCount(), 6);
     }
-}
-
-// The message in progress -----------------------------------------------------------------------
-
-class Nesting : public CWnd
-{
-public:
-    UINT seenAfter = 0;
-
-protected:
-    LRESULT OnSetText(WPARAM, LPARAM)
-    {
-        CString before;
-        GetWindowText(before); // sends nest
-        seenAfter = GetCurrentMessage()->message;
-        return Default();
-    }
-    LRESULT OnGetText(WPARAM, LPARAM) { return Default(); }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(Nesting, CWnd)
-    ON_MESSAGE(WM_SETTEXT, &Nesting::OnSetText)
-    ON_MESSAGE(WM_GETTEXT, &Nesting::OnGetText)
-END_MESSAGE_MAP()
-
-TEST_F(WndTest, NestedSendsLeaveTheMessageInProgressAlone)
-{
-    auto& window = Add<Nesting>(CRect(0, 0, 10, 10));
-    window.SetWindowText("outer");
-    CString text;
-    window.GetWindowText(text);
-    EXPECT_STREQ(text, "outer");
-    EXPECT_EQ(window.seenAfter, UINT(WM_SETTEXT));
 }
 
 } // namespace

@@ -37,10 +37,7 @@ TEST(IconListTest, ReadsNamesAndPicturesOfItsListAlone)
     EXPECT_TRUE(icon->IsSet(0, 0));
     EXPECT_FALSE(icon->IsSet(0, 1));
     EXPECT_TRUE(icon->IsSet(2, 1));
-    for (const auto& [x, y] : {std::pair(-1, 0), {0, -1}, {3, 1}, {0, 2}})
-    {
-        EXPECT_FALSE(icon->IsSet(x, y)) << x << ", " << y;
-    }
+    EXPECT_FALSE(icon->IsSet(-1, 0) || icon->IsSet(3, 1) || icon->IsSet(0, 2)) << "outside";
     EXPECT_EQ(symbols.Find("Dot"), symbols.GetAt(1)) << "the first of two";
     EXPECT_EQ(symbols.Find("dot"), nullptr);
     EXPECT_EQ(symbols.Find(nullptr), nullptr);
@@ -50,8 +47,9 @@ TEST(IconListTest, ReadsNamesAndPicturesOfItsListAlone)
 
 TEST(IconListTest, RefusesWhatIsNotSoundAndStaysAsItWas)
 {
+    const std::string named = "[Symbols]\nSymbol A\n";
     const std::string side(IconInfo::MaxSide, '#');
-    std::string tall = "[Symbols]\nSymbol A\n";
+    std::string tall = named;
     for (int row = 0; row < IconInfo::MaxSide; ++row)
     {
         tall += side + '\n';
@@ -60,11 +58,9 @@ TEST(IconListTest, RefusesWhatIsNotSoundAndStaysAsItWas)
     ASSERT_TRUE(symbols.LoadText(tall)) << "the largest picture";
     for (const std::string& text :
          {std::string(), std::string("Symbol A\n#\n"), std::string("[symbols]\nSymbol A\n#\n"),
-          std::string("[Symbols]\n#\n"), std::string("[Symbols]\nSymbol A\n"),
-          std::string("[Symbols]\nSymbol A\nSymbol B\n#\n"),
-          std::string("[Symbols]\nSymbol A\n##\n#\n"), std::string("[Symbols]\nSymbol A\n#x\n"),
-          std::string("[Symbols]\nSymbol A\n") + side + "#\n", tall + side + '\n',
-          std::string("[Symbols]\nSymbol\n#\n"), std::string(100000, '\0')})
+          std::string("[Symbols]\n#\n"), std::string("[Symbols]\nSymbol\n#\n"), named,
+          named + "Symbol B\n#\n", named + "##\n#\n", named + "#x\n", named + side + "#\n",
+          tall + side + '\n', std::string(100000, '\0')})
     {
         EXPECT_FALSE(symbols.LoadText(text)) << text.substr(0, 40);
         EXPECT_EQ(symbols.GetCount(), 1);

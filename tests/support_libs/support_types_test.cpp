@@ -18,14 +18,12 @@ TEST(CritSectTest, EntersAgainOnItsThreadAndLetsOthersInAfterTheLastLeave)
 
 TEST(KArrayTest, HoldsPointersAndRefusesIndexesOutside)
 {
-    int a = 1, b = 2, c = 3;
+    int a = 1, b = 2;
     KArray items;
-    EXPECT_EQ(items.GetAt(0), nullptr);
     EXPECT_EQ(items.Add(&a), 0);
     EXPECT_EQ(items.Add(nullptr), 1);
-    EXPECT_EQ(items.Add(&c), 2);
     EXPECT_TRUE(items.SetAt(1, &b));
-    for (const int index : {-1, 3, 1000000})
+    for (const int index : {-1, 2, 1000000})
     {
         EXPECT_EQ(items.GetAt(index), nullptr) << index;
         EXPECT_FALSE(items.SetAt(index, nullptr)) << index;
@@ -33,11 +31,10 @@ TEST(KArrayTest, HoldsPointersAndRefusesIndexesOutside)
     }
     const KArray copy = items;
     EXPECT_TRUE(items.RemoveAt(0));
-    EXPECT_EQ(items.GetCount(), 2);
+    EXPECT_EQ(items.GetCount(), 1);
     EXPECT_EQ(items.GetAt(0), &b);
-    EXPECT_EQ(items.GetAt(1), &c);
     items.RemoveAll();
     EXPECT_EQ(items.GetCount(), 0);
-    EXPECT_EQ(copy.GetCount(), 3);
+    EXPECT_EQ(copy.GetCount(), 2);
 }
 } // namespace
