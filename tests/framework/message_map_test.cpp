@@ -78,35 +78,6 @@ BEGIN_MESSAGE_MAP(Panel, BasePanel)
     ON_COMMAND_EX(11, &Panel::OnElevenEx)
 END_MESSAGE_MAP()
 
-// A child that takes part of what its parent is told about it.
-class Speaker : public CButton
-{
-public:
-    Journal journal;
-    BOOL keep = TRUE;
-
-protected:
-    void OnReflectedClick() { journal.push_back("clicked"); }
-    void OnReflectedNotify(NMHDR*, LRESULT* result)
-    {
-        journal.push_back("notify");
-        *result = 5;
-    }
-    BOOL OnReflectedNotifyEx(NMHDR*, LRESULT* result)
-    {
-        journal.push_back("notify ex");
-        *result = 6;
-        return keep;
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(Speaker, CButton)
-    ON_CONTROL_REFLECT(BN_CLICKED, &Speaker::OnReflectedClick)
-    ON_NOTIFY_REFLECT(NM_RCLICK, &Speaker::OnReflectedNotify)
-    ON_NOTIFY_REFLECT_EX(NM_CLICK, &Speaker::OnReflectedNotifyEx)
-END_MESSAGE_MAP()
-
 class MessageMap : public WindowTest
 {
 protected:
@@ -199,21 +170,6 @@ TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)
     panel.SetWindowText("text");
     EXPECT_EQ(panel.SendMessage(WM_GETTEXTLENGTH), 0) << "handled: the default is not asked";
     EXPECT_EQ(panel.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-5, 7)), HTNOWHERE);
-}
-
-TEST_F(MessageMap, AChildHearsFirstAndTheParentOnlyWhatItDeclines)
-{
-    Panel& panel = AddPanel();
-    Speaker child;
-    ASSERT_TRUE(child.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &panel, 30));
-    EXPECT_EQ(Command(panel, 30, BN_CLICKED, child), Journal()) << "the child took it";
-    EXPECT_EQ(Notify(panel, child, UINT(NM_RCLICK)), 5);
-    EXPECT_EQ(Notify(panel, child, UINT(NM_CLICK)), 6);
-    EXPECT_EQ(panel.journal, Journal());
-    child.keep = FALSE;
-    EXPECT_EQ(Notify(panel, child, UINT(NM_CLICK)), 0) << "the parent's own result";
-    EXPECT_EQ(panel.journal, Journal{"notify -2"});
-    EXPECT_EQ(child.journal, (Journal{"clicked", "notify", "notify ex", "notify ex"}));
 }
 
 } // namespace

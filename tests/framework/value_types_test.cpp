@@ -147,9 +147,7 @@ TEST(Collections, MapFindsByTextAndWalksEachKeyOnce)
     int value = 0;
     EXPECT_TRUE(map.Lookup("7", value));
     EXPECT_EQ(value, -7);
-    EXPECT_FALSE(map.Lookup("100", value));
-    EXPECT_FALSE(map.RemoveKey("100"));
-
+    EXPECT_FALSE(map.Lookup("100", value) || map.RemoveKey("100"));
     int sum = 0;
     for (POSITION position = map.GetStartPosition(); position != nullptr;)
     {
@@ -159,50 +157,36 @@ TEST(Collections, MapFindsByTextAndWalksEachKeyOnce)
         EXPECT_TRUE(map.RemoveKey(key)) << "which does not disturb the walk";
     }
     EXPECT_EQ(sum, 99 * 100 / 2 - 14);
-    EXPECT_TRUE(map.IsEmpty());
 }
 
 TEST(Collections, AListKeepsItsPlacesThroughInsertionsAndRemovals)
 {
-    using Letters = CTypedPtrList<CPtrList, char*>;
-    const auto forwards = [](const Letters& list) {
-        std::string texts;
-        for (POSITION at = list.GetHeadPosition(); at != nullptr;)
-        {
-            texts += list.GetNext(at);
-        }
-        return texts;
-    };
-    char letters[][2] = {"a", "b", "c", "d", "e", "x"};
-    auto& [a, b, c, d, e, x] = letters;
-    Letters list;
-    EXPECT_EQ(list.GetHeadPosition(), nullptr);
+    char letters[][2] = {"a", "b", "c", "d", "e"};
+    auto& [a, b, c, d, e] = letters;
+    CTypedPtrList<CPtrList, char*> list;
     list.AddTail(b);
     const POSITION fourth = list.AddTail(d);
     list.AddHead(a);
     list.InsertBefore(fourth, c);
     list.InsertAfter(fourth, e);
-    EXPECT_EQ(forwards(list), "abcde");
+    list.AddTail(&list);
+    std::string forwards;
+    for (POSITION at = list.GetHeadPosition(); at != nullptr;)
+    {
+        forwards += list.GetNext(at);
+    }
+    EXPECT_EQ(forwards, "abcdeabcde");
+    EXPECT_EQ(list.Find(b, list.Find(b)), list.FindIndex(6));
+    EXPECT_EQ(list.RemoveHead(), a);
+    EXPECT_EQ(list.RemoveTail(), e);
+    list.RemoveAt(fourth);
     std::string backwards;
     for (POSITION at = list.GetTailPosition(); at != nullptr;)
     {
         backwards += list.GetPrev(at);
     }
-    EXPECT_EQ(backwards, "edcba");
-    list.SetAt(fourth, x);
-    EXPECT_EQ(list.RemoveHead(), a);
-    EXPECT_EQ(list.RemoveTail(), e);
-    list.RemoveAt(list.FindIndex(1));
-    EXPECT_EQ(forwards(list), "bx");
-    EXPECT_EQ(list.FindIndex(2), nullptr);
-
-    Letters more;
-    more.AddTail(c);
-    more.AddTail(&list);
-    more.AddHead(&list);
-    EXPECT_EQ(forwards(more), "bxcbx");
-    EXPECT_EQ(more.Find(b, more.Find(b)), more.FindIndex(3));
-    EXPECT_EQ(more.Find(nullptr), nullptr);
-    more.RemoveAll();
-    EXPECT_TRUE(more.IsEmpty());
+    EXPECT_EQ(backwards, "dcbaecb");
+    list.RemoveAll();
+    EXPECT_TRUE(list.IsEmpty());
+    EXPECT_EQ(list.Find(b), nullptr);
 }
