@@ -224,39 +224,23 @@ TEST_F(CustomDialogTest, AHandlerMayEndTheDialogOrChangeTheMode)
     const ModeScope mode(ONBOARD);
     struct Heap : DialogForTests
     {
-        bool& deleted;
-        explicit Heap(bool& flag)
-            : deleted(flag)
-        {}
-        void PostNcDestroy() override
-        {
-            deleted = true;
-            delete this;
-        }
+        void PostNcDestroy() override { delete this; }
     };
-    for (const bool inInit : {true, false})
-    {
-        bool deleted = false;
-        auto* const dialog = new Heap(deleted);
-        if (inInit)
-        {
-            dialog->inInit = [=] { dialog->DestroyWindow(); };
-        }
-        dialog->CreateIndirect(form, &Host());
-        if (!inInit)
-        {
-            dialog->SendMessage(WM_CLOSE);
-            dialog->DestroyWindow();
-        }
-        EXPECT_TRUE(deleted);
-        EXPECT_TRUE(COnBoardUIGeneral::m_createddialogs.empty());
-    }
+    const auto& living = COnBoardUIGeneral::m_createddialogs;
+    auto* inInit = new Heap;
+    inInit->inInit = [=] { inInit->DestroyWindow(); };
+    inInit->CreateIndirect(form, &Host());
+    EXPECT_TRUE(living.empty());
+    auto* closed = new Heap;
+    closed->CreateIndirect(form, &Host());
+    closed->SendMessage(WM_CLOSE);
+    closed->DestroyWindow();
+    EXPECT_TRUE(living.empty());
     // A control that cannot be made takes the dialog with it.
     TemplateBytes broken = form;
     broken.Add(u"no such class", u"", 0, CRect(0, 0, 9, 9), 9);
-    bool deleted = false;
-    EXPECT_FALSE((new Heap(deleted))->CreateIndirect(broken, &Host()));
-    EXPECT_TRUE(deleted);
+    EXPECT_FALSE((new Heap)->CreateIndirect(broken, &Host()));
+    EXPECT_TRUE(living.empty());
 
     DialogForTests dialog;
     EXPECT_FALSE(dialog.CreateIndirect(broken, &Host()));

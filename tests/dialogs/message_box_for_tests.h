@@ -18,14 +18,6 @@ public:
     CWnd& Button(size_t index) { return *m_buttons[index]; }
     CRect PlaceOfButton(size_t index) { return PlaceIn(*this, Button(index)); }
     void ClickOn(size_t index) { Click(WindowRectOf(Button(index)).CenterPoint()); }
-    // So that a box that a test could not answer ends, too.
-    void EndUnanswered()
-    {
-        if (GetButtonPressed() == 0)
-        {
-            EndDialog(-2);
-        }
-    }
     int FirstLine() { return int(m_text->SendMessage(EM_GETFIRSTVISIBLELINE)); }
     std::string Shown()
     {
@@ -56,6 +48,24 @@ inline std::string Lines(int count)
 class MessageBoxTest : public CustomDialogTest
 {
 protected:
+    using Box = MessageBoxForTests;
+
+    // The answer of a box that act works in its modal loop. One that is left unanswered ends: 0.
+    static int Answer(const std::string& text, unsigned int style,
+                      const std::function<void(Box&)>& act)
+    {
+        Box box(text.c_str(), style);
+        box.inLoop = [&] {
+            act(box);
+            if (box.GetButtonPressed() == 0)
+            {
+                box.EndDialog(-2);
+            }
+        };
+        box.DoModal();
+        return box.GetButtonPressed();
+    }
+
     void SetUp() override
     {
         CustomDialogTest::SetUp();

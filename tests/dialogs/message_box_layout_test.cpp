@@ -61,19 +61,18 @@ TEST(MessageLines, BreakAfterTheLastSeparatorThatFits)
 
 TEST(MessagePicture, OnlyAnAlphaChannelLetsTheGroundThrough)
 {
-    const auto color = [](const RGBQUAD& pixel) {
-        EXPECT_EQ(pixel.rgbReserved, 0);
-        return RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue);
+    const auto over = [](std::vector<RGBQUAD> pixels) {
+        LayOver(pixels, RGB(50, 60, 70));
+        std::vector<COLORREF> colors;
+        for (const RGBQUAD& pixel : pixels)
+        {
+            colors.push_back(RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue));
+        }
+        return colors;
     };
-    RGBQUAD opaque[] = {{1, 2, 3, 0}, {255, 255, 255, 0}};
-    LayOver(opaque, RGB(50, 60, 70));
-    EXPECT_EQ(color(opaque[0]), RGB(3, 2, 1));
-    EXPECT_EQ(color(opaque[1]), RGB(255, 255, 255));
-    RGBQUAD blended[] = {{1, 2, 3, 0}, {1, 2, 3, 255}, {255, 255, 255, 51}};
-    LayOver(blended, RGB(50, 60, 70));
-    EXPECT_EQ(color(blended[0]), RGB(50, 60, 70));
-    EXPECT_EQ(color(blended[1]), RGB(3, 2, 1));
-    EXPECT_EQ(color(blended[2]), RGB(91, 99, 107));
+    EXPECT_EQ(over({{1, 2, 3, 0}}), std::vector{RGB(3, 2, 1)});
+    EXPECT_EQ(over({{1, 2, 3, 0}, {1, 2, 3, 255}, {255, 255, 255, 51}}),
+              (std::vector{RGB(50, 60, 70), RGB(3, 2, 1), RGB(91, 99, 107)}));
 }
 
 // Sizes and places ------------------------------------------------------------------------------

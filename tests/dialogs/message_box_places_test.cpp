@@ -27,8 +27,7 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
     {
         SCOPED_TRACE(&each - cases);
         const ModeScope scope(each.mode);
-        Box box(each.message.c_str(), MB_YESNO);
-        box.inLoop = [&] {
+        Answer(each.message, MB_YESNO, [&](Box& box) {
             const CSize client = ClientRectOf(box).Size();
             EXPECT_NEAR(client.cx, each.client.cx, 1) << "by the rounding of the halves";
             EXPECT_NEAR(client.cy, each.client.cy, 1);
@@ -44,9 +43,7 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
             CString title;
             box.GetWindowText(title);
             EXPECT_EQ(title, "Flight");
-            box.EndDialog(1);
-        };
-        box.DoModal();
+        });
     }
 }
 
@@ -210,8 +207,7 @@ TEST_F(MessageBoxTest, AnOpenBoxFollowsTheModeAndIsThenAnsweredByPointerAndKey)
                 fresh.DestroyWindow();
 
                 COnBoardUIGeneral::SetAppMode(from);
-                Box box(text.c_str(), MB_YESNOCANCEL);
-                box.inLoop = [&] {
+                const auto followAndAnswer = [&](Box& box) {
                     COnBoardUIGeneral::SetAppMode(to);
                     PumpAll();
                     EXPECT_EQ(Arrangement(box), expected);
@@ -225,10 +221,8 @@ TEST_F(MessageBoxTest, AnOpenBoxFollowsTheModeAndIsThenAnsweredByPointerAndKey)
                         TypeKey(VK_RIGHT);
                         TypeKey(VK_RETURN);
                     }
-                    box.EndUnanswered();
                 };
-                box.DoModal();
-                EXPECT_EQ(box.GetButtonPressed(), IDNO);
+                EXPECT_EQ(Answer(text, MB_YESNOCANCEL, followAndAnswer), IDNO);
             }
         }
     }
@@ -249,8 +243,7 @@ TEST_F(MessageBoxTest, APressThatTheModeCutsOffAnswersNothing)
     for (const APPMODE to : {STD, ONBOARD})
     {
         const ModeScope scope(to == STD ? EFB : STD);
-        Box box("Ready", MB_YESNO);
-        box.inLoop = [&] {
+        const auto cutOff = [&](Box& box) {
             MoveTo(WindowRectOf(box.Button(0)).CenterPoint());
             Press();
             COnBoardUIGeneral::SetAppMode(to);
@@ -260,8 +253,7 @@ TEST_F(MessageBoxTest, APressThatTheModeCutsOffAnswersNothing)
             EXPECT_EQ(box.GetButtonPressed(), 0);
             box.ClickOn(1);
         };
-        EXPECT_EQ(box.DoModal(), IDOK);
-        EXPECT_EQ(box.GetButtonPressed(), IDNO);
+        EXPECT_EQ(Answer("Ready", MB_YESNO, cutOff), IDNO);
     }
 }
 

@@ -60,42 +60,34 @@ TEST_F(MessageBoxTest, EveryButtonOfEverySetAnswersToThePointerInEveryMode)
 
 TEST_F(MessageBoxTest, TheStyleNamesTheIcon)
 {
-    const struct
+    const std::pair<unsigned int, int> cases[] = {
+        {MB_YESNO | MB_ICONHAND, 10007},    {MB_OK | MB_ICONQUESTION, 10006},
+        {MB_YESNO | MB_ICONWARNING, 10002}, {MB_ABORTRETRYIGNORE | MB_ICONASTERISK, 10004},
+        {MB_OK | MB_USERICON, 10002},       {MB_YESNO | 0xF0, 10006},
+        {MB_OK | 0xFFFF0000U, 10002},       {0xF, 10006}};
+    for (const auto& [style, icon] : cases)
     {
-        unsigned int style;
-        int icon;
-    } cases[] = {{MB_YESNO | MB_ICONHAND, 10007},    {MB_OK | MB_ICONQUESTION, 10006},
-                 {MB_YESNO | MB_ICONWARNING, 10002}, {MB_ABORTRETRYIGNORE | MB_ICONASTERISK, 10004},
-                 {MB_OK | MB_USERICON, 10002},       {MB_YESNO | 0xF0, 10006},
-                 {MB_OK | 0xFFFF0000U, 10002},       {0xF, 10006}};
-    for (const auto& each : cases)
-    {
-        EXPECT_EQ(Box("", each.style).m_iconId, each.icon) << each.style;
+        EXPECT_EQ(Box("", style).m_iconId, icon) << style;
     }
     // The picture lies on the ground of the mode, and it is one of its own for each meaning.
     std::vector<Pixels> pictures;
     for (const APPMODE mode : {STD, ONBOARD})
     {
         const ModeScope scope(mode);
+        const COLORREF ground = mode == STD ? ::GetSysColor(COLOR_3DFACE) : RGB(50, 50, 50);
         for (const UINT icon : {MB_ICONHAND, MB_ICONQUESTION, MB_ICONEXCLAMATION, MB_ICONASTERISK})
         {
-            Box box("Look", MB_OK | icon);
-            box.inLoop = [&] {
+            Pixels picture;
+            Answer("Look", MB_OK | icon, [&](Box& box) {
                 PumpAll();
-                pictures.push_back(WindowPixels(box.m_icon));
-                box.EndDialog(1);
-            };
-            box.DoModal();
-            const Pixels& picture = pictures.back();
-            const COLORREF ground = mode == STD ? ::GetSysColor(COLOR_3DFACE) : RGB(50, 50, 50);
+                picture = WindowPixels(box.m_icon);
+            });
             EXPECT_EQ(picture.Width(), 48);
             EXPECT_EQ(picture.Height(), 48);
             EXPECT_GT(picture.Count(ground), 48 * 48 / 8) << "what is not painted is ground";
             EXPECT_LT(picture.Count(ground), 48 * 48 * 3 / 4) << "something is painted";
-            for (size_t before = 0; before + 1 < pictures.size(); ++before)
-            {
-                EXPECT_FALSE(picture == pictures[before]);
-            }
+            EXPECT_EQ(std::count(pictures.begin(), pictures.end(), picture), 0);
+            pictures.push_back(picture);
         }
     }
 }
@@ -146,116 +138,102 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
     {
         for (const auto& each : cases)
         {
+            SCOPED_TRACE(testing::Message()
+                         << APPMODE_NAMES[opened] << ' ' << APPMODE_NAMES[mode] << ", style "
+                         << each.style << ", last key " << each.keys.back());
             const ModeScope scope(opened);
-            Box box("Go on?", each.style);
-            box.inLoop = [&] {
+            const int pressed = Answer("Go on?", each.style, [&, mode = mode](Box& box) {
                 COnBoardUIGeneral::SetAppMode(mode);
                 PumpAll();
                 for (const UINT key : each.keys)
                 {
-                    EXPECT_NE(box.GetSafeHwnd(), nullptr);
                     EXPECT_EQ(box.GetButtonPressed(), 0) << "before key " << key;
                     TypeKey(key);
                 }
-                box.EndUnanswered();
-            };
-            box.DoModal();
-            EXPECT_EQ(box.GetButtonPressed(), each.pressed)
-                << APPMODE_NAMES[opened] << ' ' << APPMODE_NAMES[mode] << ", style " << each.style
-                << ", key " << each.keys.back();
+            });
+            EXPECT_EQ(pressed, each.pressed);
         }
     }
 }
 
 TEST_F(MessageBoxTest, OtherWindowsKeepTheirKeys)
 {
+    const auto typeIntoOthers = [](Box& box) {
+        CWnd popup;  // owned by the box
+        CEdit added; // as a derived class has it
+        ASSERT_TRUE(popup.CreateEx(0, "EDIT", "", WS_POPUP | WS_VISIBLE | ES_MULTILINE,
+                                   CRect(10, 10, 200, 100), &box, 0));
+        ASSERT_TRUE(added.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &box, 900));
+        for (CWnd* const own : {&popup, static_cast<CWnd*>(&added)})
+        {
+            own->SetFocus();
+            TypeText("yn");
+            TypeKey(VK_ESCAPE);
+            CString typed;
+            own->GetWindowText(typed);
+            EXPECT_EQ(typed, "yn");
+        }
+        box.Button(0).SetFocus();
+        box.Button(0).PostMessage(WM_CHAR, 0x159); // no Y
+        PumpAll();
+    };
     for (const APPMODE mode : {STD, ONBOARD})
     {
         const ModeScope scope(mode);
-        Box box("Go on?", MB_YESNO);
-        box.inLoop = [&] {
-            CWnd popup;  // owned by the box
-            CEdit added; // as a derived class has it
-            ASSERT_TRUE(popup.CreateEx(0, "EDIT", "", WS_POPUP | WS_VISIBLE | ES_MULTILINE,
-                                       CRect(10, 10, 200, 100), &box, 0));
-            ASSERT_TRUE(added.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 20), &box, 900));
-            for (CWnd* const own : {&popup, static_cast<CWnd*>(&added)})
-            {
-                own->SetFocus();
-                TypeText("yn");
-                TypeKey(VK_ESCAPE);
-                CString typed;
-                own->GetWindowText(typed);
-                EXPECT_EQ(typed, "yn");
-                EXPECT_EQ(box.GetButtonPressed(), 0);
-            }
-            box.Button(0).SetFocus();
-            box.Button(0).PostMessage(WM_CHAR, 0x159); // no Y
-            PumpAll();
-            EXPECT_EQ(box.GetButtonPressed(), 0);
-            box.EndDialog(-2);
-        };
-        box.DoModal();
+        EXPECT_EQ(Answer("Go on?", MB_YESNO, typeIntoOthers), 0);
     }
 }
 
 TEST_F(MessageBoxTest, TheCloseBoxAnswersAsEscapeDoes)
 {
-    const struct
+    const std::pair<unsigned int, int> cases[] = {
+        {MB_OK, IDOK}, {MB_RETRYCANCEL, IDCANCEL}, {MB_YESNO, 0}};
+    for (const auto& [style, answer] : cases)
     {
-        unsigned int style;
-        int pressed;
-    } cases[] = {{MB_OK, IDOK}, {MB_RETRYCANCEL, IDCANCEL}, {MB_YESNO, 0}};
-    for (const auto& each : cases)
-    {
-        Box box("Close?", each.style);
-        box.inLoop = [&] {
-            const UINT state = ::GetMenuState(::GetSystemMenu(box, FALSE), SC_CLOSE, MF_BYCOMMAND);
-            EXPECT_EQ((state & MF_GRAYED) != 0, each.pressed == 0);
-            TypeKey(VK_F4, VK_MENU);
-            EXPECT_EQ(box.GetButtonPressed(), each.pressed) << each.style;
-            box.SendMessage(WM_CLOSE);
-            EXPECT_EQ(box.GetButtonPressed(), each.pressed) << each.style;
-            box.EndDialog(-2);
-        };
-        box.DoModal();
+        for (const bool byKey : {true, false})
+        {
+            const auto close = [&, answer = answer](Box& box) {
+                const UINT state =
+                    ::GetMenuState(::GetSystemMenu(box, FALSE), SC_CLOSE, MF_BYCOMMAND);
+                EXPECT_EQ((state & MF_GRAYED) != 0, answer == 0);
+                byKey ? TypeKey(VK_F4, VK_MENU) : void(box.SendMessage(WM_CLOSE));
+            };
+            EXPECT_EQ(Answer("Close?", style, close), answer) << style << byKey;
+        }
     }
 }
 
 TEST_F(MessageBoxTest, ALongTextIsScrolledAndCopiedByKeys)
 {
     const std::string text = Lines(400);
+    const auto scrollAndCopy = [&](Box& box) {
+        EXPECT_EQ(box.FirstLine(), 0);
+        MoveTo(WindowRectOf(box.Button(0)).CenterPoint());
+        Wheel(-WHEEL_DELTA);
+        EXPECT_EQ(box.FirstLine(), 3);
+        TypeKey(VK_HOME);
+        TypeKey(VK_NEXT); // from a button, too
+        const int page = box.FirstLine();
+        EXPECT_GT(page, 5);
+        TypeKey(VK_TAB);
+        TypeKey(VK_TAB);
+        EXPECT_EQ(::GetFocus(), box.m_text->GetSafeHwnd());
+        TypeKey(VK_DOWN);
+        EXPECT_EQ(box.FirstLine(), page + 1);
+        TypeKey(VK_UP);
+        TypeKey(VK_PRIOR);
+        EXPECT_EQ(box.FirstLine(), 0);
+        TypeKey(VK_END);
+        EXPECT_GT(box.FirstLine(), 350);
+        TypeKey(VK_DELETE);
+        TypeKey(VK_BACK);
+        EXPECT_EQ(box.Shown(), text);
+        TypeKey('C', VK_CONTROL);
+    };
     for (const APPMODE mode : {STD, ONBOARD})
     {
         const ModeScope scope(mode);
-        Box box(text.c_str(), MB_YESNO);
-        box.inLoop = [&] {
-            EXPECT_EQ(box.FirstLine(), 0);
-            MoveTo(WindowRectOf(box.Button(0)).CenterPoint());
-            Wheel(-WHEEL_DELTA);
-            EXPECT_EQ(box.FirstLine(), 3);
-            TypeKey(VK_HOME);
-            TypeKey(VK_NEXT); // from a button, too
-            const int page = box.FirstLine();
-            EXPECT_GT(page, 5);
-            TypeKey(VK_TAB);
-            TypeKey(VK_TAB);
-            EXPECT_EQ(::GetFocus(), box.m_text->GetSafeHwnd());
-            TypeKey(VK_DOWN);
-            EXPECT_EQ(box.FirstLine(), page + 1);
-            TypeKey(VK_UP);
-            TypeKey(VK_PRIOR);
-            EXPECT_EQ(box.FirstLine(), 0);
-            TypeKey(VK_END);
-            EXPECT_GT(box.FirstLine(), 350);
-            TypeKey(VK_DELETE);
-            TypeKey(VK_BACK);
-            EXPECT_EQ(box.Shown(), text);
-            TypeKey('C', VK_CONTROL);
-            EXPECT_EQ(box.GetButtonPressed(), 0);
-            box.EndDialog(1);
-        };
-        box.DoModal();
+        EXPECT_EQ(Answer(text, MB_YESNO, scrollAndCopy), 0);
         ASSERT_TRUE(::OpenClipboard(Host()));
         const HANDLE copied = ::GetClipboardData(CF_TEXT);
         EXPECT_STREQ(static_cast<const char*>(::GlobalLock(copied)), text.c_str());
@@ -271,16 +249,13 @@ TEST_F(MessageBoxTest, OnBoardTheTextLooksLikeALabelAndAsksForNoKeyboard)
     FlightBag bag(journal);
     const ModeScope scope(EFB);
     CCustomEdit::SetEfb(&bag);
-    Box box("Ready", MB_OK);
-    box.inLoop = [&] {
+    Answer("Ready", MB_OK, [](Box& box) {
         PumpAll();
         const Pixels text = WindowPixels(*box.m_text);
         EXPECT_GT(text.Count(RGB(50, 50, 50)), text.Width() * text.Height() / 2);
         EXPECT_GT(text.Count(RGB(230, 230, 230)), 50);
         Click(WindowRectOf(*box.m_text).CenterPoint());
-        box.EndDialog(1);
-    };
-    box.DoModal();
+    });
     CCustomEdit::SetEfb(nullptr);
     EXPECT_EQ(journal, Journal());
 }
@@ -303,10 +278,7 @@ TEST_F(MessageBoxTest, BadInputHasADefinedResult)
 
         Box pictureless("Ready", MB_OK);
         pictureless.m_iconId = 31'999;
-        pictureless.inLoop = [&] {
-            EXPECT_EQ(pictureless.m_icon.GetBitmap(), nullptr);
-            TypeKey(VK_RETURN);
-        };
+        pictureless.inLoop = [] { TypeKey(VK_RETURN); };
         EXPECT_EQ(pictureless.DoModal(), IDOK);
 
         Box templateless("Ready", MB_OK);
@@ -344,12 +316,6 @@ TEST_F(MessageBoxTest, ABoxCanBeShownAgainAndCanGoInsideItsLoop)
         box.DoModal();
         EXPECT_EQ(box.GetButtonPressed(), 0);
     }
-    // Deleted with its window.
-    auto* const modeless = new Box(Lines(400).c_str(), MB_OK);
-    ASSERT_TRUE(modeless->Create(CZepMsgBoxDlg::IDD, &Host()));
-    const HWND window = *modeless;
-    delete modeless;
-    EXPECT_FALSE(::IsWindow(window));
 }
 
 TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
