@@ -73,7 +73,7 @@ TEST_F(FormWindowsTest, AFormIsRescaledOnceHoweverItReachesTheMode)
     }
 }
 
-TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndHasTheColoursOfDialogs)
+TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndLooksAndWorksLikeADialog)
 {
     View view;
     ASSERT_TRUE(view.Open(Host()));
@@ -86,6 +86,10 @@ TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndHasTheColoursOfDia
     EXPECT_EQ(view.GetScrollPosition(), CPoint(0, 0));
     EXPECT_EQ(ChildPlaces(view).front(), Enlarged(before)) << "from the form's own corner";
     EXPECT_EQ(view.GetTotalSize(), Enlarged(CRect(CPoint(0, 0), total)).Size());
+
+    view.GetDlgItem(IDC_TEST_EDIT)->SetFocus();
+    TypeKey(VK_TAB);
+    EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_TEST_CHECK);
 
     view.MoveWindow(0, 0, 500, 400);
     PumpAll();

@@ -88,7 +88,7 @@ MessageUnits Units(bool onBoard)
     return MessageUnits::Of(Unit, onBoard);
 }
 
-MessageContent Content(CSize text, int buttons, CSize area, bool onBoard, int title = 100)
+MessageContent Content(CSize text, int buttons, CSize area, bool onBoard, int title)
 {
     // In an on-board mode a frame of three pixels, with the higher band.
     const CSize frame(6, onBoard ? 6 + 32 : 6 + Caption);
@@ -101,35 +101,30 @@ TEST(MessageBoxLayout, TheBoxHasTheSizeOfItsContent)
     {
         const char* what;
         bool onBoard;
-        MessageContent content;
+        CSize content;
+        int buttons;
+        int title; // its width
+        CSize area;
         CSize client;
         CSize text;
         bool scrolls;
     } cases[] = {
-        {"a word", false, Content(CSize(224, 16), 1, Wide, false), CSize(324, 114), CSize(241, 17),
-         false},
-        {"lines", true, Content(CSize(502, 80), 1, Wide, true), CSize(624, 182), CSize(519, 81),
-         false},
-        {"just below the limit", false, Content(CSize(300, 613), 1, Wide, false), CSize(400, 680),
-         CSize(317, 614), false},
-        {"at the limit", false, Content(CSize(300, 614), 1, Wide, false), CSize(461, 680),
-         CSize(378, 614), true},
-        {"a long title", false, Content(CSize(224, 16), 1, Wide, false, 700), CSize(728, 114),
-         CSize(241, 17), false},
-        {"wide buttons", true, Content(CSize(100, 27), 3, Wide, true), CSize(460, 149),
-         CSize(117, 28), false},
-        {"a low area", true, Content(CSize(200, 300), 1, CSize(640, 240), true), CSize(383, 199),
-         CSize(278, 98), true},
-        {"a narrow area, a long title", false,
-         Content(CSize(100, 16), 1, CSize(320, 240), false, 900), CSize(295, 114), CSize(117, 17),
-         false},
-        {"only the frame is too wide", false, Content(CSize(217, 16), 1, CSize(320, 240), false),
-         CSize(311, 114), CSize(228, 17), false},
+        {"a word", false, {224, 16}, 1, 100, Wide, {324, 114}, {241, 17}, false},
+        {"lines", true, {502, 80}, 1, 100, Wide, {624, 182}, {519, 81}, false},
+        {"just below the limit", false, {300, 613}, 1, 100, Wide, {400, 680}, {317, 614}, false},
+        {"at the limit", false, {300, 614}, 1, 100, Wide, {461, 680}, {378, 614}, true},
+        {"a long title", false, {224, 16}, 1, 700, Wide, {728, 114}, {241, 17}, false},
+        {"wide buttons", true, {100, 27}, 3, 100, Wide, {460, 149}, {117, 28}, false},
+        {"a low area", true, {200, 300}, 1, 100, {640, 240}, {383, 199}, {278, 98}, true},
+        {"a narrow area", false, {100, 16}, 1, 900, {320, 240}, {295, 114}, {117, 17}, false},
+        {"a frame too wide", false, {217, 16}, 1, 100, {320, 240}, {311, 114}, {228, 17}, false},
     };
     for (const auto& each : cases)
     {
         SCOPED_TRACE(each.what);
-        const MessageSize size = SizeMessageBox(Units(each.onBoard), each.content);
+        const MessageSize size =
+            SizeMessageBox(Units(each.onBoard), Content(each.content, each.buttons, each.area,
+                                                        each.onBoard, each.title));
         EXPECT_EQ(size.client, each.client) << size.client.cx << ' ' << size.client.cy;
         EXPECT_EQ(size.text, each.text) << size.text.cx << ' ' << size.text.cy;
         EXPECT_EQ(size.scrolls, each.scrolls);

@@ -13,40 +13,39 @@ namespace {
 
 constexpr K3DevPt Middle = {100, 50};
 
-TEST(K3ChartTest, GivesTheSamePositionBackForEachPointOfEitherProjection)
+TEST(K3ChartTest, HasTheScaleOfItsProjectionAndGivesEachPointBack)
 {
-    for (const K3Chart::Projection projection : {K3Chart::Mercator, K3Chart::Orthographic})
+    const struct
     {
+        K3Chart::Projection projection;
+        double latitude;
+        double longitude;
+        double x;
+        double y;
+    } cases[] = {
+        {K3Chart::Mercator, 60, 20, 40, -4 * 75.4561},    // as far as 75.4561 on the equator
+        {K3Chart::Orthographic, 30, 10, 0, -4 * 28.6479}, // half the radius, 57.2958 degrees
+    };
+    for (const auto& each : cases)
+    {
+        double latitude = 0, east = 0, x = 0, y = 0;
+        const K3Chart plain(each.projection, 0, 10, 4, {0, 0});
+        ASSERT_TRUE(plain.ToDevice(each.latitude, each.longitude, x, y));
+        EXPECT_NEAR(x, each.x, 1e-9);
+        EXPECT_NEAR(y, each.y, 1e-3);
         for (const double longitude : {0.0, 11.0, 179.0, -180.0, 725.0})
         {
-            const K3Chart chart(projection, 48, longitude, 20, Middle);
-            for (int x = -300; x <= 500; x += 50)
+            const K3Chart chart(each.projection, 48, longitude, 20, Middle);
+            for (const K3DevPt point : {K3DevPt{-300, 50}, {100, -300}, {500, 400}})
             {
-                for (int y = -300; y <= 400; y += 50)
-                {
-                    double latitude = 99, east = 999, backX = 0, backY = 0;
-                    ASSERT_TRUE(chart.ToPosition(x, y, latitude, east));
-                    ASSERT_TRUE(chart.ToDevice(latitude, east, backX, backY));
-                    EXPECT_NEAR(backX, x, 1e-6);
-                    EXPECT_NEAR(backY, y, 1e-6);
-                    EXPECT_LE(std::abs(east), 180);
-                }
+                ASSERT_TRUE(chart.ToPosition(point.x, point.y, latitude, east));
+                ASSERT_TRUE(chart.ToDevice(latitude, east, x, y));
+                EXPECT_NEAR(x, point.x, 1e-6);
+                EXPECT_NEAR(y, point.y, 1e-6);
+                EXPECT_LE(std::abs(east), 180);
             }
         }
     }
-}
-
-TEST(K3ChartTest, HasTheScaleOfItsProjection)
-{
-    double x = 0, y = 0;
-    const K3Chart flat(K3Chart::Mercator, 0, 10, 4, Middle);
-    ASSERT_TRUE(flat.ToDevice(60, 20, x, y));
-    EXPECT_NEAR(x, 100 + 10 * 4, 1e-9);
-    EXPECT_NEAR(y, 50 - 4 * 75.4561, 1e-3); // 60 degrees lie as far as 75.4561 on the equator
-    const K3Chart globe(K3Chart::Orthographic, 0, 10, 4, Middle);
-    ASSERT_TRUE(globe.ToDevice(30, 10, x, y));
-    EXPECT_NEAR(x, 100, 1e-9);
-    EXPECT_NEAR(y, 50 - 4 * 28.6479, 1e-3); // half the radius, which is 57.2958 degrees
 }
 
 TEST(K3ChartTest, GivesTheNearestPositionOutsideAndShowsNothingThere)

@@ -5,6 +5,7 @@
 
 #include <climits>
 #include <string>
+#include <utility>
 
 namespace {
 class SpecialConfigVals : public testing::Test
@@ -40,16 +41,13 @@ TEST_F(SpecialConfigVals, NumbersAndTextsAreOneTable)
     EXPECT_EQ(GetSpecialConfigVal("Map", "Zoom", ""), "-2147483648");
     EXPECT_EQ(GetSpecialConfigVal("Map", "Zoom", 0), INT_MIN);
 
-    const struct
+    const std::pair<const char*, int> cases[] = {{"12", 12},  {"-3", -3},        {"", 99},
+                                                 {"yes", 99}, {"12 ", 99},       {"1.5", 99},
+                                                 {"-", 99},   {"2147483648", 99}};
+    for (const auto& [text, number] : cases)
     {
-        const char* text;
-        int number;
-    } cases[] = {{"12", 12},  {"-3", -3},  {"", 99},  {"yes", 99},
-                 {"12 ", 99}, {"1.5", 99}, {"-", 99}, {"2147483648", 99}};
-    for (const auto& each : cases)
-    {
-        SetSpecialConfigVal("Map", "Zoom", each.text);
-        EXPECT_EQ(GetSpecialConfigVal("Map", "Zoom", 99), each.number) << '"' << each.text << '"';
+        SetSpecialConfigVal("Map", "Zoom", text);
+        EXPECT_EQ(GetSpecialConfigVal("Map", "Zoom", 99), number) << '"' << text << '"';
     }
 }
 } // namespace
