@@ -80,6 +80,24 @@ TEST_F(Controls, TextsOfAnyLengthAreRead)
     EXPECT_STREQ(text, "some words");
 }
 
+TEST_F(Controls, ScrollLimitsAndSelectedRowsAreTold)
+{
+    auto& bar = Add<CScrollBar>(CRect(0, 0, 20, 100), SBS_VERT);
+    SCROLLINFO info = {sizeof(info), SIF_RANGE | SIF_PAGE, 0, 99, 10, 0, 0};
+    bar.SetScrollInfo(&info);
+    EXPECT_EQ(bar.GetScrollLimit(), 90) << "room for the page";
+    auto& list = Add<CListCtrl>(Place, LVS_REPORT);
+    for (int row = 0; row < 4; ++row)
+    {
+        list.InsertItem(row, "row");
+        list.SetItemState(row, row % 2 != 0 ? LVIS_SELECTED : 0, LVIS_SELECTED);
+    }
+    POSITION position = list.GetFirstSelectedItemPosition();
+    EXPECT_EQ(list.GetNextSelectedItem(position), 1);
+    EXPECT_EQ(list.GetNextSelectedItem(position), 3);
+    EXPECT_EQ(position, nullptr);
+}
+
 TEST_F(Controls, StatusBarStretchesOnePane)
 {
     CStatusBar bar;

@@ -20,7 +20,6 @@ public:
     {}
 
     std::string name;
-    BOOL allowClass = TRUE;
     UINT refuses = 0; // the message that ends its creation
     bool ownsItself = false;
     std::function<void()> inCreate = [] {};
@@ -33,10 +32,6 @@ public:
     }
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& cs) override
-    {
-        return allowClass && CWnd::PreCreateWindow(cs);
-    }
     void PreSubclassWindow() override
     {
         Note(FromHandlePermanent(m_hWnd) == this ? "bound" : "not bound");
@@ -108,10 +103,13 @@ TEST_F(WndTest, TheObjectIsThereBeforeTheFirstMessage)
 {
     LifeWindow window;
     ASSERT_TRUE(window.Make(&Host()));
+    AfxGetApp()->m_pMainWnd = &window;
     EXPECT_EQ(TakeJournal(), (Journal{"bound", "nccreate", "create"}));
     window.DestroyWindow();
     EXPECT_EQ(TakeJournal(), (Journal{"destroy", "ncdestroy", "gone"}));
     EXPECT_FALSE(window.DestroyWindow());
+    EXPECT_TRUE(TakeQuit()) << "the end of the main window is that of the program";
+    EXPECT_EQ(AfxGetMainWnd(), nullptr);
     EXPECT_TRUE(window.Make(&Host())) << "an object can have one window after another";
 }
 
@@ -120,19 +118,16 @@ TEST_F(WndTest, ACreationThatFailsEndsOnceAndLeavesNothing)
     const struct
     {
         const char* windowClass;
-        BOOL allowClass;
         UINT refuses;
         Journal expected;
     } cases[] = {
-        {nullptr, FALSE, 0, {"gone"}},
-        {"no such class", TRUE, 0, {"gone"}},
-        {nullptr, TRUE, WM_NCCREATE, {"bound", "nccreate", "ncdestroy", "gone"}},
-        {nullptr, TRUE, WM_CREATE, {"bound", "nccreate", "create", "ncdestroy", "gone"}},
+        {"no such class", 0, {"gone"}},
+        {nullptr, WM_NCCREATE, {"bound", "nccreate", "ncdestroy", "gone"}},
+        {nullptr, WM_CREATE, {"bound", "nccreate", "create", "ncdestroy", "gone"}},
     };
     for (const auto& each : cases)
     {
         LifeWindow window;
-        window.allowClass = each.allowClass;
         window.refuses = each.refuses;
         EXPECT_FALSE(window.Make(&Host(), each.windowClass));
         std::erase(journal, "destroy"); // platforms differ on whether it comes
