@@ -138,7 +138,7 @@ TEST_F(CustomDialogTest, EveryWayOfCreatingGoesThroughTheTemplate)
 
 TEST_F(CustomDialogTest, AnOpenDialogFollowsTheMode)
 {
-    const TemplateBytes form =
+    const DialogTemplate form =
         Form(WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_VISIBLE | DS_MODALFRAME);
     DialogForTests dialog;
     ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
@@ -237,8 +237,8 @@ TEST_F(CustomDialogTest, AHandlerMayEndTheDialogOrChangeTheMode)
     closed->DestroyWindow();
     EXPECT_TRUE(living.empty());
     // A control that cannot be made takes the dialog with it.
-    TemplateBytes broken = form;
-    broken.Add(u"no such class", u"", 0, CRect(0, 0, 9, 9), 9);
+    DialogTemplate broken = form;
+    broken.Add("no such class", "", 0, CRect(0, 0, 9, 9), 9);
     EXPECT_FALSE((new Heap)->CreateIndirect(broken, &Host()));
     EXPECT_TRUE(living.empty());
 

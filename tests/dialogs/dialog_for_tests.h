@@ -6,7 +6,7 @@
 #include "EFB.h"
 #include "LayoutMgmt.h"
 #include "SpecialConfigVals.h"
-#include "dialogs/template_bytes.h"
+#include "support/DialogTemplate.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
 
@@ -164,24 +164,24 @@ enum : WORD
     IdButton,
 };
 
-inline TemplateBytes Form(DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX |
-                                        WS_VISIBLE,
-                          DWORD exStyle = 0)
+inline DialogTemplate Form(DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX |
+                                         WS_VISIBLE,
+                           DWORD exStyle = 0)
 {
-    TemplateBytes form({.style = style, .exStyle = exStyle, .title = u"Title"});
-    form.Add(u"Static", u"Label", 0, CRect(5, 5, 60, 17), IdLabel)
-        .Add(u"Edit", u"text", WS_TABSTOP, CRect(5, 20, 60, 32), IdEdit)
-        .Add(u"Edit", u"text", WS_DISABLED, CRect(5, 35, 60, 47), IdDisabled)
-        .Add(u"Edit", u"text", ES_READONLY, CRect(5, 50, 60, 62), IdReadOnly)
-        .Add(u"ListBox", u"", LBS_NOINTEGRALHEIGHT, CRect(80, 5, 140, 60), IdList)
-        .Add(u"Button", u"OK", WS_TABSTOP, CRect(5, 90, 50, 104), IdButton);
+    DialogTemplate form({.style = style, .exStyle = exStyle, .title = "Title"});
+    form.Add("Static", "Label", 0, CRect(5, 5, 60, 17), IdLabel)
+        .Add("Edit", "text", WS_TABSTOP, CRect(5, 20, 60, 32), IdEdit)
+        .Add("Edit", "text", WS_DISABLED, CRect(5, 35, 60, 47), IdDisabled)
+        .Add("Edit", "text", ES_READONLY, CRect(5, 50, 60, 62), IdReadOnly)
+        .Add("ListBox", "", LBS_NOINTEGRALHEIGHT, CRect(80, 5, 140, 60), IdList)
+        .Add("Button", "OK", WS_TABSTOP, CRect(5, 90, 50, 104), IdButton);
     return form;
 }
 
 class CustomDialogTest : public WindowTest
 {
 protected:
-    const TemplateBytes form = Form();
+    const DialogTemplate form = Form();
     DialogHost host;
 
     // Of the form's controls in the standard mode.

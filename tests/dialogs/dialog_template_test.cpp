@@ -13,33 +13,32 @@ constexpr WORD ListBoxClass = 0x0083;
 constexpr WORD ComboClass = 0x0085;
 
 // Fields of templates in all the ways that the formats allow.
-std::vector<TemplateBytes> AllKinds()
+std::vector<DialogTemplate> AllKinds()
 {
-    std::vector<TemplateBytes> kinds;
+    std::vector<DialogTemplate> kinds;
     for (const bool extended : {false, true})
     {
-        std::vector<TemplateBytes::Header> headers(6);
+        std::vector<DialogTemplate::Header> headers(6);
         headers[1].points = 0;
         headers[2].points = 14;
-        headers[2].face = u"Arial";
+        headers[2].face = "Arial";
         headers[3].style |= DS_FIXEDSYS | DS_MODALFRAME;
-        headers[3].face = u"MS Shell Dlg";
+        headers[3].face = "MS Shell Dlg";
         headers[4].menu = WORD(77);
         headers[4].windowClass = WORD(0x8002); // the platform's dialog class
         headers[4].style |= WS_THICKFRAME;
-        headers[5].windowClass = u"#32770";
+        headers[5].windowClass = "#32770";
         headers[5].style = WS_POPUP;
-        headers[5].title = u"";
-        for (TemplateBytes::Header& header : headers)
+        headers[5].title = "";
+        for (DialogTemplate::Header& header : headers)
         {
             header.extended = extended;
-            TemplateBytes bytes(header);
-            bytes.Add(ButtonClass, u"Odd", WS_TABSTOP, CRect(7, 9, 50, 23), 101)
-                .Add(EditClass, u"", WS_BORDER, CRect(7, 30, 103, 43), 102,
-                     {0x1234, 0x5678, 0x9ABC})
-                .Add(u"ListBox", u"", LBS_NOINTEGRALHEIGHT, CRect(110, 3, 193, 63), 103)
-                .Add(StaticClass, u"A label", 0, CRect(7, 50, 60, 58), 0xFFFF)
-                .Add(u"SysListView32", u"", LVS_REPORT, CRect(1, 70, 199, 119), 104);
+            DialogTemplate bytes(header);
+            bytes.Add(ButtonClass, "Odd", WS_TABSTOP, CRect(7, 9, 50, 23), 101)
+                .Add(EditClass, "", WS_BORDER, CRect(7, 30, 103, 43), 102, {0x1234, 0x5678, 0x9ABC})
+                .Add("ListBox", "", LBS_NOINTEGRALHEIGHT, CRect(110, 3, 193, 63), 103)
+                .Add(StaticClass, "A label", 0, CRect(7, 50, 60, 58), 0xFFFF)
+                .Add("SysListView32", "", LVS_REPORT, CRect(1, 70, 199, 119), 104);
             kinds.push_back(bytes);
         }
     }
@@ -51,7 +50,7 @@ using DialogTemplateTest = CustomDialogTest;
 TEST_F(DialogTemplateTest, ChildrenEndWhereTheRuleTakesThemWhateverTheTemplate)
 {
     int index = 0;
-    for (const TemplateBytes& bytes : AllKinds())
+    for (const DialogTemplate& bytes : AllKinds())
     {
         SCOPED_TRACE(index++);
         DialogForTests standard;
@@ -86,12 +85,12 @@ TEST_F(DialogTemplateTest, ChildrenEndWhereTheRuleTakesThemWhateverTheTemplate)
 
 TEST_F(DialogTemplateTest, OpeningOnBoardAndSwitchingThereAgree)
 {
-    TemplateBytes bytes({});
+    DialogTemplate bytes(DialogTemplate::Header{});
     bytes
-        .Add(ListBoxClass, u"", WS_VSCROLL, CRect(5, 5, 60, 62), 101) // whole rows only
-        .Add(ComboClass, u"", CBS_DROPDOWNLIST, CRect(70, 5, 130, 80), 102)
-        .Add(ButtonClass, u"OK", 0, CRect(0, 0, 1, 1), 103)
-        .Add(StaticClass, u"", 0, CRect(-9, -5, 3000, 0), 104);
+        .Add(ListBoxClass, "", WS_VSCROLL, CRect(5, 5, 60, 62), 101) // whole rows only
+        .Add(ComboClass, "", CBS_DROPDOWNLIST, CRect(70, 5, 130, 80), 102)
+        .Add(ButtonClass, "OK", 0, CRect(0, 0, 1, 1), 103)
+        .Add(StaticClass, "", 0, CRect(-9, -5, 3000, 0), 104);
     DialogForTests switched;
     ASSERT_TRUE(switched.CreateIndirect(bytes, &Host()));
     COnBoardUIGeneral::SetAppMode(ONBOARD);
@@ -130,7 +129,7 @@ TEST_F(DialogTemplateTest, TruncatedTemplatesAreRefusedAndDamagedOnesDoNoHarm)
 {
     GuardedCopy guarded;
     size_t kind = 0;
-    for (const TemplateBytes& bytes : AllKinds())
+    for (const DialogTemplate& bytes : AllKinds())
     {
         ++kind;
         for (size_t size = 0; size <= bytes.Size(); ++size)
@@ -160,7 +159,7 @@ TEST_F(DialogTemplateTest, TruncatedTemplatesAreRefusedAndDamagedOnesDoNoHarm)
             }
         }
     }
-    TemplateBytes future({.extended = true});
+    DialogTemplate future({.extended = true});
     BYTE* const copy = guarded.Of(future.Data(), future.Size());
     copy[0] = 2;
     EXPECT_FALSE(CCustomDialogTemplate().Load(copy, future.Size())) << "an unknown version";

@@ -66,6 +66,7 @@ TEST(MessagePicture, OnlyAnAlphaChannelLetsTheGroundThrough)
         std::vector<COLORREF> colors;
         for (const RGBQUAD& pixel : pixels)
         {
+            EXPECT_EQ(pixel.rgbReserved, 0) << "the platform would keep a copy";
             colors.push_back(RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue));
         }
         return colors;

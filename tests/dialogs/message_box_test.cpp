@@ -287,7 +287,7 @@ TEST_F(MessageBoxTest, BadInputHasADefinedResult)
         EXPECT_EQ(templateless.GetButtonPressed(), 0);
 
         // A template without the box's controls.
-        const TemplateBytes bare({.style = WS_POPUP | WS_CAPTION, .title = u"Bare"});
+        const DialogTemplate bare({.style = WS_POPUP | WS_CAPTION, .title = "Bare"});
         Box partless("Ready", MB_OKCANCEL);
         partless.m_lpszTemplateName = nullptr;
         partless.InitModalIndirect(bare, &Host());

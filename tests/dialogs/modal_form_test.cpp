@@ -15,16 +15,15 @@ TEST_F(CustomDialogTest, AFormIsWorkedByPointerAndByKeyboardInItsModalLoop)
 {
     constexpr WORD FirstRadio = 201;
     constexpr WORD Check = 204;
-    TemplateBytes bytes({.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE});
+    DialogTemplate bytes({.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE});
     bytes
-        .Add(u"Button", u"One", BS_AUTORADIOBUTTON | WS_GROUP | WS_TABSTOP, CRect(5, 5, 60, 17),
+        .Add("Button", "One", BS_AUTORADIOBUTTON | WS_GROUP | WS_TABSTOP, CRect(5, 5, 60, 17),
              FirstRadio)
-        .Add(u"Button", u"Two", BS_AUTORADIOBUTTON, CRect(5, 20, 60, 32), FirstRadio + 1)
-        .Add(u"Button", u"Three", BS_AUTORADIOBUTTON, CRect(5, 35, 60, 47), FirstRadio + 2)
-        .Add(u"Button", u"Check", BS_AUTOCHECKBOX | WS_GROUP | WS_TABSTOP, CRect(5, 50, 60, 62),
+        .Add("Button", "Two", BS_AUTORADIOBUTTON, CRect(5, 20, 60, 32), FirstRadio + 1)
+        .Add("Button", "Three", BS_AUTORADIOBUTTON, CRect(5, 35, 60, 47), FirstRadio + 2)
+        .Add("Button", "Check", BS_AUTOCHECKBOX | WS_GROUP | WS_TABSTOP, CRect(5, 50, 60, 62),
              Check)
-        .Add(u"Button", u"OK", BS_DEFPUSHBUTTON | WS_GROUP | WS_TABSTOP, CRect(5, 70, 60, 84),
-             IDOK);
+        .Add("Button", "OK", BS_DEFPUSHBUTTON | WS_GROUP | WS_TABSTOP, CRect(5, 70, 60, 84), IDOK);
     for (const APPMODE mode : AllModes)
     {
         SCOPED_TRACE(mode);

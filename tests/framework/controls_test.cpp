@@ -121,3 +121,22 @@ TEST_F(Controls, StatusBarStretchesOnePane)
     EXPECT_STREQ(bar.GetStatusBarCtrl().GetText(1), "kept");
     bar.DestroyWindow();
 }
+
+TEST_F(Controls, ToolBarSeparatorsTakeNoPictureAndAStyleKeepsTheText)
+{
+    CToolBar bar;
+    ASSERT_TRUE(bar.Create(&Host()));
+    const UINT ids[] = {101, ID_SEPARATOR, 102};
+    ASSERT_TRUE(bar.SetButtons(ids, 3));
+    UINT id = 0;
+    UINT style = 0;
+    int image = -1;
+    bar.GetButtonInfo(2, id, style, image);
+    EXPECT_EQ(image, 1);
+    EXPECT_TRUE(bar.SetButtonText(2, "text"));
+    bar.SetButtonStyle(2, TBBS_CHECKBOX | TBBS_CHECKED | TBBS_DISABLED);
+    EXPECT_STREQ(bar.GetButtonText(2), "text");
+    EXPECT_TRUE(bar.GetToolBarCtrl().IsButtonChecked(102));
+    EXPECT_FALSE(bar.GetToolBarCtrl().IsButtonEnabled(102));
+    bar.DestroyWindow();
+}

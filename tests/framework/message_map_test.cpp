@@ -78,6 +78,21 @@ BEGIN_MESSAGE_MAP(Panel, BasePanel)
     ON_COMMAND_EX(11, &Panel::OnElevenEx)
 END_MESSAGE_MAP()
 
+// A child that gives its own colours if it has a brush.
+class Colourful : public CButton
+{
+public:
+    HBRUSH brush = nullptr;
+
+protected:
+    HBRUSH CtlColor(CDC*, UINT) { return brush; }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Colourful, CButton)
+    ON_WM_CTLCOLOR_REFLECT()
+END_MESSAGE_MAP()
+
 class MessageMap : public WindowTest
 {
 protected:
@@ -170,6 +185,19 @@ TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)
     panel.SetWindowText("text");
     EXPECT_EQ(panel.SendMessage(WM_GETTEXTLENGTH), 0) << "handled: the default is not asked";
     EXPECT_EQ(panel.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-5, 7)), HTNOWHERE);
+}
+
+TEST_F(MessageMap, AChildGivesItsOwnColoursOrLeavesThemToTheParent)
+{
+    auto& child = Add<Colourful>(CRect(0, 0, 9, 9));
+    CClientDC dc(&child);
+    for (const HBRUSH own : {static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)), HBRUSH(nullptr)})
+    {
+        child.brush = own;
+        const auto answer = reinterpret_cast<HBRUSH>(Host().SendMessage(
+            WM_CTLCOLORBTN, WPARAM(dc.GetSafeHdc()), reinterpret_cast<LPARAM>(child.m_hWnd)));
+        EXPECT_EQ(answer, own != nullptr ? own : ::GetSysColorBrush(COLOR_BTNFACE));
+    }
 }
 
 } // namespace
