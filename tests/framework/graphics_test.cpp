@@ -3,7 +3,7 @@
 #include <afxcmn.h>
 
 #include "support/Canvas.h"
-#include <gtest/gtest.h>
+#include "support/WindowTest.h"
 
 namespace {
 
@@ -88,4 +88,25 @@ TEST(DeviceContexts, SelectingGivesBackTheSameObjectsAndFillingTheBackgroundColo
     EXPECT_EQ(canvas.At(2, 7), Green);
     EXPECT_EQ(canvas.At(7, 2), Green);
     EXPECT_EQ(canvas.Picture().Count(RGB(0, 0, 0)), 100 - 20);
+}
+
+using WindowContexts = WindowTest;
+
+TEST_F(WindowContexts, AreReleasedAndLeaveTheWindowValid)
+{
+    const auto useAll = [this] {
+        CClientDC client(&Host());
+        CWindowDC window(&Host());
+        Host().Invalidate();
+        CPaintDC paint(&Host());
+        EXPECT_EQ(CRect(paint.m_ps.rcPaint), CRect(0, 0, 800, 600));
+    };
+    useAll(); // the platform keeps its first contexts
+    const int before = GraphicsObjects();
+    for (int round = 0; round < 50; ++round)
+    {
+        useAll();
+    }
+    EXPECT_EQ(GraphicsObjects(), before);
+    EXPECT_FALSE(Host().GetUpdateRect(nullptr));
 }
