@@ -9,10 +9,6 @@
 
 class IEFB;
 
-namespace scroll {
-class BarPainter;
-}
-
 // The edit of the library. In the standard mode it is the platform's edit. In an on-board mode it
 // has a border of three pixels, in place of the platform's vertical scroll bar a wide one of its
 // own, painted in its non-client area, and in the two electronic-flight-bag modes it asks the host
@@ -102,7 +98,6 @@ protected:
     static CFont m_OBFont;
     static CFont m_StdFont;
 
-    CPoint m_lastPoint; // of the pointer outside the client area, on the screen
     bool m_initialised = false;
     int m_edgeHeight;
     int m_edgeWidth;
@@ -116,14 +111,13 @@ protected:
     bool m_fauxReadOnly = false;
 
 private:
-    bool m_onBoard = false; // the window is laid out for an on-board mode
-    bool m_following = false;
+    // What it has in common with every control that has faux bars: mode, frame and presses.
+    class Bars;
+
     bool m_updating = false;
-    bool m_leaveRequested = false;
-    APPMODE m_trackedIn = STD; // the mode in which the press began
-    int m_lines = 0;           // of the text, when the bar was last taken from it
-    int m_lastTop = 0;         // the furthest that the text scrolls
-    std::unique_ptr<scroll::BarPainter> m_painter;
+    int m_lines = 0;   // of the text, when the bar was last taken from it
+    int m_lastTop = 0; // the furthest that the text scrolls
+    std::unique_ptr<Bars> m_bars;
 
     struct View
     {
@@ -135,7 +129,6 @@ private:
     bool FollowMode();
     void EnterOnBoard();
     void LeaveOnBoard();
-    void EndTracking();
 
     LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     bool IsReady();
@@ -147,9 +140,6 @@ private:
 
     void ShowBar(bool shown);
     void PlaceBar();
-    void PressNc(UINT hitTest, const CPoint& screen);
-    bool DraggingThumb() const;
-    void DragThumb(int pixels);
     void OfferKeyboard();
     void EmptyText();
 };

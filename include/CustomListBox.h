@@ -8,10 +8,6 @@
 #include <map>
 #include <memory>
 
-namespace scroll {
-class BarPainter;
-}
-
 // The list box of the library. In the standard mode it is the platform's list box. In an on-board
 // mode it takes the platform's scroll bars away and drives wide ones of its own, painted in its
 // non-client area: presses, holds, drags, wheel turns and keys become WM_VSCROLL and WM_HSCROLL
@@ -69,8 +65,8 @@ public:
 
 protected:
     // The text of a row in the font that is selected, centred in its height and so many pixels
-    // further right than usual, on the ground and in the colour of its state (ODS_ bits), or else in
-    // the context's own.
+    // further right than usual, on the ground and in the colour of its state (ODS_ bits), or else
+    // in the context's own.
     void DrawRowText(CDC& dc, const CRect& row, const CString& text, UINT state, int indent = 0);
 
     // Places the bars against the client rectangle.
@@ -92,7 +88,8 @@ public:
 
 protected:
     // Lays the window out for the display mode of the moment, if it is still laid out for the other
-    // kind; true when the mode is on-board and the list is still there. Every handler asks it first.
+    // kind; true when the mode is on-board and the list is still there. Every handler asks it
+    // first.
     bool FollowMode();
     // A message for the platform's list box alone, past the handlers of this class and its heirs.
     int Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
@@ -154,16 +151,12 @@ protected:
     static CFont m_OBFont;
     static CFont m_StdFont;
 
-    CPoint m_lastPoint;            // of the pointer, in client coordinates
     int m_itemHeight = 0;          // pixels, of the first row
-    bool m_resizePending = true;   // the bars are not placed yet
-    bool m_ncSizeDone = false;     // the on-board frame has been calculated
     bool m_vBarSuppressed = false; // a derived class keeps the vertical bar from being painted
     bool m_vBarNeeded = false;
     bool m_hBarNeeded = false;
     int m_frameWidth;
     int m_frameHeight;
-    UINT m_lastNcHit = 0; // hit code of the last press
     CFauxScrollBar m_vBar;
     CFauxScrollBar m_hBar;
     bool m_tracking = false; // a press on a bar goes on
@@ -173,12 +166,10 @@ protected:
 private:
     static constexpr LONGLONG MaxOffset = 0xFFFF; // pixels: a scroll message holds no more
 
-    bool m_onBoard = false;   // the window is laid out for an on-board mode
-    DWORD m_platformBars = 0; // scroll bar styles that the list was made with or got since
-    int m_hostExtent = 0;     // horizontal extent that the host set, pixels
-    bool m_leaveRequested = false;
-    APPMODE m_trackedIn = STD;    // the mode in which the press began
-    bool m_following = false;     // in FollowMode
+    // What it has in common with every control that has faux bars: mode, frame and presses.
+    class Bars;
+
+    int m_hostExtent = 0;         // horizontal extent that the host set, pixels
     bool m_hostRedraw = true;     // the host's WM_SETREDRAW
     bool m_redrawKnown = false;   // that the platform's redraw is the host's
     bool m_endPosted = false;     // a message that ends the filling is on its way
@@ -191,14 +182,12 @@ private:
     bool m_refitting = false;     // both bars go at once
     bool m_filling = false;       // the platform's redraw is off while rows are added in a row
     std::map<int, int> m_widths;  // how many rows have a width; kept only with WS_HSCROLL
-    std::unique_ptr<scroll::BarPainter> m_vPainter;
-    std::unique_ptr<scroll::BarPainter> m_hPainter;
+    std::unique_ptr<Bars> m_bars;
 
     void EnterOnBoard();
     void LeaveOnBoard();
     void BeginAfresh();
     void HideBars();
-    void EndTracking();
 
     void MeasureRows();
 
@@ -215,18 +204,8 @@ private:
     bool ApplyHorizontalExtent();
 
     CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
-    CFauxScrollBar::ePRESSED& Pressed(int axis)
-    {
-        return axis == SB_VERT ? m_vPressed : m_hPressed;
-    }
     bool& Needed(int axis) { return axis == SB_VERT ? m_vBarNeeded : m_hBarNeeded; }
-    void DrawBar(int axis);
     void ShowBar(int axis, bool needed);
-    void Press(int axis);
-    void PressNc(UINT hitTest, const CPoint& screen);
-    void SendLine(int axis);
-    bool SendHeldLines();
-    void Drag(int axis, int pixels);
     void Scroll(int axis, UINT code, UINT position);
     bool MoveContent(int axis);
     void MirrorContent(int axis);

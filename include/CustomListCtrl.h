@@ -12,10 +12,6 @@
 #include <set>
 #include <vector>
 
-namespace scroll {
-class BarPainter;
-}
-
 // The report list of the library. In the standard mode it is the platform's list view. In an
 // on-board mode it takes the platform's scroll bars away, drives wide ones of its own, painted in
 // its non-client area, and paints rows, selection and grid lines itself. It then scrolls by a
@@ -162,16 +158,12 @@ protected:
     static CFont m_StdFont;
 
     CCustomListCtrlHdr m_header;
-    bool m_ncSizeDone = false;   // the frame has been calculated
-    bool m_resizePending = true; // the bars are not placed yet
-    bool m_pressed = false;      // a button or the thumb of a bar is held
-    int m_minColWidth = -1;      // pixels of the standard mode; -1: none
+    bool m_pressed = false; // a button or the thumb of a bar is held
+    int m_minColWidth = -1; // pixels of the standard mode; -1: none
     CFauxScrollBar::ePRESSED m_vPart = CFauxScrollBar::PRESSED_NONE; // under the pointer
     CFauxScrollBar::ePRESSED m_hPart = CFauxScrollBar::PRESSED_NONE;
     CFauxScrollBar m_vBar;
     CFauxScrollBar m_hBar;
-    CPoint m_lastPoint;     // of the pointer, in client coordinates
-    UINT m_lastNcHit = 0;   // hit code of the last press
     CSize m_scrollUnit;     // pixels: a step sideways, a row's height
     CPoint m_drawOffset;    // pixels, 0 or negative
     CPoint m_furtherOffset; // cleared together with the offset
@@ -209,9 +201,10 @@ private:
         int end;
     };
 
-    bool m_onBoard = false;  // the window is laid out for an on-board mode
+    // What it has in common with every control that has faux bars: mode, frame and presses.
+    class Bars;
+
     bool m_creating = false; // the platform's part of the window is not made yet
-    bool m_following = false;
     bool m_settling = false;
     bool m_fitting = false;
     bool m_activating = false;  // by a double click
@@ -219,17 +212,13 @@ private:
     bool m_endPosted = false;   // a message that ends the filling is on its way
     bool m_hostRedraw = true;   // the host's WM_SETREDRAW
     bool m_redrawKnown = false; // that the platform's redraw is the host's
-    DWORD m_platformBars = 0;   // scroll bar styles to give back in the standard mode
-    bool m_leaveRequested = false;
-    CFauxScrollBar::ePRESSED m_heldPart = CFauxScrollBar::PRESSED_NONE;
-    int m_fittedColumn = -1; // the last column, once it fills the list
-    CRect m_fittedTo;        // client width and place of that column when it was fitted
+    int m_fittedColumn = -1;    // the last column, once it fills the list
+    CRect m_fittedTo;           // client width and place of that column when it was fitted
     std::vector<ColumnWidth> m_columnWidths;
     std::optional<View> m_view;
     std::optional<RowSpan> m_paintedRows; // while they are being painted
     Measured m_measured;
-    std::unique_ptr<scroll::BarPainter> m_vPainter;
-    std::unique_ptr<scroll::BarPainter> m_hPainter;
+    std::unique_ptr<Bars> m_bars;
 
     friend class CCustomListCtrlHdr;
 
@@ -237,29 +226,18 @@ private:
     bool InOnBoard() const;
 
     // Mode
-    bool FollowMode();
     void EnterOnBoard();
     void LeaveOnBoard();
-    void StripBars();
     void ForgetWindow();
     View CurrentView(int top, int rows);
     void RestoreView();
-    void RelayoutFrame();
     void ScalePlatformColumns(bool toOnBoard);
 
     // Bars and pointer
     CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
-    CFauxScrollBar::ePRESSED& Part(int axis) { return axis == SB_VERT ? m_vPart : m_hPart; }
-    CFauxScrollBar::ePRESSED DrawnPart(int axis);
     void DrawBars();
     void ShowBar(int axis, bool needed, bool& frameChanged);
     void Perform(int axis, int code);
-    void Step(int axis, int code);
-    void Press(int axis);
-    void PressNc(UINT hitTest, const CPoint& screen);
-    void StepHeld(int axis, bool startRepeat);
-    void ForgetPress();
-    void EndTracking();
     void ReleaseButton();
 
     // Content

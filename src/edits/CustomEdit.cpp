@@ -4,11 +4,10 @@
 
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
+#include "edits/EditBars.h"
 #include "edits/EditBorder.h"
-#include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
-#include "scroll/BarPaint.h"
 #include "scroll/NcBands.h"
 
 IMPLEMENT_DYNAMIC(CCustomEdit, CEdit)
@@ -59,7 +58,7 @@ CCustomEdit::CCustomEdit()
     : m_edgeHeight(::GetSystemMetrics(SM_CYEDGE))
     , m_edgeWidth(::GetSystemMetrics(SM_CXEDGE))
     , m_bar(SB_VERT)
-    , m_painter(std::make_unique<scroll::BarPainter>())
+    , m_bars(std::make_unique<Bars>(*this))
 {
     if (m_OutlinePen.GetSafeHandle() == nullptr)
     {
@@ -87,19 +86,12 @@ CFont& CCustomEdit::GetStdFont()
 void CCustomEdit::PreSubclassWindow()
 {
     CEdit::PreSubclassWindow();
-    // An object may get another window, and whatever the last one was in the middle of is over.
+    m_bars->BeginAfresh();
     m_initialised = m_firstUpdateDone = false;
-    m_onBoard = m_following = m_updating = false;
+    m_updating = false;
     m_barShown = m_wantsBar = false;
-    m_scrolling = m_leaveRequested = false;
-    m_lastHit = CFauxScrollBar::PRESSED_NONE;
-    m_bar.ShowScrollBar(FALSE);
     Init();
-    // An edit that exists already gets no message by which it would notice the mode.
-    if (COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
-    {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
-    }
+    m_bars->NoticeMode();
 }
 
 void CCustomEdit::Init()
@@ -154,19 +146,9 @@ int CCustomEdit::OnCreate(LPCREATESTRUCT cs)
     return result;
 }
 
-// Lays the window out for the mode of the moment when it is still laid out for the other kind.
-// Returns whether it is laid out for an on-board mode: the first question of every handler.
 bool CCustomEdit::FollowMode()
 {
-    if (m_scrolling && COnBoardUIGeneral::GetAppMode() != m_trackedIn)
-    {
-        EndTracking(); // a change between two on-board modes sends no message either
-    }
-    const bool notYet = GetSafeHwnd() == nullptr || !IsReady();
-    return notYet ? COnBoardUIGeneral::InOnBoardMode() && m_onBoard
-                  : ::FollowMode(
-                        *this, m_onBoard, m_following, [this] { EnterOnBoard(); },
-                        [this] { LeaveOnBoard(); });
+    return m_bars->Follow();
 }
 
 void CCustomEdit::EnterOnBoard()
@@ -186,23 +168,15 @@ void CCustomEdit::EnterOnBoard()
 
 void CCustomEdit::LeaveOnBoard()
 {
-    EndTracking();
+    m_bars->End();
     m_barShown = false;
-    m_bar.ShowScrollBar(FALSE);
+    m_bars->HideBars();
     if (m_wantsBar)
     {
         scroll::RestoreScrollStyles(*this, WS_VSCROLL);
     }
     const WindowAlive alive(*this);
-    scroll::RecalculateFrame(*this, false);
-    if (!alive)
-    {
-        return;
-    }
-    // The platform's edit sets its own bar up again when its size is told.
-    CRect client;
-    GetClientRect(&client);
-    Ask(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+    m_bars->RelayoutFrame();
     if (alive)
     {
         RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
@@ -211,8 +185,7 @@ void CCustomEdit::LeaveOnBoard()
 
 void CCustomEdit::OnDestroy()
 {
-    EndTracking();
-    CEdit::OnDestroy();
+    m_bars->Destroy();
 }
 
 // Frame -----------------------------------------------------------------------------------------
@@ -238,7 +211,7 @@ void CCustomEdit::ShowBar(bool shown)
     m_bar.ShowScrollBar(shown);
     const WindowAlive alive(*this);
     scroll::RecalculateFrame(*this);
-    if (alive && m_onBoard)
+    if (alive && m_bars->IsLaidOut())
     {
         PlaceBar();
     }
@@ -258,30 +231,15 @@ void CCustomEdit::PlaceBar()
 
 void CCustomEdit::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
 {
-    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if (onBoard)
-    {
-        // The platform's edit puts its style back whenever its text changes.
-        scroll::StripScrollStyles(*this, WS_VSCROLL);
-    }
-    Default();
-    if (onBoard && calcValidRects && GetSafeHwnd() != nullptr)
-    {
-        const bool edged = (GetExStyle() & WS_EX_CLIENTEDGE) != 0;
-        const CSize more =
-            edged ? CSize(metrics::Border - m_edgeWidth, metrics::Border - m_edgeHeight)
-                  : CSize(0, 0);
-        scroll::TakeBands(params->rgrc[0], more, m_barShown, false);
-    }
+    const bool edged = (GetExStyle() & WS_EX_CLIENTEDGE) != 0;
+    m_bars->NcCalcSize(calcValidRects, params,
+                       edged ? CSize(metrics::Border - m_edgeWidth, metrics::Border - m_edgeHeight)
+                             : CSize(0, 0));
 }
 
 void CCustomEdit::OnWindowPosChanging(WINDOWPOS* position)
 {
-    CEdit::OnWindowPosChanging(position);
-    if (m_onBoard && COnBoardUIGeneral::InOnBoardMode())
-    {
-        scroll::RefusePlatformBars(*this, *position, WS_VSCROLL);
-    }
+    m_bars->WindowPosChanging(position);
 }
 
 void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)
@@ -292,7 +250,7 @@ void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)
     const bool barsOnly = which == GWL_STYLE && styles != nullptr &&
                           ((styles->styleOld ^ styles->styleNew) & ~bars) == 0;
     // Bars come and go without the text having changed.
-    if (barsOnly || !alive || m_following || !FollowMode() || m_updating)
+    if (barsOnly || !alive || m_bars->IsFollowing() || !FollowMode() || m_updating)
     {
         return;
     }
@@ -319,50 +277,23 @@ void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)
 void CCustomEdit::OnEnable(BOOL enable)
 {
     const WindowAlive alive(*this);
-    if (!enable)
-    {
-        EndTracking();
-    }
-    CEdit::OnEnable(enable);
+    m_bars->Enable(enable != FALSE);
     if (alive && FollowMode())
     {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE); // the border tells it too
     }
 }
 
-void CCustomEdit::OnShowWindow(BOOL show, UINT status)
+void CCustomEdit::OnShowWindow(BOOL show, UINT)
 {
-    if (!show)
-    {
-        EndTracking();
-    }
-    CEdit::OnShowWindow(show, status);
+    m_bars->Show(show != FALSE);
 }
 
 // Painting --------------------------------------------------------------------------------------
 
 void CCustomEdit::OnNcPaint()
 {
-    const WindowAlive alive(*this);
-    if (!FollowMode())
-    {
-        if (alive)
-        {
-            Default();
-        }
-        return;
-    }
-    if (!scroll::TouchesFrame(*this, reinterpret_cast<HRGN>(GetCurrentMessage()->wParam)))
-    {
-        return;
-    }
-    m_painter->Invalidate();
-    // A thin border and a horizontal bar stay the platform's.
-    if ((GetStyle() & (WS_BORDER | WS_HSCROLL)) != 0)
-    {
-        Default();
-    }
-    DrawOBNC();
+    m_bars->NcPaint();
 }
 
 void CCustomEdit::DrawOBNC()
@@ -399,14 +330,11 @@ void CCustomEdit::DrawOBScrollBars(CDC* dc)
 {
     if (FollowMode() && dc != nullptr)
     {
-        m_painter->Draw(*dc, *this, m_bar, m_scrolling ? m_lastHit : CFauxScrollBar::PRESSED_NONE);
+        m_bars->DrawBar(*dc, SB_VERT);
     }
 }
 
 void CCustomEdit::DrawOBScrollBars()
 {
-    if (m_onBoard && COnBoardUIGeneral::InOnBoardMode() && GetSafeHwnd() != nullptr)
-    {
-        m_painter->Draw(*this, m_bar, m_scrolling ? m_lastHit : CFauxScrollBar::PRESSED_NONE);
-    }
+    m_bars->DrawBar(SB_VERT);
 }

@@ -3,10 +3,8 @@
 #include "CustomEdit.h"
 #include "EFB.h"
 #include "OnBoardUIGeneral.h"
+#include "edits/EditBars.h"
 #include "modes/WindowAlive.h"
-#include "scroll/BarPaint.h"
-#include "scroll/NcBands.h"
-#include "scroll/ScrollCodes.h"
 
 #include <algorithm>
 
@@ -27,227 +25,69 @@ bool IsFlightBag(APPMODE mode)
 
 } // namespace
 
-// Presses ---------------------------------------------------------------------------------------
+// Presses and drags on the bar ------------------------------------------------------------------
 
 LRESULT CCustomEdit::OnNcHitTest(CPoint point)
 {
     const LRESULT hit = Default();
-    if (hit == HTNOWHERE && FollowMode() && m_barShown)
-    {
-        return LRESULT(m_bar.GetHitTest(scroll::ScreenToWindow(*this, point)));
-    }
-    return hit;
+    return hit == HTNOWHERE && FollowMode() ? LRESULT(m_bars->HitBar(point)) : hit;
 }
 
 void CCustomEdit::OnNcLButtonDown(UINT hitTest, CPoint point)
 {
-    PressNc(hitTest, point);
+    m_bars->PressNc(hitTest, point);
 }
 
-// Fast touches on an arrow arrive as double clicks; each of them scrolls.
 void CCustomEdit::OnNcLButtonDblClk(UINT hitTest, CPoint point)
 {
-    PressNc(hitTest, point);
-}
-
-void CCustomEdit::PressNc(UINT hitTest, const CPoint& screen)
-{
-    const WindowAlive alive(*this);
-    if (!FollowMode())
-    {
-        if (alive)
-        {
-            Default();
-        }
-        return;
-    }
-    m_lastPoint = screen; // a drag starts here, also when a touch came without a move before it
-    if (hitTest == HTVSCROLL)
-    {
-        ProcessVScroll();
-    }
-    else if (hitTest == HTHSCROLL && (GetStyle() & WS_HSCROLL) != 0)
-    {
-        Default(); // that bar is the platform's
-    }
+    m_bars->PressNc(hitTest, point);
 }
 
 void CCustomEdit::ProcessVScroll()
 {
-    m_lastHit = m_bar.GetLastHit();
-    const int code = scroll::CodeOf(m_lastHit);
-    if (code == scroll::NoCode)
-    {
-        return;
-    }
-    m_scrolling = true;
-    m_trackedIn = COnBoardUIGeneral::GetAppMode();
-    if (DraggingThumb())
-    {
-        m_leaveRequested = true;
-        scroll::RequestNcLeave(*this);
-    }
-    else
-    {
-        PostMessage(WM_VSCROLL, WPARAM(code));
-    }
-    if (scroll::Repeats(m_lastHit))
-    {
-        SetTimer(m_timerid, m_timerperiod, nullptr);
-    }
-    DrawOBScrollBars();
-}
-
-// The one way out of a press, however it ends.
-void CCustomEdit::EndTracking()
-{
-    m_lastHit = CFauxScrollBar::PRESSED_NONE;
-    if (!m_scrolling)
-    {
-        return;
-    }
-    m_scrolling = false;
-    if (GetSafeHwnd() == nullptr)
-    {
-        return;
-    }
-    KillTimer(m_timerid);
-    if (m_leaveRequested)
-    {
-        m_leaveRequested = false;
-        scroll::CancelNcLeave(*this);
-    }
+    m_bars->Press(SB_VERT);
 }
 
 void CCustomEdit::OnNcLButtonUp(UINT, CPoint)
 {
-    const WindowAlive alive(*this);
-    if (DraggingThumb())
+    if (m_bars->IsDragging())
     {
         // The bar has positions past the end of the text; the text is on its way to its end.
         m_bar.SetScrollPos(std::min(m_bar.GetScrollPos(), m_lastTop));
     }
-    EndTracking();
-    if (FollowMode())
-    {
-        if (::GetCapture() == GetSafeHwnd())
-        {
-            ::ReleaseCapture();
-        }
-        if (alive)
-        {
-            DrawOBScrollBars();
-        }
-    }
-    if (alive)
-    {
-        Default();
-    }
+    m_bars->NcButtonUp();
 }
 
 LRESULT CCustomEdit::OnNCMouseLeave(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this);
-    m_leaveRequested = false;
-    // A held arrow goes on until its button is released, wherever the pointer is by then.
-    if (DraggingThumb())
+    const bool dragged = m_bars->IsDragging();
+    const LRESULT result = m_bars->NcMouseLeave();
+    if (alive && dragged && FollowMode())
     {
-        EndTracking();
-        if (FollowMode())
-        {
-            FollowText(); // a bar past the end of the text comes back to it
-        }
+        FollowText(); // a bar past the end of the text comes back to it
     }
-    return alive ? Default() : 0;
+    return result;
 }
 
-void CCustomEdit::OnCaptureChanged(CWnd* taker)
+void CCustomEdit::OnCaptureChanged(CWnd*)
 {
-    const WindowAlive alive(*this);
-    EndTracking();
-    CEdit::OnCaptureChanged(taker);
-    if (alive)
-    {
-        DrawOBScrollBars();
-    }
+    m_bars->CutOff();
 }
 
 void CCustomEdit::OnCancelMode()
 {
-    const WindowAlive alive(*this);
-    EndTracking();
-    CEdit::OnCancelMode();
-    if (alive)
-    {
-        DrawOBScrollBars();
-    }
+    m_bars->CutOff();
 }
 
 void CCustomEdit::OnTimer(UINT_PTR id)
 {
-    const WindowAlive alive(*this);
-    if (id != m_timerid || !FollowMode())
-    {
-        if (alive)
-        {
-            Default();
-        }
-        return;
-    }
-    if (!scroll::LeftButtonDown())
-    {
-        EndTracking(); // released somewhere else, where no message told of it
-        KillTimer(m_timerid);
-    }
-    else if (scroll::Repeats(m_lastHit))
-    {
-        PostMessage(WM_VSCROLL, WPARAM(scroll::CodeOf(m_lastHit)));
-    }
-    DrawOBScrollBars();
+    m_bars->Tick(id);
 }
 
-// Drags -----------------------------------------------------------------------------------------
-
-bool CCustomEdit::DraggingThumb() const
+void CCustomEdit::OnNcMouseMove(UINT, CPoint point)
 {
-    return m_scrolling && m_lastHit == CFauxScrollBar::PRESSED_THUMB;
-}
-
-void CCustomEdit::OnNcMouseMove(UINT hitTest, CPoint point)
-{
-    const WindowAlive alive(*this);
-    CEdit::OnNcMouseMove(hitTest, point);
-    if (!alive)
-    {
-        return;
-    }
-    if (FollowMode() && DraggingThumb())
-    {
-        DragThumb(point.y - m_lastPoint.y);
-    }
-    if (alive)
-    {
-        m_lastPoint = point;
-    }
-}
-
-// Relative: the thumb follows the pointer's movement, not its place. The text follows line by line.
-void CCustomEdit::DragThumb(int pixels)
-{
-    const int before = m_bar.GetScrollPos();
-    m_bar.IncrementScrollByPixels(pixels);
-    const int after = m_bar.GetScrollPos();
-    // The bar has positions past the end of the text: coming back out of them scrolls nothing.
-    const int lost = std::min(before, m_lastTop) - std::min(after, m_lastTop);
-    for (int line = 0; line < lost; ++line)
-    {
-        PostMessage(WM_VSCROLL, SB_LINEUP);
-    }
-    for (int line = before; line < after; ++line)
-    {
-        PostMessage(WM_VSCROLL, SB_LINEDOWN);
-    }
-    DrawOBScrollBars();
+    m_bars->NcMouseMove(point);
 }
 
 // The text and the on-screen keyboard -----------------------------------------------------------
@@ -268,7 +108,7 @@ void CCustomEdit::OnLButtonDown(UINT flags, CPoint point)
 void CCustomEdit::OnLButtonUp(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    EndTracking();
+    m_bars->End();
     CEdit::OnLButtonUp(flags, point);
     if (!alive)
     {

@@ -2,8 +2,8 @@
 
 #include "CustomEdit.h"
 #include "OnBoardUIGeneral.h"
+#include "edits/EditBars.h"
 #include "modes/WindowAlive.h"
-#include "scroll/BarPaint.h"
 
 #include <algorithm>
 
@@ -183,7 +183,7 @@ void CCustomEdit::FollowText()
     {
         return;
     }
-    if (!DraggingThumb())
+    if (!m_bars->IsDragging())
     {
         m_bar.SetScrollPos(FirstLine());
     }
@@ -192,7 +192,7 @@ void CCustomEdit::FollowText()
 
 bool CCustomEdit::TextMoved()
 {
-    return !DraggingThumb() &&
+    return !m_bars->IsDragging() &&
            (FirstLine() != m_bar.GetScrollPos() || Ask(EM_GETLINECOUNT) != m_lines);
 }
 

@@ -4,12 +4,11 @@
 
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
-#include "paint/GdiGuards.h"
 #include "paint/Palette.h"
-#include "scroll/BarPaint.h"
 #include "scroll/NcBands.h"
 
 namespace {
@@ -88,8 +87,7 @@ CFont CCustomListCtrl::m_StdFont;
 CCustomListCtrl::CCustomListCtrl()
     : m_vBar(SB_VERT)
     , m_hBar(SB_HORZ)
-    , m_vPainter(std::make_unique<scroll::BarPainter>())
-    , m_hPainter(std::make_unique<scroll::BarPainter>())
+    , m_bars(std::make_unique<Bars>(*this))
 {
     if (m_OutlinePen.GetSafeHandle() == nullptr)
     {
@@ -142,7 +140,7 @@ LRESULT CCustomListCtrl::Ask(UINT message, WPARAM wParam, LPARAM lParam)
 // The question of every handler: the window has followed the mode before the message came to it.
 bool CCustomListCtrl::InOnBoard() const
 {
-    return m_onBoard && COnBoardUIGeneral::InOnBoardMode();
+    return m_bars->InOnBoard();
 }
 
 // Life ------------------------------------------------------------------------------------------
@@ -159,38 +157,26 @@ void CCustomListCtrl::PreSubclassWindow()
     CListCtrl::PreSubclassWindow();
     if (COnBoardUIGeneral::InOnBoardMode())
     {
-        StripBars();
+        m_bars->TakePlatformBars();
     }
     SendMessage(CCM_SETVERSION, WPARAM(CommonControlsVersion));
-    // A list that exists already gets no message by which it would notice the mode.
-    if (alive && COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
+    if (alive)
     {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+        m_bars->NoticeMode();
     }
 }
 
 // What belonged to a window before: one object may serve several, one after the other.
 void CCustomListCtrl::ForgetWindow()
 {
-    m_ncSizeDone = false;
-    m_resizePending = true;
-    m_vBar.ShowScrollBar(FALSE);
-    m_hBar.ShowScrollBar(FALSE);
-    for (CFauxScrollBar* bar : {&m_vBar, &m_hBar})
-    {
-        bar->SetScrollRange(0, 0);
-        bar->SetArea(CRect(0, 0, 0, 0));
-    }
-    EndTracking();
+    m_bars->BeginAfresh();
     m_drawOffset = CPoint(0, 0);
     m_furtherOffset = CPoint(0, 0);
     m_scrollUnit = CSize(0, 0);
     m_wheel = 0;
     m_selChanging = FALSE;
     m_gridLines.Clear();
-    m_onBoard = false;
     m_creating = false;
-    m_following = false;
     m_settling = false;
     m_fitting = false;
     m_activating = false;
@@ -198,14 +184,11 @@ void CCustomListCtrl::ForgetWindow()
     m_endPosted = false;
     m_hostRedraw = true;
     m_redrawKnown = false;
-    m_platformBars = 0;
     m_fittedColumn = -1;
     m_columnWidths.clear();
     m_view.reset();
     m_paintedRows.reset();
     m_measured = Measured();
-    m_vPainter->Invalidate();
-    m_hPainter->Invalidate();
     m_header.LeaveWindow();
 }
 
@@ -229,7 +212,7 @@ int CCustomListCtrl::OnCreate(LPCREATESTRUCT cs)
     // The platform decides by its style whether it will ever work a bar of its own. In an on-board
     // mode the frame has taken the styles away already.
     const WindowAlive alive(*this);
-    scroll::RestoreScrollStyles(*this, m_platformBars);
+    scroll::RestoreScrollStyles(*this, m_bars->PlatformStyles());
     const int result = CListCtrl::OnCreate(cs);
     if (alive)
     {
@@ -239,7 +222,7 @@ int CCustomListCtrl::OnCreate(LPCREATESTRUCT cs)
         TakeHeader();
         if (COnBoardUIGeneral::InOnBoardMode())
         {
-            StripBars();
+            m_bars->TakePlatformBars();
         }
     }
     return result;
@@ -247,10 +230,7 @@ int CCustomListCtrl::OnCreate(LPCREATESTRUCT cs)
 
 void CCustomListCtrl::OnDestroy()
 {
-    EndTracking();
-    m_onBoard = false; // nothing is laid out any more
-    m_following = true;
-    CListCtrl::OnDestroy();
+    m_bars->Destroy();
 }
 
 namespace {
@@ -285,14 +265,14 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     if (!IsTooEarly(message))
     {
-        FollowMode();
+        m_bars->Follow();
         if (!alive || !FollowFilling(message))
         {
             return 0;
         }
     }
     const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
-    if (alive && m_onBoard)
+    if (alive && m_bars->IsLaidOut())
     {
         InvalidateChangedRows(message, wParam, lParam);
     }
@@ -307,33 +287,15 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void CCustomListCtrl::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
 {
-    if (!COnBoardUIGeneral::InOnBoardMode())
-    {
-        Default();
-        return;
-    }
-    // The platform's list puts its styles back whenever its content changes.
-    StripBars();
-    if (calcValidRects)
-    {
-        // The metrics of the other direction: it is meant.
-        scroll::TakeBands(params->rgrc[0],
-                          CSize(::GetSystemMetrics(SM_CYFRAME) - metrics::Border,
-                                ::GetSystemMetrics(SM_CXFRAME) - metrics::Border),
-                          m_vBar.ShowScrollBar() != 0, m_hBar.ShowScrollBar() != 0);
-    }
-    m_ncSizeDone = true;
-    m_resizePending = true; // a paint of the frame may come before the new size is told
-    Default();
+    // The metrics of the other direction: it is meant.
+    m_bars->NcCalcSize(calcValidRects, params,
+                       CSize(::GetSystemMetrics(SM_CYFRAME) - metrics::Border,
+                             ::GetSystemMetrics(SM_CXFRAME) - metrics::Border));
 }
 
 void CCustomListCtrl::OnWindowPosChanging(WINDOWPOS* position)
 {
-    CListCtrl::OnWindowPosChanging(position);
-    if (InOnBoard() && m_ncSizeDone)
-    {
-        scroll::RefusePlatformBars(*this, *position, WS_VSCROLL | WS_HSCROLL);
-    }
+    m_bars->WindowPosChanging(position);
 }
 
 void CCustomListCtrl::OnSize(UINT type, int width, int height)
@@ -344,21 +306,21 @@ void CCustomListCtrl::OnSize(UINT type, int width, int height)
     {
         return;
     }
-    m_resizePending = true;
+    m_bars->SetPlacingDue(true);
     m_fittedTo.SetRectEmpty();
     if (!InOnBoard())
     {
         RestoreView();
         return;
     }
-    StripBars();
+    m_bars->TakePlatformBars();
     if (width > 0)
     {
         scroll::RecalculateFrame(*this);
     }
     if (alive)
     {
-        m_resizePending = true;
+        m_bars->SetPlacingDue(true);
         ReCheckScrollBars();
     }
     if (alive)
@@ -369,11 +331,11 @@ void CCustomListCtrl::OnSize(UINT type, int width, int height)
 
 void CCustomListCtrl::ResizeOBScrollBars()
 {
-    if (!m_resizePending)
+    if (!m_bars->IsPlacingDue())
     {
         return;
     }
-    m_resizePending = false;
+    m_bars->SetPlacingDue(false);
     const CRect client = scroll::ClientRectInWindow(*this);
     for (const int axis : {SB_VERT, SB_HORZ})
     {
@@ -384,77 +346,22 @@ void CCustomListCtrl::ResizeOBScrollBars()
 
 void CCustomListCtrl::OnNcPaint()
 {
-    if (!InOnBoard())
-    {
-        Default();
-        return;
-    }
-    if (scroll::TouchesFrame(*this, reinterpret_cast<HRGN>(GetCurrentMessage()->wParam)))
-    {
-        m_vPainter->Invalidate();
-        m_hPainter->Invalidate();
-        ResizeOBScrollBars();
-        DrawNC();
-    }
+    m_bars->NcPaint();
 }
 
 void CCustomListCtrl::DrawNC()
 {
-    CRect frame;
-    GetWindowRect(&frame);
-    frame.OffsetRect(-frame.TopLeft());
-    {
-        CWindowDC dc(this);
-        // Only round the client area: what lies in it is painted in its own time.
-        dc.ExcludeClipRect(scroll::ClientRectInWindow(*this));
-        for (const int axis : {SB_VERT, SB_HORZ})
-        {
-            if (Bar(axis).ShowScrollBar())
-            {
-                dc.ExcludeClipRect(Bar(axis).GetArea());
-            }
-        }
-        {
-            const Selected pen(dc, m_OutlinePen);
-            const Selected brush(dc, m_OutlineBrush);
-            dc.Rectangle(frame);
-        }
-        dc.SetPixelV(frame.TopLeft(), palette::Outline); // the pen leaves the corners out
-        dc.SetPixelV(frame.right - 1, frame.top, palette::Outline);
-        dc.SetPixelV(frame.left, frame.bottom - 1, palette::Outline);
-        dc.SetPixelV(frame.right - 1, frame.bottom - 1, palette::Outline);
-        if (m_vBar.ShowScrollBar() && m_hBar.ShowScrollBar())
-        {
-            // Where the two bands meet belongs to neither bar.
-            CRect corner(m_vBar.GetArea().left, m_hBar.GetArea().top, m_vBar.GetArea().right,
-                         m_hBar.GetArea().bottom);
-            corner.DeflateRect(metrics::Border, metrics::Border);
-            dc.FillSolidRect(corner, palette::ListCorner);
-        }
-    }
+    m_bars->DrawBorder(m_OutlinePen, m_OutlineBrush, palette::ListCorner);
     DrawBars();
     Invalidate();
 }
 
 void CCustomListCtrl::OnEnable(BOOL enable)
 {
-    const WindowAlive alive(*this);
-    if (!enable)
-    {
-        EndTracking();
-    }
-    CListCtrl::OnEnable(enable);
-    if (alive)
-    {
-        DrawBars();
-    }
+    m_bars->Enable(enable != FALSE);
 }
 
-void CCustomListCtrl::OnShowWindow(BOOL show, UINT status)
+void CCustomListCtrl::OnShowWindow(BOOL show, UINT)
 {
-    if (!show)
-    {
-        EndTracking();
-    }
-    CListCtrl::OnShowWindow(show, status);
+    m_bars->Show(show != FALSE);
 }

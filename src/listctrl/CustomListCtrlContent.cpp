@@ -2,6 +2,7 @@
 
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 #include "scroll/NcBands.h"
@@ -170,7 +171,7 @@ void CCustomListCtrl::KeepInStep(UINT message)
         m_view.reset();
     }
     const WindowAlive alive(*this);
-    if (m_onBoard && !m_settling && !m_following && MayChangeContent(message))
+    if (m_bars->IsLaidOut() && !m_settling && !m_bars->IsFollowing() && MayChangeContent(message))
     {
         m_settling = true;
         // Columns that are being inserted keep their widths, also the last one until the next
@@ -281,7 +282,7 @@ void CCustomListCtrl::OnLvnInsertitem(NMHDR*, LRESULT* result)
         return;
     }
     const WindowAlive alive(*this);
-    StripBars();
+    m_bars->TakePlatformBars();
     UpdateVScrollData();
     if (alive)
     {

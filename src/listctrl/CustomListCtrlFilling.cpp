@@ -5,8 +5,8 @@
 // the filling before it is handled; nobody outside can tell.
 
 #include "CustomListCtrl.h"
+#include "listctrl/ListCtrlBars.h"
 #include "modes/WindowAlive.h"
-#include "scroll/BarPaint.h"
 
 namespace {
 
@@ -67,8 +67,7 @@ void CCustomListCtrl::EndFilling()
     if (alive)
     {
         Invalidate(FALSE);
-        m_vPainter->Invalidate(); // nothing was drawn meanwhile
-        m_hPainter->Invalidate();
+        m_bars->InvalidateBars(); // nothing was drawn meanwhile
         DrawBars();
     }
 }

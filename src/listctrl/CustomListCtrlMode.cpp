@@ -2,31 +2,19 @@
 
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
-#include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
 #include "scroll/NcBands.h"
-
-// Lays the window out for the mode of the moment when it is still laid out for the other kind.
-// Returns whether it is laid out for an on-board mode.
-bool CCustomListCtrl::FollowMode()
-{
-    if (m_creating)
-    {
-        return false;
-    }
-    return ::FollowMode(
-        *this, m_onBoard, m_following, [this] { EnterOnBoard(); }, [this] { LeaveOnBoard(); });
-}
 
 void CCustomListCtrl::EnterOnBoard()
 {
     const WindowAlive alive(*this);
     m_view = CurrentView(int(Ask(LVM_GETTOPINDEX)), int(Ask(LVM_GETCOUNTPERPAGE)));
     m_wheel = 0;
-    m_resizePending = true;
+    m_bars->SetPlacingDue(true);
     m_measured = Measured();
-    StripBars();
+    m_bars->TakePlatformBars();
     TakeHeader();
     HoldPlatform();
     if (alive)
@@ -35,7 +23,7 @@ void CCustomListCtrl::EnterOnBoard()
     }
     if (alive)
     {
-        RelayoutFrame();
+        m_bars->RelayoutFrame();
     }
     if (alive)
     {
@@ -55,7 +43,7 @@ void CCustomListCtrl::LeaveOnBoard()
 {
     const WindowAlive alive(*this);
     m_view = CurrentView(TopRow(), RowsInSight());
-    EndTracking();
+    m_bars->End();
     if (m_header.IsHotTracking())
     {
         m_header.EndTracking();
@@ -64,24 +52,19 @@ void CCustomListCtrl::LeaveOnBoard()
             return;
         }
     }
-    for (const int axis : {SB_VERT, SB_HORZ})
-    {
-        Bar(axis).ShowScrollBar(FALSE);
-        Bar(axis).SetScrollRange(0, 0);
-    }
+    m_bars->HideBars();
     m_drawOffset = CPoint(0, 0);
     m_furtherOffset = CPoint(0, 0);
     m_fittedColumn = -1;
-    m_resizePending = true;
     m_header.OBResetScroll(FALSE);
     ScalePlatformColumns(false);
     if (!alive)
     {
         return;
     }
-    scroll::RestoreScrollStyles(*this, m_platformBars);
-    m_platformBars = 0;
-    RelayoutFrame();
+    scroll::RestoreScrollStyles(*this, m_bars->PlatformStyles());
+    m_bars->SetPlatformStyles(0);
+    m_bars->RelayoutFrame();
     if (alive)
     {
         RestoreView();
@@ -90,24 +73,6 @@ void CCustomListCtrl::LeaveOnBoard()
     {
         RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     }
-}
-
-void CCustomListCtrl::RelayoutFrame()
-{
-    const WindowAlive alive(*this);
-    scroll::RecalculateFrame(*this, false);
-    if (alive)
-    {
-        // The platform's list lays itself out again when its size is told.
-        CRect client;
-        GetClientRect(&client);
-        Ask(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
-    }
-}
-
-void CCustomListCtrl::StripBars()
-{
-    m_platformBars |= scroll::StripScrollStyles(*this);
 }
 
 // The row at the top, and a selected row in sight: the one with the focus before others.
@@ -137,11 +102,11 @@ void CCustomListCtrl::RestoreView()
     {
         return;
     }
-    const int rows = m_onBoard ? RowsInSight() : int(Ask(LVM_GETCOUNTPERPAGE));
+    const int rows = m_bars->IsLaidOut() ? RowsInSight() : int(Ask(LVM_GETCOUNTPERPAGE));
     const int top = m_view->selected == -1
                         ? m_view->top
                         : listctrl::TopToShow(m_view->selected, m_view->top, rows);
-    if (m_onBoard)
+    if (m_bars->IsLaidOut())
     {
         MoveTo(SB_VERT, top);
     }

@@ -112,7 +112,6 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
         Default();
         return;
     }
-    m_lastPoint = point;
     SelectClicked(point, flags);
 }
 

@@ -3,23 +3,11 @@
 #include "CustomListCtrl.h"
 #include "GMSUtil.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
-#include "scroll/BarPaint.h"
-#include "scroll/NcBands.h"
-#include "scroll/ScrollCodes.h"
 
 // Painting the bars ------------------------------------------------------------------------------
-
-// The part that a bar shows as held: what is under the pointer while its button is down.
-CFauxScrollBar::ePRESSED CCustomListCtrl::DrawnPart(int axis)
-{
-    if (m_pressed && m_heldPart == CFauxScrollBar::PRESSED_THUMB)
-    {
-        return m_lastNcHit == scroll::HitCodeOf(axis) ? m_heldPart : CFauxScrollBar::PRESSED_NONE;
-    }
-    return m_pressed || scroll::LeftButtonDown() ? Part(axis) : CFauxScrollBar::PRESSED_NONE;
-}
 
 void CCustomListCtrl::DrawBars()
 {
@@ -27,8 +15,8 @@ void CCustomListCtrl::DrawBars()
     {
         ResizeOBScrollBars();
         // The outlines cross in the corner; the vertical bar's lies on top.
-        const bool painted = m_hPainter->Draw(*this, m_hBar, DrawnPart(SB_HORZ));
-        m_vPainter->Draw(*this, m_vBar, DrawnPart(SB_VERT), painted);
+        const bool painted = m_bars->DrawBar(SB_HORZ);
+        m_bars->DrawBar(SB_VERT, painted);
     }
 }
 
@@ -51,10 +39,10 @@ void CCustomListCtrl::ShowBar(int axis, bool needed, bool& frameChanged)
         return;
     }
     bar.ShowScrollBar(needed);
-    m_resizePending = true;
-    if (m_ncSizeDone)
+    m_bars->SetPlacingDue(true);
+    if (m_bars->IsFrameDone())
     {
-        RelayoutFrame();
+        m_bars->RelayoutFrame();
         frameChanged = true;
     }
 }
@@ -168,7 +156,7 @@ void CCustomListCtrl::ReCheckScrollBars()
         return;
     }
     const WindowAlive alive(*this);
-    StripBars();
+    m_bars->TakePlatformBars();
     UpdateScrollData();
     if (alive)
     {
@@ -242,19 +230,6 @@ void CCustomListCtrl::Perform(int axis, int code)
     else
     {
         PerformHScroll(after, before);
-    }
-}
-
-// A step as an heir of the list wants it.
-void CCustomListCtrl::Step(int axis, int code)
-{
-    if (axis == SB_VERT)
-    {
-        PerformVScroll(code);
-    }
-    else
-    {
-        PerformHScroll(code);
     }
 }
 

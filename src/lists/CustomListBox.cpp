@@ -4,11 +4,11 @@
 
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
+#include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
-#include "scroll/BarPaint.h"
 #include "scroll/NcBands.h"
 
 namespace {
@@ -81,8 +81,7 @@ CCustomListBox::CCustomListBox()
     , m_frameHeight(::GetSystemMetrics(SM_CYFRAME))
     , m_vBar(SB_VERT)
     , m_hBar(SB_HORZ)
-    , m_vPainter(std::make_unique<scroll::BarPainter>())
-    , m_hPainter(std::make_unique<scroll::BarPainter>())
+    , m_bars(std::make_unique<Bars>(*this))
 {
     if (m_OutlinePen.GetSafeHandle() == nullptr)
     {
@@ -111,43 +110,29 @@ void CCustomListBox::PreSubclassWindow()
 {
     CListBox::PreSubclassWindow();
     BeginAfresh();
-    // A list box that exists already gets no message by which it would notice the mode.
-    if (COnBoardUIGeneral::InOnBoardMode() && IsWindowVisible())
-    {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
-    }
+    m_bars->NoticeMode();
 }
 
 // An object may get another window, and whatever the last one was in the middle of is over.
 void CCustomListBox::BeginAfresh()
 {
+    m_bars->BeginAfresh();
     // Asked now: later the platform takes the style of a bar that it does not show.
-    m_platformBars = GetStyle() & (WS_VSCROLL | WS_HSCROLL);
+    m_bars->SetPlatformStyles(GetStyle() & (WS_VSCROLL | WS_HSCROLL));
     m_hostExtent = 0;
     m_averageWidth = 0;
-    m_made = m_onBoard = m_following = m_refitting = false;
+    m_made = m_refitting = false;
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
-    m_tracking = m_leaveRequested = false;
-    m_vPressed = m_hPressed = CFauxScrollBar::PRESSED_NONE;
-    m_lastNcHit = 0;
     m_filling = m_endPosted = m_redrawKnown = false;
     m_hostRedraw = true;
     HideBars();
-    m_vPainter->Invalidate();
-    m_hPainter->Invalidate();
 }
 
 void CCustomListBox::HideBars()
 {
-    m_ncSizeDone = false;
-    m_resizePending = true;
+    m_bars->HideBars();
+    m_vBarNeeded = m_hBarNeeded = false;
     m_widths.clear();
-    for (const int axis : {SB_VERT, SB_HORZ})
-    {
-        Needed(axis) = false;
-        Bar(axis).ShowScrollBar(FALSE);
-        Bar(axis).SetScrollRange(0, 0);
-    }
 }
 
 int CCustomListBox::OnCreate(LPCREATESTRUCT cs)
@@ -155,7 +140,7 @@ int CCustomListBox::OnCreate(LPCREATESTRUCT cs)
     // The platform decides here, by its style, whether it will ever work a bar of its own. In an
     // on-board mode the frame has taken the styles away already.
     const WindowAlive alive(*this);
-    scroll::RestoreScrollStyles(*this, m_platformBars);
+    scroll::RestoreScrollStyles(*this, m_bars->PlatformStyles());
     if (!alive)
     {
         return -1;
@@ -177,36 +162,7 @@ int CCustomListBox::OnCreate(LPCREATESTRUCT cs)
 
 bool CCustomListBox::FollowMode()
 {
-    if (m_tracking && COnBoardUIGeneral::GetAppMode() != m_trackedIn)
-    {
-        EndTracking(); // a change between two on-board modes sends no message either
-    }
-    if (m_following || GetSafeHwnd() == nullptr)
-    {
-        return COnBoardUIGeneral::InOnBoardMode();
-    }
-    const WindowAlive alive(*this);
-    // The parent is asked on the way and may change the mode again: the list follows it back, but
-    // not for ever.
-    for (int change = 0; change < 2 && alive && COnBoardUIGeneral::InOnBoardMode() != m_onBoard;
-         ++change)
-    {
-        m_following = true;
-        m_onBoard = !m_onBoard;
-        if (m_onBoard)
-        {
-            EnterOnBoard();
-        }
-        else
-        {
-            LeaveOnBoard();
-        }
-        if (alive)
-        {
-            m_following = false;
-        }
-    }
-    return alive && m_onBoard && COnBoardUIGeneral::InOnBoardMode();
+    return m_bars->Follow();
 }
 
 namespace {
@@ -234,7 +190,7 @@ void CCustomListBox::EnterOnBoard()
     const bool scrolled = !InColumns() && (GetStyle() & WS_HSCROLL) != 0 &&
                           ::GetScrollInfo(GetSafeHwnd(), SB_HORZ, &sideways) && sideways.nPos > 0;
     DisableScrollBars();
-    if (alive && !m_made && (m_platformBars & WS_HSCROLL) == 0 && !InColumns())
+    if (alive && !m_made && (m_bars->PlatformStyles() & WS_HSCROLL) == 0 && !InColumns())
     {
         // The platform had taken the style of a bar that it did not show before this object came.
         // A list made with it shows the bar as soon as there is something to see.
@@ -282,7 +238,7 @@ void CCustomListBox::LeaveOnBoard()
     // The platform cuts a list to whole rows whenever its frame changes; unless the host has sized
     // it since, it gets back what it had.
     const bool givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
-    EndTracking();
+    m_bars->End();
     HideBars();
     m_standardKnown = true;
     if (m_stdItemHeight > 0 && (GetStyle() & LBS_OWNERDRAWFIXED) != 0)
@@ -297,7 +253,7 @@ void CCustomListBox::LeaveOnBoard()
     {
         return;
     }
-    scroll::RestoreScrollStyles(*this, m_platformBars);
+    scroll::RestoreScrollStyles(*this, m_bars->PlatformStyles());
     if (alive)
     {
         Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));
@@ -316,10 +272,7 @@ void CCustomListBox::LeaveOnBoard()
     {
         return;
     }
-    // The platform's list box sets its own bars up again when its size is told.
-    CRect client;
-    GetClientRect(&client);
-    Ask(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+    m_bars->TellSize();
     if (alive)
     {
         RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
@@ -328,63 +281,25 @@ void CCustomListBox::LeaveOnBoard()
 
 void CCustomListBox::DisableScrollBars()
 {
-    const WindowAlive alive(*this);
-    const DWORD had = scroll::StripScrollStyles(*this); // tells heirs and hooks of the change
-    if (alive)
-    {
-        m_platformBars |= had;
-    }
+    m_bars->TakePlatformBars();
 }
 
 void CCustomListBox::OnDestroy()
 {
-    EndTracking();
-    CListBox::OnDestroy();
+    m_bars->Destroy();
 }
 
 // Frame -----------------------------------------------------------------------------------------
 
 void CCustomListBox::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
 {
-    if (!COnBoardUIGeneral::InOnBoardMode())
-    {
-        Default();
-        return;
-    }
-    // The platform's list box puts its styles back whenever its content changes.
-    const WindowAlive alive(*this);
-    DisableScrollBars();
-    if (!alive)
-    {
-        return;
-    }
-    if (calcValidRects)
-    {
-        scroll::TakeBands(params->rgrc[0],
-                          CSize(m_frameWidth - metrics::Border, m_frameHeight - metrics::Border),
-                          m_vBar.ShowScrollBar() != 0, m_hBar.ShowScrollBar() != 0);
-    }
-    m_ncSizeDone = true;
-    m_resizePending = true; // a paint of the frame may come before the new size is told
-    Default();
+    m_bars->NcCalcSize(calcValidRects, params,
+                       CSize(m_frameWidth - metrics::Border, m_frameHeight - metrics::Border));
 }
 
 void CCustomListBox::OnWindowPosChanging(WINDOWPOS* position)
 {
-    const WindowAlive alive(*this);
-    CListBox::OnWindowPosChanging(position);
-    // The platform shows the bar that its content asks for by adding the style and recalculating
-    // the frame. Taking the style away again here saves the recalculation, row after row.
-    constexpr UINT frameOnly = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;
-    if (alive && m_onBoard && COnBoardUIGeneral::InOnBoardMode() && m_ncSizeDone &&
-        (GetStyle() & (WS_VSCROLL | WS_HSCROLL)) != 0)
-    {
-        DisableScrollBars();
-        if ((position->flags & frameOnly) == frameOnly)
-        {
-            position->flags &= ~UINT(SWP_FRAMECHANGED);
-        }
-    }
+    m_bars->WindowPosChanging(position);
 }
 
 void CCustomListBox::OnSize(UINT type, int width, int height)
@@ -406,7 +321,7 @@ void CCustomListBox::OnSize(UINT type, int width, int height)
 
 void CCustomListBox::ResizeOBScrollBars()
 {
-    m_resizePending = false;
+    m_bars->SetPlacingDue(false);
     const CRect client = scroll::ClientRectInWindow(*this);
     m_vBar.SetArea(scroll::BarArea(SB_VERT, client));
     m_hBar.SetArea(scroll::BarArea(SB_HORZ, client));
@@ -436,11 +351,7 @@ void CCustomListBox::ReCheckScrollBars()
     }
 }
 
-void CCustomListBox::OnShowWindow(BOOL show, UINT status)
+void CCustomListBox::OnShowWindow(BOOL show, UINT)
 {
-    if (!show)
-    {
-        EndTracking();
-    }
-    CListBox::OnShowWindow(show, status);
+    m_bars->Show(show != FALSE);
 }

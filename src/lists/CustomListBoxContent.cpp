@@ -2,6 +2,7 @@
 
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
+#include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
@@ -376,7 +377,7 @@ LRESULT CCustomListBox::OnSetHorizontalExtent(WPARAM wParam, LPARAM)
 
 LRESULT CCustomListBox::OnGetHorizontalExtent(WPARAM, LPARAM)
 {
-    return m_onBoard ? m_hostExtent : Default();
+    return m_bars->IsLaidOut() ? m_hostExtent : Default();
 }
 
 int CCustomListBox::SetScrollPos(int bar, int position, int redraw)

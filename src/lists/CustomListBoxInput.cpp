@@ -1,32 +1,23 @@
-// The list box: presses on its bars, holds, drags, wheel and keys.
+// The list box: pointer, wheel and keys.
 
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
+#include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"
-#include "scroll/BarDrag.h"
-#include "scroll/NcBands.h"
-#include "scroll/ScrollCodes.h"
 
 #include <algorithm>
 #include <optional>
 
-// Presses ---------------------------------------------------------------------------------------
+// Presses and drags on the bars -----------------------------------------------------------------
 
 LRESULT CCustomListBox::OnNcHitTest(CPoint point)
 {
     const WindowAlive alive(*this);
     if (FollowMode())
     {
-        const CPoint inWindow = scroll::ScreenToWindow(*this, point);
-        for (const int axis : {SB_VERT, SB_HORZ})
+        if (const UINT hit = m_bars->HitBar(point))
         {
-            if (Bar(axis).ShowScrollBar())
-            {
-                if (const UINT hit = Bar(axis).GetHitTest(inWindow))
-                {
-                    return LRESULT(hit);
-                }
-            }
+            return LRESULT(hit);
         }
     }
     return alive ? Default() : HTNOWHERE;
@@ -34,234 +25,60 @@ LRESULT CCustomListBox::OnNcHitTest(CPoint point)
 
 void CCustomListBox::OnNcLButtonDown(UINT hitTest, CPoint point)
 {
-    PressNc(hitTest, point);
+    m_bars->PressNc(hitTest, point);
 }
 
-// Fast touches on an arrow arrive as double clicks; each of them scrolls.
 void CCustomListBox::OnNcLButtonDblClk(UINT hitTest, CPoint point)
 {
-    PressNc(hitTest, point);
-}
-
-void CCustomListBox::PressNc(UINT hitTest, const CPoint& screen)
-{
-    m_lastNcHit = hitTest;
-    const WindowAlive alive(*this);
-    const bool ours = FollowMode() && (hitTest == HTVSCROLL || hitTest == HTHSCROLL);
-    if (!alive)
-    {
-        return;
-    }
-    if (!ours)
-    {
-        Default();
-        return;
-    }
-    // A drag starts here, also when a touch came without a move before it.
-    m_lastPoint = screen;
-    ScreenToClient(&m_lastPoint);
-    if (hitTest == HTVSCROLL)
-    {
-        ProcessVScroll();
-    }
-    else
-    {
-        ProcessHScroll();
-    }
+    m_bars->PressNc(hitTest, point);
 }
 
 void CCustomListBox::ProcessVScroll()
 {
-    Press(SB_VERT);
+    m_bars->Press(SB_VERT);
 }
 
 void CCustomListBox::ProcessHScroll()
 {
-    Press(SB_HORZ);
-}
-
-void CCustomListBox::Press(int axis)
-{
-    const WindowAlive alive(*this);
-    const CFauxScrollBar::ePRESSED part = Bar(axis).GetLastHit();
-    Pressed(axis) = part;
-    m_tracking = true;
-    m_trackedIn = COnBoardUIGeneral::GetAppMode();
-    if (part == CFauxScrollBar::PRESSED_THUMB)
-    {
-        DrawOBScrollBars();
-    }
-    else if (const int code = scroll::CodeOf(part); code != scroll::NoCode)
-    {
-        SendMessage(scroll::MessageOf(axis), WPARAM(code));
-    }
-    // The message may have ended the list, the mode or the press.
-    if (!alive || !m_tracking)
-    {
-        return;
-    }
-    if (scroll::Repeats(part))
-    {
-        SetTimer(m_timerid, m_timerperiod, nullptr); // sees by itself when the button is up
-    }
-    else
-    {
-        // Released outside, no message would tell: leaving ends the press.
-        m_leaveRequested = true;
-        scroll::RequestNcLeave(*this);
-    }
-}
-
-// The one way out of a press, however it ends.
-void CCustomListBox::EndTracking()
-{
-    m_vPressed = CFauxScrollBar::PRESSED_NONE;
-    m_hPressed = CFauxScrollBar::PRESSED_NONE;
-    if (GetSafeHwnd() == nullptr || !m_tracking)
-    {
-        m_tracking = false;
-        return;
-    }
-    m_tracking = false;
-    KillTimer(m_timerid);
-    KillTimer(m_timerInitialWaitID);
-    if (m_leaveRequested)
-    {
-        m_leaveRequested = false;
-        scroll::CancelNcLeave(*this);
-    }
+    m_bars->Press(SB_HORZ);
 }
 
 void CCustomListBox::OnNcLButtonUp(UINT, CPoint)
 {
-    const WindowAlive alive(*this);
-    const bool onBoard = FollowMode();
-    if (!alive)
-    {
-        return;
-    }
-    EndTracking();
-    if (onBoard && ::GetCapture() == GetSafeHwnd())
-    {
-        ::ReleaseCapture();
-    }
-    if (alive)
-    {
-        DrawOBScrollBars();
-        Default();
-    }
+    m_bars->NcButtonUp();
 }
 
 LRESULT CCustomListBox::OnNCMouseLeave(WPARAM, LPARAM)
 {
-    const WindowAlive alive(*this);
-    m_leaveRequested = false;
-    // A held arrow goes on until its button is released, wherever the pointer is by then.
-    if (!scroll::Repeats(m_vPressed) && !scroll::Repeats(m_hPressed))
-    {
-        EndTracking();
-        if (::GetCapture() == GetSafeHwnd() && COnBoardUIGeneral::InOnBoardMode())
-        {
-            ::ReleaseCapture();
-        }
-        if (alive && FollowMode())
-        {
-            DrawOBScrollBars();
-        }
-    }
-    return alive ? Default() : 0;
+    return m_bars->NcMouseLeave();
 }
 
-void CCustomListBox::OnCaptureChanged(CWnd* taker)
+void CCustomListBox::OnCaptureChanged(CWnd*)
 {
-    const WindowAlive alive(*this);
-    EndTracking();
-    CListBox::OnCaptureChanged(taker);
-    if (alive && FollowMode())
-    {
-        DrawOBScrollBars();
-    }
+    m_bars->CutOff();
 }
 
 void CCustomListBox::OnCancelMode()
 {
-    const WindowAlive alive(*this);
-    EndTracking();
-    CListBox::OnCancelMode();
-    if (alive && FollowMode())
-    {
-        DrawOBScrollBars();
-    }
-}
-
-// Holds -----------------------------------------------------------------------------------------
-
-void CCustomListBox::SendLine(int axis)
-{
-    if (scroll::Repeats(Pressed(axis)))
-    {
-        SendMessage(scroll::MessageOf(axis), WPARAM(scroll::CodeOf(Pressed(axis))));
-    }
-}
-
-// False when the list did not survive it.
-bool CCustomListBox::SendHeldLines()
-{
-    const WindowAlive alive(*this);
-    SendLine(SB_VERT);
-    if (alive)
-    {
-        SendLine(SB_HORZ);
-    }
-    return bool(alive);
+    m_bars->CutOff();
 }
 
 void CCustomListBox::OnTimer(UINT_PTR id)
 {
-    const WindowAlive alive(*this);
-    const bool ours = (id == m_timerid || id == m_timerInitialWaitID) && FollowMode();
-    if (!alive)
-    {
-        return;
-    }
-    if (!ours)
-    {
-        Default();
-        return;
-    }
-    const bool initial = id == m_timerInitialWaitID;
-    const bool down = scroll::LeftButtonDown();
-    if (initial || !down)
-    {
-        KillTimer(id);
-    }
-    if (down && !SendHeldLines())
-    {
-        return;
-    }
-    if (down && initial && m_tracking)
-    {
-        SetTimer(m_timerid, m_timerperiod, nullptr);
-    }
-    if (!down && !initial)
-    {
-        EndTracking(); // released somewhere else, where no message told of it
-    }
-    DrawOBScrollBars();
+    m_bars->Tick(id);
 }
 
-// Drags -----------------------------------------------------------------------------------------
-
-void CCustomListBox::OnNcMouseMove(UINT hitTest, CPoint point)
+void CCustomListBox::OnNcMouseMove(UINT, CPoint point)
 {
-    const WindowAlive alive(*this);
-    CListBox::OnNcMouseMove(hitTest, point);
-    if (alive)
-    {
-        ScreenToClient(&point);
-        HandleMouseMoveScroll(point);
-    }
+    m_bars->NcMouseMove(point);
 }
+
+void CCustomListBox::HandleMouseMoveScroll(const CPoint& point)
+{
+    m_bars->Drag(point);
+}
+
+// The pointer in the rows -----------------------------------------------------------------------
 
 void CCustomListBox::OnMouseMove(UINT flags, CPoint point)
 {
@@ -279,53 +96,9 @@ void CCustomListBox::OnMouseMove(UINT flags, CPoint point)
     }
 }
 
-void CCustomListBox::HandleMouseMoveScroll(const CPoint& point)
-{
-    const WindowAlive alive(*this);
-    const CPoint moved = point - m_lastPoint;
-    if (FollowMode() && m_tracking)
-    {
-        if (m_lastNcHit == HTVSCROLL)
-        {
-            Drag(SB_VERT, moved.y);
-        }
-        else if (m_lastNcHit == HTHSCROLL)
-        {
-            Drag(SB_HORZ, moved.x);
-        }
-    }
-    if (alive)
-    {
-        m_lastPoint = point;
-    }
-}
-
-// Relative: the thumb follows the pointer's movement, not its place.
-void CCustomListBox::Drag(int axis, int pixels)
-{
-    if (Pressed(axis) != CFauxScrollBar::PRESSED_THUMB)
-    {
-        return; // a finger that slides on a held arrow is not dragging
-    }
-    const WindowAlive alive(*this);
-    CFauxScrollBar& bar = Bar(axis);
-    const int before = bar.GetScrollPos();
-    const int after = scroll::DragThumb(bar, pixels);
-    DrawOBScrollBars();
-    if (after != before)
-    {
-        SendMessage(scroll::MessageOf(axis), MAKEWPARAM(SB_THUMBPOSITION, after));
-        if (alive)
-        {
-            DrawOBScrollBars();
-        }
-    }
-}
-
 void CCustomListBox::OnLButtonDown(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    m_lastPoint = point;
     CListBox::OnLButtonDown(flags, point);
     if (alive && FollowMode())
     {
@@ -337,7 +110,7 @@ void CCustomListBox::OnLButtonDown(UINT flags, CPoint point)
 void CCustomListBox::OnLButtonUp(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    EndTracking();
+    m_bars->End();
     CListBox::OnLButtonUp(flags, point);
     if (alive && FollowMode())
     {

@@ -1,6 +1,7 @@
 // The list box: range, page and visibility of its bars, taken from rows and size.
 
 #include "CustomListBox.h"
+#include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "scroll/FauxScrollGeometry.h"
@@ -15,7 +16,7 @@ bool CCustomListBox::VerifyAllowVScrollBar()
 
 bool CCustomListBox::VerifyAllowHScrollBar()
 {
-    return (m_platformBars & WS_HSCROLL) != 0 || InColumns();
+    return (m_bars->PlatformStyles() & WS_HSCROLL) != 0 || InColumns();
 }
 
 // Whether all rows are seen once the bars give their bands back.
@@ -36,7 +37,7 @@ bool CCustomListBox::FitsWithoutBars()
 void CCustomListBox::UpdateScrollData()
 {
     const WindowAlive alive(*this);
-    if (m_vBarNeeded && m_hBarNeeded && m_ncSizeDone && !m_refitting && FitsWithoutBars())
+    if (m_vBarNeeded && m_hBarNeeded && m_bars->IsFrameDone() && !m_refitting && FitsWithoutBars())
     {
         // Each bar is judged by the room that the other one leaves, so neither would ever go.
         m_refitting = true;
@@ -155,7 +156,7 @@ void CCustomListBox::ShowBar(int axis, bool needed)
     {
         Bar(axis).ShowScrollBar(needed);
     }
-    if (changed && m_ncSizeDone)
+    if (changed && m_bars->IsFrameDone())
     {
         // The new client size comes back as WM_SIZE, which places the bars. Last: it leaves our
         // code.

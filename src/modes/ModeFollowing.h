@@ -10,25 +10,29 @@
 template <class Enter, class Leave>
 bool FollowMode(CWnd& window, bool& onBoard, bool& following, Enter enter, Leave leave)
 {
-    const bool wanted = COnBoardUIGeneral::InOnBoardMode();
-    if (wanted != onBoard && !following && window.GetSafeHwnd() != nullptr)
+    if (!following && window.GetSafeHwnd() != nullptr)
     {
         const WindowAlive alive(window);
-        following = true;
-        onBoard = wanted;
-        if (wanted)
+        // Others are asked on the way and may change the mode again: the window follows it back,
+        // but not for ever.
+        for (int change = 0; change < 2 && COnBoardUIGeneral::InOnBoardMode() != onBoard; ++change)
         {
-            enter();
+            following = true;
+            onBoard = !onBoard;
+            if (onBoard)
+            {
+                enter();
+            }
+            else
+            {
+                leave();
+            }
+            if (!alive)
+            {
+                return false;
+            }
+            following = false;
         }
-        else
-        {
-            leave();
-        }
-        if (!alive)
-        {
-            return false;
-        }
-        following = false;
     }
     return onBoard && COnBoardUIGeneral::InOnBoardMode();
 }

@@ -100,10 +100,10 @@ void RecalculateFrame(const CWnd& window, bool copyBits)
     ::SetWindowPos(handle, predecessor != nullptr ? predecessor : HWND_TOP, 0, 0, 0, 0, flags);
 }
 
-void RefusePlatformBars(const CWnd& window, WINDOWPOS& position, DWORD styles)
+void SaveRecalculation(WINDOWPOS& position)
 {
     constexpr UINT frameOnly = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;
-    if (StripScrollStyles(window, styles) != 0 && (position.flags & frameOnly) == frameOnly)
+    if ((position.flags & frameOnly) == frameOnly)
     {
         position.flags &= ~UINT(SWP_FRAMECHANGED);
     }

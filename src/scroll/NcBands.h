@@ -35,9 +35,9 @@ void RestoreScrollStyles(const CWnd& window, DWORD styles);
 // the client pixels away (SWP_NOCOPYBITS). Size, place and z-order stay.
 void RecalculateFrame(const CWnd& window, bool copyBits = true);
 
-// In WM_WINDOWPOSCHANGING: the platform shows the bar that its content asks for by adding the style
-// and recalculating the frame. Takes such a style away again and saves the recalculation.
-void RefusePlatformBars(const CWnd& window, WINDOWPOS& position, DWORD styles);
+// In WM_WINDOWPOSCHANGING, after a style of the platform's was taken away with which it wanted the
+// frame recalculated: saves that when the frame is all that changes.
+void SaveRecalculation(WINDOWPOS& position);
 
 // Whether the region of a WM_NCPAINT (screen coordinates, or 1 for everything) reaches out of the
 // client area. The message also comes along with paints of the client area alone.

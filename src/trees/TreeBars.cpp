@@ -12,8 +12,6 @@ namespace trees {
 
 namespace {
 
-constexpr DWORD BothStyles = WS_VSCROLL | WS_HSCROLL;
-
 CPoint PointIn(LPARAM lParam)
 {
     return CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
@@ -257,7 +255,10 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
         }
         break;
     case WM_WINDOWPOSCHANGING:
-        scroll::RefusePlatformBars(Window(), *reinterpret_cast<WINDOWPOS*>(lParam), BothStyles);
+        if (scroll::StripScrollStyles(Window()) != 0)
+        {
+            scroll::SaveRecalculation(*reinterpret_cast<WINDOWPOS*>(lParam));
+        }
         break;
     case WM_NCHITTEST:
         if (result == HTNOWHERE || result == HTBORDER)

@@ -1,0 +1,75 @@
+#pragma once
+
+// What the report list does in its own way with its bars: a press scrolls the drawing at once, by
+// the virtual functions of the list, and an arrow repeats after a longer wait.
+
+#include "CustomListCtrl.h"
+#include "scroll/BarHost.h"
+#include "scroll/NcBands.h"
+#include "scroll/ScrollCodes.h"
+
+class CCustomListCtrl::Bars final : public scroll::BarHost
+{
+public:
+    explicit Bars(CCustomListCtrl& list)
+        : BarHost(list, {.repeatTimer = m_timerid,
+                         .repeatPeriod = m_timerperiod,
+                         .waitTimer = &m_timerInitialWaitID,
+                         .waitPeriod = &m_timerInitialWaitPeriod,
+                         .waits = true,
+                         .outlastsLeave = false})
+        , m_list(list)
+    {}
+
+    // The part under the pointer.
+    Part& PartOf(int axis) override { return axis == SB_VERT ? m_list.m_vPart : m_list.m_hPart; }
+
+private:
+    CCustomListCtrl& m_list;
+
+    LRESULT Default() override { return m_list.Default(); }
+    LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return m_list.Ask(message, wParam, lParam);
+    }
+    bool IsReady() override { return !m_list.m_creating; }
+    void EnterOnBoard() override { m_list.EnterOnBoard(); }
+    void LeaveOnBoard() override { m_list.LeaveOnBoard(); }
+
+    CFauxScrollBar* BarOf(int axis) override { return &m_list.Bar(axis); }
+    void PlaceBars() override { m_list.ResizeOBScrollBars(); }
+    void DrawBars() override { m_list.DrawBars(); }
+    void DrawStep() override { m_list.DrawScrollBars(); }
+    void DrawFrame() override { m_list.DrawNC(); }
+    // What is under the pointer while its button is down, and a thumb wherever the pointer is.
+    Part DrawnPart(int axis) override
+    {
+        if (IsDragging())
+        {
+            return LastHit() == scroll::HitCodeOf(axis) ? HeldPart() : CFauxScrollBar::PRESSED_NONE;
+        }
+        return Held() || scroll::LeftButtonDown() ? PartOf(axis) : CFauxScrollBar::PRESSED_NONE;
+    }
+
+    bool& Held() override { return m_list.m_pressed; }
+    Part PartHit(int axis) override { return PartOf(axis); }
+    // A press on the right arrow is not held: it is meant, and such a list relies on it.
+    bool Holds(int axis, Part part) override
+    {
+        return axis == SB_VERT || part != CFauxScrollBar::PRESSED_SECOND;
+    }
+    void PressAxis(int axis) override
+    {
+        axis == SB_VERT ? m_list.ProcessVScroll() : m_list.ProcessHScroll();
+    }
+    void Move(const CPoint& point) override { m_list.HandleMouseMoveScroll(point); }
+    void Step(int axis, int code) override
+    {
+        axis == SB_VERT ? m_list.PerformVScroll(code) : m_list.PerformHScroll(code);
+    }
+    void Dragged(int axis, int before, int after) override
+    {
+        axis == SB_VERT ? m_list.PerformVScroll(after, before)
+                        : m_list.PerformHScroll(after, before);
+    }
+};

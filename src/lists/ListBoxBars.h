@@ -1,0 +1,69 @@
+#pragma once
+
+// What the list box does in its own way with its bars: a press becomes scroll messages to itself.
+
+#include "CustomListBox.h"
+#include "modes/WindowAlive.h"
+#include "scroll/BarHost.h"
+#include "scroll/ScrollCodes.h"
+
+class CCustomListBox::Bars final : public scroll::BarHost
+{
+public:
+    explicit Bars(CCustomListBox& list)
+        : BarHost(list, {.repeatTimer = m_timerid,
+                         .repeatPeriod = m_timerperiod,
+                         .waitTimer = &m_timerInitialWaitID,
+                         .waitPeriod = &m_timerInitialWaitPeriod})
+        , m_list(list)
+    {}
+
+private:
+    CCustomListBox& m_list;
+
+    LRESULT Default() override { return m_list.Default(); }
+    LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return m_list.DefWindowProc(message, wParam, lParam);
+    }
+    void EnterOnBoard() override { m_list.EnterOnBoard(); }
+    void LeaveOnBoard() override { m_list.LeaveOnBoard(); }
+
+    CFauxScrollBar* BarOf(int axis) override { return &m_list.Bar(axis); }
+    void StripBars() override { m_list.DisableScrollBars(); }
+    void PlaceBars() override { m_list.ResizeOBScrollBars(); }
+    void DrawBars() override { m_list.DrawOBScrollBars(); }
+    void DrawFrame() override
+    {
+        m_list.DrawOBBorders();
+        DrawBars();
+    }
+    bool IsPainted(int axis) override
+    {
+        return IsShown(axis) && !(axis == SB_VERT && m_list.m_vBarSuppressed);
+    }
+
+    bool& Held() override { return m_list.m_tracking; }
+    Part& PartOf(int axis) override
+    {
+        return axis == SB_VERT ? m_list.m_vPressed : m_list.m_hPressed;
+    }
+    void PressAxis(int axis) override
+    {
+        axis == SB_VERT ? m_list.ProcessVScroll() : m_list.ProcessHScroll();
+    }
+    void Move(const CPoint& point) override { m_list.HandleMouseMoveScroll(point); }
+    void Step(int axis, int code) override
+    {
+        m_list.SendMessage(scroll::MessageOf(axis), WPARAM(code));
+    }
+    void Dragged(int axis, int, int after) override
+    {
+        const WindowAlive alive(m_list);
+        DrawBars();
+        if (alive)
+        {
+            m_list.SendMessage(scroll::MessageOf(axis), MAKEWPARAM(SB_THUMBPOSITION, after));
+        }
+    }
+};

@@ -1,0 +1,248 @@
+// The controls with faux bars: following the display mode, frame and painting.
+
+#include "scroll/BarHost.h"
+
+#include "OnBoardUIGeneral.h"
+#include "modes/ModeFollowing.h"
+#include "modes/WindowAlive.h"
+#include "paint/GdiGuards.h"
+#include "paint/Metrics.h"
+#include "paint/Palette.h"
+#include "scroll/NcBands.h"
+
+namespace scroll {
+
+BarHost::BarHost(CWnd& window, const Manner& manner)
+    : m_window(window)
+    , m_manner(manner)
+{}
+
+// Life and mode ---------------------------------------------------------------------------------
+
+void BarHost::BeginAfresh()
+{
+    m_onBoard = m_following = false;
+    m_platformStyles = 0;
+    Forget();
+    m_timed = m_leaveRequested = false;
+    m_lastHit = 0;
+    HideBars();
+    for (const int axis : {SB_VERT, SB_HORZ})
+    {
+        if (CFauxScrollBar* const bar = BarOf(axis))
+        {
+            bar->SetArea(CRect(0, 0, 0, 0));
+        }
+    }
+    InvalidateBars();
+}
+
+void BarHost::NoticeMode()
+{
+    if (COnBoardUIGeneral::InOnBoardMode() && m_window.IsWindowVisible())
+    {
+        m_window.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
+    }
+}
+
+bool BarHost::Follow()
+{
+    if (m_part != CFauxScrollBar::PRESSED_NONE && COnBoardUIGeneral::GetAppMode() != m_mode)
+    {
+        End(); // a change between two on-board modes sends no message either
+    }
+    if (m_window.GetSafeHwnd() == nullptr || !IsReady())
+    {
+        return InOnBoard();
+    }
+    return FollowMode(
+        m_window, m_onBoard, m_following, [this] { EnterOnBoard(); }, [this] { LeaveOnBoard(); });
+}
+
+bool BarHost::InOnBoard() const
+{
+    return m_onBoard && COnBoardUIGeneral::InOnBoardMode();
+}
+
+void BarHost::Destroy()
+{
+    End();
+    m_onBoard = false; // nothing is laid out any more
+    m_following = true;
+    Default();
+}
+
+// Frame -----------------------------------------------------------------------------------------
+
+void BarHost::TakePlatformBars()
+{
+    const WindowAlive alive(m_window);
+    const DWORD had = StripScrollStyles(m_window, m_manner.styles); // tells heirs and hooks of it
+    if (alive)
+    {
+        m_platformStyles |= had;
+    }
+}
+
+void BarHost::HideBars()
+{
+    m_frameDone = false;
+    m_placingDue = true;
+    for (const int axis : {SB_VERT, SB_HORZ})
+    {
+        if (CFauxScrollBar* const bar = BarOf(axis))
+        {
+            bar->ShowScrollBar(FALSE);
+            bar->SetScrollRange(0, 0);
+        }
+    }
+}
+
+void BarHost::TellSize()
+{
+    CRect client;
+    m_window.GetClientRect(&client);
+    Ask(WM_SIZE, SIZE_RESTORED, MAKELPARAM(client.Width(), client.Height()));
+}
+
+void BarHost::RelayoutFrame()
+{
+    const WindowAlive alive(m_window);
+    RecalculateFrame(m_window, false);
+    if (alive)
+    {
+        TellSize();
+    }
+}
+
+void BarHost::NcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params, const CSize& inset)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        Default();
+        return;
+    }
+    // The platform puts its styles back whenever the content changes.
+    const WindowAlive alive(m_window);
+    StripBars();
+    if (alive && m_manner.platformFirst)
+    {
+        Default();
+    }
+    if (!alive)
+    {
+        return;
+    }
+    if (calcValidRects)
+    {
+        TakeBands(params->rgrc[0], inset, IsShown(SB_VERT), IsShown(SB_HORZ));
+    }
+    m_frameDone = true;
+    m_placingDue = true; // a paint of the frame may come before the new size is told
+    if (!m_manner.platformFirst)
+    {
+        Default();
+    }
+}
+
+// The platform shows the bar that its content asks for by adding the style and recalculating the
+// frame. Taking the style away again here saves the recalculation, row after row.
+void BarHost::WindowPosChanging(WINDOWPOS* position)
+{
+    const WindowAlive alive(m_window);
+    Default();
+    if (alive && InOnBoard() && m_frameDone && (m_window.GetStyle() & m_manner.styles) != 0)
+    {
+        StripBars();
+        SaveRecalculation(*position);
+    }
+}
+
+void BarHost::NcPaint()
+{
+    const WindowAlive alive(m_window);
+    const auto updated = reinterpret_cast<HRGN>(CWnd::GetCurrentMessage()->wParam);
+    const bool onBoard = Follow();
+    if (!alive)
+    {
+        return;
+    }
+    if (!onBoard)
+    {
+        Default();
+        return;
+    }
+    if (m_placingDue)
+    {
+        PlaceBars();
+    }
+    if (alive && TouchesFrame(m_window, updated))
+    {
+        InvalidateBars();
+        DrawFrame();
+    }
+}
+
+// Painting --------------------------------------------------------------------------------------
+
+bool BarHost::IsShown(int axis)
+{
+    const CFauxScrollBar* const bar = BarOf(axis);
+    return bar != nullptr && bar->ShowScrollBar() != 0;
+}
+
+void BarHost::InvalidateBars()
+{
+    m_vPainter.Invalidate();
+    m_hPainter.Invalidate();
+}
+
+BarHost::Part BarHost::DrawnPart(int axis)
+{
+    return Held() ? PartOf(axis) : CFauxScrollBar::PRESSED_NONE;
+}
+
+bool BarHost::DrawBar(int axis, bool force)
+{
+    return InOnBoard() && m_window.GetSafeHwnd() != nullptr &&
+           PainterOf(axis).Draw(m_window, *BarOf(axis), DrawnPart(axis), force);
+}
+
+bool BarHost::DrawBar(CDC& dc, int axis)
+{
+    return PainterOf(axis).Draw(dc, m_window, *BarOf(axis), DrawnPart(axis));
+}
+
+void BarHost::DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner)
+{
+    CWindowDC dc(&m_window);
+    CRect frame;
+    m_window.GetWindowRect(&frame);
+    frame.OffsetRect(-frame.TopLeft());
+    // Only round the client area: a frame narrower than the pen must not be painted over rows, and
+    // what lies in it is painted in its own time.
+    dc.ExcludeClipRect(ClientRectInWindow(m_window));
+    for (const int axis : {SB_VERT, SB_HORZ})
+    {
+        if (IsPainted(axis))
+        {
+            dc.ExcludeClipRect(BarOf(axis)->GetArea());
+        }
+    }
+    dc.FillSolidRect(frame, palette::Outline); // the pen leaves the corners out
+    {
+        const Selected outline(dc, pen);
+        const Selected ground(dc, brush);
+        dc.Rectangle(frame);
+    }
+    if (IsShown(SB_VERT) && IsShown(SB_HORZ))
+    {
+        // Where the two bands meet belongs to neither bar.
+        CRect meeting(BarOf(SB_VERT)->GetArea().left, BarOf(SB_HORZ)->GetArea().top, frame.right,
+                      frame.bottom);
+        meeting.DeflateRect(metrics::Border, metrics::Border);
+        dc.FillSolidRect(meeting, corner);
+    }
+}
+
+} // namespace scroll
