@@ -170,9 +170,6 @@ private:
     class Bars;
 
     int m_hostExtent = 0;         // horizontal extent that the host set, pixels
-    bool m_hostRedraw = true;     // the host's WM_SETREDRAW
-    bool m_redrawKnown = false;   // that the platform's redraw is the host's
-    bool m_endPosted = false;     // a message that ends the filling is on its way
     bool m_standardKnown = false; // the list was laid out for the standard mode before
     CSize m_stdSize;              // of the window, in the standard mode
     CSize m_onBoardSize;          // what the platform made of it in the on-board mode
@@ -180,7 +177,6 @@ private:
     int m_averageWidth = 0;       // of a character of the font; 0: not measured
     bool m_made = false;          // made as this object, so that its style was seen whole
     bool m_refitting = false;     // both bars go at once
-    bool m_filling = false;       // the platform's redraw is off while rows are added in a row
     std::map<int, int> m_widths;  // how many rows have a width; kept only with WS_HSCROLL
     std::unique_ptr<Bars> m_bars;
 

@@ -207,13 +207,9 @@ private:
     bool m_creating = false; // the platform's part of the window is not made yet
     bool m_settling = false;
     bool m_fitting = false;
-    bool m_activating = false;  // by a double click
-    bool m_filling = false;     // the platform's redraw is off while rows are added in a row
-    bool m_endPosted = false;   // a message that ends the filling is on its way
-    bool m_hostRedraw = true;   // the host's WM_SETREDRAW
-    bool m_redrawKnown = false; // that the platform's redraw is the host's
-    int m_fittedColumn = -1;    // the last column, once it fills the list
-    CRect m_fittedTo;           // client width and place of that column when it was fitted
+    bool m_activating = false; // by a double click
+    int m_fittedColumn = -1;   // the last column, once it fills the list
+    CRect m_fittedTo;          // client width and place of that column when it was fitted
     std::vector<ColumnWidth> m_columnWidths;
     std::optional<View> m_view;
     std::optional<RowSpan> m_paintedRows; // while they are being painted

@@ -3,6 +3,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "buttons/ButtonLayout.h"
+#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
 
@@ -17,14 +18,8 @@ CPen CCustomCheckBox::m_penCheckDisabled;
 
 CCustomCheckBox::CCustomCheckBox()
 {
-    if (m_penCheckEnabled.GetSafeHandle() == nullptr)
-    {
-        CreateOnBoardOutlinePen(m_penCheckEnabled, palette::MarkEnabled.sign);
-    }
-    if (m_penCheckDisabled.GetSafeHandle() == nullptr)
-    {
-        CreateOnBoardOutlinePen(m_penCheckDisabled, palette::MarkDisabled.sign);
-    }
+    MakeControlPen(m_penCheckEnabled, palette::MarkEnabled.sign);
+    MakeControlPen(m_penCheckDisabled, palette::MarkDisabled.sign);
 }
 
 CCustomCheckBox::~CCustomCheckBox() = default;

@@ -45,10 +45,7 @@ template <class Container> bool TakeControls(CWnd& parent, std::vector<CWnd*>& c
 CCustomStatic::CCustomStatic()
     : m_background(palette::Panel)
 {
-    if (m_OutlinePen.GetSafeHandle() == nullptr)
-    {
-        CreateOnBoardOutlinePen(m_OutlinePen, palette::GroupOutline);
-    }
+    MakeControlPen(m_OutlinePen, palette::GroupOutline);
     GetOnBoardFont();
 }
 

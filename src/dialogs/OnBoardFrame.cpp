@@ -32,14 +32,6 @@ void MakeBrush(CBrush& brush, COLORREF color)
     }
 }
 
-void MakePen(CPen& pen, COLORREF color)
-{
-    if (pen.GetSafeHandle() == nullptr)
-    {
-        CreateOnBoardOutlinePen(pen, color);
-    }
-}
-
 } // namespace
 
 void CreateSharedObjects()
@@ -49,15 +41,15 @@ void CreateSharedObjects()
     MakeBrush(CCustomDialog::m_BkDisabledBrush, palette::CaptionInactive);
     MakeBrush(CCustomDialog::m_BkEditBrush, palette::Field);
     MakeBrush(CCustomDialog::m_BkEditDisabledBrush, palette::FieldDisabled);
-    MakePen(CCustomDialog::m_BkBorderPen, palette::Caption);
-    MakePen(CCustomDialog::m_BkDisabledPen, palette::CaptionInactive);
+    MakeControlPen(CCustomDialog::m_BkBorderPen, palette::Caption);
+    MakeControlPen(CCustomDialog::m_BkDisabledPen, palette::CaptionInactive);
     OnBoardControlFont(CCustomDialog::m_OBStaticTextFont, LargeOnBoardFont);
     MakeBrush(CCustomDialog::m_BkRedTestBrush, palette::MarkRed);
     MakeBrush(CCustomDialog::m_BkGrnTestBrush, palette::MarkGreen);
     MakeBrush(CCustomDialog::m_BkBluTestBrush, palette::MarkBlue);
-    MakePen(CCustomDialog::m_BkBorderRedPen, palette::MarkRed);
-    MakePen(CCustomDialog::m_BkBorderGrnPen, palette::MarkGreen);
-    MakePen(CCustomDialog::m_BkBorderBluPen, palette::MarkBlue);
+    MakeControlPen(CCustomDialog::m_BkBorderRedPen, palette::MarkRed);
+    MakeControlPen(CCustomDialog::m_BkBorderGrnPen, palette::MarkGreen);
+    MakeControlPen(CCustomDialog::m_BkBorderBluPen, palette::MarkBlue);
 }
 
 // Frame -----------------------------------------------------------------------------------------

@@ -60,13 +60,10 @@ CCustomEdit::CCustomEdit()
     , m_bar(SB_VERT)
     , m_bars(std::make_unique<Bars>(*this))
 {
-    if (m_OutlinePen.GetSafeHandle() == nullptr)
-    {
-        CreateOnBoardOutlinePen(m_OutlinePen, palette::Outline);
-    }
+    MakeControlPen(m_OutlinePen, palette::Outline);
     GetOnBoardFont();
     GetStdFont();
-    m_bar.ShowScrollBar(FALSE); // until a text asks for it
+    m_bars->HideBars();
 }
 
 CCustomEdit::~CCustomEdit() = default;
@@ -129,16 +126,11 @@ void CCustomEdit::Init()
     }
 }
 
-int CCustomEdit::OnCreate(LPCREATESTRUCT cs)
+int CCustomEdit::OnCreate(LPCREATESTRUCT)
 {
-    // The platform may decide here, by its style, whether it will ever work a bar of its own. In an
-    // on-board mode the frame has taken the style away already.
     const WindowAlive alive(*this);
-    if (m_wantsBar)
-    {
-        scroll::RestoreScrollStyles(*this, WS_VSCROLL);
-    }
-    const int result = CEdit::OnCreate(cs);
+    m_bars->SetPlatformStyles(m_wantsBar ? WS_VSCROLL : 0);
+    const int result = m_bars->Create();
     if (alive && result != -1)
     {
         FollowMode();

@@ -21,15 +21,16 @@ public:
         , m_edit(edit)
     {}
 
-private:
-    CCustomEdit& m_edit;
-    Part m_noPart = CFauxScrollBar::PRESSED_NONE; // of the bar that there is not
-
     LRESULT Default() override { return m_edit.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         return m_edit.Ask(message, wParam, lParam);
     }
+
+private:
+    CCustomEdit& m_edit;
+    Part m_noPart = CFauxScrollBar::PRESSED_NONE; // of the bar that there is not
+
     bool IsReady() override { return m_edit.IsReady(); }
     void EnterOnBoard() override { m_edit.EnterOnBoard(); }
     void LeaveOnBoard() override { m_edit.LeaveOnBoard(); }

@@ -89,14 +89,12 @@ CCustomListCtrl::CCustomListCtrl()
     , m_hBar(SB_HORZ)
     , m_bars(std::make_unique<Bars>(*this))
 {
-    if (m_OutlinePen.GetSafeHandle() == nullptr)
+    MakeControlPen(m_OutlinePen, palette::Outline);
+    if (m_OutlineBrush.GetSafeHandle() == nullptr)
     {
-        CreateOnBoardOutlinePen(m_OutlinePen, palette::Outline);
         m_OutlineBrush.CreateSolidBrush(palette::Outline);
     }
-    // Hidden until the content asks for them.
-    m_vBar.ShowScrollBar(FALSE);
-    m_hBar.ShowScrollBar(FALSE);
+    m_bars->HideBars();
 }
 
 CCustomListCtrl::~CCustomListCtrl()
@@ -180,10 +178,7 @@ void CCustomListCtrl::ForgetWindow()
     m_settling = false;
     m_fitting = false;
     m_activating = false;
-    m_filling = false;
-    m_endPosted = false;
-    m_hostRedraw = true;
-    m_redrawKnown = false;
+    m_bars->filling.BeginAfresh();
     m_fittedColumn = -1;
     m_columnWidths.clear();
     m_view.reset();
@@ -207,23 +202,16 @@ LRESULT CCustomListCtrl::OnSubclassCustomHeader(WPARAM, LPARAM)
     return 0;
 }
 
-int CCustomListCtrl::OnCreate(LPCREATESTRUCT cs)
+int CCustomListCtrl::OnCreate(LPCREATESTRUCT)
 {
-    // The platform decides by its style whether it will ever work a bar of its own. In an on-board
-    // mode the frame has taken the styles away already.
     const WindowAlive alive(*this);
-    scroll::RestoreScrollStyles(*this, m_bars->PlatformStyles());
-    const int result = CListCtrl::OnCreate(cs);
+    const int result = m_bars->Create();
     if (alive)
     {
         m_creating = false;
-        m_redrawKnown = true; // a list made by us paints at once
+        m_bars->filling.SetRedrawKnown(true); // a list made by us paints at once
         Ask(CCM_SETVERSION, WPARAM(CommonControlsVersion));
         TakeHeader();
-        if (COnBoardUIGeneral::InOnBoardMode())
-        {
-            m_bars->TakePlatformBars();
-        }
     }
     return result;
 }

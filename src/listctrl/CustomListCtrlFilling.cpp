@@ -1,16 +1,10 @@
-// The report list: many rows added one by one.
-//
-// For every row that is added the platform's list shows its own bar again, which is taken back at
-// once. So its redraw stays off while one row after the other is added. Whatever else happens ends
-// the filling before it is handled; nobody outside can tell.
+// The report list: many rows added one by one, and painting them afterwards.
 
 #include "CustomListCtrl.h"
 #include "listctrl/ListCtrlBars.h"
 #include "modes/WindowAlive.h"
 
 namespace {
-
-constexpr LPARAM EndOfFilling = 0x0B0A2D; // tells our own WM_SETREDRAW from the host's
 
 bool IsPartOfFilling(UINT message)
 {
@@ -41,29 +35,21 @@ bool CCustomListCtrl::FollowFilling(UINT message)
 {
     const WindowAlive alive(*this);
     const bool inserts = message == LVM_INSERTITEMA || message == LVM_INSERTITEMW;
-    if (m_filling && !IsPartOfFilling(message))
+    if (m_bars->filling.GoesOn() && !IsPartOfFilling(message))
     {
         EndFilling();
     }
-    else if (inserts && !m_filling && m_redrawKnown && m_hostRedraw && InOnBoard())
+    else if (inserts && InOnBoard())
     {
-        m_filling = true;
-        Ask(WM_SETREDRAW, FALSE);
-        if (!m_endPosted)
-        {
-            // Ends the filling also when this object has let go of the window by then.
-            m_endPosted = true;
-            PostMessage(WM_SETREDRAW, TRUE, EndOfFilling);
-        }
+        m_bars->filling.Begin(*this);
     }
     return bool(alive);
 }
 
 void CCustomListCtrl::EndFilling()
 {
-    m_filling = false;
     const WindowAlive alive(*this);
-    Ask(WM_SETREDRAW, TRUE);
+    m_bars->filling.End();
     if (alive)
     {
         Invalidate(FALSE);
@@ -74,12 +60,5 @@ void CCustomListCtrl::EndFilling()
 
 LRESULT CCustomListCtrl::OnSetRedraw(WPARAM wParam, LPARAM lParam)
 {
-    if (lParam == EndOfFilling)
-    {
-        m_endPosted = false;
-        return 0; // the filling ended on the way here
-    }
-    m_redrawKnown = true;
-    m_hostRedraw = wParam != FALSE;
-    return Default();
+    return m_bars->filling.IsEnd(wParam, lParam) ? 0 : Default();
 }

@@ -62,7 +62,7 @@ void CCustomListCtrl::LeaveOnBoard()
     {
         return;
     }
-    scroll::RestoreScrollStyles(*this, m_bars->PlatformStyles());
+    m_bars->GivePlatformBars();
     m_bars->SetPlatformStyles(0);
     m_bars->RelayoutFrame();
     if (alive)

@@ -33,17 +33,10 @@ void CCustomListCtrl::DrawScrollBars()
 
 void CCustomListCtrl::ShowBar(int axis, bool needed, bool& frameChanged)
 {
-    CFauxScrollBar& bar = Bar(axis);
-    if ((bar.ShowScrollBar() != 0) == needed)
+    if (m_bars->ShowBar(axis, needed))
     {
-        return;
-    }
-    bar.ShowScrollBar(needed);
-    m_bars->SetPlacingDue(true);
-    if (m_bars->IsFrameDone())
-    {
-        m_bars->RelayoutFrame();
         frameChanged = true;
+        m_bars->RelayoutFrame();
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "CustomListCtrl.h"
 #include "scroll/BarHost.h"
+#include "scroll/Filling.h"
 #include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
 
@@ -21,17 +22,19 @@ public:
         , m_list(list)
     {}
 
-    // The part under the pointer.
-    Part& PartOf(int axis) override { return axis == SB_VERT ? m_list.m_vPart : m_list.m_hPart; }
-
-private:
-    CCustomListCtrl& m_list;
+    scroll::Filling filling{*this};
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         return m_list.Ask(message, wParam, lParam);
     }
+    // The part under the pointer.
+    Part& PartOf(int axis) override { return axis == SB_VERT ? m_list.m_vPart : m_list.m_hPart; }
+
+private:
+    CCustomListCtrl& m_list;
+
     bool IsReady() override { return !m_list.m_creating; }
     void EnterOnBoard() override { m_list.EnterOnBoard(); }
     void LeaveOnBoard() override { m_list.LeaveOnBoard(); }

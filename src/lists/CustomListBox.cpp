@@ -83,13 +83,8 @@ CCustomListBox::CCustomListBox()
     , m_hBar(SB_HORZ)
     , m_bars(std::make_unique<Bars>(*this))
 {
-    if (m_OutlinePen.GetSafeHandle() == nullptr)
-    {
-        CreateOnBoardOutlinePen(m_OutlinePen, palette::Outline);
-    }
-    // Hidden until the content asks for them.
-    m_vBar.ShowScrollBar(FALSE);
-    m_hBar.ShowScrollBar(FALSE);
+    MakeControlPen(m_OutlinePen, palette::Outline);
+    m_bars->HideBars();
 }
 
 CCustomListBox::~CCustomListBox() = default;
@@ -123,8 +118,7 @@ void CCustomListBox::BeginAfresh()
     m_averageWidth = 0;
     m_made = m_refitting = false;
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
-    m_filling = m_endPosted = m_redrawKnown = false;
-    m_hostRedraw = true;
+    m_bars->filling.BeginAfresh();
     HideBars();
 }
 
@@ -135,27 +129,16 @@ void CCustomListBox::HideBars()
     m_widths.clear();
 }
 
-int CCustomListBox::OnCreate(LPCREATESTRUCT cs)
+int CCustomListBox::OnCreate(LPCREATESTRUCT)
 {
-    // The platform decides here, by its style, whether it will ever work a bar of its own. In an
-    // on-board mode the frame has taken the styles away already.
     const WindowAlive alive(*this);
-    scroll::RestoreScrollStyles(*this, m_bars->PlatformStyles());
-    if (!alive)
-    {
-        return -1;
-    }
-    const int result = CListBox::OnCreate(cs);
+    const int result = m_bars->Create();
     if (alive)
     {
         m_made = true;
         // Only a list made by us is known to paint at once, unless it was made not to.
-        m_redrawKnown = (GetStyle() & LBS_NOREDRAW) == 0;
+        m_bars->filling.SetRedrawKnown((GetStyle() & LBS_NOREDRAW) == 0);
         m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
-        if (COnBoardUIGeneral::InOnBoardMode())
-        {
-            DisableScrollBars();
-        }
     }
     return result;
 }
@@ -253,7 +236,7 @@ void CCustomListBox::LeaveOnBoard()
     {
         return;
     }
-    scroll::RestoreScrollStyles(*this, m_bars->PlatformStyles());
+    m_bars->GivePlatformBars();
     if (alive)
     {
         Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));

@@ -150,13 +150,8 @@ bool CCustomListBox::ApplyHorizontalExtent()
 
 void CCustomListBox::ShowBar(int axis, bool needed)
 {
-    const bool changed = Needed(axis) != needed;
     Needed(axis) = needed;
-    if (Bar(axis).ShowScrollBar() != int(needed))
-    {
-        Bar(axis).ShowScrollBar(needed);
-    }
-    if (changed && m_bars->IsFrameDone())
+    if (m_bars->ShowBar(axis, needed))
     {
         // The new client size comes back as WM_SIZE, which places the bars. Last: it leaves our
         // code.

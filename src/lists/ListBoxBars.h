@@ -5,6 +5,7 @@
 #include "CustomListBox.h"
 #include "modes/WindowAlive.h"
 #include "scroll/BarHost.h"
+#include "scroll/Filling.h"
 #include "scroll/ScrollCodes.h"
 
 class CCustomListBox::Bars final : public scroll::BarHost
@@ -18,14 +19,17 @@ public:
         , m_list(list)
     {}
 
-private:
-    CCustomListBox& m_list;
+    scroll::Filling filling{*this};
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         return m_list.DefWindowProc(message, wParam, lParam);
     }
+
+private:
+    CCustomListBox& m_list;
+
     void EnterOnBoard() override { m_list.EnterOnBoard(); }
     void LeaveOnBoard() override { m_list.LeaveOnBoard(); }
 

@@ -20,3 +20,11 @@ CFont& StandardControlFont(CFont& shared)
     }
     return shared;
 }
+
+void MakeControlPen(CPen& shared, COLORREF color)
+{
+    if (shared.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardOutlinePen(shared, color);
+    }
+}

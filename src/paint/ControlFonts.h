@@ -10,3 +10,6 @@ constexpr double LargeOnBoardFont = 1.7; // edits, report lists, buttons, captio
 // weight, the standard one at the standard control height (tenths of a point) in MS Sans Serif.
 CFont& OnBoardControlFont(CFont& shared, double heightFactor);
 CFont& StandardControlFont(CFont& shared);
+
+// The same for a control class's outline pen.
+void MakeControlPen(CPen& shared, COLORREF color);

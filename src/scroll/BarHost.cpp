@@ -64,6 +64,24 @@ bool BarHost::InOnBoard() const
     return m_onBoard && COnBoardUIGeneral::InOnBoardMode();
 }
 
+int BarHost::Create()
+{
+    // The platform decides here, by its style, whether it will ever work a bar of its own. In an
+    // on-board mode the frame has taken the styles away already.
+    const WindowAlive alive(m_window);
+    GivePlatformBars();
+    if (!alive)
+    {
+        return -1;
+    }
+    const int result = int(Default());
+    if (alive && COnBoardUIGeneral::InOnBoardMode())
+    {
+        StripBars();
+    }
+    return result;
+}
+
 void BarHost::Destroy()
 {
     End();
@@ -82,6 +100,11 @@ void BarHost::TakePlatformBars()
     {
         m_platformStyles |= had;
     }
+}
+
+void BarHost::GivePlatformBars()
+{
+    RestoreScrollStyles(m_window, m_platformStyles);
 }
 
 void BarHost::HideBars()
@@ -189,6 +212,17 @@ bool BarHost::IsShown(int axis)
 {
     const CFauxScrollBar* const bar = BarOf(axis);
     return bar != nullptr && bar->ShowScrollBar() != 0;
+}
+
+bool BarHost::ShowBar(int axis, bool shown)
+{
+    if (IsShown(axis) == shown)
+    {
+        return false;
+    }
+    BarOf(axis)->ShowScrollBar(shown);
+    m_placingDue = true;
+    return m_frameDone;
 }
 
 void BarHost::InvalidateBars()

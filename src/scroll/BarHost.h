@@ -38,12 +38,19 @@ public:
     BarHost(const BarHost&) = delete;
     BarHost& operator=(const BarHost&) = delete;
 
+    // The message in progress, and a message past every handler of ours, for the platform.
+    virtual LRESULT Default() = 0;
+    virtual LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) = 0;
+
     // Life and mode ------------------------------------------------------------------------------
 
     // The control has another window, and whatever the last one was in the middle of is over.
     void BeginAfresh();
     // A window that exists already gets no message by which it would notice the mode.
     void NoticeMode();
+    // WM_CREATE and WM_DESTROY.
+    int Create();
+    void Destroy();
     // Lays the window out for the mode of the moment when it is still laid out for the other kind.
     // Returns whether it is laid out for an on-board mode and has survived: the first question of
     // every handler. A press ends here when the mode has changed, which is told by no message.
@@ -58,8 +65,9 @@ public:
     // The platform's bars that the window was made with or got since, to be given back.
     DWORD PlatformStyles() const { return m_platformStyles; }
     void SetPlatformStyles(DWORD styles) { m_platformStyles = styles; }
-    // Takes them away; the frame is not recalculated.
+    // Takes them away, and gives them back; the frame is not recalculated.
     void TakePlatformBars();
+    void GivePlatformBars();
     // Hides the bars, without range, until the content asks for them.
     void HideBars();
     // Whether the on-board frame has been calculated, and whether the bars are to be placed again.
@@ -78,6 +86,8 @@ public:
     // Painting -----------------------------------------------------------------------------------
 
     bool IsShown(int axis);
+    // Shows a bar or hides it; whether the frame is to be recalculated for that.
+    bool ShowBar(int axis, bool shown);
     // What is on the screen is gone or out of date.
     void InvalidateBars();
     // Paints a bar that looks different from what is on the screen; true when it was painted.
@@ -117,15 +127,8 @@ public:
     void CutOff(); // the capture or the whole interaction is taken away
     void Enable(bool enable);
     void Show(bool show);
-    void Destroy();
 
 protected:
-    CWnd& Window() const { return m_window; }
-
-    // The message in progress, and a message past every handler of ours, for the platform.
-    virtual LRESULT Default() = 0;
-    virtual LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) = 0;
-
     // Whether the platform's control is there to be laid out.
     virtual bool IsReady() { return true; }
     virtual void EnterOnBoard() = 0;

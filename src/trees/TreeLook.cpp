@@ -2,6 +2,7 @@
 
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
+#include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
@@ -61,36 +62,30 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
 
 void TreeLook::Follow()
 {
-    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if (m_following || m_owner.Window().GetSafeHwnd() == nullptr)
-    {
-        return;
-    }
-    if (!onBoard && !m_onBoard)
+    CWnd& window = m_owner.Window();
+    if (!m_following && !m_onBoard && !COnBoardUIGeneral::InOnBoardMode() &&
+        window.GetSafeHwnd() != nullptr)
     {
         m_sawStandard = true;
     }
-    if (onBoard == m_onBoard)
-    {
-        return;
-    }
-    const WindowAlive alive(m_owner.Window());
-    m_following = true;
-    m_onBoard = onBoard;
-    if (onBoard)
-    {
-        EnterOnBoard();
-    }
-    else
-    {
-        LeaveOnBoard();
-    }
-    if (alive)
-    {
-        m_following = false;
-        m_bold.DeleteObject();
-        m_owner.Window().Invalidate();
-    }
+    const WindowAlive alive(window);
+    const auto look = [&] {
+        if (alive)
+        {
+            m_bold.DeleteObject();
+            window.Invalidate();
+        }
+    };
+    FollowMode(
+        window, m_onBoard, m_following,
+        [&] {
+            EnterOnBoard();
+            look();
+        },
+        [&] {
+            LeaveOnBoard();
+            look();
+        });
 }
 
 void TreeLook::Reset()
