@@ -59,6 +59,19 @@ bool BarHost::Follow()
         m_window, m_onBoard, m_following, [this] { EnterOnBoard(); }, [this] { LeaveOnBoard(); });
 }
 
+// The beginning of a handler: outside the on-board modes the message is the platform's and done
+// with.
+bool BarHost::FollowOrPass()
+{
+    const WindowAlive alive(m_window);
+    const bool onBoard = Follow();
+    if (alive && !onBoard)
+    {
+        Default();
+    }
+    return onBoard;
+}
+
 bool BarHost::InOnBoard() const
 {
     return m_onBoard && COnBoardUIGeneral::InOnBoardMode();
@@ -185,14 +198,8 @@ void BarHost::NcPaint()
 {
     const WindowAlive alive(m_window);
     const auto updated = reinterpret_cast<HRGN>(CWnd::GetCurrentMessage()->wParam);
-    const bool onBoard = Follow();
-    if (!alive)
+    if (!FollowOrPass())
     {
-        return;
-    }
-    if (!onBoard)
-    {
-        Default();
         return;
     }
     if (m_placingDue)

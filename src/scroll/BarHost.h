@@ -163,6 +163,7 @@ protected:
     virtual void Dragged(int axis, int before, int after) = 0;
 
 private:
+    bool FollowOrPass();
     BarPainter& PainterOf(int axis) { return axis == SB_VERT ? m_vPainter : m_hPainter; }
     void SetTimer(const UINT& timer, const UINT& period);
 

@@ -48,15 +48,8 @@ UINT BarHost::HitBar(const CPoint& screen)
 void BarHost::PressNc(UINT hitTest, const CPoint& screen)
 {
     m_lastHit = hitTest;
-    const WindowAlive alive(m_window);
-    const bool onBoard = Follow();
-    if (!alive)
+    if (!FollowOrPass())
     {
-        return;
-    }
-    if (!onBoard)
-    {
-        Default();
         return;
     }
     for (const int axis : {SB_VERT, SB_HORZ})
@@ -253,18 +246,17 @@ void BarHost::Show(bool show)
 
 void BarHost::Tick(UINT_PTR timer)
 {
-    const WindowAlive alive(m_window);
     const bool wait = m_manner.waitTimer != nullptr && timer == *m_manner.waitTimer;
-    const bool ours = (wait || timer == m_manner.repeatTimer) && Follow();
-    if (!alive)
-    {
-        return;
-    }
-    if (!ours)
+    if (!wait && timer != m_manner.repeatTimer)
     {
         Default();
         return;
     }
+    if (!FollowOrPass())
+    {
+        return;
+    }
+    const WindowAlive alive(m_window);
     const bool down = LeftButtonDown();
     if (wait || !down)
     {
