@@ -285,7 +285,7 @@ void CCustomEdit::OnShowWindow(BOOL show, UINT)
 
 void CCustomEdit::OnNcPaint()
 {
-    m_bars->NcPaint();
+    m_bars->NcPaint(*GetCurrentMessage());
 }
 
 void CCustomEdit::DrawOBNC()

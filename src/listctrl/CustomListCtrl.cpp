@@ -334,7 +334,7 @@ void CCustomListCtrl::ResizeOBScrollBars()
 
 void CCustomListCtrl::OnNcPaint()
 {
-    m_bars->NcPaint();
+    m_bars->NcPaint(*GetCurrentMessage());
 }
 
 void CCustomListCtrl::DrawNC()

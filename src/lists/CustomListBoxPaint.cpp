@@ -9,7 +9,7 @@
 
 void CCustomListBox::OnNcPaint()
 {
-    m_bars->NcPaint();
+    m_bars->NcPaint(*GetCurrentMessage());
 }
 
 void CCustomListBox::DrawOBBorders()

@@ -194,10 +194,10 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
     }
 }
 
-void BarHost::NcPaint()
+void BarHost::NcPaint(const MSG& message)
 {
     const WindowAlive alive(m_window);
-    const auto updated = reinterpret_cast<HRGN>(CWnd::GetCurrentMessage()->wParam);
+    const auto updated = reinterpret_cast<HRGN>(message.wParam);
     if (!FollowOrPass())
     {
         return;

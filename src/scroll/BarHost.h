@@ -81,7 +81,7 @@ public:
 
     void NcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params, const CSize& inset);
     void WindowPosChanging(WINDOWPOS* position);
-    void NcPaint();
+    void NcPaint(const MSG& message);
 
     // Painting -----------------------------------------------------------------------------------
 
