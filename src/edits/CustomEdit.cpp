@@ -2,7 +2,6 @@
 
 #include "CustomEdit.h"
 
-#include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "edits/EditBars.h"
 #include "edits/EditBorder.h"

@@ -1,7 +1,6 @@
 // The edit: keeping text and bar in step.
 
 #include "CustomEdit.h"
-#include "OnBoardUIGeneral.h"
 #include "edits/EditBars.h"
 #include "modes/WindowAlive.h"
 

@@ -2,7 +2,6 @@
 
 #include "CustomListCtrl.h"
 
-#include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"

@@ -1,7 +1,6 @@
 // The report list: columns and rows, and keeping ranges, offset and header in step with them.
 
 #include "CustomListCtrl.h"
-#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"

@@ -1,7 +1,6 @@
 // The report list: the pointer and the wheel.
 
 #include "CustomListCtrl.h"
-#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "modes/WindowAlive.h"
 

@@ -1,11 +1,9 @@
 // The report list: following the display mode, with what was in sight.
 
 #include "CustomListCtrl.h"
-#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
-#include "scroll/NcBands.h"
 
 void CCustomListCtrl::EnterOnBoard()
 {

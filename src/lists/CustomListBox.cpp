@@ -2,7 +2,6 @@
 
 #include "CustomListBox.h"
 
-#include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"

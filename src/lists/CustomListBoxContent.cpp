@@ -6,8 +6,6 @@
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
-#include "scroll/BarPaint.h"
-#include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
 
 #include <algorithm>

@@ -1,7 +1,6 @@
 // The list box: pointer, wheel and keys.
 
 #include "CustomListBox.h"
-#include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"
 
