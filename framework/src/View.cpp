@@ -1,5 +1,6 @@
 #include "framework/View.h"
 
+#include "StillThere.h"
 #include "framework/App.h"
 #include "framework/Controls.h"
 #include "framework/DataExchange.h"
@@ -68,7 +69,12 @@ void CView::OnActivateView(BOOL activate, CView* activateView, CView*)
 
 int CView::OnMouseActivate(CWnd* desktop, UINT hitTest, UINT message)
 {
+    const framework::StillThere here(*this);
     const int result = CWnd::OnMouseActivate(desktop, hitTest, message);
+    if (!here)
+    {
+        return result; // the parent, which is asked first, has ended the view
+    }
     if (CFrameWnd* frame = GetParentFrame(); frame != nullptr && result != MA_NOACTIVATE)
     {
         frame->SetActiveView(this);

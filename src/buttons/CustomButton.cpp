@@ -405,8 +405,9 @@ LRESULT CCustomButton::OnBMGetState(WPARAM, LPARAM)
 // The platform's button draws itself as soon as it has another caption.
 LRESULT CCustomButton::OnSetText(WPARAM, LPARAM)
 {
+    const WindowAlive alive(*this);
     const LRESULT result = Default();
-    if (FollowMode())
+    if (alive && FollowMode())
     {
         DrawOB();
     }
