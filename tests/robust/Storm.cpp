@@ -2,7 +2,6 @@
 
 #include "OnBoardUIGeneral.h"
 
-#include <atomic>
 #include <cstdio>
 
 namespace {
@@ -13,52 +12,6 @@ constexpr UINT Keys[] = {VK_UP,    VK_DOWN,   VK_LEFT, VK_RIGHT, VK_HOME,   VK_E
 constexpr UINT TimerIds[] = {1, 101, 102, 103, 104, 105, 106, 1011, 1278, 2566, 0x118};
 constexpr int RoomForAnswers = 0x10000;
 
-// A message that is not done by then never will be.
-constexpr int Patience = 15; // seconds
-
-std::atomic<const Storm*> s_blowing = nullptr;
-std::atomic<unsigned> s_progress = 0;
-std::atomic<int> s_faults = 0;
-
-void SayWhatHappened(const char* what)
-{
-    if (const Storm* const storm = s_blowing.exchange(nullptr))
-    {
-        std::fprintf(stderr, "%s in a %s", what, storm->Log().c_str());
-        std::fflush(stderr);
-    }
-}
-
-// Ends a program that hangs, which the tests' own thread cannot.
-DWORD WINAPI Watch(void*)
-{
-    unsigned seen = 0;
-    for (int still = 0; still < Patience; ::Sleep(1000))
-    {
-        const unsigned now = s_progress;
-        still = s_blowing == nullptr || now != seen ? 0 : still + 1;
-        seen = now;
-    }
-    SayWhatHappened("Hung");
-    ::TerminateProcess(::GetCurrentProcess(), 3);
-    return 0;
-}
-
-// A fault ends the program; before that it says what led to it.
-LONG CALLBACK SayWhatLedToIt(EXCEPTION_POINTERS* fault)
-{
-    const DWORD code = fault->ExceptionRecord->ExceptionCode;
-    constexpr DWORD fastFail = 0xC0000409;
-    if (code == EXCEPTION_ACCESS_VIOLATION || code == EXCEPTION_ILLEGAL_INSTRUCTION ||
-        code == EXCEPTION_STACK_OVERFLOW || code == fastFail)
-    {
-        // The platform may catch it and go on: then nothing but this tells.
-        ++s_faults;
-        SayWhatHappened("Fault");
-    }
-    return EXCEPTION_CONTINUE_SEARCH;
-}
-
 } // namespace
 
 Storm::Storm(const Subject& subject, std::uint32_t seed)
@@ -67,25 +20,8 @@ Storm::Storm(const Subject& subject, std::uint32_t seed)
     , m_random(seed)
     , m_texts{"", "Row 7", "Waypoint", std::string(300, 'W')}
     , m_buffer(RoomForAnswers)
-{
-    static const bool watched = [] {
-        ::AddVectoredExceptionHandler(1, &SayWhatLedToIt);
-        ::CloseHandle(::CreateThread(nullptr, 0, &Watch, nullptr, 0, nullptr));
-        return true;
-    }();
-    (void)watched;
-    s_blowing = this;
-}
-
-Storm::~Storm()
-{
-    s_blowing = nullptr;
-}
-
-int Storm::Faults()
-{
-    return s_faults;
-}
+    , m_watch([this] { return Log(); })
+{}
 
 std::string Storm::Log() const
 {
@@ -116,7 +52,7 @@ void Storm::Note(UINT message, WPARAM wParam, LPARAM lParam)
         m_last.erase(m_last.begin());
     }
     m_last.push_back({message, wParam, lParam});
-    ++s_progress;
+    Watch::GoesOn();
 }
 
 void Storm::Send(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam)

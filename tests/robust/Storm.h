@@ -1,6 +1,7 @@
 #pragma once
 
 #include "robust/Subjects.h"
+#include "robust/Watch.h"
 
 #include <afxcmn.h>
 
@@ -15,13 +16,9 @@ public:
     Storm(const Subject& subject, std::uint32_t seed);
     Storm(const Storm&) = delete;
     Storm& operator=(const Storm&) = delete;
-    ~Storm();
 
     // So many messages. Ends early when the window is gone.
     void Blow(CWnd& parent, CWnd& window, int messages);
-
-    // How often memory was touched that is not there, by any storm so far.
-    static int Faults();
 
     // Subject, seed and the last messages, for whoever has to find out.
     std::string Log() const;
@@ -43,6 +40,7 @@ private:
     std::vector<char> m_buffer;
     CRect m_place;
     LVITEM m_item = {};
+    Watch m_watch;
 
     int Between(int first, int last);
     void Note(UINT message, WPARAM wParam, LPARAM lParam);

@@ -28,7 +28,7 @@ protected:
         std::unique_ptr<CWnd> window = subject.make(Host());
         ASSERT_NE(window, nullptr) << subject.name;
         const HWND handle = window->GetSafeHwnd();
-        const int faults = Storm::Faults();
+        const int faults = Watch::Faults();
         Storm storm(subject, seed);
         storm.Blow(Host(), *window, messages);
 
@@ -57,7 +57,7 @@ protected:
         COnBoardUIGeneral::SetAppMode(STD);
         window.reset();
         PumpAll();
-        EXPECT_EQ(Storm::Faults(), faults);
+        EXPECT_EQ(Watch::Faults(), faults);
     }
 
 private:
