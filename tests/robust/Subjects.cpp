@@ -13,6 +13,7 @@
 #include "CustomListCtrl.h"
 #include "CustomPushbutton.h"
 #include "CustomRadiobutton.h"
+#include "CustomToolbar.h"
 #include "EditWithPrompt.h"
 #include "MultiTree.h"
 #include "MultiTreeView.h"
@@ -20,6 +21,7 @@
 #include "SearchStatusBar.h"
 #include "ZepMsgBoxDlg.h"
 #include "support/DialogTemplate.h"
+#include "windows/freed_at_once.h"
 
 namespace {
 
@@ -31,7 +33,7 @@ using enum Argument;
 template <class Control> auto Titled(DWORD style)
 {
     return [style](CWnd& parent) -> std::unique_ptr<CWnd> {
-        auto control = std::make_unique<Control>();
+        auto control = std::make_unique<FreedAtOnce<Control>>();
         const bool made = control->Create("Direct to", Child | style, Room, &parent, SubjectId);
         return made ? std::move(control) : nullptr;
     };
@@ -40,7 +42,7 @@ template <class Control> auto Titled(DWORD style)
 template <class Edit> auto MadeEdit(DWORD style)
 {
     return [style](CWnd& parent) -> std::unique_ptr<CWnd> {
-        auto edit = std::make_unique<Edit>();
+        auto edit = std::make_unique<FreedAtOnce<Edit>>();
         if constexpr (std::is_same_v<Edit, QuixEdit>)
         {
             edit->SetFixedPlace(Room.left, Room.top, Room.Width());
@@ -89,6 +91,10 @@ public:
 class SeenList : public SeenBar<CCustomListBox>
 {
 public:
+    int CompareItem(LPCOMPAREITEMSTRUCT compared) override
+    {
+        return compared->itemData1 < compared->itemData2 ? -1 : 1;
+    }
     static std::string Fault(CWnd& window)
     {
         auto& list = static_cast<SeenList&>(window);
@@ -98,7 +104,7 @@ public:
 
 std::unique_ptr<CWnd> MakeList(CWnd& parent, DWORD style)
 {
-    auto list = std::make_unique<SeenList>();
+    auto list = std::make_unique<FreedAtOnce<SeenList>>();
     if (!list->CreateEx(WS_EX_CLIENTEDGE, "LISTBOX", "",
                         Child | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | style, Room,
                         &parent, SubjectId))
@@ -170,7 +176,7 @@ const std::vector<Word> ListWords = {
 
 std::unique_ptr<CWnd> MakeCheckList(CWnd& parent)
 {
-    auto list = std::make_unique<CCustomChecklistBox>();
+    auto list = std::make_unique<FreedAtOnce<CCustomChecklistBox>>();
     if (!list->Create(Child | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_HASSTRINGS |
                           LBS_OWNERDRAWFIXED,
                       Room, &parent, SubjectId))
@@ -189,7 +195,7 @@ std::unique_ptr<CWnd> MakeCheckList(CWnd& parent)
 
 std::unique_ptr<CWnd> MakeCombo(CWnd& parent)
 {
-    auto combo = std::make_unique<CCustomDropListCombo>();
+    auto combo = std::make_unique<FreedAtOnce<CCustomDropListCombo>>();
     if (!combo->Create(Child, Room, &parent, SubjectId))
     {
         return nullptr;
@@ -221,7 +227,7 @@ const std::vector<Word> ReportWords = {
 
 std::unique_ptr<CWnd> MakeReport(CWnd& parent)
 {
-    auto list = std::make_unique<CCustomListCtrl>();
+    auto list = std::make_unique<FreedAtOnce<CCustomListCtrl>>();
     if (!list->Create(Child | LVS_REPORT | LVS_SHOWSELALWAYS, Room, &parent, SubjectId))
     {
         return nullptr;
@@ -237,6 +243,15 @@ std::unique_ptr<CWnd> MakeReport(CWnd& parent)
     }
     return list;
 }
+
+const std::vector<Word> ToolBarWords = {
+    {TB_ENABLEBUTTON, Small, Flag},
+    {TB_CHECKBUTTON, Small, Flag},
+    {TB_HIDEBUTTON, Small, Flag},
+    {TB_DELETEBUTTON, Row},
+    {TB_BUTTONCOUNT},
+    {TB_SETBUTTONSIZE, None, Point},
+};
 
 const std::vector<Word> TreeWords = {
     {TVM_SELECTITEM, Fixed, TreeItem, TVGN_CARET},
@@ -275,7 +290,7 @@ constexpr DWORD TreeLook = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
 
 std::unique_ptr<CWnd> MakeTree(CWnd& parent)
 {
-    auto tree = std::make_unique<MultiTree>();
+    auto tree = std::make_unique<FreedAtOnce<MultiTree>>();
     const bool made = tree->Create(Child | TreeLook, Room, &parent, SubjectId) != FALSE;
     if (made)
     {
@@ -290,7 +305,7 @@ std::unique_ptr<CWnd> MakeTreeView(CWnd& parent)
     {
         void PostNcDestroy() override {} // the test owns it
     };
-    auto tree = std::make_unique<View>();
+    auto tree = std::make_unique<FreedAtOnce<View>>();
     const bool made =
         tree->Create(nullptr, nullptr, Child | TreeLook, Room, &parent, SubjectId) != FALSE;
     return Filled(std::move(tree), made);
@@ -298,8 +313,27 @@ std::unique_ptr<CWnd> MakeTreeView(CWnd& parent)
 
 std::unique_ptr<CWnd> MakeSearchBar(CWnd& parent)
 {
-    auto bar = std::make_unique<CSearchStatusBar>();
+    auto bar = std::make_unique<FreedAtOnce<CSearchStatusBar>>();
     return bar->Create(Child, Room, &parent, SubjectId) ? std::move(bar) : nullptr;
+}
+
+std::unique_ptr<CWnd> MakeToolBar(CWnd& parent)
+{
+    auto bar = std::make_unique<FreedAtOnce<CustomToolbar>>();
+    if (!bar->CreateEx(&parent, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE))
+    {
+        return nullptr;
+    }
+    bar->SetDlgCtrlID(SubjectId);
+    for (int id = 1; id <= 5; ++id)
+    {
+        TBBUTTON button = {};
+        button.idCommand = id;
+        button.fsState = TBSTATE_ENABLED;
+        bar->SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
+    }
+    bar->SetWindowPos(nullptr, Room.left, Room.top, Room.Width(), 40, SWP_NOZORDER);
+    return bar;
 }
 
 std::unique_ptr<CWnd> MakeMessageBox(CWnd& parent)
@@ -312,7 +346,7 @@ std::unique_ptr<CWnd> MakeMessageBox(CWnd& parent)
         void OnOK() override {}
         void OnCancel() override {}
     };
-    auto box = std::make_unique<Stays>();
+    auto box = std::make_unique<FreedAtOnce<Stays>>();
     return box->Create(CZepMsgBoxDlg::IDD, &parent) ? std::move(box) : nullptr;
 }
 
@@ -332,7 +366,7 @@ std::unique_ptr<CWnd> MakeDialog(CWnd& parent)
         void OnOK() override {}
         void OnCancel() override {}
     };
-    auto dialog = std::make_unique<Stays>(&parent);
+    auto dialog = std::make_unique<FreedAtOnce<Stays>>(&parent);
     return dialog->CreateIndirect(form, &parent) ? std::move(dialog) : nullptr;
 }
 
@@ -364,6 +398,7 @@ std::vector<Subject> MakeSubjects()
         {"drawn list box", LBS_OWNERDRAWFIXED | LBS_HASSTRINGS},
         {"list box of many selections", LBS_EXTENDEDSEL | LBS_SORT},
         {"list box of columns", LBS_MULTICOLUMN | WS_HSCROLL},
+        {"list box of values", LBS_OWNERDRAWVARIABLE | LBS_SORT | LBS_WANTKEYBOARDINPUT},
     };
     subjects.push_back({"check list", &MakeCheckList, ListWords});
     subjects.push_back({"combo", &MakeCombo});
@@ -371,6 +406,7 @@ std::vector<Subject> MakeSubjects()
     subjects.push_back({"tree", &MakeTree, TreeWords, {}, true});
     subjects.push_back({"tree view", &MakeTreeView, TreeWords, {}, true});
     subjects.push_back({"search bar", &MakeSearchBar});
+    subjects.push_back({"tool bar", &MakeToolBar, ToolBarWords});
     subjects.push_back({"message box", &MakeMessageBox, {}, {}, true});
     for (const auto& [name, style] : lists)
     {
