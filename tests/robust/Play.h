@@ -1,0 +1,235 @@
+#pragma once
+
+#include "robust/Watch.h"
+
+#include "OnBoardUIGeneral.h"
+#include "support/DialogTemplate.h"
+#include "windows/freed_at_once.h"
+
+#include <afxcmn.h>
+#include <afxdlgs.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+// A play in which a parent ends a control, its sibling or itself inside something that it is told.
+
+// A message to a parent and, where it has one, its code.
+struct Told
+{
+    UINT message;
+    UINT code = 0;
+
+    friend bool operator==(const Told&, const Told&) = default;
+};
+
+constexpr UINT FirstRegistered = 0xC000;
+
+inline std::optional<Told> AboutAChild(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    switch (message)
+    {
+    case WM_COMMAND:
+        return Told{message, HIWORD(wParam)};
+    case WM_NOTIFY:
+        return Told{message, reinterpret_cast<const NMHDR*>(lParam)->code};
+    case WM_PARENTNOTIFY:
+    case WM_VSCROLL:
+    case WM_HSCROLL:
+        return Told{message, LOWORD(wParam)};
+    case WM_DRAWITEM:
+        return Told{message, reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->itemAction};
+    case WM_MEASUREITEM:
+    case WM_DELETEITEM:
+    case WM_COMPAREITEM:
+    case WM_VKEYTOITEM:
+    case WM_CHARTOITEM:
+    case WM_CONTEXTMENU:
+    case WM_MOUSEACTIVATE:
+    case WM_MOUSEWHEEL:
+    case WM_SETCURSOR:
+    case WM_ERASEBKGND:
+    case WM_PRINTCLIENT:
+    case WM_INITDIALOG:
+    case WM_CLOSE:
+    case WM_ACTIVATE:
+    case WM_NEXTDLGCTL:
+    case WM_CHANGEUISTATE:
+        return Told{message};
+    case PSM_GETCURRENTPAGEHWND: // what a sheet asks itself
+        return {};
+    default:
+        if ((message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) ||
+            (message >= WM_USER && message < WM_APP) || message >= FirstRegistered)
+        {
+            return Told{message};
+        }
+        return {};
+    }
+}
+
+enum class Death
+{
+    Window, // the control's; its object stays
+    Control,
+    Sibling,
+    Parent,
+};
+constexpr const char* DeathNames[] = {"the control's window", "the control", "its sibling",
+                                      "the parent"};
+
+// What the platform's own controls do not survive either, on a plain window: their parent may not
+// end them there.
+struct Forbidden
+{
+    const char* windowClass;
+    Told told;
+    DWORD style = 0; // all of it
+    bool onBoardToo = true;
+};
+constexpr Forbidden PlatformFaults[] = {
+    {"Edit", {WM_CTLCOLOREDIT}},
+    {"Edit", {WM_CTLCOLORSTATIC}},
+    {"ListBox", {WM_DELETEITEM}},
+    {"ListBox", {WM_DRAWITEM, ODA_SELECT}, LBS_OWNERDRAWVARIABLE},
+    {"ListBox", {WM_MEASUREITEM}, LBS_OWNERDRAWVARIABLE},
+    {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_GETDISPINFO)}},
+    {WC_LISTVIEW, {WM_NOTIFY, UINT(HDN_ENDTRACK)}, 0, false},
+    {TOOLBARCLASSNAME, {WM_NOTIFY, TBN_DELETINGBUTTON}},
+};
+
+inline bool IsForbidden(HWND window, const Told& told)
+{
+    char name[40] = "";
+    ::GetClassName(window, name, sizeof(name));
+    const DWORD style = DWORD(::GetWindowLong(window, GWL_STYLE));
+    return std::any_of(
+        std::begin(PlatformFaults), std::end(PlatformFaults), [&](const Forbidden& each) {
+            return each.told == told && (each.onBoardToo || !COnBoardUIGeneral::InOnBoardMode()) &&
+                   (style & each.style) == each.style && ::lstrcmpi(each.windowClass, name) == 0;
+        });
+}
+
+// What is on the stage, and what is to happen there.
+struct Play
+{
+    std::string title;
+    std::unique_ptr<CWnd> parent;
+    std::unique_ptr<CWnd> control;
+    std::unique_ptr<CWnd> sibling;
+    std::vector<Told> told; // each once
+    std::optional<Told> awaited;
+    Death death = Death::Window;
+    bool over = false;
+    bool modal = false; // control and parent are on the stack: only their windows end
+
+    static inline Play* s_now = nullptr;
+
+    Play() { s_now = this; }
+    Play(const Play&) = delete;
+    Play& operator=(const Play&) = delete;
+    ~Play()
+    {
+        s_now = nullptr;
+        control.reset();
+        sibling.reset();
+        parent.reset();
+    }
+
+    std::string Title() const
+    {
+        char what[40] = "";
+        if (awaited)
+        {
+            std::snprintf(what, sizeof(what), ": 0x%X/%d ends ", awaited->message,
+                          int(awaited->code));
+        }
+        return title + what + (awaited ? DeathNames[int(death)] : "");
+    }
+
+    // Whether the one who was told may be gone.
+    static bool Tell(UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        Play* const now = s_now;
+        const auto what = AboutAChild(message, wParam, lParam);
+        if (now == nullptr || !what || now->over)
+        {
+            return false;
+        }
+        Watch::GoesOn();
+        if (std::find(now->told.begin(), now->told.end(), *what) == now->told.end())
+        {
+            now->told.push_back(*what);
+        }
+        if (what != now->awaited)
+        {
+            return false;
+        }
+        if (now->death != Death::Sibling && IsForbidden(now->control->GetSafeHwnd(), *what))
+        {
+            now->awaited.reset();
+            return false;
+        }
+        now->over = true;
+        now->End();
+        return now->modal ? now->death != Death::Sibling : now->death == Death::Parent;
+    }
+
+    void End()
+    {
+        if (modal)
+        {
+            const HWND window = control->GetSafeHwnd();
+            ::DestroyWindow(death == Death::Parent    ? parent->GetSafeHwnd()
+                            : death == Death::Sibling ? ::GetWindow(window, GW_CHILD)
+                                                      : window);
+            return;
+        }
+        switch (death)
+        {
+        case Death::Window:
+            ::DestroyWindow(control->GetSafeHwnd());
+            break;
+        case Death::Control:
+            ::DestroyWindow(control->GetSafeHwnd());
+            control.reset();
+            break;
+        case Death::Sibling:
+            sibling.reset();
+            break;
+        case Death::Parent:
+            ::DestroyWindow(parent->GetSafeHwnd());
+            control.reset();
+            sibling.reset();
+            parent.reset();
+            break;
+        }
+    }
+};
+
+template <class Base> class Hearing : public FreedAtOnce<Base>
+{
+public:
+    using FreedAtOnce<Base>::FreedAtOnce;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return Play::Tell(message, wParam, lParam) ? 0 : Base::WindowProc(message, wParam, lParam);
+    }
+    void PostNcDestroy() override {} // the play owns it
+};
+
+inline const CRect Stage(0, 0, 620, 300);
+
+inline DialogTemplate Form()
+{
+    DialogTemplate form(CRect(10, 10, 330, 180), WS_POPUP | WS_CAPTION | WS_SYSMENU);
+    form.Add("Edit", "text", WS_TABSTOP, CRect(5, 150, 60, 165), 101)
+        .Add("Button", "OK", WS_TABSTOP, CRect(80, 150, 120, 165), IDOK);
+    return form;
+}

@@ -1,0 +1,137 @@
+#include "robust/Play.h"
+
+#include "CustomDialog.h"
+#include "CustomPropPage.h"
+#include "CustomPropSheet.h"
+#include "ZepMsgBoxDlg.h"
+#include "support/Scripted.h"
+#include "support/WindowTest.h"
+#include "support/forms.h"
+
+namespace {
+
+// Windows in loops of their own: what they are told, by their controls and by the platform, ends
+// them, their first control or their owner.
+template <class Window> class Looping : public Hearing<Scripted<Window>>
+{
+public:
+    using Hearing<Scripted<Window>>::Hearing;
+
+protected:
+    void PostNcDestroy() override { Scripted<Window>::PostNcDestroy(); } // ends the loop
+};
+
+struct LoopingPage : Looping<CCustomPropSheet>
+{
+    explicit LoopingPage(CWnd* owner)
+        : Looping<CCustomPropSheet>("Sheet", nullptr, owner)
+    {
+        AddPage(&page);
+    }
+    CCustomPropPage page{UINT(IDD_TEST_PAGE_1)};
+};
+
+class DeathInALoop : public WindowTest
+{
+protected:
+    template <class Window, class Make>
+    std::vector<Told> Give(std::optional<Told> awaited, Death death, Make make)
+    {
+        const int faults = Watch::Faults();
+        Play play;
+        const Watch watch([&] { return play.Title(); });
+        play.title =
+            std::string("a loop in mode ") + std::to_string(int(COnBoardUIGeneral::GetAppMode()));
+        play.modal = true;
+        play.awaited = awaited;
+        play.death = death;
+        auto owner = std::make_unique<CWnd>();
+        owner->CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, Stage, &Host(), 0);
+        std::unique_ptr<Window> window = make(owner.get());
+        Window& shown = *window;
+        play.parent = std::move(owner);
+        play.control = std::move(window);
+        // The platform's sheet does not survive its end while it is being made.
+        constexpr bool sheet = std::is_base_of_v<CPropertySheet, Window>;
+        play.over = sheet;
+        shown.inLoop = [&] {
+            play.over = sheet ? false : play.over;
+            const HWND handle = shown.GetSafeHwnd();
+            const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+            const auto go = [&](auto step) {
+                if (!play.over && ::IsWindow(handle))
+                {
+                    step();
+                }
+            };
+            for (const APPMODE next : {ONBOARD, STD, mode})
+            {
+                go([&] { COnBoardUIGeneral::SetAppMode(next); });
+                go([&] {
+                    ::RedrawWindow(handle, nullptr, nullptr,
+                                   RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW |
+                                       RDW_ALLCHILDREN);
+                });
+            }
+            COnBoardUIGeneral::SetAppMode(mode);
+            for (const UINT key : {VK_TAB, VK_DOWN, VK_TAB, VK_RETURN})
+            {
+                go([&] { TypeKey(key); });
+            }
+            play.over = true;
+            if (::IsWindow(handle))
+            {
+                shown.EndDialog(IDCANCEL);
+            }
+        };
+        shown.DoModal();
+        play.over = true;
+        const std::vector<Told> told = play.told;
+        EXPECT_EQ(::GetCapture(), nullptr) << play.Title();
+        EXPECT_EQ(Watch::Faults(), faults) << play.Title();
+        EXPECT_TRUE(Host().IsWindowEnabled()) << play.Title();
+        return told;
+    }
+
+    template <class Window, class Make> void All(Make make)
+    {
+        for (const APPMODE mode : {STD, EFB})
+        {
+            const ModeScope scope(mode);
+            const std::vector<Told> told = Give<Window>({}, Death::Window, make);
+            EXPECT_GT(told.size(), 3U);
+            for (const Told& awaited : told)
+            {
+                for (const Death death : {Death::Window, Death::Sibling, Death::Parent})
+                {
+                    Give<Window>(awaited, death, make);
+                }
+            }
+        }
+    }
+};
+
+TEST_F(DeathInALoop, OfADialog)
+{
+    const DialogTemplate form = Form();
+    All<Looping<CCustomDialog>>([&](CWnd* owner) {
+        auto dialog = std::make_unique<Looping<CCustomDialog>>(0U, owner);
+        dialog->InitModalIndirect(form, owner);
+        return dialog;
+    });
+}
+
+TEST_F(DeathInALoop, OfAMessageBox)
+{
+    All<Looping<CZepMsgBoxDlg>>([](CWnd*) {
+        return std::make_unique<Looping<CZepMsgBoxDlg>>("A message", MB_YESNOCANCEL,
+                                                        CSize(800, 600), nullptr);
+    });
+}
+
+TEST_F(DeathInALoop, OfASheet)
+{
+    All<LoopingPage>([](CWnd* owner) { return std::make_unique<LoopingPage>(owner); });
+}
+
+} // namespace

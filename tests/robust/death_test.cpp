@@ -1,0 +1,403 @@
+// Death at any moment: whatever a control tells its parent, the parent may end the control, its
+// sibling or itself there and then. What is told is found by rehearsing; then the play is given
+// once for each thing told and each way to end.
+
+#include "robust/Play.h"
+#include "robust/Subjects.h"
+
+#include "CustomDialog.h"
+#include "CustomFormView.h"
+#include "CustomPropPage.h"
+#include "CustomPropSheet.h"
+#include "ZepMsgBoxDlg.h"
+#include "support/WindowTest.h"
+#include "support/forms.h"
+
+namespace {
+
+class Sheet : public Hearing<CCustomPropSheet>
+{
+public:
+    explicit Sheet(CWnd* owner)
+        : Hearing<CCustomPropSheet>("Sheet", nullptr, owner)
+    {
+        AddPage(&m_page);
+    }
+
+private:
+    Hearing<CCustomPropPage> m_page{UINT(IDD_TEST_PAGE_1)};
+};
+
+class View : public Hearing<CCustomFormView>
+{
+public:
+    View()
+        : Hearing<CCustomFormView>(UINT(IDD_TEST_FORM))
+    {}
+};
+
+std::unique_ptr<CWnd> Plain(CWnd& host)
+{
+    auto parent = std::make_unique<Hearing<CWnd>>();
+    parent->CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), "", WS_CHILD | WS_CLIPCHILDREN, Stage,
+                     &host, 1);
+    return parent;
+}
+
+std::unique_ptr<CWnd> Dialog(CWnd& host)
+{
+    auto parent = std::make_unique<Hearing<CCustomDialog>>(0U, &host);
+    parent->CreateIndirect(Form(), &host);
+    return parent;
+}
+
+std::unique_ptr<CWnd> Box(CWnd& host)
+{
+    auto parent = std::make_unique<Hearing<CZepMsgBoxDlg>>("A message of a line", MB_YESNOCANCEL,
+                                                           CSize(800, 600), nullptr);
+    parent->Create(CZepMsgBoxDlg::IDD, &host);
+    parent->SetWindowPos(nullptr, 0, 0, 620, 300, SWP_NOMOVE | SWP_NOZORDER);
+    return parent;
+}
+
+std::unique_ptr<CWnd> PageOfASheet(CWnd& host)
+{
+    auto sheet = std::make_unique<Sheet>(&host);
+    sheet->Create(&host, WS_POPUP | WS_CAPTION);
+    return sheet;
+}
+
+std::unique_ptr<CWnd> FormView(CWnd& host)
+{
+    auto view = std::make_unique<View>();
+    view->Create(nullptr, nullptr, WS_CHILD, Stage, &host, 5, nullptr);
+    return view;
+}
+
+struct ParentKind
+{
+    const char* name;
+    std::unique_ptr<CWnd> (*make)(CWnd& host);
+};
+constexpr ParentKind ParentKinds[] = {{"", &Plain},
+                                      {"on a dialog", &Dialog},
+                                      {"on a message box", &Box},
+                                      {"on a page", &PageOfASheet},
+                                      {"on a form view", &FormView}};
+
+// Input by queue: a press may run a loop of the control's own, which needs its end to be there.
+void QueuePress(CPoint point, CPoint to, bool right)
+{
+    QueueMove(point);
+    QueueButton(true, right);
+    if (to != point)
+    {
+        QueueMove(CPoint((point.x + to.x) / 2, (point.y + to.y) / 2));
+        QueueMove(to);
+    }
+    QueueButton(false, right);
+    if (right)
+    {
+        QueueKey(VK_ESCAPE, true); // closes the menu that it may open
+        QueueKey(VK_ESCAPE, false);
+    }
+    PumpAll();
+}
+
+LPARAM Sensible(const Word& word, HWND window)
+{
+    static LVITEM s_item;
+    static char s_room[0x200];
+    static CRect s_place;
+    switch (word.lParam)
+    {
+    case Argument::Flag:
+    case Argument::Row:
+    case Argument::Small:
+        return 1;
+    case Argument::Pixels:
+        return 120;
+    case Argument::Letter:
+        return 'w';
+    case Argument::Text:
+        return reinterpret_cast<LPARAM>("Row 7");
+    case Argument::Buffer:
+        *reinterpret_cast<WORD*>(s_room) = sizeof(s_room) - 2;
+        return reinterpret_cast<LPARAM>(s_room);
+    case Argument::Place:
+        s_place.SetRect(2, 2, 200, 100);
+        return reinterpret_cast<LPARAM>(&s_place);
+    case Argument::Point:
+        return MAKELPARAM(30, 20);
+    case Argument::Font:
+        return reinterpret_cast<LPARAM>(::GetStockObject(DEFAULT_GUI_FONT));
+    case Argument::ListItem:
+        s_item = {};
+        s_item.mask = LVIF_TEXT | LVIF_STATE;
+        s_item.iItem = 1;
+        s_item.pszText = const_cast<char*>("Row 7");
+        s_item.state = s_item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+        return reinterpret_cast<LPARAM>(&s_item);
+    case Argument::TreeItem:
+        return ::SendMessage(window, TVM_GETNEXTITEM, TVGN_ROOT, 0);
+    default:
+        return 0;
+    }
+}
+
+constexpr UINT TimerIds[] = {101, 102, 103, 104, 105, 106, 1189, 1190};
+
+// Everything that makes a control speak, until it is over.
+class Provocation
+{
+public:
+    Provocation(const Subject& subject, const Play& play)
+        : m_subject(subject)
+        , m_play(play)
+        , m_window(play.control->GetSafeHwnd())
+    {
+        ::GetWindowRect(m_window, &m_place);
+    }
+
+    void Run()
+    {
+        Do([&] { ::SetFocus(m_window); });
+        Input();
+        Messages();
+        Changes();
+        Do([&] { ::DestroyWindow(m_window); });
+    }
+
+private:
+    const Subject& m_subject;
+    const Play& m_play;
+    HWND m_window;
+    CRect m_place;
+
+    template <class Step> void Do(Step step)
+    {
+        if (!m_play.over && ::IsWindow(m_window))
+        {
+            step();
+        }
+    }
+    void Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+    {
+        Do([&] { ::SendMessage(m_window, message, wParam, lParam); });
+    }
+    void Paint()
+    {
+        Do([&] {
+            ::RedrawWindow(m_window, nullptr, nullptr,
+                           RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW |
+                               RDW_ALLCHILDREN);
+        });
+    }
+
+    void Input()
+    {
+        Paint();
+        const CPoint first(m_place.left + 20, m_place.top + 32);
+        const CPoint points[] = {first, first, // twice: a double click
+                                 CPoint(m_place.right - 10, m_place.bottom - 10),
+                                 CPoint(m_place.CenterPoint().x, m_place.top + 8)};
+        for (const CPoint& point : points)
+        {
+            Do([&] { QueuePress(point, point, false); });
+        }
+        Do([&] { QueuePress(first, first, true); });
+        Do([&] { QueuePress(first, first + CPoint(30, 40), false); });
+        // The end of a heading, where there is one.
+        const CPoint divider(m_place.left + 92, m_place.top + 8);
+        Do([&] { QueuePress(divider, divider + CPoint(20, 0), false); });
+        Do([&] { ::Wheel(-WHEEL_DELTA); });
+        for (const UINT key : {UINT(VK_DOWN), UINT(VK_SPACE), UINT('W'), UINT(VK_END),
+                               UINT(VK_RIGHT), UINT(VK_DELETE), UINT(VK_RETURN)})
+        {
+            Do([&] { TypeKey(key); });
+        }
+    }
+
+    void Messages()
+    {
+        for (const Word& word : m_subject.words)
+        {
+            const bool fixed = word.wParam == Argument::Fixed;
+            const bool counts = word.wParam != Argument::None;
+            const WPARAM wParam = fixed                             ? word.fixed
+                                  : word.wParam == Argument::Letter ? 'w'
+                                                                    : counts;
+            Do([&] { ::SendMessage(m_window, word.message, wParam, Sensible(word, m_window)); });
+        }
+        Paint();
+        for (const UINT message : {UINT(LVM_EDITLABEL), UINT(TVM_EDITLABEL)})
+        {
+            char name[40] = "";
+            ::GetClassName(m_window, name, sizeof(name));
+            const bool tree = message == TVM_EDITLABEL;
+            if (::lstrcmpi(name, tree ? WC_TREEVIEW : WC_LISTVIEW) == 0)
+            {
+                ::SetWindowLong(m_window, GWL_STYLE,
+                                ::GetWindowLong(m_window, GWL_STYLE) |
+                                    (tree ? TVS_EDITLABELS : LVS_EDITLABELS));
+                Do([&] { ::SetFocus(m_window); });
+                Send(message, 0, tree ? ::SendMessage(m_window, TVM_GETNEXTITEM, TVGN_ROOT, 0) : 0);
+                Do([&] { TypeKey(VK_ESCAPE); });
+            }
+        }
+    }
+
+    void Changes()
+    {
+        for (const auto& [message, wParam] : {std::pair{WM_VSCROLL, SB_LINEDOWN},
+                                              {WM_HSCROLL, SB_LINERIGHT},
+                                              {WM_CANCELMODE, 0},
+                                              {WM_SYSCOLORCHANGE, 0},
+                                              {WM_ENABLE, FALSE},
+                                              {WM_ENABLE, TRUE}})
+        {
+            Send(UINT(message), WPARAM(wParam));
+        }
+        Send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>("Waypoint"));
+        Send(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), TRUE);
+        Do([&] { ::EnableWindow(m_window, FALSE); });
+        Do([&] { ::EnableWindow(m_window, TRUE); });
+        Do([&] { ::SetWindowPos(m_window, nullptr, 40, 30, 200, 150, SWP_NOZORDER); });
+        Do([&] { ::ShowWindow(m_window, SW_HIDE); });
+        Do([&] { ::ShowWindow(m_window, SW_SHOWNA); });
+        const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+        for (const APPMODE next : {ONBOARD, STD, mode})
+        {
+            Do([&] { COnBoardUIGeneral::SetAppMode(next); });
+            Paint();
+        }
+        COnBoardUIGeneral::SetAppMode(mode);
+        Do([&] { PumpAll(); });
+    }
+};
+
+struct Case
+{
+    const Subject* subject;
+    const ParentKind* parent;
+};
+
+void PrintTo(const Case& tested, std::ostream* out)
+{
+    *out << tested.subject->name << ' ' << tested.parent->name;
+}
+
+class DeathAtAnyMoment : public WindowTest, public testing::WithParamInterface<Case>
+{
+protected:
+    int m_plays = 0;
+    int m_missed = 0; // plays in which what was awaited was not told
+
+    // Gives the play; what was told until it was over.
+    std::vector<Told> Give(std::optional<Told> awaited, Death death)
+    {
+        const auto& [subject, kind] = GetParam();
+        const int faults = Watch::Faults();
+        Play play;
+        const Watch watch([&] { return play.Title(); });
+        play.over = true; // not yet begun
+        play.title = std::string(subject->name) + ' ' + kind->name + " in mode " +
+                     std::to_string(int(COnBoardUIGeneral::GetAppMode()));
+        play.awaited = awaited;
+        play.death = death;
+        play.parent = kind->make(Host());
+        CWnd* parent = play.parent.get();
+        if (auto* const sheet = dynamic_cast<CPropertySheet*>(parent))
+        {
+            parent = sheet->GetPage(0);
+        }
+        play.control = subject->make(*parent);
+        if (death == Death::Sibling)
+        {
+            play.sibling = subject->make(*parent);
+            play.sibling->ModifyStyle(WS_GROUP, 0);
+            play.sibling->SetDlgCtrlID(SubjectId + 1);
+            play.sibling->SetWindowPos(nullptr, 320, 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        }
+        play.parent->ShowWindow(SW_SHOW);
+        PumpAll();
+        play.over = false;
+
+        Provocation(*subject, play).Run();
+
+        ++m_plays;
+        m_missed += play.over != play.awaited.has_value();
+        play.over = true;
+        for (const CWnd* const left : {play.control.get(), play.sibling.get()})
+        {
+            if (left != nullptr && left->GetSafeHwnd() != nullptr)
+            {
+                const HWND window = left->GetSafeHwnd();
+                ::SendMessage(window, WM_CANCELMODE, 0, 0);
+                const bool timed = std::any_of(std::begin(TimerIds), std::end(TimerIds),
+                                               [=](UINT id) { return ::KillTimer(window, id); });
+                EXPECT_FALSE(timed) << play.Title() << ": left with a timer";
+            }
+        }
+        EXPECT_EQ(::GetCapture(), nullptr) << play.Title() << ": left with the capture";
+        ::ReleaseCapture();
+        const std::vector<Told> told = play.told;
+        PumpAll();
+        EXPECT_EQ(Watch::Faults(), faults) << play.Title();
+        return told;
+    }
+};
+
+TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
+{
+    for (const APPMODE mode : {STD, EFB})
+    {
+        const ModeScope scope(mode);
+        const std::vector<Told> told = Give({}, Death::Window);
+        EXPECT_FALSE(told.empty());
+        for (size_t index = 0; index < told.size(); ++index)
+        {
+            Give(told[index], Death::Control);
+            if (mode != STD) // where most of what runs is the library's
+            {
+                Give(told[index], Death::Parent);
+                Give(told[index], index % 2 == 0 ? Death::Sibling : Death::Window);
+            }
+        }
+        // What is told by a timer may not come; the rest does.
+        EXPECT_LE(m_missed, m_plays / 10);
+        EXPECT_NEAR(double(Give({}, Death::Window).size()), double(told.size()), 2)
+            << "a fresh control is not as it was";
+    }
+}
+
+std::vector<Case> Cases()
+{
+    std::vector<Case> cases;
+    for (const Subject& subject : Subjects())
+    {
+        cases.push_back({&subject, &ParentKinds[0]});
+    }
+    for (const ParentKind& kind : ParentKinds)
+    {
+        for (const Subject& subject : Subjects())
+        {
+            const std::string name = subject.name;
+            if (&kind != &ParentKinds[0] &&
+                (name == "push button" || name == "list box" || name == "combo"))
+            {
+                cases.push_back({&subject, &kind});
+            }
+        }
+    }
+    return cases;
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, DeathAtAnyMoment, testing::ValuesIn(Cases()), [](const auto& info) {
+    std::string name = std::string(info.param.subject->name) + ' ' + info.param.parent->name;
+    name.erase(name.find_last_not_of(' ') + 1);
+    std::replace(name.begin(), name.end(), ' ', '_');
+    return name;
+});
+
+} // namespace
