@@ -103,6 +103,8 @@ constexpr Forbidden PlatformFaults[] = {
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDTRACK)}, 0, false},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}},
     {TOOLBARCLASSNAME, {WM_NOTIFY, TBN_DELETINGBUTTON}},
+    {"#32770", {WM_NOTIFY, UINT(PSN_QUERYCANCEL)}}, // its sheet of pages, as also below
+    {"#32770", {WM_NOTIFY, UINT(PSN_RESET)}},
 };
 
 inline HWND SenderOf(UINT message, LPARAM lParam, HWND otherwise)
