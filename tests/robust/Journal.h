@@ -1,5 +1,6 @@
 #pragma once
 
+#include "robust/Subjects.h"
 #include "support/WindowTest.h"
 
 #include <afxcmn.h>
@@ -43,7 +44,11 @@ public:
     }
     Journal(const Journal&) = delete;
     Journal& operator=(const Journal&) = delete;
-    ~Journal() { m_host.hook = nullptr; }
+    ~Journal()
+    {
+        m_host.hook = nullptr;
+        ForgetClipboard();
+    }
 
     void Add(int line, std::initializer_list<Answer> answers)
     {

@@ -423,3 +423,12 @@ const std::vector<Subject>& Subjects()
     static const std::vector<Subject> subjects = MakeSubjects();
     return subjects;
 }
+
+void ForgetClipboard()
+{
+    if (::OpenClipboard(nullptr))
+    {
+        ::EmptyClipboard();
+        ::CloseClipboard();
+    }
+}

@@ -56,3 +56,6 @@ struct Subject
 };
 
 const std::vector<Subject>& Subjects();
+
+// A press of the middle button pastes in an edit of a later test what one of these has cut.
+void ForgetClipboard();

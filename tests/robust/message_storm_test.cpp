@@ -58,6 +58,7 @@ protected:
         window.reset();
         PumpAll();
         EXPECT_EQ(Watch::Faults(), faults);
+        ForgetClipboard();
     }
 
 private:
