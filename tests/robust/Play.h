@@ -122,17 +122,17 @@ inline bool IsForbidden(HWND window, const Told& told)
 {
     char name[40] = "";
     ::GetClassName(window, name, sizeof(name));
-    // Most of its controls go on with freed memory of their own after anything that they tell. It
-    // is told of only when the heaps are checked, as in the preset "heap".
+    const DWORD style = DWORD(::GetWindowLong(window, GWL_STYLE));
+    const auto isName = [&](const char* other) { return ::lstrcmpi(other, name) == 0; };
+    // Some go on with freed memory of their own after anything that they tell. That shows only when
+    // the heaps are checked, as in the preset "heap".
     static const char* const debug = std::getenv("WINEDEBUG");
     static const bool checked = debug != nullptr && std::strstr(debug, "warn+heap") != nullptr;
-    constexpr const char* Frail[] = {"Edit", "ListBox", WC_LISTVIEW, WC_HEADER, TOOLBARCLASSNAME};
-    const auto isName = [&](const char* frail) { return ::lstrcmpi(frail, name) == 0; };
-    if (checked && std::any_of(std::begin(Frail), std::end(Frail), isName))
+    const bool drawn = (style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0;
+    if (checked && (isName("Edit") || isName(TOOLBARCLASSNAME) || (drawn && isName("ListBox"))))
     {
         return true;
     }
-    const DWORD style = DWORD(::GetWindowLong(window, GWL_STYLE));
     return std::any_of(std::begin(PlatformFaults), std::end(PlatformFaults),
                        [&](const Forbidden& each) {
                            return each.told == told && isName(each.windowClass) &&
