@@ -29,6 +29,3 @@ struct Control
 };
 
 const std::vector<Control>& Controls();
-
-// Makes the one of that name, which has to be there.
-std::unique_ptr<CWnd> MakeControl(const char* name, CWnd& parent, const Contents& contents);

@@ -1,58 +1,84 @@
 #include "catalog/DialogTemplate.h"
 
-#include <cstring>
-
-DialogTemplate::DialogTemplate(const CRect& place, DWORD style, const char* title)
+DialogTemplate::DialogTemplate(const Header& header)
+    : m_extended(header.extended)
 {
-    DLGTEMPLATE header = {};
-    header.style = style | DS_SETFONT;
-    header.x = short(place.left);
-    header.y = short(place.top);
-    header.cx = short(place.Width());
-    header.cy = short(place.Height());
-    Append(&header, sizeof(header));
-    m_words.push_back(0); // no menu
-    m_words.push_back(0); // the platform's dialog class
-    AppendText(title);
-    m_words.push_back(8); // points
-    AppendText("MS Sans Serif");
+    if (m_extended)
+    {
+        Append({1, 0xFFFF});
+    }
+    AppendStyles(header.style | (header.points != 0 ? DS_SETFONT : 0), header.exStyle);
+    m_count = m_words.size();
+    Append({0});
+    AppendPlace(header.place);
+    AppendName(header.menu);
+    AppendName(header.windowClass);
+    AppendName(header.title);
+    if (header.points != 0)
+    {
+        Append({header.points});
+        if (m_extended)
+        {
+            Append({FW_BOLD, 0x0100}); // default character set
+        }
+        AppendName(header.face);
+    }
 }
 
-DialogTemplate& DialogTemplate::Add(const char* windowClass, const char* text, DWORD style,
-                                    const CRect& place, WORD id)
+DialogTemplate& DialogTemplate::Add(const Name& windowClass, const char* text, DWORD style,
+                                    const CRect& place, WORD id, const std::vector<WORD>& data)
 {
     if (m_words.size() % 2 != 0)
     {
-        m_words.push_back(0); // items begin on even words
+        Append({0}); // items begin on even words
     }
-    DLGITEMTEMPLATE item = {};
-    item.style = style | WS_CHILD | WS_VISIBLE;
-    item.x = short(place.left);
-    item.y = short(place.top);
-    item.cx = short(place.Width());
-    item.cy = short(place.Height());
-    item.id = id;
-    Append(&item, sizeof(item));
-    AppendText(windowClass);
-    AppendText(text);
-    m_words.push_back(0); // no creation data
-    // The count of items stands behind style and extended style.
-    ++m_words[4];
+    AppendStyles(style | WS_CHILD | WS_VISIBLE, 0);
+    AppendPlace(place);
+    Append({id});
+    if (m_extended)
+    {
+        Append({0}); // its ids are long ones
+    }
+    AppendName(windowClass);
+    AppendName(text);
+    Append({WORD(data.size() * sizeof(WORD))});
+    Append(data);
+    ++m_words[m_count];
     return *this;
 }
 
-void DialogTemplate::Append(const void* data, size_t bytes)
+void DialogTemplate::Append(const std::vector<WORD>& words)
 {
-    const size_t before = m_words.size();
-    m_words.resize(before + bytes / sizeof(WORD));
-    std::memcpy(m_words.data() + before, data, bytes);
+    m_words.insert(m_words.end(), words.begin(), words.end());
 }
 
-void DialogTemplate::AppendText(const char* text)
+// The formats have them the other way round, the extended one behind a help id.
+void DialogTemplate::AppendStyles(DWORD style, DWORD exStyle)
 {
-    for (; *text != '\0'; ++text)
+    const DWORD first = m_extended ? exStyle : style;
+    const DWORD second = m_extended ? style : exStyle;
+    if (m_extended)
     {
-        m_words.push_back(WORD(static_cast<unsigned char>(*text)));
+        Append({0, 0});
     }
-    m_words.push_back(0);
+    Append({LOWORD(first), HIWORD(first), LOWORD(second), HIWORD(second)});
+}
+
+void DialogTemplate::AppendPlace(const CRect& place)
+{
+    Append({WORD(place.left), WORD(place.top), WORD(place.Width()), WORD(place.Height())});
+}
+
+void DialogTemplate::AppendName(const Name& name)
+{
+    if (const WORD* const ordinal = std::get_if<WORD>(&name))
+    {
+        Append({0xFFFF, *ordinal});
+        return;
+    }
+    for (const char letter : std::get<std::string>(name))
+    {
+        Append({WORD(static_cast<unsigned char>(letter))});
+    }
+    Append({0});
 }

@@ -6,7 +6,7 @@
 #include "CustomDialog.h"
 #include "CustomStatic.h"
 #include "buttons/buttons_for_tests.h"
-#include "support/DialogTemplate.h"
+#include "catalog/DialogTemplate.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include "EFB.h"
 #include "LayoutMgmt.h"
 #include "SpecialConfigVals.h"
-#include "support/DialogTemplate.h"
+#include "catalog/DialogTemplate.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
 

@@ -1,5 +1,5 @@
 #include "dialogs/message_box_for_tests.h"
-#include "windows/freed_at_once.h"
+#include "support/Fenced.h"
 
 #include <utility>
 
@@ -320,9 +320,9 @@ TEST_F(MessageBoxTest, ABoxCanBeShownAgainAndCanGoInsideItsLoop)
 
 TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
 {
-    static FreedAtOnce<Box>* box;
+    static Fenced<Box>* box;
     static WNDPROC before;
-    box = new FreedAtOnce<Box>(Lines(3).c_str(), MB_YESNOCANCEL);
+    box = new Fenced<Box>(Lines(3).c_str(), MB_YESNOCANCEL);
     ASSERT_TRUE(box->Create(CZepMsgBoxDlg::IDD, &Host()));
     const auto goes = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
         const WNDPROC next = before;

@@ -1,5 +1,5 @@
 #include "edits/edit_for_tests.h"
-#include "support/DialogTemplate.h"
+#include "catalog/DialogTemplate.h"
 
 #include "CustomDialog.h"
 

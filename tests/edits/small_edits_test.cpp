@@ -3,7 +3,7 @@
 #include "ColorEdit.h"
 #include "EditWithPrompt.h"
 #include "QuixEdit.h"
-#include "support/DialogTemplate.h"
+#include "catalog/DialogTemplate.h"
 #include "support/WindowTest.h"
 
 #include <cstring>

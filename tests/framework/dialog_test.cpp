@@ -1,4 +1,4 @@
-#include "support/DialogTemplate.h"
+#include "catalog/DialogTemplate.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
 

@@ -1,6 +1,6 @@
 // Objects that end inside the very call that asks them, and routes that lead past them.
 
-#include "support/DialogTemplate.h"
+#include "catalog/DialogTemplate.h"
 #include "support/WindowTest.h"
 
 #include <utility>

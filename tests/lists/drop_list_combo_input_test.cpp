@@ -1,7 +1,7 @@
 // Real pointer and keyboard on a drop-list combo.
 
 #include "lists/combo_for_tests.h"
-#include "support/DialogTemplate.h"
+#include "catalog/DialogTemplate.h"
 #include "support/Fenced.h"
 #include "support/Scripted.h"
 

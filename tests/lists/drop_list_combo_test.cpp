@@ -3,7 +3,7 @@
 #include "CustomDialog.h"
 #include "lists/ComboLayout.h"
 #include "lists/combo_for_tests.h"
-#include "support/DialogTemplate.h"
+#include "catalog/DialogTemplate.h"
 #include "support/Scripted.h"
 
 #include <gmock/gmock.h>

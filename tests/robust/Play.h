@@ -3,8 +3,8 @@
 #include "robust/Watch.h"
 
 #include "OnBoardUIGeneral.h"
-#include "support/DialogTemplate.h"
-#include "windows/freed_at_once.h"
+#include "catalog/DialogTemplate.h"
+#include "support/Fenced.h"
 
 #include <afxcmn.h>
 #include <afxdlgs.h>
@@ -243,10 +243,10 @@ struct Play
     }
 };
 
-template <class Base> class Hearing : public FreedAtOnce<Base>
+template <class Base> class Hearing : public Fenced<Base>
 {
 public:
-    using FreedAtOnce<Base>::FreedAtOnce;
+    using Fenced<Base>::Fenced;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override

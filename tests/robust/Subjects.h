@@ -1,6 +1,6 @@
 #pragma once
 
-#include <afxwin.h>
+#include "catalog/Controls.h"
 
 #include <functional>
 #include <memory>
@@ -40,12 +40,10 @@ struct Word
     WPARAM fixed = 0;
 };
 
-constexpr UINT SubjectId = 77;
-
 struct Subject
 {
     const char* name;
-    // On parent, visible, filled, with the id SubjectId if it is a child. Null when it could not
+    // On parent, visible, filled, with the id ControlId if it is a child. Null when it could not
     // be.
     std::function<std::unique_ptr<CWnd>(CWnd& parent)> make;
     std::vector<Word> words = {};

@@ -316,7 +316,7 @@ protected:
         {
             play.sibling = subject->make(*parent);
             play.sibling->ModifyStyle(WS_GROUP, 0);
-            play.sibling->SetDlgCtrlID(SubjectId + 1);
+            play.sibling->SetDlgCtrlID(ControlId + 1);
             play.sibling->SetWindowPos(nullptr, 320, 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         }
         play.parent->ShowWindow(SW_SHOW);

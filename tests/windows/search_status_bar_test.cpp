@@ -1,6 +1,6 @@
 #include "SearchStatusBar.h"
 #include "support/WindowTest.h"
-#include "windows/freed_at_once.h"
+#include "support/Fenced.h"
 
 namespace {
 
@@ -221,7 +221,7 @@ TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryMode)
 TEST_F(StatusBarTest, AnOwnerMayDeleteTheBarThatItDraws)
 {
     const ModeScope scope(ONBOARD);
-    auto* bar = new FreedAtOnce<CCustomStatusBar>;
+    auto* bar = new Fenced<CCustomStatusBar>;
     ASSERT_TRUE(bar->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
     int edges[] = {50, 100, -1};
     bar->SetParts(3, edges);
