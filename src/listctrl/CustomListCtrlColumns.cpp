@@ -5,6 +5,7 @@
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
+#include "paint/MeasuringDC.h"
 #include "paint/Metrics.h"
 #include "scroll/NcBands.h"
 
@@ -115,7 +116,7 @@ int CCustomListCtrl::HeadingWidth(int column)
     {
         return 0;
     }
-    CClientDC dc(this);
+    CDC& dc = MeasuringDC();
     const Selected font(dc, reinterpret_cast<HGDIOBJ>(::SendMessage(header, WM_GETFONT, 0, 0)));
     const int arrow = (item.fmt & (HDF_SORTUP | HDF_SORTDOWN)) != 0 ? metrics::HeaderArrowRoom : 0;
     return int(dc.GetTextExtent(item.pszText, ::lstrlen(item.pszText)).cx) +

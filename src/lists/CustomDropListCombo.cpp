@@ -10,6 +10,7 @@
 #include "paint/BackBuffer.h"
 #include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
+#include "paint/MeasuringDC.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 
@@ -204,7 +205,7 @@ int CCustomDropListCombo::NaturalHeight()
         CCustomComboLBox* const list = List();
         return (list == nullptr ? 0 : list->GetEntryHeight("X")) + 2 * metrics::Border;
     }
-    CClientDC dc(this);
+    CDC& dc = MeasuringDC();
     const Selected font(dc, Font());
     return int(dc.GetTextExtent("X", 1).cy) + 2 * (StandardEdge + StandardPad);
 }

@@ -5,6 +5,7 @@
 #include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
+#include "paint/MeasuringDC.h"
 #include "paint/Metrics.h"
 #include "scroll/ScrollCodes.h"
 
@@ -49,7 +50,7 @@ HFONT CCustomListBox::RowFont()
 
 int CCustomListBox::GetEntryHeight(const char* text)
 {
-    CClientDC dc(this);
+    CDC& dc = MeasuringDC();
     const Selected font(dc, GetOnBoardFont());
     const CString measured(text == nullptr || *text == '\0' ? " " : text); // a row all the same
     return int(dc.GetTextExtent(measured).cy * EntryHeightFactor);
@@ -65,7 +66,7 @@ int CCustomListBox::GetEntryWidth(int index)
     std::string text(size_t(length) + 1, '\0');
     const int copied = std::clamp(
         Ask(LB_GETTEXT, WPARAM(index), reinterpret_cast<LPARAM>(text.data())), 0, length);
-    CClientDC dc(this);
+    CDC& dc = MeasuringDC();
     const Selected font(dc, RowFont());
     if ((GetStyle() & LBS_USETABSTOPS) != 0 && !OwnerDrawn(*this))
     {
@@ -77,7 +78,7 @@ int CCustomListBox::GetEntryWidth(int index)
 
 int CCustomListBox::GetMaxCharWidth()
 {
-    CClientDC dc(this);
+    CDC& dc = MeasuringDC();
     const Selected font(dc, Font());
     TEXTMETRIC measured = {};
     dc.GetTextMetrics(&measured);
@@ -88,7 +89,7 @@ int CCustomListBox::AverageCharWidth()
 {
     if (m_averageWidth == 0)
     {
-        CClientDC dc(this);
+        CDC& dc = MeasuringDC();
         const Selected font(dc, Font());
         TEXTMETRIC measured = {};
         dc.GetTextMetrics(&measured);

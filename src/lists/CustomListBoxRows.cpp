@@ -4,6 +4,7 @@
 #include "OnBoardUIGeneral.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
+#include "paint/MeasuringDC.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 
@@ -91,7 +92,7 @@ void CCustomListBox::MeasureItem(LPMEASUREITEMSTRUCT measure)
         measure->itemHeight = UINT(std::max(1, GetEntryHeight(text)));
         return;
     }
-    CClientDC dc(this);
+    CDC& dc = MeasuringDC();
     const Selected font(dc, Font());
     measure->itemHeight = UINT(std::max<LONG>(1, dc.GetTextExtent("X", 1).cy));
 }
