@@ -104,7 +104,8 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 
 BOOL CPropertyPage::PreTranslateMessage(MSG* message)
 {
-    // The sheet moves the focus across its own buttons and the page's controls alike.
+    // The sheet moves the focus across its own buttons and the page's controls alike, so not as a
+    // dialog. NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return CWnd::PreTranslateMessage(message);
 }
 

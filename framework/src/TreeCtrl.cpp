@@ -106,7 +106,7 @@ DWORD_PTR CTreeCtrl::GetItemData(HTREEITEM item) const
 BOOL CTreeCtrl::GetItemRect(HTREEITEM item, LPRECT rect, BOOL textOnly) const
 {
     // The message takes the item in the first bytes of the rectangle that it fills.
-    ::CopyMemory(rect, &item, sizeof(item));
+    ::CopyMemory(rect, &item, sizeof(HTREEITEM));
     return BOOL(SendMessage(TVM_GETITEMRECT, WPARAM(textOnly), LPARAM(rect)));
 }
 

@@ -29,7 +29,8 @@ BOOL CView::PreCreateWindow(CREATESTRUCT& cs)
 
 CView::~CView()
 {
-    // A window that is still there ends with the base class: here the view would delete itself again.
+    // A window that is still there ends with the base class: here the view would delete itself
+    // again.
     LeaveFrame(FALSE);
 }
 
@@ -246,7 +247,8 @@ BOOL CFormView::Create(LPCSTR, LPCSTR windowName, DWORD requestedStyle, const RE
                                                     &CDialog::DialogProc, 0);
     if (!AfxUnhookWindowCreate())
     {
-        PostNcDestroy();
+        PostNcDestroy(); // which may delete the view
+        return FALSE;
     }
     if (window == nullptr)
     {

@@ -144,7 +144,7 @@ OpeningPtr OpenFromHandle(HGLOBAL memory)
     {
         return OpenFrom(static_cast<LPCDLGTEMPLATE>(::LockResource(memory)));
     }
-    const OpeningPtr opening = OpenFrom<const void*>(::GlobalLock(memory), bytes);
+    OpeningPtr opening = OpenFrom<const void*>(::GlobalLock(memory), bytes);
     ::GlobalUnlock(memory);
     return opening;
 }

@@ -143,6 +143,7 @@ HRESULT CCustomChecklistBox::get_accSelection(VARIANT* children)
         return Give(*children, ChildOf(rows.front()));
     }
     std::vector<long> ids;
+    ids.reserve(rows.size());
     for (const int row : rows)
     {
         ids.push_back(ChildOf(row));

@@ -70,12 +70,12 @@ void CViewPolygon::InitializePoints(const CRect& rect)
     // A view's client rectangle begins at the origin, so the first corner, and the last with it, is
     // the origin itself, whatever left and top say; only the bottom left corner goes by left. Hosts
     // count on an outline that closes at the origin.
-    const int edge = m_pointsPerEdge;
+    const size_t edge = size_t(m_pointsPerEdge);
     m_points[0] = {0, 0};
-    m_points[size_t(edge)] = {rect.right, 0};
-    m_points[size_t(2 * edge)] = {rect.right, rect.bottom};
-    m_points[size_t(3 * edge)] = {rect.left, rect.bottom};
-    m_points[size_t(4 * edge)] = {0, 0};
+    m_points[edge] = {rect.right, 0};
+    m_points[2 * edge] = {rect.right, rect.bottom};
+    m_points[3 * edge] = {rect.left, rect.bottom};
+    m_points[4 * edge] = {0, 0};
 }
 
 void CViewPolygon::InterpolateMidPoints()
@@ -87,7 +87,7 @@ void CViewPolygon::InterpolateMidPoints()
     const double step = 1.0 / m_pointsPerEdge;
     for (int edge = 0; edge < Edges; ++edge)
     {
-        K3DevPt* const points = &m_points[size_t(edge * m_pointsPerEdge)];
+        K3DevPt* const points = &m_points[size_t(edge) * size_t(m_pointsPerEdge)];
         const K3DevPt from = points[0];
         const K3DevPt to = points[m_pointsPerEdge];
         for (int index = 1; index < m_pointsPerEdge; ++index)

@@ -233,8 +233,6 @@ bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
     case WM_CANCELMODE:
     case WM_ENABLE:
     case WM_SHOWWINDOW:
-        EndPress();
-        return false;
     case WM_DESTROY:
         EndPress();
         return false;

@@ -115,7 +115,7 @@ CRect TreeItems::Rect(HTREEITEM item, bool textOnly) const
 {
     CRect rect(0, 0, 0, 0);
     // The message takes the item in the first bytes of the rectangle that it fills.
-    ::CopyMemory(&rect, &item, sizeof(item));
+    ::CopyMemory(&rect, &item, sizeof(HTREEITEM));
     return item != nullptr && Ask(TVM_GETITEMRECT, textOnly, reinterpret_cast<LPARAM>(&rect))
                ? rect
                : CRect(0, 0, 0, 0);

@@ -41,11 +41,9 @@ bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
 void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
     const WindowAlive alive(m_owner.Window());
-    if (m_onBoard && !m_following)
-    {
-        m_bars.After(message, wParam, lParam, result);
-    }
-    else if (m_onBoard && (message == WM_NCCALCSIZE || message == WM_WINDOWPOSCHANGING))
+    // While it follows the mode, the frame alone is laid out.
+    const bool frame = message == WM_NCCALCSIZE || message == WM_WINDOWPOSCHANGING;
+    if (m_onBoard && (!m_following || frame))
     {
         m_bars.After(message, wParam, lParam, result);
     }

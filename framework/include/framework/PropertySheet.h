@@ -25,8 +25,8 @@ public:
     void SetModified(BOOL changed = TRUE);
     virtual BOOL OnSetActive() { return TRUE; }
     virtual BOOL OnKillActive() { return UpdateData(TRUE); }
-    virtual void OnOK() override {}
-    virtual void OnCancel() override {}
+    void OnOK() override {}
+    void OnCancel() override {}
     virtual BOOL OnApply();
     virtual void OnReset() { OnCancel(); }
     virtual BOOL OnQueryCancel() { return TRUE; }
