@@ -19,6 +19,7 @@ const std::vector<std::string>& Texts()
 {
     static const std::vector<std::string> texts = [] {
         std::vector<std::string> made;
+        made.reserve(FilledRows);
         for (int row = 0; row < FilledRows; ++row)
         {
             made.push_back("Waypoint " + std::to_string(row));

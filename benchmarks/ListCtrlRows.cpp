@@ -25,9 +25,11 @@ const std::vector<std::vector<std::string>>& Texts()
 {
     static const std::vector<std::vector<std::string>> texts = [] {
         std::vector<std::vector<std::string>> made;
+        made.reserve(FilledRows);
         for (int row = 0; row < FilledRows; ++row)
         {
             std::vector<std::string> cells;
+            cells.reserve(Columns);
             for (int column = 0; column < Columns; ++column)
             {
                 cells.push_back(TextOf(row, column));

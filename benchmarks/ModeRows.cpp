@@ -65,7 +65,7 @@ private:
     std::vector<std::unique_ptr<CCustomListBox>> m_lists;
 };
 
-void StartFresh(std::shared_ptr<std::unique_ptr<Parent>> parent)
+void StartFresh(const std::shared_ptr<std::unique_ptr<Parent>>& parent)
 {
     EnterMode(STD);
     *parent = std::make_unique<Parent>();

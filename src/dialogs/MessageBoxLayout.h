@@ -69,6 +69,15 @@ constexpr int CaptionRise(int captionHeight)
     return Truncated(captionHeight * 0.7);
 }
 
+// The top of the icon: the margin less that rise, which at 96 dots per inch is two rows above the
+// client area. At higher resolutions captions are higher than margins follow, and the text's first
+// line would lie under the caption, so no more than these two rows ever do.
+inline int MessageTop(const MessageUnits& units, int captionHeight)
+{
+    constexpr int rowsHidden = 2;
+    return std::max<int>(units.margin.cy - CaptionRise(captionHeight), -rowsHidden);
+}
+
 // By how much a length has to be shortened for an area. One that is too long ends a little short of
 // the area. It keeps its smallest value, whatever the area.
 constexpr int MessageExcess(int length, int smallest, int area, int shortOfArea, int frame)
@@ -102,9 +111,12 @@ inline MessageSize SizeMessageBox(const MessageUnits& units, const MessageConten
     }
 
     const CSize buttons = MessageButtonsSize(units, content.buttons);
+    // What the icon's top keeps of the caption's rise has to be made room for below it.
+    const int lowered = MessageTop(units, content.captionHeight) -
+                        (int(units.margin.cy) - CaptionRise(content.captionHeight));
     const CSize around(2 * units.margin.cx + units.spacing.cx,
                        3 * units.margin.cy / 2 + buttons.cy + 2 * units.spacing.cy +
-                           CaptionRise(content.captionHeight));
+                           CaptionRise(content.captionHeight) + lowered);
     // It is meant that this gap across is as wide as the gaps down.
     const int beside = units.spacing.cy + MessageIconSize;
     const CSize inside(std::max({content.titleWidth, int(buttons.cx), int(size.text.cx) + beside}),
@@ -148,7 +160,7 @@ inline MessagePlaces PlaceMessageParts(const MessageUnits& units, const MessageS
                                        const CSize& client, int captionHeight, int buttons)
 {
     MessagePlaces places;
-    places.icon = CRect(CPoint(units.margin.cx, units.margin.cy - CaptionRise(captionHeight)),
+    places.icon = CRect(CPoint(units.margin.cx, MessageTop(units, captionHeight)),
                         CSize(MessageIconSize, MessageIconSize));
 
     // A text lower than the icon stands beside its middle.
