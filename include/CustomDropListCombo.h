@@ -210,8 +210,6 @@ private:
     int HeightFor(APPMODE mode);
 
     void Repaint() { Invalidate(FALSE); }
-    // What opening and closing changes.
-    void RepaintButton() { InvalidateRect(m_dropButton.GetArea(), FALSE); }
     void ItemsChanged();
     bool TellSelChange();
     void PressAt(const CPoint& screen);

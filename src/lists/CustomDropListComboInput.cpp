@@ -39,7 +39,7 @@ void CCustomDropListCombo::DoDropButton()
     }
     if (alive)
     {
-        RepaintButton();
+        Repaint();
         access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
     }
 }
