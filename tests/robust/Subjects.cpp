@@ -190,6 +190,7 @@ const std::map<std::string, Manner> Manners = {
     {"list box of columns", {ListWords, &SeenList::Fault}},
     {"list box of values", {ListWords, &SeenList::Fault}},
     {"check list", {ListWords}},
+    {"combo", {{}, {}, true}}, // on its list's bar, in the standard mode
     {"report list", {ReportWords, {}, true}},
     {"tool bar", {ToolBarWords}},
     {"tree", {TreeWords, {}, true}},
