@@ -2,8 +2,6 @@
 
 #include "CustomListBox.h"
 
-#include <vector>
-
 namespace lists {
 class CheckRecords;
 }
@@ -64,19 +62,11 @@ public:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PreSubclassWindow() override;
 
-    // What assistive programs are told: each row is a check button with its check.
-    HRESULT get_accChildCount(long* count) override;
-    HRESULT get_accChild(VARIANT child, IDispatch** object) override;
-    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    // What assistive programs are told: as of any list box, but each row is a check button with its
+    // check.
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
-    HRESULT get_accFocus(VARIANT* child) override;
-    HRESULT get_accSelection(VARIANT* children) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
-    HRESULT accSelect(long flags, VARIANT child) override;
-    HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
-    HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
-    HRESULT accHitTest(long left, long top, VARIANT* child) override;
     // Changes the row's check as a click on it would, of this one row, and tells the parent; the
     // selection and the focus stay.
     HRESULT accDoDefaultAction(VARIANT child) override;
@@ -135,7 +125,6 @@ private:
     int m_ownHeight[2] = {}; // what rows were last given in the standard and the on-board modes
     bool m_emptied = false;  // all items go, and their owner is being told
 
-    bool Exists(int index);
     ULONG_PTR SlotOf(int index);
     _KES_CHECKLIST_STATE* RecordOf(int index);
     _KES_CHECKLIST_STATE* MakeRecord(int index);
@@ -143,22 +132,14 @@ private:
     void ReleaseRecords();
     template <class Search> LRESULT SearchData(WPARAM start, LPARAM data, Search search);
     void AnnounceState(int index);
-    bool IsRow(const VARIANT& child, int& index);
-    std::vector<int> SelectedRows();
 
     int RowHeight();
     void FitRows();
-    CRect RowRect(int index);
     CRect RowsArea();
     CRect CheckRect(const CRect& row);
-    bool IsInSight(int index, CRect& row);
 
     bool CanChange(int index);
     int RowChangedAt(CPoint point);
-    bool ExtendsSelection() const { return (GetStyle() & LBS_EXTENDEDSEL) != 0; }
-    bool FlipsSelection() const;
-    bool IsSelected(int index) { return Ask(LB_GETSEL, WPARAM(index)) > 0; }
     void ChangeCheck(int index, bool forSelection);
     void ChangeSelection(int index);
-    void NotifyParent(UINT code);
 };

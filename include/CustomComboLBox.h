@@ -79,6 +79,15 @@ public:
 
     void DrawItem(LPDRAWITEMSTRUCT draw) override;
 
+    // What assistive programs are told: as of any list box, but the highlighted row is the selected
+    // one. Selecting highlights as the pointer does and leaves the focus to the combo.
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accSelection(VARIANT* children) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    HRESULT accSelect(long flags, VARIANT child) override;
+    // Picks the row, as a click on it does; fails while the list is closed.
+    HRESULT accDoDefaultAction(VARIANT child) override;
+
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 

@@ -7,6 +7,7 @@
 
 #include <map>
 #include <memory>
+#include <vector>
 
 // The list box of the library. In the standard mode it is the platform's list box. In an on-board
 // mode it takes the platform's scroll bars away and drives wide ones of its own, painted in its
@@ -86,6 +87,26 @@ public:
 
     void PreSubclassWindow() override;
 
+    // What assistive programs are told: a list, named by the label before it, whose rows are list
+    // items with their texts. A row's child id is its index and one. Rows out of sight are told as
+    // off-screen.
+    HRESULT get_accChildCount(long* count) override;
+    HRESULT get_accChild(VARIANT child, IDispatch** object) override;
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accFocus(VARIANT* child) override;
+    HRESULT get_accSelection(VARIANT* children) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    // Selects as the user does, and tells the parent of a list with LBS_NOTIFY.
+    HRESULT accSelect(long flags, VARIANT child) override;
+    HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
+    HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
+    HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    // A double click on a row, in a list with LBS_NOTIFY: selects it at once and posts the parent
+    // LBN_DBLCLK, which may open a dialog.
+    HRESULT accDoDefaultAction(VARIANT child) override;
+
 protected:
     // Lays the window out for the display mode of the moment, if it is still laid out for the other
     // kind; true when the mode is on-board and the list is still there. Every handler asks it
@@ -96,6 +117,24 @@ protected:
     bool HasText() const; // rows are strings
     bool InColumns() const { return (GetStyle() & LBS_MULTICOLUMN) != 0; }
     HFONT Font(); // of the control; null: the system's
+
+    bool Exists(int index);
+    // Whether a child id is that of a row; gives its index.
+    bool IsRow(const VARIANT& child, int& index);
+    // The place of a row that exists, in client coordinates.
+    CRect RowRect(int index);
+    // Whether any of a row that exists can be seen; gives its place.
+    bool IsInSight(int index, CRect& row);
+    // The row under a point in client coordinates, or -1.
+    int RowFromPoint(CPoint point);
+    bool ExtendsSelection() const { return (GetStyle() & LBS_EXTENDEDSEL) != 0; }
+    // Whether each space changes the selection of one row and leaves the others. Of a list with
+    // both styles that is true of the key alone: to clicks it is one of an extended selection.
+    bool FlipsSelection() const { return (GetStyle() & LBS_MULTIPLESEL) != 0; }
+    bool IsSelected(int index) { return Ask(LB_GETSEL, WPARAM(index)) > 0; }
+    std::vector<int> SelectedRows();
+    // Sends the parent WM_COMMAND with this code. It may end the list.
+    void NotifyParent(UINT code);
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 

@@ -95,6 +95,27 @@ protected:
 public:
     void PreSubclassWindow() override;
 
+    // What assistive programs are told: a list, named by the label before it, whose rows are list
+    // items; the header, where it is shown, is its last child. A row's child id is its index and
+    // one, its name the text of the first column, and its description the texts of the others with
+    // "; " between them. Rows stand where they are drawn.
+    HRESULT get_accChildCount(long* count) override;
+    HRESULT get_accChild(VARIANT child, IDispatch** object) override;
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accDescription(VARIANT child, BSTR* description) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accFocus(VARIANT* child) override;
+    HRESULT get_accSelection(VARIANT* children) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    // Selects as the user does; a row that takes the focus comes into sight.
+    HRESULT accSelect(long flags, VARIANT child) override;
+    HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
+    HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
+    HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    // Selects a row at once and, by a posted message, activates it as the Enter key does.
+    HRESULT accDoDefaultAction(VARIANT child) override;
+
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
@@ -129,6 +150,8 @@ protected:
     afx_msg void OnTimer(UINT_PTR id);
     // Takes the header that exists by now.
     afx_msg LRESULT OnSubclassCustomHeader(WPARAM wParam, LPARAM lParam);
+    // Activates the row with the focus for an assistive program.
+    afx_msg LRESULT OnActivateRow(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInsertColumn(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteColumn(WPARAM wParam, LPARAM lParam);
@@ -264,6 +287,12 @@ private:
     void ClearSelection();
     bool MoveByPage(UINT key, UINT flags);
     void SelectClicked(const CPoint& point, UINT flags);
+    static constexpr int LongestText = 512; // characters; no cell shows as many
+    const WCHAR* ReadCell(int row, int column, WCHAR* text);
+    HRESULT GiveRowTexts(int row, int from, int to, BSTR* texts);
+    bool IsRow(const VARIANT& child, int& row) const;
+    bool RowPlace(int row, CRect& place) const;
+    int RowAt(const CPoint& point) const;
     void DrawRow(CDC& dc, int row, const CRect& rowRect, const std::vector<CRect>& cells,
                  const CRect& clip);
 };

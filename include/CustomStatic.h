@@ -33,6 +33,12 @@ public:
 
     void PreSubclassWindow() override;
 
+    // What assistive programs are told: a group box, a picture or a text, by the style, with the
+    // caption as its name.
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+
 protected:
     // The controls of a dialog, property page or form view that is the parent; with any other
     // parent the list stays as it was.

@@ -13,7 +13,7 @@ class ONBOARDUI_API CCustomStatusBar : public CStatusBarCtrl
     DECLARE_DYNAMIC(CCustomStatusBar)
 
 public:
-    CCustomStatusBar() = default;
+    CCustomStatusBar();
     ~CCustomStatusBar() override;
 
     // Shared, made on first use and kept for the life of the process.
@@ -21,6 +21,12 @@ public:
 
     // Draws the whole client area in the on-board look.
     virtual void DrawOB(CDC& dc);
+
+    // What assistive programs are told: a status bar, whose value is the texts of its panes with
+    // "; " between them. Empty panes and those that the owner draws have none.
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accValue(VARIANT child, BSTR* value) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT cs);
@@ -40,4 +46,5 @@ private:
 
     bool FollowMode();
     void DrawPane(CDC& dc, int pane, const CRect& place);
+    CString PaneText(int pane) const;
 };

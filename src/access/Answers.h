@@ -34,6 +34,46 @@ inline HRESULT Give(BSTR& place, const CString& text)
     return S_OK;
 }
 
+// What the platform says of a window's state, for one that shows something and takes no input.
+inline HRESULT ReadOnly(HRESULT result, VARIANT& state)
+{
+    if (SUCCEEDED(result) && state.vt == VT_I4)
+    {
+        state.lVal = (state.lVal & ~STATE_SYSTEM_FOCUSABLE) | STATE_SYSTEM_READONLY;
+    }
+    return result;
+}
+
+// The text of a label without the mark of its mnemonic.
+inline CString LabelText(HWND label)
+{
+    CString text;
+    CWnd::FromHandle(label)->GetWindowText(text);
+    if ((::GetWindowLongPtr(label, GWL_STYLE) & SS_NOPREFIX) != 0)
+    {
+        return text;
+    }
+    CString plain;
+    for (int index = 0; index < text.GetLength(); ++index)
+    {
+        if (text[index] == '&' && index + 1 < text.GetLength())
+        {
+            ++index; // "&&" stands for one
+        }
+        plain += text[index];
+    }
+    return plain;
+}
+
+// The label before a control, whose text is the control's name, as the platform has it; or null.
+inline HWND LabelBefore(HWND control)
+{
+    const HWND before = ::GetWindow(control, GW_HWNDPREV);
+    const bool isLabel =
+        before != nullptr && (::SendMessage(before, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) != 0;
+    return isLabel ? before : nullptr;
+}
+
 inline bool IsSelf(const VARIANT& child)
 {
     return child.vt == VT_I4 && child.lVal == CHILDID_SELF;

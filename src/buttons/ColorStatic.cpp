@@ -7,7 +7,11 @@ BEGIN_MESSAGE_MAP(CColorStatic, CStatic)
     ON_WM_ENABLE()
 END_MESSAGE_MAP()
 
-CColorStatic::CColorStatic() {} // meant: the colour is the host's to give
+CColorStatic::CColorStatic() // meant: the colour is the host's to give
+{
+    EnableActiveAccessibility();
+}
+
 CColorStatic::~CColorStatic() = default;
 
 void CColorStatic::Set(COLORREF color)

@@ -12,7 +12,9 @@ END_MESSAGE_MAP()
 
 CColoredGroupBox::CColoredGroupBox()
     : m_color(::GetSysColor(COLOR_WINDOWTEXT))
-{}
+{
+    EnableActiveAccessibility();
+}
 
 CColoredGroupBox::~CColoredGroupBox() = default;
 

@@ -45,6 +45,7 @@ template <class Container> bool TakeControls(CWnd& parent, std::vector<CWnd*>& c
 CCustomStatic::CCustomStatic()
     : m_background(palette::Panel)
 {
+    EnableActiveAccessibility();
     MakeControlPen(m_OutlinePen, palette::GroupOutline);
     GetOnBoardFont();
 }

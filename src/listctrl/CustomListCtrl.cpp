@@ -51,6 +51,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_WM_HSCROLL()
     ON_WM_TIMER()
     ON_MESSAGE(SubclassHeaderMessage, &CCustomListCtrl::OnSubclassCustomHeader)
+    ON_MESSAGE(listctrl::ActivateMessage, &CCustomListCtrl::OnActivateRow)
     ON_MESSAGE(WM_SETREDRAW, &CCustomListCtrl::OnSetRedraw)
     ON_MESSAGE(LVM_INSERTCOLUMNA, &CCustomListCtrl::OnInsertColumn)
     ON_MESSAGE(LVM_INSERTCOLUMNW, &CCustomListCtrl::OnInsertColumn)
@@ -88,6 +89,7 @@ CCustomListCtrl::CCustomListCtrl()
     , m_hBar(SB_HORZ)
     , m_bars(std::make_unique<Bars>(*this))
 {
+    EnableActiveAccessibility();
     MakeControlPen(m_OutlinePen, palette::Outline);
     if (m_OutlineBrush.GetSafeHandle() == nullptr)
     {

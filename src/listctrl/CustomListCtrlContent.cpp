@@ -365,9 +365,15 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
     {
     case LVM_SETITEMTEXTA:
     case LVM_SETITEMTEXTW:
-    case LVM_SETITEMSTATE:
     case LVM_UPDATE:
         InvalidateRows(row < 0 ? 0 : row, row < 0 ? end : row);
+        break;
+    case LVM_SETITEMSTATE:
+        InvalidateRows(row < 0 ? 0 : row, row < 0 ? end : row);
+        if (lParam != 0 && (reinterpret_cast<const LVITEM*>(lParam)->stateMask & LVIS_FOCUSED) != 0)
+        {
+            HoldPlatform(); // some platforms bring the row with the focus into sight
+        }
         break;
     case LVM_SETITEMA:
     case LVM_SETITEMW:

@@ -192,11 +192,22 @@ void DrawCellText(HDC dc, const WCHAR* text, CRect cell)
 
 } // namespace
 
+// The text of a cell: in text, which holds the longest one, or where its owner keeps it.
+const WCHAR* CCustomListCtrl::ReadCell(int row, int column, WCHAR* text)
+{
+    *text = L'\0';
+    LVITEMW item = {};
+    item.iSubItem = column;
+    item.pszText = text;
+    item.cchTextMax = LongestText;
+    Ask(LVM_GETITEMTEXTW, WPARAM(row), reinterpret_cast<LPARAM>(&item));
+    return item.pszText == nullptr ? L"" : item.pszText;
+}
+
 void CCustomListCtrl::DrawRow(CDC& dc, int row, const CRect& rowRect,
                               const std::vector<CRect>& cells, const CRect& clip)
 {
-    constexpr int longest = 512; // characters; no cell shows as many
-    WCHAR text[longest];
+    WCHAR text[LongestText];
     const WindowAlive alive(*this);
     // From the last column on, so that the first one ends on top.
     for (int column = int(cells.size()) - 1; column >= 0 && alive; --column)
@@ -206,18 +217,13 @@ void CCustomListCtrl::DrawRow(CDC& dc, int row, const CRect& rowRect,
         {
             continue;
         }
-        text[0] = L'\0';
-        LVITEMW item = {};
-        item.iSubItem = column;
-        item.pszText = text;
-        item.cchTextMax = longest;
-        Ask(LVM_GETITEMTEXTW, WPARAM(row), reinterpret_cast<LPARAM>(&item));
-        if (alive && item.pszText != nullptr && *item.pszText != L'\0')
+        const WCHAR* const shown = ReadCell(row, column, text);
+        if (alive && *shown != L'\0')
         {
             cell.top = rowRect.top;
             cell.bottom = rowRect.bottom;
             cell.left += metrics::ListRowMargin; // under the heading
-            DrawCellText(dc.GetSafeHdc(), item.pszText, cell);
+            DrawCellText(dc.GetSafeHdc(), shown, cell);
         }
     }
 }

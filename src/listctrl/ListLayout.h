@@ -12,6 +12,9 @@
 
 namespace listctrl {
 
+// Posted by a list to itself, to activate the row with the focus.
+constexpr UINT ActivateMessage = 0x069B;
+
 // What a bar is to show.
 struct BarData
 {

@@ -44,9 +44,7 @@ CFont CCustomChecklistBox::m_StdFont;
 
 CCustomChecklistBox::CCustomChecklistBox()
     : m_records(std::make_unique<CheckRecords>())
-{
-    EnableActiveAccessibility();
-}
+{}
 
 CCustomChecklistBox::~CCustomChecklistBox()
 {
@@ -102,11 +100,6 @@ void CCustomChecklistBox::OnDestroy()
 }
 
 // Records ---------------------------------------------------------------------------------------
-
-bool CCustomChecklistBox::Exists(int index)
-{
-    return index >= 0 && index < Ask(LB_GETCOUNT);
-}
 
 // Of an item that exists.
 ULONG_PTR CCustomChecklistBox::SlotOf(int index)

@@ -18,20 +18,6 @@ bool CCustomChecklistBox::CanChange(int index)
     return lists::ChangesItself(m_checkStyle) && (GetStyle() & LBS_NODATA) == 0 && IsEnabled(index);
 }
 
-// Whether each space changes the selection of one row and leaves the others. Of a list with both
-// styles that is true of the key alone: to clicks it is one of an extended selection.
-bool CCustomChecklistBox::FlipsSelection() const
-{
-    return (GetStyle() & LBS_MULTIPLESEL) != 0;
-}
-
-// The last thing that its callers do.
-void CCustomChecklistBox::NotifyParent(UINT code)
-{
-    ::SendMessage(::GetParent(GetSafeHwnd()), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code),
-                  reinterpret_cast<LPARAM>(GetSafeHwnd()));
-}
-
 // One turn of a row's check, for all of the selected rows too if so wished.
 void CCustomChecklistBox::ChangeCheck(int index, bool forSelection)
 {
@@ -42,19 +28,6 @@ void CCustomChecklistBox::ChangeCheck(int index, bool forSelection)
     {
         SetSelectionCheck(check);
     }
-}
-
-std::vector<int> CCustomChecklistBox::SelectedRows()
-{
-    const int count = Ask(LB_GETSELCOUNT); // an error in a list that selects one row
-    if (count < 0)
-    {
-        const int index = Ask(LB_GETCURSEL);
-        return index < 0 ? std::vector<int>() : std::vector<int>{index};
-    }
-    std::vector<int> rows(size_t{unsigned(count)});
-    Ask(LB_GETSELITEMS, WPARAM(count), reinterpret_cast<LPARAM>(rows.data()));
-    return rows;
 }
 
 void CCustomChecklistBox::SetSelectionCheck(int check)

@@ -115,65 +115,11 @@ CRect CCustomChecklistBox::CheckRect(const CRect& row)
     return OnGetCheckPosition(row, lists::CheckPlace(row, CheckSize()));
 }
 
-// The place of an item that exists, in client coordinates. Some platforms tell it as it is before
-// the list is scrolled sideways.
-CRect CCustomChecklistBox::RowRect(int index)
-{
-    CRect row;
-    Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row));
-    const int left = InColumns() ? 0 : -::GetScrollPos(GetSafeHwnd(), SB_HORZ);
-    if (left < 0 && row.left > left)
-    {
-        row.MoveToX(left);
-    }
-    return row;
-}
-
-// Whether any of an item that exists can be seen; gives its place.
-bool CCustomChecklistBox::IsInSight(int index, CRect& row)
-{
-    CRect client;
-    GetClientRect(&client);
-    const int fromTop = index - Ask(LB_GETTOPINDEX);
-    // A row so far down that it is out of sight however low the rows are is not even looked up.
-    if (fromTop < 0 || (!InColumns() && fromTop > client.Height()))
-    {
-        return false;
-    }
-    row = RowRect(index);
-    return row.top < client.bottom && row.left < client.right;
-}
-
 int CCustomChecklistBox::CheckFromPoint(CPoint point, int& onCheck)
 {
-    onCheck = FALSE;
-    const int count = Ask(LB_GETCOUNT);
-    const int width = CheckSize().cx;
-    int index = Ask(LB_GETTOPINDEX);
-    CRect row;
-    const bool fixed =
-        (GetStyle() & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) == LBS_OWNERDRAWFIXED;
-    if (fixed && !InColumns())
-    {
-        const int height = Ask(LB_GETITEMHEIGHT);
-        if (height <= 0 || point.y < 0 || point.y / height >= count - index)
-        {
-            return -1;
-        }
-        index += point.y / height;
-        row = RowRect(index);
-        onCheck = lists::IsOnCheck(point.x - row.left, width);
-        return index;
-    }
-    for (; index < count && IsInSight(index, row); ++index)
-    {
-        if (row.PtInRect(point))
-        {
-            onCheck = lists::IsOnCheck(point.x - row.left, width);
-            return index;
-        }
-    }
-    return -1;
+    const int index = RowFromPoint(point);
+    onCheck = index >= 0 && lists::IsOnCheck(point.x - RowRect(index).left, CheckSize().cx);
+    return index;
 }
 
 void CCustomChecklistBox::InvalidateCheck(int index)

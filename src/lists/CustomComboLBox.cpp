@@ -319,6 +319,11 @@ void CCustomComboLBox::SetHotRow(int row)
     InvalidateRow(GetHighlightedRow());
     m_hotRow = row;
     InvalidateRow(GetHighlightedRow());
+    if (row >= 0)
+    {
+        // The platform's list box knows nothing of it. A listener in this process may end the list.
+        ::NotifyWinEvent(EVENT_OBJECT_SELECTION, GetSafeHwnd(), OBJID_CLIENT, row + 1);
+    }
 }
 
 void CCustomComboLBox::Pick(int row)

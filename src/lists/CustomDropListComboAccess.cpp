@@ -6,36 +6,12 @@
 #include "access/Answers.h"
 #include "modes/WindowAlive.h"
 
-namespace {
-
-// The text of a label without the mark of its mnemonic.
-CString Plain(const CString& label)
-{
-    CString plain;
-    for (int index = 0; index < label.GetLength(); ++index)
-    {
-        if (label[index] == '&' && index + 1 < label.GetLength())
-        {
-            ++index; // "&&" stands for one
-        }
-        plain += label[index];
-    }
-    return plain;
-}
-
-} // namespace
-
 // The name is that of the label before it, as the platform's combos have it.
 HRESULT CCustomDropListCombo::get_accName(VARIANT child, BSTR* name)
 {
-    const HWND before = access::IsSelf(child) ? ::GetWindow(GetSafeHwnd(), GW_HWNDPREV) : nullptr;
-    if (before == nullptr || (::SendMessage(before, WM_GETDLGCODE, 0, 0) & DLGC_STATIC) == 0)
-    {
-        return CWnd::get_accName(child, name);
-    }
-    CString label;
-    CWnd::FromHandle(before)->GetWindowText(label);
-    return access::Give(*name, Plain(label));
+    const HWND label = access::IsSelf(child) ? access::LabelBefore(GetSafeHwnd()) : nullptr;
+    return label == nullptr ? CWnd::get_accName(child, name)
+                            : access::Give(*name, access::LabelText(label));
 }
 
 HRESULT CCustomDropListCombo::get_accValue(VARIANT child, BSTR* value)

@@ -82,6 +82,7 @@ CCustomListBox::CCustomListBox()
     , m_hBar(SB_HORZ)
     , m_bars(std::make_unique<Bars>(*this))
 {
+    EnableActiveAccessibility();
     MakeControlPen(m_OutlinePen, palette::Outline);
     m_bars->HideBars();
 }

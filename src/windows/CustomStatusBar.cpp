@@ -1,6 +1,7 @@
 #include "CustomStatusBar.h"
 
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/ControlFonts.h"
@@ -26,7 +27,23 @@ namespace {
 constexpr int TextMargin = 6;   // from either edge of a pane
 constexpr int SimplePane = 255; // stands for the whole bar's text in its simple form
 
+// A tab in front centres a pane's text, two put it to the right.
+int LeadingTabs(const CString& text)
+{
+    int tabs = 0;
+    while (tabs < 2 && tabs < text.GetLength() && text[tabs] == '\t')
+    {
+        ++tabs;
+    }
+    return tabs;
+}
+
 } // namespace
+
+CCustomStatusBar::CCustomStatusBar()
+{
+    EnableActiveAccessibility();
+}
 
 CCustomStatusBar::~CCustomStatusBar() = default;
 
@@ -194,15 +211,55 @@ void CCustomStatusBar::DrawPane(CDC& dc, int pane, const CRect& place)
         return;
     }
     const CString text = GetText(pane);
-    // A tab in front centres the text, two put it to the right.
-    int tabs = 0;
-    while (tabs < 2 && tabs < text.GetLength() && text[tabs] == '\t')
-    {
-        ++tabs;
-    }
+    const int tabs = LeadingTabs(text);
     constexpr UINT alignments[] = {DT_LEFT, DT_CENTER, DT_RIGHT};
     CRect area(place);
     area.DeflateRect(TextMargin, 0);
     dc.DrawText(text.Mid(tabs), &area,
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | alignments[tabs]);
+}
+
+// Assistive programs ----------------------------------------------------------------------------
+
+CString CCustomStatusBar::PaneText(int pane) const
+{
+    int type = 0;
+    GetTextLength(pane, &type);
+    if ((type & SBT_OWNERDRAW) != 0)
+    {
+        return "";
+    }
+    const CString text = GetText(pane);
+    return text.Mid(LeadingTabs(text));
+}
+
+HRESULT CCustomStatusBar::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_STATUSBAR)
+                                 : CStatusBarCtrl::get_accRole(child, role);
+}
+
+HRESULT CCustomStatusBar::get_accValue(VARIANT child, BSTR* value)
+{
+    if (!access::IsSelf(child))
+    {
+        return CStatusBarCtrl::get_accValue(child, value);
+    }
+    if (IsSimple())
+    {
+        return access::Give(*value, PaneText(SimplePane));
+    }
+    CString texts;
+    const int count = GetParts(0, nullptr);
+    for (int pane = 0; pane < count; ++pane)
+    {
+        const CString text = PaneText(pane);
+        texts += texts.IsEmpty() || text.IsEmpty() ? text : "; " + text;
+    }
+    return access::Give(*value, texts);
+}
+
+HRESULT CCustomStatusBar::get_accState(VARIANT child, VARIANT* state)
+{
+    return access::ReadOnly(CStatusBarCtrl::get_accState(child, state), *state);
 }

@@ -1,81 +1,13 @@
 // The check list as an assistive program sees it: through the platform's accessibility interface.
 
 #include "lists/check_list_for_tests.h"
-
-#include <oleacc.h>
+#include "support/Accessible.h"
 
 #include <gmock/gmock.h>
 
 #include <thread>
 
 using testing::ElementsAre;
-
-namespace {
-
-struct Releaser
-{
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class Interface> using Held = std::unique_ptr<Interface, Releaser>;
-
-Held<IAccessible> Reached(HWND window)
-{
-    IAccessible* reached = nullptr;
-    const HRESULT result = ::AccessibleObjectFromWindow(
-        window, DWORD(OBJID_CLIENT), IID_IAccessible, reinterpret_cast<void**>(&reached));
-    EXPECT_EQ(result, S_OK);
-    return Held<IAccessible>(reached);
-}
-
-VARIANT Child(long id)
-{
-    VARIANT child = {};
-    child.vt = VT_I4;
-    child.lVal = id;
-    return child;
-}
-
-std::string Taken(BSTR text)
-{
-    const std::wstring wide(text != nullptr ? text : L"(none)");
-    ::SysFreeString(text);
-    return std::string(wide.begin(), wide.end());
-}
-
-// What an assistive program reads of a row. Where it is refused, -1 and "(error)".
-struct Read
-{
-    Read(IAccessible& object, long child)
-    {
-        VARIANT number = {};
-        BSTR text = nullptr;
-        if (SUCCEEDED(object.get_accRole(Child(child), &number)))
-        {
-            role = number.lVal;
-        }
-        if (SUCCEEDED(object.get_accState(Child(child), &number)))
-        {
-            state = number.lVal &
-                    (STATE_SYSTEM_CHECKED | STATE_SYSTEM_MIXED | STATE_SYSTEM_UNAVAILABLE |
-                     STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN);
-        }
-        if (SUCCEEDED(object.get_accName(Child(child), &text)))
-        {
-            name = Taken(std::exchange(text, nullptr));
-        }
-        if (SUCCEEDED(object.get_accDefaultAction(Child(child), &text)))
-        {
-            action = Taken(text);
-        }
-    }
-
-    long role = -1;
-    long state = -1;
-    std::string name = "(error)";
-    std::string action = "(error)";
-};
-
-} // namespace
 
 class CheckListAccess : public CheckListTest
 {
@@ -162,18 +94,12 @@ TEST_F(CheckListAccess, PlacesFocusAndSelection)
     auto& list = AddList(8, BS_AUTOCHECKBOX, CheckListStyle | LBS_EXTENDEDSEL);
     const Held<IAccessible> object = Reached(list);
     ASSERT_TRUE(object);
-    long left = 0;
-    long top = 0;
-    long width = 0;
-    long height = 0;
-    ASSERT_EQ(object->accLocation(&left, &top, &width, &height, Child(3)), S_OK);
     CRect row = list.RowRect(2);
     list.ClientToScreen(&row);
-    EXPECT_EQ(CRect(CPoint(left, top), CSize(width, height)), row);
+    EXPECT_EQ(PlaceOf(*object, 3), row);
+    EXPECT_EQ(ChildAt(*object, row.TopLeft() + CSize(1, 1)), 3);
+    EXPECT_EQ(ChildAt(*object, row.TopLeft() - CSize(400, 0)), -1);
     VARIANT answer = {};
-    EXPECT_EQ(object->accHitTest(left + 1, top + 1, &answer), S_OK);
-    EXPECT_EQ(answer.lVal, 3);
-    EXPECT_EQ(object->accHitTest(left - 400, top, &answer), S_FALSE);
     EXPECT_EQ(object->accNavigate(NAVDIR_NEXT, Child(3), &answer), S_OK);
     EXPECT_EQ(answer.lVal, 4);
     EXPECT_EQ(object->accNavigate(NAVDIR_LASTCHILD, Child(CHILDID_SELF), &answer), S_OK);

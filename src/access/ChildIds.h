@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-namespace lists {
+namespace access {
 
 class ChildIds final : public IEnumVARIANT
 {
@@ -92,4 +92,4 @@ private:
     LONG m_count = 1;
 };
 
-} // namespace lists
+} // namespace access

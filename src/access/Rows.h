@@ -1,0 +1,98 @@
+#pragma once
+
+// What lists answer of their rows. A row's child id is its index and one, as the platform's lists
+// have it in the events that they raise; rows are no objects of their own.
+
+#include "access/Answers.h"
+#include "access/ChildIds.h"
+
+#include <vector>
+
+namespace access {
+
+constexpr long ChildOf(int index)
+{
+    return index + 1;
+}
+
+// The row that a child id stands for in a list of so many, or -1.
+inline int RowOf(const VARIANT& child, int count)
+{
+    return child.vt == VT_I4 && child.lVal > 0 && child.lVal <= count ? child.lVal - 1 : -1;
+}
+
+// Whether a list does what the flags ask for; only one of many selected rows adds to them.
+constexpr bool CanSelect(long flags, bool many)
+{
+    const long selects = flags & ~long(SELFLAG_TAKEFOCUS);
+    return selects == SELFLAG_NONE || selects == SELFLAG_TAKESELECTION ||
+           (many && (selects == SELFLAG_ADDSELECTION || selects == SELFLAG_REMOVESELECTION));
+}
+
+// The selected rows: nothing, the one, or all of them one after the other.
+template <class Rows> HRESULT GiveRows(VARIANT& place, const Rows& rows)
+{
+    if (rows.empty())
+    {
+        return GiveNothing(place);
+    }
+    if (rows.size() == 1)
+    {
+        return Give(place, ChildOf(*rows.begin()));
+    }
+    std::vector<long> ids;
+    for (const int row : rows)
+    {
+        ids.push_back(ChildOf(row));
+    }
+    place.vt = VT_UNKNOWN;
+    place.punkVal = new ChildIds(std::move(ids));
+    return S_OK;
+}
+
+// A row's place, which is in client coordinates.
+inline HRESULT GivePlace(const CWnd& list, CRect row, long* left, long* top, long* width,
+                         long* height)
+{
+    list.ClientToScreen(&row);
+    *left = row.left;
+    *top = row.top;
+    *width = row.Width();
+    *height = row.Height();
+    return S_OK;
+}
+
+// Whether it is a step to the list's neighbours rather than to one of its rows.
+inline bool LeavesList(long direction, const VARIANT& start)
+{
+    return IsSelf(start) && direction != NAVDIR_FIRSTCHILD && direction != NAVDIR_LASTCHILD;
+}
+
+// A step from the list to a row, or from one row to the next.
+inline HRESULT Navigate(long direction, const VARIANT& start, int count, VARIANT& end)
+{
+    int index = RowOf(start, count);
+    if (IsSelf(start))
+    {
+        index = direction == NAVDIR_FIRSTCHILD ? 0 : count - 1;
+    }
+    else if (index < 0)
+    {
+        return E_INVALIDARG;
+    }
+    else if (direction == NAVDIR_NEXT || direction == NAVDIR_DOWN)
+    {
+        ++index;
+    }
+    else if (direction == NAVDIR_PREVIOUS || direction == NAVDIR_UP)
+    {
+        --index;
+    }
+    else
+    {
+        return GiveNothing(end);
+    }
+    return index >= 0 && index < count ? Give(end, ChildOf(index)) : GiveNothing(end);
+}
+
+} // namespace access

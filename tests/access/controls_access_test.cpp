@@ -1,0 +1,149 @@
+// What each kind of control answers to assistive programs, in the standard and an on-board mode.
+
+#include "BoldStatic.h"
+#include "ColorStatic.h"
+#include "ColoredGroupBox.h"
+#include "CustomCheckBox.h"
+#include "CustomListBox.h"
+#include "CustomListCtrl.h"
+#include "CustomStatusBar.h"
+#include "lists/combo_for_tests.h"
+#include "support/Accessible.h"
+#include "support/WindowTest.h"
+
+#include <gmock/gmock.h>
+
+class Access : public WindowTest, public testing::WithParamInterface<APPMODE>
+{
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        ::CoInitialize(nullptr);
+        COnBoardUIGeneral::SetAppMode(GetParam());
+    }
+    void TearDown() override
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        WindowTest::TearDown();
+        ::CoUninitialize();
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Modes, Access, testing::Values(STD, ONBOARD));
+
+TEST_P(Access, WhatOnlyShowsTellsItsKindAndText)
+{
+    const CRect place(10, 10, 110, 60);
+    auto& bar = Add<CCustomStatusBar>(place);
+    int edges[] = {60, 120, -1};
+    bar.SetParts(3, edges);
+    bar.SetText("Ready", 0, 0);
+    bar.SetText("\tUTC 12:00", 2, 0);
+    const struct
+    {
+        const CWnd& window;
+        long role;
+        const char* name;
+    } statics[] = {
+        {Add<CCustomStatic>(place, 0, "&Fuel && oil"), ROLE_SYSTEM_STATICTEXT, "Fuel & oil"},
+        {Add<CBoldStatic>(place, SS_NOPREFIX, "A&B"), ROLE_SYSTEM_STATICTEXT, "A&B"},
+        {Add<CCustomStatic>(place, SS_ICON, ""), ROLE_SYSTEM_GRAPHIC, ""},
+        {Add<CCustomStatic>(place, BS_GROUPBOX, "&Tanks"), ROLE_SYSTEM_GROUPING, "Tanks"},
+        {Add<CColoredGroupBox>(place, 0, "Frame"), ROLE_SYSTEM_GROUPING, "Frame"},
+        {Add<CColorStatic>(place, 0, "Red"), ROLE_SYSTEM_GRAPHIC, "Red"},
+        {bar, ROLE_SYSTEM_STATUSBAR, "Ready"},
+    };
+    for (const auto& expected : statics)
+    {
+        const Read read(*Reached(expected.window), CHILDID_SELF);
+        EXPECT_EQ(read.role, expected.role) << expected.name;
+        EXPECT_EQ(read.name, expected.name);
+        EXPECT_EQ(read.state, STATE_SYSTEM_READONLY) << expected.name;
+    }
+    EXPECT_EQ(Read(*Reached(bar), CHILDID_SELF).value, "Ready; UTC 12:00");
+}
+
+TEST_P(Access, DefaultActionsWorkAsTheUserDoes)
+{
+    auto& box = Add<CCustomCheckBox>(CRect(10, 10, 200, 60), BS_AUTOCHECKBOX, "Auto");
+    const Held<IAccessible> check = Reached(box);
+    EXPECT_EQ(Read(*check, CHILDID_SELF).action, "Check");
+    EXPECT_EQ(check->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+    EXPECT_EQ(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_CHECKED, 0) << "posted";
+    PumpAll();
+    EXPECT_NE(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_CHECKED, 0);
+
+    Add<CCustomStatic>(CRect(10, 70, 110, 90), 0, "&Runway");
+    auto& combo = Add<ComboForTests>(CRect(10, 90, 200, 120));
+    combo.AddString("07L");
+    combo.AddString("25R");
+    combo.SetCurSel(0);
+    const Held<IAccessible> object = Reached(combo);
+    const auto open = [&] {
+        return Read(*object, CHILDID_SELF).state & (STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED);
+    };
+    EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED);
+    EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+    EXPECT_EQ(open(), STATE_SYSTEM_EXPANDED);
+    // The open list: highlighting chooses nothing yet, the default action does and closes.
+    const Held<IAccessible> list = Reached(combo.List());
+    EXPECT_EQ(list->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(2)), S_OK);
+    EXPECT_EQ(Read(*list, 2).state, STATE_SYSTEM_SELECTED);
+    EXPECT_EQ(CWnd::GetFocus(), &combo);
+    EXPECT_EQ(Read(*object, CHILDID_SELF).value, "07L");
+    EXPECT_EQ(list->accDoDefaultAction(Child(2)), S_OK);
+    EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED);
+    EXPECT_EQ(Read(*object, CHILDID_SELF).value, "25R");
+    EXPECT_EQ(Read(*object, CHILDID_SELF).name, "Runway");
+    EXPECT_EQ(list->accDoDefaultAction(Child(1)), DISP_E_MEMBERNOTFOUND);
+}
+
+TEST_P(Access, RowsAreToldWhereTheyStand)
+{
+    auto& box = Add<CCustomListBox>(CRect(10, 10, 200, 160), LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
+    auto& report = Add<CCustomListCtrl>(CRect(210, 10, 460, 210), LVS_REPORT | LVS_SHOWSELALWAYS);
+    report.InsertColumn(0, "Name", LVCFMT_LEFT, 60);
+    report.InsertColumn(1, "Fuel", LVCFMT_LEFT, 40);
+    report.InsertColumn(2, "Load", LVCFMT_LEFT, 40);
+    for (int row = 0; row < 60; ++row)
+    {
+        const std::string text = "Row " + std::to_string(row);
+        box.AddString(text.c_str());
+        report.InsertItem(row, text.c_str());
+        report.SetItemText(row, 1, "12 t");
+        report.SetItemText(row, 2, "9 t");
+    }
+    for (CWnd* const window : {static_cast<CWnd*>(&box), static_cast<CWnd*>(&report)})
+    {
+        SCOPED_TRACE(window == &box ? "list box" : "report list");
+        const Held<IAccessible> object = Reached(*window);
+        EXPECT_EQ(Read(*object, CHILDID_SELF).role, ROLE_SYSTEM_LIST);
+        EXPECT_EQ(Read(*object, 41).role, ROLE_SYSTEM_LISTITEM);
+        EXPECT_EQ(Read(*object, 41).name, "Row 40");
+        EXPECT_EQ(Read(*object, 41).state, STATE_SYSTEM_OFFSCREEN);
+        Host().Forget();
+        EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(41)), S_OK);
+        EXPECT_FALSE(Host().CodesFrom(UINT(window->GetDlgCtrlID())).empty());
+        EXPECT_EQ(Read(*object, 41).state, STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED);
+        EXPECT_EQ(Read(*object, 1).state, STATE_SYSTEM_OFFSCREEN);
+        // What is told of a place is what a click on it finds.
+        CRect shown;
+        window->GetWindowRect(&shown);
+        const CRect row = PlaceOf(*object, 40);
+        ASSERT_TRUE(shown.PtInRect(row.CenterPoint())) << row.top;
+        EXPECT_EQ(ChildAt(*object, row.TopLeft() + CSize(9, 2)), 40);
+        Click(row.TopLeft() + CSize(9, row.Height() / 2));
+        VARIANT child = {};
+        EXPECT_EQ(object->get_accFocus(&child), S_OK);
+        EXPECT_EQ(child.lVal, 40);
+        EXPECT_EQ(object->get_accSelection(&child), S_OK);
+        EXPECT_EQ(child.lVal, 40);
+        EXPECT_EQ(object->accDoDefaultAction(Child(40)), S_OK);
+        PumpAll();
+        EXPECT_THAT(Host().CodesFrom(UINT(window->GetDlgCtrlID())),
+                    testing::Contains(window == &box ? UINT(LBN_DBLCLK) : UINT(LVN_ITEMACTIVATE)));
+    }
+    EXPECT_EQ(Read(*Reached(report), 3).description, "12 t; 9 t");
+    EXPECT_EQ(Read(*Reached(report), 62).role, -1); // the header is an object
+}

@@ -1,0 +1,105 @@
+#pragma once
+
+// Reaches windows as an assistive program does: through the platform's accessibility interface.
+
+#include <afxwin.h>
+
+#include <oleacc.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+
+struct Releaser
+{
+    void operator()(IUnknown* object) const { object->Release(); }
+};
+template <class Interface> using Held = std::unique_ptr<Interface, Releaser>;
+
+inline Held<IAccessible> Reached(HWND window)
+{
+    IAccessible* reached = nullptr;
+    const HRESULT result = ::AccessibleObjectFromWindow(
+        window, DWORD(OBJID_CLIENT), IID_IAccessible, reinterpret_cast<void**>(&reached));
+    EXPECT_EQ(result, S_OK);
+    return Held<IAccessible>(reached);
+}
+
+inline VARIANT Child(long id)
+{
+    VARIANT child = {};
+    child.vt = VT_I4;
+    child.lVal = id;
+    return child;
+}
+
+inline std::string Taken(BSTR text)
+{
+    const std::wstring wide(text != nullptr ? text : L"(none)");
+    ::SysFreeString(text);
+    return std::string(wide.begin(), wide.end());
+}
+
+// What an assistive program reads of a window or a row. Where it is refused, -1 and "(error)".
+struct Read
+{
+    Read(IAccessible& object, long child)
+    {
+        VARIANT number = {};
+        BSTR text = nullptr;
+        if (SUCCEEDED(object.get_accRole(Child(child), &number)))
+        {
+            role = number.lVal;
+        }
+        if (SUCCEEDED(object.get_accState(Child(child), &number)))
+        {
+            state = number.lVal &
+                    (STATE_SYSTEM_CHECKED | STATE_SYSTEM_MIXED | STATE_SYSTEM_UNAVAILABLE |
+                     STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN |
+                     STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_READONLY);
+        }
+        if (SUCCEEDED(object.get_accName(Child(child), &text)))
+        {
+            name = Taken(std::exchange(text, nullptr));
+        }
+        if (SUCCEEDED(object.get_accDefaultAction(Child(child), &text)))
+        {
+            action = Taken(std::exchange(text, nullptr));
+        }
+        if (SUCCEEDED(object.get_accValue(Child(child), &text)))
+        {
+            value = Taken(std::exchange(text, nullptr));
+        }
+        if (SUCCEEDED(object.get_accDescription(Child(child), &text)))
+        {
+            description = Taken(text);
+        }
+    }
+
+    long role = -1;
+    long state = -1;
+    std::string name = "(error)";
+    std::string action = "(error)";
+    std::string value = "(error)";
+    std::string description = "(error)";
+};
+
+// Where it says that a child is, on the screen; empty where it is refused.
+inline CRect PlaceOf(IAccessible& object, long child)
+{
+    long left = 0;
+    long top = 0;
+    long width = 0;
+    long height = 0;
+    object.accLocation(&left, &top, &width, &height, Child(child));
+    return CRect(CPoint(left, top), CSize(width, height));
+}
+
+// The child that it finds at a point of the screen; -1 for none.
+inline long ChildAt(IAccessible& object, const CPoint& point)
+{
+    VARIANT found = {};
+    return object.accHitTest(point.x, point.y, &found) == S_OK ? found.lVal : -1;
+}
