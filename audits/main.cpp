@@ -5,7 +5,7 @@
 // - how large that is which a finger must hit, whose mark in the on-board modes is 52 pixels, which
 //   are 13.8 mm at 96 dots per inch,
 // - what it answers to an assistive program, its role, name, value and state, and whether the focus
-//   is seen on it.
+//   is seen on it; the mark for the role is anything but that of any window's client area.
 // What misses its mark is marked "below", with the reason if it is known to. The exit code is 1
 // when something else does, 2 for a wrong call.
 
@@ -207,9 +207,11 @@ void PrintAccess(APPMODE mode, const Control& control)
         focus = seen ? " focus seen" : " focus not seen";
         surprised = surprised || !seen;
     }
-    std::printf("%-11s %-34s %s \"%s\" \"%s\" %lX%s\n", APPMODE_NAMES[mode], control.name,
+    const bool isClient = answers.role.empty() || answers.role == "client";
+    std::printf("%-11s %-34s %s \"%s\" \"%s\" %lX%s%s\n", APPMODE_NAMES[mode], control.name,
                 answers.role.c_str(), answers.name.c_str(), answers.value.c_str(),
-                (unsigned long)answers.state, focus);
+                (unsigned long)answers.state, focus,
+                Verdict(isClient, KnownRoleShortfall(control.name)).c_str());
 }
 
 void PrintTargets(APPMODE mode, const Control& control)

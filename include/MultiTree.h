@@ -94,6 +94,27 @@ public:
 
     void PreSubclassWindow() override;
 
+    // What assistive programs are told: an outline, named by the label before it, of items with
+    // their texts; an item's value is its level from 0 on. Where the platform numbers the items of
+    // its trees it answers for them itself, otherwise an item's child id is its place in tree order
+    // from 1 on.
+    HRESULT get_accChildCount(long* count) override;
+    HRESULT get_accChild(VARIANT child, IDispatch** object) override;
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accValue(VARIANT child, BSTR* value) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accFocus(VARIANT* child) override;
+    HRESULT get_accSelection(VARIANT* children) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    // Selects as the user does: the parent is asked and told.
+    HRESULT accSelect(long flags, VARIANT child) override;
+    HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
+    HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
+    HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    // Opens or closes a branch.
+    HRESULT accDoDefaultAction(VARIANT child) override;
+
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

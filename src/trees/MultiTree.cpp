@@ -23,7 +23,9 @@ END_MESSAGE_MAP()
 MultiTree::MultiTree()
     : m_owner(std::make_unique<Owner>(*this))
     , m_selection(std::make_unique<TreeSelection>(*m_owner))
-{}
+{
+    EnableActiveAccessibility();
+}
 
 MultiTree::~MultiTree()
 {

@@ -111,6 +111,7 @@ MultiTreeView::MultiTreeView()
     , m_selection(std::make_unique<TreeSelection>(*m_owner))
     , m_dragItem(std::make_unique<DragItem>(m_selection->Items()))
 {
+    EnableActiveAccessibility();
     Register(mnDragTrackMsg, "Kest Drag Track");
     Register(mnDragLeaveMsg, "Kest Drag Leave");
     Register(mnDragDropMsg, "Kest Drag Drop");

@@ -13,26 +13,11 @@
 
 #include <gmock/gmock.h>
 
-class Access : public WindowTest, public testing::WithParamInterface<APPMODE>
-{
-protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        ::CoInitialize(nullptr);
-        COnBoardUIGeneral::SetAppMode(GetParam());
-    }
-    void TearDown() override
-    {
-        COnBoardUIGeneral::SetAppMode(STD);
-        WindowTest::TearDown();
-        ::CoUninitialize();
-    }
-};
+#include <set>
 
-INSTANTIATE_TEST_SUITE_P(Modes, Access, testing::Values(STD, ONBOARD));
+INSTANTIATE_TEST_SUITE_P(Controls, AccessInModes, testing::Values(STD, ONBOARD));
 
-TEST_P(Access, WhatOnlyShowsTellsItsKindAndText)
+TEST_P(AccessInModes, WhatOnlyShowsTellsItsKindAndText)
 {
     const CRect place(10, 10, 110, 60);
     auto& bar = Add<CCustomStatusBar>(place);
@@ -64,15 +49,14 @@ TEST_P(Access, WhatOnlyShowsTellsItsKindAndText)
     EXPECT_EQ(Read(*Reached(bar), CHILDID_SELF).value, "Ready; UTC 12:00");
 }
 
-TEST_P(Access, DefaultActionsWorkAsTheUserDoes)
+TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
 {
     auto& box = Add<CCustomCheckBox>(CRect(10, 10, 200, 60), BS_AUTOCHECKBOX, "Auto");
     const Held<IAccessible> check = Reached(box);
-    EXPECT_EQ(Read(*check, CHILDID_SELF).action, "Check");
     EXPECT_EQ(check->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
-    EXPECT_EQ(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_CHECKED, 0) << "posted";
+    EXPECT_EQ(Read(*check, CHILDID_SELF).action, "Check") << "posted";
     PumpAll();
-    EXPECT_NE(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_CHECKED, 0);
+    EXPECT_EQ(Read(*check, CHILDID_SELF).state, STATE_SYSTEM_CHECKED | STATE_SYSTEM_FOCUSED);
 
     Add<CCustomStatic>(CRect(10, 70, 110, 90), 0, "&Runway");
     auto& combo = Add<ComboForTests>(CRect(10, 90, 200, 120));
@@ -80,9 +64,7 @@ TEST_P(Access, DefaultActionsWorkAsTheUserDoes)
     combo.AddString("25R");
     combo.SetCurSel(0);
     const Held<IAccessible> object = Reached(combo);
-    const auto open = [&] {
-        return Read(*object, CHILDID_SELF).state & (STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED);
-    };
+    const auto open = [&] { return Read(*object, CHILDID_SELF).state & ~STATE_SYSTEM_FOCUSED; };
     EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED);
     EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
     EXPECT_EQ(open(), STATE_SYSTEM_EXPANDED);
@@ -99,7 +81,7 @@ TEST_P(Access, DefaultActionsWorkAsTheUserDoes)
     EXPECT_EQ(list->accDoDefaultAction(Child(1)), DISP_E_MEMBERNOTFOUND);
 }
 
-TEST_P(Access, RowsAreToldWhereTheyStand)
+TEST_P(AccessInModes, RowsAreToldWhereTheyStand)
 {
     auto& box = Add<CCustomListBox>(CRect(10, 10, 200, 160), LBS_NOTIFY | LBS_NOINTEGRALHEIGHT);
     auto& report = Add<CCustomListCtrl>(CRect(210, 10, 460, 210), LVS_REPORT | LVS_SHOWSELALWAYS);
@@ -146,4 +128,25 @@ TEST_P(Access, RowsAreToldWhereTheyStand)
     }
     EXPECT_EQ(Read(*Reached(report), 3).description, "12 t; 9 t");
     EXPECT_EQ(Read(*Reached(report), 62).role, -1); // the header is an object
+}
+
+TEST_P(AccessInModes, ARowOfAMillionCostsOneRow)
+{
+    auto& report = Add<CCustomListCtrl>(CRect(10, 10, 260, 210), LVS_REPORT | LVS_OWNERDATA);
+    report.InsertColumn(0, "Name", LVCFMT_LEFT, 60);
+    report.SetItemCount(1'000'000);
+    PumpAll();
+    std::set<int> asked;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.message == WM_NOTIFY && told.code == LVN_GETDISPINFOA)
+        {
+            LVITEMA& item = reinterpret_cast<NMLVDISPINFOA*>(told.lParam)->item;
+            asked.insert(item.iItem);
+            ::lstrcpynA(item.pszText, "Far", item.cchTextMax);
+        }
+    };
+    const Held<IAccessible> object = Reached(report);
+    EXPECT_EQ(Read(*object, 999'999).name, "Far");
+    EXPECT_EQ(Read(*object, 999'999).state, STATE_SYSTEM_OFFSCREEN);
+    EXPECT_THAT(asked, testing::IsSubsetOf({0, 999'998})); // the first one for its place
 }

@@ -2,6 +2,8 @@
 
 // Reaches windows as an assistive program does: through the platform's accessibility interface.
 
+#include "support/WindowTest.h"
+
 #include <afxwin.h>
 
 #include <oleacc.h>
@@ -103,3 +105,21 @@ inline long ChildAt(IAccessible& object, const CPoint& point)
     VARIANT found = {};
     return object.accHitTest(point.x, point.y, &found) == S_OK ? found.lVal : -1;
 }
+
+// Controls as they answer in a display mode.
+class AccessInModes : public WindowTest, public testing::WithParamInterface<APPMODE>
+{
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        ::CoInitialize(nullptr);
+        COnBoardUIGeneral::SetAppMode(GetParam());
+    }
+    void TearDown() override
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        WindowTest::TearDown();
+        ::CoUninitialize();
+    }
+};
