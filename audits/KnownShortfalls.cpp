@@ -23,8 +23,3 @@ const char* KnownTargetShortfall(std::string_view control, std::string_view part
     }
     return nullptr;
 }
-
-const char* KnownRoleShortfall(std::string_view control)
-{
-    return control == "dialog" || control == "message box" ? "the platform's own answer" : nullptr;
-}

@@ -210,8 +210,7 @@ void PrintAccess(APPMODE mode, const Control& control)
     const bool isClient = answers.role.empty() || answers.role == "client";
     std::printf("%-11s %-34s %s \"%s\" \"%s\" %lX%s%s\n", APPMODE_NAMES[mode], control.name,
                 answers.role.c_str(), answers.name.c_str(), answers.value.c_str(),
-                (unsigned long)answers.state, focus,
-                Verdict(isClient, KnownRoleShortfall(control.name)).c_str());
+                (unsigned long)answers.state, focus, Verdict(isClient, nullptr).c_str());
 }
 
 void PrintTargets(APPMODE mode, const Control& control)

@@ -59,6 +59,9 @@ public:
     // Creates the dialog, modeless, from the template of this id.
     virtual BOOL CreateOB(UINT id, CWnd* parent);
 
+    // What assistive programs are told: a dialog, named by its title.
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+
 protected:
     BOOL CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent,
                            HINSTANCE instance) override;

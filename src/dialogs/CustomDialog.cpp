@@ -5,6 +5,7 @@
 #include "GMSUtil.h"
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "dialogs/ControlList.h"
 #include "dialogs/OnBoardFrame.h"
 #include "dialogs/Opening.h"
@@ -56,6 +57,7 @@ CCustomDialog::CCustomDialog(UINT templateId, CWnd* parent, IAppAccess* host)
     , m_captionHeight(::GetSystemMetrics(SM_CYCAPTION))
     , m_controlList(std::make_unique<dialogs::ControlList>())
 {
+    EnableActiveAccessibility();
     MiscConstruction();
 }
 
@@ -488,4 +490,10 @@ LRESULT CCustomDialog::OnSetText(WPARAM, LPARAM)
         DrawOBNC(m_frameActive);
     }
     return result;
+}
+
+HRESULT CCustomDialog::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_DIALOG)
+                                 : CDialog::get_accRole(child, role);
 }
