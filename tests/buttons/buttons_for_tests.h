@@ -4,6 +4,7 @@
 #include "CustomPushbutton.h"
 #include "CustomRadiobutton.h"
 #include "support/Canvas.h"
+#include "support/OnBoard.h"
 #include "support/WindowTest.h"
 
 #include <string>
@@ -68,12 +69,4 @@ inline CRect Extent(const Pixels& pixels, COLORREF color, const CRect& within)
 constexpr int ButtonId = 77;
 const CRect ButtonPlace(20, 20, 240, 44);
 
-class ButtonOnBoard : public WindowTest
-{
-protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
-    }
-};
+using ButtonOnBoard = OnBoard<WindowTest>;

@@ -1,6 +1,7 @@
 // What all buttons share: following a press, the steps of a click, and every way of losing either.
 
 #include "buttons/buttons_for_tests.h"
+#include "support/Acts.h"
 
 #include <gmock/gmock.h>
 
@@ -137,94 +138,31 @@ TEST_F(ButtonOnBoard, APressWhileAnotherWindowHasTheCaptureIsIgnored)
     ::ReleaseCapture();
 }
 
-// The parent ends the button while it is told of the click: the window alone, or the object too.
-TEST_F(ButtonOnBoard, TheParentMayDestroyTheButtonInItsHandler)
-{
-    const std::function<void(CWnd&)> clicks[] = {
-        [](CWnd& button) { Click(ClientPoint(button, CPoint(110, 12))); },
-        [](CWnd& button) { button.SendMessage(BM_CLICK); },
-        [](CWnd& button) {
-            button.SetFocus();
-            TypeKey(VK_SPACE);
-        },
-    };
-    for (const auto& click : clicks)
-    {
-        for (const DWORD type : {BS_PUSHBUTTON, BS_AUTOCHECKBOX, BS_AUTORADIOBUTTON})
-        {
-            for (const bool objectToo : {false, true})
-            {
-                for (const APPMODE mode : {STD, ONBOARD})
-                {
-                    CWnd& button =
-                        type == BS_PUSHBUTTON ? static_cast<CWnd&>(Add<TestPush>(ButtonPlace))
-                        : type == BS_AUTOCHECKBOX
-                            ? static_cast<CWnd&>(Add<TestCheckBox>(ButtonPlace, type))
-                            : static_cast<CWnd&>(Add<TestRadio>(ButtonPlace, type | WS_GROUP));
-                    const HWND window = button.m_hWnd;
-                    Host().Forget();
-                    Host().hook = [&](ToldMessage&) {
-                        COnBoardUIGeneral::SetAppMode(mode);
-                        objectToo ? Remove(button) : void(button.DestroyWindow());
-                    };
-                    click(button);
-                    Host().hook = nullptr;
-                    COnBoardUIGeneral::SetAppMode(ONBOARD);
-                    // A radio button's key changes the group and tells nobody.
-                    const bool ended = Host().Count(WM_COMMAND) == 1;
-                    EXPECT_TRUE(ended || type == BS_AUTORADIOBUTTON);
-                    EXPECT_EQ(::IsWindow(window), !ended);
-                    EXPECT_EQ(::GetCapture(), nullptr);
-                    if (!ended || !objectToo)
-                    {
-                        Remove(button);
-                    }
-                }
-            }
-        }
-    }
-}
-
 TEST_F(ButtonOnBoard, WhoLosesTheFocusMayDestroyTheButton)
 {
-    Add<CEdit>(CRect(20, 300, 120, 320), 0, "", 5).SetFocus();
-    auto& push = Add<TestPush>(ButtonPlace, 0, "Push");
-    const CPoint middle = push.Middle();
-    Host().hook = [&](ToldMessage& told) {
-        if (told.id == 5 && told.code == EN_KILLFOCUS)
-        {
-            Remove(push);
-        }
-    };
-    Click(middle);
+    Add<CEdit>(CRect(20, 300, 120, 320)).SetFocus();
+    auto& push = Add<TestPush>(ButtonPlace, 0, "Push", ButtonId);
+    const OnceTold told(Host(), EN_KILLFOCUS, [&] { Remove(push); });
+    Click(push.Middle());
+    EXPECT_TRUE(told);
     EXPECT_EQ(::GetCapture(), nullptr);
-    EXPECT_EQ(Host().CodesFrom(FirstId + 1).size(), 0U);
+    EXPECT_EQ(Host().CodesFrom(ButtonId).size(), 0U);
 }
 
-TEST_F(WindowTest, InTheStandardModeThePlatformsButtonWorksAndDraws)
+TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
 {
     auto& ours = Add<TestCheckBox>(ButtonPlace, BS_AUTOCHECKBOX, "Box");
     auto& plain = Add<CButton>(ButtonPlace + CPoint(0, 60), BS_AUTOCHECKBOX, "Box");
-    const std::function<void(CButton&)> deeds[] = {
-        [](CButton&) {},
-        [](CButton& button) { Click(ClientPoint(button, CPoint(5, 5))); },
-        [](CButton& button) { button.SetCheck(BST_UNCHECKED); },
-        [](CButton& button) { button.SetState(TRUE); },
-    };
-    for (const auto& deed : deeds)
+    for (CButton* const button : std::initializer_list<CButton*>{&ours, &plain})
     {
-        deed(ours);
-        deed(plain);
+        Click(ClientPoint(*button, CPoint(5, 5)));
         Host().SetFocus();
-        RestPointer();
-        PumpAll();
-        EXPECT_TRUE(WindowPixels(ours) == WindowPixels(plain));
-        EXPECT_EQ(ours.GetCheck(), plain.GetCheck());
-        EXPECT_EQ(Host().CodesFrom(FirstId), Host().CodesFrom(FirstId + 1));
-        EXPECT_EQ(::GetCapture(), nullptr);
     }
+    RestPointer();
+    PumpAll();
+    EXPECT_TRUE(WindowPixels(ours) == WindowPixels(plain));
     EXPECT_EQ(ours.steps, Steps{"group, free"});
-    EXPECT_EQ(ours.GetState(), 0U) << "the platform's pushed state is not asked";
+    ours.SetCheck(BST_UNCHECKED);
 
     // Each kind of mode has its own check state; a new mode shows with the next paint.
     COnBoardUIGeneral::SetAppMode(EFB);

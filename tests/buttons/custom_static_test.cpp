@@ -7,6 +7,7 @@
 #include "CustomStatic.h"
 #include "buttons/buttons_for_tests.h"
 #include "catalog/DialogTemplate.h"
+#include "support/Acts.h"
 
 namespace {
 
@@ -101,43 +102,26 @@ TEST_F(ButtonOnBoard, AClientEdgeBecomesABorderOfThreePixels)
     }
 }
 
-namespace {
-
-class GroupDialog : public CCustomDialog
-{
-public:
-    GroupDialog()
-        : CCustomDialog(0U, nullptr)
-    {
-        DialogTemplate form(CRect(0, 0, 200, 100), WS_POPUP | WS_VISIBLE);
-        CreateIndirect(form, nullptr);
-        m_box.Create("", WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 110), this, 1);
-        m_inside.Set(RGB(255, 0, 0));
-        m_inside.Create("", WS_CHILD | WS_VISIBLE, CRect(30, 40, 60, 70), this, 2);
-        m_across.Set(RGB(0, 255, 0));
-        m_across.Create("", WS_CHILD | WS_VISIBLE, CRect(190, 40, 230, 70), this, 3);
-        m_gone.Create("", WS_CHILD, CRect(100, 40, 130, 70), this, 4);
-        GetControls() = {&m_box, &m_inside, &m_across, &m_gone, &m_never};
-    }
-    ~GroupDialog() override { DestroyWindow(); }
-
-    TestStatic m_box{0, BS_GROUPBOX};
-    CColorStatic m_inside;
-    CColorStatic m_across;
-    CColorStatic m_gone;
-    CColorStatic m_never; // has no window
-};
-
-} // namespace
-
 TEST_F(ButtonOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
 {
-    GroupDialog dialog;
+    CCustomDialog dialog(0U, nullptr);
+    ASSERT_TRUE(dialog.CreateIndirect(DialogTemplate(CRect(0, 0, 200, 100), WS_POPUP | WS_VISIBLE),
+                                      nullptr));
+    TestStatic box(0, BS_GROUPBOX);
+    CColorStatic inside, across, hidden, windowless;
+    inside.Set(RGB(255, 0, 0));
+    across.Set(RGB(0, 255, 0));
+    const DWORD shown = WS_CHILD | WS_VISIBLE;
+    box.Create("", shown, CRect(10, 10, 210, 110), &dialog, 1);
+    inside.Create("", shown, CRect(30, 40, 60, 70), &dialog, 2);
+    across.Create("", shown, CRect(190, 40, 230, 70), &dialog, 3);
+    hidden.Create("", WS_CHILD, CRect(100, 40, 130, 70), &dialog, 4);
+    dialog.GetControls() = {&box, &inside, &across, &hidden, &windowless};
     PumpAll();
     // A canvas that the box erases: what it spares keeps the canvas's own colour.
     const auto erased = [&] {
         Canvas canvas(200, 100);
-        dialog.m_box.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.DC().m_hDC));
+        box.SendMessage(WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.DC().m_hDC));
         return canvas.Picture();
     };
     const Pixels seen = erased();
@@ -146,13 +130,14 @@ TEST_F(ButtonOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
     EXPECT_EQ(seen.Count(Panel), 200 * 100 - 1500) << "what is hidden is painted over";
 
     // On the screen, the box being painted last.
-    dialog.m_box.RedrawWindow();
-    const Pixels screen = WindowPixels(dialog.m_box);
+    box.RedrawWindow();
+    const Pixels screen = WindowPixels(box);
     EXPECT_EQ(screen.Count(RGB(255, 0, 0)), 900);
     EXPECT_GE(screen.Count(RGB(0, 255, 0)), 600 - 3 * 30) << "but for where the frame crosses it";
 
     COnBoardUIGeneral::SetAppMode(STD);
     EXPECT_EQ(erased().Count(Panel), 0);
+    dialog.DestroyWindow();
 }
 
 TEST_F(WindowTest, TheModeOfItsMakingDecidesWhetherAGroupBoxIsTransparent)
@@ -198,24 +183,16 @@ TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
 
 TEST_F(WindowTest, AParentMayDestroyALabelThatTellsItOfBeingDisabled)
 {
-    const auto dies = [&](auto made) {
-        auto* const label = made.release(); // the parent's to delete
-        ASSERT_TRUE(label->Create("label", WS_CHILD | WS_VISIBLE | SS_NOTIFY,
-                                  CRect(20, 20, 120, 60), &Host(), 77));
-        Host().hook = [=](ToldMessage& told) {
-            if (told.code == STN_DISABLE)
-            {
-                delete label;
-            }
-        };
-        const HWND window = label->m_hWnd;
-        ::EnableWindow(window, FALSE);
-        EXPECT_FALSE(::IsWindow(window));
-        Host().hook = nullptr;
-    };
-    dies(std::make_unique<CBoldStatic>());
-    dies(std::make_unique<CColorStatic>());
-    dies(std::make_unique<CColoredGroupBox>());
+    const CRect place(20, 20, 120, 60);
+    for (CWnd* const label : {static_cast<CWnd*>(&Add<CBoldStatic>(place, SS_NOTIFY)),
+                              static_cast<CWnd*>(&Add<CColorStatic>(place, SS_NOTIFY)),
+                              static_cast<CWnd*>(&Add<CColoredGroupBox>(place, SS_NOTIFY))})
+    {
+        const OnceTold told(Host(), STN_DISABLE, [&] { Remove(*label); });
+        ::EnableWindow(*label, FALSE);
+        EXPECT_TRUE(told);
+    }
+    Host().hook = nullptr;
 }
 
 TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)

@@ -15,6 +15,16 @@ namespace {
 
 constexpr COLORREF Ground = RGB(50, 50, 50);
 
+// The colours of a mark, enabled and disabled.
+constexpr struct
+{
+    DWORD style;
+    COLORREF face, rim, light, sign;
+} Looks[] = {
+    {0, RGB(180, 180, 180), RGB(93, 93, 93), RGB(220, 220, 220), RGB(26, 26, 26)},
+    {WS_DISABLED, RGB(100, 100, 100), RGB(90, 90, 90), RGB(130, 130, 130), RGB(70, 70, 70)},
+};
+
 // Of the captions' font.
 TEXTMETRIC CaptionMetrics()
 {
@@ -34,15 +44,7 @@ TEST_F(ButtonOnBoard, TheCheckSquareHasThreeSunkenRingsAndACross)
 {
     const TEXTMETRIC metrics = CaptionMetrics();
     const int line = int(metrics.tmHeight + metrics.tmExternalLeading);
-    struct
-    {
-        DWORD style;
-        COLORREF face, rim, light, sign;
-    } const looks[] = {
-        {0, RGB(180, 180, 180), RGB(93, 93, 93), RGB(220, 220, 220), RGB(26, 26, 26)},
-        {WS_DISABLED, RGB(100, 100, 100), RGB(90, 90, 90), RGB(130, 130, 130), RGB(70, 70, 70)},
-    };
-    for (const auto& look : looks)
+    for (const auto& look : Looks)
     {
         // One pixel of margin above, then six less than the line: the whole square is to be seen.
         const int side = line - 6;
@@ -111,24 +113,11 @@ TEST_F(ButtonOnBoard, TheRadioCircleIsThisPicture)
         "...rLLLLLffffLLLLLL...", "....LLLLLLLLLLLLLL....", "......LLLLLLLLLL......",
         "........LLLLLL........",
     };
-    using Colors = std::map<char, COLORREF>;
-    const std::pair<DWORD, Colors> looks[] = {
-        {0,
-         {{'.', Ground},
-          {'r', RGB(93, 93, 93)},
-          {'L', RGB(220, 220, 220)},
-          {'f', RGB(180, 180, 180)},
-          {'D', RGB(26, 26, 26)}}},
-        {WS_DISABLED,
-         {{'.', Ground},
-          {'r', RGB(90, 90, 90)},
-          {'L', RGB(130, 130, 130)},
-          {'f', RGB(100, 100, 100)},
-          {'D', RGB(70, 70, 70)}}},
-    };
-    for (const auto& [style, colors] : looks)
+    for (const auto& look : Looks)
     {
-        auto& radio = Add<TestRadio>(CRect(0, 0, 200, 41), style);
+        const std::map<char, COLORREF> colors = {
+            {'.', Ground}, {'r', look.rim}, {'L', look.light}, {'f', look.face}, {'D', look.sign}};
+        auto& radio = Add<TestRadio>(CRect(0, 0, 200, 41), look.style);
         for (const int check : {BST_UNCHECKED, BST_CHECKED})
         {
             radio.SetCheck(check);
@@ -306,20 +295,6 @@ TEST_F(RadioGroup, AHeadThatIsSkippedDoesNotHangTheWalk)
     EXPECT_FALSE(CCustomRadiobutton::IsAutoRadio(nullptr));
 }
 
-TEST_F(RadioGroup, AMemberMayBeDestroyedWhileItIsTold)
-{
-    AddRadio(WS_GROUP);
-    auto& second = AddRadio();
-    auto& third = AddRadio();
-    auto& killer = Add<Acting<TestRadio>>(CRect(300, 40, 400, 70), BS_AUTORADIOBUTTON, "K");
-    killer.ActIn(BM_SETCHECK, [&] {
-        Remove(second);
-        Remove(third);
-    });
-    Click(second.Middle());
-    EXPECT_EQ(::GetCapture(), nullptr);
-}
-
 TEST_F(RadioGroup, GroupBoxesThatItLiesInHearOfEachClickInEveryMode)
 {
     auto& radio = AddRadio(WS_GROUP);
@@ -338,20 +313,30 @@ TEST_F(RadioGroup, GroupBoxesThatItLiesInHearOfEachClickInEveryMode)
     EXPECT_EQ(toldApart.Count(WM_COMMAND), 0);
 }
 
-TEST_F(RadioGroup, AGroupBoxMayDestroyTheRadioButtonThatTellsIt)
+TEST_F(RadioGroup, AMemberOrABoxThatIsToldMayEndTheOthers)
 {
-    auto& radio = AddRadio(WS_GROUP);
+    auto& head = AddRadio(WS_GROUP);
+    auto& second = AddRadio();
+    auto& third = AddRadio();
+    auto& killer = Add<Acting<TestRadio>>(CRect(300, 40, 400, 70), BS_AUTORADIOBUTTON, "K");
+    killer.ActIn(BM_SETCHECK, [&] {
+        Remove(second);
+        Remove(third);
+    });
+    Click(second.Middle());
+    EXPECT_EQ(::GetCapture(), nullptr);
+
     auto& first = Add<Acting<CButton>>(CRect(20, 20, 300, 200), BS_GROUPBOX, "First");
-    auto& second = Add<Acting<CButton>>(CRect(25, 25, 290, 190), BS_GROUPBOX, "Second");
+    auto& other = Add<Acting<CButton>>(CRect(25, 25, 290, 190), BS_GROUPBOX, "Second");
     int told = 0;
-    for (Acting<CButton>* const box : {&first, &second})
+    for (Acting<CButton>* const box : {&first, &other})
     {
         box->ActIn(WM_COMMAND, [&] {
             ++told;
-            Remove(radio);
+            Remove(head);
         });
     }
-    Click(radio.Middle());
+    Click(head.Middle());
     EXPECT_EQ(told, 1);
     EXPECT_EQ(::GetCapture(), nullptr);
 }

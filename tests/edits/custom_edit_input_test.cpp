@@ -103,8 +103,8 @@ TEST_F(EditOnBoard, WhateverCutsAPressOffEndsIt)
         {"disabled", [](EditForTests& edit) { edit.EnableWindow(FALSE); }},
         {"hidden", [](EditForTests& edit) { edit.ShowWindow(SW_HIDE); }},
         {"cancelled", [](EditForTests& edit) { edit.SendMessage(WM_CANCELMODE); }},
-        {"mode", [](EditForTests& edit) { Enter(STD, edit); }},
-        {"another on-board mode", [](EditForTests& edit) { Enter(EFB, edit); }},
+        {"mode", [](EditForTests& edit) { SetMode(STD, edit); }},
+        {"another on-board mode", [](EditForTests& edit) { SetMode(EFB, edit); }},
         {"destroyed", [](EditForTests& edit) { edit.DestroyWindow(); }}};
     for (const auto part : {Second, Thumb})
     {
@@ -128,18 +128,21 @@ TEST_F(EditOnBoard, WhateverCutsAPressOffEndsIt)
             Remove(edit);
         }
     }
-    // A drag that leaves the non-client area.
-    auto& edit = AddEdit(500);
-    const CPoint grip = edit.PartPoint(Thumb);
-    MoveTo(grip);
-    Press();
-    DragTo(grip + CPoint(0, 30));
-    MoveTo(ClientPoint(Host(), CPoint(700, 400)));
-    ASSERT_TRUE(PumpUntil([&] { return !edit.m_scrolling; }));
-    const int reached = edit.GetFirstVisibleLine();
-    DragTo(grip + CPoint(0, 60));
-    EXPECT_EQ(edit.GetFirstVisibleLine(), reached);
-    Release();
+    // Trough and thumb are left with the pointer.
+    for (const auto part : {AfterThumb, Thumb})
+    {
+        auto& edit = AddEdit(500);
+        MoveTo(edit.PartPoint(part));
+        Press();
+        EXPECT_EQ(edit.m_lastHit, part);
+        MoveTo(ClientPoint(Host(), CPoint(700, 400)));
+        ASSERT_TRUE(PumpUntil([&] { return !edit.m_scrolling; }));
+        const int reached = edit.GetFirstVisibleLine();
+        DragTo(edit.PartPoint(Thumb) + CPoint(0, 60));
+        EXPECT_EQ(edit.GetFirstVisibleLine(), reached);
+        Release();
+        Remove(edit);
+    }
 }
 
 // The on-screen keyboard ------------------------------------------------------------------------
@@ -204,10 +207,9 @@ TEST_F(EditTest, TheHostMayDoAnythingWhenItIsAskedForTheKeyboard)
         COnBoardUIGeneral::SetAppMode(EFB);
         CCustomEdit::SetEfb(&keyboard);
         auto& edit = AddEdit(50);
-        keyboard.requests.clear();
         keyboard.act = [&] { deed(edit); };
         Click(ClientPoint(edit, CPoint(30, 30)));
-        EXPECT_EQ(keyboard.requests.size(), 1U);
+        EXPECT_EQ(std::exchange(keyboard.requests, {}).size(), 1U);
         Remove(edit);
     }
 }

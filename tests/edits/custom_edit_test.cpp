@@ -17,7 +17,6 @@ TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
              TypeKey(VK_RETURN);
              TypeKey(VK_RETURN);
          }},
-        {"page up", [](EditForTests&) { TypeKey(VK_PRIOR); }},
         {"paste",
          [](EditForTests& edit) {
              edit.SetSel(0, 60);
@@ -26,7 +25,6 @@ TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
              edit.Paste();
          }},
         {"undo", [](EditForTests& edit) { edit.Undo(); }},
-        {"line scroll", [](EditForTests& edit) { edit.LineScroll(-7); }},
         {"wheel",
          [](EditForTests& edit) {
              MoveTo(ClientPoint(edit, CPoint(20, 20)));
@@ -50,6 +48,13 @@ TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
          }},
         {"one line", [](EditForTests& edit) { edit.SetWindowText("one"); }},
         {"many lines", [](EditForTests& edit) { edit.Fill(300); }},
+        {"another window",
+         [](EditForTests& edit) {
+             CWnd* const parent = edit.GetParent();
+             edit.DestroyWindow();
+             edit.Create(WS_CHILD | WS_VISIBLE | ManyLines, CRect(20, 20, 320, 160), parent, 5);
+             edit.Fill(50);
+         }},
     };
     auto& edit = AddEdit(60);
     edit.SetFocus();
@@ -163,20 +168,6 @@ struct EditDialog : CCustomDialog
 
 } // namespace
 
-TEST_F(EditOnBoard, AnotherWindowOfTheObjectIsLaidOutAnew)
-{
-    const CRect place(20, 20, 320, 160);
-    auto& edit = Add<EdgedEdit>(place, ManyLines);
-    edit.Fill(50);
-    const CRect client = ClientRectOf(edit);
-    ASSERT_TRUE(edit.m_barShown);
-    edit.DestroyWindow();
-    ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE | ManyLines, place, &Host(), 5));
-    edit.Fill(50);
-    EXPECT_TRUE(edit.m_barShown);
-    EXPECT_EQ(ClientRectOf(edit), client);
-}
-
 TEST_F(EditTest, DirectEditsGoThroughAllModesAndBack)
 {
     for (const APPMODE born : {STD, EFB})
@@ -186,7 +177,7 @@ TEST_F(EditTest, DirectEditsGoThroughAllModesAndBack)
         edit.LineScroll(12);
         for (const APPMODE mode : {FULLSCREEN, ONBOARD, EFB, EFBFS, STD})
         {
-            Enter(mode, edit);
+            SetMode(mode, edit);
             EXPECT_EQ(edit.GetFirstVisibleLine(), 12) << "a change of mode scrolls nothing";
             if (mode != STD)
             {
@@ -227,102 +218,6 @@ TEST_F(EditTest, TemplateAndSubclassedEditsFollowTheirDialog)
             }
             EXPECT_TRUE(PlatformBarWorks(dialog.edit));
             dialog.DestroyWindow();
-        }
-    }
-}
-
-TEST_F(EditTest, InTheStandardModeItIsThePlatformsEdit)
-{
-    const std::string text = EditForTests::Lines(40);
-    const struct
-    {
-        UINT message;
-        WPARAM wParam = 0;
-        LPARAM lParam = 0;
-    } script[] = {
-        {WM_SETTEXT, 0, LPARAM(text.c_str())},
-        {EM_GETLINECOUNT},
-        {EM_LINESCROLL, 0, 9},
-        {EM_GETFIRSTVISIBLELINE},
-        {EM_SETSEL, 3, 9},
-        {EM_SCROLLCARET},
-        {EM_REPLACESEL, TRUE, LPARAM("a\r\nb\r\nc")},
-        {EM_UNDO},
-        {WM_KEYDOWN, VK_NEXT, 1},
-        {WM_CHAR, 'q', 1},
-        {EM_GETSEL},
-        {EM_SETREADONLY, TRUE},
-        {WM_VSCROLL, SB_PAGEDOWN},
-        {WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 4)},
-        {EM_GETFIRSTVISIBLELINE},
-        {WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(10, 20)},
-        {WM_LBUTTONUP, 0, MAKELPARAM(10, 20)},
-        {EM_GETSEL},
-        {EM_SETREADONLY, FALSE},
-        {WM_GETTEXTLENGTH},
-    };
-    const auto run = [&](CEdit& edit) {
-        Host().Forget();
-        std::vector<LRESULT> results;
-        for (const auto& [message, wParam, lParam] : script)
-        {
-            const LRESULT result = edit.SendMessage(message, wParam, lParam);
-            const bool key = message >= WM_KEYFIRST && message <= WM_KEYLAST;
-            results.push_back(key ? 0 : result); // a handler of keys gives none
-        }
-        const std::vector<UINT> codes = Host().CodesFrom(UINT(edit.GetDlgCtrlID()));
-        results.insert(results.end(), codes.begin(), codes.end());
-        return results;
-    };
-    auto& ours = Add<EditForTests>(CRect(20, 20, 220, 110), ManyLines);
-    const auto fresh = run(ours);
-    EXPECT_EQ(fresh, run(Add<CEdit>(CRect(240, 20, 440, 110), ManyLines)));
-    Enter(EFB, ours);
-    Enter(STD, ours);
-    EXPECT_EQ(fresh, run(ours)) << "after a trip through an on-board mode";
-}
-
-TEST_F(EditTest, AParentMayDestroyTheEditOrChangeTheModeInANotification)
-{
-    struct
-    {
-        UINT code;
-        std::function<void(EditForTests&)> cause;
-        bool destroys; // the platform's own edit goes on with its text after the others
-    } const table[] = {
-        {EN_UPDATE, [](EditForTests& edit) { edit.SendMessage(WM_CHAR, 'x', 1); }, false},
-        {EN_CHANGE, [](EditForTests& edit) { edit.SendMessage(WM_CHAR, 0x7F, 1); }, false},
-        {EN_VSCROLL, [](EditForTests& edit) { edit.SendMessage(WM_VSCROLL, SB_LINEDOWN); }, true},
-        {EN_VSCROLL, [](EditForTests& edit) { edit.SetReadOnly(TRUE); }, true},
-        {EN_SETFOCUS, [](EditForTests& edit) { Click(ClientPoint(edit, CPoint(20, 20))); }, true},
-    };
-    for (const auto& [code, cause, mayDestroy] : table)
-    {
-        for (const bool destroys : mayDestroy ? std::vector{false, true} : std::vector{false})
-        {
-            SCOPED_TRACE(testing::Message() << code << destroys);
-            COnBoardUIGeneral::SetAppMode(ONBOARD);
-            auto& edit = AddEdit(80);
-            edit.LineScroll(10);
-            bool told = false;
-            Host().hook = [&](ToldMessage& message) {
-                if (message.code == code && !std::exchange(told, true))
-                {
-                    destroys ? void(edit.DestroyWindow()) : COnBoardUIGeneral::SetAppMode(STD);
-                }
-            };
-            cause(edit);
-            PumpAll();
-            Host().hook = nullptr;
-            EXPECT_TRUE(told);
-            EXPECT_EQ(edit.GetSafeHwnd() == nullptr, destroys);
-            if (!destroys)
-            {
-                Enter(STD, edit);
-                edit.Fill(80);
-                EXPECT_TRUE(PlatformBarWorks(edit));
-            }
-            Remove(edit);
         }
     }
 }

@@ -2,6 +2,8 @@
 
 #include "CustomEdit.h"
 #include "EFB.h"
+#include "support/OnBoard.h"
+#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <string>
@@ -80,22 +82,7 @@ protected:
     }
 };
 
-class EditOnBoard : public EditTest
-{
-protected:
-    void SetUp() override
-    {
-        EditTest::SetUp();
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
-    }
-};
-
-// A change of mode, which the edit takes up as it is painted.
-inline void Enter(APPMODE mode, CWnd& edit)
-{
-    COnBoardUIGeneral::SetAppMode(mode);
-    edit.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-}
+using EditOnBoard = OnBoard<EditTest>;
 
 // Text, caret and bar tell the same story.
 inline void ExpectAgreement(EditForTests& edit, const std::string& after)

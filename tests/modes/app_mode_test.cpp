@@ -38,36 +38,16 @@ protected:
     }
 };
 
+// The test owns it.
 class View : public CCustomFormView
 {
 public:
-    View()
-        : CCustomFormView(UINT(1))
+    explicit View(UINT id)
+        : CCustomFormView(id)
     {}
 
 protected:
-    void PostNcDestroy() override {} // the test owns it
-};
-
-struct Dialog : CCustomDialog
-{
-    Dialog()
-        : CCustomDialog(1, nullptr)
-    {}
-};
-
-struct Page : CCustomPropPage
-{
-    Page()
-        : CCustomPropPage(1)
-    {}
-};
-
-struct Sheet : CCustomPropSheet
-{
-    Sheet()
-        : CCustomPropSheet("", nullptr)
-    {}
+    void PostNcDestroy() override {}
 };
 
 class AppModeTest : public WindowTest
@@ -81,12 +61,27 @@ protected:
                                     CRect(0, 0, 400, 300), &Host(), 0));
     }
 
+    template <class Window> static Window New()
+    {
+        if constexpr (std::is_constructible_v<Window, UINT>)
+        {
+            return Window(1U);
+        }
+        else
+        {
+            return Window(1U, nullptr);
+        }
+    }
+
     // A mode-aware window with a probe on it.
     template <class Window> struct Aware
     {
-        Window window;
+        Window window = New<Window>();
         Probe probe;
     };
+    using Dialog = CCustomDialog;
+    using Page = CCustomPropPage;
+    using Sheet = CCustomPropSheet;
 
     template <class Window> std::unique_ptr<Aware<Window>> Make(const std::string& name)
     {

@@ -8,8 +8,6 @@
 // This host's own side of the types that the library only hands on.
 class PIUID
 {};
-class KESSPLITTERWND::CPanesConfiguration
-{};
 class KESSPLITTERWND::CPanesConfigurationEntry
 {};
 
@@ -35,10 +33,6 @@ TEST(PlainHostTest, AnswersAndSetsTheOutputsThatHaveADefault)
     EXPECT_EQ(host.CurrentLayoutPageID(), 0xFFFFFFFF);
     EXPECT_EQ(host.InsertPaneByClass(PIUID(), nullptr, CP_INSERT_LOC{1}, 0), 2);
     EXPECT_EQ(host.GetEFB(), nullptr);
-    EXPECT_FALSE(host.Configurable());
-    host.Configure(1, {KESSPLITTERWND::CPanesConfigurationEntry()});
-    EXPECT_EQ(host.Configure(), 1) << "the two operations of one name stay apart";
-
     for (const bool ofHost : {true, false})
     {
         int area[4] = {1, 2, 3, 4};
@@ -47,16 +41,6 @@ TEST(PlainHostTest, AnswersAndSetsTheOutputsThatHaveADefault)
                             : efb.GetAvailableArea(x, y, width, height));
         EXPECT_EQ(std::count(area, area + 4, 0), 4);
     }
-    CString product = "something";
-    host.GetProductName(product);
-    EXPECT_STREQ(product, "");
-    bool output = true;
-    EXPECT_EQ(host.GetEnrChart(UIItem{3}, output), nullptr);
-    EXPECT_FALSE(output);
-
-    host.SetConfigVal("Dialog", "Title", "text");
-    EXPECT_STREQ(host.GetConfigVal("Dialog", "Title", "fallback"), "");
-    EXPECT_EQ(host.GetConfigVal("Dialog", "Width", 3), 0);
     EXPECT_TRUE(efb.BeginModalDialog() && efb.IsModalDialogOpen() && efb.EndModalDialog());
 }
 } // namespace

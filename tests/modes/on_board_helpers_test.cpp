@@ -83,35 +83,32 @@ TEST_F(OnBoardHelpersTest, ADialogsFontReachesItsDirectChildrenThoughOneEnds)
 {
     auto& panel = Add<CWnd>(CRect(0, 0, 200, 200));
     const CRect place(0, 0, 50, 20);
-    auto& first = Add<CStatic>(place);
     auto& leaving = Add<Acting<CStatic>>(place);
-    auto& second = Add<CStatic>(place);
     auto& taken = Add<CStatic>(place);
+    auto& last = Add<CStatic>(place);
     auto& inner = Add<CStatic>(place);
-    for (CWnd* const child : std::initializer_list<CWnd*>{&first, &leaving, &second, &taken})
+    for (CWnd* const child : std::initializer_list<CWnd*>{&leaving, &taken, &last})
     {
         child->SetParent(&panel);
         ::SetWindowPos(*child, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     }
-    inner.SetParent(&first);
+    inner.SetParent(&last);
     leaving.ActIn(WM_SETFONT, [&] {
         taken.DestroyWindow();
         leaving.DestroyWindow();
     });
-    MessageLog firstLog(first, {WM_SETFONT});
-    MessageLog secondLog(second, {WM_SETFONT});
+    MessageLog log(last, {WM_SETFONT});
     MessageLog innerLog(inner, {WM_SETFONT});
     CFont font;
     CreateOnBoardFont(font, 1.7, 0, 400);
+    CWnd noWindow;
+    ChangeDialogFont(nullptr, &font);
+    ChangeDialogFont(&noWindow, &font);
     ChangeDialogFont(&panel, &font);
     ChangeDialogFont(&panel, nullptr);
-    ChangeDialogFont(nullptr, &font);
-    CWnd noWindow;
-    ChangeDialogFont(&noWindow, &font);
-    const std::vector<Received> expected = {{WM_SETFONT, WPARAM(font.GetSafeHandle()), TRUE},
-                                            {WM_SETFONT, 0, TRUE}};
-    EXPECT_EQ(firstLog.All(), expected);
-    EXPECT_EQ(secondLog.All(), expected);
+    EXPECT_EQ(log.All(),
+              (std::vector<Received>{{WM_SETFONT, WPARAM(font.GetSafeHandle()), TRUE},
+                                     {WM_SETFONT, 0, TRUE}}));
     EXPECT_EQ(innerLog.All(), std::vector<Received>());
 }
 

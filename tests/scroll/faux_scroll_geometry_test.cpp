@@ -28,17 +28,14 @@ TEST(StepBands, FindTheBandThatASearchFinds)
         {
             for (const int count : {1, 2, 3, 10, 100, 178, 722, 3000})
             {
-                for (const double steps : {count, std::max(count - 1, 1)})
+                const double pixels = double(free) / std::max(count - 1, 1);
+                const scroll::StepBands bands(first, pixels, count);
+                for (int centre = first - 3; centre <= first + free + 3; ++centre)
                 {
-                    const double pixels = free / steps;
-                    const scroll::StepBands bands(first, pixels, count);
-                    for (int centre = first - 3; centre <= first + free + 3; ++centre)
-                    {
-                        ASSERT_EQ(bands.Find(centre),
-                                  Search(first - pixels / 2, pixels, count, centre))
-                            << "centre " << centre << " from " << first << " free " << free
-                            << " count " << count;
-                    }
+                    ASSERT_EQ(bands.Find(centre),
+                              Search(first - pixels / 2, pixels, count, centre))
+                        << "centre " << centre << " from " << first << " free " << free
+                        << " count " << count;
                 }
             }
         }

@@ -133,35 +133,6 @@ TEST_F(CustomToolbarTest, TakesACompleteOrderWithoutAWord)
     EXPECT_EQ(Host().CodesFrom(14).size(), 1U) << "the button does what it now stands for";
 }
 
-TEST_F(CustomToolbarTest, ReportsWhatDoesNotFitAndOrdersTheRest)
-{
-    const struct
-    {
-        Ids order;
-        Messages messages;
-        Ids result;
-    } cases[] = {
-        {{14, 999, 13, 11, 10}, {NotFound(999), NotInOrder(1234)}, {14, 13, 11, 10, 1234}},
-        {{999, 14, 1234, 11, 10, 13}, {Miscount(5, 6), NotFound(999)}, {14, 1234, 11, 10, 13}},
-        {{0, 10, 11, 0xFFFFFFFF, 14},
-         {NotFound(0), NotFound(0xFFFFFFFF), NotInOrder(1234), NotInOrder(13)},
-         {10, 11, 14, 1234, 13}},
-        {{},
-         {Miscount(5, 0), NotInOrder(10), NotInOrder(11), NotInOrder(1234), NotInOrder(13),
-          NotInOrder(14)},
-         {10, 11, 1234, 13, 14}},
-        // The second 10 takes it out of the first place again.
-        {{10, 10, 11, 1234, 13, 14}, {Miscount(5, 6)}, {14, 10, 11, 1234, 13}},
-    };
-    for (const auto& each : cases)
-    {
-        OrderedBar bar;
-        bar.Fill(Host(), Five());
-        EXPECT_EQ(OrderBar(bar, each.order), each.messages);
-        EXPECT_EQ(bar.Order(), each.result);
-    }
-}
-
 TEST_F(CustomToolbarTest, DoesWithManyOrdersWhatAPlainListDoes)
 {
     std::mt19937 random(20261121);

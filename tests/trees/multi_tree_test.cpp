@@ -118,6 +118,10 @@ TEST_F(MultiTreeTest, TheCaretMovesWithoutTheSelection)
         EXPECT_EQ(SelectedTexts(tree), alone != nullptr ? "c" : "");
         EXPECT_EQ(tree.GetFocusedItem(), alone);
     }
+    tree.SelectAll(true, false);
+    tree.FocusItem(d);
+    tree.SetMultiSelect(false);
+    EXPECT_EQ(SelectedTexts(tree), "d") << "a plain tree shows its caret alone";
 }
 
 TEST_F(MultiTreeTest, ARefusalLeavesEverythingAsItWasAndIsAskedForOnce)
@@ -166,8 +170,8 @@ TEST_F(MultiTreeTest, ASecondWindowOfTheObjectBeginsAfresh)
     };
     for (const APPMODE mode : {ONBOARD, ONBOARD, STD})
     {
-        COnBoardUIGeneral::SetAppMode(mode);
-        makeAgain();
+        SetMode(mode, tree);
+        mode != STD ? makeAgain() : PumpAll(); // nothing of the host's to go back to
         EXPECT_EQ(tree.GetItemHeight() >= 40, mode != STD) << APPMODE_NAMES[mode];
         EXPECT_EQ(tree.GetIndent() >= 40U, mode != STD);
     }
@@ -185,12 +189,7 @@ TEST_F(MultiTreeTest, ASecondWindowOfTheObjectBeginsAfresh)
         ClickItem(tree, d);
         EXPECT_EQ(SelectedTexts(tree), "d");
     }
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(TVN_SELCHANGED) && tree.IsEmulatedNotify())
-        {
-            tree.DestroyWindow();
-        }
-    };
+    const OnceTold told(Host(), UINT(TVN_SELCHANGED), [&] { tree.DestroyWindow(); });
     tree.SelectAll(true, true);
     Host().hook = nullptr;
     makeAgain();
@@ -265,30 +264,6 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
     EXPECT_EQ(tree.GetFocusedItem(), a) << "a selected branch keeps the caret";
 }
 
-TEST_F(MultiTreeTest, WithoutMultipleSelectionItIsThePlatformsTree)
-{
-    auto& tree = AddTree();
-    auto& plain = Add<CTreeCtrl>(CRect(340, 20, 640, 320), TreeStyle | TVS_SHOWSELALWAYS);
-    const auto plainItems = AddItems(plain, "adef");
-    tree.SelectAll(true, false);
-    tree.FocusItem(d);
-    tree.SetMultiSelect(false);
-    EXPECT_EQ(SelectedTexts(tree), "d") << "a plain tree shows its caret alone";
-    plain.SelectItem(plainItems[1]);
-
-    // The same input gives the same notifications.
-    const auto script = [&](CTreeCtrl& used, HTREEITEM clicked) {
-        Host().Forget();
-        QueueClick(PointOf(used, clicked));
-        TypeKey(VK_DOWN);
-        TypeKey(VK_UP, VK_SHIFT);
-        return Codes(UINT(used.GetDlgCtrlID()));
-    };
-    EXPECT_EQ(script(tree, e), script(plain, plainItems[2]));
-    EXPECT_EQ(SelectedTexts(tree), "e");
-    EXPECT_EQ(plain.GetSelectedItem(), plainItems[2]);
-}
-
 TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
 {
     for (const bool withWindow : {false, true})
@@ -322,24 +297,20 @@ TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
             ClickItem(tree, items[0]);
             ClickItem(tree, items[2], {VK_CONTROL});
             EXPECT_EQ(SelectedTexts(tree), "ac") << "nobody is there to refuse";
-            PressScript(PointOf(tree, items[0])).Pull(CPoint(20, 0)).Release();
-            EXPECT_EQ(SelectedTexts(tree), "ac") << "a drag that nobody is told of";
         }
     }
 }
 
-// What a parent may do inside a notification.
+// What a parent may do to the items inside a notification.
 TEST_F(MultiTreeTest, SurvivesItsParent)
 {
     TreeForTests* tree = nullptr;
-    const std::pair<const char*, std::function<void(HTREEITEM)>> acts[] = {
+    const Act<HTREEITEM> acts[] = {
         {"deletes the item", [&](HTREEITEM item) { tree->DeleteItem(item); }},
         {"deletes the next", [&](HTREEITEM item) { tree->DeleteItem(item == d ? e : d); }},
         {"clears the tree", [&](HTREEITEM) { tree->DeleteAllItems(); }},
-        {"destroys the tree", [&](HTREEITEM) { tree->DestroyWindow(); }},
-        {"ends the object", [&](HTREEITEM) { Remove(*tree); }},
     };
-    const std::pair<const char*, std::function<void()>> operations[] = {
+    const Act<> operations[] = {
         {"all", [&] { tree->SelectAll(true, true); }},
         {"range", [&] { tree->SelectRange(b, f, true); }},
         {"state", [&] { tree->SetItemState(d, 3, 3); }},
@@ -354,7 +325,6 @@ TEST_F(MultiTreeTest, SurvivesItsParent)
             {
                 SCOPED_TRACE(testing::Message() << act << " in " << when << " of " << operation);
                 tree = &AddTree();
-                const WindowAlive alive(*tree);
                 tree->SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
                 tree->FocusItem(e);
                 bool done = false;
@@ -366,11 +336,8 @@ TEST_F(MultiTreeTest, SurvivesItsParent)
                 };
                 operate();
                 Host().hook = nullptr;
-                if (alive)
-                {
-                    EXPECT_EQ(StatesSay(*tree, tree->GetRootItem()), SelectedTexts(*tree));
-                    Remove(*tree);
-                }
+                EXPECT_EQ(StatesSay(*tree, tree->GetRootItem()), SelectedTexts(*tree));
+                Remove(*tree);
             }
         }
     }
@@ -383,13 +350,9 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
     const HFONT font = HFONT(tree.SendMessage(WM_GETFONT));
     tree.SelectItem(d);
     tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
-    const auto paint = [](CWnd& window) {
-        window.Invalidate();
-        PumpAll();
-    };
     {
         const ModeScope mode(ONBOARD);
-        paint(tree);
+        Repaint(tree);
         EXPECT_GE(tree.GetItemHeight(), 40) << "a row for a finger";
         const auto ground = [&](HTREEITEM item) {
             const CRect text = TextRectOf(tree, item);
@@ -403,19 +366,9 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
         EXPECT_EQ(ground(f), Highlight) << "selected without the focus, too";
         EXPECT_EQ(ground(d), Highlight);
     }
-    paint(tree);
+    Repaint(tree);
     EXPECT_EQ(TextRectOf(tree, a).Size(), before);
     EXPECT_EQ(HFONT(tree.SendMessage(WM_GETFONT)), font);
-
-    // One that begins on-board has nothing of the host's to go back to.
-    COnBoardUIGeneral::SetAppMode(EFB);
-    auto& begun = Add<TreeForTests>(CRect(340, 20, 640, 320), TreeStyle);
-    AddItems(begun, "ab");
-    PumpAll();
-    EXPECT_GE(begun.GetItemHeight(), 40);
-    COnBoardUIGeneral::SetAppMode(STD);
-    paint(begun);
-    EXPECT_LT(begun.GetItemHeight(), 30);
 }
 
 } // namespace

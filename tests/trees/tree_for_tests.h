@@ -1,7 +1,8 @@
 #pragma once
 
 #include "MultiTree.h"
-#include "modes/WindowAlive.h"
+#include "support/Acts.h"
+#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <algorithm>
