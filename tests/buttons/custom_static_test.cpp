@@ -167,13 +167,9 @@ TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
     PumpAll();
     const COLORREF black = ::GetSysColor(COLOR_WINDOWTEXT);
     EXPECT_GT(WindowPixels(bold).Count(Red), WindowPixels(plain).Count(black) * 5 / 4);
-    const auto letters = [&] { return Extent(WindowPixels(bold), Red, CRect(0, 0, 200, 30)); };
-    const CRect four = letters();
-    EXPECT_LE(four.left, 4);
-    EXPECT_LE(four.top, 8);
-    bold.SetWindowText("H");
-    PumpAll();
-    EXPECT_LT(letters().right, four.right);
+    const CRect letters = Extent(WindowPixels(bold), Red, CRect(0, 0, 200, 30));
+    EXPECT_LE(letters.left, 4);
+    EXPECT_LE(letters.top, 8);
     EXPECT_EQ(WindowPixels(bold).Count(black), 0) << "the platform's own text must not stay";
     const ModeScope mode(ONBOARD);
     bold.Invalidate();

@@ -1,5 +1,6 @@
-#include "edits/edit_for_tests.h"
 #include "catalog/DialogTemplate.h"
+#include "edits/edit_for_tests.h"
+#include "support/Acting.h"
 
 #include "CustomDialog.h"
 
@@ -147,25 +148,6 @@ bool PlatformBarWorks(CEdit& edit)
     return shows && edit.GetFirstVisibleLine() == 6;
 }
 
-struct EditDialog : CCustomDialog
-{
-    explicit EditDialog(bool bindsInTime)
-        : CCustomDialog(0U, nullptr)
-        , early(bindsInTime)
-    {}
-    BOOL OnInitDialog() override
-    {
-        if (early)
-        {
-            edit.SubclassDlgItem(101, this);
-        }
-        return CCustomDialog::OnInitDialog();
-    }
-
-    const bool early;
-    EditForTests edit;
-};
-
 } // namespace
 
 TEST_F(EditTest, DirectEditsGoThroughAllModesAndBack)
@@ -200,23 +182,26 @@ TEST_F(EditTest, TemplateAndSubclassedEditsFollowTheirDialog)
         {
             SCOPED_TRACE(testing::Message() << early << APPMODE_NAMES[born]);
             COnBoardUIGeneral::SetAppMode(born);
-            EditDialog dialog(early);
+            Acting<CCustomDialog> dialog(0U, nullptr);
+            EditForTests edit;
+            const auto bind = [&] { ASSERT_TRUE(edit.SubclassDlgItem(101, &dialog)); };
+            dialog.ActIn(early ? UINT(WM_INITDIALOG) : 0, bind);
             ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
             if (!early)
             {
                 PumpAll();
-                ASSERT_TRUE(dialog.edit.SubclassDlgItem(101, &dialog));
+                bind();
             }
-            dialog.edit.Fill(80);
+            edit.Fill(80);
             PumpAll();
             for (const APPMODE mode : {ONBOARD, STD, EFBFS, STD})
             {
                 COnBoardUIGeneral::SetAppMode(mode);
                 PumpAll();
-                EXPECT_EQ(dialog.edit.m_barShown, mode != STD);
-                EXPECT_EQ((dialog.edit.GetStyle() & WS_VSCROLL) == 0, mode != STD);
+                EXPECT_EQ(edit.m_barShown, mode != STD);
+                EXPECT_EQ((edit.GetStyle() & WS_VSCROLL) == 0, mode != STD);
             }
-            EXPECT_TRUE(PlatformBarWorks(dialog.edit));
+            EXPECT_TRUE(PlatformBarWorks(edit));
             dialog.DestroyWindow();
         }
     }

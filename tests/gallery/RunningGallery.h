@@ -4,27 +4,27 @@
 
 #include <string>
 
-// The gallery's program, from beside the tests'. Ended with the object.
+// The gallery's program, from beside the tests'.
+inline std::string GalleryCommand(const std::string& arguments)
+{
+    char own[MAX_PATH] = "";
+    ::GetModuleFileName(nullptr, own, MAX_PATH);
+    const std::string path(own);
+    return '"' + path.substr(0, path.find_last_of('\\') + 1) + "gallery.exe\" " + arguments;
+}
+
+// Ended with the object.
 class RunningGallery
 {
 public:
-    // What it prints goes to the handles given, which it has to be able to inherit.
-    explicit RunningGallery(const std::string& arguments, HANDLE output = nullptr,
-                            HANDLE errors = nullptr)
+    explicit RunningGallery(const std::string& arguments)
     {
-        char own[MAX_PATH] = "";
-        ::GetModuleFileName(nullptr, own, MAX_PATH);
-        std::string command(own);
-        command = '"' + command.substr(0, command.find_last_of('\\') + 1) + "gallery.exe\" ";
-        command += arguments;
+        std::string command = GalleryCommand(arguments);
         STARTUPINFO start = {};
         start.cb = sizeof(start);
-        start.dwFlags = output != nullptr ? STARTF_USESTDHANDLES : 0;
-        start.hStdOutput = output;
-        start.hStdError = errors;
         PROCESS_INFORMATION made = {};
-        if (::CreateProcess(nullptr, command.data(), nullptr, nullptr, output != nullptr, 0,
-                            nullptr, nullptr, &start, &made))
+        if (::CreateProcess(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                            &start, &made))
         {
             m_process = made.hProcess;
             m_id = made.dwProcessId;
@@ -59,15 +59,6 @@ public:
             },
             20000);
         return found;
-    }
-
-    // Its exit code, once it has ended by itself.
-    DWORD Ended() const
-    {
-        DWORD code = STILL_ACTIVE;
-        ::WaitForSingleObject(m_process, 20000);
-        ::GetExitCodeProcess(m_process, &code);
-        return code;
     }
 
 private:

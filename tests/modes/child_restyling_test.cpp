@@ -213,8 +213,6 @@ TEST_F(ChildRestylingTest, AnAttachedRichEditChangesItsDefaultCharacters)
     auto& edit = Add<CRichEditCtrl>(CRect(10, 20, 210, 120), ES_MULTILINE);
     CHARFORMAT format = {};
     format.cbSize = sizeof(format);
-    const auto read = [&] { edit.SendMessage(EM_GETCHARFORMAT, 0, LPARAM(&format)); };
-    read();
     format.dwMask = CFM_SIZE;
     format.yHeight = 202;
     edit.SetDefaultCharFormat(format);
@@ -232,7 +230,7 @@ TEST_F(ChildRestylingTest, AnAttachedRichEditChangesItsDefaultCharacters)
     for (const auto& step : steps)
     {
         Restyle(Host(), step.scale, step.mode);
-        read();
+        edit.SendMessage(EM_GETCHARFORMAT, 0, LPARAM(&format));
         EXPECT_STREQ(format.szFaceName, step.face);
         EXPECT_EQ(format.yHeight, step.height);
         EXPECT_EQ((format.dwEffects & CFE_BOLD) != 0, step.bold);

@@ -266,14 +266,11 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
 
 TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
 {
-    for (const bool withWindow : {false, true})
+    TreeForTests windowless, parentless;
+    parentless.CWnd::CreateEx(0, WC_TREEVIEW, "", WS_POPUP | WS_VISIBLE | TreeStyle, 500, 300, 200,
+                              200, nullptr, nullptr);
+    for (TreeForTests& tree : {std::ref(windowless), std::ref(parentless)})
     {
-        TreeForTests tree;
-        if (withWindow)
-        {
-            tree.CWnd::CreateEx(0, WC_TREEVIEW, "", WS_POPUP | WS_VISIBLE | TreeStyle, 500, 300,
-                                200, 200, nullptr, nullptr);
-        }
         for (const HTREEITEM item : {HTREEITEM(nullptr), TVI_ROOT, TVI_LAST})
         {
             EXPECT_FALSE(tree.SetItemState(item, TVIS_SELECTED, TVIS_SELECTED));
@@ -290,15 +287,12 @@ TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
         NMHDR header = {};
         EXPECT_EQ(tree._SendNotify(nullptr) + tree._SendNotify(&header), 0);
         EXPECT_EQ(tree.GetAutoScrollDirection(CPoint(0, 0)), 0);
-        if (withWindow)
-        {
-            const auto items = AddItems(tree, "abc");
-            PumpAll();
-            ClickItem(tree, items[0]);
-            ClickItem(tree, items[2], {VK_CONTROL});
-            EXPECT_EQ(SelectedTexts(tree), "ac") << "nobody is there to refuse";
-        }
     }
+    const auto items = AddItems(parentless, "abc");
+    PumpAll();
+    ClickItem(parentless, items[0]);
+    ClickItem(parentless, items[2], {VK_CONTROL});
+    EXPECT_EQ(SelectedTexts(parentless), "ac") << "nobody is there to refuse";
 }
 
 // What a parent may do to the items inside a notification.
