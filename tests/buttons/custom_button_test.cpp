@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <tuple>
+
 using testing::ElementsAre;
 using Steps = std::vector<std::string>;
 
@@ -77,11 +79,7 @@ TEST_F(ButtonOnBoard, APressDraggedOffIsNoClick)
 TEST_F(ButtonOnBoard, APressThatIsCutOffLeavesNothingHeld)
 {
     auto& other = Add<CEdit>(CRect(20, 300, 120, 320));
-    struct
-    {
-        const char* what;
-        std::function<void(TestCheckBox&)> cut;
-    } const cases[] = {
+    const std::tuple<const char*, std::function<void(TestCheckBox&)>> cases[] = {
         {"capture released", [](auto&) { ::ReleaseCapture(); }},
         {"capture taken", [&](auto&) { other.SetCapture(); }},
         {"hidden", [](auto& button) { button.ShowWindow(SW_HIDE); }},

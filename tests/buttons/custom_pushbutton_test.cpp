@@ -1,6 +1,8 @@
 #include "buttons/ButtonLayout.h"
 #include "buttons/buttons_for_tests.h"
 
+#include <tuple>
+
 namespace {
 
 constexpr COLORREF Outline = RGB(70, 70, 70);
@@ -64,12 +66,8 @@ TEST_F(ButtonOnBoard, EachStateOfAPushButtonHasItsFace)
 TEST_F(ButtonOnBoard, TheStylePlacesACaption)
 {
     constexpr COLORREF Text = RGB(230, 230, 230);
-    struct
-    {
-        DWORD style;
-        int across; // -1 left or top, 0 in the middle, 1 right or bottom
-        int down;
-    } const cases[] = {
+    // Style, place across and down: -1 left or top, 0 in the middle, 1 right or bottom.
+    const std::tuple<DWORD, int, int> cases[] = {
         {0, 0, 0},
         {BS_CENTER | BS_VCENTER, 0, 0},
         {BS_RIGHT, 1, 0},

@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 
 #include <map>
+#include <tuple>
 
 using testing::ElementsAre;
 
@@ -145,13 +146,7 @@ TEST_F(ButtonOnBoard, TheCaptionStandsBesideTheMarkAndInTheMiddle)
 {
     constexpr COLORREF Text = RGB(230, 230, 230);
     const int line = int(CaptionMetrics().tmHeight);
-    struct
-    {
-        DWORD style;
-        const char* text;
-        int lines;
-        COLORREF color;
-    } const cases[] = {
+    const std::tuple<DWORD, const char*, int, COLORREF> cases[] = {
         {WS_DISABLED, "HHH", 1, RGB(90, 90, 90)},
         {BS_MULTILINE, "HHHHH HHHHH", 2, Text},
         {0, "HHHHH HHHHH HHHHH", 1, Text}, // cut, not wrapped

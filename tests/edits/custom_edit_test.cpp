@@ -4,13 +4,11 @@
 
 #include "CustomDialog.h"
 
+#include <tuple>
+
 TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
 {
-    struct
-    {
-        const char* name;
-        void (*change)(EditForTests&);
-    } const table[] = {
+    const std::tuple<const char*, void (*)(EditForTests&)> table[] = {
         {"end key", [](EditForTests&) { TypeKey(VK_END, VK_CONTROL); }},
         {"typing", [](EditForTests&) { TypeText("abc"); }},
         {"new lines",
@@ -60,11 +58,11 @@ TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
     auto& edit = AddEdit(60);
     edit.SetFocus();
     ExpectAgreement(edit, "set text");
-    for (const auto& row : table)
+    for (const auto& [name, change] : table)
     {
-        row.change(edit);
+        change(edit);
         PumpAll();
-        ExpectAgreement(edit, row.name);
+        ExpectAgreement(edit, name);
     }
 }
 
@@ -103,28 +101,25 @@ TEST_F(EditOnBoard, ATextThatFitsHasNoBarAndTheWholeWidth)
 
 TEST_F(EditOnBoard, TheBorderTellsTheState)
 {
-    struct
-    {
-        bool enabled, readOnly;
-        COLORREF topLeft, bottomRight;
-    } const table[] = {{true, false, RGB(93, 93, 93), RGB(220, 220, 220)},
-                       {true, true, RGB(70, 70, 70), RGB(70, 70, 70)},
-                       {false, true, RGB(90, 90, 90), RGB(130, 130, 130)},
-                       {true, false, RGB(93, 93, 93), RGB(220, 220, 220)}};
+    const std::tuple<bool, bool, COLORREF, COLORREF> table[] = {
+        {true, false, RGB(93, 93, 93), RGB(220, 220, 220)},
+        {true, true, RGB(70, 70, 70), RGB(70, 70, 70)},
+        {false, true, RGB(90, 90, 90), RGB(130, 130, 130)},
+        {true, false, RGB(93, 93, 93), RGB(220, 220, 220)}};
     auto& edit = AddEdit(50);
-    for (const auto& row : table)
+    for (const auto& [enabled, readOnly, topLeft, bottomRight] : table)
     {
-        SCOPED_TRACE(testing::Message() << row.enabled << row.readOnly);
-        edit.EnableWindow(row.enabled);
-        edit.SetReadOnly(row.readOnly);
+        SCOPED_TRACE(testing::Message() << enabled << readOnly);
+        edit.EnableWindow(enabled);
+        edit.SetReadOnly(readOnly);
         PumpAll();
         const Pixels seen = WindowPixels(edit);
         for (int line = 0; line < 3; ++line)
         {
-            EXPECT_EQ(seen.At(100, line), row.topLeft);
-            EXPECT_EQ(seen.At(line, 100), row.topLeft);
-            EXPECT_EQ(seen.At(100, 239 - line), row.bottomRight);
-            EXPECT_EQ(seen.At(299 - line, 100), row.bottomRight);
+            EXPECT_EQ(seen.At(100, line), topLeft);
+            EXPECT_EQ(seen.At(line, 100), topLeft);
+            EXPECT_EQ(seen.At(100, 239 - line), bottomRight);
+            EXPECT_EQ(seen.At(299 - line, 100), bottomRight);
         }
         EXPECT_EQ(seen.At(245, 120), RGB(70, 70, 70)) << "the bar's outline";
     }

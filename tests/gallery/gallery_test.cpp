@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <tuple>
 
 namespace {
 
@@ -136,22 +137,19 @@ TEST_F(GalleryTest, ItsKeyboardTypesAWordIntoTheEditThatWasTappedAndHides)
     ASSERT_NE(keyboard, nullptr);
     const CRect keys = PlaceOf(keyboard);
     EXPECT_FALSE(CRect().IntersectRect(keys, PlaceOf(edit))) << "it covers what is typed";
-    const struct
-    {
-        int row;
-        int unit;
-        std::string text; // afterwards
-    } word[] = {{2, 2, "s"}, {1, 16, "so"}, {3, 13, "son"}, {2, 18, "so"}, {1, 16, "soo"}};
-    for (const auto& key : word)
+    // Row, unit and what is typed then.
+    const std::tuple<int, int, std::string> word[] = {
+        {2, 2, "s"}, {1, 16, "so"}, {3, 13, "son"}, {2, 18, "so"}, {1, 16, "soo"}};
+    for (const auto& [row, unit, typed] : word)
     {
         // Not faster than a finger that sees what it has typed.
-        Click(KeyAt(keys, key.row, key.unit));
-        const auto typed = [&] {
+        Click(KeyAt(keys, row, unit));
+        const auto isTyped = [edit, &word = typed] {
             char text[20] = "";
             ::SendMessage(edit, WM_GETTEXT, sizeof(text), reinterpret_cast<LPARAM>(text));
-            return text == key.text;
+            return text == word;
         };
-        EXPECT_TRUE(PumpUntil(typed, 10000)) << key.text;
+        EXPECT_TRUE(PumpUntil(isTyped, 10000)) << typed;
     }
     Click(KeyAt(keys, 4, 18));
     EXPECT_TRUE(PumpUntil([&] { return !::IsWindowVisible(keyboard); }, 10000));
@@ -159,24 +157,19 @@ TEST_F(GalleryTest, ItsKeyboardTypesAWordIntoTheEditThatWasTappedAndHides)
 
 TEST_F(GalleryTest, SaysWhatItUnderstandsOnItsCommandLine)
 {
-    const struct
-    {
-        const char* arguments;
-        int code;
-        const char* said;
-    } lines[] = {
+    const std::tuple<const char*, int, const char*> lines[] = {
         {"--help", 0, "--settings FILE"},    {"--page start --loud", 2, "--loud"},
         {"--page nowhere", 2, "list-boxes"}, {"--mode night", 2, "EFBFS"},
         {"--page", 2, "needs a value"},
     };
-    for (const auto& line : lines)
+    for (const auto& [arguments, code, said] : lines)
     {
-        const TemporaryFile said;
-        const std::string stream = line.code == 0 ? " > " : " 2> ";
+        const TemporaryFile output;
+        const std::string stream = code == 0 ? " > " : " 2> ";
         // The command processor takes the outer quotes away.
-        const std::string command = GalleryCommand(line.arguments) + stream + said.Name();
-        EXPECT_EQ(std::system(('"' + command + '"').c_str()), line.code) << command;
-        EXPECT_NE(said.Content().find(line.said), std::string::npos) << said.Content();
+        const std::string command = GalleryCommand(arguments) + stream + output.Name();
+        EXPECT_EQ(std::system(('"' + command + '"').c_str()), code) << command;
+        EXPECT_NE(output.Content().find(said), std::string::npos) << output.Content();
     }
 }
 

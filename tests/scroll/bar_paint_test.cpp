@@ -5,6 +5,7 @@
 #include "support/WindowTest.h"
 
 #include <functional>
+#include <tuple>
 
 namespace {
 
@@ -87,12 +88,7 @@ TEST_F(BarHost, TheBarIsPaintedWhenItLooksDifferent)
     EXPECT_TRUE(draw(Bar::PRESSED_NONE, true));
     EXPECT_TRUE(draw(Bar::PRESSED_FIRST));
     EXPECT_TRUE(draw());
-    const struct
-    {
-        const char* name;
-        std::function<void()> change;
-        bool shows;
-    } changes[] = {
+    const std::tuple<const char*, std::function<void()>, bool> changes[] = {
         {"nothing", [] {}, false},
         {"page size", [&] { bar.SetPageSize(9); }, false},
         {"position", [&] { bar.SetScrollPos(5); }, true},
@@ -106,10 +102,10 @@ TEST_F(BarHost, TheBarIsPaintedWhenItLooksDifferent)
         {"redraw off", [&] { window.SetRedraw(FALSE); }, false},
         {"redraw on", [&] { window.SetRedraw(TRUE); }, true},
     };
-    for (const auto& each : changes)
+    for (const auto& [name, change, shows] : changes)
     {
-        each.change();
-        EXPECT_EQ(draw(), each.shows) << each.name;
+        change();
+        EXPECT_EQ(draw(), shows) << name;
     }
     EXPECT_FALSE(draw());
 }

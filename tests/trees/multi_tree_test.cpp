@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <tuple>
+
 using testing::ElementsAre;
 
 namespace {
@@ -199,12 +201,8 @@ TEST_F(MultiTreeTest, ASecondWindowOfTheObjectBeginsAfresh)
 TEST_F(MultiTreeTest, RangesRunAsTheUserSeesTheItems)
 {
     auto& tree = AddTree();
-    const struct
-    {
-        HTREEITEM first, last;
-        bool only;
-        const char* selected; // f is selected before
-    } cases[] = {
+    // f is selected before
+    const std::tuple<HTREEITEM, HTREEITEM, bool, const char*> cases[] = {
         {b, d, true, "bcd"},
         {d, b, true, "bcd"},
         {c, c, true, "c"},
