@@ -8,6 +8,7 @@
 #include "buttons/buttons_for_tests.h"
 #include "catalog/DialogTemplate.h"
 #include "support/Acts.h"
+#include "support/Fenced.h"
 
 namespace {
 
@@ -179,15 +180,17 @@ TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
 
 TEST_F(WindowTest, AParentMayDestroyALabelThatTellsItOfBeingDisabled)
 {
+    const AccessFaults faults;
     const CRect place(20, 20, 120, 60);
-    for (CWnd* const label : {static_cast<CWnd*>(&Add<CBoldStatic>(place, SS_NOTIFY)),
-                              static_cast<CWnd*>(&Add<CColorStatic>(place, SS_NOTIFY)),
-                              static_cast<CWnd*>(&Add<CColoredGroupBox>(place, SS_NOTIFY))})
+    for (CWnd* const label : {static_cast<CWnd*>(&Add<Fenced<CBoldStatic>>(place, SS_NOTIFY)),
+                              static_cast<CWnd*>(&Add<Fenced<CColorStatic>>(place, SS_NOTIFY)),
+                              static_cast<CWnd*>(&Add<Fenced<CColoredGroupBox>>(place, SS_NOTIFY))})
     {
         const OnceTold told(Host(), STN_DISABLE, [&] { Remove(*label); });
         ::EnableWindow(*label, FALSE);
         EXPECT_TRUE(told);
     }
+    EXPECT_EQ(faults.Count(), 0);
     Host().hook = nullptr;
 }
 

@@ -73,4 +73,20 @@ TEST_F(BackBufferOnScreen, TwoAtATimeKeepApartAndEachBeginsFresh)
     EXPECT_EQ(screen.Count(Inner), 700 * 10);
 }
 
+TEST(GdiGuards, PutBackWhatTheyFound)
+{
+    Canvas canvas(10, 10);
+    CDC& dc = canvas.DC();
+    const auto before = StateOf(dc);
+    {
+        const Selected outer(dc, ::GetStockObject(WHITE_PEN));
+        const Selected inner(dc, ::GetStockObject(NULL_PEN));
+        const Selected none(dc, HGDIOBJ(nullptr));
+        const TextColor color(dc, Ink);
+        const BackgroundMode mode(dc, TRANSPARENT);
+        EXPECT_EQ(StateOf(dc), std::tuple(::GetStockObject(NULL_PEN), Ink, TRANSPARENT));
+    }
+    EXPECT_EQ(StateOf(dc), before);
+}
+
 } // namespace

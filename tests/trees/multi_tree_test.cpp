@@ -293,14 +293,16 @@ TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
     EXPECT_EQ(SelectedTexts(parentless), "ac") << "nobody is there to refuse";
 }
 
-// What a parent may do to the items inside a notification.
+// What a parent may do inside a notification.
 TEST_F(MultiTreeTest, SurvivesItsParent)
 {
+    const AccessFaults faults;
     TreeForTests* tree = nullptr;
     const Act<HTREEITEM> acts[] = {
         {"deletes the item", [&](HTREEITEM item) { tree->DeleteItem(item); }},
         {"deletes the next", [&](HTREEITEM item) { tree->DeleteItem(item == d ? e : d); }},
         {"clears the tree", [&](HTREEITEM) { tree->DeleteAllItems(); }},
+        {"ends the tree", [&](HTREEITEM) { Remove(*tree); }},
     };
     const Act<> operations[] = {
         {"all", [&] { tree->SelectAll(true, true); }},
@@ -317,6 +319,7 @@ TEST_F(MultiTreeTest, SurvivesItsParent)
             {
                 SCOPED_TRACE(testing::Message() << act << " in " << when << " of " << operation);
                 tree = &AddTree();
+                const WindowAlive alive(*tree);
                 tree->SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
                 tree->FocusItem(e);
                 bool done = false;
@@ -328,11 +331,15 @@ TEST_F(MultiTreeTest, SurvivesItsParent)
                 };
                 operate();
                 Host().hook = nullptr;
-                EXPECT_EQ(StatesSay(*tree, tree->GetRootItem()), SelectedTexts(*tree));
-                Remove(*tree);
+                if (alive)
+                {
+                    EXPECT_EQ(StatesSay(*tree, tree->GetRootItem()), SelectedTexts(*tree));
+                    Remove(*tree);
+                }
             }
         }
     }
+    EXPECT_EQ(faults.Count(), 0);
 }
 
 TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)

@@ -20,7 +20,14 @@ public:
 
     void GetSelectedItems(HTREEITEM item, KArray& payload) override { payload.Add(item); }
     void DragEnded(HWND accepted) override { ended.push_back(accepted); }
+    CImageList* CreateDragImage() override
+    {
+        onImage();
+        return MultiTreeView::CreateDragImage();
+    }
+
     bool accepts = false;
+    std::function<void()> onImage = [] {};
     std::function<void()> onDrop = [] {};
     std::vector<HWND> ended;
     std::vector<std::string> received; // names of the messages
@@ -117,6 +124,8 @@ TEST_F(MultiTreeViewTest, ADragEndsWithTheWindowUnderIt)
 {
     m_target->accepts = true;
     Begun()
+        .Do([] { QueueButton(true, true); }) // the other button does not count
+        .Do([] { QueueButton(false, true); })
         .Move(OverTarget())
         .Do([&] {
             EXPECT_NE(m_source->m_dragImage, nullptr);
@@ -213,6 +222,12 @@ TEST_F(MultiTreeViewTest, IsCancelledByWhateverInterruptsIt)
         EXPECT_THAT(Ended(), ElementsAre(nullptr));
         EXPECT_THAT(m_target->received, IsEmpty());
     }
+}
+
+TEST_F(MultiTreeViewTest, ADragOverBeforeItIsShownIsNotShown)
+{
+    m_source->onImage = [&] { m_source->SendMessage(WM_LBUTTONUP); };
+    Begun().Do([&] { EXPECT_THAT(Ended(), IsEmpty()) << "nobody has seen a drag"; }).Release();
 }
 
 TEST_F(MultiTreeViewTest, SurvivesWhatEndsDuringADrag)

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "MultiTree.h"
+#include "modes/WindowAlive.h"
 #include "support/Acts.h"
+#include "support/Fenced.h"
 #include "support/Repaint.h"
 #include "support/WindowTest.h"
 
@@ -12,7 +14,7 @@
 constexpr DWORD TreeStyle = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
 
 // What a test sees of a tree beyond its interface.
-class TreeForTests : public MultiTree
+class TreeForTests : public Fenced<MultiTree>
 {
 public:
     using MultiTree::GetAutoScrollDirection;

@@ -1,4 +1,5 @@
 #include "SearchStatusBar.h"
+#include "support/Fenced.h"
 #include "support/WindowTest.h"
 
 namespace {
@@ -195,6 +196,28 @@ TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryMode)
         EXPECT_GT(drawn, 0) << mode;
         EXPECT_EQ(seen.Count(RGB(230, 230, 230)) > 20, mode != STD) << "of the other pane";
     }
+}
+
+TEST_F(StatusBarTest, AnOwnerMayDeleteTheBarThatItDraws)
+{
+    const AccessFaults faults;
+    const ModeScope scope(ONBOARD);
+    auto& bar = Add<Fenced<CCustomStatusBar>>(CRect(0, 0, 0, 0));
+    int edges[] = {50, 100, -1};
+    bar.SetParts(3, edges);
+    bar.SendMessage(SB_SETTEXT, 1 | SBT_OWNERDRAW, 0);
+    Host().AlsoRecord({WM_DRAWITEM});
+    bool drawn = false;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.message == WM_DRAWITEM && !std::exchange(drawn, true))
+        {
+            Remove(bar);
+        }
+    };
+    bar.Invalidate();
+    PumpAll();
+    EXPECT_TRUE(drawn);
+    EXPECT_EQ(faults.Count(), 0);
 }
 
 TEST_F(StatusBarTest, AFontThatComesOnBoardIsThatOfTheStandardMode)
