@@ -32,10 +32,9 @@ TEST(StepBands, FindTheBandThatASearchFinds)
                 const scroll::StepBands bands(first, pixels, count);
                 for (int centre = first - 3; centre <= first + free + 3; ++centre)
                 {
-                    ASSERT_EQ(bands.Find(centre),
-                              Search(first - pixels / 2, pixels, count, centre))
-                        << "centre " << centre << " from " << first << " free " << free
-                        << " count " << count;
+                    ASSERT_EQ(bands.Find(centre), Search(first - pixels / 2, pixels, count, centre))
+                        << "centre " << centre << " from " << first << " free " << free << " count "
+                        << count;
                 }
             }
         }
