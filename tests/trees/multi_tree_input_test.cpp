@@ -328,8 +328,18 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
         EXPECT_EQ(ClientRectOf(tree).Size(), CSize(200 - Band, 200 - Band));
         Click(onBar(200 - Band - 10));
         EXPECT_EQ(top(), m_items[1]);
+        Press();
+        EXPECT_TRUE(PumpUntil([&] { return top() == m_items[4]; })) << "held, it repeats";
+        Release();
+        const HTREEITEM released = top();
+        PumpFor(300);
+        EXPECT_EQ(top(), released);
         Click(WindowPoint(tree, CPoint(200 - Band - 10, 200 - Band / 2)));
         EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0);
+        // Back by the thumb, to the upper end.
+        Click(onBar(10));
+        Drag(onBar(52), onBar(5));
+        EXPECT_EQ(top(), m_items[0]);
         EXPECT_EQ(tree.GetSelectedCount(), 0U);
     }
     Repaint(tree);
