@@ -5,8 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <climits>
-
 namespace {
 
 using namespace dialogs;
@@ -74,72 +72,6 @@ TEST(MessagePicture, OnlyAnAlphaChannelLetsTheGroundThrough)
     EXPECT_EQ(over({{1, 2, 3, 0}}), std::vector{RGB(3, 2, 1)});
     EXPECT_EQ(over({{1, 2, 3, 0}, {1, 2, 3, 255}, {255, 255, 255, 51}}),
               (std::vector{RGB(50, 60, 70), RGB(3, 2, 1), RGB(91, 99, 107)}));
-}
-
-// Sizes and places ------------------------------------------------------------------------------
-
-// 8 point of the dialog's font; a screen with the usual metrics.
-const CSize Unit(6, 13);
-constexpr int Caption = 19;
-constexpr int Bar = 17;
-const CSize Wide(1280, 1024);
-
-MessageUnits Units(bool onBoard)
-{
-    return MessageUnits::Of(Unit, onBoard);
-}
-
-MessageContent Content(CSize text, int buttons, CSize area, bool onBoard, int title)
-{
-    // In an on-board mode a frame of three pixels, with the higher band.
-    const CSize frame(6, onBoard ? 6 + 32 : 6 + Caption);
-    return {text, title, buttons, area, frame, Caption, Bar};
-}
-
-TEST(MessageBoxLayout, TheBoxHasTheSizeOfItsContent)
-{
-    const struct
-    {
-        const char* what;
-        bool onBoard;
-        CSize content;
-        int buttons;
-        int title; // its width
-        CSize area;
-        CSize client;
-        CSize text;
-        bool scrolls;
-    } cases[] = {
-        {"a word", false, {224, 16}, 1, 100, Wide, {324, 114}, {241, 17}, false},
-        {"lines", true, {502, 80}, 1, 100, Wide, {624, 182}, {519, 81}, false},
-        {"just below the limit", false, {300, 613}, 1, 100, Wide, {400, 680}, {317, 614}, false},
-        {"at the limit", false, {300, 614}, 1, 100, Wide, {461, 680}, {378, 614}, true},
-        {"a long title", false, {224, 16}, 1, 700, Wide, {728, 114}, {241, 17}, false},
-        {"wide buttons", true, {100, 27}, 3, 100, Wide, {460, 149}, {117, 28}, false},
-        {"a low area", true, {200, 300}, 1, 100, {640, 240}, {383, 199}, {278, 98}, true},
-        {"a narrow area", false, {100, 16}, 1, 900, {320, 240}, {295, 114}, {117, 17}, false},
-        {"a frame too wide", false, {217, 16}, 1, 100, {320, 240}, {311, 114}, {228, 17}, false},
-    };
-    for (const auto& each : cases)
-    {
-        SCOPED_TRACE(each.what);
-        const MessageSize size =
-            SizeMessageBox(Units(each.onBoard), Content(each.content, each.buttons, each.area,
-                                                        each.onBoard, each.title));
-        EXPECT_EQ(size.client, each.client) << size.client.cx << ' ' << size.client.cy;
-        EXPECT_EQ(size.text, each.text) << size.text.cx << ' ' << size.text.cy;
-        EXPECT_EQ(size.scrolls, each.scrolls);
-    }
-    // Areas smaller than the smallest box.
-    for (const CSize area : {CSize(0, 0), CSize(-5, -5), CSize(100, 100), CSize(INT_MIN, INT_MIN)})
-    {
-        const MessageSize size =
-            SizeMessageBox(Units(true), Content(CSize(5'000, 5'000), 3, area, true, 900));
-        EXPECT_EQ(size.client, CSize(460, 149)) << area.cx;
-        EXPECT_GE(size.text.cx, Units(true).text.cx);
-        EXPECT_GE(size.text.cy, Units(true).text.cy);
-        EXPECT_TRUE(size.scrolls);
-    }
 }
 
 TEST(MessageBoxLayout, ABoxIsMovedOntoTheScreen)

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <random>
 #include <span>
 
 namespace {
@@ -83,36 +82,6 @@ TEST_F(MessageBoxTest, WhatChangesWhileTheBoxOpensCounts)
         EXPECT_NEAR(ClientRectOf(box).Height(), expectedHeight, changesMode ? 2 : 0);
         expected.resize(changesMode ? 2 : places.size());
         EXPECT_TRUE(std::ranges::equal(expected, std::span(places).first(expected.size())));
-    }
-}
-
-TEST_F(MessageBoxTest, ATextMeasuresAsThePlatformMeasuresItsWidestLine)
-{
-    const ModeScope scope(ONBOARD);
-    OpeningBox box("Ready", MB_OK);
-    ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
-    CClientDC dc(&box);
-    dc.SelectObject(&CCustomDialog::m_OBStaticTextFont);
-    std::mt19937 random(1);
-    for (int round = 0; round < 100; ++round)
-    {
-        std::string text;
-        LONG widest = 0;
-        for (int line = 0; line < 20; ++line)
-        {
-            std::string piece(random() % 30, ' ');
-            std::ranges::generate(piece, [&] { return char(' ' + random() % 95); });
-            piece += '\r';
-            CSize extent;
-            ::GetTextExtentPoint32(dc, piece.data(), int(piece.size()), &extent);
-            widest = std::max(widest, extent.cx);
-            text += piece + '\n';
-        }
-        int width = 0;
-        int height = 0;
-        box.GetStaticTextSize(text.c_str(), width, height);
-        EXPECT_EQ(width, widest) << text;
-        EXPECT_EQ(height, 21 * 27);
     }
 }
 

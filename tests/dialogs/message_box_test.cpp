@@ -1,5 +1,4 @@
 #include "dialogs/message_box_for_tests.h"
-#include "support/Fenced.h"
 
 #include <utility>
 
@@ -39,11 +38,12 @@ TEST_F(MessageBoxTest, EveryButtonOfEverySetAnswersToThePointerInEveryMode)
         const ModeScope scope(mode);
         for (const auto& set : sets)
         {
+            Box box("Go on?", set.style); // shown again and again
             for (size_t index = 0; index < set.buttons.size(); ++index)
             {
                 const Button& button = set.buttons[index];
-                Box box("Go on?", set.style);
                 box.inLoop = [&] {
+                    EXPECT_EQ(box.GetButtonPressed(), 0);
                     CString caption;
                     box.Button(index).GetWindowText(caption);
                     EXPECT_EQ(caption, button.caption);
@@ -300,45 +300,6 @@ TEST_F(MessageBoxTest, BadInputHasADefinedResult)
         EXPECT_EQ(partless.DoModal(), IDCANCEL);
         COnBoardUIGeneral::SetAppMode(mode);
     }
-}
-
-TEST_F(MessageBoxTest, ABoxCanBeShownAgainAndCanGoInsideItsLoop)
-{
-    Box box("Ready", MB_YESNO);
-    for (const APPMODE mode : {STD, ONBOARD, STD, EFB})
-    {
-        const ModeScope scope(mode);
-        box.inLoop = [&] { box.ClickOn(mode == STD ? 0 : 1); };
-        EXPECT_EQ(box.DoModal(), IDOK);
-        EXPECT_EQ(box.GetButtonPressed(), mode == STD ? IDYES : IDNO);
-        EXPECT_EQ(box.m_buttons.size(), 2U);
-        box.inLoop = [&] { box.DestroyWindow(); };
-        box.DoModal();
-        EXPECT_EQ(box.GetButtonPressed(), 0);
-    }
-}
-
-TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
-{
-    static Fenced<Box>* box;
-    static WNDPROC before;
-    box = new Fenced<Box>(Lines(3).c_str(), MB_YESNOCANCEL);
-    ASSERT_TRUE(box->Create(CZepMsgBoxDlg::IDD, &Host()));
-    const auto goes = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
-        const WNDPROC next = before;
-        if (message == BM_SETSTYLE && box != nullptr)
-        {
-            delete std::exchange(box, nullptr);
-            return 0;
-        }
-        return ::CallWindowProc(next, window, message, wParam, lParam);
-    };
-    before = reinterpret_cast<WNDPROC>(
-        ::SetWindowLongPtr(box->Button(0), GWLP_WNDPROC, LONG_PTR(static_cast<WNDPROC>(+goes))));
-    const AccessFaults faults;
-    const ModeScope scope(ONBOARD);
-    EXPECT_EQ(box, nullptr);
-    EXPECT_EQ(faults.Count(), 0);
 }
 
 } // namespace

@@ -22,11 +22,17 @@ public:
     ~ColourView() override { --liveObjects; }
     void OnInitialUpdate() override { journal.push_back("initial update"); }
 
+    CWnd* ends = nullptr; // when this view is left
+
 protected:
     void OnDraw(CDC*) override {}
     void OnActivateView(BOOL activate, CView* to, CView* from) override
     {
         journal.push_back(activate ? "activate" : "deactivate");
+        if (!activate && ends != nullptr)
+        {
+            ends->DestroyWindow();
+        }
         CView::OnActivateView(activate, to, from);
     }
     void OnCommandOfView() { journal.push_back("view command"); }
@@ -93,12 +99,6 @@ protected:
         PumpAll();
         return frame;
     }
-
-    static COLORREF PixelOf(const CWnd& window, CPoint client)
-    {
-        return WindowPixels(window).At(ClientPoint(window, client) -
-                                       WindowRectOf(window).TopLeft());
-    }
 };
 
 TEST_F(FrameTest, AFrameMakesItsViewAndEndsWithItOrForWantOfIt)
@@ -118,6 +118,7 @@ TEST_F(FrameTest, AFrameMakesItsViewAndEndsWithItOrForWantOfIt)
     frame->SendMessage(WM_CLOSE);
     EXPECT_EQ(liveObjects, 0);
     EXPECT_EQ(MakeFrame(RUNTIME_CLASS(CView)), nullptr) << "no view, no frame";
+    EXPECT_EQ(CRuntimeClass::FromName("no such class"), nullptr);
     EXPECT_EQ(liveObjects, 0);
 }
 
@@ -125,7 +126,7 @@ TEST_F(FrameTest, CommandsGoToTheActiveViewFirst)
 {
     Frame* const frame = MakeFrame(RUNTIME_CLASS(ColourView));
     ASSERT_NE(frame, nullptr);
-    CView* const view = frame->GetActiveView();
+    auto* const view = DYNAMIC_DOWNCAST(ColourView, frame->GetActiveView());
     journal.clear();
     frame->SendMessage(WM_COMMAND, CommandOfView);
     frame->SendMessage(WM_COMMAND, CommandOfFrame);
@@ -136,19 +137,24 @@ TEST_F(FrameTest, CommandsGoToTheActiveViewFirst)
     EXPECT_EQ(frame->GetActiveView(), view);
     EXPECT_EQ(::GetFocus(), view->m_hWnd);
 
+    EXPECT_EQ(journal, (Journal{"view command", "frame command", "deactivate",
+                                "frame instead of view", "activate"}));
+    auto* const second = new ColourView;
+    second->Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), frame, AFX_IDW_PANE_FIRST + 1);
+    view->ends = second;
+    frame->SetActiveView(second); // gone by the time it would be active
+    EXPECT_EQ(frame->GetActiveView(), nullptr);
+    view->ends = nullptr;
+    frame->SetActiveView(view);
     view->DestroyWindow();
     EXPECT_EQ(liveObjects, 1);
     EXPECT_EQ(frame->GetActiveView(), nullptr);
-    frame->SendMessage(WM_COMMAND, CommandOfView);
-    EXPECT_EQ(journal,
-              (Journal{"view command", "frame command", "deactivate", "frame instead of view",
-                       "activate", "deactivate", "frame instead of view"}));
     frame->DestroyWindow();
 }
 
 TEST_F(FrameTest, AScrollViewShowsThePartItScrolledTo)
 {
-    Frame* const frame = MakeFrame(RUNTIME_CLASS(BigView));
+    Frame* const frame = MakeFrame(CRuntimeClass::FromName("BigView"));
     ASSERT_NE(frame, nullptr);
     auto* const view = DYNAMIC_DOWNCAST(BigView, frame->GetActiveView());
     ASSERT_NE(view, nullptr);
@@ -156,8 +162,9 @@ TEST_F(FrameTest, AScrollViewShowsThePartItScrolledTo)
     EXPECT_NE(view->GetStyle() & WS_VSCROLL, 0U);
     view->ScrollToPosition(CPoint(550, 450));
     PumpAll();
-    EXPECT_EQ(PixelOf(*view, CPoint(50, 50)), Ink);
-    EXPECT_NE(PixelOf(*view, CPoint(49, 50)), Ink);
+    const Pixels shown = ScreenPixels(CRect(ClientPoint(*view, CPoint(49, 50)), CSize(2, 1)));
+    EXPECT_EQ(shown.At(1, 0), Ink);
+    EXPECT_NE(shown.At(0, 0), Ink);
     view->ScrollToPosition(CPoint(5000, -20));
     EXPECT_EQ(view->GetScrollPosition(), CPoint(1000 - client.cx, 0));
     view->SendMessage(WM_VSCROLL, SB_PAGEDOWN);

@@ -1,3 +1,5 @@
+#include "catalog/DialogTemplate.h"
+#include "support/Fenced.h"
 #include "support/WindowTest.h"
 
 #include <string>
@@ -70,12 +72,18 @@ protected:
         Note("11");
         return takeEleven;
     }
+    BOOL OnTwelve(UINT)
+    {
+        delete this;
+        return FALSE;
+    }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Panel, BasePanel)
     ON_COMMAND(10, &Panel::OnTen)
     ON_COMMAND_EX(11, &Panel::OnElevenEx)
+    ON_COMMAND_EX(12, &Panel::OnTwelve)
 END_MESSAGE_MAP()
 
 // A child that gives its own colours if it has a brush.
@@ -127,7 +135,7 @@ TEST_F(MessageMap, CommandsFindTheHandlerOfTheirIdAndCode)
         {10, 0, false, {"10"}}, // the derived map first, and only it
         {10, 1, false, {"10"}}, // the same from an accelerator
         {11, 0, false, {"11"}},
-        {12, 0, false, {}},
+        {13, 0, false, {}},
         {20, 0, false, {"range 20"}},
         {22, 0, false, {"range 22"}},
         {23, 0, false, {}},
@@ -148,19 +156,34 @@ TEST_F(MessageMap, CommandsFindTheHandlerOfTheirIdAndCode)
         << "declined, so it goes on";
 }
 
+TEST_F(MessageMap, ADialogAsksItsOwnerWhoMayEndAndDecline)
+{
+    auto* const owner = new Fenced<Panel>;
+    owner->CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0);
+    CDialog dialog;
+    const DialogTemplate form(CRect(0, 0, 80, 40));
+    ASSERT_TRUE(dialog.CreateIndirect(form, owner));
+    dialog.SendMessage(WM_COMMAND, 20);
+    EXPECT_EQ(owner->journal, Journal{"range 20"});
+    const AccessFaults faults;
+    dialog.SendMessage(WM_COMMAND, 12);
+    EXPECT_EQ(dialog.GetSafeHwnd(), nullptr) << "its owner took it along";
+    EXPECT_EQ(faults.Count(), 0);
+}
+
 TEST_F(MessageMap, AskingWhoHandlesACommandDoesNotRunIt)
 {
     Panel& panel = AddPanel();
     AFX_CMDHANDLERINFO info = {};
     EXPECT_TRUE(panel.OnCmdMsg(10, CN_COMMAND, nullptr, &info));
     EXPECT_EQ(info.pTarget, &panel);
-    EXPECT_FALSE(panel.OnCmdMsg(12, CN_COMMAND, nullptr, &info));
+    EXPECT_FALSE(panel.OnCmdMsg(13, CN_COMMAND, nullptr, &info));
 
     auto& button = Add<CButton>(CRect(0, 0, 9, 9));
     CCmdUI ui;
     ui.m_pOther = &button;
-    // 10 decides itself, nobody handles 12, and 11 has a handler that nobody questions.
-    for (const auto& [id, enabled] : {std::pair(10U, FALSE), {12U, FALSE}, {11U, TRUE}})
+    // 10 decides itself, nobody handles 13, and 11 has a handler that nobody questions.
+    for (const auto& [id, enabled] : {std::pair(10U, FALSE), {13U, FALSE}, {11U, TRUE}})
     {
         button.EnableWindow(!enabled);
         ui.m_nID = id;

