@@ -35,14 +35,12 @@ TEST_F(CustomDialogTest, TheOnBoardFrameIsThreePixelsAndABandThatTakesPresses)
             const CPoint point = WindowPoint(dialog, at);
             return dialog.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y));
         };
-        for (const CPoint inside : {CPoint(3, 5), CPoint(size.cx - 3, 5), CPoint(3, end - 1)})
+        const CRect band(3, 5, size.cx - 2, end);
+        for (const CPoint at :
+             {CPoint(3, 5), CPoint(size.cx - 3, 5), CPoint(3, end - 1), CPoint(2, 5), CPoint(3, 4),
+              CPoint(size.cx - 2, 5), CPoint(3, end), CPoint(size.cx - 1, size.cy - 1)})
         {
-            EXPECT_EQ(hit(inside), HTCAPTION) << inside.x << ' ' << inside.y;
-        }
-        for (const CPoint outside : {CPoint(2, 5), CPoint(3, 4), CPoint(size.cx - 2, 5),
-                                     CPoint(3, end), CPoint(size.cx - 1, size.cy - 1)})
-        {
-            EXPECT_EQ(hit(outside), HTNOWHERE) << outside.x << ' ' << outside.y;
+            EXPECT_EQ(hit(at), band.PtInRect(at) ? HTCAPTION : HTNOWHERE) << at.x << ' ' << at.y;
         }
         COnBoardUIGeneral::SetAppMode(STD);
         EXPECT_EQ(hit(CPoint(size.cx - 8, size.cy - 8)), HTCLIENT);
@@ -61,14 +59,10 @@ TEST_F(CustomDialogTest, FrameAndCaptionArePainted)
         SCOPED_TRACE(when);
         const Pixels shown = WindowPixels(dialog);
         const int half = shown.Height() / 2;
-        const CPoint frame[] = {{shown.Width() - 20, 10},
-                                {100, band - 1},
-                                {0, half},
-                                {2, half},
-                                {shown.Width() - 3, half},
-                                {shown.Width() - 1, half},
-                                {60, shown.Height() - 2}};
-        for (const CPoint& point : frame)
+        const int right = shown.Width() - 1;
+        for (const CPoint point :
+             {CPoint(right - 20, 10), CPoint(100, band - 1), CPoint(0, half), CPoint(2, half),
+              CPoint(right - 2, half), CPoint(right, half), CPoint(60, shown.Height() - 2)})
         {
             EXPECT_EQ(shown.At(point), color) << point.x << ' ' << point.y;
         }
@@ -101,8 +95,7 @@ TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
         HGDIOBJ brush;
     };
     const Look field = {RGB(26, 26, 26), RGB(180, 180, 180), CCustomDialog::m_BkEditBrush};
-    const Look disabled = {RGB(70, 70, 70), RGB(100, 100, 100),
-                           CCustomDialog::m_BkEditDisabledBrush};
+    const Look off = {RGB(70, 70, 70), RGB(100, 100, 100), CCustomDialog::m_BkEditDisabledBrush};
     const Look label = {RGB(230, 230, 230), CLR_INVALID, CCustomDialog::m_BkBrush};
     const Look panel = {RGB(0, 0, 0), CLR_INVALID, CCustomDialog::m_BkBrush};
     const struct
@@ -113,8 +106,8 @@ TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
     } cases[] = {
         {WM_CTLCOLOREDIT, IdEdit, field},
         {WM_CTLCOLORLISTBOX, IdList, field},
-        {WM_CTLCOLOREDIT, IdDisabled, disabled},
-        {WM_CTLCOLORSTATIC, IdDisabled, disabled}, // as the platform's disabled edit asks
+        {WM_CTLCOLOREDIT, IdDisabled, off},
+        {WM_CTLCOLORSTATIC, IdDisabled, off}, // as the platform's disabled edit asks
         {WM_CTLCOLORSTATIC, IdReadOnly, field},
         {WM_CTLCOLORSTATIC, IdLabel, label},
         {WM_CTLCOLORDLG, 0, panel},

