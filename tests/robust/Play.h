@@ -5,9 +5,12 @@
 #include "OnBoardUIGeneral.h"
 #include "catalog/DialogTemplate.h"
 #include "support/Fenced.h"
+#include "support/Pumping.h"
 
 #include <afxcmn.h>
 #include <afxdlgs.h>
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -150,13 +153,21 @@ struct Play
     std::unique_ptr<CWnd> sibling;
     std::vector<Told> told; // each once
     std::optional<Told> awaited;
-    Death death = Death::Window;
+    Death death;
     bool over = false;
     bool modal = false; // control and parent are on the stack: only their windows end
+    int faults = Watch::Faults();
+    Watch watch{[this] { return Title(); }};
 
     static inline Play* s_now = nullptr;
 
-    Play() { s_now = this; }
+    Play(const std::string& what, std::optional<Told> itsAwaited, Death itsDeath)
+        : title(what + " in mode " + std::to_string(int(COnBoardUIGeneral::GetAppMode())))
+        , awaited(itsAwaited)
+        , death(itsDeath)
+    {
+        s_now = this;
+    }
     Play(const Play&) = delete;
     Play& operator=(const Play&) = delete;
     ~Play()
@@ -211,6 +222,43 @@ struct Play
         return now->modal ? now->death != Death::Sibling : now->death == Death::Parent;
     }
 
+    // What the window is put through, until it is over.
+    template <class Step> void Do(HWND window, Step step) const
+    {
+        if (!over && ::IsWindow(window))
+        {
+            step();
+        }
+    }
+    void Paint(HWND window) const
+    {
+        constexpr UINT All =
+            RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN;
+        Do(window, [=] { ::RedrawWindow(window, nullptr, nullptr, All); });
+    }
+    void ChangeModes(HWND window) const
+    {
+        const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+        for (const APPMODE next : {ONBOARD, STD, mode})
+        {
+            Do(window, [=] { COnBoardUIGeneral::SetAppMode(next); });
+            Paint(window);
+        }
+        COnBoardUIGeneral::SetAppMode(mode);
+    }
+
+    // Nothing may be left of it; what was told.
+    std::vector<Told> Finish()
+    {
+        over = true;
+        EXPECT_EQ(::GetCapture(), nullptr) << Title() << ": left with the capture";
+        ::ReleaseCapture();
+        PumpAll();
+        EXPECT_EQ(Watch::Faults(), faults) << Title();
+        return told;
+    }
+
+private:
     void End()
     {
         if (modal)

@@ -3,11 +3,6 @@
 #include "robust/Subjects.h"
 #include "robust/Watch.h"
 
-#include <afxcmn.h>
-
-#include <cstdint>
-#include <random>
-
 // A storm of messages on one window: whatever input, a parent, a host and the platform send it, in
 // any order, in any mode. The same seed gives the same storm.
 class Storm
@@ -34,22 +29,17 @@ private:
 
     const Subject& m_subject;
     std::uint32_t m_seed;
-    std::mt19937 m_random;
+    Arguments m_arguments;
     std::vector<Sent> m_last;
-    std::string m_texts[4];
-    std::vector<char> m_buffer;
-    CRect m_place;
-    LVITEM m_item = {};
     Watch m_watch;
 
-    int Between(int first, int last);
-    void Note(UINT message, WPARAM wParam, LPARAM lParam);
+    int Between(int first, int last) { return m_arguments.Between(first, last); }
+    void Note(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     void Send(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam);
-    LPARAM Value(Argument argument, const CWnd& window);
+    void SendOne(CWnd& window, const std::vector<Word>& words);
 
     void Input(CWnd& window);
     void Press(CWnd& window, UINT down, UINT up, WPARAM wParam, LPARAM point);
     void Scroll(CWnd& window);
     void Life(CWnd& parent, CWnd& window);
-    void Own(CWnd& window);
 };

@@ -4,6 +4,7 @@
 #include "catalog/Makers.h"
 #include "support/Fenced.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -227,6 +228,85 @@ const std::vector<Subject>& Subjects()
 {
     static const std::vector<Subject> subjects = MakeSubjects();
     return subjects;
+}
+
+std::string TestName(std::string words)
+{
+    std::replace(words.begin(), words.end(), ' ', '_');
+    return words;
+}
+
+const std::vector<Word> CommonWords = {
+    {WM_CANCELMODE},     {WM_SETTEXT, None, Text}, {WM_SETFONT, Font, Flag},  {WM_SETREDRAW, Flag},
+    {WM_SYSCOLORCHANGE}, {WM_VSCROLL, Small},      {WM_HSCROLL, Small, None}, {WM_TIMER, Timer},
+};
+
+int Arguments::Between(int first, int last)
+{
+    // The same on every platform, unlike the library's distributions.
+    return m_seed == 0 ? std::clamp(1, first, last)
+                       : first + int(m_random() % (std::uint32_t(last - first) + 1));
+}
+
+LPARAM Arguments::Value(Argument argument, HWND window)
+{
+    switch (argument)
+    {
+    case None:
+    case Fixed:
+        return 0;
+    case Flag:
+        return Between(0, 1);
+    case Row:
+        return Between(0, 20) == 0 ? Between(-2, 5000) : Between(-1, 45);
+    case Small:
+        return Between(-3, 20);
+    case Pixels:
+        return Between(-20, 400);
+    case Data:
+        return m_seed == 0 ? 0 : LPARAM(m_random());
+    case Letter:
+        return Between(0, 9) == 0 ? VK_RETURN : Between(8, 126);
+    case Text:
+        return reinterpret_cast<LPARAM>(m_texts[Between(0, 3)].c_str());
+    case Buffer:
+        *reinterpret_cast<WORD*>(m_room.data()) = WORD(m_room.size() - 1); // as EM_GETLINE has it
+        return reinterpret_cast<LPARAM>(m_room.data());
+    case Place:
+        m_place.SetRect(Between(-5, 50), Between(-5, 50), Between(40, 300), Between(40, 300));
+        return reinterpret_cast<LPARAM>(&m_place);
+    case Point:
+    {
+        CRect client;
+        ::GetClientRect(window, &client);
+        return MAKELPARAM(Between(-20, client.right + 60), Between(-20, client.bottom + 20));
+    }
+    case Font:
+        return reinterpret_cast<LPARAM>(
+            ::GetStockObject(Between(0, 1) ? DEFAULT_GUI_FONT : SYSTEM_FONT));
+    case Timer:
+        return LPARAM(TimerIds[Between(0, int(std::size(TimerIds)) - 1)]);
+    case ListItem:
+        m_item.mask = LVIF_TEXT | LVIF_STATE;
+        m_item.iItem = Between(-1, 60);
+        m_item.iSubItem = Between(0, 4) - 1;
+        m_item.pszText = m_texts[Between(0, 3)].data();
+        m_item.state = UINT(Between(0, 3));
+        m_item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+        return reinterpret_cast<LPARAM>(&m_item);
+    case TreeItem:
+    {
+        LRESULT item = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_ROOT, 0);
+        for (int steps = Between(0, 30) - 1; steps > 0 && item != 0; --steps)
+        {
+            const LRESULT child = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_CHILD, item);
+            const LRESULT next = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_NEXT, item);
+            item = child != 0 && Between(0, 1) ? child : next;
+        }
+        return item;
+    }
+    }
+    return 0;
 }
 
 void ForgetClipboard()

@@ -2,9 +2,15 @@
 
 #include "catalog/Controls.h"
 
+#include <gtest/gtest.h>
+
+#include <afxcmn.h>
+
+#include <cstdint>
 #include <functional>
 #include <memory>
-#include <span>
+#include <ostream>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -26,6 +32,7 @@ enum class Argument
     Place,  // a rectangle
     Point,  // packed client coordinates
     Font,
+    Timer,    // the id of one that the library sets
     ListItem, // an LVITEM
     TreeItem, // an item of the tree, or none
     Fixed,    // what the word says
@@ -54,6 +61,46 @@ struct Subject
 };
 
 const std::vector<Subject>& Subjects();
+
+// In the names of tests and in what they print.
+std::string TestName(std::string words);
+inline void PrintTo(const Subject& subject, std::ostream* out)
+{
+    *out << subject.name;
+}
+
+constexpr UINT TimerIds[] = {101, 102, 103, 104, 105, 106, 1011, 1189, 1190, 1278, 2566};
+
+// What any window understands.
+extern const std::vector<Word> CommonWords;
+
+// Values for parameters: random ones, the same for the same seed, or without a seed likely ones.
+class Arguments
+{
+public:
+    explicit Arguments(std::uint32_t seed = 0)
+        : m_seed(seed)
+        , m_random(seed)
+    {}
+    Arguments(const Arguments&) = delete;
+    Arguments& operator=(const Arguments&) = delete;
+
+    int Between(int first, int last);
+    // Valid until the next one.
+    LPARAM Value(Argument argument, HWND window);
+    WPARAM First(const Word& word, HWND window)
+    {
+        return word.wParam == Argument::Fixed ? word.fixed : WPARAM(Value(word.wParam, window));
+    }
+
+private:
+    std::uint32_t m_seed;
+    std::mt19937 m_random;
+    std::string m_texts[4] = {"", "Row 7", "Waypoint", std::string(300, 'W')};
+    std::vector<char> m_room = std::vector<char>(0x10000);
+    CRect m_place;
+    LVITEM m_item = {};
+};
 
 // A press of the middle button pastes in an edit of a later test what one of these has cut.
 void ForgetClipboard();

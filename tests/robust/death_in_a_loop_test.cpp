@@ -37,14 +37,8 @@ protected:
     template <class Window, class Make>
     std::vector<Told> Give(std::optional<Told> awaited, Death death, Make make)
     {
-        const int faults = Watch::Faults();
-        Play play;
-        const Watch watch([&] { return play.Title(); });
-        play.title =
-            std::string("a loop in mode ") + std::to_string(int(COnBoardUIGeneral::GetAppMode()));
+        Play play("a loop", awaited, death);
         play.modal = true;
-        play.awaited = awaited;
-        play.death = death;
         auto owner = std::make_unique<CWnd>();
         owner->CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, Stage, &Host(), 0);
         std::unique_ptr<Window> window = make(owner.get());
@@ -57,26 +51,10 @@ protected:
         shown.inLoop = [&] {
             play.over = sheet ? false : play.over;
             const HWND handle = shown.GetSafeHwnd();
-            const APPMODE mode = COnBoardUIGeneral::GetAppMode();
-            const auto go = [&](auto step) {
-                if (!play.over && ::IsWindow(handle))
-                {
-                    step();
-                }
-            };
-            for (const APPMODE next : {ONBOARD, STD, mode})
-            {
-                go([&] { COnBoardUIGeneral::SetAppMode(next); });
-                go([&] {
-                    ::RedrawWindow(handle, nullptr, nullptr,
-                                   RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW |
-                                       RDW_ALLCHILDREN);
-                });
-            }
-            COnBoardUIGeneral::SetAppMode(mode);
+            play.ChangeModes(handle);
             for (const UINT key : {VK_TAB, VK_DOWN, VK_TAB, VK_RETURN})
             {
-                go([&] { TypeKey(key); });
+                play.Do(handle, [=] { TypeKey(key); });
             }
             play.over = true;
             if (::IsWindow(handle))
@@ -85,12 +63,8 @@ protected:
             }
         };
         shown.DoModal();
-        play.over = true;
-        const std::vector<Told> told = play.told;
-        EXPECT_EQ(::GetCapture(), nullptr) << play.Title();
-        EXPECT_EQ(Watch::Faults(), faults) << play.Title();
         EXPECT_TRUE(Host().IsWindowEnabled()) << play.Title();
-        return told;
+        return play.Finish();
     }
 
     template <class Window, class Make> void All(Make make)

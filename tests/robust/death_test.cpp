@@ -28,14 +28,6 @@ private:
     Hearing<CCustomPropPage> m_page{UINT(IDD_TEST_PAGE_1)};
 };
 
-class View : public Hearing<CCustomFormView>
-{
-public:
-    View()
-        : Hearing<CCustomFormView>(UINT(IDD_TEST_FORM))
-    {}
-};
-
 std::unique_ptr<CWnd> Plain(CWnd& host)
 {
     auto parent = std::make_unique<Hearing<CWnd>>();
@@ -69,8 +61,14 @@ std::unique_ptr<CWnd> PageOfASheet(CWnd& host)
 
 std::unique_ptr<CWnd> FormView(CWnd& host)
 {
+    struct View : Hearing<CCustomFormView>
+    {
+        View()
+            : Hearing<CCustomFormView>(UINT(IDD_TEST_FORM))
+        {}
+    };
     auto view = std::make_unique<View>();
-    view->Create(nullptr, nullptr, WS_CHILD, Stage, &host, 5, nullptr);
+    view->CWnd::Create(nullptr, nullptr, WS_CHILD, Stage, &host, 5, nullptr);
     return view;
 }
 
@@ -104,49 +102,6 @@ void QueuePress(CPoint point, CPoint to, bool right)
     PumpAll();
 }
 
-LPARAM Sensible(const Word& word, HWND window)
-{
-    static LVITEM s_item;
-    static char s_room[0x200];
-    static CRect s_place;
-    switch (word.lParam)
-    {
-    case Argument::Flag:
-    case Argument::Row:
-    case Argument::Small:
-        return 1;
-    case Argument::Pixels:
-        return 120;
-    case Argument::Letter:
-        return 'w';
-    case Argument::Text:
-        return reinterpret_cast<LPARAM>("Row 7");
-    case Argument::Buffer:
-        *reinterpret_cast<WORD*>(s_room) = sizeof(s_room) - 2;
-        return reinterpret_cast<LPARAM>(s_room);
-    case Argument::Place:
-        s_place.SetRect(2, 2, 200, 100);
-        return reinterpret_cast<LPARAM>(&s_place);
-    case Argument::Point:
-        return MAKELPARAM(30, 20);
-    case Argument::Font:
-        return reinterpret_cast<LPARAM>(::GetStockObject(DEFAULT_GUI_FONT));
-    case Argument::ListItem:
-        s_item = {};
-        s_item.mask = LVIF_TEXT | LVIF_STATE;
-        s_item.iItem = 1;
-        s_item.pszText = const_cast<char*>("Row 7");
-        s_item.state = s_item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-        return reinterpret_cast<LPARAM>(&s_item);
-    case Argument::TreeItem:
-        return ::SendMessage(window, TVM_GETNEXTITEM, TVGN_ROOT, 0);
-    default:
-        return 0;
-    }
-}
-
-constexpr UINT TimerIds[] = {101, 102, 103, 104, 105, 106, 1011, 1189, 1190, 1278, 2566};
-
 // Everything that makes a control speak, until it is over.
 class Provocation
 {
@@ -171,32 +126,27 @@ public:
 private:
     const Subject& m_subject;
     const Play& m_play;
+    Arguments m_arguments;
     HWND m_window;
     CRect m_place;
 
-    template <class Step> void Do(Step step)
-    {
-        if (!m_play.over && ::IsWindow(m_window))
-        {
-            step();
-        }
-    }
+    template <class Step> void Do(Step step) { m_play.Do(m_window, step); }
     void Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
     {
         Do([&] { ::SendMessage(m_window, message, wParam, lParam); });
     }
-    void Paint()
+    void Say(const std::vector<Word>& words)
     {
-        Do([&] {
-            ::RedrawWindow(m_window, nullptr, nullptr,
-                           RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW |
-                               RDW_ALLCHILDREN);
-        });
+        for (const Word& word : words)
+        {
+            const WPARAM wParam = m_arguments.First(word, m_window);
+            Send(word.message, wParam, m_arguments.Value(word.lParam, m_window));
+        }
     }
 
     void Input()
     {
-        Paint();
+        m_play.Paint(m_window);
         const CPoint first(m_place.left + 20, m_place.top + 32);
         const CPoint points[] = {first, first, // twice: a double click
                                  CPoint(m_place.right - 10, m_place.bottom - 10),
@@ -220,16 +170,8 @@ private:
 
     void Messages()
     {
-        for (const Word& word : m_subject.words)
-        {
-            const bool fixed = word.wParam == Argument::Fixed;
-            const bool counts = word.wParam != Argument::None;
-            const WPARAM wParam = fixed                             ? word.fixed
-                                  : word.wParam == Argument::Letter ? 'w'
-                                                                    : counts;
-            Do([&] { ::SendMessage(m_window, word.message, wParam, Sensible(word, m_window)); });
-        }
-        Paint();
+        Say(m_subject.words);
+        m_play.Paint(m_window);
         for (const UINT message : {UINT(LVM_EDITLABEL), UINT(TVM_EDITLABEL)})
         {
             char name[40] = "";
@@ -249,29 +191,13 @@ private:
 
     void Changes()
     {
-        for (const auto& [message, wParam] : {std::pair{WM_VSCROLL, SB_LINEDOWN},
-                                              {WM_HSCROLL, SB_LINERIGHT},
-                                              {WM_CANCELMODE, 0},
-                                              {WM_SYSCOLORCHANGE, 0},
-                                              {WM_ENABLE, FALSE},
-                                              {WM_ENABLE, TRUE}})
-        {
-            Send(UINT(message), WPARAM(wParam));
-        }
-        Send(WM_SETTEXT, 0, reinterpret_cast<LPARAM>("Waypoint"));
-        Send(WM_SETFONT, reinterpret_cast<WPARAM>(::GetStockObject(DEFAULT_GUI_FONT)), TRUE);
+        Say(CommonWords);
         Do([&] { ::EnableWindow(m_window, FALSE); });
         Do([&] { ::EnableWindow(m_window, TRUE); });
         Do([&] { ::SetWindowPos(m_window, nullptr, 40, 30, 200, 150, SWP_NOZORDER); });
         Do([&] { ::ShowWindow(m_window, SW_HIDE); });
         Do([&] { ::ShowWindow(m_window, SW_SHOWNA); });
-        const APPMODE mode = COnBoardUIGeneral::GetAppMode();
-        for (const APPMODE next : {ONBOARD, STD, mode})
-        {
-            Do([&] { COnBoardUIGeneral::SetAppMode(next); });
-            Paint();
-        }
-        COnBoardUIGeneral::SetAppMode(mode);
+        m_play.ChangeModes(m_window);
         Do([&] { PumpAll(); });
     }
 };
@@ -297,14 +223,8 @@ protected:
     std::vector<Told> Give(std::optional<Told> awaited, Death death)
     {
         const auto& [subject, kind] = GetParam();
-        const int faults = Watch::Faults();
-        Play play;
-        const Watch watch([&] { return play.Title(); });
+        Play play(std::string(subject->name) + ' ' + kind->name, awaited, death);
         play.over = true; // not yet begun
-        play.title = std::string(subject->name) + ' ' + kind->name + " in mode " +
-                     std::to_string(int(COnBoardUIGeneral::GetAppMode()));
-        play.awaited = awaited;
-        play.death = death;
         play.parent = kind->make(Host());
         CWnd* parent = play.parent.get();
         if (auto* const sheet = dynamic_cast<CPropertySheet*>(parent))
@@ -339,12 +259,7 @@ protected:
                 EXPECT_FALSE(timed) << play.Title() << ": left with a timer";
             }
         }
-        EXPECT_EQ(::GetCapture(), nullptr) << play.Title() << ": left with the capture";
-        ::ReleaseCapture();
-        const std::vector<Told> told = play.told;
-        PumpAll();
-        EXPECT_EQ(Watch::Faults(), faults) << play.Title();
-        return told;
+        return play.Finish();
     }
 };
 
@@ -403,10 +318,8 @@ std::vector<Case> Cases()
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, DeathAtAnyMoment, testing::ValuesIn(Cases()), [](const auto& info) {
-    std::string name = std::string(info.param.subject->name) + ' ' + info.param.parent->name;
-    name.erase(name.find_last_not_of(' ') + 1);
-    std::replace(name.begin(), name.end(), ' ', '_');
-    return name;
+    const std::string parent = info.param.parent->name;
+    return TestName(info.param.subject->name + (parent.empty() ? "" : ' ' + parent));
 });
 
 } // namespace

@@ -9,15 +9,13 @@
 
 namespace {
 
-class Leaks : public WindowTest, public testing::WithParamInterface<size_t>
+class Leaks : public WindowTest, public testing::WithParamInterface<Subject>
 {
 protected:
-    static const Subject& Tested() { return Subjects()[GetParam()]; }
-
     // One life, through the modes.
     void Live()
     {
-        std::unique_ptr<CWnd> window = Tested().make(Host());
+        std::unique_ptr<CWnd> window = GetParam().make(Host());
         ASSERT_NE(window, nullptr);
         for (const APPMODE mode : {ONBOARD, EFB, STD})
         {
@@ -50,19 +48,15 @@ TEST_P(Leaks, ManyLivesLeaveNothing)
     {
         Live();
     }
-    EXPECT_EQ(GraphicsObjects(), objects) << Tested().name;
-    EXPECT_EQ(TopLevelWindows().size(), windows) << Tested().name;
+    EXPECT_EQ(GraphicsObjects(), objects) << GetParam().name;
+    EXPECT_EQ(TopLevelWindows().size(), windows) << GetParam().name;
     // The platform keeps a little for itself that comes and goes; a leak grows with the cycles.
     const auto growth = std::int64_t(AllocatedBytes()) - std::int64_t(kept);
-    EXPECT_LT(growth, cycles * 64) << Tested().name;
+    EXPECT_LT(growth, cycles * 64) << GetParam().name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Leaks, testing::Range(size_t(0), Subjects().size()),
-                         [](const auto& info) {
-                             std::string name = Subjects()[info.param].name;
-                             std::replace(name.begin(), name.end(), ' ', '_');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Of, Leaks, testing::ValuesIn(Subjects()),
+                         [](const auto& info) { return TestName(info.param.name); });
 
 using NoRoom = WindowTest;
 

@@ -18,13 +18,13 @@ int Number(const char* name, int otherwise)
     return text != nullptr ? std::atoi(text) : otherwise;
 }
 
-class MessageStorm : public WindowTest, public testing::WithParamInterface<const Subject*>
+class MessageStorm : public WindowTest, public testing::WithParamInterface<Subject>
 {
 protected:
     // One storm with a window of its own; afterwards nothing may go on.
     void Blow(std::uint32_t seed, int messages)
     {
-        const Subject& subject = *GetParam();
+        const Subject& subject = GetParam();
         std::unique_ptr<CWnd> window = subject.make(Host());
         ASSERT_NE(window, nullptr) << subject.name;
         const HWND handle = window->GetSafeHwnd();
@@ -104,24 +104,11 @@ TEST_P(MessageStorm, LeavesTheControlSound)
     if (seconds.count() > 0)
     {
         RecordProperty("storms", storms);
-        std::printf("%s: %d storms of %d messages\n", GetParam()->name, storms, ShortStorm);
+        std::printf("%s: %d storms of %d messages\n", GetParam().name, storms, ShortStorm);
     }
 }
 
-std::vector<const Subject*> All()
-{
-    std::vector<const Subject*> all;
-    for (const Subject& subject : Subjects())
-    {
-        all.push_back(&subject);
-    }
-    return all;
-}
-
-INSTANTIATE_TEST_SUITE_P(Of, MessageStorm, testing::ValuesIn(All()), [](const auto& info) {
-    std::string name = info.param->name;
-    std::replace(name.begin(), name.end(), ' ', '_');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(Of, MessageStorm, testing::ValuesIn(Subjects()),
+                         [](const auto& info) { return TestName(info.param.name); });
 
 } // namespace

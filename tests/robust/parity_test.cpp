@@ -17,6 +17,8 @@
 #include "MultiTree.h"
 #include "robust/Journal.h"
 
+#include <algorithm>
+
 namespace {
 
 const CRect Room(40, 30, 300, 230);
@@ -302,23 +304,21 @@ protected:
         for (const auto& [before, within] : {std::pair{false, false}, {true, false}, {false, true}})
         {
             const Lines given = Played<Ours>(windowClass, style, script, before, within);
-            for (size_t line = 0; line < wanted.size() || line < given.size(); ++line)
+            const auto [left, right] = std::ranges::mismatch(wanted, given);
+            if (left == wanted.end() && right == given.end())
             {
-                const std::string left = line < wanted.size() ? wanted[line] : "(end)";
-                const std::string right = line < given.size() ? given[line] : "(end)";
-                if (left != right)
-                {
-                    std::string last;
-                    for (size_t back = line > 4 ? line - 4 : 0; back < line; ++back)
-                    {
-                        last += "\n  " + wanted[back];
-                    }
-                    ADD_FAILURE() << windowClass << " of style " << style << ", modes before "
-                                  << before << ", within " << within << last
-                                  << "\nplatform: " << left << "\nours:     " << right;
-                    break;
-                }
+                continue;
             }
+            std::string last;
+            for (auto back = left - std::min<ptrdiff_t>(4, left - wanted.begin()); back != left;
+                 ++back)
+            {
+                last += "\n  " + *back;
+            }
+            ADD_FAILURE() << windowClass << " of style " << style << ", modes before " << before
+                          << ", within " << within << last
+                          << "\nplatform: " << (left != wanted.end() ? *left : "(end)")
+                          << "\nours:     " << (right != given.end() ? *right : "(end)");
         }
     }
 };
