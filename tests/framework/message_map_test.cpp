@@ -86,7 +86,7 @@ BEGIN_MESSAGE_MAP(Panel, BasePanel)
     ON_COMMAND_EX(12, &Panel::OnTwelve)
 END_MESSAGE_MAP()
 
-// A child that gives its own colours if it has a brush.
+// A child that gives its own colours if it has a brush, and on a click ends its parent.
 class Colourful : public CButton
 {
 public:
@@ -94,11 +94,17 @@ public:
 
 protected:
     HBRUSH CtlColor(CDC*, UINT) { return brush; }
+    BOOL OnClicked()
+    {
+        delete GetParent();
+        return FALSE;
+    }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Colourful, CButton)
     ON_WM_CTLCOLOR_REFLECT()
+    ON_CONTROL_REFLECT_EX(BN_CLICKED, &Colourful::OnClicked)
 END_MESSAGE_MAP()
 
 class MessageMap : public WindowTest
@@ -165,8 +171,13 @@ TEST_F(MessageMap, ADialogAsksItsOwnerWhoMayEndAndDecline)
     ASSERT_TRUE(dialog.CreateIndirect(form, owner));
     dialog.SendMessage(WM_COMMAND, 20);
     EXPECT_EQ(owner->journal, Journal{"range 20"});
+    auto* const parent = new Fenced<Panel>;
+    parent->CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0);
+    Colourful child;
+    child.Create("", WS_CHILD, CRect(0, 0, 9, 9), parent, 30);
     const AccessFaults faults;
-    dialog.SendMessage(WM_COMMAND, 12);
+    ::SendMessage(*parent, WM_COMMAND, 30, reinterpret_cast<LPARAM>(child.m_hWnd));
+    ::SendMessage(*owner, WM_COMMAND, 12, 0);
     EXPECT_EQ(dialog.GetSafeHwnd(), nullptr) << "its owner took it along";
     EXPECT_EQ(faults.Count(), 0);
 }

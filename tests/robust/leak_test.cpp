@@ -66,7 +66,8 @@ TEST_F(NoRoom, NorATextWithoutEndDoesHarm)
     for (const Subject& subject : Subjects())
     {
         SCOPED_TRACE(subject.name);
-        const std::unique_ptr<CWnd> window = subject.make(Host());
+        std::unique_ptr<CWnd> window = subject.make(Host());
+        window->ModifyStyleEx(0, WS_EX_CLIENTEDGE);
         window->SetWindowText(endless.c_str());
         for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
         {
@@ -79,6 +80,9 @@ TEST_F(NoRoom, NorATextWithoutEndDoesHarm)
                 EXPECT_TRUE(client.cx >= 0 && client.cy >= 0) << client.cx << ' ' << client.cy;
             }
         }
+        window.reset();
+        PumpAll();
+        Host().Forget();
     }
 }
 
