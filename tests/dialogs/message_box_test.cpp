@@ -1,4 +1,5 @@
 #include "dialogs/message_box_for_tests.h"
+#include "support/Fenced.h"
 
 #include <utility>
 
@@ -293,6 +294,29 @@ TEST_F(MessageBoxTest, BadInputHasADefinedResult)
         EXPECT_EQ(partless.DoModal(), IDCANCEL);
         COnBoardUIGeneral::SetAppMode(mode);
     }
+}
+
+TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
+{
+    static Fenced<Box>* box;
+    static WNDPROC before;
+    box = new Fenced<Box>(Lines(3).c_str(), MB_YESNOCANCEL);
+    ASSERT_TRUE(box->Create(CZepMsgBoxDlg::IDD, &Host()));
+    const auto goes = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        const WNDPROC next = before;
+        if (message == BM_SETSTYLE && box != nullptr)
+        {
+            delete std::exchange(box, nullptr);
+            return 0;
+        }
+        return ::CallWindowProc(next, window, message, wParam, lParam);
+    };
+    before = reinterpret_cast<WNDPROC>(
+        ::SetWindowLongPtr(box->Button(0), GWLP_WNDPROC, LONG_PTR(static_cast<WNDPROC>(+goes))));
+    const AccessFaults faults;
+    const ModeScope scope(ONBOARD);
+    EXPECT_EQ(box, nullptr);
+    EXPECT_EQ(faults.Count(), 0);
 }
 
 } // namespace
