@@ -26,6 +26,7 @@ protected:
                                  RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
             window->SendMessage(WM_KEYDOWN, VK_DOWN, 1);
             window->SendMessage(WM_KEYUP, VK_DOWN, LPARAM(0xC0000001));
+            window->SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001); // opens a combo, and closes it
         }
         window.reset();
         PumpAll();

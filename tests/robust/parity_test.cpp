@@ -91,22 +91,21 @@ void Write(CEdit& edit, Journal& journal)
 
 CString RowText(const CListBox& list, int row)
 {
-    CString text;
-    if (list.GetTextLen(row) >= 0)
-    {
-        list.GetText(row, text);
-    }
+    char text[80] = ""; // of a list without strings, its data
+    ::SendMessage(list, LB_GETTEXT, WPARAM(row), reinterpret_cast<LPARAM>(text));
     return text;
 }
 
 void Pick(CListBox& list, Journal& journal)
 {
-    for (const char* const text : {"Gamma", "Alpha", "Delta", "Beta", "Alphabet"})
+    const char* const texts[] = {"Gamma", "Alpha", "Delta", "Beta", "Alphabet"};
+    for (const char* const text : texts)
     {
         ASK(list.AddString(text));
     }
-    ASK(list.InsertString(1, "Inserted"), list.InsertString(99, "Nowhere"),
-        list.InsertString(-1, "Last"), list.GetCount());
+    ASK(list.FindStringExact(-1, texts[3]), list.FindString(2, texts[1]),
+        list.SelectString(1, texts[2]), list.InsertString(1, "Inserted"),
+        list.InsertString(99, "Nowhere"), list.InsertString(-1, "Last"), list.GetCount());
     for (int row = -1; row < 8; ++row)
     {
         ASK(RowText(list, row), list.SetItemData(row, DWORD_PTR(row) * 3));
@@ -130,9 +129,10 @@ void Pick(CListBox& list, Journal& journal)
     ASK(list.GetTopIndex(), list.SetTopIndex(20), list.GetTopIndex(),
         (list.SendMessage(WM_VSCROLL, SB_LINEDOWN), 0), list.GetTopIndex(),
         (list.SendMessage(WM_VSCROLL, SB_PAGEUP), 0), list.GetTopIndex(),
-        (list.SendMessage(WM_VSCROLL, SB_BOTTOM), 0), list.GetTopIndex(), journal.Key(VK_PRIOR),
-        list.GetTopIndex(), list.GetScrollPos(SB_VERT), list.GetItemHeight(0),
-        Filled([&](CRect* rect) { list.GetItemRect(30, rect); }),
+        journal.Press(Room.Width() - 8, Room.Height() - 8), list.GetTopIndex(),
+        (Wheel(-WHEEL_DELTA), 0), list.GetTopIndex(), (list.SendMessage(WM_VSCROLL, SB_BOTTOM), 0),
+        list.GetTopIndex(), journal.Key(VK_PRIOR), list.GetTopIndex(), list.GetScrollPos(SB_VERT),
+        list.GetItemHeight(0), Filled([&](CRect* rect) { list.GetItemRect(30, rect); }),
         list.SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(20, 40)), list.DeleteString(3),
         list.DeleteString(99), list.GetCount(), list.GetCurSel(), (list.ResetContent(), 0),
         list.GetCount(), list.GetTopIndex(), list.GetCurSel(), list.SendMessage(WM_GETDLGCODE));
@@ -187,7 +187,9 @@ void Report(CListCtrl& list, Journal& journal)
     {
         list.InsertItem(4 + row, "Row");
     }
+    Drag(WindowPoint(list, CPoint(72, 10)), WindowPoint(list, CPoint(102, 10)));
     ASK(list.GetCountPerPage(), list.EnsureVisible(30, FALSE), list.GetTopIndex(),
+        list.GetColumnWidth(0), (Wheel(WHEEL_DELTA), 0), list.GetTopIndex(),
         list.Scroll(CSize(0, -100)), list.GetTopIndex(),
         Filled([&](CRect* rect) { list.GetItemRect(5, rect, LVIR_BOUNDS); }),
         (list.SendMessage(WM_VSCROLL, SB_PAGEDOWN), 0), list.GetTopIndex(),
@@ -359,26 +361,48 @@ TEST_F(Parity, ListBoxes)
     }
 }
 
+int InOrder(const COMPAREITEMSTRUCT& compare)
+{
+    return compare.itemData1 < compare.itemData2 ? -1 : int(compare.itemData1 > compare.itemData2);
+}
+
 // Rows as high as those of the check list.
 class DrawnRows : public CListBox
 {
-    void MeasureItem(LPMEASUREITEMSTRUCT measure) override { measure->itemHeight = 16; }
+    void MeasureItem(LPMEASUREITEMSTRUCT measure) override
+    {
+        measure->itemHeight = (GetStyle() & LBS_HASSTRINGS) != 0 ? 16 : 15;
+    }
+    int CompareItem(LPCOMPAREITEMSTRUCT compare) override { return InOrder(*compare); }
 };
 
-// In the automatic styles the space key checks, instead of being looked up.
-class Unchecking : public CCustomChecklistBox
+// Each row has a check, beside which the list keeps the caller's data. In the automatic styles the
+// space key checks, instead of being looked up.
+class Checked : public CCustomChecklistBox
 {
 public:
-    Unchecking() { SetCheckStyle(BS_CHECKBOX); }
+    Checked() { SetCheckStyle(BS_CHECKBOX); }
+
+private:
+    int CompareItem(LPCOMPAREITEMSTRUCT compare) override { return InOrder(*compare); }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = CCustomChecklistBox::WindowProc(message, wParam, lParam);
+        if (message == LB_ADDSTRING || message == LB_INSERTSTRING)
+        {
+            SetCheck(int(result), 1);
+        }
+        return result;
+    }
 };
 
 TEST_F(Parity, CheckLists)
 {
-    constexpr DWORD Style =
-        LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
-    for (const DWORD style : {DWORD(0), DWORD(LBS_SORT), DWORD(LBS_EXTENDEDSEL)})
+    constexpr DWORD Style = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | LBS_OWNERDRAWFIXED;
+    for (const DWORD style : {LBS_HASSTRINGS, LBS_HASSTRINGS | LBS_SORT,
+                              LBS_HASSTRINGS | LBS_EXTENDEDSEL, 0L, LBS_SORT})
     {
-        Compare<Unchecking, DrawnRows>("LISTBOX", Style | style, &Pick);
+        Compare<Checked, DrawnRows>("LISTBOX", Style | style, &Pick);
     }
 }
 
