@@ -2,30 +2,16 @@
 
 #include "CustomChecklistBox.h"
 #include "lists/CheckRecords.h"
-#include "support/Acts.h"
-#include "support/OnBoard.h"
-#include "support/Repaint.h"
-#include "support/WindowTest.h"
-
-#include <string>
+#include "lists/list_box_for_tests.h"
 
 // A check list that lets a test see its records and its measures.
-class CheckListForTests : public CCustomChecklistBox
+class CheckListForTests : public BarsSeen<CCustomChecklistBox>
 {
 public:
     using CCustomChecklistBox::CalcMinimumItemHeight;
     using CCustomChecklistBox::CheckFromPoint;
-    using CCustomChecklistBox::m_hBarNeeded;
 
     size_t Records() const { return m_records->Count(); }
-
-    void Fill(int rows)
-    {
-        for (int row = 0; row < rows; ++row)
-        {
-            AddString(("Row " + std::to_string(row)).c_str());
-        }
-    }
 
     CRect RowRect(int row) const
     {
@@ -35,12 +21,11 @@ public:
     }
 
     // Screen points on a row's check and on its text.
-    CPoint CheckPoint(int row) const { return RowPoint(row, 6); }
-    CPoint TextPoint(int row) const { return RowPoint(row, 90); }
-    CPoint RowPoint(int row, int x) const
+    CPoint CheckPoint(int row) const
     {
-        return ClientPoint(*this, CPoint(x, RowRect(row).CenterPoint().y));
+        return ClientPoint(*this, CPoint(6, RowRect(row).CenterPoint().y));
     }
+    CPoint TextPoint(int row) const { return CheckPoint(row) + CPoint(84, 0); }
 
     std::vector<int> Checks()
     {
@@ -53,12 +38,10 @@ public:
     }
 };
 
-constexpr DWORD CheckListStyle =
-    WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
+constexpr DWORD CheckListStyle = ListStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
 
 // Rows of a height of their own each.
-constexpr DWORD VariableCheckListStyle =
-    WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
+constexpr DWORD VariableCheckListStyle = ListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS;
 
 class CheckListTest : public WindowTest
 {

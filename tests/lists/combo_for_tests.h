@@ -2,7 +2,10 @@
 
 #include "CustomComboLBox.h"
 #include "CustomDropListCombo.h"
+#include "catalog/DialogTemplate.h"
 #include "support/Acts.h"
+#include "support/Fenced.h"
+#include "support/OnBoard.h"
 #include "support/WindowTest.h"
 
 #include <string>
@@ -12,7 +15,6 @@ class ComboForTests : public CCustomDropListCombo
 {
 public:
     using CCustomDropListCombo::CCustomDropListCombo;
-    using CCustomDropListCombo::m_hasFocus;
     using CCustomDropListCombo::m_instances;
 
     CCustomComboLBox& List() { return *m_list; }
@@ -44,15 +46,25 @@ public:
     }
 };
 
+constexpr WORD ComboId = 7;
+
+// A dialog with a combo that the window class makes.
+inline DialogTemplate ComboForm()
+{
+    CCustomDropListCombo::RegisterWndClass(nullptr);
+    DialogTemplate form(CRect(40, 40, 240, 140), WS_POPUP | WS_CAPTION | WS_VISIBLE);
+    form.Add("CCUSTOMDROPLISTCOMBO", "", WS_TABSTOP, CRect(5, 5, 100, 18), ComboId);
+    return form;
+}
+
 class ComboTest : public WindowTest
 {
 protected:
     const CPoint Elsewhere{850, 640}; // on the host's window, in screen coordinates
 
-    ComboForTests& AddCombo(int items, int selected = 0,
-                            const CRect& place = CRect(50, 50, 250, 80))
+    ComboForTests& AddCombo(int items, int selected = 0)
     {
-        auto& combo = Add<ComboForTests>(place, WS_TABSTOP);
+        auto& combo = Add<Fenced<ComboForTests>>(CRect(50, 50, 250, 80), WS_TABSTOP);
         combo.Fill(items);
         combo.SetCurSel(selected);
         PumpAll();
@@ -69,18 +81,12 @@ protected:
 };
 
 // The same on either side of the mode switch.
-class ComboInMode : public ComboTest, public testing::WithParamInterface<APPMODE>
+class ComboInMode : public OnBoard<ComboTest>, public testing::WithParamInterface<APPMODE>
 {
 protected:
     void SetUp() override
     {
-        ComboTest::SetUp();
+        OnBoard::SetUp();
         COnBoardUIGeneral::SetAppMode(GetParam());
-    }
-
-    void TearDown() override
-    {
-        COnBoardUIGeneral::SetAppMode(STD);
-        ComboTest::TearDown();
     }
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CustomListBox.h"
+#include "paint/Palette.h"
 #include "support/Acts.h"
 #include "support/Bars.h"
 #include "support/OnBoard.h"
@@ -16,31 +17,29 @@ constexpr DWORD ColumnsStyle = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_MULTICOLU
 constexpr const char* WideText =
     "A row that is a good deal wider than the window that is to show it, by far";
 
-// A list box that lets a test see its bars.
-class ListBoxForTests : public CCustomListBox
+// A list that lets a test see its bars.
+template <class Base> class BarsSeen : public Base
 {
 public:
-    using CCustomListBox::m_hBar;
-    using CCustomListBox::m_hBarNeeded;
-    using CCustomListBox::m_tracking;
-    using CCustomListBox::m_vBar;
-    using CCustomListBox::m_vBarNeeded;
-    using CCustomListBox::m_vPressed;
+    using Base::m_hBar;
+    using Base::m_hBarNeeded;
+    using Base::m_tracking;
+    using Base::m_vBar;
+    using Base::m_vBarNeeded;
 
     void Fill(int rows)
     {
         for (int row = 0; row < rows; ++row)
         {
-            AddString(("Row " + std::to_string(row)).c_str());
+            this->AddString(("Row " + std::to_string(row)).c_str());
         }
     }
+};
 
-    int VisibleRows() const
-    {
-        CRect client;
-        GetClientRect(&client);
-        return client.Height() / GetItemHeight(0);
-    }
+class ListBoxForTests : public BarsSeen<CCustomListBox>
+{
+public:
+    int VisibleRows() const { return ClientRectOf(*this).Height() / GetItemHeight(0); }
 
     // Of the base class, whose names the platform's list box hides.
     int ScrollTo(int axis, int position) { return CCustomListBox::SetScrollPos(axis, position); }
@@ -52,6 +51,7 @@ public:
 
     // What the tests of all lists with bars of their own ask for.
     static constexpr DWORD BothBarsStyle = WideListStyle;
+    static constexpr COLORREF Corner = palette::Panel;
     static constexpr int SureWait = 80; // milliseconds without a repeat of a held arrow
     CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
     bool IsBarPressed() const { return m_tracking; }
