@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CustomListCtrl.h"
+#include "paint/Palette.h"
 #include "support/Acts.h"
 #include "support/Bars.h"
 #include "support/Canvas.h"
@@ -31,7 +32,6 @@ class ListForTests : public CCustomListCtrl
 public:
     using CCustomListCtrl::DrawCells;
     using CCustomListCtrl::DrawGrid;
-    using CCustomListCtrl::DrawOB;
     using CCustomListCtrl::GetVerticalDivides;
     using CCustomListCtrl::m_drawOffset;
     using CCustomListCtrl::m_gridLines;
@@ -42,8 +42,6 @@ public:
     using CCustomListCtrl::m_vBar;
     using CCustomListCtrl::PerformHScroll;
     using CCustomListCtrl::PerformVScroll;
-
-    int Maximum(int axis) { return RangeOf(Bar(axis)).y; }
 
     void AddColumns(int count, int width = 60)
     {
@@ -106,10 +104,11 @@ public:
 
     // What the tests of all lists with bars of their own ask for.
     static constexpr DWORD BothBarsStyle = ReportStyle;
+    static constexpr COLORREF Corner = palette::ListCorner;
     static constexpr int SureWait = 200; // milliseconds without a repeat of a held arrow
     CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
     bool IsBarPressed() const { return m_pressed; }
-    int LastTopRow() { return Maximum(SB_VERT); }
+    int LastTopRow() { return RangeOf(m_vBar).y; }
     void FillBothWays(int rows)
     {
         AddColumns(8);
@@ -123,12 +122,11 @@ public:
         return rows;
     }
     int Focused() const { return GetNextItem(-1, LVNI_FOCUSED); }
-    int PlatformTop() const { return GetTopIndex(); }
 
     // Whether ranges, offset and header tell of the same place.
     void ExpectInStep(const char* when)
     {
-        EXPECT_EQ(PlatformTop(), 0) << when;
+        EXPECT_EQ(GetTopIndex(), 0) << when;
         EXPECT_EQ(m_drawOffset.y, -m_vBar.GetScrollPos() * RowHeight()) << when;
         EXPECT_EQ(m_drawOffset.x, -m_hBar.GetScrollPos() * m_scrollUnit.cx) << when;
         EXPECT_EQ(HeaderAccess::Offset(m_header).x, m_drawOffset.x) << when;
@@ -138,14 +136,14 @@ public:
             << when;
         if (m_vBar.ShowScrollBar())
         {
-            EXPECT_EQ(Maximum(SB_VERT), GetItemCount() - visible + 2) << when;
+            EXPECT_EQ(LastTopRow(), GetItemCount() - visible + 2) << when;
         }
         const CRect last = ColumnRect(m_header.GetItemCount() - 1);
         const int width = ClientRectOf(*this).Width();
         EXPECT_EQ(m_hBar.ShowScrollBar() != 0, last.right > width) << when;
         if (m_hBar.ShowScrollBar())
         {
-            EXPECT_EQ(Maximum(SB_HORZ), (last.right - width) / (width / 10) + 2) << when;
+            EXPECT_EQ(RangeOf(m_hBar).y, (last.right - width) / (width / 10) + 2) << when;
         }
     }
 };
