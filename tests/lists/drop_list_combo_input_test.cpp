@@ -90,7 +90,6 @@ TEST_P(ComboInMode, KeysMoveTheSelectionAndTellEachTime)
     auto& combo = AddCombo(40, 5);
     combo.SetFocus();
     const int page = combo.List().GetActualListHeight() / combo.List().GetItemHeight();
-    ASSERT_GT(page, 2);
     const struct
     {
         UINT key;
@@ -148,6 +147,7 @@ TEST_P(ComboInMode, AltDownOpensAndClosesEnterPicksEscapeDismisses)
         combo.ScreenToClient(&rest);
         combo.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(rest.x, rest.y));
         EXPECT_EQ(combo.List().GetHighlightedRow(), 1) << "a pointer at rest means nothing";
+        MoveTo(combo.RowPoint(2)); // where the pointer is not yet
         MoveTo(combo.RowPoint(3));
         TypeKey(end.key, end.held);
         EXPECT_FALSE(combo.IsExpanded());
