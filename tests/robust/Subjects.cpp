@@ -128,12 +128,10 @@ const std::vector<Word> ReportWords = {
     {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21},
 };
 
+// No button is deleted: the platform's tool bar faults when the button goes that the pointer is on.
 const std::vector<Word> ToolBarWords = {
-    {TB_ENABLEBUTTON, Small, Flag},
-    {TB_CHECKBUTTON, Small, Flag},
-    {TB_HIDEBUTTON, Small, Flag},
-    {TB_DELETEBUTTON, Row},
-    {TB_BUTTONCOUNT},
+    {TB_ENABLEBUTTON, Small, Flag},  {TB_CHECKBUTTON, Small, Flag},
+    {TB_HIDEBUTTON, Small, Flag},    {TB_BUTTONCOUNT},
     {TB_SETBUTTONSIZE, None, Point},
 };
 
