@@ -36,11 +36,10 @@ for picture in "${pictures[@]}"; do
     fi
     # One run for each, so that no page shows what another was told.
     ONBOARDUI_DPI=$dpi ONBOARDUI_SCREEN=$((1280 * dpi / 96))x$((1024 * dpi / 96)) "$root/run" \
-        --pictures "$made" --page "${name%-*}" --mode "${name##*-}" > /dev/null ||
+        --pictures "$made/$dpi" --page "${name%-*}" --mode "${name##*-}" > /dev/null ||
         fail "The gallery failed."
     file=$made/$picture.png
-    [[ $dpi == 96 ]] || mv "$made/$name.png" "$file"
-    [[ -f $file ]] || fail "The gallery made no $picture."
+    mv "$made/$dpi/$name.png" "$file" || fail "The gallery made no $picture."
     optipng -quiet -o7 -strip all "$file" || fail "$file could not be made smaller."
     [[ $(stat -c %s "$file") -le $largest ]] || fail "$file is larger than $largest bytes."
 done
