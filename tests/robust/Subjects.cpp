@@ -128,15 +128,16 @@ const std::vector<Word> ReportWords = {
     {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21},
 };
 
-// No button is deleted: the platform's tool bar faults when the button goes that the pointer is on.
+// No button is deleted: the platform's tool bar faulted in a press after that, in its own code, in
+// a long soak.
 const std::vector<Word> ToolBarWords = {
     {TB_ENABLEBUTTON, Small, Flag},  {TB_CHECKBUTTON, Small, Flag},
     {TB_HIDEBUTTON, Small, Flag},    {TB_BUTTONCOUNT},
     {TB_SETBUTTONSIZE, None, Point},
 };
 
-// No branch is emptied by collapsing it: the platform's tree faults when the first item in sight
-// goes with it.
+// No branch is emptied by collapsing it: the platform's tree faulted in that, in its own code, in a
+// long soak.
 const std::vector<Word> TreeWords = {
     {TVM_SELECTITEM, Fixed, TreeItem, TVGN_CARET},
     {TVM_SELECTITEM, Fixed, TreeItem, TVGN_FIRSTVISIBLE},
