@@ -79,7 +79,8 @@ inline bool IsSelf(const VARIANT& child)
     return child.vt == VT_I4 && child.lVal == CHILDID_SELF;
 }
 
-// Tells assistive programs of a change of the window itself: an EVENT_OBJECT_ code.
+// Tells assistive programs of a change of the window itself: an EVENT_OBJECT_ code. Their hooks may
+// run in this process, so the call leaves our code.
 inline void Tell(HWND window, DWORD event)
 {
     ::NotifyWinEvent(event, window, OBJID_CLIENT, CHILDID_SELF);

@@ -3,6 +3,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "buttons/ButtonLayout.h"
+#include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
@@ -26,6 +27,7 @@ CCustomCheckBox::~CCustomCheckBox() = default;
 
 void CCustomCheckBox::HandleBMClick()
 {
+    const WindowAlive alive(*this);
     switch (m_check)
     {
     case BST_UNCHECKED:
@@ -40,7 +42,10 @@ void CCustomCheckBox::HandleBMClick()
     }
     // Meant: a click tells the parent here and once more in the handling that all buttons share; a
     // key tells it only here.
-    NotifyParentClicked();
+    if (alive)
+    {
+        NotifyParentClicked();
+    }
 }
 
 void CCustomCheckBox::HandleKeyDown(UINT key, UINT, UINT)

@@ -97,11 +97,12 @@ bool CCustomRadiobutton::IsAutoRadioGroupCtrl(CWnd* window)
 
 void CCustomRadiobutton::HandleBMClick()
 {
+    const WindowAlive alive(*this);
     if (m_check == BST_UNCHECKED || m_check == BST_INDETERMINATE)
     {
         ChangeCheck(BST_CHECKED);
     }
-    if (m_check == BST_CHECKED)
+    if (alive && m_check == BST_CHECKED)
     {
         HandleRadioGroup();
     }

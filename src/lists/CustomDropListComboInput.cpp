@@ -89,6 +89,10 @@ bool CCustomDropListCombo::TellSelChange()
     {
         Repaint();
         access::Tell(m_hWnd, EVENT_OBJECT_VALUECHANGE);
+        if (!alive)
+        {
+            return false;
+        }
         ::SendMessage(parent, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), CBN_SELCHANGE),
                       reinterpret_cast<LPARAM>(GetSafeHwnd()));
     }
