@@ -106,6 +106,39 @@ void SwapFonts(HWND window, HFONT from, HFONT to)
     }
 }
 
+// Keeps a window and its children from painting while they are placed one by one: moving a window
+// that is seen copies its bits and uncovers its neighbours' each time, for a picture that does not
+// last. Whoever holds repaints the whole afterwards. The platform counts the window as hidden
+// meanwhile.
+class PaintingHeld
+{
+public:
+    explicit PaintingHeld(CWnd& window)
+        : m_window(window)
+        , m_alive(window)
+        , m_held((window.GetStyle() & WS_VISIBLE) != 0)
+    {
+        if (m_held)
+        {
+            m_window.SetRedraw(FALSE);
+        }
+    }
+    PaintingHeld(const PaintingHeld&) = delete;
+    PaintingHeld& operator=(const PaintingHeld&) = delete;
+    ~PaintingHeld()
+    {
+        if (m_held && m_alive)
+        {
+            m_window.SetRedraw(TRUE);
+        }
+    }
+
+private:
+    CWnd& m_window;
+    WindowAlive m_alive;
+    bool m_held; // a hidden window would be shown by it
+};
+
 } // namespace
 
 void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
@@ -124,6 +157,7 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
     }
     if (alive && !children.scaledLater)
     {
+        const PaintingHeld held(window);
         RestyleChildren(handle, newMode, oldMode);
         const HFONT onBoard = CCustomDialog::m_OBStaticTextFont;
         if (alive && oldMode == STD)

@@ -143,8 +143,15 @@ TEST_F(CustomDialogTest, AnOpenDialogFollowsTheMode)
     EXPECT_EQ(WindowRectOf(dialog), window) << "its rectangle is its owner's";
     EXPECT_EQ(bandHeight(), BandOf(dialog)) << "also with the platform's caption style";
     EXPECT_EQ(ChildPlaces(dialog).front(), Enlarged(standard));
+    EXPECT_TRUE(ShowsWhatAPaintWould(dialog));
     COnBoardUIGeneral::SetAppMode(EFB);
     EXPECT_EQ(ChildPlaces(dialog).front().Height(), Enlarged(standard).Height());
+    EXPECT_TRUE(ShowsWhatAPaintWould(dialog));
+    dialog.ShowWindow(SW_HIDE);
+    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_FALSE(dialog.IsWindowVisible()) << "nothing is shown by it";
+    COnBoardUIGeneral::SetAppMode(EFB);
+    dialog.ShowWindow(SW_SHOW);
     for (const bool openedOnBoard : {false, true})
     {
         COnBoardUIGeneral::SetAppMode(STD);

@@ -7,6 +7,7 @@
 #include "LayoutMgmt.h"
 #include "SpecialConfigVals.h"
 #include "catalog/DialogTemplate.h"
+#include "support/Repaint.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
 
