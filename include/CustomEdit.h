@@ -81,6 +81,7 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* taker);
     afx_msg void OnCancelMode();
     afx_msg void OnTimer(UINT_PTR id);
+    afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
     afx_msg void OnStyleChanged(int which, LPSTYLESTRUCT styles);
     // The parent hears of both as well.

@@ -217,6 +217,7 @@ private:
     bool m_made = false;          // made as this object, so that its style was seen whole
     bool m_refitting = false;     // both bars go at once
     std::map<int, int> m_widths;  // how many rows have a width; kept only with WS_HSCROLL
+    HFONT m_widthsFont = nullptr; // in which they were counted; compared, never used
     std::unique_ptr<Bars> m_bars;
 
     void EnterOnBoard();

@@ -203,6 +203,24 @@ void CCustomEdit::ToFirstLine()
     }
 }
 
+// Whoever restyles an edit between two on-board modes gives it the font that it has, and the
+// platform would break every line anew, three times. Only of the shared font is it known that the
+// handle is still the same font.
+LRESULT CCustomEdit::OnSetFont(WPARAM wParam, LPARAM lParam)
+{
+    const HFONT onBoard = GetOnBoardFont();
+    if (reinterpret_cast<HFONT>(wParam) != onBoard || !m_bars->InOnBoard() ||
+        reinterpret_cast<HFONT>(Ask(WM_GETFONT)) != onBoard)
+    {
+        return Default();
+    }
+    if (LOWORD(lParam) != 0)
+    {
+        Invalidate();
+    }
+    return 0;
+}
+
 LRESULT CCustomEdit::OnSetText(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this);

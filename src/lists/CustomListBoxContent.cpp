@@ -155,6 +155,7 @@ void CCustomListBox::CountWidth(int index, int change)
 void CCustomListBox::CountAllWidths()
 {
     m_widths.clear();
+    m_widthsFont = RowFont();
     if (CountsWidths())
     {
         const int count = Ask(LB_GETCOUNT);
@@ -311,7 +312,10 @@ LRESULT CCustomListBox::OnSetFont(WPARAM, LPARAM)
     }
     m_averageWidth = 0;
     MeasureRows();
-    if (alive)
+    // A list that has just entered the mode has counted them. Of another font than the shared one
+    // it is not known whether the handle is still the same font.
+    if (alive &&
+        (RowFont() != m_widthsFont || m_widthsFont != static_cast<HFONT>(GetOnBoardFont())))
     {
         CountAllWidths();
     }

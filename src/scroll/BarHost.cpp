@@ -143,9 +143,16 @@ void BarHost::TellSize()
 
 void BarHost::RelayoutFrame()
 {
+    CRect before;
+    m_window.GetClientRect(&before);
     const WindowAlive alive(m_window);
     RecalculateFrame(m_window, false);
+    CRect client;
     if (alive)
+    {
+        m_window.GetClientRect(&client);
+    }
+    if (alive && client == before) // else the platform has told it
     {
         TellSize();
     }
