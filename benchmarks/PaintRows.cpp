@@ -1,12 +1,14 @@
 // One repaint of each control in an on-board mode against one block copy and one gradient fill of
 // the same area: about the least that a drawing of its own takes through a back buffer. A ratio
-// above 4 asks where the rest goes; paint.nothing shows how much of it the platform takes by
-// itself.
+// above 4 asks where the rest goes: bare.* repaints windows of the same places and sizes that paint
+// nothing, which the platform takes by itself.
 
 #include "Row.h"
 #include "Stage.h"
 #include "catalog/Controls.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string>
 
 namespace {
@@ -82,30 +84,70 @@ Side FillAndCopy(const Control& control)
             }};
 }
 
-// A window that paints nothing: what the platform takes for any repaint.
-const Control Nothing = {"nothing", [](CWnd& parent, const Contents& contents) {
-                             auto window = std::make_unique<CWnd>();
-                             window->CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE,
-                                              contents.place, &parent, ControlId);
-                             return window;
-                         }};
+// A window that paints nothing, over whatever stands below it.
+class Bare : public CWnd
+{
+public:
+    // In the place of a window and with such children as it has.
+    Bare(HWND original, CWnd& parent)
+    {
+        CRect place;
+        ::GetWindowRect(original, &place);
+        parent.ScreenToClient(&place);
+        CreateEx(0, AfxRegisterWndClass(0), "",
+                 WS_CHILD | WS_CLIPCHILDREN |
+                     (DWORD(::GetWindowLong(original, GWL_STYLE)) & WS_VISIBLE),
+                 place, &parent, ControlId);
+        for (HWND child = ::GetWindow(original, GW_CHILD); child != nullptr;
+             child = ::GetWindow(child, GW_HWNDNEXT))
+        {
+            m_children.push_back(std::make_unique<Bare>(child, *this));
+        }
+    }
+
+    BOOL DestroyWindow() override
+    {
+        m_children.clear();
+        return CWnd::DestroyWindow();
+    }
+    ~Bare() override { DestroyWindow(); }
+
+private:
+    std::vector<std::unique_ptr<Bare>> m_children;
+};
+
+Control BareOf(const Control& control)
+{
+    return {control.name,
+            [&control](CWnd& parent, const Contents& contents) -> std::unique_ptr<CWnd> {
+                const std::unique_ptr<CWnd> original = control.make(parent, contents);
+                PaintNow(*original);
+                auto bare = std::make_unique<Bare>(*original, parent);
+                original->DestroyWindow();
+                return bare;
+            }};
+}
 
 } // namespace
 
 std::vector<Row> PaintRows()
 {
     std::vector<Row> rows;
-    static const std::vector<Control> controls = [] {
-        std::vector<Control> all = Controls();
-        all.insert(all.begin(), Nothing);
+    static const std::vector<Control> bare = [] {
+        std::vector<Control> all;
+        std::ranges::transform(Controls(), std::back_inserter(all), &BareOf);
         return all;
     }();
-    for (const Control& control : controls)
-    {
-        std::string name = "paint." + std::string(control.name);
-        std::replace(name.begin(), name.end(), ' ', '_');
+    const auto add = [&rows](const char* group, const Control& control) {
+        std::string name = group + std::string(control.name);
+        std::ranges::replace(name, ' ', '_');
         rows.push_back({name, 4.0, 5, [&control] { return Repaint(control); },
                         [&control] { return FillAndCopy(control); }});
+    };
+    for (size_t index = 0; index < Controls().size(); ++index)
+    {
+        add("paint.", Controls()[index]);
+        add("bare.", bare[index]);
     }
     return rows;
 }
