@@ -25,8 +25,13 @@ TreeBars::TreeBars(TreeOwner& owner)
 
 void TreeBars::EnterOnBoard()
 {
-    m_platformStyles = scroll::StripScrollStyles(Window());
     const WindowAlive alive(Window());
+    const DWORD had = Strip();
+    if (!alive)
+    {
+        return;
+    }
+    m_platformStyles = had;
     scroll::RecalculateFrame(Window(), false);
     if (alive)
     {
@@ -64,8 +69,22 @@ void TreeBars::LeaveOnBoard()
     }
 }
 
+// The platform's tree is not told: it would show its bars again at once, and so on, dozens deep.
+DWORD TreeBars::Strip()
+{
+    const WindowAlive alive(Window());
+    m_stripping = true;
+    const DWORD had = scroll::StripScrollStyles(Window());
+    if (alive)
+    {
+        m_stripping = false;
+    }
+    return had;
+}
+
 void TreeBars::Reset()
 {
+    m_stripping = false;
     m_held = nullptr;
     m_part = CFauxScrollBar::PRESSED_NONE;
     m_platformStyles = 0;
@@ -193,8 +212,10 @@ bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
     {
     case WM_NCCALCSIZE:
         // The platform puts its styles back whenever its content changes.
-        scroll::StripScrollStyles(Window());
+        Strip();
         return false;
+    case WM_STYLECHANGED:
+        return m_stripping;
     case WM_NCLBUTTONDOWN:
     case WM_NCLBUTTONDBLCLK: // fast touches on an arrow
         if (wParam == HTVSCROLL || wParam == HTHSCROLL)
@@ -253,7 +274,7 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
         }
         break;
     case WM_WINDOWPOSCHANGING:
-        if (scroll::StripScrollStyles(Window()) != 0)
+        if (Strip() != 0)
         {
             scroll::SaveRecalculation(*reinterpret_cast<WINDOWPOS*>(lParam));
         }

@@ -51,11 +51,13 @@ private:
     Bar m_vertical{SB_VERT};
     Bar m_horizontal{SB_HORZ};
     DWORD m_platformStyles = 0; // to be given back
+    bool m_stripping = false;   // the platform's styles are being taken away
     Bar* m_held = nullptr;      // the bar that is pressed
     CFauxScrollBar::ePRESSED m_part = CFauxScrollBar::PRESSED_NONE;
     CPoint m_last; // of the pointer, on the screen
 
     CWnd& Window() const { return m_owner.Window(); }
+    DWORD Strip();
     bool MirrorOne(Bar& bar);
     void Place();
     void Draw(bool force = false);
