@@ -153,8 +153,10 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     LVHITTESTINFO hit = {};
     hit.pt = point;
     Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
-    const bool several = (flags & (MK_CONTROL | MK_SHIFT)) != 0;
-    if (several && hit.iItem >= 0 && TopRow() != 0 && (GetStyle() & LVS_SINGLESEL) == 0)
+    // The keys only say something where several rows can be selected.
+    const bool several =
+        (flags & (MK_CONTROL | MK_SHIFT)) != 0 && (GetStyle() & LVS_SINGLESEL) == 0;
+    if (several && hit.iItem >= 0 && TopRow() != 0)
     {
         // What is selected so far is known by rows that the platform would take for others.
         SelectRow(hit.iItem + TopRow(), (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
@@ -192,17 +194,24 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
             SetItemState(0, 0, SelectedAndFocused);
         }
     }
-    else if (m_scrollUnit.cy > 0 && !several)
+    else if (m_scrollUnit.cy > 0)
     {
-        SetItemState(picked, 0, SelectedAndFocused);
+        // With the keys the platform has picked the right rows: one of them is exchanged for
+        // itself, since the parent waits for the final step. The mark stays, and so does the focus
+        // on a row that is no longer selected.
+        const int mark = several ? GetSelectionMark() : picked + TopRow();
+        const int drawn = several ? picked : picked + TopRow();
+        const UINT states =
+            several && picked != hit.iItem ? UINT(LVIS_SELECTED) : SelectedAndFocused;
+        SetItemState(picked, 0, states);
         if (alive)
         {
             m_selChanging = FALSE;
-            SetItemState(picked + TopRow(), SelectedAndFocused, SelectedAndFocused);
+            SetItemState(drawn, states, states);
         }
-        if (alive && picked + TopRow() < GetItemCount())
+        if (alive && mark < GetItemCount())
         {
-            SetSelectionMark(picked + TopRow());
+            SetSelectionMark(mark);
         }
     }
     if (alive)

@@ -213,28 +213,65 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
                 testing::Contains(UINT(LVN_ITEMCHANGED)).Times(testing::Ge(2)));
 }
 
-TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheScrolledRows)
+TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFinalStep)
 {
-    auto& list = AddList(100);
-    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
-    list.PerformVScroll(20, 0);
     const struct
     {
-        int row;
+        int row; // from the top one
         UINT held;
-        std::set<int> selected;
-    } clicks[] = {{22, 0, {22}},
-                  {25, MK_SHIFT, {22, 23, 24, 25}},
-                  {24, MK_CONTROL, {22, 23, 25}},
-                  {28, MK_CONTROL, {22, 23, 25, 28}},
-                  {23, 0, {23}}};
-    for (const auto& [row, held, selected] : clicks)
+        std::set<int> selected; // where several rows can be
+    } clicks[] = {{2, 0, {2}},
+                  {5, VK_SHIFT, {2, 3, 4, 5}},
+                  {3, VK_SHIFT, {2, 3}},
+                  {6, VK_SHIFT, {2, 3, 4, 5, 6}},
+                  {4, VK_CONTROL, {2, 3, 5, 6}},
+                  {9, VK_CONTROL, {2, 3, 5, 6, 9}},
+                  {3, 0, {3}}};
+    for (const DWORD single : {0, LVS_SINGLESEL})
     {
-        const CPoint point = list.RowPoint(row);
-        MoveTo(ClientPoint(list, point));
-        list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON | held, MAKELPARAM(point.x, point.y));
-        list.SendMessage(WM_LBUTTONUP, held, MAKELPARAM(point.x, point.y));
-        EXPECT_EQ(list.Selected(), selected) << row;
+        for (const int top : {0, 20})
+        {
+            SCOPED_TRACE(testing::Message() << single << ' ' << top);
+            auto& list = AddList(100, 3, ReportStyle | single);
+            list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+            list.PerformVScroll(top, 0);
+            bool final = false; // the last change of the selection that was told
+            Host().hook = [&](ToldMessage& message) {
+                const auto& change = *reinterpret_cast<const NMLISTVIEW*>(message.lParam);
+                if (message.code == UINT(LVN_ITEMCHANGED) &&
+                    ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) != 0)
+                {
+                    final = list.IsSelChanging() == 0;
+                }
+            };
+            for (const auto& [row, held, selected] : clicks)
+            {
+                final = false;
+                MoveTo(ClientPoint(list, list.RowPoint(top + row)));
+                if (held != 0)
+                {
+                    PumpFor(30); // the display tells of the move late, and of no key being down
+                    QueueKey(held, true);
+                }
+                Press();
+                Release();
+                if (held != 0)
+                {
+                    QueueKey(held, false);
+                    PumpAll();
+                }
+                std::set<int> expected;
+                for (const int each : single != 0 ? std::set<int>{row} : selected)
+                {
+                    expected.insert(top + each);
+                }
+                EXPECT_EQ(list.Selected(), expected) << row;
+                EXPECT_EQ(list.Focused(), top + row);
+                EXPECT_TRUE(final) << row;
+            }
+            Host().hook = nullptr;
+            list.DestroyWindow();
+        }
     }
 }
 
