@@ -59,8 +59,9 @@ public:
     // selected; with a frame while the button has the focus.
     virtual void DrawRCText(CDC& dc, const CRect& item, const CRect& mark);
 
-    // Assistive programs are told the mode's own check and press. The default action is a click,
-    // posted to the button.
+    // Assistive programs are told the mode's own check and press. The role decides how a button is
+    // told of: only one that is no push button has a check. The default action is a click, posted
+    // to the button; a disabled one has none.
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
@@ -69,9 +70,6 @@ public:
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
 
 protected:
-    // The ROLE_SYSTEM_ value that assistive programs are told; here a push button's.
-    virtual long GetAccessibleRole() const;
-
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
     afx_msg void OnEnable(BOOL enable);

@@ -20,9 +20,9 @@ public:
     // Draws the square into item and gives its place, in the font that is selected.
     virtual void DrawCheckBox(CDC& dc, const CRect& item, CRect& mark);
 
-protected:
-    long GetAccessibleRole() const override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
 
+protected:
     afx_msg void OnUpdateUIState(UINT action, UINT element);
     DECLARE_MESSAGE_MAP()
 

@@ -27,9 +27,9 @@ public:
     // Checks this button and clears the others of the group, each of them repainted at once.
     virtual void HandleRadioGroup();
 
-protected:
-    long GetAccessibleRole() const override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
 
+protected:
     afx_msg void OnUpdateUIState(UINT action, UINT element);
     DECLARE_MESSAGE_MAP()
 

@@ -4,28 +4,42 @@
 
 #include "CustomCheckBox.h"
 #include "CustomRadiobutton.h"
+#include "OnBoardUIGeneral.h"
 
 #include "access/Answers.h"
 
-long CCustomButton::GetAccessibleRole() const
+namespace {
+
+// What a button and its heirs say it is.
+long RoleOf(CCustomButton& button)
 {
-    return ROLE_SYSTEM_PUSHBUTTON;
+    VARIANT self = {};
+    access::Give(self, CHILDID_SELF);
+    VARIANT role = {};
+    const bool told = SUCCEEDED(button.get_accRole(self, &role)) && role.vt == VT_I4;
+    const long value = told ? role.lVal : ROLE_SYSTEM_PUSHBUTTON;
+    ::VariantClear(&role);
+    return value;
 }
 
-long CCustomCheckBox::GetAccessibleRole() const
-{
-    return ROLE_SYSTEM_CHECKBUTTON;
-}
-
-long CCustomRadiobutton::GetAccessibleRole() const
-{
-    return ROLE_SYSTEM_RADIOBUTTON;
-}
+} // namespace
 
 HRESULT CCustomButton::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, GetAccessibleRole())
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_PUSHBUTTON)
                                  : CButton::get_accRole(child, role);
+}
+
+HRESULT CCustomCheckBox::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_CHECKBUTTON)
+                                 : CCustomButton::get_accRole(child, role);
+}
+
+HRESULT CCustomRadiobutton::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_RADIOBUTTON)
+                                 : CCustomButton::get_accRole(child, role);
 }
 
 HRESULT CCustomButton::get_accState(VARIANT child, VARIANT* state)
@@ -39,10 +53,13 @@ HRESULT CCustomButton::get_accState(VARIANT child, VARIANT* state)
         state->lVal = when ? state->lVal | bit : state->lVal & ~bit;
     };
     const int check = GetCheck();
-    const bool marked = GetAccessibleRole() != ROLE_SYSTEM_PUSHBUTTON;
+    const bool marked = RoleOf(*this) != ROLE_SYSTEM_PUSHBUTTON;
     set(marked && check == BST_CHECKED, STATE_SYSTEM_CHECKED);
     set(marked && check == BST_INDETERMINATE, STATE_SYSTEM_MIXED);
-    set((SendMessage(BM_GETSTATE) & BST_PUSHED) != 0, STATE_SYSTEM_PRESSED);
+    // On-board the answer is only whether the button is pressed.
+    const LRESULT answer = SendMessage(BM_GETSTATE);
+    set((COnBoardUIGeneral::InOnBoardMode() ? answer : answer & BST_PUSHED) != 0,
+        STATE_SYSTEM_PRESSED);
     return result;
 }
 
@@ -52,7 +69,7 @@ HRESULT CCustomButton::get_accDefaultAction(VARIANT child, BSTR* action)
     {
         return CButton::get_accDefaultAction(child, action);
     }
-    switch (GetAccessibleRole())
+    switch (RoleOf(*this))
     {
     case ROLE_SYSTEM_PUSHBUTTON:
         return access::Give(*action, "Press");
@@ -68,6 +85,10 @@ HRESULT CCustomButton::accDoDefaultAction(VARIANT child)
     if (!access::IsSelf(child))
     {
         return CButton::accDoDefaultAction(child);
+    }
+    if (!IsWindowEnabled())
+    {
+        return DISP_E_MEMBERNOTFOUND;
     }
     // Posted: the click may open a dialog, and the program that asks would wait for its end.
     return PostMessage(BM_CLICK) ? S_OK : E_FAIL;

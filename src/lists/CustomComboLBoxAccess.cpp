@@ -38,7 +38,10 @@ HRESULT CCustomComboLBox::accSelect(long flags, VARIANT child)
     {
         return E_FAIL;
     }
-    SetHotRow(index);
+    if (flags != SELFLAG_NONE)
+    {
+        SetHotRow(index);
+    }
     return S_OK;
 }
 

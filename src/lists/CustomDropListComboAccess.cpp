@@ -60,6 +60,13 @@ HRESULT CCustomDropListCombo::accDoDefaultAction(VARIANT child)
     {
         return E_FAIL;
     }
-    ToggleDropList();
+    if (m_expanded)
+    {
+        ListClosed(GetCurSel());
+    }
+    else
+    {
+        ToggleDropList();
+    }
     return S_OK;
 }

@@ -57,6 +57,13 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     EXPECT_EQ(Read(*check, CHILDID_SELF).action, "Check") << "posted";
     PumpAll();
     EXPECT_EQ(Read(*check, CHILDID_SELF).state, STATE_SYSTEM_CHECKED | STATE_SYSTEM_FOCUSED);
+    MoveTo(WindowRectOf(box).CenterPoint());
+    Press();
+    EXPECT_NE(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_PRESSED, 0);
+    Release();
+    EXPECT_EQ(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_PRESSED, 0);
+    box.EnableWindow(FALSE);
+    EXPECT_EQ(check->accDoDefaultAction(Child(CHILDID_SELF)), DISP_E_MEMBERNOTFOUND);
 
     Add<CCustomStatic>(CRect(10, 70, 110, 90), 0, "&Runway");
     auto& combo = Add<ComboForTests>(CRect(10, 90, 200, 120));
@@ -68,8 +75,17 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED);
     EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
     EXPECT_EQ(open(), STATE_SYSTEM_EXPANDED);
+    Host().Forget();
+    EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+    EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED);
+    EXPECT_THAT(Host().CodesFrom(UINT(combo.GetDlgCtrlID())),
+                testing::Contains(UINT(CBN_SELCHANGE)))
+        << "as when the user closes it";
+    EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
     // The open list: highlighting chooses nothing yet, the default action does and closes.
     const Held<IAccessible> list = Reached(combo.List());
+    EXPECT_EQ(list->accSelect(SELFLAG_NONE, Child(2)), S_OK);
+    EXPECT_EQ(Read(*list, 2).state, 0) << "nothing was asked for";
     EXPECT_EQ(list->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(2)), S_OK);
     EXPECT_EQ(Read(*list, 2).state, STATE_SYSTEM_SELECTED);
     EXPECT_EQ(CWnd::GetFocus(), &combo);

@@ -60,7 +60,8 @@ struct Read
             state = number.lVal &
                     (STATE_SYSTEM_CHECKED | STATE_SYSTEM_MIXED | STATE_SYSTEM_UNAVAILABLE |
                      STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN |
-                     STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_READONLY);
+                     STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_READONLY |
+                     STATE_SYSTEM_PRESSED);
         }
         if (SUCCEEDED(object.get_accName(Child(child), &text)))
         {
