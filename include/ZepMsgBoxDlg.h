@@ -87,8 +87,9 @@ protected:
 
 private:
     CBitmap m_iconPicture; // on the ground of the mode
-    // What the display text was made of.
+    // What the display text was made of, and as it was made.
     CString m_splitMessage;
+    CString m_splitText;
     size_t m_splitLimit = 0;
     bool m_splitThemed = false;
     int m_standardTextWidth = 0; // of the text's control in the template
@@ -99,6 +100,8 @@ private:
     std::unique_ptr<dialogs::MessageLayout> m_opensWith; // what the box was created for
 
     void OpenInPlace(WINDOWPOS& position);
+    dialogs::MessagePremises PremisesFor(const CString& title, int buttons, const CSize& window,
+                                         const CSize& client) const;
     dialogs::MessageLayout LayOut(const dialogs::MessagePremises& premises);
     int TemplateTextWidth() const;
     int ButtonCount() const;

@@ -32,6 +32,8 @@ struct MessageUnits
         };
         return {size(50, 14), size(7, 7), size(4, 4), size(50, 8)};
     }
+
+    bool operator==(const MessageUnits&) const = default;
 };
 
 // What a box is laid out for.
@@ -43,6 +45,7 @@ struct MessageContent
     CSize area;  // the most that the box may take, frame and all
     CSize frame; // what caption and frame add to the client area
     int captionHeight = 0;
+    int lineHead = 0; // rows of the text's line above its letters
     int barWidth = 0; // of the platform's vertical scroll bar
 };
 
@@ -51,6 +54,7 @@ struct MessageSize
 {
     CSize client;
     CSize text;
+    int top = 0;          // of the icon
     bool scrolls = false; // the text does not fit
 };
 
@@ -69,13 +73,20 @@ constexpr int CaptionRise(int captionHeight)
     return Truncated(captionHeight * 0.7);
 }
 
-// The top of the icon: the margin less that rise, which at 96 dots per inch is two rows above the
-// client area. At higher resolutions captions are higher than margins follow, and the text's first
-// line would lie under the caption, so no more than these two rows ever do.
-inline int MessageTop(const MessageUnits& units, int captionHeight)
+// By how much a text lower than the icon stands below the icon's top: beside its middle.
+constexpr int BesideIcon(int textHeight)
 {
-    constexpr int rowsHidden = 2;
-    return std::max<int>(units.margin.cy - CaptionRise(captionHeight), -rowsHidden);
+    return std::max((MessageIconSize - textHeight) / 2, 0);
+}
+
+// The top of the icon: the margin less that rise, which may well be some rows above the client
+// area. At higher resolutions captions are higher than margins follow, and then the letters of a
+// text that begins where the icon does would lie under the caption: of such a text only the rows
+// above its letters ever do.
+inline int MessageTop(const MessageUnits& units, int captionHeight, int textHeight, int lineHead)
+{
+    return std::max<int>(units.margin.cy - CaptionRise(captionHeight),
+                         -lineHead - BesideIcon(textHeight));
 }
 
 // By how much a length has to be shortened for an area. One that is too long ends a little short of
@@ -111,9 +122,9 @@ inline MessageSize SizeMessageBox(const MessageUnits& units, const MessageConten
     }
 
     const CSize buttons = MessageButtonsSize(units, content.buttons);
+    size.top = MessageTop(units, content.captionHeight, size.text.cy, content.lineHead);
     // What the icon's top keeps of the caption's rise has to be made room for below it.
-    const int lowered = MessageTop(units, content.captionHeight) -
-                        (int(units.margin.cy) - CaptionRise(content.captionHeight));
+    const int lowered = size.top - (int(units.margin.cy) - CaptionRise(content.captionHeight));
     const CSize around(2 * units.margin.cx + units.spacing.cx,
                        3 * units.margin.cy / 2 + buttons.cy + 2 * units.spacing.cy +
                            CaptionRise(content.captionHeight) + lowered);
@@ -160,13 +171,10 @@ inline MessagePlaces PlaceMessageParts(const MessageUnits& units, const MessageS
                                        const CSize& client, int captionHeight, int buttons)
 {
     MessagePlaces places;
-    places.icon = CRect(CPoint(units.margin.cx, MessageTop(units, captionHeight)),
-                        CSize(MessageIconSize, MessageIconSize));
-
-    // A text lower than the icon stands beside its middle.
-    const int lowered = std::max((MessageIconSize - int(size.text.cy)) / 2, 0);
-    places.text =
-        CRect(CPoint(places.icon.right + units.margin.cx, places.icon.top + lowered), size.text);
+    places.icon = CRect(CPoint(units.margin.cx, size.top), CSize(MessageIconSize, MessageIconSize));
+    places.text = CRect(CPoint(places.icon.right + units.margin.cx,
+                               places.icon.top + BesideIcon(int(size.text.cy))),
+                        size.text);
 
     const CSize row = MessageButtonsSize(units, buttons);
     const int bottom =
@@ -177,13 +185,17 @@ inline MessagePlaces PlaceMessageParts(const MessageUnits& units, const MessageS
     return places;
 }
 
-// What the decision about a box's layout rests on, beside the area and the system's metrics.
+// What the decision about a box's layout rests on, beside the system's metrics.
 struct MessagePremises
 {
     APPMODE mode;
     CString text; // in lines
     CString title;
     int buttons;
+    MessageUnits units;
+    CSize area;
+    int captionHeight;
+    int lineHead;
     CSize window; // that the box has so far
     CSize client;
 

@@ -16,6 +16,15 @@ bool VisualStyles()
     return ::IsAppThemed() && ::IsThemeActive();
 }
 
+int LineHead(HFONT font)
+{
+    CClientDC dc(nullptr);
+    const Selected selected(dc, font);
+    TEXTMETRIC metrics = {};
+    dc.GetTextMetrics(&metrics);
+    return metrics.tmInternalLeading;
+}
+
 TextMeasure::TextMeasure(CWnd& box)
     : m_dc(&box)
     , m_font(m_dc, COnBoardUIGeneral::InOnBoardMode()

@@ -11,6 +11,9 @@ namespace dialogs {
 
 bool VisualStyles();
 
+// The rows of a font's lines above its letters.
+int LineHead(HFONT font);
+
 // Measures text in the font that a message box's sizes are based on: the on-board one, or in the
 // standard mode that of a window's fresh device context.
 class TextMeasure

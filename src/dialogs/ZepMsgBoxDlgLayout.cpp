@@ -93,7 +93,8 @@ void CZepMsgBoxDlg::SplitText()
     const size_t limit = dialogs::LineLimit(::GetSystemMetrics(SM_CXSCREEN));
     const bool themed = dialogs::VisualStyles();
     // Every change of the size comes here.
-    if (m_splitMessage == m_message && m_splitLimit == limit && m_splitThemed == themed)
+    if (m_splitMessage == m_message && m_splitText == m_displayText && m_splitLimit == limit &&
+        m_splitThemed == themed)
     {
         return;
     }
@@ -104,6 +105,7 @@ void CZepMsgBoxDlg::SplitText()
         m_displayText += "\r\n";
     }
     m_splitMessage = m_message;
+    m_splitText = m_displayText;
     m_splitLimit = limit;
     m_splitThemed = themed;
 }
@@ -133,6 +135,26 @@ void CZepMsgBoxDlg::GetButtonsSize(int& width, int& height)
 
 // Places ----------------------------------------------------------------------------------------
 
+// The box may be gone afterwards.
+dialogs::MessagePremises CZepMsgBoxDlg::PremisesFor(const CString& title, int buttons,
+                                                    const CSize& window, const CSize& client) const
+{
+    dialogs::MessagePremises premises = {COnBoardUIGeneral::GetAppMode(),
+                                         m_displayText,
+                                         title,
+                                         buttons,
+                                         {m_buttonSize, m_margin, m_spacing, m_textUnit},
+                                         m_area,
+                                         m_captionHeight,
+                                         0,
+                                         window,
+                                         client};
+    premises.lineHead = dialogs::LineHead(COnBoardUIGeneral::InOnBoardMode()
+                                              ? HFONT(CCustomEdit::GetOnBoardFont().GetSafeHandle())
+                                              : StandardFont());
+    return premises;
+}
+
 dialogs::MessageLayout CZepMsgBoxDlg::LayOut(const dialogs::MessagePremises& premises)
 {
     // The width of the text's control as it opens in the mode.
@@ -147,12 +169,12 @@ dialogs::MessageLayout CZepMsgBoxDlg::LayOut(const dialogs::MessagePremises& pre
         content.titleWidth = measure.Title(premises.title);
     }
     content.buttons = premises.buttons;
-    content.area = m_area;
+    content.area = premises.area;
     content.frame = premises.window - premises.client;
-    content.captionHeight = m_captionHeight;
+    content.captionHeight = premises.captionHeight;
+    content.lineHead = premises.lineHead;
     content.barWidth = ::GetSystemMetrics(SM_CXVSCROLL);
-    const dialogs::MessageUnits units = {m_buttonSize, m_margin, m_spacing, m_textUnit};
-    const dialogs::MessageSize size = dialogs::SizeMessageBox(units, content);
+    const dialogs::MessageSize size = dialogs::SizeMessageBox(premises.units, content);
 
     const CSize growth = dialogs::MessageGrowth(size.client, premises.client);
     return {premises, size, CentredPlace(premises.window + growth + growth)};
@@ -175,9 +197,8 @@ void CZepMsgBoxDlg::OpenInPlace(WINDOWPOS& position)
     m_standardTextWidth = TemplateTextWidth();
     CalcStdSizes();
     SplitText();
-    const dialogs::MessageLayout layout =
-        LayOut({COnBoardUIGeneral::GetAppMode(), m_displayText, COnBoardUIGeneral::GetAppTitle(),
-                ButtonCount(), window.Size(), client.Size()});
+    const dialogs::MessageLayout layout = LayOut(
+        PremisesFor(COnBoardUIGeneral::GetAppTitle(), ButtonCount(), window.Size(), client.Size()));
     position.x = layout.window.left;
     position.y = layout.window.top;
     position.cx = layout.window.Width();
@@ -185,8 +206,8 @@ void CZepMsgBoxDlg::OpenInPlace(WINDOWPOS& position)
     position.flags &= ~UINT(SWP_NOMOVE | SWP_NOSIZE);
 
     const dialogs::MessagePlaces places = dialogs::PlaceMessageParts(
-        {m_buttonSize, m_margin, m_spacing, m_textUnit}, layout.size,
-        client.Size() + layout.window.Size() - window.Size(), m_captionHeight, ButtonCount());
+        layout.premises.units, layout.size, client.Size() + layout.window.Size() - window.Size(),
+        layout.premises.captionHeight, layout.premises.buttons);
     m_opening->Fix(IDC_MESSAGE_ICON, places.icon);
     m_opening->Fix(IDC_MESSAGE_TEXT, places.text);
     m_opensWith = std::make_unique<dialogs::MessageLayout>(layout);
@@ -201,9 +222,12 @@ void CZepMsgBoxDlg::SizeToText()
     GetClientRect(&client);
     CString title;
     GetWindowText(title);
-    dialogs::MessagePremises premises = {
-        COnBoardUIGeneral::GetAppMode(), m_displayText, title,
-        int(m_buttons.size()),           window.Size(), client.Size()};
+    dialogs::MessagePremises premises =
+        PremisesFor(title, int(m_buttons.size()), window.Size(), client.Size());
+    if (!alive)
+    {
+        return;
+    }
     // A box that was created in its place has grown from the size of its template.
     const auto opened = std::exchange(m_opensWith, nullptr);
     if (opened != nullptr && opened->window == window && opened->premises.mode == premises.mode)
@@ -224,8 +248,8 @@ void CZepMsgBoxDlg::SizeToText()
     m_sizing = false;
     GetClientRect(&client);
     const dialogs::MessagePlaces places =
-        dialogs::PlaceMessageParts({m_buttonSize, m_margin, m_spacing, m_textUnit}, layout.size,
-                                   client.Size(), m_captionHeight, int(m_buttons.size()));
+        dialogs::PlaceMessageParts(layout.premises.units, layout.size, client.Size(),
+                                   layout.premises.captionHeight, layout.premises.buttons);
     // The library's text changes its place as it is told of it; labels and buttons do not.
     constexpr UINT Unasked = SWP_NOSENDCHANGING;
     Place(m_icon, places.icon, flags | Unasked);

@@ -27,7 +27,10 @@ public:
     }
 
     using CZepMsgBoxDlg::GetStaticTextSize;
+    using CZepMsgBoxDlg::m_area;
     using CZepMsgBoxDlg::m_buttons;
+    using CZepMsgBoxDlg::m_captionHeight;
+    using CZepMsgBoxDlg::m_displayText;
     using CZepMsgBoxDlg::m_icon;
     using CZepMsgBoxDlg::m_iconId;
     using CZepMsgBoxDlg::m_lpszTemplateName;

@@ -57,30 +57,41 @@ TEST_F(MessageBoxTest, ABoxOpensWhereItStandsAndItsTextIsBrokenOnce)
 
 TEST_F(MessageBoxTest, WhatChangesWhileTheBoxOpensCounts)
 {
-    for (const bool changesMode : {false, true})
+    enum
     {
-        SCOPED_TRACE(changesMode);
+        Text,
+        Area,
+        Mode
+    };
+    const CSize whole(1280, 1024);
+    const CSize small(640, 240);
+    for (const auto change : {Text, Area, Mode})
+    {
+        SCOPED_TRACE(change);
         const std::string text = Lines(9);
         std::vector<CRect> expected;
         int expectedHeight = 0;
         {
-            const ModeScope scope(changesMode ? STD : ONBOARD);
-            OpeningBox fresh(text.c_str(), MB_YESNO);
+            const ModeScope scope(change == Mode ? STD : ONBOARD);
+            OpeningBox fresh(text.c_str(), MB_YESNO, change == Area ? small : whole);
             ASSERT_TRUE(fresh.Create(CZepMsgBoxDlg::IDD, &Host()));
             expected = ChildPlaces(fresh);
             expectedHeight = ClientRectOf(fresh).Height();
         }
         const ModeScope scope(ONBOARD);
-        OpeningBox box(changesMode ? text.c_str() : "Ready", MB_YESNO);
+        OpeningBox box(change == Text ? "Ready" : text.c_str(), MB_YESNO);
         box.atDataExchange = [&] {
             box.m_message = text.c_str();
-            COnBoardUIGeneral::SetAppMode(changesMode ? STD : ONBOARD);
+            box.m_displayText = "Overwritten"; // it is made of the message
+            box.m_area = change == Area ? small : whole;
+            COnBoardUIGeneral::SetAppMode(change == Mode ? STD : ONBOARD);
         };
         ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+        EXPECT_EQ(box.Shown(), text);
         const std::vector<CRect> places = ChildPlaces(box);
         // From another window size the halves may round otherwise, below the label and the text.
-        EXPECT_NEAR(ClientRectOf(box).Height(), expectedHeight, changesMode ? 2 : 0);
-        expected.resize(changesMode ? 2 : places.size());
+        EXPECT_NEAR(ClientRectOf(box).Height(), expectedHeight, change == Mode ? 2 : 0);
+        expected.resize(change == Mode ? 2 : places.size());
         EXPECT_TRUE(std::ranges::equal(expected, std::span(places).first(expected.size())));
     }
 }

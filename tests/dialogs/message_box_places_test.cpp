@@ -68,6 +68,36 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
     }
 }
 
+TEST_F(MessageBoxTest, ACaptionOfAnyHeightHidesNoLetterOfTheText)
+{
+    int clamped = 0;
+    for (const int caption : {12, 19, 23, 27})
+    {
+        for (const int lines : {1, 9})
+        {
+            Box box(Lines(lines).c_str(), MB_OK);
+            box.m_captionHeight = caption;
+            ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, nullptr));
+            TEXTMETRIC metrics = {};
+            CClientDC dc(box.m_text.get());
+            dc.SelectObject(box.m_text->GetFont());
+            dc.GetTextMetrics(&metrics);
+            const int text = PlaceIn(box, *box.m_text).top;
+            const int icon = PlaceIn(box, box.m_icon).top;
+            const int wanted = 11 - caption * 7 / 10;
+            EXPECT_GE(text, -metrics.tmInternalLeading) << caption;
+            if (icon != wanted)
+            {
+                ++clamped;
+                EXPECT_EQ(text, -metrics.tmInternalLeading) << caption << ": no sooner";
+            }
+            const CRect button = box.PlaceOfButton(0);
+            EXPECT_GT(button.top, std::max(PlaceIn(box, *box.m_text).bottom, icon + 48L));
+        }
+    }
+    EXPECT_EQ(clamped, 2) << "the long text under the two highest";
+}
+
 TEST_F(MessageBoxTest, NothingOverlapsForAnyTextButtonsAndArea)
 {
     std::string words;
