@@ -238,11 +238,9 @@ void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)
 {
     const WindowAlive alive(*this);
     CEdit::OnStyleChanged(which, styles);
-    constexpr DWORD bars = WS_VSCROLL | WS_HSCROLL;
-    const bool barsOnly = which == GWL_STYLE && styles != nullptr &&
-                          ((styles->styleOld ^ styles->styleNew) & ~bars) == 0;
-    // Bars come and go without the text having changed.
-    if (barsOnly || !alive || m_bars->IsFollowing() || !FollowMode() || m_updating)
+    // Our own bars come and go without the text having changed.
+    if (!alive || scroll::WritesScrollStyles(*this) || m_bars->IsFollowing() || !FollowMode() ||
+        m_updating)
     {
         return;
     }

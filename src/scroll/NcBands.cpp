@@ -3,6 +3,7 @@
 #include "paint/Metrics.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace scroll {
 
@@ -10,12 +11,16 @@ namespace {
 
 constexpr DWORD ScrollStyles = WS_VSCROLL | WS_HSCROLL;
 
+HWND writtenWindow = nullptr;
+
 void WriteScrollStyles(HWND window, DWORD style, DWORD scrollStyles)
 {
     const DWORD wanted = (style & ~ScrollStyles) | scrollStyles;
     if (wanted != style)
     {
+        const HWND outer = std::exchange(writtenWindow, window);
         ::SetWindowLongPtr(window, GWL_STYLE, static_cast<LONG_PTR>(wanted));
+        writtenWindow = outer;
     }
 }
 
@@ -85,6 +90,11 @@ void RestoreScrollStyles(const CWnd& window, DWORD styles)
 {
     const DWORD style = StyleOfWindow(window.GetSafeHwnd());
     WriteScrollStyles(window.GetSafeHwnd(), style, (style | styles) & ScrollStyles);
+}
+
+bool WritesScrollStyles(const CWnd& window)
+{
+    return writtenWindow != nullptr && writtenWindow == window.GetSafeHwnd();
 }
 
 void RecalculateFrame(const CWnd& window, bool copyBits)

@@ -31,6 +31,10 @@ DWORD StripScrollStyles(const CWnd& window, DWORD styles = WS_VSCROLL | WS_HSCRO
 // Gives scroll bar styles back in the same way; other bits of styles are ignored.
 void RestoreScrollStyles(const CWnd& window, DWORD styles);
 
+// Whether one of these two is writing the window's style: a change that is told meanwhile is none
+// of the host's.
+bool WritesScrollStyles(const CWnd& window);
+
 // Has the frame recalculated, which sends WM_NCCALCSIZE and WM_NCPAINT. copyBits false also throws
 // the client pixels away (SWP_NOCOPYBITS). Size, place and z-order stay.
 void RecalculateFrame(const CWnd& window, bool copyBits = true);

@@ -40,6 +40,12 @@ TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
          }},
         {"font", [](EditForTests& edit) { edit.SetFont(&CCustomEdit::GetStdFont()); }},
         {"read-only", [](EditForTests& edit) { edit.SetReadOnly(TRUE); }},
+        {"the host's styles",
+         [](EditForTests& edit) {
+             edit.LineScroll(9);
+             edit.ModifyStyle(0, WS_VSCROLL);
+             EXPECT_EQ(edit.GetFirstVisibleLine(), 0);
+         }},
         {"all but little gone",
          [](EditForTests& edit) {
              edit.SetSel(20, -1);
