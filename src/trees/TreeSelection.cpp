@@ -128,11 +128,12 @@ bool TreeSelection::SetCaret(HTREEITEM item)
     return alive && m_items.Caret() == item;
 }
 
-// Takes the caret from an item that has it. False when that or everything went wrong.
+// Takes the caret from an item that has it. False when the item did not survive it.
 bool TreeSelection::ClearFocus(const WatchedItem& item, bool wasSelected, UINT state, UINT& mask)
 {
     const WindowAlive alive(Window());
-    if (!SetCaret(nullptr) || !alive || item.Get() == nullptr)
+    SetCaret(nullptr); // the parent may refuse it; what else is asked for is done all the same
+    if (!alive || item.Get() == nullptr)
     {
         return false;
     }

@@ -148,6 +148,11 @@ TEST_F(MultiTreeTest, ARefusalLeavesEverythingAsItWasAndIsAskedForOnce)
     EXPECT_EQ(SelectedTexts(tree), "b");
     EXPECT_EQ(tree.GetFocusedItem(), b);
     EXPECT_EQ(CountOf(Changed), 0);
+    // Where only the caret is held back, the rest of the change is made.
+    EXPECT_TRUE(tree.SetItemState(b, 0, TVIS_FOCUSED));
+    EXPECT_TRUE(tree.SetItemState(b, TVIS_CUT, TVIS_FOCUSED | TVIS_CUT));
+    EXPECT_EQ(tree.GetItemState(b, TVIS_CUT), UINT(TVIS_CUT));
+    EXPECT_EQ(tree.GetFocusedItem(), b);
 
     refused.clear();
     tree.SetItemState(a, TVIS_SELECTED, TVIS_SELECTED);
