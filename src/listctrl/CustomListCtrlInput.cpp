@@ -117,11 +117,17 @@ void CCustomListCtrl::HandleMouseMoveScroll(const CPoint& point)
 
 BOOL CCustomListCtrl::OnMouseWheel(UINT flags, short delta, CPoint point)
 {
-    m_bars->Forget();
+    const WindowAlive alive(*this);
     if (!InOnBoard())
     {
-        return CListCtrl::OnMouseWheel(flags, delta, point);
+        const BOOL handled = CListCtrl::OnMouseWheel(flags, delta, point);
+        if (alive)
+        {
+            m_bars->Forget();
+        }
+        return handled;
     }
+    m_bars->Forget();
     // The platform would scroll its own rows, so it does not get the message.
     m_wheel += delta;
     if (m_wheel < -WheelThreshold)

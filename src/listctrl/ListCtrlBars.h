@@ -4,6 +4,7 @@
 // the virtual functions of the list, and an arrow repeats after a longer wait.
 
 #include "CustomListCtrl.h"
+#include "modes/WindowAlive.h"
 #include "scroll/BarHost.h"
 #include "scroll/Filling.h"
 #include "scroll/NcBands.h"
@@ -63,7 +64,12 @@ private:
     }
     void PressAxis(int axis) override
     {
+        const WindowAlive alive(m_list);
         axis == SB_VERT ? m_list.ProcessVScroll() : m_list.ProcessHScroll();
+        if (alive)
+        {
+            m_list.DrawScrollBars(); // also for an heir that presses in its own way
+        }
     }
     void Move(const CPoint& point) override { m_list.HandleMouseMoveScroll(point); }
     void Step(int axis, int code) override

@@ -84,15 +84,10 @@ void BarHost::Press(int axis)
         Step(axis, code);
     }
     // What was told on the way may have ended the window, the mode or the press.
-    if (alive && m_part == part)
+    const auto goesOn = [&] { return alive && m_part == part; };
+    if (goesOn() && Repeats(part))
     {
-        if (!Repeats(part))
-        {
-            // Released outside, no message would tell: leaving ends the press.
-            m_leaveRequested = true;
-            RequestNcLeave(m_window);
-        }
-        else if (m_manner.waits)
+        if (m_manner.waits)
         {
             SetTimer(*m_manner.waitTimer, *m_manner.waitPeriod);
         }
@@ -104,6 +99,12 @@ void BarHost::Press(int axis)
     if (alive)
     {
         DrawStep();
+    }
+    if (goesOn() && !Repeats(part))
+    {
+        // Released outside, no message would tell: leaving ends the press.
+        m_leaveRequested = true;
+        RequestNcLeave(m_window);
     }
 }
 
@@ -194,10 +195,13 @@ LRESULT BarHost::NcMouseLeave()
         }
         if (COnBoardUIGeneral::InOnBoardMode())
         {
-            CancelNcLeave(m_window);
             if (::GetCapture() == m_window.GetSafeHwnd())
             {
                 ::ReleaseCapture();
+            }
+            if (alive)
+            {
+                CancelNcLeave(m_window);
             }
         }
         if (alive && Follow())
