@@ -2,6 +2,7 @@
 
 #include "CustomDialog.h"
 #include "OnBoardUIGeneral.h"
+#include "paint/MeasuringDC.h"
 
 #include <uxtheme.h>
 
@@ -18,7 +19,7 @@ bool VisualStyles()
 
 int LineHead(HFONT font)
 {
-    CClientDC dc(nullptr);
+    CDC& dc = MeasuringDC();
     const Selected selected(dc, font);
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics);
