@@ -132,7 +132,7 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
             sheetBefore = ClientRectOf(sheet);
             pageBefore = WindowRectOf(first).Size();
         };
-        const auto onBoard = [&] {
+        const auto onBoard = [&, opened = opened] {
             EXPECT_EQ(ChildPlaces(first).front(), Enlarged(before));
             const CRect client = ClientRectOf(sheet);
             EXPECT_GE(client.Width(), Enlarged(sheetBefore).Width() - 1);

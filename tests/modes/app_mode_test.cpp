@@ -168,7 +168,7 @@ TEST_F(AppModeTest, ReceiversMayEndThemselvesAndOthers)
             dialogs.push_back(Make<Dialog>(std::to_string(index)));
         }
         const auto page = Make<Page>("page");
-        dialogs[2]->probe.whenMoved = [&] {
+        dialogs[2]->probe.whenMoved = [&, &ended = ended] {
             for (const size_t index : ended)
             {
                 dialogs[index].reset();

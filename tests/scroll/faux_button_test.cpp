@@ -44,22 +44,23 @@ TEST(FauxButton, TheStandardLookIsThePlatforms)
         {left, DFC_SCROLL, DFCS_SCROLLLEFT},     {right, DFC_SCROLL, DFCS_SCROLLRIGHT},
         {drop, DFC_SCROLL, DFCS_SCROLLCOMBOBOX}, {thumb, DFC_BUTTON, DFCS_BUTTONPUSH},
     };
-    for (const auto& [part, type, state] : cases)
+    for (const auto& each : cases)
     {
-        part.SetArea(VertArea);
-        const auto expectLook = [&](int pressed, int enabled, UINT extra) {
+        each.part.SetArea(VertArea);
+        const auto expectLook = [&each](int pressed, int enabled, UINT extra) {
             Canvas platform(80, 80);
             CRect area = VertArea;
-            platform.DC().DrawFrameControl(&area, type, state | extra);
-            EXPECT_EQ(Painted(part, pressed, enabled, STD), platform.Picture()) << extra;
+            platform.DC().DrawFrameControl(&area, each.type, each.state | extra);
+            EXPECT_EQ(Painted(each.part, pressed, enabled, STD), platform.Picture()) << extra;
         };
         expectLook(!Pressed, Enabled, 0);
         expectLook(Pressed, Enabled, DFCS_FLAT);
         expectLook(Pressed, !Enabled, DFCS_INACTIVE);
-        part.SetShow(0);
+        each.part.SetShow(0);
         for (const APPMODE mode : {STD, ONBOARD})
         {
-            EXPECT_EQ(Painted(part, Pressed, Enabled, mode), Canvas(80, 80).Picture()) << "hidden";
+            EXPECT_EQ(Painted(each.part, Pressed, Enabled, mode), Canvas(80, 80).Picture())
+                << "hidden";
         }
     }
 }

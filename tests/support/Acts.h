@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 // Something that a test does, under the name that its messages give.
 template <class... Arguments> struct Act
@@ -16,7 +17,7 @@ template <class... Arguments> struct Act
 class OnceTold
 {
 public:
-    OnceTold(HostWindow& host, UINT code, std::function<void()> act)
+    OnceTold(HostWindow& host, UINT code, const std::function<void()>& act)
     {
         host.hook = [code, act, done = m_done](ToldMessage& told) {
             if (told.code == code && !std::exchange(*done, true))

@@ -328,7 +328,7 @@ TEST_F(MultiTreeTest, SurvivesItsParent)
                 tree->SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
                 tree->FocusItem(e);
                 bool done = false;
-                Host().hook = [&](ToldMessage& told) {
+                Host().hook = [&, &acting = acting](ToldMessage& told) {
                     if (told.code == UINT(when) && !std::exchange(done, true))
                     {
                         acting(ItemOf(told));
