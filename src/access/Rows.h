@@ -41,6 +41,7 @@ template <class Rows> HRESULT GiveRows(VARIANT& place, const Rows& rows)
         return Give(place, ChildOf(*rows.begin()));
     }
     std::vector<long> ids;
+    ids.reserve(rows.size());
     for (const int row : rows)
     {
         ids.push_back(ChildOf(row));

@@ -63,8 +63,9 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
         EXPECT_EQ(box.PlaceOfButton(box.m_buttons.size() - 1), each.lastButton + down);
         EXPECT_NE(box.GetExStyle() & WS_EX_TOPMOST, 0U);
         const CPoint middle = WindowRectOf(box).CenterPoint();
-        EXPECT_NEAR(middle.x, 1280 / 2, 1);
-        EXPECT_NEAR(middle.y, 1024 / 2, 1);
+        const CPoint middleOfScreen(Wide.cx / 2, Wide.cy / 2);
+        EXPECT_NEAR(middle.x, middleOfScreen.x, 1);
+        EXPECT_NEAR(middle.y, middleOfScreen.y, 1);
     }
 }
 

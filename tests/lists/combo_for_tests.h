@@ -74,7 +74,7 @@ protected:
     // The notifications of a combo since the last question.
     std::vector<UINT> TakeCodes(const CWnd& combo)
     {
-        const std::vector<UINT> codes = Host().CodesFrom(UINT(combo.GetDlgCtrlID()));
+        std::vector<UINT> codes = Host().CodesFrom(UINT(combo.GetDlgCtrlID()));
         Host().Forget();
         return codes;
     }

@@ -293,7 +293,7 @@ protected:
         Journal journal(Host(), control,
                         within ? std::function<void()>(&Parity::ThroughAllModes) : nullptr);
         script(control, journal);
-        const Lines lines = journal.Lines();
+        Lines lines = journal.Lines();
         control.DestroyWindow();
         return lines;
     }

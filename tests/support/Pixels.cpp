@@ -74,7 +74,7 @@ void PrintTo(const Pixels& pixels, std::ostream* out)
 Pixels WindowPixels(const CWnd& window)
 {
     const HDC dc = ::GetWindowDC(window.GetSafeHwnd());
-    const Pixels pixels(dc, CRect(CPoint(0, 0), WindowRectOf(window).Size()));
+    Pixels pixels(dc, CRect(CPoint(0, 0), WindowRectOf(window).Size()));
     ::ReleaseDC(window.GetSafeHwnd(), dc);
     return pixels;
 }
@@ -84,7 +84,7 @@ Pixels ScreenPixels(const CRect& rect)
     // What was drawn reaches the screen when the thread has nothing to do: let it be so.
     ::MsgWaitForMultipleObjectsEx(0, nullptr, 1, 0, 0);
     const HDC dc = ::GetDC(nullptr);
-    const Pixels pixels(dc, rect);
+    Pixels pixels(dc, rect);
     ::ReleaseDC(nullptr, dc);
     return pixels;
 }
