@@ -17,6 +17,7 @@
 #include "States.h"
 #include "Targets.h"
 #include "catalog/Controls.h"
+#include "catalog/DialogTemplate.h"
 
 #include <afxwin.h>
 
@@ -54,12 +55,11 @@ public:
     Stage()
         : CCustomDialog(0U, nullptr)
     {
-        struct
-        {
-            DLGTEMPLATE head;
-            WORD menu, windowClass, title;
-        } const empty = {{WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 0, 0, 300, 200}, 0, 0, 0};
-        CreateIndirect(&empty.head, nullptr);
+        CreateIndirect(DialogTemplate({.style = WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN,
+                                       .title = "",
+                                       .points = 0,
+                                       .place = CRect(0, 0, 300, 200)}),
+                       nullptr);
         ::SetWindowPos(m_hWnd, HWND_TOPMOST, 20, 20, 900, 700, 0);
         m_focus.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), this);
     }

@@ -8,24 +8,33 @@
 #include "Row.h"
 #include "Stage.h"
 #include "catalog/Controls.h"
+#include "catalog/DialogTemplate.h"
 
 namespace {
 
 constexpr int Children = 200;
 
-// A dialog on the stage with children of the common kinds, among them list boxes of the library.
-class Parent : public CCustomDialog
+// An empty dialog that fills the stage.
+class Form : public CCustomDialog
+{
+public:
+    Form()
+        : CCustomDialog(0U, &Stage())
+    {
+        CreateIndirect(DialogTemplate({.style = WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN,
+                                       .title = "",
+                                       .points = 0,
+                                       .place = CRect(0, 0, 480, 380)}),
+                       &Stage());
+    }
+};
+
+// One with children of the common kinds, among them list boxes of the library.
+class Parent : public Form
 {
 public:
     Parent()
-        : CCustomDialog(0U, &Stage())
     {
-        struct
-        {
-            DLGTEMPLATE head;
-            WORD menu, windowClass, title;
-        } const empty = {{WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 0, 0, 480, 380}, 0, 0, 0};
-        CreateIndirect(&empty.head, &Stage());
         static const char* const classes[] = {"Static", "Edit", "Button", "ListBox", "ComboBox"};
         for (int child = 0; child < Children; ++child)
         {
@@ -101,18 +110,11 @@ Side LoopThereAndBack()
 }
 
 // A window of every kind, in rows on a dialog that follows the mode.
-class Host : public CCustomDialog
+class Host : public Form
 {
 public:
     Host()
-        : CCustomDialog(0U, &Stage())
     {
-        struct
-        {
-            DLGTEMPLATE head;
-            WORD menu, windowClass, title;
-        } const empty = {{WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0, 0, 0, 480, 380}, 0, 0, 0};
-        CreateIndirect(&empty.head, &Stage());
         int place = 0;
         for (const Control& control : Controls())
         {
