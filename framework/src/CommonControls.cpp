@@ -1,5 +1,7 @@
 #include "framework/CommonControls.h"
 
+#include "DragPicture.h"
+#include "Reflection.h"
 #include "TypedWindows.h"
 #include "framework/HeaderCtrl.h"
 #include "framework/TabCtrl.h"
@@ -25,24 +27,13 @@ BOOL UseCommonControls()
 
 CImageList* CHeaderCtrl::CreateDragImage(int index)
 {
-    const auto handle = HIMAGELIST(SendMessage(HDM_CREATEDRAGIMAGE, WPARAM(index)));
-    if (handle == nullptr)
-    {
-        return nullptr;
-    }
-    auto* images = new CImageList;
-    images->Attach(handle);
-    return images;
+    return framework::DragPicture(SendMessage(HDM_CREATEDRAGIMAGE, WPARAM(index)));
 }
 
 BOOL CHeaderCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    if (message == WM_DRAWITEM)
-    {
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    }
-    return CWnd::OnChildNotify(message, wParam, lParam, result);
+    return message == WM_DRAWITEM ? framework::DrawReflected(*this, lParam, result)
+                                  : CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
 CToolTipCtrl* CTabCtrl::GetToolTips() const
@@ -52,12 +43,8 @@ CToolTipCtrl* CTabCtrl::GetToolTips() const
 
 BOOL CTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    if (message == WM_DRAWITEM)
-    {
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    }
-    return CWnd::OnChildNotify(message, wParam, lParam, result);
+    return message == WM_DRAWITEM ? framework::DrawReflected(*this, lParam, result)
+                                  : CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
 namespace {

@@ -1,6 +1,11 @@
 #include "framework/Controls.h"
 
+#include "Reflection.h"
+
 #include <algorithm>
+
+using framework::Answered;
+using framework::DrawReflected;
 
 IMPLEMENT_DYNAMIC(CStatic, CWnd)
 IMPLEMENT_DYNAMIC(CButton, CWnd)
@@ -11,16 +16,6 @@ IMPLEMENT_DYNAMIC(CScrollBar, CWnd)
 
 namespace {
 
-// A parent that expects no value passes no place for it.
-BOOL Answered(LRESULT* result, LRESULT value)
-{
-    if (result != nullptr)
-    {
-        *result = value;
-    }
-    return TRUE;
-}
-
 // The four owner-drawing messages, for the controls that have items.
 template <class Control>
 BOOL CallItemVirtual(Control& control, UINT message, LPARAM lParam, LRESULT* result)
@@ -28,8 +23,7 @@ BOOL CallItemVirtual(Control& control, UINT message, LPARAM lParam, LRESULT* res
     switch (message)
     {
     case WM_DRAWITEM:
-        control.DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return Answered(result, TRUE);
+        return DrawReflected(control, lParam, result);
     case WM_MEASUREITEM:
         control.MeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
         return Answered(result, TRUE);
@@ -47,22 +41,14 @@ BOOL CallItemVirtual(Control& control, UINT message, LPARAM lParam, LRESULT* res
 
 BOOL CStatic::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    if (message == WM_DRAWITEM)
-    {
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return Answered(result, TRUE);
-    }
-    return CWnd::OnChildNotify(message, wParam, lParam, result);
+    return message == WM_DRAWITEM ? DrawReflected(*this, lParam, result)
+                                  : CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
 BOOL CButton::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    if (message == WM_DRAWITEM)
-    {
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return Answered(result, TRUE);
-    }
-    return CWnd::OnChildNotify(message, wParam, lParam, result);
+    return message == WM_DRAWITEM ? DrawReflected(*this, lParam, result)
+                                  : CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
 BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)

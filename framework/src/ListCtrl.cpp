@@ -1,5 +1,7 @@
 #include "framework/ListCtrl.h"
 
+#include "DragPicture.h"
+#include "Reflection.h"
 #include "TypedWindows.h"
 #include "framework/ToolTipCtrl.h"
 
@@ -167,22 +169,11 @@ CEdit* CListCtrl::EditLabel(int index)
 
 CImageList* CListCtrl::CreateDragImage(int index, LPPOINT point)
 {
-    const auto handle = HIMAGELIST(Send(LVM_CREATEDRAGIMAGE, index, LPARAM(point)));
-    if (handle == nullptr)
-    {
-        return nullptr;
-    }
-    auto* images = new CImageList;
-    images->Attach(handle);
-    return images;
+    return framework::DragPicture(Send(LVM_CREATEDRAGIMAGE, index, LPARAM(point)));
 }
 
 BOOL CListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    if (message == WM_DRAWITEM)
-    {
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    }
-    return CWnd::OnChildNotify(message, wParam, lParam, result);
+    return message == WM_DRAWITEM ? framework::DrawReflected(*this, lParam, result)
+                                  : CWnd::OnChildNotify(message, wParam, lParam, result);
 }

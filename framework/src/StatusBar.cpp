@@ -1,5 +1,6 @@
 #include "framework/StatusBar.h"
 
+#include "Reflection.h"
 #include "TypedWindows.h"
 #include "framework/Frame.h"
 #include "framework/StatusBarCtrl.h"
@@ -30,12 +31,8 @@ int CStatusBarCtrl::GetTextLength(int pane, int* type) const
 
 BOOL CStatusBarCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    if (message == WM_DRAWITEM)
-    {
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    }
-    return CWnd::OnChildNotify(message, wParam, lParam, result);
+    return message == WM_DRAWITEM ? framework::DrawReflected(*this, lParam, result)
+                                  : CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
 BEGIN_MESSAGE_MAP(CStatusBar, CControlBar)
@@ -214,12 +211,8 @@ LRESULT CStatusBar::OnSetText(WPARAM, LPARAM lParam)
 
 BOOL CStatusBar::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    if (message == WM_DRAWITEM)
-    {
-        DrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
-        return TRUE;
-    }
-    return CWnd::OnChildNotify(message, wParam, lParam, result);
+    return message == WM_DRAWITEM ? framework::DrawReflected(*this, lParam, result)
+                                  : CWnd::OnChildNotify(message, wParam, lParam, result);
 }
 
 namespace {

@@ -1,5 +1,6 @@
 #include "framework/TreeCtrl.h"
 
+#include "DragPicture.h"
 #include "TypedWindows.h"
 #include "framework/ToolTipCtrl.h"
 
@@ -129,12 +130,5 @@ CEdit* CTreeCtrl::EditLabel(HTREEITEM item)
 
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM item)
 {
-    const auto handle = HIMAGELIST(SendMessage(TVM_CREATEDRAGIMAGE, 0, LPARAM(item)));
-    if (handle == nullptr)
-    {
-        return nullptr;
-    }
-    auto* images = new CImageList;
-    images->Attach(handle);
-    return images;
+    return framework::DragPicture(SendMessage(TVM_CREATEDRAGIMAGE, 0, LPARAM(item)));
 }
