@@ -6,6 +6,8 @@
 
 #include <oleacc.h>
 
+#include <optional>
+
 namespace access {
 
 inline HRESULT Give(VARIANT& place, long value)
@@ -84,6 +86,23 @@ inline bool IsSelf(const VARIANT& child)
 inline void Tell(HWND window, DWORD event)
 {
     ::NotifyWinEvent(event, window, OBJID_CLIENT, CHILDID_SELF);
+}
+
+// The name of a control that has a label before it. Nothing where the platform names the child:
+// it is another or has no label.
+inline std::optional<HRESULT> NameFromLabel(HWND control, const VARIANT& child, BSTR* name)
+{
+    const HWND label = IsSelf(child) ? LabelBefore(control) : nullptr;
+    return label == nullptr ? std::nullopt : std::optional(Give(*name, LabelText(label)));
+}
+
+// Whether a point of the screen is in a window's client area; gives it in client coordinates.
+inline bool IsInClient(const CWnd& window, CPoint& point)
+{
+    window.ScreenToClient(&point);
+    CRect client;
+    window.GetClientRect(&client);
+    return client.PtInRect(point) != FALSE;
 }
 
 } // namespace access

@@ -63,6 +63,28 @@ inline HRESULT GivePlace(const CWnd& list, CRect row, long* left, long* top, lon
     return S_OK;
 }
 
+// What a row says of its state.
+struct RowState
+{
+    bool selected = false;
+    bool caret = false; // the focus is on it when the list has it
+    bool inSight = false;
+    long more = 0; // what only this kind of list says
+};
+
+inline HRESULT GiveState(VARIANT& place, const CWnd& list, const RowState& row)
+{
+    long bits = row.more;
+    const auto add = [&bits](bool when, long bit) { bits |= when ? bit : 0; };
+    const bool enabled = list.IsWindowEnabled() != FALSE;
+    add(!enabled, STATE_SYSTEM_UNAVAILABLE);
+    add(enabled, STATE_SYSTEM_FOCUSABLE);
+    add(row.caret && ::GetFocus() == list.GetSafeHwnd(), STATE_SYSTEM_FOCUSED);
+    add(row.selected, STATE_SYSTEM_SELECTED);
+    add(!list.IsWindowVisible() || !row.inSight, STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN);
+    return Give(place, bits);
+}
+
 // Whether it is a step to the list's neighbours rather than to one of its rows.
 inline bool LeavesList(long direction, const VARIANT& start)
 {

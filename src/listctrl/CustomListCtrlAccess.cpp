@@ -62,8 +62,8 @@ int CCustomListCtrl::RowAt(const CPoint& point) const
         hit.pt = point;
         return int(SendMessage(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
     }
-    if (!RowPlace(0, first) || first.Height() <= 0 ||
-        point.x < first.left || point.x >= first.right)
+    if (!RowPlace(0, first) || first.Height() <= 0 || point.x < first.left ||
+        point.x >= first.right)
     {
         return -1;
     }
@@ -121,9 +121,8 @@ HRESULT CCustomListCtrl::get_accName(VARIANT child, BSTR* name)
     *name = nullptr;
     if (IsSelf(child))
     {
-        const HWND label = access::LabelBefore(GetSafeHwnd());
-        return label == nullptr ? CListCtrl::get_accName(child, name)
-                                : Give(*name, access::LabelText(label));
+        const auto named = access::NameFromLabel(GetSafeHwnd(), child, name);
+        return named ? *named : CListCtrl::get_accName(child, name);
     }
     return IsRow(child, row) ? GiveRowTexts(row, 0, 1, name) : E_INVALIDARG;
 }
@@ -166,24 +165,27 @@ HRESULT CCustomListCtrl::get_accState(VARIANT child, VARIANT* state)
     {
         return CO_E_OBJNOTCONNECTED;
     }
-    long bits = STATE_SYSTEM_SELECTABLE;
-    const auto add = [&bits](bool when, long bit) { bits |= when ? bit : 0; };
-    add((GetExtendedStyle() & LVS_EX_CHECKBOXES) != 0 &&
-            (item & LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(CheckedImage),
-        STATE_SYSTEM_CHECKED);
-    add((GetStyle() & LVS_SINGLESEL) == 0,
-        STATE_SYSTEM_MULTISELECTABLE | STATE_SYSTEM_EXTSELECTABLE);
-    add(!IsWindowEnabled(), STATE_SYSTEM_UNAVAILABLE);
-    add(IsWindowEnabled(), STATE_SYSTEM_FOCUSABLE);
-    add((item & LVIS_SELECTED) != 0, STATE_SYSTEM_SELECTED);
-    add((item & LVIS_FOCUSED) != 0 && ::GetFocus() == GetSafeHwnd(), STATE_SYSTEM_FOCUSED);
     CRect place;
     CRect client;
     GetClientRect(&client);
     client.top = HeaderBottom();
-    add(!IsWindowVisible() || !RowPlace(row, place) || !CRect().IntersectRect(place, client),
-        STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN);
-    return Give(*state, bits);
+    const bool inSight = RowPlace(row, place) && CRect().IntersectRect(place, client);
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
+    const bool checked = (GetExtendedStyle() & LVS_EX_CHECKBOXES) != 0 &&
+                         (item & LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(CheckedImage);
+    long more = STATE_SYSTEM_SELECTABLE | (checked ? STATE_SYSTEM_CHECKED : 0);
+    if ((GetStyle() & LVS_SINGLESEL) == 0)
+    {
+        more |= STATE_SYSTEM_MULTISELECTABLE | STATE_SYSTEM_EXTSELECTABLE;
+    }
+    return access::GiveState(*state, *this,
+                             {.selected = (item & LVIS_SELECTED) != 0,
+                              .caret = (item & LVIS_FOCUSED) != 0,
+                              .inSight = inSight,
+                              .more = more});
 }
 
 HRESULT CCustomListCtrl::get_accFocus(VARIANT* child)
@@ -227,10 +229,7 @@ HRESULT CCustomListCtrl::accNavigate(long direction, VARIANT start, VARIANT* end
 HRESULT CCustomListCtrl::accHitTest(long left, long top, VARIANT* child)
 {
     CPoint point(left, top);
-    ScreenToClient(&point);
-    CRect client;
-    GetClientRect(&client);
-    if (!client.PtInRect(point))
+    if (!access::IsInClient(*this, point))
     {
         return GiveNothing(*child);
     }

@@ -9,9 +9,8 @@
 // The name is that of the label before it, as the platform's combos have it.
 HRESULT CCustomDropListCombo::get_accName(VARIANT child, BSTR* name)
 {
-    const HWND label = access::IsSelf(child) ? access::LabelBefore(GetSafeHwnd()) : nullptr;
-    return label == nullptr ? CWnd::get_accName(child, name)
-                            : access::Give(*name, access::LabelText(label));
+    const auto named = access::NameFromLabel(GetSafeHwnd(), child, name);
+    return named ? *named : CWnd::get_accName(child, name);
 }
 
 HRESULT CCustomDropListCombo::get_accValue(VARIANT child, BSTR* value)

@@ -108,9 +108,8 @@ HRESULT CCustomListBox::get_accName(VARIANT child, BSTR* name)
 {
     if (IsSelf(child))
     {
-        const HWND label = access::LabelBefore(GetSafeHwnd());
-        return label == nullptr ? CListBox::get_accName(child, name)
-                                : Give(*name, access::LabelText(label));
+        const auto named = access::NameFromLabel(GetSafeHwnd(), child, name);
+        return named ? *named : CListBox::get_accName(child, name);
     }
     int index = 0;
     *name = nullptr;
@@ -148,19 +147,14 @@ HRESULT CCustomListBox::get_accState(VARIANT child, VARIANT* state)
     {
         return E_INVALIDARG;
     }
-    long bits = 0;
-    const auto add = [&bits](bool when, long bit) { bits |= when ? bit : 0; };
-    add((GetStyle() & LBS_NOSEL) == 0, STATE_SYSTEM_SELECTABLE);
-    add(!IsWindowEnabled(), STATE_SYSTEM_UNAVAILABLE);
-    add(IsWindowEnabled(), STATE_SYSTEM_FOCUSABLE);
-    add(::GetFocus() == GetSafeHwnd() && index == Ask(LB_GETCARETINDEX), STATE_SYSTEM_FOCUSED);
-    add(IsSelected(index), STATE_SYSTEM_SELECTED);
-    add(FlipsSelection() || ExtendsSelection(), STATE_SYSTEM_MULTISELECTABLE);
-    add(ExtendsSelection(), STATE_SYSTEM_EXTSELECTABLE);
-    CRect row;
-    add(!IsWindowVisible() || !IsInSight(index, row),
-        STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN);
-    return Give(*state, bits);
+    CRect place;
+    access::RowState row = {.selected = IsSelected(index),
+                            .caret = index == Ask(LB_GETCARETINDEX),
+                            .inSight = IsInSight(index, place)};
+    row.more |= (GetStyle() & LBS_NOSEL) == 0 ? STATE_SYSTEM_SELECTABLE : 0;
+    row.more |= FlipsSelection() || ExtendsSelection() ? STATE_SYSTEM_MULTISELECTABLE : 0;
+    row.more |= ExtendsSelection() ? STATE_SYSTEM_EXTSELECTABLE : 0;
+    return access::GiveState(*state, *this, row);
 }
 
 HRESULT CCustomListBox::get_accFocus(VARIANT* child)
@@ -252,10 +246,7 @@ HRESULT CCustomListBox::accNavigate(long direction, VARIANT start, VARIANT* end)
 HRESULT CCustomListBox::accHitTest(long left, long top, VARIANT* child)
 {
     CPoint point(left, top);
-    ScreenToClient(&point);
-    CRect client;
-    GetClientRect(&client);
-    if (!client.PtInRect(point))
+    if (!access::IsInClient(*this, point))
     {
         return GiveNothing(*child);
     }

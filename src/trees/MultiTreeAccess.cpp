@@ -22,10 +22,9 @@ HRESULT MultiTree::get_accChild(VARIANT child, IDispatch** object)
 
 HRESULT MultiTree::get_accName(VARIANT child, BSTR* name)
 {
-    const HWND label = access::IsSelf(child) ? access::LabelBefore(GetSafeHwnd()) : nullptr;
-    if (label != nullptr)
+    if (const auto named = access::NameFromLabel(GetSafeHwnd(), child, name))
     {
-        return access::Give(*name, access::LabelText(label));
+        return *named;
     }
     const TreeAccess tree(*this, *m_selection);
     return tree.IsForPlatform(child) ? CTreeCtrl::get_accName(child, name)

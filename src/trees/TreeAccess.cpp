@@ -95,20 +95,24 @@ HRESULT TreeAccess::State(HTREEITEM item, VARIANT* state) const
     {
         return CO_E_OBJNOTCONNECTED;
     }
-    long bits = STATE_SYSTEM_SELECTABLE;
-    const auto add = [&bits](bool when, long bit) { bits |= when ? bit : 0; };
-    const bool open = m_items.State(item, TVIS_EXPANDED) != 0;
-    add(branch, open ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
-    add(m_selection.IsMultiSelect(), STATE_SYSTEM_MULTISELECTABLE | STATE_SYSTEM_EXTSELECTABLE);
-    add(m_items.IsSelected(item), STATE_SYSTEM_SELECTED);
-    add(!m_window.IsWindowEnabled(), STATE_SYSTEM_UNAVAILABLE);
-    add(m_window.IsWindowEnabled(), STATE_SYSTEM_FOCUSABLE);
-    add(::GetFocus() == m_window.GetSafeHwnd() && item == m_items.Caret(), STATE_SYSTEM_FOCUSED);
     CRect client;
     m_window.GetClientRect(&client);
-    const bool inSight = CRect().IntersectRect(m_items.Rect(item, false), client) != FALSE;
-    add(!m_window.IsWindowVisible() || !inSight, STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN);
-    return Give(*state, bits);
+    long more = STATE_SYSTEM_SELECTABLE;
+    if (branch)
+    {
+        const bool open = m_items.State(item, TVIS_EXPANDED) != 0;
+        more |= open ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED;
+    }
+    if (m_selection.IsMultiSelect())
+    {
+        more |= STATE_SYSTEM_MULTISELECTABLE | STATE_SYSTEM_EXTSELECTABLE;
+    }
+    return access::GiveState(
+        *state, m_window,
+        {.selected = m_items.IsSelected(item),
+         .caret = item == m_items.Caret(),
+         .inSight = CRect().IntersectRect(m_items.Rect(item, false), client) != FALSE,
+         .more = more});
 }
 
 HRESULT TreeAccess::Role(HTREEITEM, VARIANT* role) const
@@ -157,15 +161,12 @@ HRESULT TreeAccess::Location(HTREEITEM item, long* left, long* top, long* width,
 
 HRESULT TreeAccess::HitTest(const CPoint& screen, VARIANT* child) const
 {
-    TVHITTESTINFO hit = {};
     CPoint point = screen;
-    m_window.ScreenToClient(&point);
-    CRect client;
-    m_window.GetClientRect(&client);
-    if (!client.PtInRect(point))
+    if (!access::IsInClient(m_window, point))
     {
         return GiveNothing(*child);
     }
+    TVHITTESTINFO hit = {};
     hit.pt = point;
     const auto item = HTREEITEM(m_items.Ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
     return Give(*child, item == nullptr ? CHILDID_SELF : IdOf(item));
