@@ -7,6 +7,7 @@
 #include "CustomPropSheet.h"
 
 #include <algorithm>
+#include <tuple>
 
 APPMODE COnBoardUIGeneral::m_appmode = STD;
 int COnBoardUIGeneral::m_std_ctrl_lf_height = -11;
@@ -79,9 +80,10 @@ public:
 
     void TellAll()
     {
-        while (m_views.TellNext(m_newMode, m_oldMode) || m_dialogs.TellNext(m_newMode, m_oldMode) ||
-               m_combos.TellNext(m_newMode, m_oldMode) || m_pages.TellNext(m_newMode, m_oldMode) ||
-               m_sheets.TellNext(m_newMode, m_oldMode))
+        const auto tellNext = [this](auto&... walks) {
+            return (walks.TellNext(m_newMode, m_oldMode) || ...);
+        };
+        while (std::apply(tellNext, m_walks))
         {}
     }
 
@@ -99,22 +101,20 @@ public:
     {
         for (ModeChange* change = s_innermost; change != nullptr; change = change->m_outer)
         {
-            change->m_views.Removed(registry, index);
-            change->m_dialogs.Removed(registry, index);
-            change->m_combos.Removed(registry, index);
-            change->m_pages.Removed(registry, index);
-            change->m_sheets.Removed(registry, index);
+            std::apply([&](auto&... walks) { (walks.Removed(registry, index), ...); },
+                       change->m_walks);
         }
     }
 
 private:
     APPMODE m_newMode;
     APPMODE m_oldMode;
-    RegistryWalk<CCustomFormView> m_views{COnBoardUIGeneral::m_createdformviews};
-    RegistryWalk<CCustomDialog> m_dialogs{COnBoardUIGeneral::m_createddialogs};
-    RegistryWalk<CCustomDropListCombo> m_combos{COnBoardUIGeneral::m_createddlcs};
-    RegistryWalk<CCustomPropPage> m_pages{COnBoardUIGeneral::m_createdPropPages};
-    RegistryWalk<CCustomPropSheet> m_sheets{COnBoardUIGeneral::m_createdPropSheets};
+    std::tuple<RegistryWalk<CCustomFormView>, RegistryWalk<CCustomDialog>,
+               RegistryWalk<CCustomDropListCombo>, RegistryWalk<CCustomPropPage>,
+               RegistryWalk<CCustomPropSheet>>
+        m_walks{COnBoardUIGeneral::m_createdformviews, COnBoardUIGeneral::m_createddialogs,
+                COnBoardUIGeneral::m_createddlcs, COnBoardUIGeneral::m_createdPropPages,
+                COnBoardUIGeneral::m_createdPropSheets};
     ModeChange* m_outer;
 
     static ModeChange* s_innermost;

@@ -1,6 +1,7 @@
 #include "FauxDropButton.h"
 
 #include "scroll/FauxScrollGeometry.h"
+#include "scroll/LookOfPart.h"
 
 CFauxDropButton::CFauxDropButton() = default;
 
@@ -8,18 +9,7 @@ CFauxDropButton::~CFauxDropButton() = default;
 
 void CFauxDropButton::ReDraw(CDC& dc, int pressed, int enabled, APPMODE mode)
 {
-    if (m_show == 0)
-    {
-        return;
-    }
-    if (mode == STD)
-    {
-        ReDrawStd(dc, pressed, enabled);
-    }
-    else
-    {
-        ReDrawOnBoard(dc, pressed, enabled);
-    }
+    scroll::DrawInMode(*this, dc, pressed, enabled, mode);
 }
 
 void CFauxDropButton::ReDrawOnBoard(CDC& dc, int pressed, int enabled)

@@ -1,6 +1,7 @@
 #include "FauxScrollButton.h"
 
 #include "paint/Palette.h"
+#include "scroll/LookOfPart.h"
 
 CFauxScrollButton::CFauxScrollButton(bool first, int orientation)
     : m_first(first)
@@ -11,18 +12,7 @@ CFauxScrollButton::~CFauxScrollButton() = default;
 
 void CFauxScrollButton::ReDraw(CDC& dc, int pressed, int enabled, APPMODE mode)
 {
-    if (m_show == 0)
-    {
-        return;
-    }
-    if (mode == STD)
-    {
-        ReDrawStd(dc, pressed, enabled);
-    }
-    else
-    {
-        ReDrawOnBoard(dc, pressed, enabled);
-    }
+    scroll::DrawInMode(*this, dc, pressed, enabled, mode);
 }
 
 void CFauxScrollButton::ReDrawOnBoard(CDC& dc, int pressed, int enabled)

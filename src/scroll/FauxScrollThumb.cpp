@@ -1,6 +1,7 @@
 #include "FauxScrollThumb.h"
 
 #include "paint/Palette.h"
+#include "scroll/LookOfPart.h"
 #include "scroll/PartColors.h"
 
 CFauxScrollThumb::CFauxScrollThumb(int orientation)
@@ -14,18 +15,7 @@ CFauxScrollThumb::~CFauxScrollThumb() = default;
 
 void CFauxScrollThumb::ReDraw(CDC& dc, int pressed, int enabled, APPMODE mode)
 {
-    if (m_show == 0)
-    {
-        return;
-    }
-    if (mode == STD)
-    {
-        ReDrawStd(dc, pressed, enabled);
-    }
-    else
-    {
-        ReDrawOnBoard(dc, pressed, enabled);
-    }
+    scroll::DrawInMode(*this, dc, pressed, enabled, mode);
 }
 
 void CFauxScrollThumb::SetColors(COLORREF c1, COLORREF c2, COLORREF c3, COLORREF c4, COLORREF c5,
