@@ -4,15 +4,7 @@
 
 #include <tuple>
 
-namespace {
-
-constexpr auto First = CFauxScrollBar::PRESSED_FIRST;
-constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
-constexpr auto BeforeThumb = CFauxScrollBar::PRESSED_BEFORE_THUMB;
-constexpr auto AfterThumb = CFauxScrollBar::PRESSED_AFTER_THUMB;
-constexpr auto Thumb = CFauxScrollBar::PRESSED_THUMB;
-
-} // namespace
+using namespace parts;
 
 TEST_F(EditTest, EveryOnBoardModeScrollsByPointer)
 {

@@ -2,6 +2,7 @@
 
 #include "CustomEdit.h"
 #include "EFB.h"
+#include "support/Bars.h"
 #include "support/OnBoard.h"
 #include "support/Repaint.h"
 #include "support/WindowTest.h"
@@ -45,11 +46,7 @@ public:
         return lineHeight > 0 ? area.Height() / lineHeight : 0;
     }
 
-    // Screen point in the middle of a part of the bar.
-    CPoint PartPoint(CFauxScrollBar::ePRESSED part)
-    {
-        return WindowPoint(*this, m_bar.GetPartArea(part).CenterPoint());
-    }
+    CPoint PartPoint(CFauxScrollBar::ePRESSED part) { return ::PartPoint(*this, m_bar, part); }
 };
 
 constexpr DWORD ManyLines = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;

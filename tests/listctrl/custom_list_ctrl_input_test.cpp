@@ -7,11 +7,7 @@
 
 using testing::ElementsAre;
 
-namespace {
-
-constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
-
-} // namespace
+using namespace parts;
 
 TEST_F(ListCtrlOnBoard, TheWheelCountsUpToANotchAndAnArrowGoesATenthSideways)
 {

@@ -143,7 +143,7 @@ TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
 
     // Let go of in the middle of a drag: the next window is not dragged.
     list.Fill(100);
-    MoveTo(list.PartPoint(CFauxScrollBar::PRESSED_THUMB));
+    MoveTo(list.PartPoint(parts::Thumb));
     Press();
     ASSERT_TRUE(list.m_tracking);
     ::DestroyWindow(list.UnsubclassWindow());

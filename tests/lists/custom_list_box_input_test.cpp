@@ -4,13 +4,7 @@
 #include "support/Acting.h"
 #include "support/Fenced.h"
 
-namespace {
-
-constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
-constexpr auto AfterThumb = CFauxScrollBar::PRESSED_AFTER_THUMB;
-constexpr auto Thumb = CFauxScrollBar::PRESSED_THUMB;
-
-} // namespace
+using namespace parts;
 
 TEST_F(ListBoxOnBoard, AHeldArrowRepeatsAlsoWithThePointerElsewhere)
 {

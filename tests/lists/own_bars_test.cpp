@@ -4,15 +4,7 @@
 #include "listctrl/list_for_tests.h"
 #include "lists/list_box_for_tests.h"
 
-namespace {
-
-constexpr auto First = CFauxScrollBar::PRESSED_FIRST;
-constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
-constexpr auto BeforeThumb = CFauxScrollBar::PRESSED_BEFORE_THUMB;
-constexpr auto AfterThumb = CFauxScrollBar::PRESSED_AFTER_THUMB;
-constexpr auto Thumb = CFauxScrollBar::PRESSED_THUMB;
-
-} // namespace
+using namespace parts;
 
 template <class List> class OwnBars : public OnBoard<WindowTest>
 {

@@ -5,6 +5,16 @@
 
 // The bars that controls draw themselves.
 
+namespace parts {
+
+constexpr auto First = CFauxScrollBar::PRESSED_FIRST;
+constexpr auto Second = CFauxScrollBar::PRESSED_SECOND;
+constexpr auto BeforeThumb = CFauxScrollBar::PRESSED_BEFORE_THUMB;
+constexpr auto AfterThumb = CFauxScrollBar::PRESSED_AFTER_THUMB;
+constexpr auto Thumb = CFauxScrollBar::PRESSED_THUMB;
+
+} // namespace parts
+
 inline CPoint RangeOf(const CFauxScrollBar& bar)
 {
     int minimum = 0;
@@ -13,21 +23,9 @@ inline CPoint RangeOf(const CFauxScrollBar& bar)
     return CPoint(minimum, maximum);
 }
 
-// Screen point in the middle of a part, the trough on either side of the thumb included.
+// Screen point in the middle of a part.
 inline CPoint PartPoint(const CWnd& window, const CFauxScrollBar& bar,
                         CFauxScrollBar::ePRESSED part)
 {
-    const CRect thumb = bar.GetPartArea(CFauxScrollBar::PRESSED_THUMB);
-    CRect area = bar.GetPartArea(part);
-    if (part == CFauxScrollBar::PRESSED_BEFORE_THUMB)
-    {
-        const CRect first = bar.GetPartArea(CFauxScrollBar::PRESSED_FIRST);
-        area = CRect(first.BottomRight(), thumb.TopLeft());
-    }
-    if (part == CFauxScrollBar::PRESSED_AFTER_THUMB)
-    {
-        const CRect second = bar.GetPartArea(CFauxScrollBar::PRESSED_SECOND);
-        area = CRect(thumb.BottomRight(), second.TopLeft());
-    }
-    return WindowPoint(window, area.CenterPoint());
+    return WindowPoint(window, bar.GetPartArea(part).CenterPoint());
 }
