@@ -4,6 +4,8 @@
 #include "lists/CheckRecords.h"
 #include "lists/list_box_for_tests.h"
 
+#include <algorithm>
+
 // A check list that lets a test see its records and its measures.
 class CheckListForTests : public BarsSeen<CCustomChecklistBox>
 {
@@ -29,8 +31,10 @@ public:
 
     std::vector<int> Checks()
     {
+        const int count = std::max(GetCount(), 0);
         std::vector<int> checks;
-        for (int row = 0; row < GetCount(); ++row)
+        checks.reserve(size_t(count));
+        for (int row = 0; row < count; ++row)
         {
             checks.push_back(GetCheck(row));
         }
