@@ -163,6 +163,7 @@ TEST_F(AppModeTest, ReceiversMayEndThemselvesAndOthers)
     for (const auto& [ended, expected] : cases)
     {
         std::vector<std::unique_ptr<Aware<Dialog>>> dialogs;
+        dialogs.reserve(5);
         for (int index = 0; index < 5; ++index)
         {
             dialogs.push_back(Make<Dialog>(std::to_string(index)));
