@@ -18,16 +18,27 @@ const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
 
 namespace {
 
-// Calls visit(entry) for each entry from the most derived map to the root until one says true.
-template <class Visit> bool AnyEntry(const AFX_MSGMAP* map, Visit visit)
+// Calls the entries that are meant, from the most derived map to the root, until one handles. One
+// that declines may have ended the window that has the map: then there is nobody left to ask.
+template <class Meant, class Call>
+bool AnyEntry(const CWnd* window, const AFX_MSGMAP* map, Meant meant, Call call)
 {
+    const HWND handle = window == nullptr ? nullptr : window->m_hWnd;
     while (map != nullptr)
     {
         for (const AFX_MSGMAP_ENTRY* entry = map->entries; entry->message != 0; ++entry)
         {
-            if (visit(*entry))
+            if (!meant(*entry))
+            {
+                continue;
+            }
+            if (call(*entry))
             {
                 return true;
+            }
+            if (handle != nullptr && CWnd::FromHandlePermanent(handle) != window)
+            {
+                return false;
             }
         }
         map = map->baseMap == nullptr ? nullptr : map->baseMap();
@@ -40,12 +51,14 @@ template <class Visit> bool AnyEntry(const AFX_MSGMAP* map, Visit visit)
 bool CCmdTarget::DispatchWindowMessage(UINT mapNumber, AFX_MSGCALL& m)
 {
     const bool registered = mapNumber >= 0xC000 && mapNumber <= 0xFFFF;
-    return AnyEntry(GetMessageMap(), [&](const AFX_MSGMAP_ENTRY& entry) {
-        const bool meant = entry.registered == nullptr
-                               ? entry.message == mapNumber
-                               : registered && *entry.registered == mapNumber;
-        return meant && entry.call(this, m);
-    });
+    return AnyEntry(
+        static_cast<CWnd*>(this), // who else gets one
+        GetMessageMap(),
+        [&](const AFX_MSGMAP_ENTRY& entry) {
+            return entry.registered == nullptr ? entry.message == mapNumber
+                                               : registered && *entry.registered == mapNumber;
+        },
+        [&](const AFX_MSGMAP_ENTRY& entry) { return entry.call(this, m); });
 }
 
 bool CCmdTarget::DispatchCommand(UINT mapNumber, UINT code, AFX_MSGCALL& m,
@@ -53,19 +66,20 @@ bool CCmdTarget::DispatchCommand(UINT mapNumber, UINT code, AFX_MSGCALL& m,
 {
     // Notification codes travel in the low word of a command code.
     const bool words = mapNumber == WM_NOTIFY;
-    return AnyEntry(GetMessageMap(), [&](const AFX_MSGMAP_ENTRY& entry) {
-        if (entry.message != mapNumber || m.id < entry.firstId || m.id > entry.lastId ||
-            (words ? LOWORD(entry.code) != LOWORD(code) : entry.code != code))
-        {
-            return false;
-        }
-        if (info != nullptr)
-        {
-            info->pTarget = this;
-            return true;
-        }
-        return entry.call(this, m);
-    });
+    return AnyEntry(
+        DYNAMIC_DOWNCAST(CWnd, this), GetMessageMap(),
+        [&](const AFX_MSGMAP_ENTRY& entry) {
+            return entry.message == mapNumber && m.id >= entry.firstId && m.id <= entry.lastId &&
+                   (words ? LOWORD(entry.code) == LOWORD(code) : entry.code == code);
+        },
+        [&](const AFX_MSGMAP_ENTRY& entry) {
+            if (info != nullptr)
+            {
+                info->pTarget = this;
+                return true;
+            }
+            return entry.call(this, m);
+        });
 }
 
 BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)

@@ -1,5 +1,6 @@
 #include "framework/Frame.h"
 
+#include "StillThere.h"
 #include "framework/App.h"
 #include "framework/ControlBar.h"
 
@@ -100,8 +101,9 @@ void CFrameWnd::OnClose()
 
 void CFrameWnd::OnSize(UINT type, int width, int height)
 {
+    const framework::StillThere here(*this);
     CWnd::OnSize(type, width, height);
-    if (type != SIZE_MINIMIZED)
+    if (here && type != SIZE_MINIMIZED)
     {
         RecalcLayout();
     }
@@ -115,8 +117,9 @@ BOOL CFrameWnd::OnEraseBkgnd(CDC* dc)
 
 void CFrameWnd::OnActivate(UINT state, CWnd* other, BOOL minimized)
 {
+    const framework::StillThere here(*this);
     CWnd::OnActivate(state, other, minimized);
-    if (m_pViewActive != nullptr)
+    if (here && m_pViewActive != nullptr)
     {
         m_pViewActive->OnActivateView(state != WA_INACTIVE, m_pViewActive, m_pViewActive);
     }
@@ -181,11 +184,15 @@ void CFrameWnd::UpdateBars()
 
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
+    // Who declines may have ended the frame all the same.
+    const framework::StillThere here(*this);
+    if ((m_pViewActive != nullptr && m_pViewActive->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) ||
+        (here && CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)))
+    {
+        return TRUE;
+    }
     CWinApp* const app = AfxGetApp();
-    return (m_pViewActive != nullptr &&
-            m_pViewActive->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo)) ||
-           CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo) ||
-           (app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo));
+    return here && app != nullptr && app->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
 BOOL CFrameWnd::PreTranslateMessage(MSG* message)

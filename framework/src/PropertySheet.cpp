@@ -335,16 +335,16 @@ BOOL CPropertySheet::OnInitDialog()
 
 BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
 {
+    const framework::StillThere here(*this);
     if (CWnd::OnCommand(wParam, lParam))
     {
         return TRUE;
     }
     const int id = LOWORD(wParam);
-    if (HIWORD(wParam) != BN_CLICKED || (id != IDOK && id != IDCANCEL))
+    if (!here || HIWORD(wParam) != BN_CLICKED || (id != IDOK && id != IDCANCEL))
     {
         return FALSE;
     }
-    const framework::StillThere here(*this);
     Default();
     if (here)
     {
@@ -355,7 +355,8 @@ BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
 
 void CPropertySheet::EndIfClosed(int result)
 {
-    if (SendMessage(PSM_GETCURRENTPAGEHWND) == 0)
+    const framework::StillThere here(*this);
+    if (SendMessage(PSM_GETCURRENTPAGEHWND) == 0 && here)
     {
         EndDialog(result);
     }

@@ -115,9 +115,10 @@ void CScrollView::ScrollToPosition(POINT position)
     m_position = clamped;
     if (moved.cx != 0 || moved.cy != 0)
     {
-        SetScrollPos(SB_HORZ, m_position.x);
-        SetScrollPos(SB_VERT, m_position.y);
-        ScrollWindow(moved.cx, moved.cy);
+        const HWND window = m_hWnd; // a bar that moves may tell assistive programs
+        ::SetScrollPos(window, SB_HORZ, clamped.x, TRUE);
+        ::SetScrollPos(window, SB_VERT, clamped.y, TRUE);
+        ::ScrollWindow(window, moved.cx, moved.cy, nullptr, nullptr);
     }
 }
 
@@ -133,6 +134,7 @@ void CScrollView::UpdateBars()
         return; // showing a bar changes the size
     }
     m_updatingBars = true;
+    const framework::StillThere here(*this);
     // Twice: one bar takes room from the other's axis.
     for (int round = 0; round < 2; ++round)
     {
@@ -143,10 +145,18 @@ void CScrollView::UpdateBars()
         info.nPage = UINT(client.Width());
         info.nPos = m_position.x;
         SetScrollInfo(SB_HORZ, &info);
+        if (!here)
+        {
+            return; // a bar that comes or goes changes size and frame, of which the view hears
+        }
         info.nMax = std::max<int>(0, m_total.cy - 1);
         info.nPage = UINT(client.Height());
         info.nPos = m_position.y;
         SetScrollInfo(SB_VERT, &info);
+        if (!here)
+        {
+            return;
+        }
     }
     m_updatingBars = false;
     ScrollToPosition(m_position);
@@ -154,8 +164,12 @@ void CScrollView::UpdateBars()
 
 void CScrollView::OnSize(UINT type, int width, int height)
 {
+    const framework::StillThere here(*this);
     CView::OnSize(type, width, height);
-    UpdateBars();
+    if (here)
+    {
+        UpdateBars();
+    }
 }
 
 void CScrollView::Scroll(int bar, UINT code)

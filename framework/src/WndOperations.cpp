@@ -59,10 +59,11 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
 
 void CWnd::GetWindowText(CString& text) const
 {
-    const int length = ::GetWindowTextLength(m_hWnd);
+    const HWND window = m_hWnd; // is asked, and may end
+    const int length = ::GetWindowTextLength(window);
     LPSTR buffer = text.GetBuffer(length + 1);
     buffer[0] = '\0';
-    ::GetWindowText(m_hWnd, buffer, length + 1);
+    ::GetWindowText(window, buffer, length + 1);
     text.ReleaseBuffer();
 }
 

@@ -1,4 +1,5 @@
 #include "catalog/DialogTemplate.h"
+#include "support/Acts.h"
 #include "support/Fenced.h"
 #include "support/WindowTest.h"
 
@@ -43,12 +44,22 @@ protected:
     LRESULT OnTextLength(WPARAM, LPARAM) { return 0; }
     LRESULT OnNcHitTest(CPoint point) { return point == CPoint(-5, 7) ? 0 : HTCLIENT; }
     void OnUpdateTen(CCmdUI* ui) { ui->Enable(FALSE); }
+    HBRUSH CtlColor(CDC*, UINT)
+    {
+        Note("colour");
+        return nullptr;
+    }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(BasePanel, CWnd)
     ON_COMMAND(10, &BasePanel::OnTen)
     ON_COMMAND(11, &BasePanel::OnEleven)
+    ON_COMMAND(12, &BasePanel::OnTen)
+    ON_NOTIFY(NM_RCLICK, 30, &BasePanel::OnItem)
+    ON_CONTROL_REFLECT(EN_CHANGE, &BasePanel::OnTen)
+    ON_NOTIFY_REFLECT(NM_RCLICK, &BasePanel::OnItem)
+    ON_WM_CTLCOLOR_REFLECT()
     ON_COMMAND_RANGE(20, 22, &BasePanel::OnRange)
     ON_UPDATE_COMMAND_UI(10, &BasePanel::OnUpdateTen)
     ON_BN_CLICKED(30, &BasePanel::OnClicked)
@@ -72,10 +83,19 @@ protected:
         Note("11");
         return takeEleven;
     }
-    BOOL OnTwelve(UINT)
+    // Everything that the base has an entry for, too, ends the panel and declines.
+    BOOL End()
     {
         delete this;
         return FALSE;
+    }
+    BOOL OnTwelve(UINT) { return End(); }
+    BOOL OnItemEnds(UINT, NMHDR*, LRESULT*) { return End(); }
+    BOOL OnOwnItemEnds(NMHDR*, LRESULT*) { return End(); }
+    HBRUSH CtlColor(CDC*, UINT)
+    {
+        End();
+        return nullptr;
     }
     DECLARE_MESSAGE_MAP()
 };
@@ -84,6 +104,10 @@ BEGIN_MESSAGE_MAP(Panel, BasePanel)
     ON_COMMAND(10, &Panel::OnTen)
     ON_COMMAND_EX(11, &Panel::OnElevenEx)
     ON_COMMAND_EX(12, &Panel::OnTwelve)
+    ON_NOTIFY_EX(NM_RCLICK, 30, &Panel::OnItemEnds)
+    ON_CONTROL_REFLECT_EX(EN_CHANGE, &Panel::End)
+    ON_NOTIFY_REFLECT_EX(NM_RCLICK, &Panel::OnOwnItemEnds)
+    ON_WM_CTLCOLOR_REFLECT()
 END_MESSAGE_MAP()
 
 // A child that gives its own colours if it has a brush, and on a click ends its parent.
@@ -180,6 +204,53 @@ TEST_F(MessageMap, ADialogAsksItsOwnerWhoMayEndAndDecline)
     ::SendMessage(*owner, WM_COMMAND, 12, 0);
     EXPECT_EQ(dialog.GetSafeHwnd(), nullptr) << "its owner took it along";
     EXPECT_EQ(faults.Count(), 0);
+}
+
+TEST_F(MessageMap, NobodyIsAskedOnceAHandlerHasEndedTheWindow)
+{
+    struct View : CView
+    {
+        void OnDraw(CDC*) override {}
+        BOOL OnCmdMsg(UINT, int, void*, AFX_CMDHANDLERINFO*) override
+        {
+            GetParentFrame()->DestroyWindow();
+            return FALSE;
+        }
+    };
+    CWnd item;
+    ASSERT_TRUE(item.Create("STATIC", "", WS_CHILD, CRect(0, 0, 9, 9), &Host(), 30));
+    CClientDC dc(&Host());
+    const AccessFaults faults;
+    const Act<CWnd&> acts[] = {
+        {"a command", [](CWnd& panel) { panel.SendMessage(WM_COMMAND, 12); }},
+        {"a notification", [&](CWnd& panel) { Notify(panel, item, UINT(NM_RCLICK)); }},
+        {"a reflected command",
+         [&](CWnd& panel) {
+             Host().SendMessage(WM_COMMAND, MAKEWPARAM(31, EN_CHANGE), LPARAM(panel.m_hWnd));
+         }},
+        {"a reflected notification", [&](CWnd& panel) { Notify(Host(), panel, UINT(NM_RCLICK)); }},
+        {"a reflected colour",
+         [&](CWnd& panel) {
+             Host().SendMessage(WM_CTLCOLOREDIT, WPARAM(dc.m_hDC), LPARAM(panel.m_hWnd));
+         }},
+        {"its view", [](CWnd& panel) {
+             auto* const frame = new Fenced<CFrameWnd>;
+             frame->Create(nullptr, "", WS_OVERLAPPED, CRect(0, 0, 50, 50));
+             auto* const view = new View;
+             view->Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 9, 9), frame, 1);
+             frame->SetActiveView(view);
+             frame->SendMessage(WM_COMMAND, 12);
+             delete &panel;
+         }}};
+    for (const auto& [name, act] : acts)
+    {
+        auto* const panel = new Fenced<Panel>;
+        panel->Create(nullptr, "", WS_CHILD, CRect(0, 0, 50, 50), &Host(), 31);
+        const HWND window = *panel;
+        act(*panel);
+        EXPECT_FALSE(::IsWindow(window)) << name;
+        EXPECT_EQ(faults.Count(), 0) << name;
+    }
 }
 
 TEST_F(MessageMap, AskingWhoHandlesACommandDoesNotRunIt)
