@@ -87,7 +87,12 @@ std::vector<CWnd*>& CCustomDialog::GetControls()
 
 void CCustomDialog::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
-    dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles, {StandardFont(), m_initialising});
+    const WindowAlive alive(*this);
+    const HFONT font = StandardFont(); // the dialog may be asked, and end
+    if (alive)
+    {
+        dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles, {font, m_initialising});
+    }
 }
 
 // What the controls have in the standard mode, unless they were given another.
@@ -109,7 +114,9 @@ BOOL CCustomDialog::OnInitDialog()
     m_initialising = false;
     {
         const std::shared_ptr<dialogs::Opening> opening = m_opening; // the dialog may go meanwhile
-        dialogs::OpenOnBoard(GetSafeHwnd(), StandardFont(),
+        const HWND window = GetSafeHwnd();
+        const HFONT font = StandardFont();
+        dialogs::OpenOnBoard(window, font,
                              opening != nullptr ? std::span(opening->Fixed())
                                                 : std::span<const HWND>());
     }

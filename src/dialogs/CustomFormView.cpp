@@ -50,9 +50,14 @@ void CCustomFormView::AppModeChanged(APPMODE newMode, APPMODE oldMode)
         m_restyled = true;
         const WindowAlive alive(*this);
         ScrollToPosition(CPoint(0, 0)); // children are scaled from the form's corner
+        if (!alive)
+        {
+            return;
+        }
+        const dialogs::Children children = dialogs::ChildrenOf(*this, false);
         if (alive)
         {
-            dialogs::FollowMode(*this, newMode, oldMode, dialogs::ChildrenOf(*this, false));
+            dialogs::FollowMode(*this, newMode, oldMode, children);
         }
         if (alive)
         {

@@ -26,7 +26,12 @@ CCustomPropPage::~CCustomPropPage()
 
 void CCustomPropPage::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
-    dialogs::FollowMode(*this, newMode, oldMode, dialogs::ChildrenOf(*this, m_initialising));
+    const WindowAlive alive(*this);
+    const dialogs::Children children = dialogs::ChildrenOf(*this, m_initialising);
+    if (alive)
+    {
+        dialogs::FollowMode(*this, newMode, oldMode, children);
+    }
 }
 
 BOOL CCustomPropPage::OnInitDialog()

@@ -83,8 +83,12 @@ CCustomPropSheet::~CCustomPropSheet()
 
 void CCustomPropSheet::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
-    dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles,
-                        dialogs::ChildrenOf(*this, m_initialising));
+    const WindowAlive alive(*this);
+    const dialogs::Children children = dialogs::ChildrenOf(*this, m_initialising);
+    if (alive)
+    {
+        dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles, children);
+    }
 }
 
 BOOL CCustomPropSheet::OnInitDialog()

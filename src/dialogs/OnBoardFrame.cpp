@@ -249,7 +249,12 @@ void DrawOnBoardFrame(CWnd& window, int captionHeight, bool active, bool centred
     FrameLook look;
     window.GetWindowRect(&look.window);
     look.window.OffsetRect(-look.window.TopLeft());
+    const WindowAlive alive(window);
     window.GetWindowText(look.title);
+    if (!alive)
+    {
+        return;
+    }
     look.captionHeight = captionHeight;
     look.active = active;
     look.centred = centred;

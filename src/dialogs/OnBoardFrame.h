@@ -36,7 +36,8 @@ struct Children
     bool scaledLater = false;
 };
 
-// As they are for a window whose own font is theirs in the standard mode.
+// As they are for a window whose own font is theirs in the standard mode. It is asked for its font
+// and may end in that.
 Children ChildrenOf(const CWnd& window, bool scaledLater);
 
 // After a change of mode: children, frame and colours follow. Children in the standard font get the

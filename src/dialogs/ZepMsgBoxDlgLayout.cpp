@@ -222,12 +222,12 @@ void CZepMsgBoxDlg::SizeToText()
     GetClientRect(&client);
     CString title;
     GetWindowText(title);
-    dialogs::MessagePremises premises =
-        PremisesFor(title, int(m_buttons.size()), window.Size(), client.Size());
     if (!alive)
     {
         return;
     }
+    dialogs::MessagePremises premises =
+        PremisesFor(title, int(m_buttons.size()), window.Size(), client.Size());
     // A box that was created in its place has grown from the size of its template.
     const auto opened = std::exchange(m_opensWith, nullptr);
     if (opened != nullptr && opened->window == window && opened->premises.mode == premises.mode)
@@ -304,6 +304,10 @@ void CZepMsgBoxDlg::FollowMode()
     {
         SetDefID(UINT(m_buttons[size_t(focused)]->GetDlgCtrlID()));
     }
+    if (!alive)
+    {
+        return;
+    }
     CalcStdSizes();
     SplitText(); // for the screen as it is now
     ShowIcon();
@@ -338,7 +342,7 @@ void CZepMsgBoxDlg::TakeLook()
     const WindowAlive alive(*this);
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
     const auto font = WPARAM(StandardFont());
-    if (m_text->GetSafeHwnd() != nullptr)
+    if (alive && m_text->GetSafeHwnd() != nullptr)
     {
         m_text->SendMessage(WM_SETFONT,
                             onBoard ? WPARAM(CCustomEdit::GetOnBoardFont().GetSafeHandle()) : font);

@@ -108,6 +108,10 @@ void CCustomEdit::Init()
     }
     const WindowAlive alive(*this);
     scroll::StripScrollStyles(*this, WS_VSCROLL);
+    if (!alive)
+    {
+        return;
+    }
     m_barShown = m_wantsBar;
     m_bar.ShowScrollBar(m_barShown);
     scroll::RecalculateFrame(*this);
@@ -163,12 +167,15 @@ void CCustomEdit::LeaveOnBoard()
     m_bars->End();
     m_barShown = false;
     m_bars->HideBars();
+    const WindowAlive alive(*this);
     if (m_wantsBar)
     {
         scroll::RestoreScrollStyles(*this, WS_VSCROLL);
     }
-    const WindowAlive alive(*this);
-    m_bars->RelayoutFrame();
+    if (alive)
+    {
+        m_bars->RelayoutFrame();
+    }
     if (alive)
     {
         RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
@@ -184,17 +191,25 @@ void CCustomEdit::OnDestroy()
 
 void CCustomEdit::RemoveVScrollBar()
 {
+    const WindowAlive alive(*this);
     scroll::StripScrollStyles(*this, WS_VSCROLL);
-    ShowBar(false);
+    if (alive)
+    {
+        ShowBar(false);
+    }
 }
 
 void CCustomEdit::IncludeVScrollBar()
 {
+    const WindowAlive alive(*this);
     if (m_wantsBar && !COnBoardUIGeneral::InOnBoardMode())
     {
         scroll::RestoreScrollStyles(*this, WS_VSCROLL);
     }
-    ShowBar(m_wantsBar);
+    if (alive)
+    {
+        ShowBar(m_wantsBar);
+    }
 }
 
 void CCustomEdit::ShowBar(bool shown)

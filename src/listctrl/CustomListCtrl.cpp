@@ -154,9 +154,13 @@ void CCustomListCtrl::PreSubclassWindow()
         PostMessage(SubclassHeaderMessage);
     }
     CListCtrl::PreSubclassWindow();
-    if (COnBoardUIGeneral::InOnBoardMode())
+    if (alive && COnBoardUIGeneral::InOnBoardMode())
     {
         m_bars->TakePlatformBars();
+    }
+    if (!alive)
+    {
+        return;
     }
     SendMessage(CCM_SETVERSION, WPARAM(CommonControlsVersion));
     if (alive)
@@ -190,8 +194,9 @@ void CCustomListCtrl::ForgetWindow()
 
 void CCustomListCtrl::TakeHeader()
 {
+    const WindowAlive alive(*this);
     const auto header = reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER));
-    if (m_header.GetSafeHwnd() == nullptr && ::IsWindow(header))
+    if (alive && m_header.GetSafeHwnd() == nullptr && ::IsWindow(header))
     {
         m_header.SubclassWindow(header);
     }
@@ -303,7 +308,7 @@ void CCustomListCtrl::OnSize(UINT type, int width, int height)
         return;
     }
     m_bars->TakePlatformBars();
-    if (width > 0)
+    if (alive && width > 0)
     {
         scroll::RecalculateFrame(*this);
     }

@@ -54,7 +54,7 @@ LRESULT CCustomListCtrl::OnInsertColumn(WPARAM wParam, LPARAM lParam)
     }
     if (!sized || given->cx < 0)
     {
-        width.onBoard = GetColumnWidth(int(index));
+        width.onBoard = int(Ask(LVM_GETCOLUMNWIDTH, index));
         width.standard = listctrl::StandardWidth(width.onBoard);
     }
     m_columnWidths.insert(m_columnWidths.begin() + std::min<LRESULT>(index, before), width);
@@ -145,7 +145,7 @@ void CCustomListCtrl::FitLastColumn()
     Ask(LVM_SETCOLUMNWIDTH, WPARAM(last), MAKELPARAM(LVSCW_AUTOSIZE_USEHEADER, 0));
     // Where nothing is left to fill, platforms differ.
     const int wanted = alive ? std::max(HeadingWidth(last), int(client.Width() - column.left)) : 0;
-    if (alive && GetColumnWidth(last) != wanted)
+    if (alive && int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(last))) != wanted)
     {
         Ask(LVM_SETCOLUMNWIDTH, WPARAM(last), MAKELPARAM(wanted, 0));
     }
@@ -172,7 +172,7 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         m_columnWidths.clear();
         for (int column = 0; column < count; ++column)
         {
-            const int width = GetColumnWidth(column);
+            const int width = int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(column)));
             m_columnWidths.push_back(toOnBoard
                                          ? ColumnWidth{width, listctrl::OnBoardWidth(width)}
                                          : ColumnWidth{listctrl::StandardWidth(width), width});
@@ -182,7 +182,7 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
     for (int column = 0; column < count && alive; ++column)
     {
         const ColumnWidth& width = widths[size_t(column)];
-        const int now = GetColumnWidth(column);
+        const int now = int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(column)));
         const bool kept = toOnBoard || column == count - 1 || now == width.onBoard;
         const int wanted = toOnBoard ? width.onBoard
                            : kept    ? width.standard

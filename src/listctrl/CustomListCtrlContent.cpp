@@ -8,12 +8,14 @@
 
 #include <utility>
 
-// Asking the platform ----------------------------------------------------------------------------
+// Asking the platform, past our own handlers, which might end the list
+// -----------------------------
 
 HWND CCustomListCtrl::HeaderWindow() const
 {
-    return m_header.GetSafeHwnd() != nullptr ? m_header.GetSafeHwnd()
-                                             : reinterpret_cast<HWND>(SendMessage(LVM_GETHEADER));
+    return m_header.GetSafeHwnd() != nullptr
+               ? m_header.GetSafeHwnd()
+               : reinterpret_cast<HWND>(m_bars->Ask(LVM_GETHEADER, 0, 0));
 }
 
 int CCustomListCtrl::ColumnCount() const
@@ -46,7 +48,9 @@ int CCustomListCtrl::HeaderBottom() const
 // Of the unscrolled list.
 bool CCustomListCtrl::FirstRowRect(CRect& rect) const
 {
-    return GetItemCount() > 0 && GetItemRect(0, &rect, LVIR_BOUNDS) != FALSE;
+    rect.left = LVIR_BOUNDS;
+    return m_bars->Ask(LVM_GETITEMCOUNT, 0, 0) > 0 &&
+           m_bars->Ask(LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&rect)) != FALSE;
 }
 
 // Whole rows between the header and the lower edge.
@@ -178,7 +182,10 @@ void CCustomListCtrl::KeepInStep(UINT message)
         const bool inserted = message == LVM_INSERTCOLUMNA || message == LVM_INSERTCOLUMNW;
         m_fitting = inserted && m_fittedColumn == -1;
         TakeHeader();
-        HoldPlatform();
+        if (alive)
+        {
+            HoldPlatform();
+        }
         // What is told on the way may change the content once more.
         for (int turn = 0; alive && turn < 4 && !(Measure() == m_measured); ++turn)
         {
@@ -202,7 +209,7 @@ CCustomListCtrl::Measured CCustomListCtrl::Measure()
 {
     Measured now;
     CRect rect;
-    now.items = GetItemCount();
+    now.items = int(Ask(LVM_GETITEMCOUNT));
     now.rowHeight = FirstRowRect(rect) ? rect.Height() : 0;
     now.columns = ColumnCount();
     now.right = now.columns > 0 && HeaderItemRect(now.columns - 1, rect) ? int(rect.right) : 0;

@@ -13,8 +13,14 @@ void CCustomListCtrl::EnterOnBoard()
     m_bars->SetPlacingDue(true);
     m_measured = Measured();
     m_bars->TakePlatformBars();
-    TakeHeader();
-    HoldPlatform();
+    if (alive)
+    {
+        TakeHeader();
+    }
+    if (alive)
+    {
+        HoldPlatform();
+    }
     if (alive)
     {
         ScalePlatformColumns(true);
@@ -61,8 +67,11 @@ void CCustomListCtrl::LeaveOnBoard()
         return;
     }
     m_bars->GivePlatformBars();
-    m_bars->SetPlatformStyles(0);
-    m_bars->RelayoutFrame();
+    if (alive)
+    {
+        m_bars->SetPlatformStyles(0);
+        m_bars->RelayoutFrame();
+    }
     if (alive)
     {
         RestoreView();
@@ -77,11 +86,11 @@ void CCustomListCtrl::LeaveOnBoard()
 CCustomListCtrl::View CCustomListCtrl::CurrentView(int top, int rows)
 {
     View view = {top, -1};
-    const int end = std::min(top + rows, GetItemCount());
+    const int end = std::min(top + rows, int(Ask(LVM_GETITEMCOUNT)));
     const auto selected = [this](int row) {
         return row >= 0 && Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
     };
-    const int focus = GetNextItem(-1, LVNI_FOCUSED);
+    const int focus = int(Ask(LVM_GETNEXTITEM, WPARAM(-1), LVNI_FOCUSED));
     if (focus >= view.top && focus < end && selected(focus))
     {
         view.selected = focus;

@@ -47,7 +47,7 @@ void CCustomListCtrl::UpdateVScrollData()
     CRect row;
     CRect client;
     GetClientRect(&client);
-    const int items = GetItemCount();
+    const int items = int(Ask(LVM_GETITEMCOUNT));
     const int height = FirstRowRect(row) ? row.Height() : 0;
     m_measured.items = items;
     m_measured.rowHeight = height;

@@ -7,6 +7,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "modes/Rounding.h"
+#include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 
 #include <afxcmn.h>
@@ -70,6 +71,7 @@ void RestyleRichEdit(HWND child, APPMODE mode)
     {
         return;
     }
+    const WindowAlive alive(*edit);
     CHARFORMAT format = {};
     format.cbSize = sizeof(format);
     format.dwMask = CFM_BOLD | CFM_FACE | CFM_SIZE;
@@ -87,15 +89,22 @@ void RestyleRichEdit(HWND child, APPMODE mode)
         format.yHeight = Truncated(format.yHeight * RichEditHeightFactor);
         format.dwEffects |= CFE_BOLD;
     }
-    edit->SetBackgroundColor(FALSE, RichEditBackground);
-    edit->SetDefaultCharFormat(format);
+    if (alive)
+    {
+        edit->SetBackgroundColor(FALSE, RichEditBackground);
+    }
+    if (alive)
+    {
+        edit->SetDefaultCharFormat(format);
+    }
 }
 
 void ResizeTabs(HWND child, double scale)
 {
     auto* tabs = DYNAMIC_DOWNCAST(CTabCtrl, CWnd::FromHandlePermanent(child));
     CRect item;
-    if (tabs != nullptr && tabs->GetItemRect(0, &item))
+    if (tabs != nullptr && tabs->GetItemRect(0, &item) &&
+        CWnd::FromHandlePermanent(child) == tabs) // the question may end it
     {
         tabs->SetItemSize(CSize(Truncated(Across(item.Width(), scale)),
                                 Sum(Truncated(item.Height() * scale), TabHeightExtra)));

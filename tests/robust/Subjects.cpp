@@ -2,14 +2,13 @@
 
 #include "CustomToolbar.h"
 #include "catalog/Makers.h"
-#include "support/Fenced.h"
 
 #include <algorithm>
 #include <map>
 
 namespace {
 
-using Catalog = Makers<Fenced>;
+using Catalog = Makers<Mortal>;
 using enum Argument;
 
 const CRect Room(40, 30, 300, 230);
@@ -151,7 +150,7 @@ const std::vector<Word> TreeWords = {
 
 std::unique_ptr<CWnd> MakeToolBar(CWnd& parent, const Contents&)
 {
-    auto bar = std::make_unique<Fenced<CustomToolbar>>();
+    auto bar = std::make_unique<Mortal<CustomToolbar>>();
     if (!bar->CreateEx(&parent, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE))
     {
         return nullptr;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalog/Controls.h"
+#include "support/Fenced.h"
 
 #include <gtest/gtest.h>
 
@@ -61,6 +62,33 @@ struct Subject
 };
 
 const std::vector<Subject>& Subjects();
+
+// Asked, if it is set, by each control before each of its messages: whether it was ended in that.
+inline bool (*EndsItself)(const CWnd& control, UINT message) = nullptr;
+// How many messages the platform's part of a control is at work on; it goes on after what it tells
+// the control in them. In WM_WINDOWPOSCHANGED it is the system itself, which knows when to stop.
+inline int PlatformWorks = 0;
+
+template <class Base> struct Mortal : Fenced<Base>
+{
+    using Fenced<Base>::Fenced;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return EndsItself != nullptr && EndsItself(*this, message)
+                   ? 0
+                   : Base::WindowProc(message, wParam, lParam);
+    }
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const int works = message != WM_WINDOWPOSCHANGED;
+        PlatformWorks += works;
+        const LRESULT result = Base::DefWindowProc(message, wParam, lParam);
+        PlatformWorks -= works;
+        return result;
+    }
+};
 
 // In the names of tests and in what they print.
 std::string TestName(std::string words);
