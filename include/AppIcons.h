@@ -16,7 +16,7 @@ public:
     // An icon and its resource id.
     struct ICON_INFO
     {
-        UINT id;
+        UINT id;    // of the resource
         HICON icon; // stays with the table
     };
 

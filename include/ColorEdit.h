@@ -12,8 +12,11 @@ class ONBOARDUI_API ColorEdit : public CEdit
 public:
     ColorEdit();
 
+    // @{
+    // The colours of the text and of all behind it, shown by the next paint.
     void SetTextColor(COLORREF color);
     void SetBackgroundColor(COLORREF color);
+    // @}
 
 protected:
     afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);

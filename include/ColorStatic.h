@@ -15,10 +15,12 @@ public:
     // The colour, shown by the next paint.
     void Set(COLORREF color);
 
+    // @{
     // What assistive programs are told: a picture, named by the window's text, which is not drawn.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    // @}
 
 protected:
     afx_msg void OnPaint();

@@ -14,10 +14,12 @@ public:
     // The colour of the outline; not redrawn.
     virtual void SetColor(COLORREF color);
 
+    // @{
     // What assistive programs are told: a group, named by the window's text, which is not drawn.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    // @}
 
 protected:
     afx_msg void OnPaint();

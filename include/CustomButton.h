@@ -27,9 +27,13 @@ public:
     UINT GetState() const { return m_pressed ? 1 : 0; }
     // As BM_SETSTATE with this value.
     void SetState(int state);
-    // The check state of the mode (BST_UNCHECKED, BST_CHECKED, BST_INDETERMINATE).
+
+    // @{
+    // The check state of the mode (BST_UNCHECKED, BST_CHECKED, BST_INDETERMINATE). Setting it does
+    // not tell the parent; on-board any other number is kept, too.
     int GetCheck() const;
     void SetCheck(int check);
+    // @}
 
     // Begins to follow a press: takes focus and capture. Nothing while any window has the capture.
     virtual void StartTracking();
@@ -37,13 +41,20 @@ public:
     virtual void EndTracking();
     // Whether a click at point (client coordinates) is one on the button.
     virtual bool InButtonRect(const CPoint& point);
+
+    // @{
     // Sends the click, BN_CLICKED with the button's id, to the parent or to any window.
     virtual void NotifyParentClicked();
     virtual void NotifyWindowClicked(CWnd* window);
+    // @}
+
+    // @{
     // A click's two steps for derived classes: before the parent hears of it, and after, once the
     // capture is free. The second one comes in every mode.
     virtual void HandleBMClick() {}
     virtual void HandleGroupClick() {}
+    // @}
+
     // A key in an on-board mode; here the platform's button has it.
     virtual void HandleKeyDown(UINT key, UINT repeat, UINT flags);
     // For derived classes that follow what a button does.
@@ -59,6 +70,7 @@ public:
     // selected; with a frame while the button has the focus.
     virtual void DrawRCText(CDC& dc, const CRect& item, const CRect& mark);
 
+    // @{
     // Assistive programs are told the mode's own check and press. The role decides how a button is
     // told of: only one that is no push button has a check. The default action is a click, posted
     // to the button; a disabled one has none.
@@ -66,6 +78,7 @@ public:
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
     HRESULT accDoDefaultAction(VARIANT child) override;
+    // @}
 
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
 

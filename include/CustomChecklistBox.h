@@ -32,13 +32,18 @@ public:
     CCustomChecklistBox();
     ~CCustomChecklistBox() override;
 
+    // @{
     // Fonts of all check lists, made on first use and kept for the life of the process.
     static CFont& GetOnBoardFont();
     static CFont& GetStdFont();
+    // @}
 
+    // @{
     // BS_CHECKBOX, BS_AUTOCHECKBOX (at first), BS_3STATE or BS_AUTO3STATE; others are ignored.
     void SetCheckStyle(UINT style);
     UINT GetCheckStyle() const { return m_checkStyle; }
+    // @}
+
     // The parent is not told. Nothing for an item that does not exist and for 2 in a style of two
     // states. Any other number is kept: below 0 it looks unchecked, above 2 indeterminate.
     void SetCheck(int index, int check);
@@ -62,22 +67,28 @@ public:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     void PreSubclassWindow() override;
 
+    // @{
     // What assistive programs are told: as of any list box, but each row is a check button with its
     // check.
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    // @}
+
     // Changes the row's check as a click on it would, of this one row, and tells the parent; the
     // selection and the focus stay.
     HRESULT accDoDefaultAction(VARIANT child) override;
 
 protected:
+    // @{
     // The owner's messages as they come back from the parent: the record is taken out of them
     // before the operations that heirs override are called.
     virtual void PreDrawItem(LPDRAWITEMSTRUCT draw);
     virtual void PreMeasureItem(LPMEASUREITEMSTRUCT measure);
     virtual int PreCompareItem(LPCOMPAREITEMSTRUCT compare);
     virtual void PreDeleteItem(LPDELETEITEMSTRUCT deleted);
+    // @}
+
     // Draws the check of a row.
     virtual void PreDrawItemNonThemed(CDC& dc, const DRAWITEMSTRUCT& draw);
 
@@ -88,8 +99,12 @@ protected:
     int CheckFromPoint(CPoint point, int& onCheck);
     // The same check for every selected row, also where the user cannot change it by itself.
     void SetSelectionCheck(int check);
+
+    // @{
+    // Have a row's check, or the whole row, painted again; nothing for a row out of sight.
     void InvalidateCheck(int index);
     void InvalidateItem(int index);
+    // @}
 
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 

@@ -21,6 +21,7 @@ class ONBOARDUI_API CCustomComboLBox : public CCustomListBox
     DECLARE_DYNAMIC(CCustomComboLBox)
 
 public:
+    // How many rows are shown at most unless a host says otherwise.
     static constexpr int DefaultMaxRows = 10;
 
     CCustomComboLBox();
@@ -28,15 +29,20 @@ public:
 
     // Makes the popup, hidden, with the empty list in it. FALSE when it cannot be made or is there.
     BOOL CreatePopup();
+    // Ends the popup and the list in it, with its items. The object can make another.
     void DestroyPopup();
 
+    // @{
     // The combo that is told what happens in the list; null for none. Neither owns the other.
     void SetComboParent(CCustomDropListCombo* combo) { m_combo = combo; }
     CCustomDropListCombo* GetComboParent() const { return m_combo; }
+    // @}
 
+    // @{
     // How many rows are shown at most; the default for 0 and less.
     void SetMaxRows(int rows) { m_maxRows = rows > 0 ? rows : DefaultMaxRows; }
     int GetMaxRows() const { return m_maxRows; }
+    // @}
 
     // Height of a row in pixels, at least 1.
     int GetItemHeight() const;
@@ -57,16 +63,21 @@ public:
 
     // place: of the popup, on the screen.
     void PlacePopup(const CRect& place);
-    // Shows the popup above all other windows, or hides it, without activating anything.
+    // Shows the popup above all other windows, or hides it, without activating anything. Nothing
+    // without a popup.
     void ShowPopup(bool show);
+    // Whether the list is open; false without a popup.
     bool IsPopupVisible() const;
 
-    // The pointer while the list is open, in screen coordinates. BarAt gives the hit code of a
-    // scroll bar, or 0; RowAt the index of a row, or -1. BarHeld: a press on a bar goes on.
+    // @{
+    // The pointer while the list is open, in screen coordinates. HoldsPoint: whether it is over the
+    // popup; BarAt: the hit code of the scroll bar under it, or 0; RowAt: the index of the row, or
+    // -1; IsBarHeld: whether a press on a bar goes on.
     bool HoldsPoint(const CPoint& screen) const;
     UINT BarAt(const CPoint& screen) const;
     int RowAt(const CPoint& screen) const;
     bool IsBarHeld() const { return m_tracking; }
+    // @}
 
     // Highlights the row under the pointer; elsewhere the last one stays highlighted.
     void Track(const CPoint& screen);
@@ -77,14 +88,18 @@ public:
     // Selects the row, unless it is -1, and tells the combo that the list is done with.
     void Pick(int row);
 
+    // As in any list box, with the highlighted row in place of the selected one.
     void DrawItem(LPDRAWITEMSTRUCT draw) override;
 
+    // @{
     // What assistive programs are told: as of any list box, but the highlighted row is the selected
     // one. Selecting highlights as the pointer does and leaves the focus to the combo.
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
     HRESULT get_accSelection(VARIANT* children) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
     HRESULT accSelect(long flags, VARIANT child) override;
+    // @}
+
     // Picks the row, as a click on it does; fails while the list is closed.
     HRESULT accDoDefaultAction(VARIANT child) override;
 

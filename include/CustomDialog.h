@@ -25,9 +25,12 @@ class ONBOARDUI_API CCustomDialog : public CDialog
     DECLARE_DYNAMIC(CCustomDialog)
 
 public:
-    // The host is kept, not owned, and may be null.
+    // @{
+    // From the template of this id, which is read when the window is made. The host is kept, not
+    // owned, and may be null.
     CCustomDialog(UINT templateId, CWnd* parent);
     CCustomDialog(UINT templateId, CWnd* parent, IAppAccess* host);
+    // @}
     ~CCustomDialog() override;
 
     // The dialog's child windows and theirs, as they were when it initialised. A window without an
@@ -35,16 +38,22 @@ public:
     // left out.
     std::vector<CWnd*>& GetControls();
 
-    // The flight bag that is told of modal dialogs; the host's, null for none.
+    // @{
+    // The flight bag that is told of modal dialogs; the host's, not owned, null for none.
     static IEFB* GetEfb() { return m_efb; }
     static void SetEfb(IEFB* efb) { m_efb = efb; }
+    // @}
 
     // Called on every mode change; nothing when the modes are equal. The dialog's own rectangle is
     // left to its owner.
     void AppModeChanged(APPMODE newMode, APPMODE oldMode);
 
+    // Attaches the controls that DoDataExchange names, scales and restyles the children if the mode
+    // is an on-board one, and lists them. A derived class calls it: children that it makes before
+    // are scaled with the rest, those made after stay as they are made.
     BOOL OnInitDialog() override;
 
+    // @{
     // In an on-board mode a dialog is created from its template rewritten for that mode, whichever
     // of these is called. FALSE, or -1, for a template that is not there or damaged.
     BOOL Create(LPCSTR templateName, CWnd* parent = nullptr) override;
@@ -53,6 +62,7 @@ public:
                         void* initData = nullptr) override;
     BOOL CreateIndirect(HGLOBAL dialogTemplate, CWnd* parent = nullptr) override;
     INT_PTR DoModal() override;
+    // @}
 
     // Whether the dialog runs in its own modal loop.
     virtual bool IsModal();
@@ -73,10 +83,12 @@ protected:
     // Draws caption and frame on the window now; on-board only.
     virtual void DrawOBNC(bool active);
 
+    // @{
     // Callbacks for the system's enumerations; data is the CCustomDialog. They hand the window's
     // object to the operation of the same name and go on.
     static BOOL CALLBACK CheckForChildDialog(HWND window, LPARAM data);
     static BOOL CALLBACK BuildListOfControls(HWND window, LPARAM data);
+    // @}
 
     // Has the Tab key go through the controls in the order of the ids, ended by 0, and makes each a
     // tab stop. Ids that no control has are left out.
@@ -110,7 +122,9 @@ public:
     static CBrush m_BkEditDisabledBrush; // disabled ones
     static CPen m_BkBorderPen;           // active frame
     static CPen m_BkDisabledPen;         // inactive frame
-    static CFont m_OBStaticTextFont;
+    static CFont m_OBStaticTextFont;     // of dialogs and statics
+
+    // @{
     // For derived classes that mark areas while a layout is tuned.
     static CBrush m_BkRedTestBrush;
     static CBrush m_BkGrnTestBrush;
@@ -118,6 +132,7 @@ public:
     static CPen m_BkBorderRedPen;
     static CPen m_BkBorderGrnPen;
     static CPen m_BkBorderBluPen;
+    // @}
 
 protected:
     std::shared_ptr<dialogs::Opening> m_opening; // the template, while the dialog opens from it

@@ -15,7 +15,7 @@ public:
     // What the template says about one of its controls.
     struct Control
     {
-        DWORD id;
+        DWORD id;    // as the template gives it
         CRect place; // pixels, where the control stands in the standard mode
     };
 
@@ -24,16 +24,20 @@ public:
     CCustomDialogTemplate(const CCustomDialogTemplate&) = delete;
     CCustomDialogTemplate& operator=(const CCustomDialogTemplate&) = delete;
 
+    // @{
     // From the resources that the framework searches, or from those of one module. False, and an
     // empty object, when there is no such template or it is damaged. A template that is locked is
     // kept, and false too.
     bool Load(LPCSTR name, HINSTANCE module = nullptr);
     bool Load(UINT id, HINSTANCE module = nullptr);
+    // @}
+
     // From memory of so many bytes; what lies behind the template does no harm.
     bool Load(const void* memory, size_t bytes);
     // From memory of unknown size: reads no further than memory is readable.
     bool Load(LPCDLGTEMPLATE memory);
 
+    // Whether there is a template here, rewritten or not.
     bool IsLoaded() const { return !m_bytes.empty(); }
 
     // Rewrites the template for on-board display: the on-board font, the dialog's size by the
@@ -42,20 +46,24 @@ public:
     // scaled when the dialog initialises. Once only; false when it cannot be done.
     bool ChangeTemplateForOB();
 
+    // @{
     // The controls in the order of the template, and the font that they have in the standard mode
     // with the pixels of 4 x 8 dialog units there. Known once the template was rewritten. The font
     // is this object's.
     const std::vector<Control>& Controls() const { return m_controls; }
     HFONT StandardFont() const;
     CSize StandardUnit() const { return m_standardUnit; }
+    // @}
 
     // Where the template was found; null for one from memory.
     HINSTANCE Module() const { return m_module; }
 
+    // @{
     // The template, for creating a dialog from it, or null for none. While it is locked it neither
     // moves nor changes. Each Lock needs its Unlock.
     LPCDLGTEMPLATE Lock();
     void Unlock();
+    // @}
 
 private:
     std::vector<std::byte> m_bytes;

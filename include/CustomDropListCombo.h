@@ -59,11 +59,13 @@ public:
     // bring it. Null when there is none.
     CCustomComboLBox* DetachCustomComboLBox();
 
+    // The number of items; 0 without a list.
     int GetCount() const;
     // -1 without a selection.
     int GetCurSel() const;
     // Selects an item, none for -1, and closes an open list. CB_ERR for what is not there.
     int SetCurSel(int index);
+    // Whether the list is open.
     bool IsExpanded() const { return m_expanded; }
     // Opens or closes the list and takes or gives back the mouse capture. Says nothing to the
     // parent.
@@ -72,23 +74,37 @@ public:
     // falls on the combo dismisses the list.
     void DoDropButton();
 
+    // @{
     // Shared fonts, made on first use and kept for the life of the process.
     static CFont& GetOnBoardFont();
     static CFont& GetStdFont();
+    // @}
 
-    // Items. They give CB_ERR when there is no window or no list yet. AddString and InsertString
-    // give the index, RemoveString the number of items left. An index of -1 inserts at the end, and
-    // one below it is none.
+    // Adds an item at the end, whatever the order of the others. Its index, or CB_ERR without a
+    // window or a list. Null counts as an empty text.
     virtual int AddString(LPCSTR text);
+    // Takes an item out. The number of items left, or CB_ERR for an index that there is none of.
     virtual int RemoveString(int index);
     // The text of the selected item; empty without one.
     virtual CString GetSelString() const;
+    // Adds an item before the one with this index, for -1 at the end. Its index, or CB_ERR for any
+    // other index that is not there.
     virtual int InsertString(int index, LPCSTR text);
+    // Takes all items out; nothing is selected then, and the parent is not told.
     virtual void ResetContent();
     // The number of items.
     virtual int GetSize() const;
+
+    // @{
+    // The index of the first item that begins with the text, or is the text, without regard to
+    // case; CB_ERR when there is none. The search begins behind the item 'after', for -1 at the
+    // first one, and goes round.
     virtual int FindString(int after, LPCSTR text) const;
     virtual int FindStringExact(int after, LPCSTR text) const;
+    // @}
+
+    // Selects the item that FindString finds, and closes an open list. Its index, or CB_ERR, when
+    // the selection stays as it was.
     virtual int SelectString(int after, LPCSTR text);
     // Sorts the items by their texts, without regard to case; data and selection go with them.
     virtual void Sort(bool ascending);
@@ -96,8 +112,10 @@ public:
     virtual void* GetItemDataPtr(int index) const;
     // Takes it out of the item and gives it back.
     virtual void* RemoveItemDataPtr(int index);
+    // Gives an item a pointer, which stays the caller's. CB_ERR for what is not there.
     virtual int SetItemDataPtr(int index, void* data);
 
+    // As CWnd's; an open list is closed when its combo is disabled, and the parent told.
     virtual BOOL EnableWindow(int enable);
     // The list is done with: closes it and tells the parent. The list calls it when an item is
     // picked (it is selected by then) or the list is dismissed.
@@ -128,6 +146,7 @@ public:
     BOOL DestroyWindow() override;
     BOOL PreTranslateMessage(MSG* message) override;
 
+    // @{
     // Assistive programs are told of a combo box, named by the label before it, whose value is the
     // selected text. The default action opens or closes the list.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
@@ -136,6 +155,7 @@ public:
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
     HRESULT accDoDefaultAction(VARIANT child) override;
+    // @}
 
 protected:
     void PostNcDestroy() override;

@@ -24,32 +24,42 @@ public:
     CCustomEdit();
     ~CCustomEdit() override;
 
+    // @{
     // The host's on-screen keyboard, for all edits; not owned, null for none.
     static IEFB* GetEfb() { return m_efb; }
     static void SetEfb(IEFB* efb) { m_efb = efb; }
+    // @}
 
+    // @{
     // Shared fonts, made on first use and kept for the life of the process.
     static CFont& GetOnBoardFont();
     static CFont& GetStdFont();
+    // @}
 
     // From now on keys scroll nothing and change nothing but the clipboard, by Ctrl+C and
     // Ctrl+Insert; the bar scrolls and the pointer selects as before. There is no way back. The
     // host still sets the text, and in the standard mode so does the platform's context menu.
     void SetFauxReadOnly() { m_fauxReadOnly = true; }
 
+    // @{
     // Take the vertical bar away, and give it back to an edit that was made with one. Text that
     // does not fit brings the bar back by itself.
     void RemoveVScrollBar();
     void IncludeVScrollBar();
+    // @}
 
     // Lays the edit out anew.
     virtual void Init();
     // Border and bar, at once.
     virtual void DrawOBNC();
+
+    // @{
     // The bar alone, through a context of the whole window or its own. A bar that looks as it did
     // is left alone.
     virtual void DrawOBScrollBars(CDC* dc);
     virtual void DrawOBScrollBars();
+    // @}
+
     // Takes visibility, range and page of the bar from the text.
     virtual void UpdateScrollPosFromText();
     // A press on the bar, by the part that its last hit test found.

@@ -29,11 +29,16 @@ public:
     // Called on every mode change; nothing when the modes are equal.
     void AppModeChanged(APPMODE newMode, APPMODE oldMode);
 
+    // As the framework's; the first time it also scales and restyles the children, and the range
+    // that is scrolled, if the mode is an on-board one. Each time it lists the controls.
     void OnInitialUpdate() override;
 
 protected:
+    // @{
+    // From the template of this name or id, which is read when the window is made.
     explicit CCustomFormView(LPCSTR templateName);
     explicit CCustomFormView(UINT templateId);
+    // @}
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);

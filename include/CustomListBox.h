@@ -25,10 +25,13 @@ public:
     CCustomListBox();
     ~CCustomListBox() override;
 
+    // @{
     // Fonts of all list boxes, made on first use and kept for the life of the process.
     static CFont& GetOnBoardFont();
     static CFont& GetStdFont();
+    // @}
 
+    // Takes all rows out, by the message, so that list and bars hear of it.
     void ResetContent() { SendMessage(LB_RESETCONTENT); }
 
     // On-board: scrolls content and bar (rows for SB_VERT, steps for SB_HORZ) and gives the bar's
@@ -39,22 +42,28 @@ public:
     virtual void DisableScrollBars();
 
 protected:
+    // @{
     // Painting in the non-client area, on-board only. A bar that looks as it did is left alone.
     virtual void DrawOBBorders();
     virtual void DrawOBScrollBars();
     virtual void DrawOBVScrollBar();
     virtual void DrawOBHScrollBar();
+    // @}
 
+    // @{
     // Take range, page and visibility of the bars from the content and the client rectangle.
     virtual void UpdateScrollData();
     virtual void UpdateVScrollData();
     virtual void UpdateHScrollData();
+    // @}
 
 public:
+    // @{
     // Rows of a list with LBS_HASSTRINGS that nobody else draws: the text centred in the font of
     // the mode, on-board rows one and a half times as high as their text.
     void DrawItem(LPDRAWITEMSTRUCT draw) override;
     void MeasureItem(LPMEASUREITEMSTRUCT measure) override;
+    // @}
 
     // Height in pixels of a row for this text in the on-board font: one and a half times the text.
     virtual int GetEntryHeight(const char* text);
@@ -72,14 +81,22 @@ protected:
 
     // Places the bars against the client rectangle.
     virtual void ResizeOBScrollBars();
+
+    // @{
     // A press on a bar, by the part that its last hit test found.
     virtual void ProcessVScroll();
     virtual void ProcessHScroll();
+    // @}
+
     // The pointer moved, in client coordinates; drags the thumb that is held.
     virtual void HandleMouseMoveScroll(const CPoint& point);
-    // Whether a bar may appear when it is needed.
+
+    // @{
+    // Whether a bar may appear when it is needed. Here the vertical one unless the list has several
+    // columns, and the horizontal one in a list with WS_HSCROLL or several columns.
     virtual bool VerifyAllowVScrollBar();
     virtual bool VerifyAllowHScrollBar();
+    // @}
 
 public:
     // Makes the bars anew from content and size, after changes that the control is not told of.
@@ -87,6 +104,7 @@ public:
 
     void PreSubclassWindow() override;
 
+    // @{
     // What assistive programs are told: a list, named by the label before it, whose rows are list
     // items with their texts. A row's child id is its index and one. Rows out of sight are told as
     // off-screen.
@@ -98,11 +116,19 @@ public:
     HRESULT get_accFocus(VARIANT* child) override;
     HRESULT get_accSelection(VARIANT* children) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    // @}
+
     // Selects as the user does, and tells the parent of a list with LBS_NOTIFY.
     HRESULT accSelect(long flags, VARIANT child) override;
+
+    // @{
+    // Where a row is on the screen, in pixels; the row before or after one; the row at a point of
+    // the screen, or the list itself where there is none. E_INVALIDARG for a row that is not there.
     HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
     HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    // @}
+
     // A double click on a row, in a list with LBS_NOTIFY: selects it at once and posts the parent
     // LBN_DBLCLK, which may open a dialog.
     HRESULT accDoDefaultAction(VARIANT child) override;
@@ -115,9 +141,11 @@ protected:
     // A message for the platform's list box alone, past the handlers of this class and its heirs.
     int Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     bool HasText() const; // rows are strings
+    // Whether the rows stand in columns, which scroll sideways alone.
     bool InColumns() const { return (GetStyle() & LBS_MULTICOLUMN) != 0; }
     HFONT Font(); // of the control; null: the system's
 
+    // Whether there is a row with this index.
     bool Exists(int index);
     // Whether a child id is that of a row; gives its index.
     bool IsRow(const VARIANT& child, int& index);
@@ -127,11 +155,14 @@ protected:
     bool IsInSight(int index, CRect& row);
     // The row under a point in client coordinates, or -1.
     int RowFromPoint(CPoint point);
+    // Whether clicks with Shift and Ctrl select several rows.
     bool ExtendsSelection() const { return (GetStyle() & LBS_EXTENDEDSEL) != 0; }
     // Whether each space changes the selection of one row and leaves the others. Of a list with
     // both styles that is true of the key alone: to clicks it is one of an extended selection.
     bool FlipsSelection() const { return (GetStyle() & LBS_MULTIPLESEL) != 0; }
+    // False for a row that is not there.
     bool IsSelected(int index) { return Ask(LB_GETSEL, WPARAM(index)) > 0; }
+    // Their indexes, rising; in a list that selects one row at most that one.
     std::vector<int> SelectedRows();
     // Sends the parent WM_COMMAND with this code. It may end the list.
     void NotifyParent(UINT code);

@@ -30,9 +30,11 @@ public:
     CCustomListCtrl();
     ~CCustomListCtrl() override;
 
+    // @{
     // Shared fonts, made on first use and kept for the life of the process.
     static CFont& GetOnBoardFont();
     static CFont& GetStdFont();
+    // @}
 
     // Adds the selected rows to what the set holds; while rows are being painted, those of them
     // that are in sight.
@@ -49,10 +51,12 @@ public:
     // hand it back to this list, or cast it back to CFauxScrollBar, but call nothing through it.
     CScrollBar* GetScrollBarCtrl(int bar) const override;
 
+    // @{
     // The least width to which a user may drag a column, in pixels of the standard mode; -1 for
     // none. Setting ignores negative widths.
     int GetMinColWidth() const { return m_minColWidth; }
     void SetMinColWidth(int width);
+    // @}
 
     // Non-zero while a click selects the row that the platform picks from its unscrolled rows, on
     // the way to the row that was clicked: a parent that is told of a change asks for it.
@@ -64,30 +68,39 @@ protected:
     // Bars that look different from what is on the screen; then fits the last column.
     virtual void DrawScrollBars();
 
+    // @{
     // Take range, page and visibility of a bar from the content and the client rectangle.
     // frameChanged: whether the frame was recalculated for it.
     virtual void UpdateVScrollData();
     virtual void UpdateHScrollData(bool& frameChanged);
+    // @}
 
     // Places the bars against the client rectangle if that is due.
     virtual void ResizeOBScrollBars();
 
+    // @{
     // A press on a bar, by the part that is under the pointer.
     virtual void ProcessVScroll();
     virtual void ProcessHScroll();
+    // @}
+
     // The pointer moved, in client coordinates; drags the thumb that is held.
     virtual void HandleMouseMoveScroll(const CPoint& point);
 
+    // @{
     // Scroll the drawing by the difference of two positions of a bar, or by a scroll code.
     virtual void PerformHScroll(int newPos, int oldPos);
     virtual void PerformHScroll(int code);
     virtual void PerformVScroll(int newPos, int oldPos);
     virtual void PerformVScroll(int code);
+    // @}
 
     // Takes the dividers of so many columns from the header.
     virtual void GetVerticalDivides(int columns);
     // Selection and texts of the rows in rect, in client coordinates.
     virtual void DrawCells(CDC& dc, int items, int columns, bool fullRowSelect, const CRect& rect);
+    // The grid lines in rect, in client coordinates, for so many rows: along the bottom of each and
+    // at the dividers that GetVerticalDivides has taken.
     virtual void DrawGrid(CDC& dc, int items, const CRect& rect);
     // The whole client area.
     virtual void DrawOB(CDC& dc);
@@ -95,6 +108,7 @@ protected:
 public:
     void PreSubclassWindow() override;
 
+    // @{
     // What assistive programs are told: a list, named by the label before it, whose rows are list
     // items; the header, where it is shown, is its last child. A row's child id is its index and
     // one, its name the text of the first column, and its description the texts of the others with
@@ -108,11 +122,19 @@ public:
     HRESULT get_accFocus(VARIANT* child) override;
     HRESULT get_accSelection(VARIANT* children) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    // @}
+
     // Selects as the user does; a row that takes the focus comes into sight.
     HRESULT accSelect(long flags, VARIANT child) override;
+
+    // @{
+    // Where a row is on the screen, in pixels; the row before or after one; the row at a point of
+    // the screen, or the list itself where there is none. E_INVALIDARG for a row that is not there.
     HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
     HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    // @}
+
     // Selects a row at once and, by a posted message, activates it as the Enter key does.
     HRESULT accDoDefaultAction(VARIANT child) override;
 

@@ -43,9 +43,12 @@ public:
 protected:
     // Once, before the first paint: the arrows and the font.
     void DoCreate();
+
+    // @{
     // An item's sort arrow, for the HDF_SORTUP or HDF_SORTDOWN of its format; else nothing.
     void DrawOBSortArrow(CDC* dc, CRect item, int format);
     void DrawStdSortArrow(CDC* dc, CRect item, int format);
+    // @}
 
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);

@@ -19,6 +19,8 @@ class ONBOARDUI_API CCustomPropPage : public CPropertyPage
     DECLARE_DYNAMIC(CCustomPropPage)
 
 public:
+    // From the template of this id. Its tab has the template's caption, or with a captionId the
+    // string of that id.
     explicit CCustomPropPage(UINT templateId, UINT captionId = 0);
     ~CCustomPropPage() override;
 
@@ -28,6 +30,8 @@ public:
     // Called on every mode change; nothing when the modes are equal.
     void AppModeChanged(APPMODE newMode, APPMODE oldMode);
 
+    // Attaches the controls, scales and restyles the children if the mode is an on-board one, and
+    // lists them. A derived class calls it, as with CCustomDialog.
     BOOL OnInitDialog() override;
 
 protected:

@@ -22,14 +22,20 @@ class ONBOARDUI_API CCustomPropSheet : public CPropertySheet
     DECLARE_DYNAMIC(CCustomPropSheet)
 
 public:
-    // The host is kept, not owned, and may be null.
+    // @{
+    // Without pages, which are added before it opens; selectPage is the index of the first to be
+    // shown. The caption is copied, or a string of the resources. The host is kept, not owned, and
+    // may be null.
     CCustomPropSheet(UINT captionId, IAppAccess* host, CWnd* parent = nullptr, UINT selectPage = 0);
     CCustomPropSheet(LPCSTR caption, IAppAccess* host, CWnd* parent = nullptr, UINT selectPage = 0);
+    // @}
     ~CCustomPropSheet() override;
 
-    // The flight bag that is told of modal sheets; the host's, null for none.
+    // @{
+    // The flight bag that is told of modal sheets; the host's, not owned, null for none.
     static IEFB* GetEfb() { return m_efb; }
     static void SetEfb(IEFB* efb) { m_efb = efb; }
+    // @}
 
     // Called on every mode change; nothing when the modes are equal. The sheet's own rectangle is
     // left to its owner.
@@ -38,6 +44,7 @@ public:
     // Puts the on-board look over the platform's tabs and buttons. A derived class that has objects
     // of its own for them attaches those first.
     BOOL OnInitDialog() override;
+    // As the framework's; in the flight-bag modes the flight bag is told before and after.
     INT_PTR DoModal() override;
 
     // Whether the sheet runs in its own modal loop.
@@ -61,6 +68,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 public:
+    // What SetEfb was given last.
     static IEFB* m_efb;
 
 protected:

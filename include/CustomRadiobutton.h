@@ -13,11 +13,15 @@ public:
     CCustomRadiobutton();
     ~CCustomRadiobutton() override;
 
-    // Whether a window has the style of an automatic radio button, and whether it heads a group.
+    // @{
+    // Whether a window has the style of an automatic radio button, and whether it heads a group by
+    // WS_GROUP as well. False for null.
     static bool IsAutoRadio(CWnd* window);
     static bool IsAutoRadioGroupCtrl(CWnd* window);
+    // @}
 
     void HandleBMClick() override;
+    // Tells the group boxes that the button lies in of the click, by BN_CLICKED with its id.
     void HandleGroupClick() override;
     void HandleKeyDown(UINT key, UINT repeat, UINT flags) override;
     using CCustomButton::DrawOB;

@@ -17,27 +17,34 @@ public:
     CCustomStatic();
     ~CCustomStatic() override;
 
+    // @{
     // Fonts of all labels, made on first use and kept for the life of the process.
     static CFont& GetOnBoardFont();
     static CFont& GetStdFont();
+    // @}
 
     // The on-board fill behind a group box; gives the one before. Not redrawn. Non-zero useDefault
     // puts the panel colour back.
     COLORREF SetBackgroundColor(int useDefault, COLORREF color);
 
-    // Draws the control in answer to the message in progress.
+    // @{
+    // Draw the control, or a group box, in answer to the message in progress.
     virtual void Draw();
     virtual void DrawGroupBox();
+    // @}
+
     // Draws the border on the screen now, and has the client area painted again.
     virtual void DrawOBNC();
 
     void PreSubclassWindow() override;
 
+    // @{
     // What assistive programs are told: a group box, a picture or a text, by the style, with the
     // caption as its name.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    // @}
 
 protected:
     // The controls of a dialog, property page or form view that is the parent; with any other

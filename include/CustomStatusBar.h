@@ -22,11 +22,13 @@ public:
     // Draws the whole client area in the on-board look.
     virtual void DrawOB(CDC& dc);
 
+    // @{
     // What assistive programs are told: a status bar, whose value is the texts of its panes with
     // "; " between them. Empty panes and those that the owner draws have none.
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accValue(VARIANT child, BSTR* value) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    // @}
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT cs);

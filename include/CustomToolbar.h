@@ -14,6 +14,7 @@ class ONBOARDUI_API CustomToolbar : public CToolBar
     DECLARE_DYNAMIC(CustomToolbar)
 
 public:
+    // Which fly-outs a tool bar closes; the values are the host's.
     using CLOSERULE = CUSTOMTOOLBAR_CLOSERULE;
 
     // Orders the buttons as far as it goes: order lists their command ids from left to right.

@@ -16,9 +16,11 @@ public:
 
     ~IEFB() override;
 
+    // @{
     // Told before a modal dialog opens and after it has closed; true.
     virtual bool BeginModalDialog();
     virtual bool EndModalDialog();
+    // @}
 
     // Screen area, in pixels, of the flight bag. False, and an empty area at the origin; the
     // outputs are set in every case.

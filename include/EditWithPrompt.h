@@ -17,17 +17,27 @@ public:
     // Empties the edit and shows the prompt again.
     void Reset();
 
+    // @{
     // Null and an empty prompt mean none, and end the one that shows.
     void SetPromptText(const char* prompt);
     CString GetPromptText() const { return m_prompt; }
+    // @}
+
+    // @{
+    // The colour of the prompt's text, grey at first; shown by the next paint.
     void SetPromptColor(COLORREF color);
     COLORREF GetPromptColor() const { return m_promptColor; }
+    // @}
 
     // An empty or null text is ignored while the prompt shows.
     void SetWindowText(const char* text);
-    // Copies at most size characters, the final null included, and returns how many without it.
+
+    // @{
+    // The text, empty while the prompt shows. The first form copies at most size characters, the
+    // final null included, and returns how many without it.
     int GetWindowText(char* buffer, int size) const;
     void GetWindowText(CString& text) const;
+    // @}
 
     void PreSubclassWindow() override;
 

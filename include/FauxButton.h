@@ -20,22 +20,34 @@ public:
     // is reported pressed.
     virtual void ReDraw(CDC& dc, int pressed, int enabled, APPMODE mode) = 0;
 
-    // The area, in the owner's window coordinates.
+    // @{
+    // The area, in the owner's window coordinates: all of it, its edges two by two, or moved by so
+    // many pixels. It is not painted.
     virtual void SetArea(const CRect& area);
     virtual void SetTopBottom(int top, int bottom);
     virtual void SetLeftRight(int left, int right);
     virtual void ShiftArea(int dx, int dy);
+    // @}
+
+    // @{
+    // The middle of the area, from top to bottom and from left to right.
     virtual int GetVCenter() const;
     virtual int GetHCenter() const;
+    // @}
 
     // Remakes every pen and brush: c1 outline and arrow line, c2 first brush, c3 normal face,
     // c4 disabled face and third outline, c5 second outline and second brush, c6 pressed face.
     virtual void SetColors(COLORREF c1, COLORREF c2, COLORREF c3, COLORREF c4, COLORREF c5,
                            COLORREF c6);
 
+    // The area, as it was set last.
     const CRect& GetArea() const { return m_area; }
+
+    // @{
+    // Whether ReDraw draws the part: non-zero, as at first. It is not painted.
     int GetShow() const { return m_show; }
     void SetShow(int show) { m_show = show; }
+    // @}
 
     // Computes the arrow of a button with this area: an outer triangle (points 0 to 2, apex first)
     // and the one inside it (3 to 5). orientation is SB_HORZ or SB_VERT; first is the arrow up or

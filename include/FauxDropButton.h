@@ -11,7 +11,9 @@ public:
 
     void ReDraw(CDC& dc, int pressed, int enabled, APPMODE mode) override;
 
+    // @{
     // The two looks, drawn whether the part is shown or not.
     virtual void ReDrawOnBoard(CDC& dc, int pressed, int enabled);
     virtual void ReDrawStd(CDC& dc, int pressed, int enabled);
+    // @}
 };

@@ -25,16 +25,24 @@ public:
     // 1 when the point (same coordinates as the area) lies in the area, otherwise 0.
     int HitTest(CPoint point) const;
 
+    // @{
+    // Whether a border is drawn round the glyph, which makes the least size larger by it.
     bool GetBorder() const { return m_border; }
     void SetBorder(bool border) { m_border = border; }
+    // @}
+
+    // @{
+    // The glyph that is drawn; BUTTON_NONE at first.
     BUTTON_TYPE GetButtonType() const { return m_buttonType; }
     void SetButtonType(BUTTON_TYPE type) { m_buttonType = type; }
+    // @}
 
     // Size of the glyph, with the border when there is one, in pixels of dc. Without a context the
     // size stays as it is.
     void GetMinVisibleSize(CDC* dc, CSize& size) const;
 
 protected:
+    // The glyph as a text of the symbol font.
     CString Glyph() const;
 
     int m_data; // free for the owner's derived class

@@ -34,6 +34,7 @@ public:
     // previous position. The redraw flags of this and the following operations change nothing: the
     // bar has no window, its host paints it.
     virtual int SetScrollPos(int position, int redraw = TRUE);
+    // Moves the position by so many steps, as SetScrollPos does; gives the previous one.
     virtual int IncrementScrollPos(int amount);
 
     // Nothing when either pointer is null.
@@ -53,13 +54,17 @@ public:
     // Fills the fields that mask asks for. 0 for a null pointer, otherwise non-zero.
     virtual int GetScrollInfo(SCROLLINFO* info, UINT mask = SIF_ALL);
 
+    // @{
     // Page in scroll units; setting returns the previous page.
     virtual int GetPageSize() const;
     virtual int SetPageSize(int page, int redraw = TRUE);
+    // @}
 
+    // @{
     // Whether the bar is drawn. Setting passes the flag on to the buttons and the thumb.
     virtual int ShowScrollBar() const;
     virtual void ShowScrollBar(int show);
+    // @}
 
     // Applies a scroll code (SB_LINEUP ...) to the position. The thumb codes change nothing: a drag
     // has moved position and thumb already. Only scrollCode is used.
@@ -68,23 +73,30 @@ public:
     // Paints the bar unless it is hidden; pressed is the part held down.
     virtual void ReDraw(CDC& dc, ePRESSED pressed, int enabled);
 
+    // @{
+    // The area, in pixels of the host's window. Setting it lays buttons and thumb out for the mode
+    // of the moment.
     virtual void SetArea(const CRect& area);
     virtual const CRect& GetArea() const;
+    // @}
 
     // Changes the height of the area, keeping its top (fromTop) or its bottom. The result is the
     // previous height.
     virtual int SetHeight(int height, bool fromTop);
 
+    // @{
     // HTVSCROLL or HTHSCROLL when the point hits a part, otherwise 0; GetLastHit then tells the
     // part.
     virtual UINT GetHitTest(const CPoint& point);
     virtual ePRESSED GetLastHit() const;
+    // @}
 
     // Recolours the bar (c1 outline, c2 trough, c4 disabled trough, c3 standard trough and held
     // trough) and passes all six on to buttons and thumb.
     virtual void SetColors(COLORREF c1, COLORREF c2, COLORREF c3, COLORREF c4, COLORREF c5,
                            COLORREF c6);
 
+    // The position, in steps.
     int GetScrollPos() const { return m_position; }
 
     // Moves the thumb by pixels along the bar, as far as the trough goes, and takes the position
@@ -110,20 +122,31 @@ protected:
     // Puts the thumb where the position is.
     virtual void UpdateThumbDrawingPos();
 
+    // @{
     // What a point that hit neither buttons nor thumb hits in the trough; sets the last hit.
     virtual void HandleVertTrough(const CPoint& point);
     virtual void HandleHorzTrough(const CPoint& point);
+    // @}
 
+    // @{
+    // UpdateThumbDrawingPos for a bar of the one and of the other orientation.
     virtual void UpdateVertThumbDrwPos();
     virtual void UpdateHorzThumbDrwPos();
+    // @}
 
-    // Size and place of buttons and thumb in the area.
+    // @{
+    // Size and place of buttons and thumb in the area, in the on-board look and in the standard
+    // one.
     virtual void CalcOBSpacing();
     virtual void CalcStdSpacing();
+    // @}
 
-    // Trough and outline; the parts are drawn on top of it.
+    // @{
+    // Trough and outline in the on-board look and in the standard one; the parts are drawn on top
+    // of it.
     virtual void ReDrawOB(CDC& dc, ePRESSED pressed, int enabled);
     virtual void ReDrawStd(CDC& dc, ePRESSED pressed, int enabled);
+    // @}
 
     // Takes the step length from range and spacing. The band of pixels that belongs to a position
     // follows from it and is computed when asked for, so that a range of a million steps costs what
@@ -136,7 +159,9 @@ protected:
         int minimum = 0;
         int maximum = 0;
 
+        // The nearest position in the range.
         int Clamp(LONGLONG position) const;
+        // How many there are, below 0 for none.
         LONGLONG Steps() const { return static_cast<LONGLONG>(maximum) - minimum; }
     };
 

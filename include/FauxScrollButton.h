@@ -12,9 +12,11 @@ public:
 
     void ReDraw(CDC& dc, int pressed, int enabled, APPMODE mode) override;
 
+    // @{
     // The two looks, drawn whether the part is shown or not.
     void ReDrawOnBoard(CDC& dc, int pressed, int enabled);
     void ReDrawStd(CDC& dc, int pressed, int enabled);
+    // @}
 
 protected:
     bool m_first;

@@ -17,9 +17,11 @@ public:
     void SetColors(COLORREF c1, COLORREF c2, COLORREF c3, COLORREF c4, COLORREF c5,
                    COLORREF c6) override;
 
+    // @{
     // The two looks, drawn whether the part is shown or not.
     virtual void ReDrawOnBoard(CDC& dc, int pressed, int enabled);
     virtual void ReDrawStd(CDC& dc, int pressed, int enabled);
+    // @}
 
 protected:
     CBrush m_gripBrush;

@@ -38,31 +38,43 @@ public:
     // object is taken.
     bool SubclassTreeCtrlId(UINT id, CWnd* parent);
 
+    // @{
     // Without multiple selection the tree is the platform's. Switching it off leaves the caret
     // selected and nothing else.
     bool IsMultiSelect() const;
     void SetMultiSelect(bool multi);
+    // @}
+
     // Whether the notification in progress was made here rather than by the platform.
     bool IsEmulatedNotify() const;
     // What of an item a rubber band has to meet: its whole row, or its icon and text (the default).
     void SetBandingHit(bool wholeRow);
 
-    // The selected items, those in collapsed branches too, in tree order.
+    // How many items are selected, those in collapsed branches too.
     UINT GetSelectedCount() const;
+    // The first of them in tree order; null when nothing is selected.
     HTREEITEM GetFirstSelectedItem() const;
+    // The one after an item, which need not be selected itself; null after the last and for null.
     HTREEITEM GetNextSelectedItem(HTREEITEM item) const;
     void GetSelectedList(CTypedPtrList<CPtrList, HTREEITEM>& list) const; // replaces its content
+    // The item with the caret; null for none.
     HTREEITEM GetFocusedItem() const;
 
-    // Items that are as wanted already are left alone. notify false: the parent is asked, not told.
+    // @{
+    // Select or deselect all items, or all but one. Items that are as wanted already are left
+    // alone. notify false: the parent is asked, not told; SelectAllIgnore tells it. Without
+    // multiple selection SelectAll(false) takes the caret away, and all else is nothing to be done.
     void SelectAll(bool select, bool notify);
     void SelectAllIgnore(bool select, HTREEITEM ignore);
+    // @}
+
     // The children of an item (null: the topmost items), or all below it. Whether any has changed.
     bool SelectChildren(HTREEITEM item, bool select, bool recurse);
     // Selects from one item to another as the user sees them, whichever comes first; only: and
     // deselects the others. An end hidden in a collapsed branch stands for that branch, and a null
     // one for the other end. The parent is asked and not told.
     virtual void SelectRange(HTREEITEM first, HTREEITEM last, bool only);
+    // False for what is no item.
     virtual bool IsSelected(HTREEITEM item) const;
     // Whether the user may add an item to the selection with Ctrl, and drag it: not null.
     virtual bool CanCtrlSelectItem(HTREEITEM item);
@@ -75,6 +87,7 @@ public:
     bool SelectItem(HTREEITEM item);
     // Moves the caret alone; null takes it away.
     void FocusItem(HTREEITEM item);
+    // Has the item's row painted again, erased before if so wished; nothing for one out of sight.
     void InvalidateItem(HTREEITEM item, bool erase);
 
     // The icons and texts of the selected items in sight as one picture for a drag. The list is the
@@ -94,6 +107,7 @@ public:
 
     void PreSubclassWindow() override;
 
+    // @{
     // What assistive programs are told: an outline, named by the label before it, of items with
     // their texts; an item's value is its level from 0 on. Where the platform numbers the items of
     // its trees it answers for them itself, otherwise an item's child id is its place in tree order
@@ -107,11 +121,20 @@ public:
     HRESULT get_accFocus(VARIANT* child) override;
     HRESULT get_accSelection(VARIANT* children) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    // @}
+
     // Selects as the user does: the parent is asked and told.
     HRESULT accSelect(long flags, VARIANT child) override;
+
+    // @{
+    // Where an item is on the screen, in pixels; its neighbours, parent and children; the item at a
+    // point of the screen, or the tree itself where there is none. E_INVALIDARG for an item that is
+    // not there.
     HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
     HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    // @}
+
     // Opens or closes a branch.
     HRESULT accDoDefaultAction(VARIANT child) override;
 
@@ -119,16 +142,23 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // A press, from its message on. They return when it is over and may find the tree gone.
+    // @{
+    // A press, from its message on: OnButtonDown takes it, DoPreSelection selects what the press
+    // itself selects, DoAction waits whether it becomes a click or a drag, DoBanding runs a rubber
+    // band from empty space, and UpdateSelectionForRect selects what the band meets, with
+    // MK_CONTROL besides what was selected. They return when it is over and may find the tree gone.
     void OnButtonDown(bool left, UINT flags, CPoint point);
     void DoPreSelection(HTREEITEM item, bool left, UINT flags);
     void DoAction(HTREEITEM item, bool left, UINT flags, CPoint point);
     void DoBanding(bool left, UINT flags, CPoint point);
     void UpdateSelectionForRect(const CRect& rect, UINT flags);
+    // @}
 
     // -1 near the upper edge, +1 near the lower one, while there is more that way; otherwise 0.
     int GetAutoScrollDirection(CPoint point) const;
+    // A step of the scrolling in progress: of a rubber band as the pointer asks, else of one line.
     void DoAutoScroll();
+    // Ends the scrolling and its timer.
     void StopAutoScroll();
 
     afx_msg void OnPaint();

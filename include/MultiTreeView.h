@@ -34,7 +34,9 @@ public:
     MultiTreeView();
     ~MultiTreeView() override;
 
-    // Selection, as MultiTree's.
+    // @{
+    // As the functions of these names of MultiTree: the same arguments and results, and the parent
+    // is asked and told of the same.
     bool IsMultiSelect() const;
     void SetMultiSelect(bool multi);
     bool IsEmulatedNotify() const;
@@ -46,8 +48,13 @@ public:
     HTREEITEM GetFocusedItem() const;
     bool IsSelected(HTREEITEM item) const;
     virtual void SelectAll(bool select, bool notify);
+    // @}
+
     // Of what lies in branch, itself included; null: of everything.
     void SelectAllIgnore(HTREEITEM branch, bool select, HTREEITEM ignore);
+
+    // @{
+    // As the functions of these names of MultiTree.
     bool SelectChildren(HTREEITEM item, bool select, bool recurse);
     virtual void SelectRange(HTREEITEM first, HTREEITEM last, bool only);
     virtual bool CanCtrlSelectItem(HTREEITEM item);
@@ -56,6 +63,7 @@ public:
     bool SelectItem(HTREEITEM item);
     void FocusItem(HTREEITEM item);
     void InvalidateItem(HTREEITEM item, bool erase);
+    // @}
 
     // The picture of a drag; without one there is no drag to be seen or tracked.
     virtual CImageList* CreateDragImage();
@@ -65,14 +73,17 @@ public:
     virtual void GetSelectedItems(HTREEITEM item, KArray& payload);
     // A drag has ended over the window that took it; null: nobody did, or it was cancelled.
     virtual void DragEnded(HWND accepted);
+    // How far the pointer moves, in pixels, before a press becomes a drag.
     virtual CSize GetDragThreshold();
     // Pixels of the cursor's picture; the image of a drag lies beside it.
     CSize GetCursorSize() const;
 
+    // Sends the parent a notification from this window and gives its answer; 0 without a parent.
     int _SendNotify(NMHDR* header);
 
     void PreSubclassWindow() override;
 
+    // @{
     // What assistive programs are told, as of a MultiTree: an outline, named by the label before
     // it, of items with their texts; an item's value is its level from 0 on. Where the platform
     // numbers the items of its trees it answers for them itself, otherwise an item's child id is
@@ -86,29 +97,45 @@ public:
     HRESULT get_accFocus(VARIANT* child) override;
     HRESULT get_accSelection(VARIANT* children) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    // @}
+
     // Selects as the user does: the parent is asked and told.
     HRESULT accSelect(long flags, VARIANT child) override;
+
+    // @{
+    // Where an item is on the screen, in pixels; its neighbours, parent and children; the item at a
+    // point of the screen, or the tree itself where there is none. E_INVALIDARG for an item that is
+    // not there.
     HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
     HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    // @}
+
     // Opens or closes a branch.
     HRESULT accDoDefaultAction(VARIANT child) override;
 
+    // @{
     // The registered messages, the same for all views of the process; 0 before the first view.
     static UINT mnDragTrackMsg;
     static UINT mnDragLeaveMsg;
     static UINT mnDragDropMsg;
     static UINT mnDragCopyMsg;
+    // @}
 
-    // Private messages: lParam says whether the view is torn off; and the buffer in lParam, of the
-    // length in wParam, gets the caption if that fits (non-zero then).
+    // @{
+    // Private messages. To TogglePeeledMessage lParam says whether the view is torn off. For
+    // GetCaptionTextMessage lParam is a buffer of wParam characters in this thread, which gets the
+    // caption if that fits with its final null: non-zero then.
     static constexpr UINT TogglePeeledMessage = WM_USER + 20;
     static constexpr UINT GetCaptionTextMessage = WM_USER + 21;
+    // @}
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    // @{
+    // Press, rubber band and scrolling, as the functions of these names of MultiTree.
     void OnButtonDown(bool left, UINT flags, CPoint point);
     void DoPreSelection(HTREEITEM item, bool left, UINT flags);
     void DoAction(HTREEITEM item, bool left, UINT flags, CPoint point);
@@ -117,6 +144,7 @@ protected:
     int GetAutoScrollDirection(CPoint point) const;
     void DoAutoScroll();
     void StopAutoScroll();
+    // @}
 
     // Ends a drag whose button is no longer down.
     void CheckDragState();

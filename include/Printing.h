@@ -14,7 +14,9 @@ class ONBOARDUI_API IPrinting : public IProviderBase
 public:
     ~IPrinting() override;
 
+    // @{
     // Around the pages of one job.
     virtual void BeginPrinting(CDC* dc, CPrintInfo* info) = 0;
     virtual void EndPrinting(CDC* dc, CPrintInfo* info) = 0;
+    // @}
 };

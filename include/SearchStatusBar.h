@@ -12,12 +12,18 @@ public:
     CSearchStatusBar();
     ~CSearchStatusBar() override;
 
-    // Nothing while either is going on, or without a window.
+    // @{
+    // Show that a search, or the loading of its results, has begun. Nothing while either is going
+    // on, or without a window.
     void StartSearchProgress();
     void StartLoadingProgress();
+    // @}
+
+    // @{
     // Each ends whichever is going on. The text stays, and the next search goes on with its dots.
     void StopSearchProgress();
     void StopLoadingProgress();
+    // @}
 
 protected:
     afx_msg void OnDestroy();

@@ -27,15 +27,19 @@ public:
     // a view's client rectangle. Nothing is drawn when something is missing.
     void Draw(K3Grfx* grfx, K3Chart* chart, const CRect& rect, K3Chart* otherChart);
 
+    // @{
+    // Colour and thickness, in device points, of the line of the next drawings.
     void LineColor(const K3Color& color) { m_lineColor = color; }
     const K3Color& LineColor() const { return m_lineColor; }
     void LineThickness(int thickness) { m_lineThickness = thickness; }
     int LineThickness() const { return m_lineThickness; }
+    // @}
 
 protected:
     // Makes the arrays, all zeros; without memory, or for no points, they stay null. A derived
     // class's own is not called during construction.
     virtual void Allocate();
+    // Gives the arrays back. A derived class's own is not called during destruction.
     virtual void Cleanup();
 
     // Takes the outline of rect on a chart: its points, then where they are. Called for each

@@ -44,20 +44,27 @@ public:
 protected:
     // Chooses the icon by the style: by its icon, or by its buttons when it names none.
     void DetermineIcon();
+
+    // @{
     // Make the buttons of the style, or one more.
     void CreateButtons();
     void CreateButton(const CRect& rect, const char* caption, unsigned int id);
+    // @}
+
     // Gives the box and all on it the sizes and places for the text, and centres the box.
     void SizeToText();
     // Measures a text in pixels; width is the least on the way in.
     void GetStaticTextSize(const CString& text, int& width, int& height);
+    // Size in pixels of the row of buttons, with the gaps between them.
     void GetButtonsSize(int& width, int& height);
+    // Width in pixels that the title needs in the caption of the mode.
     int GetTitleWidth();
     // Takes the lengths that are given in dialog units for the mode.
     void CalcStdSizes();
     // Breaks the message into the lines that are shown.
     void SplitText();
 
+    // Makes the buttons, gives the box its size and place, and the focus to the default button.
     BOOL OnInitDialog() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     void DoDataExchange(CDataExchange* exchange) override;
