@@ -10,8 +10,14 @@ target_compile_definitions(compiling INTERFACE
     _WIN32_IE=0x0800)
 
 if(MSVC)
-    target_compile_options(compiling INTERFACE /W4 /permissive- /utf-8 /Zc:__cplusplus)
+    target_compile_options(compiling INTERFACE
+        "$<$<COMPILE_LANGUAGE:CXX>:/W4;/WX;/permissive-;/utf-8;/Zc:__cplusplus>")
+    target_link_options(compiling INTERFACE LINKER:/WX)
 else()
+    target_link_options(compiling INTERFACE LINKER:--fatal-warnings)
+    # Of the resource compiler only the preprocessor can be told.
+    target_compile_options(compiling INTERFACE
+        "$<$<COMPILE_LANGUAGE:RC>:--preprocessor-arg=-Werror>")
     # For C++ alone: the resource compiler would take these for its own.
     target_compile_options(compiling INTERFACE
         "$<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wpedantic;-Werror>")
@@ -30,6 +36,16 @@ if(ONBOARDUI_GUARDED_HEAP)
     target_sources(compiling INTERFACE "${PROJECT_SOURCE_DIR}/checks/GuardedHeap.cpp")
     target_link_options(compiling INTERFACE -static-libstdc++ -static-libgcc)
 endif()
+
+# The version of a shared library, for whoever looks at its file.
+function(add_version_resource target file description)
+    set(version_file "${file}.dll")
+    set(version_description "${description}")
+    string(REPLACE "." "," version_numbers "${PROJECT_VERSION},0")
+    set(resource "${CMAKE_CURRENT_BINARY_DIR}/${target}_version.rc")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/Version.rc.in" "${resource}" @ONLY)
+    target_sources(${target} PRIVATE "${resource}")
+endfunction()
 
 # The slow headers are compiled once per target. afxwin.h stands first, as it has to.
 function(precompile_headers target)
