@@ -1,15 +1,12 @@
 #include <CustomDialog.h>
 #include <CustomListBox.h>
 #include <CustomPushbutton.h>
-#include <OnBoardUI.h>
 #include <OnBoardUIGeneral.h>
 
 class HostDialog : public CCustomDialog
 {
-public:
     using CCustomDialog::CCustomDialog;
 
-private:
     CCustomListBox m_airports;
     CCustomPushbutton m_mode;
 
@@ -29,7 +26,7 @@ private:
         CRect window, before, after;
         GetWindowRect(window);
         m_airports.GetWindowRect(before);
-        SetOnBoardAppMode(COnBoardUIGeneral::InOnBoardMode() ? STD : ONBOARD);
+        COnBoardUIGeneral::SetAppMode(COnBoardUIGeneral::InOnBoardMode() ? STD : ONBOARD);
         m_airports.GetWindowRect(after); // changed already; the dialog's size is its host's
         SetWindowPos(nullptr, 0, 0, ::MulDiv(window.Width(), after.Width(), before.Width()),
                      ::MulDiv(window.Height(), after.Height(), before.Height()),
