@@ -18,7 +18,7 @@ pictures=(
     dialogs-std dialogs-onboard
     buttons-onboard edits-onboard checklist-onboard combos-onboard
     reportlist-onboard trees-onboard messagebox-onboard
-    edits-std-144 edits-onboard-144
+    edits-std edits-std-144 edits-onboard-144
 )
 largest=61440 # bytes of a file
 
