@@ -4,6 +4,7 @@
 #include "dialogs/OnBoardFrame.h"
 #include "dialogs/TemplateFormat.h"
 #include "modes/ChildRestyling.h"
+#include "paint/GdiGuards.h"
 
 #include <climits>
 #include <utility>
@@ -58,10 +59,9 @@ dialogs::TemplateFont OnBoardTemplateFont()
 {
     dialogs::CreateSharedObjects();
     CClientDC screen(nullptr);
-    CFont* const before = screen.SelectObject(&CCustomDialog::m_OBStaticTextFont);
+    const Selected selected(screen, CCustomDialog::m_OBStaticTextFont);
     TEXTMETRIC metrics = {};
     screen.GetTextMetrics(&metrics);
-    screen.SelectObject(before);
 
     dialogs::TemplateFont font;
     font.points = WORD(::MulDiv(metrics.tmHeight - metrics.tmInternalLeading, 72,

@@ -9,6 +9,7 @@
 #include "modes/Rounding.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
+#include "paint/Palette.h"
 
 #include <afxcmn.h>
 
@@ -17,7 +18,6 @@
 namespace {
 
 constexpr double JustAboveOne = 1.0000000000000002;
-constexpr COLORREF RichEditBackground = RGB(180, 180, 180);
 constexpr double RichEditHeightFactor = 1.25;
 constexpr int TabHeightExtra = 3; // pixels between a tab's text and its edge
 
@@ -91,7 +91,7 @@ void RestyleRichEdit(HWND child, APPMODE mode)
     }
     if (alive)
     {
-        edit->SetBackgroundColor(FALSE, RichEditBackground);
+        edit->SetBackgroundColor(FALSE, palette::Field);
     }
     if (alive)
     {
