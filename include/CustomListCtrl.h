@@ -99,8 +99,9 @@ protected:
     virtual void GetVerticalDivides(int columns);
     // Selection and texts of the rows in rect, in client coordinates.
     virtual void DrawCells(CDC& dc, int items, int columns, bool fullRowSelect, const CRect& rect);
-    // The grid lines in rect, in client coordinates, for so many rows: along the bottom of each and
-    // at the dividers that GetVerticalDivides has taken.
+    // The grid lines in rect, in client coordinates: across, as far apart as the rows of so many
+    // items are high (as text is for none) and on below the last one; down, at all dividers that
+    // GetVerticalDivides has taken but the last.
     virtual void DrawGrid(CDC& dc, int items, const CRect& rect);
     // The whole client area.
     virtual void DrawOB(CDC& dc);
