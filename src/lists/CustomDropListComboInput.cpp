@@ -409,12 +409,11 @@ void CCustomDropListCombo::MoveSelection(UINT key)
 
 void CCustomDropListCombo::OnSysKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (key != VK_DOWN || (flags & AltDown) == 0)
-    {
-        CWnd::OnSysKeyDown(key, repeat, flags);
-        return;
-    }
-    if ((flags & WasDownBefore) != 0)
+    // The platform is told also of the key that opens the list: or it takes Alt, if that is let go
+    // first, for Alt struck by itself, and its menu would close the list again.
+    const WindowAlive alive(*this);
+    CWnd::OnSysKeyDown(key, repeat, flags);
+    if (!alive || key != VK_DOWN || (flags & AltDown) == 0 || (flags & WasDownBefore) != 0)
     {
         return; // held, it would flicker
     }

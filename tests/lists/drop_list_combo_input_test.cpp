@@ -156,6 +156,35 @@ TEST_P(ComboInMode, AltDownOpensAndClosesEnterPicksEscapeDismisses)
     }
 }
 
+// Alt let go by itself is the menu's key, and a menu closes the list.
+TEST_P(ComboInMode, AltDownOpensInWhicheverOrderTheKeysAreLetGo)
+{
+    CCustomDropListCombo::RegisterWndClass(nullptr);
+    DialogTemplate form(CRect(40, 40, 240, 140), WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE);
+    form.Add("CCUSTOMDROPLISTCOMBO", "", WS_TABSTOP, CRect(5, 5, 100, 18), ComboId);
+    CDialog dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    auto* const combo = CCustomDropListCombo::FromWindow(::GetDlgItem(dialog, ComboId));
+    combo->SetFocus();
+    PumpAll();
+    for (const UINT first : {VK_MENU, VK_DOWN})
+    {
+        const UINT second = first == VK_MENU ? VK_DOWN : VK_MENU;
+        bool open = false;
+        PlaySteps({[] { QueueKey(VK_MENU, true); }, [] { QueueKey(VK_DOWN, true); },
+                   [] { QueueKey(VK_DOWN, true); }, // held
+                   [first] { QueueKey(first, false); }, [second] { QueueKey(second, false); },
+                   [&] {
+                       open = combo->IsExpanded();
+                       ::EndMenu();
+                       TypeKey(VK_ESCAPE);
+                   }});
+        EXPECT_TRUE(open) << first;
+        EXPECT_FALSE(combo->IsExpanded());
+    }
+    dialog.DestroyWindow();
+}
+
 TEST_F(ComboTest, AComboMayEndInTheFocusChangeOfThePressThatOpensIt)
 {
     auto& combo = AddCombo(0);
