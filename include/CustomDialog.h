@@ -109,6 +109,7 @@ protected:
     afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnMenuRequest(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 public:

@@ -27,6 +27,8 @@ BEGIN_MESSAGE_MAP(CCustomDialog, CDialog)
     ON_WM_NCLBUTTONDOWN()
     ON_WM_LBUTTONDOWN()
     ON_MESSAGE(WM_SETTEXT, &CCustomDialog::OnSetText)
+    ON_MESSAGE(WM_SYSCOMMAND, &CCustomDialog::OnMenuRequest)
+    ON_MESSAGE(WM_CONTEXTMENU, &CCustomDialog::OnMenuRequest)
 END_MESSAGE_MAP()
 
 IEFB* CCustomDialog::m_efb = nullptr;
@@ -497,6 +499,12 @@ LRESULT CCustomDialog::OnSetText(WPARAM, LPARAM)
         DrawOBNC(m_frameActive);
     }
     return result;
+}
+
+LRESULT CCustomDialog::OnMenuRequest(WPARAM wParam, LPARAM lParam)
+{
+    const UINT message = GetCurrentMessage()->message;
+    return dialogs::AsksForSystemMenu(*this, message, wParam, lParam) ? 0 : Default();
 }
 
 HRESULT CCustomDialog::get_accRole(VARIANT child, VARIANT* role)

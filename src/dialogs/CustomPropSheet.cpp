@@ -26,6 +26,8 @@ BEGIN_MESSAGE_MAP(CCustomPropSheet, CPropertySheet)
     ON_WM_NCCALCSIZE()
     ON_WM_NCHITTEST()
     ON_MESSAGE(WM_SETTEXT, &CCustomPropSheet::OnSetText)
+    ON_MESSAGE(WM_SYSCOMMAND, &CCustomPropSheet::OnMenuRequest)
+    ON_MESSAGE(WM_CONTEXTMENU, &CCustomPropSheet::OnMenuRequest)
 END_MESSAGE_MAP()
 
 IEFB* CCustomPropSheet::m_efb = nullptr;
@@ -338,4 +340,10 @@ LRESULT CCustomPropSheet::OnSetText(WPARAM, LPARAM)
         DrawOBNC(m_frameActive);
     }
     return result;
+}
+
+LRESULT CCustomPropSheet::OnMenuRequest(WPARAM wParam, LPARAM lParam)
+{
+    const UINT message = GetCurrentMessage()->message;
+    return m_laidOut && dialogs::AsksForSystemMenu(*this, message, wParam, lParam) ? 0 : Default();
 }

@@ -208,6 +208,22 @@ Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight)
     return frame;
 }
 
+bool AsksForSystemMenu(const CWnd& window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || (window.GetStyle() & WS_CHILD) != 0)
+    {
+        return false;
+    }
+    constexpr WPARAM CommandBits = 0xFFF0; // the platform uses the others itself
+    const WPARAM command = wParam & CommandBits;
+    if (message == WM_SYSCOMMAND)
+    {
+        return command == SC_KEYMENU || command == SC_MOUSEMENU;
+    }
+    return message == WM_CONTEXTMENU && reinterpret_cast<HWND>(wParam) == window.GetSafeHwnd() &&
+           window.SendMessage(WM_NCHITTEST, 0, lParam) == HTCAPTION;
+}
+
 LRESULT HitOnBoardFrame(const CWnd& window, const CPoint& screen, int captionHeight)
 {
     CRect rect;

@@ -62,6 +62,11 @@ Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight);
 // and no system buttons, and its client area takes no press: it is meant.
 LRESULT HitOnBoardFrame(const CWnd& window, const CPoint& screen, int captionHeight);
 
+// Whether a message to a window with the on-board frame would have the platform open its system
+// menu: by Alt or F10, by Alt+Space, or by the right button on the caption. A window that was open
+// when the mode changed still has the style for it. A child leaves the keys to its frame.
+bool AsksForSystemMenu(const CWnd& window, UINT message, WPARAM wParam, LPARAM lParam);
+
 // What a frame is painted from.
 struct FrameLook
 {

@@ -1,4 +1,7 @@
+#include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
+#include "support/MessageLog.h"
+#include "support/forms.h"
 
 namespace {
 
@@ -82,6 +85,62 @@ TEST_F(CustomDialogTest, FrameAndCaptionArePainted)
     dialog.SetWindowText("T");
     const int half = WindowRectOf(dialog).Width() / 2;
     EXPECT_GT(WindowPixels(dialog).Count(Letters, CRect(half - 15, 3, half + 15, 30)), 10);
+}
+
+// How often a window with the platform's menu style opens its system menu for what asks for one.
+int MenusOpened(CWnd& window)
+{
+    const CRect place = WindowRectOf(window);
+    const CPoint caption(place.left + 40, place.top + 12);
+    MessageLog log(window, {WM_ENTERMENULOOP});
+    const auto end = [] {
+        GUITHREADINFO info = {};
+        info.cbSize = sizeof(info);
+        ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
+        if ((info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0)
+        {
+            QueueKey(VK_ESCAPE, true);
+            QueueKey(VK_ESCAPE, false);
+        }
+    };
+    const auto key = [](UINT which, bool down) { return [=] { QueueKey(which, down); }; };
+    PlaySteps({key(VK_MENU, true), key(VK_MENU, false), end, end});
+    PlaySteps({key(VK_MENU, true), key(VK_SPACE, true), key(VK_SPACE, false), key(VK_MENU, false),
+               end, end});
+    const auto tap = [&] { // at once: the platform waits for the release in a loop of its own
+        QueueMove(caption);
+        QueueButton(true, true);
+        QueueButton(false, true);
+    };
+    PlaySteps({tap, end, end});
+    return log.Count(WM_ENTERMENULOOP);
+}
+
+TEST_F(CustomDialogTest, OnBoardNothingOpensTheSystemMenu)
+{
+    const DialogTemplate form({.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE});
+    DialogForTests dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    dialog.SetForegroundWindow();
+    EXPECT_EQ(MenusOpened(dialog), 3);
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    PumpAll();
+    EXPECT_EQ(MenusOpened(dialog), 0);
+    EXPECT_TRUE(ShowsWhatAPaintWould(dialog));
+    dialog.DestroyWindow();
+    COnBoardUIGeneral::SetAppMode(STD);
+
+    CCustomPropPage page(IDD_TEST_PAGE_1);
+    Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+    sheet.AddPage(&page);
+    sheet.inLoop = [&] {
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        PumpAll();
+        EXPECT_NE(sheet.GetStyle() & WS_SYSMENU, 0U);
+        EXPECT_EQ(MenusOpened(sheet), 0);
+        sheet.EndDialog(IDOK);
+    };
+    sheet.DoModal();
 }
 
 TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
