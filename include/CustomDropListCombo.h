@@ -10,6 +10,10 @@
 
 class CCustomComboLBox;
 
+namespace lists {
+class ComboScaling;
+}
+
 // A drop-list combo made of parts of the library: a window that shows the selected item and a drop
 // button, and a list box in a popup window that drops under it, or opens above it where there is no
 // room below. Registered from construction to destruction, it follows every change of the display
@@ -199,7 +203,7 @@ protected:
 
     CFauxDropButton m_dropButton;
     CRect m_textArea;           // client pixels
-    std::vector<int> m_heights; // of the window in pixels, by mode; 0: as the mode's font asks
+    std::vector<int> m_heights; // of the window in pixels, by mode; 0: not given by the host
     CCustomComboLBox* m_list;
     bool m_barHeld = false; // a press on the list's bar goes on; the capture is the list's business
     bool m_expanded = false;
@@ -210,11 +214,13 @@ protected:
 
 private:
     friend class CCustomComboLBox;
+    friend class lists::ComboScaling;
 
     bool m_madeByClass = false;
     bool m_ending = false; // the window is on its way out
     bool m_sizing = false; // this very class is changing the window's size
     APPMODE m_shapedFor = STD;
+    int m_fitted = 0;       // height on-board in the room that there is; 0: not known
     HFONT m_font = nullptr; // the host's
     UINT m_closingKey = 0;  // closed the list and is still down
 
@@ -228,6 +234,7 @@ private:
     HFONT Font() const;
     int NaturalHeight();
     int HeightFor(APPMODE mode);
+    void SetHeight(int height);
 
     void Repaint() { Invalidate(FALSE); }
     void ItemsChanged();

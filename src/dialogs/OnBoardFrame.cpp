@@ -8,6 +8,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "dialogs/ControlList.h"
+#include "lists/ComboScaling.h"
 #include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
@@ -158,7 +159,12 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
     if (alive && !children.scaledLater)
     {
         const PaintingHeld held(window);
+        const lists::ComboScaling combos(handle, ModeScale(newMode, oldMode) > 1);
         RestyleChildren(handle, newMode, oldMode);
+        if (alive)
+        {
+            combos.Fit();
+        }
         const HFONT onBoard = CCustomDialog::m_OBStaticTextFont;
         if (alive && oldMode == STD)
         {
@@ -408,7 +414,9 @@ void OpenOnBoard(HWND window, HFONT standard, std::span<const HWND> placed)
     {
         return;
     }
+    const lists::ComboScaling combos(window, true);
     RestyleNewWindow(window, placed);
+    combos.Fit();
     SwapFonts(window, standard, CCustomDialog::m_OBStaticTextFont);
 }
 

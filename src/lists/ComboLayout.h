@@ -2,9 +2,12 @@
 
 // Where the parts of a drop-list combo lie. No window, no context.
 
+#include "paint/Metrics.h"
+
 #include <afxwin.h>
 
 #include <algorithm>
+#include <span>
 
 namespace lists {
 
@@ -56,6 +59,30 @@ inline CRect PlaceList(const CRect& combo, const CRect& screen, const ListSize& 
     }
     return down ? CRect(combo.left, combo.bottom, combo.right, LONG(combo.bottom + height))
                 : CRect(combo.left, LONG(combo.top - height), combo.right, combo.top);
+}
+
+// The height of a combo at a place: the wanted one, but no further down than the next of the other
+// controls or the edge of one that it stands in, and the least in any case.
+inline int HeightInRoom(const CRect& place, int least, int wanted, std::span<const CRect> others)
+{
+    const LONG leastBottom = place.top + least;
+    LONG bottom = place.top + std::max(least, wanted);
+    for (const CRect& other : others)
+    {
+        if (other.right <= place.left || other.left >= place.right || other.IsRectEmpty())
+        {
+            continue;
+        }
+        if (other.top >= leastBottom)
+        {
+            bottom = std::min(bottom, other.top - metrics::Border);
+        }
+        else if (other.top <= place.top && other.bottom >= leastBottom)
+        {
+            bottom = std::min(bottom, other.bottom - metrics::Border);
+        }
+    }
+    return std::max<int>(least, bottom - place.top);
 }
 
 } // namespace lists

@@ -6,6 +6,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "lists/ComboLayout.h"
+#include "lists/ComboScaling.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/ControlFonts.h"
@@ -213,7 +214,25 @@ int CCustomDropListCombo::NaturalHeight()
 int CCustomDropListCombo::HeightFor(APPMODE mode)
 {
     const int kept = size_t(mode) < m_heights.size() ? m_heights[size_t(mode)] : 0;
-    return kept > 0 ? kept : NaturalHeight();
+    if (kept > 0)
+    {
+        return kept;
+    }
+    return mode != STD && m_fitted > 0 ? m_fitted : NaturalHeight();
+}
+
+// Other than a height that the host gives, it does not count for later.
+void CCustomDropListCombo::SetHeight(int height)
+{
+    const WindowAlive alive(*this);
+    CRect window;
+    GetWindowRect(&window);
+    m_sizing = true;
+    SetWindowPos(nullptr, 0, 0, window.Width(), height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    if (alive)
+    {
+        m_sizing = false;
+    }
 }
 
 void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
@@ -246,13 +265,9 @@ void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     {
         return;
     }
-    CRect window;
-    GetWindowRect(&window);
-    m_sizing = true;
-    SetWindowPos(nullptr, 0, 0, window.Width(), height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetHeight(height);
     if (alive)
     {
-        m_sizing = false;
         CalculateSpacing();
         Repaint();
     }
@@ -266,10 +281,11 @@ void CCustomDropListCombo::OnSize(UINT type, int width, int height)
     {
         return;
     }
-    // The height that the host gives counts for the mode of the moment. While a mode change is on
-    // its way the parent scales its children, which says nothing about the new mode's height.
+    // The height that the host gives counts for the mode of the moment. When the parent scales its
+    // children, that says nothing about the mode's height.
     const APPMODE mode = COnBoardUIGeneral::GetAppMode();
-    if (!m_sizing && m_shapedFor == mode && size_t(mode) < m_heights.size())
+    if (!m_sizing && m_shapedFor == mode && size_t(mode) < m_heights.size() &&
+        !lists::ComboScaling::IsAtWorkIn(::GetParent(GetSafeHwnd())))
     {
         CRect window;
         GetWindowRect(&window);

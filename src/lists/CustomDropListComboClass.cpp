@@ -3,6 +3,7 @@
 #include "CustomComboLBox.h"
 #include "CustomDropListCombo.h"
 #include "OnBoardUIGeneral.h"
+#include "lists/ComboScaling.h"
 #include "modes/WindowAlive.h"
 
 #include <utility>
@@ -86,6 +87,7 @@ LRESULT CALLBACK CCustomDropListCombo::ClassProcedure(HWND window, UINT message,
         return DLGC_WANTARROWS; // asked before the dialog is initialised
     case WM_NCDESTROY:
         ::RemoveProp(window, FontProperty);
+        lists::ComboScaling::TakeHeights(window);
         break;
     default:
         // The object's procedure stands before this one from here on and gets the message first.
@@ -173,6 +175,7 @@ BOOL CCustomDropListCombo::SubclassWindow(HWND window)
         made->SetCustomComboLBox(nullptr);
     }
     const std::vector<int> heights = made->m_heights;
+    const int fitted = made->m_fitted;
     made->m_madeByClass = false;
     made->UnsubclassWindow();
     delete made;
@@ -180,14 +183,8 @@ BOOL CCustomDropListCombo::SubclassWindow(HWND window)
     {
         return FALSE;
     }
-    // The one of the mode of the moment has just been measured.
-    for (size_t mode = 0; mode < m_heights.size(); ++mode)
-    {
-        if (m_heights[mode] == 0)
-        {
-            m_heights[mode] = heights[mode];
-        }
-    }
+    m_heights = heights;
+    m_fitted = fitted;
     return TRUE;
 }
 
@@ -215,10 +212,13 @@ void CCustomDropListCombo::PreSubclassWindow()
     m_font = reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));
     m_shapedFor = COnBoardUIGeneral::GetAppMode();
     std::fill(m_heights.begin(), m_heights.end(), 0);
-    if (size_t(m_shapedFor) < m_heights.size())
+    const lists::ComboScaling::Heights scaled = lists::ComboScaling::TakeHeights(GetSafeHwnd());
+    m_heights[STD] = scaled.standard;
+    m_fitted = scaled.fitted;
+    CRect window;
+    GetWindowRect(&window);
+    if (size_t(m_shapedFor) < m_heights.size() && (m_fitted == 0 || window.Height() != m_fitted))
     {
-        CRect window;
-        GetWindowRect(&window);
         m_heights[size_t(m_shapedFor)] = window.Height();
     }
     Repaint();

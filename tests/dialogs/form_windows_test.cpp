@@ -1,6 +1,8 @@
+#include "CustomDropListCombo.h"
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
+#include "support/Acts.h"
 #include "support/forms.h"
 
 #include <afxcmn.h>
@@ -11,8 +13,8 @@ namespace {
 
 struct View : CCustomFormView
 {
-    View()
-        : CCustomFormView(UINT(IDD_TEST_FORM))
+    explicit View(UINT form = IDD_TEST_FORM)
+        : CCustomFormView(form)
     {}
     BOOL Open(CWnd& parent)
     {
@@ -166,6 +168,111 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
         EXPECT_EQ(sheet.DoModal(), IDOK);
         EXPECT_FALSE(sheet.IsModal());
         EXPECT_EQ(journal, opened == EFB ? (Journal{"begin", "end"}) : Journal());
+    }
+}
+
+// The combos of a window, each as wide as a finger where the template leaves the room, and never
+// over what stands below them or over the edge of the box that they stand in.
+std::vector<int> ComboHeights(const CWnd& window)
+{
+    const auto place = [&](int id) { return PlaceIn(window, *window.GetDlgItem(id)); };
+    const CRect tight = place(IDC_TEST_TIGHT);
+    const CRect roomy = place(IDC_TEST_ROOMY);
+    const CRect boxed = place(IDC_TEST_BOXED);
+    EXPECT_LT(tight.bottom, place(IDC_TEST_EDIT).top);
+    EXPECT_LT(roomy.bottom, place(IDC_TEST_CHECK).top);
+    EXPECT_LT(boxed.bottom, place(IDC_TEST_BOX).bottom);
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        EXPECT_GE(roomy.Height(), 52);
+    }
+    return {tight.Height(), roomy.Height(), boxed.Height()};
+}
+
+TEST_F(FormWindowsTest, CombosAreAsHighHoweverTheirWindowReachesTheMode)
+{
+    CCustomDropListCombo::RegisterWndClass(nullptr);
+    struct Owner : CCustomDialog // of the combos' objects
+    {
+        CCustomDropListCombo combos[3];
+        Owner()
+            : CCustomDialog(0U, nullptr)
+        {}
+        void DoDataExchange(CDataExchange* exchange) override
+        {
+            DDX_Control(exchange, IDC_TEST_TIGHT, combos[0]);
+            DDX_Control(exchange, IDC_TEST_ROOMY, combos[1]);
+            DDX_Control(exchange, IDC_TEST_BOXED, combos[2]);
+        }
+    };
+    using Use = std::function<void(CWnd&)>;
+    const auto inDialog = [this](CCustomDialog& dialog, const Use& use) {
+        ASSERT_TRUE(dialog.Create(IDD_TEST_COMBOS, &Host()));
+        dialog.ShowWindow(SW_SHOW);
+        use(dialog);
+        dialog.DestroyWindow();
+    };
+    const Act<const Use&> windows[] = {
+        {"dialog",
+         [&](const Use& use) {
+             CCustomDialog dialog(0U, nullptr);
+             inDialog(dialog, use);
+         }},
+        {"dialog with objects",
+         [&](const Use& use) {
+             Owner owner;
+             inDialog(owner, use);
+         }},
+        {"form",
+         [this](const Use& use) {
+             View view(IDD_TEST_COMBOS);
+             ASSERT_TRUE(view.Open(Host()));
+             view.OnInitialUpdate();
+             use(view);
+         }},
+        {"page",
+         [this](const Use& use) {
+             CCustomPropPage page(IDD_TEST_COMBOS);
+             Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+             sheet.AddPage(&page);
+             sheet.inLoop = [&] {
+                 use(page);
+                 sheet.EndDialog(IDOK);
+             };
+             sheet.DoModal();
+         }},
+    };
+    for (const auto& [name, open] : windows)
+    {
+        SCOPED_TRACE(name);
+        std::vector<int> standard;
+        std::vector<int> onBoard;
+        for (const APPMODE opened : {STD, ONBOARD})
+        {
+            const ModeScope scope(opened);
+            open([&](CWnd& window) {
+                for (const APPMODE mode : {opened, ONBOARD, EFB, STD})
+                {
+                    COnBoardUIGeneral::SetAppMode(mode);
+                    std::vector<int>& expected = mode == STD ? standard : onBoard;
+                    for (int look = 0; look < 2; ++look)
+                    {
+                        const std::vector<int> heights = ComboHeights(window);
+                        expected = expected.empty() ? heights : expected;
+                        EXPECT_EQ(heights, expected) << opened << " to " << mode;
+                        PumpAll(); // the first paint makes the objects that are not there
+                    }
+                }
+                // What the host gives counts, also when the mode comes again.
+                COnBoardUIGeneral::SetAppMode(ONBOARD);
+                CWnd& roomy = *window.GetDlgItem(IDC_TEST_ROOMY);
+                roomy.SetWindowPos(nullptr, 0, 0, 90, 80, SWP_NOMOVE | SWP_NOZORDER);
+                COnBoardUIGeneral::SetAppMode(STD);
+                EXPECT_EQ(WindowRectOf(roomy).Height(), standard[1]);
+                COnBoardUIGeneral::SetAppMode(ONBOARD);
+                EXPECT_EQ(WindowRectOf(roomy).Height(), 80);
+            });
+        }
     }
 }
 

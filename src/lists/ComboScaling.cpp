@@ -1,0 +1,143 @@
+#include "lists/ComboScaling.h"
+
+#include "CustomComboLBox.h"
+#include "CustomDropListCombo.h"
+#include "OnBoardUIGeneral.h"
+#include "lists/ComboLayout.h"
+#include "modes/Rounding.h"
+#include "paint/Metrics.h"
+
+#include <vector>
+
+namespace lists {
+
+namespace {
+
+constexpr char HeightsProperty[] = "OnBoardUI.DropListCombo.Heights";
+
+CCustomDropListCombo* ComboOf(HWND window)
+{
+    return DYNAMIC_DOWNCAST(CCustomDropListCombo, CWnd::FromHandlePermanent(window));
+}
+
+// What is done to one child may end others.
+template <class Act> void ForEachChild(HWND parent, Act act)
+{
+    for (HWND child = ::GetWindow(parent, GW_CHILD); child != nullptr;)
+    {
+        const HWND next = ::GetWindow(child, GW_HWNDNEXT);
+        act(child);
+        child = ::IsWindow(next) ? next : nullptr;
+    }
+}
+
+CRect PlaceOf(HWND window)
+{
+    CRect place;
+    ::GetWindowRect(window, &place);
+    return place;
+}
+
+} // namespace
+
+ComboScaling::ComboScaling(HWND parent, bool growing)
+    : m_parent(parent)
+    , m_outer(m_current)
+{
+    m_current = this;
+    if (growing)
+    {
+        ForEachChild(parent, &ComboScaling::NoteStandard);
+    }
+}
+
+bool ComboScaling::IsAtWorkIn(HWND parent)
+{
+    for (const ComboScaling* scaling = m_current; scaling != nullptr; scaling = scaling->m_outer)
+    {
+        if (scaling->m_parent == parent)
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+ComboScaling::Heights ComboScaling::TakeHeights(HWND window)
+{
+    const auto kept = DWORD(reinterpret_cast<DWORD_PTR>(::RemoveProp(window, HeightsProperty)));
+    return {LOWORD(kept), HIWORD(kept)};
+}
+
+void ComboScaling::NoteStandard(HWND window)
+{
+    const int height = PlaceOf(window).Height();
+    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+    if (CCustomDropListCombo* const combo = ComboOf(window))
+    {
+        // One that has come in an on-board mode has measured what is the standard mode's.
+        if (combo->m_heights[STD] == 0 && size_t(mode) < combo->m_heights.size())
+        {
+            combo->m_heights[size_t(mode)] = 0;
+            combo->m_heights[STD] = height;
+        }
+    }
+    else if (CCustomDropListCombo::IsOfClass(window))
+    {
+        ::SetProp(window, HeightsProperty,
+                  reinterpret_cast<HANDLE>(DWORD_PTR(MAKELONG(height, 0))));
+    }
+}
+
+void ComboScaling::Fit() const
+{
+    ForEachChild(m_parent, [](HWND child) { Fit(child); });
+}
+
+void ComboScaling::Fit(HWND window)
+{
+    if (CCustomDropListCombo* const combo = ComboOf(window))
+    {
+        combo->m_fitted = 0;
+        if (COnBoardUIGeneral::InOnBoardMode() && combo->m_heights[STD] > 0)
+        {
+            combo->m_fitted = FittedHeight(window, combo->m_heights[STD], combo->NaturalHeight());
+        }
+        combo->SetHeight(combo->HeightFor(COnBoardUIGeneral::GetAppMode()));
+        return;
+    }
+    if (!CCustomDropListCombo::IsOfClass(window))
+    {
+        return;
+    }
+    Heights heights = TakeHeights(window);
+    if (heights.standard == 0)
+    {
+        return;
+    }
+    int height = heights.standard;
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        const int row = CCustomComboLBox().GetEntryHeight("X");
+        height = FittedHeight(window, heights.standard, row + 2 * metrics::Border);
+        ::SetProp(window, HeightsProperty,
+                  reinterpret_cast<HANDLE>(DWORD_PTR(MAKELONG(heights.standard, height))));
+    }
+    ::SetWindowPos(window, nullptr, 0, 0, PlaceOf(window).Width(), height,
+                   SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+int ComboScaling::FittedHeight(HWND window, int standard, int wanted)
+{
+    std::vector<CRect> others;
+    ForEachChild(::GetParent(window), [&](HWND child) {
+        if (child != window)
+        {
+            others.push_back(PlaceOf(child));
+        }
+    });
+    return HeightInRoom(PlaceOf(window), Truncated(standard * metrics::OnBoardScale), wanted,
+                        others);
+}
+
+} // namespace lists
