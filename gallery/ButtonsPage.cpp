@@ -10,14 +10,15 @@ namespace {
 
 // Three columns of short rows, then higher ones.
 constexpr int Columns = 3;
-constexpr int ChoiceStep = 21;
+constexpr int ChoiceStep = grid::Choice;
 constexpr int WrappedHeight = 34;
 constexpr int WrappedPushHeight = 46;
 
 constexpr int ChoicesTop = 0;
-constexpr int CaptionsTop = 136;
-constexpr int PushesTop = 210;
-constexpr int HintTop = 338;
+constexpr int CaptionsTop = 184;
+constexpr int PushesTop = 246;
+constexpr int HintTop = 364;
+constexpr int HeadingHeight = 16;
 constexpr int UnderHeading = 22;
 
 struct ButtonPlace
@@ -74,7 +75,7 @@ constexpr ButtonPlace Radios[] = {
 constexpr int FirstWithoutHead = 5;
 constexpr int FirstWrapped = 8;
 
-constexpr int SecondPushRow = PushesTop + UnderHeading + grid::Push + 10;
+constexpr int SecondPushRow = PushesTop + UnderHeading + grid::Push + 8;
 constexpr ButtonPlace Pushes[] = {
     {"Default", BS_DEFPUSHBUTTON | WS_TABSTOP | WS_GROUP, 0, PushesTop + UnderHeading, grid::Push},
     {"Plain", Push, 1, PushesTop + UnderHeading, grid::Push},
@@ -105,7 +106,7 @@ const ButtonPlace& PlaceOf(int index)
 
 CRect Heading(int column, int top, int span = 1)
 {
-    return grid::Cell(Columns, column, top, grid::Choice, span);
+    return grid::Cell(Columns, column, top, HeadingHeight, span);
 }
 
 } // namespace

@@ -30,11 +30,11 @@ constexpr DWORD ManyLines = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_V
 constexpr EditPlace Places[] = {
     {"Single line", 0, 0, grid::Line, OneLine},
     {"With a prompt", 1, 0, grid::Line, OneLine},
-    {"Coloured", 0, 50, grid::Line, OneLine},
-    {"Fixed in its place", 1, 50, grid::Line, OneLine},
-    {"Long", 0, 100, 275, ManyLines},
-    {"Read-only", 1, 100, 125, ManyLines | ES_READONLY},
-    {"Read-only, and looks as if it were not", 1, 250, 125, ManyLines},
+    {"Coloured", 0, 56, grid::Line, OneLine},
+    {"Fixed in its place", 1, 56, grid::Line, OneLine},
+    {"Long", 0, 112, 263, ManyLines},
+    {"Read-only", 1, 112, 119, ManyLines | ES_READONLY},
+    {"Read-only, and looks as if it were not", 1, 256, 119, ManyLines},
 };
 
 // Edits of the on-board modes.

@@ -9,11 +9,11 @@ namespace {
 constexpr int Columns = 2;
 constexpr int LineHeight = 17;
 constexpr int LineStep = 22;
-constexpr int ChoiceStep = 20;
+constexpr int ChoiceStep = grid::Choice;
 constexpr int BoxInset = 10;
 
 constexpr int BoxesTop = 138;
-constexpr int BoxHeight = 102;
+constexpr int BoxHeight = 126;
 constexpr int LowBoxesTop = BoxesTop + BoxHeight + 14;
 constexpr int LowBoxHeight = 62;
 
@@ -110,7 +110,7 @@ void LabelsPage::CreateContent()
     const CRect route = Box(1, BoxesTop, BoxHeight);
     MakeBox(1, "Route", route);
     AddButton(m_checkBox, "Show the route", BS_AUTOCHECKBOX | WS_GROUP | WS_TABSTOP,
-              CRect(InBox(route, 0).TopLeft() + CPoint(0, 1),
+              CRect(InBox(route, 0).TopLeft() + CPoint(0, (grid::Choice - grid::Check) / 2),
                     CSize(route.Width() - 2 * BoxInset, grid::Check)),
               CheckBox);
     AddButton(m_push, "Calculate", PushStyle,

@@ -1,8 +1,8 @@
 #pragma once
 
 // The grid that the pages are laid out on, in pixels of the standard mode at 96 dots per inch.
-// On-board it grows with the mode's scale, so that what is Push high here is some 50 pixels there:
-// a finger's.
+// On-board it grows with the mode's scale, so that what is 31 high here is 52 pixels there: a
+// finger's.
 
 #include <afxwin.h>
 
@@ -15,12 +15,12 @@ constexpr int Gap = 12; // between columns, and between what stands apart
 // Heights.
 constexpr int Caption = 15; // a label of one line
 constexpr int CaptionStep = 17;
-constexpr int Line = 22;   // an edit of one line
+constexpr int Line = 31;   // an edit of one line
 constexpr int Drop = 31;   // a combo
-constexpr int Choice = 16; // a radio button
+constexpr int Choice = 31; // a radio button
 constexpr int Check = 14; // on-board, a check box's square is as high as it, and whole only in this
-constexpr int Push = 29;
-constexpr int PushStep = Push + 11;
+constexpr int Push = 31;
+constexpr int PushStep = Push + 9;
 
 // A page is divided into so many equal columns.
 constexpr int Left(int columns, int column, int gap = Gap)
