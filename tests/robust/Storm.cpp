@@ -1,6 +1,7 @@
 #include "robust/Storm.h"
 
 #include "OnBoardUIGeneral.h"
+#include "support/Accessible.h"
 
 #include <cstdio>
 
@@ -9,6 +10,17 @@ namespace {
 constexpr UINT Keys[] = {VK_UP,    VK_DOWN,   VK_LEFT, VK_RIGHT, VK_HOME,   VK_END,
                          VK_PRIOR, VK_NEXT,   VK_TAB,  VK_SPACE, VK_RETURN, VK_ESCAPE,
                          VK_BACK,  VK_DELETE, 'A',     'Z',      VK_F16};
+
+// A menu of the platform's runs a loop of its own: it is closed once it waits.
+LRESULT CALLBACK CloseMenu(int code, WPARAM wParam, LPARAM lParam)
+{
+    const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+    if (code == HC_ACTION && sent.message == WM_ENTERIDLE && sent.wParam == MSGF_MENU)
+    {
+        ::PostMessage(sent.hwnd, WM_KEYDOWN, VK_ESCAPE, 1);
+    }
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+}
 
 } // namespace
 
@@ -45,18 +57,18 @@ void Storm::Note(UINT message, WPARAM wParam, LPARAM lParam)
     Watch::GoesOn();
 }
 
-void Storm::Send(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam)
+void Storm::Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     Note(message, wParam, lParam);
-    ::SendMessage(window.GetSafeHwnd(), message, wParam, lParam);
+    ::SendMessage(window, message, wParam, lParam);
 }
 
-void Storm::Press(CWnd& window, UINT down, UINT up, WPARAM wParam, LPARAM point)
+void Storm::Press(HWND window, UINT down, UINT up, WPARAM wParam, LPARAM point)
 {
     if (m_subject.pressesLoop)
     {
         // For the loop that this may begin.
-        ::PostMessage(window.GetSafeHwnd(), WM_LBUTTONUP, 0, 0);
+        ::PostMessage(window, WM_LBUTTONUP, 0, 0);
     }
     Send(window, down, wParam, point);
     if (m_subject.pressesLoop || Between(0, 2) != 0)
@@ -65,13 +77,55 @@ void Storm::Press(CWnd& window, UINT down, UINT up, WPARAM wParam, LPARAM point)
     }
 }
 
-void Storm::Input(CWnd& window)
+// The right button and the middle one. Edits open a menu of the platform's when the right button is
+// released; it did not close again in several storms, by a key, a timer or EndMenu.
+void Storm::OtherButton(HWND window, LPARAM point)
+{
+    char name[16] = "";
+    ::GetClassName(window, name, sizeof(name));
+    const bool menu = ::lstrcmpi(name, "Edit") == 0;
+    if (m_subject.pressesLoop && !menu)
+    {
+        ::PostMessage(window, WM_RBUTTONUP, 0, 0);
+    }
+    const int what = Between(0, 3);
+    if (what == 0)
+    {
+        Send(window, WM_MBUTTONDOWN, MK_MBUTTON, point);
+        Send(window, WM_MBUTTONUP, 0, point);
+    }
+    else if (what == 1 && !menu)
+    {
+        Send(window, WM_CONTEXTMENU, WPARAM(window), Between(0, 1) ? point : -1);
+    }
+    else
+    {
+        Send(window, what == 2 ? WM_RBUTTONDOWN : WM_RBUTTONDBLCLK, MK_RBUTTON, point);
+        Send(window, menu ? WM_CAPTURECHANGED : WM_RBUTTONUP, 0, menu ? 0 : point);
+    }
+}
+
+void Storm::Key(HWND window)
+{
+    const UINT key = Keys[Between(0, int(std::size(Keys)) - 1)];
+    if (Between(0, 7) == 0)
+    {
+        const UINT with = Between(0, 1) ? VK_DOWN : key == VK_SPACE ? VK_UP : key;
+        Send(window, WM_SYSKEYDOWN, with, 0x20000001);
+        Send(window, WM_SYSKEYUP, with, LPARAM(0xE0000001));
+        return;
+    }
+    Send(window, WM_KEYDOWN, key, 1);
+    Send(window, WM_KEYUP, key, LPARAM(0xC0000001));
+}
+
+void Storm::Input(HWND window)
 {
     const LPARAM inside = m_arguments.Value(Argument::Point, window);
     CPoint screen(short(LOWORD(inside)), short(HIWORD(inside)));
-    window.ClientToScreen(&screen);
+    ::ClientToScreen(window, &screen);
     const LPARAM onScreen = MAKELPARAM(screen.x, screen.y);
-    switch (Between(0, 9))
+    switch (Between(0, 10))
     {
     case 0:
         Press(window, WM_LBUTTONDOWN, WM_LBUTTONUP, MK_LBUTTON, inside);
@@ -104,29 +158,112 @@ void Storm::Input(CWnd& window)
         Send(window, WM_NCMOUSELEAVE, 0, 0);
         break;
     case 7:
-        Send(window, WM_MOUSEWHEEL, MAKEWPARAM(0, Between(-3, 3) * 60), onScreen);
+        Send(window, Between(0, 3) ? WM_MOUSEWHEEL : WM_MOUSEHWHEEL,
+             MAKEWPARAM(0, Between(-3, 3) * 60), onScreen);
+        break;
+    case 8:
+        OtherButton(window, inside);
         break;
     default:
-    {
-        const UINT key = Keys[Between(0, int(std::size(Keys)) - 1)];
-        Send(window, WM_KEYDOWN, key, 1);
-        Send(window, WM_KEYUP, key, LPARAM(0xC0000001));
+        Key(window);
         break;
-    }
     }
 }
 
-void Storm::Scroll(CWnd& window)
+void Storm::Scroll(HWND window)
 {
     const UINT message = Between(0, 2) ? WM_VSCROLL : WM_HSCROLL;
     Send(window, message, MAKEWPARAM(Between(0, 8), Between(0, 50)), 0);
 }
 
-void Storm::SendOne(CWnd& window, const std::vector<Word>& words)
+void Storm::SendOne(HWND window, const std::vector<Word>& words)
 {
     const Word& word = words[size_t(Between(0, int(words.size()) - 1))];
     const WPARAM wParam = m_arguments.First(word, window);
-    Send(window, word.message, wParam, m_arguments.Value(word.lParam, window));
+    Send(window, word.message, wParam, m_arguments.Second(word, window));
+}
+
+// As the platform's control tells its parent, and a parent of the framework gives it back.
+void Storm::TellParent(HWND window)
+{
+    if ((::GetWindowLong(window, GWL_STYLE) & WS_CHILD) != 0)
+    {
+        const auto [message, wParam, lParam] = m_toParent.Next(window);
+        Send(::GetParent(window), message, wParam, lParam);
+    }
+}
+
+// As an assistive program does.
+void Storm::Ask(HWND window)
+{
+    IAccessible* reached = nullptr;
+    const DWORD part = DWORD(Between(0, 2) != 0 ? OBJID_CLIENT : OBJID_WINDOW);
+    const long child = Between(0, 6);
+    const int what = Between(0, 3);
+    Note(WM_GETOBJECT, WPARAM(what), LPARAM(child));
+    if (::AccessibleObjectFromWindow(window, part, IID_IAccessible,
+                                     reinterpret_cast<void**>(&reached)) != S_OK)
+    {
+        return;
+    }
+    const Held<IAccessible> object(reached);
+    VARIANT end = {};
+    switch (what)
+    {
+    case 0:
+        object->accDoDefaultAction(Child(child));
+        break;
+    case 1:
+        object->accSelect(Between(0, 1) ? SELFLAG_TAKEFOCUS : SELFLAG_TAKESELECTION, Child(child));
+        break;
+    case 2:
+        object->accNavigate(Between(NAVDIR_UP, NAVDIR_LASTCHILD), Child(child), &end);
+        if (end.vt == VT_DISPATCH)
+        {
+            end.pdispVal->Release();
+        }
+        break;
+    default:
+        PlaceOf(*object, child);
+        Read(*object, child);
+        break;
+    }
+}
+
+// What is its own: by the host's calls and by messages.
+void Storm::Use(CWnd& window, HWND target)
+{
+    const bool itself = target == window.GetSafeHwnd();
+    if (itself && m_subject.act && (m_subject.words.empty() || Between(0, 3) == 0))
+    {
+        Note(WM_APP); // the log's word for a call
+        m_subject.act(window, m_arguments);
+        return;
+    }
+    const auto& own = itself && !m_subject.words.empty() ? m_subject.words : WordsOf(target);
+    SendOne(target, own.empty() ? AnyWords : own);
+}
+
+// The window, or one of those that it is made of.
+HWND Storm::Target(CWnd& window)
+{
+    const HWND itself = window.GetSafeHwnd();
+    if (Between(0, 3) != 0)
+    {
+        return itself;
+    }
+    if (m_subject.part)
+    {
+        const HWND part = m_subject.part(window);
+        return part == nullptr ? itself : part;
+    }
+    std::vector<HWND> parts = {itself};
+    const auto collect = [](HWND part, LPARAM list) -> BOOL {
+        reinterpret_cast<std::vector<HWND>*>(list)->push_back(part);
+        return TRUE;
+    };
+    ::EnumChildWindows(itself, collect, LPARAM(&parts));
+    return parts[size_t(Between(0, int(parts.size()) - 1))];
 }
 
 void Storm::Life(CWnd& parent, CWnd& window)
@@ -164,7 +301,7 @@ void Storm::Life(CWnd& parent, CWnd& window)
         break;
     }
     case 7:
-        if (!m_subject.fault)
+        if (!m_subject.fault || m_subject.pressesLoop)
         {
             break; // a bar of the platform's would run a loop of its own when it is pressed
         }
@@ -185,19 +322,22 @@ void Storm::Life(CWnd& parent, CWnd& window)
 
 void Storm::Blow(CWnd& parent, CWnd& window, int messages)
 {
+    const HHOOK menus =
+        ::SetWindowsHookEx(WH_CALLWNDPROC, &CloseMenu, nullptr, ::GetCurrentThreadId());
     const HWND handle = window.GetSafeHwnd();
     for (int index = 0; index < messages && ::IsWindow(handle); ++index)
     {
-        switch (Between(0, 9))
+        const HWND target = Target(window);
+        switch (Between(0, 11))
         {
         case 0:
         case 1:
         case 2:
         case 3:
-            Input(window);
+            Input(target);
             break;
         case 4:
-            Scroll(window);
+            Scroll(target);
             break;
         case 5:
             Life(parent, window);
@@ -216,9 +356,16 @@ void Storm::Blow(CWnd& parent, CWnd& window, int messages)
             }
             break;
         }
+        case 7:
+            Between(0, 3) ? TellParent(target) : Ask(target);
+            break;
+        case 8:
+            SendOne(target, AnyWords);
+            break;
         default:
-            m_subject.words.empty() ? Scroll(window) : SendOne(window, m_subject.words);
+            Use(window, target);
             break;
         }
     }
+    ::UnhookWindowsHookEx(menus);
 }

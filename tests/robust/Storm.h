@@ -2,6 +2,7 @@
 
 #include "robust/Subjects.h"
 #include "robust/Watch.h"
+#include "robust/Words.h"
 
 // A storm of messages on one window: whatever input, a parent, a host and the platform send it, in
 // any order, in any mode. The same seed gives the same storm.
@@ -30,16 +31,23 @@ private:
     const Subject& m_subject;
     std::uint32_t m_seed;
     Arguments m_arguments;
+    ToParent m_toParent{m_arguments};
     std::vector<Sent> m_last;
     Watch m_watch;
 
     int Between(int first, int last) { return m_arguments.Between(first, last); }
     void Note(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    void Send(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam);
-    void SendOne(CWnd& window, const std::vector<Word>& words);
+    void Send(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void SendOne(HWND window, const std::vector<Word>& words);
 
-    void Input(CWnd& window);
-    void Press(CWnd& window, UINT down, UINT up, WPARAM wParam, LPARAM point);
-    void Scroll(CWnd& window);
+    HWND Target(CWnd& window);
+    void Input(HWND window);
+    void Press(HWND window, UINT down, UINT up, WPARAM wParam, LPARAM point);
+    void OtherButton(HWND window, LPARAM point);
+    void Key(HWND window);
+    void Scroll(HWND window);
     void Life(CWnd& parent, CWnd& window);
+    void TellParent(HWND window);
+    void Ask(HWND window);
+    void Use(CWnd& window, HWND target);
 };

@@ -13,25 +13,13 @@ using enum Argument;
 
 const CRect Room(40, 30, 300, 230);
 
-std::string Check(const CFauxScrollBar& bar)
-{
-    int first = 0;
-    int last = 0;
-    bar.GetScrollRange(&first, &last);
-    const int at = bar.GetScrollPos();
-    return first <= at && at <= last && bar.GetPageSize() >= 0
-               ? std::string()
-               : "bar at " + std::to_string(at) + " of " + std::to_string(first) + " to " +
-                     std::to_string(last) + ", page " + std::to_string(bar.GetPageSize());
-}
-
 // What only a derived class may look at.
 struct SeenEdit : CCustomEdit
 {
     static std::string Fault(CWnd& window)
     {
         auto& edit = static_cast<CCustomEdit&>(window);
-        return edit.*&SeenEdit::m_scrolling ? "a press goes on" : Check(edit.*&SeenEdit::m_bar);
+        return edit.*&SeenEdit::m_scrolling ? "a press goes on" : FaultOf(edit.*&SeenEdit::m_bar);
     }
 };
 
@@ -42,7 +30,7 @@ struct SeenList : CCustomListBox
         auto& list = static_cast<CCustomListBox&>(window);
         return list.*&SeenList::m_tracking
                    ? "a press goes on"
-                   : Check(list.*&SeenList::m_vBar) + Check(list.*&SeenList::m_hBar);
+                   : FaultOf(list.*&SeenList::m_vBar) + FaultOf(list.*&SeenList::m_hBar);
     }
 };
 
@@ -223,6 +211,18 @@ std::vector<Subject> MakeSubjects()
 
 } // namespace
 
+std::string FaultOf(const CFauxScrollBar& bar)
+{
+    int first = 0;
+    int last = 0;
+    bar.GetScrollRange(&first, &last);
+    const int at = bar.GetScrollPos();
+    return first <= at && at <= last && bar.GetPageSize() >= 0
+               ? std::string()
+               : "bar at " + std::to_string(at) + " of " + std::to_string(first) + " to " +
+                     std::to_string(last) + ", page " + std::to_string(bar.GetPageSize());
+}
+
 const std::vector<Subject>& Subjects()
 {
     static const std::vector<Subject> subjects = MakeSubjects();
@@ -280,6 +280,55 @@ LPARAM Arguments::Value(Argument argument, HWND window)
         ::GetClientRect(window, &client);
         return MAKELPARAM(Between(-20, client.right + 60), Between(-20, client.bottom + 20));
     }
+    case Three:
+        return Between(0, 2);
+    case UiState:
+        return MAKELPARAM(Between(UIS_SET, UIS_INITIALIZE), Between(1, 7));
+    case Printed:
+        return Between(0, PRF_CHECKVISIBLE | PRF_NONCLIENT | PRF_CLIENT | PRF_ERASEBKGND |
+                              PRF_CHILDREN | PRF_OWNED);
+    case Canvas:
+        if (m_canvas.GetSafeHdc() == nullptr)
+        {
+            CClientDC screen(nullptr);
+            m_canvas.CreateCompatibleDC(&screen);
+            m_bitmap.CreateCompatibleBitmap(&screen, 300, 200);
+            m_canvas.SelectObject(&m_bitmap);
+        }
+        return reinterpret_cast<LPARAM>(m_canvas.GetSafeHdc());
+    case Child:
+    {
+        HWND child = ::GetWindow(window, GW_CHILD);
+        for (int steps = Between(0, 5); steps > 0 && child != nullptr; --steps)
+        {
+            child = ::GetWindow(child, GW_HWNDNEXT);
+        }
+        return reinterpret_cast<LPARAM>(child);
+    }
+    case Column:
+        m_column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
+        m_column.fmt = Between(LVCFMT_LEFT, LVCFMT_CENTER);
+        m_column.cx = Between(0, 200);
+        m_column.pszText = m_texts[Between(0, 3)].data();
+        return reinterpret_cast<LPARAM>(&m_column);
+    case HeadItem:
+        m_headItem.mask = HDI_WIDTH | HDI_FORMAT;
+        m_headItem.cxy = Between(0, 200);
+        m_headItem.fmt = HDF_STRING | (Between(0, 1) ? HDF_SORTUP : HDF_SORTDOWN);
+        return reinterpret_cast<LPARAM>(&m_headItem);
+    case Layout:
+        Value(Place, window);
+        m_layout = {&m_place, &m_position};
+        return reinterpret_cast<LPARAM>(&m_layout);
+    case Hit:
+        std::fill_n(m_room.data(), 256, char(0));
+        *reinterpret_cast<POINT*>(m_room.data()) = {Between(-20, 300), Between(-20, 200)};
+        return reinterpret_cast<LPARAM>(m_room.data());
+    case Edges:
+        m_edges[0] = Between(10, 100);
+        m_edges[1] = m_edges[0] + Between(0, 100);
+        m_edges[2] = -1;
+        return reinterpret_cast<LPARAM>(m_edges);
     case Font:
         return reinterpret_cast<LPARAM>(
             ::GetStockObject(Between(0, 1) ? DEFAULT_GUI_FONT : SYSTEM_FONT));

@@ -15,6 +15,8 @@
 #include <string>
 #include <vector>
 
+class CFauxScrollBar;
+
 // Every control and window of the library, as the tests of the whole take them: made by a host on a
 // parent, filled, with the messages that are its own.
 
@@ -37,6 +39,16 @@ enum class Argument
     ListItem, // an LVITEM
     TreeItem, // an item of the tree, or none
     Fixed,    // what the word says
+    Three,    // 0 to 2
+    UiState,  // what WM_UPDATEUISTATE takes
+    Canvas,   // a device context of memory
+    Printed,  // what WM_PRINTCLIENT is to draw
+    Child,    // a window in it, or none
+    Column,   // an LVCOLUMN
+    HeadItem, // an HDITEM
+    Layout,   // an HDLAYOUT
+    Hit,      // what a hit test takes: a point, with room behind it
+    Edges,    // of three panes of a status bar
 };
 
 // A message of a control's own.
@@ -47,6 +59,8 @@ struct Word
     Argument lParam = Argument::None;
     WPARAM fixed = 0;
 };
+
+class Arguments;
 
 struct Subject
 {
@@ -59,9 +73,21 @@ struct Subject
     std::function<std::string(CWnd&)> fault = {};
     // Whether a press makes the platform run a loop until the button is released.
     bool pressesLoop = false;
+    // One thing that a host does with it by its functions.
+    std::function<void(CWnd&, Arguments&)> act = {};
+    // How a user and a host come to rest: what they began and may leave going on is ended.
+    std::function<void(CWnd&)> rest = {};
+    // A window of it that is not among its children, or none.
+    std::function<HWND(CWnd&)> part = {};
 };
 
+// The controls.
 const std::vector<Subject>& Subjects();
+// These and the windows that are no controls, with what only storms do.
+const std::vector<Subject>& AllSubjects();
+
+// Empty, or how a bar is out of its range.
+std::string FaultOf(const CFauxScrollBar& bar);
 
 // Asked, if it is set, by each control before each of its messages: whether it was ended in that.
 inline bool (*EndsItself)(const CWnd& control, UINT message) = nullptr;
@@ -120,6 +146,11 @@ public:
     {
         return word.wParam == Argument::Fixed ? word.fixed : WPARAM(Value(word.wParam, window));
     }
+    LPARAM Second(const Word& word, HWND window)
+    {
+        return word.lParam == Argument::Fixed ? LPARAM(word.fixed) : Value(word.lParam, window);
+    }
+    const char* Words() { return m_texts[Between(0, 3)].c_str(); }
 
 private:
     std::uint32_t m_seed;
@@ -128,6 +159,13 @@ private:
     std::vector<char> m_room = std::vector<char>(0x10000);
     CRect m_place;
     LVITEM m_item = {};
+    LVCOLUMN m_column = {};
+    HDITEM m_headItem = {};
+    WINDOWPOS m_position = {};
+    HDLAYOUT m_layout = {};
+    CBitmap m_bitmap; // of the canvas, which ends before it
+    CDC m_canvas;
+    int m_edges[3] = {};
 };
 
 // A press of the middle button pastes in an edit of a later test what one of these has cut.

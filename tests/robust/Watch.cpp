@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <csignal>
 #include <cstdio>
 
 namespace {
@@ -64,12 +65,19 @@ LONG CALLBACK NoteFault(EXCEPTION_POINTERS* fault)
     return EXCEPTION_CONTINUE_SEARCH;
 }
 
+// A failed assertion, an exception that nobody takes: the program ends after this.
+void NoteAbort(int)
+{
+    Say("Aborted", 0, nullptr);
+}
+
 } // namespace
 
 Watch::Watch(std::function<std::string()> doing)
 {
     static const bool watched = [] {
         ::AddVectoredExceptionHandler(1, &NoteFault);
+        std::signal(SIGABRT, &NoteAbort);
         ::CloseHandle(::CreateThread(nullptr, 0, &SeeThatItGoesOn, nullptr, 0, nullptr));
         return true;
     }();

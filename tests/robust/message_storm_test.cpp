@@ -21,39 +21,29 @@ int Number(const char* name, int otherwise)
 class MessageStorm : public WindowTest, public testing::WithParamInterface<Subject>
 {
 protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        ::CoInitialize(nullptr);
+    }
+    void TearDown() override
+    {
+        WindowTest::TearDown();
+        ::CoUninitialize();
+    }
+
     // One storm with a window of its own; afterwards nothing may go on.
     void Blow(std::uint32_t seed, int messages)
     {
         const Subject& subject = GetParam();
+        SCOPED_TRACE(std::string(subject.name) + ", seed " + std::to_string(seed));
         std::unique_ptr<CWnd> window = subject.make(Host());
         ASSERT_NE(window, nullptr) << subject.name;
-        const HWND handle = window->GetSafeHwnd();
         const int faults = Watch::Faults();
         Storm storm(subject, seed);
         storm.Blow(Host(), *window, messages);
 
-        // The hand leaves the screen.
-        if (::IsWindow(handle))
-        {
-            window->EnableWindow(TRUE);
-            window->ShowWindow(SW_SHOWNA);
-            window->SendMessage(WM_SETREDRAW, TRUE);
-            const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-            window->SendMessage(onBoard ? WM_NCLBUTTONUP : WM_LBUTTONUP, HTNOWHERE, -1);
-            window->SendMessage(WM_LBUTTONUP, 0, -1);
-            window->SendMessage(WM_CANCELMODE);
-        }
-        PumpAll();
-        EXPECT_NE(::GetCapture(), handle) << storm.Log();
-        ::ReleaseCapture();
-        if (::IsWindow(handle))
-        {
-            EXPECT_EQ(TimersWithin(handle, 150), 0) << storm.Log();
-            if (subject.fault)
-            {
-                EXPECT_EQ(subject.fault(*window), "") << storm.Log();
-            }
-        }
+        ComeToRest(*window, storm);
         COnBoardUIGeneral::SetAppMode(STD);
         window.reset();
         PumpAll();
@@ -62,28 +52,51 @@ protected:
     }
 
 private:
-    // How often a timer of the window comes.
-    static int TimersWithin(HWND window, int milliseconds)
+    // The hand leaves the screen: that alone ends all that went on.
+    void ComeToRest(CWnd& window, const Storm& storm)
     {
-        static HWND s_window;
-        static int s_count;
-        s_window = window;
-        s_count = 0;
-        const HHOOK hook = ::SetWindowsHookEx(
-            WH_GETMESSAGE,
-            [](int code, WPARAM removed, LPARAM data) -> LRESULT {
-                const auto& message = *reinterpret_cast<const MSG*>(data);
-                if (code == HC_ACTION && removed == PM_REMOVE && message.message == WM_TIMER &&
-                    message.hwnd == s_window)
-                {
-                    ++s_count;
-                }
-                return ::CallNextHookEx(nullptr, code, removed, data);
-            },
-            nullptr, ::GetCurrentThreadId());
-        PumpFor(milliseconds);
-        ::UnhookWindowsHookEx(hook);
-        return s_count;
+        const Subject& subject = GetParam();
+        const HWND handle = window.GetSafeHwnd();
+        const bool lives = ::IsWindow(handle) != FALSE;
+        if (lives && subject.rest)
+        {
+            subject.rest(window);
+        }
+        for (const UINT up : {WM_LBUTTONUP, WM_NCLBUTTONUP, WM_NCMOUSELEAVE})
+        {
+            const HWND captor = ::GetCapture();
+            const bool outside = up == WM_NCLBUTTONUP || up == WM_NCMOUSELEAVE;
+            for (const HWND to :
+                 {captor, handle, lives && subject.part ? subject.part(window) : captor})
+            {
+                ::SendMessage(to, up, outside ? HTNOWHERE : 0, outside ? 0 : -1);
+            }
+        }
+        PumpAll();
+        EXPECT_EQ(::GetCapture(), nullptr) << ClassOf(::GetCapture()) << ' ' << storm.Log();
+        ::ReleaseCapture();
+        EXPECT_EQ(EndTimers(), 0) << storm.Log();
+        if (::IsWindow(handle))
+        {
+            window.EnableWindow(TRUE);
+            window.ShowWindow(SW_SHOWNA);
+            window.SendMessage(WM_SETREDRAW, TRUE);
+            window.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+            EXPECT_EQ(TicksWithin(100), 0) << storm.Log();
+            if (subject.fault)
+            {
+                EXPECT_EQ(subject.fault(window), "") << storm.Log();
+            }
+            window.SendMessage(WM_CANCELMODE);
+        }
+        PumpAll();
+    }
+
+    static std::string ClassOf(HWND window)
+    {
+        char name[64] = "";
+        ::GetClassName(window, name, sizeof(name));
+        return name;
     }
 };
 
@@ -108,7 +121,7 @@ TEST_P(MessageStorm, LeavesTheControlSound)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, MessageStorm, testing::ValuesIn(Subjects()),
+INSTANTIATE_TEST_SUITE_P(Of, MessageStorm, testing::ValuesIn(AllSubjects()),
                          [](const auto& info) { return TestName(info.param.name); });
 
 } // namespace
