@@ -13,9 +13,8 @@
 #include "SearchStatusBar.h"
 #include "support/Fenced.h"
 #include "support/forms.h"
-#include "trees/TreeSelection.h"
-
 #include "trees/TreeLook.h"
+#include "trees/TreeSelection.h"
 
 #include <algorithm>
 
@@ -24,46 +23,30 @@ namespace {
 using enum Argument;
 
 // What is private and yet to be looked at: the bars of the trees.
-template <class Tag, auto Member> struct Opened
+template <int> struct Way
+{};
+template <int Step, auto Member> struct Opened
 {
-    friend auto Open(Tag) { return Member; }
+    friend auto Open(Way<Step>) { return Member; }
 };
-struct OfTree
-{
-    friend auto Open(OfTree);
-};
-struct OfView
-{
-    friend auto Open(OfView);
-};
-struct OfSelection
-{
-    friend auto Open(OfSelection);
-};
-struct OfLook
-{
-    friend auto Open(OfLook);
-};
-struct Upright
-{
-    friend auto Open(Upright);
-};
-struct Level
-{
-    friend auto Open(Level);
-};
-template struct Opened<OfTree, &MultiTree::m_selection>;
-template struct Opened<OfView, &MultiTreeView::m_selection>;
-template struct Opened<OfSelection, &trees::TreeSelection::m_look>;
-template struct Opened<OfLook, &trees::TreeLook::m_bars>;
-template struct Opened<Upright, &trees::TreeBars::m_vertical>;
-template struct Opened<Level, &trees::TreeBars::m_horizontal>;
+auto Open(Way<0>);
+auto Open(Way<1>);
+auto Open(Way<2>);
+auto Open(Way<3>);
+auto Open(Way<4>);
+auto Open(Way<5>);
+template struct Opened<0, &MultiTree::m_selection>;
+template struct Opened<1, &MultiTreeView::m_selection>;
+template struct Opened<2, &trees::TreeSelection::m_look>;
+template struct Opened<3, &trees::TreeLook::m_bars>;
+template struct Opened<4, &trees::TreeBars::m_vertical>;
+template struct Opened<5, &trees::TreeBars::m_horizontal>;
 
-template <class Tree, class Tag> std::string FaultOfTree(CWnd& window)
+template <class Tree, int First> std::string FaultOfTree(CWnd& window)
 {
-    auto& selection = *(static_cast<Tree&>(window).*Open(Tag()));
-    auto& bars = (*(selection.*Open(OfSelection()))).*Open(OfLook());
-    return FaultOf((bars.*Open(Upright())).bar) + FaultOf((bars.*Open(Level())).bar);
+    auto& selection = *(static_cast<Tree&>(window).*Open(Way<First>()));
+    auto& bars = (*(selection.*Open(Way<2>()))).*Open(Way<3>());
+    return FaultOf((bars.*Open(Way<4>())).bar) + FaultOf((bars.*Open(Way<5>())).bar);
 }
 
 struct SeenReport : CCustomListCtrl
@@ -100,61 +83,33 @@ std::string SeenCombo::Fault(CWnd& window)
                                      : Known("list box").fault(*list);
 }
 
+// clang-format off
+constexpr void (*ComboActs[])(CCustomDropListCombo& combo, int row, const char* text) = {
+    [](auto& combo, int, const char* text) { combo.AddString(text); },
+    [](auto& combo, int row, const char* text) { combo.InsertString(row, text); },
+    [](auto& combo, int row, const char*) { combo.RemoveString(row); },
+    [](auto& combo, int, const char*) { combo.ResetContent(); },
+    [](auto& combo, int row, const char*) { combo.SetCurSel(row); },
+    [](auto& combo, int row, const char* text) { combo.SelectString(row, text); },
+    [](auto& combo, int row, const char*) { combo.Sort(row % 2 == 0); },
+    [](auto& combo, int row, const char*) { combo.SetItemDataPtr(row, &combo); },
+    [](auto& combo, int row, const char*) { combo.RemoveItemDataPtr(row); },
+    [](auto& combo, int, const char*) { combo.DoDropButton(); },
+    [](auto& combo, int row, const char*) { combo.ListClosed(row); },
+    [](auto& combo, int, const char*) { combo.GetSelString(); },
+    [](auto& combo, int, const char* text) { for (int row = 0; row < 40; ++row) combo.AddString(text); },
+    [](auto& combo, int, const char*) { combo.ToggleDropList(); },
+    [](auto& combo, int, const char*) { combo.SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001); },
+    [](auto& combo, int, const char*) { combo.ToggleDropList(); },
+};
+// clang-format on
+
 void UseCombo(CWnd& window, Arguments& arguments)
 {
-    auto& combo = static_cast<CCustomDropListCombo&>(window);
     const int row = int(arguments.Value(Row, window));
-    switch (arguments.Between(0, 18))
-    {
-    case 0:
-        combo.AddString(arguments.Words());
-        break;
-    case 1:
-        combo.InsertString(row, arguments.Words());
-        break;
-    case 2:
-        combo.RemoveString(row);
-        break;
-    case 3:
-        combo.ResetContent();
-        break;
-    case 4:
-        combo.SetCurSel(row);
-        break;
-    case 5:
-        combo.SelectString(row, arguments.Words());
-        break;
-    case 6:
-        combo.Sort(row % 2 == 0);
-        break;
-    case 7:
-        combo.SetItemDataPtr(row, &combo);
-        combo.RemoveItemDataPtr(row);
-        break;
-    case 8:
-        combo.DoDropButton();
-        break;
-    case 9:
-        combo.ListClosed(row);
-        break;
-    case 10:
-        combo.FindStringExact(row, arguments.Words());
-        combo.GetSelString();
-        break;
-    case 11:
-        for (int more = 0; more < 40; ++more)
-        {
-            combo.AddString(arguments.Words());
-        }
-        break;
-    case 12:
-    case 13:
-        window.SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001);
-        break;
-    default:
-        combo.ToggleDropList();
-        break;
-    }
+    const char* const text = arguments.Words();
+    ComboActs[arguments.Between(0, int(std::size(ComboActs)) - 1)](
+        static_cast<CCustomDropListCombo&>(window), row, text);
 }
 
 void RestCombo(CWnd& window)
@@ -201,32 +156,22 @@ void UseReport(CWnd& window, Arguments& arguments)
     list.SetMinColWidth(arguments.Between(0, 60));
 }
 
+// clang-format off
 const std::vector<Word> StatusWords = {
-    {SB_SETTEXT, Three, Text},
-    {SB_GETTEXT, Three, Buffer},
-    {SB_GETTEXTLENGTH, Three},
-    {SB_SETPARTS, Fixed, Edges, 2},
-    {SB_SETPARTS, Fixed, Edges, 3},
-    {SB_GETRECT, Three, Place},
-    {SB_SIMPLE, Flag},
-    {SB_SETMINHEIGHT, Pixels},
+    {SB_SETTEXT, Three, Text}, {SB_GETTEXT, Three, Buffer}, {SB_GETTEXTLENGTH, Three},
+    {SB_SETPARTS, Fixed, Edges, 2}, {SB_SETPARTS, Fixed, Edges, 3}, {SB_GETPARTS, Fixed, Edges, 3},
+    {SB_GETRECT, Three, Place}, {SB_SIMPLE, Flag}, {SB_SETMINHEIGHT, Pixels},
     {SB_SETBKCOLOR, None, Data},
-    {SB_GETPARTS, Fixed, Edges, 3},
 };
 
 // Nothing closes the sheet.
 const std::vector<Word> SheetWords = {
-    {PSM_SETCURSEL, Flag},
-    {PSM_SETTITLE, None, Text},
-    {PSM_CANCELTOCLOSE},
-    {PSM_QUERYSIBLINGS, Data, Data},
-    {PSM_APPLY},
-    {PSM_GETCURRENTPAGEHWND},
-    {PSM_PRESSBUTTON, Fixed, None, PSBTN_APPLYNOW},
-    {WM_ACTIVATE, Three, Child},
-    {WM_MOVING, Fixed, Place, 9},
+    {PSM_SETCURSEL, Flag}, {PSM_SETTITLE, None, Text}, {PSM_CANCELTOCLOSE}, {PSM_APPLY},
+    {PSM_QUERYSIBLINGS, Data, Data}, {PSM_GETCURRENTPAGEHWND}, {WM_ACTIVATE, Three, Child},
+    {PSM_PRESSBUTTON, Fixed, None, PSBTN_APPLYNOW}, {WM_MOVING, Fixed, Place, 9},
     {WM_SIZING, Fixed, Place, WMSZ_BOTTOMRIGHT},
 };
+// clang-format on
 
 class Sheet : public Fenced<CCustomPropSheet>
 {
@@ -290,8 +235,8 @@ std::vector<Subject> MakeAll()
         return *std::find_if(all.begin(), all.end(), [&](auto& each) { return each.name == name; });
     };
     change("check list").fault = Known("list box").fault;
-    change("tree").fault = &FaultOfTree<MultiTree, OfTree>;
-    change("tree view").fault = &FaultOfTree<MultiTreeView, OfView>;
+    change("tree").fault = &FaultOfTree<MultiTree, 0>;
+    change("tree view").fault = &FaultOfTree<MultiTreeView, 1>;
     change("report list").fault = &SeenReport::Fault;
     change("report list").act = &UseReport;
     Subject& combo = change("combo");

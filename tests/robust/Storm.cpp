@@ -196,38 +196,19 @@ void Storm::TellParent(HWND window)
 // As an assistive program does.
 void Storm::Ask(HWND window)
 {
-    IAccessible* reached = nullptr;
-    const DWORD part = DWORD(Between(0, 2) != 0 ? OBJID_CLIENT : OBJID_WINDOW);
     const long child = Between(0, 6);
     const int what = Between(0, 3);
     Note(WM_GETOBJECT, WPARAM(what), LPARAM(child));
-    if (::AccessibleObjectFromWindow(window, part, IID_IAccessible,
-                                     reinterpret_cast<void**>(&reached)) != S_OK)
+    const Held<IAccessible> object = Reached(window);
+    if (object == nullptr)
     {
         return;
     }
-    const Held<IAccessible> object(reached);
-    VARIANT end = {};
-    switch (what)
-    {
-    case 0:
-        object->accDoDefaultAction(Child(child));
-        break;
-    case 1:
-        object->accSelect(Between(0, 1) ? SELFLAG_TAKEFOCUS : SELFLAG_TAKESELECTION, Child(child));
-        break;
-    case 2:
-        object->accNavigate(Between(NAVDIR_UP, NAVDIR_LASTCHILD), Child(child), &end);
-        if (end.vt == VT_DISPATCH)
-        {
-            end.pdispVal->Release();
-        }
-        break;
-    default:
-        PlaceOf(*object, child);
-        Read(*object, child);
-        break;
-    }
+    PlaceOf(*object, child);
+    Read(*object, child);
+    what == 0   ? object->accDoDefaultAction(Child(child))
+    : what != 1 ? S_OK
+                : object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(child));
 }
 
 // What is its own: by the host's calls and by messages.

@@ -16,140 +16,89 @@ struct Kind
 {
     const char* windowClass;
     std::vector<Word> words;
-    UINT drawn = 0;                 // how it calls itself when it has its parent draw
-    std::vector<UINT> colours;      // the questions before it paints
-    std::vector<UINT> codes = {};   // of WM_COMMAND
-    std::vector<UINT> notices = {}; // of WM_NOTIFY, beside those of all
+    UINT drawn;                // how it calls itself when it has its parent draw; 0: it does not
+    std::vector<UINT> colours; // the questions before it paints
+    std::vector<UINT> told;    // by WM_NOTIFY or, if positive, by WM_COMMAND
 };
 
+// clang-format off
 const Kind Kinds[] = {
     {"Button",
      {{BM_SETCHECK, Three}, {BM_GETCHECK}, {BM_SETSTATE, Flag}, {BM_CLICK}, {WM_GETDLGCODE}},
-     ODT_BUTTON,
-     {WM_CTLCOLORBTN, WM_CTLCOLORSTATIC},
+     ODT_BUTTON, {WM_CTLCOLORBTN, WM_CTLCOLORSTATIC},
      {BN_CLICKED, BN_DOUBLECLICKED, BN_SETFOCUS, BN_KILLFOCUS, BN_HILITE, BN_UNHILITE}},
     {"Static",
      {{STM_GETICON}, {STM_SETICON}, {STM_GETIMAGE}, {WM_GETDLGCODE}},
-     ODT_STATIC,
-     {WM_CTLCOLORSTATIC},
-     {STN_CLICKED, STN_DBLCLK, STN_ENABLE, STN_DISABLE}},
+     ODT_STATIC, {WM_CTLCOLORSTATIC}, {STN_CLICKED, STN_DBLCLK, STN_ENABLE, STN_DISABLE}},
     {"Edit",
      {{EM_SETSEL, Row, Row}, {EM_REPLACESEL, Flag, Text}, {EM_SETREADONLY, Flag}, {EM_SCROLLCARET}},
-     0,
-     {WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC},
+     0, {WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC},
      {EN_SETFOCUS, EN_KILLFOCUS, EN_CHANGE, EN_UPDATE, EN_MAXTEXT, EN_HSCROLL, EN_VSCROLL}},
     {"ListBox",
-     {{LB_ADDSTRING, None, Text},
-      {LB_DELETESTRING, Row},
-      {LB_SETCURSEL, Row},
-      {LB_SETTOPINDEX, Row},
-      {LB_GETITEMRECT, Row, Place}},
-     ODT_LISTBOX,
-     {WM_CTLCOLORLISTBOX},
+     {{LB_ADDSTRING, None, Text}, {LB_DELETESTRING, Row}, {LB_SETCURSEL, Row},
+      {LB_SETTOPINDEX, Row}, {LB_GETITEMRECT, Row, Place}},
+     ODT_LISTBOX, {WM_CTLCOLORLISTBOX},
      {LBN_SELCHANGE, LBN_DBLCLK, LBN_SELCANCEL, LBN_SETFOCUS, LBN_KILLFOCUS}},
     {WC_HEADER,
-     {{HDM_GETITEMCOUNT},
-      {HDM_SETITEM, Three, HeadItem},
-      {HDM_GETITEM, Three, HeadItem},
-      {HDM_GETITEMRECT, Three, Place},
-      {HDM_HITTEST, None, Hit},
-      {HDM_LAYOUT, None, Layout},
-      {HDM_ORDERTOINDEX, Three},
-      {HDM_SETHOTDIVIDER, Flag, Three}},
-     ODT_HEADER,
-     {},
-     {},
-     {UINT(HDN_ITEMCLICKA), UINT(HDN_ITEMCLICKW), UINT(HDN_ITEMDBLCLICKW), UINT(HDN_BEGINTRACKW),
-      UINT(HDN_DIVIDERDBLCLICKW)}},
-    {WC_LISTVIEW,
-     {},
-     ODT_LISTVIEW,
-     {WM_CTLCOLOREDIT},
-     {},
-     {UINT(LVN_ITEMCHANGING), UINT(LVN_ITEMCHANGED), UINT(LVN_INSERTITEM), UINT(LVN_COLUMNCLICK),
-      UINT(LVN_ITEMACTIVATE), UINT(LVN_BEGINDRAG), UINT(LVN_BEGINRDRAG)}},
-    {WC_TREEVIEW,
-     {},
-     0,
-     {WM_CTLCOLOREDIT},
-     {},
-     {UINT(TVN_SELCHANGINGW), UINT(TVN_SELCHANGEDW), UINT(TVN_ITEMEXPANDINGA),
-      UINT(TVN_ITEMEXPANDINGW), UINT(TVN_ITEMEXPANDEDW), UINT(TVN_BEGINDRAGA), UINT(TVN_BEGINDRAGW),
-      UINT(TVN_BEGINRDRAGW)}},
-    {TOOLBARCLASSNAME, {}, 0, {}, {}, {UINT(TBN_DROPDOWN), UINT(TBN_BEGINDRAG), UINT(TBN_ENDDRAG)}},
+     {{HDM_GETITEMCOUNT}, {HDM_SETITEM, Three, HeadItem}, {HDM_GETITEM, Three, HeadItem},
+      {HDM_GETITEMRECT, Three, Place}, {HDM_HITTEST, None, Hit}, {HDM_LAYOUT, None, Layout},
+      {HDM_ORDERTOINDEX, Three}, {HDM_SETHOTDIVIDER, Flag, Three}},
+     ODT_HEADER, {},
+     {HDN_ITEMCLICKA, HDN_ITEMCLICKW, HDN_ITEMDBLCLICKW, HDN_BEGINTRACKW, HDN_DIVIDERDBLCLICKW}},
+    {WC_LISTVIEW, {}, ODT_LISTVIEW, {WM_CTLCOLOREDIT},
+     {LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_INSERTITEM, LVN_COLUMNCLICK, LVN_ITEMACTIVATE,
+      LVN_BEGINDRAG, LVN_BEGINRDRAG, NM_CLICK, NM_DBLCLK, NM_RCLICK, NM_RDBLCLK}},
+    {WC_TREEVIEW, {}, 0, {WM_CTLCOLOREDIT},
+     {TVN_SELCHANGINGW, TVN_SELCHANGEDW, TVN_ITEMEXPANDINGA, TVN_ITEMEXPANDINGW, TVN_ITEMEXPANDEDW,
+      TVN_BEGINDRAGA, TVN_BEGINDRAGW, TVN_BEGINRDRAGW, NM_CLICK, NM_DBLCLK, NM_RCLICK}},
+    {TOOLBARCLASSNAME, {}, 0, {}, {TBN_DROPDOWN, TBN_BEGINDRAG, TBN_ENDDRAG, NM_CLICK}},
     {WC_TABCONTROL,
-     {{TCM_SETCURFOCUS, Flag},
-      {TCM_GETITEMRECT, Flag, Place},
-      {TCM_HITTEST, None, Hit},
-      {TCM_GETCURSEL},
-      {TCM_ADJUSTRECT, Flag, Place}},
-     ODT_TAB,
-     {WM_CTLCOLORSTATIC},
-     {},
-     {UINT(TCN_SELCHANGE), UINT(TCN_SELCHANGING)}},
+     {{TCM_SETCURFOCUS, Flag}, {TCM_GETITEMRECT, Flag, Place}, {TCM_HITTEST, None, Hit},
+      {TCM_GETCURSEL}, {TCM_ADJUSTRECT, Flag, Place}},
+     ODT_TAB, {WM_CTLCOLORSTATIC}, {TCN_SELCHANGE, TCN_SELCHANGING, NM_CLICK}},
     {"#32770",
-     {{WM_NEXTDLGCTL, Flag},
-      {WM_NEXTDLGCTL, Child, Fixed, TRUE},
-      {DM_GETDEFID},
-      {DM_SETDEFID, Fixed, None, IDOK},
-      {WM_COMMAND, Fixed, None, IDOK},
-      {WM_COMMAND, Fixed, None, IDCANCEL},
-      {WM_ACTIVATE, Three, Child},
-      {WM_MOVING, Fixed, Place, 9},
-      {WM_SIZING, Fixed, Place, WMSZ_BOTTOMRIGHT},
-      {WM_ENTERSIZEMOVE},
-      {WM_EXITSIZEMOVE}},
-     0,
-     {WM_CTLCOLORDLG}},
+     {{WM_NEXTDLGCTL, Flag}, {WM_NEXTDLGCTL, Child, Fixed, TRUE}, {DM_GETDEFID},
+      {DM_SETDEFID, Fixed, None, IDOK}, {WM_COMMAND, Fixed, None, IDOK},
+      {WM_COMMAND, Fixed, None, IDCANCEL}, {WM_ACTIVATE, Three, Child},
+      {WM_MOVING, Fixed, Place, 9}, {WM_SIZING, Fixed, Place, WMSZ_BOTTOMRIGHT},
+      {WM_ENTERSIZEMOVE}, {WM_EXITSIZEMOVE}},
+     0, {WM_CTLCOLORDLG}, {}},
 };
+// clang-format on
+const Kind Other = {
+    "",
+    {},
+    0,
+    {WM_CTLCOLORSTATIC},
+    {CBN_SELCHANGE, NM_SETFOCUS, NM_KILLFOCUS, NM_RETURN, NM_RELEASEDCAPTURE, NM_CLICK, NM_RCLICK}};
 
-const Kind* KindOf(HWND window)
+const Kind& KindOf(HWND window)
 {
     char name[64] = "";
     ::GetClassName(window, name, sizeof(name));
     const auto found = std::find_if(std::begin(Kinds), std::end(Kinds), [&](const Kind& kind) {
         return ::lstrcmpi(kind.windowClass, name) == 0;
     });
-    return found == std::end(Kinds) ? nullptr : found;
+    return found == std::end(Kinds) ? Other : *found;
 }
-
-constexpr UINT NoticesOfAll[] = {UINT(NM_CLICK),     UINT(NM_DBLCLK),         UINT(NM_RCLICK),
-                                 UINT(NM_RDBLCLK),   UINT(NM_RETURN),         UINT(NM_SETFOCUS),
-                                 UINT(NM_KILLFOCUS), UINT(NM_RELEASEDCAPTURE)};
 
 } // namespace
 
+// clang-format off
 const std::vector<Word> AnyWords = {
-    {WM_CHAR, Letter},
-    {WM_SYSKEYUP, Fixed, None, VK_DOWN},
-    {WM_MOUSELEAVE},
-    {WM_MOUSEHOVER, None, Point},
-    {WM_PRINTCLIENT, Canvas, Printed},
-    {WM_PRINT, Canvas, Printed},
-    {WM_ERASEBKGND, Canvas},
-    {WM_UPDATEUISTATE, UiState},
-    {WM_CHANGEUISTATE, UiState},
-    {WM_QUERYUISTATE},
-    {WM_ACTIVATE, Three},
-    {WM_NCACTIVATE, Flag},
-    {WM_ACTIVATEAPP, Flag},
-    {WM_GETTEXT, Fixed, Buffer, 0x100},
-    {WM_GETTEXTLENGTH},
-    {WM_GETFONT},
-    {WM_GETDLGCODE},
-    {WM_SETTINGCHANGE},
-    {WM_THEMECHANGED},
-    {WM_FONTCHANGE},
-    {WM_DISPLAYCHANGE, Fixed, None, 32},
-    {WM_PARENTNOTIFY, Fixed, Point, WM_LBUTTONDOWN},
-    {WM_QUERYNEWPALETTE},
+    {WM_CHAR, Letter}, {WM_SYSKEYUP, Fixed, None, VK_DOWN}, {WM_MOUSELEAVE},
+    {WM_MOUSEHOVER, None, Point}, {WM_PRINTCLIENT, Canvas, Printed}, {WM_PRINT, Canvas, Printed},
+    {WM_ERASEBKGND, Canvas}, {WM_UPDATEUISTATE, UiState}, {WM_CHANGEUISTATE, UiState},
+    {WM_QUERYUISTATE}, {WM_ACTIVATE, Three}, {WM_NCACTIVATE, Flag}, {WM_ACTIVATEAPP, Flag},
+    {WM_GETTEXT, Fixed, Buffer, 0x100}, {WM_GETTEXTLENGTH}, {WM_GETFONT}, {WM_GETDLGCODE},
+    {WM_SETTINGCHANGE}, {WM_THEMECHANGED}, {WM_FONTCHANGE}, {WM_DISPLAYCHANGE, Fixed, None, 32},
+    {WM_PARENTNOTIFY, Fixed, Point, WM_LBUTTONDOWN}, {WM_QUERYNEWPALETTE},
 };
+// clang-format on
 
 const std::vector<Word>& WordsOf(HWND window)
 {
-    static const std::vector<Word> none;
-    const Kind* const kind = KindOf(window);
-    return kind == nullptr ? none : kind->words;
+    return KindOf(window).words;
 }
 
 ToParent::Told ToParent::Drawn(HWND control, UINT kind)
@@ -185,8 +134,7 @@ ToParent::Told ToParent::Notified(HWND control, UINT code)
     const UINT id = UINT(::GetDlgCtrlID(control));
     m_said = {};
     m_said.header = {control, id, code};
-    const Kind* const kind = KindOf(control);
-    const std::string name = kind == nullptr ? "" : kind->windowClass;
+    const std::string name = KindOf(control).windowClass;
     if (name == WC_HEADER)
     {
         m_headItem = *reinterpret_cast<const HDITEM*>(m_arguments.Value(HeadItem, control));
@@ -197,7 +145,7 @@ ToParent::Told ToParent::Notified(HWND control, UINT code)
     else if (name == WC_LISTVIEW)
     {
         const int rows = int(::SendMessage(control, LVM_GETITEMCOUNT, 0, 0));
-        m_said.list.iItem = code == UINT(LVN_COLUMNCLICK) ? -1 : m_arguments.Between(-1, rows - 1);
+        m_said.list.iItem = code == LVN_COLUMNCLICK ? -1 : m_arguments.Between(-1, rows - 1);
         m_said.list.uNewState = UINT(m_arguments.Between(0, 3));
     }
     else if (name == WC_TREEVIEW)
@@ -216,36 +164,25 @@ ToParent::Told ToParent::Notified(HWND control, UINT code)
 
 ToParent::Told ToParent::Next(HWND control)
 {
-    const Kind* const kind = KindOf(control);
-    const WPARAM id = WPARAM(UINT(::GetDlgCtrlID(control)));
+    const Kind& kind = KindOf(control);
     const LPARAM self = reinterpret_cast<LPARAM>(control);
-    const auto any = [this](const auto& of) {
-        return of[size_t(m_arguments.Between(0, int(std::size(of)) - 1))];
-    };
-    switch (m_arguments.Between(0, 4))
+    const int what = m_arguments.Between(0, 4);
+    if (what == 0 && kind.drawn != 0)
     {
-    case 0:
-        if (kind != nullptr && kind->drawn != 0)
-        {
-            return Drawn(control, kind->drawn);
-        }
-        [[fallthrough]];
-    case 1:
-        return {kind != nullptr && !kind->colours.empty() ? any(kind->colours) : WM_CTLCOLORSTATIC,
-                WPARAM(m_arguments.Value(Canvas, control)), self};
-    case 2:
-        return {WM_COMMAND,
-                MAKEWPARAM(id, kind != nullptr && !kind->codes.empty() ? any(kind->codes)
-                                                                       : UINT(CBN_SELCHANGE)),
-                self};
-    case 3:
-        return {WM_PARENTNOTIFY, WM_RBUTTONDOWN, m_arguments.Value(Point, control)};
-    default:
-        return Notified(control,
-                        kind != nullptr && !kind->notices.empty() && m_arguments.Between(0, 2)
-                            ? any(kind->notices)
-                            : any(NoticesOfAll));
+        return Drawn(control, kind.drawn);
     }
+    if (what == 1)
+    {
+        return {WM_PARENTNOTIFY, WM_RBUTTONDOWN, m_arguments.Value(Point, control)};
+    }
+    const auto& of =
+        (what <= 2 && !kind.colours.empty()) || kind.told.empty() ? kind.colours : kind.told;
+    const UINT code =
+        of.empty() ? NM_CLICK : of[size_t(m_arguments.Between(0, int(of.size()) - 1))];
+    return &of == &kind.colours && !of.empty()
+               ? Told{code, WPARAM(m_arguments.Value(Canvas, control)), self}
+           : int(code) >= 0 ? Told{WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code), self}
+                            : Notified(control, code);
 }
 
 int EndTimers()

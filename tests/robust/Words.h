@@ -37,7 +37,6 @@ private:
         NMTOOLBAR button;
         DRAWITEMSTRUCT draw;
         MEASUREITEMSTRUCT measure;
-        COMPAREITEMSTRUCT compare;
         char room[512];
     } m_said = {};
     HDITEM m_headItem = {};
