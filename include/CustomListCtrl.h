@@ -304,6 +304,9 @@ private:
     void ShiftPixels(int dy);
     void InvalidateRows(int first, int last);
     void InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam);
+    int RowWithFocus() const;
+    void FollowFocus();
+    int m_focusRow = -1; // on-board, as last drawn
     void BringIntoSight(int row);
     void SelectRow(int row, bool extend, bool toggle);
     void SelectRange(int from, int to, bool select);

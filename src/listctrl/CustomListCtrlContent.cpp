@@ -364,6 +364,30 @@ void CCustomListCtrl::InvalidateRows(int first, int last)
 }
 
 // The platform invalidates its unscrolled rows; these are the places where they are drawn.
+// The row that shows the focus: none without it.
+int CCustomListCtrl::RowWithFocus() const
+{
+    return ::GetFocus() == GetSafeHwnd() ? GetNextItem(-1, LVNI_FOCUSED) : -1;
+}
+
+void CCustomListCtrl::FollowFocus()
+{
+    const WindowAlive alive(*this); // an owner may be asked for the states of its rows
+    const int row = RowWithFocus();
+    if (!alive || row == m_focusRow)
+    {
+        return;
+    }
+    for (const int changed : {m_focusRow, row})
+    {
+        if (changed >= 0)
+        {
+            InvalidateRows(changed, changed);
+        }
+    }
+    m_focusRow = row;
+}
+
 void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam)
 {
     constexpr int end = INT_MAX - 1;
@@ -379,8 +403,15 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
         InvalidateRows(row < 0 ? 0 : row, row < 0 ? end : row);
         if (lParam != 0 && (reinterpret_cast<const LVITEM*>(lParam)->stateMask & LVIS_FOCUSED) != 0)
         {
+            FollowFocus();
             HoldPlatform(); // some platforms bring the row with the focus into sight
         }
+        break;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+        FollowFocus();
         break;
     case LVM_SETITEMA:
     case LVM_SETITEMW:

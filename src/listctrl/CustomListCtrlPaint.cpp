@@ -140,11 +140,15 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
     std::set<int> selected;
     m_paintedRows = rows;
     GetSelectedRows(selected);
+    if (alive)
+    {
+        m_paintedRows.reset();
+        m_focusRow = RowWithFocus();
+    }
     if (!alive)
     {
         return;
     }
-    m_paintedRows.reset();
 
     std::vector<CRect> cells = CellsOfFirstRow(*this, columns);
     for (CRect& cell : cells)
@@ -157,15 +161,20 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
         CRect bounds = first;
         bounds.MoveToY(topOf(row));
         const bool marked = selected.count(row) != 0;
-        if (marked)
+        const bool focused = row == m_focusRow;
+        if (marked || focused)
         {
             bounds.right = fullRowSelect ? rect.right
                            : upToDivider ? LONG(m_gridLines.firstgrid())
                                          : bounds.right;
-            if (bounds.Width() > 0)
-            {
-                dc.FillSolidRect(bounds, palette::Highlight);
-            }
+        }
+        if (marked && bounds.Width() > 0)
+        {
+            dc.FillSolidRect(bounds, palette::Highlight);
+        }
+        if (focused && bounds.Width() > 0)
+        {
+            dc.DrawFocusRect(bounds);
         }
         const TextColor color(dc, marked ? palette::HighlightText : palette::FieldText);
         DrawRow(dc, row, bounds, cells, clip);
