@@ -1,7 +1,6 @@
 #include "ColoredGroupBox.h"
 
 #include "OnBoardUIGeneral.h"
-#include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 
@@ -41,13 +40,15 @@ void CColoredGroupBox::OnPaint()
     dc.LineTo(box.left, box.top);
 }
 
-// The platform's label draws itself at once.
+// The platform's label would draw its text at once, over what nobody paints again, and tell the
+// parent. An outline looks the same either way.
 void CColoredGroupBox::OnEnable(BOOL enable)
 {
-    const WindowAlive alive(*this); // the parent is told
-    CStatic::OnEnable(enable);
-    if (alive)
+    CWnd* const parent = (GetStyle() & SS_NOTIFY) != 0 ? GetParent() : nullptr;
+    if (parent != nullptr)
     {
-        Invalidate();
+        parent->SendMessage(WM_COMMAND,
+                            MAKEWPARAM(GetDlgCtrlID(), enable ? STN_ENABLE : STN_DISABLE),
+                            reinterpret_cast<LPARAM>(GetSafeHwnd()));
     }
 }

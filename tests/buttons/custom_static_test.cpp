@@ -204,9 +204,13 @@ TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
     PumpAll();
     EXPECT_EQ(WindowPixels(swatch).Count(RGB(199, 9, 99)), 1600);
 
-    auto& outline = Add<CColoredGroupBox>(CRect(100, 20, 200, 80));
+    auto& outline = Add<CColoredGroupBox>(CRect(100, 20, 200, 80), 0, "Tanks");
     outline.SetColor(RGB(0, 128, 0));
     outline.RedrawWindow();
+    const Pixels enabled = WindowPixels(outline);
+    outline.EnableWindow(FALSE);
+    PumpAll();
+    EXPECT_EQ(WindowPixels(outline), enabled) << "its text is not shown";
     // One pixel: left and top, the other two sides fall outside.
     EXPECT_EQ(WindowPixels(outline).Count(RGB(0, 128, 0)), 100 + 60 - 1);
     const ModeScope mode(ONBOARD);
