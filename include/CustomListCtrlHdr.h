@@ -40,6 +40,19 @@ public:
 
     void PreSubclassWindow() override;
 
+    // Assistive programs are told of a list, named as the report list is, and of its headings where
+    // they are drawn. The default action of a heading clicks it.
+    HRESULT get_accChildCount(long* count) override;
+    HRESULT get_accChild(VARIANT child, IDispatch** object) override;
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
+    HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
+    HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    HRESULT accDoDefaultAction(VARIANT child) override;
+
 protected:
     // Once, before the first paint: the arrows and the font.
     void DoCreate();
@@ -76,6 +89,8 @@ protected:
     std::vector<int> m_itemWidths;
 
 private:
+    static constexpr int LongestText = 256; // with the null
+
     bool m_repositioning = false;
     bool m_dragged = false; // the pointer has moved since a divider was pressed
     int m_hotDivider = -1;  // where a dragged column would be put; -1: nowhere
@@ -88,6 +103,7 @@ private:
     CCustomListCtrl* List() const;
     bool ItemRect(int item, CRect& rect) const;
     int ItemAt(CPoint point) const;
+    bool HeadingPlace(const VARIANT& child, CRect& place) const;
     int DividerAt(int x) const;
     LRESULT DefaultAt(UINT message, UINT flags, CPoint point);
     void LoadArrows();

@@ -50,6 +50,9 @@ public:
     // Whether the sheet runs in its own modal loop.
     virtual bool IsModal();
 
+    // Assistive programs are told of a dialog.
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+
 protected:
     // Draws caption and frame on the window now; on-board only.
     virtual void DrawOBNC(bool active);

@@ -17,6 +17,8 @@ public:
     // Which fly-outs a tool bar closes; the values are the host's.
     using CLOSERULE = CUSTOMTOOLBAR_CLOSERULE;
 
+    CustomToolbar();
+
     // Orders the buttons as far as it goes: order lists their command ids from left to right.
     // Appends one message for each way in which order and tool bar do not fit together; true when
     // there is none. Buttons that order does not know end up after the others, as they follow one
@@ -28,4 +30,17 @@ public:
     // buttons with one id the first is meant, each time anew.
     virtual bool OrderBtns(const std::vector<unsigned int>& order,
                            std::vector<std::string>& messages);
+
+    // Assistive programs are told of a tool bar and of its buttons, each named by its text or the
+    // tip of its command. The default action of a button clicks it.
+    HRESULT get_accChildCount(long* count) override;
+    HRESULT get_accChild(VARIANT child, IDispatch** object) override;
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
+    HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
+    HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
+    HRESULT accHitTest(long left, long top, VARIANT* child) override;
+    HRESULT accDoDefaultAction(VARIANT child) override;
 };

@@ -12,6 +12,8 @@ class ONBOARDUI_API QuixEdit : public CEdit
     DECLARE_DYNAMIC(QuixEdit)
 
 public:
+    QuixEdit();
+
     // In client pixels of the parent. To be called before the window is placed the first time; a
     // window that exists moves there.
     void SetFixedPlace(int x, int y, int width);
@@ -20,6 +22,10 @@ public:
     bool EscapePressed() const { return m_escapePressed != 0; }
 
     BOOL PreTranslateMessage(MSG* message) override;
+
+    // What assistive programs are told: a text box, named by the label before it.
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+    HRESULT get_accRole(VARIANT child, VARIANT* role) override;
 
 protected:
     afx_msg void OnWindowPosChanging(WINDOWPOS* position);

@@ -20,6 +20,7 @@ CCustomFormView::CCustomFormView(LPCSTR templateName)
     : CFormView(templateName)
     , m_controlList(std::make_unique<dialogs::ControlList>())
 {
+    EnableActiveAccessibility();
     dialogs::CreateSharedObjects();
     COnBoardUIGeneral::AddCustomView(this);
 }
@@ -28,6 +29,7 @@ CCustomFormView::CCustomFormView(UINT templateId)
     : CFormView(templateId)
     , m_controlList(std::make_unique<dialogs::ControlList>())
 {
+    EnableActiveAccessibility();
     dialogs::CreateSharedObjects();
     COnBoardUIGeneral::AddCustomView(this);
 }

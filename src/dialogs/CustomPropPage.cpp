@@ -15,6 +15,7 @@ CCustomPropPage::CCustomPropPage(UINT templateId, UINT captionId)
     : CPropertyPage(templateId, captionId)
     , m_controlList(std::make_unique<dialogs::ControlList>())
 {
+    EnableActiveAccessibility();
     dialogs::CreateSharedObjects();
     COnBoardUIGeneral::AddCustomPropPage(this);
 }

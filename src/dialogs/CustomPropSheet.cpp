@@ -68,6 +68,7 @@ CCustomPropSheet::CCustomPropSheet(LPCSTR caption, IAppAccess* host, CWnd* paren
 
 void CCustomPropSheet::Construct()
 {
+    EnableActiveAccessibility();
     dialogs::CreateSharedObjects();
     COnBoardUIGeneral::AddCustomPropSheet(this);
 }

@@ -9,6 +9,7 @@ END_MESSAGE_MAP()
 ColorEdit::ColorEdit()
     : m_backgroundColor(::GetSysColor(COLOR_3DFACE))
 {
+    EnableActiveAccessibility();
     m_brush.CreateSolidBrush(m_backgroundColor);
 }
 

@@ -60,6 +60,7 @@ CCustomEdit::CCustomEdit()
     , m_bar(SB_VERT)
     , m_bars(std::make_unique<Bars>(*this))
 {
+    EnableActiveAccessibility();
     MakeControlPen(m_OutlinePen, palette::Outline);
     GetOnBoardFont();
     GetStdFont();

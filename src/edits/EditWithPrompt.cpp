@@ -17,7 +17,9 @@ END_MESSAGE_MAP()
 
 EditWithPrompt::EditWithPrompt()
     : m_promptColor(palette::EditPrompt)
-{}
+{
+    EnableActiveAccessibility();
+}
 
 void EditWithPrompt::PreSubclassWindow()
 {

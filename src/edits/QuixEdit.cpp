@@ -8,6 +8,11 @@ BEGIN_MESSAGE_MAP(QuixEdit, CEdit)
     ON_WM_WINDOWPOSCHANGING()
 END_MESSAGE_MAP()
 
+QuixEdit::QuixEdit()
+{
+    EnableActiveAccessibility();
+}
+
 namespace {
 
 // What a key does while Ctrl is held; 0 for nothing.

@@ -21,7 +21,6 @@ constexpr UINT DescendingArrow = 10018;
 
 constexpr int StdArrowMargin = 3;     // from the arrow to an item's right edge
 constexpr int PlatformArrowReach = 6; // of the platform's arrow to the left of ours
-constexpr int LongestText = 256;      // with the null
 
 // The on-board arrow's corners, from an item's top right.
 constexpr int ArrowLeft = 27;
@@ -55,6 +54,7 @@ CSize CCustomListCtrlHdr::m_arrowSize(16, 16);
 
 CCustomListCtrlHdr::CCustomListCtrlHdr()
 {
+    EnableActiveAccessibility();
     OBResetScroll(FALSE);
 }
 

@@ -1,0 +1,38 @@
+#pragma once
+
+// What windows with parts side by side, headings or buttons, answer of them. A part's child id is
+// its index and one; parts are no objects of their own.
+
+#include "access/Rows.h"
+
+namespace access {
+
+inline HRESULT GivePart(IDispatch** object, const VARIANT& child, int count)
+{
+    *object = nullptr;
+    return RowOf(child, count) < 0 ? E_INVALIDARG : S_FALSE;
+}
+
+// place is the part's, in client coordinates; more is what only this kind of part says.
+inline HRESULT GivePartState(VARIANT& state, const CWnd& window, const CRect& place, long more)
+{
+    CRect client;
+    window.GetClientRect(&client);
+    CRect shown;
+    const bool inSight = window.IsWindowVisible() && shown.IntersectRect(client, place);
+    return Give(state, more | (inSight ? 0 : STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN) |
+                           (window.IsWindowEnabled() ? 0 : STATE_SYSTEM_UNAVAILABLE));
+}
+
+// A click in the middle of a part, posted: it may open a dialog, and the program that asks would
+// wait for its end.
+inline HRESULT PostClick(CWnd& window, const CRect& place)
+{
+    const CPoint middle = place.CenterPoint();
+    const LPARAM point = MAKELPARAM(middle.x, middle.y);
+    const bool posted = window.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, point) &&
+                        window.PostMessage(WM_LBUTTONUP, 0, point);
+    return posted ? S_OK : E_FAIL;
+}
+
+} // namespace access

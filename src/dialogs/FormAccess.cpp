@@ -1,0 +1,47 @@
+// Forms, pages and sheets: what assistive programs are told of them. The platform takes each of
+// them for any window's client area.
+
+#include "CustomFormView.h"
+#include "CustomPropPage.h"
+#include "CustomPropSheet.h"
+
+#include "access/Answers.h"
+
+// A form has seldom a text of its own: its frame's title names it.
+HRESULT CCustomFormView::get_accName(VARIANT child, BSTR* name)
+{
+    CWnd* const frame = GetWindowTextLength() == 0 ? GetParentFrame() : nullptr;
+    if (frame == nullptr || !access::IsSelf(child))
+    {
+        return CFormView::get_accName(child, name);
+    }
+    CString title;
+    frame->GetWindowText(title);
+    return access::Give(*name, title);
+}
+
+HRESULT CCustomFormView::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_PANE)
+                                 : CFormView::get_accRole(child, role);
+}
+
+// As its tab has it.
+HRESULT CCustomPropPage::get_accName(VARIANT child, BSTR* name)
+{
+    const bool titled = (m_psp.dwFlags & PSP_USETITLE) != 0 && !IS_INTRESOURCE(m_psp.pszTitle);
+    return titled && access::IsSelf(child) ? access::Give(*name, m_psp.pszTitle)
+                                           : CPropertyPage::get_accName(child, name);
+}
+
+HRESULT CCustomPropPage::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_PROPERTYPAGE)
+                                 : CPropertyPage::get_accRole(child, role);
+}
+
+HRESULT CCustomPropSheet::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_DIALOG)
+                                 : CPropertySheet::get_accRole(child, role);
+}

@@ -1,0 +1,79 @@
+// Edits: what assistive programs are told of them. Their text is their value; that, and what else
+// is not said here, the platform knows.
+
+#include "ColorEdit.h"
+#include "CustomEdit.h"
+#include "EditWithPrompt.h"
+#include "QuixEdit.h"
+
+#include "access/Answers.h"
+
+namespace {
+
+HRESULT GiveName(CEdit& edit, const VARIANT& child, BSTR* name)
+{
+    const auto named = access::NameFromLabel(edit, child, name);
+    return named ? *named : edit.CEdit::get_accName(child, name);
+}
+
+HRESULT GiveRole(CEdit& edit, const VARIANT& child, VARIANT* role)
+{
+    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_TEXT)
+                                 : edit.CEdit::get_accRole(child, role);
+}
+
+} // namespace
+
+HRESULT CCustomEdit::get_accName(VARIANT child, BSTR* name)
+{
+    return GiveName(*this, child, name);
+}
+
+HRESULT CCustomEdit::get_accRole(VARIANT child, VARIANT* role)
+{
+    return GiveRole(*this, child, role);
+}
+
+// The platform does not know of our way of being read-only.
+HRESULT CCustomEdit::get_accState(VARIANT child, VARIANT* state)
+{
+    const HRESULT result = CEdit::get_accState(child, state);
+    if (SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4 && m_fauxReadOnly)
+    {
+        state->lVal |= STATE_SYSTEM_READONLY;
+    }
+    return result;
+}
+
+HRESULT ColorEdit::get_accName(VARIANT child, BSTR* name)
+{
+    return GiveName(*this, child, name);
+}
+
+HRESULT ColorEdit::get_accRole(VARIANT child, VARIANT* role)
+{
+    return GiveRole(*this, child, role);
+}
+
+HRESULT EditWithPrompt::get_accName(VARIANT child, BSTR* name)
+{
+    const auto named = access::NameFromLabel(GetSafeHwnd(), child, name);
+    return named                   ? *named
+           : access::IsSelf(child) ? access::Give(*name, m_prompt)
+                                   : CEdit::get_accName(child, name);
+}
+
+HRESULT EditWithPrompt::get_accRole(VARIANT child, VARIANT* role)
+{
+    return GiveRole(*this, child, role);
+}
+
+HRESULT QuixEdit::get_accName(VARIANT child, BSTR* name)
+{
+    return GiveName(*this, child, name);
+}
+
+HRESULT QuixEdit::get_accRole(VARIANT child, VARIANT* role)
+{
+    return GiveRole(*this, child, role);
+}

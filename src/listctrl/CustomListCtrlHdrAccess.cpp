@@ -1,0 +1,127 @@
+// The header: what assistive programs are told of it. The platform would tell of the unscrolled
+// header, as it stands behind what is drawn on-board.
+
+#include "CustomListCtrlHdr.h"
+
+#include "access/Strip.h"
+
+#include <algorithm>
+
+// Where a heading is drawn, in client coordinates.
+bool CCustomListCtrlHdr::HeadingPlace(const VARIANT& child, CRect& place) const
+{
+    const bool is = ItemRect(access::RowOf(child, GetItemCount()), place);
+    place.OffsetRect(m_offset);
+    return is;
+}
+
+HRESULT CCustomListCtrlHdr::get_accChildCount(long* count)
+{
+    *count = std::max(0, GetItemCount());
+    return S_OK;
+}
+
+HRESULT CCustomListCtrlHdr::get_accChild(VARIANT child, IDispatch** object)
+{
+    return access::GivePart(object, child, GetItemCount());
+}
+
+HRESULT CCustomListCtrlHdr::get_accName(VARIANT child, BSTR* name)
+{
+    const int item = access::RowOf(child, GetItemCount());
+    const HWND list = ListWindow();
+    if (item < 0)
+    {
+        const auto named =
+            access::NameFromLabel(list == nullptr ? GetSafeHwnd() : list, child, name);
+        return named ? *named : CHeaderCtrl::get_accName(child, name);
+    }
+    char text[LongestText] = "";
+    HDITEM data = {};
+    data.mask = HDI_TEXT;
+    data.pszText = text;
+    data.cchTextMax = LongestText;
+    const bool has = GetItem(item, &data) && data.pszText != nullptr;
+    return access::Give(*name, has ? data.pszText : "");
+}
+
+HRESULT CCustomListCtrlHdr::get_accRole(VARIANT child, VARIANT* role)
+{
+    if (access::IsSelf(child))
+    {
+        return access::Give(*role, ROLE_SYSTEM_LIST);
+    }
+    return access::RowOf(child, GetItemCount()) < 0 ? E_INVALIDARG
+                                                    : access::Give(*role, ROLE_SYSTEM_COLUMNHEADER);
+}
+
+HRESULT CCustomListCtrlHdr::get_accState(VARIANT child, VARIANT* state)
+{
+    CRect place(0, 0, 0, 0);
+    return HeadingPlace(child, place) ? access::GivePartState(*state, *this, place, 0)
+                                      : CHeaderCtrl::get_accState(child, state);
+}
+
+HRESULT CCustomListCtrlHdr::get_accDefaultAction(VARIANT child, BSTR* action)
+{
+    const bool clicks =
+        access::RowOf(child, GetItemCount()) >= 0 && (GetStyle() & HDS_BUTTONS) != 0;
+    return clicks ? access::Give(*action, "Click")
+                  : CHeaderCtrl::get_accDefaultAction(child, action);
+}
+
+HRESULT CCustomListCtrlHdr::accDoDefaultAction(VARIANT child)
+{
+    CRect place(0, 0, 0, 0);
+    if (!HeadingPlace(child, place))
+    {
+        return CHeaderCtrl::accDoDefaultAction(child);
+    }
+    const bool clicks = IsWindowEnabled() && (GetStyle() & HDS_BUTTONS) != 0 &&
+                        DividerAt(place.CenterPoint().x) == -1;
+    return clicks ? access::PostClick(*this, place) : DISP_E_MEMBERNOTFOUND;
+}
+
+HRESULT CCustomListCtrlHdr::accLocation(long* left, long* top, long* width, long* height,
+                                        VARIANT child)
+{
+    CRect place(0, 0, 0, 0);
+    return HeadingPlace(child, place) ? access::GivePlace(*this, place, left, top, width, height)
+                                      : CHeaderCtrl::accLocation(left, top, width, height, child);
+}
+
+// In the order of display.
+HRESULT CCustomListCtrlHdr::accNavigate(long direction, VARIANT start, VARIANT* end)
+{
+    if (access::LeavesList(direction, start))
+    {
+        return CHeaderCtrl::accNavigate(direction, start, end);
+    }
+    const int count = GetItemCount();
+    if (const int item = access::RowOf(start, count); item >= 0)
+    {
+        HDITEM data = {};
+        data.mask = HDI_ORDER;
+        GetItem(item, &data);
+        start.lVal = access::ChildOf(data.iOrder);
+    }
+    const bool back = direction == NAVDIR_LEFT;
+    const bool on = direction == NAVDIR_RIGHT;
+    const HRESULT result = access::Navigate(back ? NAVDIR_PREVIOUS
+                                            : on ? NAVDIR_NEXT
+                                                 : direction,
+                                            start, count, *end);
+    if (result == S_OK)
+    {
+        end->lVal = access::ChildOf(OrderToIndex(end->lVal - 1));
+    }
+    return result;
+}
+
+HRESULT CCustomListCtrlHdr::accHitTest(long left, long top, VARIANT* child)
+{
+    CPoint point(left, top);
+    return access::IsInClient(*this, point)
+               ? access::Give(*child, access::ChildOf(ItemAt(point - m_offset)))
+               : access::GiveNothing(*child);
+}
