@@ -1,25 +1,68 @@
 #include "KnownShortfalls.h"
 
-const char* KnownTextShortfall(std::string_view control)
+#include <algorithm>
+#include <iterator>
+
+namespace {
+
+struct Known
 {
-    // The gradient of a face is the look of every painted part; text in the middle of it stands on
-    // its lighter half.
-    return control == "push button" || control == "report list" ? "gradient of a face" : nullptr;
+    std::string_view control; // empty: any
+    std::string_view part;    // likewise
+    Shortfall shortfall;
+};
+
+// The gradient of a face is the look of every painted part; text in the middle of it stands on its
+// lighter half.
+constexpr Known Texts[] = {
+    {"push button", "", {"gradient of a face", 3.3}},
+    {"message box", "Button", {"gradient of a face", 2.9}},
+    {"report list", "first cell", {"cells after the highlight; a host may select full rows", 1.6}},
+    {"report list", "SysHeader32", {"gradient of a face", 3.1}},
+    {"edit with prompt", "prompt", {"colour of a prompt; a host may set another", 4.3}},
+    {"tool bar",
+     "",
+     {"the platform's bar on the host's ground; a host may give it a light one", 1.6}},
+};
+
+constexpr const char* OfFont = "height of the font; a host may set more";
+constexpr const char* OfTemplate = "size of the template, scaled";
+
+constexpr Known Targets[] = {
+    {"", "vertical bar", {"band of 52 whose edges take no press", 44}},
+    {"", "horizontal bar", {"band of 52 whose edges take no press", 49}},
+    {"list box", "row", {OfFont, 20}},
+    {"drawn list box", "row", {OfFont, 30}},
+    {"list box of many selections", "row", {OfFont, 20}},
+    {"list box of columns", "row", {OfFont, 20}},
+    {"check list", "row", {OfFont, 34}},
+    {"report list", "row", {OfFont, 28}},
+    {"report list", "heading", {OfFont, 31}},
+    {"dialog", "Edit", {OfTemplate, 34}},
+    {"dialog", "Button", {OfTemplate, 39}},
+    {"message box", "Button", {OfTemplate, 39}},
+    {"sheet", "tab", {"size of the platform's tabs, scaled", 33}},
+    {"tool bar", "button", {"size of the platform's buttons; a host may set more", 20}},
+};
+
+template <size_t Count>
+const Shortfall* Find(const Known (&all)[Count], std::string_view control, std::string_view part)
+{
+    const auto known = std::find_if(std::begin(all), std::end(all), [&](const Known& each) {
+        return (each.control.empty() || each.control == control) &&
+               (each.part.empty() || each.part == part);
+    });
+    return known == std::end(all) ? nullptr : &known->shortfall;
 }
 
-const char* KnownTargetShortfall(std::string_view control, std::string_view part)
+} // namespace
+
+const Shortfall* KnownTextShortfall(std::string_view control, std::string_view part)
 {
-    if (part.find("bar") != part.npos)
-    {
-        return "band of 52 whose edges take no press";
-    }
-    if (control == "dialog" || control == "message box")
-    {
-        return "size of the template, scaled";
-    }
-    if (control.find("list") != control.npos)
-    {
-        return "height of the font; a host may set more";
-    }
-    return nullptr;
+    return Find(Texts, control, part);
+}
+
+const Shortfall* KnownTargetShortfall(std::string_view control, std::string_view part)
+{
+    return Find(Targets, control, part);
 }

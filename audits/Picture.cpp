@@ -1,5 +1,6 @@
 #include "Picture.h"
 
+#include <algorithm>
 #include <cstring>
 
 Picture::Picture(const CWnd& window)
@@ -38,6 +39,17 @@ COLORREF Picture::At(int x, int y) const
 {
     const RGBQUAD& pixel = m_pixels[size_t(y) * size_t(m_width) + size_t(x)];
     return RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue);
+}
+
+void Picture::Leave(const CRect& place)
+{
+    CRect within;
+    within.IntersectRect(place, CRect(0, 0, m_width, m_height));
+    for (int y = within.top; y < within.bottom; ++y)
+    {
+        const auto row = m_pixels.begin() + ptrdiff_t(y) * m_width;
+        std::fill(row + within.left, row + within.right, RGBQUAD());
+    }
 }
 
 bool Picture::operator==(const Picture& other) const

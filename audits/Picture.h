@@ -13,6 +13,7 @@ public:
     int Width() const { return m_width; }
     int Height() const { return m_height; }
     COLORREF At(int x, int y) const; // within the picture
+    void Leave(const CRect& place);  // out of it: black
     bool operator==(const Picture& other) const;
 
 private:

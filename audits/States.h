@@ -3,6 +3,7 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <string>
 #include <vector>
 
 // A state that a control can be in, and how a host or a user brings it there.
@@ -10,7 +11,8 @@ struct State
 {
     const char* name;
     bool enabled; // whether its text has to be read
-    std::function<void(CWnd&)> enter;
+    // text is what the control has been filled with.
+    std::function<void(CWnd&, const std::string& text)> enter;
     int rows = 40; // that the control is filled with
 };
 

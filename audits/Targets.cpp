@@ -1,6 +1,7 @@
 #include "Targets.h"
 
 #include <afxcmn.h>
+#include <afxdlgs.h>
 
 #include <iterator>
 #include <string_view>
@@ -48,10 +49,14 @@ void AddChildren(std::vector<Target>& targets, CWnd& window)
 {
     for (CWnd* child = window.GetWindow(GW_CHILD); child; child = child->GetWindow(GW_HWNDNEXT))
     {
-        if ((child->GetStyle() & WS_TABSTOP) != 0)
+        char kind[40] = "";
+        ::GetClassName(*child, kind, int(std::size(kind)));
+        const bool onlyShows =
+            ::lstrcmpi(kind, "Edit") == 0 && (child->GetStyle() & ES_READONLY) != 0;
+        const bool isForm = ::lstrcmpi(kind, "#32770") == 0 || ::lstrcmpi(kind, WC_TABCONTROL) == 0;
+        if (!isForm && (child->GetStyle() & WS_TABSTOP) != 0 && child->IsWindowVisible() &&
+            !onlyShows)
         {
-            char kind[40] = "";
-            ::GetClassName(*child, kind, int(std::size(kind)));
             targets.push_back({kind, SizeOf(*child)});
         }
     }
@@ -88,6 +93,19 @@ std::vector<Target> TargetsOf(const char* control, CWnd& window)
     else if (name == "combo")
     {
         targets.push_back({"field", {0, SizeOf(window).cy}});
+    }
+    else if (name == "sheet")
+    {
+        const auto& sheet = static_cast<CPropertySheet&>(window);
+        CRect tab;
+        sheet.GetTabControl()->GetItemRect(0, &tab);
+        targets.push_back({"tab", tab.Size()});
+    }
+    else if (name == "tool bar")
+    {
+        CRect button;
+        window.SendMessage(TB_GETITEMRECT, 0, LPARAM(&button));
+        targets.push_back({"button", button.Size()});
     }
     AddBars(targets, window);
     AddChildren(targets, window);

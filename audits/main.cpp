@@ -1,23 +1,24 @@
-// audit [MODE]: walks every control of the catalog, in every state and in every display mode or the
-// one named, on real windows, and prints
+// audit [MODE]: walks every control of the catalog and every form, in every state and in every
+// display mode or the one named, on real windows, and prints
 // - the contrast of its text against what it is drawn on, whose mark is 4.5 to 1 where the control
-//   is enabled,
+//   is enabled; of a control with a text it has to be seen,
 // - how large that is which a finger must hit, whose mark in the on-board modes is 52 pixels, which
 //   are 13.8 mm at 96 dots per inch,
 // - what it answers to an assistive program, its role, name, value and state, and whether the focus
-//   is seen on it; the mark for the role is anything but that of any window's client area.
+//   is seen on it; the mark for the role is anything but that of any window's client area, and that
+//   for the name is that there is one.
 // What misses its mark is marked "below", with the reason if it is known to. The exit code is 1
-// when something else does, 2 for a wrong call.
+// when something else does, or when what is known has become worse, 2 for a wrong call.
 
 #include "Access.h"
 #include "Contrast.h"
-#include "CustomDialog.h"
+#include "Forms.h"
 #include "KnownShortfalls.h"
 #include "OnBoardUIGeneral.h"
+#include "Shown.h"
 #include "States.h"
 #include "Targets.h"
 #include "catalog/Controls.h"
-#include "catalog/DialogTemplate.h"
 
 #include <afxwin.h>
 
@@ -35,11 +36,17 @@ const char* const Sample = "Direct";
 
 bool surprised = false; // something misses its mark and is not known to
 
-// What to print behind a finding.
-std::string Verdict(bool below, const char* known)
+// What to print behind a finding. One that is known is known to reach so much and no less.
+std::string Verdict(bool below, double reached, const Shortfall* known)
 {
-    surprised = surprised || (below && !known);
-    return below ? std::string(" below") + (known ? std::string(": ") + known : "") : "";
+    if (!below)
+    {
+        return "";
+    }
+    const bool worse = !known || reached < known->least;
+    surprised = surprised || worse;
+    return std::string(" below") + (known ? std::string(": ") + known->reason : "") +
+           (known && worse ? ", and worse than known" : "");
 }
 
 class AuditApp : public CWinApp
@@ -47,141 +54,73 @@ class AuditApp : public CWinApp
 
 AuditApp theApp;
 
-// What a host's window gives its controls: the mode's ground and colours. The controls follow the
-// mode with it.
-class Stage : public CCustomDialog
-{
-public:
-    Stage()
-        : CCustomDialog(0U, nullptr)
-    {
-        CreateIndirect(DialogTemplate({.style = WS_POPUP | WS_VISIBLE | WS_CLIPCHILDREN,
-                                       .title = "",
-                                       .points = 0,
-                                       .place = CRect(0, 0, 300, 200)}),
-                       nullptr);
-        ::SetWindowPos(m_hWnd, HWND_TOPMOST, 20, 20, 900, 700, 0);
-        m_focus.Create("", WS_CHILD | WS_VISIBLE, CRect(0, 0, 1, 1), this);
-    }
-
-    void TakeFocus() { m_focus.SetFocus(); }
-
-private:
-    CStatic m_focus; // has the focus that no control shall have
-
-    void OnOK() override {}
-    void OnCancel() override {}
-};
-
-void Settle(CWnd& window)
-{
-    MSG message;
-    for (int quiet = 0; quiet < 3; ++quiet)
-    {
-        while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-        {
-            ::DispatchMessage(&message);
-        }
-        window.RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-        ::Sleep(1);
-    }
-}
-
-// Blanks as wide as the sample in a window's font, so that nothing that follows a text's extent
-// differs between the two.
-std::string BlanksIn(CWnd& window)
-{
-    CClientDC dc(&window);
-    CFont* const font = window.GetFont();
-    CFont* const before = font ? dc.SelectObject(font) : nullptr;
-    const int sample = dc.GetTextExtent(Sample, int(std::strlen(Sample))).cx;
-    const int blank = std::max<int>(1, dc.GetTextExtent(" ", 1).cx);
-    if (before)
-    {
-        dc.SelectObject(before);
-    }
-    return std::string(size_t((sample + blank / 2) / blank), ' ');
-}
-
-// A control that has come into the mode from the standard one, with its window.
-class Shown
-{
-public:
-    Shown(const Control& control, APPMODE mode, const std::string& text, int rows)
-    {
-        COnBoardUIGeneral::SetAppMode(STD);
-        m_stage = std::make_unique<Stage>();
-        m_window = control.make(*m_stage, {CRect(20, 20, 220, 160), text, rows, false});
-        if (!m_window)
-        {
-            std::fprintf(stderr, "audit: no %s could be made\n", control.name);
-            std::exit(3);
-        }
-        m_window->ShowWindow(SW_SHOW);
-        COnBoardUIGeneral::SetAppMode(mode);
-        m_window->BringWindowToTop();
-        m_stage->TakeFocus();
-        Settle(*m_window);
-    }
-    ~Shown()
-    {
-        m_window->DestroyWindow();
-        m_stage->DestroyWindow();
-    }
-
-    CWnd& Window() { return *m_window; }
-
-private:
-    std::unique_ptr<Stage> m_stage;
-    std::unique_ptr<CWnd> m_window;
-};
-
-// The window and its children, each with its class, which is empty for the window itself.
-std::vector<std::pair<std::string, Picture>> Pictures(CWnd& window)
-{
-    std::vector<std::pair<std::string, Picture>> pictures;
-    pictures.emplace_back("", window);
-    for (CWnd* child = window.GetWindow(GW_CHILD); child; child = child->GetWindow(GW_HWNDNEXT))
-    {
-        char kind[40] = "";
-        ::GetClassName(*child, kind, int(std::size(kind)));
-        if (child->IsWindowVisible())
-        {
-            pictures.emplace_back(kind, *child);
-        }
-    }
-    return pictures;
-}
-
+// What is found of a text, in every part of the control that has one.
 void PrintContrast(APPMODE mode, const Control& control, const State& state)
 {
-    std::string blanks;
-    const auto show = [&](const std::string& text) {
-        Shown shown(control, mode, text, state.rows);
-        state.enter(shown.Window());
-        Settle(shown.Window());
-        blanks = BlanksIn(shown.Window());
-        return Pictures(shown.Window());
-    };
-    const auto withText = show(Sample);
-    const auto withBlanks = show(std::string(blanks));
-    for (size_t part = 0; part < std::min(withText.size(), withBlanks.size()); ++part)
+    struct Seen
     {
-        const TextContrast found = FindTextContrast(withText[part].second, withBlanks[part].second);
-        if (found.ratio == 0)
+        std::string kind;
+        bool hasText;
+        Picture picture;
+    };
+    std::string blanks;
+    const auto show = [&](const std::string& text, bool blank) {
+        Shown shown(control, mode, text, state.rows);
+        state.enter(shown.Window(), text);
+        shown.Settle();
+        blanks = BlanksFor(Sample, shown.Window());
+        if (blank)
+        {
+            shown.BlankButtons();
+        }
+        std::vector<Seen> seen;
+        for (const Part& part : shown.Parts())
+        {
+            seen.push_back({part.kind, part.hasText, PictureOf(part)});
+        }
+        return seen;
+    };
+    const std::vector<Seen> withText = show(Sample, false);
+    const std::vector<Seen> withBlanks = show(std::string(blanks), true);
+    for (size_t index = 0; index < withText.size(); ++index)
+    {
+        const auto& [kind, hasText, picture] = withText[index];
+        const TextContrast found = index < withBlanks.size()
+                                       ? FindTextContrast(picture, withBlanks[index].picture)
+                                       : TextContrast();
+        if (!hasText)
         {
             continue;
         }
-        const std::string kind = withText[part].first;
         const std::string name = control.name + (kind.empty() ? "" : ": " + kind);
-        std::printf(
-            "%-11s %-34s %-10s %02X%02X%02X on %02X%02X%02X %6.2f%s\n", APPMODE_NAMES[mode],
-            name.c_str(), state.name, GetRValue(found.text), GetGValue(found.text),
-            GetBValue(found.text), GetRValue(found.ground), GetGValue(found.ground),
-            GetBValue(found.ground), found.ratio,
-            Verdict(state.enabled && found.ratio < ContrastMark, KnownTextShortfall(control.name))
-                .c_str());
+        std::printf("%-11s %-34s %-11s ", APPMODE_NAMES[mode], name.c_str(), state.name);
+        if (found.ratio == 0)
+        {
+            surprised = true;
+            std::printf("no text is seen\n");
+            continue;
+        }
+        const auto print = [](COLORREF color) {
+            std::printf("%02X%02X%02X", GetRValue(color), GetGValue(color), GetBValue(color));
+        };
+        print(found.text);
+        std::printf(" on ");
+        print(found.ground);
+        std::printf(" %6.2f%s\n", found.ratio,
+                    Verdict(state.enabled && found.ratio < ContrastMark, found.ratio,
+                            KnownTextShortfall(control.name, kind.empty() ? state.name : kind))
+                        .c_str());
     }
+}
+
+void PrintAnswers(APPMODE mode, const std::string& name, const CWnd& window, const char* focus)
+{
+    const Answers answers = AskWindow(window);
+    const bool isSilent = answers.role.empty() || answers.role == "client" || answers.name.empty();
+    const std::string value = answers.value.substr(0, answers.value.find_first_of("\r\n"));
+    std::printf("%-11s %-34s %s \"%s\" \"%s\" %lX%s%s\n", APPMODE_NAMES[mode], name.c_str(),
+                answers.role.c_str(), answers.name.c_str(), value.c_str(),
+                (unsigned long)answers.state, focus, Verdict(isSilent, 0, nullptr).c_str());
 }
 
 // What an assistive program is told of the control, and whether one sees that it has the focus.
@@ -189,17 +128,17 @@ void PrintAccess(APPMODE mode, const Control& control)
 {
     Shown shown(control, mode, Sample, State{}.rows);
     CWnd& window = shown.Window();
-    const Answers answers = AskWindow(window);
     const Picture before(window);
     const bool takesFocus =
         (window.GetStyle() & (WS_CHILD | WS_TABSTOP)) == (WS_CHILD | WS_TABSTOP) &&
         (window.SendMessage(WM_GETDLGCODE) & DLGC_STATIC) == 0;
     window.SetFocus();
-    if (std::strcmp(control.name, "report list") == 0)
+    const bool isReport = std::strcmp(control.name, "report list") == 0;
+    if (isReport)
     {
         window.SendMessage(WM_KEYDOWN, VK_DOWN); // the platform's shows it on a row alone
     }
-    Settle(window);
+    shown.Settle();
     const char* focus = "";
     if (takesFocus)
     {
@@ -207,10 +146,12 @@ void PrintAccess(APPMODE mode, const Control& control)
         focus = seen ? " focus seen" : " focus not seen";
         surprised = surprised || !seen;
     }
-    const bool isClient = answers.role.empty() || answers.role == "client";
-    std::printf("%-11s %-34s %s \"%s\" \"%s\" %lX%s%s\n", APPMODE_NAMES[mode], control.name,
-                answers.role.c_str(), answers.name.c_str(), answers.value.c_str(),
-                (unsigned long)answers.state, focus, Verdict(isClient, nullptr).c_str());
+    PrintAnswers(mode, control.name, window, focus);
+    if (isReport)
+    {
+        PrintAnswers(mode, "header", *CWnd::FromHandle(HWND(window.SendMessage(LVM_GETHEADER))),
+                     "");
+    }
 }
 
 void PrintTargets(APPMODE mode, const Control& control)
@@ -218,15 +159,28 @@ void PrintTargets(APPMODE mode, const Control& control)
     const auto extent = [](int pixels) {
         return pixels > 0 ? std::to_string(pixels) : std::string("-");
     };
-    const auto isSmall = [](int pixels) { return pixels > 0 && pixels < FingerMark; };
     Shown shown(control, mode, Sample, State{}.rows);
-    for (const auto& [name, size] : TargetsOf(control.name, shown.Window()))
+    std::vector<Target> targets = TargetsOf(control.name, shown.Window());
+    if (std::strcmp(control.name, "combo") == 0)
     {
-        const bool below =
-            COnBoardUIGeneral::InOnBoardMode() && (isSmall(size.cx) || isSmall(size.cy));
+        StatesOf("combo").back().enter(shown.Window(), Sample);
+        for (const Part& part : shown.Parts())
+        {
+            if (part.hasText && !part.kind.empty())
+            {
+                targets.push_back(
+                    {"row of its list", {0, int(part.window->SendMessage(LB_GETITEMHEIGHT))}});
+            }
+        }
+    }
+    for (const auto& [name, size] : targets)
+    {
+        const int least =
+            size.cx > 0 && size.cy > 0 ? std::min(size.cx, size.cy) : std::max(size.cx, size.cy);
+        const bool below = COnBoardUIGeneral::InOnBoardMode() && least < FingerMark;
         std::printf("%-11s %-34s %-22s %4s x %4s%s\n", APPMODE_NAMES[mode], control.name,
                     name.c_str(), extent(size.cx).c_str(), extent(size.cy).c_str(),
-                    Verdict(below, KnownTargetShortfall(control.name, name)).c_str());
+                    Verdict(below, least, KnownTargetShortfall(control.name, name)).c_str());
     }
 }
 
@@ -250,11 +204,13 @@ int main(int argc, char** argv)
     AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOW);
     ::CoInitialize(nullptr);
     COnBoardUIGeneral::SetStdModeGoals();
+    std::vector<Control> all = Controls();
+    all.insert(all.end(), Forms().begin(), Forms().end());
     for (int mode = 0; mode < Modes; ++mode)
     {
         if (only < 0 || only == mode)
         {
-            for (const Control& control : Controls())
+            for (const Control& control : all)
             {
                 for (const State& state : StatesOf(control.name))
                 {

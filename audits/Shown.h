@@ -1,0 +1,48 @@
+#pragma once
+
+#include "catalog/Controls.h"
+
+#include "AppMode.h"
+#include "Picture.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+// A window that is looked at by itself: the control, one within it, or one that it has popped up.
+struct Part
+{
+    std::string kind; // its window class; empty for the control
+    CWnd* window;     // as long as messages are not pumped
+    bool hasText;     // to be read on the window itself
+};
+
+// A control that has come into the mode from the standard one, on a dialog with a label before it.
+class Shown
+{
+public:
+    // Ends the program where there is none to show.
+    Shown(const Control& control, APPMODE mode, const std::string& text, int rows);
+    ~Shown();
+
+    CWnd& Window() { return *m_window; }
+    std::vector<Part> Parts();
+    // Takes the fixed texts of buttons from them, too.
+    void BlankButtons();
+    // Runs the messages until all is painted.
+    void Settle();
+
+private:
+    class Stage;
+
+    const Control& m_control;
+    std::unique_ptr<Stage> m_stage;
+    std::unique_ptr<CWnd> m_window;
+};
+
+// What the screen shows of a part, without the windows within and before it.
+Picture PictureOf(const Part& part);
+
+// Blanks at least as wide as the text in a window's font, so that nothing that follows a text's
+// extent differs between the two.
+std::string BlanksFor(const std::string& text, CWnd& window);
