@@ -1,0 +1,319 @@
+// Every control of the catalog, reached and worked by keys alone in every mode, and read as an
+// assistive program reads it.
+
+#include "CustomEdit.h"
+#include "CustomFormView.h"
+#include "CustomListCtrl.h"
+#include "CustomPropPage.h"
+#include "CustomPropSheet.h"
+#include "CustomStatic.h"
+#include "CustomToolbar.h"
+#include "EditWithPrompt.h"
+#include "ZepMsgBoxDlg.h"
+#include "catalog/Controls.h"
+#include "catalog/DialogTemplate.h"
+#include "support/Accessible.h"
+#include "support/Scripted.h"
+#include "support/forms.h"
+
+#include <afxcmn.h>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+namespace {
+
+constexpr UINT FirstButton = 101;
+constexpr UINT LastButton = 102;
+
+// A host's dialog with a button, a label, the control and another button.
+class Stage : public CCustomDialog
+{
+public:
+    explicit Stage(APPMODE mode)
+        : CCustomDialog(0U, nullptr)
+    {
+        DialogTemplate form(CRect(0, 0, 300, 200), WS_POPUP | WS_VISIBLE);
+        form.Add("Button", "First", WS_TABSTOP, CRect(5, 5, 50, 19), FirstButton)
+            .Add("Static", "Na&me", 0, CRect(60, 5, 100, 17), 103);
+        CreateIndirect(form);
+        COnBoardUIGeneral::SetAppMode(mode);
+    }
+    ~Stage() override { DestroyWindow(); }
+
+    int clicks = 0; // of the control
+
+    void AddLast()
+    {
+        m_last.Create("Last", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(200, 5, 260, 30), this,
+                      LastButton);
+        PumpAll();
+    }
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    {
+        clicks += wParam == MAKEWPARAM(ControlId, BN_CLICKED);
+        return CCustomDialog::OnCommand(wParam, lParam);
+    }
+    void OnOK() override {}
+    void OnCancel() override {}
+
+private:
+    CButton m_last;
+};
+
+std::string InWords(long state)
+{
+    std::string words;
+    for (const auto& [bit, word] : {std::pair{STATE_SYSTEM_SELECTED, " selected"},
+                                    {STATE_SYSTEM_CHECKED, " checked"},
+                                    {STATE_SYSTEM_MIXED, " mixed"},
+                                    {STATE_SYSTEM_EXPANDED, " open"},
+                                    {STATE_SYSTEM_COLLAPSED, " closed"},
+                                    {STATE_SYSTEM_READONLY, " read-only"}})
+    {
+        words += (state & bit) != 0 ? word : "";
+    }
+    return words;
+}
+
+// What is told of where the focus is: the row or the window, its value or else its name, its state.
+std::string ToldOfFocus()
+{
+    const HWND focus = ::GetFocus();
+    if (focus == nullptr)
+    {
+        return "no focus";
+    }
+    const Held<IAccessible> object = Reached(focus);
+    VARIANT row = {};
+    const bool onRow =
+        object->get_accFocus(&row) == S_OK && row.vt == VT_I4 && row.lVal != CHILDID_SELF;
+    const Read read(*object, onRow ? row.lVal : CHILDID_SELF);
+    const bool valued = read.role == ROLE_SYSTEM_TEXT || read.role == ROLE_SYSTEM_COMBOBOX;
+    return (valued ? read.value : read.name) + InWords(read.state) +
+           ((read.state & STATE_SYSTEM_FOCUSED) != 0 ? "" : " without focus");
+}
+
+struct Key
+{
+    UINT key;
+    const char* told; // of where the focus is, when it has been typed; null: it does not matter
+    UINT held = 0;
+};
+
+struct Worked
+{
+    const char* control;
+    long role;
+    const char* name;
+    std::vector<Key> keys = {}; // none: Tab passes it by
+    bool clicks = false;        // its parent is told of a click
+};
+
+const std::vector<Worked> AllWorked = {
+    {"push button", ROLE_SYSTEM_PUSHBUTTON, "Row", {{VK_SPACE, "Row"}}, true},
+    {"check box", ROLE_SYSTEM_CHECKBUTTON, "Row", {{VK_SPACE, "Row checked"}}, true},
+    {"radio button", ROLE_SYSTEM_RADIOBUTTON, "Row", {{VK_SPACE, "Row checked"}}},
+    {"label", ROLE_SYSTEM_STATICTEXT, "Row"},
+    {"group box", ROLE_SYSTEM_GROUPING, "Row"},
+    {"bold label", ROLE_SYSTEM_STATICTEXT, "Row"},
+    {"swatch", ROLE_SYSTEM_GRAPHIC, "Row"},
+    {"outline", ROLE_SYSTEM_GROUPING, "Row"},
+    {"edit of many lines", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}}},
+    {"edit of one line", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}, {'Y', "xy"}}},
+    {"coloured edit", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}}},
+    {"edit with prompt", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}}},
+    {"fixed edit", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}}},
+    {"list box", ROLE_SYSTEM_LIST, "Name", {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}}},
+    {"drawn list box", ROLE_SYSTEM_LIST, "Name", {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}}},
+    {"list box of many selections",
+     ROLE_SYSTEM_LIST,
+     "Name",
+     {{VK_DOWN, "Row 1 selected"}, {VK_DOWN, "Row 10 selected", VK_SHIFT}}},
+    {"list box of columns",
+     ROLE_SYSTEM_LIST,
+     "Name",
+     {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}}},
+    {"check list",
+     ROLE_SYSTEM_LIST,
+     "Name",
+     {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected checked"}, {VK_SPACE, "Row 1 selected mixed"}}},
+    {"combo",
+     ROLE_SYSTEM_COMBOBOX,
+     "Name",
+     {{VK_DOWN, "Row 0 open", VK_MENU}, {VK_DOWN, nullptr}, {VK_RETURN, "Row 1 closed"}}},
+    {"report list",
+     ROLE_SYSTEM_LIST,
+     "Name",
+     {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}, {VK_DOWN, "Row 2", VK_CONTROL}}},
+    {"tree", ROLE_SYSTEM_OUTLINE, "Name", {{VK_RIGHT, "Row selected open"}}},
+    {"tree view", ROLE_SYSTEM_OUTLINE, "Name", {{VK_RIGHT, "Row selected open"}}},
+    {"status bar", ROLE_SYSTEM_STATUSBAR, "Row"},
+    {"search bar", ROLE_SYSTEM_STATUSBAR, "Row"},
+    {"dialog", ROLE_SYSTEM_DIALOG, "Row", {{VK_TAB, "Row"}, {'X', "x"}}},
+    {"message box",
+     ROLE_SYSTEM_DIALOG,
+     "Title",
+     {{VK_RIGHT, "Cancel"}, {VK_RIGHT, "Yes"}, {VK_LEFT, "Cancel"}}},
+};
+
+const Control& InCatalog(const char* name)
+{
+    return *std::ranges::find_if(
+        Controls(), [name](const Control& control) { return std::string(control.name) == name; });
+}
+
+} // namespace
+
+class KeyboardAlone : public AccessInModes
+{};
+
+INSTANTIATE_TEST_SUITE_P(Controls, KeyboardAlone,
+                         testing::Values(STD, FULLSCREEN, ONBOARD, EFB, EFBFS));
+
+TEST_P(KeyboardAlone, ReachesWorksAndReadsEveryControl)
+{
+    for (const Worked& worked : AllWorked)
+    {
+        SCOPED_TRACE(worked.control);
+        COnBoardUIGeneral::SetAppMode(STD);
+        COnBoardUIGeneral::SetAppTitle("Title"); // of message boxes
+        Stage stage(GetParam());
+        const bool isEdit = worked.role == ROLE_SYSTEM_TEXT;
+        const std::unique_ptr<CWnd> control =
+            InCatalog(worked.control).make(stage, {CRect(20, 60, 220, 220), "Row", 40, !isEdit});
+        ASSERT_TRUE(control);
+        stage.AddLast();
+        const bool onRow = std::string(worked.control) == "report list"; // as the platform's
+        const bool isDialog = worked.role == ROLE_SYSTEM_DIALOG;
+        if (!isDialog)
+        {
+            stage.GetDlgItem(FirstButton)->SetFocus();
+        }
+        PumpAll();
+
+        const Pixels without = WindowPixels(*control);
+        TypeKey(VK_TAB);
+        if (worked.keys.empty())
+        {
+            EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), int(LastButton));
+        }
+        else if (isDialog)
+        {
+            EXPECT_TRUE(control->IsChild(CWnd::GetFocus()));
+        }
+        else
+        {
+            EXPECT_EQ(CWnd::GetFocus(), control.get());
+            EXPECT_TRUE(onRow || WindowPixels(*control) != without) << "the focus is not seen";
+        }
+        const Read read(*Reached(*control), CHILDID_SELF);
+        EXPECT_EQ(read.role, worked.role);
+        EXPECT_EQ(read.name, worked.name);
+        for (const Key& key : worked.keys)
+        {
+            TypeKey(key.key, key.held);
+            if (key.told)
+            {
+                EXPECT_EQ(ToldOfFocus(), key.told);
+            }
+        }
+        EXPECT_TRUE(stage.clicks > 0 || !worked.clicks);
+        if (onRow)
+        {
+            const Pixels with = WindowPixels(*control);
+            TypeKey(VK_TAB);
+            EXPECT_NE(WindowPixels(*control), with) << "the focus is not seen";
+        }
+        control->DestroyWindow();
+    }
+    COnBoardUIGeneral::SetAppTitle("");
+    EXPECT_EQ(AllWorked.size(), Controls().size()) << "a control of the catalog is not here";
+}
+
+TEST_P(KeyboardAlone, ReadsWindowsOfParts)
+{
+    const CRect place(10, 90, 260, 200);
+    Add<CCustomStatic>(CRect(10, 70, 110, 90), 0, "&Runways");
+    auto& report = Add<CCustomListCtrl>(place, LVS_REPORT);
+    report.InsertColumn(0, "Name", LVCFMT_LEFT, 80);
+    report.InsertColumn(1, "Length", LVCFMT_LEFT, 80);
+    PumpAll();
+    const auto* const header = report.GetHeaderCtrl();
+    const Held<IAccessible> headings = Reached(*header);
+    EXPECT_EQ(Read(*headings, CHILDID_SELF).role, ROLE_SYSTEM_LIST);
+    EXPECT_EQ(Read(*headings, CHILDID_SELF).name, "Runways");
+    EXPECT_EQ(Read(*headings, 2).role, ROLE_SYSTEM_COLUMNHEADER);
+    EXPECT_EQ(Read(*headings, 2).name, "Length");
+    EXPECT_EQ(ChildAt(*headings, PlaceOf(*headings, 2).CenterPoint()), 2);
+    Host().Forget();
+    EXPECT_EQ(headings->accDoDefaultAction(Child(2)), S_OK);
+    PumpAll();
+    EXPECT_THAT(Host().CodesFrom(UINT(report.GetDlgCtrlID())),
+                testing::Contains(UINT(LVN_COLUMNCLICK)));
+
+    auto& prompt = Add<EditWithPrompt>(CRect(300, 90, 400, 110));
+    EXPECT_EQ(Read(*Reached(prompt), CHILDID_SELF).name, "<Enter text here>") << "without a label";
+    EXPECT_EQ(Read(*Reached(prompt), CHILDID_SELF).value, "");
+    auto& edit = Add<CCustomEdit>(CRect(300, 120, 400, 150));
+    EXPECT_EQ(Read(*Reached(edit), CHILDID_SELF).state, 0);
+    edit.SetFauxReadOnly();
+    EXPECT_EQ(Read(*Reached(edit), CHILDID_SELF).state, STATE_SYSTEM_READONLY);
+
+    CustomToolbar bar;
+    ASSERT_TRUE(bar.CreateEx(&Host(), TBSTYLE_FLAT | TBSTYLE_LIST, WS_CHILD | WS_VISIBLE));
+    const BYTE styles[] = {TBSTYLE_BUTTON, TBSTYLE_CHECK, TBSTYLE_SEP};
+    for (const BYTE style : styles)
+    {
+        TBBUTTON button = {};
+        button.idCommand = style == TBSTYLE_SEP ? 0 : 700 + style;
+        button.fsStyle = style;
+        button.fsState = TBSTATE_ENABLED;
+        button.iString = INT_PTR("Tool");
+        bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
+    }
+    bar.SetWindowPos(nullptr, 0, 0, 300, 40, SWP_NOZORDER);
+    PumpAll();
+    const Held<IAccessible> tools = Reached(bar);
+    EXPECT_EQ(Read(*tools, CHILDID_SELF).role, ROLE_SYSTEM_TOOLBAR);
+    EXPECT_EQ(Read(*tools, 1).name, "Tool");
+    EXPECT_EQ(Read(*tools, 1).role, ROLE_SYSTEM_PUSHBUTTON);
+    EXPECT_EQ(Read(*tools, 2).role, ROLE_SYSTEM_CHECKBUTTON);
+    EXPECT_EQ(Read(*tools, 3).role, ROLE_SYSTEM_SEPARATOR);
+    EXPECT_EQ(ChildAt(*tools, PlaceOf(*tools, 2).CenterPoint()), 2);
+    EXPECT_EQ(tools->accDoDefaultAction(Child(2)), S_OK);
+    PumpAll();
+    EXPECT_EQ(Read(*tools, 2).state, STATE_SYSTEM_CHECKED);
+
+    struct View : CCustomFormView
+    {
+        View()
+            : CCustomFormView(UINT(IDD_TEST_FORM))
+        {}
+        void PostNcDestroy() override {} // the test owns it
+    } view;
+    ASSERT_TRUE(view.Create(nullptr, "Form", WS_CHILD | WS_VISIBLE, place, &Host(), 5, nullptr));
+    CCustomPropPage page(IDD_TEST_PAGE_1);
+    Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+    sheet.AddPage(&page);
+    sheet.inLoop = [&] {
+        const struct
+        {
+            const CWnd& window;
+            long role;
+            const char* name;
+        } all[] = {{view, ROLE_SYSTEM_PANE, "Form"},
+                   {page, ROLE_SYSTEM_PROPERTYPAGE, "First"},
+                   {sheet, ROLE_SYSTEM_DIALOG, "Sheet"}};
+        for (const auto& [window, role, name] : all)
+        {
+            EXPECT_EQ(Read(*Reached(window), CHILDID_SELF).role, role);
+            EXPECT_EQ(Read(*Reached(window), CHILDID_SELF).name, name);
+        }
+        TypeKey(VK_ESCAPE);
+    };
+    EXPECT_EQ(sheet.DoModal(), IDCANCEL);
+}
