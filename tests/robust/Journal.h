@@ -29,6 +29,103 @@ struct Answer
     {}
 };
 
+// An item of a tree by its text: handles differ.
+inline CString Named(HWND tree, HTREEITEM item)
+{
+    char text[80] = "none";
+    TVITEM asked = {};
+    asked.mask = TVIF_TEXT;
+    asked.hItem = item;
+    asked.pszText = text;
+    asked.cchTextMax = sizeof(text);
+    if (item != nullptr)
+    {
+        ::SendMessage(tree, TVM_GETITEM, 0, LPARAM(&asked));
+    }
+    return text;
+}
+
+template <class... Values> std::string Joined(const Values&... values)
+{
+    std::ostringstream line;
+    ((line << ' ' << values), ...);
+    return line.str();
+}
+
+template <class Record> const Record& About(const NMHDR& header)
+{
+    return reinterpret_cast<const Record&>(header);
+}
+
+// What a notification is about, as text.
+inline std::string Essentials(const NMHDR& header)
+{
+    const auto named = [&](HTREEITEM item) { return Named(header.hwndFrom, item); };
+    const auto text = [](const char* own) { return own != nullptr ? own : "none"; };
+    const int code = int(header.code);
+    const auto within = [&](int first, int last) { return code <= first && code >= last; };
+    char kind[40] = "";
+    ::GetClassName(header.hwndFrom, kind, sizeof(kind));
+    switch (header.code)
+    {
+    case NM_CLICK:
+    case NM_LDOWN:
+        if (::lstrcmpi(kind, WC_TREEVIEW) == 0)
+        {
+            return {};
+        }
+        return ::lstrcmpi(kind, WC_LISTVIEW) == 0 ? Joined(About<NMITEMACTIVATE>(header).iItem,
+                                                           About<NMITEMACTIVATE>(header).iSubItem)
+                                                  : Joined(int(About<NMMOUSE>(header).dwItemSpec));
+    case LVN_KEYDOWN:
+        return Joined(About<NMLVKEYDOWN>(header).wVKey);
+    case TVN_KEYDOWN:
+        return Joined(About<NMTVKEYDOWN>(header).wVKey);
+    case LVN_BEGINLABELEDIT:
+    case LVN_ENDLABELEDIT:
+        return Joined(About<NMLVDISPINFO>(header).item.iItem,
+                      text(About<NMLVDISPINFO>(header).item.pszText));
+    case TVN_BEGINLABELEDIT:
+    case TVN_ENDLABELEDIT:
+    {
+        const TVITEM& item = About<NMTVDISPINFO>(header).item;
+        return Joined(named(item.hItem), item.lParam, text(item.pszText));
+    }
+    case LVN_ODFINDITEMA:
+    case LVN_ODFINDITEMW:
+        return Joined(About<NMLVFINDITEM>(header).iStart, About<NMLVFINDITEM>(header).lvfi.flags);
+    case LVN_ODSTATECHANGED:
+    {
+        const auto& change = About<NMLVODSTATECHANGE>(header);
+        return Joined(change.iFrom, change.iTo, change.uOldState, change.uNewState);
+    }
+    default:
+        break;
+    }
+    if (within(LVN_FIRST, LVN_LAST))
+    {
+        const auto& change = About<NMLISTVIEW>(header);
+        return Joined(change.iItem, change.iSubItem, change.uOldState, change.uNewState,
+                      change.lParam);
+    }
+    if (within(HDN_FIRST, HDN_LAST))
+    {
+        const HDITEM none = {};
+        const HDITEM& item =
+            About<NMHEADER>(header).pitem != nullptr ? *About<NMHEADER>(header).pitem : none;
+        return Joined(About<NMHEADER>(header).iItem, About<NMHEADER>(header).iButton,
+                      (item.mask & HDI_WIDTH) != 0 ? item.cxy : -1,
+                      (item.mask & HDI_ORDER) != 0 ? item.iOrder : -1);
+    }
+    if (within(TVN_FIRST, TVN_LAST))
+    {
+        const auto& change = About<NMTREEVIEW>(header);
+        return Joined(change.action, named(change.itemOld.hItem), change.itemOld.lParam,
+                      named(change.itemNew.hItem), change.itemNew.lParam);
+    }
+    return within(TBN_FIRST, TBN_LAST) ? Joined(About<NMTOOLBAR>(header).iItem) : std::string();
+}
+
 // What a control answered and told its parent, line by line.
 class Journal
 {
@@ -38,9 +135,9 @@ public:
         , m_control(control)
         , m_inTheMiddle(std::move(inTheMiddle))
     {
-        m_host.AlsoRecord({WM_MEASUREITEM, WM_DELETEITEM, WM_COMPAREITEM, WM_VKEYTOITEM,
-                           WM_CHARTOITEM, WM_CONTEXTMENU, WM_VSCROLL, WM_HSCROLL});
-        m_host.hook = [this](const ToldMessage& told) { Tell(told); };
+        m_host.AlsoRecord({WM_MEASUREITEM, WM_DELETEITEM, WM_COMPAREITEM, WM_DRAWITEM,
+                           WM_VKEYTOITEM, WM_CHARTOITEM, WM_CONTEXTMENU, WM_VSCROLL, WM_HSCROLL});
+        m_host.hook = [this](ToldMessage& told) { Tell(told); };
     }
     Journal(const Journal&) = delete;
     Journal& operator=(const Journal&) = delete;
@@ -61,11 +158,22 @@ public:
         PumpAll();
     }
 
+    HostWindow& Host() { return m_host; }
+    // What the host says to what it is told; by default nothing.
+    std::function<void(ToldMessage&)> answer;
+
     // Input. The points are the control's, of its window.
     Answer Key(UINT key, UINT held = 0)
     {
         m_control.SetFocus();
         TypeKey(key, held);
+        return key;
+    }
+    // To whatever has the focus.
+    static Answer Enter(const char* text, UINT key)
+    {
+        TypeText(text);
+        TypeKey(key);
         return key;
     }
     Answer Press(int x, int y)
@@ -78,9 +186,9 @@ public:
     {
         if (m_inTheMiddle)
         {
-            m_host.hook = nullptr;
+            m_writing = false;
             m_inTheMiddle();
-            m_host.hook = [this](const ToldMessage& told) { Tell(told); };
+            m_writing = true;
         }
         return 0;
     }
@@ -92,35 +200,52 @@ private:
     CWnd& m_control;
     std::function<void()> m_inTheMiddle;
     std::vector<std::string> m_lines;
+    bool m_writing = true;
 
-    void Tell(const ToldMessage& told)
+    void Tell(ToldMessage& told)
     {
-        std::ostringstream line;
-        line << "    told " << told.message << ' ' << told.id << ' ' << int(told.code);
-        if (told.message == WM_NOTIFY)
+        if (answer)
         {
-            const auto* header = reinterpret_cast<const NMHDR*>(told.lParam);
-            if (told.code == UINT(NM_CUSTOMDRAW) || told.code == UINT(LVN_GETDISPINFO))
+            answer(told);
+        }
+        if (!m_writing || told.message == WM_DRAWITEM)
+        {
+            return; // comes with painting, whose times are the display's
+        }
+        std::string line = "    told" + Joined(told.message, told.id, int(told.code));
+        switch (told.message)
+        {
+        case WM_NOTIFY:
+            if (told.code == UINT(NM_CUSTOMDRAW) || told.code == UINT(LVN_GETDISPINFO) ||
+                told.code == UINT(LVN_ODCACHEHINT))
             {
-                return; // comes with painting, whose times are the display's
+                return; // also with painting
             }
-            if (told.code == UINT(LVN_ITEMCHANGED) || told.code == UINT(LVN_ITEMCHANGING))
-            {
-                const auto* change = reinterpret_cast<const NMLISTVIEW*>(header);
-                line << " row " << change->iItem << ' ' << change->uOldState << " to "
-                     << change->uNewState;
-            }
-        }
-        else if (told.message != WM_COMMAND && told.message != WM_CONTEXTMENU)
+            line += Essentials(*reinterpret_cast<const NMHDR*>(told.lParam));
+            break;
+        case WM_COMMAND:
+        case WM_CONTEXTMENU:
+            break;
+        case WM_DELETEITEM:
         {
-            line << ' ' << LOWORD(told.wParam) << ' ' << HIWORD(told.wParam);
+            const auto& item = *reinterpret_cast<const DELETEITEMSTRUCT*>(told.lParam);
+            line += Joined(item.itemID, item.itemData);
+            break;
         }
-        if (told.message == WM_DELETEITEM)
+        case WM_MEASUREITEM:
+            line += Joined(reinterpret_cast<const MEASUREITEMSTRUCT*>(told.lParam)->itemID);
+            break;
+        case WM_COMPAREITEM:
         {
-            const auto* item = reinterpret_cast<const DELETEITEMSTRUCT*>(told.lParam);
-            line << " row " << item->itemID << " data " << item->itemData;
+            const auto& items = *reinterpret_cast<const COMPAREITEMSTRUCT*>(told.lParam);
+            line += Joined(int(items.itemID1), int(items.itemID2));
+            break;
         }
-        m_lines.push_back(line.str());
+        default:
+            line += Joined(LOWORD(told.wParam), HIWORD(told.wParam));
+            break;
+        }
+        m_lines.push_back(line);
     }
 };
 

@@ -1,43 +1,28 @@
-// In the standard mode a control of the library is the platform's: one script gives the same
-// answers and tells the parent the same, in the same order, on both; also when the display has
-// been through all other modes, before the script or in the middle of it.
+// Parity of buttons, labels, edits, bars and the combo's items.
 
+#include "BoldStatic.h"
 #include "ColorEdit.h"
+#include "ColorStatic.h"
+#include "ColoredGroupBox.h"
 #include "CustomCheckBox.h"
-#include "CustomChecklistBox.h"
 #include "CustomDropListCombo.h"
 #include "CustomEdit.h"
-#include "CustomListBox.h"
-#include "CustomListCtrl.h"
 #include "CustomPushbutton.h"
 #include "CustomRadiobutton.h"
 #include "CustomStatic.h"
-#include "CustomStatusBar.h"
 #include "CustomToolbar.h"
-#include "MultiTree.h"
-#include "robust/Journal.h"
-
-#include <algorithm>
+#include "EditWithPrompt.h"
+#include "QuixEdit.h"
+#include "SearchStatusBar.h"
+#include "robust/Parity.h"
 
 namespace {
-
-const CRect Room(40, 30, 300, 230);
-constexpr UINT Id = 77;
-
-// Scripts ---------------------------------------------------------------------------------------
 
 CString TextOf(const CWnd& window)
 {
     CString text;
     window.GetWindowText(text);
     return text;
-}
-
-template <class Fill> CRect Filled(Fill fill)
-{
-    CRect rect;
-    fill(&rect);
-    return rect;
 }
 
 void PressAndCheck(CButton& button, Journal& journal)
@@ -60,6 +45,41 @@ void Label(CStatic& label, Journal& journal)
     ASK(TextOf(label), (label.SetWindowText("Two\r\nlines"), 0), journal.Press(10, 10),
         journal.Press(10, 10), journal.Middle(), TextOf(label), label.SendMessage(WM_GETDLGCODE),
         label.SetIcon(::LoadIcon(nullptr, IDI_WARNING)) == nullptr, label.GetIcon() == nullptr);
+}
+
+// A group of three, the head of the next one and a box around them, which alone is told of the
+// clicks on our buttons in it. The arrow keys are the dialog's.
+template <class Radio, class Frame> void Group(Radio& first, Journal& journal)
+{
+    constexpr DWORD Child = WS_CHILD | WS_VISIBLE;
+    HostWindow& host = journal.Host();
+    Radio others[3];
+    for (int index = 0; index < 3; ++index)
+    {
+        others[index].CreateEx(
+            0, "BUTTON", "Other",
+            Child | BS_AUTORADIOBUTTON | BS_NOTIFY | (index == 2 ? WS_GROUP | WS_TABSTOP : 0),
+            CRect(320, 40 * index, 420, 40 * index + 30), &host, UINT(80 + index));
+    }
+    Frame frame;
+    frame.CreateEx(0, "BUTTON", "Frame", Child | BS_GROUPBOX, CRect(300, 0, 500, 300), &host, 90U);
+    const auto step = [&](UINT key) {
+        MSG message = {::GetFocus(), WM_KEYDOWN, key, 1, 0, {}};
+        ::IsDialogMessage(host, &message);
+        PumpAll();
+        return ::GetDlgCtrlID(::GetFocus());
+    };
+    const auto checks = [&] {
+        return first.GetCheck() * 1000 + others[0].GetCheck() * 100 + others[1].GetCheck() * 10 +
+               others[2].GetCheck();
+    };
+    ASK(journal.Press(10, 10), checks(), step(VK_DOWN), checks(), step(VK_DOWN), checks(),
+        journal.Middle(), step(VK_DOWN), checks(), step(VK_LEFT), checks(), step(VK_RIGHT),
+        checks(), journal.Press(290, -20), checks(), (others[0].SetFocus(), 0), step(VK_UP),
+        checks(), (others[1].EnableWindow(FALSE), 0), step(VK_UP), checks(), step(VK_TAB), checks(),
+        (first.SetCheck(0), 0), (others[2].SendMessage(BM_CLICK), 0), checks(),
+        first.SendMessage(WM_GETDLGCODE), others[0].SendMessage(WM_GETDLGCODE),
+        frame.SendMessage(WM_GETDLGCODE), TextOf(frame));
 }
 
 CString LineOf(const CEdit& edit, int line)
@@ -89,162 +109,35 @@ void Write(CEdit& edit, Journal& journal)
         TextOf(edit), edit.SendMessage(WM_GETDLGCODE));
 }
 
-CString RowText(const CListBox& list, int row)
+void Order(CToolBar& bar, Journal& journal)
 {
-    char text[80] = ""; // of a list without strings, its data
-    ::SendMessage(list, LB_GETTEXT, WPARAM(row), reinterpret_cast<LPARAM>(text));
-    return text;
-}
-
-void Pick(CListBox& list, Journal& journal)
-{
-    const char* const texts[] = {"Gamma", "Alpha", "Delta", "Beta", "Alphabet"};
-    for (const char* const text : texts)
-    {
-        ASK(list.AddString(text));
-    }
-    ASK(list.FindStringExact(-1, texts[3]), list.FindString(2, texts[1]),
-        list.SelectString(1, texts[2]), list.InsertString(1, "Inserted"),
-        list.InsertString(99, "Nowhere"), list.InsertString(-1, "Last"), list.GetCount());
-    for (int row = -1; row < 8; ++row)
-    {
-        ASK(RowText(list, row), list.SetItemData(row, DWORD_PTR(row) * 3));
-    }
-    ASK(list.FindString(-1, "alp"), list.FindString(3, "alp"), list.FindStringExact(-1, "ALPHA"),
-        list.FindStringExact(-1, "Alp"), list.SelectString(-1, "Del"), list.SetCurSel(2),
-        list.SetCurSel(99), list.GetCurSel(), list.SetCurSel(3), list.SetSel(4),
-        list.SelItemRange(TRUE, 1, 2), list.GetSelCount(), list.GetSel(4), journal.Middle());
-    for (int row = -1; row < 8; ++row)
-    {
-        ASK(list.GetItemData(row), list.GetSel(row));
-    }
-    ASK(list.GetCurSel(), list.GetCaretIndex(), list.GetAnchorIndex(), journal.Key(VK_DOWN),
-        journal.Key(VK_END, VK_SHIFT), list.GetCurSel(), list.GetSelCount(), journal.Press(30, 20),
-        list.GetCurSel(), journal.Press(30, 20), journal.Key('D'), list.GetCurSel(),
-        journal.Key(VK_SPACE));
-    for (int row = 0; row < 40; ++row)
-    {
-        list.AddString("Row");
-    }
-    ASK(list.GetTopIndex(), list.SetTopIndex(20), list.GetTopIndex(),
-        (list.SendMessage(WM_VSCROLL, SB_LINEDOWN), 0), list.GetTopIndex(),
-        (list.SendMessage(WM_VSCROLL, SB_PAGEUP), 0), list.GetTopIndex(),
-        journal.Press(Room.Width() - 8, Room.Height() - 8), list.GetTopIndex(),
-        (Wheel(-WHEEL_DELTA), 0), list.GetTopIndex(), (list.SendMessage(WM_VSCROLL, SB_BOTTOM), 0),
-        list.GetTopIndex(), journal.Key(VK_PRIOR), list.GetTopIndex(), list.GetScrollPos(SB_VERT),
-        list.GetItemHeight(0), Filled([&](CRect* rect) { list.GetItemRect(30, rect); }),
-        list.SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(20, 40)), list.DeleteString(3),
-        list.DeleteString(99), list.GetCount(), list.GetCurSel(), (list.ResetContent(), 0),
-        list.GetCount(), list.GetTopIndex(), list.GetCurSel(), list.SendMessage(WM_GETDLGCODE));
-}
-
-CString Heading(CListCtrl& list, int column)
-{
-    char text[40] = "";
-    HDITEM item = {};
-    item.mask = HDI_TEXT | HDI_WIDTH;
-    item.pszText = text;
-    item.cchTextMax = sizeof(text);
-    const BOOL there = list.GetHeaderCtrl()->GetItem(column, &item);
-    CString line;
-    line.Format("%d %s %d", there, text, item.cxy);
-    return line;
-}
-
-void Report(CListCtrl& list, Journal& journal)
-{
-    for (const char* const column : {"Name", "Kind", "Course"})
-    {
-        LVCOLUMN inserted = {};
-        inserted.mask = LVCF_TEXT | LVCF_WIDTH;
-        inserted.pszText = const_cast<char*>(column);
-        inserted.cx = 70;
-        ASK(list.InsertColumn(9, &inserted));
-    }
-    for (const char* const text : {"EDDF", "LSZH", "KJFK", "EGLL"})
-    {
-        ASK(list.InsertItem(0, text));
-    }
-    ASK(list.InsertItem(-5, "none"), list.SetItemText(1, 1, "Airport"), list.GetItemText(1, 1),
-        list.SetItemText(77, 1, "none"), list.SetItemData(2, 42), list.GetItemData(2),
-        list.GetItemCount());
-    LVFINDINFO find = {};
-    find.flags = LVFI_STRING;
-    find.psz = "LSZH";
-    ASK(list.FindItem(&find), list.FindItem(&find, 3),
-        list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED),
-        list.GetSelectedCount(), journal.Middle(), list.GetNextItem(-1, LVNI_SELECTED),
-        list.GetNextItem(-1, LVNI_FOCUSED), list.GetItemText(1, 1), journal.Key(VK_DOWN),
-        journal.Key(VK_DOWN, VK_SHIFT), list.GetSelectedCount(), journal.Press(30, 50),
-        list.GetNextItem(-1, LVNI_SELECTED), list.GetSelectionMark(), journal.Key('K'),
-        list.GetNextItem(-1, LVNI_FOCUSED), journal.Press(30, 8));
-    for (int column = 0; column < 4; ++column)
-    {
-        ASK(Heading(list, column));
-    }
-    ASK(list.GetHeaderCtrl()->GetItemCount(), list.SetColumnWidth(1, 90), list.GetColumnWidth(1));
-    for (int row = 0; row < 40; ++row)
-    {
-        list.InsertItem(4 + row, "Row");
-    }
-    Drag(WindowPoint(list, CPoint(72, 10)), WindowPoint(list, CPoint(102, 10)));
-    ASK(list.GetCountPerPage(), list.EnsureVisible(30, FALSE), list.GetTopIndex(),
-        list.GetColumnWidth(0), (Wheel(WHEEL_DELTA), 0), list.GetTopIndex(),
-        list.Scroll(CSize(0, -100)), list.GetTopIndex(),
-        Filled([&](CRect* rect) { list.GetItemRect(5, rect, LVIR_BOUNDS); }),
-        (list.SendMessage(WM_VSCROLL, SB_PAGEDOWN), 0), list.GetTopIndex(),
-        list.HitTest(CPoint(20, 60)), list.DeleteItem(1), list.DeleteItem(99), list.DeleteColumn(2),
-        list.DeleteAllItems(), list.GetItemCount(), list.SendMessage(WM_GETDLGCODE));
-}
-
-// Items by their texts: handles differ.
-CString Named(CTreeCtrl& tree, HTREEITEM item)
-{
-    return item != nullptr ? tree.GetItemText(item) : CString("none");
-}
-
-void Branch(CTreeCtrl& tree, Journal& journal)
-{
-    const HTREEITEM first = tree.InsertItem("First");
-    const HTREEITEM second = tree.InsertItem("Second");
-    const HTREEITEM leaf = tree.InsertItem("Leaf", first);
-    tree.InsertItem("Blade", first, TVI_SORT);
-    for (int row = 0; row < 30; ++row)
-    {
-        tree.InsertItem("Row");
-    }
-    ASK(tree.GetCount(), Named(tree, tree.GetChildItem(first)),
-        Named(tree, tree.GetParentItem(leaf)), Named(tree, tree.GetNextSiblingItem(first)),
-        tree.SetItemData(second, 42), tree.SetItemText(leaf, "Renamed"),
-        tree.Expand(first, TVE_EXPAND), tree.ItemHasChildren(first), tree.SelectItem(leaf),
-        Named(tree, tree.GetSelectedItem()), journal.Middle(), Named(tree, tree.GetSelectedItem()),
-        tree.GetItemData(second), tree.GetItemState(first, TVIS_EXPANDED), journal.Key(VK_DOWN),
-        Named(tree, tree.GetSelectedItem()), journal.Key(VK_HOME), journal.Key(VK_LEFT),
-        tree.GetItemState(first, TVIS_EXPANDED), journal.Key('S'),
-        Named(tree, tree.GetSelectedItem()), journal.Press(60, 10),
-        Named(tree, tree.GetSelectedItem()), tree.GetVisibleCount(),
-        tree.SelectSetFirstVisible(second), Named(tree, tree.GetFirstVisibleItem()),
-        tree.EnsureVisible(leaf), Named(tree, tree.GetFirstVisibleItem()), tree.GetItemHeight(),
-        tree.GetIndent(), Named(tree, tree.HitTest(CPoint(60, 30))), tree.SortChildren(TVI_ROOT),
-        Named(tree, tree.GetRootItem()), tree.DeleteItem(second), tree.GetCount(),
-        tree.DeleteAllItems(), tree.GetCount(), tree.SendMessage(WM_GETDLGCODE));
-}
-
-void Order(CWnd& bar, Journal& journal)
-{
+    ASK(bar.SendMessage(TB_ADDSTRING, 0, LPARAM("Chart\0Plate\0")));
     for (int id = 1; id <= 4; ++id)
     {
         TBBUTTON button = {};
         button.idCommand = id;
         button.fsState = TBSTATE_ENABLED;
         button.fsStyle = id == 3 ? BTNS_CHECK : BTNS_BUTTON;
+        button.iString = id % 2;
         ASK(bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button)));
     }
-    ASK(bar.SendMessage(TB_BUTTONCOUNT), bar.SendMessage(TB_COMMANDTOINDEX, 3),
+    TBBUTTON inserted = {};
+    inserted.idCommand = 9;
+    inserted.fsState = TBSTATE_ENABLED;
+    inserted.iString = INT_PTR("Own");
+    ASK(bar.SendMessage(TB_BUTTONCOUNT), bar.CommandToIndex(3),
         bar.SendMessage(TB_CHECKBUTTON, 3, TRUE), bar.SendMessage(TB_ENABLEBUTTON, 2, FALSE),
-        bar.SendMessage(TB_HIDEBUTTON, 99, TRUE), journal.Middle(),
-        bar.SendMessage(TB_ISBUTTONCHECKED, 3), bar.SendMessage(TB_ISBUTTONENABLED, 2),
-        journal.Press(10, 12), bar.SendMessage(TB_GETBUTTONSIZE),
+        bar.SendMessage(TB_HIDEBUTTON, 99, TRUE),
+        bar.SendMessage(TB_INSERTBUTTON, 1, LPARAM(&inserted)), bar.SetButtonText(0, "Changed"),
+        bar.SendMessage(TB_MOVEBUTTON, 4, 2), bar.SendMessage(TB_SETCMDID, 3, 7), journal.Middle());
+    for (int index = 0; index < 5; ++index)
+    {
+        ASK(bar.GetItemID(index), bar.GetButtonText(index),
+            Filled([&](CRect* rect) { bar.GetItemRect(index, rect); }),
+            bar.SendMessage(TB_GETSTATE, bar.GetItemID(index)), bar.GetButtonStyle(index));
+    }
+    ASK(bar.SendMessage(TB_ISBUTTONCHECKED, 3), bar.SendMessage(TB_ISBUTTONENABLED, 2),
+        journal.Press(10, 12), journal.Press(70, 12), bar.SendMessage(TB_GETBUTTONSIZE),
         bar.SendMessage(TB_DELETEBUTTON, 1), bar.SendMessage(TB_BUTTONCOUNT));
 }
 
@@ -264,67 +157,6 @@ void Panes(CStatusBarCtrl& bar, Journal& journal)
 
 // The tests -------------------------------------------------------------------------------------
 
-class Parity : public WindowTest
-{
-protected:
-    using Lines = std::vector<std::string>;
-
-    static void ThroughAllModes()
-    {
-        for (const APPMODE mode : {APPMODE(1), APPMODE(2), APPMODE(3), APPMODE(4), STD})
-        {
-            COnBoardUIGeneral::SetAppMode(mode);
-            PumpAll();
-        }
-    }
-
-    // What the script gives on one control.
-    template <class Control, class Script>
-    Lines Played(const char* windowClass, DWORD style, Script script, bool before, bool within)
-    {
-        Control control;
-        control.CWnd::CreateEx(WS_EX_CLIENTEDGE, windowClass, "Text",
-                               style | WS_CHILD | WS_VISIBLE | WS_TABSTOP, Room, &Host(), Id);
-        PumpAll();
-        if (before)
-        {
-            ThroughAllModes();
-        }
-        Journal journal(Host(), control,
-                        within ? std::function<void()>(&Parity::ThroughAllModes) : nullptr);
-        script(control, journal);
-        Lines lines = journal.Lines();
-        control.DestroyWindow();
-        return lines;
-    }
-
-    template <class Ours, class Platforms, class Script>
-    void Compare(const char* windowClass, DWORD style, Script script)
-    {
-        const Lines wanted = Played<Platforms>(windowClass, style, script, false, false);
-        EXPECT_GT(wanted.size(), 2U);
-        for (const auto& [before, within] : {std::pair{false, false}, {true, false}, {false, true}})
-        {
-            const Lines given = Played<Ours>(windowClass, style, script, before, within);
-            const auto [left, right] = std::ranges::mismatch(wanted, given);
-            if (left == wanted.end() && right == given.end())
-            {
-                continue;
-            }
-            std::string last;
-            for (auto back = left - std::min<ptrdiff_t>(4, left - wanted.begin()); back != left;
-                 ++back)
-            {
-                last += "\n  " + *back;
-            }
-            ADD_FAILURE() << windowClass << " of style " << style << ", modes before " << before
-                          << ", within " << within << last
-                          << "\nplatform: " << (left != wanted.end() ? *left : "(end)")
-                          << "\nours:     " << (right != given.end() ? *right : "(end)");
-        }
-    }
-};
-
 TEST_F(Parity, Buttons)
 {
     Compare<CCustomPushbutton, CButton>("BUTTON", BS_PUSHBUTTON | BS_NOTIFY, &PressAndCheck);
@@ -334,11 +166,38 @@ TEST_F(Parity, Buttons)
     Compare<CCustomRadiobutton, CButton>("BUTTON", BS_AUTORADIOBUTTON | WS_GROUP, &PressAndCheck);
 }
 
+TEST_F(Parity, RadioGroups)
+{
+    const auto script = []<class Radio>(Radio& first, Journal& journal) {
+        constexpr bool Ours = std::is_same_v<Radio, CCustomRadiobutton>;
+        Group<Radio, std::conditional_t<Ours, CCustomStatic, CStatic>>(first, journal);
+    };
+    for (const DWORD head : {DWORD(WS_GROUP), DWORD(0)})
+    {
+        Compare<CCustomRadiobutton, CButton>("BUTTON", BS_AUTORADIOBUTTON | BS_NOTIFY | head,
+                                             script);
+    }
+}
+
+struct Swatch : CColorStatic
+{
+    Swatch() { Set(RGB(20, 40, 60)); }
+};
+
 TEST_F(Parity, Labels)
 {
     Compare<CCustomStatic, CStatic>("STATIC", SS_NOTIFY, &Label);
     Compare<CCustomStatic, CStatic>("STATIC", SS_NOTIFY | SS_ICON, &Label);
+    Compare<CCustomStatic, CStatic>("BUTTON", BS_GROUPBOX | BS_NOTIFY, &Label);
+    Compare<CBoldStatic, CStatic>("STATIC", SS_NOTIFY, &Label);
+    Compare<Swatch, CStatic>("STATIC", SS_NOTIFY, &Label);
+    Compare<CColoredGroupBox, CStatic>("STATIC", SS_NOTIFY, &Label);
 }
+
+struct Fixed : QuixEdit
+{
+    Fixed() { SetFixedPlace(Room.left, Room.top, Room.Width()); }
+};
 
 TEST_F(Parity, Edits)
 {
@@ -348,89 +207,16 @@ TEST_F(Parity, Edits)
         Compare<CCustomEdit, CEdit>("EDIT", style, &Write);
     }
     Compare<ColorEdit, CEdit>("EDIT", ES_AUTOHSCROLL, &Write);
-}
-
-TEST_F(Parity, ListBoxes)
-{
-    constexpr DWORD Common = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL;
-    for (const DWORD style :
-         {DWORD(0), DWORD(LBS_SORT), DWORD(LBS_MULTIPLESEL), DWORD(LBS_EXTENDEDSEL),
-          DWORD(LBS_MULTICOLUMN | WS_HSCROLL), DWORD(LBS_WANTKEYBOARDINPUT)})
-    {
-        Compare<CCustomListBox, CListBox>("LISTBOX", Common | style, &Pick);
-    }
-}
-
-int InOrder(const COMPAREITEMSTRUCT& compare)
-{
-    return compare.itemData1 < compare.itemData2 ? -1 : int(compare.itemData1 > compare.itemData2);
-}
-
-// Rows as high as those of the check list.
-class DrawnRows : public CListBox
-{
-    void MeasureItem(LPMEASUREITEMSTRUCT measure) override
-    {
-        measure->itemHeight = (GetStyle() & LBS_HASSTRINGS) != 0 ? 16 : 15;
-    }
-    int CompareItem(LPCOMPAREITEMSTRUCT compare) override { return InOrder(*compare); }
-};
-
-// Each row has a check, beside which the list keeps the caller's data. In the automatic styles the
-// space key checks, instead of being looked up.
-class Checked : public CCustomChecklistBox
-{
-public:
-    Checked() { SetCheckStyle(BS_CHECKBOX); }
-
-private:
-    int CompareItem(LPCOMPAREITEMSTRUCT compare) override { return InOrder(*compare); }
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        const LRESULT result = CCustomChecklistBox::WindowProc(message, wParam, lParam);
-        if (message == LB_ADDSTRING || message == LB_INSERTSTRING)
-        {
-            SetCheck(int(result), 1);
-        }
-        return result;
-    }
-};
-
-TEST_F(Parity, CheckLists)
-{
-    constexpr DWORD Style = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | LBS_OWNERDRAWFIXED;
-    for (const DWORD style : {LBS_HASSTRINGS, LBS_HASSTRINGS | LBS_SORT,
-                              LBS_HASSTRINGS | LBS_EXTENDEDSEL, 0L, LBS_SORT})
-    {
-        Compare<Checked, DrawnRows>("LISTBOX", Style | style, &Pick);
-    }
-}
-
-TEST_F(Parity, Reports)
-{
-    for (const DWORD style : {DWORD(LVS_SHOWSELALWAYS), DWORD(LVS_SINGLESEL | LVS_SORTASCENDING)})
-    {
-        Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, LVS_REPORT | style, &Report);
-    }
-}
-
-// A tree of many selections has keys and presses of its own.
-class SingleTree : public MultiTree
-{
-public:
-    SingleTree() { SetMultiSelect(false); }
-};
-
-TEST_F(Parity, Trees)
-{
-    Compare<SingleTree, CTreeCtrl>(WC_TREEVIEW, TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES,
-                                   &Branch);
+    // Its prompt, of which the platform knows nothing, goes with the script's first text.
+    Compare<EditWithPrompt, CEdit>("EDIT", ES_AUTOHSCROLL, &Write);
+    Compare<Fixed, CEdit>("EDIT", ES_AUTOHSCROLL, &Write);
 }
 
 TEST_F(Parity, Bars)
 {
     constexpr DWORD Still = CCS_NOPARENTALIGN | CCS_NORESIZE | CCS_NODIVIDER;
     Compare<CCustomStatusBar, CStatusBarCtrl>(STATUSCLASSNAME, Still, &Panes);
+    Compare<CSearchStatusBar, CStatusBarCtrl>(STATUSCLASSNAME, Still, &Panes);
     Compare<CustomToolbar, CToolBar>(TOOLBARCLASSNAME, Still | TBSTYLE_FLAT, &Order);
 }
 
