@@ -174,7 +174,7 @@ void Report(CListCtrl& list, Journal& journal)
         list.InsertItem(4 + row, "Row");
     }
     Drag(WindowPoint(list, CPoint(72, 10)), WindowPoint(list, CPoint(102, 10)));
-    ASK(list.GetCountPerPage(), list.EnsureVisible(30, FALSE), list.GetTopIndex(),
+    ASK(list.GetCountPerPage(), list.EnsureVisible(30, FALSE), journal.Middle(), list.GetTopIndex(),
         list.GetColumnWidth(0), (Wheel(WHEEL_DELTA), 0), list.GetTopIndex(),
         list.Scroll(CSize(0, -100)), list.GetTopIndex(),
         Filled([&](CRect* rect) { list.GetItemRect(5, rect, LVIR_BOUNDS); }),
@@ -207,8 +207,8 @@ void Asked(CListCtrl& list, Journal& journal)
         list.SetItemState(5, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED),
         list.GetSelectedCount(), journal.Middle(), list.GetNextItem(-1, LVNI_SELECTED),
         journal.Key(VK_DOWN), journal.Key(VK_DOWN, VK_SHIFT), list.GetSelectedCount(),
-        list.FindItem(&find), list.EnsureVisible(120, FALSE), list.GetTopIndex(), journal.Key('4'),
-        list.GetNextItem(-1, LVNI_FOCUSED), journal.Press(30, 50),
+        list.FindItem(&find), list.EnsureVisible(120, FALSE), journal.Middle(), list.GetTopIndex(),
+        journal.Key('4'), list.GetNextItem(-1, LVNI_FOCUSED), journal.Press(30, 50),
         list.GetNextItem(-1, LVNI_SELECTED), journal.Key(VK_END, VK_SHIFT), list.GetSelectedCount(),
         list.SetItemState(-1, 0, LVIS_SELECTED), list.GetSelectedCount(),
         list.InsertItem(0, "none"), list.DeleteItem(3), list.SortItems(&ByData, 1),
@@ -277,9 +277,10 @@ void Branch(CTreeCtrl& tree, Journal& journal)
         tree.GetItemState(first, TVIS_EXPANDED), journal.Key('S'),
         Named(tree, tree.GetSelectedItem()), journal.Press(60, 10),
         Named(tree, tree.GetSelectedItem()), tree.GetVisibleCount(),
-        tree.SelectSetFirstVisible(second), Named(tree, tree.GetFirstVisibleItem()),
-        tree.EnsureVisible(leaf), Named(tree, tree.GetFirstVisibleItem()), tree.GetItemHeight(),
-        tree.GetIndent(), Named(tree, tree.HitTest(CPoint(60, 30))), tree.SortChildren(TVI_ROOT),
+        tree.SelectSetFirstVisible(second), journal.Middle(),
+        Named(tree, tree.GetFirstVisibleItem()), tree.EnsureVisible(leaf),
+        Named(tree, tree.GetFirstVisibleItem()), tree.GetItemHeight(), tree.GetIndent(),
+        Named(tree, tree.HitTest(CPoint(60, 30))), tree.SortChildren(TVI_ROOT),
         Named(tree, tree.GetRootItem()), tree.SortChildrenCB(&sort),
         Named(tree, tree.GetRootItem()), tree.SelectDropTarget(second),
         Named(tree, tree.GetDropHilightItem()), tree.DeleteItem(second), tree.GetCount(),

@@ -99,13 +99,16 @@ void Write(CEdit& edit, Journal& journal)
         (edit.SetModify(FALSE), 0), (edit.SetSel(-1, -1), 0), (edit.SetSel(4, 4), 0),
         journal.Key('W'), journal.Key(VK_BACK), journal.Key(VK_END, VK_SHIFT), edit.GetSel(),
         journal.Key(VK_DELETE), journal.Key(VK_DOWN), edit.GetSel(), TextOf(edit),
-        (edit.LineScroll(3), 0), edit.GetFirstVisibleLine(), edit.SendMessage(EM_SCROLL, SB_LINEUP),
-        edit.GetFirstVisibleLine(), (edit.SendMessage(EM_SCROLLCARET), 0), journal.Press(20, 12),
-        edit.GetSel(), edit.CharFromPos(CPoint(30, 6)), edit.PosFromChar(1),
+        (edit.LineScroll(3), 0), journal.Middle(), edit.GetFirstVisibleLine(),
+        edit.SendMessage(EM_SCROLL, SB_LINEUP), edit.GetFirstVisibleLine(),
+        (edit.SendMessage(EM_SCROLLCARET), 0), journal.Press(20, 12), edit.GetSel(),
+        edit.CharFromPos(CPoint(30, 6)), edit.PosFromChar(1),
         Filled([&](CRect* rect) { edit.GetRect(rect); }), edit.GetMargins(),
         (edit.SetLimitText(6), 0), edit.GetLimitText(), (edit.SetSel(0, -1), 0),
         (edit.ReplaceSel("Longer than six"), 0), TextOf(edit), (edit.SetSel(1, 3), 0),
-        (edit.Cut(), 0), (edit.Paste(), 0), TextOf(edit), edit.SetReadOnly(), journal.Key('X'),
+        (edit.Cut(), 0), (edit.Paste(), 0), TextOf(edit), (edit.SetSel(0, 2), 0),
+        journal.Key('X', VK_CONTROL), TextOf(edit), journal.Key('V', VK_CONTROL), TextOf(edit),
+        journal.Key('Z', VK_CONTROL), TextOf(edit), edit.SetReadOnly(), journal.Key('X'),
         TextOf(edit), edit.SendMessage(WM_GETDLGCODE));
 }
 
