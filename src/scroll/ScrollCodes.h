@@ -57,4 +57,19 @@ constexpr int Along(int axis, const POINT& point)
     return static_cast<int>(axis == SB_VERT ? point.y : point.x);
 }
 
+// Moves the thumb by pixels along the bar; the position that it stands for afterwards.
+inline int DragThumb(CFauxScrollBar& bar, int pixels)
+{
+    bar.IncrementScrollByPixels(pixels);
+    if (bar.GetOrientation() == SB_HORZ && pixels > 0 &&
+        bar.GetPartArea(CFauxScrollBar::PRESSED_THUMB).right >=
+            bar.GetPartArea(CFauxScrollBar::PRESSED_SECOND).left)
+    {
+        // Past its last band a horizontal bar tells no position; at the end of the track a drag
+        // has reached the end of the content all the same.
+        bar.HandleScroll(SB_RIGHT);
+    }
+    return bar.GetScrollPos();
+}
+
 } // namespace scroll

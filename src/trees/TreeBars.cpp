@@ -376,9 +376,8 @@ void TreeBars::DragTo(CPoint screen)
     }
     Bar& dragged = *m_held;
     const int before = dragged.bar.GetScrollPos();
-    dragged.bar.IncrementScrollByPixels(scroll::Along(dragged.axis, screen) -
-                                        scroll::Along(dragged.axis, last));
-    const int after = dragged.bar.GetScrollPos();
+    const int after = scroll::DragThumb(
+        dragged.bar, scroll::Along(dragged.axis, screen) - scroll::Along(dragged.axis, last));
     const WindowAlive alive(Window());
     if (after != before)
     {

@@ -336,6 +336,17 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
         EXPECT_EQ(top(), released);
         Click(WindowPoint(tree, CPoint(200 - Band - 10, 200 - Band / 2)));
         EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0);
+        // One quick pull of the thumb past either end reaches it.
+        const auto pull = [&](int from, int to) {
+            constexpr int Row = 200 - Band / 2;
+            Drag(WindowPoint(tree, CPoint(from, Row)), WindowPoint(tree, CPoint(to, Row)), 1);
+        };
+        SCROLLINFO across = {};
+        tree.GetScrollInfo(SB_HORZ, &across);
+        pull(60, 150);
+        EXPECT_EQ(tree.GetScrollPos(SB_HORZ), across.nMax - int(across.nPage) + 1);
+        pull(92, 5);
+        EXPECT_EQ(tree.GetScrollPos(SB_HORZ), 0);
         // Back by the thumb, to the upper end.
         Click(onBar(10));
         Drag(onBar(52), onBar(5));
