@@ -342,11 +342,20 @@ LRESULT CCustomListBox::OnContentReplaced(WPARAM wParam, LPARAM lParam)
 LRESULT CCustomListBox::OnMayScroll(WPARAM wParam, LPARAM lParam)
 {
     const WindowAlive alive(*this);
-    const LRESULT result = DefWindowProc(GetCurrentMessage()->message, wParam, lParam);
+    const UINT message = GetCurrentMessage()->message;
+    const LRESULT result = DefWindowProc(message, wParam, lParam);
     if (alive && FollowMode())
     {
         MirrorContent();
         DrawOBScrollBars();
+        CRect row;
+        if (alive && message == LB_SETCURSEL && ::GetFocus() == GetSafeHwnd() &&
+            Ask(LB_GETITEMRECT, WPARAM(Ask(LB_GETCARETINDEX)), reinterpret_cast<LPARAM>(&row)) !=
+                LB_ERR)
+        {
+            // The platform paints the rectangle of the focus into the new row only next time.
+            InvalidateRect(&row, FALSE);
+        }
     }
     return result;
 }

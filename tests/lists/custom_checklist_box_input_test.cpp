@@ -60,6 +60,7 @@ TEST_F(CheckListTest, SpaceGoesRoundTheStatesOfTheCaretsRow)
         list.AddString(" indented"); // not looked for by a space
         list.SetFocus();
         list.SetCurSel(1);
+        EXPECT_TRUE(mode == STD || ShowsWhatAPaintWould(list)) << "with the focus's rectangle";
         for (const int expected : {1, 2, 0})
         {
             TypeKey(VK_SPACE);

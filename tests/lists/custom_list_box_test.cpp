@@ -73,6 +73,8 @@ TEST_F(ListBoxOnBoard, WhatIsShownIsWhatARepaintWouldShow)
         {"between two rows in sight", [&] { list.AddString("Row 01"), list.UpdateWindow(); }},
         {"first, and painted at once by the platform",
          [&] { list.InsertString(0, "First"), list.SetCurSel(2); }},
+        {"selected by its program while it has the focus",
+         [&] { list.SetFocus(), list.SetCurSel(2), list.SetCurSel(1); }},
         {"filled", [&] { list.Fill(60); }},
         {"scrolled, and a row above what is in sight",
          [&] { list.SetTopIndex(20), list.AddString("Aardvark"); }},
