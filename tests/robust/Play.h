@@ -2,6 +2,7 @@
 
 #include "robust/Watch.h"
 
+#include "CustomComboLBox.h"
 #include "OnBoardUIGeneral.h"
 #include "catalog/DialogTemplate.h"
 #include "support/Fenced.h"
@@ -23,14 +24,25 @@
 
 // A play in which a parent ends a control, its sibling or itself inside something that it is told.
 
-// A message to a parent and, where it has one, its code.
+// A message to a parent and, where it has one, its code, or an event for assistive programs; and in
+// which step of the play it came.
 struct Told
 {
     UINT message;
     UINT code = 0;
+    int step = 0;
 
+    bool IsLike(const Told& other) const { return message == other.message && code == other.code; }
     friend bool operator==(const Told&, const Told&) = default;
 };
+
+// Of several in the order in which they came.
+inline bool IsFirstOfItsKind(const Told& what, const std::vector<Told>& all)
+{
+    const auto first =
+        std::ranges::find_if(all, [&](const Told& each) { return each.IsLike(what); });
+    return first == all.end() || *first == what;
+}
 
 constexpr UINT FirstRegistered = 0xC000;
 
@@ -95,17 +107,29 @@ struct Forbidden
     Told told;
     DWORD style = 0; // all of it
     bool onBoardToo = true;
+    // Not when it is told for the first time. These, and EN_UPDATE, were seen on our controls only:
+    // the call stacks of the faults end in the platform's own code, of EN_CHANGE and of the list
+    // box's colours with the heaps checked; of the status bar a damaged heap was seen.
+    bool againOnly = false;
 };
 constexpr Forbidden PlatformFaults[] = {
     {"Edit", {WM_CTLCOLOREDIT}},
     {"Edit", {WM_CTLCOLORSTATIC}},
+    {"Edit", {WM_COMMAND, EN_UPDATE}},
+    {"Edit", {WM_COMMAND, EN_CHANGE}, 0, true, true},
     {"ListBox", {WM_DELETEITEM}},
     {"ListBox", {WM_DRAWITEM, ODA_SELECT}, LBS_OWNERDRAWVARIABLE},
+    {"ListBox", {WM_DRAWITEM, ODA_FOCUS}, LBS_OWNERDRAWVARIABLE, true, true},
+    {"ListBox", {WM_CTLCOLORLISTBOX}, 0, true, true},
     {"ListBox", {WM_MEASUREITEM}, LBS_OWNERDRAWVARIABLE},
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_GETDISPINFO)}},
+    {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_ITEMCHANGING)}, 0, true, true},
+    {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_DELETEITEM)}, 0, true, true},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDTRACK)}, 0, false},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}},
+    {WC_TREEVIEW, {WM_NOTIFY, UINT(TVN_DELETEITEM)}, 0, true, true},
     {TOOLBARCLASSNAME, {WM_NOTIFY, TBN_DELETINGBUTTON}},
+    {STATUSCLASSNAME, {WM_ERASEBKGND}, 0, true, true},
     {"#32770", {WM_NOTIFY, UINT(PSN_QUERYCANCEL)}}, // its sheet of pages, as also below
     {"#32770", {WM_NOTIFY, UINT(PSN_RESET)}},
 };
@@ -121,7 +145,7 @@ inline HWND SenderOf(UINT message, LPARAM lParam, HWND otherwise)
     return says && lParam != 0 ? reinterpret_cast<HWND>(lParam) : otherwise;
 }
 
-inline bool IsForbidden(HWND window, const Told& told)
+inline bool IsForbidden(HWND window, const Told& told, bool again)
 {
     char name[40] = "";
     ::GetClassName(window, name, sizeof(name));
@@ -136,12 +160,12 @@ inline bool IsForbidden(HWND window, const Told& told)
     {
         return true;
     }
-    return std::any_of(std::begin(PlatformFaults), std::end(PlatformFaults),
-                       [&](const Forbidden& each) {
-                           return each.told == told && isName(each.windowClass) &&
-                                  (style & each.style) == each.style &&
-                                  (each.onBoardToo || !COnBoardUIGeneral::InOnBoardMode());
-                       });
+    return std::any_of(
+        std::begin(PlatformFaults), std::end(PlatformFaults), [&](const Forbidden& each) {
+            return each.told.IsLike(told) && isName(each.windowClass) &&
+                   (style & each.style) == each.style && (again || !each.againOnly) &&
+                   (each.onBoardToo || !COnBoardUIGeneral::InOnBoardMode());
+        });
 }
 
 // What is on the stage, and what is to happen there.
@@ -151,7 +175,8 @@ struct Play
     std::unique_ptr<CWnd> parent;
     std::unique_ptr<CWnd> control;
     std::unique_ptr<CWnd> sibling;
-    std::vector<Told> told; // each once
+    std::vector<Told> told; // each once in a step
+    mutable int step = 0;
     std::optional<Told> awaited;
     Death death;
     bool over = false;
@@ -172,6 +197,7 @@ struct Play
     Play& operator=(const Play&) = delete;
     ~Play()
     {
+        ::UnhookWinEvent(m_events);
         s_now = nullptr;
         control.reset();
         sibling.reset();
@@ -180,11 +206,11 @@ struct Play
 
     std::string Title() const
     {
-        char what[40] = "";
+        char what[60] = "";
         if (awaited)
         {
-            std::snprintf(what, sizeof(what), ": 0x%X/%d ends ", awaited->message,
-                          int(awaited->code));
+            std::snprintf(what, sizeof(what), ": 0x%X/%d in step %d ends ", awaited->message,
+                          int(awaited->code), awaited->step);
         }
         return title + what + (awaited ? DeathNames[int(death)] : "");
     }
@@ -192,27 +218,30 @@ struct Play
     // Whether the one who was told may be gone.
     static bool Tell(UINT message, WPARAM wParam, LPARAM lParam)
     {
-        Play* const now = s_now;
         const auto what = AboutAChild(message, wParam, lParam);
-        if (now == nullptr || !what || now->over)
-        {
-            return false;
-        }
+        return s_now != nullptr && !s_now->over && what &&
+               s_now->Tell(*what, SenderOf(message, lParam, s_now->control->GetSafeHwnd()));
+    }
+
+    bool Tell(Told what, HWND sender)
+    {
+        Play* const now = this; // may go
         Watch::GoesOn();
-        if (std::find(now->told.begin(), now->told.end(), *what) == now->told.end())
+        what.step = step;
+        const bool again = !IsFirstOfItsKind(what, told);
+        if (std::ranges::find(told, what) == told.end())
         {
-            now->told.push_back(*what);
+            told.push_back(what);
         }
-        if (what != now->awaited)
+        if (what != awaited)
         {
             return false;
         }
         const HWND control = now->control->GetSafeHwnd();
-        const HWND sender = SenderOf(message, lParam, control);
         const bool sibling = now->death == Death::Sibling;
         const bool dies = now->modal || now->death == Death::Parent ||
                           (!sibling && (sender == control || ::IsChild(control, sender)));
-        if (dies && IsForbidden(sender, *what))
+        if (dies && IsForbidden(sender, what, again))
         {
             now->awaited.reset();
             return false;
@@ -223,11 +252,12 @@ struct Play
     }
 
     // What the window is put through, until it is over.
-    template <class Step> void Do(HWND window, Step step) const
+    template <class Act> void Do(HWND window, Act act) const
     {
+        ++step;
         if (!over && ::IsWindow(window))
         {
-            step();
+            act();
         }
     }
     void Paint(HWND window) const
@@ -259,6 +289,25 @@ struct Play
     }
 
 private:
+    // The hook of an assistive program in the process is told on the way.
+    HWINEVENTHOOK m_events = ::SetWinEventHook(
+        EVENT_OBJECT_SHOW, EVENT_OBJECT_END, ::GetModuleHandle(nullptr), &Play::HearEvent,
+        ::GetCurrentProcessId(), ::GetCurrentThreadId(), WINEVENT_INCONTEXT);
+
+    static void CALLBACK HearEvent(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG, DWORD,
+                                   DWORD)
+    {
+        const bool on = s_now != nullptr && !s_now->over && s_now->control != nullptr;
+        const HWND control = on ? s_now->control->GetSafeHwnd() : nullptr;
+        // The list that a combo drops is a window beside it.
+        const bool dropped =
+            dynamic_cast<CCustomComboLBox*>(CWnd::FromHandlePermanent(window)) != nullptr;
+        if (control != nullptr && (window == control || ::IsChild(control, window) || dropped))
+        {
+            s_now->Tell({event}, window);
+        }
+    }
+
     void End()
     {
         if (modal)

@@ -29,6 +29,8 @@ std::atomic<bool> s_watching = false;
 std::atomic<unsigned> s_progress = 0;
 std::atomic<int> s_faults = 0;
 
+std::atomic<bool> s_hung = false;
+
 void Say(const char* what, DWORD code, const void* at)
 {
     if (s_watching)
@@ -48,7 +50,23 @@ DWORD WINAPI SeeThatItGoesOn(void*)
         still = !s_watching || now != seen ? 0 : still + 1;
         seen = now;
     }
+    s_hung = true;
     Say("Hung", 0, nullptr);
+    ::TerminateProcess(::GetCurrentProcess(), 3);
+    return 0;
+}
+
+// What hangs in the allocation of memory keeps whoever says so waiting, too.
+DWORD WINAPI EndWhatCannotBeSaid(void*)
+{
+    while (!s_hung)
+    {
+        ::Sleep(1000);
+    }
+    ::Sleep(3000);
+    constexpr char Words[] = "Hung, in the heap\n";
+    DWORD written = 0;
+    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), Words, sizeof(Words) - 1, &written, nullptr);
     ::TerminateProcess(::GetCurrentProcess(), 3);
     return 0;
 }
@@ -78,7 +96,10 @@ Watch::Watch(std::function<std::string()> doing)
     static const bool watched = [] {
         ::AddVectoredExceptionHandler(1, &NoteFault);
         std::signal(SIGABRT, &NoteAbort);
-        ::CloseHandle(::CreateThread(nullptr, 0, &SeeThatItGoesOn, nullptr, 0, nullptr));
+        for (const LPTHREAD_START_ROUTINE each : {&SeeThatItGoesOn, &EndWhatCannotBeSaid})
+        {
+            ::CloseHandle(::CreateThread(nullptr, 0, each, nullptr, 0, nullptr));
+        }
         return true;
     }();
     (void)watched;

@@ -161,6 +161,13 @@ private:
         const CPoint divider(m_place.left + 92, m_place.top + 8);
         Do([&] { QueuePress(divider, divider + CPoint(20, 0), false); });
         Do([&] { ::Wheel(-WHEEL_DELTA); });
+        // Over the list of a combo.
+        Do([&] {
+            TypeKey(VK_F4);
+            QueueMove(CPoint(m_place.left + 30, m_place.bottom + 60));
+            PumpAll();
+            TypeKey(VK_ESCAPE);
+        });
         for (const UINT key : {UINT(VK_DOWN), UINT(VK_SPACE), UINT('W'), UINT(VK_END),
                                UINT(VK_RIGHT), UINT(VK_DELETE), UINT(VK_RETURN)})
         {
@@ -275,20 +282,31 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
         const ModeScope scope(mode);
         const std::vector<Told> told = Give({}, Death::Window);
         EXPECT_FALSE(told.empty());
-        for (size_t index = 0; index < told.size(); ++index)
+        int kinds = 0;
+        for (const Told& each : told)
         {
-            Give(told[index], Death::Control);
+            if (!IsFirstOfItsKind(each, told))
+            {
+                // Told again, in another place of the control's code.
+                if (mode != STD && plain)
+                {
+                    Give(each, Death::Control);
+                }
+                continue;
+            }
+            ++kinds;
+            Give(each, Death::Control);
             if (mode != STD) // where most of what runs is the library's
             {
-                Give(told[index], Death::Parent);
+                Give(each, Death::Parent);
             }
             if (mode != STD && plain)
             {
-                Give(told[index], index % 2 == 0 ? Death::Sibling : Death::Window);
+                Give(each, kinds % 2 != 0 ? Death::Sibling : Death::Window);
             }
         }
-        // What is told by a timer may not come; the rest does.
-        EXPECT_LE(m_missed, m_plays / 10);
+        // What is told by a timer may not come, nor the event of a focus; the rest does.
+        EXPECT_LE(m_missed, std::max(1, m_plays / 10));
         ForgetClipboard();
         EXPECT_NEAR(double(Give({}, Death::Window).size()), double(told.size()), 2)
             << "a fresh control is not as it was";
