@@ -50,6 +50,10 @@ template <template <class> class As> struct Makers
     {
         return [style](CWnd& parent, const Contents& contents) -> Made {
             auto control = std::make_unique<As<Button>>();
+            if constexpr (std::is_same_v<Button, CColorStatic>)
+            {
+                control->Set(RGB(70, 90, 110)); // a host gives it one before it is painted
+            }
             const bool made = control->Create(contents.text.c_str(), Shown | style, contents.place,
                                               &parent, ControlId);
             return made ? std::move(control) : nullptr;
