@@ -5,6 +5,7 @@
 #include "OnBoardUIGeneral.h"
 #include "lists/ComboLayout.h"
 #include "modes/Rounding.h"
+#include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 
 #include <vector>
@@ -98,11 +99,16 @@ void ComboScaling::Fit(HWND window)
 {
     if (CCustomDropListCombo* const combo = ComboOf(window))
     {
-        combo->m_fitted = 0;
-        if (COnBoardUIGeneral::InOnBoardMode() && combo->m_heights[STD] > 0)
+        const WindowAlive alive(*combo); // its list is made on demand
+        const int natural = combo->NaturalHeight();
+        if (!alive)
         {
-            combo->m_fitted = FittedHeight(window, combo->m_heights[STD], combo->NaturalHeight());
+            return;
         }
+        const int standard = combo->m_heights[STD];
+        combo->m_fitted = COnBoardUIGeneral::InOnBoardMode() && standard > 0
+                              ? FittedHeight(window, standard, natural)
+                              : 0;
         combo->SetHeight(combo->HeightFor(COnBoardUIGeneral::GetAppMode()));
         return;
     }

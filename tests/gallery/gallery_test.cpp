@@ -99,7 +99,7 @@ TEST_F(GalleryTest, IsDarkFromEdgeToEdgeOnBoardAtEverySize)
         const CRect page = PlaceOf(Shown(frame));
         const int inPage = light(page);
         // An edit with a prompt is as light as the platform's, and takes less than that.
-        return light(PlaceOf(frame)) == inPage && inPage < page.Width() * page.Height() / 30;
+        return light(PlaceOf(frame)) == inPage && inPage < page.Width() * page.Height() / 25;
     };
     const auto expectDark = [&](int step) {
         const int pages = int(::SendMessage(list, LB_GETCOUNT, 0, 0));
