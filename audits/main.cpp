@@ -20,6 +20,8 @@
 #include "Targets.h"
 #include "catalog/Controls.h"
 
+#include <afxcmn.h>
+#include <afxdlgs.h>
 #include <afxwin.h>
 
 #include <algorithm>
@@ -147,6 +149,10 @@ void PrintAccess(APPMODE mode, const Control& control)
         surprised = surprised || !seen;
     }
     PrintAnswers(mode, control.name, window, focus);
+    if (std::strcmp(control.name, "sheet") == 0)
+    {
+        PrintAnswers(mode, "tabs", *static_cast<CPropertySheet&>(window).GetTabControl(), "");
+    }
     if (isReport)
     {
         PrintAnswers(mode, "header", *CWnd::FromHandle(HWND(window.SendMessage(LVM_GETHEADER))),

@@ -24,6 +24,15 @@ inline HRESULT GivePartState(VARIANT& state, const CWnd& window, const CRect& pl
                            (window.IsWindowEnabled() ? 0 : STATE_SYSTEM_UNAVAILABLE));
 }
 
+// A step from the window to a part, or from one part to the one beside it.
+inline HRESULT NavigateStrip(long direction, const VARIANT& start, int count, VARIANT& end)
+{
+    const long step = direction == NAVDIR_LEFT    ? NAVDIR_PREVIOUS
+                      : direction == NAVDIR_RIGHT ? NAVDIR_NEXT
+                                                  : direction;
+    return Navigate(step, start, count, end);
+}
+
 // A click in the middle of a part, posted: it may open a dialog, and the program that asks would
 // wait for its end.
 inline HRESULT PostClick(CWnd& window, const CRect& place)

@@ -1,6 +1,7 @@
 #include "dialogs/SheetTabs.h"
 
 #include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
@@ -12,6 +13,8 @@ namespace dialogs {
 BEGIN_MESSAGE_MAP(SheetTabs, CTabCtrl)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
 
 void SheetTabs::OnPaint()
@@ -33,6 +36,38 @@ BOOL SheetTabs::OnEraseBkgnd(CDC* dc)
     return COnBoardUIGeneral::InOnBoardMode() ? TRUE : CTabCtrl::OnEraseBkgnd(dc);
 }
 
+// The platform paints what its own look of the focus needs.
+void SheetTabs::OnSetFocus(CWnd* old)
+{
+    const WindowAlive alive(*this);
+    CTabCtrl::OnSetFocus(old);
+    if (alive)
+    {
+        Invalidate(FALSE);
+    }
+}
+
+void SheetTabs::OnKillFocus(CWnd* taker)
+{
+    const WindowAlive alive(*this);
+    CTabCtrl::OnKillFocus(taker);
+    if (alive)
+    {
+        Invalidate(FALSE);
+    }
+}
+
+CString SheetTabs::TextOf(int tab) const
+{
+    char text[MAX_PATH] = "";
+    TCITEM item = {};
+    item.mask = TCIF_TEXT;
+    item.pszText = text;
+    item.cchTextMax = MAX_PATH;
+    SendMessage(TCM_GETITEM, WPARAM(tab), reinterpret_cast<LPARAM>(&item));
+    return text;
+}
+
 void SheetTabs::Draw(CDC& dc)
 {
     CRect client;
@@ -51,16 +86,15 @@ void SheetTabs::Draw(CDC& dc)
     for (int index = 0; index < count; ++index)
     {
         CRect face;
-        char text[MAX_PATH] = "";
-        TCITEM item = {};
-        item.mask = TCIF_TEXT;
-        item.pszText = text;
-        item.cchTextMax = MAX_PATH;
         SendMessage(TCM_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&face));
-        SendMessage(TCM_GETITEM, WPARAM(index), reinterpret_cast<LPARAM>(&item));
         dc.FillSolidRect(&face, index == active ? palette::Caption : palette::Panel);
         dc.Draw3dRect(&face, palette::Outline, palette::Outline);
-        dc.DrawText(text, -1, &face, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+        dc.DrawText(TextOf(index), -1, &face, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+        if (index == active && ::GetFocus() == GetSafeHwnd())
+        {
+            face.DeflateRect(3, 3);
+            dc.DrawFocusRect(&face);
+        }
     }
 }
 

@@ -105,12 +105,7 @@ HRESULT CCustomListCtrlHdr::accNavigate(long direction, VARIANT start, VARIANT* 
         GetItem(item, &data);
         start.lVal = access::ChildOf(data.iOrder);
     }
-    const bool back = direction == NAVDIR_LEFT;
-    const bool on = direction == NAVDIR_RIGHT;
-    const HRESULT result = access::Navigate(back ? NAVDIR_PREVIOUS
-                                            : on ? NAVDIR_NEXT
-                                                 : direction,
-                                            start, count, *end);
+    const HRESULT result = access::NavigateStrip(direction, start, count, *end);
     if (result == S_OK)
     {
         end->lVal = access::ChildOf(OrderToIndex(end->lVal - 1));

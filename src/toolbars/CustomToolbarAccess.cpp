@@ -117,13 +117,9 @@ HRESULT CustomToolbar::accLocation(long* left, long* top, long* width, long* hei
 
 HRESULT CustomToolbar::accNavigate(long direction, VARIANT start, VARIANT* end)
 {
-    const bool back = direction == NAVDIR_LEFT;
-    const bool on = direction == NAVDIR_RIGHT;
-    return access::LeavesList(direction, start) ? CToolBar::accNavigate(direction, start, end)
-                                                : access::Navigate(back ? NAVDIR_PREVIOUS
-                                                                   : on ? NAVDIR_NEXT
-                                                                        : direction,
-                                                                   start, GetCount(), *end);
+    return access::LeavesList(direction, start)
+               ? CToolBar::accNavigate(direction, start, end)
+               : access::NavigateStrip(direction, start, GetCount(), *end);
 }
 
 HRESULT CustomToolbar::accHitTest(long left, long top, VARIANT* child)

@@ -298,7 +298,9 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
     ASSERT_TRUE(view.Create(nullptr, "Form", WS_CHILD | WS_VISIBLE, place, &Host(), 5, nullptr));
     CCustomPropPage page(IDD_TEST_PAGE_1);
     Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+    CCustomPropPage second(IDD_TEST_PAGE_2);
     sheet.AddPage(&page);
+    sheet.AddPage(&second);
     sheet.inLoop = [&] {
         const struct
         {
@@ -313,6 +315,23 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
             EXPECT_EQ(Read(*Reached(window), CHILDID_SELF).role, role);
             EXPECT_EQ(Read(*Reached(window), CHILDID_SELF).name, name);
         }
+        CWnd& tabs = *sheet.GetTabControl();
+        const Held<IAccessible> told = Reached(tabs);
+        EXPECT_EQ(Read(*told, CHILDID_SELF).role, ROLE_SYSTEM_PAGETABLIST);
+        EXPECT_EQ(Read(*told, CHILDID_SELF).name, "Sheet");
+        EXPECT_EQ(Read(*told, 2).role, ROLE_SYSTEM_PAGETAB);
+        EXPECT_EQ(Read(*told, 2).name, "Second");
+        EXPECT_EQ(ChildAt(*told, PlaceOf(*told, 2).CenterPoint()), 2);
+        EXPECT_EQ(told->accDoDefaultAction(Child(2)), S_OK);
+        PumpAll();
+        EXPECT_EQ(sheet.GetActiveIndex(), 1);
+        const Pixels without = WindowPixels(tabs);
+        tabs.SetFocus();
+        PumpAll();
+        EXPECT_NE(WindowPixels(tabs), without) << "the focus is not seen";
+        EXPECT_EQ(ToldOfFocus(), "Second selected");
+        TypeKey(VK_LEFT);
+        EXPECT_EQ(ToldOfFocus(), "First selected");
         TypeKey(VK_ESCAPE);
     };
     EXPECT_EQ(sheet.DoModal(), IDCANCEL);

@@ -1,0 +1,128 @@
+// The tabs of a sheet: what assistive programs are told of them.
+
+#include "dialogs/SheetTabs.h"
+
+#include "access/Strip.h"
+
+#include <afxdlgs.h>
+
+namespace dialogs {
+
+HRESULT SheetTabs::get_accChildCount(long* count)
+{
+    *count = GetItemCount();
+    return S_OK;
+}
+
+HRESULT SheetTabs::get_accChild(VARIANT child, IDispatch** object)
+{
+    return access::GivePart(object, child, GetItemCount());
+}
+
+// The tabs together are named as their sheet.
+HRESULT SheetTabs::get_accName(VARIANT child, BSTR* name)
+{
+    const int tab = access::RowOf(child, GetItemCount());
+    if (tab >= 0)
+    {
+        return access::Give(*name, TextOf(tab));
+    }
+    CString title;
+    if (const CWnd* const sheet = GetParent())
+    {
+        sheet->GetWindowText(title);
+    }
+    return access::IsSelf(child) ? access::Give(*name, title) : E_INVALIDARG;
+}
+
+HRESULT SheetTabs::get_accRole(VARIANT child, VARIANT* role)
+{
+    if (access::IsSelf(child))
+    {
+        return access::Give(*role, ROLE_SYSTEM_PAGETABLIST);
+    }
+    return access::RowOf(child, GetItemCount()) < 0 ? E_INVALIDARG
+                                                    : access::Give(*role, ROLE_SYSTEM_PAGETAB);
+}
+
+HRESULT SheetTabs::get_accState(VARIANT child, VARIANT* state)
+{
+    const int tab = access::RowOf(child, GetItemCount());
+    if (tab < 0)
+    {
+        return CTabCtrl::get_accState(child, state);
+    }
+    CRect place(0, 0, 0, 0);
+    GetItemRect(tab, &place);
+    const bool active = tab == GetCurSel();
+    const bool focused = active && ::GetFocus() == GetSafeHwnd();
+    return access::GivePartState(*state, *this, place,
+                                 STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_FOCUSABLE |
+                                     (active ? STATE_SYSTEM_SELECTED : 0) |
+                                     (focused ? STATE_SYSTEM_FOCUSED : 0));
+}
+
+HRESULT SheetTabs::get_accFocus(VARIANT* child)
+{
+    return ::GetFocus() == GetSafeHwnd() ? get_accSelection(child) : access::GiveNothing(*child);
+}
+
+HRESULT SheetTabs::get_accSelection(VARIANT* children)
+{
+    const int active = GetCurSel();
+    return active < 0 ? access::GiveNothing(*children)
+                      : access::Give(*children, access::ChildOf(active));
+}
+
+HRESULT SheetTabs::get_accDefaultAction(VARIANT child, BSTR* action)
+{
+    return access::RowOf(child, GetItemCount()) < 0 ? CTabCtrl::get_accDefaultAction(child, action)
+                                                    : access::Give(*action, "Switch");
+}
+
+// Posted: a page that is left may ask the user about what it has been given.
+HRESULT SheetTabs::accDoDefaultAction(VARIANT child)
+{
+    const int tab = access::RowOf(child, GetItemCount());
+    if (tab < 0)
+    {
+        return CTabCtrl::accDoDefaultAction(child);
+    }
+    CWnd* const sheet = IsWindowEnabled() ? GetParent() : nullptr;
+    if (sheet == nullptr)
+    {
+        return DISP_E_MEMBERNOTFOUND;
+    }
+    return sheet->PostMessage(PSM_SETCURSEL, WPARAM(tab)) ? S_OK : E_FAIL;
+}
+
+HRESULT SheetTabs::accLocation(long* left, long* top, long* width, long* height, VARIANT child)
+{
+    const int tab = access::RowOf(child, GetItemCount());
+    CRect place(0, 0, 0, 0);
+    return tab >= 0 && GetItemRect(tab, &place)
+               ? access::GivePlace(*this, place, left, top, width, height)
+               : CTabCtrl::accLocation(left, top, width, height, child);
+}
+
+HRESULT SheetTabs::accNavigate(long direction, VARIANT start, VARIANT* end)
+{
+    return access::LeavesList(direction, start)
+               ? CTabCtrl::accNavigate(direction, start, end)
+               : access::NavigateStrip(direction, start, GetItemCount(), *end);
+}
+
+HRESULT SheetTabs::accHitTest(long left, long top, VARIANT* child)
+{
+    TCHITTESTINFO hit = {};
+    CPoint point(left, top);
+    if (!access::IsInClient(*this, point))
+    {
+        return access::GiveNothing(*child);
+    }
+    hit.pt = point;
+    const LRESULT tab = SendMessage(TCM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    return access::Give(*child, access::ChildOf(int(tab))); // of -1: the tabs themselves
+}
+
+} // namespace dialogs
