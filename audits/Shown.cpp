@@ -144,7 +144,6 @@ void Shown::Settle()
         m_window->RedrawWindow(nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
         ::Sleep(1);
     }
-    ::HideCaret(nullptr); // it is no text
 }
 
 std::vector<Part> Shown::Parts()

@@ -70,6 +70,13 @@ void PrintContrast(APPMODE mode, const Control& control, const State& state)
         Shown shown(control, mode, text, state.rows);
         state.enter(shown.Window(), text);
         shown.Settle();
+        ::HideCaret(nullptr); // it is no text
+        CWnd* const focus = CWnd::GetFocus();
+        if (focus && focus != &shown.Window())
+        {
+            focus->SendMessage(EM_SETSEL, 0, -1); // of an edit, as if reached by Tab
+        }
+        shown.Settle();
         blanks = BlanksFor(Sample, shown.Window());
         if (blank)
         {
@@ -144,7 +151,13 @@ void PrintAccess(APPMODE mode, const Control& control)
     const char* focus = "";
     if (takesFocus)
     {
-        const bool seen = CWnd::GetFocus() == &window && !(Picture(window) == before);
+        bool seen = false;
+        for (int look = 0; look < 20 && !seen; ++look) // a caret blinks
+        {
+            seen = CWnd::GetFocus() == &window && !(Picture(window) == before);
+            ::Sleep(seen ? 0 : 100);
+            shown.Settle();
+        }
         focus = seen ? " focus seen" : " focus not seen";
         surprised = surprised || !seen;
     }
