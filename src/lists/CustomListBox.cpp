@@ -10,10 +10,35 @@
 #include "paint/Palette.h"
 #include "scroll/NcBands.h"
 
+#include <utility>
+
 namespace {
 
 // The platform's own timer message; the list box scrolls by it while a selection is dragged out.
 constexpr UINT SystemTimer = 0x0118;
+
+// The platform takes its bars away from rows that fit, but only when their range changes.
+void TakeNeedlessBars(CListBox& list)
+{
+    DWORD needless = 0;
+    for (const int axis : {SB_HORZ, SB_VERT})
+    {
+        SCROLLINFO info = {};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_RANGE | SIF_PAGE;
+        if (::GetScrollInfo(list, axis, &info) &&
+            info.nMax - info.nMin < std::max(1, int(info.nPage)))
+        {
+            needless |= scroll::StyleOf(axis);
+        }
+    }
+    const WindowAlive alive(list);
+    if ((list.GetStyle() & LBS_DISABLENOSCROLL) == 0 &&
+        scroll::StripScrollStyles(list, needless) != 0 && alive)
+    {
+        scroll::RecalculateFrame(list, false);
+    }
+}
 
 } // namespace
 
@@ -165,6 +190,14 @@ void CCustomListBox::EnterOnBoard()
     m_hostExtent = Ask(LB_GETHORIZONTALEXTENT);
     m_stdSize = SizeOf(*this);
     m_stdItemHeight = m_standardKnown ? Ask(LB_GETITEMHEIGHT) : 0;
+    m_bars->standardHeights.clear();
+    if (m_standardKnown && (GetStyle() & LBS_OWNERDRAWVARIABLE) != 0)
+    {
+        for (int row = 0; row < Ask(LB_GETCOUNT); ++row)
+        {
+            m_bars->standardHeights.push_back(Ask(LB_GETITEMHEIGHT, WPARAM(row)));
+        }
+    }
     m_averageWidth = 0;
     SCROLLINFO sideways = {};
     sideways.cbSize = sizeof(sideways);
@@ -172,6 +205,7 @@ void CCustomListBox::EnterOnBoard()
     // Columns are asked for their place afterwards.
     const bool scrolled = !InColumns() && (GetStyle() & WS_HSCROLL) != 0 &&
                           ::GetScrollInfo(GetSafeHwnd(), SB_HORZ, &sideways) && sideways.nPos > 0;
+    const int place = InColumns() ? Ask(LB_GETTOPINDEX) : (scrolled ? sideways.nPos : 0);
     DisableScrollBars();
     if (alive && !m_made && (m_bars->PlatformStyles() & WS_HSCROLL) == 0 && !InColumns())
     {
@@ -212,6 +246,8 @@ void CCustomListBox::EnterOnBoard()
     {
         MirrorContent();
         m_onBoardSize = SizeOf(*this);
+        m_bars->standardPlace = place;
+        m_bars->placeBar = m_hBar.GetScrollPos();
     }
 }
 
@@ -221,12 +257,24 @@ void CCustomListBox::LeaveOnBoard()
     // The platform cuts a list to whole rows whenever its frame changes; unless the host has sized
     // it since, it gets back what it had.
     const bool givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
+    const bool givesPlaceBack =
+        m_bars->standardPlace > 0 && m_hBar.GetScrollPos() == m_bars->placeBar;
     m_bars->End();
     HideBars();
     m_standardKnown = true;
     if (m_stdItemHeight > 0 && (GetStyle() & LBS_OWNERDRAWFIXED) != 0)
     {
         Ask(LB_SETITEMHEIGHT, 0, m_stdItemHeight); // as the host had it
+    }
+    else if (const auto heights = std::exchange(m_bars->standardHeights, {}); !heights.empty())
+    {
+        for (size_t row = 0; alive && row < heights.size(); ++row)
+        {
+            if (Ask(LB_GETITEMHEIGHT, row) != heights[row])
+            {
+                Ask(LB_SETITEMHEIGHT, row, heights[row]);
+            }
+        }
     }
     else
     {
@@ -246,10 +294,20 @@ void CCustomListBox::LeaveOnBoard()
         return;
     }
     scroll::RecalculateFrame(*this, false);
+    if (alive)
+    {
+        TakeNeedlessBars(*this);
+    }
     if (alive && givesSizeBack && SizeOf(*this) != m_stdSize)
     {
         SetWindowPos(nullptr, 0, 0, m_stdSize.cx, m_stdSize.cy,
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (alive && givesPlaceBack)
+    {
+        const LONGLONG place = std::min<LONGLONG>(m_bars->standardPlace, MaxOffset);
+        InColumns() ? Ask(LB_SETTOPINDEX, WPARAM(m_bars->standardPlace))
+                    : Ask(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, place));
     }
     if (!alive)
     {

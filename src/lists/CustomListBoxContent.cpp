@@ -247,6 +247,7 @@ LRESULT CCustomListBox::OnAddString(WPARAM wParam, LPARAM lParam)
     const LRESULT result = alive ? DefWindowProc(message, wParam, lParam) : LB_ERR;
     if (alive && result >= 0 && FollowMode())
     {
+        m_bars->standardHeights.clear();
         InvalidateFrom(int(result));
         CountWidth(int(result), 1);
         ContentChanged();
@@ -281,6 +282,7 @@ LRESULT CCustomListBox::OnDeleteString(WPARAM wParam, LPARAM)
     }
     if (alive && result >= 0 && FollowMode())
     {
+        m_bars->standardHeights.clear();
         ContentChanged();
     }
     return result;
@@ -293,6 +295,7 @@ LRESULT CCustomListBox::OnResetContent(WPARAM, LPARAM)
     if (alive && FollowMode())
     {
         m_widths.clear();
+        m_bars->standardHeights.clear();
         m_hBar.SetScrollPos(0, TRUE);
         if (!m_hBarNeeded || MoveContent(SB_HORZ))
         {
@@ -311,6 +314,7 @@ LRESULT CCustomListBox::OnSetFont(WPARAM, LPARAM)
         return result;
     }
     m_averageWidth = 0;
+    m_bars->standardHeights.clear();
     MeasureRows();
     // A list that has just entered the mode has counted them. Of another font than the shared one
     // it is not known whether the handle is still the same font.
@@ -333,6 +337,7 @@ LRESULT CCustomListBox::OnContentReplaced(WPARAM wParam, LPARAM lParam)
     const LRESULT result = DefWindowProc(GetCurrentMessage()->message, wParam, lParam);
     if (alive && FollowMode())
     {
+        m_bars->standardHeights.clear();
         CountAllWidths();
         ContentChanged();
     }
@@ -370,6 +375,7 @@ LRESULT CCustomListBox::OnRowsMeasured(WPARAM wParam, LPARAM)
     const LRESULT result = Default();
     if (alive && FollowMode())
     {
+        m_bars->standardHeights.clear();
         ContentChanged();
     }
     return result;

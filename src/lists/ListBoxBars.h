@@ -8,6 +8,8 @@
 #include "scroll/Filling.h"
 #include "scroll/ScrollCodes.h"
 
+#include <vector>
+
 class CCustomListBox::Bars final : public scroll::BarHost
 {
 public:
@@ -20,6 +22,13 @@ public:
     {}
 
     scroll::Filling filling{*this};
+
+    // As the standard mode had it, to be given back as long as nobody has changed it meanwhile: the
+    // heights of rows that differ, and the place sideways (pixels, or the first row of columns)
+    // with the bar's position for it.
+    std::vector<int> standardHeights;
+    int standardPlace = 0;
+    int placeBar = 0;
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
