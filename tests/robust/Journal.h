@@ -229,16 +229,17 @@ private:
         case WM_DELETEITEM:
         {
             const auto& item = *reinterpret_cast<const DELETEITEMSTRUCT*>(told.lParam);
-            line += Joined(item.itemID, item.itemData);
+            line += Joined(told.wParam, item.itemID, item.itemData);
             break;
         }
         case WM_MEASUREITEM:
-            line += Joined(reinterpret_cast<const MEASUREITEMSTRUCT*>(told.lParam)->itemID);
+            line += Joined(told.wParam,
+                           reinterpret_cast<const MEASUREITEMSTRUCT*>(told.lParam)->itemID);
             break;
         case WM_COMPAREITEM:
         {
             const auto& items = *reinterpret_cast<const COMPAREITEMSTRUCT*>(told.lParam);
-            line += Joined(int(items.itemID1), int(items.itemID2));
+            line += Joined(told.wParam, int(items.itemID1), int(items.itemID2));
             break;
         }
         default:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "robust/Journal.h"
+#include "support/Repaint.h"
 
 #include <algorithm>
 
@@ -27,11 +28,12 @@ protected:
     Parity() { ::SetDoubleClickTime(5000); }
     ~Parity() override { ::SetDoubleClickTime(0); } // the system's own
 
-    static void ThroughAllModes()
+    // As a host does it whose window is not one of the library's: it repaints its controls.
+    void ThroughAllModes()
     {
         for (const APPMODE mode : {APPMODE(1), APPMODE(2), APPMODE(3), APPMODE(4), STD})
         {
-            COnBoardUIGeneral::SetAppMode(mode);
+            SetMode(mode, Host());
             PumpAll();
         }
     }
@@ -49,7 +51,7 @@ protected:
             ThroughAllModes();
         }
         Journal journal(Host(), control,
-                        within ? std::function<void()>(&Parity::ThroughAllModes) : nullptr);
+                        within ? std::function<void()>([this] { ThroughAllModes(); }) : nullptr);
         script(control, journal);
         Lines lines = journal.Lines();
         control.DestroyWindow();

@@ -39,15 +39,21 @@ void Pick(CListBox& list, Journal& journal)
     {
         ASK(list.GetItemData(row), list.GetSel(row));
     }
-    ASK(list.GetCurSel(), list.GetCaretIndex(), list.GetAnchorIndex(), journal.Key(VK_DOWN),
-        journal.Key(VK_END, VK_SHIFT), list.GetCurSel(), list.GetSelCount(), journal.Press(30, 20),
-        list.GetCurSel(), journal.Press(30, 20), journal.Key('D'), list.GetCurSel(),
-        journal.Key(VK_SPACE));
+    const auto layout = [&] {
+        CRect client;
+        list.GetClientRect(&client);
+        return Answer(client).text + ' ' +
+               std::to_string(list.GetStyle() & (WS_HSCROLL | WS_VSCROLL));
+    };
+    ASK(CString(layout().c_str()), list.GetCurSel(), list.GetCaretIndex(), list.GetAnchorIndex(),
+        journal.Key(VK_DOWN), journal.Key(VK_END, VK_SHIFT), list.GetCurSel(), list.GetSelCount(),
+        journal.Press(30, 20), list.GetCurSel(), journal.Press(30, 20), journal.Key('D'),
+        list.GetCurSel(), journal.Key(VK_SPACE));
     for (int row = 0; row < 40; ++row)
     {
         list.AddString("Row");
     }
-    ASK(list.GetTopIndex(), list.SetTopIndex(20), list.GetTopIndex(),
+    ASK(CString(layout().c_str()), list.GetTopIndex(), list.SetTopIndex(20), list.GetTopIndex(),
         (list.SendMessage(WM_VSCROLL, SB_LINEDOWN), 0), list.GetTopIndex(),
         (list.SendMessage(WM_VSCROLL, SB_PAGEUP), 0), list.GetTopIndex(),
         journal.Press(Room.Width() - 8, Room.Height() - 8), list.GetTopIndex(),
@@ -88,6 +94,17 @@ CString Heading(const CHeaderCtrl& header, int column)
     return line;
 }
 
+// Drags in a header. Not the pointer's: it may be moved by nothing more often on one than the
+// other.
+int Pull(CHeaderCtrl& header, int from, int to)
+{
+    header.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(from, 8));
+    header.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM((from + to) / 2, 8));
+    header.SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(to, 8));
+    header.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(to, 8));
+    return to;
+}
+
 // The divider to be hot is not given as a point, for which the library's header has a rule of its
 // own in every mode.
 void Columns(CHeaderCtrl& header, Journal& journal)
@@ -109,11 +126,9 @@ void Columns(CHeaderCtrl& header, Journal& journal)
     ASK(header.SetItem(1, &narrow), header.SetItem(7, &narrow), header.SetOrderArray(3, order),
         header.GetOrderArray(order, 3), order[0], header.OrderToIndex(1), journal.Middle(),
         header.SetHotDivider(1), header.SetHotDivider(-1), header.HitTest(&hit), hit.flags,
-        hit.iItem, journal.Press(30, 8), journal.Press(100, 8),
-        (Drag(WindowPoint(header, CPoint(82, 10)), WindowPoint(header, CPoint(112, 10))), 0),
+        hit.iItem, journal.Press(30, 8), journal.Press(100, 8), Pull(header, 80, 110),
         Heading(header, 0), Heading(header, 1), Heading(header, 2), Heading(header, 3),
-        (Drag(WindowPoint(header, CPoint(30, 10)), WindowPoint(header, CPoint(170, 10))), 0),
-        header.GetOrderArray(order, 3), order[0], order[1],
+        Pull(header, 28, 168), header.GetOrderArray(order, 3), order[0], order[1],
         header.SendMessage(WM_LBUTTONDBLCLK, 0, MAKELPARAM(80, 8)), header.DeleteItem(0),
         header.DeleteItem(9), header.GetItemCount(), Heading(header, 0), Heading(header, 1),
         header.SendMessage(WM_GETDLGCODE));
@@ -173,10 +188,9 @@ void Report(CListCtrl& list, Journal& journal)
     {
         list.InsertItem(4 + row, "Row");
     }
-    Drag(WindowPoint(list, CPoint(72, 10)), WindowPoint(list, CPoint(102, 10)));
-    ASK(list.GetCountPerPage(), list.EnsureVisible(30, FALSE), journal.Middle(), list.GetTopIndex(),
-        list.GetColumnWidth(0), (Wheel(WHEEL_DELTA), 0), list.GetTopIndex(),
-        list.Scroll(CSize(0, -100)), list.GetTopIndex(),
+    ASK(Pull(*list.GetHeaderCtrl(), 70, 100), list.GetCountPerPage(), list.EnsureVisible(30, FALSE),
+        journal.Middle(), list.GetTopIndex(), list.GetColumnWidth(0), (Wheel(WHEEL_DELTA), 0),
+        list.GetTopIndex(), list.Scroll(CSize(0, -100)), list.GetTopIndex(),
         Filled([&](CRect* rect) { list.GetItemRect(5, rect, LVIR_BOUNDS); }),
         (list.SendMessage(WM_VSCROLL, SB_PAGEDOWN), 0), list.GetTopIndex(),
         list.HitTest(CPoint(20, 60)), list.DeleteItem(1), list.DeleteItem(99), list.DeleteColumn(2),
@@ -274,9 +288,10 @@ void Branch(CTreeCtrl& tree, Journal& journal)
         Named(tree, tree.GetSelectedItem()), tree.GetItemData(second),
         tree.GetItemState(first, TVIS_EXPANDED), journal.Key(VK_DOWN),
         Named(tree, tree.GetSelectedItem()), journal.Key(VK_HOME), journal.Key(VK_LEFT),
-        tree.GetItemState(first, TVIS_EXPANDED), journal.Key('S'),
-        Named(tree, tree.GetSelectedItem()), journal.Press(60, 10),
-        Named(tree, tree.GetSelectedItem()), tree.GetVisibleCount(),
+        tree.GetItemState(first, TVIS_EXPANDED), journal.Key('S'), tree.Expand(first, TVE_EXPAND),
+        tree.SelectItem(leaf), tree.Expand(first, TVE_COLLAPSE),
+        Named(tree, tree.GetSelectedItem()), Named(tree, tree.GetSelectedItem()),
+        journal.Press(60, 10), Named(tree, tree.GetSelectedItem()), tree.GetVisibleCount(),
         tree.SelectSetFirstVisible(second), journal.Middle(),
         Named(tree, tree.GetFirstVisibleItem()), tree.EnsureVisible(leaf),
         Named(tree, tree.GetFirstVisibleItem()), tree.GetItemHeight(), tree.GetIndent(),

@@ -231,7 +231,7 @@ TEST_F(Parity, ItemsOfACombo)
     CCustomDropListCombo ours;
     ours.Create(WS_CHILD | WS_VISIBLE, Room, &Host(), Id + 1);
     const auto play = [this](auto& combo, auto remove) {
-        Journal journal(Host(), combo, [] { ThroughAllModes(); });
+        Journal journal(Host(), combo, [this] { ThroughAllModes(); });
         for (const char* const text : {"Gamma", "Alpha", "Delta", "Alphabet"})
         {
             ASK(combo.AddString(text));
