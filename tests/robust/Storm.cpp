@@ -77,6 +77,20 @@ void Storm::Press(HWND window, UINT down, UINT up, WPARAM wParam, LPARAM point)
     }
 }
 
+// On a scroll bar, if there is one. A press that the platform answers with a loop of its own is no
+// message of the library.
+bool Storm::PressBar(HWND window, LPARAM onScreen)
+{
+    const LRESULT hit = ::SendMessage(window, WM_NCHITTEST, 0, onScreen);
+    const bool bar = hit == HTVSCROLL || hit == HTHSCROLL;
+    if (bar && COnBoardUIGeneral::InOnBoardMode())
+    {
+        Press(window, Between(0, 3) ? WM_NCLBUTTONDOWN : WM_NCLBUTTONDBLCLK, WM_NCLBUTTONUP,
+              WPARAM(hit), onScreen);
+    }
+    return bar;
+}
+
 // The right button and the middle one. Edits open a menu of the platform's when the right button is
 // released; it did not close again in several storms, by a key, a timer or EndMenu.
 void Storm::OtherButton(HWND window, LPARAM point)
@@ -138,19 +152,8 @@ void Storm::Input(HWND window)
         Send(window, WM_MOUSEMOVE, Between(0, 1) ? MK_LBUTTON : 0, inside);
         break;
     case 4:
-    {
-        const LRESULT hit = ::SendMessage(window, WM_NCHITTEST, 0, onScreen);
-        // A press that the platform answers with a loop of its own is no message of the library.
-        if (hit == HTVSCROLL || hit == HTHSCROLL)
-        {
-            if (COnBoardUIGeneral::InOnBoardMode())
-            {
-                Press(window, Between(0, 3) ? WM_NCLBUTTONDOWN : WM_NCLBUTTONDBLCLK, WM_NCLBUTTONUP,
-                      WPARAM(hit), onScreen);
-            }
-        }
+        PressBar(window, onScreen);
         break;
-    }
     case 5:
         Send(window, WM_NCMOUSEMOVE, HTVSCROLL, onScreen);
         break;
@@ -298,6 +301,19 @@ void Storm::Life(CWnd& parent, CWnd& window)
     default:
         SendOne(window, CommonWords);
         break;
+    }
+}
+
+void Storm::Touch(CWnd& window)
+{
+    const HWND target = Target(window);
+    const LPARAM inside = m_arguments.Value(Argument::Point, target);
+    CPoint screen(short(LOWORD(inside)), short(HIWORD(inside)));
+    ::ClientToScreen(target, &screen);
+    const LPARAM onScreen = MAKELPARAM(screen.x, screen.y);
+    if (!PressBar(target, onScreen))
+    {
+        Press(target, WM_LBUTTONDOWN, WM_LBUTTONUP, MK_LBUTTON, inside);
     }
 }
 

@@ -16,6 +16,9 @@ public:
     // So many messages. Ends early when the window is gone.
     void Blow(CWnd& parent, CWnd& window, int messages);
 
+    // A press somewhere on it, released as a hand does it.
+    void Touch(CWnd& window);
+
     // Subject, seed and the last messages, for whoever has to find out.
     std::string Log() const;
 
@@ -43,6 +46,7 @@ private:
     HWND Target(CWnd& window);
     void Input(HWND window);
     void Press(HWND window, UINT down, UINT up, WPARAM wParam, LPARAM point);
+    bool PressBar(HWND window, LPARAM onScreen);
     void OtherButton(HWND window, LPARAM point);
     void Key(HWND window);
     void Scroll(HWND window);

@@ -52,44 +52,53 @@ protected:
     }
 
 private:
-    // The hand leaves the screen: that alone ends all that went on.
-    void ComeToRest(CWnd& window, const Storm& storm)
+    // What was pressed is released, and nothing goes on; neither after a few presses more.
+    void ComeToRest(CWnd& window, Storm& storm)
     {
         const Subject& subject = GetParam();
         const HWND handle = window.GetSafeHwnd();
-        const bool lives = ::IsWindow(handle) != FALSE;
-        if (lives && subject.rest)
+        ReleaseAll(window, storm);
+        for (int touches = 0; touches < 30 && ::IsWindow(handle) && !HasFailure(); ++touches)
+        {
+            if (touches % 10 == 0)
+            {
+                COnBoardUIGeneral::SetAppMode(touches == 0 ? ONBOARD : touches == 10 ? EFB : STD);
+                window.SetWindowPos(nullptr, 10, 10, 300, 200, SWP_NOZORDER | SWP_SHOWWINDOW);
+                window.EnableWindow(TRUE);
+                window.SendMessage(WM_SETREDRAW, TRUE);
+                window.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+            }
+            storm.Touch(window);
+            ReleaseAll(window, storm);
+            if (subject.fault)
+            {
+                EXPECT_EQ(subject.fault(window), "") << storm.Log();
+            }
+        }
+        EXPECT_EQ(TicksWithin(100), 0) << storm.Log();
+        window.SendMessage(WM_CANCELMODE);
+        PumpAll();
+    }
+
+    void ReleaseAll(CWnd& window, const Storm& storm)
+    {
+        const Subject& subject = GetParam();
+        const HWND handle = window.GetSafeHwnd();
+        if (::IsWindow(handle) && subject.rest)
         {
             subject.rest(window);
         }
-        for (const UINT up : {WM_LBUTTONUP, WM_NCLBUTTONUP, WM_NCMOUSELEAVE})
+        const HWND part = ::IsWindow(handle) && subject.part ? subject.part(window) : nullptr;
+        for (const HWND to : {::GetCapture(), handle, part})
         {
-            const HWND captor = ::GetCapture();
-            const bool outside = up == WM_NCLBUTTONUP || up == WM_NCMOUSELEAVE;
-            for (const HWND to :
-                 {captor, handle, lives && subject.part ? subject.part(window) : captor})
-            {
-                ::SendMessage(to, up, outside ? HTNOWHERE : 0, outside ? 0 : -1);
-            }
+            ::SendMessage(to, WM_LBUTTONUP, 0, -1);
+            ::SendMessage(to, WM_NCLBUTTONUP, HTNOWHERE, 0);
+            ::SendMessage(to, WM_NCMOUSELEAVE, 0, 0);
         }
         PumpAll();
         EXPECT_EQ(::GetCapture(), nullptr) << ClassOf(::GetCapture()) << ' ' << storm.Log();
         ::ReleaseCapture();
         EXPECT_EQ(EndTimers(), 0) << storm.Log();
-        if (::IsWindow(handle))
-        {
-            window.EnableWindow(TRUE);
-            window.ShowWindow(SW_SHOWNA);
-            window.SendMessage(WM_SETREDRAW, TRUE);
-            window.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
-            EXPECT_EQ(TicksWithin(100), 0) << storm.Log();
-            if (subject.fault)
-            {
-                EXPECT_EQ(subject.fault(window), "") << storm.Log();
-            }
-            window.SendMessage(WM_CANCELMODE);
-        }
-        PumpAll();
     }
 
     static std::string ClassOf(HWND window)
