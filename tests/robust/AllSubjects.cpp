@@ -130,12 +130,6 @@ void UseSearchBar(CWnd& window, Arguments& arguments)
     (bar.*acts[arguments.Between(0, 3)])();
 }
 
-void RestSearchBar(CWnd& window)
-{
-    static_cast<CSearchStatusBar&>(window).StopSearchProgress();
-    static_cast<CSearchStatusBar&>(window).StopLoadingProgress();
-}
-
 void UseReport(CWnd& window, Arguments& arguments)
 {
     auto& list = static_cast<CCustomListCtrl&>(window);
@@ -143,8 +137,8 @@ void UseReport(CWnd& window, Arguments& arguments)
         int(::SendMessage(list.GetHeaderCtrl()->GetSafeHwnd(), HDM_GETITEMCOUNT, 0, 0));
     if (columns < 6 && arguments.Between(0, 2) != 0)
     {
-        window.SendMessage(LVM_INSERTCOLUMN, WPARAM(arguments.Between(0, columns)),
-                           arguments.Value(Column, window));
+        list.InsertColumn(arguments.Between(0, columns), arguments.Words(), LVCFMT_LEFT,
+                          arguments.Between(0, 200));
         return;
     }
     std::vector<int> order;
@@ -247,7 +241,9 @@ std::vector<Subject> MakeAll()
     change("status bar").words = StatusWords;
     change("search bar").words = StatusWords;
     change("search bar").act = &UseSearchBar;
-    change("search bar").rest = &RestSearchBar;
+    change("search bar").rest = [](CWnd& window) {
+        static_cast<CSearchStatusBar&>(window).StopSearchProgress();
+    };
     change("swatch").act = [](CWnd& window, Arguments& arguments) {
         static_cast<CColorStatic&>(window).Set(COLORREF(arguments.Value(Data, window)));
     };

@@ -199,6 +199,8 @@ void Storm::TellParent(HWND window)
 // As an assistive program does.
 void Storm::Ask(HWND window)
 {
+    static const HRESULT ready = ::CoInitialize(nullptr);
+    (void)ready;
     const long child = Between(0, 6);
     const int what = Between(0, 3);
     Note(WM_GETOBJECT, WPARAM(what), LPARAM(child));
@@ -236,18 +238,13 @@ HWND Storm::Target(CWnd& window)
     {
         return itself;
     }
-    if (m_subject.part)
+    HWND part = m_subject.part ? m_subject.part(window) : itself;
+    for (int depth = Between(0, 2); depth > 0 && !m_subject.part; --depth)
     {
-        const HWND part = m_subject.part(window);
-        return part == nullptr ? itself : part;
+        const auto child = reinterpret_cast<HWND>(m_arguments.Value(Argument::Child, part));
+        part = child == nullptr ? part : child;
     }
-    std::vector<HWND> parts = {itself};
-    const auto collect = [](HWND part, LPARAM list) -> BOOL {
-        reinterpret_cast<std::vector<HWND>*>(list)->push_back(part);
-        return TRUE;
-    };
-    ::EnumChildWindows(itself, collect, LPARAM(&parts));
-    return parts[size_t(Between(0, int(parts.size()) - 1))];
+    return part == nullptr ? itself : part;
 }
 
 void Storm::Life(CWnd& parent, CWnd& window)

@@ -305,21 +305,11 @@ LPARAM Arguments::Value(Argument argument, HWND window)
         }
         return reinterpret_cast<LPARAM>(child);
     }
-    case Column:
-        m_column.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
-        m_column.fmt = Between(LVCFMT_LEFT, LVCFMT_CENTER);
-        m_column.cx = Between(0, 200);
-        m_column.pszText = m_texts[Between(0, 3)].data();
-        return reinterpret_cast<LPARAM>(&m_column);
     case HeadItem:
         m_headItem.mask = HDI_WIDTH | HDI_FORMAT;
         m_headItem.cxy = Between(0, 200);
         m_headItem.fmt = HDF_STRING | (Between(0, 1) ? HDF_SORTUP : HDF_SORTDOWN);
         return reinterpret_cast<LPARAM>(&m_headItem);
-    case Layout:
-        Value(Place, window);
-        m_layout = {&m_place, &m_position};
-        return reinterpret_cast<LPARAM>(&m_layout);
     case Hit:
         std::fill_n(m_room.data(), 256, char(0));
         *reinterpret_cast<POINT*>(m_room.data()) = {Between(-20, 300), Between(-20, 200)};

@@ -44,9 +44,7 @@ enum class Argument
     Canvas,   // a device context of memory
     Printed,  // what WM_PRINTCLIENT is to draw
     Child,    // a window in it, or none
-    Column,   // an LVCOLUMN
     HeadItem, // an HDITEM
-    Layout,   // an HDLAYOUT
     Hit,      // what a hit test takes: a point, with room behind it
     Edges,    // of three panes of a status bar
 };
@@ -159,10 +157,7 @@ private:
     std::vector<char> m_room = std::vector<char>(0x10000);
     CRect m_place;
     LVITEM m_item = {};
-    LVCOLUMN m_column = {};
     HDITEM m_headItem = {};
-    WINDOWPOS m_position = {};
-    HDLAYOUT m_layout = {};
     CBitmap m_bitmap; // of the canvas, which ends before it
     CDC m_canvas;
     int m_edges[3] = {};
