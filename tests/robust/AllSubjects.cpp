@@ -124,7 +124,7 @@ void RestCombo(CWnd& window)
 void UseSearchBar(CWnd& window, Arguments& arguments)
 {
     auto& bar = static_cast<CSearchStatusBar&>(window);
-    constexpr void (CSearchStatusBar::*acts[])() = {
+    void (CSearchStatusBar::*const acts[])() = {
         &CSearchStatusBar::StartSearchProgress, &CSearchStatusBar::StartLoadingProgress,
         &CSearchStatusBar::StopSearchProgress, &CSearchStatusBar::StopLoadingProgress};
     (bar.*acts[arguments.Between(0, 3)])();
