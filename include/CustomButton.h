@@ -6,6 +6,7 @@
 #include <afxwin.h>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 // The base of the library's buttons. In the standard mode it is the platform's button. In an
@@ -96,6 +97,8 @@ protected:
     afx_msg void OnSetFocus(CWnd* loser);
     afx_msg void OnKillFocus(CWnd* taker);
     afx_msg void OnKeyUp(UINT key, UINT repeat, UINT flags);
+    // For derived classes to map: focus cues are drawn at once.
+    afx_msg void OnUpdateUIState(UINT action, UINT element);
     afx_msg LRESULT OnBMClick(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnBMSetCheck(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnBMSetState(WPARAM wParam, LPARAM lParam);
@@ -104,6 +107,9 @@ protected:
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
+    // Whether the mode is on-board, the first question of every handler; nothing when the button
+    // has not survived a press that ended here.
+    std::optional<bool> FollowMode();
     // Sets the on-board check state; shown by the next paint.
     void ChangeCheck(int check);
     // A click that a key makes: shown at once.
@@ -114,15 +120,16 @@ protected:
 
     // Made with the first button and kept for the life of the process.
     static CPen m_OutlinePen;
-    static CPen m_PressedOutlinePen;
+    static CPen m_PressedOutlinePen; // for derived classes
     static CPen m_FocusPen;
     static CPen m_PressedFocusPen;
     static CFont m_Font;
 
     bool m_tracking = false; // a press that began here is followed, with the mouse captured
     bool m_pressed = false;
-    bool m_focused = false;   // on-board only
-    bool m_mouseDown = false; // the left button went down here and has not come up
+    bool m_focused = false; // on-board only
+    bool m_mouseDown =
+        false; // the left button went down here and has not come up: for derived classes
     int m_check = BST_UNCHECKED;
     COLORREF m_background; // of the client area, on-board
 
@@ -130,5 +137,8 @@ private:
     APPMODE m_trackedIn = STD; // the mode in which the press began
     bool m_spaceHeld = false;  // the platform's button has taken the space key down
 
-    bool FollowMode();
+    // Whether the handler goes on. If not, the platform's button has had its message, when there
+    // still is one; its answer goes into answer.
+    bool FollowOrPass(LRESULT* answer = nullptr);
+    bool SurvivesEnd();
 };

@@ -23,7 +23,6 @@ public:
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
 
 protected:
-    afx_msg void OnUpdateUIState(UINT action, UINT element);
     DECLARE_MESSAGE_MAP()
 
     static CPen m_penCheckEnabled;

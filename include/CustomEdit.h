@@ -110,7 +110,7 @@ public:
 
 protected:
     static IEFB* m_efb;
-    static CPen m_OutlinePen;
+    static CPen m_OutlinePen; // for derived classes
     static CFont m_OBFont;
     static CFont m_StdFont;
 
@@ -122,7 +122,7 @@ protected:
     CFauxScrollBar m_bar;
     CFauxScrollBar::ePRESSED m_lastHit = CFauxScrollBar::PRESSED_NONE; // part held down
     bool m_wantsBar = false;                                           // made with WS_VSCROLL
-    bool m_overflowing = false; // more lines than are visible
+    bool m_overflowing = false; // more lines than are visible; for derived classes
     bool m_firstUpdateDone = false;
     bool m_fauxReadOnly = false;
 

@@ -70,7 +70,7 @@ public:
     // Width in pixels of a row's text: in the control's font, and on-board for rows that the list
     // draws itself in the font that DrawItem takes. 0 for rows without text.
     virtual int GetEntryWidth(int index);
-    // Width in pixels of the widest character of the control's font.
+    // Width in pixels of the widest character of the control's font, for derived classes.
     virtual int GetMaxCharWidth();
 
 protected:

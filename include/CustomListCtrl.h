@@ -212,7 +212,7 @@ protected:
     CFauxScrollBar m_hBar;
     CSize m_scrollUnit;     // pixels: a step sideways, a row's height
     CPoint m_drawOffset;    // pixels, 0 or negative
-    CPoint m_furtherOffset; // cleared together with the offset
+    CPoint m_furtherOffset; // for derived classes; cleared together with the offset
     int m_wheel = 0;        // turned and not scrolled yet
     GridLines m_gridLines;
     int m_selChanging = FALSE;

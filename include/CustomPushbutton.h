@@ -15,6 +15,5 @@ public:
     void DrawOB(CDC& dc) override;
 
 protected:
-    afx_msg void OnUpdateUIState(UINT action, UINT element);
     DECLARE_MESSAGE_MAP()
 };

@@ -65,6 +65,7 @@ protected:
     void DrawOBArrow(CDC& dc, const POINT* points, const CBrush& fill) const;
 
     CPen m_outlinePen;
+    // The second and third pen, the first and second brush: for derived classes.
     CPen m_secondOutlinePen;
     CPen m_thirdOutlinePen;
     CBrush m_firstBrush;

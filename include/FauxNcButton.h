@@ -48,7 +48,7 @@ protected:
     int m_data; // free for the owner's derived class
     bool m_border;
     BUTTON_TYPE m_buttonType;
-    CPen m_blackPen;
+    CPen m_blackPen; // for derived classes, as the next
     CPen m_greyPen;
     CFont m_font;
 };

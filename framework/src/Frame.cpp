@@ -73,19 +73,27 @@ BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext* context)
 
 int CFrameWnd::OnCreate(LPCREATESTRUCT cs)
 {
+    const framework::StillThere here(*this);
     if (CWnd::OnCreate(cs) == -1 ||
-        !OnCreateClient(cs, static_cast<CCreateContext*>(cs->lpCreateParams)))
+        !OnCreateClient(cs, static_cast<CCreateContext*>(cs->lpCreateParams)) || !here)
     {
         return -1;
     }
     RecalcLayout();
-    if (auto* view =
-            DYNAMIC_DOWNCAST(CView, FromHandlePermanent(::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST))))
+    auto* const view =
+        here
+            ? DYNAMIC_DOWNCAST(CView, FromHandlePermanent(::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST)))
+            : nullptr;
+    if (view != nullptr)
     {
+        const framework::StillThere viewThere(*view);
         view->OnInitialUpdate();
-        SetActiveView(view, FALSE);
+        if (here && viewThere)
+        {
+            SetActiveView(view, FALSE);
+        }
     }
-    return 0;
+    return here ? 0 : -1;
 }
 
 void CFrameWnd::OnDestroy()

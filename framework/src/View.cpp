@@ -271,20 +271,31 @@ BOOL CFormView::Create(LPCSTR, LPCSTR windowName, DWORD requestedStyle, const RE
     // The controls' extent, before the frame gives the form a size of its own.
     CRect extent;
     GetClientRect(&extent);
+    // The window hears of each step, and may end in any.
+    const framework::StillThere here(*this);
     ModifyStyle(WS_BORDER | WS_CAPTION | WS_POPUP, WS_CHILD);
-    SetDlgCtrlID(int(id));
-    if (windowName != nullptr)
+    if (here)
+    {
+        SetDlgCtrlID(int(id));
+    }
+    if (here && windowName != nullptr)
     {
         SetWindowText(windowName);
     }
-    SetScrollSizes(MM_TEXT, extent.Size());
-    SetWindowPos(nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-    if (requestedStyle & WS_VISIBLE)
+    if (here)
+    {
+        SetScrollSizes(MM_TEXT, extent.Size());
+    }
+    if (here)
+    {
+        SetWindowPos(nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+    }
+    if (here && (requestedStyle & WS_VISIBLE) != 0)
     {
         ShowWindow(SW_SHOWNA);
     }
-    return TRUE;
+    return BOOL(bool(here));
 }
 
 void CFormView::OnInitialUpdate()

@@ -1,6 +1,5 @@
 #include "CustomButton.h"
 
-#include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "access/Answers.h"
 #include "buttons/ButtonLayout.h"
@@ -45,14 +44,6 @@ CFont CCustomButton::m_Font;
 
 namespace {
 
-void MakeOnce(CPen& pen, int (*create)(CPen&, unsigned long), COLORREF color)
-{
-    if (pen.GetSafeHandle() == nullptr)
-    {
-        create(pen, color);
-    }
-}
-
 // Hidden or disabled, by itself or with a window above it.
 bool IsOutOfReach(HWND window)
 {
@@ -76,39 +67,65 @@ bool IsOutOfReach(HWND window)
 CCustomButton::CCustomButton()
     : m_background(palette::Panel)
 {
-    MakeOnce(m_OutlinePen, &CreateOnBoardOutlinePen, palette::Outline);
-    MakeOnce(m_PressedOutlinePen, &CreateOnBoardOutlinePen, palette::PressedOutline);
-    MakeOnce(m_FocusPen, &CreateOnBoardFocusPen, palette::Outline);
-    MakeOnce(m_PressedFocusPen, &CreateOnBoardFocusPen, palette::PressedOutline);
+    MakeControlPen(m_OutlinePen, palette::Outline);
+    MakeControlPen(m_PressedOutlinePen, palette::PressedOutline);
+    MakeControlFocusPen(m_FocusPen, palette::Outline);
+    MakeControlFocusPen(m_PressedFocusPen, palette::PressedOutline);
     OnBoardControlFont(m_Font, LargeOnBoardFont);
     EnableActiveAccessibility();
 }
 
 CCustomButton::~CCustomButton() = default;
 
-// Returns whether the mode is on-board, the first question of every handler. A press ends here that
-// a change of the mode or a hidden or disabled parent has cut off: none of them sends the button a
-// message.
-bool CCustomButton::FollowMode()
+// The first question of every handler. A press ends here that a change of the mode or a hidden or
+// disabled parent has cut off: none of them sends the button a message.
+std::optional<bool> CCustomButton::FollowMode()
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    if (m_tracking && (COnBoardUIGeneral::GetAppMode() != m_trackedIn || IsOutOfReach(m_hWnd)))
+    if (m_tracking && (COnBoardUIGeneral::GetAppMode() != m_trackedIn || IsOutOfReach(m_hWnd)) &&
+        !SurvivesEnd())
     {
-        EndTracking();
+        return std::nullopt;
     }
     return onBoard;
+}
+
+bool CCustomButton::FollowOrPass(LRESULT* answer)
+{
+    const auto onBoard = FollowMode();
+    if (onBoard && !*onBoard)
+    {
+        const LRESULT result = Default();
+        if (answer != nullptr)
+        {
+            *answer = result;
+        }
+    }
+    return onBoard.value_or(false);
+}
+
+// Ends a press; whether the button is still there, be it without a window.
+bool CCustomButton::SurvivesEnd()
+{
+    const bool hadWindow = GetSafeHwnd() != nullptr;
+    const WindowAlive alive(*this);
+    EndTracking();
+    return alive || !hadWindow;
 }
 
 // State -----------------------------------------------------------------------------------------
 
 void CCustomButton::SetState(int state)
 {
-    if (FollowMode())
+    const auto onBoard = FollowMode();
+    if (onBoard.value_or(false))
     {
         OnBMSetState(WPARAM(state), 0);
-        return;
     }
-    CButton::SetState(state);
+    else if (onBoard)
+    {
+        CButton::SetState(state);
+    }
 }
 
 int CCustomButton::GetCheck() const
@@ -118,12 +135,15 @@ int CCustomButton::GetCheck() const
 
 void CCustomButton::SetCheck(int check)
 {
-    if (FollowMode())
+    const auto onBoard = FollowMode();
+    if (onBoard.value_or(false))
     {
         OnBMSetCheck(WPARAM(check), 0);
-        return;
     }
-    CButton::SetCheck(check);
+    else if (onBoard)
+    {
+        CButton::SetCheck(check);
+    }
 }
 
 void CCustomButton::ChangeCheck(int check)
@@ -246,18 +266,15 @@ void CCustomButton::GetSiblingControls(std::vector<CWnd*>& controls, DWORD style
 
 void CCustomButton::DrawOB()
 {
-    CDC* const dc = GetSafeHwnd() == nullptr ? nullptr : GetDC();
-    if (dc == nullptr)
+    if (GetSafeHwnd() == nullptr)
     {
         return;
     }
-    {
-        CRect client;
-        GetClientRect(&client);
-        BackBuffer buffer(*dc, client);
-        DrawOB(buffer);
-    }
-    ReleaseDC(dc);
+    CClientDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    BackBuffer buffer(dc, client);
+    DrawOB(buffer);
 }
 
 void CCustomButton::DrawChoice(CDC& dc, const std::function<void(const CRect&, CRect&)>& drawMark)
@@ -297,15 +314,16 @@ void CCustomButton::DrawRCText(CDC& dc, const CRect& item, const CRect& mark)
 
 void CCustomButton::OnDestroy()
 {
-    EndTracking();
-    CButton::OnDestroy();
+    if (SurvivesEnd())
+    {
+        CButton::OnDestroy();
+    }
 }
 
 void CCustomButton::OnPaint()
 {
-    if (!FollowMode())
+    if (!FollowOrPass())
     {
-        Default();
         return;
     }
     CPaintDC dc(this);
@@ -317,34 +335,37 @@ void CCustomButton::OnPaint()
 
 void CCustomButton::OnEnable(BOOL enable)
 {
-    if (!FollowMode())
+    if (FollowOrPass() && (enable || SurvivesEnd()))
     {
-        Default();
-        return;
+        Invalidate(FALSE);
     }
-    if (!enable)
-    {
-        EndTracking();
-    }
-    Invalidate(FALSE);
 }
 
 void CCustomButton::OnShowWindow(BOOL show, UINT)
 {
-    if (FollowMode() && !show)
+    const auto onBoard = FollowMode();
+    if (onBoard && (!*onBoard || show || SurvivesEnd()))
     {
-        EndTracking();
+        Default();
     }
-    Default();
+}
+
+void CCustomButton::OnUpdateUIState(UINT, UINT)
+{
+    if (FollowOrPass())
+    {
+        DrawOB();
+    }
 }
 
 // The button's own messages ---------------------------------------------------------------------
 
 LRESULT CCustomButton::OnBMClick(WPARAM, LPARAM)
 {
-    if (!FollowMode())
+    LRESULT answer = 0;
+    if (!FollowOrPass(&answer))
     {
-        return Default();
+        return answer;
     }
     const WindowAlive alive(*this);
     HandleBMClick();
@@ -361,45 +382,50 @@ LRESULT CCustomButton::OnBMClick(WPARAM, LPARAM)
 
 LRESULT CCustomButton::OnBMSetCheck(WPARAM wParam, LPARAM)
 {
-    if (!FollowMode())
+    LRESULT answer = 0;
+    if (FollowOrPass(&answer) && SurvivesEnd())
     {
-        return Default();
+        ChangeCheck(int(wParam));
     }
-    EndTracking();
-    ChangeCheck(int(wParam));
-    return 0;
+    return answer;
 }
 
 LRESULT CCustomButton::OnBMSetState(WPARAM wParam, LPARAM)
 {
-    if (!FollowMode())
+    LRESULT answer = 0;
+    if (!FollowOrPass(&answer) || !SurvivesEnd())
     {
-        return Default();
+        return answer;
     }
-    EndTracking();
     m_pressed = wParam != 0;
     if (GetSafeHwnd() == nullptr)
     {
         return 0;
     }
+    const WindowAlive alive(*this); // the platform tells assistive programs
     // A press of the standard mode that the mode change cut off leaves the platform's button
     // pushed.
     if (!m_pressed && (DefWindowProc(BM_GETSTATE, 0, 0) & BST_PUSHED) != 0)
     {
         DefWindowProc(BM_SETSTATE, FALSE, 0);
     }
-    Invalidate(FALSE);
+    if (alive)
+    {
+        Invalidate(FALSE);
+    }
     return 0;
 }
 
 LRESULT CCustomButton::OnBMGetCheck(WPARAM, LPARAM)
 {
-    return FollowMode() ? m_check : Default();
+    LRESULT answer = 0;
+    return FollowOrPass(&answer) ? m_check : answer;
 }
 
 LRESULT CCustomButton::OnBMGetState(WPARAM, LPARAM)
 {
-    return FollowMode() ? LRESULT(m_pressed) : Default();
+    LRESULT answer = 0;
+    return FollowOrPass(&answer) ? LRESULT(m_pressed) : answer;
 }
 
 // The platform's button draws itself as soon as it has another caption.
@@ -407,7 +433,7 @@ LRESULT CCustomButton::OnSetText(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this);
     const LRESULT result = Default();
-    if (alive && FollowMode())
+    if (alive && FollowMode().value_or(false))
     {
         DrawOB();
     }

@@ -9,9 +9,8 @@
 
 void CCustomButton::OnLButtonDown(UINT, CPoint)
 {
-    if (!FollowMode())
+    if (!FollowOrPass())
     {
-        Default();
         return;
     }
     const WindowAlive alive(*this);
@@ -26,7 +25,12 @@ void CCustomButton::OnLButtonUp(UINT, CPoint point)
 {
     const WindowAlive alive(*this);
     const bool inside = InButtonRect(point);
-    if (!FollowMode())
+    const auto onBoard = FollowMode();
+    if (!onBoard)
+    {
+        return;
+    }
+    if (!*onBoard)
     {
         Default();
     }
@@ -60,9 +64,8 @@ void CCustomButton::OnLButtonDblClk(UINT flags, CPoint point)
 
 void CCustomButton::OnMouseMove(UINT, CPoint point)
 {
-    if (!FollowMode())
+    if (!FollowOrPass())
     {
-        Default();
         return;
     }
     if (m_tracking)
@@ -77,12 +80,13 @@ void CCustomButton::OnMouseMove(UINT, CPoint point)
 
 void CCustomButton::OnCaptureChanged(CWnd* taker)
 {
+    const WindowAlive alive(*this);
     // The platform's button has presses of its own: those of the standard mode and the space key.
     Default();
-    if (taker != this && (m_tracking || m_spaceHeld))
+    if (alive && taker != this && (m_tracking || m_spaceHeld))
     {
         EndTracking();
-        if (COnBoardUIGeneral::InOnBoardMode())
+        if (alive && COnBoardUIGeneral::InOnBoardMode())
         {
             DrawOB();
         }
@@ -91,17 +95,18 @@ void CCustomButton::OnCaptureChanged(CWnd* taker)
 
 void CCustomButton::OnCancelMode()
 {
-    FollowMode();
-    Default(); // releases the capture, and with it the press
+    if (FollowMode())
+    {
+        Default(); // releases the capture, and with it the press
+    }
 }
 
 // Keyboard --------------------------------------------------------------------------------------
 
 void CCustomButton::OnSetFocus(CWnd*)
 {
-    if (!FollowMode())
+    if (!FollowOrPass())
     {
-        Default();
         return;
     }
     m_focused = true;
@@ -111,14 +116,11 @@ void CCustomButton::OnSetFocus(CWnd*)
 void CCustomButton::OnKillFocus(CWnd*)
 {
     m_focused = false; // in any mode: the next on-board one shows no focus that is elsewhere
-    if (!FollowMode())
+    if (!FollowOrPass())
     {
-        Default();
         return;
     }
-    const WindowAlive alive(*this);
-    EndTracking();
-    if (alive)
+    if (SurvivesEnd())
     {
         DrawOB();
     }
@@ -126,9 +128,8 @@ void CCustomButton::OnKillFocus(CWnd*)
 
 void CCustomButton::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
-    if (!FollowMode())
+    if (!FollowOrPass())
     {
-        Default();
         return;
     }
     const WindowAlive alive(*this);
@@ -143,14 +144,16 @@ void CCustomButton::OnKeyDown(UINT key, UINT repeat, UINT flags)
 // before it clicks, and that state is kept here: so the click is made here too.
 void CCustomButton::OnKeyUp(UINT key, UINT, UINT)
 {
-    if (!FollowMode() || !m_spaceHeld || key != VK_SPACE)
+    const auto onBoard = FollowMode();
+    if (!onBoard)
     {
-        Default();
         return;
     }
-    const WindowAlive alive(*this);
-    EndTracking();
-    if (alive)
+    if (!*onBoard || !m_spaceHeld || key != VK_SPACE)
+    {
+        Default();
+    }
+    else if (SurvivesEnd())
     {
         OnBMClick(0, 0);
     }

@@ -1,7 +1,6 @@
 #include "CustomCheckBox.h"
 
 #include "OnBoardUI.h"
-#include "OnBoardUIGeneral.h"
 #include "buttons/ButtonLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
@@ -84,14 +83,4 @@ void CCustomCheckBox::DrawCheckBox(CDC& dc, const CRect& item, CRect& mark)
         dc.MoveTo(inner.left + 1, inner.bottom - 2);
         dc.LineTo(inner.right - 2, inner.top + 1);
     }
-}
-
-void CCustomCheckBox::OnUpdateUIState(UINT, UINT)
-{
-    if (!COnBoardUIGeneral::InOnBoardMode())
-    {
-        Default();
-        return;
-    }
-    DrawOB();
 }

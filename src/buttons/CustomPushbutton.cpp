@@ -1,7 +1,6 @@
 #include "CustomPushbutton.h"
 
 #include "OnBoardUI.h"
-#include "OnBoardUIGeneral.h"
 #include "buttons/ButtonLayout.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
@@ -34,8 +33,7 @@ void CCustomPushbutton::DrawOB(CDC& dc)
         // Meant: a press goes on looking like one while the pointer is dragged off the button.
         const palette::Gradient& face =
             m_tracking ? palette::FacePressedGradient : palette::FaceGradient;
-        constexpr unsigned long TopToBottom = 1;
-        GradientFill(&dc, rect, face.from, face.to, TopToBottom);
+        GradientFill(&dc, rect, face.from, face.to, GRADIENT_FILL_RECT_V);
     }
     else
     {
@@ -67,14 +65,4 @@ void CCustomPushbutton::DrawOB(CDC& dc)
     const Selected font(dc, m_Font);
     const TextColor color(dc, enabled ? palette::ButtonText : palette::PushTextDisabled);
     dc.DrawText(text, &rect, buttons::PushCaptionFormat(style));
-}
-
-void CCustomPushbutton::OnUpdateUIState(UINT, UINT)
-{
-    if (!COnBoardUIGeneral::InOnBoardMode())
-    {
-        Default();
-        return;
-    }
-    DrawOB();
 }

@@ -1,9 +1,9 @@
 #include "CustomRadiobutton.h"
 
-#include "OnBoardUIGeneral.h"
 #include "buttons/ButtonLayout.h"
 #include "buttons/RadioCircle.h"
 #include "modes/WindowAlive.h"
+#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
 
@@ -22,9 +22,28 @@ namespace {
 
 constexpr DWORD GroupBoxBits = BS_GROUPBOX;
 
-void DrawSpans(CDC& dc, CPoint origin, std::span<const buttons::CircleSpan> spans, COLORREF color)
+// Made at the first circle and kept for the life of the process.
+struct MarkPens
 {
-    const CPen pen(PS_INSIDEFRAME, 1, color);
+    explicit MarkPens(const palette::Mark& colors)
+        : rim(PS_INSIDEFRAME, 1, colors.rim)
+        , light(PS_INSIDEFRAME, 1, colors.light)
+        , face(PS_INSIDEFRAME, 1, colors.face)
+        , sign(PS_INSIDEFRAME, 1, colors.sign)
+    {}
+
+    CPen rim, light, face, sign;
+};
+
+const MarkPens& PensOf(bool enabled)
+{
+    static const MarkPens on(palette::MarkEnabled);
+    static const MarkPens off(palette::MarkDisabled);
+    return enabled ? on : off;
+}
+
+void DrawSpans(CDC& dc, CPoint origin, std::span<const buttons::CircleSpan> spans, const CPen& pen)
+{
     const Selected selected(dc, pen);
     for (const buttons::CircleSpan& span : spans)
     {
@@ -74,11 +93,7 @@ std::vector<HWND> GroupFrom(HWND parent, HWND head)
 
 CCustomRadiobutton::CCustomRadiobutton()
 {
-    m_background = palette::Panel;
-    if (m_DotBrush.GetSafeHandle() == nullptr)
-    {
-        m_DotBrush.CreateSolidBrush(palette::RadioDot);
-    }
+    MakeControlBrush(m_DotBrush, palette::RadioDot);
 }
 
 CCustomRadiobutton::~CCustomRadiobutton() = default;
@@ -177,14 +192,14 @@ void CCustomRadiobutton::DrawOB(CDC& dc)
 void CCustomRadiobutton::DrawRadioCircle(CDC& dc, const CRect& item, CRect& mark)
 {
     mark = buttons::RadioSquare(item);
-    const palette::Mark& colors = IsWindowEnabled() ? palette::MarkEnabled : palette::MarkDisabled;
+    const MarkPens& pens = PensOf(IsWindowEnabled() != FALSE);
     const CPoint origin = mark.TopLeft();
-    DrawSpans(dc, origin, buttons::CircleRim, colors.rim);
-    DrawSpans(dc, origin, buttons::CircleLight, colors.light);
-    DrawSpans(dc, origin, buttons::CircleFace, colors.face);
+    DrawSpans(dc, origin, buttons::CircleRim, pens.rim);
+    DrawSpans(dc, origin, buttons::CircleLight, pens.light);
+    DrawSpans(dc, origin, buttons::CircleFace, pens.face);
     if (m_check != BST_UNCHECKED)
     {
-        DrawSpans(dc, origin, buttons::CircleDot, colors.sign);
+        DrawSpans(dc, origin, buttons::CircleDot, pens.sign);
     }
 }
 
@@ -192,7 +207,7 @@ void CCustomRadiobutton::OnUpdateUIState(UINT, UINT)
 {
     // Meant: in the standard mode the message goes no further. The focus cues of a group stay as
     // they were when the dialog opened.
-    if (COnBoardUIGeneral::InOnBoardMode())
+    if (FollowMode().value_or(false))
     {
         DrawOB();
     }

@@ -6,6 +6,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "buttons/GroupBoxLayout.h"
+#include "modes/WindowAlive.h"
 #include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
@@ -79,8 +80,9 @@ void CCustomStatic::PreSubclassWindow()
 // A window in the making may lose what was changed before its first message.
 int CCustomStatic::OnCreate(LPCREATESTRUCT cs)
 {
-    SuitTransparencyToMode();
-    return CStatic::OnCreate(cs);
+    const WindowAlive alive(*this);
+    SuitTransparencyToMode(); // a change of the style is told
+    return alive ? CStatic::OnCreate(cs) : -1;
 }
 
 // The extended style suits the mode in which the object takes its window, and stays.
@@ -150,30 +152,28 @@ void CCustomStatic::DrawGroupBox()
     const BackgroundMode mode(dc, OPAQUE);
     const TextColor text(dc, palette::PanelText);
     const Selected font(dc, m_OBFont);
-    const COLORREF before = dc.SetBkColor(palette::Panel);
+    const BackgroundColor ground(dc, palette::Panel);
     dc.TextOut(client.left + buttons::GroupCaptionInset, client.top, caption);
-    dc.SetBkColor(before);
 }
 
 void CCustomStatic::DrawOBNC()
 {
-    CDC* const dc = GetWindowDC();
-    if (dc == nullptr)
+    if (GetSafeHwnd() == nullptr)
     {
         return;
     }
     if ((GetExStyle() & WS_EX_CLIENTEDGE) != 0)
     {
+        CWindowDC dc(this);
         CRect rect;
         GetWindowRect(&rect);
         rect.MoveToXY(0, 0);
         for (int ring = 0; ring < metrics::Border; ++ring)
         {
-            dc->Draw3dRect(&rect, palette::StaticBorder, palette::StaticBorder);
+            dc.Draw3dRect(&rect, palette::StaticBorder, palette::StaticBorder);
             rect.DeflateRect(1, 1);
         }
     }
-    ReleaseDC(dc);
     Invalidate();
 }
 

@@ -3,6 +3,7 @@
 // Where the parts of a message box lie: pure functions of measures. All lengths are pixels.
 
 #include "AppMode.h"
+#include "dialogs/DialogGeometry.h"
 #include "modes/Rounding.h"
 #include "paint/Metrics.h"
 
@@ -70,7 +71,7 @@ inline CSize MessageButtonsSize(const MessageUnits& units, int buttons)
 // By how much the caption band of the on-board modes is higher than the system's caption.
 constexpr int CaptionRise(int captionHeight)
 {
-    return Truncated(captionHeight * 0.7);
+    return Truncated(captionHeight * (metrics::OnBoardScale - 1));
 }
 
 // By how much a text lower than the icon stands below the icon's top: beside its middle.
@@ -177,8 +178,7 @@ inline MessagePlaces PlaceMessageParts(const MessageUnits& units, const MessageS
                         size.text);
 
     const CSize row = MessageButtonsSize(units, buttons);
-    const int bottom =
-        int(client.cy - units.margin.cy) - Truncated(captionHeight * metrics::OnBoardScale);
+    const int bottom = int(client.cy - units.margin.cy) - BandHeight(captionHeight);
     places.firstButton =
         CRect(CPoint((size.client.cx - row.cx) / 2 - 1, bottom - row.cy), units.button);
     places.buttonStep = units.button.cx + units.spacing.cy;

@@ -91,10 +91,7 @@ CCustomListCtrl::CCustomListCtrl()
 {
     EnableActiveAccessibility();
     MakeControlPen(m_OutlinePen, palette::Outline);
-    if (m_OutlineBrush.GetSafeHandle() == nullptr)
-    {
-        m_OutlineBrush.CreateSolidBrush(palette::Outline);
-    }
+    MakeControlBrush(m_OutlineBrush, palette::Outline);
     m_bars->HideBars();
 }
 

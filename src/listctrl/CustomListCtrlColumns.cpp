@@ -32,7 +32,7 @@ LVCOLUMN WithWidth(const LVCOLUMN& given, int width)
 LRESULT CCustomListCtrl::OnInsertColumn(WPARAM wParam, LPARAM lParam)
 {
     const auto* given = reinterpret_cast<const LVCOLUMN*>(lParam);
-    if (!COnBoardUIGeneral::InOnBoardMode() || given == nullptr)
+    if (!InOnBoard() || given == nullptr)
     {
         return Default();
     }

@@ -8,8 +8,7 @@
 
 #include <utility>
 
-// Asking the platform, past our own handlers, which might end the list
-// -----------------------------
+// Asking the platform, past our own handlers, which might end the list --------------------------
 
 HWND CCustomListCtrl::HeaderWindow() const
 {

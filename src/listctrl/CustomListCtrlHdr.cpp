@@ -309,10 +309,8 @@ void CCustomListCtrlHdr::TakeThemeFont()
 
 // Painting --------------------------------------------------------------------------------------
 
-void CCustomListCtrlHdr::DrawItem(LPDRAWITEMSTRUCT)
-{
-    COnBoardUIGeneral::InOnBoardMode();
-}
+// Nothing: all drawing happens in answer to a paint message.
+void CCustomListCtrlHdr::DrawItem(LPDRAWITEMSTRUCT) {}
 
 BOOL CCustomListCtrlHdr::OnEraseBkgnd(CDC* dc)
 {
@@ -321,13 +319,17 @@ BOOL CCustomListCtrlHdr::OnEraseBkgnd(CDC* dc)
 
 void CCustomListCtrlHdr::OnPaint()
 {
+    const WindowAlive alive(*this);
     if (!m_created)
     {
-        DoCreate();
+        DoCreate(); // takes a font over, which is a message
+    }
+    if (!alive)
+    {
+        return;
     }
     if (!COnBoardUIGeneral::InOnBoardMode())
     {
-        const WindowAlive alive(*this);
         Default();
         if (alive)
         {
@@ -434,7 +436,7 @@ void CCustomListCtrlHdr::DrawOBSortArrow(CDC* dc, CRect item, int format)
                              {item.right - ArrowRight, base},
                              {item.right - ArrowMiddle, apex}};
     const BYTE kinds[] = {PT_MOVETO, PT_LINETO, PT_LINETO | PT_CLOSEFIGURE};
-    CPen pen(PS_SOLID, 1, palette::SortArrow);
+    static const CPen pen(PS_SOLID, 1, palette::SortArrow);
     const Selected selected(*dc, pen);
     dc->PolyDraw(corners, kinds, 3);
 }

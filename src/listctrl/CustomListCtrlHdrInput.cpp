@@ -94,6 +94,10 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
         m_pressedItem = divider;
         m_tracking = true;
         SetCapture();
+        if (!alive)
+        {
+            return; // who has lost the capture is told
+        }
         m_oldCursor = ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
         return;
     }

@@ -22,7 +22,7 @@ void CCustomListCtrl::DrawBars()
 
 void CCustomListCtrl::DrawScrollBars()
 {
-    if (COnBoardUIGeneral::InOnBoardMode() && GetSafeHwnd() != nullptr)
+    if (InOnBoard() && GetSafeHwnd() != nullptr)
     {
         DrawBars();
         FitLastColumn();
@@ -144,7 +144,7 @@ void CCustomListCtrl::UpdateHScrollData(bool& frameChanged)
 
 void CCustomListCtrl::ReCheckScrollBars()
 {
-    if (!COnBoardUIGeneral::InOnBoardMode() || GetSafeHwnd() == nullptr)
+    if (!InOnBoard() || GetSafeHwnd() == nullptr)
     {
         return;
     }

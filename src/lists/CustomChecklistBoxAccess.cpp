@@ -11,16 +11,16 @@ using access::IsSelf;
 
 namespace {
 
-const wchar_t* Verb(int nextCheck)
+const char* Verb(int nextCheck)
 {
     switch (nextCheck)
     {
     case BST_UNCHECKED:
-        return L"Uncheck";
+        return "Uncheck";
     case BST_CHECKED:
-        return L"Check";
+        return "Check";
     default:
-        return L"Toggle";
+        return "Toggle";
     }
 }
 
@@ -65,8 +65,7 @@ HRESULT CCustomChecklistBox::get_accDefaultAction(VARIANT child, BSTR* action)
     {
         return S_FALSE;
     }
-    *action = ::SysAllocString(Verb(lists::NextCheck(GetCheck(index), m_checkStyle)));
-    return *action == nullptr ? E_OUTOFMEMORY : S_OK;
+    return Give(*action, Verb(lists::NextCheck(GetCheck(index), m_checkStyle)));
 }
 
 HRESULT CCustomChecklistBox::accDoDefaultAction(VARIANT child)

@@ -9,6 +9,7 @@
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
+#include "paint/MeasuringDC.h"
 #include "paint/Palette.h"
 
 #include <algorithm>
@@ -20,9 +21,9 @@ CSize CheckSize()
     return lists::CheckMarks::Of(COnBoardUIGeneral::InOnBoardMode(), true).Size();
 }
 
-CSize TextSize(CWnd& window, HFONT font, const CString& text = "X")
+CSize TextSize(HFONT font, const CString& text = "X")
 {
-    CClientDC dc(&window);
+    CDC& dc = MeasuringDC();
     const Selected selected(dc, font);
     return dc.GetTextExtent(text);
 }
@@ -40,7 +41,7 @@ int CCustomChecklistBox::CalcMinimumItemHeight()
         return check;
     }
     CFont& font = COnBoardUIGeneral::InOnBoardMode() ? GetOnBoardFont() : GetStdFont();
-    m_textHeight = TextSize(*this, font).cy;
+    m_textHeight = TextSize(font).cy;
     return std::max(m_textHeight, check);
 }
 
@@ -51,7 +52,7 @@ int CCustomChecklistBox::RowHeight()
     const int least = CalcMinimumItemHeight();
     return COnBoardUIGeneral::InOnBoardMode() || !HasText()
                ? least
-               : std::max(least, int(TextSize(*this, Font()).cy));
+               : std::max(least, int(TextSize(Font()).cy));
 }
 
 // Gives the rows their height without waiting to be asked for it by way of the parent. Rows that
@@ -89,7 +90,7 @@ int CCustomChecklistBox::GetEntryWidth(int index)
     CString text;
     GetText(index, text);
     const HFONT font = COnBoardUIGeneral::InOnBoardMode() ? HFONT(GetOnBoardFont()) : Font();
-    return lists::TextIndent(CheckSize().cx) + TextSize(*this, font, text).cx;
+    return lists::TextIndent(CheckSize().cx) + TextSize(font, text).cx;
 }
 
 LRESULT CCustomChecklistBox::OnSetFont(WPARAM wParam, LPARAM lParam)
@@ -264,10 +265,9 @@ void CCustomChecklistBox::PreDrawItemNonThemed(CDC& dc, const DRAWITEMSTRUCT& dr
     const bool enabled = (draw.itemState & ODS_DISABLED) == 0 && IsEnabled(index);
     const bool selected = (draw.itemState & ODS_SELECTED) != 0;
     const CRect check = CheckRect(draw.rcItem);
-    const COLORREF before = dc.GetBkColor();
+    const BackgroundColor filled(dc, dc.GetBkColor()); // filling leaves its colour behind
     dc.FillSolidRect(check,
                      selected && enabled ? ::GetSysColor(COLOR_HIGHLIGHT) : palette::CheckArea);
-    dc.SetBkColor(before);
     lists::CheckMarks::Of(COnBoardUIGeneral::InOnBoardMode(), enabled)
         .Draw(dc, check.TopLeft(), GetCheck(index));
 }

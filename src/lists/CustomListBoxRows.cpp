@@ -67,12 +67,11 @@ void CCustomListBox::DrawRowText(CDC& dc, const CRect& row, const CString& text,
 {
     const RowColors colors = ColorsOf(state, {dc.GetTextColor(), dc.GetBkColor()});
     const TextColor textColor(dc, colors.text);
-    const COLORREF ground = dc.SetBkColor(colors.ground);
+    const BackgroundColor ground(dc, colors.ground);
     // Ground and text in one call, so that no row is ever seen empty.
     const int top = row.top + (row.Height() - dc.GetTextExtent("X", 1).cy) / 2;
     dc.ExtTextOut(row.left + indent + metrics::ListRowMargin, top, ETO_OPAQUE | ETO_CLIPPED, row,
                   text, nullptr);
-    dc.SetBkColor(ground);
 }
 
 void CCustomListBox::MeasureItem(LPMEASUREITEMSTRUCT measure)

@@ -102,9 +102,13 @@ void RestyleRichEdit(HWND child, APPMODE mode)
 void ResizeTabs(HWND child, double scale)
 {
     auto* tabs = DYNAMIC_DOWNCAST(CTabCtrl, CWnd::FromHandlePermanent(child));
+    if (tabs == nullptr)
+    {
+        return;
+    }
+    const WindowAlive alive(*tabs);
     CRect item;
-    if (tabs != nullptr && tabs->GetItemRect(0, &item) &&
-        CWnd::FromHandlePermanent(child) == tabs) // the question may end it
+    if (tabs->GetItemRect(0, &item) && alive) // the question may end it
     {
         tabs->SetItemSize(CSize(Truncated(Across(item.Width(), scale)),
                                 Sum(Truncated(item.Height() * scale), TabHeightExtra)));

@@ -158,9 +158,8 @@ void COnBoardUIGeneral::SetAppTitle(const CString& title)
 
 void COnBoardUIGeneral::SetStdModeGoals()
 {
-    const HDC screen = ::GetDC(nullptr);
-    const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
-    ::ReleaseDC(nullptr, screen);
+    const CClientDC screen(nullptr);
+    const int dpi = screen.GetDeviceCaps(LOGPIXELSY);
     if (dpi != 0)
     {
         // Shrinks as the resolution grows; the standard fonts were tuned with this very formula.

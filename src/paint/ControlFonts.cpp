@@ -28,3 +28,19 @@ void MakeControlPen(CPen& shared, COLORREF color)
         CreateOnBoardOutlinePen(shared, color);
     }
 }
+
+void MakeControlFocusPen(CPen& shared, COLORREF color)
+{
+    if (shared.GetSafeHandle() == nullptr)
+    {
+        CreateOnBoardFocusPen(shared, color);
+    }
+}
+
+void MakeControlBrush(CBrush& shared, COLORREF color)
+{
+    if (shared.GetSafeHandle() == nullptr)
+    {
+        shared.CreateSolidBrush(color);
+    }
+}

@@ -11,5 +11,7 @@ constexpr double LargeOnBoardFont = 1.7; // edits, report lists, buttons, captio
 CFont& OnBoardControlFont(CFont& shared, double heightFactor);
 CFont& StandardControlFont(CFont& shared);
 
-// The same for a control class's outline pen.
+// The same for a control class's outline pen, its focus pen and a brush.
 void MakeControlPen(CPen& shared, COLORREF color);
+void MakeControlFocusPen(CPen& shared, COLORREF color);
+void MakeControlBrush(CBrush& shared, COLORREF color);

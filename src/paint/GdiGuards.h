@@ -52,6 +52,24 @@ private:
     COLORREF m_old;
 };
 
+// Background colour for the life of the guard.
+class BackgroundColor
+{
+public:
+    BackgroundColor(CDC& dc, COLORREF color)
+        : m_dc(dc)
+        , m_old(dc.SetBkColor(color))
+    {}
+
+    BackgroundColor(const BackgroundColor&) = delete;
+    BackgroundColor& operator=(const BackgroundColor&) = delete;
+    ~BackgroundColor() { m_dc.SetBkColor(m_old); }
+
+private:
+    CDC& m_dc;
+    COLORREF m_old;
+};
+
 // Background mode (TRANSPARENT or OPAQUE) for the life of the guard.
 class BackgroundMode
 {

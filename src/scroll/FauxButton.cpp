@@ -11,9 +11,9 @@
 CFauxButton::CFauxButton()
     : m_show(TRUE)
 {
-    RemakeOutlinePen(m_outlinePen, palette::Outline);
-    RemakeOutlinePen(m_secondOutlinePen, palette::PressedOutline);
-    RemakeOutlinePen(m_thirdOutlinePen, palette::Outline);
+    CreateOnBoardOutlinePen(m_outlinePen, palette::Outline);
+    CreateOnBoardOutlinePen(m_secondOutlinePen, palette::PressedOutline);
+    CreateOnBoardOutlinePen(m_thirdOutlinePen, palette::Outline);
     RemakeBrush(m_firstBrush, palette::FaceDark);
     RemakeBrush(m_secondBrush, palette::PressedOutline);
     RemakeBrush(m_disabledBrush, palette::FaceDisabled);
@@ -61,9 +61,9 @@ int CFauxButton::GetHCenter() const
 void CFauxButton::SetColors(COLORREF c1, COLORREF c2, COLORREF c3, COLORREF c4, COLORREF c5,
                             COLORREF c6)
 {
-    RemakeOutlinePen(m_outlinePen, c1);
-    RemakeOutlinePen(m_secondOutlinePen, c5);
-    RemakeOutlinePen(m_thirdOutlinePen, c4);
+    CreateOnBoardOutlinePen(m_outlinePen, c1);
+    CreateOnBoardOutlinePen(m_secondOutlinePen, c5);
+    CreateOnBoardOutlinePen(m_thirdOutlinePen, c4);
     RemakeBrush(m_firstBrush, c2);
     RemakeBrush(m_secondBrush, c5);
     RemakeBrush(m_disabledBrush, c4);

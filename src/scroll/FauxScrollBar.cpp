@@ -37,7 +37,7 @@ CFauxScrollBar::CFauxScrollBar(int orientation)
     , m_pixelsPerStep(0.0)
     , m_colorsVersion(0)
 {
-    RemakeOutlinePen(m_outlinePen, palette::Outline);
+    CreateOnBoardOutlinePen(m_outlinePen, palette::Outline);
     RemakeBrush(m_brush1, palette::Trough);
     RemakeBrush(m_brush2, palette::TroughDisabled);
     RemakeBrush(m_brush3, palette::TroughHeld);
@@ -288,7 +288,7 @@ CFauxScrollBar::ePRESSED CFauxScrollBar::GetLastHit() const
 void CFauxScrollBar::SetColors(COLORREF c1, COLORREF c2, COLORREF c3, COLORREF c4, COLORREF c5,
                                COLORREF c6)
 {
-    RemakeOutlinePen(m_outlinePen, c1);
+    CreateOnBoardOutlinePen(m_outlinePen, c1);
     RemakeBrush(m_brush1, c2);
     RemakeBrush(m_brush2, c4);
     RemakeBrush(m_brush3, c3);

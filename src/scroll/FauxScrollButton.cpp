@@ -28,7 +28,7 @@ void CFauxScrollButton::ReDrawOnBoard(CDC& dc, int pressed, int enabled)
         return;
     }
     // The arrow keeps its grey whether pressed or not, and whatever the colours of the face.
-    const CBrush arrow(palette::Arrow);
+    static const CBrush arrow(palette::Arrow);
     DrawOBArrow(dc, points, arrow);
 }
 

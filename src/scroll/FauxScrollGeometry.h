@@ -4,6 +4,7 @@
 // run along it, thickness across it. Differences are taken in 64 bits or doubles and results
 // saturate, so no range, position or rectangle overflows.
 
+#include "modes/Rounding.h"
 #include "paint/Metrics.h"
 
 #include <afxwin.h>
@@ -19,12 +20,7 @@ constexpr int Saturated(LONGLONG value)
     return static_cast<int>(std::clamp<LONGLONG>(value, INT_MIN, INT_MAX));
 }
 
-// Truncated towards zero.
-constexpr int Saturated(double value)
-{
-    return static_cast<int>(
-        std::clamp<double>(value, static_cast<double>(INT_MIN), static_cast<double>(INT_MAX)));
-}
+int Saturated(double value) = delete; // Truncated
 
 // A stretch of pixels; empty when it ends before it starts.
 struct Span
@@ -140,7 +136,7 @@ constexpr Span ThumbAt(Span thumb, Span track, LONGLONG steps, int position, dou
     const int length = std::min(thumb.Length(), track.Length());
     // The raw position counts, whatever the minimum of the range.
     const double offset = steps > 0 ? position * pixelsPerStep : 0.0;
-    const LONGLONG wanted = LONGLONG{track.start} + Saturated(offset);
+    const LONGLONG wanted = LONGLONG{track.start} + Truncated(offset);
     const LONGLONG last = LONGLONG{track.end} - length;
     const int start = Saturated(std::max<LONGLONG>(std::min(wanted, last), track.start));
     return SpanAt(start, length);

@@ -1,14 +1,8 @@
 #pragma once
 
-// Making and remaking the pens and brushes of painted parts.
+// Making and remaking the pens and brushes of painted parts, beside CreateOnBoardOutlinePen.
 
 #include "OnBoardUI.h"
-
-inline void RemakeOutlinePen(CPen& pen, COLORREF color)
-{
-    pen.DeleteObject();
-    CreateOnBoardOutlinePen(pen, color);
-}
 
 inline void RemakeLinePen(CPen& pen, COLORREF color)
 {

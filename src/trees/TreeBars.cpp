@@ -26,12 +26,11 @@ TreeBars::TreeBars(TreeOwner& owner)
 void TreeBars::EnterOnBoard()
 {
     const WindowAlive alive(Window());
-    const DWORD had = Strip();
+    Strip();
     if (!alive)
     {
         return;
     }
-    m_platformStyles = had;
     scroll::RecalculateFrame(Window(), false);
     if (alive)
     {
@@ -61,6 +60,10 @@ void TreeBars::LeaveOnBoard()
         {
             scroll::RestoreScrollStyles(Window(), scroll::StyleOf(each->axis));
         }
+        if (!alive)
+        {
+            return; // heirs and hooks hear of a style that comes back
+        }
     }
     scroll::RecalculateFrame(Window(), false);
     if (alive)
@@ -87,7 +90,6 @@ void TreeBars::Reset()
     m_stripping = false;
     m_held = nullptr;
     m_part = CFauxScrollBar::PRESSED_NONE;
-    m_platformStyles = 0;
     for (Bar* each : {&m_vertical, &m_horizontal})
     {
         each->shown = false;
@@ -376,8 +378,8 @@ void TreeBars::DragTo(CPoint screen)
     }
     Bar& dragged = *m_held;
     const int before = dragged.bar.GetScrollPos();
-    const int after = scroll::DragThumb(
-        dragged.bar, scroll::Along(dragged.axis, screen) - scroll::Along(dragged.axis, last));
+    const int after = scroll::DragThumb(dragged.bar, scroll::Along(dragged.axis, screen) -
+                                                         scroll::Along(dragged.axis, last));
     const WindowAlive alive(Window());
     if (after != before)
     {

@@ -8,7 +8,9 @@ namespace trees {
 
 // The tree's wide scroll bars in the on-board modes, painted in its non-client area. The platform
 // keeps its own account of what can be scrolled, which the bars mirror at every paint; presses on
-// them become the scroll messages of the platform's bars.
+// them become the scroll messages of the platform's bars. A BarHost would not do: it stands behind
+// the handlers, and the tree and the tree view, whose handlers differ, share only what comes below
+// them.
 class TreeBars
 {
 public:
@@ -50,9 +52,8 @@ private:
     TreeOwner& m_owner;
     Bar m_vertical{SB_VERT};
     Bar m_horizontal{SB_HORZ};
-    DWORD m_platformStyles = 0; // to be given back
-    bool m_stripping = false;   // the platform's styles are being taken away
-    Bar* m_held = nullptr;      // the bar that is pressed
+    bool m_stripping = false; // the platform's styles are being taken away
+    Bar* m_held = nullptr;    // the bar that is pressed
     CFauxScrollBar::ePRESSED m_part = CFauxScrollBar::PRESSED_NONE;
     CPoint m_last; // of the pointer, on the screen
 

@@ -315,11 +315,10 @@ void TreeLook::PaintLabel(CDC& dc, const Row& row, COLORREF ground, COLORREF col
 {
     const Selected font(dc, Font((row.state & TVIS_BOLD) != 0));
     const TextColor textColor(dc, color);
-    const COLORREF before = dc.SetBkColor(ground);
+    const BackgroundColor backgroundColor(dc, ground);
     const int top = row.text.top + (row.text.Height() - dc.GetTextExtent("X", 1).cy) / 2;
     dc.ExtTextOut(row.text.left + metrics::TreeTextMargin, top, ETO_OPAQUE | ETO_CLIPPED, row.text,
                   row.label, nullptr);
-    dc.SetBkColor(before);
 }
 
 void TreeLook::PaintRow(CDC& dc, const Row& row)
@@ -374,11 +373,25 @@ void TreeLook::PaintRow(CDC& dc, const Row& row)
     }
 }
 
+namespace {
+
+// Made at the first branch and kept for the life of the process.
+struct MarkTools
+{
+    explicit MarkTools(COLORREF color)
+        : brush(color)
+        , pen(PS_SOLID, 1, color)
+    {}
+
+    CBrush brush;
+    CPen pen;
+};
+
+} // namespace
+
 // A triangle that points to the right at a closed branch and down at an open one.
 void TreeLook::PaintMark(CDC& dc, const Row& row, int right)
 {
-    const COLORREF color =
-        m_owner.Window().IsWindowEnabled() ? palette::BranchMark : palette::BranchMarkDisabled;
     constexpr int Long = metrics::BranchMark;
     constexpr int Short = Long / 2;
     const CPoint middle(right - int(m_items.Ask(TVM_GETINDENT)) / 2,
@@ -390,10 +403,11 @@ void TreeLook::PaintMark(CDC& dc, const Row& row, int right)
     const POINT openMark[] = {{middle.x - Long / 2, middle.y - Short / 2},
                               {middle.x + Long / 2, middle.y - Short / 2},
                               {middle.x, middle.y + Short / 2}};
-    CBrush brush(color);
-    CPen pen(PS_SOLID, 1, color);
-    const Selected selectedBrush(dc, brush);
-    const Selected selectedPen(dc, pen);
+    static const MarkTools enabled(palette::BranchMark);
+    static const MarkTools disabled(palette::BranchMarkDisabled);
+    const MarkTools& tools = m_owner.Window().IsWindowEnabled() ? enabled : disabled;
+    const Selected brush(dc, tools.brush);
+    const Selected pen(dc, tools.pen);
     dc.Polygon(open ? openMark : closedMark, 3);
 }
 

@@ -83,7 +83,6 @@ public:
     int GetAutoScrollDirection(CPoint point);
     // The timer scrolls a rubber band while there is one, otherwise one line in direction.
     void StartAutoScroll(UINT_PTR id, UINT period, int direction);
-    void SetAutoScrollDirection(int direction) { m_scrollDirection = direction; }
     void DoAutoScroll();
     void StopAutoScroll();
     bool IsAutoScroll(UINT_PTR timer) const { return timer != 0 && timer == m_scrollTimer; }

@@ -1,7 +1,9 @@
 // What all buttons share: following a press, the steps of a click, and every way of losing either.
 
 #include "buttons/buttons_for_tests.h"
+#include "support/Acting.h"
 #include "support/Acts.h"
+#include "support/Fenced.h"
 
 #include <gmock/gmock.h>
 
@@ -145,6 +147,41 @@ TEST_F(ButtonOnBoard, WhoLosesTheFocusMayDestroyTheButton)
     EXPECT_TRUE(told);
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_EQ(Host().CodesFrom(ButtonId).size(), 0U);
+}
+
+TEST_F(ButtonOnBoard, AButtonMayEndItselfWhenItsPressIsCutOff)
+{
+    const auto send = [](UINT message, WPARAM wParam) {
+        return [=](HWND button) { ::SendMessage(button, message, wParam, 0); };
+    };
+    const Act<HWND> cuts[] = {{"disabled", send(WM_ENABLE, FALSE)},
+                              {"hidden", send(WM_SHOWWINDOW, FALSE)},
+                              {"checked", send(BM_SETCHECK, BST_CHECKED)},
+                              {"its state set", send(BM_SETSTATE, FALSE)},
+                              {"without the focus", send(WM_KILLFOCUS, 0)},
+                              {"cancelled", send(WM_CANCELMODE, 0)},
+                              {"asked in another mode", [](HWND button) {
+                                   COnBoardUIGeneral::SetAppMode(STD);
+                                   ::SendMessage(button, BM_GETCHECK, 0, 0);
+                                   COnBoardUIGeneral::SetAppMode(ONBOARD);
+                               }}};
+    const AccessFaults faults;
+    for (const auto& row : cuts)
+    {
+        SCOPED_TRACE(row.name);
+        auto* const button = new Fenced<Acting<TestPush>>;
+        button->Create("", WS_CHILD | WS_VISIBLE, ButtonPlace, &Host(), ButtonId);
+        button->StartTracking();
+        ASSERT_TRUE(button->m_tracking);
+        button->ActIn(WM_CAPTURECHANGED, [button] {
+            button->DestroyWindow();
+            delete button;
+        });
+        const HWND window = *button;
+        row.act(window);
+        EXPECT_FALSE(::IsWindow(window));
+        EXPECT_EQ(faults.Count(), 0);
+    }
 }
 
 TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
