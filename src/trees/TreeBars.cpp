@@ -385,8 +385,16 @@ void TreeBars::DragTo(CPoint screen)
     {
         // The message has sixteen bits for a position.
         constexpr int Highest = 0xFFFF;
-        Window().SendMessage(scroll::MessageOf(dragged.axis),
-                             MAKEWPARAM(SB_THUMBTRACK, std::clamp(after, 0, Highest)));
+        const int position = std::clamp(after, 0, Highest);
+        const auto tell = [&](int code) {
+            Window().SendMessage(scroll::MessageOf(dragged.axis), MAKEWPARAM(code, position));
+        };
+        tell(SB_THUMBTRACK);
+        // Some platforms' trees go sideways only to where a thumb is let go.
+        if (alive && dragged.axis == SB_HORZ && ::GetScrollPos(Window(), SB_HORZ) != position)
+        {
+            tell(SB_THUMBPOSITION);
+        }
     }
     if (alive)
     {

@@ -336,14 +336,14 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
         EXPECT_EQ(top(), released);
         Click(WindowPoint(tree, CPoint(200 - Band - 10, 200 - Band / 2)));
         EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0);
-        // One quick pull of the thumb past either end reaches it.
+        // One quick pull of the thumb onto either arrow reaches that end.
         const auto pull = [&](int from, int to) {
             constexpr int Row = 200 - Band / 2;
             Drag(WindowPoint(tree, CPoint(from, Row)), WindowPoint(tree, CPoint(to, Row)), 1);
         };
         SCROLLINFO across = {};
         tree.GetScrollInfo(SB_HORZ, &across);
-        pull(60, 150);
+        pull(60, 140);
         EXPECT_EQ(tree.GetScrollPos(SB_HORZ), across.nMax - int(across.nPage) + 1);
         pull(92, 5);
         EXPECT_EQ(tree.GetScrollPos(SB_HORZ), 0);
