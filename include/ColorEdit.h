@@ -18,9 +18,11 @@ public:
     void SetBackgroundColor(COLORREF color);
     // @}
 
+    // @{
     // What assistive programs are told: a text box, named by the label before it.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    // @}
 
 protected:
     afx_msg HBRUSH CtlColor(CDC* dc, UINT kind);

@@ -20,6 +20,7 @@ public:
     // Draws the square into item and gives its place, in the font that is selected.
     virtual void DrawCheckBox(CDC& dc, const CRect& item, CRect& mark);
 
+    // Assistive programs are told of a check button, in every mode.
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
 
 protected:

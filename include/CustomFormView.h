@@ -33,9 +33,11 @@ public:
     // that is scrolled, if the mode is an on-board one. Each time it lists the controls.
     void OnInitialUpdate() override;
 
+    // @{
     // Assistive programs are told of a pane, named by its frame where it has no text of its own.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    // @}
 
 protected:
     // @{

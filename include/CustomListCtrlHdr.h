@@ -40,6 +40,7 @@ public:
 
     void PreSubclassWindow() override;
 
+    // @{
     // Assistive programs are told of a list, named as the report list is, and of its headings where
     // they are drawn. The default action of a heading clicks it.
     HRESULT get_accChildCount(long* count) override;
@@ -52,6 +53,7 @@ public:
     HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
     HRESULT accDoDefaultAction(VARIANT child) override;
+    // @}
 
 protected:
     // Once, before the first paint: the arrows and the font.

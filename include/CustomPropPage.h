@@ -34,9 +34,11 @@ public:
     // lists them. A derived class calls it, as with CCustomDialog.
     BOOL OnInitDialog() override;
 
+    // @{
     // Assistive programs are told of a property page, named as its tab is.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    // @}
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

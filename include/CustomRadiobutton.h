@@ -31,6 +31,7 @@ public:
     // Checks this button and clears the others of the group, each of them repainted at once.
     virtual void HandleRadioGroup();
 
+    // Assistive programs are told of a radio button, in every mode.
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
 
 protected:

@@ -31,6 +31,7 @@ public:
     virtual bool OrderBtns(const std::vector<unsigned int>& order,
                            std::vector<std::string>& messages);
 
+    // @{
     // Assistive programs are told of a tool bar and of its buttons, each named by its text or the
     // tip of its command. The default action of a button clicks it.
     HRESULT get_accChildCount(long* count) override;
@@ -43,4 +44,5 @@ public:
     HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
     HRESULT accDoDefaultAction(VARIANT child) override;
+    // @}
 };

@@ -41,10 +41,12 @@ public:
 
     void PreSubclassWindow() override;
 
+    // @{
     // What assistive programs are told: a text box, named by the label before it or else by its
     // prompt.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    // @}
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -23,9 +23,11 @@ public:
 
     BOOL PreTranslateMessage(MSG* message) override;
 
+    // @{
     // What assistive programs are told: a text box, named by the label before it.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    // @}
 
 protected:
     afx_msg void OnWindowPosChanging(WINDOWPOS* position);

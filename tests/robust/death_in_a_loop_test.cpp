@@ -18,7 +18,9 @@ public:
     using Hearing<Scripted<Window>>::Hearing;
 
 protected:
-    void PostNcDestroy() override { Scripted<Window>::PostNcDestroy(); } // ends the loop
+    // Past Hearing's, which does nothing: the loop has to end.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
+    void PostNcDestroy() override { Scripted<Window>::PostNcDestroy(); }
 };
 
 struct LoopingPage : Looping<CCustomPropSheet>
