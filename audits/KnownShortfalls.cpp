@@ -19,6 +19,7 @@ constexpr Known Texts[] = {
     {"message box", "Button", {"gradient of a face", 2.9}},
     {"report list", "first cell", {"cells after the highlight; a host may select full rows", 1.6}},
     {"report list", "SysHeader32", {"gradient of a face", 3.1}},
+    {"sheet", "Edit", {"edge of the selection, measured in place of the text", 4.0}},
     {"edit with prompt", "prompt", {"colour of a prompt; a host may set another", 4.3}},
     {"tool bar",
      "",

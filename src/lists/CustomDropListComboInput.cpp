@@ -42,6 +42,11 @@ void CCustomDropListCombo::DoDropButton()
         Repaint();
         access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
     }
+    // Also a host that closes the list by this alone is not left without the pointer.
+    if (alive && !m_expanded && ::GetCapture() == GetSafeHwnd())
+    {
+        ::ReleaseCapture();
+    }
 }
 
 void CCustomDropListCombo::ToggleDropList()
@@ -58,11 +63,6 @@ void CCustomDropListCombo::ToggleDropList()
     if (m_expanded)
     {
         SetCapture(); // the next click anywhere comes here
-        return;
-    }
-    if (::GetCapture() == GetSafeHwnd())
-    {
-        ::ReleaseCapture();
     }
 }
 
