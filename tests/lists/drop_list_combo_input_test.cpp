@@ -54,6 +54,10 @@ TEST_P(ComboInMode, AClickOpensTheListTracksAndPicksOnRelease)
     Drag(combo.Middle(), list.TopLeft() + CSize(20, 9 * combo.List().GetItemHeight() / 2));
     EXPECT_EQ(combo.GetCurSel(), 4);
     EXPECT_FALSE(combo.IsExpanded());
+    combo.ToggleDropList();
+    EXPECT_EQ(::GetCapture(), combo.GetSafeHwnd());
+    combo.DoDropButton(); // by its host
+    EXPECT_EQ(::GetCapture(), nullptr) << "the next click is another window's";
 }
 
 TEST_P(ComboInMode, TheListsBarScrollsAndAPressOnItPicksNothing)
