@@ -5,9 +5,9 @@
 #include "buttons/ButtonLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
-#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 
 #include <tuple>
 

@@ -3,9 +3,9 @@
 #include "OnBoardUI.h"
 #include "buttons/ButtonLayout.h"
 #include "modes/WindowAlive.h"
-#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 
 IMPLEMENT_DYNAMIC(CCustomCheckBox, CCustomButton)
 

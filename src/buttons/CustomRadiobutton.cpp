@@ -3,9 +3,9 @@
 #include "buttons/ButtonLayout.h"
 #include "buttons/RadioCircle.h"
 #include "modes/WindowAlive.h"
-#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 
 #include <algorithm>
 #include <span>

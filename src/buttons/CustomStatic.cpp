@@ -7,9 +7,9 @@
 #include "OnBoardUIGeneral.h"
 #include "buttons/GroupBoxLayout.h"
 #include "modes/WindowAlive.h"
-#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 
 IMPLEMENT_DYNAMIC(CCustomStatic, CStatic)
 

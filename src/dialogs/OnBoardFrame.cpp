@@ -12,9 +12,9 @@
 #include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
-#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
 #include <utility>

@@ -6,7 +6,7 @@
 #include "edits/EditBars.h"
 #include "edits/EditBorder.h"
 #include "modes/WindowAlive.h"
-#include "paint/ControlFonts.h"
+#include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
 IMPLEMENT_DYNAMIC(CCustomEdit, CEdit)

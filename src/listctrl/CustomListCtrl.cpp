@@ -6,8 +6,8 @@
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
-#include "paint/ControlFonts.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include "lists/CheckListLayout.h"
 #include "lists/CheckRecords.h"
 #include "modes/WindowAlive.h"
-#include "paint/ControlFonts.h"
+#include "paint/SharedObjects.h"
 
 #include <algorithm>
 

@@ -9,11 +9,11 @@
 #include "lists/ComboScaling.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
-#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/MeasuringDC.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 
 #include <algorithm>
 #include <iterator>

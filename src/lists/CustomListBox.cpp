@@ -5,9 +5,9 @@
 #include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"
-#include "paint/ControlFonts.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
 #include <utility>

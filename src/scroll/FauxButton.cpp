@@ -4,7 +4,7 @@
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 #include "scroll/FauxScrollGeometry.h"
-#include "scroll/PartColors.h"
+#include "scroll/PartObjects.h"
 
 #include <utility>
 

@@ -2,7 +2,7 @@
 
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
-#include "scroll/PartColors.h"
+#include "scroll/PartObjects.h"
 
 #include <utility>
 

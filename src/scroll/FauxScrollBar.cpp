@@ -4,7 +4,7 @@
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
 #include "scroll/FauxScrollGeometry.h"
-#include "scroll/PartColors.h"
+#include "scroll/PartObjects.h"
 
 using scroll::Saturated;
 using scroll::Span;

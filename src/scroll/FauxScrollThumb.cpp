@@ -2,7 +2,7 @@
 
 #include "paint/Palette.h"
 #include "scroll/LookOfPart.h"
-#include "scroll/PartColors.h"
+#include "scroll/PartObjects.h"
 
 CFauxScrollThumb::CFauxScrollThumb(int orientation)
     : m_orientation(orientation)

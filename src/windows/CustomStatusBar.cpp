@@ -4,9 +4,9 @@
 #include "access/Answers.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
-#include "paint/ControlFonts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
+#include "paint/SharedObjects.h"
 
 IMPLEMENT_DYNAMIC(CCustomStatusBar, CStatusBarCtrl)
 

@@ -1,4 +1,4 @@
-#include "paint/ControlFonts.h"
+#include "paint/SharedObjects.h"
 
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
