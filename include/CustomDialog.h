@@ -90,6 +90,10 @@ protected:
     static BOOL CALLBACK BuildListOfControls(HWND window, LPARAM data);
     // @}
 
+    // The font that the controls have in the standard mode, unless they were given another. The
+    // dialog may be asked for its own, and end in that.
+    HFONT StandardFont() const;
+
     // Has the Tab key go through the controls in the order of the ids, ended by 0, and makes each a
     // tab stop. Ids that no control has are left out.
     void SetCtrlTabOrder(const UINT* ids);
@@ -143,7 +147,7 @@ protected:
     int m_captionHeight;          // pixels, of the system's caption
     bool m_centredTitle = false;  // else the caption's text is at the left
     bool m_inModalLoop = false;   // in DoModal
-    bool m_hasModalChild = false; // set by CheckForChildDialog
+    bool m_hasModalChild = false; // set by CheckForChildDialog, for derived classes
     std::vector<CWnd*> m_controls;
     bool m_showEntire = false; // while it is dragged, all of the dialog stays in the host's area
 
@@ -154,7 +158,6 @@ private:
     std::unique_ptr<dialogs::ControlList> m_controlList;
 
     void MiscConstruction();
-    HFONT StandardFont() const;
     BOOL CreateFrom(LPCSTR templateName, CWnd* parent);
     INT_PTR DoModalOB();
 };

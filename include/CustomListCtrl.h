@@ -12,6 +12,10 @@
 #include <set>
 #include <vector>
 
+namespace listctrl {
+struct BarData;
+} // namespace listctrl
+
 // The report list of the library. In the standard mode it is the platform's list view. In an
 // on-board mode it takes the platform's scroll bars away, drives wide ones of its own, painted in
 // its non-client area, and paints rows, selection and grid lines itself. It then scrolls by a
@@ -279,6 +283,7 @@ private:
     CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
     void DrawBars();
     void ShowBar(int axis, bool needed, bool& frameChanged);
+    void ShowContent(int axis, const listctrl::BarData& data, bool& frameChanged);
     void Perform(int axis, int code);
     void ReleaseButton();
 

@@ -116,7 +116,6 @@ private:
     void TakeLook();
     void ShowIcon();
     void ShowText();
-    HFONT StandardFont() const;
     CRect CentredPlace(const CSize& size) const;
     int ButtonWith(HWND window) const;
     int FocusedButton() const;

@@ -7,6 +7,7 @@
 #include <oleacc.h>
 
 #include <optional>
+#include <type_traits>
 
 namespace access {
 
@@ -88,12 +89,42 @@ inline void Tell(HWND window, DWORD event)
     ::NotifyWinEvent(event, window, OBJID_CLIENT, CHILDID_SELF);
 }
 
+// The same of a child that is no window.
+inline void TellChild(HWND window, DWORD event, long child)
+{
+    ::NotifyWinEvent(event, window, OBJID_CLIENT, child);
+}
+
 // The name of a control that has a label before it. Nothing where the platform names the child:
 // it is another or has no label.
 inline std::optional<HRESULT> NameFromLabel(HWND control, const VARIANT& child, BSTR* name)
 {
     const HWND label = IsSelf(child) ? LabelBefore(control) : nullptr;
     return label == nullptr ? std::nullopt : std::optional(Give(*name, LabelText(label)));
+}
+
+// Questions that a window answers of itself alone; its base class answers those about its children.
+// The base is named: GiveRole<CButton>(*this, child, role, ROLE_SYSTEM_PUSHBUTTON).
+template <class Base>
+HRESULT GiveRole(std::type_identity_t<Base>& window, const VARIANT& child, VARIANT* role, long own)
+{
+    return IsSelf(child) ? Give(*role, own) : window.Base::get_accRole(child, role);
+}
+
+// A label's own text.
+template <class Base>
+HRESULT GiveOwnText(std::type_identity_t<Base>& label, const VARIANT& child, BSTR* name)
+{
+    return IsSelf(child) ? Give(*name, LabelText(label.GetSafeHwnd()))
+                         : label.Base::get_accName(child, name);
+}
+
+// The text of the label before it; without one the base answers.
+template <class Base>
+HRESULT GiveLabelsName(std::type_identity_t<Base>& window, const VARIANT& child, BSTR* name)
+{
+    const auto named = NameFromLabel(window.GetSafeHwnd(), child, name);
+    return named ? *named : window.Base::get_accName(child, name);
 }
 
 // Whether a point of the screen is in a window's client area; gives it in client coordinates.

@@ -12,7 +12,7 @@ namespace access {
 
 constexpr long ChildOf(int index)
 {
-    return index + 1;
+    return long(static_cast<unsigned>(index) + 1); // of the last number, too, though no row has it
 }
 
 // The row that a child id stands for in a list of so many, or -1.

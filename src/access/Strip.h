@@ -13,6 +13,15 @@ inline HRESULT GivePart(IDispatch** object, const VARIANT& child, int count)
     return RowOf(child, count) < 0 ? E_INVALIDARG : S_FALSE;
 }
 
+inline HRESULT GivePartRole(VARIANT& place, const VARIANT& child, int count, long strip, long part)
+{
+    if (IsSelf(child))
+    {
+        return Give(place, strip);
+    }
+    return RowOf(child, count) < 0 ? E_INVALIDARG : Give(place, part);
+}
+
 // place is the part's, in client coordinates; more is what only this kind of part says.
 inline HRESULT GivePartState(VARIANT& state, const CWnd& window, const CRect& place, long more)
 {

@@ -1,6 +1,7 @@
 #include "ColoredGroupBox.h"
 
 #include "OnBoardUIGeneral.h"
+#include "modes/TellParent.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 
@@ -44,11 +45,8 @@ void CColoredGroupBox::OnPaint()
 // parent. An outline looks the same either way.
 void CColoredGroupBox::OnEnable(BOOL enable)
 {
-    CWnd* const parent = (GetStyle() & SS_NOTIFY) != 0 ? GetParent() : nullptr;
-    if (parent != nullptr)
+    if ((GetStyle() & SS_NOTIFY) != 0)
     {
-        parent->SendMessage(WM_COMMAND,
-                            MAKEWPARAM(GetDlgCtrlID(), enable ? STN_ENABLE : STN_DISABLE),
-                            reinterpret_cast<LPARAM>(GetSafeHwnd()));
+        TellCommand(m_hWnd, enable ? STN_ENABLE : STN_DISABLE);
     }
 }

@@ -26,20 +26,17 @@ long RoleOf(CCustomButton& button)
 
 HRESULT CCustomButton::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_PUSHBUTTON)
-                                 : CButton::get_accRole(child, role);
+    return access::GiveRole<CButton>(*this, child, role, ROLE_SYSTEM_PUSHBUTTON);
 }
 
 HRESULT CCustomCheckBox::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_CHECKBUTTON)
-                                 : CCustomButton::get_accRole(child, role);
+    return access::GiveRole<CCustomButton>(*this, child, role, ROLE_SYSTEM_CHECKBUTTON);
 }
 
 HRESULT CCustomRadiobutton::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_RADIOBUTTON)
-                                 : CCustomButton::get_accRole(child, role);
+    return access::GiveRole<CCustomButton>(*this, child, role, ROLE_SYSTEM_RADIOBUTTON);
 }
 
 HRESULT CCustomButton::get_accState(VARIANT child, VARIANT* state)

@@ -5,6 +5,7 @@
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
+#include "paint/Rings.h"
 #include "paint/SharedObjects.h"
 
 IMPLEMENT_DYNAMIC(CCustomCheckBox, CCustomButton)
@@ -69,12 +70,7 @@ void CCustomCheckBox::DrawCheckBox(CDC& dc, const CRect& item, CRect& mark)
     const bool enabled = IsWindowEnabled();
     const palette::Mark& colors = enabled ? palette::MarkEnabled : palette::MarkDisabled;
     dc.FillSolidRect(&mark, colors.face);
-    CRect inner(mark);
-    for (int ring = 0; ring < metrics::Border; ++ring)
-    {
-        dc.Draw3dRect(&inner, colors.rim, colors.light);
-        inner.DeflateRect(1, 1);
-    }
+    const CRect inner = DrawRings(dc, mark, colors.rim, colors.light);
     if (m_check != BST_UNCHECKED)
     {
         const Selected pen(dc, enabled ? m_penCheckEnabled : m_penCheckDisabled);

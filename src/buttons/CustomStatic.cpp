@@ -7,8 +7,10 @@
 #include "OnBoardUIGeneral.h"
 #include "buttons/GroupBoxLayout.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
+#include "paint/Rings.h"
 #include "paint/SharedObjects.h"
 
 IMPLEMENT_DYNAMIC(CCustomStatic, CStatic)
@@ -165,14 +167,7 @@ void CCustomStatic::DrawOBNC()
     if ((GetExStyle() & WS_EX_CLIENTEDGE) != 0)
     {
         CWindowDC dc(this);
-        CRect rect;
-        GetWindowRect(&rect);
-        rect.MoveToXY(0, 0);
-        for (int ring = 0; ring < metrics::Border; ++ring)
-        {
-            dc.Draw3dRect(&rect, palette::StaticBorder, palette::StaticBorder);
-            rect.DeflateRect(1, 1);
-        }
+        DrawRings(dc, AreaOf(*this), palette::StaticBorder, palette::StaticBorder);
     }
     Invalidate();
 }

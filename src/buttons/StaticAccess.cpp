@@ -31,8 +31,7 @@ bool ShowsText(const CWnd& label)
 
 HRESULT CCustomStatic::get_accName(VARIANT child, BSTR* name)
 {
-    return access::IsSelf(child) ? access::Give(*name, access::LabelText(GetSafeHwnd()))
-                                 : CStatic::get_accName(child, name);
+    return access::GiveOwnText<CStatic>(*this, child, name);
 }
 
 HRESULT CCustomStatic::get_accRole(VARIANT child, VARIANT* role)
@@ -53,14 +52,12 @@ HRESULT CCustomStatic::get_accState(VARIANT child, VARIANT* state)
 
 HRESULT CColoredGroupBox::get_accName(VARIANT child, BSTR* name)
 {
-    return access::IsSelf(child) ? access::Give(*name, access::LabelText(GetSafeHwnd()))
-                                 : CStatic::get_accName(child, name);
+    return access::GiveOwnText<CStatic>(*this, child, name);
 }
 
 HRESULT CColoredGroupBox::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_GROUPING)
-                                 : CStatic::get_accRole(child, role);
+    return access::GiveRole<CStatic>(*this, child, role, ROLE_SYSTEM_GROUPING);
 }
 
 HRESULT CColoredGroupBox::get_accState(VARIANT child, VARIANT* state)
@@ -70,14 +67,12 @@ HRESULT CColoredGroupBox::get_accState(VARIANT child, VARIANT* state)
 
 HRESULT CColorStatic::get_accName(VARIANT child, BSTR* name)
 {
-    return access::IsSelf(child) ? access::Give(*name, access::LabelText(GetSafeHwnd()))
-                                 : CStatic::get_accName(child, name);
+    return access::GiveOwnText<CStatic>(*this, child, name);
 }
 
 HRESULT CColorStatic::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_GRAPHIC)
-                                 : CStatic::get_accRole(child, role);
+    return access::GiveRole<CStatic>(*this, child, role, ROLE_SYSTEM_GRAPHIC);
 }
 
 HRESULT CColorStatic::get_accState(VARIANT child, VARIANT* state)

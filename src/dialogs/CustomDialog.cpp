@@ -97,7 +97,6 @@ void CCustomDialog::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     }
 }
 
-// What the controls have in the standard mode, unless they were given another.
 HFONT CCustomDialog::StandardFont() const
 {
     return m_opening != nullptr ? m_opening->Template().StandardFont()
@@ -395,25 +394,14 @@ HBRUSH CCustomDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
 
 void CCustomDialog::OnWindowPosChanged(WINDOWPOS* position)
 {
-    IAppAccess* const host = m_host;
-    const bool restacked = (position->flags & SWP_NOZORDER) == 0;
-    const WindowAlive alive(*this);
-    CDialog::OnWindowPosChanged(position);
-    if (alive && restacked)
-    {
-        dialogs::UpdateHostZOrder(host);
-    }
+    dialogs::PassAndKeepOrder(*this, m_host, dialogs::IsRestacked(*position),
+                              [&] { CDialog::OnWindowPosChanged(position); });
 }
 
 void CCustomDialog::OnActivate(UINT state, CWnd* other, BOOL minimized)
 {
-    IAppAccess* const host = m_host;
-    const WindowAlive alive(*this);
-    CDialog::OnActivate(state, other, minimized);
-    if (alive)
-    {
-        dialogs::UpdateHostZOrder(host);
-    }
+    dialogs::PassAndKeepOrder(*this, m_host, true,
+                              [&] { CDialog::OnActivate(state, other, minimized); });
 }
 
 void CCustomDialog::OnActivateApp(BOOL active, DWORD thread)
@@ -509,6 +497,5 @@ LRESULT CCustomDialog::OnMenuRequest(WPARAM wParam, LPARAM lParam)
 
 HRESULT CCustomDialog::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_DIALOG)
-                                 : CDialog::get_accRole(child, role);
+    return access::GiveRole<CDialog>(*this, child, role, ROLE_SYSTEM_DIALOG);
 }

@@ -8,6 +8,7 @@
 #include "dialogs/SheetTabs.h"
 #include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 
 #include <afxcmn.h>
 
@@ -114,13 +115,9 @@ BOOL CCustomPropSheet::OnInitDialog()
 
 namespace {
 
-// A child's rectangle in its parent's client area.
 CRect PlaceOf(HWND child)
 {
-    CRect place;
-    ::GetWindowRect(child, &place);
-    ::MapWindowPoints(nullptr, ::GetParent(child), reinterpret_cast<POINT*>(&place), 2);
-    return place;
+    return PlaceIn(::GetParent(child), child);
 }
 
 void Place(HWND child, const CRect& place)
@@ -168,14 +165,12 @@ void CCustomPropSheet::LayOutOnBoard()
         Place(shown, PageArea(tabs));
     }
     CSize extent = PlaceOf(tabs).BottomRight() - CPoint(0, 0);
-    for (HWND child = ::GetWindow(sheet, GW_CHILD); alive && child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT))
-    {
-        CRect place = PlaceOf(child);
-        if (child == tabs || child == shown)
+    ForEachChild(sheet, [&](HWND child) {
+        if (!alive || child == tabs || child == shown)
         {
-            continue;
+            return;
         }
+        CRect place = PlaceOf(child);
         if (place.top >= tabsBefore.bottom)
         {
             place.OffsetRect(more.cx, more.cy);
@@ -186,7 +181,7 @@ void CCustomPropSheet::LayOutOnBoard()
             extent.cx = std::max(extent.cx, place.right);
             extent.cy = std::max(extent.cy, place.bottom);
         }
-    }
+    });
 
     if (alive)
     {
@@ -253,25 +248,14 @@ HBRUSH CCustomPropSheet::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
 
 void CCustomPropSheet::OnWindowPosChanged(WINDOWPOS* position)
 {
-    IAppAccess* const host = m_host;
-    const bool restacked = (position->flags & SWP_NOZORDER) == 0;
-    const WindowAlive alive(*this);
-    CPropertySheet::OnWindowPosChanged(position);
-    if (alive && restacked)
-    {
-        dialogs::UpdateHostZOrder(host);
-    }
+    dialogs::PassAndKeepOrder(*this, m_host, dialogs::IsRestacked(*position),
+                              [&] { CPropertySheet::OnWindowPosChanged(position); });
 }
 
 void CCustomPropSheet::OnActivate(UINT state, CWnd* other, BOOL minimized)
 {
-    IAppAccess* const host = m_host;
-    const WindowAlive alive(*this);
-    CPropertySheet::OnActivate(state, other, minimized);
-    if (alive)
-    {
-        dialogs::UpdateHostZOrder(host);
-    }
+    dialogs::PassAndKeepOrder(*this, m_host, true,
+                              [&] { CPropertySheet::OnActivate(state, other, minimized); });
 }
 
 void CCustomPropSheet::OnMoving(UINT side, LPRECT proposed)

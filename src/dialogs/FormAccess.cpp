@@ -22,8 +22,7 @@ HRESULT CCustomFormView::get_accName(VARIANT child, BSTR* name)
 
 HRESULT CCustomFormView::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_PANE)
-                                 : CFormView::get_accRole(child, role);
+    return access::GiveRole<CFormView>(*this, child, role, ROLE_SYSTEM_PANE);
 }
 
 // As its tab has it.
@@ -36,12 +35,10 @@ HRESULT CCustomPropPage::get_accName(VARIANT child, BSTR* name)
 
 HRESULT CCustomPropPage::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_PROPERTYPAGE)
-                                 : CPropertyPage::get_accRole(child, role);
+    return access::GiveRole<CPropertyPage>(*this, child, role, ROLE_SYSTEM_PROPERTYPAGE);
 }
 
 HRESULT CCustomPropSheet::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_DIALOG)
-                                 : CPropertySheet::get_accRole(child, role);
+    return access::GiveRole<CPropertySheet>(*this, child, role, ROLE_SYSTEM_DIALOG);
 }

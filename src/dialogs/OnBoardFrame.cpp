@@ -10,7 +10,9 @@
 #include "dialogs/ControlList.h"
 #include "lists/ComboScaling.h"
 #include "modes/ChildRestyling.h"
+#include "modes/FlightBag.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
@@ -23,31 +25,19 @@ namespace dialogs {
 
 // Shared objects --------------------------------------------------------------------------------
 
-namespace {
-
-void MakeBrush(CBrush& brush, COLORREF color)
-{
-    if (brush.GetSafeHandle() == nullptr)
-    {
-        brush.CreateSolidBrush(color);
-    }
-}
-
-} // namespace
-
 void CreateSharedObjects()
 {
-    MakeBrush(CCustomDialog::m_BkBrush, palette::Panel);
-    MakeBrush(CCustomDialog::m_BkCaptionBrush, palette::Caption);
-    MakeBrush(CCustomDialog::m_BkDisabledBrush, palette::CaptionInactive);
-    MakeBrush(CCustomDialog::m_BkEditBrush, palette::Field);
-    MakeBrush(CCustomDialog::m_BkEditDisabledBrush, palette::FieldDisabled);
+    MakeControlBrush(CCustomDialog::m_BkBrush, palette::Panel);
+    MakeControlBrush(CCustomDialog::m_BkCaptionBrush, palette::Caption);
+    MakeControlBrush(CCustomDialog::m_BkDisabledBrush, palette::CaptionInactive);
+    MakeControlBrush(CCustomDialog::m_BkEditBrush, palette::Field);
+    MakeControlBrush(CCustomDialog::m_BkEditDisabledBrush, palette::FieldDisabled);
     MakeControlPen(CCustomDialog::m_BkBorderPen, palette::Caption);
     MakeControlPen(CCustomDialog::m_BkDisabledPen, palette::CaptionInactive);
     OnBoardControlFont(CCustomDialog::m_OBStaticTextFont, LargeOnBoardFont);
-    MakeBrush(CCustomDialog::m_BkRedTestBrush, palette::MarkRed);
-    MakeBrush(CCustomDialog::m_BkGrnTestBrush, palette::MarkGreen);
-    MakeBrush(CCustomDialog::m_BkBluTestBrush, palette::MarkBlue);
+    MakeControlBrush(CCustomDialog::m_BkRedTestBrush, palette::MarkRed);
+    MakeControlBrush(CCustomDialog::m_BkGrnTestBrush, palette::MarkGreen);
+    MakeControlBrush(CCustomDialog::m_BkBluTestBrush, palette::MarkBlue);
     MakeControlPen(CCustomDialog::m_BkBorderRedPen, palette::MarkRed);
     MakeControlPen(CCustomDialog::m_BkBorderGrnPen, palette::MarkGreen);
     MakeControlPen(CCustomDialog::m_BkBorderBluPen, palette::MarkBlue);
@@ -96,15 +86,12 @@ namespace {
 // Gives the direct children that have one font another.
 void SwapFonts(HWND window, HFONT from, HFONT to)
 {
-    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;)
-    {
-        const HWND next = ::GetWindow(child, GW_HWNDNEXT);
+    ForEachChild(window, [from, to](HWND child) {
         if (reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == from)
         {
             ::SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(to), FALSE);
         }
-        child = ::IsWindow(next) ? next : nullptr;
-    }
+    });
 }
 
 // Keeps a window and its children from painting while they are placed one by one: moving a window
@@ -269,8 +256,7 @@ void DrawOnBoardFrame(CWnd& window, int captionHeight, bool active, bool centred
         return;
     }
     FrameLook look;
-    window.GetWindowRect(&look.window);
-    look.window.OffsetRect(-look.window.TopLeft());
+    look.window = AreaOf(window);
     const WindowAlive alive(window);
     window.GetWindowText(look.title);
     if (!alive)
@@ -323,9 +309,7 @@ HBRUSH LabelColors(CDC& dc)
 // A read-only or disabled edit asks with the message of labels.
 bool IsField(HWND control)
 {
-    char name[16] = "";
-    ::GetClassName(control, name, int(sizeof(name)));
-    return ::lstrcmpi(name, "Edit") == 0;
+    return IsOfClass(control, "Edit");
 }
 
 } // namespace
@@ -390,8 +374,7 @@ void UpdateHostZOrder(IAppAccess* host)
 ModalNotice::ModalNotice(IEFB* const& current)
     : m_current(current)
 {
-    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
-    if ((mode == EFB || mode == EFBFS) && m_current != nullptr)
+    if (IsFlightBag(COnBoardUIGeneral::GetAppMode()) && m_current != nullptr)
     {
         m_told = m_current;
         m_told->BeginModalDialog();

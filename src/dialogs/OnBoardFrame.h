@@ -5,6 +5,7 @@
 
 #include "AppMode.h"
 #include "dialogs/DialogGeometry.h"
+#include "modes/WindowAlive.h"
 
 #include <afxwin.h>
 
@@ -94,6 +95,25 @@ void KeepInHostArea(IAppAccess* host, RECT& proposed, bool whole);
 
 // Has the host put its windows back into order; nothing without a host or a manager.
 void UpdateHostZOrder(IAppAccess* host);
+
+// Whether a WM_WINDOWPOSCHANGED tells of another order.
+inline bool IsRestacked(const WINDOWPOS& position)
+{
+    return (position.flags & SWP_NOZORDER) == 0;
+}
+
+// Passes a message to the platform by a call of pass, and then has the host put its windows back
+// into order if they were restacked and the window is still there.
+template <class Pass>
+void PassAndKeepOrder(CWnd& window, IAppAccess* host, bool restacked, Pass pass)
+{
+    const WindowAlive alive(window);
+    pass();
+    if (alive && restacked)
+    {
+        UpdateHostZOrder(host);
+    }
+}
 
 // Tells the flight bag before a modal window opens and after it has closed, in the two
 // electronic-flight-bag modes. Whoever was told of the beginning is told of the end, whatever the

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CustomDialogTemplate.h"
+#include "modes/WindowFacts.h"
 
 #include <algorithm>
 #include <vector>
@@ -29,18 +30,22 @@ public:
     void PlaceControls(HWND dialog)
     {
         const auto font = WPARAM(m_template.StandardFont());
-        HWND child = ::GetWindow(dialog, GW_CHILD);
+        const std::vector<HWND> children = ChildrenNow(dialog);
+        auto next = children.begin();
         for (const CCustomDialogTemplate::Control& control : m_template.Controls())
         {
             // A control that could not be created has left no window, and the dialog may have made
             // children that the template knows nothing of.
-            const HWND found = FirstWithId(child, control.id);
-            if (found == nullptr)
+            const auto hasId = [&](HWND child) {
+                return ::IsWindow(child) && LOWORD(::GetDlgCtrlID(child)) == LOWORD(control.id);
+            };
+            const auto found = std::find_if(next, children.end(), hasId);
+            if (found == children.end())
             {
                 continue;
             }
-            child = found;
-            const HWND next = ::GetWindow(child, GW_HWNDNEXT);
+            const HWND child = *found;
+            next = found + 1;
             const CRect place = PlaceOf(control, child);
             // First the size, then the font, as when the platform creates a control: a list of
             // whole rows makes its height fit at either step.
@@ -48,7 +53,6 @@ public:
             ::SetWindowPos(child, nullptr, place.left, place.top, place.Width(), place.Height(),
                            SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
             ::SendMessage(child, WM_SETFONT, font, FALSE);
-            child = ::IsWindow(next) ? next : nullptr;
         }
     }
 
@@ -65,15 +69,6 @@ private:
         const CRect place = found->place;
         m_fixed.erase(found);
         return place;
-    }
-
-    static HWND FirstWithId(HWND from, DWORD id)
-    {
-        while (from != nullptr && LOWORD(::GetDlgCtrlID(from)) != LOWORD(id))
-        {
-            from = ::GetWindow(from, GW_HWNDNEXT);
-        }
-        return from;
     }
 
     CCustomDialogTemplate m_template;

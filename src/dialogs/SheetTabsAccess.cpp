@@ -37,12 +37,8 @@ HRESULT SheetTabs::get_accName(VARIANT child, BSTR* name)
 
 HRESULT SheetTabs::get_accRole(VARIANT child, VARIANT* role)
 {
-    if (access::IsSelf(child))
-    {
-        return access::Give(*role, ROLE_SYSTEM_PAGETABLIST);
-    }
-    return access::RowOf(child, GetItemCount()) < 0 ? E_INVALIDARG
-                                                    : access::Give(*role, ROLE_SYSTEM_PAGETAB);
+    return access::GivePartRole(*role, child, GetItemCount(), ROLE_SYSTEM_PAGETABLIST,
+                                ROLE_SYSTEM_PAGETAB);
 }
 
 HRESULT SheetTabs::get_accState(VARIANT child, VARIANT* state)

@@ -7,6 +7,7 @@
 #include "dialogs/MessageBoxLayout.h"
 #include "dialogs/MessageText.h"
 #include "dialogs/Opening.h"
+#include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
 
 #include <cctype>
@@ -49,11 +50,6 @@ std::span<const ButtonEntry> ButtonsOf(unsigned int style)
 {
     const unsigned int type = style & MB_TYPEMASK;
     return type < std::size(ButtonSets) ? ButtonSets[type] : std::span<const ButtonEntry>();
-}
-
-bool ControlDown()
-{
-    return ::GetKeyState(VK_CONTROL) < 0;
 }
 
 } // namespace
@@ -446,7 +442,7 @@ bool CZepMsgBoxDlg::PressKey(UINT key)
         return m_text->GetSafeHwnd() != nullptr && m_text->ScrollByKey(key);
     case 'C':
     case VK_INSERT:
-        if (ControlDown() && m_text->GetSafeHwnd() != nullptr)
+        if (IsKeyDown(VK_CONTROL) && m_text->GetSafeHwnd() != nullptr)
         {
             m_text->CopyAll();
             return true;

@@ -12,6 +12,7 @@
 #include "dialogs/Opening.h"
 #include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/Palette.h"
 
 #include <utility>
@@ -33,10 +34,7 @@ void Place(const CWnd& part, const CRect& place, UINT flags)
     {
         return;
     }
-    CRect now;
-    part.GetWindowRect(&now);
-    ::MapWindowPoints(nullptr, ::GetAncestor(part, GA_PARENT), reinterpret_cast<POINT*>(&now), 2);
-    if (now != place)
+    if (PlaceIn(::GetAncestor(part, GA_PARENT), part) != place)
     {
         ::SetWindowPos(part, nullptr, place.left, place.top, place.Width(), place.Height(), flags);
     }
@@ -328,12 +326,6 @@ void CZepMsgBoxDlg::FollowMode()
         // The platform's button and the library's each remember a focus of their own.
         m_buttons[size_t(focused)]->SendMessage(WM_SETFOCUS);
     }
-}
-
-HFONT CZepMsgBoxDlg::StandardFont() const
-{
-    return m_opening != nullptr ? m_opening->Template().StandardFont()
-                                : reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));
 }
 
 // The fonts and the kinds of the controls in the mode.

@@ -6,6 +6,8 @@
 #include "edits/EditBars.h"
 #include "edits/EditBorder.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
+#include "paint/Rings.h"
 #include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
@@ -228,8 +230,7 @@ void CCustomEdit::ShowBar(bool shown)
 // Against the inner side of the border; beside the client area of an edit with a thinner one.
 void CCustomEdit::PlaceBar()
 {
-    const CRect client = scroll::ClientRectInWindow(*this);
-    const CRect area(client.right, client.top, client.right + metrics::ScrollBand, client.bottom);
+    const CRect area = scroll::BandArea(SB_VERT, scroll::ClientRectInWindow(*this));
     // Setting it puts the thumb back onto its step, so not in the middle of a drag.
     if (m_barShown && area != m_bar.GetArea())
     {
@@ -313,14 +314,12 @@ void CCustomEdit::DrawOBNC()
     }
     CWindowDC dc(this);
     const CRect client = scroll::ClientRectInWindow(*this);
-    CRect frame;
-    GetWindowRect(&frame);
-    frame.OffsetRect(-frame.TopLeft());
+    CRect frame = AreaOf(*this);
     if ((GetExStyle() & WS_EX_CLIENTEDGE) != 0)
     {
-        DrawEditBorder(dc, frame,
-                       EditBorderOf(IsWindowEnabled() != FALSE, (GetStyle() & ES_READONLY) != 0));
-        frame.DeflateRect(metrics::Border, metrics::Border);
+        const EditBorder border =
+            EditBorderOf(IsWindowEnabled() != FALSE, (GetStyle() & ES_READONLY) != 0);
+        frame = DrawRings(dc, frame, border.topLeft, border.bottomRight);
     }
     if (m_barShown && (GetStyle() & WS_HSCROLL) != 0)
     {

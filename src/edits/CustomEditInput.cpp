@@ -4,6 +4,8 @@
 #include "EFB.h"
 #include "OnBoardUIGeneral.h"
 #include "edits/EditBars.h"
+#include "modes/FlightBag.h"
+#include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
@@ -12,16 +14,6 @@ namespace {
 
 constexpr UINT CopyCharacter = 0x03;   // Ctrl+C
 constexpr UINT DeleteCharacter = 0x7F; // Ctrl+Backspace
-
-bool ControlDown()
-{
-    return ::GetKeyState(VK_CONTROL) < 0;
-}
-
-bool IsFlightBag(APPMODE mode)
-{
-    return mode == EFB || mode == EFBFS;
-}
 
 } // namespace
 
@@ -160,7 +152,7 @@ void CCustomEdit::OnChar(UINT character, UINT repeat, UINT flags)
 void CCustomEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
 {
     const bool copies =
-        ControlDown() && (key == 'C' || (key == VK_INSERT && ::GetKeyState(VK_SHIFT) >= 0));
+        IsKeyDown(VK_CONTROL) && (key == 'C' || (key == VK_INSERT && !IsKeyDown(VK_SHIFT)));
     if (m_fauxReadOnly && !copies && key != VK_CONTROL)
     {
         return;

@@ -8,30 +8,14 @@
 
 #include "access/Answers.h"
 
-namespace {
-
-HRESULT GiveName(CEdit& edit, const VARIANT& child, BSTR* name)
-{
-    const auto named = access::NameFromLabel(edit, child, name);
-    return named ? *named : edit.CEdit::get_accName(child, name);
-}
-
-HRESULT GiveRole(CEdit& edit, const VARIANT& child, VARIANT* role)
-{
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_TEXT)
-                                 : edit.CEdit::get_accRole(child, role);
-}
-
-} // namespace
-
 HRESULT CCustomEdit::get_accName(VARIANT child, BSTR* name)
 {
-    return GiveName(*this, child, name);
+    return access::GiveLabelsName<CEdit>(*this, child, name);
 }
 
 HRESULT CCustomEdit::get_accRole(VARIANT child, VARIANT* role)
 {
-    return GiveRole(*this, child, role);
+    return access::GiveRole<CEdit>(*this, child, role, ROLE_SYSTEM_TEXT);
 }
 
 // The platform does not know of our way of being read-only.
@@ -47,12 +31,12 @@ HRESULT CCustomEdit::get_accState(VARIANT child, VARIANT* state)
 
 HRESULT ColorEdit::get_accName(VARIANT child, BSTR* name)
 {
-    return GiveName(*this, child, name);
+    return access::GiveLabelsName<CEdit>(*this, child, name);
 }
 
 HRESULT ColorEdit::get_accRole(VARIANT child, VARIANT* role)
 {
-    return GiveRole(*this, child, role);
+    return access::GiveRole<CEdit>(*this, child, role, ROLE_SYSTEM_TEXT);
 }
 
 HRESULT EditWithPrompt::get_accName(VARIANT child, BSTR* name)
@@ -65,15 +49,15 @@ HRESULT EditWithPrompt::get_accName(VARIANT child, BSTR* name)
 
 HRESULT EditWithPrompt::get_accRole(VARIANT child, VARIANT* role)
 {
-    return GiveRole(*this, child, role);
+    return access::GiveRole<CEdit>(*this, child, role, ROLE_SYSTEM_TEXT);
 }
 
 HRESULT QuixEdit::get_accName(VARIANT child, BSTR* name)
 {
-    return GiveName(*this, child, name);
+    return access::GiveLabelsName<CEdit>(*this, child, name);
 }
 
 HRESULT QuixEdit::get_accRole(VARIANT child, VARIANT* role)
 {
-    return GiveRole(*this, child, role);
+    return access::GiveRole<CEdit>(*this, child, role, ROLE_SYSTEM_TEXT);
 }

@@ -1,8 +1,7 @@
 #pragma once
 
-// The border of an on-board edit: what it looks like in each state, and its one drawing body.
+// The border of an on-board edit: what it looks like in each state.
 
-#include "paint/Metrics.h"
 #include "paint/Palette.h"
 
 #include <afxwin.h>
@@ -24,14 +23,4 @@ constexpr EditBorder EditBorderOf(bool enabled, bool readOnly)
         return {palette::EditEdgeReadOnly, palette::EditEdgeReadOnly};
     }
     return {palette::EditEdgeLit, palette::EditEdgeShade};
-}
-
-// Rectangles inside one another, from the window's edge inwards.
-inline void DrawEditBorder(CDC& dc, CRect window, const EditBorder& border)
-{
-    for (int line = 0; line < metrics::Border && !window.IsRectEmpty(); ++line)
-    {
-        dc.Draw3dRect(&window, border.topLeft, border.bottomRight);
-        window.DeflateRect(1, 1);
-    }
 }

@@ -1,5 +1,6 @@
 #include "QuixEdit.h"
 
+#include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
 
 IMPLEMENT_DYNAMIC(QuixEdit, CEdit)
@@ -19,7 +20,7 @@ namespace {
 UINT ClipboardMessageOf(WPARAM key)
 {
     // With Alt as well it is a character of the keyboard's third level.
-    if (::GetKeyState(VK_CONTROL) >= 0 || ::GetKeyState(VK_MENU) < 0)
+    if (!IsKeyDown(VK_CONTROL) || IsKeyDown(VK_MENU))
     {
         return 0;
     }

@@ -4,6 +4,7 @@
 
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
+#include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
@@ -11,9 +12,6 @@
 #include "scroll/NcBands.h"
 
 namespace {
-
-// Posted to take the header that a list makes for itself while it is created.
-constexpr UINT SubclassHeaderMessage = 0x069A;
 
 constexpr LPARAM CommonControlsVersion = 5;
 
@@ -50,7 +48,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_WM_VSCROLL()
     ON_WM_HSCROLL()
     ON_WM_TIMER()
-    ON_MESSAGE(SubclassHeaderMessage, &CCustomListCtrl::OnSubclassCustomHeader)
+    ON_MESSAGE(listctrl::SubclassHeaderMessage, &CCustomListCtrl::OnSubclassCustomHeader)
     ON_MESSAGE(listctrl::ActivateMessage, &CCustomListCtrl::OnActivateRow)
     ON_MESSAGE(WM_SETREDRAW, &CCustomListCtrl::OnSetRedraw)
     ON_MESSAGE(LVM_INSERTCOLUMNA, &CCustomListCtrl::OnInsertColumn)
@@ -148,7 +146,7 @@ void CCustomListCtrl::PreSubclassWindow()
     TakeHeader();
     if (m_header.GetSafeHwnd() == nullptr)
     {
-        PostMessage(SubclassHeaderMessage);
+        PostMessage(listctrl::SubclassHeaderMessage);
     }
     CListCtrl::PreSubclassWindow();
     if (alive && COnBoardUIGeneral::InOnBoardMode())

@@ -4,6 +4,7 @@
 #include "CustomListCtrl.h"
 
 #include "access/Rows.h"
+#include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 
@@ -121,8 +122,7 @@ HRESULT CCustomListCtrl::get_accName(VARIANT child, BSTR* name)
     *name = nullptr;
     if (IsSelf(child))
     {
-        const auto named = access::NameFromLabel(GetSafeHwnd(), child, name);
-        return named ? *named : CListCtrl::get_accName(child, name);
+        return access::GiveLabelsName<CListCtrl>(*this, child, name);
     }
     return IsRow(child, row) ? GiveRowTexts(row, 0, 1, name) : E_INVALIDARG;
 }

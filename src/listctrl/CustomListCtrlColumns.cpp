@@ -105,11 +105,11 @@ LRESULT CCustomListCtrl::OnSetColumnWidth(WPARAM wParam, LPARAM lParam)
 int CCustomListCtrl::HeadingWidth(int column)
 {
     const HWND header = HeaderWindow();
-    char text[256] = "";
+    char text[CCustomListCtrlHdr::LongestText] = "";
     HDITEM item = {};
     item.mask = HDI_TEXT | HDI_FORMAT;
     item.pszText = text;
-    item.cchTextMax = sizeof(text);
+    item.cchTextMax = CCustomListCtrlHdr::LongestText;
     if (header == nullptr ||
         !::SendMessage(header, HDM_GETITEM, WPARAM(column), reinterpret_cast<LPARAM>(&item)) ||
         item.pszText == nullptr)

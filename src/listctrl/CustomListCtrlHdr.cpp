@@ -7,6 +7,7 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
@@ -90,9 +91,7 @@ void CCustomListCtrlHdr::LeaveWindow()
 HWND CCustomListCtrlHdr::ListWindow() const
 {
     const HWND parent = GetSafeHwnd() == nullptr ? nullptr : ::GetParent(GetSafeHwnd());
-    char name[32] = "";
-    ::GetClassName(parent, name, sizeof(name));
-    return ::lstrcmpi(name, WC_LISTVIEW) == 0 ? parent : nullptr;
+    return IsOfClass(parent, WC_LISTVIEW) ? parent : nullptr;
 }
 
 CCustomListCtrl* CCustomListCtrlHdr::List() const
@@ -105,7 +104,7 @@ CCustomListCtrl* CCustomListCtrlHdr::List() const
 void CCustomListCtrlHdr::OBScrollHeader(int dx, int redraw)
 {
     const WindowAlive alive(*this);
-    constexpr LONGLONG farthest = 1 << 30; // columns' coordinates can still be added to it
+    constexpr LONGLONG farthest = -LONGLONG{listctrl::FarthestAcross};
     m_offset.x = LONG(std::clamp(LONGLONG{m_offset.x} + dx, -farthest, farthest));
     RepositionHeaderStrip();
     if (redraw && alive)
@@ -166,10 +165,8 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
         // As far to the right as the shift brings columns into sight: the platform hits nothing
         // beyond the window's own edge.
         CRect client;
-        CRect now;
         ::GetClientRect(list, &client);
-        GetWindowRect(&now);
-        ::MapWindowPoints(nullptr, list, reinterpret_cast<POINT*>(&now), 2);
+        const CRect now = PlaceIn(list, GetSafeHwnd());
         const CRect strip(0, now.top, client.right - std::min<LONG>(0, m_offset.x), now.bottom);
         if (strip != now)
         {

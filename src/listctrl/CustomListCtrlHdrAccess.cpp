@@ -47,12 +47,8 @@ HRESULT CCustomListCtrlHdr::get_accName(VARIANT child, BSTR* name)
 
 HRESULT CCustomListCtrlHdr::get_accRole(VARIANT child, VARIANT* role)
 {
-    if (access::IsSelf(child))
-    {
-        return access::Give(*role, ROLE_SYSTEM_LIST);
-    }
-    return access::RowOf(child, GetItemCount()) < 0 ? E_INVALIDARG
-                                                    : access::Give(*role, ROLE_SYSTEM_COLUMNHEADER);
+    return access::GivePartRole(*role, child, GetItemCount(), ROLE_SYSTEM_LIST,
+                                ROLE_SYSTEM_COLUMNHEADER);
 }
 
 HRESULT CCustomListCtrlHdr::get_accState(VARIANT child, VARIANT* state)

@@ -4,6 +4,7 @@
 #include "CustomListCtrlHdr.h"
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListLayout.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
 #include <cstdlib>
@@ -151,11 +152,10 @@ void CCustomListCtrlHdr::TellTracking(int x)
     item.mask = HDI_WIDTH;
     item.cxy = std::max(0, int(x - m_offset.x - rect.left));
     NMHEADER told = {};
-    told.hdr = {GetSafeHwnd(), UINT_PTR(GetDlgCtrlID()), UINT(HDN_TRACKA)};
+    told.hdr.code = UINT(HDN_TRACKA);
     told.iItem = m_pressedItem;
     told.pitem = &item;
-    ::SendMessage(::GetParent(GetSafeHwnd()), WM_NOTIFY, told.hdr.idFrom,
-                  reinterpret_cast<LPARAM>(&told));
+    TellNotify(GetSafeHwnd(), told.hdr);
 }
 
 void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)

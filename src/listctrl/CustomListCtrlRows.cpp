@@ -3,6 +3,8 @@
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListLayout.h"
+#include "modes/KeyState.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
 namespace {
@@ -230,18 +232,17 @@ bool CCustomListCtrl::MoveByPage(UINT key, UINT flags)
     }
     const WindowAlive alive(*this);
     NMLVKEYDOWN told = {};
-    told.hdr = {GetSafeHwnd(), UINT_PTR(GetDlgCtrlID()), LVN_KEYDOWN};
+    told.hdr.code = LVN_KEYDOWN;
     told.wVKey = WORD(key);
     told.flags = flags;
-    ::SendMessage(::GetParent(GetSafeHwnd()), WM_NOTIFY, told.hdr.idFrom,
-                  reinterpret_cast<LPARAM>(&told));
+    TellNotify(GetSafeHwnd(), told.hdr);
     if (alive && GetItemCount() > 0)
     {
-        const bool extend = ::GetKeyState(VK_SHIFT) < 0;
+        const bool extend = IsKeyDown(VK_SHIFT);
         const int target =
             listctrl::PageTarget(key == VK_NEXT, std::max(0, GetNextItem(-1, LVNI_FOCUSED)),
                                  TopRow(), RowsInSight(), GetItemCount());
-        if (::GetKeyState(VK_CONTROL) < 0 && !extend)
+        if (IsKeyDown(VK_CONTROL) && !extend)
         {
             SetItemState(target, LVIS_FOCUSED, LVIS_FOCUSED);
         }

@@ -40,6 +40,31 @@ void CCustomListCtrl::ShowBar(int axis, bool needed, bool& frameChanged)
     }
 }
 
+// Gives a bar what it is to show, and brings the offset to where that leaves its position.
+void CCustomListCtrl::ShowContent(int axis, const listctrl::BarData& data, bool& frameChanged)
+{
+    const WindowAlive alive(*this);
+    CFauxScrollBar& bar = Bar(axis);
+    if (data.needed)
+    {
+        bar.SetScrollRange(0, data.maximum, TRUE);
+        bar.SetPageSize(data.page, TRUE);
+        MoveTo(axis, bar.GetScrollPos());
+    }
+    else
+    {
+        MoveTo(axis, 0); // what is left to scroll could not be reached without a bar
+        if (alive)
+        {
+            bar.SetScrollRange(0, 0, TRUE); // nor is there anything for a wheel to scroll
+        }
+    }
+    if (alive)
+    {
+        ShowBar(axis, data.needed, frameChanged);
+    }
+}
+
 void CCustomListCtrl::UpdateVScrollData()
 {
     const WindowAlive alive(*this);
@@ -63,29 +88,14 @@ void CCustomListCtrl::UpdateVScrollData()
     m_scrollUnit.cy = height > 0 ? height : m_scrollUnit.cy;
 
     const listctrl::BarData data = listctrl::VerticalBar(items, height, client.Height());
-    const int limit = data.needed ? data.lastPosition : 0;
-    if (items > 0 && m_vBar.GetScrollPos() > limit)
+    // An empty list has nothing to scroll back by a line.
+    if (items > 0 && m_vBar.GetScrollPos() > data.Limit())
     {
         PerformVScroll(SB_LINEUP);
-        if (!alive)
-        {
-            return;
-        }
-    }
-    if (data.needed)
-    {
-        m_vBar.SetScrollRange(0, data.maximum, TRUE);
-        m_vBar.SetPageSize(data.page, TRUE);
-        MoveTo(SB_VERT, m_vBar.GetScrollPos());
-    }
-    else
-    {
-        MoveTo(SB_VERT, 0); // what is left to scroll could not be reached without a bar
-        m_vBar.SetScrollRange(0, 0, TRUE); // nor is there anything for a wheel to scroll
     }
     if (alive)
     {
-        ShowBar(SB_VERT, data.needed, frameChanged);
+        ShowContent(SB_VERT, data, frameChanged);
     }
 }
 
@@ -116,29 +126,13 @@ void CCustomListCtrl::UpdateHScrollData(bool& frameChanged)
     }
     m_scrollUnit.cx = step;
     const listctrl::BarData data = listctrl::HorizontalBar(total, step, client.Width());
-    const int limit = data.needed ? data.lastPosition : 0;
-    if (m_hBar.GetScrollPos() > limit)
+    if (m_hBar.GetScrollPos() > data.Limit())
     {
         PerformHScroll(SB_LINELEFT);
-        if (!alive)
-        {
-            return;
-        }
-    }
-    if (data.needed)
-    {
-        m_hBar.SetScrollRange(0, data.maximum, TRUE);
-        m_hBar.SetPageSize(data.page, TRUE);
-        MoveTo(SB_HORZ, m_hBar.GetScrollPos());
-    }
-    else
-    {
-        MoveTo(SB_HORZ, 0);
-        m_hBar.SetScrollRange(0, 0, TRUE);
     }
     if (alive)
     {
-        ShowBar(SB_HORZ, data.needed, frameChanged);
+        ShowContent(SB_HORZ, data, frameChanged);
     }
 }
 

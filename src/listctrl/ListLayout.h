@@ -12,9 +12,6 @@
 
 namespace listctrl {
 
-// Posted by a list to itself, to activate the row with the focus.
-constexpr UINT ActivateMessage = 0x069B;
-
 // What a bar is to show.
 struct BarData
 {
@@ -22,6 +19,8 @@ struct BarData
     int lastPosition; // without a step: the position from which on one line too much is scrolled
     int maximum;
     int page;
+
+    constexpr int Limit() const { return needed ? lastPosition : 0; }
 };
 
 // Two steps more than it takes: the last rows, or columns, come free of the lower, or right, edge.

@@ -6,6 +6,7 @@
 #include "lists/ComboLayout.h"
 #include "modes/Rounding.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
 
 #include <vector>
@@ -19,17 +20,6 @@ constexpr char HeightsProperty[] = "OnBoardUI.DropListCombo.Heights";
 CCustomDropListCombo* ComboOf(HWND window)
 {
     return DYNAMIC_DOWNCAST(CCustomDropListCombo, CWnd::FromHandlePermanent(window));
-}
-
-// What is done to one child may end others.
-template <class Act> void ForEachChild(HWND parent, Act act)
-{
-    for (HWND child = ::GetWindow(parent, GW_CHILD); child != nullptr;)
-    {
-        const HWND next = ::GetWindow(child, GW_HWNDNEXT);
-        act(child);
-        child = ::IsWindow(next) ? next : nullptr;
-    }
 }
 
 CRect PlaceOf(HWND window)

@@ -2,6 +2,7 @@
 
 #include "CustomChecklistBox.h"
 
+#include "access/Rows.h"
 #include "lists/CheckListLayout.h"
 #include "lists/CheckRecords.h"
 #include "modes/WindowAlive.h"
@@ -215,8 +216,8 @@ void CCustomChecklistBox::AnnounceState(int index)
 {
     if (GetSafeHwnd() != nullptr)
     {
-        const LONG child = LONG(ULONG(index) + 1); // also of an index that no item has
-        ::NotifyWinEvent(EVENT_OBJECT_STATECHANGE, GetSafeHwnd(), OBJID_CLIENT, child);
+        // Also of an index that no item has.
+        access::TellChild(GetSafeHwnd(), EVENT_OBJECT_STATECHANGE, access::ChildOf(index));
     }
 }
 

@@ -296,11 +296,9 @@ BOOL CCustomChecklistBox::OnEraseBkgnd(CDC* dc)
         return BOOL(Default());
     }
     // A row is never seen without its ground: it is painted in one copy.
-    const int saved = dc->SaveDC();
+    const SavedState saved(*dc);
     dc->ExcludeClipRect(RowsArea());
-    const BOOL erased = BOOL(Default());
-    dc->RestoreDC(saved);
-    return erased;
+    return BOOL(Default());
 }
 
 void CCustomChecklistBox::OnKillFocus(CWnd* taker)

@@ -4,6 +4,7 @@
 
 #include "CustomDropListCombo.h"
 #include "OnBoardUIGeneral.h"
+#include "access/Rows.h"
 #include "lists/ComboPopup.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
@@ -322,7 +323,7 @@ void CCustomComboLBox::SetHotRow(int row)
     if (row >= 0)
     {
         // The platform's list box knows nothing of it. A listener in this process may end the list.
-        ::NotifyWinEvent(EVENT_OBJECT_SELECTION, GetSafeHwnd(), OBJID_CLIENT, row + 1);
+        access::TellChild(GetSafeHwnd(), EVENT_OBJECT_SELECTION, access::ChildOf(row));
     }
 }
 

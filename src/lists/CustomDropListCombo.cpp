@@ -116,8 +116,15 @@ CFont& CCustomDropListCombo::GetStdFont()
 
 void CCustomDropListCombo::SetCustomComboLBox(CCustomComboLBox* list)
 {
+    const WindowAlive alive(*this);
+    // A combo that its host ends in the middle of this, with its window, keeps what it has by then.
+    const auto ended = [&alive, had = GetSafeHwnd() != nullptr] { return had && !alive; };
     const bool owned = m_ownsList;
     CCustomComboLBox* const before = DetachCustomComboLBox();
+    if (ended())
+    {
+        return;
+    }
     if (owned && before != list)
     {
         delete before;
@@ -132,10 +139,14 @@ void CCustomDropListCombo::SetCustomComboLBox(CCustomComboLBox* list)
     if (CCustomDropListCombo* const other = m_list->GetComboParent())
     {
         other->DetachCustomComboLBox();
+        if (ended())
+        {
+            return;
+        }
     }
     m_list->SetComboParent(this);
     SetLBFont();
-    if (GetSafeHwnd() != nullptr)
+    if (alive)
     {
         Repaint();
     }
@@ -146,7 +157,11 @@ CCustomComboLBox* CCustomDropListCombo::DetachCustomComboLBox()
     const WindowAlive alive(*this);
     if (m_expanded)
     {
-        ToggleDropList();
+        ToggleDropList(); // tells the parent
+        if (!alive)
+        {
+            return nullptr;
+        }
     }
     CCustomComboLBox* const list = m_list;
     m_list = nullptr;

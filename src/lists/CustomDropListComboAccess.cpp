@@ -9,8 +9,7 @@
 // The name is that of the label before it, as the platform's combos have it.
 HRESULT CCustomDropListCombo::get_accName(VARIANT child, BSTR* name)
 {
-    const auto named = access::NameFromLabel(GetSafeHwnd(), child, name);
-    return named ? *named : CWnd::get_accName(child, name);
+    return access::GiveLabelsName<CWnd>(*this, child, name);
 }
 
 HRESULT CCustomDropListCombo::get_accValue(VARIANT child, BSTR* value)
@@ -21,8 +20,7 @@ HRESULT CCustomDropListCombo::get_accValue(VARIANT child, BSTR* value)
 
 HRESULT CCustomDropListCombo::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_COMBOBOX)
-                                 : CWnd::get_accRole(child, role);
+    return access::GiveRole<CWnd>(*this, child, role, ROLE_SYSTEM_COMBOBOX);
 }
 
 HRESULT CCustomDropListCombo::get_accState(VARIANT child, VARIANT* state)

@@ -4,6 +4,7 @@
 #include "CustomDropListCombo.h"
 
 #include "access/Answers.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
@@ -93,8 +94,7 @@ bool CCustomDropListCombo::TellSelChange()
         {
             return false;
         }
-        ::SendMessage(parent, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), CBN_SELCHANGE),
-                      reinterpret_cast<LPARAM>(GetSafeHwnd()));
+        TellCommand(m_hWnd, CBN_SELCHANGE);
     }
     return bool(alive);
 }

@@ -181,8 +181,10 @@ void CCustomDropListCombo::Sort(bool ascending)
     list->ResetContent();
     for (const Item& item : items)
     {
-        const int index = alive ? list->AddString(item.text) : LB_ERR;
-        if (index < 0)
+        // The list may be gone, or another's, once anybody has heard of a change.
+        const auto listed = [&] { return alive && list == ListIfMade(); };
+        const int index = listed() ? list->AddString(item.text) : LB_ERR;
+        if (index < 0 || !listed())
         {
             return;
         }
@@ -192,7 +194,10 @@ void CCustomDropListCombo::Sort(bool ascending)
             list->SetCurSel(index);
         }
     }
-    ItemsChanged();
+    if (alive)
+    {
+        ItemsChanged();
+    }
 }
 
 void* CCustomDropListCombo::GetItemDataPtr(int index) const

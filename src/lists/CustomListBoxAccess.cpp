@@ -1,95 +1,20 @@
-// The list box: where its rows are, and what assistive programs are told of them.
+// The list box: what assistive programs are told of its rows.
 
 #include "CustomListBox.h"
 
 #include "access/Rows.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
 using access::Give;
 using access::GiveNothing;
 using access::IsSelf;
 
-// Rows ------------------------------------------------------------------------------------------
-
-bool CCustomListBox::Exists(int index)
-{
-    return index >= 0 && index < Ask(LB_GETCOUNT);
-}
-
 bool CCustomListBox::IsRow(const VARIANT& child, int& index)
 {
     index = access::RowOf(child, Ask(LB_GETCOUNT));
     return index >= 0;
 }
-
-// Some platforms tell the place as it is before the list is scrolled sideways.
-CRect CCustomListBox::RowRect(int index)
-{
-    CRect row;
-    Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row));
-    const int left = InColumns() ? 0 : -::GetScrollPos(GetSafeHwnd(), SB_HORZ);
-    if (left < 0 && row.left > left)
-    {
-        row.MoveToX(left);
-    }
-    return row;
-}
-
-bool CCustomListBox::IsInSight(int index, CRect& row)
-{
-    CRect client;
-    GetClientRect(&client);
-    const int fromTop = index - Ask(LB_GETTOPINDEX);
-    // A row so far down that it is out of sight however low the rows are is not even looked up.
-    if (fromTop < 0 || (!InColumns() && fromTop > client.Height()))
-    {
-        return false;
-    }
-    row = RowRect(index);
-    return row.top < client.bottom && row.left < client.right;
-}
-
-int CCustomListBox::RowFromPoint(CPoint point)
-{
-    const int count = Ask(LB_GETCOUNT);
-    int index = Ask(LB_GETTOPINDEX);
-    if ((GetStyle() & LBS_OWNERDRAWVARIABLE) == 0 && !InColumns())
-    {
-        const int height = Ask(LB_GETITEMHEIGHT);
-        const bool onRow = height > 0 && point.y >= 0 && point.y / height < count - index;
-        return onRow ? index + int(point.y) / height : -1;
-    }
-    CRect row;
-    for (; index < count && IsInSight(index, row); ++index)
-    {
-        if (row.PtInRect(point))
-        {
-            return index;
-        }
-    }
-    return -1;
-}
-
-std::vector<int> CCustomListBox::SelectedRows()
-{
-    const int count = Ask(LB_GETSELCOUNT); // an error in a list that selects one row
-    if (count < 0)
-    {
-        const int index = Ask(LB_GETCURSEL);
-        return index < 0 ? std::vector<int>() : std::vector<int>{index};
-    }
-    std::vector<int> rows(size_t{unsigned(count)});
-    Ask(LB_GETSELITEMS, WPARAM(count), reinterpret_cast<LPARAM>(rows.data()));
-    return rows;
-}
-
-void CCustomListBox::NotifyParent(UINT code)
-{
-    ::SendMessage(::GetParent(GetSafeHwnd()), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), code),
-                  reinterpret_cast<LPARAM>(GetSafeHwnd()));
-}
-
-// Assistive programs ----------------------------------------------------------------------------
 
 HRESULT CCustomListBox::get_accChildCount(long* count)
 {
@@ -108,8 +33,7 @@ HRESULT CCustomListBox::get_accName(VARIANT child, BSTR* name)
 {
     if (IsSelf(child))
     {
-        const auto named = access::NameFromLabel(GetSafeHwnd(), child, name);
-        return named ? *named : CListBox::get_accName(child, name);
+        return access::GiveLabelsName<CListBox>(*this, child, name);
     }
     int index = 0;
     *name = nullptr;
@@ -288,9 +212,7 @@ HRESULT CCustomListBox::accDoDefaultAction(VARIANT child)
     const HRESULT selected = accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, child);
     if (alive && SUCCEEDED(selected))
     {
-        ::PostMessage(::GetParent(GetSafeHwnd()), WM_COMMAND,
-                      MAKEWPARAM(GetDlgCtrlID(), LBN_DBLCLK),
-                      reinterpret_cast<LPARAM>(GetSafeHwnd()));
+        PostCommand(GetSafeHwnd(), LBN_DBLCLK);
     }
     return selected;
 }

@@ -1,12 +1,15 @@
-// The list box: rows that it draws itself, in lists made owner-drawn with strings.
+// The list box: where its rows are, and those that it draws itself, in lists made owner-drawn with
+// strings.
 
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/MeasuringDC.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
+#include "paint/RowText.h"
 
 #include <algorithm>
 #include <optional>
@@ -37,6 +40,81 @@ RowColors ColorsOf(UINT state, const RowColors& given)
 
 } // namespace
 
+// Where rows are ---------------------------------------------------------------------------------
+
+bool CCustomListBox::Exists(int index)
+{
+    return index >= 0 && index < Ask(LB_GETCOUNT);
+}
+
+// Some platforms tell the place as it is before the list is scrolled sideways.
+CRect CCustomListBox::RowRect(int index)
+{
+    CRect row;
+    Ask(LB_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&row));
+    const int left = InColumns() ? 0 : -::GetScrollPos(GetSafeHwnd(), SB_HORZ);
+    if (left < 0 && row.left > left)
+    {
+        row.MoveToX(left);
+    }
+    return row;
+}
+
+bool CCustomListBox::IsInSight(int index, CRect& row)
+{
+    CRect client;
+    GetClientRect(&client);
+    const int fromTop = index - Ask(LB_GETTOPINDEX);
+    // A row so far down that it is out of sight however low the rows are is not even looked up.
+    if (fromTop < 0 || (!InColumns() && fromTop > client.Height()))
+    {
+        return false;
+    }
+    row = RowRect(index);
+    return row.top < client.bottom && row.left < client.right;
+}
+
+int CCustomListBox::RowFromPoint(CPoint point)
+{
+    const int count = Ask(LB_GETCOUNT);
+    int index = Ask(LB_GETTOPINDEX);
+    if ((GetStyle() & LBS_OWNERDRAWVARIABLE) == 0 && !InColumns())
+    {
+        const int height = Ask(LB_GETITEMHEIGHT);
+        const bool onRow = height > 0 && point.y >= 0 && point.y / height < count - index;
+        return onRow ? index + int(point.y) / height : -1;
+    }
+    CRect row;
+    for (; index < count && IsInSight(index, row); ++index)
+    {
+        if (row.PtInRect(point))
+        {
+            return index;
+        }
+    }
+    return -1;
+}
+
+std::vector<int> CCustomListBox::SelectedRows()
+{
+    const int count = Ask(LB_GETSELCOUNT); // an error in a list that selects one row
+    if (count < 0)
+    {
+        const int index = Ask(LB_GETCURSEL);
+        return index < 0 ? std::vector<int>() : std::vector<int>{index};
+    }
+    std::vector<int> rows(size_t{unsigned(count)});
+    Ask(LB_GETSELITEMS, WPARAM(count), reinterpret_cast<LPARAM>(rows.data()));
+    return rows;
+}
+
+void CCustomListBox::NotifyParent(UINT code)
+{
+    TellCommand(GetSafeHwnd(), code);
+}
+
+// Drawing and measuring -------------------------------------------------------------------------
+
 void CCustomListBox::DrawItem(LPDRAWITEMSTRUCT draw)
 {
     CDC* const dc = draw == nullptr ? nullptr : CDC::FromHandle(draw->hDC);
@@ -66,12 +144,7 @@ void CCustomListBox::DrawRowText(CDC& dc, const CRect& row, const CString& text,
                                  int indent)
 {
     const RowColors colors = ColorsOf(state, {dc.GetTextColor(), dc.GetBkColor()});
-    const TextColor textColor(dc, colors.text);
-    const BackgroundColor ground(dc, colors.ground);
-    // Ground and text in one call, so that no row is ever seen empty.
-    const int top = row.top + (row.Height() - dc.GetTextExtent("X", 1).cy) / 2;
-    dc.ExtTextOut(row.left + indent + metrics::ListRowMargin, top, ETO_OPAQUE | ETO_CLIPPED, row,
-                  text, nullptr);
+    DrawTextOnGround(dc, row, indent + metrics::ListRowMargin, text, colors.text, colors.ground);
 }
 
 void CCustomListBox::MeasureItem(LPMEASUREITEMSTRUCT measure)

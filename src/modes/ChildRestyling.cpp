@@ -8,6 +8,7 @@
 #include "OnBoardUIGeneral.h"
 #include "modes/Rounding.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 
@@ -136,15 +137,10 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
     {
         return TRUE;
     }
-    char name[260] = "";
-    ::GetClassName(child, name, sizeof(name));
-    const auto is = [&name](const char* wanted) { return ::lstrcmpi(name, wanted) == 0; };
+    const auto is = [child](const char* wanted) { return IsOfClass(child, wanted); };
     const bool standard = change->mode == STD;
 
-    CRect rect;
-    ::GetWindowRect(child, &rect);
-    ::MapWindowPoints(nullptr, change->parent, reinterpret_cast<POINT*>(&rect), 2);
-    CRect target = RescaledRect(rect, change->scale);
+    CRect target = RescaledRect(PlaceIn(change->parent, child), change->scale);
     UINT flags = SWP_NOZORDER;
 
     if (is("ComboBox"))

@@ -3,6 +3,7 @@
 #include "AppAccess.h"
 #include "OnBoardUIGeneral.h"
 #include "modes/Rounding.h"
+#include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 
@@ -97,17 +98,7 @@ void ChangeDialogFont(CWnd* wnd, CFont* font)
     const HWND window = wnd->GetSafeHwnd();
     wnd->SetFont(font, TRUE);
     const auto handle = WPARAM(font == nullptr ? nullptr : font->GetSafeHandle());
-    // Collected first: a child may be gone after its message, and its place among the others too.
-    std::vector<HWND> children;
-    for (HWND child = ::GetWindow(window, GW_CHILD); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT))
-    {
-        children.push_back(child);
-    }
-    for (HWND child : children)
-    {
-        ::SendMessage(child, WM_SETFONT, handle, TRUE);
-    }
+    ForEachChild(window, [handle](HWND child) { ::SendMessage(child, WM_SETFONT, handle, TRUE); });
 }
 
 // Windows and gradients -------------------------------------------------------------------------

@@ -87,3 +87,22 @@ private:
     CDC& m_dc;
     int m_old;
 };
+
+// All that is selected, set and clipped, for the life of the guard. The window of the context may
+// go meanwhile.
+class SavedState
+{
+public:
+    explicit SavedState(CDC& dc)
+        : m_dc(dc.GetSafeHdc())
+        , m_saved(::SaveDC(m_dc))
+    {}
+
+    SavedState(const SavedState&) = delete;
+    SavedState& operator=(const SavedState&) = delete;
+    ~SavedState() { ::RestoreDC(m_dc, m_saved); }
+
+private:
+    HDC m_dc;
+    int m_saved;
+};

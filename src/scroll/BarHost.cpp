@@ -5,6 +5,7 @@
 #include "OnBoardUIGeneral.h"
 #include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
@@ -264,9 +265,7 @@ bool BarHost::DrawBar(CDC& dc, int axis)
 void BarHost::DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner)
 {
     CWindowDC dc(&m_window);
-    CRect frame;
-    m_window.GetWindowRect(&frame);
-    frame.OffsetRect(-frame.TopLeft());
+    const CRect frame = AreaOf(m_window);
     // Only round the client area: a frame narrower than the pen must not be painted over rows, and
     // what lies in it is painted in its own time.
     dc.ExcludeClipRect(ClientRectInWindow(m_window));

@@ -11,16 +11,16 @@ namespace {
 
 constexpr DWORD ScrollStyles = WS_VSCROLL | WS_HSCROLL;
 
-HWND writtenWindow = nullptr;
+HWND s_written = nullptr;
 
 void WriteScrollStyles(HWND window, DWORD style, DWORD scrollStyles)
 {
     const DWORD wanted = (style & ~ScrollStyles) | scrollStyles;
     if (wanted != style)
     {
-        const HWND outer = std::exchange(writtenWindow, window);
+        const HWND outer = std::exchange(s_written, window);
         ::SetWindowLongPtr(window, GWL_STYLE, static_cast<LONG_PTR>(wanted));
-        writtenWindow = outer;
+        s_written = outer;
     }
 }
 
@@ -59,6 +59,29 @@ CRect BarArea(int axis, const CRect& client)
                        client.bottom + metrics::ScrollBar);
 }
 
+CRect BandArea(int axis, const CRect& client)
+{
+    return axis == SB_VERT
+               ? CRect(client.right, client.top, client.right + metrics::ScrollBand, client.bottom)
+               : CRect(client.left, client.bottom, client.right,
+                       client.bottom + metrics::ScrollBand);
+}
+
+PlatformScroll::PlatformScroll(const CWnd& window, int axis)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_ALL;
+    const HWND handle = window.GetSafeHwnd();
+    if (handle != nullptr && ::GetScrollInfo(handle, axis, &info))
+    {
+        first = info.nMin;
+        last = info.nMax - std::max(0, int(info.nPage) - 1);
+        page = int(info.nPage);
+        position = info.nPos;
+    }
+}
+
 CRect ClientRectInWindow(const CWnd& window)
 {
     RECT client = {};
@@ -94,7 +117,7 @@ void RestoreScrollStyles(const CWnd& window, DWORD styles)
 
 bool WritesScrollStyles(const CWnd& window)
 {
-    return writtenWindow != nullptr && writtenWindow == window.GetSafeHwnd();
+    return s_written != nullptr && s_written == window.GetSafeHwnd();
 }
 
 void RecalculateFrame(const CWnd& window, bool copyBits)

@@ -16,6 +16,24 @@ void TakeBands(RECT& proposed, const CSize& inset, bool verticalBar, bool horizo
 // it for SB_HORZ, a bar thick and reaching over the border at both ends.
 CRect BarArea(int axis, const CRect& client);
 
+// The same for an owner with a border of its own, which the bar leaves alone: all of the band, as
+// long as the client rectangle.
+CRect BandArea(int axis, const CRect& client);
+
+// What the platform's own bar would show of a window's content; all 0 where it knows of none.
+struct PlatformScroll
+{
+    int first = 0;
+    int last = 0;
+    int page = 0;
+    int position = 0;
+
+    PlatformScroll(const CWnd& window, int axis);
+
+    // Whether there is more than a page of it.
+    bool IsNeeded() const { return page > 0 && last > first; }
+};
+
 // The window's client rectangle in window coordinates (0, 0 is the window's top left corner): what
 // a bar that is painted through the window's device context is placed against.
 CRect ClientRectInWindow(const CWnd& window);

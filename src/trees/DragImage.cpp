@@ -13,8 +13,8 @@ namespace {
 constexpr COLORREF Clear = RGB(255, 0, 254);
 
 // One picture is dragged at a time, by the user interface's only thread.
-const CImageList* dragged = nullptr; // compared, never followed
-int hidden = 0;
+const CImageList* s_dragged = nullptr; // compared, never followed
+int s_hidden = 0;
 
 } // namespace
 
@@ -99,19 +99,19 @@ CImageList* ComposeDragImage(TreeItems& items, TreeLook& look, const CWnd& windo
 
 void ShowDragImage(CImageList& image, CPoint hotSpot, CPoint screen)
 {
-    if (dragged != nullptr)
+    if (s_dragged != nullptr)
     {
-        EndDragImage(*dragged);
+        EndDragImage(*s_dragged);
     }
     image.BeginDrag(0, hotSpot);
     CImageList::DragShowNolock(TRUE);
     CImageList::DragMove(screen);
-    dragged = &image;
+    s_dragged = &image;
 }
 
 void MoveDragImage(CPoint screen)
 {
-    if (dragged != nullptr)
+    if (s_dragged != nullptr)
     {
         CImageList::DragMove(screen);
     }
@@ -119,9 +119,9 @@ void MoveDragImage(CPoint screen)
 
 void EndDragImage(const CImageList& image)
 {
-    if (dragged == &image)
+    if (s_dragged == &image)
     {
-        dragged = nullptr;
+        s_dragged = nullptr;
         CImageList::DragShowNolock(FALSE);
         CImageList::EndDrag();
     }
@@ -129,7 +129,7 @@ void EndDragImage(const CImageList& image)
 
 DragImageHidden::DragImageHidden()
 {
-    if (hidden++ == 0 && dragged != nullptr)
+    if (s_hidden++ == 0 && s_dragged != nullptr)
     {
         CImageList::DragShowNolock(FALSE);
     }
@@ -137,7 +137,7 @@ DragImageHidden::DragImageHidden()
 
 DragImageHidden::~DragImageHidden()
 {
-    if (--hidden == 0 && dragged != nullptr)
+    if (--s_hidden == 0 && s_dragged != nullptr)
     {
         ::GdiFlush(); // what was painted has to lie on the screen before the picture is put over it
         CImageList::DragShowNolock(TRUE);

@@ -2,6 +2,7 @@
 
 #include "MultiTreeView.h"
 
+#include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
 #include "trees/DragImage.h"
 #include "trees/TreeSelection.h"
@@ -368,7 +369,7 @@ void MultiTreeView::OnLButtonUp(UINT flags, CPoint point)
 
 void MultiTreeView::CheckDragState()
 {
-    if (m_dragging && ::GetKeyState(VK_LBUTTON) >= 0)
+    if (m_dragging && !IsKeyDown(VK_LBUTTON))
     {
         CancelDrag();
     }

@@ -4,6 +4,7 @@
 #include "trees/TreeSelection.h"
 
 #include "modes/WindowAlive.h"
+#include "scroll/NcBands.h"
 #include "trees/DragImage.h"
 #include "trees/TreeLook.h"
 
@@ -38,6 +39,13 @@ CRect Between(CPoint a, CPoint b)
 {
     return CRect(std::min(a.x, b.x), std::min(a.y, b.y), std::max(a.x, b.x) + 1,
                  std::max(a.y, b.y) + 1);
+}
+
+// Beyond an edge counts as at it: the pointer is captured.
+CPoint WithinClient(const CRect& client, const CPoint& point)
+{
+    return CPoint(std::clamp(point.x, client.left, std::max(client.left, client.right - 1)),
+                  std::clamp(point.y, client.top, std::max(client.top, client.bottom - 1)));
 }
 
 bool Meet(const CRect& a, const CRect& b)
@@ -159,9 +167,7 @@ void TreeSelection::PlaceBand()
 {
     CRect client;
     Window().GetClientRect(&client);
-    const CPoint end(
-        std::clamp(m_band->pointer.x, client.left, std::max(client.left, client.right - 1)),
-        std::clamp(m_band->pointer.y, client.top, std::max(client.top, client.bottom - 1)));
+    const CPoint end = WithinClient(client, m_band->pointer);
     const CRect old = m_band->rect;
     m_band->rect = Between(m_band->pressed + ContentOrigin(), end);
     if (old != m_band->rect)
@@ -269,22 +275,20 @@ void TreeSelection::DoBanding(bool left, UINT flags, CPoint point)
 
 int TreeSelection::GetAutoScrollDirection(CPoint point)
 {
-    SCROLLINFO info = {};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_ALL;
-    if (Handle() == nullptr || !::GetScrollInfo(Handle(), SB_VERT, &info))
+    const scroll::PlatformScroll content(Window(), SB_VERT);
+    if (content.last <= content.first)
     {
         return 0;
     }
     CRect client;
     Window().GetClientRect(&client);
     const int row = m_items.RowHeight();
-    const int last = info.nMax - std::max(0, int(info.nPage) - 1);
-    if (point.y >= client.top && point.y < client.top + row && info.nPos > info.nMin)
+    if (point.y >= client.top && point.y < client.top + row && content.position > content.first)
     {
         return -1;
     }
-    if (point.y < client.bottom && point.y >= client.bottom - row && info.nPos < last)
+    if (point.y < client.bottom && point.y >= client.bottom - row &&
+        content.position < content.last)
     {
         return 1;
     }
@@ -334,28 +338,13 @@ void TreeSelection::DoAutoScroll()
     }
 }
 
-namespace {
-
-bool CanScroll(HWND window, int axis)
-{
-    SCROLLINFO info = {};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_RANGE | SIF_PAGE;
-    return ::GetScrollInfo(window, axis, &info) && info.nMax - info.nMin >= int(info.nPage);
-}
-
-} // namespace
-
 void TreeSelection::ScrollForBand()
 {
     const WindowAlive alive(Window());
     const HWND window = Handle();
     CRect client;
     Window().GetClientRect(&client);
-    // Beyond an edge counts as at it: the pointer is captured.
-    const CPoint pointer(
-        std::clamp(m_band->pointer.x, client.left, std::max(client.left, client.right - 1)),
-        std::clamp(m_band->pointer.y, client.top, std::max(client.top, client.bottom - 1)));
+    const CPoint pointer = WithinClient(client, m_band->pointer);
     const int edge = m_items.RowHeight();
     const int down = GetAutoScrollDirection(pointer);
     const int across = pointer.x < client.left + edge     ? -1
@@ -366,7 +355,7 @@ void TreeSelection::ScrollForBand()
     {
         ::SendMessage(window, WM_VSCROLL, down < 0 ? SB_LINEUP : SB_LINEDOWN, 0);
     }
-    if (alive && across != 0 && CanScroll(window, SB_HORZ))
+    if (alive && across != 0 && scroll::PlatformScroll(Window(), SB_HORZ).IsNeeded())
     {
         ::SendMessage(window, WM_HSCROLL, across < 0 ? SB_LINELEFT : SB_LINERIGHT, 0);
     }

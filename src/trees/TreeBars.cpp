@@ -1,6 +1,7 @@
 #include "trees/TreeBars.h"
 
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 #include "scroll/NcBands.h"
@@ -50,13 +51,7 @@ void TreeBars::LeaveOnBoard()
     {
         each->shown = false;
         each->bar.ShowScrollBar(FALSE);
-        // As the platform would show them now.
-        SCROLLINFO info = {};
-        info.cbSize = sizeof(info);
-        info.fMask = SIF_RANGE | SIF_PAGE;
-        const bool needed = ::GetScrollInfo(Window(), each->axis, &info) && info.nPage > 0 &&
-                            info.nMax - info.nMin >= int(info.nPage);
-        if (needed)
+        if (scroll::PlatformScroll(Window(), each->axis).IsNeeded()) // as the platform would now
         {
             scroll::RestoreScrollStyles(Window(), scroll::StyleOf(each->axis));
         }
@@ -103,18 +98,14 @@ void TreeBars::Reset()
 // Whether the bar has come or gone.
 bool TreeBars::MirrorOne(Bar& each)
 {
-    SCROLLINFO info = {};
-    info.cbSize = sizeof(info);
-    info.fMask = SIF_ALL;
-    const bool known = ::GetScrollInfo(Window(), each.axis, &info) && info.nPage > 0;
-    const int last = info.nMax - std::max(0, int(info.nPage) - 1);
-    const bool needed = known && last > info.nMin;
+    const scroll::PlatformScroll content(Window(), each.axis);
+    const bool needed = content.IsNeeded();
     if (needed && m_held != &each)
     {
-        each.bar.SetPageSize(int(info.nPage));
+        each.bar.SetPageSize(content.page);
         // The vertical bar has a position to spare, past the last one.
-        each.bar.SetScrollRange(info.nMin, last + (each.axis == SB_VERT ? 1 : 0));
-        each.bar.SetScrollPos(info.nPos);
+        each.bar.SetScrollRange(content.first, content.last + (each.axis == SB_VERT ? 1 : 0));
+        each.bar.SetScrollPos(content.position);
     }
     const bool changed = needed != each.shown;
     each.shown = needed;
@@ -148,11 +139,7 @@ void TreeBars::Place()
     const CRect client = scroll::ClientRectInWindow(Window());
     for (Bar* each : {&m_vertical, &m_horizontal})
     {
-        CRect area =
-            each->axis == SB_VERT
-                ? CRect(client.right, client.top, client.right + metrics::ScrollBand, client.bottom)
-                : CRect(client.left, client.bottom, client.right,
-                        client.bottom + metrics::ScrollBand);
+        const CRect area = scroll::BandArea(each->axis, client);
         // Setting it puts the thumb back onto its step, so not in the middle of a drag.
         if (each->shown && area != each->bar.GetArea())
         {
@@ -179,9 +166,7 @@ void TreeBars::Draw(bool force)
 void TreeBars::DrawBorder()
 {
     CWindowDC dc(&Window());
-    CRect window;
-    Window().GetWindowRect(&window);
-    window.OffsetRect(-window.left, -window.top);
+    const CRect window = AreaOf(Window());
     const CRect client = scroll::ClientRectInWindow(Window());
     if (m_vertical.shown && m_horizontal.shown)
     {

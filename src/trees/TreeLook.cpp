@@ -8,9 +8,11 @@
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
+#include "paint/RowText.h"
 #include "trees/DragImage.h"
 
 #include <algorithm>
+#include <array>
 
 namespace trees {
 
@@ -211,14 +213,22 @@ HGDIOBJ TreeLook::Font(bool bold)
 
 // Painting --------------------------------------------------------------------------------------
 
+namespace {
+
+// The sides of a rubber band with a line so wide.
+std::array<CRect, 4> SidesOf(const CRect& band, int line)
+{
+    return {CRect(band.left, band.top, band.right, band.top + line),
+            CRect(band.left, band.bottom - line, band.right, band.bottom),
+            CRect(band.left, band.top, band.left + line, band.bottom),
+            CRect(band.right - line, band.top, band.right, band.bottom)};
+}
+
+} // namespace
+
 void TreeLook::InvalidateBand(HWND window, const CRect& band)
 {
-    constexpr int Line = metrics::RubberBandLineOnBoard;
-    const CRect sides[] = {CRect(band.left, band.top, band.right, band.top + Line),
-                           CRect(band.left, band.bottom - Line, band.right, band.bottom),
-                           CRect(band.left, band.top, band.left + Line, band.bottom),
-                           CRect(band.right - Line, band.top, band.right, band.bottom)};
-    for (const CRect& side : sides)
+    for (const CRect& side : SidesOf(band, metrics::RubberBandLineOnBoard))
     {
         ::InvalidateRect(window, &side, TRUE); // the platform paints no ground of its own
     }
@@ -228,10 +238,10 @@ void TreeLook::PaintBand(CDC& dc, const CRect& band) const
 {
     const int line = m_onBoard ? metrics::RubberBandLineOnBoard : metrics::RubberBandLine;
     const COLORREF color = m_onBoard ? palette::RubberBand : ::GetSysColor(COLOR_WINDOWTEXT);
-    dc.FillSolidRect(CRect(band.left, band.top, band.right, band.top + line), color);
-    dc.FillSolidRect(CRect(band.left, band.bottom - line, band.right, band.bottom), color);
-    dc.FillSolidRect(CRect(band.left, band.top, band.left + line, band.bottom), color);
-    dc.FillSolidRect(CRect(band.right - line, band.top, band.right, band.bottom), color);
+    for (const CRect& side : SidesOf(band, line))
+    {
+        dc.FillSolidRect(side, color);
+    }
 }
 
 void TreeLook::Paint(const CRect* band)
@@ -314,11 +324,7 @@ void TreeLook::PaintRows(CDC& dc, const CRect& area)
 void TreeLook::PaintLabel(CDC& dc, const Row& row, COLORREF ground, COLORREF color)
 {
     const Selected font(dc, Font((row.state & TVIS_BOLD) != 0));
-    const TextColor textColor(dc, color);
-    const BackgroundColor backgroundColor(dc, ground);
-    const int top = row.text.top + (row.text.Height() - dc.GetTextExtent("X", 1).cy) / 2;
-    dc.ExtTextOut(row.text.left + metrics::TreeTextMargin, top, ETO_OPAQUE | ETO_CLIPPED, row.text,
-                  row.label, nullptr);
+    DrawTextOnGround(dc, row.text, metrics::TreeTextMargin, row.label, color, ground);
 }
 
 void TreeLook::PaintRow(CDC& dc, const Row& row)

@@ -1,5 +1,6 @@
 // The selection: what a press becomes, and the arrow keys.
 
+#include "modes/KeyState.h"
 #include "trees/TreeSelection.h"
 
 #include "modes/WindowAlive.h"
@@ -356,8 +357,8 @@ void TreeSelection::OnKeyDown(UINT key)
         m_owner.DefaultOfCurrent();
         return;
     }
-    const bool shift = ::GetKeyState(VK_SHIFT) < 0;
-    const bool control = ::GetKeyState(VK_CONTROL) < 0;
+    const bool shift = IsKeyDown(VK_SHIFT);
+    const bool control = IsKeyDown(VK_CONTROL);
     const WatchedItem caret(m_items, m_items.Caret());
     if (m_anchor.Get() == nullptr)
     {

@@ -1,6 +1,7 @@
 // The selection: the state of one item, its notifications, and what is in sight.
 
 #include "trees/TreeSelection.h"
+#include "modes/TellParent.h"
 
 #include "modes/WindowAlive.h"
 #include "trees/DragImage.h"
@@ -84,18 +85,14 @@ void TreeSelection::SetMultiSelect(bool multi)
 int TreeSelection::SendNotify(NMHDR* header)
 {
     const HWND window = Handle();
-    const HWND parent = window == nullptr ? nullptr : ::GetParent(window);
-    if (header == nullptr || parent == nullptr)
+    if (header == nullptr || window == nullptr || ::GetParent(window) == nullptr)
     {
         return 0;
     }
-    header->hwndFrom = window;
-    header->idFrom = UINT_PTR(::GetDlgCtrlID(window));
     const WindowAlive alive(Window());
     const bool outer = m_emulated;
     m_emulated = true;
-    const LRESULT answer =
-        ::SendMessage(parent, WM_NOTIFY, header->idFrom, reinterpret_cast<LPARAM>(header));
+    const LRESULT answer = TellNotify(window, *header);
     if (alive)
     {
         m_emulated = outer;

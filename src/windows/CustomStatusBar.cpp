@@ -204,10 +204,9 @@ void CCustomStatusBar::DrawPane(CDC& dc, int pane, const CRect& place)
         item.rcItem = place;
         item.itemData = ULONG_PTR(SendMessage(SB_GETTEXT, WPARAM(pane)));
         // What the owner selects and clips is not meant for the next pane. It may end the bar.
-        const int saved = ::SaveDC(dc);
+        const SavedState saved(dc);
         ::SendMessage(::GetParent(m_hWnd), WM_DRAWITEM, item.CtlID,
                       reinterpret_cast<LPARAM>(&item));
-        ::RestoreDC(dc, saved);
         return;
     }
     const CString text = GetText(pane);
@@ -235,8 +234,7 @@ CString CCustomStatusBar::PaneText(int pane) const
 
 HRESULT CCustomStatusBar::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::IsSelf(child) ? access::Give(*role, ROLE_SYSTEM_STATUSBAR)
-                                 : CStatusBarCtrl::get_accRole(child, role);
+    return access::GiveRole<CStatusBarCtrl>(*this, child, role, ROLE_SYSTEM_STATUSBAR);
 }
 
 HRESULT CCustomStatusBar::get_accValue(VARIANT child, BSTR* value)

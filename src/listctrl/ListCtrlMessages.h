@@ -1,0 +1,11 @@
+#pragma once
+
+#include <afxwin.h>
+
+// What a report list posts to itself.
+namespace listctrl {
+
+constexpr UINT SubclassHeaderMessage = 0x069A; // take the header that was made with the list
+constexpr UINT ActivateMessage = 0x069B;       // activate the row with the focus
+
+} // namespace listctrl

@@ -1,0 +1,58 @@
+#pragma once
+
+// What several floors ask of a window.
+
+#include <afxwin.h>
+
+#include <vector>
+
+// The whole window as its own device context has it, from (0, 0).
+inline CRect AreaOf(const CWnd& window)
+{
+    CRect area(0, 0, 0, 0);
+    ::GetWindowRect(window.GetSafeHwnd(), &area);
+    area.OffsetRect(-area.TopLeft());
+    return area;
+}
+
+// A window's place in the client area of another, as a rule its parent.
+inline CRect PlaceIn(HWND parent, HWND window)
+{
+    CRect place(0, 0, 0, 0);
+    ::GetWindowRect(window, &place);
+    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+// Whether a window's class has this name; upper and lower case are one.
+inline bool IsOfClass(HWND window, const char* wanted)
+{
+    char name[260] = "";
+    ::GetClassName(window, name, int(sizeof(name)));
+    return ::lstrcmpi(name, wanted) == 0;
+}
+
+// The direct children in their order, collected: what is done to one may end others, or move it
+// among them.
+inline std::vector<HWND> ChildrenNow(HWND parent)
+{
+    std::vector<HWND> children;
+    for (HWND child = ::GetWindow(parent, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        children.push_back(child);
+    }
+    return children;
+}
+
+// Does something to each child that is still there when its turn comes.
+template <class Act> void ForEachChild(HWND parent, Act act)
+{
+    for (const HWND child : ChildrenNow(parent))
+    {
+        if (::IsWindow(child))
+        {
+            act(child);
+        }
+    }
+}
