@@ -30,7 +30,7 @@ double Contrast(COLORREF one, COLORREF other)
     return std::max(first, second) / std::min(first, second);
 }
 
-TextContrast FindTextContrast(const Picture& withText, const Picture& withBlanks)
+TextContrast FindTextContrast(const Pixels& withText, const Pixels& withBlanks)
 {
     std::map<COLORREF, std::map<COLORREF, int>> grounds; // of each colour, with their pixels
     std::map<COLORREF, int> strokes;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Picture.h"
+#include "catalog/Pixels.h"
 
 // How well a text can be told from what it is drawn on.
 struct TextContrast
@@ -17,4 +17,4 @@ double Contrast(COLORREF one, COLORREF other);
 // Of the text that one picture shows and the other, of the same window with blanks for it, does
 // not. The text's colour is what most of the pixels that differ have, which is that of the strokes
 // and not of their smoothed edges; its ground is what the other picture has in their places.
-TextContrast FindTextContrast(const Picture& withText, const Picture& withBlanks);
+TextContrast FindTextContrast(const Pixels& withText, const Pixels& withBlanks);

@@ -194,9 +194,9 @@ void Shown::BlankButtons()
     Settle();
 }
 
-Picture PictureOf(const Part& part)
+Pixels PictureOf(const Part& part)
 {
-    Picture picture(*part.window);
+    Pixels picture = ScreenPixels(*part.window);
     CRect whole;
     part.window->GetWindowRect(&whole);
     const auto leave = [&](CWnd* other, UINT next) {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "catalog/Controls.h"
+#include "catalog/Pixels.h"
 
 #include "AppMode.h"
-#include "Picture.h"
 
 #include <memory>
 #include <string>
@@ -41,7 +41,7 @@ private:
 };
 
 // What the screen shows of a part, without the windows within and before it.
-Picture PictureOf(const Part& part);
+Pixels PictureOf(const Part& part);
 
 // Blanks at least as wide as the text in a window's font, so that nothing that follows a text's
 // extent differs between the two.

@@ -63,7 +63,7 @@ void PrintContrast(APPMODE mode, const Control& control, const State& state)
     {
         std::string kind;
         bool hasText;
-        Picture picture;
+        Pixels picture;
     };
     std::string blanks;
     const auto show = [&](const std::string& text, bool blank) {
@@ -137,7 +137,7 @@ void PrintAccess(APPMODE mode, const Control& control)
 {
     Shown shown(control, mode, Sample, State{}.rows);
     CWnd& window = shown.Window();
-    const Picture before(window);
+    const Pixels before = ScreenPixels(window);
     const bool takesFocus =
         (window.GetStyle() & (WS_CHILD | WS_TABSTOP)) == (WS_CHILD | WS_TABSTOP) &&
         (window.SendMessage(WM_GETDLGCODE) & DLGC_STATIC) == 0;
@@ -154,7 +154,7 @@ void PrintAccess(APPMODE mode, const Control& control)
         bool seen = false;
         for (int look = 0; look < 20 && !seen; ++look) // a caret blinks
         {
-            seen = CWnd::GetFocus() == &window && !(Picture(window) == before);
+            seen = CWnd::GetFocus() == &window && ScreenPixels(window) != before;
             ::Sleep(seen ? 0 : 100);
             shown.Settle();
         }

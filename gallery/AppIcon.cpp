@@ -42,23 +42,26 @@ HICON MakeAppIcon(int size)
     dc.CreateCompatibleDC(&screen);
 
     // Transparent is white in the mask and black in the colours.
-    const HGDIOBJ before = ::SelectObject(dc.GetSafeHdc(), mask.GetSafeHandle());
-    dc.FillSolidRect(0, 0, size, size, RGB(255, 255, 255));
     const auto scaled = [size](int units) { return units * size / Grid; };
     const auto rect = [&scaled](const Patch& patch) {
         return CRect(scaled(patch.left), scaled(patch.top), scaled(patch.right),
                      scaled(patch.bottom));
     };
     const CRect panel = rect(Patches[0]);
-    dc.FillSolidRect(&panel, RGB(0, 0, 0));
-    ::SelectObject(dc.GetSafeHdc(), color.GetSafeHandle());
-    dc.FillSolidRect(0, 0, size, size, RGB(0, 0, 0));
-    for (const Patch& patch : Patches)
     {
-        const CRect area = rect(patch);
-        dc.FillSolidRect(&area, patch.color);
+        const InUse drawn(dc, mask);
+        dc.FillSolidRect(0, 0, size, size, RGB(255, 255, 255));
+        dc.FillSolidRect(&panel, RGB(0, 0, 0));
     }
-    ::SelectObject(dc.GetSafeHdc(), before);
+    {
+        const InUse drawn(dc, color);
+        dc.FillSolidRect(0, 0, size, size, RGB(0, 0, 0));
+        for (const Patch& patch : Patches)
+        {
+            const CRect area = rect(patch);
+            dc.FillSolidRect(&area, patch.color);
+        }
+    }
 
     ICONINFO info = {TRUE, 0, 0, mask, color};
     return ::CreateIconIndirect(&info);

@@ -40,8 +40,6 @@ constexpr EditPlace Places[] = {
 // Edits of the on-board modes.
 constexpr COLORREF EditText = RGB(26, 26, 26);
 constexpr COLORREF EditGround = RGB(180, 180, 180);
-constexpr COLORREF ColouredText = RGB(255, 214, 90);
-constexpr COLORREF ColouredGround = RGB(24, 52, 84);
 
 CString LongText()
 {
@@ -120,8 +118,8 @@ void EditsPage::CreateContent()
     }
     m_single.SetWindowText("EDDF 25C");
     m_prompt.SetPromptText("<Flight number>");
-    m_coloured.SetBackgroundColor(ColouredGround);
-    m_coloured.SetTextColor(ColouredText);
+    m_coloured.SetBackgroundColor(look::ColouredGround);
+    m_coloured.SetTextColor(look::ColouredText);
     m_coloured.SetWindowText("Squawk 4671");
     m_fixed.SetWindowText("Ctrl+C, X, V and Z");
     m_long.SetWindowText(LongText());

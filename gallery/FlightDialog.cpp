@@ -1,5 +1,6 @@
 #include "FlightDialog.h"
 
+#include "Look.h"
 #include "WindowMoves.h"
 #include "resource.h"
 
@@ -16,8 +17,6 @@ constexpr const char* Airports[] = {
     "LFPG Paris",     "LIRF Rome",   "LSZH Zurich", "OMDB Dubai",     "ZBAA Beijing",
 };
 constexpr COLORREF FlightColour = RGB(232, 120, 30);
-constexpr COLORREF SquawkText = RGB(255, 214, 90);
-constexpr COLORREF SquawkGround = RGB(24, 52, 84);
 
 constexpr const char* Remarks = "Taxi clearance is given on the apron frequency.\r\n"
                                 "Birds near the approach path of runway 27.\r\n"
@@ -58,8 +57,8 @@ void FlightControls::AttachParticulars(CWnd& dialog)
     m_route.SetPromptText("Waypoints");
     m_route.SubclassDlgItem(IDC_FLIGHT_ROUTE, &dialog);
     m_squawk.SubclassDlgItem(IDC_FLIGHT_SQUAWK, &dialog);
-    m_squawk.SetTextColor(SquawkText);
-    m_squawk.SetBackgroundColor(SquawkGround);
+    m_squawk.SetTextColor(look::ColouredText);
+    m_squawk.SetBackgroundColor(look::ColouredGround);
     m_squawk.SetWindowText("7000");
     // The library has not scaled anything yet.
     m_gatePlace = PlaceInParent(*dialog.GetDlgItem(IDC_FLIGHT_GATE));

@@ -312,7 +312,7 @@ void GalleryFrame::OnPaint()
     }
     line.DeflateRect(CurrentMeasures().margin, 0);
 
-    const FontInUse font(dc, look::LabelFont());
+    const InUse font(dc, look::LabelFont());
     dc.DrawText("The page was told: " + m_lastTold, &line,
                 DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
@@ -332,7 +332,7 @@ void GalleryFrame::DrawFrame(CDC& dc, const CRect& caption) const
     text.right -= CurrentMeasures().window;
     CString title;
     GetWindowText(title);
-    const FontInUse font(dc, look::BoldFont());
+    const InUse font(dc, look::BoldFont());
     dc.DrawText(title, &text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 

@@ -99,7 +99,7 @@ void IconTable::OnPaint()
 {
     BufferedPaint paint(*this);
     CDC& dc = paint.Context();
-    const FontInUse font(dc, look::LabelFont());
+    const InUse font(dc, look::LabelFont());
     if (m_kind == Icons)
     {
         for (UINT ten = 0; ten < Tens; ++ten)

@@ -1,5 +1,6 @@
 #include "ListBoxPage.h"
 
+#include "Look.h"
 #include "resource.h"
 
 #include <OnBoardUI.h>
@@ -98,13 +99,12 @@ void ListBoxPage::OnLaidOut()
     // How wide the widest row is depends on the font, and with it on the mode.
     CCustomListBox& list = m_lists[Wide];
     CClientDC dc(&list);
-    CFont* const before = dc.SelectObject(list.GetFont());
+    const InUse font(dc, reinterpret_cast<HGDIOBJ>(list.SendMessage(WM_GETFONT)));
     int widest = 0;
     for (const char* remark : Remarks)
     {
         widest = std::max(widest, int(dc.GetTextExtent(remark).cx));
     }
-    dc.SelectObject(before);
     list.SetHorizontalExtent(widest + 8);
 }
 

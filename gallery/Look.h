@@ -30,6 +30,10 @@ constexpr COLORREF DarkActiveTop = RGB(62, 100, 138);
 constexpr COLORREF DarkActiveBottom = RGB(44, 70, 96);
 constexpr COLORREF DarkActiveEdge = RGB(120, 165, 210);
 
+// What a coloured edit shows in place of the colours of edits.
+constexpr COLORREF ColouredText = RGB(255, 214, 90);
+constexpr COLORREF ColouredGround = RGB(24, 52, 84);
+
 // Fonts of labels, and of what a label names in bold.
 CFont& LabelFont();
 CFont& BoldFont();
@@ -56,17 +60,20 @@ private:
     HGDIOBJ m_before = nullptr;
 };
 
-// A font selected into a context for as long as the object lives.
-class FontInUse
+// A font, pen, brush or bitmap selected into a context for as long as the object lives.
+class InUse
 {
 public:
-    FontInUse(CDC& dc, CFont& font)
+    InUse(CDC& dc, HGDIOBJ object)
         : m_dc(dc.GetSafeHdc())
-        , m_before(::SelectObject(m_dc, font.GetSafeHandle()))
+        , m_before(::SelectObject(m_dc, object))
     {}
-    FontInUse(const FontInUse&) = delete;
-    FontInUse& operator=(const FontInUse&) = delete;
-    ~FontInUse() { ::SelectObject(m_dc, m_before); }
+    InUse(CDC& dc, const CGdiObject& object)
+        : InUse(dc, object.GetSafeHandle())
+    {}
+    InUse(const InUse&) = delete;
+    InUse& operator=(const InUse&) = delete;
+    ~InUse() { ::SelectObject(m_dc, m_before); }
 
 private:
     HDC m_dc;

@@ -87,7 +87,7 @@ void PageList::DrawItem(LPDRAWITEMSTRUCT draw)
 
     CString text;
     GetText(int(draw->itemID), text);
-    const FontInUse font(*dc, look::LabelFont());
+    const InUse font(*dc, look::LabelFont());
     dc->SetBkMode(TRANSPARENT);
     dc->SetTextColor(selected ? ::GetSysColor(COLOR_HIGHLIGHTTEXT)
                      : dark   ? look::Text()

@@ -1,5 +1,6 @@
 #include "Pictures.h"
 
+#include "Look.h"
 #include "Output.h"
 #include "Pages.h"
 
@@ -77,9 +78,8 @@ public:
         CDC memory;
         memory.CreateCompatibleDC(&screen);
         m_bitmap.Attach(::CreateDIBSection(screen, &info, DIB_RGB_COLORS, &m_bits, nullptr, 0));
-        const HGDIOBJ before = ::SelectObject(memory.GetSafeHdc(), m_bitmap.GetSafeHandle());
+        const InUse copied(memory, m_bitmap);
         memory.BitBlt(0, 0, rect.Width(), rect.Height(), &screen, rect.left, rect.top, SRCCOPY);
-        ::SelectObject(memory.GetSafeHdc(), before);
         ::GdiFlush();
     }
 

@@ -191,7 +191,7 @@ void ScreenKeyboard::DrawKey(CDC& dc, Key key) const
     const char letter[] = {m_shift ? char(std::toupper(static_cast<unsigned char>(face.character)))
                                    : face.character,
                            '\0'};
-    const FontInUse font(dc, look::LabelFont());
+    const InUse font(dc, look::LabelFont());
     dc.DrawText(face.caption != nullptr ? face.caption : letter, &rect,
                 DT_SINGLELINE | DT_CENTER | DT_VCENTER | DT_NOPREFIX);
 }

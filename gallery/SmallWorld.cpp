@@ -73,8 +73,8 @@ void Draw(CDC& dc, int kind, int size)
                  : kind == Route    ? RGB(70, 110, 160)
                  : kind == Waypoint ? RGB(90, 150, 90)
                                     : RGB(120, 120, 190));
-    const HGDIOBJ oldPen = ::SelectObject(dc.GetSafeHdc(), pen.GetSafeHandle());
-    const HGDIOBJ oldBrush = ::SelectObject(dc.GetSafeHdc(), brush.GetSafeHandle());
+    const InUse line(dc, pen);
+    const InUse ground(dc, brush);
     const POINT triangle[] = {{at(8), at(2)}, {at(14), at(13)}, {at(2), at(13)}};
     switch (kind)
     {
@@ -96,8 +96,6 @@ void Draw(CDC& dc, int kind, int size)
         dc.Rectangle(at(7), at(4), at(9), at(12));
         break;
     }
-    ::SelectObject(dc.GetSafeHdc(), oldPen);
-    ::SelectObject(dc.GetSafeHdc(), oldBrush);
 }
 
 CImageList& MakePictures(CImageList& list, int size)
@@ -115,10 +113,9 @@ CImageList& MakePictures(CImageList& list, int size)
         {
             CDC dc;
             dc.CreateCompatibleDC(&screen);
-            const HGDIOBJ before = ::SelectObject(dc.GetSafeHdc(), bitmap.GetSafeHandle());
+            const InUse drawn(dc, bitmap);
             dc.FillSolidRect(0, 0, size, size, Clear);
             Draw(dc, kind, size);
-            ::SelectObject(dc.GetSafeHdc(), before);
         }
         list.Add(&bitmap, Clear);
     }

@@ -50,12 +50,9 @@ void DrawDarkFace(CDC& dc, CRect face, bool active, bool down)
         GradientFill(&dc, face, active ? look::DarkActiveTop : look::DarkFaceTop,
                      active ? look::DarkActiveBottom : look::DarkFaceBottom, GRADIENT_FILL_RECT_V);
     }
-    const HGDIOBJ pen =
-        ::SelectObject(dc.GetSafeHdc(), active ? HPEN(activeOutline) : HPEN(outline));
-    const HGDIOBJ brush = ::SelectObject(dc.GetSafeHdc(), ::GetStockObject(NULL_BRUSH));
+    const InUse pen(dc, active ? activeOutline : outline);
+    const InUse brush(dc, ::GetStockObject(NULL_BRUSH));
     dc.Rectangle(&face);
-    ::SelectObject(dc.GetSafeHdc(), brush);
-    ::SelectObject(dc.GetSafeHdc(), pen);
 }
 
 } // namespace
@@ -134,7 +131,7 @@ void SwitchStrip::DrawSwitch(CDC& dc, int index) const
         DrawStandardFace(dc, face, active, down);
     }
 
-    const FontInUse font(dc, active ? look::BoldFont() : look::LabelFont());
+    const InUse font(dc, active ? look::BoldFont() : look::LabelFont());
     CRect text = face;
     if (down)
     {

@@ -147,13 +147,13 @@ void DropArea::OnPaint()
     CRect area;
     GetClientRect(&area);
     CPen pen(PS_DOT, 1, look::Dark() ? look::DarkActiveEdge : ::GetSysColor(COLOR_BTNSHADOW));
-    const HGDIOBJ oldPen = ::SelectObject(dc.GetSafeHdc(), pen.GetSafeHandle());
-    const HGDIOBJ oldBrush = ::SelectObject(dc.GetSafeHdc(), ::GetStockObject(NULL_BRUSH));
-    dc.Rectangle(&area);
-    ::SelectObject(dc.GetSafeHdc(), oldBrush);
-    ::SelectObject(dc.GetSafeHdc(), oldPen);
+    {
+        const InUse line(dc, pen);
+        const InUse ground(dc, ::GetStockObject(NULL_BRUSH));
+        dc.Rectangle(&area);
+    }
 
-    const FontInUse font(dc, look::LabelFont());
+    const InUse font(dc, look::LabelFont());
     area.DeflateRect(8, 8);
     CRect text = area;
     dc.DrawText(m_last, &text, DT_CENTER | DT_WORDBREAK | DT_NOPREFIX | DT_CALCRECT);

@@ -1,5 +1,6 @@
 #include "framework/Frame.h"
 
+#include "ChildWindows.h"
 #include "StillThere.h"
 #include "framework/App.h"
 #include "framework/ControlBar.h"
@@ -179,11 +180,11 @@ void CFrameWnd::RecalcLayout(BOOL)
 
 void CFrameWnd::UpdateBars()
 {
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT))
+    const framework::StillThere here(*this);
+    for (const HWND child : framework::ChildWindows(m_hWnd))
     {
         auto* bar = DYNAMIC_DOWNCAST(CControlBar, FromHandlePermanent(child));
-        if (bar != nullptr && bar->IsWindowVisible())
+        if (here && bar != nullptr && bar->IsWindowVisible())
         {
             bar->OnUpdateCmdUI(this, TRUE);
         }

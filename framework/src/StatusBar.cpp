@@ -1,6 +1,7 @@
 #include "framework/StatusBar.h"
 
 #include "Reflection.h"
+#include "StillThere.h"
 #include "TypedWindows.h"
 #include "framework/Frame.h"
 #include "framework/StatusBarCtrl.h"
@@ -251,7 +252,8 @@ private:
 // A pane without a handler keeps what it shows.
 void CStatusBar::OnUpdateCmdUI(CFrameWnd* target, BOOL)
 {
-    for (int index = 0; index < GetCount(); ++index)
+    const framework::StillThere here(*this); // handlers may end the bar
+    for (int index = 0; here && index < GetCount(); ++index)
     {
         if (GetItemID(index) != ID_SEPARATOR)
         {

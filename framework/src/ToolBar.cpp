@@ -1,5 +1,6 @@
 #include "framework/ToolBar.h"
 
+#include "StillThere.h"
 #include "TypedWindows.h"
 #include "framework/Frame.h"
 #include "framework/ToolBarCtrl.h"
@@ -265,7 +266,8 @@ private:
 
 void CToolBar::OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler)
 {
-    for (int index = 0; index < GetCount(); ++index)
+    const framework::StillThere here(*this); // handlers may end the bar
+    for (int index = 0; here && index < GetCount(); ++index)
     {
         if ((GetButtonStyle(index) & TBBS_SEPARATOR) == 0)
         {

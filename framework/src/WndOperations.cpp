@@ -1,5 +1,6 @@
 // The operations of a window that are more than one call of the platform.
 
+#include "ChildWindows.h"
 #include "TypedWindows.h"
 #include "framework/App.h"
 #include "framework/ControlBar.h"
@@ -42,14 +43,13 @@ BOOL CWnd::ModifyStyleEx(DWORD remove, DWORD add, UINT flags)
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL deep,
                                     BOOL onlyPermanent)
 {
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT))
+    for (const HWND child : framework::ChildWindows(m_hWnd))
     {
         if (!onlyPermanent || FromHandlePermanent(child) != nullptr)
         {
             ::SendMessage(child, message, wParam, lParam);
         }
-        if (deep && ::GetTopWindow(child) != nullptr)
+        if (deep && ::IsWindow(child) && ::GetTopWindow(child) != nullptr)
         {
             FromHandle(child)->SendMessageToDescendants(message, wParam, lParam, deep,
                                                         onlyPermanent);
@@ -209,8 +209,7 @@ void CWnd::RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT, LPRE
         rest = *rectClient;
     }
     HWND leftover = nullptr;
-    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr;
-         child = ::GetWindow(child, GW_HWNDNEXT))
+    for (const HWND child : framework::ChildWindows(m_hWnd))
     {
         const UINT id = UINT(::GetDlgCtrlID(child)) & 0xFFFFU;
         auto* bar = DYNAMIC_DOWNCAST(CControlBar, FromHandlePermanent(child));

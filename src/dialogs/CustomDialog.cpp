@@ -5,7 +5,6 @@
 #include "GMSUtil.h"
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
-#include "access/Answers.h"
 #include "dialogs/ControlList.h"
 #include "dialogs/OnBoardFrame.h"
 #include "dialogs/Opening.h"
@@ -493,9 +492,4 @@ LRESULT CCustomDialog::OnMenuRequest(WPARAM wParam, LPARAM lParam)
 {
     const UINT message = GetCurrentMessage()->message;
     return dialogs::AsksForSystemMenu(*this, message, wParam, lParam) ? 0 : Default();
-}
-
-HRESULT CCustomDialog::get_accRole(VARIANT child, VARIANT* role)
-{
-    return access::GiveRole<CDialog>(*this, child, role, ROLE_SYSTEM_DIALOG);
 }

@@ -1,11 +1,17 @@
-// Forms, pages and sheets: what assistive programs are told of them. The platform takes each of
-// them for any window's client area.
+// Dialogs, forms, pages and sheets: what assistive programs are told of them. The platform takes
+// each of them for any window's client area.
 
+#include "CustomDialog.h"
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "CustomPropSheet.h"
 
 #include "access/Answers.h"
+
+HRESULT CCustomDialog::get_accRole(VARIANT child, VARIANT* role)
+{
+    return access::GiveRole<CDialog>(*this, child, role, ROLE_SYSTEM_DIALOG);
+}
 
 // A form has seldom a text of its own: its frame's title names it.
 HRESULT CCustomFormView::get_accName(VARIANT child, BSTR* name)

@@ -1,116 +1,77 @@
-// The tree view: what assistive programs are told.
+// The tree view: what assistive programs are told. TreeAnswers knows who answers what.
 
 #include "MultiTreeView.h"
 
-#include "access/Rows.h"
 #include "trees/TreeAccess.h"
 
-using trees::TreeAccess;
+using Answers = trees::TreeAnswers<CTreeView>;
 
 HRESULT MultiTreeView::get_accChildCount(long* count)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.PlatformNumbersItems() ? CTreeView::get_accChildCount(count) : tree.Count(count);
+    return Answers(*this, *m_selection).ChildCount(count);
 }
 
 HRESULT MultiTreeView::get_accChild(VARIANT child, IDispatch** object)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child) ? CTreeView::get_accChild(child, object)
-                                     : tree.Child(child, object);
+    return Answers(*this, *m_selection).Child(child, object);
 }
 
 HRESULT MultiTreeView::get_accName(VARIANT child, BSTR* name)
 {
-    if (const auto named = access::NameFromLabel(GetSafeHwnd(), child, name))
-    {
-        return *named;
-    }
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child) ? CTreeView::get_accName(child, name)
-                                     : tree.Answer(child, &TreeAccess::Name, name);
+    return Answers(*this, *m_selection).Name(child, name);
 }
 
 HRESULT MultiTreeView::get_accValue(VARIANT child, BSTR* value)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child) ? CTreeView::get_accValue(child, value)
-                                     : tree.Answer(child, &TreeAccess::Level, value);
+    return Answers(*this, *m_selection).Value(child, value);
 }
 
 HRESULT MultiTreeView::get_accRole(VARIANT child, VARIANT* role)
 {
-    if (access::IsSelf(child))
-    {
-        return access::Give(*role, ROLE_SYSTEM_OUTLINE);
-    }
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child) ? CTreeView::get_accRole(child, role)
-                                     : tree.Answer(child, &TreeAccess::Role, role);
+    return Answers(*this, *m_selection).Role(child, role);
 }
 
 HRESULT MultiTreeView::get_accState(VARIANT child, VARIANT* state)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child) ? CTreeView::get_accState(child, state)
-                                     : tree.Answer(child, &TreeAccess::State, state);
+    return Answers(*this, *m_selection).State(child, state);
 }
 
 HRESULT MultiTreeView::get_accFocus(VARIANT* child)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.PlatformNumbersItems() || ::GetFocus() != GetSafeHwnd()
-               ? CTreeView::get_accFocus(child)
-               : tree.Focus(child);
+    return Answers(*this, *m_selection).Focus(child);
 }
 
 HRESULT MultiTreeView::get_accSelection(VARIANT* children)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.PlatformNumbersItems() ? CTreeView::get_accSelection(children)
-                                       : tree.Selection(children);
+    return Answers(*this, *m_selection).Selection(children);
 }
 
 HRESULT MultiTreeView::get_accDefaultAction(VARIANT child, BSTR* action)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child) ? CTreeView::get_accDefaultAction(child, action)
-                                     : tree.Answer(child, &TreeAccess::Action, action);
+    return Answers(*this, *m_selection).DefaultAction(child, action);
 }
 
 HRESULT MultiTreeView::accSelect(long flags, VARIANT child)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child) ? CTreeView::accSelect(flags, child)
-                                     : tree.Select(flags, child);
+    return Answers(*this, *m_selection).Select(flags, child);
 }
 
 HRESULT MultiTreeView::accLocation(long* left, long* top, long* width, long* height, VARIANT child)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child)
-               ? CTreeView::accLocation(left, top, width, height, child)
-               : tree.Answer(child, &TreeAccess::Location, left, top, width, height);
+    return Answers(*this, *m_selection).Location(left, top, width, height, child);
 }
 
 HRESULT MultiTreeView::accNavigate(long direction, VARIANT start, VARIANT* end)
 {
-    const bool within = !access::LeavesList(direction, start);
-    const TreeAccess tree(*this, *m_selection);
-    return !within || tree.PlatformNumbersItems() ? CTreeView::accNavigate(direction, start, end)
-                                                  : tree.Navigate(direction, start, end);
+    return Answers(*this, *m_selection).Navigate(direction, start, end);
 }
 
 HRESULT MultiTreeView::accHitTest(long left, long top, VARIANT* child)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.PlatformNumbersItems() ? CTreeView::accHitTest(left, top, child)
-                                       : tree.HitTest(CPoint(left, top), child);
+    return Answers(*this, *m_selection).HitTest(left, top, child);
 }
 
 HRESULT MultiTreeView::accDoDefaultAction(VARIANT child)
 {
-    const TreeAccess tree(*this, *m_selection);
-    return tree.IsForPlatform(child) ? CTreeView::accDoDefaultAction(child)
-                                     : tree.Answer(child, &TreeAccess::DoAction);
+    return Answers(*this, *m_selection).DoDefaultAction(child);
 }

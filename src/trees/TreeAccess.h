@@ -2,6 +2,7 @@
 
 // What a tree answers to assistive programs of its items.
 
+#include "access/Rows.h"
 #include "trees/TreeSelection.h"
 
 #include <oleacc.h>
@@ -58,6 +59,104 @@ private:
     TreeItems& m_items;
 
     bool HasChildren(HTREEITEM item) const;
+};
+
+// Who answers a question: TreeAccess, or the platform's base class that the tree's class derives
+// from. Made for one question, and answers the one that is named alike.
+template <class Platform> class TreeAnswers
+{
+public:
+    TreeAnswers(Platform& tree, TreeSelection& selection)
+        : m_tree(tree)
+        , m_access(tree, selection)
+    {}
+
+    HRESULT ChildCount(long* count) const
+    {
+        return m_access.PlatformNumbersItems() ? m_tree.Platform::get_accChildCount(count)
+                                               : m_access.Count(count);
+    }
+    HRESULT Child(const VARIANT& child, IDispatch** object) const
+    {
+        return m_access.IsForPlatform(child) ? m_tree.Platform::get_accChild(child, object)
+                                             : m_access.Child(child, object);
+    }
+    HRESULT Name(const VARIANT& child, BSTR* name) const
+    {
+        if (const auto named = access::NameFromLabel(m_tree.GetSafeHwnd(), child, name))
+        {
+            return *named;
+        }
+        return m_access.IsForPlatform(child) ? m_tree.Platform::get_accName(child, name)
+                                             : m_access.Answer(child, &TreeAccess::Name, name);
+    }
+    HRESULT Value(const VARIANT& child, BSTR* value) const
+    {
+        return m_access.IsForPlatform(child) ? m_tree.Platform::get_accValue(child, value)
+                                             : m_access.Answer(child, &TreeAccess::Level, value);
+    }
+    HRESULT Role(const VARIANT& child, VARIANT* role) const
+    {
+        if (access::IsSelf(child))
+        {
+            return access::Give(*role, ROLE_SYSTEM_OUTLINE);
+        }
+        return m_access.IsForPlatform(child) ? m_tree.Platform::get_accRole(child, role)
+                                             : m_access.Answer(child, &TreeAccess::Role, role);
+    }
+    HRESULT State(const VARIANT& child, VARIANT* state) const
+    {
+        return m_access.IsForPlatform(child) ? m_tree.Platform::get_accState(child, state)
+                                             : m_access.Answer(child, &TreeAccess::State, state);
+    }
+    HRESULT Focus(VARIANT* child) const
+    {
+        return m_access.PlatformNumbersItems() || ::GetFocus() != m_tree.GetSafeHwnd()
+                   ? m_tree.Platform::get_accFocus(child)
+                   : m_access.Focus(child);
+    }
+    HRESULT Selection(VARIANT* children) const
+    {
+        return m_access.PlatformNumbersItems() ? m_tree.Platform::get_accSelection(children)
+                                               : m_access.Selection(children);
+    }
+    HRESULT DefaultAction(const VARIANT& child, BSTR* action) const
+    {
+        return m_access.IsForPlatform(child) ? m_tree.Platform::get_accDefaultAction(child, action)
+                                             : m_access.Answer(child, &TreeAccess::Action, action);
+    }
+    HRESULT Select(long flags, const VARIANT& child) const
+    {
+        return m_access.IsForPlatform(child) ? m_tree.Platform::accSelect(flags, child)
+                                             : m_access.Select(flags, child);
+    }
+    HRESULT Location(long* left, long* top, long* width, long* height, const VARIANT& child) const
+    {
+        return m_access.IsForPlatform(child)
+                   ? m_tree.Platform::accLocation(left, top, width, height, child)
+                   : m_access.Answer(child, &TreeAccess::Location, left, top, width, height);
+    }
+    HRESULT Navigate(long direction, const VARIANT& start, VARIANT* end) const
+    {
+        const bool within = !access::LeavesList(direction, start);
+        return !within || m_access.PlatformNumbersItems()
+                   ? m_tree.Platform::accNavigate(direction, start, end)
+                   : m_access.Navigate(direction, start, end);
+    }
+    HRESULT HitTest(long left, long top, VARIANT* child) const
+    {
+        return m_access.PlatformNumbersItems() ? m_tree.Platform::accHitTest(left, top, child)
+                                               : m_access.HitTest(CPoint(left, top), child);
+    }
+    HRESULT DoDefaultAction(const VARIANT& child) const
+    {
+        return m_access.IsForPlatform(child) ? m_tree.Platform::accDoDefaultAction(child)
+                                             : m_access.Answer(child, &TreeAccess::DoAction);
+    }
+
+private:
+    Platform& m_tree;
+    TreeAccess m_access;
 };
 
 } // namespace trees

@@ -1,3 +1,4 @@
+#include "support/Acting.h"
 #include "support/WindowTest.h"
 
 #include <functional>
@@ -206,6 +207,17 @@ TEST_F(WndTest, ASubclassedControlWorksBeforeDuringAndAfter)
         ASSERT_TRUE(ours.SubclassWindow(window));
         EXPECT_EQ(addAndCount(), 10);
     }
+}
+
+TEST_F(WindowTest, AMessageReachesTheChildrenBehindOneThatEndsInIt)
+{
+    constexpr UINT Message = WM_APP;
+    auto& ending = Add<Acting<CStatic>>(CRect(10, 10, 50, 50));
+    auto& last = Add<CStatic>(CRect(10, 60, 50, 100));
+    ending.ActIn(Message, [&ending] { ending.DestroyWindow(); });
+    const MessageLog log(last, {Message});
+    Host().SendMessageToDescendants(Message, 7, 0, TRUE, FALSE);
+    EXPECT_EQ(log.WParams(Message), std::vector<WPARAM>{7});
 }
 
 } // namespace

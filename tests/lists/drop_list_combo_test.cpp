@@ -3,6 +3,7 @@
 #include "CustomDialog.h"
 #include "lists/ComboLayout.h"
 #include "lists/combo_for_tests.h"
+#include "support/Acting.h"
 
 #include <gmock/gmock.h>
 
@@ -190,6 +191,33 @@ TEST_F(ComboTest, AListOfTheCallersStaysTheCallers)
     EXPECT_FALSE(other.HasList());
     Remove(combo);
     EXPECT_EQ(list.GetSafeHwnd(), nullptr); // its window served the combo
+}
+
+TEST_F(ComboTest, AComboMayEndItselfWhileItsOpenListIsTakenAway)
+{
+    CCustomComboLBox list;
+    const Act<CCustomDropListCombo&> takings[] = {
+        {"detached", [](CCustomDropListCombo& combo) { combo.DetachCustomComboLBox(); }},
+        {"another", [&](CCustomDropListCombo& combo) { combo.SetCustomComboLBox(&list); }},
+        {"none", [](CCustomDropListCombo& combo) { combo.SetCustomComboLBox(nullptr); }}};
+    const AccessFaults faults;
+    for (const auto& row : takings)
+    {
+        SCOPED_TRACE(row.name);
+        auto* const combo = new Fenced<Acting<ComboForTests>>;
+        combo->Create(WS_CHILD | WS_VISIBLE, CRect(50, 50, 250, 80), &Host(), ComboId);
+        combo->Fill(3);
+        combo->ToggleDropList();
+        combo->ActIn(WM_CAPTURECHANGED, [combo] {
+            combo->DestroyWindow();
+            delete combo;
+        });
+        const HWND window = *combo;
+        row.act(*combo);
+        EXPECT_FALSE(::IsWindow(window));
+        EXPECT_EQ(list.GetComboParent(), nullptr);
+        EXPECT_EQ(faults.Count(), 0);
+    }
 }
 
 namespace {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Pixels.h"
+#include "catalog/Pixels.h"
 
 // A memory bitmap to paint on, filled with a colour that no painter uses.
 class Canvas

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/Pixels.h"
+#include "catalog/Pixels.h"
 #include "support/Pumping.h"
 
 #include "OnBoardUIGeneral.h"

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "catalog/Pixels.h"
 #include "support/HostWindow.h"
 #include "support/Input.h"
 #include "support/LiveObjects.h"
 #include "support/MessageLog.h"
 #include "support/ModeScope.h"
-#include "support/Pixels.h"
 #include "support/Pumping.h"
 
 #include <gtest/gtest.h>

@@ -20,6 +20,8 @@ public:
     int Count(COLORREF color, const CRect& within) const;
     int Count(COLORREF color) const { return Count(color, CRect(0, 0, m_width, m_height)); }
 
+    void Leave(const CRect& place); // out of it: black
+
     friend bool operator==(const Pixels&, const Pixels&) = default;
     friend void PrintTo(const Pixels& pixels, std::ostream* out);
 
@@ -36,5 +38,8 @@ Pixels WindowPixels(const CWnd& window);
 // A new bitmap of 32 bits a pixel, the first row at the top; bits gets its memory.
 HBITMAP MakeBitmap(int width, int height, void** bits = nullptr);
 
-// A part of the screen, in screen coordinates.
+// @{
+// A part of the screen, in screen coordinates, or all that it shows where a window is.
 Pixels ScreenPixels(const CRect& rect);
+Pixels ScreenPixels(const CWnd& window);
+// @}

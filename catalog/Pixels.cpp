@@ -1,6 +1,4 @@
-#include "support/Pixels.h"
-
-#include "support/Input.h"
+#include "catalog/Pixels.h"
 
 #include <algorithm>
 #include <cstring>
@@ -66,15 +64,37 @@ int Pixels::Count(COLORREF color, const CRect& within) const
     return count;
 }
 
+void Pixels::Leave(const CRect& place)
+{
+    CRect within;
+    within.IntersectRect(place, CRect(0, 0, m_width, m_height));
+    for (int y = within.top; y < within.bottom; ++y)
+    {
+        const auto row = m_pixels.begin() + ptrdiff_t(y) * m_width;
+        std::fill(row + within.left, row + within.right, 0);
+    }
+}
+
 void PrintTo(const Pixels& pixels, std::ostream* out)
 {
     *out << pixels.m_width << " x " << pixels.m_height << " pixels";
 }
 
+namespace {
+
+CRect PlaceOnScreen(const CWnd& window)
+{
+    CRect place(0, 0, 0, 0);
+    window.GetWindowRect(&place);
+    return place;
+}
+
+} // namespace
+
 Pixels WindowPixels(const CWnd& window)
 {
     const HDC dc = ::GetWindowDC(window.GetSafeHwnd());
-    Pixels pixels(dc, CRect(CPoint(0, 0), WindowRectOf(window).Size()));
+    Pixels pixels(dc, CRect(CPoint(0, 0), PlaceOnScreen(window).Size()));
     ::ReleaseDC(window.GetSafeHwnd(), dc);
     return pixels;
 }
@@ -87,4 +107,9 @@ Pixels ScreenPixels(const CRect& rect)
     Pixels pixels(dc, rect);
     ::ReleaseDC(nullptr, dc);
     return pixels;
+}
+
+Pixels ScreenPixels(const CWnd& window)
+{
+    return ScreenPixels(PlaceOnScreen(window));
 }

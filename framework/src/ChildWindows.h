@@ -1,0 +1,22 @@
+#pragma once
+
+#include <windows.h>
+
+#include <vector>
+
+namespace framework {
+
+// The direct children of a window in their order, collected: what is sent to one may end others, or
+// move it among them.
+inline std::vector<HWND> ChildWindows(HWND parent)
+{
+    std::vector<HWND> children;
+    for (HWND child = ::GetTopWindow(parent); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        children.push_back(child);
+    }
+    return children;
+}
+
+} // namespace framework
