@@ -164,7 +164,7 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
     }
     if (alive)
     {
-        scroll::RecalculateFrame(window);
+        scroll::RecalculateFrameUnpainted(window);
     }
     if (alive)
     {

@@ -87,6 +87,7 @@ void CCustomEdit::PreSubclassWindow()
 {
     CEdit::PreSubclassWindow();
     m_bars->BeginAfresh();
+    m_bars->ForgetUnbroken();
     m_initialised = m_firstUpdateDone = false;
     m_updating = false;
     m_barShown = m_wantsBar = false;
@@ -117,7 +118,10 @@ void CCustomEdit::Init()
     }
     m_barShown = m_wantsBar;
     m_bar.ShowScrollBar(m_barShown);
-    scroll::RecalculateFrame(*this);
+    if (!m_bars->IsUnbroken()) // else that comes with the lines
+    {
+        scroll::RecalculateFrame(*this);
+    }
     if (alive)
     {
         PlaceBar();
@@ -175,7 +179,7 @@ void CCustomEdit::LeaveOnBoard()
     {
         scroll::RestoreScrollStyles(*this, WS_VSCROLL);
     }
-    if (alive)
+    if (alive && !m_bars->IsUnbroken())
     {
         m_bars->RelayoutFrame();
     }
@@ -240,15 +244,26 @@ void CCustomEdit::PlaceBar()
 
 void CCustomEdit::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
 {
+    const WindowAlive alive(*this);
     const bool edged = (GetExStyle() & WS_EX_CLIENTEDGE) != 0;
     m_bars->NcCalcSize(calcValidRects, params,
                        edged ? CSize(metrics::Border - m_edgeWidth, metrics::Border - m_edgeHeight)
                              : CSize(0, 0));
+    if (alive && calcValidRects && m_bars->IsUnbroken())
+    {
+        constexpr LONG Unbroken = 0x7000; // pixels; a size has 16 bits
+        params->rgrc[0].right = std::max(params->rgrc[0].right, params->rgrc[0].left + Unbroken);
+    }
 }
 
 void CCustomEdit::OnWindowPosChanging(WINDOWPOS* position)
 {
+    const WindowAlive alive(*this);
     m_bars->WindowPosChanging(position);
+    if (alive)
+    {
+        m_bars->TakePlace(*position);
+    }
 }
 
 void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)

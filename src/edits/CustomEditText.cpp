@@ -60,14 +60,19 @@ Effect EffectOf(UINT message)
 // Not every change is notified, and a parent need not pass its notifications on.
 LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const Effect effect = EffectOf(message);
-    if (effect == Effect::None)
-    {
-        return CEdit::WindowProc(message, wParam, lParam);
-    }
     const WindowAlive alive(*this);
+    const Effect effect = EffectOf(message);
+    m_bars->EndUnbroken();
+    if (!alive || effect == Effect::None)
+    {
+        return alive ? CEdit::WindowProc(message, wParam, lParam) : 0;
+    }
     const LRESULT result = CEdit::WindowProc(message, wParam, lParam);
-    if (alive && FollowMode() && (effect == Effect::LaysOut || TextMoved()))
+    if (alive && message == WM_SIZE)
+    {
+        m_bars->RestoreFirstLine();
+    }
+    if (alive && !m_bars->IsUnbroken() && FollowMode() && (effect == Effect::LaysOut || TextMoved()))
     {
         FollowText();
     }
@@ -115,7 +120,7 @@ CCustomEdit::View CCustomEdit::CurrentView()
 
 void CCustomEdit::UpdateScrollPosFromText()
 {
-    if (m_updating || GetSafeHwnd() == nullptr || !IsReady())
+    if (m_updating || m_bars->IsUnbroken() || GetSafeHwnd() == nullptr || !IsReady())
     {
         return;
     }
@@ -171,7 +176,7 @@ void CCustomEdit::UpdateScrollPosFromText()
 // way to the bar.
 void CCustomEdit::FollowText()
 {
-    if (m_updating)
+    if (m_updating || m_bars->IsUnbroken())
     {
         return; // whoever changed the frame looks again
     }
@@ -212,7 +217,9 @@ LRESULT CCustomEdit::OnSetFont(WPARAM wParam, LPARAM lParam)
     if (reinterpret_cast<HFONT>(wParam) != onBoard || !m_bars->InOnBoard() ||
         reinterpret_cast<HFONT>(Ask(WM_GETFONT)) != onBoard)
     {
-        return Default();
+        LRESULT result = 0;
+        m_bars->SetFont(result);
+        return result;
     }
     if (LOWORD(lParam) != 0)
     {

@@ -4,11 +4,14 @@
 // turn, and the text follows a thumb line by line. A horizontal bar stays the platform's.
 
 #include "CustomEdit.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "scroll/BarHost.h"
+#include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
 
 #include <algorithm>
+#include <utility>
 
 class CCustomEdit::Bars final : public scroll::BarHost
 {
@@ -21,6 +24,78 @@ public:
         , m_edit(edit)
     {}
 
+    // The platform breaks all lines several times over for one font. Meanwhile the client area is
+    // so wide that there is nothing to break; an edit that is about to get another place breaks
+    // them only there.
+    bool SetFont(LRESULT& result)
+    {
+        const WindowAlive alive(m_edit);
+        const bool wraps = Wraps();
+        if (wraps && !m_unbroken)
+        {
+            m_firstLine = m_edit.FirstLine();
+            m_unbroken = m_keepingUnbroken = true;
+            scroll::RecalculateFrameUnpainted(m_edit);
+        }
+        result = alive ? Default() : 0;
+        if (!alive)
+        {
+            return false;
+        }
+        m_keepingUnbroken = false;
+        if (wraps && !IsBeingPlaced(m_edit))
+        {
+            BreakLines();
+        }
+        return bool(alive);
+    }
+
+    // Between the two: there is no layout to follow.
+    bool IsUnbroken() const { return m_unbroken; }
+
+    // Before any message: a place that never came is not waited for.
+    void EndUnbroken()
+    {
+        if (m_unbroken && !m_keepingUnbroken && !IsFollowing() && !IsBeingPlaced(m_edit))
+        {
+            BreakLines();
+        }
+    }
+
+    // WM_WINDOWPOSCHANGING, after everything else: the place has come.
+    void TakePlace(WINDOWPOS& position)
+    {
+        if (m_unbroken && !m_keepingUnbroken && !IsFollowing() && IsBeingPlaced(m_edit))
+        {
+            const WindowAlive alive(m_edit);
+            Follow(); // now, so that its frame is the new one's
+            if (alive)
+            {
+                m_unbroken = false;
+                position.flags |= SWP_FRAMECHANGED;
+            }
+        }
+    }
+
+    // WM_SIZE: the lines are broken, and the first one in sight is what it was.
+    void RestoreFirstLine()
+    {
+        if (!m_unbroken && m_firstLine >= 0)
+        {
+            const int line = std::exchange(m_firstLine, -1);
+            if (const int now = m_edit.FirstLine(); now != line)
+            {
+                Ask(EM_LINESCROLL, 0, line - now);
+            }
+        }
+    }
+
+    void ForgetUnbroken()
+    {
+        m_unbroken = m_keepingUnbroken = false;
+        m_firstLine = -1;
+    }
+
     LRESULT Default() override { return m_edit.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
     {
@@ -30,6 +105,34 @@ public:
 private:
     CCustomEdit& m_edit;
     Part m_noPart = CFauxScrollBar::PRESSED_NONE; // of the bar that there is not
+    bool m_unbroken = false;        // the client area is too wide for a line to be broken
+    bool m_keepingUnbroken = false; // in SetFont or BreakLines
+    int m_firstLine = -1;           // in sight before that
+
+    // Whether there are lines that a width breaks.
+    bool Wraps()
+    {
+        return (m_edit.GetStyle() & (ES_MULTILINE | ES_AUTOHSCROLL)) == ES_MULTILINE &&
+               Ask(WM_GETTEXTLENGTH, 0, 0) > 0;
+    }
+
+    void BreakLines()
+    {
+        const WindowAlive alive(m_edit);
+        m_keepingUnbroken = true;
+        Follow();
+        if (!alive)
+        {
+            return;
+        }
+        m_unbroken = false;
+        scroll::RecalculateFrameUnpainted(m_edit);
+        if (alive)
+        {
+            m_keepingUnbroken = false;
+            m_edit.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+        }
+    }
 
     bool IsReady() override { return m_edit.IsReady(); }
     void EnterOnBoard() override { m_edit.EnterOnBoard(); }

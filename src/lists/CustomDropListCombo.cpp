@@ -243,7 +243,10 @@ void CCustomDropListCombo::SetHeight(int height)
     CRect window;
     GetWindowRect(&window);
     m_sizing = true;
-    SetWindowPos(nullptr, 0, 0, window.Width(), height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    // A height that it has already is no reason to have a parent erased that waits for its paint.
+    const UINT same = height == window.Height() ? SWP_NOREDRAW : 0;
+    SetWindowPos(nullptr, 0, 0, window.Width(), height,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | same);
     if (alive)
     {
         m_sizing = false;

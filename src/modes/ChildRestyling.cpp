@@ -15,6 +15,7 @@
 #include <afxcmn.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -127,6 +128,32 @@ CRect RescaledRect(const CRect& rect, double scale)
                  Sum(top, Truncated(size.cy * scale)));
 }
 
+namespace {
+
+HWND placedWindow = nullptr;
+
+// Marks the window that is being placed; what it does may place others.
+class Placing
+{
+public:
+    explicit Placing(HWND window)
+        : m_outer(std::exchange(placedWindow, window))
+    {}
+    Placing(const Placing&) = delete;
+    Placing& operator=(const Placing&) = delete;
+    ~Placing() { placedWindow = m_outer; }
+
+private:
+    HWND m_outer;
+};
+
+} // namespace
+
+bool IsBeingPlaced(HWND window)
+{
+    return window != nullptr && window == placedWindow;
+}
+
 BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
 {
     const auto* change = reinterpret_cast<const ModifyChildWndsData*>(data);
@@ -139,6 +166,7 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
     }
     const auto is = [child](const char* wanted) { return IsOfClass(child, wanted); };
     const bool standard = change->mode == STD;
+    const Placing placing(child);
 
     CRect target = RescaledRect(PlaceIn(change->parent, child), change->scale);
     UINT flags = SWP_NOZORDER;

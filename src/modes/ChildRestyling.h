@@ -15,6 +15,11 @@ void RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode);
 // standard mode, but for those that are placed already, which are left alone.
 void RestyleNewWindow(HWND window, std::span<const HWND> placed = {});
 
+// Whether ModifyChildsForAppMode is at work on a window: it gets its font first and its place after
+// that, so it need not lay itself out in between. A window that keeps its place gets the
+// WM_WINDOWPOSCHANGING all the same.
+bool IsBeingPlaced(HWND window);
+
 // The factor of a change between two modes that differ; 1 between two on-board modes.
 double ModeScale(APPMODE newMode, APPMODE oldMode);
 

@@ -57,6 +57,10 @@ bool WritesScrollStyles(const CWnd& window);
 // the client pixels away (SWP_NOCOPYBITS). Size, place and z-order stay.
 void RecalculateFrame(const CWnd& window, bool copyBits = true);
 
+// The same for a window that its caller repaints afterwards, with its frame: until then nothing is
+// painted, neither it nor what stands around it.
+void RecalculateFrameUnpainted(const CWnd& window);
+
 // In WM_WINDOWPOSCHANGING, after a style of the platform's was taken away with which it wanted the
 // frame recalculated: saves that when the frame is all that changes.
 void SaveRecalculation(WINDOWPOS& position);
