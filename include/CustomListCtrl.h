@@ -310,6 +310,9 @@ private:
     void InvalidateRows(int first, int last);
     void InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam);
     int RowWithFocus() const;
+    int NextRow(int after, UINT state) const;
+    std::vector<CRect> CellsOfFirstRow(int columns);
+    LRESULT AskHeader(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void FollowFocus();
     int m_focusRow = -1; // on-board, as last drawn
     void BringIntoSight(int row);

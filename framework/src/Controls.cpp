@@ -73,13 +73,14 @@ BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 
 void CListBox::GetText(int index, CString& text) const
 {
+    const HWND window = m_hWnd; // is asked, and may end
     const int length = GetTextLen(index);
     if (length == LB_ERR)
     {
         text.Empty();
         return;
     }
-    GetText(index, text.GetBuffer(length));
+    ::SendMessage(window, LB_GETTEXT, WPARAM(index), LPARAM(text.GetBuffer(length)));
     text.ReleaseBuffer();
 }
 
@@ -92,22 +93,24 @@ UINT CListBox::ItemFromPoint(CPoint point, BOOL& outside) const
 
 void CComboBox::GetLBText(int index, CString& text) const
 {
+    const HWND window = m_hWnd; // is asked, and may end
     const int length = GetLBTextLen(index);
     if (length == CB_ERR)
     {
         text.Empty();
         return;
     }
-    GetLBText(index, text.GetBuffer(length));
+    ::SendMessage(window, CB_GETLBTEXT, WPARAM(index), LPARAM(text.GetBuffer(length)));
     text.ReleaseBuffer();
 }
 
 void CEdit::SetSel(int start, int end, BOOL noScroll)
 {
-    SendMessage(EM_SETSEL, WPARAM(start), LPARAM(end));
+    const HWND window = m_hWnd; // may end in it
+    ::SendMessage(window, EM_SETSEL, WPARAM(start), LPARAM(end));
     if (!noScroll)
     {
-        SendMessage(EM_SCROLLCARET);
+        ::SendMessage(window, EM_SCROLLCARET, 0, 0);
     }
 }
 

@@ -164,11 +164,18 @@ CWindowDC::~CWindowDC()
 CPaintDC::CPaintDC(CWnd* window)
     : m_hWnd(HandleOf(window))
 {
-    VERIFY(Attach(::BeginPaint(m_hWnd, &m_ps)));
+    // The window is told to paint its frame and its ground now and may end in that, together with
+    // its context.
+    if (const HDC handle = ::BeginPaint(m_hWnd, &m_ps); ::IsWindow(m_hWnd))
+    {
+        VERIFY(Attach(handle));
+    }
 }
 
 CPaintDC::~CPaintDC()
 {
-    Detach();
-    ::EndPaint(m_hWnd, &m_ps);
+    if (Detach() != nullptr && ::IsWindow(m_hWnd))
+    {
+        ::EndPaint(m_hWnd, &m_ps);
+    }
 }

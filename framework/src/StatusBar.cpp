@@ -13,9 +13,11 @@ IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
 
 CString CStatusBarCtrl::GetText(int pane, int* type) const
 {
+    const HWND window = m_hWnd; // is asked, and may end
     CString text;
     LPTSTR buffer = text.GetBufferSetLength(GetTextLength(pane, type));
-    SendMessage(SB_GETTEXT, WPARAM(pane), LPARAM(buffer));
+    buffer[0] = '\0';
+    ::SendMessage(window, SB_GETTEXT, WPARAM(pane), LPARAM(buffer));
     text.ReleaseBuffer();
     return text;
 }

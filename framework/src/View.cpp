@@ -55,9 +55,16 @@ void CView::OnDestroy()
 
 void CView::OnPaint()
 {
-    CPaintDC dc(this);
-    OnPrepareDC(&dc);
-    OnDraw(&dc);
+    const framework::StillThere here(*this);
+    CPaintDC dc(this); // tells the view to paint its ground
+    if (here)
+    {
+        OnPrepareDC(&dc);
+    }
+    if (here)
+    {
+        OnDraw(&dc);
+    }
 }
 
 void CView::OnActivateView(BOOL activate, CView* activateView, CView*)

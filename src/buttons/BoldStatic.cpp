@@ -29,8 +29,9 @@ void CBoldStatic::OnPaint()
         CCustomStatic::OnPaint();
         return;
     }
+    const WindowAlive alive(*this); // it may end in its own questions
     CFont bold;
-    if (CFont* const own = GetFont(); own != nullptr)
+    if (CFont* const own = GetFont(); alive && own != nullptr)
     {
         LOGFONT description = {};
         own->GetLogFont(&description);
@@ -38,12 +39,22 @@ void CBoldStatic::OnPaint()
         bold.CreateFontIndirect(&description);
     }
     CString text;
-    GetWindowText(text);
+    if (alive)
+    {
+        GetWindowText(text);
+    }
+    if (!alive)
+    {
+        return;
+    }
+    CPaintDC dc(this);
+    if (!alive)
+    {
+        return;
+    }
     CRect area;
     GetWindowRect(&area);
     ScreenToClient(&area);
-
-    CPaintDC dc(this);
     const Selected font(dc, bold);
     const BackgroundMode mode(dc, TRANSPARENT);
     const TextColor color(dc, m_color);

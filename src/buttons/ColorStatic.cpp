@@ -25,7 +25,12 @@ void CColorStatic::Set(COLORREF color)
 
 void CColorStatic::OnPaint()
 {
+    const WindowAlive alive(*this);
     CPaintDC dc(this);
+    if (!alive)
+    {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     dc.FillSolidRect(&client, m_color);

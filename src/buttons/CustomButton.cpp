@@ -297,8 +297,13 @@ void CCustomButton::DrawChoice(CDC& dc, const std::function<void(const CRect&, C
 
 void CCustomButton::DrawRCText(CDC& dc, const CRect& item, const CRect& mark)
 {
+    const WindowAlive alive(*this);
     CString text;
     GetWindowText(text);
+    if (!alive)
+    {
+        return;
+    }
     const UINT format = buttons::MarkCaptionFormat(GetStyle());
     CRect measured = buttons::CaptionArea(item, mark);
     dc.DrawText(text, &measured, format | DT_CALCRECT);
@@ -326,7 +331,12 @@ void CCustomButton::OnPaint()
     {
         return;
     }
+    const WindowAlive alive(*this);
     CPaintDC dc(this);
+    if (!alive)
+    {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     BackBuffer buffer(dc, client);

@@ -2,6 +2,7 @@
 
 #include "OnBoardUI.h"
 #include "buttons/ButtonLayout.h"
+#include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
 
@@ -60,8 +61,13 @@ void CCustomPushbutton::DrawOB(CDC& dc)
     {
         rect.DeflateRect(WrappedInset, WrappedInset);
     }
+    const WindowAlive alive(*this);
     CString text;
     GetWindowText(text);
+    if (!alive)
+    {
+        return;
+    }
     const Selected font(dc, m_Font);
     const TextColor color(dc, enabled ? palette::ButtonText : palette::PushTextDisabled);
     dc.DrawText(text, &rect, buttons::PushCaptionFormat(style));

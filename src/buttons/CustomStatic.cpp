@@ -129,11 +129,19 @@ void CCustomStatic::Draw()
 
 void CCustomStatic::DrawGroupBox()
 {
+    const WindowAlive alive(*this);
     CPaintDC dc(this);
+    CString caption;
+    if (alive)
+    {
+        GetWindowText(caption);
+    }
+    if (!alive)
+    {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
-    CString caption;
-    GetWindowText(caption);
     if (!caption.IsEmpty())
     {
         caption = " " + caption + " ";

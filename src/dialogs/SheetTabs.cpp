@@ -24,7 +24,12 @@ void SheetTabs::OnPaint()
         Default();
         return;
     }
+    const WindowAlive alive(*this);
     CPaintDC dc(this);
+    if (!alive)
+    {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     BackBuffer buffer(dc, client);
@@ -74,22 +79,32 @@ void SheetTabs::Draw(CDC& dc)
     GetClientRect(&client);
     dc.FillSolidRect(&client, palette::Panel);
     CRect pages = client;
-    SendMessage(TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&pages));
+    // A host that has put itself in between may end the tabs in each of their own questions.
+    const WindowAlive alive(*this);
+    const auto ask = [&](UINT message, WPARAM wParam = 0, void* answer = nullptr) {
+        return alive ? SendMessage(message, wParam, reinterpret_cast<LPARAM>(answer)) : 0;
+    };
+    ask(TCM_ADJUSTRECT, FALSE, &pages);
     pages.InflateRect(1, 1);
     dc.Draw3dRect(&pages, palette::Outline, palette::Outline);
 
-    const Selected font(dc, reinterpret_cast<HGDIOBJ>(SendMessage(WM_GETFONT)));
+    const Selected font(dc, reinterpret_cast<HGDIOBJ>(ask(WM_GETFONT)));
     const TextColor color(dc, palette::PanelText);
     const BackgroundMode mode(dc, TRANSPARENT);
-    const int count = int(SendMessage(TCM_GETITEMCOUNT));
-    const int active = int(SendMessage(TCM_GETCURSEL));
+    const int count = int(ask(TCM_GETITEMCOUNT));
+    const int active = int(ask(TCM_GETCURSEL));
     for (int index = 0; index < count; ++index)
     {
         CRect face;
-        SendMessage(TCM_GETITEMRECT, WPARAM(index), reinterpret_cast<LPARAM>(&face));
+        ask(TCM_GETITEMRECT, WPARAM(index), &face);
+        const CString text = alive ? TextOf(index) : CString();
+        if (!alive)
+        {
+            return;
+        }
         dc.FillSolidRect(&face, index == active ? palette::Caption : palette::Panel);
         dc.Draw3dRect(&face, palette::Outline, palette::Outline);
-        dc.DrawText(TextOf(index), -1, &face, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+        dc.DrawText(text, -1, &face, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
         if (index == active && ::GetFocus() == GetSafeHwnd())
         {
             face.DeflateRect(3, 3);

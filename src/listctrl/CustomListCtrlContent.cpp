@@ -17,17 +17,22 @@ HWND CCustomListCtrl::HeaderWindow() const
                : reinterpret_cast<HWND>(m_bars->Ask(LVM_GETHEADER, 0, 0));
 }
 
+LRESULT CCustomListCtrl::AskHeader(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    auto& header = const_cast<CCustomListCtrlHdr&>(m_header);
+    return header.GetSafeHwnd() != nullptr
+               ? header.DefWindowProc(message, wParam, lParam)
+               : ::SendMessage(HeaderWindow(), message, wParam, lParam); // not ours yet, or none
+}
+
 int CCustomListCtrl::ColumnCount() const
 {
-    const HWND header = HeaderWindow();
-    return header == nullptr ? 0 : std::max(0, int(::SendMessage(header, HDM_GETITEMCOUNT, 0, 0)));
+    return std::max(0, int(AskHeader(HDM_GETITEMCOUNT)));
 }
 
 bool CCustomListCtrl::HeaderItemRect(int column, CRect& rect) const
 {
-    const HWND header = HeaderWindow();
-    return header != nullptr && ::SendMessage(header, HDM_GETITEMRECT, WPARAM(column),
-                                              reinterpret_cast<LPARAM>(&rect)) != FALSE;
+    return AskHeader(HDM_GETITEMRECT, WPARAM(column), reinterpret_cast<LPARAM>(&rect)) != FALSE;
 }
 
 // Client coordinate below the header; 0 when none is shown.
@@ -67,24 +72,32 @@ int CCustomListCtrl::TopRow() const
     return listctrl::FirstDrawnRow(int(m_drawOffset.y), int(m_scrollUnit.cy));
 }
 
+int CCustomListCtrl::NextRow(int after, UINT state) const
+{
+    return int(m_bars->Ask(LVM_GETNEXTITEM, WPARAM(after), LPARAM(state)));
+}
+
 void CCustomListCtrl::GetSelectedRows(std::set<int>& rows) const
 {
+    const WindowAlive alive(*this); // an owner may be asked for the states of its rows
     if (m_paintedRows)
     {
         // A paint is to cost the same however many rows there are.
-        for (int row = m_paintedRows->first; row < m_paintedRows->end; ++row)
+        const RowSpan painted = *m_paintedRows;
+        for (int row = painted.first; row < painted.end && alive; ++row)
         {
-            if (GetItemState(row, LVIS_SELECTED) != 0)
+            if (m_bars->Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0)
             {
                 rows.insert(row);
             }
         }
         return;
     }
-    POSITION position = GetSelectedCount() == 0 ? nullptr : GetFirstSelectedItemPosition();
-    while (position != nullptr)
+    int row = m_bars->Ask(LVM_GETSELECTEDCOUNT, 0, 0) == 0 ? -1 : NextRow(-1, LVNI_SELECTED);
+    while (row >= 0)
     {
-        rows.insert(GetNextSelectedItem(position));
+        rows.insert(row);
+        row = alive ? NextRow(row, LVNI_SELECTED) : -1;
     }
 }
 
@@ -366,7 +379,7 @@ void CCustomListCtrl::InvalidateRows(int first, int last)
 // The row that shows the focus: none without it.
 int CCustomListCtrl::RowWithFocus() const
 {
-    return ::GetFocus() == GetSafeHwnd() ? GetNextItem(-1, LVNI_FOCUSED) : -1;
+    return ::GetFocus() == GetSafeHwnd() ? NextRow(-1, LVNI_FOCUSED) : -1;
 }
 
 void CCustomListCtrl::FollowFocus()

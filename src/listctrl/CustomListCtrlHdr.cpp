@@ -335,34 +335,49 @@ void CCustomListCtrlHdr::OnPaint()
         return;
     }
     CPaintDC dc(this);
+    if (!alive)
+    {
+        return;
+    }
     BackBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
     DrawOB(buffer);
 }
 
 void CCustomListCtrlHdr::DrawOB(CDC& dc)
 {
+    // Its own questions may end it, wherever a host has put itself in between.
+    const WindowAlive alive(*this);
+    const auto ownFont = reinterpret_cast<HGDIOBJ>(SendMessage(WM_GETFONT));
+    const int count = alive ? GetItemCount() : 0;
+    if (!alive)
+    {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     GradientFill(&dc, client, palette::FaceGradient.from, palette::FaceGradient.to,
                  GRADIENT_FILL_RECT_V);
     const BackgroundMode transparent(dc, TRANSPARENT);
     const TextColor color(dc, palette::HeaderText);
-    const Selected font(dc, reinterpret_cast<HGDIOBJ>(SendMessage(WM_GETFONT)));
+    const Selected font(dc, ownFont);
     const Selected pen(dc, ::GetStockObject(BLACK_PEN));
-    const int count = GetItemCount();
-    for (int item = 0; item < count; ++item)
+    for (int item = 0; item < count && alive; ++item)
     {
         DrawOBItem(dc, item, item == count - 1, client);
     }
-    if (m_hotDivider >= 0 && count > 0)
+    if (alive && m_hotDivider >= 0 && count > 0)
     {
         CRect rect;
         const bool end = m_hotDivider >= count;
-        ItemRect(OrderToIndex(end ? count - 1 : m_hotDivider), rect);
+        const int hot = OrderToIndex(end ? count - 1 : m_hotDivider);
+        if (!alive || !ItemRect(hot, rect))
+        {
+            return;
+        }
         const int x = int((end ? rect.right : rect.left) + m_offset.x);
         dc.FillSolidRect(x - 1, client.top, metrics::Border, client.Height(), palette::Highlight);
     }
-    if (m_tracking)
+    if (alive && m_tracking)
     {
         CPoint pointer;
         ::GetCursorPos(&pointer);
@@ -380,7 +395,8 @@ void CCustomListCtrlHdr::DrawOBItem(CDC& dc, int item, bool last, const CRect& c
     data.pszText = text;
     data.cchTextMax = LongestText;
     CRect rect;
-    if (!GetItem(item, &data) || !ItemRect(item, rect))
+    const WindowAlive alive(*this);
+    if (!GetItem(item, &data) || !alive || !ItemRect(item, rect) || !alive)
     {
         return;
     }
@@ -454,13 +470,15 @@ void CCustomListCtrlHdr::DrawStdSortArrow(CDC* dc, CRect item, int format)
 // Over the platform's own picture of the items.
 void CCustomListCtrlHdr::DrawStdArrows()
 {
+    const WindowAlive alive(*this);
     const int count = m_arrows.GetSafeHandle() == nullptr ? 0 : GetItemCount();
-    for (int item = 0; item < count; ++item)
+    for (int item = 0; item < count && alive; ++item)
     {
         HDITEM data = {};
         data.mask = HDI_FORMAT;
         CRect rect;
-        if (GetItem(item, &data) && (data.fmt & SortFormats) != 0 && ItemRect(item, rect))
+        if (GetItem(item, &data) && alive && (data.fmt & SortFormats) != 0 &&
+            ItemRect(item, rect) && alive)
         {
             CClientDC dc(this);
             // Some platforms draw an arrow of their own there, which must not look out beside ours.

@@ -25,7 +25,12 @@ void CCustomListCtrl::OnPaint()
         Default();
         return;
     }
+    const WindowAlive alive(*this);
     CPaintDC dc(this);
+    if (!alive)
+    {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     const int top = HeaderBottom();
@@ -53,10 +58,11 @@ void CCustomListCtrl::DrawOB(CDC& dc)
     const WindowAlive alive(*this);
     m_gridLines.Clear();
     GetVerticalDivides(columns);
-    DrawCells(dc, GetItemCount(), columns, (style & LVS_EX_FULLROWSELECT) != 0, client);
+    const int items = int(Ask(LVM_GETITEMCOUNT));
+    DrawCells(dc, items, columns, (style & LVS_EX_FULLROWSELECT) != 0, client);
     if (alive && (style & LVS_EX_GRIDLINES) != 0)
     {
-        DrawGrid(dc, GetItemCount(), client);
+        DrawGrid(dc, int(Ask(LVM_GETITEMCOUNT)), client);
     }
     if (alive && m_header.IsHotTracking())
     {
@@ -82,22 +88,22 @@ void CCustomListCtrl::GetVerticalDivides(int columns)
     }
 }
 
-namespace {
-
 // Cells of the first row, unscrolled. The platform tells the whole row as the first column's; its
 // cell stands under its heading, also when the columns were put in another order.
-std::vector<CRect> CellsOfFirstRow(const CListCtrl& list, int columns)
+std::vector<CRect> CCustomListCtrl::CellsOfFirstRow(int columns)
 {
     std::vector<CRect> cells(size_t(std::max(0, columns)));
     for (int column = 0; column < columns; ++column)
     {
-        list.GetSubItemRect(0, column, LVIR_BOUNDS, cells[size_t(column)]);
+        CRect& cell = cells[size_t(column)];
+        cell.left = LVIR_BOUNDS;
+        cell.top = column;
+        Ask(LVM_GETSUBITEMRECT, 0, reinterpret_cast<LPARAM>(&cell));
     }
     if (columns > 1)
     {
         CRect heading;
-        const CHeaderCtrl* const header = list.GetHeaderCtrl();
-        if (header != nullptr && header->GetItemRect(0, &heading))
+        if (HeaderItemRect(0, heading))
         {
             cells[0].left = std::max(cells[0].left, heading.left);
             cells[0].right = heading.right;
@@ -109,8 +115,6 @@ std::vector<CRect> CellsOfFirstRow(const CListCtrl& list, int columns)
     }
     return cells;
 }
-
-} // namespace
 
 void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSelect,
                                 const CRect& rect)
@@ -150,7 +154,7 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
         return;
     }
 
-    std::vector<CRect> cells = CellsOfFirstRow(*this, columns);
+    std::vector<CRect> cells = CellsOfFirstRow(columns);
     for (CRect& cell : cells)
     {
         cell.OffsetRect(m_drawOffset.x, 0);

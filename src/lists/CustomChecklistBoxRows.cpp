@@ -88,7 +88,12 @@ int CCustomChecklistBox::GetEntryWidth(int index)
         return 0;
     }
     CString text;
+    const WindowAlive alive(*this);
     GetText(index, text);
+    if (!alive)
+    {
+        return 0;
+    }
     const HFONT font = COnBoardUIGeneral::InOnBoardMode() ? HFONT(GetOnBoardFont()) : Font();
     return lists::TextIndent(CheckSize().cx) + TextSize(font, text).cx;
 }
@@ -244,7 +249,12 @@ void CCustomChecklistBox::PreDrawItem(LPDRAWITEMSTRUCT draw)
     CString text;
     if (isRow && HasText())
     {
+        const WindowAlive alive(*this);
         GetText(int(draw->itemID), text);
+        if (!alive)
+        {
+            return;
+        }
     }
     DrawRowText(to, row, text, isRow ? draw->itemState | (looksDisabled ? ODS_DISABLED : 0) : 0,
                 indent);

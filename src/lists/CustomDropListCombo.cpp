@@ -410,7 +410,12 @@ BOOL CCustomDropListCombo::OnEraseBkgnd(CDC*)
 
 void CCustomDropListCombo::OnPaint()
 {
+    const WindowAlive alive(*this);
     CPaintDC dc(this);
+    if (!alive)
+    {
+        return;
+    }
     BackBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
     OnPaint(buffer.DC());
 }
@@ -435,9 +440,14 @@ void CCustomDropListCombo::OnPaint(CDC& dc)
         dc.FillSolidRect(&client, LookOf(false, enabled, false).ground);
         dc.DrawEdge(&edge, EDGE_SUNKEN, BF_RECT);
     }
+    const WindowAlive alive(*this);
     if (dc.RectVisible(m_textArea))
     {
-        DrawEditText(dc, GetCurSel());
+        DrawEditText(dc, GetCurSel()); // asks the list for the text
+    }
+    if (!alive)
+    {
+        return;
     }
     m_dropButton.ReDraw(dc, m_expanded, enabled, COnBoardUIGeneral::GetAppMode());
 }
@@ -460,7 +470,12 @@ void CCustomDropListCombo::DrawEditText(CDC& dc, int index)
     CString text;
     if (const CCustomComboLBox* const list = ListIfMade(); list != nullptr && index >= 0)
     {
+        const WindowAlive alive(*this);
         list->GetText(index, text);
+        if (!alive)
+        {
+            return;
+        }
     }
     {
         const Selected font(dc, Font());

@@ -131,7 +131,12 @@ void CCustomListBox::DrawItem(LPDRAWITEMSTRUCT draw)
     if (draw->itemID != UINT(-1))
     {
         CString text;
+        const WindowAlive alive(*this);
         GetText(int(draw->itemID), text);
+        if (!alive)
+        {
+            return;
+        }
         DrawRowText(*dc, row, text, draw->itemState);
     }
     if ((draw->itemState & ODS_FOCUS) != 0 && (draw->itemState & ODS_NOFOCUSRECT) == 0)
@@ -159,7 +164,12 @@ void CCustomListBox::MeasureItem(LPMEASUREITEMSTRUCT measure)
         const int index = int(measure->itemID);
         if ((GetStyle() & LBS_OWNERDRAWVARIABLE) != 0 && index >= 0 && index < Ask(LB_GETCOUNT))
         {
+            const WindowAlive alive(*this);
             GetText(index, text);
+            if (!alive)
+            {
+                return;
+            }
         }
         measure->itemHeight = UINT(std::max(1, GetEntryHeight(text)));
         return;

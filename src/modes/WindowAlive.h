@@ -7,7 +7,7 @@
 class WindowAlive
 {
 public:
-    explicit WindowAlive(CWnd& watched)
+    explicit WindowAlive(const CWnd& watched)
         : m_object(&watched)
         , m_window(watched.GetSafeHwnd())
     {}

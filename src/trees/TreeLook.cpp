@@ -269,6 +269,10 @@ void TreeLook::Paint(const CRect* band)
     }
     CWnd& window = m_owner.Window();
     CPaintDC dc(&window);
+    if (!alive)
+    {
+        return;
+    }
     CRect client;
     window.GetClientRect(&client);
     const CRect given = band == nullptr ? CRect(0, 0, 0, 0) : *band;

@@ -156,6 +156,10 @@ void CCustomStatusBar::OnPaint()
         return;
     }
     CPaintDC dc(this);
+    if (!alive)
+    {
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     BackBuffer buffer(dc, client);
@@ -171,18 +175,21 @@ void CCustomStatusBar::DrawOB(CDC& dc)
     const Selected font(dc, GetOnBoardFont());
     const TextColor color(dc, palette::PanelText);
     const BackgroundMode mode(dc, TRANSPARENT);
-    if (IsSimple())
+    const WindowAlive alive(*this); // it may end in its own questions
+    const bool simple = IsSimple();
+    if (simple && alive)
     {
         DrawPane(dc, SimplePane, client);
-        return;
     }
-    const WindowAlive alive(*this);
-    const int count = GetParts(0, nullptr);
+    const int count = simple || !alive ? 0 : GetParts(0, nullptr);
     for (int pane = 0; pane < count && alive; ++pane)
     {
         CRect place;
         GetRect(pane, &place);
-        DrawPane(dc, pane, place);
+        if (alive)
+        {
+            DrawPane(dc, pane, place);
+        }
         if (alive && pane + 1 < count)
         {
             dc.FillSolidRect(place.right, client.top, 1, client.Height(), palette::Outline);
@@ -192,8 +199,13 @@ void CCustomStatusBar::DrawOB(CDC& dc)
 
 void CCustomStatusBar::DrawPane(CDC& dc, int pane, const CRect& place)
 {
+    const WindowAlive alive(*this);
     int type = 0;
     GetTextLength(pane, &type);
+    if (!alive)
+    {
+        return;
+    }
     if ((type & SBT_OWNERDRAW) != 0)
     {
         DRAWITEMSTRUCT item = {};
@@ -203,6 +215,10 @@ void CCustomStatusBar::DrawPane(CDC& dc, int pane, const CRect& place)
         item.hDC = dc;
         item.rcItem = place;
         item.itemData = ULONG_PTR(SendMessage(SB_GETTEXT, WPARAM(pane)));
+        if (!alive)
+        {
+            return;
+        }
         // What the owner selects and clips is not meant for the next pane. It may end the bar.
         const SavedState saved(dc);
         ::SendMessage(::GetParent(m_hWnd), WM_DRAWITEM, item.CtlID,

@@ -1,23 +1,29 @@
-// A control or form may end itself in any of its own messages while the mode changes.
+// A control or form may end itself in any of its own messages while the mode changes and while it
+// is painted.
 
 #include "robust/Subjects.h"
 #include "robust/Watch.h"
 #include "support/WindowTest.h"
 #include "support/forms.h"
 
+#include "CustomButton.h"
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "CustomPropSheet.h"
 #include "OnBoardUI.h"
 
+#include <afxcmn.h>
+
 #include <algorithm>
+#include <map>
 
 namespace {
 
-// A message, and how often it has come before.
+// A message, whose, and how often it has come to that window before.
 struct Heard
 {
     UINT message;
+    int id;
     int before;
 
     friend bool operator==(const Heard&, const Heard&) = default;
@@ -62,12 +68,13 @@ class OwnDeath : public WindowTest
 {
 protected:
     static inline OwnDeath* s_now = nullptr;
+    static inline std::map<HWND, WNDPROC> s_procedures; // of parts
 
     std::unique_ptr<CWnd> m_window;
     std::optional<Heard> m_awaited;
     std::vector<Heard> m_heard;
 
-    static bool Hear(const CWnd&, UINT message)
+    static bool Hear(const CWnd& window, UINT message)
     {
         if (PlatformWorks != 0)
         {
@@ -75,9 +82,12 @@ protected:
         }
         OwnDeath& now = *s_now;
         Watch::GoesOn();
-        const auto before = std::ranges::count(now.m_heard, message, &Heard::message);
-        const Heard word = {message, int(before)};
-        if (before < MostTellings)
+        Heard word = {message, window.GetDlgCtrlID(), 0};
+        while (std::ranges::find(now.m_heard, word) != now.m_heard.end())
+        {
+            ++word.before;
+        }
+        if (word.before < MostTellings)
         {
             now.m_heard.push_back(word);
         }
@@ -91,18 +101,44 @@ protected:
         return true;
     }
 
-    // Goes from one mode to another; what the window was told on the way.
-    std::vector<Heard> Change(const Subject& subject, APPMODE from, APPMODE to,
-                              std::optional<Heard> awaited)
+    // Those that a window makes for itself and that paint themselves: a host may put itself before
+    // their procedures, and end the whole there.
+    static BOOL CALLBACK HearPart(HWND part, LPARAM)
     {
-        char what[30] = "";
-        std::snprintf(what, sizeof(what), ", 0x%X/%d", awaited ? awaited->message : 0,
-                      awaited ? awaited->before : 0);
-        const std::string title = subject.name + (" from " + std::to_string(int(from)) + " to ") +
-                                  std::to_string(int(to)) + what;
+        CWnd* const object = CWnd::FromHandlePermanent(part);
+        if (dynamic_cast<CHeaderCtrl*>(object) != nullptr ||
+            dynamic_cast<CTabCtrl*>(object) != nullptr ||
+            dynamic_cast<CCustomButton*>(object) != nullptr)
+        {
+            s_procedures[part] = WNDPROC(::SetWindowLongPtr(
+                part, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&OwnDeath::PartProcedure)));
+        }
+        return TRUE;
+    }
+
+    static LRESULT CALLBACK PartProcedure(HWND part, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        return EndsItself != nullptr && Hear(*CWnd::FromHandle(part), message)
+                   ? 0
+                   : ::CallWindowProc(s_procedures[part], part, message, wParam, lParam);
+    }
+
+    // Has it done to the window, in which it may be ended; what the window was told on the way.
+    template <class Act>
+    std::vector<Heard> Give(const Subject& subject, APPMODE mode, const std::string& what,
+                            std::optional<Heard> awaited, Act act)
+    {
+        char told[60] = "";
+        if (awaited)
+        {
+            std::snprintf(told, sizeof(told), ", ends in 0x%X/%d of %d", awaited->message,
+                          awaited->before, awaited->id);
+        }
+        const std::string title =
+            subject.name + (" in mode " + std::to_string(int(mode))) + ", " + what + told;
         const Watch watch([=] { return title; });
         const int faults = Watch::Faults();
-        const ModeScope scope(from);
+        const ModeScope scope(mode);
         m_heard.clear();
         m_awaited = awaited;
         m_window = subject.make(Host());
@@ -111,37 +147,96 @@ protected:
 
         s_now = this;
         EndsItself = &OwnDeath::Hear;
-        COnBoardUIGeneral::SetAppMode(to);
-        ModifyChildWndsData change;
-        change.parent = Host();
-        change.scale = to == STD ? 1 / 1.25 : 1.25;
-        change.mode = to;
-        ::EnumChildWindows(Host(), &ModifyChildsForAppMode, reinterpret_cast<LPARAM>(&change));
-        ::SendMessage(window, WM_NCHITTEST, 0, 0); // by which many notice
+        act(window);
         EXPECT_EQ(::IsWindow(window), !awaited) << title;
         EndsItself = nullptr;
-        ::RedrawWindow(window, nullptr, nullptr,
-                       RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+        Repaint(window);
         m_window.reset();
         PumpAll();
         EXPECT_EQ(Watch::Faults(), faults) << title;
         return m_heard;
     }
+
+    static void Repaint(HWND window)
+    {
+        ::RedrawWindow(window, nullptr, nullptr,
+                       RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    }
+
+    // As the platform has a list box draw and measure a row, without its own work around that.
+    void HaveRowDrawn(HWND window)
+    {
+        CClientDC dc(&Host());
+        DRAWITEMSTRUCT row = {};
+        row.CtlType = ODT_LISTBOX;
+        row.CtlID = UINT(::GetDlgCtrlID(window));
+        row.itemAction = ODA_DRAWENTIRE;
+        row.hwndItem = window;
+        row.hDC = dc;
+        row.rcItem = CRect(0, 0, 100, 20);
+        Host().SendMessage(WM_DRAWITEM, row.CtlID, reinterpret_cast<LPARAM>(&row));
+        MEASUREITEMSTRUCT height = {};
+        height.CtlType = ODT_LISTBOX;
+        height.CtlID = row.CtlID;
+        Host().SendMessage(WM_MEASUREITEM, row.CtlID, reinterpret_cast<LPARAM>(&height));
+    }
+
+    // Once without an end, and once for each end on the way.
+    template <class Act>
+    void GiveAll(const Subject& subject, APPMODE mode, const std::string& what, Act act)
+    {
+        for (const Heard& word : Give(subject, mode, what, {}, act))
+        {
+            Give(subject, mode, what, word, act);
+        }
+    }
+
+    static std::vector<Subject> Everything()
+    {
+        std::vector<Subject> subjects = Subjects();
+        subjects.push_back({"sheet", &MakeSheet});
+        subjects.push_back({"form view", &MakeFormView});
+        return subjects;
+    }
 };
 
 TEST_F(OwnDeath, DuringAChangeOfTheModeDoesNoHarm)
 {
-    std::vector<Subject> subjects = Subjects();
-    subjects.push_back({"sheet", &MakeSheet});
-    subjects.push_back({"form view", &MakeFormView});
-    for (const Subject& subject : subjects)
+    for (const Subject& subject : Everything())
     {
         for (const auto& [from, to] : {std::pair(STD, EFB), {EFB, STD}})
         {
-            for (const Heard& word : Change(subject, from, to, {}))
-            {
-                Change(subject, from, to, word);
-            }
+            GiveAll(subject, from, "changing", [this, to = to](HWND window) {
+                COnBoardUIGeneral::SetAppMode(to);
+                ModifyChildWndsData change;
+                change.parent = Host();
+                change.scale = to == STD ? 1 / 1.25 : 1.25;
+                change.mode = to;
+                ::EnumChildWindows(Host(), &ModifyChildsForAppMode,
+                                   reinterpret_cast<LPARAM>(&change));
+                ::SendMessage(window, WM_NCHITTEST, 0, 0); // by which many notice
+            });
+        }
+    }
+}
+
+TEST_F(OwnDeath, DuringARepaintDoesNoHarm)
+{
+    for (const Subject& subject : Everything())
+    {
+        for (const APPMODE mode : {STD, EFB})
+        {
+            GiveAll(subject, mode, "painting", [=, this](HWND window) {
+                if (mode != STD) // where it is the platform that works for the parts
+                {
+                    ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
+                }
+                Repaint(window);
+                if (dynamic_cast<CListBox*>(m_window.get()) != nullptr)
+                {
+                    HaveRowDrawn(window);
+                }
+            });
         }
     }
 }

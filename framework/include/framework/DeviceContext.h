@@ -416,7 +416,8 @@ protected:
     HWND m_hWnd;
 };
 
-// Painting in answer to WM_PAINT and only there; the window is valid once the object goes.
+// Painting in answer to WM_PAINT and only there; the window is valid once the object goes. A window
+// that has ended before it comes to painting gives no context: drawing does nothing then.
 class FRAMEWORK_API CPaintDC : public CDC
 {
     DECLARE_DYNAMIC(CPaintDC)
@@ -425,7 +426,7 @@ public:
     explicit CPaintDC(CWnd* window);
     ~CPaintDC() override;
 
-    PAINTSTRUCT m_ps;
+    PAINTSTRUCT m_ps = {};
 
 protected:
     HWND m_hWnd;
