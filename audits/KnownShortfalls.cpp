@@ -19,7 +19,7 @@ constexpr Known Texts[] = {
     {"message box", "Button", {"gradient of a face", 2.9}},
     {"report list", "first cell", {"cells after the highlight; a host may select full rows", 1.6}},
     {"report list", "SysHeader32", {"gradient of a face", 3.1}},
-    {"sheet", "Edit", {"edge of the selection, measured in place of the text", 4.0}},
+    {"property sheet", "Edit", {"edge of the selection, measured in place of the text", 4.0}},
     {"edit with prompt", "prompt", {"colour of a prompt; a host may set another", 4.3}},
     {"tool bar",
      "",
@@ -42,7 +42,7 @@ constexpr Known Targets[] = {
     {"dialog", "Edit", {OfTemplate, 34}},
     {"dialog", "Button", {OfTemplate, 39}},
     {"message box", "Button", {OfTemplate, 39}},
-    {"sheet", "tab", {"size of the platform's tabs, scaled", 33}},
+    {"property sheet", "tab", {"size of the platform's tabs, scaled", 33}},
     {"tool bar", "button", {"size of the platform's buttons; a host may set more", 20}},
 };
 

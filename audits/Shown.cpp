@@ -99,7 +99,8 @@ Shown::Shown(const Control& control, APPMODE mode, const std::string& text, int 
     m_stage = std::make_unique<Stage>();
     // The size of an open one is its host's.
     const std::string_view name = control.name;
-    if (name == "dialog" || name == "message box" || name == "sheet")
+    if (name == "dialog" || name == "message box" || name == "list of a combo" ||
+        name.starts_with("property"))
     {
         COnBoardUIGeneral::SetAppMode(mode);
     }
@@ -112,7 +113,8 @@ Shown::Shown(const Control& control, APPMODE mode, const std::string& text, int 
     m_window->ShowWindow(SW_SHOW);
     COnBoardUIGeneral::SetAppMode(mode);
     m_stage->Place();
-    const bool isPopup = (m_window->GetStyle() & WS_CHILD) == 0;
+    CWnd& top = Top();
+    const bool isPopup = &top != m_stage.get();
     if (!isPopup && name.ends_with(" bar"))
     {
         m_window->SendMessage(WM_SIZE); // to the edge of the stage that it is drawn to
@@ -120,7 +122,7 @@ Shown::Shown(const Control& control, APPMODE mode, const std::string& text, int 
     if (isPopup)
     {
         m_stage->StepAside();
-        ::SetWindowPos(*m_window, HWND_TOPMOST, 40, 40, 0, 0, SWP_NOSIZE);
+        ::SetWindowPos(top, HWND_TOPMOST, 40, 40, 0, 0, SWP_NOSIZE);
     }
     m_stage->TakeFocus();
     Settle();
@@ -130,6 +132,12 @@ Shown::~Shown()
 {
     m_window->DestroyWindow();
     m_stage->DestroyWindow();
+}
+
+// The stage, or a window of the control's own.
+CWnd& Shown::Top() const
+{
+    return *CWnd::FromHandle(::GetAncestor(*m_window, GA_ROOT));
 }
 
 void Shown::Settle()
@@ -154,14 +162,15 @@ std::vector<Part> Shown::Parts()
     // made as a label. The others never show a text of their own.
     const bool hasText = isPopup || name == "group box"
                              ? COnBoardUIGeneral::InOnBoardMode()
-                             : name != "swatch" && name != "outline" && name != "form view";
+                             : name != "swatch" && name != "outline" && name != "form view" &&
+                                   name != "property page";
     std::vector<Part> parts = {{"", m_window.get(), hasText}};
     AddWithin(parts, *m_window);
     struct Others
     {
         std::vector<Part>& parts;
         HWND known[2];
-    } others = {parts, {*m_stage, *m_window}};
+    } others = {parts, {*m_stage, Top()}};
     ::EnumThreadWindows(
         ::GetCurrentThreadId(),
         [](HWND window, LPARAM lParam) -> BOOL {

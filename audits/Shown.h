@@ -38,6 +38,8 @@ private:
     const Control& m_control;
     std::unique_ptr<Stage> m_stage;
     std::unique_ptr<CWnd> m_window;
+
+    CWnd& Top() const;
 };
 
 // What the screen shows of a part, without the windows within and before it.

@@ -92,7 +92,7 @@ std::vector<State> StatesOf(const char* control)
         states.push_back({"checked", true, Row(true, BST_CHECKED), 1});
         states.push_back({"checked off", false, Row(false, BST_CHECKED), 1});
     }
-    if (has("combo"))
+    if (name == "combo")
     {
         states.push_back({"open", true, &Drop});
     }

@@ -90,11 +90,15 @@ std::vector<Target> TargetsOf(const char* control, CWnd& window)
     {
         targets.push_back({"row", {0, int(window.SendMessage(LB_GETITEMHEIGHT))}});
     }
+    else if (name == "header")
+    {
+        targets.push_back({"heading", {0, SizeOf(window).cy}});
+    }
     else if (name == "combo")
     {
         targets.push_back({"field", {0, SizeOf(window).cy}});
     }
-    else if (name == "sheet")
+    else if (name == "property sheet")
     {
         const auto& sheet = static_cast<CPropertySheet&>(window);
         CRect tab;

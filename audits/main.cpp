@@ -1,4 +1,4 @@
-// audit [MODE]: walks every control of the catalog and every form, in every state and in every
+// audit [MODE]: walks every control of the catalog in every state and in every
 // display mode or the one named, on real windows, and prints
 // - the contrast of its text against what it is drawn on, whose mark is 4.5 to 1 where the control
 //   is enabled; of a control with a text it has to be seen,
@@ -12,7 +12,6 @@
 
 #include "Access.h"
 #include "Contrast.h"
-#include "Forms.h"
 #include "KnownShortfalls.h"
 #include "OnBoardUIGeneral.h"
 #include "Shown.h"
@@ -154,7 +153,9 @@ void PrintAccess(APPMODE mode, const Control& control)
         bool seen = false;
         for (int look = 0; look < 20 && !seen; ++look) // a caret blinks
         {
-            seen = CWnd::GetFocus() == &window && ScreenPixels(window) != before;
+            const CWnd* const focused = CWnd::GetFocus();
+            seen =
+                (focused == &window || window.IsChild(focused)) && ScreenPixels(window) != before;
             ::Sleep(seen ? 0 : 100);
             shown.Settle();
         }
@@ -162,7 +163,7 @@ void PrintAccess(APPMODE mode, const Control& control)
         surprised = surprised || !seen;
     }
     PrintAnswers(mode, control.name, window, focus);
-    if (std::strcmp(control.name, "sheet") == 0)
+    if (std::strcmp(control.name, "property sheet") == 0)
     {
         PrintAnswers(mode, "tabs", *static_cast<CPropertySheet&>(window).GetTabControl(), "");
     }
@@ -223,13 +224,11 @@ int main(int argc, char** argv)
     AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOW);
     ::CoInitialize(nullptr);
     COnBoardUIGeneral::SetStdModeGoals();
-    std::vector<Control> all = Controls();
-    all.insert(all.end(), Forms().begin(), Forms().end());
     for (int mode = 0; mode < Modes; ++mode)
     {
         if (only < 0 || only == mode)
         {
-            for (const Control& control : all)
+            for (const Control& control : Controls())
             {
                 for (const State& state : StatesOf(control.name))
                 {

@@ -4,6 +4,7 @@
 
 #include "catalog/Controls.h"
 #include "catalog/DialogTemplate.h"
+#include "catalog/forms.h"
 
 #include "BoldStatic.h"
 #include "ColorEdit.h"
@@ -11,15 +12,21 @@
 #include "ColoredGroupBox.h"
 #include "CustomCheckBox.h"
 #include "CustomChecklistBox.h"
+#include "CustomComboLBox.h"
 #include "CustomDialog.h"
 #include "CustomDropListCombo.h"
 #include "CustomEdit.h"
+#include "CustomFormView.h"
 #include "CustomListBox.h"
 #include "CustomListCtrl.h"
+#include "CustomListCtrlHdr.h"
+#include "CustomPropPage.h"
+#include "CustomPropSheet.h"
 #include "CustomPushbutton.h"
 #include "CustomRadiobutton.h"
 #include "CustomStatic.h"
 #include "CustomStatusBar.h"
+#include "CustomToolbar.h"
 #include "EditWithPrompt.h"
 #include "MultiTree.h"
 #include "MultiTreeView.h"
@@ -134,6 +141,50 @@ template <template <class> class As> struct Makers
         return combo;
     }
 
+    // As a combo drops it.
+    static Made MakeComboList(CWnd& parent, const Contents& contents)
+    {
+        auto list = std::make_unique<As<CCustomComboLBox>>();
+        if (!list->CreatePopup())
+        {
+            return nullptr;
+        }
+        CRect place = contents.place;
+        parent.ClientToScreen(&place);
+        for (int row = 0; row < contents.rows; ++row)
+        {
+            list->AddString(Numbered(contents, row).c_str());
+        }
+        list->SetWindowText(contents.text.c_str());
+        list->PlacePopup(place);
+        list->ShowPopup(true);
+        return list;
+    }
+
+    // On a window of its own, without a list.
+    static Made MakeHeader(CWnd& parent, const Contents& contents)
+    {
+        auto header = std::make_unique<As<CCustomListCtrlHdr>>();
+        constexpr int finger = 31; // grows with the mode
+        const CRect strip(contents.place.TopLeft(), CSize(contents.place.Width(), finger));
+        if (!header->Create(Shown | HDS_HORZ | HDS_BUTTONS, strip, &parent, ControlId))
+        {
+            return nullptr;
+        }
+        std::string text = contents.text;
+        HDITEM item = {};
+        item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
+        item.fmt = HDF_LEFT | HDF_STRING;
+        item.pszText = text.data();
+        item.cxy = 90;
+        for (int column = 0; column < 3; ++column)
+        {
+            header->InsertItem(column, &item);
+        }
+        header->SetWindowText(contents.text.c_str());
+        return header;
+    }
+
     static Made MakeReport(CWnd& parent, const Contents& contents)
     {
         auto list = std::make_unique<As<CCustomListCtrl>>();
@@ -212,6 +263,118 @@ template <template <class> class As> struct Makers
         return bar;
     }
 
+    static Made MakeToolBar(CWnd& parent, const Contents& contents)
+    {
+        auto bar = std::make_unique<As<CustomToolbar>>();
+        if (!bar->CreateEx(&parent, TBSTYLE_FLAT | TBSTYLE_LIST, Shown, CRect(0, 0, 0, 0),
+                           ControlId))
+        {
+            return nullptr;
+        }
+        const std::string texts = contents.text + '\0'; // the last of a list ends with two
+        TBBUTTON button = {};
+        button.iBitmap = I_IMAGENONE;
+        button.fsState = TBSTATE_ENABLED;
+        button.iString = bar->SendMessage(TB_ADDSTRING, 0, LPARAM(texts.c_str()));
+        for (button.idCommand = 1; button.idCommand <= 5; ++button.idCommand)
+        {
+            bar->SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
+        }
+        bar->SetWindowText(contents.text.c_str());
+        bar->MoveWindow(contents.place);
+        return bar;
+    }
+
+    static void SetTexts(CWnd& form, const std::string& text)
+    {
+        for (const int id : {IDC_CATALOG_LABEL, IDC_CATALOG_EDIT, IDC_CATALOG_CHECK})
+        {
+            form.SetDlgItemText(id, text.c_str());
+        }
+    }
+
+    static Made MakeFormView(CWnd& parent, const Contents& contents)
+    {
+        struct View : CCustomFormView
+        {
+            View()
+                : CCustomFormView(UINT(IDD_CATALOG_FORM))
+            {}
+            void PostNcDestroy() override {} // whoever made it owns it
+        };
+        auto view = std::make_unique<As<View>>();
+        if (!view->Create(nullptr, contents.text.c_str(), Shown, contents.place, &parent,
+                                ControlId, nullptr))
+        {
+            return nullptr;
+        }
+        view->OnInitialUpdate();
+        SetTexts(*view, contents.text);
+        return view;
+    }
+
+    // Two pages, of which the first may be the caller's.
+    struct Sheet : CCustomPropSheet
+    {
+        explicit Sheet(CWnd& owner, const Contents& contents, CPropertyPage* own = nullptr)
+            : CCustomPropSheet(contents.text.c_str(), nullptr, &owner)
+            , title(contents.text)
+        {
+            CPropertyPage* const pages[] = {own != nullptr ? own : &first, &second};
+            for (CPropertyPage* const page : pages)
+            {
+                page->m_psp.pszTitle = title.c_str();
+                page->m_psp.dwFlags |= PSP_USETITLE;
+                AddPage(page);
+            }
+        }
+        ~Sheet() override { DestroyWindow(); }
+
+        // Whether its window could be made; it stays open.
+        bool Open(CWnd& owner, const Contents& contents)
+        {
+            if (!Create(&owner, WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE))
+            {
+                return false;
+            }
+            // Tabs as wide for every text.
+            GetTabControl()->SendMessage(TCM_SETMINTABWIDTH, 0, contents.place.Width() / 2);
+            SetTexts(*GetActivePage(), contents.text);
+            return true;
+        }
+        BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+        {
+            return LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL ||
+                   CCustomPropSheet::OnCommand(wParam, lParam);
+        }
+
+        std::string title;
+        As<CCustomPropPage> first{UINT(IDD_CATALOG_FORM)};
+        As<CCustomPropPage> second{UINT(IDD_CATALOG_FORM)};
+    };
+
+    static Made MakeSheet(CWnd& parent, const Contents& contents)
+    {
+        auto sheet = std::make_unique<As<Sheet>>(parent, contents);
+        return sheet->Open(parent, contents) ? std::move(sheet) : nullptr;
+    }
+
+    // The first one of a sheet that lasts as long as it.
+    static Made MakePage(CWnd& parent, const Contents& contents)
+    {
+        struct Page : CCustomPropPage
+        {
+            Page()
+                : CCustomPropPage(UINT(IDD_CATALOG_FORM))
+            {}
+            ~Page() override { sheet.reset(); }
+            std::unique_ptr<Sheet> sheet;
+        };
+        auto page = std::make_unique<As<Page>>();
+        page->sheet = std::make_unique<Sheet>(parent, contents, page.get());
+        return page->sheet->Open(parent, contents) ? std::move(page) : nullptr;
+    }
+
     static Made MakeMessageBox(CWnd& parent, const Contents& contents)
     {
         struct Stays : CZepMsgBoxDlg
@@ -271,11 +434,17 @@ template <template <class> class As> struct Makers
             {"list box of columns", MadeList<CCustomListBox>(LBS_MULTICOLUMN | WS_HSCROLL)},
             {"check list", &MakeCheckList},
             {"combo", &MakeCombo},
+            {"list of a combo", &MakeComboList},
             {"report list", &MakeReport},
+            {"header", &MakeHeader},
             {"tree", &MakeTree},
             {"tree view", &MakeTreeView},
             {"status bar", &MakeStatusBar<CCustomStatusBar>},
             {"search bar", &MakeStatusBar<CSearchStatusBar>},
+            {"tool bar", &MakeToolBar},
+            {"form view", &MakeFormView},
+            {"property sheet", &MakeSheet},
+            {"property page", &MakePage},
             {"dialog", &MakeDialog},
             {"message box", &MakeMessageBox},
         };

@@ -4,15 +4,10 @@
 #include "ColoredGroupBox.h"
 #include "CustomComboLBox.h"
 #include "CustomDropListCombo.h"
-#include "CustomFormView.h"
 #include "CustomListCtrl.h"
-#include "CustomPropPage.h"
-#include "CustomPropSheet.h"
 #include "MultiTree.h"
 #include "MultiTreeView.h"
 #include "SearchStatusBar.h"
-#include "support/Fenced.h"
-#include "support/forms.h"
 #include "trees/TreeLook.h"
 #include "trees/TreeSelection.h"
 
@@ -167,61 +162,6 @@ const std::vector<Word> SheetWords = {
 };
 // clang-format on
 
-class Sheet : public Fenced<CCustomPropSheet>
-{
-public:
-    explicit Sheet(CWnd* owner, CPropertyPage* first = nullptr)
-        : Fenced<CCustomPropSheet>("Sheet", nullptr, owner)
-    {
-        AddPage(first != nullptr ? first : &m_first);
-        AddPage(&m_second);
-        Create(owner, WS_POPUP | WS_CAPTION | WS_VISIBLE);
-    }
-    ~Sheet() override { DestroyWindow(); }
-
-protected:
-    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
-    {
-        return LOWORD(wParam) == IDOK || LOWORD(wParam) == IDCANCEL ||
-               Fenced<CCustomPropSheet>::OnCommand(wParam, lParam);
-    }
-
-private:
-    CCustomPropPage m_first{UINT(IDD_TEST_PAGE_1)};
-    CCustomPropPage m_second{UINT(IDD_TEST_PAGE_2)};
-};
-
-// The first one of its sheet.
-class Page : public Fenced<CCustomPropPage>
-{
-public:
-    explicit Page(CWnd* owner)
-        : Fenced<CCustomPropPage>(UINT(IDD_TEST_PAGE_1))
-        , m_sheet(std::make_unique<Sheet>(owner, this))
-    {}
-    ~Page() override { m_sheet.reset(); }
-
-private:
-    std::unique_ptr<Sheet> m_sheet;
-};
-
-struct FormView : Fenced<CCustomFormView>
-{
-    FormView()
-        : Fenced<CCustomFormView>(UINT(IDD_TEST_FORM))
-    {}
-    void PostNcDestroy() override {}
-};
-
-std::unique_ptr<CWnd> MakeFormView(CWnd& host)
-{
-    auto view = std::make_unique<FormView>();
-    view->CWnd::Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host,
-                       ControlId, nullptr);
-    view->OnInitialUpdate();
-    return view;
-}
-
 std::vector<Subject> MakeAll()
 {
     std::vector<Subject> all = Subjects();
@@ -256,6 +196,8 @@ std::vector<Subject> MakeAll()
         change("tool bar").words.push_back(word);
     }
 
+    change("property sheet").words = SheetWords;
+
     Subject one = change("tree");
     one.name = "tree of one selection";
     one.make = [make = one.make](CWnd& parent) {
@@ -264,14 +206,6 @@ std::vector<Subject> MakeAll()
         return tree;
     };
     all.push_back(one);
-    all.push_back({.name = "form view", .make = &MakeFormView, .pressesLoop = true});
-    all.push_back({.name = "property sheet",
-                   .make = [](CWnd& host) { return std::make_unique<Sheet>(&host); },
-                   .words = SheetWords,
-                   .pressesLoop = true});
-    all.push_back({.name = "property page",
-                   .make = [](CWnd& host) { return std::make_unique<Page>(&host); },
-                   .pressesLoop = true});
     return all;
 }
 

@@ -1,6 +1,5 @@
 #include "robust/Subjects.h"
 
-#include "CustomToolbar.h"
 #include "catalog/Makers.h"
 
 #include <algorithm>
@@ -136,25 +135,6 @@ const std::vector<Word> TreeWords = {
     {TVM_GETVISIBLECOUNT},
 };
 
-std::unique_ptr<CWnd> MakeToolBar(CWnd& parent, const Contents&)
-{
-    auto bar = std::make_unique<Mortal<CustomToolbar>>();
-    if (!bar->CreateEx(&parent, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE))
-    {
-        return nullptr;
-    }
-    bar->SetDlgCtrlID(ControlId);
-    for (int id = 1; id <= 5; ++id)
-    {
-        TBBUTTON button = {};
-        button.idCommand = id;
-        button.fsState = TBSTATE_ENABLED;
-        bar->SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
-    }
-    bar->SetWindowPos(nullptr, Room.left, Room.top, Room.Width(), 40, SWP_NOZORDER);
-    return bar;
-}
-
 struct Manner
 {
     std::vector<Word> words = {};
@@ -183,6 +163,10 @@ const std::map<std::string, Manner> Manners = {
     {"tool bar", {ToolBarWords}},
     {"tree", {TreeWords, {}, true}},
     {"tree view", {TreeWords, {}, true}},
+    {"list of a combo", {ListWords, &SeenList::Fault, true}},
+    {"form view", {{}, {}, true}},
+    {"property sheet", {{}, {}, true}},
+    {"property page", {{}, {}, true}},
     {"dialog", {{}, {}, true}},
     {"message box", {{}, {}, true}},
 };
@@ -190,7 +174,6 @@ const std::map<std::string, Manner> Manners = {
 std::vector<Subject> MakeSubjects()
 {
     std::vector<Control> controls = Catalog::All();
-    controls.push_back({"tool bar", &MakeToolBar});
     controls.push_back(
         {"list box of values", Catalog::MadeList<ListOfValues>(LBS_OWNERDRAWVARIABLE | LBS_SORT |
                                                                LBS_WANTKEYBOARDINPUT)});

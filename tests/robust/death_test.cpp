@@ -68,7 +68,7 @@ std::unique_ptr<CWnd> FormView(CWnd& host)
         {}
     };
     auto view = std::make_unique<View>();
-    view->CWnd::Create(nullptr, nullptr, WS_CHILD, Stage, &host, 5, nullptr);
+    view->Create(nullptr, nullptr, WS_CHILD, Stage, &host, 5, nullptr);
     return view;
 }
 

@@ -4,12 +4,8 @@
 #include "robust/Subjects.h"
 #include "robust/Watch.h"
 #include "support/WindowTest.h"
-#include "support/forms.h"
 
 #include "CustomButton.h"
-#include "CustomFormView.h"
-#include "CustomPropPage.h"
-#include "CustomPropSheet.h"
 #include "OnBoardUI.h"
 
 #include <afxcmn.h>
@@ -31,38 +27,6 @@ struct Heard
 
 // Of one message. What follows is likely the same again.
 constexpr int MostTellings = 2;
-
-struct Sheet : Mortal<CCustomPropSheet>
-{
-    explicit Sheet(CWnd* owner)
-        : Mortal<CCustomPropSheet>("Sheet", nullptr, owner)
-    {
-        AddPage(&page);
-    }
-    Mortal<CCustomPropPage> page{UINT(IDD_TEST_PAGE_1)};
-};
-
-std::unique_ptr<CWnd> MakeSheet(CWnd& parent)
-{
-    auto sheet = std::make_unique<Sheet>(&parent);
-    return sheet->Create(&parent, WS_POPUP | WS_CAPTION | WS_VISIBLE) ? std::move(sheet) : nullptr;
-}
-
-std::unique_ptr<CWnd> MakeFormView(CWnd& parent)
-{
-    struct View : Mortal<CCustomFormView>
-    {
-        View()
-            : Mortal<CCustomFormView>(UINT(IDD_TEST_FORM))
-        {}
-        void PostNcDestroy() override {}
-    };
-    auto view = std::make_unique<View>();
-    const CRect place(0, 0, 200, 150);
-    view->CWnd::Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, &parent, 5, nullptr);
-    view->OnInitialUpdate();
-    return view;
-}
 
 class OwnDeath : public WindowTest
 {
@@ -190,19 +154,11 @@ protected:
             Give(subject, mode, what, word, act);
         }
     }
-
-    static std::vector<Subject> Everything()
-    {
-        std::vector<Subject> subjects = Subjects();
-        subjects.push_back({"sheet", &MakeSheet});
-        subjects.push_back({"form view", &MakeFormView});
-        return subjects;
-    }
 };
 
 TEST_F(OwnDeath, DuringAChangeOfTheModeDoesNoHarm)
 {
-    for (const Subject& subject : Everything())
+    for (const Subject& subject : Subjects())
     {
         for (const auto& [from, to] : {std::pair(STD, EFB), {EFB, STD}})
         {
@@ -222,7 +178,7 @@ TEST_F(OwnDeath, DuringAChangeOfTheModeDoesNoHarm)
 
 TEST_F(OwnDeath, DuringARepaintDoesNoHarm)
 {
-    for (const Subject& subject : Everything())
+    for (const Subject& subject : Subjects())
     {
         for (const APPMODE mode : {STD, EFB})
         {
