@@ -394,10 +394,11 @@ template <template <class> class As> struct Makers
         const char* const text = contents.text.c_str();
         DialogTemplate form(CRect(10, 10, 160, 110),
                             WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE | DS_MODALFRAME, text);
-        form.Add("Static", text, 0, CRect(5, 5, 60, 17), 101)
-            .Add("Edit", text, WS_TABSTOP, CRect(5, 20, 60, 32), 102)
+        // High enough for a finger in the on-board modes, and for a line at any resolution.
+        form.Add("Static", text, 0, CRect(5, 5, 60, 19), 101)
+            .Add("Edit", text, WS_TABSTOP, CRect(5, 22, 60, 41), 102)
             .Add("ListBox", "", LBS_NOINTEGRALHEIGHT, CRect(80, 5, 140, 60), 103)
-            .Add("Button", text, WS_TABSTOP, CRect(5, 70, 50, 84), 104);
+            .Add("Button", text, WS_TABSTOP, CRect(5, 70, 60, 89), 104);
         struct Stays : CCustomDialog
         {
             explicit Stays(CWnd* owner)

@@ -20,6 +20,7 @@ protected:
     void CreateContent() override;
     bool FillsPage() const override { return true; }
     void OnLaidOut() override;
+    void OnScrolled() override { OnLaidOut(); }
 
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     afx_msg void OnEditChange(UINT id);

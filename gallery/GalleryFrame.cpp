@@ -76,6 +76,7 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_WM_NCHITTEST()
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
+    ON_WM_MOUSEWHEEL()
     ON_COMMAND_RANGE(ID_MODE_FIRST, ID_MODE_LAST, &GalleryFrame::OnModeCommand)
     ON_COMMAND_RANGE(ID_PAGE_FIRST, ID_PAGE_LAST, &GalleryFrame::OnPageCommand)
     ON_COMMAND(ID_WINDOW_MINIMIZE, &GalleryFrame::OnMinimize)
@@ -108,7 +109,11 @@ BOOL GalleryFrame::Open(size_t page)
 int GalleryFrame::OnCreate(LPCREATESTRUCT cs)
 {
     if (CFrameWnd::OnCreate(cs) == -1 || !m_windowSwitches.Create(*this, IDC_WINDOW_SWITCHES) ||
-        !m_switches.Create(*this, IDC_MODE_SWITCHES) || !m_list.Create(*this, IDC_PAGE_LIST))
+        !m_switches.Create(*this, IDC_MODE_SWITCHES) || !m_list.Create(*this, IDC_PAGE_LIST) ||
+        !m_down.Create(*this, IDC_PAGE_DOWN,
+                       [this](int y) { ScrollPage(CPoint(Page().Origin().x, y)); }) ||
+        !m_across.Create(*this, IDC_PAGE_ACROSS,
+                         [this](int x) { ScrollPage(CPoint(x, Page().Origin().y)); }))
     {
         return -1;
     }
@@ -266,6 +271,26 @@ GalleryFrame::Layout GalleryFrame::CurrentLayout() const
     area.top = layout.switches.bottom + m.margin;
     layout.list = CRect(area.left, area.top, area.left + m.list, area.bottom);
     layout.page = CRect(layout.list.right + m.gap, area.top, area.right, area.bottom);
+    const CSize needed = GalleryPage::SizeInMode();
+    const int bar = PageBar::Thickness();
+    const bool across = needed.cx > layout.page.Width() ||
+                        (needed.cy > layout.page.Height() && needed.cx > layout.page.Width() - bar);
+    const bool down = needed.cy > layout.page.Height() - (across ? bar : 0);
+    if (down)
+    {
+        layout.page.right -= bar;
+    }
+    if (across)
+    {
+        layout.page.bottom -= bar;
+        layout.across =
+            CRect(CPoint(layout.page.left, layout.page.bottom), CSize(layout.page.Width(), bar));
+    }
+    if (down)
+    {
+        layout.down =
+            CRect(CPoint(layout.page.right, layout.page.top), CSize(bar, layout.page.Height()));
+    }
     return layout;
 }
 
@@ -281,6 +306,8 @@ void GalleryFrame::RecalcLayout(BOOL)
         moves.Add(m_windowSwitches, layout.window);
         moves.Add(m_switches, layout.switches);
         moves.Add(m_list, layout.list);
+        moves.Add(m_down, layout.down);
+        moves.Add(m_across, layout.across);
         if (m_pages[m_shown] != nullptr)
         {
             moves.Add(*m_pages[m_shown], layout.page);
@@ -288,7 +315,23 @@ void GalleryFrame::RecalcLayout(BOOL)
     }
     m_list.Show(int(m_shown)); // its height has changed, or that of its rows
     m_windowSwitches.ShowWindow(OwnFrame() ? SW_SHOWNA : SW_HIDE);
+    m_down.ShowWindow(layout.down.IsRectEmpty() ? SW_HIDE : SW_SHOWNA);
+    m_across.ShowWindow(layout.across.IsRectEmpty() ? SW_HIDE : SW_SHOWNA);
+    if (m_pages[m_shown] != nullptr)
+    {
+        ScrollPage(Page().Origin());
+    }
     Invalidate(FALSE);
+}
+
+void GalleryFrame::ScrollPage(CPoint origin)
+{
+    Page().ScrollTo(origin);
+    CRect page;
+    Page().GetClientRect(&page);
+    const CSize content = Page().ContentSize();
+    m_down.Follow(content.cy, page.Height(), Page().Origin().y);
+    m_across.Follow(content.cx, page.Width(), Page().Origin().x);
 }
 
 void GalleryFrame::OnPaint()
@@ -389,9 +432,15 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
     // Tab goes through the whole frame; every other key is the page's while the focus is there.
     const bool tab = message->message == WM_KEYDOWN && message->wParam == VK_TAB;
     GalleryPage* const page = m_pages[m_shown].get();
-    return !tab && page != nullptr && ::IsChild(*page, message->hwnd)
-               ? page->TranslateInput(message)
-               : IsDialogMessage(message);
+    const BOOL done = !tab && page != nullptr && ::IsChild(*page, message->hwnd)
+                          ? page->TranslateInput(message)
+                          : IsDialogMessage(message);
+    if (done && page != nullptr && ::IsWindow(*page))
+    {
+        page->Reveal(::GetFocus());
+        ScrollPage(page->Origin());
+    }
+    return done;
 }
 
 void GalleryFrame::OnActivate(UINT state, CWnd* other, BOOL minimized)
@@ -427,6 +476,14 @@ void GalleryFrame::OnPageCommand(UINT id)
 void GalleryFrame::OnMinimize()
 {
     SendMessage(WM_SYSCOMMAND, SC_MINIMIZE);
+}
+
+// What no control of the page takes.
+BOOL GalleryFrame::OnMouseWheel(UINT, short delta, CPoint)
+{
+    constexpr int notch = 80; // pixels at 96 dots per inch
+    ScrollPage(Page().Origin() - CSize(0, ::MulDiv(delta, look::Scaled(notch), WHEEL_DELTA)));
+    return TRUE;
 }
 
 void GalleryFrame::OnPageSelected()

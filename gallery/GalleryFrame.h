@@ -2,6 +2,7 @@
 
 #include "GalleryHost.h"
 #include "GalleryPage.h"
+#include "PageBar.h"
 #include "PageList.h"
 #include "SwitchStrip.h"
 
@@ -39,6 +40,8 @@ private:
         CRect switches;
         CRect list;
         CRect page;
+        CRect down;   // the page's bars; empty without one
+        CRect across; // likewise
         CRect line;
     };
 
@@ -58,6 +61,7 @@ private:
     afx_msg void OnPageCommand(UINT id);
     afx_msg void OnMinimize();
     afx_msg void OnPageSelected();
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     DECLARE_MESSAGE_MAP()
 
     Layout CurrentLayout() const;
@@ -65,11 +69,15 @@ private:
     // Size and place of the window in a mode that leaves it one.
     CRect InitialPlace() const;
     void TakePlace(APPMODE newMode, APPMODE oldMode);
+    // Scrolls the page, or has its bars follow it.
+    void ScrollPage(CPoint origin);
 
     GalleryHost& m_host;
     WindowSwitches m_windowSwitches;
     ModeSwitches m_switches;
     PageList m_list;
+    PageBar m_down{SB_VERT};
+    PageBar m_across{SB_HORZ};
     std::vector<std::unique_ptr<GalleryPage>> m_pages; // made when first shown
     size_t m_shown = 0;
     CString m_lastTold;

@@ -9,20 +9,7 @@
 
 #include <algorithm>
 
-namespace {
-
-// The least share of its design that a page's content shrinks to.
-constexpr int LeastShare = 75; // percent
-
-// A length of the content in a page that is larger or smaller than its design.
-int Fitted(int length, int available, int designed, bool grows)
-{
-    const int least = ::MulDiv(designed, LeastShare, 100);
-    const int most = grows ? std::max(available, designed) : designed;
-    return ::MulDiv(length, std::clamp(available, least, most), designed);
-}
-
-} // namespace
+namespace {} // namespace
 
 BEGIN_MESSAGE_MAP(GalleryPage, CCustomDialog)
     ON_WM_SIZE()
@@ -66,6 +53,7 @@ void GalleryPage::FollowMode()
     // The library has scaled the children by the step between the two modes. Steps between two
     // on-board modes narrow them each time, so places are taken from the design: the same whichever
     // way the mode was reached.
+    m_origin = Reachable(m_origin);
     {
         const int caption = DownInMode(look::Scaled(grid::Caption));
         const int captionStep = DownInMode(look::Scaled(grid::CaptionStep));
@@ -90,13 +78,63 @@ void GalleryPage::FollowMode()
 
 CRect GalleryPage::InPage(const CRect& design) const
 {
-    CRect page;
-    GetClientRect(&page);
     const CRect rect = RectInMode(look::Scaled(design));
     const CSize designed = SizeInMode();
-    const auto across = [&](int x) { return Fitted(x, page.Width(), designed.cx, FillsPage()); };
-    const auto down = [&](int y) { return Fitted(y, page.Height(), designed.cy, FillsPage()); };
-    return CRect(across(rect.left), down(rect.top), across(rect.right), down(rect.bottom));
+    const CSize content = FillsPage() ? ContentSize() : designed;
+    return CRect(::MulDiv(rect.left, content.cx, designed.cx),
+                 ::MulDiv(rect.top, content.cy, designed.cy),
+                 ::MulDiv(rect.right, content.cx, designed.cx),
+                 ::MulDiv(rect.bottom, content.cy, designed.cy)) -
+           m_origin;
+}
+
+CSize GalleryPage::ContentSize() const
+{
+    CRect page;
+    GetClientRect(&page);
+    const CSize designed = SizeInMode();
+    return CSize(std::max<int>(page.Width(), designed.cx),
+                 std::max<int>(page.Height(), designed.cy));
+}
+
+CPoint GalleryPage::Reachable(CPoint origin) const
+{
+    CRect page;
+    GetClientRect(&page);
+    const CSize content = ContentSize();
+    return CPoint(std::clamp<int>(origin.x, 0, content.cx - page.Width()),
+                  std::clamp<int>(origin.y, 0, content.cy - page.Height()));
+}
+
+void GalleryPage::ScrollTo(CPoint origin)
+{
+    const CPoint before = m_origin;
+    m_origin = Reachable(origin);
+    if (m_origin != before)
+    {
+        ScrollWindow(before.x - m_origin.x, before.y - m_origin.y);
+        OnScrolled();
+        UpdateWindow();
+    }
+}
+
+void GalleryPage::Reveal(HWND child)
+{
+    if (!::IsChild(m_hWnd, child))
+    {
+        return;
+    }
+    CRect page;
+    GetClientRect(&page);
+    CRect place;
+    ::GetWindowRect(child, &place);
+    ScreenToClient(&place);
+    // The near edge, where both are not to be had.
+    const auto step = [](LONG from, LONG to, LONG room) {
+        return from < 0 || to - from > room ? from : std::max<LONG>(0, to - room);
+    };
+    ScrollTo(m_origin + CSize(step(place.left, place.right, page.Width()),
+                              step(place.top, place.bottom, page.Height())));
 }
 
 CCustomStatic& GalleryPage::MakeLabel(const char* text)

@@ -42,6 +42,14 @@ public:
     // the mode.
     void FollowMode();
 
+    // The room that the content takes: more than the page has on a small screen, where it scrolls.
+    CSize ContentSize() const;
+    // What of the content is at the page's corner; brought as near as the content reaches.
+    CPoint Origin() const { return m_origin; }
+    void ScrollTo(CPoint origin);
+    // Scrolls as far as needed to have a control of the page in sight.
+    void Reveal(HWND child);
+
     // Gives a key message to the page's dialog keys; TRUE when it is done with.
     BOOL TranslateInput(MSG* message) { return CCustomDialog::PreTranslateMessage(message); }
 
@@ -62,11 +70,12 @@ public:
 protected:
     // Makes the controls, with the helpers below.
     virtual void CreateContent() = 0;
-    // Whether the content spreads over a page that is larger than its design. In one that is
-    // smaller, on a small screen, the content of every page shrinks.
+    // Whether the content spreads over a page that is larger than its design.
     virtual bool FillsPage() const { return false; }
     // After the content was laid out, for what depends on the mode's fonts.
     virtual void OnLaidOut() {}
+    // After the content was moved, for what stays where it was put.
+    virtual void OnScrolled() {}
 
     // design is in pixels of the standard mode, on the grid. A list's caption takes the first
     // CaptionStep of it.
@@ -105,9 +114,11 @@ private:
     };
 
     CRect InPage(const CRect& design) const;
+    CPoint Reachable(CPoint origin) const;
     CCustomStatic& MakeLabel(const char* text);
 
     GalleryEvents& m_events;
     std::vector<std::unique_ptr<CCustomStatic>> m_labels;
     std::vector<Placed> m_placed;
+    CPoint m_origin{0, 0};
 };

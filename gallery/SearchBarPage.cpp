@@ -37,6 +37,12 @@ void SearchBarPage::CreateContent()
 void SearchBarPage::OnLaidOut()
 {
     m_bar.SendMessage(WM_SIZE); // it takes its place at the page's edge by itself
+    CRect bar;
+    m_bar.GetWindowRect(&bar);
+    ScreenToClient(&bar);
+    m_bar.SetWindowPos(nullptr, bar.left - Origin().x,
+                       ContentSize().cy - bar.Height() - Origin().y, 0, 0,
+                       SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE); // below content that scrolls
 }
 
 void SearchBarPage::OnCommandButton(UINT id)

@@ -23,6 +23,8 @@ static_assert(std::size(Modes) == std::size(APPMODE_NAMES));
 constexpr SwitchStrip::Switch WindowCommands[] = {{"Minimise", ID_WINDOW_MINIMIZE},
                                                   {"Close", ID_WINDOW_CLOSE}};
 
+constexpr int CaptionMargin = 6; // to either edge of a switch
+
 void DrawStandardFace(CDC& dc, CRect face, bool active, bool down)
 {
     // The system's own pushed look, with the hatch of a checked one when it is only active.
@@ -131,7 +133,18 @@ void SwitchStrip::DrawSwitch(CDC& dc, int index) const
         DrawStandardFace(dc, face, active, down);
     }
 
-    const InUse font(dc, active ? look::BoldFont() : look::LabelFont());
+    CFont smaller; // where the captions are wider than the switches
+    CFont& usual = active ? look::BoldFont() : look::LabelFont();
+    const int room = face.Width() - 2 * CaptionMargin;
+    const int widest = WidestCaption(dc);
+    if (widest > room)
+    {
+        LOGFONT description = {};
+        usual.GetLogFont(&description);
+        description.lfHeight = ::MulDiv(description.lfHeight, std::max(room, 1), widest);
+        smaller.CreateFontIndirect(&description);
+    }
+    const InUse font(dc, widest > room ? smaller : usual);
     CRect text = face;
     if (down)
     {
@@ -143,6 +156,18 @@ void SwitchStrip::DrawSwitch(CDC& dc, int index) const
         face.DeflateRect(5, 5);
         dc.DrawFocusRect(&face);
     }
+}
+
+// In bold, as the active one is.
+int SwitchStrip::WidestCaption(CDC& dc) const
+{
+    const InUse font(dc, look::BoldFont());
+    int widest = 0;
+    for (const Switch& each : m_switches)
+    {
+        widest = std::max<int>(widest, dc.GetTextExtent(each.caption, ::lstrlen(each.caption)).cx);
+    }
+    return widest;
 }
 
 void SwitchStrip::Choose(int index)

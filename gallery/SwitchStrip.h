@@ -51,6 +51,7 @@ private:
     CRect SwitchRect(int index) const;
     int SwitchAt(CPoint point) const;
     void DrawSwitch(CDC& dc, int index) const;
+    int WidestCaption(CDC& dc) const;
     void Choose(int index);
 
     std::span<const Switch> m_switches;

@@ -14,6 +14,8 @@
 #define IDC_MODE_SWITCHES 200
 #define IDC_PAGE_LIST 201
 #define IDC_WINDOW_SWITCHES 202
+#define IDC_PAGE_DOWN 204
+#define IDC_PAGE_ACROSS 205
 #define IDC_PAGE 210
 
 // Controls of the dialogs.

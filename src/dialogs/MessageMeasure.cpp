@@ -26,11 +26,34 @@ int LineHead(HFONT font)
     return metrics.tmInternalLeading;
 }
 
+namespace {
+
+int LineHeight(CDC& dc)
+{
+    TEXTMETRIC metrics = {};
+    dc.GetTextMetrics(&metrics);
+    return metrics.tmHeight;
+}
+
+// The standard mode measures in the context's own font, which is higher than that of dialogs; at
+// some resolutions it is not, and a text of one line would be cut.
+HGDIOBJ FontToMeasure(CDC& dc, CWnd& box)
+{
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        return CCustomDialog::m_OBStaticTextFont.GetSafeHandle();
+    }
+    const auto own = reinterpret_cast<HGDIOBJ>(box.SendMessage(WM_GETFONT));
+    const int usual = LineHeight(dc);
+    const Selected selected(dc, own);
+    return own != nullptr && LineHeight(dc) > usual ? own : nullptr;
+}
+
+} // namespace
+
 TextMeasure::TextMeasure(CWnd& box)
     : m_dc(&box)
-    , m_font(m_dc, COnBoardUIGeneral::InOnBoardMode()
-                       ? CCustomDialog::m_OBStaticTextFont.GetSafeHandle()
-                       : nullptr)
+    , m_font(m_dc, FontToMeasure(m_dc, box))
 {}
 
 CSize TextMeasure::Extent(std::string_view text)
