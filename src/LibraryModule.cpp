@@ -5,7 +5,7 @@
 
 namespace {
 
-AFX_EXTENSION_MODULE library = {};
+AFX_EXTENSION_MODULE s_library = {};
 
 } // namespace
 
@@ -13,15 +13,15 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID)
 {
     if (reason == DLL_PROCESS_ATTACH)
     {
-        if (!AfxInitExtensionModule(library, module))
+        if (!AfxInitExtensionModule(s_library, module))
         {
             return FALSE;
         }
-        new CDynLinkLibrary(library); // the framework's from here on
+        new CDynLinkLibrary(s_library); // the framework's from here on
     }
     else if (reason == DLL_PROCESS_DETACH)
     {
-        AfxTermExtensionModule(library);
+        AfxTermExtensionModule(s_library);
     }
     return TRUE;
 }

@@ -5,15 +5,15 @@
 #include "dialogs/TemplateFormat.h"
 #include "modes/ChildRestyling.h"
 #include "paint/GdiGuards.h"
+#include "paint/MeasuringDC.h"
 
 #include <climits>
 #include <utility>
 
 namespace {
 
-// A dialog unit is so many parts of the font's average character.
-constexpr int UnitsAcross = 4;
-constexpr int UnitsDown = 8;
+using dialogs::UnitsAcross;
+using dialogs::UnitsDown;
 
 // In place of a dialog's left side: the platform chooses where it opens. No length.
 constexpr short DefaultPosition = SHRT_MIN;
@@ -58,7 +58,7 @@ bool AskPlatform(const std::optional<dialogs::TemplateFont>& font, DialogFont& a
 dialogs::TemplateFont OnBoardTemplateFont()
 {
     dialogs::CreateSharedObjects();
-    CClientDC screen(nullptr);
+    CDC& screen = MeasuringDC();
     const Selected selected(screen, CCustomDialog::m_OBStaticTextFont);
     TEXTMETRIC metrics = {};
     screen.GetTextMetrics(&metrics);

@@ -26,13 +26,8 @@ CCustomFormView::CCustomFormView(LPCSTR templateName)
 }
 
 CCustomFormView::CCustomFormView(UINT templateId)
-    : CFormView(templateId)
-    , m_controlList(std::make_unique<dialogs::ControlList>())
-{
-    EnableActiveAccessibility();
-    dialogs::CreateSharedObjects();
-    COnBoardUIGeneral::AddCustomView(this);
-}
+    : CCustomFormView(MAKEINTRESOURCE(templateId))
+{}
 
 CCustomFormView::~CCustomFormView()
 {

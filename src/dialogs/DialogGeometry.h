@@ -11,6 +11,10 @@
 
 namespace dialogs {
 
+// A dialog unit is so many parts of the font's average character.
+constexpr int UnitsAcross = 4;
+constexpr int UnitsDown = 8;
+
 // Height of the on-board caption band over a system caption height.
 constexpr int BandHeight(int captionHeight)
 {

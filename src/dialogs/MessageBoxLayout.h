@@ -23,13 +23,13 @@ struct MessageUnits
     CSize spacing;
     CSize text; // the least that is left of the text
 
-    // unit is what 4 x 8 dialog units of the standard mode measure.
+    // unit is what an average character of the standard mode measures.
     static MessageUnits Of(const CSize& unit, bool onBoard)
     {
         const double scale = onBoard ? metrics::OnBoardScale : 1.0;
         const auto size = [&](int across, int down) {
-            return CSize(Truncated(::MulDiv(across, unit.cx, 4) * scale),
-                         Truncated(::MulDiv(down, unit.cy, 8) * scale));
+            return CSize(Truncated(::MulDiv(across, unit.cx, UnitsAcross) * scale),
+                         Truncated(::MulDiv(down, unit.cy, UnitsDown) * scale));
         };
         return {size(50, 14), size(7, 7), size(4, 4), size(50, 8)};
     }

@@ -55,7 +55,7 @@ void CZepMsgBoxDlg::CalcStdSizes()
     }
     else
     {
-        CRect mapped(0, 0, 4, 8);
+        CRect mapped(0, 0, dialogs::UnitsAcross, dialogs::UnitsDown);
         MapDialogRect(&mapped);
         unit = mapped.Size();
     }

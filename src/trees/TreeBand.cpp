@@ -1,7 +1,6 @@
-// The selection: the rubber band and scrolling by timer. And the messages on their way to the
-// platform, which may scroll or change what the band lies on.
+// The selection: the rubber band and scrolling by timer.
 
-#include "trees/TreeSelection.h"
+#include "trees/TreeBand.h"
 
 #include "modes/WindowAlive.h"
 #include "scroll/NcBands.h"
@@ -12,26 +11,6 @@
 #include <cstdlib>
 
 namespace trees {
-
-// A rubber band from its press to its end.
-struct TreeSelection::Band
-{
-    Band(TreeSelection& selection, UINT pressFlags, CPoint point)
-        : flags(pressFlags)
-        , pressed(point - selection.ContentOrigin())
-        , pointer(point)
-        , before(selection.m_items, selection.m_items.Selected())
-        , met(selection.m_items, {})
-    {}
-
-    UINT flags;
-    CPoint pressed; // from where the content begins, so that it scrolls along
-    CPoint pointer; // client pixels
-    bool stretched = false;
-    CRect rect = CRect(0, 0, 0, 0); // as shown, in client pixels
-    WatchedItems before;            // selected before the press
-    WatchedItems met;
-};
 
 namespace {
 
@@ -363,96 +342,6 @@ void TreeSelection::ScrollForBand()
     {
         MoveBand();
     }
-}
-
-// Messages on their way to the platform ---------------------------------------------------------
-
-namespace {
-
-// Messages by which the platform may move the pixels that a band lies on.
-bool MovesContent(UINT message)
-{
-    switch (message)
-    {
-    case WM_VSCROLL:
-    case WM_HSCROLL:
-    case WM_MOUSEWHEEL:
-    case WM_KEYDOWN:
-    case WM_SIZE:
-    case TVM_ENSUREVISIBLE:
-    case TVM_SELECTITEM:
-    case TVM_EXPAND:
-    case TVM_DELETEITEM:
-    case TVM_INSERTITEMA:
-    case TVM_INSERTITEMW:
-        return true;
-    default:
-        return false;
-    }
-}
-
-} // namespace
-
-LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (message == WM_RBUTTONUP && m_endsClick)
-    {
-        return 0; // the platform would ask for the context menu, as the click is about to do
-    }
-    if (m_inLoop && (message == WM_CAPTURECHANGED || message == WM_DESTROY))
-    {
-        ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0); // wakes the loop
-    }
-    const WindowAlive alive(Window());
-    if (const HTREEITEM branch = TreeItems::Real(HTREEITEM(lParam));
-        message == TVM_EXPAND && branch != nullptr && Closes(branch, UINT(wParam)))
-    {
-        // The platform asks the parent, and us by it, only when the user closes the branch.
-        const WatchedItem held(m_items, branch);
-        LeaveBranch(branch);
-        if (!alive || held.Get() == nullptr)
-        {
-            return FALSE;
-        }
-    }
-    if (message == WM_NCDESTROY)
-    {
-        Reset();
-        m_look->Reset();
-        m_laidOut = nullptr;
-    }
-    LRESULT result = 0;
-    if (m_look->Before(message, wParam, lParam, result) || !alive)
-    {
-        return result;
-    }
-    result = m_items.Native(message, wParam, lParam);
-    if (!alive)
-    {
-        return result;
-    }
-    m_look->After(message, wParam, lParam, result);
-    if (!alive)
-    {
-        return result;
-    }
-    if (m_band != nullptr && MovesContent(message))
-    {
-        // The platform copies pixels when it scrolls, those of the band among them.
-        PlaceBand();
-        ::InvalidateRect(Handle(), nullptr, FALSE);
-    }
-    return result;
-}
-
-void TreeSelection::Paint()
-{
-    m_look->Paint(m_band != nullptr && m_band->stretched ? &m_band->rect : nullptr);
-}
-
-bool TreeSelection::EraseBackground()
-{
-    return m_look->PaintsAll() || (m_band != nullptr && m_band->stretched);
 }
 
 } // namespace trees

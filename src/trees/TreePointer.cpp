@@ -1,8 +1,8 @@
 // The selection: what a press becomes, and the arrow keys.
 
-#include "modes/KeyState.h"
 #include "trees/TreeSelection.h"
 
+#include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
 #include "trees/TreeLook.h"
 

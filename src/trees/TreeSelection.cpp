@@ -1,8 +1,8 @@
 // The selection: the state of one item, its notifications, and what is in sight.
 
 #include "trees/TreeSelection.h"
-#include "modes/TellParent.h"
 
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 #include "trees/DragImage.h"
 #include "trees/TreeLook.h"
