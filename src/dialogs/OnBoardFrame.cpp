@@ -83,10 +83,10 @@ Children ChildrenOf(const CWnd& window, bool scaledLater)
 
 namespace {
 
-// Gives the direct children that have one font another.
-void SwapFonts(HWND window, HFONT from, HFONT to)
+// Gives those children that have one font another.
+void SwapFonts(std::span<const HWND> children, HFONT from, HFONT to)
 {
-    ForEachChild(window, [from, to](HWND child) {
+    ForEachLeft(children, [from, to](HWND child) {
         if (reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == from)
         {
             ::SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(to), FALSE);
@@ -146,7 +146,8 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
     if (alive && !children.scaledLater)
     {
         const PaintingHeld held(window);
-        const lists::ComboScaling combos(handle, ModeScale(newMode, oldMode) > 1);
+        const std::vector<HWND> windows = ChildrenNow(handle);
+        const lists::ComboScaling combos(handle, windows, ModeScale(newMode, oldMode) > 1);
         RestyleChildren(handle, newMode, oldMode);
         if (alive)
         {
@@ -155,11 +156,11 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
         const HFONT onBoard = CCustomDialog::m_OBStaticTextFont;
         if (alive && oldMode == STD)
         {
-            SwapFonts(handle, children.standardFont, onBoard);
+            SwapFonts(windows, children.standardFont, onBoard);
         }
         else if (alive && newMode == STD)
         {
-            SwapFonts(handle, onBoard, children.standardFont);
+            SwapFonts(windows, onBoard, children.standardFont);
         }
     }
     if (alive)
@@ -397,10 +398,11 @@ void OpenOnBoard(HWND window, HFONT standard, std::span<const HWND> placed)
     {
         return;
     }
-    const lists::ComboScaling combos(window, true);
+    const std::vector<HWND> children = ChildrenNow(window);
+    const lists::ComboScaling combos(window, children, true);
     RestyleNewWindow(window, placed);
     combos.Fit();
-    SwapFonts(window, standard, CCustomDialog::m_OBStaticTextFont);
+    SwapFonts(children, standard, CCustomDialog::m_OBStaticTextFont);
 }
 
 void OpenForm(CWnd& window, ControlList& list, std::vector<CWnd*>& controls)

@@ -296,6 +296,7 @@ CRect CZepMsgBoxDlg::CentredPlace(const CSize& size) const
 void CZepMsgBoxDlg::FollowMode()
 {
     const WindowAlive alive(*this);
+    const bool wasOnBoard = m_laidOutFor && *m_laidOutFor != STD;
     m_laidOutFor = COnBoardUIGeneral::GetAppMode();
     const int focused = FocusedButton();
     if (focused >= 0)
@@ -308,7 +309,11 @@ void CZepMsgBoxDlg::FollowMode()
     }
     CalcStdSizes();
     SplitText(); // for the screen as it is now
-    ShowIcon();
+    // All on-board modes have one ground, and the same picture on it.
+    if (!wasOnBoard || *m_laidOutFor == STD || m_iconPicture.GetSafeHandle() == nullptr)
+    {
+        ShowIcon();
+    }
     if (alive)
     {
         TakeLook();

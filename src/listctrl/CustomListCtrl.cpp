@@ -6,6 +6,7 @@
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 #include "paint/SharedObjects.h"
@@ -168,6 +169,7 @@ void CCustomListCtrl::PreSubclassWindow()
 void CCustomListCtrl::ForgetWindow()
 {
     m_bars->BeginAfresh();
+    m_bars->EndAwaiting();
     m_drawOffset = CPoint(0, 0);
     m_furtherOffset = CPoint(0, 0);
     m_scrollUnit = CSize(0, 0);
@@ -219,6 +221,7 @@ int CCustomListCtrl::OnCreate(LPCREATESTRUCT)
 
 void CCustomListCtrl::OnDestroy()
 {
+    m_bars->EndAwaiting();
     m_bars->Destroy();
 }
 
@@ -254,7 +257,11 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     if (!IsTooEarly(message))
     {
-        m_bars->Follow();
+        m_bars->SettlePlace();
+        if (alive)
+        {
+            m_bars->Follow();
+        }
         if (!alive || !FollowFilling(message))
         {
             return 0;
@@ -284,17 +291,24 @@ void CCustomListCtrl::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* param
 
 void CCustomListCtrl::OnWindowPosChanging(WINDOWPOS* position)
 {
+    const WindowAlive alive(*this);
     m_bars->WindowPosChanging(position);
+    if (alive)
+    {
+        m_bars->TakePlace(*position);
+    }
 }
 
 void CCustomListCtrl::OnSize(UINT type, int width, int height)
 {
     const WindowAlive alive(*this);
     CListCtrl::OnSize(type, width, height);
-    if (!alive)
+    // While it enters or leaves a mode, the size that counts is still to come.
+    if (!alive || (m_bars->IsFollowing() && IsBeingPlaced(*this)))
     {
         return;
     }
+    m_bars->EndAwaiting();
     m_bars->SetPlacingDue(true);
     m_fittedTo.SetRectEmpty();
     if (!InOnBoard())
@@ -302,8 +316,9 @@ void CCustomListCtrl::OnSize(UINT type, int width, int height)
         RestoreView();
         return;
     }
+    const bool barred = (GetStyle() & (WS_VSCROLL | WS_HSCROLL)) != 0;
     m_bars->TakePlatformBars();
-    if (alive && width > 0)
+    if (alive && width > 0 && barred)
     {
         scroll::RecalculateFrame(*this);
     }

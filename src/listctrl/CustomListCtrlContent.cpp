@@ -185,6 +185,10 @@ void CCustomListCtrl::KeepInStep(UINT message)
     {
         m_view.reset();
     }
+    if (m_bars->AwaitsPlace())
+    {
+        return; // with the size that it gets
+    }
     const WindowAlive alive(*this);
     if (m_bars->IsLaidOut() && !m_settling && !m_bars->IsFollowing() && MayChangeContent(message))
     {

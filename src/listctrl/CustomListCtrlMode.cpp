@@ -3,7 +3,9 @@
 #include "CustomListCtrl.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
+#include "paint/Metrics.h"
 
 void CCustomListCtrl::EnterOnBoard()
 {
@@ -25,21 +27,9 @@ void CCustomListCtrl::EnterOnBoard()
     {
         ScalePlatformColumns(true);
     }
-    if (alive)
+    if (alive && !m_bars->AwaitPlace())
     {
-        m_bars->RelayoutFrame();
-    }
-    if (alive)
-    {
-        ReCheckScrollBars();
-    }
-    if (alive)
-    {
-        RestoreView();
-    }
-    if (alive)
-    {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN);
+        m_bars->LayOut();
     }
 }
 
@@ -70,15 +60,71 @@ void CCustomListCtrl::LeaveOnBoard()
     if (alive)
     {
         m_bars->SetPlatformStyles(0);
-        m_bars->RelayoutFrame();
+    }
+    if (alive && !m_bars->AwaitPlace())
+    {
+        m_bars->LayOut();
+    }
+}
+
+// The rest of entering or leaving a mode, in a new frame.
+void CCustomListCtrl::Bars::LayOut()
+{
+    const WindowAlive alive(m_list);
+    RelayoutFrame();
+    if (alive)
+    {
+        m_list.ReCheckScrollBars();
     }
     if (alive)
     {
-        RestoreView();
+        m_list.RestoreView();
     }
     if (alive)
     {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        const UINT erase = InOnBoard() ? 0 : RDW_ERASE;
+        m_list.RedrawWindow(nullptr, nullptr,
+                            RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | erase);
+    }
+}
+
+// A list that gets its place with its font --------------------------------------------------------
+
+bool CCustomListCtrl::Bars::AwaitPlace()
+{
+    return m_awaitsPlace = IsBeingPlaced(m_list);
+}
+
+void CCustomListCtrl::Bars::TakePlace(WINDOWPOS& position)
+{
+    CRect row;
+    if (!m_awaitsPlace)
+    {
+        return;
+    }
+    position.flags |= SWP_FRAMECHANGED;
+    if (InOnBoard() && (position.flags & SWP_NOSIZE) == 0 && m_list.FirstRowRect(row))
+    {
+        // The frame at once with the bars that so many rows and such columns call for.
+        const int high = position.cy - 2 * ::GetSystemMetrics(SM_CXFRAME);
+        const int wide = position.cx - 2 * ::GetSystemMetrics(SM_CYFRAME);
+        const int items = int(Ask(LVM_GETITEMCOUNT, 0, 0));
+        const bool vertical = listctrl::VerticalBar(items, row.Height(), high).needed;
+        CRect last;
+        const int columns = m_list.ColumnCount();
+        const bool horizontal = columns > 0 && m_list.HeaderItemRect(columns - 1, last) &&
+                                last.right > wide - (vertical ? metrics::ScrollBand : 0);
+        ShowBar(SB_VERT, vertical);
+        ShowBar(SB_HORZ, horizontal);
+    }
+}
+
+void CCustomListCtrl::Bars::SettlePlace()
+{
+    if (m_awaitsPlace && !IsBeingPlaced(m_list))
+    {
+        m_awaitsPlace = false;
+        LayOut();
     }
 }
 

@@ -25,6 +25,20 @@ public:
 
     scroll::Filling filling{*this};
 
+    // Frame, bars and view for the mode of the moment.
+    void LayOut();
+
+    // A list that gets its font and then its place for another mode is laid out in its place alone.
+    // Whether that is so.
+    bool AwaitPlace();
+    bool AwaitsPlace() const { return m_awaitsPlace; }
+    // WM_WINDOWPOSCHANGING, after everything else.
+    void TakePlace(WINDOWPOS& position);
+    // WM_SIZE: it has come, and the list is laid out by that.
+    void EndAwaiting() { m_awaitsPlace = false; }
+    // Before any message: a place that does not come any more is not waited for.
+    void SettlePlace();
+
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
     {
@@ -35,6 +49,7 @@ public:
 
 private:
     CCustomListCtrl& m_list;
+    bool m_awaitsPlace = false;
 
     bool IsReady() override { return !m_list.m_creating; }
     void EnterOnBoard() override { m_list.EnterOnBoard(); }

@@ -9,6 +9,7 @@
 #include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace lists {
@@ -31,14 +32,15 @@ CRect PlaceOf(HWND window)
 
 } // namespace
 
-ComboScaling::ComboScaling(HWND parent, bool growing)
+ComboScaling::ComboScaling(HWND parent, std::span<const HWND> children, bool growing)
     : m_parent(parent)
+    , m_children(children)
     , m_outer(m_current)
 {
     m_current = this;
     if (growing)
     {
-        ForEachChild(parent, &ComboScaling::NoteStandard);
+        std::ranges::for_each(children, &ComboScaling::NoteStandard);
     }
 }
 
@@ -82,10 +84,11 @@ void ComboScaling::NoteStandard(HWND window)
 
 void ComboScaling::Fit() const
 {
-    ForEachChild(m_parent, [](HWND child) { Fit(child); });
+    // What is done to one may have ended others.
+    ForEachLeft(m_children, [this](HWND child) { Fit(child); });
 }
 
-void ComboScaling::Fit(HWND window)
+void ComboScaling::Fit(HWND window) const
 {
     if (CCustomDropListCombo* const combo = ComboOf(window))
     {
@@ -123,15 +126,16 @@ void ComboScaling::Fit(HWND window)
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-int ComboScaling::FittedHeight(HWND window, int standard, int wanted)
+int ComboScaling::FittedHeight(HWND window, int standard, int wanted) const
 {
     std::vector<CRect> others;
-    ForEachChild(::GetParent(window), [&](HWND child) {
-        if (child != window)
+    for (const HWND child : m_children)
+    {
+        if (child != window && ::IsWindow(child))
         {
             others.push_back(PlaceOf(child));
         }
-    });
+    }
     return HeightInRoom(PlaceOf(window), Truncated(standard * metrics::OnBoardScale), wanted,
                         others);
 }

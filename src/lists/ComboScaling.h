@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include <span>
+
 class CCustomDropListCombo;
 
 namespace lists {
@@ -14,8 +16,9 @@ namespace lists {
 class ComboScaling
 {
 public:
-    // growing: the children stand as in the standard mode and are about to leave it.
-    ComboScaling(HWND parent, bool growing);
+    // Of a parent with its direct children. growing: they stand as in the standard mode and are
+    // about to leave it.
+    ComboScaling(HWND parent, std::span<const HWND> children, bool growing);
     ComboScaling(const ComboScaling&) = delete;
     ComboScaling& operator=(const ComboScaling&) = delete;
     ~ComboScaling() { m_current = m_outer; }
@@ -36,13 +39,14 @@ public:
 
 private:
     HWND m_parent;
+    std::span<const HWND> m_children; // some may have ended
     const ComboScaling* m_outer;
 
     static inline const ComboScaling* m_current = nullptr;
 
     static void NoteStandard(HWND window);
-    static void Fit(HWND window);
-    static int FittedHeight(HWND window, int standard, int wanted);
+    void Fit(HWND window) const;
+    int FittedHeight(HWND window, int standard, int wanted) const;
 };
 
 } // namespace lists

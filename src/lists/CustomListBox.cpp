@@ -4,6 +4,7 @@
 
 #include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
@@ -144,6 +145,7 @@ void CCustomListBox::BeginAfresh()
     m_made = m_refitting = false;
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
     m_bars->filling.BeginAfresh();
+    m_bars->ForgetPlace();
     HideBars();
 }
 
@@ -170,7 +172,9 @@ int CCustomListBox::OnCreate(LPCREATESTRUCT)
 
 bool CCustomListBox::FollowMode()
 {
-    return m_bars->Follow();
+    const WindowAlive alive(*this);
+    m_bars->SettlePlace();
+    return alive && m_bars->Follow();
 }
 
 namespace {
@@ -230,24 +234,38 @@ void CCustomListBox::EnterOnBoard()
         return;
     }
     CountAllWidths();
-    scroll::RecalculateFrame(*this, false);
-    if (!alive)
+    m_onBoardSize = m_stdSize;
+    m_bars->standardPlace = place;
+    m_bars->scrolledPixels = scrolled ? sideways.nPos : 0;
+    if (m_bars->AwaitPlace())
     {
         return;
     }
-    ResizeOBScrollBars();
-    if (alive && scrolled)
+    scroll::RecalculateFrame(*this, false);
+    if (alive)
     {
-        // Rows that all fit now go back to their beginning.
-        m_hBar.SetScrollPos(sideways.nPos / AverageCharWidth(), TRUE);
-        MoveContent(SB_HORZ);
+        m_bars->FinishEntering();
     }
     if (alive)
     {
-        MirrorContent();
         m_onBoardSize = SizeOf(*this);
-        m_bars->standardPlace = place;
-        m_bars->placeBar = m_hBar.GetScrollPos();
+    }
+}
+
+void CCustomListBox::Bars::FinishEntering()
+{
+    const WindowAlive alive(m_list);
+    m_list.ResizeOBScrollBars();
+    if (alive && scrolledPixels > 0)
+    {
+        // Rows that all fit now go back to their beginning.
+        m_list.m_hBar.SetScrollPos(scrolledPixels / m_list.AverageCharWidth(), TRUE);
+        m_list.MoveContent(SB_HORZ);
+    }
+    if (alive)
+    {
+        m_list.MirrorContent();
+        placeBar = m_list.m_hBar.GetScrollPos();
     }
 }
 
@@ -257,7 +275,7 @@ void CCustomListBox::LeaveOnBoard()
     // The platform cuts a list to whole rows whenever its frame changes; unless the host has sized
     // it since, it gets back what it had.
     const bool givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
-    const bool givesPlaceBack =
+    m_bars->givesPlaceBack =
         m_bars->standardPlace > 0 && m_hBar.GetScrollPos() == m_bars->placeBar;
     m_bars->End();
     HideBars();
@@ -289,7 +307,7 @@ void CCustomListBox::LeaveOnBoard()
     {
         Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));
     }
-    if (!alive)
+    if (!alive || m_bars->AwaitPlace())
     {
         return;
     }
@@ -303,20 +321,80 @@ void CCustomListBox::LeaveOnBoard()
         SetWindowPos(nullptr, 0, 0, m_stdSize.cx, m_stdSize.cy,
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    if (alive && givesPlaceBack)
+    if (alive)
     {
-        const LONGLONG place = std::min<LONGLONG>(m_bars->standardPlace, MaxOffset);
-        InColumns() ? Ask(LB_SETTOPINDEX, WPARAM(m_bars->standardPlace))
-                    : Ask(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, place));
+        m_bars->FinishLeaving();
     }
-    if (!alive)
+}
+
+void CCustomListBox::Bars::FinishLeaving()
+{
+    const WindowAlive alive(m_list);
+    if (givesPlaceBack)
+    {
+        const LONGLONG place = std::min<LONGLONG>(standardPlace, MaxOffset);
+        m_list.InColumns() ? Ask(LB_SETTOPINDEX, WPARAM(standardPlace), 0)
+                           : Ask(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, place), 0);
+    }
+    if (alive)
+    {
+        TellSize();
+    }
+    if (alive)
+    {
+        m_list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+    }
+}
+
+// A list that gets its place with its font ---------------------------------------------------------
+
+bool CCustomListBox::Bars::AwaitPlace()
+{
+    m_placeCame = false;
+    return m_awaitsPlace = IsBeingPlaced(m_list);
+}
+
+void CCustomListBox::Bars::TakePlace(WINDOWPOS& position)
+{
+    if (!m_awaitsPlace)
     {
         return;
     }
-    m_bars->TellSize();
-    if (alive)
+    m_placeCame = true;
+    position.flags |= SWP_FRAMECHANGED;
+    if (InOnBoard())
     {
-        RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+        ForeseeBars((position.flags & SWP_NOSIZE) != 0 ? SizeOf(m_list)
+                                                              : CSize(position.cx, position.cy));
+    }
+}
+
+void CCustomListBox::Bars::SettlePlace()
+{
+    if (!m_awaitsPlace || (!m_placeCame && IsBeingPlaced(m_list)))
+    {
+        return;
+    }
+    const WindowAlive alive(m_list);
+    if (!m_placeCame)
+    {
+        scroll::RecalculateFrame(m_list, false); // somebody kept it away
+    }
+    if (!alive || !std::exchange(m_awaitsPlace, false))
+    {
+        return;
+    }
+    if (InOnBoard())
+    {
+        FinishEntering();
+    }
+    else if (!IsLaidOut())
+    {
+        TakeNeedlessBars(m_list);
+        if (alive)
+        {
+            FinishLeaving();
+        }
     }
 }
 
@@ -327,6 +405,7 @@ void CCustomListBox::DisableScrollBars()
 
 void CCustomListBox::OnDestroy()
 {
+    m_bars->ForgetPlace();
     m_bars->Destroy();
 }
 
@@ -340,14 +419,20 @@ void CCustomListBox::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params
 
 void CCustomListBox::OnWindowPosChanging(WINDOWPOS* position)
 {
+    const WindowAlive alive(*this);
     m_bars->WindowPosChanging(position);
+    if (alive)
+    {
+        m_bars->TakePlace(*position);
+    }
 }
 
 void CCustomListBox::OnSize(UINT type, int width, int height)
 {
     const WindowAlive alive(*this);
     CListBox::OnSize(type, width, height);
-    if (!alive || !FollowMode())
+    // While it enters a mode, the size that counts is still to come.
+    if (!alive || (m_bars->IsFollowing() && IsBeingPlaced(*this)) || !FollowMode())
     {
         return;
     }

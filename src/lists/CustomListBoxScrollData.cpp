@@ -62,6 +62,51 @@ void CCustomListBox::UpdateScrollData()
     }
 }
 
+// Shows the bars that a window of a size will call for, so that its frame is calculated once. What
+// is seen otherwise then is mended as ever.
+void CCustomListBox::Bars::ForeseeBars(const CSize& window)
+{
+    CRect frame(0, 0, 0, 0);
+    ::AdjustWindowRectEx(&frame, m_list.GetStyle() & WS_BORDER, FALSE, m_list.GetExStyle());
+    const CSize inset(m_list.m_frameWidth - metrics::Border, m_list.m_frameHeight - metrics::Border);
+    const int count = int(Ask(LB_GETCOUNT, 0, 0));
+    const int height = int(Ask(LB_GETITEMHEIGHT, 0, 0));
+    if (count <= 0 || height <= 0)
+    {
+        return;
+    }
+    m_list.m_itemHeight = height;
+    bool vertical = false;
+    bool horizontal = false;
+    // The room that one bar takes may call for the other.
+    for (int round = 0; round < 2; ++round)
+    {
+        const int across = window.cx - frame.Width() - 2 * inset.cx -
+                           (vertical ? metrics::ScrollBand : 0);
+        const int down = window.cy - frame.Height() - 2 * inset.cy -
+                         (horizontal ? metrics::ScrollBand : 0);
+        vertical = m_list.VerifyAllowVScrollBar() && m_list.RowsInSight(count, down) < count;
+        if (m_list.InColumns())
+        {
+            CRect row;
+            Ask(LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+            const int inSight = std::max(1, across / std::max(1, row.Width()));
+            const int rows = std::max(1, down / height);
+            horizontal = (count + rows - 1) / rows > inSight;
+        }
+        else
+        {
+            horizontal = m_list.VerifyAllowHScrollBar() && m_list.ContentWidth() > across;
+        }
+    }
+    for (const int axis : {SB_VERT, SB_HORZ})
+    {
+        const bool needed = axis == SB_VERT ? vertical : horizontal;
+        m_list.Needed(axis) = needed;
+        ShowBar(axis, needed);
+    }
+}
+
 void CCustomListBox::UpdateVScrollData()
 {
     const int count = Ask(LB_GETCOUNT);

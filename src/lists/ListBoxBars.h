@@ -29,6 +29,22 @@ public:
     std::vector<int> standardHeights;
     int standardPlace = 0;
     int placeBar = 0;
+    bool givesPlaceBack = false;
+    int scrolledPixels = 0; // sideways, in the standard mode
+
+    // The rest of entering and leaving a mode, in the new frame.
+    void FinishEntering();
+    void FinishLeaving();
+
+    // A list that gets its font and then its place for another mode is laid out in its place alone.
+    // Whether that is so: the rest waits for it.
+    bool AwaitPlace();
+    bool AwaitsPlace() const { return m_awaitsPlace; }
+    // WM_WINDOWPOSCHANGING, after everything else.
+    void TakePlace(WINDOWPOS& position);
+    // The rest, once the place has come or will not come any more.
+    void SettlePlace();
+    void ForgetPlace() { m_awaitsPlace = false; }
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -38,6 +54,9 @@ public:
 
 private:
     CCustomListBox& m_list;
+    bool m_awaitsPlace = false;
+    void ForeseeBars(const CSize& window);
+    bool m_placeCame = false;
 
     void EnterOnBoard() override { m_list.EnterOnBoard(); }
     void LeaveOnBoard() override { m_list.LeaveOnBoard(); }

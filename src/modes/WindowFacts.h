@@ -4,6 +4,7 @@
 
 #include <afxwin.h>
 
+#include <span>
 #include <vector>
 
 // The whole window as its own device context has it, from (0, 0).
@@ -45,14 +46,19 @@ inline std::vector<HWND> ChildrenNow(HWND parent)
     return children;
 }
 
-// Does something to each child that is still there when its turn comes.
-template <class Act> void ForEachChild(HWND parent, Act act)
+// Does something to each of some collected windows that is still there when its turn comes.
+template <class Act> void ForEachLeft(std::span<const HWND> windows, Act act)
 {
-    for (const HWND child : ChildrenNow(parent))
+    for (const HWND window : windows)
     {
-        if (::IsWindow(child))
+        if (::IsWindow(window))
         {
-            act(child);
+            act(window);
         }
     }
+}
+
+template <class Act> void ForEachChild(HWND parent, Act act)
+{
+    ForEachLeft(ChildrenNow(parent), act);
 }

@@ -32,6 +32,9 @@ void TreeBars::EnterOnBoard()
     {
         return;
     }
+    // The frame at once with what is scrolled now: each new size makes the platform count anew.
+    MirrorOne(m_vertical);
+    MirrorOne(m_horizontal);
     scroll::RecalculateFrame(Window(), false);
     if (alive)
     {
