@@ -134,6 +134,12 @@ constexpr Forbidden PlatformFaults[] = {
     {"#32770", {WM_NOTIFY, UINT(PSN_RESET)}},
 };
 
+// How many times the platform's dialogs are giving the focus on to a control, because they have got
+// it or are activated. One that ends in that, by whatever the control tells, has its procedure
+// write eight bytes into memory that is freed already: a plain dialog without this library does so,
+// too.
+inline int DialogGivesFocus = 0;
+
 inline HWND SenderOf(UINT message, LPARAM lParam, HWND otherwise)
 {
     if (message == WM_NOTIFY)
@@ -241,7 +247,8 @@ struct Play
         const bool sibling = now->death == Death::Sibling;
         const bool dies = now->modal || now->death == Death::Parent ||
                           (!sibling && (sender == control || ::IsChild(control, sender)));
-        if (dies && IsForbidden(sender, what, again))
+        const bool whole = (now->modal && !sibling) || now->death == Death::Parent;
+        if ((dies && IsForbidden(sender, what, again)) || (whole && DialogGivesFocus != 0))
         {
             now->awaited.reset();
             return false;
@@ -349,6 +356,14 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         return Play::Tell(message, wParam, lParam) ? 0 : Base::WindowProc(message, wParam, lParam);
+    }
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const int gives = message == WM_SETFOCUS || message == WM_ACTIVATE;
+        DialogGivesFocus += gives;
+        const LRESULT result = Base::DefWindowProc(message, wParam, lParam);
+        DialogGivesFocus -= gives;
+        return result;
     }
     void PostNcDestroy() override {} // the play owns it
 };
