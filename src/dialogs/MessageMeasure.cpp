@@ -35,25 +35,29 @@ int LineHeight(CDC& dc)
     return metrics.tmHeight;
 }
 
-// The standard mode measures in the context's own font, which is higher than that of dialogs; at
-// some resolutions it is not, and a text of one line would be cut.
-HGDIOBJ FontToMeasure(CDC& dc, CWnd& box)
+// The standard mode measures in the context's own font, which is higher than that of the template;
+// at some resolutions it is not, and a text of one line would be cut.
+HGDIOBJ FontToMeasure(CDC& dc)
 {
     if (COnBoardUIGeneral::InOnBoardMode())
     {
         return CCustomDialog::m_OBStaticTextFont.GetSafeHandle();
     }
-    const auto own = reinterpret_cast<HGDIOBJ>(box.SendMessage(WM_GETFONT));
+    static CFont ofTemplate; // not asked of the box: it may be on its way from another mode
+    if (ofTemplate.GetSafeHandle() == nullptr)
+    {
+        ofTemplate.CreatePointFont(80, "Microsoft Sans Serif");
+    }
     const int usual = LineHeight(dc);
-    const Selected selected(dc, own);
-    return own != nullptr && LineHeight(dc) > usual ? own : nullptr;
+    const Selected selected(dc, ofTemplate);
+    return LineHeight(dc) > usual ? ofTemplate.GetSafeHandle() : nullptr;
 }
 
 } // namespace
 
 TextMeasure::TextMeasure(CWnd& box)
     : m_dc(&box)
-    , m_font(m_dc, FontToMeasure(m_dc, box))
+    , m_font(m_dc, FontToMeasure(m_dc))
 {}
 
 CSize TextMeasure::Extent(std::string_view text)
