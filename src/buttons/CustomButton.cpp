@@ -186,24 +186,33 @@ void CCustomButton::StartTracking()
     {
         DrawOB();
     }
+    access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
 }
 
 // The one end of every press. Reached from the release, the loss of capture, focus or visibility, a
 // disabled or destroyed window and a changed mode.
 void CCustomButton::EndTracking()
 {
+    const bool wasPressed = m_pressed;
     m_pressed = false;
     m_tracking = false;
     m_spaceHeld = false;
-    if (GetSafeHwnd() == nullptr || ::GetCapture() != m_hWnd)
+    if (GetSafeHwnd() == nullptr)
     {
         return;
     }
     const WindowAlive alive(*this);
-    ::ReleaseCapture();
-    if (alive && COnBoardUIGeneral::InOnBoardMode())
+    if (::GetCapture() == m_hWnd)
     {
-        DrawOB();
+        ::ReleaseCapture();
+        if (alive && COnBoardUIGeneral::InOnBoardMode())
+        {
+            DrawOB();
+        }
+    }
+    if (alive && wasPressed)
+    {
+        access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
     }
 }
 
@@ -407,6 +416,7 @@ LRESULT CCustomButton::OnBMSetState(WPARAM wParam, LPARAM)
     {
         return answer;
     }
+    const bool changes = m_pressed != (wParam != 0);
     m_pressed = wParam != 0;
     if (GetSafeHwnd() == nullptr)
     {
@@ -422,6 +432,10 @@ LRESULT CCustomButton::OnBMSetState(WPARAM wParam, LPARAM)
     if (alive)
     {
         Invalidate(FALSE);
+    }
+    if (alive && changes)
+    {
+        access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
     }
     return 0;
 }

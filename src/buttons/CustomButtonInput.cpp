@@ -3,6 +3,7 @@
 #include "CustomButton.h"
 
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "modes/WindowAlive.h"
 
 // Mouse -----------------------------------------------------------------------------------------
@@ -74,6 +75,7 @@ void CCustomButton::OnMouseMove(UINT, CPoint point)
         if (inside != m_pressed)
         {
             m_pressed = inside; // meant: not drawn, the look of a held button stays
+            access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
         }
     }
 }

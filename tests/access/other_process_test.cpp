@@ -1,0 +1,158 @@
+// An assistive program is another process: it reaches the gallery's windows as this one.
+
+#include "gallery/RunningGallery.h"
+#include "support/Accessible.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr const char* Title = "OnBoardUI Gallery";
+
+// A window deep within another, once there is one that is visible.
+HWND Within(HWND window, const char* windowClass, const char* text)
+{
+    struct Search
+    {
+        const char* windowClass;
+        const char* text;
+        HWND found;
+    } search = {windowClass, text, nullptr};
+    PumpUntil(
+        [&] {
+            ::EnumChildWindows(
+                window,
+                [](HWND child, LPARAM lParam) -> BOOL {
+                    auto& [windowClass, text, found] = *reinterpret_cast<Search*>(lParam);
+                    char name[80] = "";
+                    ::GetClassName(child, name, sizeof(name));
+                    bool same = ::lstrcmpi(name, windowClass) == 0 && ::IsWindowVisible(child);
+                    ::GetWindowText(child, name, sizeof(name));
+                    same = same && (text == nullptr || ::lstrcmp(name, text) == 0);
+                    found = same ? child : nullptr;
+                    return !same;
+                },
+                LPARAM(&search));
+            return search.found != nullptr;
+        },
+        10000);
+    return search.found;
+}
+
+// What the other process tells of one window, by way of the system.
+class Events
+{
+public:
+    explicit Events(HWND window)
+    {
+        s_window = window;
+        s_told.clear();
+        DWORD process = 0;
+        ::GetWindowThreadProcessId(window, &process);
+        m_hook = ::SetWinEventHook(EVENT_MIN, EVENT_MAX, nullptr, &Events::Hear, process, 0,
+                                   WINEVENT_OUTOFCONTEXT);
+    }
+    Events(const Events&) = delete;
+    Events& operator=(const Events&) = delete;
+    ~Events() { ::UnhookWinEvent(m_hook); }
+
+    bool Come(DWORD event, long child) const
+    {
+        const bool came = PumpUntil(
+            [&] { return std::ranges::count(s_told, std::pair(event, child)) > 0; }, 5000);
+        s_told.clear();
+        return came;
+    }
+
+private:
+    static inline HWND s_window = nullptr;
+    static inline std::vector<std::pair<DWORD, long>> s_told;
+    HWINEVENTHOOK m_hook;
+
+    static void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG child, DWORD,
+                              DWORD)
+    {
+        if (window == s_window)
+        {
+            s_told.emplace_back(event, child);
+        }
+    }
+};
+
+class FromAnotherProcess : public WindowTest
+{
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        ::CoInitialize(nullptr);
+    }
+};
+
+TEST_F(FromAnotherProcess, ButtonsAreReadPressedAndHeard)
+{
+    const RunningGallery gallery("--mode onboard --page buttons");
+    const HWND frame = gallery.Window(Title);
+    const HWND check = Within(frame, "Button", "Terrain");
+    ASSERT_NE(check, nullptr);
+    const Events events(check);
+    const Held<IAccessible> object = Reached(check);
+    ASSERT_TRUE(object);
+    const Read before(*object, CHILDID_SELF);
+    EXPECT_EQ(before.role, ROLE_SYSTEM_CHECKBUTTON);
+    EXPECT_EQ(before.name, "Terrain");
+    EXPECT_EQ(before.action, "Check");
+    EXPECT_EQ(before.state & STATE_SYSTEM_CHECKED, 0);
+    EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+    EXPECT_TRUE(events.Come(EVENT_OBJECT_STATECHANGE, CHILDID_SELF));
+    EXPECT_EQ(Read(*object, CHILDID_SELF).state & STATE_SYSTEM_CHECKED, STATE_SYSTEM_CHECKED);
+
+    // Pressed, dragged off, dragged back and released: each is told.
+    const HWND button = Within(frame, "Button", "Plain");
+    ASSERT_NE(button, nullptr);
+    const Events presses(button);
+    const Held<IAccessible> push = Reached(button);
+    const CPoint middle = PlaceOf(button).CenterPoint();
+    const auto pressed = [&] {
+        return presses.Come(EVENT_OBJECT_STATECHANGE, CHILDID_SELF)
+                   ? Read(*push, CHILDID_SELF).state & STATE_SYSTEM_PRESSED
+                   : -1;
+    };
+    MoveTo(middle);
+    ::Press();
+    EXPECT_EQ(pressed(), STATE_SYSTEM_PRESSED);
+    MoveTo(middle + CPoint(0, 200));
+    EXPECT_EQ(pressed(), 0);
+    MoveTo(middle);
+    EXPECT_EQ(pressed(), STATE_SYSTEM_PRESSED);
+    ::Release();
+    EXPECT_EQ(pressed(), 0);
+}
+
+TEST_F(FromAnotherProcess, RowsAreFoundAtAPointWorkedAndHeard)
+{
+    const RunningGallery gallery("--mode onboard --page checklist");
+    const HWND page = Within(gallery.Window(Title), "#32770", nullptr);
+    const HWND list = Within(page, "ListBox", nullptr);
+    ASSERT_NE(list, nullptr);
+    const Events events(list);
+    const Held<IAccessible> object = Reached(list);
+    const CRect second = PlaceOf(*object, 2);
+    ASSERT_FALSE(second.IsRectEmpty());
+
+    IAccessible* found = nullptr;
+    VARIANT child = {};
+    ASSERT_EQ(::AccessibleObjectFromPoint(second.CenterPoint(), &found, &child), S_OK);
+    const Held<IAccessible> atPoint(found);
+    ASSERT_EQ(child.lVal, 2);
+    const Read before(*atPoint, 2);
+    EXPECT_EQ(before.role, ROLE_SYSTEM_CHECKBUTTON);
+    EXPECT_EQ(before.name, Read(*object, 2).name);
+    EXPECT_EQ(object->accDoDefaultAction(Child(2)), S_OK);
+    EXPECT_TRUE(events.Come(EVENT_OBJECT_STATECHANGE, 2));
+    EXPECT_NE(Read(*object, 2).state, before.state);
+}
+
+} // namespace
