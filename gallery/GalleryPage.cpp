@@ -5,6 +5,7 @@
 #include "WindowMoves.h"
 #include "resource.h"
 
+#include <CustomCheckBox.h>
 #include <OnBoardUIGeneral.h>
 
 #include <algorithm>
@@ -65,6 +66,12 @@ void GalleryPage::FollowMode()
             {
                 moves.Add(*placed.caption, CRect(rect.TopLeft(), CSize(rect.Width(), caption)));
                 rect.top += captionStep;
+            }
+            if (look::Dark() && dynamic_cast<CCustomCheckBox*>(placed.control) != nullptr)
+            {
+                const int whole = DownInMode(look::Scaled(grid::Check));
+                rect.DeflateRect(0, (rect.Height() - whole) / 2);
+                rect.bottom = rect.top + whole;
             }
             moves.Add(*placed.control, rect);
         }

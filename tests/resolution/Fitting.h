@@ -175,6 +175,17 @@ inline std::string Fault(HWND window)
     return needed.cx > width || needed.cy > height ? tell("its text", needed) : "";
 }
 
+// By how much the square of an on-board check box reaches below the box, which cuts it: it is as
+// high as the box and stands lower the higher that is than a line.
+inline int CutOfSquare(HWND check)
+{
+    const UINT kind = UINT(::GetWindowLong(check, GWL_STYLE)) & BS_TYPEMASK;
+    const bool isCheck = Is(check, "Button") && (kind == BS_AUTOCHECKBOX || kind == BS_AUTO3STATE);
+    return isCheck && COnBoardUIGeneral::InOnBoardMode()
+               ? 3 + (int(SizeOf(check).cy) - 1 - LineHeight(check)) / 2
+               : 0;
+}
+
 // Of a window and all that is visible in it.
 inline std::string FaultsWithin(HWND window)
 {

@@ -157,6 +157,7 @@ TEST_F(Resolution, LeavesThePagesOfTheGalleryWhole)
             {
                 EXPECT_EQ(one.place | content, content)
                     << Named(one) << " of " << content.right << " x " << content.bottom;
+                EXPECT_LE(fitting::CutOfSquare(one.window), 1) << Named(one);
                 for (const Placed& other : children)
                 {
                     CRect common;
