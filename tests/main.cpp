@@ -1,5 +1,7 @@
 // The test program: a console program with an application object, as a host of the library has one.
 
+#include "OnBoardUIGeneral.h"
+
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
@@ -37,6 +39,7 @@ int main(int argc, char** argv)
     {
         return 1;
     }
+    COnBoardUIGeneral::SetStdModeGoals(); // as every host does at its start
     const int result = RUN_ALL_TESTS();
     if (!HeapsAreWhole())
     {
