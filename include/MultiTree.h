@@ -74,7 +74,7 @@ public:
     // deselects the others. An end hidden in a collapsed branch stands for that branch, and a null
     // one for the other end. The parent is asked and not told.
     virtual void SelectRange(HTREEITEM first, HTREEITEM last, bool only);
-    // False for what is no item.
+    // False for what is no item. For hosts: the tree's own rules go by the items' states.
     virtual bool IsSelected(HTREEITEM item) const;
     // Whether the user may add an item to the selection with Ctrl, and drag it: not null.
     virtual bool CanCtrlSelectItem(HTREEITEM item);
@@ -85,7 +85,8 @@ public:
     UINT GetItemState(HTREEITEM item, UINT mask) const; // the caret's has TVIS_FOCUSED
     // Selects an item alone and gives it the caret; null: nothing is selected and no caret.
     bool SelectItem(HTREEITEM item);
-    // Moves the caret alone; null takes it away.
+    // Moves the caret alone; null takes it away. Without multiple selection the caret is the
+    // platform's, and stays.
     void FocusItem(HTREEITEM item);
     // Has the item's row painted again, erased before if so wished; nothing for one out of sight.
     void InvalidateItem(HTREEITEM item, bool erase);

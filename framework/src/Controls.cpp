@@ -116,9 +116,17 @@ void CEdit::SetSel(int start, int end, BOOL noScroll)
 
 int CEdit::GetLine(int line, LPTSTR buffer, int size) const
 {
-    const WORD capacity = WORD(std::min(size, 0xFFFF));
-    ::CopyMemory(buffer, &capacity, sizeof(capacity));
-    return GetLine(line, buffer);
+    // The message takes the capacity in the first bytes of the buffer that it fills.
+    const WORD capacity = WORD(std::clamp(size, 0, 0xFFFF));
+    char few[sizeof(capacity)] = {};
+    char* const filled = capacity < sizeof(few) ? few : buffer;
+    ::CopyMemory(filled, &capacity, sizeof(capacity));
+    const int copied = GetLine(line, filled);
+    if (filled == few && copied > 0)
+    {
+        ::CopyMemory(buffer, few, size_t(std::min(copied, int(capacity))));
+    }
+    return copied;
 }
 
 int CScrollBar::GetScrollLimit()

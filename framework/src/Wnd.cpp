@@ -119,10 +119,22 @@ void CWnd::TakeProcedure()
 
 void CWnd::BindTo(HWND window)
 {
-    if (Attach(window))
+    if (!Attach(window))
     {
-        PreSubclassWindow();
+        return;
+    }
+    PreSubclassWindow();
+    if (FromHandlePermanent(window) != this)
+    {
+        return; // the object was deleted, or let the window go
+    }
+    if (::IsWindow(window))
+    {
         TakeProcedure();
+    }
+    else
+    {
+        Detach(); // its last message has not come here
     }
 }
 
@@ -133,7 +145,7 @@ BOOL CWnd::SubclassWindow(HWND window)
         return FALSE;
     }
     BindTo(window);
-    return m_hWnd == window;
+    return FromHandlePermanent(window) == this; // which may be gone
 }
 
 BOOL CWnd::SubclassDlgItem(UINT id, CWnd* parent)

@@ -34,7 +34,10 @@ void CCustomPushbutton::DrawOB(CDC& dc)
         // Meant: a press goes on looking like one while the pointer is dragged off the button.
         const palette::Gradient& face =
             m_tracking ? palette::FacePressedGradient : palette::FaceGradient;
-        GradientFill(&dc, rect, face.from, face.to, GRADIENT_FILL_RECT_V);
+        if (!GradientFill(&dc, rect, face.from, face.to, GRADIENT_FILL_RECT_V))
+        {
+            dc.FillSolidRect(&rect, face.from);
+        }
     }
     else
     {

@@ -246,9 +246,10 @@ void CCustomStatic::OnNcPaint()
 
 void CCustomStatic::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
 {
+    const WindowAlive alive(*this);
     Default();
     // Not while a window is made: it gets the border when its parent places it.
-    if (COnBoardUIGeneral::InOnBoardMode() && calcValidRects &&
+    if (alive && COnBoardUIGeneral::InOnBoardMode() && calcValidRects &&
         (GetExStyle() & WS_EX_CLIENTEDGE) != 0)
     {
         const CSize edge(::GetSystemMetrics(SM_CXEDGE), ::GetSystemMetrics(SM_CYEDGE));

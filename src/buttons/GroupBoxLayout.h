@@ -4,6 +4,7 @@
 // contexts.
 
 #include "paint/Metrics.h"
+#include "scroll/FauxScrollGeometry.h"
 
 #include <afxwin.h>
 
@@ -29,8 +30,11 @@ inline bool GroupCaptionFits(const CRect& client, int width)
 // library's width instead.
 inline CRect InsideBorder(const CRect& client, CSize edge)
 {
-    CRect inside(client);
-    inside.DeflateRect(metrics::Border - edge.cx, metrics::Border - edge.cy);
+    const LONGLONG across = metrics::Border - edge.cx;
+    const LONGLONG down = metrics::Border - edge.cy;
+    CRect inside(scroll::Saturated(client.left + across), scroll::Saturated(client.top + down),
+                 scroll::Saturated(client.right - across),
+                 scroll::Saturated(client.bottom - down));
     // A window of no more than its border has an empty client area, not a reversed one.
     inside.right = std::max(inside.left, inside.right);
     inside.bottom = std::max(inside.top, inside.bottom);

@@ -369,8 +369,9 @@ BOOL CALLBACK CCustomDialog::BuildListOfControls(HWND window, LPARAM data)
 
 void CCustomDialog::SetCtrlTabOrder(const UINT* ids)
 {
+    const WindowAlive alive(*this); // the controls may end it when they are told
     HWND placed = HWND_TOP;
-    for (; ids != nullptr && *ids != 0; ++ids)
+    for (; alive && ids != nullptr && *ids != 0; ++ids)
     {
         const HWND control = ::GetDlgItem(GetSafeHwnd(), int(*ids));
         if (control == nullptr || control == placed)

@@ -118,9 +118,10 @@ void CZepMsgBoxDlg::GetStaticTextSize(const CString& text, int& width, int& heig
 
 int CZepMsgBoxDlg::GetTitleWidth()
 {
+    const WindowAlive alive(*this);
     CString title;
     GetWindowText(title);
-    return dialogs::TextMeasure(*this).Title(title);
+    return !alive ? 0 : dialogs::TextMeasure(*this).Title(title);
 }
 
 void CZepMsgBoxDlg::GetButtonsSize(int& width, int& height)
@@ -226,6 +227,10 @@ void CZepMsgBoxDlg::SizeToText()
     }
     dialogs::MessagePremises premises =
         PremisesFor(title, int(m_buttons.size()), window.Size(), client.Size());
+    if (!alive)
+    {
+        return;
+    }
     // A box that was created in its place has grown from the size of its template.
     const auto opened = std::exchange(m_opensWith, nullptr);
     if (opened != nullptr && opened->window == window && opened->premises.mode == premises.mode)

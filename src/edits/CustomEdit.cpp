@@ -111,7 +111,7 @@ void CCustomEdit::Init()
         return;
     }
     const WindowAlive alive(*this);
-    scroll::StripScrollStyles(*this, WS_VSCROLL);
+    m_bars->TakePlatformBars();
     if (!alive)
     {
         return;
@@ -142,6 +142,10 @@ int CCustomEdit::OnCreate(LPCREATESTRUCT)
     const WindowAlive alive(*this);
     m_bars->SetPlatformStyles(m_wantsBar ? WS_VSCROLL : 0);
     const int result = m_bars->Create();
+    if (alive && !COnBoardUIGeneral::InOnBoardMode())
+    {
+        m_bars->SetPlatformStyles(0); // the edit has them, and the host may take them away
+    }
     if (alive && result != -1)
     {
         FollowMode();
@@ -175,9 +179,10 @@ void CCustomEdit::LeaveOnBoard()
     m_barShown = false;
     m_bars->HideBars();
     const WindowAlive alive(*this);
-    if (m_wantsBar)
+    m_bars->GivePlatformBars();
+    if (alive)
     {
-        scroll::RestoreScrollStyles(*this, WS_VSCROLL);
+        m_bars->SetPlatformStyles(0);
     }
     if (alive && !m_bars->IsUnbroken())
     {
@@ -327,6 +332,7 @@ void CCustomEdit::DrawOBNC()
     {
         return;
     }
+    m_bars->InvalidateBars();
     CWindowDC dc(this);
     const CRect client = scroll::ClientRectInWindow(*this);
     CRect frame = AreaOf(*this);
@@ -343,7 +349,10 @@ void CCustomEdit::DrawOBNC()
                          frame.bottom - client.bottom, palette::Panel);
     }
     DrawOBScrollBars(&dc);
-    Invalidate();
+    if (alive)
+    {
+        Invalidate();
+    }
 }
 
 void CCustomEdit::DrawOBScrollBars(CDC* dc)

@@ -21,8 +21,9 @@ constexpr UINT DeleteCharacter = 0x7F; // Ctrl+Backspace
 
 LRESULT CCustomEdit::OnNcHitTest(CPoint point)
 {
+    const WindowAlive alive(*this);
     const LRESULT hit = Default();
-    return hit == HTNOWHERE && FollowMode() ? LRESULT(m_bars->HitBar(point)) : hit;
+    return hit == HTNOWHERE && alive && FollowMode() ? LRESULT(m_bars->HitBar(point)) : hit;
 }
 
 void CCustomEdit::OnNcLButtonDown(UINT hitTest, CPoint point)

@@ -34,6 +34,8 @@ Effect EffectOf(UINT message)
     case WM_CHAR:
     case WM_IME_CHAR:
     case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+    case WM_SYSCHAR: // with Alt the backspace key undoes
     case WM_VSCROLL:
     case WM_MOUSEWHEEL:
     case WM_MOUSEMOVE:
@@ -60,6 +62,11 @@ Effect EffectOf(UINT message)
 // Not every change is notified, and a parent need not pass its notifications on.
 LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (m_fauxReadOnly && wParam == VK_BACK &&
+        (message == WM_SYSKEYDOWN || message == WM_SYSCHAR))
+    {
+        return 0;
+    }
     const WindowAlive alive(*this);
     const Effect effect = EffectOf(message);
     m_bars->EndUnbroken();

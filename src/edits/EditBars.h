@@ -166,17 +166,22 @@ private:
     }
     void Step(int axis, int code) override
     {
-        m_edit.PostMessage(scroll::MessageOf(axis), WPARAM(code));
+        // Of a long drag more steps may wait than the system lets wait.
+        if (!m_edit.PostMessage(scroll::MessageOf(axis), WPARAM(code)))
+        {
+            m_edit.SendMessage(scroll::MessageOf(axis), WPARAM(code));
+        }
     }
     void Dragged(int axis, int before, int after) override
     {
         // The bar has positions past the end of the text: coming back out of them scrolls nothing.
         const int end = m_edit.m_lastTop;
-        for (int line = std::min(after, end); line < std::min(before, end); ++line)
+        const WindowAlive alive(m_edit);
+        for (int line = std::min(after, end); alive && line < std::min(before, end); ++line)
         {
             Step(axis, SB_LINEUP);
         }
-        for (int line = before; line < after; ++line)
+        for (int line = before; alive && line < after; ++line)
         {
             Step(axis, SB_LINEDOWN);
         }

@@ -3,6 +3,9 @@
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 
+#include <algorithm>
+#include <climits>
+
 IMPLEMENT_DYNAMIC(EditWithPrompt, CEdit)
 
 BEGIN_MESSAGE_MAP(EditWithPrompt, CEdit)
@@ -23,17 +26,19 @@ EditWithPrompt::EditWithPrompt()
 
 void EditWithPrompt::PreSubclassWindow()
 {
-    if (m_brush.GetSafeHandle() == nullptr)
-    {
-        m_brush.CreateSolidBrush(::GetSysColor(COLOR_WINDOW));
-    }
     m_showingPrompt = m_prompt.IsEmpty() ? 0 : 1; // each window of the object begins with it
     if (m_showingPrompt)
     {
         // The messages are not ours yet: an edit that exists takes them as any text and selection,
         // and one that is being made gets the prompt when it is ready for a text.
-        ::SetWindowText(m_hWnd, m_prompt);
-        ::SendMessage(m_hWnd, EM_SETSEL, 0, 0);
+        const WindowAlive alive(*this);
+        const HWND window = m_hWnd;
+        ::SetWindowText(window, m_prompt);
+        ::SendMessage(window, EM_SETSEL, 0, 0);
+        if (!alive)
+        {
+            return; // the parent was told of the text
+        }
     }
     CEdit::PreSubclassWindow();
 }
@@ -157,7 +162,8 @@ LRESULT EditWithPrompt::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         switch (message)
         {
         case WM_GETTEXT:
-            return GetWindowText(reinterpret_cast<char*>(lParam), int(wParam));
+            return GetWindowText(reinterpret_cast<char*>(lParam),
+                                 int(std::min<WPARAM>(wParam, INT_MAX)));
         case WM_GETTEXTLENGTH:
             return 0;
         case WM_SETTEXT:
@@ -199,11 +205,18 @@ HBRUSH EditWithPrompt::CtlColor(CDC* dc, UINT kind)
     {
         return nullptr; // a disabled edit looks as its parent has it
     }
+    const COLORREF ground = ::GetSysColor(COLOR_WINDOW);
+    LOGBRUSH made = {};
+    if (!m_brush.GetLogBrush(&made) || made.lbColor != ground) // the user may change the colour
+    {
+        m_brush.DeleteObject();
+        m_brush.CreateSolidBrush(ground);
+    }
     if (dc == nullptr)
     {
         return m_brush;
     }
-    dc->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    dc->SetBkColor(ground);
     dc->SetTextColor(m_showingPrompt ? m_promptColor : ::GetSysColor(COLOR_WINDOWTEXT));
     return m_brush;
 }

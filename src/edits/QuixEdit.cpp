@@ -59,7 +59,12 @@ void QuixEdit::SetFixedPlace(int x, int y, int width)
 
 void QuixEdit::OnWindowPosChanging(WINDOWPOS* position)
 {
+    const WindowAlive alive(*this);
     CEdit::OnWindowPosChanging(position);
+    if (!alive)
+    {
+        return;
+    }
     position->x = m_fixedX;
     position->y = m_fixedY;
     position->cx = m_fixedWidth;

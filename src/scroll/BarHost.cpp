@@ -257,9 +257,9 @@ bool BarHost::DrawBar(int axis, bool force)
            PainterOf(axis).Draw(m_window, *BarOf(axis), DrawnPart(axis), force);
 }
 
-bool BarHost::DrawBar(CDC& dc, int axis)
+void BarHost::DrawBar(CDC& dc, int axis)
 {
-    return PainterOf(axis).Draw(dc, m_window, *BarOf(axis), DrawnPart(axis));
+    PainterOf(axis).DrawTo(dc, m_window, *BarOf(axis), DrawnPart(axis));
 }
 
 void BarHost::DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner)

@@ -92,7 +92,8 @@ public:
     void InvalidateBars();
     // Paints a bar that looks different from what is on the screen; true when it was painted.
     bool DrawBar(int axis, bool force = false);
-    bool DrawBar(CDC& dc, int axis); // a context of the whole window
+    // Paints a bar through a context that somebody else has, with the origin of the whole window.
+    void DrawBar(CDC& dc, int axis);
     // The frame round the client area and the bars, and the corner where two bands meet.
     void DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner);
 

@@ -69,15 +69,22 @@ bool BarPainter::Draw(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSE
     return true;
 }
 
-bool BarPainter::Draw(CDC& target, CWnd& window, CFauxScrollBar& bar,
-                      CFauxScrollBar::ePRESSED pressed, bool force)
+void BarPainter::DrawTo(CDC& target, CWnd& window, CFauxScrollBar& bar,
+                        CFauxScrollBar::ePRESSED pressed)
 {
-    if (!Take(window, bar, pressed, force))
+    if (::WindowFromDC(target) == window.GetSafeHwnd())
     {
-        return false;
+        if (Take(window, bar, pressed, true))
+        {
+            Paint(target, bar, *m_last);
+        }
+        return;
     }
-    Paint(target, bar, *m_last);
-    return true;
+    const BarAppearance now(bar, pressed, window.IsWindowEnabled() != FALSE);
+    if (now.shown != 0 && !now.area.IsRectEmpty())
+    {
+        Paint(target, bar, now);
+    }
 }
 
 } // namespace scroll

@@ -39,9 +39,9 @@ public:
     // was painted.
     bool Draw(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed,
               bool force = false);
-    // The same through a context of the window that the caller has already.
-    bool Draw(CDC& target, CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed,
-              bool force = false);
+    // Paints the bar, unless it is hidden, through a context that somebody else has: what is on the
+    // screen counts only if that is where it draws.
+    void DrawTo(CDC& target, CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed);
 
 private:
     bool Take(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSED pressed, bool force);

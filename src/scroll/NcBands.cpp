@@ -1,6 +1,7 @@
 #include "scroll/NcBands.h"
 
 #include "paint/Metrics.h"
+#include "scroll/FauxScrollGeometry.h"
 
 #include <algorithm>
 #include <utility>
@@ -42,10 +43,12 @@ void TrackNcLeave(const CWnd& window, DWORD flags)
 
 void TakeBands(RECT& proposed, const CSize& inset, bool verticalBar, bool horizontalBar)
 {
-    proposed.left += inset.cx;
-    proposed.top += inset.cy;
-    proposed.right -= inset.cx + (verticalBar ? metrics::ScrollBand : 0);
-    proposed.bottom -= inset.cy + (horizontalBar ? metrics::ScrollBand : 0);
+    const int right = inset.cx + (verticalBar ? metrics::ScrollBand : 0);
+    const int bottom = inset.cy + (horizontalBar ? metrics::ScrollBand : 0);
+    proposed.left = Saturated(LONGLONG{proposed.left} + inset.cx);
+    proposed.top = Saturated(LONGLONG{proposed.top} + inset.cy);
+    proposed.right = Saturated(LONGLONG{proposed.right} - right);
+    proposed.bottom = Saturated(LONGLONG{proposed.bottom} - bottom);
     proposed.right = std::max(proposed.left, proposed.right);
     proposed.bottom = std::max(proposed.top, proposed.bottom);
 }

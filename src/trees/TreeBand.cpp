@@ -35,7 +35,9 @@ bool Meet(const CRect& a, const CRect& b)
 
 } // namespace
 
-// Where the first item's text begins: the content moves with it.
+// Where the first item's text begins: the content moves with it. The place of a text that the
+// parent keeps is known only after it was asked for, and that may end anything: so here, and
+// wherever else a band looks where items are.
 CPoint TreeSelection::ContentOrigin() const
 {
     return m_items.Rect(m_items.Root(), true).TopLeft();
@@ -51,29 +53,45 @@ CRect TreeSelection::BandBox(HTREEITEM item) const
     return m_look->IconAndText(item);
 }
 
-// In order from the top. Looks at the rows in sight and at those that the rectangle reaches.
-std::vector<HTREEITEM> TreeSelection::ItemsMeeting(const CRect& rect) const
+// In order from the top; null for one that has gone meanwhile. Looks at the rows in sight and at
+// those that the rectangle reaches.
+std::vector<HTREEITEM> TreeSelection::ItemsMeeting(const CRect& rect)
 {
-    std::vector<HTREEITEM> items;
-    const HTREEITEM top = m_items.Next(nullptr, TVGN_FIRSTVISIBLE);
-    for (HTREEITEM item = top; item != nullptr && m_items.Rect(item, false).bottom > rect.top;)
-    {
-        item = m_items.Next(item, TVGN_PREVIOUSVISIBLE);
-        if (item != nullptr && Meet(BandBox(item), rect))
+    const WindowAlive alive(Window());
+    WatchedItems items(m_items, {});
+    WatchedItem item(m_items);
+    const WatchedItem top(m_items, m_items.Next(nullptr, TVGN_FIRSTVISIBLE));
+    const auto take = [&](HTREEITEM next) {
+        item.Set(next);
+        const bool meets = next != nullptr && Meet(BandBox(next), rect);
+        if (alive && meets && item.Get() != nullptr)
         {
-            items.push_back(item);
+            items.Add(next);
+        }
+        return alive && item.Get() != nullptr;
+    };
+    HTREEITEM above = top.Get();
+    while (above != nullptr && m_items.Rect(above, false).bottom > rect.top)
+    {
+        above = m_items.Next(above, TVGN_PREVIOUSVISIBLE);
+        if (!take(above))
+        {
+            break;
         }
     }
-    std::reverse(items.begin(), items.end());
-    for (HTREEITEM item = top; item != nullptr && m_items.Rect(item, false).top < rect.bottom;
-         item = m_items.Next(item, TVGN_NEXTVISIBLE))
+    if (!alive)
     {
-        if (Meet(BandBox(item), rect))
-        {
-            items.push_back(item);
-        }
+        return {};
     }
-    return items;
+    std::vector<HTREEITEM> order = items.All();
+    std::reverse(order.begin(), order.end());
+    items.Set(std::move(order));
+    HTREEITEM below = top.Get();
+    while (below != nullptr && m_items.Rect(below, false).top < rect.bottom && take(below))
+    {
+        below = m_items.Next(below, TVGN_NEXTVISIBLE);
+    }
+    return items.All();
 }
 
 // Selects what meets rect and deselects what does not; with MK_CONTROL only what a band had
@@ -99,7 +117,13 @@ void TreeSelection::UpdateSelectionForRect(const CRect& rect, UINT flags)
         }
         m_band->stretched = true;
     }
+    const WatchedItems asked(m_items, candidates);
     std::vector<HTREEITEM> meeting = ItemsMeeting(rect);
+    if (!alive)
+    {
+        return;
+    }
+    candidates = asked.All();
     const std::unordered_set<HTREEITEM> inside(meeting.begin(), meeting.end());
     std::erase_if(candidates, [&](HTREEITEM item) {
         return item == nullptr || inside.count(item) != 0 || kept.count(item) != 0 ||
@@ -144,11 +168,17 @@ void TreeSelection::RestoreBeforeBand(Band& band)
 // Where the band is, for the next paint.
 void TreeSelection::PlaceBand()
 {
+    const WindowAlive alive(Window());
+    const CPoint origin = ContentOrigin();
+    if (!alive || m_band == nullptr)
+    {
+        return;
+    }
     CRect client;
     Window().GetClientRect(&client);
     const CPoint end = WithinClient(client, m_band->pointer);
     const CRect old = m_band->rect;
-    m_band->rect = Between(m_band->pressed + ContentOrigin(), end);
+    m_band->rect = Between(m_band->pressed + origin, end);
     if (old != m_band->rect)
     {
         TreeLook::InvalidateBand(Handle(), old);
@@ -160,6 +190,10 @@ void TreeSelection::MoveBand()
 {
     const WindowAlive alive(Window());
     PlaceBand();
+    if (!alive || m_band == nullptr)
+    {
+        return;
+    }
     UpdateSelectionForRect(m_band->rect, m_band->flags);
     if (alive && m_band != nullptr && m_scrollTimer == 0)
     {
@@ -211,9 +245,17 @@ void TreeSelection::DoBanding(bool left, UINT flags, CPoint point)
     {
         return;
     }
-    Band band(*this, flags, point);
+    const CPoint origin = ContentOrigin();
+    if (!alive)
+    {
+        return;
+    }
+    Band band(*this, flags, point, origin);
     m_band = &band;
-    BeginLoop();
+    if (!BeginLoop())
+    {
+        return;
+    }
     MSG last = {};
     const LoopEnd end = RunBand(band, last);
     if (!alive)
@@ -330,6 +372,10 @@ void TreeSelection::ScrollForBand()
                        : pointer.x >= client.right - edge ? 1
                                                           : 0;
     const CPoint before = ContentOrigin();
+    if (!alive || m_band == nullptr)
+    {
+        return;
+    }
     if (down != 0)
     {
         ::SendMessage(window, WM_VSCROLL, down < 0 ? SB_LINEUP : SB_LINEDOWN, 0);
@@ -338,7 +384,12 @@ void TreeSelection::ScrollForBand()
     {
         ::SendMessage(window, WM_HSCROLL, across < 0 ? SB_LINELEFT : SB_LINERIGHT, 0);
     }
-    if (alive && m_band != nullptr && ContentOrigin() != before)
+    if (!alive || m_band == nullptr)
+    {
+        return;
+    }
+    const CPoint now = ContentOrigin();
+    if (alive && m_band != nullptr && now != before)
     {
         MoveBand();
     }

@@ -7,9 +7,9 @@ namespace trees {
 // A rubber band from its press to its end.
 struct TreeSelection::Band
 {
-    Band(TreeSelection& selection, UINT pressFlags, CPoint point)
+    Band(TreeSelection& selection, UINT pressFlags, CPoint point, CPoint origin)
         : flags(pressFlags)
-        , pressed(point - selection.ContentOrigin())
+        , pressed(point - origin)
         , pointer(point)
         , before(selection.m_items, selection.m_items.Selected())
         , met(selection.m_items, {})

@@ -125,6 +125,17 @@ CRect TreeItems::Rect(HTREEITEM item, bool textOnly) const
 
 namespace {
 
+// What a message changes of an item's state; null when it does not.
+const TVITEM* ChangeOfState(UINT message, LPARAM lParam)
+{
+    if ((message != TVM_SETITEMA && message != TVM_SETITEMW) || lParam == 0)
+    {
+        return nullptr;
+    }
+    const auto* const change = reinterpret_cast<const TVITEM*>(lParam); // both forms begin alike
+    return (change->mask & TVIF_STATE) != 0 ? change : nullptr;
+}
+
 // Whether the platform may move its caret, and with it the selection, while it handles a message.
 bool MovesCaret(UINT message)
 {
@@ -162,9 +173,14 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const bool caretLeaves =
         message == TVM_SELECTITEM && wParam == TVGN_CARET && HTREEITEM(lParam) != m_unwritten;
-    if (!caretLeaves && message != WM_DESTROY && message != WM_NCDESTROY)
+    const WindowAlive alive(m_owner.Window());
+    if (!caretLeaves && m_unwritten != nullptr && message != WM_DESTROY && message != WM_NCDESTROY)
     {
         WriteUnwritten();
+        if (!alive)
+        {
+            return 0;
+        }
     }
     // The platform goes on with what it has even after it has told a parent that ends the window.
     // What it has is better lost than freed under it.
@@ -214,8 +230,11 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     m_going.insert(going.begin(), going.end());
     m_goingAll += goingAll;
     const bool movesCaret = MovesCaret(message);
-    const WindowAlive alive(m_owner.Window());
-    m_inPlatform += movesCaret;
+    const TVITEM* const change = ChangeOfState(message, lParam);
+    const WatchedItem changed(*this, change != nullptr ? Real(change->hItem) : nullptr);
+    const bool selects = change != nullptr && (change->stateMask & TVIS_SELECTED) != 0;
+    const bool tells = movesCaret || change != nullptr;
+    m_inPlatform += tells;
     const LRESULT result =
         abandons ? ::DefWindowProc(m_owner.Window().GetSafeHwnd(), message, wParam, lParam)
                  : m_owner.Platform(message, wParam, lParam);
@@ -229,13 +248,17 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
         return result;
     }
     // Both may have begun anew meanwhile.
-    m_inPlatform -= movesCaret && m_inPlatform > 0;
+    m_inPlatform -= tells && m_inPlatform > 0;
     m_goingAll -= goingAll && m_goingAll > 0;
     if (caretLeaves && m_unwritten != nullptr)
     {
         if (Caret() == m_unwritten)
         {
             WriteUnwritten(); // the parent has refused
+            if (!alive)
+            {
+                return result;
+            }
         }
         m_unwritten = nullptr;
     }
@@ -255,14 +278,9 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     {
         return result;
     }
-    if ((message == TVM_SETITEMA || message == TVM_SETITEMW) && result && lParam != 0)
+    if (selects && changed.Get() != nullptr)
     {
-        // Both forms begin alike.
-        const auto& item = *reinterpret_cast<const TVITEM*>(lParam);
-        if ((item.mask & TVIF_STATE) != 0 && (item.stateMask & TVIS_SELECTED) != 0)
-        {
-            Hold(item.hItem, (item.state & TVIS_SELECTED) != 0);
-        }
+        Refresh(changed.Get()); // the parent may have refused it
     }
     else if ((message == TVM_INSERTITEMA || message == TVM_INSERTITEMW) && result)
     {

@@ -51,7 +51,8 @@ public:
     }
     bool IsSelected(HTREEITEM item) const { return State(item, TVIS_SELECTED) != 0; }
     LPARAM Data(HTREEITEM item) const;
-    // Sets state bits without asking or telling anybody.
+    // Sets state bits without asking or telling anybody. The platform may do so by itself, with
+    // TVN_ITEMCHANGING and TVN_ITEMCHANGED: the change may be refused, and anything end.
     void Apply(HTREEITEM item, UINT state, UINT mask);
     // Has the platform know all that Apply was told; due before it is asked past this class.
     void WriteUnwritten();
@@ -93,7 +94,7 @@ private:
     std::unordered_set<HTREEITEM> m_selected;
     std::unordered_set<HTREEITEM> m_going;     // being deleted by the platform
     int m_goingAll = 0;                        // depth of deletions of everything
-    int m_inPlatform = 0;                      // depth of messages by which the caret may move
+    int m_inPlatform = 0;                      // depth of messages in which the parent is told
     std::unique_ptr<WatchedItems> m_postponed; // to be deleted when that is over
     bool m_abandoned = false; // the platform's tree does not hear of the window's end
     // Outlives this object if a watch does.
@@ -130,6 +131,7 @@ public:
     size_t Size() const { return m_items.size(); }
     HTREEITEM operator[](size_t index) const { return m_items[index]; }
     const std::vector<HTREEITEM>& All() const { return m_items; }
+    void Add(HTREEITEM item) { m_items.push_back(item); }
     void Set(std::vector<HTREEITEM> items) { m_items = std::move(items); }
 
 private:

@@ -158,10 +158,11 @@ CSize TreeLook::ImageSize(int list) const
 
 CRect TreeLook::IconAndText(HTREEITEM item) const
 {
-    CRect rect = m_items.Rect(item, true);
+    const int icon = ImageSize(TVSIL_NORMAL).cx;
+    CRect rect = m_items.Rect(item, true); // for a text's width the parent may be asked, and end us
     if (!rect.IsRectEmpty())
     {
-        rect.left -= ImageSize(TVSIL_NORMAL).cx;
+        rect.left -= icon;
     }
     return rect;
 }

@@ -80,7 +80,10 @@ LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
     {
         // The platform copies pixels when it scrolls, those of the band among them.
         PlaceBand();
-        ::InvalidateRect(Handle(), nullptr, FALSE);
+        if (alive)
+        {
+            ::InvalidateRect(Handle(), nullptr, FALSE);
+        }
     }
     return result;
 }

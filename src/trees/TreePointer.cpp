@@ -38,7 +38,12 @@ void TreeSelection::OnButtonDown(bool left, UINT flags, CPoint point)
     }
     TVHITTESTINFO hit = {};
     hit.pt = point;
+    const WindowAlive alive(Window());
     const auto item = HTREEITEM(m_items.Ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+    if (!alive)
+    {
+        return; // for the width of a text the parent may be asked
+    }
     const bool checks = left && (hit.flags & TVHT_ONITEMSTATEICON) != 0 &&
                         (Window().GetStyle() & TVS_CHECKBOXES) != 0;
     if ((hit.flags & (TVHT_ONITEMINDENT | TVHT_ONITEMBUTTON)) != 0 || checks)
@@ -51,7 +56,6 @@ void TreeSelection::OnButtonDown(bool left, UINT flags, CPoint point)
         DoBanding(left, flags, point);
         return;
     }
-    const WindowAlive alive(Window());
     const WatchedItem held(m_items, item);
     DoPreSelection(item, left, flags);
     if (alive && held.Get() != nullptr)
@@ -134,6 +138,13 @@ TreeSelection::LoopEnd TreeSelection::NextOfPress(MSG& message)
             ::MsgWaitForMultipleObjects(0, nullptr, FALSE, PressWait, QS_ALLINPUT);
             continue;
         }
+        if (!alive)
+        {
+            // A message that somebody has sent was delivered first; this one is for others.
+            ::TranslateMessage(&message);
+            ::DispatchMessage(&message);
+            break;
+        }
         if (message.message == WM_QUIT)
         {
             ::PostQuitMessage(int(message.wParam));
@@ -156,7 +167,10 @@ TreeSelection::LoopEnd TreeSelection::WaitForMove(MSG& last)
     const WindowAlive alive(Window());
     const CSize threshold = m_owner.GetDragThreshold();
     std::optional<CPoint> first;
-    BeginLoop();
+    if (!alive || !BeginLoop())
+    {
+        return LoopEnd::Lost;
+    }
     LoopEnd end = LoopEnd::Lost;
     while (alive)
     {
@@ -201,20 +215,26 @@ bool TreeSelection::TakeKeyboard()
         return false;
     }
     // Without a caret the platform gives its own to the first item, and selects that.
-    const HTREEITEM caret = m_items.Caret();
-    if (!hadCaret && caret != nullptr &&
-        std::find(before.All().begin(), before.All().end(), caret) == before.All().end())
+    const WatchedItem caret(m_items, m_items.Caret());
+    if (!hadCaret && caret.Get() != nullptr &&
+        std::find(before.All().begin(), before.All().end(), caret.Get()) == before.All().end())
     {
-        m_items.Apply(caret, 0, TVIS_SELECTED);
+        Put(caret, false);
     }
-    return true;
+    return bool(alive);
 }
 
-void TreeSelection::BeginLoop()
+// False when the tree ended with it: whoever had the capture is told that it is taken.
+bool TreeSelection::BeginLoop()
 {
+    const WindowAlive alive(Window());
     ::SetCapture(Handle());
-    m_inLoop = true;
-    m_pressSeen = ::GetTickCount();
+    if (alive)
+    {
+        m_inLoop = true;
+        m_pressSeen = ::GetTickCount();
+    }
+    return bool(alive);
 }
 
 void TreeSelection::EndLoop()
@@ -391,22 +411,26 @@ void TreeSelection::MoveArrow(const WatchedItem& caret, bool down, bool shift)
     {
         return;
     }
-    const HTREEITEM target = next.Get() != nullptr ? next.Get() : caret.Get();
+    const WatchedItem target(m_items, next.Get() != nullptr ? next.Get() : caret.Get());
     if (shift)
     {
-        m_owner.SelectRange(m_anchor.Get(), target, true);
+        m_owner.SelectRange(m_anchor.Get(), target.Get(), true);
     }
     else
     {
         // Where the platform has moved its caret by itself, it has selected and deselected.
         if (next.Get() != nullptr && m_items.Caret() == next.Get())
         {
-            m_items.Apply(next.Get(), nextWasSelected ? TVIS_SELECTED : 0, TVIS_SELECTED);
+            Put(next, nextWasSelected);
+            if (!alive)
+            {
+                return;
+            }
         }
-        SetItemState(target, TVIS_FOCUSED, TVIS_FOCUSED, true);
-        if (alive && caret.Get() != nullptr && caret.Get() != m_items.Caret())
+        SetItemState(target.Get(), TVIS_FOCUSED, TVIS_FOCUSED, true);
+        if (alive && caret.Get() != m_items.Caret())
         {
-            m_items.Apply(caret.Get(), caretWasSelected ? TVIS_SELECTED : 0, TVIS_SELECTED);
+            Put(caret, caretWasSelected);
         }
     }
     if (alive)

@@ -71,9 +71,10 @@ void TreeSelection::SetMultiSelect(bool multi)
         {
             return;
         }
-        if (caret.Get() != nullptr)
+        Put(caret, true);
+        if (!alive)
         {
-            m_items.Apply(caret.Get(), Select, Select);
+            return;
         }
         m_anchor.Set(nullptr);
     }
@@ -125,6 +126,18 @@ bool TreeSelection::SetCaret(HTREEITEM item)
     return alive && m_items.Caret() == item;
 }
 
+// Selects or deselects an item without asking, or being told of, anything here. False when item or
+// tree did not survive it: the platform may tell the parent.
+bool TreeSelection::Put(const WatchedItem& item, bool selected)
+{
+    const WindowAlive alive(Window());
+    if (item.Get() != nullptr)
+    {
+        m_items.Apply(item.Get(), selected ? Select : 0, Select);
+    }
+    return alive && item.Get() != nullptr;
+}
+
 // Takes the caret from an item that has it. False when the item did not survive it.
 bool TreeSelection::ClearFocus(const WatchedItem& item, bool wasSelected, UINT state, UINT& mask)
 {
@@ -137,15 +150,12 @@ bool TreeSelection::ClearFocus(const WatchedItem& item, bool wasSelected, UINT s
     // The platform has deselected the item with the caret.
     if ((mask & Select) == 0)
     {
-        if (wasSelected)
-        {
-            m_items.Apply(item.Get(), Select, Select);
-        }
+        return !wasSelected || Put(item, true);
     }
-    else if ((state & Select) != 0)
+    if ((state & Select) != 0)
     {
-        m_items.Apply(item.Get(), Select, Select);
         mask &= ~Select;
+        return Put(item, true);
     }
     return true;
 }
@@ -162,11 +172,8 @@ bool TreeSelection::TakeFocus(const WatchedItem& item, bool wasSelected, UINT& s
         {
             return false;
         }
-        if (caret.Get() != nullptr)
-        {
-            m_items.Apply(caret.Get(), Select, Select);
-        }
-        if (!m_bulk)
+        Put(caret, true);
+        if (alive && !m_bulk)
         {
             Window().UpdateWindow();
         }
@@ -229,7 +236,14 @@ int TreeSelection::SetItemState(HTREEITEM given, UINT state, UINT mask, bool not
             {
                 return FALSE;
             }
-            m_items.Apply(item.Get(), state & Select, Select);
+            if (!Put(item, selecting))
+            {
+                return TRUE; // nothing is left to tell of
+            }
+            if (m_items.IsSelected(item.Get()) != selecting)
+            {
+                return FALSE; // refused when the platform asked
+            }
             if (notify)
             {
                 Announce(TVN_SELCHANGED, item.Get(), selecting);
@@ -257,9 +271,9 @@ int TreeSelection::SetItemState(HTREEITEM given, UINT state, UINT mask, bool not
 // on the systems where this is needed.
 void TreeSelection::GiveBack(const WatchedItem& previous, bool wasSelected)
 {
-    if (CaretMovesDeselect() && wasSelected && previous.Get() != nullptr)
+    if (CaretMovesDeselect() && wasSelected)
     {
-        m_items.Apply(previous.Get(), Select, Select);
+        Put(previous, true);
     }
 }
 
@@ -351,12 +365,14 @@ bool TreeSelection::Closes(HTREEITEM item, UINT action) const
         return true;
     case TVE_TOGGLE:
         return m_items.State(item, TVIS_EXPANDED) != 0;
-    default:
+    case TVE_EXPAND:
         return false;
+    default:
+        return (action & TVE_COLLAPSERESET) != 0;
     }
 }
 
-// A closed branch hides no selection.
+// A closed branch hides no selection. The caret goes with it, but not what is selected elsewhere.
 void TreeSelection::LeaveBranch(HTREEITEM item)
 {
     const WindowAlive alive(Window());
@@ -364,7 +380,14 @@ void TreeSelection::LeaveBranch(HTREEITEM item)
     if (m_multi && SelectChildren(item, false, true) && alive && held.Get() != nullptr &&
         !m_items.IsSelected(held.Get()))
     {
+        const WatchedItem caret(m_items, m_items.Caret());
+        const bool elsewhere =
+            m_items.IsSelected(caret.Get()) && !m_items.IsWithin(caret.Get(), item);
         SetCaret(nullptr);
+        if (alive && elsewhere)
+        {
+            Put(caret, true);
+        }
     }
 }
 

@@ -123,6 +123,7 @@ private:
     HWND Handle() const { return Window().GetSafeHwnd(); }
 
     bool SetCaret(HTREEITEM item);
+    bool Put(const WatchedItem& item, bool selected);
     bool ClearFocus(const WatchedItem& item, bool wasSelected, UINT state, UINT& mask);
     bool TakeFocus(const WatchedItem& item, bool wasSelected, UINT& state, UINT& mask);
     int Announce(UINT code, HTREEITEM item, bool selecting);
@@ -135,7 +136,7 @@ private:
     LoopEnd WaitForMove(MSG& last);
     void Reset();
     bool TakeKeyboard();
-    void BeginLoop();
+    bool BeginLoop();
     void EndLoop();
     void Click(const WatchedItem& item, UINT flags);
     void TellClick(const WatchedItem& item, bool left, CPoint point, const MSG& up);
@@ -143,7 +144,7 @@ private:
     void MoveArrow(const WatchedItem& caret, bool down, bool shift);
 
     CRect BandBox(HTREEITEM item) const;
-    std::vector<HTREEITEM> ItemsMeeting(const CRect& rect) const;
+    std::vector<HTREEITEM> ItemsMeeting(const CRect& rect);
     CPoint ContentOrigin() const;
     LoopEnd RunBand(Band& band, MSG& last);
     void MoveBand();
