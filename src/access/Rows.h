@@ -12,7 +12,7 @@ namespace access {
 
 constexpr long ChildOf(int index)
 {
-    return long(static_cast<unsigned>(index) + 1); // of the last number, too, though no row has it
+    return static_cast<int>(static_cast<unsigned>(index) + 1U); // of any number, without overflow
 }
 
 // The row that a child id stands for in a list of so many, or -1.
