@@ -146,12 +146,13 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
     if (alive && !children.scaledLater)
     {
         const PaintingHeld held(window);
-        const std::vector<HWND> windows = ChildrenNow(handle);
-        const lists::ComboScaling combos(handle, windows, ModeScale(newMode, oldMode) > 1);
-        RestyleChildren(handle, newMode, oldMode);
+        const lists::ComboScaling combos(handle);
+        const std::vector<HWND> windows = RestyleChildren(
+            handle, newMode, oldMode,
+            ModeScale(newMode, oldMode) > 1 ? &lists::ComboScaling::NoteStandard : nullptr);
         if (alive)
         {
-            combos.Fit();
+            lists::ComboScaling::Fit(windows);
         }
         const HFONT onBoard = CCustomDialog::m_OBStaticTextFont;
         if (alive && oldMode == STD)
@@ -398,10 +399,10 @@ void OpenOnBoard(HWND window, HFONT standard, std::span<const HWND> placed)
     {
         return;
     }
-    const std::vector<HWND> children = ChildrenNow(window);
-    const lists::ComboScaling combos(window, children, true);
-    RestyleNewWindow(window, placed);
-    combos.Fit();
+    const lists::ComboScaling combos(window);
+    const std::vector<HWND> children =
+        RestyleNewWindow(window, placed, &lists::ComboScaling::NoteStandard);
+    lists::ComboScaling::Fit(children);
     SwapFonts(children, standard, CCustomDialog::m_OBStaticTextFont);
 }
 

@@ -62,8 +62,7 @@ Effect EffectOf(UINT message)
 // Not every change is notified, and a parent need not pass its notifications on.
 LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (m_fauxReadOnly && wParam == VK_BACK &&
-        (message == WM_SYSKEYDOWN || message == WM_SYSCHAR))
+    if (m_fauxReadOnly && wParam == VK_BACK && (message == WM_SYSKEYDOWN || message == WM_SYSCHAR))
     {
         return 0;
     }
@@ -79,7 +78,8 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_bars->RestoreFirstLine();
     }
-    if (alive && !m_bars->IsUnbroken() && FollowMode() && (effect == Effect::LaysOut || TextMoved()))
+    if (alive && !m_bars->IsUnbroken() && FollowMode() &&
+        (effect == Effect::LaysOut || TextMoved()))
     {
         FollowText();
     }

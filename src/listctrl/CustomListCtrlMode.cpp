@@ -83,8 +83,7 @@ void CCustomListCtrl::Bars::LayOut()
     if (alive)
     {
         const UINT erase = InOnBoard() ? 0 : RDW_ERASE;
-        m_list.RedrawWindow(nullptr, nullptr,
-                            RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | erase);
+        m_list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | erase);
     }
 }
 

@@ -9,7 +9,6 @@
 #include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace lists {
@@ -32,16 +31,11 @@ CRect PlaceOf(HWND window)
 
 } // namespace
 
-ComboScaling::ComboScaling(HWND parent, std::span<const HWND> children, bool growing)
+ComboScaling::ComboScaling(HWND parent)
     : m_parent(parent)
-    , m_children(children)
     , m_outer(m_current)
 {
     m_current = this;
-    if (growing)
-    {
-        std::ranges::for_each(children, &ComboScaling::NoteStandard);
-    }
 }
 
 bool ComboScaling::IsAtWorkIn(HWND parent)
@@ -82,13 +76,13 @@ void ComboScaling::NoteStandard(HWND window)
     }
 }
 
-void ComboScaling::Fit() const
+void ComboScaling::Fit(std::span<const HWND> children)
 {
     // What is done to one may have ended others.
-    ForEachLeft(m_children, [this](HWND child) { Fit(child); });
+    ForEachLeft(children, [children](HWND child) { Fit(child, children); });
 }
 
-void ComboScaling::Fit(HWND window) const
+void ComboScaling::Fit(HWND window, std::span<const HWND> siblings)
 {
     if (CCustomDropListCombo* const combo = ComboOf(window))
     {
@@ -100,7 +94,7 @@ void ComboScaling::Fit(HWND window) const
         }
         const int standard = combo->m_heights[STD];
         combo->m_fitted = COnBoardUIGeneral::InOnBoardMode() && standard > 0
-                              ? FittedHeight(window, standard, natural)
+                              ? FittedHeight(window, siblings, standard, natural)
                               : 0;
         combo->SetHeight(combo->HeightFor(COnBoardUIGeneral::GetAppMode()));
         return;
@@ -118,7 +112,7 @@ void ComboScaling::Fit(HWND window) const
     if (COnBoardUIGeneral::InOnBoardMode())
     {
         const int row = CCustomComboLBox().GetEntryHeight("X");
-        height = FittedHeight(window, heights.standard, row + 2 * metrics::Border);
+        height = FittedHeight(window, siblings, heights.standard, row + 2 * metrics::Border);
         ::SetProp(window, HeightsProperty,
                   reinterpret_cast<HANDLE>(DWORD_PTR(MAKELONG(heights.standard, height))));
     }
@@ -126,10 +120,11 @@ void ComboScaling::Fit(HWND window) const
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-int ComboScaling::FittedHeight(HWND window, int standard, int wanted) const
+int ComboScaling::FittedHeight(HWND window, std::span<const HWND> siblings, int standard,
+                               int wanted)
 {
     std::vector<CRect> others;
-    for (const HWND child : m_children)
+    for (const HWND child : siblings)
     {
         if (child != window && ::IsWindow(child))
         {

@@ -16,15 +16,15 @@ namespace lists {
 class ComboScaling
 {
 public:
-    // Of a parent with its direct children. growing: they stand as in the standard mode and are
-    // about to leave it.
-    ComboScaling(HWND parent, std::span<const HWND> children, bool growing);
+    explicit ComboScaling(HWND parent);
     ComboScaling(const ComboScaling&) = delete;
     ComboScaling& operator=(const ComboScaling&) = delete;
     ~ComboScaling() { m_current = m_outer; }
 
+    // Before the scaling of a child that stands as in the standard mode and is about to leave it.
+    static void NoteStandard(HWND window);
     // After the scaling: gives the combos among the children their heights.
-    void Fit() const;
+    static void Fit(std::span<const HWND> children);
 
     // Whether a window is scaling its children.
     static bool IsAtWorkIn(HWND parent);
@@ -39,14 +39,12 @@ public:
 
 private:
     HWND m_parent;
-    std::span<const HWND> m_children; // some may have ended
     const ComboScaling* m_outer;
 
     static inline const ComboScaling* m_current = nullptr;
 
-    static void NoteStandard(HWND window);
-    void Fit(HWND window) const;
-    int FittedHeight(HWND window, int standard, int wanted) const;
+    static void Fit(HWND window, std::span<const HWND> siblings);
+    static int FittedHeight(HWND window, std::span<const HWND> siblings, int standard, int wanted);
 };
 
 } // namespace lists

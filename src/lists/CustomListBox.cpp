@@ -275,8 +275,7 @@ void CCustomListBox::LeaveOnBoard()
     // The platform cuts a list to whole rows whenever its frame changes; unless the host has sized
     // it since, it gets back what it had.
     const bool givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
-    m_bars->givesPlaceBack =
-        m_bars->standardPlace > 0 && m_hBar.GetScrollPos() == m_bars->placeBar;
+    m_bars->givesPlaceBack = m_bars->standardPlace > 0 && m_hBar.GetScrollPos() == m_bars->placeBar;
     m_bars->End();
     HideBars();
     m_standardKnown = true;
@@ -346,7 +345,8 @@ void CCustomListBox::Bars::FinishLeaving()
     }
 }
 
-// A list that gets its place with its font ---------------------------------------------------------
+// A list that gets its place with its font
+// ---------------------------------------------------------
 
 bool CCustomListBox::Bars::AwaitPlace()
 {
@@ -365,7 +365,7 @@ void CCustomListBox::Bars::TakePlace(WINDOWPOS& position)
     if (InOnBoard())
     {
         ForeseeBars((position.flags & SWP_NOSIZE) != 0 ? SizeOf(m_list)
-                                                              : CSize(position.cx, position.cy));
+                                                       : CSize(position.cx, position.cy));
     }
 }
 

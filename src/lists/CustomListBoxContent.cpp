@@ -311,8 +311,8 @@ LRESULT CCustomListBox::OnSetFont(WPARAM wParam, LPARAM lParam)
     // Whoever restyles a list between two on-board modes gives it the font that it has. Only of the
     // shared font is it known that the handle is still the same font.
     const HFONT onBoard = GetOnBoardFont();
-    const bool same = reinterpret_cast<HFONT>(wParam) == onBoard && m_bars->InOnBoard() &&
-                      Font() == onBoard;
+    const bool same =
+        reinterpret_cast<HFONT>(wParam) == onBoard && m_bars->InOnBoard() && Font() == onBoard;
     const LRESULT result = same ? 0 : Default();
     if (same && LOWORD(lParam) != 0)
     {

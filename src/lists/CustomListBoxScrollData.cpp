@@ -68,7 +68,8 @@ void CCustomListBox::Bars::ForeseeBars(const CSize& window)
 {
     CRect frame(0, 0, 0, 0);
     ::AdjustWindowRectEx(&frame, m_list.GetStyle() & WS_BORDER, FALSE, m_list.GetExStyle());
-    const CSize inset(m_list.m_frameWidth - metrics::Border, m_list.m_frameHeight - metrics::Border);
+    const CSize inset(m_list.m_frameWidth - metrics::Border,
+                      m_list.m_frameHeight - metrics::Border);
     const int count = int(Ask(LB_GETCOUNT, 0, 0));
     const int height = int(Ask(LB_GETITEMHEIGHT, 0, 0));
     if (count <= 0 || height <= 0)
@@ -81,10 +82,10 @@ void CCustomListBox::Bars::ForeseeBars(const CSize& window)
     // The room that one bar takes may call for the other.
     for (int round = 0; round < 2; ++round)
     {
-        const int across = window.cx - frame.Width() - 2 * inset.cx -
-                           (vertical ? metrics::ScrollBand : 0);
-        const int down = window.cy - frame.Height() - 2 * inset.cy -
-                         (horizontal ? metrics::ScrollBand : 0);
+        const int across =
+            window.cx - frame.Width() - 2 * inset.cx - (vertical ? metrics::ScrollBand : 0);
+        const int down =
+            window.cy - frame.Height() - 2 * inset.cy - (horizontal ? metrics::ScrollBand : 0);
         vertical = m_list.VerifyAllowVScrollBar() && m_list.RowsInSight(count, down) < count;
         if (m_list.InColumns())
         {

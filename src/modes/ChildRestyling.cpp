@@ -213,34 +213,47 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
 
 namespace {
 
-void Enumerate(HWND window, double scale, std::span<const HWND> placed = {})
+std::vector<HWND> Enumerate(HWND window, double scale, std::span<const HWND> placed,
+                            BeforeChild before)
 {
     struct Enumeration
     {
         ModifyChildWndsData change;
         std::span<const HWND> placed;
-    } enumeration = {{}, placed};
+        BeforeChild before;
+        std::vector<HWND> children;
+    } enumeration = {{}, placed, before, {}};
     enumeration.change.parent = window;
     enumeration.change.scale = scale;
     enumeration.change.mode = COnBoardUIGeneral::GetAppMode();
     const auto modify = [](HWND child, LPARAM data) -> BOOL {
         auto& all = *reinterpret_cast<Enumeration*>(data);
+        if (::GetParent(child) != all.change.parent)
+        {
+            return TRUE; // the enumeration goes deeper
+        }
+        all.children.push_back(child);
+        if (all.before != nullptr)
+        {
+            all.before(child);
+        }
         return std::ranges::find(all.placed, child) != all.placed.end() ||
                ModifyChildsForAppMode(child, reinterpret_cast<LPARAM>(&all.change));
     };
     ::EnumChildWindows(window, modify, reinterpret_cast<LPARAM>(&enumeration));
+    return std::move(enumeration.children);
 }
 
 } // namespace
 
-void RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode)
+std::vector<HWND> RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode, BeforeChild before)
 {
     // Without a window the enumeration would visit every top-level window of the desktop.
     if (newMode == oldMode || window == nullptr)
     {
-        return;
+        return {};
     }
-    Enumerate(window, ModeScale(newMode, oldMode));
+    return Enumerate(window, ModeScale(newMode, oldMode), {}, before);
 }
 
 double ModeScale(APPMODE newMode, APPMODE oldMode)
@@ -252,10 +265,11 @@ double ModeScale(APPMODE newMode, APPMODE oldMode)
     return oldMode == STD ? metrics::OnBoardScale : 1.0 / metrics::OnBoardScale;
 }
 
-void RestyleNewWindow(HWND window, std::span<const HWND> placed)
+std::vector<HWND> RestyleNewWindow(HWND window, std::span<const HWND> placed, BeforeChild before)
 {
-    if (window != nullptr && COnBoardUIGeneral::InOnBoardMode())
+    if (window == nullptr || !COnBoardUIGeneral::InOnBoardMode())
     {
-        Enumerate(window, metrics::OnBoardScale, placed);
+        return {};
     }
+    return Enumerate(window, metrics::OnBoardScale, placed, before);
 }

@@ -5,15 +5,22 @@
 #include <afxwin.h>
 
 #include <span>
+#include <vector>
+
+// What is done with each direct child before it is restyled.
+using BeforeChild = void (*)(HWND child);
 
 // Rescales and restyles the direct children of a window for a change of mode; what every
 // mode-aware window does when it is told of one. Nothing when the modes are equal or the window
-// does not exist.
-void RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode);
+// does not exist. Returns the children, of which some may have ended: asking for them once more
+// takes a question to the system for each.
+std::vector<HWND> RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode,
+                                  BeforeChild before = nullptr);
 
 // The same for a window that opens while an on-board mode is active: its children stand as in the
 // standard mode, but for those that are placed already, which are left alone.
-void RestyleNewWindow(HWND window, std::span<const HWND> placed = {});
+std::vector<HWND> RestyleNewWindow(HWND window, std::span<const HWND> placed = {},
+                                   BeforeChild before = nullptr);
 
 // Whether ModifyChildsForAppMode is at work on a window: it gets its font first and its place after
 // that, so it need not lay itself out in between. A window that keeps its place gets the

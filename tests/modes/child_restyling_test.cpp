@@ -172,6 +172,64 @@ TEST_F(ChildRestylingTest, AListBoxGetsThePlatformsBarBackInTheStandardModeOnly)
     EXPECT_EQ(log.Count(WM_STYLECHANGED), 0) << "written only when it changes";
 }
 
+// In the new mode, as a window that follows it does.
+void ChangeMode(const CWnd& parent, APPMODE mode)
+{
+    COnBoardUIGeneral::SetAppMode(mode);
+    Restyle(parent, mode == STD ? Reducing : Enlarging, mode);
+}
+
+TEST_F(ChildRestylingTest, AnEditBreaksItsLinesForItsFontAndItsPlace)
+{
+    const ModeScope standard(STD);
+    auto& edit = Add<CCustomEdit>(CRect(10, 20, 210, 120),
+                                  ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL | WS_BORDER);
+    CString paragraph;
+    for (int word = 0; word < 60; ++word)
+    {
+        paragraph += "waypoint ";
+    }
+    edit.SetWindowText(paragraph + "\r\n" + paragraph + "\r\n" + paragraph);
+    const auto isBroken = [&edit](const char* when, int firstLine) {
+        SCOPED_TRACE(when);
+        CRect client;
+        edit.GetClientRect(&client);
+        EXPECT_LE(client.Width(), WindowRectOf(edit).Width());
+        EXPECT_EQ(edit.GetFirstVisibleLine(), firstLine);
+        const int lines = edit.GetLineCount();
+        EXPECT_GT(lines, 3 + firstLine);
+        edit.SetRect(nullptr); // breaks them anew
+        EXPECT_EQ(edit.GetLineCount(), lines);
+    };
+    edit.LineScroll(7); // there are fewer paragraphs
+    ChangeMode(Host(), ONBOARD);
+    isBroken("on-board", 7);
+    edit.SetFont(&CCustomEdit::GetStdFont());
+    isBroken("a font alone", 7);
+    edit.SetFont(&CCustomEdit::GetOnBoardFont());
+    isBroken("and back", 7);
+    ChangeMode(Host(), STD);
+    isBroken("standard", 7);
+    edit.SetFont(&CCustomEdit::GetOnBoardFont());
+    isBroken("a font alone in the standard mode", 7);
+}
+
+TEST_F(ChildRestylingTest, AListBoxIsLaidOutInItsNewPlaceAlone)
+{
+    const ModeScope standard(STD);
+    auto& list = Add<CCustomListBox>(CRect(10, 20, 110, 120), WS_VSCROLL | LBS_NOINTEGRALHEIGHT);
+    for (int row = 0; row < 200; ++row)
+    {
+        list.AddString("waypoint");
+    }
+    MessageLog log(list, {WM_SIZE});
+    ChangeMode(Host(), ONBOARD);
+    EXPECT_LE(log.Count(WM_SIZE), 2) << "at the new size, and once more for its bar at most";
+    CRect client;
+    list.GetClientRect(&client);
+    EXPECT_LT(client.Width(), WindowRectOf(list).Width() - 52) << "with its bar";
+}
+
 TEST_F(ChildRestylingTest, ACombosHeightTakesInItsList)
 {
     for (const bool standard : {false, true})
