@@ -1,5 +1,6 @@
 #pragma once
 
+#include "robust/FocusGiver.h"
 #include "robust/Watch.h"
 
 #include "CustomComboLBox.h"
@@ -134,12 +135,6 @@ constexpr Forbidden PlatformFaults[] = {
     {"#32770", {WM_NOTIFY, UINT(PSN_RESET)}},
 };
 
-// How many times the platform's dialogs are giving the focus on to a control, because they have got
-// it or are activated. One that ends in that, by whatever the control tells, has its procedure
-// write eight bytes into memory that is freed already: a plain dialog without this library does so,
-// too.
-inline int DialogGivesFocus = 0;
-
 inline HWND SenderOf(UINT message, LPARAM lParam, HWND otherwise)
 {
     if (message == WM_NOTIFY)
@@ -247,8 +242,7 @@ struct Play
         const bool sibling = now->death == Death::Sibling;
         const bool dies = now->modal || now->death == Death::Parent ||
                           (!sibling && (sender == control || ::IsChild(control, sender)));
-        const bool whole = (now->modal && !sibling) || now->death == Death::Parent;
-        if ((dies && IsForbidden(sender, what, again)) || (whole && DialogGivesFocus != 0))
+        if ((dies && IsForbidden(sender, what, again)) || FocusGiver::EndsWith(now->Ending()))
         {
             now->awaited.reset();
             return false;
@@ -315,14 +309,22 @@ private:
         }
     }
 
+    // What ends, at the least.
+    HWND Ending() const
+    {
+        const HWND window = control->GetSafeHwnd(); // of a loop it ends with its owner, too
+        if (death == Death::Sibling)
+        {
+            return modal ? ::GetWindow(window, GW_CHILD) : sibling->GetSafeHwnd();
+        }
+        return death == Death::Parent && !modal ? parent->GetSafeHwnd() : window;
+    }
+
     void End()
     {
         if (modal)
         {
-            const HWND window = control->GetSafeHwnd();
-            ::DestroyWindow(death == Death::Parent    ? parent->GetSafeHwnd()
-                            : death == Death::Sibling ? ::GetWindow(window, GW_CHILD)
-                                                      : window);
+            ::DestroyWindow(death == Death::Parent ? parent->GetSafeHwnd() : Ending());
             return;
         }
         switch (death)
@@ -359,11 +361,8 @@ protected:
     }
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        const int gives = message == WM_SETFOCUS || message == WM_ACTIVATE;
-        DialogGivesFocus += gives;
-        const LRESULT result = Base::DefWindowProc(message, wParam, lParam);
-        DialogGivesFocus -= gives;
-        return result;
+        const FocusGiver giver(this->m_hWnd, message);
+        return Base::DefWindowProc(message, wParam, lParam);
     }
     void PostNcDestroy() override {} // the play owns it
 };

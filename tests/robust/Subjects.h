@@ -1,6 +1,7 @@
 #pragma once
 
 #include "catalog/Controls.h"
+#include "robust/FocusGiver.h"
 #include "support/Fenced.h"
 
 #include <gtest/gtest.h>
@@ -106,6 +107,7 @@ protected:
     }
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
+        const FocusGiver giver(this->m_hWnd, message);
         const int works = message != WM_WINDOWPOSCHANGED;
         PlatformWorks += works;
         const LRESULT result = Base::DefWindowProc(message, wParam, lParam);

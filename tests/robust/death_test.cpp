@@ -13,6 +13,8 @@
 #include "support/WindowTest.h"
 #include "support/forms.h"
 
+#include <iterator>
+
 namespace {
 
 class Sheet : public Hearing<CCustomPropSheet>
@@ -220,6 +222,16 @@ void PrintTo(const Case& tested, std::ostream* out)
     *out << tested.subject->name << ' ' << tested.parent->name;
 }
 
+// Of what is told again, in another place of the control's code: a message comes in most of the
+// steps, and every one of them would take minutes.
+bool IsSecondOrLast(const Told& what, const std::vector<Told>& all)
+{
+    std::vector<Told> alike;
+    std::ranges::copy_if(all, std::back_inserter(alike),
+                         [&](const Told& each) { return each.IsLike(what); });
+    return alike.size() > 1 && (what == alike[1] || what == alike.back());
+}
+
 class DeathAtAnyMoment : public WindowTest, public testing::WithParamInterface<Case>
 {
 protected:
@@ -287,8 +299,7 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
         {
             if (!IsFirstOfItsKind(each, told))
             {
-                // Told again, in another place of the control's code.
-                if (mode != STD && plain)
+                if (mode != STD && plain && IsSecondOrLast(each, told))
                 {
                     Give(each, Death::Control);
                 }
@@ -296,7 +307,7 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
             }
             ++kinds;
             Give(each, Death::Control);
-            if (mode != STD) // where most of what runs is the library's
+            if (mode != STD) // where most of what runs is the library's; else the first is enough
             {
                 Give(each, Death::Parent);
             }
@@ -305,6 +316,7 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
                 Give(each, kinds % 2 != 0 ? Death::Sibling : Death::Window);
             }
         }
+        std::fprintf(stderr, "PLAYS %d told %d kinds %d\n", m_plays, int(told.size()), kinds);
         // What is told by a timer may not come, nor the event of a focus; the rest does.
         EXPECT_LE(m_missed, std::max(1, m_plays / 10));
         ForgetClipboard();
