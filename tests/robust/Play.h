@@ -178,6 +178,8 @@ struct Play
     std::unique_ptr<CWnd> sibling;
     std::vector<Told> told; // each once in a step
     mutable int step = 0;
+    int from = 0;            // the step to go on with after the opening
+    bool toldBefore = false; // what is awaited, in a step that may be left out
     std::optional<Told> awaited;
     Death death;
     bool over = false;
@@ -185,6 +187,7 @@ struct Play
     int faults = Watch::Faults();
     Watch watch{[this] { return Title(); }};
 
+    static constexpr int Opening = 2; // steps: it gets the focus and is painted
     static inline Play* s_now = nullptr;
 
     Play(const std::string& what, std::optional<Told> itsAwaited, Death itsDeath)
@@ -229,7 +232,7 @@ struct Play
         Play* const now = this; // may go
         Watch::GoesOn();
         what.step = step;
-        const bool again = !IsFirstOfItsKind(what, told);
+        const bool again = toldBefore || !IsFirstOfItsKind(what, told);
         if (std::ranges::find(told, what) == told.end())
         {
             told.push_back(what);
@@ -256,7 +259,7 @@ struct Play
     template <class Act> void Do(HWND window, Act act) const
     {
         ++step;
-        if (!over && ::IsWindow(window))
+        if (!over && (step <= Opening || step >= from) && ::IsWindow(window))
         {
             act();
         }

@@ -235,15 +235,36 @@ bool IsSecondOrLast(const Told& what, const std::vector<Told>& all)
 class DeathAtAnyMoment : public WindowTest, public testing::WithParamInterface<Case>
 {
 protected:
+    std::vector<Told> m_rehearsed;
     int m_plays = 0;
     int m_missed = 0; // plays in which what was awaited was not told
 
     // Gives the play; what was told until it was over.
     std::vector<Told> Give(std::optional<Told> awaited, Death death)
     {
+        // Most is told without all that went before.
+        constexpr int Before = 2;
+        if (awaited && awaited->step > Play::Opening + Before)
+        {
+            const int missed = m_missed;
+            const std::vector<Told> told = Give(awaited, death, awaited->step - Before);
+            if (m_missed == missed)
+            {
+                return told;
+            }
+            m_missed = missed;
+            --m_plays;
+        }
+        return Give(awaited, death, 0);
+    }
+
+    std::vector<Told> Give(std::optional<Told> awaited, Death death, int from)
+    {
         const auto& [subject, kind] = GetParam();
         Play play(std::string(subject->name) + ' ' + kind->name, awaited, death);
         play.over = true; // not yet begun
+        play.from = from;
+        play.toldBefore = awaited && !IsFirstOfItsKind(*awaited, m_rehearsed);
         play.parent = kind->make(Host());
         CWnd* parent = play.parent.get();
         if (auto* const sheet = dynamic_cast<CPropertySheet*>(parent))
@@ -293,6 +314,7 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
         }
         const ModeScope scope(mode);
         const std::vector<Told> told = Give({}, Death::Window);
+        m_rehearsed = told;
         EXPECT_FALSE(told.empty());
         int kinds = 0;
         for (const Told& each : told)
@@ -316,7 +338,6 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
                 Give(each, kinds % 2 != 0 ? Death::Sibling : Death::Window);
             }
         }
-        std::fprintf(stderr, "PLAYS %d told %d kinds %d\n", m_plays, int(told.size()), kinds);
         // What is told by a timer may not come, nor the event of a focus; the rest does.
         EXPECT_LE(m_missed, std::max(1, m_plays / 10));
         ForgetClipboard();
