@@ -20,11 +20,7 @@ constexpr Known Texts[] = {
     {"report list", "first cell", {"cells after the highlight; a host may select full rows", 1.6}},
     {"header", "", {"gradient of a face", 3.1}},
     {"report list", "SysHeader32", {"gradient of a face", 3.1}},
-    {"property sheet", "Edit", {"edge of the selection, measured in place of the text", 4.0}},
     {"edit with prompt", "prompt", {"colour of a prompt; a host may set another", 4.3}},
-    {"tool bar",
-     "",
-     {"the platform's bar on the host's ground; a host may give it a light one", 1.6}},
 };
 
 constexpr const char* OfFont = "height of the font; a host may set more";

@@ -55,6 +55,13 @@ class AuditApp : public CWinApp
 
 AuditApp theApp;
 
+bool IsEdit(const CWnd& window)
+{
+    char kind[16] = "";
+    ::GetClassName(window, kind, int(std::size(kind)));
+    return ::lstrcmpi(kind, "Edit") == 0;
+}
+
 // What is found of a text, in every part of the control that has one.
 void PrintContrast(APPMODE mode, const Control& control, const State& state)
 {
@@ -65,15 +72,25 @@ void PrintContrast(APPMODE mode, const Control& control, const State& state)
         Pixels picture;
     };
     std::string blanks;
+    int edge = 0; // from there on a selection ends elsewhere than with blanks
     const auto show = [&](const std::string& text, bool blank) {
         Shown shown(control, mode, text, state.rows);
         state.enter(shown.Window(), text);
         shown.Settle();
         ::HideCaret(nullptr); // it is no text
         CWnd* const focus = CWnd::GetFocus();
-        if (focus && focus != &shown.Window())
+        const bool inEdit = focus && focus != &shown.Window() && IsEdit(*focus);
+        if (inEdit)
         {
-            focus->SendMessage(EM_SETSEL, 0, -1); // of an edit, as if reached by Tab
+            if (blank) // in its own font
+            {
+                focus->SetWindowText(BlanksFor(Sample, *focus).c_str());
+            }
+            else
+            {
+                edge = short(LOWORD(focus->SendMessage(EM_POSFROMCHAR, std::strlen(Sample) - 1)));
+            }
+            focus->SendMessage(EM_SETSEL, 0, -1); // as if reached by Tab
         }
         shown.Settle();
         blanks = BlanksFor(Sample, shown.Window());
@@ -85,6 +102,15 @@ void PrintContrast(APPMODE mode, const Control& control, const State& state)
         for (const Part& part : shown.Parts())
         {
             seen.push_back({part.kind, part.hasText, PictureOf(part)});
+            if (inEdit && part.window == focus)
+            {
+                CRect beyond(0, 0, 0, 0);
+                focus->ClientToScreen(&beyond);
+                CRect place;
+                focus->GetWindowRect(&place);
+                beyond.SetRect(beyond.left + edge, place.top, place.right, place.bottom);
+                seen.back().picture.Leave(beyond - place.TopLeft());
+            }
         }
         return seen;
     };

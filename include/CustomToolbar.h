@@ -8,7 +8,9 @@
 #include <string>
 #include <vector>
 
-// A tool bar whose buttons the host can put into the order that it keeps in its settings.
+// A tool bar whose buttons the host can put into the order that it keeps in its settings. In the
+// on-board modes it is dark, with light texts: it answers NM_CUSTOMDRAW itself then, so that its
+// parent is not asked.
 class ONBOARDUI_API CustomToolbar : public CToolBar
 {
     DECLARE_DYNAMIC(CustomToolbar)
@@ -45,4 +47,12 @@ public:
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
     HRESULT accDoDefaultAction(VARIANT child) override;
     // @}
+
+protected:
+    // @{
+    // In the standard mode the platform's.
+    afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg BOOL OnCustomDraw(NMHDR* header, LRESULT* result);
+    // @}
+    DECLARE_MESSAGE_MAP()
 };

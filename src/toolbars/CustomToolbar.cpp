@@ -1,9 +1,48 @@
 #include "CustomToolbar.h"
 
+#include "OnBoardUIGeneral.h"
+#include "paint/Palette.h"
+
 #include <algorithm>
 #include <unordered_set>
 
 IMPLEMENT_DYNAMIC(CustomToolbar, CToolBar)
+
+BEGIN_MESSAGE_MAP(CustomToolbar, CToolBar)
+    ON_WM_ERASEBKGND()
+    ON_NOTIFY_REFLECT_EX(NM_CUSTOMDRAW, &CustomToolbar::OnCustomDraw)
+END_MESSAGE_MAP()
+
+// A flat bar shows its parent's ground otherwise, which may be light.
+BOOL CustomToolbar::OnEraseBkgnd(CDC* dc)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        return CToolBar::OnEraseBkgnd(dc);
+    }
+    CRect client;
+    GetClientRect(&client);
+    dc->FillSolidRect(&client, palette::Panel);
+    return TRUE;
+}
+
+BOOL CustomToolbar::OnCustomDraw(NMHDR* header, LRESULT* result)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        return FALSE;
+    }
+    auto& draw = *reinterpret_cast<NMTBCUSTOMDRAW*>(header);
+    *result = draw.nmcd.dwDrawStage == CDDS_PREPAINT ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
+    if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT)
+    {
+        draw.clrText = palette::PanelText;
+        draw.clrTextHighlight = palette::HighlightText;
+        draw.clrBtnFace = palette::Panel;
+        draw.clrBtnHighlight = palette::Outline;
+    }
+    return TRUE;
+}
 
 namespace {
 

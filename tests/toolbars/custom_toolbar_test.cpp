@@ -217,4 +217,29 @@ TEST_F(CustomToolbarTest, ReportsPairsThatTheBarRefusesToSwap)
     EXPECT_EQ(bar.Order(), (Ids{10, 11}));
 }
 
+TEST_F(CustomToolbarTest, IsDarkWithLightTextsOnBoardWhateverStandsBehindIt)
+{
+    CustomToolbar bar;
+    ASSERT_TRUE(bar.CreateEx(&Host(), TBSTYLE_FLAT | TBSTYLE_LIST, WS_CHILD | WS_VISIBLE));
+    TBBUTTON button = {};
+    button.iBitmap = I_IMAGENONE;
+    button.idCommand = 1;
+    button.fsState = TBSTATE_ENABLED;
+    button.iString = INT_PTR("Direct to");
+    bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
+    bar.SetWindowPos(nullptr, 0, 0, 200, 40, SWP_NOZORDER);
+    const auto shows = [&](COLORREF color) {
+        bar.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+        PumpAll();
+        return WindowPixels(bar).Count(color) > 0;
+    };
+    const COLORREF black = ::GetSysColor(COLOR_BTNTEXT);
+    for (const APPMODE mode : {ONBOARD, EFBFS})
+    {
+        const ModeScope scope(mode);
+        EXPECT_TRUE(shows(RGB(50, 50, 50)) && shows(RGB(230, 230, 230)) && !shows(black)) << mode;
+    }
+    EXPECT_TRUE(shows(black) && !shows(RGB(50, 50, 50)));
+}
+
 } // namespace
