@@ -303,8 +303,8 @@ template <template <class> class As> struct Makers
             void PostNcDestroy() override {} // whoever made it owns it
         };
         auto view = std::make_unique<As<View>>();
-        if (!view->Create(nullptr, contents.text.c_str(), Shown, contents.place, &parent,
-                                ControlId, nullptr))
+        if (!view->Create(nullptr, contents.text.c_str(), Shown, contents.place, &parent, ControlId,
+                          nullptr))
         {
             return nullptr;
         }

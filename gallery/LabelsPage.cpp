@@ -77,8 +77,10 @@ void LabelsPage::CreateContent()
     MakeStatic(m_labels[2], "A disabled label", 0, SS_LEFT | WS_DISABLED,
                Line(0, 2) + CPoint(0, 6));
     // Transparent: what has no ground of its own shows the page between its lines.
-    MakeStatic(m_bold[0], "Bold, red in STD", WS_EX_TRANSPARENT, SS_LEFT, Line(0, 3) + CPoint(0, 6));
-    MakeStatic(m_bold[1], "Bold, blue in STD", WS_EX_TRANSPARENT, SS_LEFT, Line(0, 4) + CPoint(0, 6));
+    MakeStatic(m_bold[0], "Bold, red in STD", WS_EX_TRANSPARENT, SS_LEFT,
+               Line(0, 3) + CPoint(0, 6));
+    MakeStatic(m_bold[1], "Bold, blue in STD", WS_EX_TRANSPARENT, SS_LEFT,
+               Line(0, 4) + CPoint(0, 6));
     for (int index = 0; index < BoldCount; ++index)
     {
         m_bold[index].SetColor(BoldColors[index]);

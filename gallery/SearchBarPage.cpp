@@ -40,8 +40,8 @@ void SearchBarPage::OnLaidOut()
     CRect bar;
     m_bar.GetWindowRect(&bar);
     ScreenToClient(&bar);
-    m_bar.SetWindowPos(nullptr, bar.left - Origin().x,
-                       ContentSize().cy - bar.Height() - Origin().y, 0, 0,
+    m_bar.SetWindowPos(nullptr, bar.left - Origin().x, ContentSize().cy - bar.Height() - Origin().y,
+                       0, 0,
                        SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE); // below content that scrolls
 }
 
