@@ -14,7 +14,9 @@
 // the derived class draw it, and tells its parent of a click by a BN_CLICKED that it sends.
 //
 // The check state of the on-board modes and that of the platform's button are apart: a host that
-// changes the mode carries it over. The parent may destroy the button while it is told of a click.
+// changes the mode carries it over. A button that has the focus when an on-board mode begins shows
+// it. The parent may destroy the button while it is told of a click. The next window of an object
+// begins unchecked.
 class ONBOARDUI_API CCustomButton : public CButton
 {
     DECLARE_DYNAMIC(CCustomButton)
@@ -70,6 +72,8 @@ public:
     // Draws the caption to the right of a mark, centred in item, in the colours and font that are
     // selected; with a frame while the button has the focus.
     virtual void DrawRCText(CDC& dc, const CRect& item, const CRect& mark);
+
+    void PreSubclassWindow() override;
 
     // @{
     // Assistive programs are told the mode's own check and press. The role decides how a button is
@@ -127,18 +131,21 @@ protected:
 
     bool m_tracking = false; // a press that began here is followed, with the mouse captured
     bool m_pressed = false;
-    bool m_focused = false; // on-board only
+    bool m_focused = false; // on-board only, from the first message of the mode on
     bool m_mouseDown =
         false; // the left button went down here and has not come up: for derived classes
     int m_check = BST_UNCHECKED;
     COLORREF m_background; // of the client area, on-board
 
 private:
-    APPMODE m_trackedIn = STD; // the mode in which the press began
-    bool m_spaceHeld = false;  // the platform's button has taken the space key down
+    APPMODE m_trackedIn = STD;   // the mode in which the press began
+    bool m_spaceHeld = false;    // the platform's button has taken the space key down
+    bool m_followsFocus = false; // an on-board mode was seen last
+    bool m_hadWindow = false;
 
     // Whether the handler goes on. If not, the platform's button has had its message, when there
     // still is one; its answer goes into answer.
     bool FollowOrPass(LRESULT* answer = nullptr);
     bool SurvivesEnd();
+    void NoteMode();
 };

@@ -10,6 +10,7 @@
 #include "paint/SharedObjects.h"
 
 #include <tuple>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CCustomButton, CButton)
 
@@ -77,17 +78,46 @@ CCustomButton::CCustomButton()
 
 CCustomButton::~CCustomButton() = default;
 
+// One object may serve several windows, one after the other. What was set before the first one
+// stays.
+void CCustomButton::PreSubclassWindow()
+{
+    if (std::exchange(m_hadWindow, true))
+    {
+        m_tracking = false;
+        m_pressed = false;
+        m_focused = false;
+        m_mouseDown = false;
+        m_check = BST_UNCHECKED;
+        m_spaceHeld = false;
+    }
+    m_followsFocus = false;
+    CButton::PreSubclassWindow();
+}
+
 // The first question of every handler. A press ends here that a change of the mode or a hidden or
 // disabled parent has cut off: none of them sends the button a message.
 std::optional<bool> CCustomButton::FollowMode()
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    NoteMode();
     if (m_tracking && (COnBoardUIGeneral::GetAppMode() != m_trackedIn || IsOutOfReach(m_hWnd)) &&
         !SurvivesEnd())
     {
         return std::nullopt;
     }
     return onBoard;
+}
+
+// The focus is followed on-board only: what has become of it before is seen with the first message
+// of the mode.
+void CCustomButton::NoteMode()
+{
+    const bool before = std::exchange(m_followsFocus, COnBoardUIGeneral::InOnBoardMode());
+    if (m_followsFocus && !before && GetSafeHwnd() != nullptr)
+    {
+        m_focused = ::GetFocus() == m_hWnd;
+    }
 }
 
 bool CCustomButton::FollowOrPass(LRESULT* answer)
@@ -179,6 +209,10 @@ void CCustomButton::StartTracking()
         return;
     }
     SetCapture();
+    if (!alive || ::GetCapture() != m_hWnd)
+    {
+        return; // a listener has heard of it
+    }
     m_tracking = true;
     m_trackedIn = COnBoardUIGeneral::GetAppMode();
     m_pressed = true;
@@ -279,11 +313,23 @@ void CCustomButton::DrawOB()
     {
         return;
     }
-    CClientDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    BackBuffer buffer(dc, client);
-    DrawOB(buffer);
+    NoteMode();
+    // Asked for by hand: there may be none to be had, and then nothing is drawn.
+    const HWND window = m_hWnd;
+    const HDC context = ::GetDC(window);
+    if (context == nullptr)
+    {
+        return;
+    }
+    CDC dc;
+    dc.Attach(context);
+    {
+        CRect client;
+        GetClientRect(&client);
+        BackBuffer buffer(dc, client);
+        DrawOB(buffer);
+    }
+    ::ReleaseDC(window, dc.Detach());
 }
 
 void CCustomButton::DrawChoice(CDC& dc, const std::function<void(const CRect&, CRect&)>& drawMark)
@@ -320,6 +366,7 @@ void CCustomButton::DrawRCText(CDC& dc, const CRect& item, const CRect& mark)
     if (m_focused)
     {
         const Selected pen(dc, m_FocusPen);
+        const Selected brush(dc, ::GetStockObject(NULL_BRUSH)); // a frame alone
         dc.Rectangle(buttons::FocusFrame(caption));
     }
     // A letter may reach a little beyond its measured width; only the window cuts a caption.

@@ -117,11 +117,11 @@ void CCustomButton::OnSetFocus(CWnd*)
 
 void CCustomButton::OnKillFocus(CWnd*)
 {
-    m_focused = false; // in any mode: the next on-board one shows no focus that is elsewhere
     if (!FollowOrPass())
     {
         return;
     }
+    m_focused = false;
     if (SurvivesEnd())
     {
         DrawOB();

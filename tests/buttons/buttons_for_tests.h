@@ -15,6 +15,7 @@ template <class Base> class Traced : public Base
 public:
     using Base::m_check;
     using Base::m_focused;
+    using Base::m_mouseDown;
     using Base::m_pressed;
     using Base::m_tracking;
 

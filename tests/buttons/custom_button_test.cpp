@@ -4,10 +4,12 @@
 #include "support/Acting.h"
 #include "support/Acts.h"
 #include "support/Fenced.h"
+#include "support/Repaint.h"
 
 #include <gmock/gmock.h>
 
 #include <tuple>
+#include <utility>
 
 using testing::ElementsAre;
 using Steps = std::vector<std::string>;
@@ -25,7 +27,9 @@ TEST_F(ButtonOnBoard, AClickRunsItsStepsInOrder)
     EXPECT_EQ(::GetFocus(), push.m_hWnd);
     EXPECT_EQ(::GetCapture(), push.m_hWnd);
     EXPECT_EQ(push.SendMessage(BM_GETSTATE), 1);
+    EXPECT_TRUE(push.m_mouseDown);
     Release();
+    EXPECT_FALSE(push.m_mouseDown);
     EXPECT_EQ(push.steps, Steps({"click, captured", "told, tracking", "group, free"}));
     EXPECT_EQ(push.SendMessage(BM_GETSTATE), 0) << "the focus is no part of the state";
 
@@ -207,6 +211,152 @@ TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
         << "a new caption must not bring the old look back";
     PumpAll();
     EXPECT_TRUE(WindowPixels(ours) == ours.Drawn());
+    ours.SetState(TRUE);
     COnBoardUIGeneral::SetAppMode(STD);
     EXPECT_EQ(ours.GetCheck(), BST_UNCHECKED);
+    EXPECT_EQ(ours.GetState(), 1U) << "the platform's button, which is not pushed, is not asked";
+    EXPECT_EQ(ours.SendMessage(BM_GETSTATE) & BST_PUSHED, 0);
+}
+
+TEST_F(WindowTest, AnOnBoardModeBeginsWithTheFocusAsItIs)
+{
+    auto& first = Add<TestPush>(ButtonPlace, 0, "First");
+    auto& second = Add<TestPush>(ButtonPlace + CPoint(0, 100), 0, "Second");
+    RestPointer();
+    const auto shown = [](TestPush& button) {
+        Repaint(button);
+        return button.m_focused;
+    };
+    first.SetFocus();
+    EXPECT_FALSE(first.m_focused) << "not the standard mode's business";
+    for (const APPMODE mode : {ONBOARD, EFB})
+    {
+        COnBoardUIGeneral::SetAppMode(mode);
+        EXPECT_TRUE(shown(first)) << APPMODE_NAMES[mode];
+        EXPECT_FALSE(shown(second));
+        second.DrawOB();
+        first.DrawOB();
+        EXPECT_FALSE(WindowPixels(first) == WindowPixels(second));
+    }
+    // It goes elsewhere while nobody follows it.
+    COnBoardUIGeneral::SetAppMode(STD);
+    second.SetFocus();
+    COnBoardUIGeneral::SetAppMode(FULLSCREEN);
+    EXPECT_FALSE(shown(first));
+    EXPECT_TRUE(shown(second));
+}
+
+TEST_F(ButtonOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
+{
+    TestCheckBox box;
+    box.SetCheck(BST_CHECKED);
+    CButton platforms[2];
+    for (CButton& platform : platforms)
+    {
+        platform.Create("Box", WS_CHILD | WS_VISIBLE | BS_CHECKBOX, ButtonPlace, &Host(), ButtonId);
+    }
+    HWND windows[] = {platforms[0].Detach(), platforms[1].Detach()};
+    ASSERT_TRUE(box.SubclassWindow(windows[0]));
+    EXPECT_EQ(box.GetCheck(), BST_CHECKED) << "set before the first window";
+    const auto at = MAKELPARAM(5, 5);
+    box.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, at);
+    ASSERT_TRUE(box.m_tracking);
+    box.UnsubclassWindow();
+    ::ReleaseCapture();
+    ::DestroyWindow(windows[0]);
+    EXPECT_EQ(box.GetCheck(), BST_CHECKED) << "still to be asked";
+    ASSERT_TRUE(box.SubclassWindow(windows[1]));
+    EXPECT_EQ(box.GetCheck(), BST_UNCHECKED);
+    EXPECT_FALSE(box.m_mouseDown || box.m_focused);
+    box.SendMessage(WM_LBUTTONUP, 0, at);
+    EXPECT_EQ(Host().Count(WM_COMMAND), 0) << "nothing was pressed";
+    box.DestroyWindow();
+}
+
+namespace {
+
+// Opens what a derived class is given to draw with.
+struct Drawing : TestCheckBox
+{
+    using CCustomButton::m_FocusPen;
+    using CCustomButton::m_Font;
+    using CCustomButton::m_OutlinePen;
+    using CCustomButton::m_PressedFocusPen;
+    using CCustomButton::m_PressedOutlinePen;
+
+    int drawn = 0;
+    void DrawOB(CDC& dc) override
+    {
+        ++drawn;
+        TestCheckBox::DrawOB(dc);
+    }
+    using TestCheckBox::DrawOB;
+};
+
+} // namespace
+
+TEST_F(ButtonOnBoard, DerivedClassesDrawWithSharedObjectsThatAreMadeOnce)
+{
+    auto& box = Add<Drawing>(ButtonPlace, 0, "Caption");
+    const std::vector<HGDIOBJ> made = {Drawing::m_OutlinePen, Drawing::m_PressedOutlinePen,
+                                       Drawing::m_FocusPen, Drawing::m_PressedFocusPen,
+                                       Drawing::m_Font};
+    const struct
+    {
+        CPen& pen;
+        LOGPEN look;
+    } pens[] = {{Drawing::m_OutlinePen, {PS_INSIDEFRAME, {3, 0}, RGB(70, 70, 70)}},
+                {Drawing::m_PressedOutlinePen, {PS_INSIDEFRAME, {3, 0}, RGB(106, 104, 118)}},
+                {Drawing::m_FocusPen, {PS_DOT, {1, 0}, RGB(70, 70, 70)}},
+                {Drawing::m_PressedFocusPen, {PS_DOT, {1, 0}, RGB(106, 104, 118)}}};
+    for (const auto& each : pens)
+    {
+        LOGPEN look = {};
+        each.pen.GetLogPen(&look);
+        EXPECT_EQ(look.lopnStyle, each.look.lopnStyle);
+        EXPECT_EQ(look.lopnWidth.x, each.look.lopnWidth.x);
+        EXPECT_EQ(look.lopnColor, each.look.lopnColor);
+    }
+    const Drawing another;
+    EXPECT_EQ(
+        (std::vector<HGDIOBJ>{Drawing::m_OutlinePen, Drawing::m_PressedOutlinePen,
+                              Drawing::m_FocusPen, Drawing::m_PressedFocusPen, Drawing::m_Font}),
+        made);
+
+    // The focus is a frame round a caption, whatever brush the caller has selected.
+    Canvas canvas(200, 60);
+    box.m_focused = true;
+    canvas.DC().SelectStockObject(WHITE_BRUSH);
+    canvas.DC().SetBkMode(TRANSPARENT);
+    box.DrawRCText(canvas.DC(), CRect(0, 0, 200, 60), CRect(0, 0, 20, 20));
+    EXPECT_EQ(canvas.Picture().Count(RGB(255, 255, 255)), 0);
+    EXPECT_GT(canvas.Picture().Count(RGB(70, 70, 70)), 20);
+
+    // Without a context to be had nothing is drawn.
+    const int before = box.drawn;
+    const HWND window = std::exchange(box.m_hWnd, reinterpret_cast<HWND>(UINT_PTR{1}));
+    box.DrawOB();
+    box.m_hWnd = window;
+    EXPECT_EQ(box.drawn, before);
+}
+
+TEST_F(WindowTest, SiblingsComeInTheirOrderAndWithTheButtonItself)
+{
+    auto& first = Add<CStatic>(ButtonPlace, WS_GROUP);
+    auto& button = Add<TestPush>(ButtonPlace, WS_TABSTOP | WS_GROUP);
+    Add<CStatic>(ButtonPlace);
+    auto& last = Add<CStatic>(ButtonPlace, WS_TABSTOP | WS_GROUP);
+    std::vector<HWND> orders[2];
+    const DWORD masks[] = {WS_GROUP, WS_GROUP | WS_TABSTOP};
+    for (const int each : {0, 1})
+    {
+        std::vector<CWnd*> found = {&Host()}; // what is there stays
+        button.GetSiblingControls(found, masks[each]);
+        for (const CWnd* const window : found)
+        {
+            orders[each].push_back(window->GetSafeHwnd());
+        }
+    }
+    EXPECT_THAT(orders[0], ElementsAre(HWND(Host()), HWND(first), HWND(button), HWND(last)));
+    EXPECT_THAT(orders[1], ElementsAre(HWND(Host()), HWND(button), HWND(last)));
 }
