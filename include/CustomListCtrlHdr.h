@@ -94,9 +94,10 @@ private:
     static constexpr int LongestText = 256; // with the null
 
     bool m_repositioning = false;
-    bool m_dragged = false; // the pointer has moved since a divider was pressed
-    int m_hotDivider = -1;  // where a dragged column would be put; -1: nowhere
-    CPoint m_pressPoint;    // in client coordinates
+    bool m_dragged = false;  // the pointer has moved since a divider was pressed
+    bool m_farPress = false; // an item is pressed where the platform's messages do not reach
+    int m_hotDivider = -1;   // where a dragged column would be put; -1: nowhere
+    CPoint m_pressPoint;     // in client coordinates
     CFont m_themeFont;
 
     friend class CCustomListCtrl;
@@ -108,6 +109,7 @@ private:
     bool HeadingPlace(const VARIANT& child, CRect& place) const;
     int DividerAt(int x) const;
     LRESULT DefaultAt(UINT message, UINT flags, CPoint point);
+    void EndFarPress(int pressed, CPoint point);
     void LoadArrows();
     void TakeThemeFont();
     void DrawOB(CDC& dc);

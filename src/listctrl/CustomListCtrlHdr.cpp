@@ -67,6 +67,7 @@ void CCustomListCtrlHdr::PreSubclassWindow()
     OBResetScroll(FALSE);
     m_tracking = false;
     m_dragged = false;
+    m_farPress = false;
     m_oldCursor = nullptr;
     m_pressedItem = -1;
     m_hotDivider = -1;
@@ -150,6 +151,10 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
         {
             ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(item),
                           MAKELPARAM(std::min(rect.Width(), listctrl::WidestColumn), 0));
+            if (!alive)
+            {
+                return;
+            }
         }
         m_itemLefts.push_back(left);
         m_itemWidths.push_back(rect.Width());

@@ -7,11 +7,14 @@
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
+#include <climits>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
-constexpr int DividerReach = 10; // a point less than this from a divider is on it
+constexpr int DividerReach = 10;   // a point less than this from a divider is on it
+constexpr int Farthest = SHRT_MAX; // that the platform's pointer messages can tell of
 
 } // namespace
 
@@ -49,6 +52,12 @@ LRESULT CCustomListCtrlHdr::DefaultAt(UINT message, UINT flags, CPoint point)
         {
             return 0; // too narrow to be anything but a divider
         }
+    }
+    if (point.x > Farthest)
+    {
+        // Nowhere, for the platform, unless the item begins where it can be told of.
+        const bool begins = item != -1 && item == ItemAt(CPoint(Farthest, point.y));
+        point = CPoint(Farthest, begins ? int(point.y) : -1);
     }
     return DefWindowProc(message, flags, MAKELPARAM(point.x, point.y));
 }
@@ -103,7 +112,15 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
         return;
     }
     m_pressedItem = ItemAt(CPoint(point.x - m_offset.x, point.y));
-    DefaultAt(WM_LBUTTONDOWN, flags, point);
+    m_farPress = m_pressedItem != -1 && point.x - m_offset.x > Farthest;
+    if (m_farPress)
+    {
+        SetCapture();
+    }
+    else
+    {
+        DefaultAt(WM_LBUTTONDOWN, flags, point);
+    }
     if (alive)
     {
         Invalidate(FALSE);
@@ -187,7 +204,14 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
         }
         return;
     }
-    DefaultAt(WM_LBUTTONUP, flags, point);
+    if (std::exchange(m_farPress, false))
+    {
+        EndFarPress(pressed, point);
+    }
+    else
+    {
+        DefaultAt(WM_LBUTTONUP, flags, point);
+    }
     if (alive)
     {
         RepositionHeaderStrip();
@@ -196,6 +220,28 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
     {
         Invalidate(FALSE);
     }
+}
+
+// A click so far to the right that no message can tell the platform of it: the list is told of it
+// here.
+void CCustomListCtrlHdr::EndFarPress(int pressed, CPoint point)
+{
+    const WindowAlive alive(*this);
+    if (::GetCapture() == GetSafeHwnd())
+    {
+        ::ReleaseCapture();
+    }
+    if (!alive || pressed == -1 || (GetStyle() & HDS_BUTTONS) == 0 ||
+        ItemAt(CPoint(point.x - m_offset.x, point.y)) != pressed)
+    {
+        return;
+    }
+    const bool wide = SendMessage(HDM_GETUNICODEFORMAT) != 0;
+    NMHEADER told = {};
+    told.hdr = {GetSafeHwnd(), UINT_PTR(GetDlgCtrlID()), wide ? HDN_ITEMCLICKW : HDN_ITEMCLICKA};
+    told.iItem = pressed;
+    ::SendMessage(::GetParent(GetSafeHwnd()), WM_NOTIFY, told.hdr.idFrom,
+                  reinterpret_cast<LPARAM>(&told));
 }
 
 // The one way out of a drag: released, or the capture lost.
@@ -301,7 +347,10 @@ void CCustomListCtrlHdr::OnLButtonDblClk(UINT flags, CPoint point)
     if (onBoard)
     {
         point.x -= m_offset.x;
-        DefWindowProc(WM_LBUTTONDBLCLK, flags, MAKELPARAM(point.x, point.y));
+        if (point.x <= Farthest)
+        {
+            DefWindowProc(WM_LBUTTONDBLCLK, flags, MAKELPARAM(point.x, point.y));
+        }
     }
     else
     {

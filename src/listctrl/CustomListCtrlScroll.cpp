@@ -332,8 +332,8 @@ void CCustomListCtrl::OnVScroll(UINT code, UINT position, CScrollBar* bar)
         }
         return;
     }
-    // A drag has scrolled by itself.
-    if (m_vPart != CFauxScrollBar::PRESSED_THUMB)
+    // A drag scrolls by itself; a thumb that the pointer only rests on is not dragged.
+    if (!m_bars->IsDragging())
     {
         PerformVScroll(int(code));
     }
@@ -341,7 +341,7 @@ void CCustomListCtrl::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 
 void CCustomListCtrl::OnHScroll(UINT code, UINT position, CScrollBar* bar)
 {
-    if (!InOnBoard() || bar != nullptr || m_hPart == CFauxScrollBar::PRESSED_THUMB)
+    if (!InOnBoard() || bar != nullptr || m_bars->IsDragging())
     {
         CListCtrl::OnHScroll(code, position, bar);
         return;

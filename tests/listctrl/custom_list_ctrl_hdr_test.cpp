@@ -1,8 +1,11 @@
 // The header: its look, its place over the columns, and columns resized with the pointer.
 
 #include "listctrl/list_for_tests.h"
+#include "support/Fenced.h"
 
 #include <gmock/gmock.h>
+
+#include <utility>
 
 namespace {
 
@@ -12,6 +15,43 @@ class HeaderForTests : public CCustomListCtrlHdr
 public:
     using CCustomListCtrlHdr::DrawOBSortArrow;
     using CCustomListCtrlHdr::DrawStdSortArrow;
+};
+
+// Notes what its header tells of a drag.
+struct ListThatFollows : ListForTests
+{
+    std::vector<int> told; // code, item, button and width, again and again
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const auto* const header = reinterpret_cast<const NMHEADER*>(lParam);
+        if (message == WM_NOTIFY && header->hdr.code == UINT(HDN_TRACKA))
+        {
+            EXPECT_EQ(header->hdr.hwndFrom, HWND(m_header));
+            told.insert(told.end(), {header->iItem, header->iButton, header->pitem->cxy});
+        }
+        return ListForTests::WindowProc(message, wParam, lParam);
+    }
+};
+
+// Ends itself when its header gives it a width for the n-th time.
+struct MortalList : Fenced<ListForTests>
+{
+    int before = 0;
+    std::function<void()> end;
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (end && message == LVM_SETCOLUMNWIDTH && before-- == 0)
+        {
+            std::exchange(end, nullptr)();
+            return 0;
+        }
+        // As if each column had been resized in the header.
+        return end && message == LVM_GETCOLUMNWIDTH
+                   ? 1
+                   : ListForTests::WindowProc(message, wParam, lParam);
+    }
 };
 
 } // namespace
@@ -54,9 +94,76 @@ TEST_F(ListCtrlOnBoard, SortArrowsPointUpAndDown)
     }
     Canvas none(120, 40);
     header.DrawOBSortArrow(&none.DC(), item, HDF_STRING);
-    header.DrawStdSortArrow(&none.DC(), item, HDF_SORTUP); // the application has no bitmaps
+    header.DrawStdSortArrow(&none.DC(), item, HDF_SORTUP); // it has not loaded them
     header.DrawOBSortArrow(nullptr, item, HDF_SORTUP);
     EXPECT_TRUE(none.IsUntouched());
+}
+
+TEST_F(ListCtrlOnBoard, AHeadingStandsInItsItemBesideItsArrow)
+{
+    auto& list = AddList(3, 3, ReportStyle, CRect(20, 20, 620, 220));
+    constexpr int Item = 1;
+    // The text's room within the item: from 4 pixels on, and clear of an arrow by 23.
+    const struct
+    {
+        int format;
+        double place; // in its room: 0 at the left, 1 at the right
+        int reserved;
+    } headings[] = {{HDF_LEFT, 0, 0},
+                    {HDF_CENTER, 0.5, 0},
+                    {HDF_RIGHT, 1, 0},
+                    {HDF_RIGHT | HDF_SORTUP, 1, 23},
+                    {HDF_CENTER | HDF_SORTDOWN, 0.5, 23}};
+    for (const auto& heading : headings)
+    {
+        char text[] = "HH";
+        HDITEM data = {};
+        data.mask = HDI_FORMAT | HDI_TEXT;
+        data.pszText = text;
+        data.fmt = HDF_STRING | heading.format;
+        list.m_header.SetItem(Item, &data);
+        Repaint(list.m_header);
+        const CRect item = list.ColumnRect(Item);
+        const Pixels picture = WindowPixels(list.m_header);
+        int first = item.right;
+        int last = item.left;
+        for (int x = item.left; x < item.right; ++x)
+        {
+            if (picture.Count(palette::HeaderText, CRect(x, 0, x + 1, item.bottom)) > 0)
+            {
+                first = std::min(first, x);
+                last = x;
+            }
+        }
+        const double free = item.Width() - 4 - heading.reserved - (last + 1 - first);
+        EXPECT_NEAR(first, item.left + 4 + heading.place * free, 3) << heading.format;
+    }
+}
+
+TEST_F(ListCtrlTest, TheApplicationsArrowsStandAtTheRightInTheStandardMode)
+{
+    auto& header = Add<HeaderForTests>(CRect(20, 20, 420, 50), HDS_BUTTONS);
+    Repaint(header);
+    // Each bitmap's picture fills one half, eight points wide; round it nothing is drawn.
+    constexpr COLORREF Arrow = RGB(128, 0, 0);
+    const CRect item(10, 0, 110, 30);
+    for (const int format : {HDF_SORTUP, HDF_SORTDOWN})
+    {
+        Canvas canvas(120, 40);
+        header.DrawStdSortArrow(&canvas.DC(), item, HDF_STRING | format);
+        const CRect half(CPoint(95, format == HDF_SORTUP ? 7 : 15), CSize(8, 8));
+        EXPECT_EQ(canvas.Picture().Count(Arrow, half), 64) << format;
+        EXPECT_EQ(canvas.Picture().Count(Canvas::Untouched), 120 * 40 - 64) << format;
+    }
+    auto& list = AddList(3);
+    HDITEM data = {};
+    data.mask = HDI_FORMAT;
+    data.fmt = HDF_STRING | HDF_LEFT | HDF_SORTDOWN;
+    list.m_header.SetItem(1, &data);
+    RestPointer();
+    Repaint(list.m_header);
+    const CRect place = list.ColumnRect(1);
+    EXPECT_EQ(WindowPixels(list.m_header).At(place.right - 11, place.CenterPoint().y + 4), Arrow);
 }
 
 TEST_F(ListCtrlOnBoard, TheStripStandsOverTheShiftedColumns)
@@ -113,13 +220,13 @@ TEST_F(ListCtrlOnBoard, ADividerIsTakenLessThanTenPixelsAway)
 
 TEST_F(ListCtrlOnBoard, ADividerIsDraggedAlsoWithTheListScrolledSideways)
 {
-    auto& list = AddList(40, 8);
+    auto& list = AddList<ListThatFollows>(40, 8);
     const CPoint origin = ClientPoint(list, CPoint(0, 0)) - WindowRectOf(list).TopLeft();
     for (const int column : {1, 2})
     {
         list.PerformHScroll(column == 1 ? 0 : 3, 0);
         PumpAll();
-        MessageLog log(list, {WM_NOTIFY});
+        list.told.clear();
         const CPoint from = list.DividerPoint(column);
         CPoint pointer = from + CPoint(25, 0);
         MoveTo(from);
@@ -127,7 +234,8 @@ TEST_F(ListCtrlOnBoard, ADividerIsDraggedAlsoWithTheListScrolledSideways)
         DragTo(pointer, 3);
         EXPECT_TRUE(list.m_header.IsHotTracking());
         EXPECT_EQ(::GetCapture(), list.m_header.GetSafeHwnd());
-        EXPECT_GE(log.Count(WM_NOTIFY), 3) << "the list is told of each move";
+        ASSERT_GE(list.told.size(), 9U) << "the list is told of each move";
+        EXPECT_EQ(std::vector(list.told.end() - 3, list.told.end()), (std::vector{column, 0, 127}));
         EXPECT_EQ(list.GetColumnWidth(column), 102) << "not yet";
         // The line at the pointer, in list and header.
         PumpAll();
@@ -211,6 +319,87 @@ TEST_F(ListCtrlOnBoard, ADragThatIsCutOffEndsWithoutAWidth)
             EXPECT_TRUE(column == 1 || list.GetColumnWidth(0) == 102);
             Remove(list);
         }
+    }
+}
+
+TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
+{
+    // The platform's pointer messages reach 32767 pixels; each column is 1700 wide on-board.
+    auto& list = AddList(3, 24, ReportStyle, CRect(0, 20, 800, 200));
+    std::vector<int> clicked;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(LVN_COLUMNCLICK))
+        {
+            clicked.push_back(reinterpret_cast<const NMLISTVIEW*>(told.lParam)->iSubItem);
+        }
+    };
+    for (int column = 0; column < 24; ++column)
+    {
+        list.SetColumnWidth(column, 1700);
+    }
+    // A point of a heading, with some of the one before it in sight.
+    const auto heading = [&](int column, int dx) {
+        const int left = int(list.ColumnRect(column).left);
+        list.PerformHScroll(left / int(list.m_scrollUnit.cx) - 1, list.m_hBar.GetScrollPos());
+        PumpAll();
+        return ClientPoint(list, CPoint(left + int(list.m_drawOffset.x) + dx, 8));
+    };
+    for (const int column : {2, 19, 20, 22}) // 32767 lies within 19
+    {
+        Click(heading(column, column == 19 ? 520 : 50));
+        EXPECT_EQ(HeaderAccess::Pressed(list.m_header), -1);
+        EXPECT_EQ(::GetCapture(), nullptr) << column;
+    }
+    EXPECT_THAT(clicked, testing::ElementsAre(2, 19, 20, 22));
+    // Let go of on another, or cut off, it is no click; nor one of what lies at the limit.
+    CPoint on = heading(20, 50);
+    for (const bool cut : {false, true})
+    {
+        on.x += 10; // or it would be a double click
+        MoveTo(on);
+        Press();
+        EXPECT_EQ(HeaderAccess::Pressed(list.m_header), 20);
+        cut ? void(::ReleaseCapture()) : DragTo(on - CPoint(120, 0));
+        Release();
+    }
+    MoveTo(on - CPoint(120, 0)); // on 19, beyond the limit; and away from it
+    Press();
+    DragTo(on);
+    Release();
+    EXPECT_EQ(clicked.size(), 4U);
+}
+
+TEST_F(ListCtrlOnBoard, AListMayEndWhenItsHeaderGivesItAWidth)
+{
+    const Act<MortalList&> acts[] = {
+        {"widened",
+         [](MortalList& list) { list.SetWindowPos(nullptr, 0, 0, 780, 300, SWP_NOMOVE); }},
+        {"column gone", [](MortalList& list) { list.DeleteColumn(7); }},
+        {"scrolled home", [](MortalList& list) { list.PerformHScroll(SB_LEFT); }},
+        {"strip", [](MortalList& list) { list.m_header.RepositionHeaderStrip(); }},
+    };
+    const AccessFaults faults;
+    for (const auto& each : acts)
+    {
+        int times = 0;
+        for (bool ended = true; ended; ++times)
+        {
+            // Eight columns; without one they fit.
+            auto& list = AddList<MortalList>(3, 8, ReportStyle, CRect(0, 20, 690, 300));
+            list.PerformHScroll(2, 0);
+            const HWND window = list;
+            list.before = times;
+            list.end = [&] { Remove(list); };
+            each.act(list);
+            ended = !::IsWindow(window);
+            EXPECT_EQ(faults.Count(), 0) << each.name << ' ' << times;
+            if (!ended)
+            {
+                list.end = nullptr;
+                Remove(list);
+            }
+        }
+        EXPECT_GT(times, 1) << each.name;
     }
 }
 

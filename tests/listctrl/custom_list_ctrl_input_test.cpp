@@ -140,10 +140,32 @@ TEST_F(ListCtrlOnBoard, EnsureVisibleAndScrollMoveTheDrawing)
     list.Scroll(CSize(INT_MAX, INT_MAX));
     list.Scroll(CSize(INT_MIN, INT_MIN));
     EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
+    // A pointer that only rests on the thumb is no drag.
+    MoveTo(list.PartPoint(Thumb));
     list.SendMessage(WM_VSCROLL, SB_LINEDOWN);
-    list.SendMessage(WM_HSCROLL, SB_LINERIGHT);
     EXPECT_EQ(list.TopRow(), 1);
+    MoveTo(list.PartPoint(Thumb, SB_HORZ));
+    list.SendMessage(WM_HSCROLL, SB_LINERIGHT);
+    EXPECT_EQ(list.m_hBar.GetScrollPos(), 1);
     list.ExpectInStep("messages");
+    MoveTo(list.PartPoint(Thumb));
+    Press();
+    list.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_EQ(list.TopRow(), 1) << "a held one is where the user has it";
+    Release();
+}
+
+TEST_F(ListCtrlOnBoard, ThePressOnTheRightArrowIsNotHeld)
+{
+    auto& list = AddList(100, 8);
+    for (const auto& [part, axis] :
+         {std::pair(First, SB_VERT), {Second, SB_VERT}, {Second, SB_HORZ}, {First, SB_HORZ}})
+    {
+        MoveTo(list.PartPoint(part, axis));
+        Press();
+        EXPECT_EQ(list.m_pressed, axis == SB_VERT || part == First) << axis << part;
+        Release();
+    }
 }
 
 // Clicks -----------------------------------------------------------------------------------------
