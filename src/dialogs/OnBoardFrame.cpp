@@ -155,11 +155,13 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
             lists::ComboScaling::Fit(windows);
         }
         const HFONT onBoard = CCustomDialog::m_OBStaticTextFont;
-        if (alive && oldMode == STD)
+        // What its children hear may have changed the mode again, and that has been seen to.
+        const bool stillOnBoard = COnBoardUIGeneral::InOnBoardMode();
+        if (alive && oldMode == STD && stillOnBoard)
         {
             SwapFonts(windows, children.standardFont, onBoard);
         }
-        else if (alive && newMode == STD)
+        else if (alive && newMode == STD && !stillOnBoard)
         {
             SwapFonts(windows, onBoard, children.standardFont);
         }

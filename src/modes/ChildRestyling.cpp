@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -41,6 +42,16 @@ CSize SizeOf(const CRect& rect)
     return CSize(Truncated(double(rect.right) - rect.left),
                  Truncated(double(rect.bottom) - rect.top));
 }
+
+// A child that hears of a change of the mode, with the changes that it is to go through.
+struct Hearing
+{
+    HWND child;
+    std::vector<ModifyChildWndsData> changes;
+    bool placed; // or its place is still to come
+    Hearing* outer;
+};
+Hearing* s_hearing = nullptr;
 
 void SendFont(HWND child, const CFont& font)
 {
@@ -130,18 +141,18 @@ CRect RescaledRect(const CRect& rect, double scale)
 
 namespace {
 
-HWND placedWindow = nullptr;
+HWND s_placed = nullptr;
 
 // Marks the window that is being placed; what it does may place others.
 class Placing
 {
 public:
     explicit Placing(HWND window)
-        : m_outer(std::exchange(placedWindow, window))
+        : m_outer(std::exchange(s_placed, window))
     {}
     Placing(const Placing&) = delete;
     Placing& operator=(const Placing&) = delete;
-    ~Placing() { placedWindow = m_outer; }
+    ~Placing() { s_placed = m_outer; }
 
 private:
     HWND m_outer;
@@ -151,7 +162,7 @@ private:
 
 bool IsBeingPlaced(HWND window)
 {
-    return window != nullptr && window == placedWindow;
+    return window != nullptr && window == s_placed;
 }
 
 BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
@@ -207,42 +218,110 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
         ResizeTabs(child, change->scale);
     }
     const CSize size = SizeOf(target);
+    if (s_hearing != nullptr && s_hearing->child == child)
+    {
+        s_hearing->placed = true;
+    }
     ::SetWindowPos(child, nullptr, target.left, target.top, size.cx, size.cy, flags);
     return TRUE;
 }
 
 namespace {
 
-std::vector<HWND> Enumerate(HWND window, double scale, std::span<const HWND> placed,
-                            BeforeChild before)
+// The children of one window on their way through a change of the mode. What one of them hears may
+// change the mode again: those that have not had their turn have it then, before that change comes
+// to them, and the one that hears goes through it as soon as it is placed.
+class Restyling
 {
-    struct Enumeration
+public:
+    Restyling(HWND window, double scale, std::span<const HWND> placed, BeforeChild before)
+        : m_placed(placed)
+        , m_before(before)
+        , m_outer(s_innermost)
     {
-        ModifyChildWndsData change;
-        std::span<const HWND> placed;
-        BeforeChild before;
-        std::vector<HWND> children;
-    } enumeration = {{}, placed, before, {}};
-    enumeration.change.parent = window;
-    enumeration.change.scale = scale;
-    enumeration.change.mode = COnBoardUIGeneral::GetAppMode();
-    const auto modify = [](HWND child, LPARAM data) -> BOOL {
-        auto& all = *reinterpret_cast<Enumeration*>(data);
-        if (::GetParent(child) != all.change.parent)
+        FinishThoseOf(window);
+        m_change.parent = window;
+        m_change.scale = scale;
+        m_change.mode = COnBoardUIGeneral::GetAppMode();
+        const auto collect = [](HWND child, LPARAM restyling) -> BOOL {
+            auto& now = *reinterpret_cast<Restyling*>(restyling);
+            if (::GetParent(child) == now.m_change.parent) // the enumeration goes deeper
+            {
+                now.m_children.push_back(child);
+            }
+            return TRUE;
+        };
+        ::EnumChildWindows(window, collect, reinterpret_cast<LPARAM>(this));
+        s_innermost = this;
+    }
+    Restyling(const Restyling&) = delete;
+    Restyling& operator=(const Restyling&) = delete;
+    ~Restyling() { s_innermost = m_outer; }
+
+    // Returns the children, of which some may have ended.
+    const std::vector<HWND>& Finish()
+    {
+        while (m_next < m_children.size())
         {
-            return TRUE; // the enumeration goes deeper
+            const HWND child = m_children[m_next++];
+            if (::IsWindow(child))
+            {
+                Restyle(child);
+            }
         }
-        all.children.push_back(child);
-        if (all.before != nullptr)
+        return m_children;
+    }
+
+private:
+    std::span<const HWND> m_placed;
+    BeforeChild m_before;
+    ModifyChildWndsData m_change;
+    std::vector<HWND> m_children;
+    size_t m_next = 0;
+    Restyling* m_outer;
+
+    static inline Restyling* s_innermost = nullptr;
+
+    static void FinishThoseOf(HWND window)
+    {
+        for (Restyling* each = s_innermost; each != nullptr; each = each->m_outer)
         {
-            all.before(child);
+            if (each->m_change.parent == window)
+            {
+                each->Finish();
+            }
         }
-        return std::ranges::find(all.placed, child) != all.placed.end() ||
-               ModifyChildsForAppMode(child, reinterpret_cast<LPARAM>(&all.change));
-    };
-    ::EnumChildWindows(window, modify, reinterpret_cast<LPARAM>(&enumeration));
-    return std::move(enumeration.children);
-}
+    }
+
+    void Restyle(HWND child) const
+    {
+        for (Hearing* each = s_hearing; each != nullptr; each = each->outer)
+        {
+            if (each->child == child && !each->placed)
+            {
+                each->changes.push_back(m_change);
+                return;
+            }
+        }
+        if (m_before != nullptr)
+        {
+            m_before(child);
+        }
+        if (std::ranges::find(m_placed, child) != m_placed.end())
+        {
+            return;
+        }
+        Hearing now = {child, {m_change}, false, s_hearing};
+        s_hearing = &now;
+        for (size_t next = 0; next < now.changes.size(); ++next)
+        {
+            ModifyChildWndsData change = now.changes[next];
+            now.placed = false;
+            ModifyChildsForAppMode(child, reinterpret_cast<LPARAM>(&change));
+        }
+        s_hearing = now.outer;
+    }
+};
 
 } // namespace
 
@@ -253,7 +332,7 @@ std::vector<HWND> RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode,
     {
         return {};
     }
-    return Enumerate(window, ModeScale(newMode, oldMode), {}, before);
+    return Restyling(window, ModeScale(newMode, oldMode), {}, before).Finish();
 }
 
 double ModeScale(APPMODE newMode, APPMODE oldMode)
@@ -271,5 +350,5 @@ std::vector<HWND> RestyleNewWindow(HWND window, std::span<const HWND> placed, Be
     {
         return {};
     }
-    return Enumerate(window, metrics::OnBoardScale, placed, before);
+    return Restyling(window, metrics::OnBoardScale, placed, before).Finish();
 }

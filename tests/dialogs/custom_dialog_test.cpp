@@ -1,4 +1,5 @@
 #include "dialogs/dialog_for_tests.h"
+#include "support/Acting.h"
 #include "support/forms.h"
 
 #include <cstring>
@@ -193,6 +194,56 @@ TEST_F(CustomDialogTest, ControlsAreScaledOnceWhenTheModeChangesOnTheirWay)
             EXPECT_NEAR(places.back().left, standard.back().left, 1);
             EXPECT_NEAR(places.back().bottom, standard.back().bottom, 2);
             EXPECT_NEAR(places.back().Width(), standard.back().Width(), 1);
+        }
+    }
+}
+
+TEST_F(CustomDialogTest, AModeThatAControlChangesOnTheWayComesToAllInOrder)
+{
+    struct Told
+    {
+        std::vector<CRect> places;
+        std::vector<LRESULT> fonts;
+    };
+    // Where everything stands after going on-board and back or on to another mode, which the edit
+    // does in the middle of the first change, in one of its messages; 0: the host does it.
+    const auto after = [this](APPMODE last, UINT message) {
+        DialogForTests dialog;
+        EXPECT_TRUE(dialog.CreateIndirect(form, &Host()));
+        Acting<CEdit> edit;
+        edit.SubclassWindow(*dialog.GetDlgItem(IdEdit));
+        const auto change = [last] { COnBoardUIGeneral::SetAppMode(last); };
+        if (message != 0)
+        {
+            edit.ActIn(message, change);
+        }
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        if (message == 0)
+        {
+            change();
+        }
+        Told told = {ChildPlaces(dialog), {}};
+        for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
+             child = ::GetWindow(child, GW_HWNDNEXT))
+        {
+            told.fonts.push_back(::SendMessage(child, WM_GETFONT, 0, 0));
+        }
+        if (last == STD)
+        {
+            EXPECT_EQ(told.fonts.front(), dialog.SendMessage(WM_GETFONT)) << "of the label";
+            told.fonts.front() = told.fonts.back() = 0; // of a dialog, each has its own
+        }
+        COnBoardUIGeneral::SetAppMode(STD);
+        return told;
+    };
+    for (const APPMODE last : {STD, EFB})
+    {
+        const Told wanted = after(last, 0);
+        for (const UINT message : {WM_SETFONT, WM_WINDOWPOSCHANGED, WM_SIZE})
+        {
+            const Told told = after(last, message);
+            EXPECT_EQ(told.places, wanted.places) << last << ' ' << message;
+            EXPECT_EQ(told.fonts, wanted.fonts) << last << ' ' << message;
         }
     }
 }
