@@ -187,9 +187,18 @@ CCustomComboLBox* CCustomDropListCombo::ListIfMade() const
 CCustomComboLBox* CCustomDropListCombo::List()
 {
     if (m_list != nullptr && m_list->GetSafeHwnd() == nullptr && GetSafeHwnd() != nullptr &&
-        !m_ending && m_list->CreatePopup())
+        !m_ending)
     {
-        SetLBFont();
+        const WindowAlive alive(*this); // a window that is made is announced
+        const bool made = m_list->CreatePopup() != FALSE;
+        if (alive && made)
+        {
+            SetLBFont();
+        }
+        if (!alive)
+        {
+            return nullptr;
+        }
     }
     return ListIfMade();
 }
@@ -267,19 +276,23 @@ void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
         return;
     }
     list->AppModeChanged(newMode, oldMode);
-    if (!alive || ListIfMade() != list)
+    // Each step may leave the combo without this list.
+    const auto both = [&] { return alive && ListIfMade() == list; };
+    if (both())
     {
-        return;
+        SetLBFont();
     }
-    SetLBFont();
-    const int height = HeightFor(newMode);
+    const int height = both() ? HeightFor(newMode) : 0;
     CRect place;
-    CalcComboLBoxSize(height, place);
-    if (m_expanded)
+    if (both())
+    {
+        CalcComboLBoxSize(height, place);
+    }
+    if (both() && m_expanded)
     {
         list->PlacePopup(place);
     }
-    if (!alive)
+    if (!both())
     {
         return;
     }

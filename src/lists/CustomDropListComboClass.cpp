@@ -160,6 +160,7 @@ BOOL CCustomDropListCombo::SubclassWindow(HWND window)
     {
         return CWnd::SubclassWindow(window);
     }
+    const WindowAlive madeAlive(*made); // its list may be open, whose closing is told
     // A list that the caller has given is not thrown away for that of the class's object.
     if (m_ownsList || m_list == nullptr)
     {
@@ -173,6 +174,10 @@ BOOL CCustomDropListCombo::SubclassWindow(HWND window)
     else
     {
         made->SetCustomComboLBox(nullptr);
+    }
+    if (!madeAlive)
+    {
+        return ::IsWindow(window) && CWnd::SubclassWindow(window);
     }
     const std::vector<int> heights = made->m_heights;
     const int fitted = made->m_fitted;

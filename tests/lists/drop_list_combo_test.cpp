@@ -7,6 +7,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -81,6 +83,38 @@ TEST_F(ComboTest, AModeChangeReshapesAComboAndItsOpenList)
         EXPECT_EQ(list.GetHighlightedRow(), list.GetTopIndex() + 1);
     }
     combo.ToggleDropList();
+}
+
+TEST_F(ComboTest, AComboOrItsListMayEndWhileTheComboIsReshaped)
+{
+    const AccessFaults faults;
+    for (const bool open : {false, true})
+    {
+        for (const bool itself : {true, false})
+        {
+            auto* list = new Fenced<Acting<CCustomComboLBox>>;
+            auto& combo =
+                Add(std::make_unique<Fenced<ComboForTests>>(list), CRect(50, 50, 250, 80));
+            combo.Fill(3);
+            if (open)
+            {
+                combo.ToggleDropList();
+            }
+            const HWND window = combo;
+            list->ActIn(WM_SETFONT,
+                        [&] { itself ? Remove(combo) : delete std::exchange(list, nullptr); });
+            COnBoardUIGeneral::SetAppMode(ONBOARD);
+            EXPECT_EQ(::IsWindow(window), !itself);
+            EXPECT_EQ(faults.Count(), 0) << open << itself;
+            COnBoardUIGeneral::SetAppMode(STD);
+            delete list;
+            if (!itself)
+            {
+                EXPECT_FALSE(combo.HasList());
+                Remove(combo);
+            }
+        }
+    }
 }
 
 TEST_P(ComboInMode, AnOpenComboMayEndAndTellsNothing)
@@ -163,6 +197,7 @@ TEST_F(ComboTest, AComboThatHasMovedTellsItsNewParent)
     combo.SetFocus();
     TypeKey(VK_DOWN);
     EXPECT_EQ(bar.CodesFrom(FirstId), std::vector<UINT>{CBN_SELCHANGE});
+    EXPECT_EQ(bar.Told().back().lParam, reinterpret_cast<LPARAM>(combo.m_hWnd));
     combo.SetParent(&Host());
 }
 
