@@ -95,10 +95,17 @@ void ChangeDialogFont(CWnd* wnd, CFont* font)
     {
         return;
     }
+    // Read first: a window that gets another font may have the old one deleted with its object.
     const HWND window = wnd->GetSafeHwnd();
-    wnd->SetFont(font, TRUE);
     const auto handle = WPARAM(font == nullptr ? nullptr : font->GetSafeHandle());
-    ForEachChild(window, [handle](HWND child) { ::SendMessage(child, WM_SETFONT, handle, TRUE); });
+    ::SendMessage(window, WM_SETFONT, handle, TRUE);
+    ForEachChild(window, [handle](HWND child) {
+        // One that has got it may have deleted it.
+        if (handle == 0 || ::GetObjectType(reinterpret_cast<HGDIOBJ>(handle)) == OBJ_FONT)
+        {
+            ::SendMessage(child, WM_SETFONT, handle, TRUE);
+        }
+    });
 }
 
 // Windows and gradients -------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "CustomPropSheet.h"
+#include "modes/StandardFontHeight.h"
 
 #include <algorithm>
 #include <tuple>
@@ -158,13 +159,13 @@ void COnBoardUIGeneral::SetAppTitle(const CString& title)
 
 void COnBoardUIGeneral::SetStdModeGoals()
 {
-    const CClientDC screen(nullptr);
-    const int dpi = screen.GetDeviceCaps(LOGPIXELSY);
-    if (dpi != 0)
+    int dpi = 0;
+    if (const HDC screen = ::GetDC(nullptr); screen != nullptr)
     {
-        // Shrinks as the resolution grows; the standard fonts were tuned with this very formula.
-        m_std_ctrl_lf_height = 7920 / dpi + 1;
+        dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
+        ::ReleaseDC(nullptr, screen);
     }
+    m_std_ctrl_lf_height = StandardFontHeight(dpi, m_std_ctrl_lf_height);
 }
 
 void COnBoardUIGeneral::AddCustomView(CCustomFormView* view)

@@ -4,6 +4,7 @@
 #include "CustomPropPage.h"
 #include "CustomPropSheet.h"
 #include "OnBoardUI.h"
+#include "modes/StandardFontHeight.h"
 #include "support/WindowTest.h"
 
 #include <functional>
@@ -211,6 +212,40 @@ TEST_F(AppModeTest, WindowsAndChangesThatComeDuringAChangeHaveTheirTurn)
     journal.clear();
     COnBoardUIGeneral::SetAppMode(STD);
     EXPECT_EQ(journal, (Journal{"view", "a", "b", "new"}));
+}
+
+TEST_F(AppModeTest, AWindowRegisteredTwiceIsToldTwiceAndRemovedOnceIsToldOnce)
+{
+    const auto first = Make<Dialog>("a");
+    const auto second = Make<Dialog>("b");
+    COnBoardUIGeneral::AddCustomDialog(&first->window);
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    EXPECT_EQ(journal, (Journal{"a", "b", "a"}));
+    const Journal left[] = {{"b", "a"}, {"b"}, {"b"}};
+    for (const Journal& expected : left)
+    {
+        journal.clear();
+        COnBoardUIGeneral::RemoveCustomDialog(&first->window); // the first entry goes
+        COnBoardUIGeneral::RemoveCustomDialog(nullptr);
+        COnBoardUIGeneral::SetAppMode(COnBoardUIGeneral::InOnBoardMode() ? STD : ONBOARD);
+        EXPECT_EQ(journal, expected);
+    }
+}
+
+TEST_F(AppModeTest, TheStandardFontsFollowTheScreensResolution)
+{
+    const struct
+    {
+        int dotsPerInch, height;
+    } screens[] = {{96, 83}, {120, 67}, {144, 56}, {0, -11}};
+    for (const auto& screen : screens)
+    {
+        EXPECT_EQ(StandardFontHeight(screen.dotsPerInch, -11), screen.height);
+    }
+    COnBoardUIGeneral::SetStdModeGoals();
+    const CClientDC screen(nullptr);
+    EXPECT_EQ(COnBoardUIGeneral::GetStdCtrllfHeight(),
+              StandardFontHeight(screen.GetDeviceCaps(LOGPIXELSY), 0));
 }
 
 } // namespace
