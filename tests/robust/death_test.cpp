@@ -13,8 +13,6 @@
 #include "support/WindowTest.h"
 #include "support/forms.h"
 
-#include <iterator>
-
 namespace {
 
 class Sheet : public Hearing<CCustomPropSheet>
@@ -222,16 +220,6 @@ void PrintTo(const Case& tested, std::ostream* out)
     *out << tested.subject->name << ' ' << tested.parent->name;
 }
 
-// Of what is told again, in another place of the control's code: a message comes in most of the
-// steps, and every one of them would take minutes.
-bool IsSecondOrLast(const Told& what, const std::vector<Told>& all)
-{
-    std::vector<Told> alike;
-    std::ranges::copy_if(all, std::back_inserter(alike),
-                         [&](const Told& each) { return each.IsLike(what); });
-    return alike.size() > 1 && (what == alike[1] || what == alike.back());
-}
-
 class DeathAtAnyMoment : public WindowTest, public testing::WithParamInterface<Case>
 {
 protected:
@@ -321,7 +309,8 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
         {
             if (!IsFirstOfItsKind(each, told))
             {
-                if (mode != STD && plain && IsSecondOrLast(each, told))
+                // Told again, in another place of the control's code.
+                if (mode != STD && plain)
                 {
                     Give(each, Death::Control);
                 }
