@@ -46,6 +46,15 @@ TEST_F(WindowTest, ControlsHaveTheFontsOfTheirKind)
     }
 }
 
+namespace {
+
+struct LargeTexts : CheckListForTests
+{
+    static void Scale(double factor) { CreateOnBoardFont(m_OBFont, factor, 0, 400); }
+};
+
+} // namespace
+
 TEST_F(ListBoxOnBoard, RowsAreHalfAgainAsHighAsTheirTextAndThoseOfVariableChecksAsTheCheck)
 {
     auto& list = AddList(1);
@@ -54,15 +63,15 @@ TEST_F(ListBoxOnBoard, RowsAreHalfAgainAsHighAsTheirTextAndThoseOfVariableChecks
     dc.SelectObject(&CCustomListBox::GetOnBoardFont());
     EXPECT_EQ(list.GetEntryHeight("Aj"), int(dc.GetTextExtent("Aj", 2).cy * 1.5));
 
-    auto& checks = Add<CheckListForTests>(CRect(20, 20, 320, 320), CheckListStyle);
-    auto& variable = Add<CheckListForTests>(CRect(20, 20, 320, 320), VariableCheckListStyle);
-    dc.SelectObject(&CCustomChecklistBox::GetOnBoardFont());
+    auto& checks = Add<LargeTexts>(CRect(20, 20, 320, 320), CheckListStyle);
+    auto& variable = Add<LargeTexts>(CRect(20, 20, 320, 320), VariableCheckListStyle);
     const int check = variable.CalcMinimumItemHeight();
-    EXPECT_EQ(checks.CalcMinimumItemHeight(), std::max(int(dc.GetTextExtent("Aj", 2).cy), check));
-    CFont large;
-    CreateOnBoardFont(large, 9, 0, 400);
-    variable.SetFont(&large);
+    LargeTexts::Scale(5);
+    dc.SelectObject(&CCustomChecklistBox::GetOnBoardFont());
+    EXPECT_EQ(checks.CalcMinimumItemHeight(), dc.GetTextExtent("Aj", 2).cy);
     EXPECT_EQ(variable.CalcMinimumItemHeight(), check) << "whatever its texts";
+    dc.SelectStockObject(SYSTEM_FONT);
+    LargeTexts::Scale(1.7);
 }
 
 TEST_F(ListBoxOnBoard, TheTimersAreKnownToHostsAndTheInitialWaitIsHonoured)
@@ -143,10 +152,11 @@ TEST_F(ListCtrlOnBoard, TheReportListIsAskedForItsBarsItsVersionAndItsFrame)
     auto& list = AddList(3);
     EXPECT_EQ(list.GetScrollBarCtrl(SB_BOTH), nullptr);
     EXPECT_EQ(list.SendMessage(CCM_GETVERSION), 5);
-    // The frame stands three pixels less wide than that of a sizeable window, the edge within it.
+    // The frame is three pixels less wide than that of a sizeable window, by the metrics of the
+    // other direction; the edge lies within it.
     const CRect window = WindowRectOf(list);
     const CPoint client = ClientPoint(list, CPoint(0, 0));
     const int edge = ::GetSystemMetrics(SM_CXEDGE);
-    EXPECT_EQ(client.x - window.left, ::GetSystemMetrics(SM_CXFRAME) - 3 + edge);
-    EXPECT_EQ(client.y - window.top, ::GetSystemMetrics(SM_CYFRAME) - 3 + edge);
+    EXPECT_EQ(client.x - window.left, ::GetSystemMetrics(SM_CYFRAME) - 3 + edge);
+    EXPECT_EQ(client.y - window.top, ::GetSystemMetrics(SM_CXFRAME) - 3 + edge);
 }
