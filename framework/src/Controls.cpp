@@ -118,6 +118,10 @@ int CEdit::GetLine(int line, LPTSTR buffer, int size) const
 {
     // The message takes the capacity in the first bytes of the buffer that it fills.
     const WORD capacity = WORD(std::clamp(size, 0, 0xFFFF));
+    if (capacity == 0)
+    {
+        return 0;
+    }
     char few[sizeof(capacity)] = {};
     char* const filled = capacity < sizeof(few) ? few : buffer;
     ::CopyMemory(filled, &capacity, sizeof(capacity));

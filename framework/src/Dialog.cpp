@@ -75,12 +75,17 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND dialog, UINT message, WPARAM, LPARAM)
     {
         return FALSE;
     }
-    if (CFont* font = object->GetFont())
+    const auto gone = [&] { return FromHandlePermanent(dialog) != object; };
+    CFont* const font = object->GetFont();
+    if (font != nullptr && !gone())
     {
         object->OnSetFont(font);
     }
-    object->PreInitDialog();
-    return object->OnInitDialog();
+    if (!gone())
+    {
+        object->PreInitDialog();
+    }
+    return !gone() && object->OnInitDialog();
 }
 
 BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance)

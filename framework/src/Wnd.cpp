@@ -97,6 +97,10 @@ CWnd::~CWnd()
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
     {
         CWnd::DestroyWindow();
+        if (m_hWnd != nullptr)
+        {
+            Detach(); // it has ended before its messages came here
+        }
     }
     EndAccessibility();
 }

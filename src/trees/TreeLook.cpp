@@ -254,6 +254,10 @@ void TreeLook::Paint(const CRect* band)
         return;
     }
     m_items.WriteUnwritten();
+    if (!alive)
+    {
+        return;
+    }
     if (m_onBoard)
     {
         m_bars.Mirror();

@@ -4,7 +4,9 @@
 #include "ColorStatic.h"
 #include "ColoredGroupBox.h"
 #include "CustomDialog.h"
+#include "CustomEdit.h"
 #include "CustomStatic.h"
+#include "OnBoardUI.h"
 #include "buttons/buttons_for_tests.h"
 #include "catalog/DialogTemplate.h"
 #include "support/Acts.h"
@@ -82,6 +84,25 @@ TEST_F(ButtonOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
         EXPECT_EQ(WindowPixels(narrow).Count(Text) > 0, spare >= 20) << spare;
         Remove(narrow);
     }
+}
+
+TEST_F(ButtonOnBoard, LabelsAndEditsHaveFontsOfTheirSizes)
+{
+    const auto same = [](CFont& font, CFont& expected) {
+        LOGFONT is = {}, wanted = {};
+        return font.GetLogFont(&is) != 0 && expected.GetLogFont(&wanted) != 0 &&
+               is.lfHeight == wanted.lfHeight && is.lfWeight == wanted.lfWeight &&
+               std::string(is.lfFaceName) == wanted.lfFaceName;
+    };
+    CFont standard, label, field;
+    standard.CreatePointFont(COnBoardUIGeneral::GetStdCtrllfHeight(), "MS Sans Serif");
+    CreateOnBoardFont(label, 1.53, 0, FW_NORMAL);
+    CreateOnBoardFont(field, 1.7, 0, FW_NORMAL);
+    EXPECT_FALSE(same(label, field));
+    EXPECT_TRUE(same(CCustomStatic::GetOnBoardFont(), label));
+    EXPECT_TRUE(same(CCustomEdit::GetOnBoardFont(), field));
+    EXPECT_TRUE(same(CCustomStatic::GetStdFont(), standard));
+    EXPECT_TRUE(same(CCustomEdit::GetStdFont(), standard));
 }
 
 TEST_F(ButtonOnBoard, AClientEdgeBecomesABorderOfThreePixels)

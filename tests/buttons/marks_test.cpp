@@ -77,6 +77,7 @@ TEST_F(ButtonOnBoard, TheCheckSquareHasThreeSunkenRingsAndACross)
             {
                 EXPECT_EQ(seen.At(inner.left + step, inner.top + step), look.sign) << step;
                 EXPECT_EQ(seen.At(inner.left + step, inner.bottom - 1 - step), look.sign) << step;
+                EXPECT_EQ(seen.At(inner.left + step + 1, inner.top + step), look.sign) << step;
             }
             EXPECT_EQ(seen.At(inner.left, inner.CenterPoint().y), look.face);
             EXPECT_EQ(seen.At(inner.right - 1, inner.CenterPoint().y), look.face);
@@ -119,7 +120,7 @@ TEST_F(ButtonOnBoard, TheRadioCircleIsThisPicture)
         const std::map<char, COLORREF> colors = {
             {'.', Ground}, {'r', look.rim}, {'L', look.light}, {'f', look.face}, {'D', look.sign}};
         auto& radio = Add<TestRadio>(CRect(0, 0, 200, 41), look.style);
-        for (const int check : {BST_UNCHECKED, BST_CHECKED})
+        for (const int check : {BST_UNCHECKED, BST_CHECKED, BST_INDETERMINATE})
         {
             radio.SetCheck(check);
             const Pixels seen = radio.Drawn();
@@ -288,6 +289,32 @@ TEST_F(RadioGroup, AHeadThatIsSkippedDoesNotHangTheWalk)
     second.SendMessage(BM_CLICK);
     EXPECT_EQ(second.GetCheck(), 1);
     EXPECT_FALSE(CCustomRadiobutton::IsAutoRadio(nullptr));
+}
+
+// Meant: the types that have both bits of an automatic radio button count as one.
+TEST_F(RadioGroup, TypesAndStatesBeyondTheUsualHaveTheirRule)
+{
+    auto& button = Add<CButton>(CRect(300, 40, 400, 70));
+    for (const DWORD group : {DWORD(0), DWORD(WS_GROUP)})
+    {
+        for (DWORD type = 0; type < 16; ++type)
+        {
+            ::SetWindowLongPtr(button, GWL_STYLE, LONG_PTR(WS_CHILD | group | type));
+            const bool radio = type == 9 || type == 11 || type == 13 || type == 15;
+            EXPECT_EQ(CCustomRadiobutton::IsAutoRadio(&button), radio) << type;
+            EXPECT_EQ(CCustomRadiobutton::IsAutoRadioGroupCtrl(&button), radio && group != 0);
+        }
+    }
+    auto& other = AddRadio(WS_GROUP);
+    auto& radio = AddRadio();
+    for (const auto& [before, after] : {std::pair(BST_INDETERMINATE, BST_CHECKED), {7, 7}})
+    {
+        other.SetCheck(1);
+        radio.SendMessage(BM_SETCHECK, WPARAM(before));
+        radio.SendMessage(BM_CLICK);
+        EXPECT_EQ(radio.GetCheck(), after);
+        EXPECT_EQ(other.GetCheck(), after == BST_CHECKED ? 0 : 1) << "only a check clears others";
+    }
 }
 
 TEST_F(RadioGroup, GroupBoxesThatItLiesInHearOfEachClickInEveryMode)

@@ -18,6 +18,7 @@ TEST_F(CustomDialogTest, TheOnBoardFrameIsThreePixelsAndABandThatTakesPresses)
         {WS_POPUP | WS_CAPTION | DS_MODALFRAME | WS_VISIBLE, 0},
         {WS_POPUP | WS_VISIBLE, 0},
         {WS_POPUP | WS_CAPTION | WS_VISIBLE, WS_EX_DLGMODALFRAME},
+        {WS_POPUP | WS_CAPTION | WS_THICKFRAME | WS_VISIBLE, 0},
     };
     for (const auto& each : cases)
     {
@@ -29,7 +30,17 @@ TEST_F(CustomDialogTest, TheOnBoardFrameIsThreePixelsAndABandThatTakesPresses)
         CRect expected = WindowRectOf(dialog);
         const CSize size = expected.Size();
         const int end = 4 + BandOf(dialog);
-        expected.DeflateRect(3, end - 1, 3, 3);
+        CSize less(0, 0); // what the sizing frame is narrower than the system says
+        int raised = 0;   // what newer systems add to it at the top
+        if ((each.style & WS_THICKFRAME) != 0)
+        {
+            CRect frame(0, 0, 0, 0);
+            ::AdjustWindowRectEx(&frame, dialog.GetStyle(), FALSE, dialog.GetExStyle());
+            less = CSize(::GetSystemMetrics(SM_CXFRAME) - frame.right,
+                         ::GetSystemMetrics(SM_CYFRAME) - frame.bottom);
+            raised = 4;
+        }
+        expected.DeflateRect(3 - less.cx, end - 1 - raised - less.cy, 3 - less.cx, 3 - less.cy);
         CRect client = ClientRectOf(dialog);
         dialog.ClientToScreen(&client);
         EXPECT_EQ(client, expected);
@@ -77,6 +88,10 @@ TEST_F(CustomDialogTest, FrameAndCaptionArePainted)
     expectFrame(RGB(70, 90, 110), "active");
     Host().SetActiveWindow();
     expectFrame(RGB(100, 100, 100), "inactive, drawn at once");
+    dialog.SendMessage(WM_NCPAINT, 1);
+    expectFrame(RGB(70, 90, 110), "painted anew it looks active");
+    dialog.SendMessage(WM_NCACTIVATE, 2);
+    expectFrame(RGB(100, 100, 100), "no value of its own is active");
     dialog.SetWindowText("Title, longer & changed");
     expectFrame(RGB(100, 100, 100), "with a new text");
     EXPECT_GT(WindowPixels(dialog).Count(RGB(180, 180, 180)), 1000) << "the controls stay";
@@ -186,6 +201,40 @@ TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
         EXPECT_EQ(dc.GetBkColor(), each.look.ground == CLR_INVALID ? before : each.look.ground);
         EXPECT_EQ(dc.GetBkMode(), each.id == IdLabel ? TRANSPARENT : OPAQUE);
         EXPECT_EQ(dc.GetCurrentFont() == &CCustomDialog::m_OBStaticTextFont, each.id == IdLabel);
+    }
+}
+
+TEST_F(CustomDialogTest, DerivedDialogsFindBrushesAndPensOfTheseColours)
+{
+    const DialogForTests dialog;
+    using D = CCustomDialog;
+    const std::pair<CBrush&, COLORREF> brushes[] = {
+        {D::m_BkBrush, RGB(50, 50, 50)},
+        {D::m_BkCaptionBrush, RGB(70, 90, 110)},
+        {D::m_BkDisabledBrush, RGB(100, 100, 100)},
+        {D::m_BkEditBrush, RGB(180, 180, 180)},
+        {D::m_BkEditDisabledBrush, RGB(100, 100, 100)},
+        {D::m_BkRedTestBrush, RGB(255, 0, 0)},
+        {D::m_BkGrnTestBrush, RGB(0, 255, 0)},
+        {D::m_BkBluTestBrush, RGB(0, 0, 255)},
+    };
+    for (const auto& [brush, color] : brushes)
+    {
+        LOGBRUSH made = {};
+        brush.GetLogBrush(&made);
+        EXPECT_EQ(made.lbColor, color);
+    }
+    const std::pair<CPen&, COLORREF> pens[] = {
+        {D::m_BkBorderPen, RGB(70, 90, 110)},  {D::m_BkDisabledPen, RGB(100, 100, 100)},
+        {D::m_BkBorderRedPen, RGB(255, 0, 0)}, {D::m_BkBorderGrnPen, RGB(0, 255, 0)},
+        {D::m_BkBorderBluPen, RGB(0, 0, 255)},
+    };
+    for (const auto& [pen, color] : pens)
+    {
+        LOGPEN made = {};
+        pen.GetLogPen(&made);
+        EXPECT_EQ(made.lopnColor, color);
+        EXPECT_EQ(made.lopnWidth.x, 3);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "dialogs/dialog_for_tests.h"
 #include "support/Acting.h"
+#include "support/Fenced.h"
 #include "support/forms.h"
 
 #include <cstring>
@@ -309,6 +310,23 @@ TEST_F(CustomDialogTest, TheTabKeyFollowsTheOrderThatIsSet)
         TypeKey(VK_TAB);
         EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), id);
     }
+}
+
+TEST_F(CustomDialogTest, AControlThatIsPutInOrderMayEndItsDialog)
+{
+    const AccessFaults faults;
+    for (const UINT message : {UINT(WM_STYLECHANGING), UINT(WM_WINDOWPOSCHANGING)})
+    {
+        auto* dialog = new Fenced<DialogForTests>;
+        ASSERT_TRUE(dialog->CreateIndirect(form, &Host()));
+        Acting<CEdit> edit;
+        ASSERT_TRUE(edit.SubclassDlgItem(IdEdit, dialog));
+        edit.ActIn(message, [&] { delete std::exchange(dialog, nullptr); });
+        const UINT ids[] = {IdEdit, IdList, 0};
+        dialog->SetCtrlTabOrder(ids);
+        EXPECT_EQ(dialog, nullptr);
+    }
+    EXPECT_EQ(faults.Count(), 0);
 }
 
 TEST_F(CustomDialogTest, AModalChildIsFound)

@@ -319,4 +319,43 @@ TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
     EXPECT_EQ(faults.Count(), 0);
 }
 
+// A box that goes when it is asked for its font.
+class FontlessBox : public Fenced<MessageBoxForTests>
+{
+public:
+    using Fenced<MessageBoxForTests>::Fenced;
+
+    static inline FontlessBox* box = nullptr;
+    static inline int asked = 0; // how often before
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_GETFONT && box == this && asked-- == 0)
+        {
+            delete std::exchange(box, nullptr);
+            return 0;
+        }
+        return Fenced<MessageBoxForTests>::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(MessageBoxTest, ABoxMayGoWhenItIsAskedForItsFont)
+{
+    const AccessFaults faults;
+    bool went = true;
+    int last = 0;
+    for (int which = 0; went && which < 20; ++which)
+    {
+        FontlessBox::asked = which;
+        FontlessBox::box = new FontlessBox(Lines(3).c_str(), MB_YESNO);
+        FontlessBox::box->Create(CZepMsgBoxDlg::IDD, &Host());
+        went = FontlessBox::box == nullptr;
+        delete std::exchange(FontlessBox::box, nullptr);
+        EXPECT_EQ(faults.Count(), 0) << which;
+        last = which;
+    }
+    EXPECT_GT(last, 0);
+}
+
 } // namespace

@@ -39,6 +39,7 @@ TEST_F(EditOnBoard, AHeldArrowScrollsALineEachTickUntilThePressEnds)
     {
         auto& edit = AddEdit(500);
         MessageLog log(edit, {WM_VSCROLL});
+        MessageLog ticks(edit, {WM_TIMER});
         MoveTo(edit.PartPoint(Second));
         const DWORD start = ::GetTickCount();
         Press();
@@ -46,6 +47,8 @@ TEST_F(EditOnBoard, AHeldArrowScrollsALineEachTickUntilThePressEnds)
         MoveTo(ClientPoint(Host(), CPoint(600, 500)));
         ASSERT_TRUE(PumpUntil([&] { return log.Count(WM_VSCROLL) == 4; }));
         EXPECT_GE(::GetTickCount() - start, 3 * 90U);
+        EXPECT_EQ(ticks.WParams(WM_TIMER).front(), 103U);
+        EXPECT_EQ(CCustomEdit::m_timerperiod, 102U) << "as far as a busy machine keeps it";
         EXPECT_TRUE(edit.m_scrolling);
         end(edit);
         PumpFor(120);
@@ -193,6 +196,11 @@ TEST_F(EditTest, AFauxReadOnlyEditScrollsAndCopiesAndTakesNoOtherKey)
         TypeKey('X', VK_CONTROL);
         TypeKey('V', VK_CONTROL);
         TypeKey(VK_INSERT, VK_SHIFT);
+        edit.ReplaceSel("told", TRUE); // by the host, who could undo it
+        TypeKey(VK_BACK, VK_MENU);
+        EXPECT_EQ(edit.Text().substr(0, 4), "told") << "Alt and backspace undo";
+        edit.Undo();
+        edit.SetSel(0, 6);
         EXPECT_EQ(edit.Text(), before) << APPMODE_NAMES[mode];
         TypeKey('C', VK_CONTROL);
         edit.SendMessage(WM_VSCROLL, SB_LINEDOWN);
@@ -202,6 +210,34 @@ TEST_F(EditTest, AFauxReadOnlyEditScrollsAndCopiesAndTakesNoOtherKey)
         EXPECT_EQ(other.Text(), "Line 0");
         Remove(other);
         Remove(edit);
+    }
+}
+
+TEST_F(EditTest, TheContextMenuIsForTheStandardMode)
+{
+    auto& edit = AddEdit(3);
+    for (const APPMODE mode : {ONBOARD, EFBFS, STD})
+    {
+        SetMode(mode, edit);
+        bool opened = false;
+        const auto close = [&] {
+            GUITHREADINFO info = {};
+            info.cbSize = sizeof(info);
+            ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
+            if ((info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0)
+            {
+                opened = true;
+                QueueKey(VK_ESCAPE, true);
+                QueueKey(VK_ESCAPE, false);
+            }
+        };
+        MoveTo(ClientPoint(edit, CPoint(30, 30)));
+        const auto tap = [] {
+            QueueButton(true, true);
+            QueueButton(false, true);
+        };
+        PlaySteps({tap, close, close});
+        EXPECT_EQ(opened, mode == STD) << APPMODE_NAMES[mode];
     }
 }
 

@@ -1,6 +1,7 @@
 #include "catalog/DialogTemplate.h"
 #include "edits/edit_for_tests.h"
 #include "support/Acting.h"
+#include "support/Canvas.h"
 
 #include "CustomDialog.h"
 
@@ -171,6 +172,99 @@ TEST_F(EditTest, DirectEditsGoThroughAllModesAndBack)
         EXPECT_TRUE(PlatformBarWorks(edit)) << APPMODE_NAMES[born];
         Remove(edit);
     }
+}
+
+// Whatever the style was when the edit was made.
+TEST_F(EditTest, AnOnBoardTripLeavesThePlatformsBarAsTheHostHadIt)
+{
+    const std::tuple<const char*, DWORD, void (*)(CCustomEdit&), bool> cases[] = {
+        {"given", 0, [](CCustomEdit& edit) { edit.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED); },
+         true},
+        {"shown", 0, [](CCustomEdit& edit) { edit.ShowScrollBar(SB_VERT, TRUE); }, true},
+        {"taken away", WS_VSCROLL, [](CCustomEdit& edit) { edit.RemoveVScrollBar(); }, false},
+        {"taken away and given back", WS_VSCROLL,
+         [](CCustomEdit& edit) {
+             edit.RemoveVScrollBar();
+             edit.IncludeVScrollBar();
+         },
+         true},
+        {"never there", 0, [](CCustomEdit& edit) { edit.IncludeVScrollBar(); }, false},
+    };
+    for (const auto& [name, style, act, bar] : cases)
+    {
+        SCOPED_TRACE(name);
+        auto& edit = AddEdit(100, (ManyLines & ~DWORD(WS_VSCROLL)) | style);
+        act(edit);
+        const int width = ClientRectOf(edit).Width();
+        for (int trip = 0; trip < 2; ++trip)
+        {
+            SetMode(EFB, edit);
+            EXPECT_EQ(edit.GetStyle() & WS_VSCROLL, 0U);
+            SetMode(STD, edit);
+            EXPECT_EQ((edit.GetStyle() & WS_VSCROLL) != 0, bar);
+            EXPECT_EQ(ClientRectOf(edit).Width(), width);
+        }
+        Remove(edit);
+    }
+}
+
+TEST_F(EditOnBoard, ItsBarIsPaintedWhereverItIsAskedFor)
+{
+    auto& edit = AddEdit(100);
+    const Pixels shown = WindowPixels(edit);
+    const CRect bar = edit.m_bar.GetArea();
+    const auto spoil = [&] { CWindowDC(&edit).FillSolidRect(bar, RGB(255, 0, 0)); };
+    for (int time = 0; time < 2; ++time) // the second is no news to the screen
+    {
+        Canvas paper(300, 240);
+        edit.DrawOBScrollBars(&paper.DC());
+        for (const CPoint at : {CPoint(bar.left, bar.top + 90), bar.CenterPoint(),
+                                CPoint(bar.left + 20, bar.top + 20)})
+        {
+            EXPECT_EQ(paper.Picture().At(at), shown.At(at));
+        }
+        spoil();
+        edit.DrawOBNC();
+        PumpAll();
+        EXPECT_TRUE(WindowPixels(edit) == shown);
+    }
+    // What went elsewhere does not count as seen.
+    spoil();
+    edit.LineScroll(3);
+    EXPECT_TRUE(ShowsWhatAPaintWould(edit));
+    const Pixels scrolled = WindowPixels(edit);
+    edit.m_bar.SetScrollPos(20);
+    edit.DrawOBScrollBars(&Canvas(300, 240).DC());
+    edit.DrawOBScrollBars();
+    EXPECT_FALSE(WindowPixels(edit) == scrolled);
+}
+
+TEST_F(EditTest, EnteringAModeBringsTextAndBarTogetherOnce)
+{
+    auto& edit = AddEdit(100);
+    edit.SetSel(40, 60);
+    MessageLog log(edit, {WM_USER + 96});
+    SetMode(EFB, edit);
+    EXPECT_EQ(log.WParams(0x460), (std::vector<WPARAM>{TRUE, FALSE}));
+    EXPECT_TRUE(edit.m_overflowing);
+    edit.SetWindowText("one line");
+    EXPECT_FALSE(edit.m_overflowing);
+
+    // One that is taken over on-board begins at its text's begin; afterwards the selection stays.
+    auto& plain = Add<CEdit>(CRect(20, 20, 320, 260), ManyLines);
+    plain.SetWindowText(EditForTests::Lines(50).c_str());
+    plain.SetSel(40, 60);
+    const UINT id = UINT(plain.GetDlgCtrlID());
+    plain.UnsubclassWindow();
+    CCustomEdit taker;
+    ASSERT_TRUE(taker.SubclassDlgItem(id, &Host()));
+    Repaint(taker);
+    EXPECT_EQ(taker.GetSel(), 0U);
+    taker.SetSel(40, 60);
+    SetMode(STD, taker);
+    SetMode(ONBOARD, taker);
+    EXPECT_EQ(taker.GetSel(), DWORD(MAKELONG(40, 60)));
+    taker.DestroyWindow();
 }
 
 TEST_F(EditTest, TemplateAndSubclassedEditsFollowTheirDialog)

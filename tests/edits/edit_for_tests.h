@@ -17,6 +17,7 @@ public:
     using CCustomEdit::m_bar;
     using CCustomEdit::m_barShown;
     using CCustomEdit::m_lastHit;
+    using CCustomEdit::m_overflowing;
     using CCustomEdit::m_scrolling;
 
     static std::string Lines(int count)

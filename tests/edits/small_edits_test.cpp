@@ -4,6 +4,10 @@
 #include "EditWithPrompt.h"
 #include "QuixEdit.h"
 #include "catalog/DialogTemplate.h"
+#include "support/Acts.h"
+#include "support/Fenced.h"
+#include "support/Repaint.h"
+#include "support/SysColorScope.h"
 #include "support/WindowTest.h"
 
 #include <cstring>
@@ -73,6 +77,8 @@ TEST_F(SmallEditsTest, PromptRules)
         {"press", nullptr, [](Edit& e) { Click(ClientPoint(e, CPoint(9, 9))); }, "", ""},
         {"right press", nullptr, [](Edit& e) { e.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, 0); }, "",
          ""},
+        {"middle press", nullptr, [](Edit& e) { e.SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, 0); }, "",
+         ""},
         {"all selected", nullptr, [](Edit& e) { e.SetSel(0, -1); }, "", prompt},
     };
     for (const auto& row : table)
@@ -102,6 +108,10 @@ TEST_F(SmallEditsTest, PromptRules)
     auto& edit = Add<EditWithPrompt>(CRect(20, 20, 220, 50));
     EXPECT_EQ(edit.GetWindowText(&untouched, 0), 0);
     EXPECT_EQ(edit.GetWindowText(nullptr, 0), 0);
+    edit.SendMessage(WM_GETTEXT, WPARAM(-1), LPARAM(&untouched));
+    EXPECT_EQ(untouched, '\0') << "a size beyond all numbers";
+    untouched = 'u';
+    edit.SendMessage(WM_GETTEXT, 0, LPARAM(&untouched));
     EXPECT_EQ(untouched, 'u');
 }
 
@@ -115,6 +125,15 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
     EXPECT_GT(count(RGB(119, 121, 118)), 20);
     edit.SetPromptColor(RGB(200, 30, 30));
     EXPECT_GT(count(RGB(200, 30, 30)), 20);
+    EXPECT_EQ(edit.GetPromptColor(), RGB(200, 30, 30));
+    EXPECT_STREQ(edit.GetPromptText(), "<Enter text here>");
+    {
+        const SysColorScope windows(COLOR_WINDOW, RGB(10, 60, 20));
+        Repaint(edit);
+        EXPECT_GT(count(RGB(10, 60, 20)), 5000);
+        EXPECT_EQ(count(windows.Before()), 0) << "one ground behind letters and beside them";
+    }
+    PumpAll();
     edit.SetWindowText("text");
     EXPECT_EQ(count(RGB(200, 30, 30)), 0);
     edit.DestroyWindow();
@@ -130,6 +149,49 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
     EXPECT_EQ(Shown(subclassed), "<Enter text here>");
     EXPECT_EQ(TextOf(subclassed), "");
     dialog.DestroyWindow();
+}
+
+// The prompt is set as it takes over an edit, which tells the parent.
+TEST_F(SmallEditsTest, AParentMayEndAnEditThatTakesOverOne)
+{
+    const AccessFaults faults;
+    for (const bool deletes : {true, false})
+    {
+        auto& plain = Add<CEdit>(CRect(20, 20, 220, 50));
+        const UINT id = UINT(plain.GetDlgCtrlID());
+        plain.UnsubclassWindow();
+        auto* edit = new Fenced<EditWithPrompt>;
+        const OnceTold told(Host(), EN_CHANGE, [&] {
+            ::DestroyWindow(::GetDlgItem(Host(), int(id)));
+            if (deletes)
+            {
+                delete std::exchange(edit, nullptr);
+            }
+        });
+        EXPECT_FALSE(edit->SubclassDlgItem(id, &Host()));
+        EXPECT_TRUE(told);
+        if (edit != nullptr)
+        {
+            EXPECT_EQ(edit->GetSafeHwnd(), nullptr);
+        }
+        Host().hook = nullptr;
+        delete edit;
+    }
+    EXPECT_EQ(faults.Count(), 0);
+}
+
+TEST_F(SmallEditsTest, ALineOfTextKeepsToTheBufferThatItIsCopiedTo)
+{
+    auto& edit = Add<CEdit>(CRect(20, 20, 220, 50), ES_MULTILINE);
+    edit.SetWindowText("abcdef");
+    for (const int size : {-1, 0, 1, 2, 4})
+    {
+        char line[] = "......";
+        const int copied = edit.GetLine(0, line, size);
+        EXPECT_EQ(copied, std::max(0, size)) << size;
+        EXPECT_EQ(std::string(line), std::string("abcdef").substr(0, size_t(copied)) +
+                                         std::string(size_t(6 - copied), '.'));
+    }
 }
 
 TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidth)

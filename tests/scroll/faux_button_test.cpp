@@ -146,7 +146,14 @@ TEST(FauxNcButton, PaintsGlyphAndBorderInTheStandardModeOnly)
     const COLORREF dark = ::GetSysColor(COLOR_3DDKSHADOW);
     EXPECT_TRUE(raised.At(10, 15) == light && raised.At(15, 29) == dark);
     EXPECT_TRUE(sunk.At(10, 15) == dark && sunk.At(15, 29) == light);
+    const COLORREF innerLight = ::GetSysColor(COLOR_3DLIGHT);
+    const COLORREF innerDark = ::GetSysColor(COLOR_3DSHADOW);
+    EXPECT_TRUE(raised.At(11, 15) == innerLight && raised.At(15, 28) == innerDark);
+    EXPECT_TRUE(sunk.At(11, 15) == innerDark && sunk.At(15, 28) == innerLight);
     EXPECT_EQ(raised.At(20, 20), Canvas::Untouched) << "no glyph, transparent";
+    button.SetShow(0);
+    EXPECT_EQ(Painted(button, !Pressed, Enabled, STD), Canvas(80, 80).Picture()) << "hidden";
+    button.SetShow(1);
 
     button.SetBorder(false);
     button.SetButtonType(CFauxNcButton::BUTTON_CLOSE);

@@ -79,6 +79,12 @@ TEST_F(FauxScrollBarTest, ScrollInfoIsAppliedInItsFixedOrder)
 
     EXPECT_EQ(vert.SetScrollInfo(nullptr, FALSE), 55);
     EXPECT_EQ(vert.ShowScrollBar(), 0);
+    vert.SetScrollInfo(&info, TRUE);
+    EXPECT_EQ(vert.ShowScrollBar(), 1);
+    int end = -1;
+    vert.GetScrollRange(nullptr, &end);
+    vert.GetScrollRange(&end, nullptr);
+    EXPECT_EQ(end, -1) << "both ends or none";
 }
 
 TEST_F(FauxScrollBarTest, TheThumbFollowsPositionRangeAndArea)

@@ -76,7 +76,20 @@ TEST_F(MultiTreeInputTest, TheRightButtonKeepsASelectionAndOpensOneMenu)
     ClickItem(tree, d, {VK_CONTROL});
     MessageLog log(tree, {WM_CONTEXTMENU});
     Host().Forget();
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(NM_RCLICK))
+        {
+            const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
+            EXPECT_EQ(notify.itemNew.hItem, b);
+            EXPECT_EQ(ClientPoint(tree, notify.ptDrag), PointOf(tree, b));
+        }
+    };
     ClickItem(tree, b, {}, true);
+    Host().hook = nullptr;
+    ASSERT_EQ(log.Count(WM_CONTEXTMENU), 1);
+    const LPARAM at = log.All().back().lParam;
+    EXPECT_EQ(CPoint(GET_X_LPARAM(at), GET_Y_LPARAM(at)), PointOf(tree, b));
+    EXPECT_EQ(log.WParams(WM_CONTEXTMENU).back(), WPARAM(tree.GetSafeHwnd()));
     EXPECT_EQ(SelectedTexts(tree), "bd") << "a selected item keeps the others";
     EXPECT_EQ(log.Count(WM_CONTEXTMENU), 1);
     EXPECT_THAT(Codes(), ElementsAre(int(NM_RCLICK)));
@@ -120,7 +133,7 @@ TEST_F(MultiTreeInputTest, APressIsADragOnceItMovesFarEnough)
     auto& tree = AddTree();
     CPoint start;
     Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(TVN_BEGINDRAG))
+        if (told.code == UINT(TVN_BEGINDRAG) || told.code == UINT(TVN_BEGINRDRAG))
         {
             const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
             EXPECT_EQ(notify.itemNew.hItem, d);
@@ -144,6 +157,24 @@ TEST_F(MultiTreeInputTest, APressIsADragOnceItMovesFarEnough)
         EXPECT_EQ(pull(d, along(-1)), int(NM_CLICK)) << way.x;
         EXPECT_EQ(pull(d, along(1)), int(TVN_BEGINDRAG)) << way.x;
     }
+    const auto pullRight = [&](HTREEITEM item) {
+        Host().Forget();
+        start = PointOf(tree, item);
+        PressScript(start, {}, true).Pull(CPoint(20, 0)).Release();
+        const std::vector<UINT> codes = Host().CodesFrom(FirstId);
+        EXPECT_EQ(std::ranges::count(codes, UINT(TVN_BEGINDRAG)), 0);
+        return std::ranges::count(codes, UINT(TVN_BEGINRDRAG));
+    };
+    EXPECT_EQ(pullRight(d), 1);
+    // Neither dragged nor added, with either button.
+    tree.SelectItem(b);
+    tree.refused = d;
+    start = PointOf(tree, d);
+    PressScript(start, {VK_CONTROL}).Pull(CPoint(20, 0)).Release();
+    EXPECT_EQ(CountOf(int(TVN_BEGINDRAG)), 0);
+    EXPECT_EQ(SelectedTexts(tree), "b");
+    EXPECT_EQ(pullRight(d), 0);
+    tree.refused = nullptr;
     tree.ModifyStyle(0, TVS_DISABLEDRAGDROP);
     pull(e, CPoint(20, 0));
     EXPECT_EQ(CountOf(int(TVN_BEGINDRAG)), 0);
@@ -189,11 +220,72 @@ TEST_F(MultiTreeInputTest, ArrowsMoveExtendOrPassTheSelection)
     for (const auto& [key, held, selected, caret] : keys)
     {
         Host().Forget();
+        HTREEITEM last = nullptr;
+        Host().hook = [&](ToldMessage& told) {
+            last = told.code == UINT(TVN_SELCHANGED) ? ItemOf(told) : last;
+        };
         TypeKey(key, held);
+        EXPECT_EQ(last == nullptr, held != 0) << "of no item in particular";
         EXPECT_EQ(SelectedTexts(tree), selected) << key << ' ' << held;
         EXPECT_EQ(tree.GetFocusedItem(), caret) << key << ' ' << held;
         EXPECT_EQ(Codes().back(), Changed);
     }
+}
+
+TEST_F(MultiTreeInputTest, TheUserClosesABranchByItsMarkAndByKey)
+{
+    auto& tree = AddTree();
+    const auto mark = [&] {
+        const int y = TextRectOf(tree, a).CenterPoint().y;
+        for (int x = 0; x < 60; ++x)
+        {
+            UINT flags = 0;
+            tree.HitTest(CPoint(x, y), &flags);
+            if ((flags & TVHT_ONITEMBUTTON) != 0)
+            {
+                return ClientPoint(tree, CPoint(x + 3, y));
+            }
+        }
+        return CPoint(-1, -1);
+    };
+    const std::tuple<const char*, const char*, std::function<void()>> cases[] = {
+        {"mark", "e", [&] { PressScript(mark()).Release(); }},
+        {"key", "ae", [&] {
+             tree.SetItemState(a, TVIS_FOCUSED | TVIS_SELECTED, TVIS_FOCUSED | TVIS_SELECTED);
+             TypeKey(VK_LEFT);
+         }}};
+    for (const auto& [name, selected, close] : cases)
+    {
+        SCOPED_TRACE(name);
+        tree.Expand(a, TVE_EXPAND);
+        tree.SelectItem(b);
+        tree.SetItemState(e, TVIS_SELECTED, TVIS_SELECTED);
+        PumpAll();
+        close();
+        EXPECT_EQ(tree.GetItemState(a, TVIS_EXPANDED), 0U);
+        EXPECT_EQ(SelectedTexts(tree), selected);
+    }
+}
+
+TEST_F(MultiTreeInputTest, APressOnACheckIsThePlatforms)
+{
+    auto& tree = AddTree();
+    tree.ModifyStyle(0, TVS_CHECKBOXES);
+    PumpAll();
+    tree.SelectItem(b);
+    Repaint(tree);
+    const CRect text = TextRectOf(tree, e);
+    UINT flags = 0;
+    int x = text.left;
+    for (; x > 0 && (flags & TVHT_ONITEMSTATEICON) == 0; --x)
+    {
+        tree.HitTest(CPoint(x, text.CenterPoint().y), &flags);
+    }
+    ASSERT_GT(x, 0);
+    const UINT before = tree.GetItemState(e, TVIS_STATEIMAGEMASK);
+    PressScript(ClientPoint(tree, CPoint(x - 4, text.CenterPoint().y))).Release();
+    EXPECT_NE(tree.GetItemState(e, TVIS_STATEIMAGEMASK), before) << "it is checked";
+    EXPECT_EQ(SelectedTexts(tree), "b") << "and nothing selected";
 }
 
 TEST_F(MultiTreeInputTest, ABandSelectsWhatItMeetsAndLeavesNoTrace)

@@ -100,6 +100,14 @@ TEST_F(MultiTreeTest, EachStateChangeAsksAndTellsTheParent)
     EXPECT_FALSE(tree.IsEmulatedNotify());
     EXPECT_TRUE(tree.SetItemState(d, TVIS_CUT, TVIS_CUT)) << "other bits change unasked";
     EXPECT_EQ(tree.GetItemState(d, TVIS_CUT | TVIS_SELECTED), UINT(TVIS_CUT | TVIS_SELECTED));
+    Host().hook = nullptr;
+    for (const bool notify : {false, true})
+    {
+        Host().Forget();
+        tree.SelectAll(notify, notify);
+        EXPECT_GE(CountOf(Changing), 1);
+        EXPECT_EQ(CountOf(Changed), notify ? 6 : 0);
+    }
 }
 
 TEST_F(MultiTreeTest, TheCaretMovesWithoutTheSelection)
@@ -265,6 +273,23 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
     tree.Expand(a, TVE_TOGGLE);
     EXPECT_EQ(SelectedTexts(tree), "a");
     EXPECT_EQ(tree.GetFocusedItem(), a) << "a selected branch keeps the caret";
+
+    // The caret goes, and leaves what is selected elsewhere.
+    tree.Expand(a, TVE_EXPAND);
+    tree.SelectItem(b);
+    tree.SetItemState(e, TVIS_FOCUSED | TVIS_SELECTED, TVIS_FOCUSED | TVIS_SELECTED);
+    ASSERT_EQ(SelectedTexts(tree), "be");
+    tree.Expand(a, TVE_COLLAPSE);
+    EXPECT_EQ(tree.GetFocusedItem(), nullptr);
+    EXPECT_EQ(SelectedTexts(tree), "e");
+    EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), "e");
+
+    tree.Expand(a, TVE_EXPAND);
+    tree.SelectItem(b);
+    tree.Expand(a, TVE_EXPAND);
+    EXPECT_EQ(SelectedTexts(tree), "b");
+    tree.Expand(a, TVE_COLLAPSERESET); // alone it closes as well
+    EXPECT_EQ(SelectedTexts(tree), "");
 }
 
 TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)

@@ -17,6 +17,7 @@ class ViewForTests : public MultiTreeView
 public:
     using MultiTreeView::m_dragging;
     using MultiTreeView::m_dragImage;
+    using MultiTreeView::m_payload;
 
     void GetSelectedItems(HTREEITEM item, KArray& payload) override { payload.Add(item); }
     void DragEnded(HWND accepted) override { ended.push_back(accepted); }
@@ -27,6 +28,7 @@ public:
     }
 
     bool accepts = false;
+    bool plain = false; // does what the class does
     std::function<void()> onImage = [] {};
     std::function<void()> onDrop = [] {};
     std::vector<HWND> ended;
@@ -37,7 +39,7 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == mnDragDropMsg || message == mnDragCopyMsg)
+        if (!plain && (message == mnDragDropMsg || message == mnDragCopyMsg))
         {
             received.push_back(message == mnDragDropMsg ? "drop" : "copy");
             dropPoint = *reinterpret_cast<const POINT*>(wParam);
@@ -100,6 +102,7 @@ protected:
     {
         EXPECT_FALSE(m_source->m_dragging);
         EXPECT_EQ(m_source->m_dragImage, nullptr);
+        EXPECT_EQ(m_source->m_payload.GetCount(), 0);
         EXPECT_EQ(::GetCapture(), nullptr);
         return std::exchange(m_source->ended, {});
     }
@@ -117,7 +120,18 @@ TEST_F(MultiTreeViewTest, KeepsTheSelectionsRules)
     EXPECT_EQ(SelectedTexts(*m_source, Items()), "bcd");
     m_source->SelectAllIgnore(m_items[2], false, nullptr);
     EXPECT_EQ(SelectedTexts(*m_source, Items()), "bd") << "the branch c alone";
+    EXPECT_EQ(MultiTreeView::mnDragTrackMsg, ::RegisterWindowMessage("Kest Drag Track"));
+    EXPECT_EQ(MultiTreeView::mnDragLeaveMsg, ::RegisterWindowMessage("Kest Drag Leave"));
     EXPECT_EQ(MultiTreeView::mnDragDropMsg, ::RegisterWindowMessage("Kest Drag Drop"));
+    EXPECT_EQ(MultiTreeView::mnDragCopyMsg, ::RegisterWindowMessage("Kest Drag Copy"));
+
+    // The user closes a branch.
+    const HTREEITEM below = AddItems(Items(), "x", m_items[0])[0];
+    Items().Expand(m_items[0], TVE_EXPAND);
+    m_source->SelectItem(m_items[0]);
+    m_source->SetItemState(below, TVIS_SELECTED, TVIS_SELECTED);
+    TypeKey(VK_LEFT);
+    EXPECT_EQ(SelectedTexts(*m_source, Items()), "a");
 }
 
 TEST_F(MultiTreeViewTest, ADragEndsWithTheWindowUnderIt)
@@ -268,10 +282,20 @@ TEST_F(MultiTreeViewTest, ScrollsAsATarget)
         return [&target, top] { return target.GetFirstVisibleItem() != top; };
     };
     const HTREEITEM first = target.GetFirstVisibleItem();
-    track(CPoint(20, client.bottom - 3));
-    EXPECT_TRUE(PumpUntil(scrolledFrom(first))) << "the timer scrolls";
-    target.SendMessage(MultiTreeView::mnDragLeaveMsg);
-    EXPECT_FALSE(PumpUntil(scrolledFrom(target.GetFirstVisibleItem()), 400));
+    POINT dropped = {};
+    KArray payload;
+    for (const UINT end : {MultiTreeView::mnDragLeaveMsg, MultiTreeView::mnDragDropMsg,
+                           MultiTreeView::mnDragCopyMsg})
+    {
+        MessageLog ticks(target, {WM_TIMER});
+        const HTREEITEM top = target.GetFirstVisibleItem();
+        track(CPoint(20, client.bottom - 3));
+        EXPECT_TRUE(PumpUntil(scrolledFrom(top))) << "the timer scrolls";
+        EXPECT_EQ(ticks.WParams(WM_TIMER), std::vector<WPARAM>{1278});
+        m_target->plain = true;
+        target.SendMessage(end, WPARAM(&dropped), LPARAM(&payload));
+        EXPECT_FALSE(PumpUntil(scrolledFrom(target.GetFirstVisibleItem()), 400));
+    }
     track(CPoint(20, 3));
     EXPECT_TRUE(PumpUntil([&] { return target.GetFirstVisibleItem() == first; }));
     track(client.CenterPoint());
@@ -289,7 +313,7 @@ TEST_F(MultiTreeViewTest, TornOffItActivatesNoFrameAndTellsItsCaption)
     ASSERT_NE(view, nullptr);
     for (const bool peeled : {false, true, false})
     {
-        view->SendMessage(MultiTreeView::TogglePeeledMessage, 0, peeled);
+        view->SendMessage(0x0414, 0, peeled);
         frame->SetActiveView(nullptr);
         view->SendMessage(WM_MOUSEACTIVATE, WPARAM(frame->GetSafeHwnd()),
                           MAKELPARAM(HTCLIENT, WM_LBUTTONDOWN));
@@ -299,7 +323,7 @@ TEST_F(MultiTreeViewTest, TornOffItActivatesNoFrameAndTellsItsCaption)
     view->SetWindowText("Routes");
     char text[8] = "unset";
     const auto caption = [&](size_t size, char* to) {
-        return view->SendMessage(MultiTreeView::GetCaptionTextMessage, size, LPARAM(to)) != 0;
+        return view->SendMessage(0x0415, size, LPARAM(to)) != 0;
     };
     EXPECT_FALSE(caption(6, text));
     EXPECT_FALSE(caption(100, nullptr));

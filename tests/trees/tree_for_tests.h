@@ -159,6 +159,12 @@ protected:
     TreeForTests& AddTree()
     {
         auto& tree = Add<TreeForTests>(CRect(20, 20, 320, 320), TreeStyle);
+        Fill(tree);
+        return tree;
+    }
+
+    void Fill(MultiTree& tree)
+    {
         a = AddItems(tree, "a")[0];
         const auto below = AddItems(tree, "bc", a);
         const auto more = AddItems(tree, "def");
@@ -166,7 +172,6 @@ protected:
         std::tie(d, e, f) = std::tie(more[0], more[1], more[2]);
         tree.Expand(a, TVE_EXPAND);
         Begin(tree);
-        return tree;
     }
 
     // With the focus, without the caret that the platform has given the first item.

@@ -1,0 +1,181 @@
+// What a parent may do where the platform asks and tells it by itself.
+
+#include "trees/tree_for_tests.h"
+
+namespace {
+
+LRESULT Tell(HWND tree, UINT code, const TVITEM& change, UINT before)
+{
+    NMTVITEMCHANGE notify = {};
+    notify.hdr = {tree, UINT_PTR(::GetDlgCtrlID(tree)), code};
+    notify.uChanged = TVIF_STATE;
+    notify.hItem = change.hItem;
+    notify.uStateOld = before;
+    notify.uStateNew = (before & ~change.stateMask) | (change.state & change.stateMask);
+    return ::SendMessage(::GetParent(tree), WM_NOTIFY, notify.hdr.idFrom, LPARAM(&notify));
+}
+
+WNDPROC platformTree = nullptr;
+
+// The platform's tree as it is from Windows Vista on: the parent is asked of each change of a state
+// and told of it. That of the tests' platform does neither.
+LRESULT CALLBACK TellingTree(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message != TVM_SETITEM)
+    {
+        return ::CallWindowProc(platformTree, window, message, wParam, lParam);
+    }
+    const TVITEM change = *reinterpret_cast<const TVITEM*>(lParam);
+    const UINT before =
+        UINT(::CallWindowProc(platformTree, window, TVM_GETITEMSTATE, WPARAM(change.hItem), 0xFF));
+    if (Tell(window, TVN_ITEMCHANGING, change, before) != 0 || !::IsWindow(window))
+    {
+        return TRUE;
+    }
+    ::CallWindowProc(platformTree, window, message, wParam, lParam);
+    Tell(window, TVN_ITEMCHANGED, change, before);
+    return TRUE;
+}
+
+class ToldTree : public TreeForTests
+{
+public:
+    BOOL Create(DWORD style, const RECT& place, CWnd* parent, UINT id) override
+    {
+        static const bool registered = [] {
+            WNDCLASS windowClass = {};
+            ::GetClassInfo(nullptr, WC_TREEVIEW, &windowClass);
+            platformTree = windowClass.lpfnWndProc;
+            windowClass.lpfnWndProc = &TellingTree;
+            windowClass.lpszClassName = "TellingTree";
+            windowClass.hInstance = ::GetModuleHandle(nullptr);
+            return ::RegisterClass(&windowClass) != 0;
+        }();
+        EXPECT_TRUE(registered);
+        return CWnd::CreateEx(0, "TellingTree", "", style, place, parent, id);
+    }
+};
+
+class TreeToldTest : public TreeTest
+{
+protected:
+    ToldTree& AddToldTree()
+    {
+        auto& tree = Add<ToldTree>(CRect(20, 20, 320, 320), TreeStyle);
+        Fill(tree);
+        return tree;
+    }
+
+    // What the states themselves say.
+    static std::string StatesSay(TreeForTests& tree, const std::vector<HTREEITEM>& items)
+    {
+        std::string texts;
+        for (const HTREEITEM item : items)
+        {
+            if ((tree.CTreeCtrl::GetItemState(item, TVIS_SELECTED) & TVIS_SELECTED) != 0)
+            {
+                texts += tree.GetItemText(item)[0];
+            }
+        }
+        return texts;
+    }
+};
+
+TEST_F(TreeToldTest, ARefusalOfTheNewerKindCountsAsOne)
+{
+    auto& tree = AddToldTree();
+    tree.SelectItem(b);
+    HTREEITEM refused = d;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(TVN_ITEMCHANGING))
+        {
+            told.answer = reinterpret_cast<NMTVITEMCHANGE*>(told.lParam)->hItem == refused;
+        }
+    };
+    Host().Forget();
+    EXPECT_FALSE(tree.SetItemState(d, TVIS_SELECTED, TVIS_SELECTED));
+    EXPECT_EQ(CountOf(Changed), 0);
+    tree.SelectAll(true, true);
+    EXPECT_EQ(tree.GetSelectedCount(), 5U);
+    EXPECT_EQ(StatesSay(tree, {a, b, c, d, e, f}), "abcef");
+    EXPECT_EQ(SelectedTexts(tree), "abcef");
+    refused = e;
+    tree.SelectAll(false, true);
+    EXPECT_EQ(SelectedTexts(tree), "e");
+    EXPECT_EQ(StatesSay(tree, {a, b, c, d, e, f}), "e");
+}
+
+TEST_F(TreeToldTest, SurvivesAParentThatIsToldOfStates)
+{
+    const AccessFaults faults;
+    ToldTree* tree = nullptr;
+    const Act<HTREEITEM> acts[] = {
+        {"deletes the item", [&](HTREEITEM item) { tree->DeleteItem(item); }},
+        {"clears the tree", [&](HTREEITEM) { tree->DeleteAllItems(); }},
+        {"ends the tree", [&](HTREEITEM) { Remove(*tree); }},
+    };
+    const auto both = TVIS_FOCUSED | TVIS_SELECTED;
+    const Act<> operations[] = {
+        {"all", [&] { tree->SelectAll(true, true); }},
+        {"none", [&] { tree->SelectAll(false, true); }},
+        {"range", [&] { tree->SelectRange(b, f, true); }},
+        {"state", [&] { tree->SetItemState(d, both, both); }},
+        {"caret kept", [&] { tree->SetItemState(e, TVIS_SELECTED, both); }},
+        {"caret away", [&] { tree->FocusItem(nullptr); }},
+        {"caret", [&] { tree->FocusItem(d); }},
+        {"item", [&] { tree->SelectItem(d); }},
+        {"one", [&] { tree->SetMultiSelect(false); }},
+        {"collapse", [&] { tree->Expand(a, TVE_COLLAPSE); }},
+        {"key", [&] { TypeKey(VK_DOWN, VK_CONTROL); }},
+        {"click", [&] { ClickItem(*tree, c); }},
+        {"beside",
+         [&] {
+             const CPoint at = EmptyBeside(*tree, e);
+             tree->SelectItem(nullptr);
+             Host().SetFocus();
+             PressScript(at, {VK_CONTROL}).Release();
+         }},
+    };
+    for (const auto& [act, acting] : acts)
+    {
+        for (const auto& [operation, operate] : operations)
+        {
+            bool came = true;
+            for (int which = 0; came && which < 8; ++which)
+            {
+                SCOPED_TRACE(testing::Message() << act << " at " << which << " of " << operation);
+                tree = &AddToldTree();
+                const WindowAlive alive(*tree);
+                tree->SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
+                tree->SetItemState(e, both, both);
+                int count = 0;
+                Host().hook = [&, &acting = acting](ToldMessage& told) {
+                    if ((told.code == UINT(TVN_ITEMCHANGING) ||
+                         told.code == UINT(TVN_ITEMCHANGED)) &&
+                        count++ == which)
+                    {
+                        acting(reinterpret_cast<NMTVITEMCHANGE*>(told.lParam)->hItem);
+                    }
+                };
+                operate();
+                Host().hook = nullptr;
+                came = count > which;
+                PumpAll();
+                EXPECT_EQ(faults.Count(), 0);
+                if (alive)
+                {
+                    std::vector<HTREEITEM> items;
+                    for (HTREEITEM item = tree->GetRootItem(); item != nullptr;
+                         item = tree->GetNextItem(item, TVGN_NEXTVISIBLE))
+                    {
+                        items.push_back(item);
+                    }
+                    EXPECT_EQ(StatesSay(*tree, items), SelectedTexts(*tree));
+                    Remove(*tree);
+                }
+            }
+        }
+    }
+}
+
+} // namespace
