@@ -151,6 +151,21 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
     dialog.DestroyWindow();
 }
 
+// Tells the parent of a text before the platform's edit has it: that one would go on with what it
+// has freed.
+WNDPROC platformEdit = nullptr;
+
+LRESULT CALLBACK TellingEdit(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_SETTEXT)
+    {
+        ::SendMessage(::GetParent(window), WM_COMMAND,
+                      MAKEWPARAM(::GetDlgCtrlID(window), EN_CHANGE), LPARAM(window));
+    }
+    return ::IsWindow(window) ? ::CallWindowProc(platformEdit, window, message, wParam, lParam)
+                              : FALSE;
+}
+
 // The prompt is set as it takes over an edit, which tells the parent.
 TEST_F(SmallEditsTest, AParentMayEndAnEditThatTakesOverOne)
 {
@@ -159,10 +174,12 @@ TEST_F(SmallEditsTest, AParentMayEndAnEditThatTakesOverOne)
     {
         auto& plain = Add<CEdit>(CRect(20, 20, 220, 50));
         const UINT id = UINT(plain.GetDlgCtrlID());
-        plain.UnsubclassWindow();
+        const HWND window = plain.UnsubclassWindow();
+        platformEdit = reinterpret_cast<WNDPROC>(
+            ::SetWindowLongPtr(window, GWLP_WNDPROC, LONG_PTR(&TellingEdit)));
         auto* edit = new Fenced<EditWithPrompt>;
         const OnceTold told(Host(), EN_CHANGE, [&] {
-            ::DestroyWindow(::GetDlgItem(Host(), int(id)));
+            ::DestroyWindow(window);
             if (deletes)
             {
                 delete std::exchange(edit, nullptr);
