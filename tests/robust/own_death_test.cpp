@@ -40,7 +40,9 @@ protected:
 
     static bool Hear(const CWnd& window, UINT message)
     {
-        if (PlatformWorks != 0)
+        // An edit of the platform asks for it in the middle of its painting, and afterwards writes
+        // into what it had.
+        if (PlatformWorks != 0 || message == WM_CTLCOLOREDIT)
         {
             return false;
         }
