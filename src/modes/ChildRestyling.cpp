@@ -43,16 +43,6 @@ CSize SizeOf(const CRect& rect)
                  Truncated(double(rect.bottom) - rect.top));
 }
 
-// A child that hears of a change of the mode, with the changes that it is to go through.
-struct Hearing
-{
-    HWND child;
-    std::vector<ModifyChildWndsData> changes;
-    bool placed; // or its place is still to come
-    Hearing* outer;
-};
-Hearing* s_hearing = nullptr;
-
 void SendFont(HWND child, const CFont& font)
 {
     if (font.GetSafeHandle() != nullptr)
@@ -218,10 +208,6 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
         ResizeTabs(child, change->scale);
     }
     const CSize size = SizeOf(target);
-    if (s_hearing != nullptr && s_hearing->child == child)
-    {
-        s_hearing->placed = true;
-    }
     ::SetWindowPos(child, nullptr, target.left, target.top, size.cx, size.cy, flags);
     return TRUE;
 }
@@ -230,7 +216,8 @@ namespace {
 
 // The children of one window on their way through a change of the mode. What one of them hears may
 // change the mode again: those that have not had their turn have it then, before that change comes
-// to them, and the one that hears goes through it as soon as it is placed.
+// to them, and the one that hears goes through it once it has its place, which would else overwrite
+// the next one.
 class Restyling
 {
 public:
@@ -239,7 +226,6 @@ public:
         , m_before(before)
         , m_outer(s_innermost)
     {
-        FinishThoseOf(window);
         m_change.parent = window;
         m_change.scale = scale;
         m_change.mode = COnBoardUIGeneral::GetAppMode();
@@ -252,7 +238,9 @@ public:
             return TRUE;
         };
         ::EnumChildWindows(window, collect, reinterpret_cast<LPARAM>(this));
+        // What those change once more comes after this change.
         s_innermost = this;
+        FinishThoseOf(window, m_outer);
     }
     Restyling(const Restyling&) = delete;
     Restyling& operator=(const Restyling&) = delete;
@@ -282,22 +270,34 @@ private:
 
     static inline Restyling* s_innermost = nullptr;
 
-    static void FinishThoseOf(HWND window)
+    // From the outermost, which began first.
+    static void FinishThoseOf(HWND window, Restyling* innermost)
     {
-        for (Restyling* each = s_innermost; each != nullptr; each = each->m_outer)
+        if (innermost == nullptr)
         {
-            if (each->m_change.parent == window)
-            {
-                each->Finish();
-            }
+            return;
+        }
+        FinishThoseOf(window, innermost->m_outer);
+        if (innermost->m_change.parent == window)
+        {
+            innermost->Finish();
         }
     }
+
+    // A child that hears of a change of the mode, with the changes that it is to go through.
+    struct Hearing
+    {
+        HWND child;
+        std::vector<ModifyChildWndsData> changes;
+        Hearing* outer;
+    };
+    static inline Hearing* s_hearing = nullptr;
 
     void Restyle(HWND child) const
     {
         for (Hearing* each = s_hearing; each != nullptr; each = each->outer)
         {
-            if (each->child == child && !each->placed)
+            if (each->child == child)
             {
                 each->changes.push_back(m_change);
                 return;
@@ -311,12 +311,11 @@ private:
         {
             return;
         }
-        Hearing now = {child, {m_change}, false, s_hearing};
+        Hearing now = {child, {m_change}, s_hearing};
         s_hearing = &now;
         for (size_t next = 0; next < now.changes.size(); ++next)
         {
             ModifyChildWndsData change = now.changes[next];
-            now.placed = false;
             ModifyChildsForAppMode(child, reinterpret_cast<LPARAM>(&change));
         }
         s_hearing = now.outer;

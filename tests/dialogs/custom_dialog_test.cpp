@@ -240,7 +240,8 @@ TEST_F(CustomDialogTest, AModeThatAControlChangesOnTheWayComesToAllInOrder)
     for (const APPMODE last : {STD, EFB})
     {
         const Told wanted = after(last, 0);
-        for (const UINT message : {WM_SETFONT, WM_WINDOWPOSCHANGED, WM_SIZE})
+        for (const UINT message :
+             {WM_SETFONT, WM_WINDOWPOSCHANGING, WM_NCCALCSIZE, WM_WINDOWPOSCHANGED, WM_SIZE})
         {
             const Told told = after(last, message);
             EXPECT_EQ(told.places, wanted.places) << last << ' ' << message;
