@@ -57,6 +57,18 @@ Effect EffectOf(UINT message)
     }
 }
 
+// Whether a message asks for lines, or says which of them are seen.
+bool ConcernsLines(UINT message, Effect effect)
+{
+    return effect == Effect::MayScroll || message == WM_SETTEXT ||
+           (message >= EM_GETSEL && message <= EM_CHARFROMPOS);
+}
+
+bool ChoosesLines(UINT message, Effect effect)
+{
+    return effect == Effect::MayScroll || message == WM_SETTEXT || message == EM_SETHANDLE;
+}
+
 } // namespace
 
 // Not every change is notified, and a parent need not pass its notifications on.
@@ -68,7 +80,11 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     const WindowAlive alive(*this);
     const Effect effect = EffectOf(message);
-    m_bars->EndUnbroken();
+    m_bars->EndUnbroken(ConcernsLines(message, effect));
+    if (alive && ChoosesLines(message, effect))
+    {
+        m_bars->ForgetFirstLine();
+    }
     if (!alive || effect == Effect::None)
     {
         return alive ? CEdit::WindowProc(message, wParam, lParam) : 0;

@@ -35,6 +35,7 @@ public:
         {
             m_firstLine = m_edit.FirstLine();
             m_unbroken = m_keepingUnbroken = true;
+            m_placed = false;
             scroll::RecalculateFrameUnpainted(m_edit);
         }
         result = alive ? Default() : 0;
@@ -53,14 +54,29 @@ public:
     // Between the two: there is no layout to follow.
     bool IsUnbroken() const { return m_unbroken; }
 
-    // Before any message: a place that never came is not waited for.
-    void EndUnbroken()
+    // Before any message: a place that never came is not waited for, nor does anybody who asks for
+    // the lines or scrolls them (asked) wait for it.
+    void EndUnbroken(bool asked)
     {
-        if (m_unbroken && !m_keepingUnbroken && !IsFollowing() && !IsBeingPlaced(m_edit))
+        if (m_unbroken && !m_keepingUnbroken && !IsFollowing() && (asked || !IsBeingPlaced(m_edit)))
         {
             BreakLines();
         }
     }
+
+    // WM_NCCALCSIZE: whether the client area is to be too wide for a line to be broken, which ends
+    // with the first frame of a new place.
+    bool KeepsUnbroken()
+    {
+        if (std::exchange(m_placed, false))
+        {
+            m_unbroken = false;
+        }
+        return m_unbroken;
+    }
+
+    // Somebody has chosen what is in sight since.
+    void ForgetFirstLine() { m_firstLine = -1; }
 
     // WM_WINDOWPOSCHANGING, after everything else: the place has come.
     void TakePlace(WINDOWPOS& position)
@@ -71,7 +87,7 @@ public:
             Follow(); // now, so that its frame is the new one's
             if (alive)
             {
-                m_unbroken = false;
+                m_placed = true; // unless the frame is kept from it
                 position.flags |= SWP_FRAMECHANGED;
             }
         }
@@ -92,7 +108,7 @@ public:
 
     void ForgetUnbroken()
     {
-        m_unbroken = m_keepingUnbroken = false;
+        m_unbroken = m_keepingUnbroken = m_placed = false;
         m_firstLine = -1;
     }
 
@@ -107,6 +123,7 @@ private:
     Part m_noPart = CFauxScrollBar::PRESSED_NONE; // of the bar that there is not
     bool m_unbroken = false;        // the client area is too wide for a line to be broken
     bool m_keepingUnbroken = false; // in SetFont or BreakLines
+    bool m_placed = false;          // the next frame is that of a new place
     int m_firstLine = -1;           // in sight before that
 
     // Whether there are lines that a width breaks.
@@ -125,7 +142,7 @@ private:
         {
             return;
         }
-        m_unbroken = false;
+        m_unbroken = m_placed = false;
         scroll::RecalculateFrameUnpainted(m_edit);
         if (alive)
         {
