@@ -257,10 +257,10 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     if (!IsTooEarly(message))
     {
-        m_bars->SettlePlace();
-        if (alive)
+        m_bars->Follow();
+        if (alive && listctrl::ConcernsView(message))
         {
-            m_bars->Follow();
+            m_bars->LayOutNow();
         }
         if (!alive || !FollowFilling(message))
         {

@@ -2,6 +2,7 @@
 
 #include "CustomListCtrl.h"
 #include "listctrl/ListCtrlBars.h"
+#include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 #include "scroll/NcBands.h"
@@ -178,6 +179,11 @@ bool ChoosesView(UINT message)
 }
 
 } // namespace
+
+bool listctrl::ConcernsView(UINT message)
+{
+    return ChoosesView(message) || message == LVM_GETTOPINDEX || message == LVM_GETCOUNTPERPAGE;
+}
 
 void CCustomListCtrl::KeepInStep(UINT message)
 {

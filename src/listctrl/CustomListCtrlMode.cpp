@@ -1,6 +1,7 @@
 // The report list: following the display mode, with what was in sight.
 
 #include "CustomListCtrl.h"
+#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/ChildRestyling.h"
@@ -10,7 +11,10 @@
 void CCustomListCtrl::EnterOnBoard()
 {
     const WindowAlive alive(*this);
-    m_view = CurrentView(int(Ask(LVM_GETTOPINDEX)), int(Ask(LVM_GETCOUNTPERPAGE)));
+    if (!m_view || !m_bars->AwaitsPlace()) // else it has not been brought back yet
+    {
+        m_view = CurrentView(int(Ask(LVM_GETTOPINDEX)), int(Ask(LVM_GETCOUNTPERPAGE)));
+    }
     m_wheel = 0;
     m_bars->SetPlacingDue(true);
     m_measured = Measured();
@@ -36,7 +40,10 @@ void CCustomListCtrl::EnterOnBoard()
 void CCustomListCtrl::LeaveOnBoard()
 {
     const WindowAlive alive(*this);
-    m_view = CurrentView(TopRow(), RowsInSight());
+    if (!m_view || !m_bars->AwaitsPlace())
+    {
+        m_view = CurrentView(TopRow(), RowsInSight());
+    }
     m_bars->End();
     if (m_header.IsHotTracking())
     {
@@ -120,7 +127,16 @@ void CCustomListCtrl::Bars::TakePlace(WINDOWPOS& position)
 
 void CCustomListCtrl::Bars::SettlePlace()
 {
-    if (m_awaitsPlace && !IsBeingPlaced(m_list))
+    if (!IsBeingPlaced(m_list))
+    {
+        LayOutNow();
+    }
+}
+
+void CCustomListCtrl::Bars::LayOutNow()
+{
+    // For a mode that is over nothing is laid out: the list is about to follow the next one.
+    if (m_awaitsPlace && !IsFollowing() && IsLaidOut() == COnBoardUIGeneral::InOnBoardMode())
     {
         m_awaitsPlace = false;
         LayOut();

@@ -37,7 +37,9 @@ public:
     // WM_SIZE: it has come, and the list is laid out by that.
     void EndAwaiting() { m_awaitsPlace = false; }
     // Before any message: a place that does not come any more is not waited for.
-    void SettlePlace();
+    void SettlePlace() override;
+    // In the place of the moment: somebody asks for the rows in sight, or chooses them.
+    void LayOutNow();
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override

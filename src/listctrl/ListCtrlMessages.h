@@ -8,4 +8,7 @@ namespace listctrl {
 constexpr UINT SubclassHeaderMessage = 0x069A; // take the header that was made with the list
 constexpr UINT ActivateMessage = 0x069B;       // activate the row with the focus
 
+// A message that asks for the rows in sight, or chooses them.
+bool ConcernsView(UINT message);
+
 } // namespace listctrl

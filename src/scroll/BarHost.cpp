@@ -52,6 +52,15 @@ bool BarHost::Follow()
     {
         End(); // a change between two on-board modes sends no message either
     }
+    if (!m_following && m_window.GetSafeHwnd() != nullptr)
+    {
+        const WindowAlive alive(m_window);
+        SettlePlace();
+        if (!alive)
+        {
+            return false;
+        }
+    }
     if (m_window.GetSafeHwnd() == nullptr || !IsReady())
     {
         return InOnBoard();

@@ -55,6 +55,9 @@ public:
     // Returns whether it is laid out for an on-board mode and has survived: the first question of
     // every handler. A press ends here when the mode has changed, which is told by no message.
     bool Follow();
+    // Before that: what a control has put off until its place comes, when it does not come any
+    // more. Not while it follows.
+    virtual void SettlePlace() {}
     bool IsFollowing() const { return m_following; }
     // Laid out for an on-board mode; and the mode still is one.
     bool IsLaidOut() const { return m_onBoard; }
