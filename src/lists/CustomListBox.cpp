@@ -172,9 +172,7 @@ int CCustomListBox::OnCreate(LPCREATESTRUCT)
 
 bool CCustomListBox::FollowMode()
 {
-    const WindowAlive alive(*this);
-    m_bars->SettlePlace();
-    return alive && m_bars->Follow();
+    return m_bars->Follow();
 }
 
 namespace {
@@ -209,7 +207,10 @@ void CCustomListBox::EnterOnBoard()
     // Columns are asked for their place afterwards.
     const bool scrolled = !InColumns() && (GetStyle() & WS_HSCROLL) != 0 &&
                           ::GetScrollInfo(GetSafeHwnd(), SB_HORZ, &sideways) && sideways.nPos > 0;
-    const int place = InColumns() ? Ask(LB_GETTOPINDEX) : (scrolled ? sideways.nPos : 0);
+    // What the list was to get back in a place that has not come.
+    const bool kept = m_bars->AwaitsPlace() && m_bars->givesPlaceBack;
+    const int pixels = kept ? m_bars->scrolledPixels : (scrolled ? sideways.nPos : 0);
+    const int place = kept ? m_bars->standardPlace : (InColumns() ? Ask(LB_GETTOPINDEX) : pixels);
     DisableScrollBars();
     if (alive && !m_made && (m_bars->PlatformStyles() & WS_HSCROLL) == 0 && !InColumns())
     {
@@ -236,7 +237,8 @@ void CCustomListBox::EnterOnBoard()
     CountAllWidths();
     m_onBoardSize = m_stdSize;
     m_bars->standardPlace = place;
-    m_bars->scrolledPixels = scrolled ? sideways.nPos : 0;
+    m_bars->placeBar = m_hBar.GetScrollPos(); // until the list is in its place
+    m_bars->scrolledPixels = pixels;
     if (m_bars->AwaitPlace())
     {
         return;
@@ -245,10 +247,6 @@ void CCustomListBox::EnterOnBoard()
     if (alive)
     {
         m_bars->FinishEntering();
-    }
-    if (alive)
-    {
-        m_onBoardSize = SizeOf(*this);
     }
 }
 
@@ -266,6 +264,11 @@ void CCustomListBox::Bars::FinishEntering()
     {
         m_list.MirrorContent();
         placeBar = m_list.m_hBar.GetScrollPos();
+        // Of a list that was given another size the standard one is not kept.
+        if (const CSize size = SizeOf(m_list); size.cx == m_list.m_stdSize.cx)
+        {
+            m_list.m_onBoardSize = size;
+        }
     }
 }
 
@@ -274,7 +277,7 @@ void CCustomListBox::LeaveOnBoard()
     const WindowAlive alive(*this);
     // The platform cuts a list to whole rows whenever its frame changes; unless the host has sized
     // it since, it gets back what it had.
-    const bool givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
+    m_bars->givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
     m_bars->givesPlaceBack = m_bars->standardPlace > 0 && m_hBar.GetScrollPos() == m_bars->placeBar;
     m_bars->End();
     HideBars();
@@ -315,11 +318,6 @@ void CCustomListBox::LeaveOnBoard()
     {
         TakeNeedlessBars(*this);
     }
-    if (alive && givesSizeBack && SizeOf(*this) != m_stdSize)
-    {
-        SetWindowPos(nullptr, 0, 0, m_stdSize.cx, m_stdSize.cy,
-                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    }
     if (alive)
     {
         m_bars->FinishLeaving();
@@ -329,7 +327,14 @@ void CCustomListBox::LeaveOnBoard()
 void CCustomListBox::Bars::FinishLeaving()
 {
     const WindowAlive alive(m_list);
-    if (givesPlaceBack)
+    const CSize size = SizeOf(m_list);
+    const CSize standard = m_list.m_stdSize;
+    if (givesSizeBack && size.cx == standard.cx && size.cy != standard.cy)
+    {
+        m_list.SetWindowPos(nullptr, 0, 0, standard.cx, standard.cy,
+                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (alive && givesPlaceBack)
     {
         const LONGLONG place = std::min<LONGLONG>(standardPlace, MaxOffset);
         m_list.InColumns() ? Ask(LB_SETTOPINDEX, WPARAM(standardPlace), 0)
@@ -345,22 +350,19 @@ void CCustomListBox::Bars::FinishLeaving()
     }
 }
 
-// A list that gets its place with its font
-// ---------------------------------------------------------
+// A list that gets its place with its font --------------------------------------------------------
 
 bool CCustomListBox::Bars::AwaitPlace()
 {
-    m_placeCame = false;
     return m_awaitsPlace = IsBeingPlaced(m_list);
 }
 
 void CCustomListBox::Bars::TakePlace(WINDOWPOS& position)
 {
-    if (!m_awaitsPlace)
+    if (!m_awaitsPlace || IsFollowing())
     {
         return;
     }
-    m_placeCame = true;
     position.flags |= SWP_FRAMECHANGED;
     if (InOnBoard())
     {
@@ -369,32 +371,45 @@ void CCustomListBox::Bars::TakePlace(WINDOWPOS& position)
     }
 }
 
+// For a mode that is over nothing is finished: the list is about to follow the next one.
+bool CCustomListBox::Bars::IsFinishingDue() const
+{
+    return m_awaitsPlace && !IsFollowing() && IsLaidOut() == COnBoardUIGeneral::InOnBoardMode();
+}
+
+void CCustomListBox::Bars::PlaceCame()
+{
+    if (!IsFinishingDue())
+    {
+        return;
+    }
+    m_awaitsPlace = false;
+    if (IsLaidOut())
+    {
+        FinishEntering();
+        return;
+    }
+    const WindowAlive alive(m_list);
+    TakeNeedlessBars(m_list);
+    if (alive)
+    {
+        FinishLeaving();
+    }
+}
+
 void CCustomListBox::Bars::SettlePlace()
 {
-    if (!m_awaitsPlace || (!m_placeCame && IsBeingPlaced(m_list)))
+    if (m_settling || !IsFinishingDue() || IsBeingPlaced(m_list))
     {
         return;
     }
     const WindowAlive alive(m_list);
-    if (!m_placeCame)
+    m_settling = true;
+    scroll::RecalculateFrame(m_list, false); // somebody kept the place away, or its frame
+    if (alive)
     {
-        scroll::RecalculateFrame(m_list, false); // somebody kept it away
-    }
-    if (!alive || !std::exchange(m_awaitsPlace, false))
-    {
-        return;
-    }
-    if (InOnBoard())
-    {
-        FinishEntering();
-    }
-    else if (!IsLaidOut())
-    {
-        TakeNeedlessBars(m_list);
-        if (alive)
-        {
-            FinishLeaving();
-        }
+        m_settling = false;
+        PlaceCame(); // unless a size has come by that
     }
 }
 
@@ -432,7 +447,12 @@ void CCustomListBox::OnSize(UINT type, int width, int height)
     const WindowAlive alive(*this);
     CListBox::OnSize(type, width, height);
     // While it enters a mode, the size that counts is still to come.
-    if (!alive || (m_bars->IsFollowing() && IsBeingPlaced(*this)) || !FollowMode())
+    if (!alive || (m_bars->IsFollowing() && IsBeingPlaced(*this)))
+    {
+        return;
+    }
+    m_bars->PlaceCame();
+    if (!alive || !FollowMode())
     {
         return;
     }

@@ -30,6 +30,7 @@ public:
     int standardPlace = 0;
     int placeBar = 0;
     bool givesPlaceBack = false;
+    bool givesSizeBack = false;
     int scrolledPixels = 0; // sideways, in the standard mode
 
     // The rest of entering and leaving a mode, in the new frame.
@@ -42,9 +43,11 @@ public:
     bool AwaitsPlace() const { return m_awaitsPlace; }
     // WM_WINDOWPOSCHANGING, after everything else.
     void TakePlace(WINDOWPOS& position);
-    // The rest, once the place has come or will not come any more.
-    void SettlePlace();
-    void ForgetPlace() { m_awaitsPlace = false; }
+    // WM_SIZE, after the platform, which may have cut the list to whole rows: the rest.
+    void PlaceCame();
+    // The rest of what will not come any more.
+    void SettlePlace() override;
+    void ForgetPlace() { m_awaitsPlace = m_settling = false; }
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -55,8 +58,10 @@ public:
 private:
     CCustomListBox& m_list;
     bool m_awaitsPlace = false;
+    bool m_settling = false; // in SettlePlace
+
+    bool IsFinishingDue() const;
     void ForeseeBars(const CSize& window);
-    bool m_placeCame = false;
 
     void EnterOnBoard() override { m_list.EnterOnBoard(); }
     void LeaveOnBoard() override { m_list.LeaveOnBoard(); }

@@ -2,13 +2,16 @@
 #include "CustomEdit.h"
 #include "CustomListBox.h"
 #include "CustomListCtrl.h"
+#include "FauxScrollBar.h"
 #include "OnBoardUI.h"
 #include "support/WindowTest.h"
 
 #include <cmath>
+#include <functional>
 #include <limits>
 #include <optional>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -228,6 +231,238 @@ TEST_F(ChildRestylingTest, AListBoxIsLaidOutInItsNewPlaceAlone)
     CRect client;
     list.GetClientRect(&client);
     EXPECT_LT(client.Width(), WindowRectOf(list).Width() - 52) << "with its bar";
+}
+
+// A control whose heir has its own say once, right after the first message of a kind, and which may
+// keep its width and place whatever it is told.
+enum class Keeps
+{
+    Nothing,
+    Before,   // then asks the control
+    After,    // the control, and the frame with it
+    Swallowed // the control is not asked
+};
+template <class Base> class Heir : public Base
+{
+public:
+    using Base::Base;
+    Keeps keeps = Keeps::Nothing;
+    void ActAfter(UINT message, std::function<void()> act)
+    {
+        m_message = message;
+        m_act = std::move(act);
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        constexpr UINT Kept = SWP_NOSIZE | SWP_NOMOVE;
+        auto* const position = reinterpret_cast<WINDOWPOS*>(lParam);
+        const bool asked = message == WM_WINDOWPOSCHANGING && keeps != Keeps::Nothing &&
+                           (position->flags & SWP_NOSIZE) == 0 &&
+                           position->cx != WindowRectOf(*this).Width();
+        if (asked && keeps != Keeps::After)
+        {
+            position->flags |= Kept;
+        }
+        const LRESULT result =
+            asked && keeps == Keeps::Swallowed ? 0 : Base::WindowProc(message, wParam, lParam);
+        if (asked && keeps == Keeps::After)
+        {
+            position->flags = (position->flags | Kept) & ~SWP_FRAMECHANGED;
+        }
+        if (message == m_message && m_act)
+        {
+            std::exchange(m_act, nullptr)();
+        }
+        return result;
+    }
+
+private:
+    UINT m_message = 0;
+    std::function<void()> m_act;
+};
+
+TEST_F(ChildRestylingTest, AnEditShowsWhatItsHeirBroughtIntoSightOnTheWay)
+{
+    const ModeScope standard(STD);
+    auto& edit = Add<Heir<CCustomEdit>>(CRect(10, 20, 210, 120),
+                                        ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL | WS_BORDER);
+    CString text;
+    for (int word = 0; word < 80; ++word)
+    {
+        text += "waypoint ";
+    }
+    const std::tuple<const char*, UINT, std::function<void()>> steps[] = {
+        {"another text", WM_SETFONT, [&] { edit.SetWindowText(text + "!"); }},
+        {"another text for a size", WM_SIZE, [&] { edit.SetWindowText(text + "?"); }},
+        {"scrolled up", WM_SETFONT, [&] { edit.LineScroll(-edit.GetFirstVisibleLine()); }},
+        {"scrolled to the caret", WM_SETFONT,
+         [&] {
+             edit.SetSel(0, 0, TRUE);
+             edit.SendMessage(EM_SCROLLCARET);
+         }},
+    };
+    for (const auto& [what, message, act] : steps)
+    {
+        for (const bool placed : {true, false})
+        {
+            SCOPED_TRACE(what);
+            edit.MoveWindow(10, 20, 200, 100);
+            edit.SetWindowText(text);
+            edit.LineScroll(7);
+            ASSERT_EQ(edit.GetFirstVisibleLine(), 7);
+            edit.ActAfter(message, act);
+            if (placed)
+            {
+                ChangeMode(Host(), ONBOARD);
+            }
+            else
+            {
+                edit.SetFont(&CCustomEdit::GetStdFont());
+            }
+            EXPECT_EQ(edit.GetFirstVisibleLine(), 0) << placed;
+            edit.ActAfter(0, nullptr);
+            ChangeMode(Host(), STD);
+        }
+    }
+    int lines = 0;
+    edit.MoveWindow(10, 20, 200, 100);
+    edit.ActAfter(WM_SETFONT, [&] { lines = edit.GetLineCount(); });
+    ChangeMode(Host(), ONBOARD);
+    EXPECT_GT(lines, 8) << "broken, whenever it is asked";
+}
+
+TEST_F(ChildRestylingTest, AReportListKeepsItsRowsHoweverTheModeComes)
+{
+    const ModeScope standard(STD);
+    constexpr int Top = 40;
+    auto& list = Add<Heir<CCustomListCtrl>>(CRect(10, 20, 210, 220), LVS_REPORT);
+    list.InsertColumn(0, "Name", LVCFMT_LEFT, 100);
+    for (int row = 0; row < 200; ++row)
+    {
+        list.InsertItem(row, "waypoint");
+    }
+    const auto rowHeight = [&] {
+        CRect row;
+        list.GetItemRect(0, &row, LVIR_BOUNDS);
+        return row.Height();
+    };
+    const auto* const bar = reinterpret_cast<const CFauxScrollBar*>(list.GetScrollBarCtrl(SB_VERT));
+    const auto top = [&] {
+        return list.GetTopIndex() + (COnBoardUIGeneral::InOnBoardMode() ? bar->GetScrollPos() : 0);
+    };
+    const auto begin = [&](APPMODE mode) {
+        ChangeMode(Host(), STD);
+        list.MoveWindow(10, 20, 200, 200);
+        list.Scroll(CSize(0, (Top - list.GetTopIndex()) * rowHeight()));
+        ASSERT_EQ(top(), Top);
+        if (mode != STD)
+        {
+            ChangeMode(Host(), mode);
+            ASSERT_EQ(top(), Top);
+        }
+    };
+    for (const auto& [from, to] : {std::pair{STD, ONBOARD}, {ONBOARD, STD}})
+    {
+        SCOPED_TRACE(from);
+        begin(from);
+        list.ActAfter(WM_SETFONT, [from = from] { COnBoardUIGeneral::SetAppMode(from); });
+        ChangeMode(Host(), to);
+        EXPECT_EQ(top(), Top) << "the mode went back on the way";
+
+        begin(from);
+        list.ActAfter(WM_SETFONT, [&] { list.EnsureVisible(100, FALSE); });
+        ChangeMode(Host(), to);
+        EXPECT_GT(top(), Top + 30) << "the heir shows another row";
+        EXPECT_LE(top(), 100);
+
+        begin(from);
+        list.ActAfter(WM_SETFONT, [&] { list.DeleteItem(199); });
+        ChangeMode(Host(), to);
+        EXPECT_EQ(top(), Top) << "the heir deletes a row out of sight";
+        list.InsertItem(199, "waypoint");
+
+        begin(from);
+        int asked = 0;
+        list.ActAfter(WM_SETFONT, [&] { asked = top(); });
+        ChangeMode(Host(), to);
+        EXPECT_EQ(asked, Top) << "whenever it is asked";
+    }
+}
+
+TEST_F(ChildRestylingTest, AListBoxGetsItsSidewaysPlaceBackWheneverTheModeGoesBack)
+{
+    const ModeScope standard(STD);
+    auto& list = Add<Heir<CCustomListBox>>(CRect(10, 20, 110, 120),
+                                           WS_VSCROLL | WS_HSCROLL | LBS_NOINTEGRALHEIGHT);
+    for (int row = 0; row < 50; ++row)
+    {
+        list.AddString("waypoint waypoint waypoint waypoint waypoint waypoint waypoint");
+    }
+    list.SetHorizontalExtent(400);
+    list.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 60));
+    const int place = list.GetScrollPos(SB_HORZ);
+    ASSERT_GT(place, 0);
+    ChangeMode(Host(), ONBOARD);
+    ChangeMode(Host(), STD);
+    ASSERT_EQ(list.GetScrollPos(SB_HORZ), place);
+    list.ActAfter(WM_SETFONT, [] { COnBoardUIGeneral::SetAppMode(STD); });
+    ChangeMode(Host(), ONBOARD);
+    list.RedrawWindow();
+    EXPECT_EQ(list.GetScrollPos(SB_HORZ), place) << "on the way in";
+    ChangeMode(Host(), STD);
+    ChangeMode(Host(), ONBOARD);
+    list.ActAfter(WM_SETFONT, [] { COnBoardUIGeneral::SetAppMode(ONBOARD); });
+    ChangeMode(Host(), STD);
+    list.RedrawWindow();
+    ChangeMode(Host(), STD);
+    list.RedrawWindow();
+    EXPECT_EQ(list.GetScrollPos(SB_HORZ), place) << "on the way out";
+}
+
+TEST_F(ChildRestylingTest, AControlThatKeepsItsSizeHasTheFrameOfTheMode)
+{
+    for (const Keeps keeps : {Keeps::Before, Keeps::After, Keeps::Swallowed})
+    {
+        SCOPED_TRACE(int(keeps));
+        const ModeScope standard(STD);
+        auto& list = Add<Heir<CCustomListBox>>(CRect(10, 20, 210, 125), WS_VSCROLL);
+        auto& edit = Add<Heir<CCustomEdit>>(CRect(10, 130, 210, 230),
+                                            ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL | WS_BORDER);
+        CString text;
+        for (int row = 0; row < 50; ++row)
+        {
+            list.AddString("waypoint");
+            text += "waypoint waypoint ";
+        }
+        edit.SetWindowText(text);
+        ChangeMode(Host(), ONBOARD);
+        ChangeMode(Host(), STD);
+        const auto width = [](const CWnd& control) {
+            const_cast<CWnd&>(control).RedrawWindow(nullptr, nullptr,
+                                                    RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+            return ClientRectOf(control).Width();
+        };
+        list.MoveWindow(10, 20, 200, 105);
+        edit.MoveWindow(10, 130, 200, 100);
+        const int listWidth = width(list);
+        const int editWidth = width(edit);
+        const CSize listSize = WindowRectOf(list).Size();
+        list.keeps = edit.keeps = keeps;
+        for (int turn = 0; turn < 2; ++turn)
+        {
+            ChangeMode(Host(), ONBOARD);
+            EXPECT_LT(width(list), 200 - 52) << "with its bar";
+            EXPECT_LE(width(edit), 200 - 52) << "with its bar";
+            ChangeMode(Host(), STD);
+            EXPECT_EQ(width(list), listWidth);
+            EXPECT_EQ(width(edit), editWidth);
+        }
+        EXPECT_EQ(WindowRectOf(list).Size(), listSize) << "whatever the frames cut off it";
+        Remove(list);
+        Remove(edit);
+    }
 }
 
 TEST_F(ChildRestylingTest, ACombosHeightTakesInItsList)
