@@ -431,14 +431,16 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
     }
     // Tab goes through the whole frame; every other key is the page's while the focus is there.
     const bool tab = message->message == WM_KEYDOWN && message->wParam == VK_TAB;
+    const HWND frame = m_hWnd;
     GalleryPage* const page = m_pages[m_shown].get();
     const BOOL done = !tab && page != nullptr && ::IsChild(*page, message->hwnd)
                           ? page->TranslateInput(message)
                           : IsDialogMessage(message);
-    if (done && page != nullptr && ::IsWindow(*page))
+    // A key may have closed the window or chosen another page.
+    if (done && FromHandlePermanent(frame) == this && m_pages[m_shown] != nullptr)
     {
-        page->Reveal(::GetFocus());
-        ScrollPage(page->Origin());
+        Page().Reveal(::GetFocus());
+        ScrollPage(Page().Origin());
     }
     return done;
 }

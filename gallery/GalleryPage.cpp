@@ -10,8 +10,6 @@
 
 #include <algorithm>
 
-namespace {} // namespace
-
 BEGIN_MESSAGE_MAP(GalleryPage, CCustomDialog)
     ON_WM_SIZE()
     ON_WM_ERASEBKGND()

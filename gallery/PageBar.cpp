@@ -44,11 +44,17 @@ void PageBar::Follow(int whole, int shown, int position)
 {
     CRect area;
     GetClientRect(&area);
-    m_bar.SetArea(area); // for the mode of the moment
+    // A drag has moved the thumb already, to where it may stand between two positions: a new area
+    // or position would put it back onto one.
+    const bool dragged = m_pressed == CFauxScrollBar::PRESSED_THUMB;
+    if (!dragged || area != m_bar.GetArea())
+    {
+        m_bar.SetArea(area); // for the mode of the moment
+    }
     m_bar.SetScrollRange(0, std::max(0, whole - shown), FALSE);
     m_bar.SetPageSize(shown, FALSE);
     m_bar.ShowScrollBar(whole > shown);
-    if (m_pressed != CFauxScrollBar::PRESSED_THUMB) // a drag has moved it already
+    if (!dragged)
     {
         m_bar.SetScrollPos(position, FALSE);
     }
@@ -99,11 +105,11 @@ void PageBar::OnLButtonDown(UINT, CPoint point)
 
 void PageBar::OnMouseMove(UINT, CPoint point)
 {
+    const CSize moved = point - m_last;
+    m_last = point;
     if (m_pressed == CFauxScrollBar::PRESSED_THUMB)
     {
-        const CSize moved = point - m_last;
         m_bar.IncrementScrollByPixels(m_bar.GetOrientation() == SB_VERT ? moved.cy : moved.cx);
-        m_last = point;
         m_moved(m_bar.GetScrollPos());
     }
 }
@@ -125,5 +131,10 @@ void PageBar::OnCaptureChanged(CWnd*)
 
 void PageBar::OnTimer(UINT_PTR)
 {
-    Step();
+    // The trough scrolls until the thumb is at the pointer. One tick may come after the release.
+    if (m_pressed != CFauxScrollBar::PRESSED_NONE && m_bar.GetHitTest(m_last) != 0 &&
+        m_bar.GetLastHit() == m_pressed)
+    {
+        Step();
+    }
 }

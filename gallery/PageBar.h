@@ -28,7 +28,7 @@ private:
     CFauxScrollBar m_bar;
     std::function<void(int)> m_moved;
     CFauxScrollBar::ePRESSED m_pressed = CFauxScrollBar::PRESSED_NONE;
-    CPoint m_last; // of the pointer, in a drag
+    CPoint m_last; // of the pointer
 
     void Step();
 

@@ -3,6 +3,7 @@
 // prefix of its own.
 
 #include "resolution/Fitting.h"
+#include "support/Pumping.h"
 
 #include "GalleryFrame.h"
 #include "GalleryHost.h"
@@ -24,15 +25,6 @@ namespace {
 const BOOL Aware = ::SetProcessDPIAware();
 
 constexpr APPMODE Modes[] = {STD, FULLSCREEN, ONBOARD};
-
-void Settle()
-{
-    MSG message;
-    while (::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-    {
-        ::DispatchMessage(&message);
-    }
-}
 
 class Resolution : public testing::Test
 {
@@ -92,7 +84,7 @@ TEST_F(Resolution, LeavesTheTextsOfEveryControlRoom)
             {
                 window = make();
             }
-            Settle();
+            PumpAll();
             EXPECT_EQ(fitting::FaultsWithin(*window), "") << control.name << " in mode " << mode;
             window->DestroyWindow();
         }
@@ -146,7 +138,7 @@ TEST_F(Resolution, LeavesThePagesOfTheGalleryWhole)
         {
             SCOPED_TRACE(std::string(Pages()[index].name) + " in mode " + std::to_string(mode));
             ASSERT_TRUE(frame->ShowPage(index));
-            Settle();
+            PumpAll();
             GalleryPage& page = frame->Page();
             EXPECT_EQ(fitting::FaultsWithin(page), "");
             CRect shown;
