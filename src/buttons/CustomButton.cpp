@@ -218,9 +218,12 @@ void CCustomButton::StartTracking()
     m_pressed = true;
     if (COnBoardUIGeneral::InOnBoardMode())
     {
-        DrawOB();
+        DrawOB(); // asks for the text
     }
-    access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
+    if (alive)
+    {
+        access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
+    }
 }
 
 // The one end of every press. Reached from the release, the loss of capture, focus or visibility, a
@@ -422,91 +425,4 @@ void CCustomButton::OnUpdateUIState(UINT, UINT)
     {
         DrawOB();
     }
-}
-
-// The button's own messages ---------------------------------------------------------------------
-
-LRESULT CCustomButton::OnBMClick(WPARAM, LPARAM)
-{
-    LRESULT answer = 0;
-    if (!FollowOrPass(&answer))
-    {
-        return answer;
-    }
-    const WindowAlive alive(*this);
-    HandleBMClick();
-    if (alive && !m_focused)
-    {
-        SetFocus();
-    }
-    if (alive)
-    {
-        NotifyParentClicked();
-    }
-    return 0;
-}
-
-LRESULT CCustomButton::OnBMSetCheck(WPARAM wParam, LPARAM)
-{
-    LRESULT answer = 0;
-    if (FollowOrPass(&answer) && SurvivesEnd())
-    {
-        ChangeCheck(int(wParam));
-    }
-    return answer;
-}
-
-LRESULT CCustomButton::OnBMSetState(WPARAM wParam, LPARAM)
-{
-    LRESULT answer = 0;
-    if (!FollowOrPass(&answer) || !SurvivesEnd())
-    {
-        return answer;
-    }
-    const bool changes = m_pressed != (wParam != 0);
-    m_pressed = wParam != 0;
-    if (GetSafeHwnd() == nullptr)
-    {
-        return 0;
-    }
-    const WindowAlive alive(*this); // the platform tells assistive programs
-    // A press of the standard mode that the mode change cut off leaves the platform's button
-    // pushed.
-    if (!m_pressed && (DefWindowProc(BM_GETSTATE, 0, 0) & BST_PUSHED) != 0)
-    {
-        DefWindowProc(BM_SETSTATE, FALSE, 0);
-    }
-    if (alive)
-    {
-        Invalidate(FALSE);
-    }
-    if (alive && changes)
-    {
-        access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
-    }
-    return 0;
-}
-
-LRESULT CCustomButton::OnBMGetCheck(WPARAM, LPARAM)
-{
-    LRESULT answer = 0;
-    return FollowOrPass(&answer) ? m_check : answer;
-}
-
-LRESULT CCustomButton::OnBMGetState(WPARAM, LPARAM)
-{
-    LRESULT answer = 0;
-    return FollowOrPass(&answer) ? LRESULT(m_pressed) : answer;
-}
-
-// The platform's button draws itself as soon as it has another caption.
-LRESULT CCustomButton::OnSetText(WPARAM, LPARAM)
-{
-    const WindowAlive alive(*this);
-    const LRESULT result = Default();
-    if (alive && FollowMode().value_or(false))
-    {
-        DrawOB();
-    }
-    return result;
 }

@@ -1,4 +1,4 @@
-// The buttons' pointer, capture, focus and keys.
+// The buttons' pointer, capture, focus and keys, and the messages by which programs work them.
 
 #include "CustomButton.h"
 
@@ -159,4 +159,91 @@ void CCustomButton::OnKeyUp(UINT key, UINT, UINT)
     {
         OnBMClick(0, 0);
     }
+}
+
+// The button's own messages ---------------------------------------------------------------------
+
+LRESULT CCustomButton::OnBMClick(WPARAM, LPARAM)
+{
+    LRESULT answer = 0;
+    if (!FollowOrPass(&answer))
+    {
+        return answer;
+    }
+    const WindowAlive alive(*this);
+    HandleBMClick();
+    if (alive && !m_focused)
+    {
+        SetFocus();
+    }
+    if (alive)
+    {
+        NotifyParentClicked();
+    }
+    return 0;
+}
+
+LRESULT CCustomButton::OnBMSetCheck(WPARAM wParam, LPARAM)
+{
+    LRESULT answer = 0;
+    if (FollowOrPass(&answer) && SurvivesEnd())
+    {
+        ChangeCheck(int(wParam));
+    }
+    return answer;
+}
+
+LRESULT CCustomButton::OnBMSetState(WPARAM wParam, LPARAM)
+{
+    LRESULT answer = 0;
+    if (!FollowOrPass(&answer) || !SurvivesEnd())
+    {
+        return answer;
+    }
+    const bool changes = m_pressed != (wParam != 0);
+    m_pressed = wParam != 0;
+    if (GetSafeHwnd() == nullptr)
+    {
+        return 0;
+    }
+    const WindowAlive alive(*this); // the platform tells assistive programs
+    // A press of the standard mode that the mode change cut off leaves the platform's button
+    // pushed.
+    if (!m_pressed && (DefWindowProc(BM_GETSTATE, 0, 0) & BST_PUSHED) != 0)
+    {
+        DefWindowProc(BM_SETSTATE, FALSE, 0);
+    }
+    if (alive)
+    {
+        Invalidate(FALSE);
+    }
+    if (alive && changes)
+    {
+        access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE);
+    }
+    return 0;
+}
+
+LRESULT CCustomButton::OnBMGetCheck(WPARAM, LPARAM)
+{
+    LRESULT answer = 0;
+    return FollowOrPass(&answer) ? m_check : answer;
+}
+
+LRESULT CCustomButton::OnBMGetState(WPARAM, LPARAM)
+{
+    LRESULT answer = 0;
+    return FollowOrPass(&answer) ? LRESULT(m_pressed) : answer;
+}
+
+// The platform's button draws itself as soon as it has another caption.
+LRESULT CCustomButton::OnSetText(WPARAM, LPARAM)
+{
+    const WindowAlive alive(*this);
+    const LRESULT result = Default();
+    if (alive && FollowMode().value_or(false))
+    {
+        DrawOB();
+    }
+    return result;
 }

@@ -188,6 +188,26 @@ TEST_F(ButtonOnBoard, AButtonMayEndItselfWhenItsPressIsCutOff)
     }
 }
 
+TEST_F(ButtonOnBoard, AButtonMayEndItselfWhenItIsAskedForItsTextInAPress)
+{
+    const AccessFaults faults;
+    auto* const button = new Fenced<Acting<TestPush>>;
+    button->Create("Push", WS_CHILD | WS_VISIBLE, ButtonPlace, &Host(), ButtonId);
+    PumpAll();
+    button->SetFocus();
+    MoveTo(button->Middle());
+    button->ActIn(WM_GETTEXT, [button] {
+        button->DestroyWindow();
+        delete button;
+    });
+    const HWND window = *button;
+    Press();
+    EXPECT_FALSE(::IsWindow(window));
+    Release();
+    EXPECT_EQ(faults.Count(), 0);
+    EXPECT_EQ(Host().CodesFrom(ButtonId).size(), 0U);
+}
+
 TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
 {
     auto& ours = Add<TestCheckBox>(ButtonPlace, BS_AUTOCHECKBOX, "Box");
