@@ -238,10 +238,9 @@ void CCustomListCtrlHdr::EndFarPress(int pressed, CPoint point)
     }
     const bool wide = SendMessage(HDM_GETUNICODEFORMAT) != 0;
     NMHEADER told = {};
-    told.hdr = {GetSafeHwnd(), UINT_PTR(GetDlgCtrlID()), wide ? HDN_ITEMCLICKW : HDN_ITEMCLICKA};
+    told.hdr.code = wide ? HDN_ITEMCLICKW : HDN_ITEMCLICKA;
     told.iItem = pressed;
-    ::SendMessage(::GetParent(GetSafeHwnd()), WM_NOTIFY, told.hdr.idFrom,
-                  reinterpret_cast<LPARAM>(&told));
+    TellNotify(GetSafeHwnd(), told.hdr);
 }
 
 // The one way out of a drag: released, or the capture lost.
