@@ -61,7 +61,7 @@ public:
     bool Come(DWORD event, long child) const
     {
         const bool came = PumpUntil(
-            [&] { return std::ranges::count(s_told, std::pair(event, child)) > 0; }, 5000);
+            [&] { return std::ranges::count(s_told, std::pair(event, child)) > 0; }, 20000);
         s_told.clear();
         return came;
     }
@@ -81,6 +81,19 @@ private:
     }
 };
 
+// The left button, at a place: the other program's late word of where the pointer was may come
+// between a move and a press without one.
+void Turn(CPoint point, DWORD button)
+{
+    INPUT input = {};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = button | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    input.mi.dx = point.x * 65536 / ::GetSystemMetrics(SM_CXSCREEN) + 1;
+    input.mi.dy = point.y * 65536 / ::GetSystemMetrics(SM_CYSCREEN) + 1;
+    ::SendInput(1, &input, sizeof(input));
+    PumpAll();
+}
+
 class FromAnotherProcess : public WindowTest
 {
 protected:
@@ -97,17 +110,19 @@ TEST_F(FromAnotherProcess, ButtonsAreReadPressedAndHeard)
     const HWND frame = gallery.Window(Title);
     const HWND check = Within(frame, "Button", "Terrain");
     ASSERT_NE(check, nullptr);
-    const Events events(check);
-    const Held<IAccessible> object = Reached(check);
-    ASSERT_TRUE(object);
-    const Read before(*object, CHILDID_SELF);
-    EXPECT_EQ(before.role, ROLE_SYSTEM_CHECKBUTTON);
-    EXPECT_EQ(before.name, "Terrain");
-    EXPECT_EQ(before.action, "Check");
-    EXPECT_EQ(before.state & STATE_SYSTEM_CHECKED, 0);
-    EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
-    EXPECT_TRUE(events.Come(EVENT_OBJECT_STATECHANGE, CHILDID_SELF));
-    EXPECT_EQ(Read(*object, CHILDID_SELF).state & STATE_SYSTEM_CHECKED, STATE_SYSTEM_CHECKED);
+    {
+        const Events events(check);
+        const Held<IAccessible> object = Reached(check);
+        ASSERT_TRUE(object);
+        const Read before(*object, CHILDID_SELF);
+        EXPECT_EQ(before.role, ROLE_SYSTEM_CHECKBUTTON);
+        EXPECT_EQ(before.name, "Terrain");
+        EXPECT_EQ(before.action, "Check");
+        EXPECT_EQ(before.state & STATE_SYSTEM_CHECKED, 0);
+        EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+        EXPECT_TRUE(events.Come(EVENT_OBJECT_STATECHANGE, CHILDID_SELF));
+        EXPECT_EQ(Read(*object, CHILDID_SELF).state & STATE_SYSTEM_CHECKED, STATE_SYSTEM_CHECKED);
+    }
 
     // Pressed, dragged off, dragged back and released: each is told.
     const HWND button = Within(frame, "Button", "Plain");
@@ -121,13 +136,13 @@ TEST_F(FromAnotherProcess, ButtonsAreReadPressedAndHeard)
                    : -1;
     };
     MoveTo(middle);
-    ::Press();
+    Turn(middle, MOUSEEVENTF_LEFTDOWN);
     EXPECT_EQ(pressed(), STATE_SYSTEM_PRESSED);
     MoveTo(middle + CPoint(0, 200));
     EXPECT_EQ(pressed(), 0);
     MoveTo(middle);
     EXPECT_EQ(pressed(), STATE_SYSTEM_PRESSED);
-    ::Release();
+    Turn(middle, MOUSEEVENTF_LEFTUP);
     EXPECT_EQ(pressed(), 0);
 }
 
@@ -152,7 +167,7 @@ TEST_F(FromAnotherProcess, RowsAreFoundAtAPointWorkedAndHeard)
     EXPECT_EQ(before.name, Read(*object, 2).name);
     EXPECT_EQ(object->accDoDefaultAction(Child(2)), S_OK);
     EXPECT_TRUE(events.Come(EVENT_OBJECT_STATECHANGE, 2));
-    EXPECT_NE(Read(*object, 2).state, before.state);
+    EXPECT_NE(Read(*object, 2).state & STATE_SYSTEM_CHECKED, before.state & STATE_SYSTEM_CHECKED);
 }
 
 } // namespace
