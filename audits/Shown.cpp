@@ -10,11 +10,6 @@
 #include <iterator>
 #include <string_view>
 
-namespace {
-
-constexpr int StageWidth = 900;
-constexpr int StageHeight = 700;
-
 std::string KindOf(const CWnd& window)
 {
     char kind[40] = "";
@@ -26,6 +21,11 @@ bool Is(const std::string& kind, const char* other)
 {
     return ::lstrcmpi(kind.c_str(), other) == 0;
 }
+
+namespace {
+
+constexpr int StageWidth = 900;
+constexpr int StageHeight = 700;
 
 // Whether a window within a control, or that it has popped up, shows a text of its own.
 bool HasText(CWnd& window, const std::string& kind)

@@ -9,6 +9,10 @@
 #include <string>
 #include <vector>
 
+// A window's class, and whether it has this name; upper and lower case are one.
+std::string KindOf(const CWnd& window);
+bool Is(const std::string& kind, const char* other);
+
 // A window that is looked at by itself: the control, one within it, or one that it has popped up.
 struct Part
 {

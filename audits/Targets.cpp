@@ -1,9 +1,10 @@
 #include "Targets.h"
 
+#include "Shown.h"
+
 #include <afxcmn.h>
 #include <afxdlgs.h>
 
-#include <iterator>
 #include <string_view>
 
 namespace {
@@ -49,11 +50,9 @@ void AddChildren(std::vector<Target>& targets, CWnd& window)
 {
     for (CWnd* child = window.GetWindow(GW_CHILD); child; child = child->GetWindow(GW_HWNDNEXT))
     {
-        char kind[40] = "";
-        ::GetClassName(*child, kind, int(std::size(kind)));
-        const bool onlyShows =
-            ::lstrcmpi(kind, "Edit") == 0 && (child->GetStyle() & ES_READONLY) != 0;
-        const bool isForm = ::lstrcmpi(kind, "#32770") == 0 || ::lstrcmpi(kind, WC_TABCONTROL) == 0;
+        const std::string kind = KindOf(*child);
+        const bool onlyShows = Is(kind, "Edit") && (child->GetStyle() & ES_READONLY) != 0;
+        const bool isForm = Is(kind, "#32770") || Is(kind, WC_TABCONTROL);
         if (!isForm && (child->GetStyle() & WS_TABSTOP) != 0 && child->IsWindowVisible() &&
             !onlyShows)
         {

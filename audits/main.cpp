@@ -55,13 +55,6 @@ class AuditApp : public CWinApp
 
 AuditApp theApp;
 
-bool IsEdit(const CWnd& window)
-{
-    char kind[16] = "";
-    ::GetClassName(window, kind, int(std::size(kind)));
-    return ::lstrcmpi(kind, "Edit") == 0;
-}
-
 // What is found of a text, in every part of the control that has one.
 void PrintContrast(APPMODE mode, const Control& control, const State& state)
 {
@@ -79,7 +72,7 @@ void PrintContrast(APPMODE mode, const Control& control, const State& state)
         shown.Settle();
         ::HideCaret(nullptr); // it is no text
         CWnd* const focus = CWnd::GetFocus();
-        const bool inEdit = focus && focus != &shown.Window() && IsEdit(*focus);
+        const bool inEdit = focus && focus != &shown.Window() && Is(KindOf(*focus), "Edit");
         if (inEdit)
         {
             if (blank) // in its own font

@@ -43,7 +43,9 @@ HGDIOBJ FontToMeasure(CDC& dc)
     {
         return CCustomDialog::m_OBStaticTextFont.GetSafeHandle();
     }
-    static CFont ofTemplate; // not asked of the box: it may be on its way from another mode
+    // As res/MessageBox.rc has it, and not asked of the box: it may be on its way from another
+    // mode.
+    static CFont ofTemplate;
     if (ofTemplate.GetSafeHandle() == nullptr)
     {
         ofTemplate.CreatePointFont(80, "Microsoft Sans Serif");
