@@ -127,7 +127,11 @@ constexpr Forbidden PlatformFaults[] = {
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_ITEMCHANGING)}, 0, true, true},
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_DELETEITEM)}, 0, true, true},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDTRACK)}, 0, false},
-    {WC_HEADER, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}, 0, false}, // while it sees to a button let go
+    {WC_HEADER,
+     {WM_NOTIFY, UINT(NM_CUSTOMDRAW)},
+     0,
+     false}, // here, and below, it goes on with a click
+    {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCHANGING)}, 0, false},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(TVN_DELETEITEM)}, 0, true, true},
     {TOOLBARCLASSNAME, {WM_NOTIFY, TBN_DELETINGBUTTON}},
