@@ -132,6 +132,7 @@ constexpr Forbidden PlatformFaults[] = {
      0,
      false}, // here, and below, it goes on with a click
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCHANGING)}, 0, false},
+    {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCHANGED)}, 0, false},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(TVN_DELETEITEM)}, 0, true, true},
     {TOOLBARCLASSNAME, {WM_NOTIFY, TBN_DELETINGBUTTON}},
