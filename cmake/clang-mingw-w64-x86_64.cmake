@@ -18,10 +18,12 @@ set(headers "${folder}/include/c++")
 string(JOIN " " CMAKE_CXX_FLAGS_INIT
     "-isystem ${headers}"
     "-isystem ${headers}/x86_64-w64-mingw32"
-    "-isystem ${headers}/backward"
-    # An object may end in a call that it makes: what it holds is not read ahead of asking whether
-    # it is still there.
-    "-mllvm -use-dereferenceable-at-point-semantics=1")
+    "-isystem ${headers}/backward")
+
+# An object may end in a call that it makes: what it holds is not read ahead of asking whether it is
+# still there.
+add_compile_options(
+    "$<$<COMPILE_LANGUAGE:CXX>:SHELL:-mllvm -use-dereferenceable-at-point-semantics=1>")
 
 # The first compiler's linker, and the thread library that it names by itself.
 foreach(kind EXE SHARED MODULE)
