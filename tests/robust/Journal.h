@@ -70,17 +70,15 @@ inline std::string Essentials(const NMHDR& header)
     {
     case NM_CLICK:
     case NM_LDOWN:
-        if (::lstrcmpi(kind, WC_TREEVIEW) == 0)
-        {
-            return {};
-        }
         return ::lstrcmpi(kind, WC_LISTVIEW) == 0 ? Joined(About<NMITEMACTIVATE>(header).iItem,
                                                            About<NMITEMACTIVATE>(header).iSubItem)
-                                                  : Joined(int(About<NMMOUSE>(header).dwItemSpec));
+               : ::lstrcmpi(kind, WC_TREEVIEW) == 0
+                   ? std::string()
+                   : Joined(int(About<NMMOUSE>(header).dwItemSpec));
     case LVN_KEYDOWN:
-        return Joined(About<NMLVKEYDOWN>(header).wVKey);
     case TVN_KEYDOWN:
-        return Joined(About<NMTVKEYDOWN>(header).wVKey);
+        static_assert(offsetof(NMLVKEYDOWN, wVKey) == offsetof(NMTVKEYDOWN, wVKey));
+        return Joined(About<NMLVKEYDOWN>(header).wVKey);
     case LVN_BEGINLABELEDIT:
     case LVN_ENDLABELEDIT:
         return Joined(About<NMLVDISPINFO>(header).item.iItem,

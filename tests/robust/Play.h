@@ -1,15 +1,12 @@
 #pragma once
 
-#include "robust/FocusGiver.h"
+#include "robust/Subjects.h"
 #include "robust/Watch.h"
 
 #include "CustomComboLBox.h"
 #include "OnBoardUIGeneral.h"
-#include "catalog/DialogTemplate.h"
-#include "support/Fenced.h"
 #include "support/Pumping.h"
 
-#include <afxcmn.h>
 #include <afxdlgs.h>
 
 #include <gtest/gtest.h>
@@ -49,6 +46,11 @@ constexpr UINT FirstRegistered = 0xC000;
 
 inline std::optional<Told> AboutAChild(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    constexpr UINT WithoutCode[] = {
+        WM_MEASUREITEM, WM_DELETEITEM,  WM_COMPAREITEM,   WM_VKEYTOITEM,
+        WM_CHARTOITEM,  WM_CONTEXTMENU, WM_MOUSEACTIVATE, WM_MOUSEWHEEL,
+        WM_SETCURSOR,   WM_ERASEBKGND,  WM_PRINTCLIENT,   WM_INITDIALOG,
+        WM_CLOSE,       WM_ACTIVATE,    WM_NEXTDLGCTL,    WM_CHANGEUISTATE};
     switch (message)
     {
     case WM_COMMAND:
@@ -61,32 +63,14 @@ inline std::optional<Told> AboutAChild(UINT message, WPARAM wParam, LPARAM lPara
         return Told{message, LOWORD(wParam)};
     case WM_DRAWITEM:
         return Told{message, reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->itemAction};
-    case WM_MEASUREITEM:
-    case WM_DELETEITEM:
-    case WM_COMPAREITEM:
-    case WM_VKEYTOITEM:
-    case WM_CHARTOITEM:
-    case WM_CONTEXTMENU:
-    case WM_MOUSEACTIVATE:
-    case WM_MOUSEWHEEL:
-    case WM_SETCURSOR:
-    case WM_ERASEBKGND:
-    case WM_PRINTCLIENT:
-    case WM_INITDIALOG:
-    case WM_CLOSE:
-    case WM_ACTIVATE:
-    case WM_NEXTDLGCTL:
-    case WM_CHANGEUISTATE:
-        return Told{message};
     case PSM_GETCURRENTPAGEHWND: // what a sheet asks itself
         return {};
     default:
-        if ((message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) ||
-            (message >= WM_USER && message < WM_APP) || message >= FirstRegistered)
-        {
-            return Told{message};
-        }
-        return {};
+        const bool isOther = (message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC) ||
+                             (message >= WM_USER && message < WM_APP) ||
+                             message >= FirstRegistered ||
+                             std::ranges::find(WithoutCode, message) != std::end(WithoutCode);
+        return isOther ? std::optional(Told{message}) : std::nullopt;
     }
 }
 
@@ -356,30 +340,15 @@ private:
     }
 };
 
-template <class Base> class Hearing : public Fenced<Base>
+template <class Base> struct Hearing : Mortal<Base>
 {
-public:
-    using Fenced<Base>::Fenced;
+    using Mortal<Base>::Mortal;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         return Play::Tell(message, wParam, lParam) ? 0 : Base::WindowProc(message, wParam, lParam);
     }
-    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        const FocusGiver giver(this->m_hWnd, message);
-        return Base::DefWindowProc(message, wParam, lParam);
-    }
-    void PostNcDestroy() override {} // the play owns it
 };
 
 inline const CRect Stage(0, 0, 620, 300);
-
-inline DialogTemplate Form()
-{
-    DialogTemplate form(CRect(10, 10, 330, 180), WS_POPUP | WS_CAPTION | WS_SYSMENU);
-    form.Add("Edit", "text", WS_TABSTOP, CRect(5, 150, 60, 165), 101)
-        .Add("Button", "OK", WS_TABSTOP, CRect(80, 150, 120, 165), IDOK);
-    return form;
-}

@@ -121,7 +121,7 @@ void Storm::OtherButton(HWND window, LPARAM point)
 
 void Storm::Key(HWND window)
 {
-    const UINT key = Keys[Between(0, int(std::size(Keys)) - 1)];
+    const UINT key = m_arguments.OneOf(Keys);
     if (Between(0, 7) == 0)
     {
         const UINT with = Between(0, 1) ? VK_DOWN : key == VK_SPACE ? VK_UP : key;
@@ -181,7 +181,7 @@ void Storm::Scroll(HWND window)
 
 void Storm::SendOne(HWND window, const std::vector<Word>& words)
 {
-    const Word& word = words[size_t(Between(0, int(words.size()) - 1))];
+    const Word& word = m_arguments.OneOf(words);
     const WPARAM wParam = m_arguments.First(word, window);
     Send(window, word.message, wParam, m_arguments.Second(word, window));
 }
@@ -219,15 +219,16 @@ void Storm::Ask(HWND window)
 // What is its own: by the host's calls and by messages.
 void Storm::Use(CWnd& window, HWND target)
 {
-    const bool itself = target == window.GetSafeHwnd();
-    if (itself && m_subject.act && (m_subject.words.empty() || Between(0, 3) == 0))
+    const auto& own = WordsOf(target);
+    const bool called = target == window.GetSafeHwnd() && (own.empty() || Between(0, 3) == 0);
+    if (called)
     {
         Note(WM_APP); // the log's word for a call
-        m_subject.act(window, m_arguments);
-        return;
     }
-    const auto& own = itself && !m_subject.words.empty() ? m_subject.words : WordsOf(target);
-    SendOne(target, own.empty() ? AnyWords : own);
+    if (!called || !Act(window, m_arguments))
+    {
+        SendOne(target, own.empty() ? AnyWords : own);
+    }
 }
 
 // The window, or one of those that it is made of.
@@ -238,60 +239,54 @@ HWND Storm::Target(CWnd& window)
     {
         return itself;
     }
-    HWND part = m_subject.part ? m_subject.part(window) : itself;
-    for (int depth = Between(0, 2); depth > 0 && !m_subject.part; --depth)
+    HWND part = PartOf(window);
+    for (int depth = part == nullptr ? Between(0, 2) : 0; depth > 0; --depth)
     {
-        const auto child = reinterpret_cast<HWND>(m_arguments.Value(Argument::Child, part));
-        part = child == nullptr ? part : child;
+        const LPARAM child = m_arguments.Value(Argument::Child, part == nullptr ? itself : part);
+        part = child == 0 ? part : reinterpret_cast<HWND>(child);
     }
     return part == nullptr ? itself : part;
 }
 
 void Storm::Life(CWnd& parent, CWnd& window)
 {
+    const int step = Between(0, 13);
     const int what = Between(0, 2);
-    switch (Between(0, 13))
+    if (step <= 8)
+    {
+        Note(WM_USER, WPARAM(step), what); // the log's word for a step of a window's life
+    }
+    switch (step)
     {
     case 0:
-        Note(WM_SIZE);
         window.SetWindowPos(nullptr, Between(-5, 60), Between(-5, 60), Between(0, 400),
                             Between(0, 300), SWP_NOZORDER | SWP_NOACTIVATE);
         break;
     case 1:
     case 2:
-        Note(what != 0 ? WM_SETFOCUS : WM_KILLFOCUS);
         (what != 0 ? window : parent).SetFocus();
         break;
     case 3:
-        Note(WM_CAPTURECHANGED);
         ::ReleaseCapture();
         break;
     case 4:
-        Note(WM_ENABLE, WPARAM(what));
         window.EnableWindow(what != 0);
         break;
     case 5:
-        Note(WM_SHOWWINDOW, WPARAM(what));
         window.ShowWindow(what != 0 ? SW_SHOWNA : SW_HIDE);
         break;
     case 6:
-    {
-        const auto mode = APPMODE(Between(0, 4));
-        Note(WM_USER, WPARAM(mode)); // the log's word for a change of mode
-        COnBoardUIGeneral::SetAppMode(mode);
+        COnBoardUIGeneral::SetAppMode(APPMODE(Between(0, 4)));
         break;
-    }
     case 7:
-        if (!m_subject.fault || m_subject.pressesLoop)
+        // Not a bar of the platform's, which would run a loop of its own when it is pressed.
+        if (FaultOf(window) && !m_subject.pressesLoop)
         {
-            break; // a bar of the platform's would run a loop of its own when it is pressed
+            window.ModifyStyle(Between(0, 1) ? WS_VSCROLL : 0, Between(0, 1) ? WS_VSCROLL : 0,
+                               SWP_FRAMECHANGED);
         }
-        Note(WM_STYLECHANGED);
-        window.ModifyStyle(Between(0, 1) ? WS_VSCROLL : 0, Between(0, 1) ? WS_VSCROLL : 0,
-                           SWP_FRAMECHANGED);
         break;
     case 8:
-        Note(WM_PAINT);
         window.RedrawWindow(nullptr, nullptr,
                             RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
         break;

@@ -6,6 +6,8 @@
 #include <afxdlgs.h>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 
 namespace {
 
@@ -21,24 +23,37 @@ struct Kind
     std::vector<UINT> told;    // by WM_NOTIFY or, if positive, by WM_COMMAND
 };
 
-// Not EM_REPLACESEL: an edit of the platform's on a page faulted in it, in its own code by the call
-// stack, in a long soak. The edits of the library are sent it.
+// No button of a tool bar is deleted and no branch of a tree emptied by collapsing it: the
+// platform's faulted in a press after the one and in the other, in its own code, in long soaks.
+// Nothing closes a sheet.
 // clang-format off
 const Kind Kinds[] = {
     {"Button",
-     {{BM_SETCHECK, Three}, {BM_GETCHECK}, {BM_SETSTATE, Flag}, {BM_CLICK}, {WM_GETDLGCODE}},
+     {{BM_SETCHECK, Three}, {BM_GETCHECK}, {BM_SETSTATE, Flag}, {BM_GETSTATE}, {BM_CLICK},
+      {WM_GETDLGCODE}},
      ODT_BUTTON, {WM_CTLCOLORBTN, WM_CTLCOLORSTATIC},
      {BN_CLICKED, BN_DOUBLECLICKED, BN_SETFOCUS, BN_KILLFOCUS, BN_HILITE, BN_UNHILITE}},
     {"Static",
      {{STM_GETICON}, {STM_SETICON}, {STM_GETIMAGE}, {WM_GETDLGCODE}},
      ODT_STATIC, {WM_CTLCOLORSTATIC}, {STN_CLICKED, STN_DBLCLK, STN_ENABLE, STN_DISABLE}},
     {"Edit",
-     {{EM_SETSEL, Row, Row}, {EM_SETREADONLY, Flag}, {EM_SCROLLCARET}},
+     {{EM_SETSEL, Row, Row}, {EM_REPLACESEL, Flag, Text}, {EM_UNDO}, {EM_SETREADONLY, Flag},
+      {EM_LINESCROLL, None, Small}, {EM_SCROLL, Small}, {EM_SCROLLCARET}, {EM_LIMITTEXT, Data},
+      {EM_GETLINE, Row, Buffer}, {EM_SETMARGINS, Flag, Flag}, {EM_GETRECT, None, Place},
+      {EM_SETRECT, None, Place}, {EM_CHARFROMPOS, None, Point}, {EM_LINEINDEX, Row},
+      {EM_GETFIRSTVISIBLELINE}, {WM_COPY}, {WM_PASTE}, {WM_CUT}, {WM_CLEAR}, {WM_UNDO},
+      {WM_CHAR, Letter}},
      0, {WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC},
      {EN_SETFOCUS, EN_KILLFOCUS, EN_CHANGE, EN_UPDATE, EN_MAXTEXT, EN_HSCROLL, EN_VSCROLL}},
     {"ListBox",
-     {{LB_ADDSTRING, None, Text}, {LB_DELETESTRING, Row}, {LB_SETCURSEL, Row},
-      {LB_SETTOPINDEX, Row}, {LB_GETITEMRECT, Row, Place}},
+     {{LB_ADDSTRING, None, Text}, {LB_INSERTSTRING, Row, Text}, {LB_DELETESTRING, Row},
+      {LB_RESETCONTENT}, {LB_SETCURSEL, Row}, {LB_GETCURSEL}, {LB_SETSEL, Flag, Row},
+      {LB_SETTOPINDEX, Row}, {LB_GETTOPINDEX}, {LB_GETTEXT, Row, Buffer}, {LB_GETTEXTLEN, Row},
+      {LB_FINDSTRING, Row, Text}, {LB_FINDSTRINGEXACT, Row, Text}, {LB_SELECTSTRING, Row, Text},
+      {LB_SETITEMDATA, Row, Data}, {LB_GETITEMDATA, Row}, {LB_SETITEMHEIGHT, Row, Small},
+      {LB_GETITEMHEIGHT, Row}, {LB_GETITEMRECT, Row, Place}, {LB_ITEMFROMPOINT, None, Point},
+      {LB_SETCARETINDEX, Row}, {LB_SETHORIZONTALEXTENT, Length}, {LB_SETCOLUMNWIDTH, Length},
+      {LB_SELITEMRANGE, Flag, Data}},
      ODT_LISTBOX, {WM_CTLCOLORLISTBOX},
      {LBN_SELCHANGE, LBN_DBLCLK, LBN_SELCANCEL, LBN_SETFOCUS, LBN_KILLFOCUS}},
     {WC_HEADER,
@@ -47,13 +62,35 @@ const Kind Kinds[] = {
       {HDM_ORDERTOINDEX, Three}, {HDM_SETHOTDIVIDER, Flag, Three}},
      ODT_HEADER, {},
      {HDN_ITEMCLICKA, HDN_ITEMCLICKW, HDN_ITEMDBLCLICKW, HDN_BEGINTRACKW, HDN_DIVIDERDBLCLICKW}},
-    {WC_LISTVIEW, {}, ODT_LISTVIEW, {WM_CTLCOLOREDIT},
+    {WC_LISTVIEW,
+     {{LVM_INSERTITEM, None, ListItem}, {LVM_SETITEM, None, ListItem}, {LVM_DELETEITEM, Row},
+      {LVM_DELETEALLITEMS}, {LVM_SETITEMSTATE, Row, ListItem}, {LVM_ENSUREVISIBLE, Row, Flag},
+      {LVM_SCROLL, Small, Small}, {LVM_SETCOLUMNWIDTH, Small, Length}, {LVM_DELETECOLUMN, Small},
+      {LVM_SETITEMCOUNT, Row}, {LVM_GETTOPINDEX}, {LVM_GETCOUNTPERPAGE},
+      {LVM_REDRAWITEMS, Row, Row}, {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21}},
+     ODT_LISTVIEW, {WM_CTLCOLOREDIT},
      {LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_INSERTITEM, LVN_COLUMNCLICK, LVN_ITEMACTIVATE,
       LVN_BEGINDRAG, LVN_BEGINRDRAG, NM_CLICK, NM_DBLCLK, NM_RCLICK, NM_RDBLCLK}},
-    {WC_TREEVIEW, {}, 0, {WM_CTLCOLOREDIT},
+    {WC_TREEVIEW,
+     {{TVM_SELECTITEM, Fixed, TreeItem, TVGN_CARET},
+      {TVM_SELECTITEM, Fixed, TreeItem, TVGN_FIRSTVISIBLE},
+      {TVM_EXPAND, Fixed, TreeItem, TVE_EXPAND}, {TVM_EXPAND, Fixed, TreeItem, TVE_COLLAPSE},
+      {TVM_ENSUREVISIBLE, None, TreeItem}, {TVM_DELETEITEM, None, TreeItem}, {TVM_GETCOUNT},
+      {TVM_GETVISIBLECOUNT}},
+     0, {WM_CTLCOLOREDIT},
      {TVN_SELCHANGINGW, TVN_SELCHANGEDW, TVN_ITEMEXPANDINGA, TVN_ITEMEXPANDINGW, TVN_ITEMEXPANDEDW,
       TVN_BEGINDRAGA, TVN_BEGINDRAGW, TVN_BEGINRDRAGW, NM_CLICK, NM_DBLCLK, NM_RCLICK}},
-    {TOOLBARCLASSNAME, {}, 0, {}, {TBN_DROPDOWN, TBN_BEGINDRAG, TBN_ENDDRAG, NM_CLICK}},
+    {TOOLBARCLASSNAME,
+     {{TB_ENABLEBUTTON, Small, Flag}, {TB_CHECKBUTTON, Small, Flag}, {TB_HIDEBUTTON, Small, Flag},
+      {TB_BUTTONCOUNT}, {TB_SETBUTTONSIZE, None, Point}, {TB_PRESSBUTTON, Small, Flag},
+      {TB_GETITEMRECT, Three, Place}, {TB_SETSTATE, Three, Three}, {TB_AUTOSIZE}},
+     0, {}, {TBN_DROPDOWN, TBN_BEGINDRAG, TBN_ENDDRAG, NM_CLICK}},
+    {STATUSCLASSNAME,
+     {{SB_SETTEXT, Three, Text}, {SB_GETTEXT, Three, Buffer}, {SB_GETTEXTLENGTH, Three},
+      {SB_SETPARTS, Fixed, Edges, 2}, {SB_SETPARTS, Fixed, Edges, 3},
+      {SB_GETPARTS, Fixed, Edges, 3}, {SB_GETRECT, Three, Place}, {SB_SIMPLE, Flag},
+      {SB_SETMINHEIGHT, Length}, {SB_SETBKCOLOR, None, Data}},
+     0, {WM_CTLCOLORSTATIC}, {NM_CLICK, NM_RCLICK}},
     {WC_TABCONTROL,
      {{TCM_SETCURFOCUS, Flag}, {TCM_GETITEMRECT, Flag, Place}, {TCM_HITTEST, None, Hit},
       {TCM_GETCURSEL}, {TCM_ADJUSTRECT, Flag, Place}},
@@ -63,34 +100,42 @@ const Kind Kinds[] = {
       {DM_SETDEFID, Fixed, None, IDOK}, {WM_COMMAND, Fixed, None, IDOK},
       {WM_COMMAND, Fixed, None, IDCANCEL}, {WM_ACTIVATE, Three, Child},
       {WM_MOVING, Fixed, Place, 9}, {WM_SIZING, Fixed, Place, WMSZ_BOTTOMRIGHT},
-      {WM_ENTERSIZEMOVE}, {WM_EXITSIZEMOVE}},
+      {WM_ENTERSIZEMOVE}, {WM_EXITSIZEMOVE}, {PSM_SETCURSEL, Flag}, {PSM_SETTITLE, None, Text},
+      {PSM_CANCELTOCLOSE}, {PSM_APPLY}, {PSM_QUERYSIBLINGS, Data, Data}, {PSM_GETCURRENTPAGEHWND},
+      {PSM_PRESSBUTTON, Fixed, None, PSBTN_APPLYNOW}},
      0, {WM_CTLCOLORDLG}, {}},
+    {"", // any other
+     {}, 0, {WM_CTLCOLORSTATIC},
+     {CBN_SELCHANGE, NM_SETFOCUS, NM_KILLFOCUS, NM_RETURN, NM_RELEASEDCAPTURE, NM_CLICK,
+      NM_RCLICK}},
 };
 // clang-format on
-const Kind Other = {
-    "",
-    {},
-    0,
-    {WM_CTLCOLORSTATIC},
-    {CBN_SELCHANGE, NM_SETFOCUS, NM_KILLFOCUS, NM_RETURN, NM_RELEASEDCAPTURE, NM_CLICK, NM_RCLICK}};
 
-const Kind& KindOf(HWND window)
+bool IsOfClass(HWND window, const char* windowClass)
 {
     char name[64] = "";
     ::GetClassName(window, name, sizeof(name));
-    const auto found = std::find_if(std::begin(Kinds), std::end(Kinds), [&](const Kind& kind) {
-        return ::lstrcmpi(kind.windowClass, name) == 0;
-    });
-    return found == std::end(Kinds) ? Other : *found;
+    return ::lstrcmpi(windowClass, name) == 0;
+}
+
+const Kind& KindOf(HWND window)
+{
+    return *std::find_if(std::begin(Kinds), std::end(Kinds) - 1,
+                         [=](const Kind& kind) { return IsOfClass(window, kind.windowClass); });
 }
 
 } // namespace
 
 // clang-format off
+const std::vector<Word> CommonWords = {
+    {WM_CANCELMODE}, {WM_SETTEXT, None, Text}, {WM_SETFONT, Font, Flag}, {WM_SETREDRAW, Flag},
+    {WM_SYSCOLORCHANGE}, {WM_VSCROLL, Small}, {WM_HSCROLL, Small, None}, {WM_TIMER, Timer},
+};
+
 const std::vector<Word> AnyWords = {
     {WM_CHAR, Letter}, {WM_SYSKEYUP, Fixed, None, VK_DOWN}, {WM_MOUSELEAVE},
-    {WM_MOUSEHOVER, None, Point}, {WM_PRINTCLIENT, Canvas, Printed}, {WM_PRINT, Canvas, Printed},
-    {WM_ERASEBKGND, Canvas}, {WM_UPDATEUISTATE, UiState}, {WM_CHANGEUISTATE, UiState},
+    {WM_MOUSEHOVER, None, Point}, {WM_PRINTCLIENT, Context, Printed}, {WM_PRINT, Context, Printed},
+    {WM_ERASEBKGND, Context}, {WM_UPDATEUISTATE, UiState}, {WM_CHANGEUISTATE, UiState},
     {WM_QUERYUISTATE}, {WM_ACTIVATE, Three}, {WM_NCACTIVATE, Flag}, {WM_ACTIVATEAPP, Flag},
     {WM_GETTEXT, Fixed, Buffer, 0x100}, {WM_GETTEXTLENGTH}, {WM_GETFONT}, {WM_GETDLGCODE},
     {WM_SETTINGCHANGE}, {WM_THEMECHANGED}, {WM_FONTCHANGE}, {WM_DISPLAYCHANGE, Fixed, None, 32},
@@ -98,9 +143,123 @@ const std::vector<Word> AnyWords = {
 };
 // clang-format on
 
+// Of an edit of the platform's. One on a page faulted in EM_REPLACESEL, in its own code by the call
+// stack, in a long soak; the edits of the library are sent it.
 const std::vector<Word>& WordsOf(HWND window)
 {
-    return KindOf(window).words;
+    static const std::vector<Word> ofPlainEdit = {
+        {EM_SETSEL, Row, Row}, {EM_SETREADONLY, Flag}, {EM_SCROLLCARET}};
+    const bool plain = CWnd::FromHandlePermanent(window) == nullptr;
+    return plain && IsOfClass(window, "Edit") ? ofPlainEdit : KindOf(window).words;
+}
+
+int Arguments::Between(int first, int last)
+{
+    // The same on every platform, unlike the library's distributions.
+    return m_seed == 0 ? std::clamp(1, first, last)
+                       : first + int(m_random() % (std::uint32_t(last - first) + 1));
+}
+
+template <class Record> LPARAM Arguments::InRoom(const Record& record)
+{
+    std::fill_n(m_room.data(), 256, char(0));
+    std::memcpy(m_room.data(), &record, sizeof(record));
+    return reinterpret_cast<LPARAM>(m_room.data());
+}
+
+LPARAM Arguments::Value(Argument argument, HWND window)
+{
+    constexpr int EveryPart =
+        PRF_CHECKVISIBLE | PRF_NONCLIENT | PRF_CLIENT | PRF_ERASEBKGND | PRF_CHILDREN | PRF_OWNED;
+    switch (argument)
+    {
+    case None:
+    case Fixed:
+        return 0;
+    case Flag:
+        return Between(0, 1);
+    case Three:
+        return Between(0, 2);
+    case Row:
+        return Between(0, 20) == 0 ? Between(-2, 5000) : Between(-1, 45);
+    case Small:
+        return Between(-3, 20);
+    case Length:
+        return Between(-20, 400);
+    case Data:
+        return m_seed == 0 ? 0 : LPARAM(m_random());
+    case Letter:
+        return Between(0, 9) == 0 ? VK_RETURN : Between(8, 126);
+    case Text:
+        return reinterpret_cast<LPARAM>(Words());
+    case Buffer:
+        return InRoom(WORD(m_room.size() - 1)); // as EM_GETLINE has it
+    case Place:
+        return InRoom(CRect(Between(-5, 50), Between(-5, 50), Between(40, 300), Between(40, 300)));
+    case Point:
+    {
+        CRect client;
+        ::GetClientRect(window, &client);
+        return MAKELPARAM(Between(-20, client.right + 60), Between(-20, client.bottom + 20));
+    }
+    case UiState:
+        return MAKELPARAM(Between(UIS_SET, UIS_INITIALIZE), Between(1, 7));
+    case Printed:
+        return Between(0, EveryPart);
+    case Context:
+        return reinterpret_cast<LPARAM>(m_canvas.DC().GetSafeHdc());
+    case Child:
+    {
+        HWND child = ::GetWindow(window, GW_CHILD);
+        for (int steps = Between(0, 5); steps > 0 && child != nullptr; --steps)
+        {
+            child = ::GetWindow(child, GW_HWNDNEXT);
+        }
+        return reinterpret_cast<LPARAM>(child);
+    }
+    case HeadItem:
+    {
+        HDITEM item = {};
+        item.mask = HDI_WIDTH | HDI_FORMAT;
+        item.cxy = Between(0, 200);
+        item.fmt = HDF_STRING | (Between(0, 1) ? HDF_SORTUP : HDF_SORTDOWN);
+        return InRoom(item);
+    }
+    case Hit:
+        return InRoom(CPoint(Between(-20, 300), Between(-20, 200)));
+    case Edges:
+    {
+        const int first = Between(10, 100);
+        return InRoom(std::array{first, first + Between(0, 100), -1});
+    }
+    case Font:
+        return LPARAM(::GetStockObject(Between(0, 1) ? DEFAULT_GUI_FONT : SYSTEM_FONT));
+    case Timer:
+        return LPARAM(OneOf(TimerIds));
+    case ListItem:
+    {
+        LVITEM item = {};
+        item.mask = LVIF_TEXT | LVIF_STATE;
+        item.iItem = Between(-1, 60);
+        item.iSubItem = Between(0, 4) - 1;
+        item.pszText = const_cast<char*>(Words());
+        item.state = UINT(Between(0, 3));
+        item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+        return InRoom(item);
+    }
+    case TreeItem:
+    {
+        LRESULT item = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_ROOT, 0);
+        for (int steps = Between(0, 30) - 1; steps > 0 && item != 0; --steps)
+        {
+            const LRESULT child = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_CHILD, item);
+            const LRESULT next = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_NEXT, item);
+            item = child != 0 && Between(0, 1) ? child : next;
+        }
+        return item;
+    }
+    }
+    return 0;
 }
 
 ToParent::Told ToParent::Drawn(HWND control, UINT kind)
@@ -125,7 +284,7 @@ ToParent::Told ToParent::Drawn(HWND control, UINT kind)
                    UINT(1 << m_arguments.Between(0, 2)), // all, the selection, the focus
                    UINT(m_arguments.Between(0, 0x3FF)) & states,
                    control,
-                   reinterpret_cast<HDC>(m_arguments.Value(Canvas, control)),
+                   reinterpret_cast<HDC>(m_arguments.Value(Context, control)),
                    *reinterpret_cast<const RECT*>(m_arguments.Value(Place, control)),
                    data};
     return {WM_DRAWITEM, id, LPARAM(&m_said)};
@@ -139,8 +298,7 @@ ToParent::Told ToParent::Notified(HWND control, UINT code)
     const std::string name = KindOf(control).windowClass;
     if (name == WC_HEADER)
     {
-        m_headItem = *reinterpret_cast<const HDITEM*>(m_arguments.Value(HeadItem, control));
-        m_said.heading.pitem = &m_headItem;
+        m_said.heading.pitem = reinterpret_cast<HDITEM*>(m_arguments.Value(HeadItem, control));
         m_said.heading.iItem = m_arguments.Between(
             0, std::max(0, int(::SendMessage(control, HDM_GETITEMCOUNT, 0, 0)) - 1));
     }
@@ -179,10 +337,9 @@ ToParent::Told ToParent::Next(HWND control)
     }
     const auto& of =
         (what <= 2 && !kind.colours.empty()) || kind.told.empty() ? kind.colours : kind.told;
-    const UINT code =
-        of.empty() ? NM_CLICK : of[size_t(m_arguments.Between(0, int(of.size()) - 1))];
+    const UINT code = of.empty() ? NM_CLICK : m_arguments.OneOf(of);
     return &of == &kind.colours && !of.empty()
-               ? Told{code, WPARAM(m_arguments.Value(Canvas, control)), self}
+               ? Told{code, WPARAM(m_arguments.Value(Context, control)), self}
            : int(code) >= 0 ? Told{WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code), self}
                             : Notified(control, code);
 }
@@ -220,4 +377,13 @@ int TicksWithin(int milliseconds)
     PumpFor(milliseconds);
     ::UnhookWindowsHookEx(hook);
     return s_count;
+}
+
+void ForgetClipboard()
+{
+    if (::OpenClipboard(nullptr))
+    {
+        ::EmptyClipboard();
+        ::CloseClipboard();
+    }
 }

@@ -4,6 +4,7 @@
 #include "CustomPropPage.h"
 #include "CustomPropSheet.h"
 #include "ZepMsgBoxDlg.h"
+#include "catalog/DialogTemplate.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
 #include "support/forms.h"
@@ -12,20 +13,30 @@ namespace {
 
 // Windows in loops of their own: what they are told, by their controls and by the platform, ends
 // them, their first control or their owner.
-template <class Window> class Looping : public Hearing<Scripted<Window>>
-{
-public:
-    using Hearing<Scripted<Window>>::Hearing;
+template <class Window> using Looping = Hearing<Scripted<Window>>;
 
-protected:
-    // Past Hearing's, which does nothing: the loop has to end.
-    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-    void PostNcDestroy() override { Scripted<Window>::PostNcDestroy(); }
+struct Form : Looping<CCustomDialog>
+{
+    explicit Form(CWnd* owner)
+        : Looping<CCustomDialog>(0U, owner)
+    {
+        form.Add("Edit", "text", WS_TABSTOP, CRect(5, 150, 60, 165), 101)
+            .Add("Button", "OK", WS_TABSTOP, CRect(80, 150, 120, 165), IDOK);
+        InitModalIndirect(form, owner);
+    }
+    DialogTemplate form{CRect(10, 10, 330, 180), WS_POPUP | WS_CAPTION | WS_SYSMENU};
 };
 
-struct LoopingPage : Looping<CCustomPropSheet>
+struct Box : Looping<CZepMsgBoxDlg>
 {
-    explicit LoopingPage(CWnd* owner)
+    explicit Box(CWnd*)
+        : Looping<CZepMsgBoxDlg>("A message", MB_YESNOCANCEL, CSize(800, 600), nullptr)
+    {}
+};
+
+struct Sheet : Looping<CCustomPropSheet>
+{
+    explicit Sheet(CWnd* owner)
         : Looping<CCustomPropSheet>("Sheet", nullptr, owner)
     {
         AddPage(&page);
@@ -33,17 +44,16 @@ struct LoopingPage : Looping<CCustomPropSheet>
     CCustomPropPage page{UINT(IDD_TEST_PAGE_1)};
 };
 
-class DeathInALoop : public WindowTest
+template <class Window> class DeathInALoop : public WindowTest
 {
 protected:
-    template <class Window, class Make>
-    std::vector<Told> Give(std::optional<Told> awaited, Death death, Make make)
+    std::vector<Told> Give(std::optional<Told> awaited, Death death)
     {
         Play play("a loop", awaited, death);
         play.modal = true;
         auto owner = std::make_unique<CWnd>();
         owner->CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP | WS_VISIBLE, Stage, &Host(), 0);
-        std::unique_ptr<Window> window = make(owner.get());
+        auto window = std::make_unique<Window>(owner.get());
         Window& shown = *window;
         play.parent = std::move(owner);
         play.control = std::move(window);
@@ -68,48 +78,28 @@ protected:
         EXPECT_TRUE(Host().IsWindowEnabled()) << play.Title();
         return play.Finish();
     }
+};
 
-    template <class Window, class Make> void All(Make make)
+using Windows = testing::Types<Form, Box, Sheet>;
+TYPED_TEST_SUITE(DeathInALoop, Windows);
+
+TYPED_TEST(DeathInALoop, LeavesTheRestSound)
+{
+    for (const APPMODE mode : {STD, EFB})
     {
-        for (const APPMODE mode : {STD, EFB})
+        const ModeScope scope(mode);
+        const std::vector<Told> told = this->Give({}, Death::Window);
+        EXPECT_GT(told.size(), 3U);
+        for (const Told& awaited : told)
         {
-            const ModeScope scope(mode);
-            const std::vector<Told> told = Give<Window>({}, Death::Window, make);
-            EXPECT_GT(told.size(), 3U);
-            for (const Told& awaited : told)
+            this->Give(awaited, Death::Window);
+            if (IsFirstOfItsKind(awaited, told))
             {
-                Give<Window>(awaited, Death::Window, make);
-                if (IsFirstOfItsKind(awaited, told))
-                {
-                    Give<Window>(awaited, Death::Sibling, make);
-                    Give<Window>(awaited, Death::Parent, make);
-                }
+                this->Give(awaited, Death::Sibling);
+                this->Give(awaited, Death::Parent);
             }
         }
     }
-};
-
-TEST_F(DeathInALoop, OfADialog)
-{
-    const DialogTemplate form = Form();
-    All<Looping<CCustomDialog>>([&](CWnd* owner) {
-        auto dialog = std::make_unique<Looping<CCustomDialog>>(0U, owner);
-        dialog->InitModalIndirect(form, owner);
-        return dialog;
-    });
-}
-
-TEST_F(DeathInALoop, OfAMessageBox)
-{
-    All<Looping<CZepMsgBoxDlg>>([](CWnd*) {
-        return std::make_unique<Looping<CZepMsgBoxDlg>>("A message", MB_YESNOCANCEL,
-                                                        CSize(800, 600), nullptr);
-    });
-}
-
-TEST_F(DeathInALoop, OfASheet)
-{
-    All<LoopingPage>([](CWnd* owner) { return std::make_unique<LoopingPage>(owner); });
 }
 
 } // namespace

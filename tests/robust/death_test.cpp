@@ -3,85 +3,32 @@
 // once for each thing told and each way to end.
 
 #include "robust/Play.h"
-#include "robust/Subjects.h"
 
-#include "CustomDialog.h"
-#include "CustomFormView.h"
-#include "CustomPropPage.h"
-#include "CustomPropSheet.h"
-#include "ZepMsgBoxDlg.h"
+#include "catalog/Makers.h"
 #include "support/WindowTest.h"
-#include "support/forms.h"
 
 namespace {
 
-class Sheet : public Hearing<CCustomPropSheet>
-{
-public:
-    explicit Sheet(CWnd* owner)
-        : Hearing<CCustomPropSheet>("Sheet", nullptr, owner)
-    {
-        AddPage(&m_page);
-    }
+using Parents = Makers<Hearing>;
 
-private:
-    Hearing<CCustomPropPage> m_page{UINT(IDD_TEST_PAGE_1)};
-};
-
-std::unique_ptr<CWnd> Plain(CWnd& host)
+Made MakePlain(CWnd& parent, const Contents&)
 {
-    auto parent = std::make_unique<Hearing<CWnd>>();
-    parent->CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), "", WS_CHILD | WS_CLIPCHILDREN, Stage,
-                     &host, 1);
-    return parent;
-}
-
-std::unique_ptr<CWnd> Dialog(CWnd& host)
-{
-    auto parent = std::make_unique<Hearing<CCustomDialog>>(0U, &host);
-    parent->CreateIndirect(Form(), &host);
-    return parent;
-}
-
-std::unique_ptr<CWnd> Box(CWnd& host)
-{
-    auto parent = std::make_unique<Hearing<CZepMsgBoxDlg>>("A message of a line", MB_YESNOCANCEL,
-                                                           CSize(800, 600), nullptr);
-    parent->Create(CZepMsgBoxDlg::IDD, &host);
-    parent->SetWindowPos(nullptr, 0, 0, 620, 300, SWP_NOMOVE | SWP_NOZORDER);
-    return parent;
-}
-
-std::unique_ptr<CWnd> PageOfASheet(CWnd& host)
-{
-    auto sheet = std::make_unique<Sheet>(&host);
-    sheet->Create(&host, WS_POPUP | WS_CAPTION);
-    return sheet;
-}
-
-std::unique_ptr<CWnd> FormView(CWnd& host)
-{
-    struct View : Hearing<CCustomFormView>
-    {
-        View()
-            : Hearing<CCustomFormView>(UINT(IDD_TEST_FORM))
-        {}
-    };
-    auto view = std::make_unique<View>();
-    view->Create(nullptr, nullptr, WS_CHILD, Stage, &host, 5, nullptr);
-    return view;
+    auto plain = std::make_unique<Hearing<CWnd>>();
+    plain->CreateEx(0, AfxRegisterWndClass(CS_DBLCLKS), "", WS_CHILD | WS_CLIPCHILDREN, Stage,
+                    &parent, 1);
+    return plain;
 }
 
 struct ParentKind
 {
     const char* name;
-    std::unique_ptr<CWnd> (*make)(CWnd& host);
+    Made (*make)(CWnd& parent, const Contents& contents);
 };
-constexpr ParentKind ParentKinds[] = {{"", &Plain},
-                                      {"on a dialog", &Dialog},
-                                      {"on a message box", &Box},
-                                      {"on a page", &PageOfASheet},
-                                      {"on a form view", &FormView}};
+constexpr ParentKind ParentKinds[] = {{"", &MakePlain},
+                                      {"on a dialog", &Parents::MakeDialog},
+                                      {"on a message box", &Parents::MakeMessageBox},
+                                      {"on a page", &Parents::MakeSheet},
+                                      {"on a form view", &Parents::MakeFormView}};
 
 // Input by queue: a press may run a loop of the control's own, which needs its end to be there.
 void QueuePress(CPoint point, CPoint to, bool right)
@@ -140,7 +87,7 @@ private:
         for (const Word& word : words)
         {
             const WPARAM wParam = m_arguments.First(word, m_window);
-            Send(word.message, wParam, m_arguments.Value(word.lParam, m_window));
+            Send(word.message, wParam, m_arguments.Second(word, m_window));
         }
     }
 
@@ -177,7 +124,7 @@ private:
 
     void Messages()
     {
-        Say(m_subject.words);
+        Say(WordsOf(m_window));
         m_play.Paint(m_window);
         for (const UINT message : {UINT(LVM_EDITLABEL), UINT(TVM_EDITLABEL)})
         {
@@ -253,7 +200,9 @@ protected:
         play.over = true; // not yet begun
         play.from = from;
         play.toldBefore = awaited && !IsFirstOfItsKind(*awaited, m_rehearsed);
-        play.parent = kind->make(Host());
+        play.parent = kind->make(Host(), {Stage, "A text"});
+        play.parent->SetWindowPos(nullptr, 0, 0, Stage.right, Stage.bottom,
+                                  SWP_NOMOVE | SWP_NOZORDER);
         CWnd* parent = play.parent.get();
         if (auto* const sheet = dynamic_cast<CPropertySheet*>(parent))
         {
@@ -339,17 +288,13 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
 std::vector<Case> Cases()
 {
     std::vector<Case> cases;
-    for (const Subject& subject : Subjects())
-    {
-        cases.push_back({&subject, &ParentKinds[0]});
-    }
     for (const ParentKind& kind : ParentKinds)
     {
         for (const Subject& subject : Subjects())
         {
             const std::string name = subject.name;
-            if (&kind != &ParentKinds[0] &&
-                (name == "push button" || name == "list box" || name == "combo"))
+            if (&kind == ParentKinds || name == "push button" || name == "list box" ||
+                name == "combo")
             {
                 cases.push_back({&subject, &kind});
             }

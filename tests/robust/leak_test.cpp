@@ -2,7 +2,7 @@
 // own tables, memory from its heap, timers by ending them. ONBOARDUI_LEAK_CYCLES asks for so many
 // lives of each; ./soak does.
 
-#include "robust/Words.h"
+#include "robust/Subjects.h"
 #include "support/LiveObjects.h"
 #include "support/WindowTest.h"
 
@@ -29,18 +29,12 @@ protected:
             window->SendMessage(WM_KEYUP, VK_DOWN, LPARAM(0xC0000001));
             window->SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001); // opens a combo, and closes it
         }
-        if (GetParam().act)
+        Arguments arguments(1);
+        for (int act = 0; act < 8; ++act)
         {
-            Arguments arguments(1);
-            for (int act = 0; act < 8; ++act)
-            {
-                GetParam().act(*window, arguments);
-            }
+            Act(*window, arguments);
         }
-        if (GetParam().rest)
-        {
-            GetParam().rest(*window);
-        }
+        Rest(*window);
         m_timers += EndTimers();
         window.reset();
         PumpAll();
@@ -73,7 +67,7 @@ TEST_P(Leaks, ManyLivesLeaveNothing)
     EXPECT_LT(growth, cycles * 64) << GetParam().name;
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Leaks, testing::ValuesIn(AllSubjects()),
+INSTANTIATE_TEST_SUITE_P(Of, Leaks, testing::ValuesIn(Subjects()),
                          [](const auto& info) { return TestName(info.param.name); });
 
 using NoRoom = WindowTest;

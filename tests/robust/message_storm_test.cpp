@@ -44,7 +44,6 @@ private:
     // What was pressed is released, and nothing goes on; neither after a few presses more.
     void ComeToRest(CWnd& window, Storm& storm)
     {
-        const Subject& subject = GetParam();
         const HWND handle = window.GetSafeHwnd();
         ReleaseAll(window, storm);
         for (int touches = 0; touches < 30 && ::IsWindow(handle) && !HasFailure(); ++touches)
@@ -59,10 +58,7 @@ private:
             }
             storm.Touch(window);
             ReleaseAll(window, storm);
-            if (subject.fault)
-            {
-                EXPECT_EQ(subject.fault(window), "") << storm.Log();
-            }
+            EXPECT_EQ(FaultOf(window).value_or(""), "") << storm.Log();
         }
         EXPECT_EQ(TicksWithin(100), 0) << storm.Log();
         window.SendMessage(WM_CANCELMODE);
@@ -71,13 +67,12 @@ private:
 
     void ReleaseAll(CWnd& window, const Storm& storm)
     {
-        const Subject& subject = GetParam();
         const HWND handle = window.GetSafeHwnd();
-        if (::IsWindow(handle) && subject.rest)
+        if (::IsWindow(handle))
         {
-            subject.rest(window);
+            Rest(window);
         }
-        const HWND part = ::IsWindow(handle) && subject.part ? subject.part(window) : nullptr;
+        const HWND part = ::IsWindow(handle) ? PartOf(window) : nullptr;
         for (const HWND to : {::GetCapture(), handle, part})
         {
             ::SendMessage(to, WM_LBUTTONUP, 0, -1);
@@ -112,7 +107,7 @@ TEST_P(MessageStorm, LeavesTheControlSound)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, MessageStorm, testing::ValuesIn(AllSubjects()),
+INSTANTIATE_TEST_SUITE_P(Of, MessageStorm, testing::ValuesIn(Subjects()),
                          [](const auto& info) { return TestName(info.param.name); });
 
 } // namespace

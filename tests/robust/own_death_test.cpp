@@ -133,18 +133,11 @@ protected:
     void HaveRowDrawn(HWND window)
     {
         CClientDC dc(&Host());
-        DRAWITEMSTRUCT row = {};
-        row.CtlType = ODT_LISTBOX;
-        row.CtlID = UINT(::GetDlgCtrlID(window));
-        row.itemAction = ODA_DRAWENTIRE;
-        row.hwndItem = window;
-        row.hDC = dc;
-        row.rcItem = CRect(0, 0, 100, 20);
-        Host().SendMessage(WM_DRAWITEM, row.CtlID, reinterpret_cast<LPARAM>(&row));
-        MEASUREITEMSTRUCT height = {};
-        height.CtlType = ODT_LISTBOX;
-        height.CtlID = row.CtlID;
-        Host().SendMessage(WM_MEASUREITEM, row.CtlID, reinterpret_cast<LPARAM>(&height));
+        const UINT id = UINT(::GetDlgCtrlID(window));
+        DRAWITEMSTRUCT row = {ODT_LISTBOX, id, 0, ODA_DRAWENTIRE, 0, window, dc, {0, 0, 99, 20}, 0};
+        Host().SendMessage(WM_DRAWITEM, id, reinterpret_cast<LPARAM>(&row));
+        MEASUREITEMSTRUCT height = {ODT_LISTBOX, id, 0, 0, 0, 0};
+        Host().SendMessage(WM_MEASUREITEM, id, reinterpret_cast<LPARAM>(&height));
     }
 
     // Once without an end, and once for each end on the way.

