@@ -82,29 +82,19 @@ template <class Radio, class Frame> void Group(Radio& first, Journal& journal)
         frame.SendMessage(WM_GETDLGCODE), TextOf(frame));
 }
 
-CString LineOf(const CEdit& edit, int line)
-{
-    char text[80] = "";
-    const int length = edit.GetLine(line, text, sizeof(text) - 1);
-    return CString(text, length);
-}
-
 void Write(CEdit& edit, Journal& journal)
 {
     ASK((edit.SetWindowText("One\r\nTwo\r\nThree\r\nFour\r\nFive\r\nSix\r\nSeven\r\nEight"), 0),
-        edit.GetLineCount(), edit.LineIndex(2), edit.LineFromChar(12), edit.LineLength(10),
-        LineOf(edit, 3), LineOf(edit, 99), (edit.SetSel(2, 7), 0), edit.GetSel(),
-        (edit.ReplaceSel("for", TRUE), 0), TextOf(edit), edit.CanUndo(), edit.Undo(),
-        edit.GetModify(), journal.Middle(), edit.GetSel(), TextOf(edit), edit.GetModify(),
-        (edit.SetModify(FALSE), 0), (edit.SetSel(-1, -1), 0), (edit.SetSel(4, 4), 0),
+        edit.GetLineCount(), edit.LineIndex(2), edit.LineLength(10), (edit.SetSel(2, 7), 0),
+        edit.GetSel(), (edit.ReplaceSel("for", TRUE), 0), TextOf(edit), edit.CanUndo(), edit.Undo(),
+        journal.Middle(), edit.GetSel(), TextOf(edit), edit.GetModify(), (edit.SetSel(4, 4), 0),
         journal.Key('W'), journal.Key(VK_BACK), journal.Key(VK_END, VK_SHIFT), edit.GetSel(),
         journal.Key(VK_DELETE), journal.Key(VK_DOWN), edit.GetSel(), TextOf(edit),
         (edit.LineScroll(3), 0), journal.Middle(), edit.GetFirstVisibleLine(),
         edit.SendMessage(EM_SCROLL, SB_LINEUP), edit.GetFirstVisibleLine(),
         (edit.SendMessage(EM_SCROLLCARET), 0), journal.Press(20, 12), edit.GetSel(),
-        edit.CharFromPos(CPoint(30, 6)), edit.PosFromChar(1),
-        Filled([&](CRect* rect) { edit.GetRect(rect); }), edit.GetMargins(),
-        (edit.SetLimitText(6), 0), edit.GetLimitText(), (edit.SetSel(0, -1), 0),
+        edit.CharFromPos(CPoint(30, 6)), Filled([&](CRect* rect) { edit.GetRect(rect); }),
+        edit.GetMargins(), (edit.SetLimitText(6), 0), (edit.SetSel(0, -1), 0),
         (edit.ReplaceSel("Longer than six"), 0), TextOf(edit), (edit.SetSel(1, 3), 0),
         (edit.Cut(), 0), (edit.Paste(), 0), TextOf(edit), (edit.SetSel(0, 2), 0),
         journal.Key('X', VK_CONTROL), TextOf(edit), journal.Key('V', VK_CONTROL), TextOf(edit),
