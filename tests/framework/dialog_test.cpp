@@ -3,6 +3,7 @@
 #include "support/WindowTest.h"
 
 #include <functional>
+#include <tuple>
 
 namespace {
 
@@ -152,8 +153,7 @@ TEST_F(DialogTest, DataGoesBothWays)
     dialog.GetDlgItemText(IdEdit, shown);
     EXPECT_STREQ(shown, "some text");
     EXPECT_EQ(::GetDlgItemInt(dialog, IdNumber, nullptr, TRUE), 42U);
-    EXPECT_EQ(dialog.IsDlgButtonChecked(IdCheck), UINT(BST_CHECKED));
-    EXPECT_EQ(dialog.IsDlgButtonChecked(IdSecondRadio), UINT(BST_CHECKED));
+    EXPECT_TRUE(dialog.IsDlgButtonChecked(IdCheck) && dialog.IsDlgButtonChecked(IdSecondRadio));
     EXPECT_EQ(dialog.list.GetCurSel(), 2);
 
     dialog.GetDlgItem(IdEdit)->SetFocus();
@@ -166,10 +166,8 @@ TEST_F(DialogTest, DataGoesBothWays)
     dialog.list.SetCurSel(-1);
     EXPECT_TRUE(dialog.UpdateData(TRUE));
     EXPECT_STREQ(dialog.text.Left(3), "new");
-    EXPECT_EQ(dialog.number, -7);
-    EXPECT_EQ(dialog.check, 0);
-    EXPECT_EQ(dialog.radio, 0);
-    EXPECT_EQ(dialog.row, LB_ERR);
+    EXPECT_EQ(std::tuple(dialog.number, dialog.check, dialog.radio, dialog.row),
+              std::tuple(-7, 0, 0, LB_ERR));
 
     ::CheckDlgButton(dialog, IdFirstRadio, BST_UNCHECKED);
     EXPECT_TRUE(dialog.UpdateData(TRUE));

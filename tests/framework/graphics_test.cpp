@@ -3,8 +3,7 @@
 #include <afxcmn.h>
 
 #include "support/Canvas.h"
-
-#include <gtest/gtest.h>
+#include "support/WindowTest.h"
 
 namespace {
 
@@ -70,4 +69,20 @@ TEST(DeviceContexts, SelectingGivesBackTheSameObjectsAndFillingTheBackgroundColo
     dc.SetBkColor(Blue);
     dc.FillSolidRect(0, 0, 10, 10, Red);
     EXPECT_EQ(dc.GetBkColor(), Blue);
+}
+
+TEST_F(WindowTest, ContextsOfAWindowAreReleased)
+{
+    const auto useAll = [this] {
+        CClientDC client(&Host());
+        CWindowDC window(&Host());
+        CPaintDC paint(&Host());
+    };
+    useAll(); // the platform keeps its first contexts
+    const int before = GraphicsObjects();
+    for (int round = 0; round < 50; ++round)
+    {
+        useAll();
+    }
+    EXPECT_EQ(GraphicsObjects(), before);
 }

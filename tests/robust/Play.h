@@ -171,7 +171,6 @@ struct Play
     std::optional<Told> awaited;
     Death death;
     bool over = false;
-    bool modal = false; // control and parent are on the stack: only their windows end
     int faults = Watch::Faults();
     Watch watch{[this] { return Title(); }};
 
@@ -230,9 +229,9 @@ struct Play
             return false;
         }
         const HWND control = now->control->GetSafeHwnd();
-        const bool sibling = now->death == Death::Sibling;
-        const bool dies = now->modal || now->death == Death::Parent ||
-                          (!sibling && (sender == control || ::IsChild(control, sender)));
+        const bool dies =
+            now->death == Death::Parent ||
+            (now->death != Death::Sibling && (sender == control || ::IsChild(control, sender)));
         if ((dies && IsForbidden(sender, what, again)) || FocusGiver::EndsWith(now->Ending()))
         {
             now->awaited.reset();
@@ -240,7 +239,7 @@ struct Play
         }
         now->over = true;
         now->End();
-        return now->modal ? now->death != Death::Sibling : now->death == Death::Parent;
+        return now->death == Death::Parent;
     }
 
     // What the window is put through, until it is over.
@@ -300,24 +299,16 @@ private:
         }
     }
 
-    // What ends, at the least.
     HWND Ending() const
     {
-        const HWND window = control->GetSafeHwnd(); // of a loop it ends with its owner, too
-        if (death == Death::Sibling)
-        {
-            return modal ? ::GetWindow(window, GW_CHILD) : sibling->GetSafeHwnd();
-        }
-        return death == Death::Parent && !modal ? parent->GetSafeHwnd() : window;
+        const CWnd& ends = death == Death::Sibling  ? *sibling
+                           : death == Death::Parent ? *parent
+                                                    : *control;
+        return ends.GetSafeHwnd();
     }
 
     void End()
     {
-        if (modal)
-        {
-            ::DestroyWindow(death == Death::Parent ? parent->GetSafeHwnd() : Ending());
-            return;
-        }
         switch (death)
         {
         case Death::Window:

@@ -2,8 +2,9 @@
 
 #include "OnBoardUIGeneral.h"
 #include "support/Accessible.h"
+#include "support/Repaint.h"
 
-#include <cstdio>
+#include <sstream>
 
 namespace {
 
@@ -33,23 +34,19 @@ Storm::Storm(const Subject& subject, std::uint32_t seed)
 
 std::string Storm::Log() const
 {
-    std::string log = std::string("storm on ") + m_subject.name + ", seed " +
-                      std::to_string(m_seed) + ", mode " +
-                      std::to_string(int(COnBoardUIGeneral::GetAppMode())) + ", last messages:\n";
-    for (const Sent& sent : m_last)
+    std::ostringstream log;
+    log << "storm on " << m_subject.name << ", seed " << m_seed << ", mode "
+        << int(COnBoardUIGeneral::GetAppMode()) << ", last messages:\n";
+    for (const Received& sent : m_last)
     {
-        char line[80];
-        std::snprintf(line, sizeof(line), "  0x%04X 0x%llX 0x%llX\n", sent.message,
-                      static_cast<unsigned long long>(sent.wParam),
-                      static_cast<unsigned long long>(sent.lParam));
-        log += line;
+        log << "  " << testing::PrintToString(sent) << '\n';
     }
-    return log;
+    return log.str();
 }
 
 void Storm::Note(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (m_last.size() == size_t(Remembered))
+    if (m_last.size() == Remembered)
     {
         m_last.erase(m_last.begin());
     }
@@ -133,12 +130,18 @@ void Storm::Key(HWND window)
     Send(window, WM_KEYUP, key, LPARAM(0xC0000001));
 }
 
-void Storm::Input(HWND window)
+// A point of the client area, packed, and the same on the screen.
+std::pair<LPARAM, LPARAM> Storm::Somewhere(HWND window)
 {
     const LPARAM inside = m_arguments.Value(Argument::Point, window);
     CPoint screen(short(LOWORD(inside)), short(HIWORD(inside)));
     ::ClientToScreen(window, &screen);
-    const LPARAM onScreen = MAKELPARAM(screen.x, screen.y);
+    return {inside, MAKELPARAM(screen.x, screen.y)};
+}
+
+void Storm::Input(HWND window)
+{
+    const auto [inside, onScreen] = Somewhere(window);
     switch (Between(0, 10))
     {
     case 0:
@@ -287,8 +290,7 @@ void Storm::Life(CWnd& parent, CWnd& window)
         }
         break;
     case 8:
-        window.RedrawWindow(nullptr, nullptr,
-                            RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW);
+        Repaint(window);
         break;
     default:
         SendOne(window, CommonWords);
@@ -299,10 +301,7 @@ void Storm::Life(CWnd& parent, CWnd& window)
 void Storm::Touch(CWnd& window)
 {
     const HWND target = Target(window);
-    const LPARAM inside = m_arguments.Value(Argument::Point, target);
-    CPoint screen(short(LOWORD(inside)), short(HIWORD(inside)));
-    ::ClientToScreen(target, &screen);
-    const LPARAM onScreen = MAKELPARAM(screen.x, screen.y);
+    const auto [inside, onScreen] = Somewhere(target);
     if (!PressBar(target, onScreen))
     {
         Press(target, WM_LBUTTONDOWN, WM_LBUTTONUP, MK_LBUTTON, inside);

@@ -23,19 +23,13 @@ public:
     std::string Log() const;
 
 private:
-    struct Sent
-    {
-        UINT message;
-        WPARAM wParam;
-        LPARAM lParam;
-    };
-    static constexpr int Remembered = 24;
+    static constexpr size_t Remembered = 24;
 
     const Subject& m_subject;
     std::uint32_t m_seed;
     Arguments m_arguments;
     ToParent m_toParent{m_arguments};
-    std::vector<Sent> m_last;
+    std::vector<Received> m_last;
     Watch m_watch;
 
     int Between(int first, int last) { return m_arguments.Between(first, last); }
@@ -44,6 +38,7 @@ private:
     void SendOne(HWND window, const std::vector<Word>& words);
 
     HWND Target(CWnd& window);
+    std::pair<LPARAM, LPARAM> Somewhere(HWND window);
     void Input(HWND window);
     void Press(HWND window, UINT down, UINT up, WPARAM wParam, LPARAM point);
     bool PressBar(HWND window, LPARAM onScreen);

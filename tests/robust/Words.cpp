@@ -262,7 +262,7 @@ LPARAM Arguments::Value(Argument argument, HWND window)
     return 0;
 }
 
-ToParent::Told ToParent::Drawn(HWND control, UINT kind)
+Received ToParent::Drawn(HWND control, UINT kind)
 {
     const int count = kind == ODT_LISTBOX    ? int(::SendMessage(control, LB_GETCOUNT, 0, 0))
                       : kind == ODT_LISTVIEW ? int(::SendMessage(control, LVM_GETITEMCOUNT, 0, 0))
@@ -290,7 +290,7 @@ ToParent::Told ToParent::Drawn(HWND control, UINT kind)
     return {WM_DRAWITEM, id, LPARAM(&m_said)};
 }
 
-ToParent::Told ToParent::Notified(HWND control, UINT code)
+Received ToParent::Notified(HWND control, UINT code)
 {
     const UINT id = UINT(::GetDlgCtrlID(control));
     m_said = {};
@@ -322,7 +322,7 @@ ToParent::Told ToParent::Notified(HWND control, UINT code)
     return {WM_NOTIFY, id, LPARAM(&m_said)};
 }
 
-ToParent::Told ToParent::Next(HWND control)
+Received ToParent::Next(HWND control)
 {
     const Kind& kind = KindOf(control);
     const LPARAM self = reinterpret_cast<LPARAM>(control);
@@ -339,8 +339,8 @@ ToParent::Told ToParent::Next(HWND control)
         (what <= 2 && !kind.colours.empty()) || kind.told.empty() ? kind.colours : kind.told;
     const UINT code = of.empty() ? NM_CLICK : m_arguments.OneOf(of);
     return &of == &kind.colours && !of.empty()
-               ? Told{code, WPARAM(m_arguments.Value(Context, control)), self}
-           : int(code) >= 0 ? Told{WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code), self}
+               ? Received{code, WPARAM(m_arguments.Value(Context, control)), self}
+           : int(code) >= 0 ? Received{WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code), self}
                             : Notified(control, code);
 }
 

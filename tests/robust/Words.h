@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Canvas.h"
+#include "support/MessageLog.h"
 
 #include <afxcmn.h>
 
@@ -100,13 +101,7 @@ public:
         : m_arguments(arguments)
     {}
 
-    struct Told
-    {
-        UINT message;
-        WPARAM wParam;
-        LPARAM lParam;
-    };
-    Told Next(HWND control);
+    Received Next(HWND control);
 
 private:
     Arguments& m_arguments;
@@ -121,8 +116,8 @@ private:
         char room[512];
     } m_said = {};
 
-    Told Drawn(HWND control, UINT kind);
-    Told Notified(HWND control, UINT code);
+    Received Drawn(HWND control, UINT kind);
+    Received Notified(HWND control, UINT code);
 };
 
 constexpr UINT TimerIds[] = {101, 102, 103, 104, 105, 106, 1011, 1189, 1190, 1278, 2566};

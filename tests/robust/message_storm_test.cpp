@@ -2,6 +2,7 @@
 // ONBOARDUI_SOAK_SECONDS. ONBOARDUI_STORM_SEED replays one.
 
 #include "robust/Storm.h"
+#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <chrono>
@@ -54,7 +55,7 @@ private:
                 window.SetWindowPos(nullptr, 10, 10, 300, 200, SWP_NOZORDER | SWP_SHOWWINDOW);
                 window.EnableWindow(TRUE);
                 window.SendMessage(WM_SETREDRAW, TRUE);
-                window.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
+                Repaint(window);
             }
             storm.Touch(window);
             ReleaseAll(window, storm);

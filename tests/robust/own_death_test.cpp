@@ -11,7 +11,6 @@
 #include <afxcmn.h>
 
 #include <algorithm>
-#include <map>
 
 namespace {
 
@@ -32,7 +31,6 @@ class OwnDeath : public WindowTest
 {
 protected:
     static inline OwnDeath* s_now = nullptr;
-    static inline std::map<HWND, WNDPROC> s_procedures; // of parts
 
     std::unique_ptr<CWnd> m_window;
     std::optional<Heard> m_awaited;
@@ -76,17 +74,17 @@ protected:
             dynamic_cast<CTabCtrl*>(object) != nullptr ||
             dynamic_cast<CCustomButton*>(object) != nullptr)
         {
-            s_procedures[part] = WNDPROC(::SetWindowLongPtr(
-                part, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&OwnDeath::PartProcedure)));
+            ::SetWindowSubclass(part, &OwnDeath::PartProcedure, 0, 0);
         }
         return TRUE;
     }
 
-    static LRESULT CALLBACK PartProcedure(HWND part, UINT message, WPARAM wParam, LPARAM lParam)
+    static LRESULT CALLBACK PartProcedure(HWND part, UINT message, WPARAM wParam, LPARAM lParam,
+                                          UINT_PTR, DWORD_PTR)
     {
         return EndsItself != nullptr && Hear(*CWnd::FromHandle(part), message)
                    ? 0
-                   : ::CallWindowProc(s_procedures[part], part, message, wParam, lParam);
+                   : ::DefSubclassProc(part, message, wParam, lParam);
     }
 
     // Has it done to the window, in which it may be ended; what the window was told on the way.
