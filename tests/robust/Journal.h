@@ -64,15 +64,14 @@ inline std::string Essentials(const NMHDR& header)
     const auto text = [](const char* own) { return own != nullptr ? own : "none"; };
     const int code = int(header.code);
     const auto within = [&](int first, int last) { return code <= first && code >= last; };
-    char kind[40] = "";
-    ::GetClassName(header.hwndFrom, kind, sizeof(kind));
     switch (header.code)
     {
     case NM_CLICK:
     case NM_LDOWN:
-        return ::lstrcmpi(kind, WC_LISTVIEW) == 0 ? Joined(About<NMITEMACTIVATE>(header).iItem,
-                                                           About<NMITEMACTIVATE>(header).iSubItem)
-               : ::lstrcmpi(kind, WC_TREEVIEW) == 0
+        return IsOfClass(header.hwndFrom, WC_LISTVIEW)
+                   ? Joined(About<NMITEMACTIVATE>(header).iItem,
+                            About<NMITEMACTIVATE>(header).iSubItem)
+               : IsOfClass(header.hwndFrom, WC_TREEVIEW)
                    ? std::string()
                    : Joined(int(About<NMMOUSE>(header).dwItemSpec));
     case LVN_KEYDOWN:
@@ -88,14 +87,6 @@ inline std::string Essentials(const NMHDR& header)
     {
         const TVITEM& item = About<NMTVDISPINFO>(header).item;
         return Joined(named(item.hItem), item.lParam, text(item.pszText));
-    }
-    case LVN_ODFINDITEMA:
-    case LVN_ODFINDITEMW:
-        return Joined(About<NMLVFINDITEM>(header).iStart, About<NMLVFINDITEM>(header).lvfi.flags);
-    case LVN_ODSTATECHANGED:
-    {
-        const auto& change = About<NMLVODSTATECHANGE>(header);
-        return Joined(change.iFrom, change.iTo, change.uOldState, change.uNewState);
     }
     default:
         break;
@@ -214,8 +205,7 @@ private:
         switch (told.message)
         {
         case WM_NOTIFY:
-            if (told.code == UINT(NM_CUSTOMDRAW) || told.code == UINT(LVN_GETDISPINFO) ||
-                told.code == UINT(LVN_ODCACHEHINT))
+            if (told.code == UINT(NM_CUSTOMDRAW) || told.code == UINT(LVN_GETDISPINFO))
             {
                 return; // also with painting
             }

@@ -136,22 +136,20 @@ inline HWND SenderOf(UINT message, LPARAM lParam, HWND otherwise)
 
 inline bool IsForbidden(HWND window, const Told& told, bool again)
 {
-    char name[40] = "";
-    ::GetClassName(window, name, sizeof(name));
     const DWORD style = DWORD(::GetWindowLong(window, GWL_STYLE));
-    const auto isName = [&](const char* other) { return ::lstrcmpi(other, name) == 0; };
     // Some go on with freed memory of their own after anything that they tell. That shows only when
     // the heaps are checked, as in the preset "heap".
     static const char* const debug = std::getenv("WINEDEBUG");
     static const bool checked = debug != nullptr && std::strstr(debug, "warn+heap") != nullptr;
     const bool drawn = (style & (LBS_OWNERDRAWFIXED | LBS_OWNERDRAWVARIABLE)) != 0;
-    if (checked && (isName("Edit") || isName(TOOLBARCLASSNAME) || (drawn && isName("ListBox"))))
+    if (checked && (IsOfClass(window, "Edit") || IsOfClass(window, TOOLBARCLASSNAME) ||
+                    (drawn && IsOfClass(window, "ListBox"))))
     {
         return true;
     }
     return std::any_of(
         std::begin(PlatformFaults), std::end(PlatformFaults), [&](const Forbidden& each) {
-            return each.told.IsLike(told) && isName(each.windowClass) &&
+            return each.told.IsLike(told) && IsOfClass(window, each.windowClass) &&
                    (style & each.style) == each.style && (again || !each.againOnly) &&
                    (each.onBoardToo || !COnBoardUIGeneral::InOnBoardMode());
         });

@@ -92,9 +92,7 @@ bool Storm::PressBar(HWND window, LPARAM onScreen)
 // released; it did not close again in several storms, by a key, a timer or EndMenu.
 void Storm::OtherButton(HWND window, LPARAM point)
 {
-    char name[16] = "";
-    ::GetClassName(window, name, sizeof(name));
-    const bool menu = ::lstrcmpi(name, "Edit") == 0;
+    const bool menu = IsOfClass(window, "Edit");
     if (m_subject.pressesLoop && !menu)
     {
         ::PostMessage(window, WM_RBUTTONUP, 0, 0);

@@ -111,13 +111,6 @@ const Kind Kinds[] = {
 };
 // clang-format on
 
-bool IsOfClass(HWND window, const char* windowClass)
-{
-    char name[64] = "";
-    ::GetClassName(window, name, sizeof(name));
-    return ::lstrcmpi(windowClass, name) == 0;
-}
-
 const Kind& KindOf(HWND window)
 {
     return *std::find_if(std::begin(Kinds), std::end(Kinds) - 1,
@@ -125,6 +118,13 @@ const Kind& KindOf(HWND window)
 }
 
 } // namespace
+
+bool IsOfClass(HWND window, const char* windowClass)
+{
+    char name[64] = "";
+    ::GetClassName(window, name, sizeof(name));
+    return ::lstrcmpi(windowClass, name) == 0;
+}
 
 // clang-format off
 const std::vector<Word> CommonWords = {

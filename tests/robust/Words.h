@@ -49,6 +49,8 @@ struct Word
     WPARAM fixed = 0;
 };
 
+bool IsOfClass(HWND window, const char* windowClass);
+
 // What any window understands.
 extern const std::vector<Word> CommonWords;
 // What the platform and assistive programs send to any window.

@@ -53,9 +53,8 @@ void QueuePress(CPoint point, CPoint to, bool right)
 class Provocation
 {
 public:
-    Provocation(const Subject& subject, const Play& play)
-        : m_subject(subject)
-        , m_play(play)
+    explicit Provocation(const Play& play)
+        : m_play(play)
         , m_window(play.control->GetSafeHwnd())
     {
         ::GetWindowRect(m_window, &m_place);
@@ -71,7 +70,6 @@ public:
     }
 
 private:
-    const Subject& m_subject;
     const Play& m_play;
     Arguments m_arguments;
     HWND m_window;
@@ -126,20 +124,16 @@ private:
     {
         Say(WordsOf(m_window));
         m_play.Paint(m_window);
-        for (const UINT message : {UINT(LVM_EDITLABEL), UINT(TVM_EDITLABEL)})
+        const bool tree = IsOfClass(m_window, WC_TREEVIEW);
+        if (tree || IsOfClass(m_window, WC_LISTVIEW))
         {
-            char name[40] = "";
-            ::GetClassName(m_window, name, sizeof(name));
-            const bool tree = message == TVM_EDITLABEL;
-            if (::lstrcmpi(name, tree ? WC_TREEVIEW : WC_LISTVIEW) == 0)
-            {
-                ::SetWindowLong(m_window, GWL_STYLE,
-                                ::GetWindowLong(m_window, GWL_STYLE) |
-                                    (tree ? TVS_EDITLABELS : LVS_EDITLABELS));
-                Do([&] { ::SetFocus(m_window); });
-                Send(message, 0, tree ? ::SendMessage(m_window, TVM_GETNEXTITEM, TVGN_ROOT, 0) : 0);
-                Do([&] { TypeKey(VK_ESCAPE); });
-            }
+            ::SetWindowLong(m_window, GWL_STYLE,
+                            ::GetWindowLong(m_window, GWL_STYLE) |
+                                (tree ? TVS_EDITLABELS : LVS_EDITLABELS));
+            Do([&] { ::SetFocus(m_window); });
+            const LRESULT item = tree ? ::SendMessage(m_window, TVM_GETNEXTITEM, TVGN_ROOT, 0) : 0;
+            Send(tree ? TVM_EDITLABEL : LVM_EDITLABEL, 0, item);
+            Do([&] { TypeKey(VK_ESCAPE); });
         }
     }
 
@@ -220,7 +214,7 @@ protected:
         PumpAll();
         play.over = false;
 
-        Provocation(*subject, play).Run();
+        Provocation(play).Run();
 
         ++m_plays;
         m_missed += play.over != play.awaited.has_value();

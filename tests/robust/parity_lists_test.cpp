@@ -180,39 +180,6 @@ void Report(CListCtrl& list, Journal& journal)
         list.DeleteAllItems(), list.GetItemCount(), list.SendMessage(WM_GETDLGCODE));
 }
 
-// Rows whose texts are the host's.
-void Asked(CListCtrl& list, Journal& journal)
-{
-    journal.answer = [](ToldMessage& told) {
-        auto* const wanted = reinterpret_cast<NMLVDISPINFO*>(told.lParam);
-        if (told.code == UINT(LVN_GETDISPINFO) && (wanted->item.mask & LVIF_TEXT) != 0)
-        {
-            ::wsprintf(wanted->item.pszText, "%d", wanted->item.iItem * 7 + wanted->item.iSubItem);
-        }
-        else if (told.code == UINT(LVN_ODFINDITEMA) || told.code == UINT(LVN_ODFINDITEMW))
-        {
-            told.answer = 33;
-        }
-    };
-    LVFINDINFO find = {};
-    find.flags = LVFI_STRING;
-    find.psz = "231";
-    ASK(list.InsertColumn(0, "Name", LVCFMT_LEFT, 70),
-        list.InsertColumn(1, "Kind", LVCFMT_LEFT, 70, 1), (list.SetItemCount(200), 0),
-        list.GetItemCount(), list.GetItemText(12, 0), list.GetItemText(12, 1),
-        list.SetItemText(12, 1, "none"), list.SetItemData(3, 4),
-        list.SetItemState(5, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED),
-        list.GetSelectedCount(), journal.Middle(), list.GetNextItem(-1, LVNI_SELECTED),
-        journal.Key(VK_DOWN), journal.Key(VK_DOWN, VK_SHIFT), list.GetSelectedCount(),
-        list.FindItem(&find), list.EnsureVisible(120, FALSE), journal.Middle(), list.GetTopIndex(),
-        journal.Key('4'), list.GetNextItem(-1, LVNI_FOCUSED), journal.Press(30, 50),
-        list.GetNextItem(-1, LVNI_SELECTED), journal.Key(VK_END, VK_SHIFT), list.GetSelectedCount(),
-        list.SetItemState(-1, 0, LVIS_SELECTED), list.GetSelectedCount(),
-        list.InsertItem(0, "none"), list.DeleteItem(3), list.SortItems(&ByData, 1),
-        list.SetItemCountEx(20, LVSICF_NOSCROLL), list.GetItemCount(), list.GetTopIndex(),
-        list.GetNextItem(-1, LVNI_FOCUSED), list.DeleteAllItems(), list.GetItemCount());
-}
-
 // The label of an item that is selected, written over; text gives it.
 template <class Control, class Item, class Text>
 void Rename(Control& control, Item item, Journal& journal, Text text)
@@ -374,7 +341,6 @@ TEST_F(Parity, Reports)
     {
         Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, LVS_REPORT | style, &Report);
     }
-    Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, LVS_REPORT | LVS_OWNERDATA, &Asked);
     Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, LVS_REPORT | LVS_EDITLABELS, &RenameRow);
     Compare<CCustomListCtrlHdr, CHeaderCtrl>(
         WC_HEADER, HDS_HORZ | HDS_BUTTONS | HDS_FULLDRAG | HDS_DRAGDROP, &Columns);

@@ -1,31 +1,9 @@
-// The verbs themselves: what every other test relies on.
+// What tests count and compare by: where it saw nothing, they would pass.
 #include "support/WindowTest.h"
 
 namespace {
 
 using SupportTest = WindowTest;
-
-TEST_F(SupportTest, InputReachesTheWindowExactly)
-{
-    HostWindow& host = Host();
-    EXPECT_EQ(::GetForegroundWindow(), host.GetSafeHwnd());
-    for (const CPoint point : {CPoint(0, 0), CPoint(799, 599), CPoint(137, 251)})
-    {
-        MessageLog log(host, {WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK});
-        Click(ClientPoint(host, point));
-        const LPARAM place = MAKELPARAM(point.x, point.y);
-        const std::vector<Received> expected = {{WM_LBUTTONDOWN, MK_LBUTTON, place},
-                                                {WM_LBUTTONUP, 0, place}};
-        EXPECT_EQ(log.All(), expected);
-    }
-    MoveTo(ClientPoint(host, CPoint(300, 300)));
-    host.SetFocus();
-    MessageLog log(host, {WM_MOUSEWHEEL, WM_CHAR});
-    Wheel(-240);
-    TypeText("aB 7");
-    EXPECT_EQ(GET_WHEEL_DELTA_WPARAM(log.WParams(WM_MOUSEWHEEL).at(0)), -240);
-    EXPECT_EQ(log.WParams(WM_CHAR), (std::vector<WPARAM>{'a', 'B', ' ', '7'}));
-}
 
 TEST_F(SupportTest, PixelsAreThoseOfTheScreen)
 {
