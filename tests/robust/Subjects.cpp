@@ -78,7 +78,8 @@ constexpr void (*ComboActs[])(CCustomDropListCombo& combo, int row, const char* 
     [](auto& combo, int, const char*) { combo.SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001); },
     [](auto& combo, int, const char*) { combo.ToggleDropList(); },
 };
-constexpr void (CSearchStatusBar::*SearchActs[])() = {
+// Not constexpr, which only one of the compilers takes.
+void (CSearchStatusBar::*const SearchActs[])() = {
     &CSearchStatusBar::StartSearchProgress, &CSearchStatusBar::StartLoadingProgress,
     &CSearchStatusBar::StopSearchProgress, &CSearchStatusBar::StopLoadingProgress};
 // clang-format on
