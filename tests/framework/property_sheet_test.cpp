@@ -150,6 +150,7 @@ TEST_F(PropertySheetTest, EveryWayOfCancellingResetsThePages)
         EXPECT_TRUE(Host().IsWindowEnabled());
     }
     EXPECT_TRUE(TakeQuit());
+    EXPECT_EQ(Sheet(&Host(), {}).DoModal(), -1) << "it has no pages";
     Sheet over(&Host(), {&first});
     over.endAtOnce = true;
     EXPECT_EQ(over.DoModal(), 77);

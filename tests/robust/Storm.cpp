@@ -224,7 +224,7 @@ void Storm::Use(CWnd& window, HWND target)
     const bool called = target == window.GetSafeHwnd() && (own.empty() || Between(0, 3) == 0);
     if (called)
     {
-        Note(WM_APP); // the log's word for a call
+        Note(WM_APP); // the log's word for a call, if there is any
     }
     if (!called || !Act(window, m_arguments))
     {

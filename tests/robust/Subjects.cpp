@@ -51,6 +51,17 @@ struct SeenCombo : CCustomDropListCombo
     static CWnd* List(CCustomDropListCombo& combo) { return combo.*&SeenCombo::m_list; }
 };
 
+// Whether the window is such a control, which is then used.
+template <class Control, class Use> bool On(CWnd& window, Use use)
+{
+    auto* const control = dynamic_cast<Control*>(&window);
+    if (control != nullptr)
+    {
+        use(*control);
+    }
+    return control != nullptr;
+}
+
 struct ListOfValues : CCustomListBox
 {
     int CompareItem(LPCOMPAREITEMSTRUCT compared) override
@@ -140,25 +151,16 @@ const std::vector<Subject>& Subjects()
 
 std::optional<std::string> FaultOf(CWnd& window)
 {
-    if (auto* const edit = dynamic_cast<CCustomEdit*>(&window))
-    {
-        return SeenEdit::Fault(*edit);
-    }
-    if (auto* const list = dynamic_cast<CCustomListBox*>(&window))
-    {
-        return SeenList::Fault(*list);
-    }
-    if (auto* const list = dynamic_cast<CCustomListCtrl*>(&window))
-    {
-        return Seen<CCustomListCtrl>::Fault(*list);
-    }
-    if (auto* const combo = dynamic_cast<CCustomDropListCombo*>(&window))
-    {
-        return combo->IsExpanded()         ? "still open"
-               : PartOf(window) == nullptr ? std::string()
-                                           : FaultOf(*SeenCombo::List(*combo));
-    }
-    return {};
+    std::optional<std::string> fault;
+    On<CCustomEdit>(window, [&](auto& edit) { fault = SeenEdit::Fault(edit); });
+    On<CCustomListBox>(window, [&](auto& list) { fault = SeenList::Fault(list); });
+    On<CCustomListCtrl>(window, [&](auto& list) { fault = Seen<CCustomListCtrl>::Fault(list); });
+    On<CCustomDropListCombo>(window, [&](auto& combo) {
+        fault = combo.IsExpanded()         ? "still open"
+                : PartOf(combo) == nullptr ? std::string()
+                                           : FaultOf(*SeenCombo::List(combo));
+    });
+    return fault;
 }
 
 HWND PartOf(CWnd& window)
@@ -170,47 +172,29 @@ HWND PartOf(CWnd& window)
 
 bool Act(CWnd& window, Arguments& arguments)
 {
-    if (auto* const combo = dynamic_cast<CCustomDropListCombo*>(&window))
-    {
+    const auto color = [&] { return COLORREF(arguments.Value(Argument::Data, window)); };
+    const auto work = [&](CCustomDropListCombo& combo) {
         const int row = int(arguments.Value(Argument::Row, window));
         const char* const text = arguments.Words();
-        arguments.OneOf(ComboActs)(*combo, row, text);
-    }
-    else if (auto* const bar = dynamic_cast<CSearchStatusBar*>(&window))
-    {
-        (bar->*arguments.OneOf(SearchActs))();
-    }
-    else if (auto* const list = dynamic_cast<CCustomListCtrl*>(&window))
-    {
-        UseReport(*list, arguments);
-    }
-    else if (auto* const swatch = dynamic_cast<CColorStatic*>(&window))
-    {
-        swatch->Set(COLORREF(arguments.Value(Argument::Data, window)));
-    }
-    else if (auto* const outline = dynamic_cast<CColoredGroupBox*>(&window))
-    {
-        outline->SetColor(COLORREF(arguments.Value(Argument::Data, window)));
-    }
-    else
-    {
-        return false;
-    }
-    return true;
+        arguments.OneOf(ComboActs)(combo, row, text);
+    };
+    return On<CCustomDropListCombo>(window, work) ||
+           On<CSearchStatusBar>(window, [&](auto& bar) { (bar.*arguments.OneOf(SearchActs))(); }) ||
+           On<CCustomListCtrl>(window, [&](auto& list) { UseReport(list, arguments); }) ||
+           On<CColorStatic>(window, [&](auto& swatch) { swatch.Set(color()); }) ||
+           On<CColoredGroupBox>(window, [&](auto& outline) { outline.SetColor(color()); });
 }
 
 void Rest(CWnd& window)
 {
-    if (auto* const bar = dynamic_cast<CSearchStatusBar*>(&window))
-    {
-        bar->StopSearchProgress();
-    }
-    auto* const combo = dynamic_cast<CCustomDropListCombo*>(&window);
-    if (combo != nullptr && combo->IsExpanded())
-    {
-        combo->SendMessage(WM_KEYDOWN, VK_ESCAPE, 1);
-        combo->SendMessage(WM_KEYUP, VK_ESCAPE, LPARAM(0xC0000001));
-    }
+    On<CSearchStatusBar>(window, [](auto& bar) { bar.StopSearchProgress(); });
+    On<CCustomDropListCombo>(window, [](auto& combo) {
+        if (combo.IsExpanded())
+        {
+            combo.SendMessage(WM_KEYDOWN, VK_ESCAPE, 1);
+            combo.SendMessage(WM_KEYUP, VK_ESCAPE, LPARAM(0xC0000001));
+        }
+    });
 }
 
 std::string TestName(std::string words)
