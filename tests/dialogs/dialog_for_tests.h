@@ -1,12 +1,12 @@
 #pragma once
 
-#include "AppAccess.h"
 #include "CustomDialog.h"
 #include "CustomPropSheet.h"
 #include "EFB.h"
 #include "LayoutMgmt.h"
 #include "SpecialConfigVals.h"
 #include "catalog/DialogTemplate.h"
+#include "support/AreaHost.h"
 #include "support/Repaint.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
@@ -23,6 +23,12 @@ public:
     explicit DialogForTests(CWnd* parent = nullptr, IAppAccess* host = nullptr)
         : Scripted<CCustomDialog>(0U, parent, host)
     {}
+    // Open at once.
+    DialogForTests(const DialogTemplate& form, CWnd& parent, IAppAccess* host = nullptr)
+        : DialogForTests(nullptr, host)
+    {
+        EXPECT_TRUE(CreateIndirect(form, &parent));
+    }
 
     std::function<void()> inCreate = [] {};   // before the template's controls are made
     std::function<void()> beforeInit = [] {}; // and after the dialog's own initialisation
@@ -41,8 +47,6 @@ public:
     using CCustomDialog::m_captionHeight;
     using CCustomDialog::m_centredTitle;
     using CCustomDialog::m_hasModalChild;
-    using CCustomDialog::m_inModalLoop;
-    using CCustomDialog::m_lpszTemplateName;
     using CCustomDialog::m_showEntire;
     using CCustomDialog::SetCtrlTabOrder;
 
@@ -55,26 +59,6 @@ protected:
         }
         return Scripted<CCustomDialog>::WindowProc(message, wParam, lParam);
     }
-};
-
-class DialogHost : public IAppAccess
-{
-public:
-    const char* GetProviderName() override { return "test"; }
-    bool GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, int& height) override
-    {
-        askedFor = int(type);
-        x = area.left;
-        y = area.top;
-        width = area.Width();
-        height = area.Height();
-        return true;
-    }
-    CZOrderManager* GetZOrderManager() override { return manager; }
-
-    CRect area;
-    int askedFor = 0;
-    CZOrderManager* manager = nullptr;
 };
 
 using Journal = std::vector<std::string>;
@@ -183,20 +167,17 @@ class CustomDialogTest : public WindowTest
 {
 protected:
     const DialogTemplate form = Form();
-    DialogHost host;
+    AreaHost host;
 
     // Of the form's controls in the standard mode.
     std::vector<CRect> StandardPlaces()
     {
         const ModeScope mode(STD);
-        DialogForTests plain;
-        EXPECT_TRUE(plain.CreateIndirect(form, &Host()));
-        return ChildPlaces(plain);
+        return ChildPlaces(DialogForTests(form, Host()));
     }
 
     void TearDown() override
     {
-        COnBoardUIGeneral::SetAppMode(STD);
         ClearSpecialConfigVals();
         CCustomDialog::SetEfb(nullptr);
         CCustomPropSheet::SetEfb(nullptr);

@@ -2,12 +2,9 @@
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
-#include "support/Acts.h"
 #include "support/forms.h"
 
 #include <afxcmn.h>
-
-#include <type_traits>
 
 namespace {
 
@@ -31,31 +28,25 @@ TEST_F(FormWindowsTest, AFormIsRescaledOnceHoweverItReachesTheMode)
     View standard;
     ASSERT_TRUE(standard.Open(Host()));
     const CRect before = ChildPlaces(standard).front();
-    const struct
-    {
-        APPMODE opened;
-        APPMODE atItsUpdate;
-        APPMODE after;
-    } cases[] = {
+    // The mode when it is opened, at its update and after that.
+    const APPMODE cases[][3] = {
         {ONBOARD, ONBOARD, ONBOARD},
         {STD, ONBOARD, ONBOARD},
         {STD, STD, ONBOARD},
         {ONBOARD, STD, STD}, // never scaled, never scaled back
     };
-    for (const auto& each : cases)
+    for (const auto& [opened, atItsUpdate, after] : cases)
     {
-        SCOPED_TRACE(&each - cases);
-        COnBoardUIGeneral::SetAppMode(each.opened);
+        const ModeScope scope(opened);
         View view;
         ASSERT_TRUE(view.Open(Host()));
-        COnBoardUIGeneral::SetAppMode(each.atItsUpdate);
+        COnBoardUIGeneral::SetAppMode(atItsUpdate);
         view.OnInitialUpdate();
         view.OnInitialUpdate(); // for another document
-        COnBoardUIGeneral::SetAppMode(each.after);
-        EXPECT_EQ(ChildPlaces(view).front(), each.after == STD ? before : Enlarged(before));
+        COnBoardUIGeneral::SetAppMode(after);
+        EXPECT_EQ(ChildPlaces(view).front(), after == STD ? before : Enlarged(before));
         EXPECT_EQ(view.GetControls().size(), 2U);
         EXPECT_EQ(view.GetControls()[1]->GetDlgCtrlID(), IDC_TEST_CHECK);
-        COnBoardUIGeneral::SetAppMode(STD);
     }
 }
 
@@ -98,8 +89,6 @@ TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndLooksAndWorksLikeA
 
 TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
 {
-    static_assert(std::is_constructible_v<CCustomPropSheet, UINT, IAppAccess*, CWnd*, UINT> &&
-                  std::is_constructible_v<CCustomPropSheet, LPCSTR, IAppAccess*, CWnd*, UINT>);
     struct Page : CCustomPropPage
     {
         APPMODE change;
@@ -116,7 +105,7 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
     CRect before;
     CRect sheetBefore;
     CSize pageBefore;
-    CSize onBoardSize;
+    CSize onBoardSize(0, 0);
     Journal journal;
     FlightBag bag(journal);
     CCustomPropSheet::SetEfb(&bag);
@@ -134,17 +123,16 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
             sheetBefore = ClientRectOf(sheet);
             pageBefore = WindowRectOf(first).Size();
         };
-        const auto onBoard = [&, opened = opened] {
+        const auto onBoard = [&] {
             EXPECT_EQ(ChildPlaces(first).front(), Enlarged(before));
             const CRect client = ClientRectOf(sheet);
             EXPECT_GE(client.Width(), Enlarged(sheetBefore).Width() - 1);
-            EXPECT_TRUE(opened == EFB || client.Size() == onBoardSize);
-            onBoardSize = client.Size();
+            onBoardSize = onBoardSize == CSize(0, 0) ? client.Size() : onBoardSize;
+            EXPECT_EQ(client.Size(), onBoardSize);
             for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW})
             {
                 const CRect button = PlaceIn(sheet, *sheet.GetDlgItem(id));
-                EXPECT_LE(button.right, client.right);
-                EXPECT_LE(button.bottom, client.bottom);
+                EXPECT_EQ(button | client, client);
                 EXPECT_GE(button.top, ChildPlaces(sheet).front().bottom) << "below the page";
             }
             const CRect firstRect = WindowRectOf(first);
@@ -205,74 +193,58 @@ TEST_F(FormWindowsTest, CombosAreAsHighHoweverTheirWindowReachesTheMode)
             DDX_Control(exchange, IDC_TEST_BOXED, combos[2]);
         }
     };
-    using Use = std::function<void(CWnd&)>;
-    const auto inDialog = [this](CCustomDialog& dialog, const Use& use) {
-        ASSERT_TRUE(dialog.Create(IDD_TEST_COMBOS, &Host()));
-        dialog.ShowWindow(SW_SHOW);
-        use(dialog);
-        dialog.DestroyWindow();
+    std::vector<int> standard;
+    std::vector<int> onBoard;
+    const auto use = [&](CWnd& window) {
+        window.ShowWindow(SW_SHOW);
+        for (const APPMODE mode : {COnBoardUIGeneral::GetAppMode(), ONBOARD, EFB, STD})
+        {
+            COnBoardUIGeneral::SetAppMode(mode);
+            std::vector<int>& expected = mode == STD ? standard : onBoard;
+            for (int look = 0; look < 2; ++look)
+            {
+                const std::vector<int> heights = ComboHeights(window);
+                expected = expected.empty() ? heights : expected;
+                EXPECT_EQ(heights, expected) << mode;
+                PumpAll(); // the first paint makes the objects that are not there
+            }
+        }
+        // What the host gives counts, also when the mode comes again.
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        CWnd& roomy = *window.GetDlgItem(IDC_TEST_ROOMY);
+        roomy.SetWindowPos(nullptr, 0, 0, 90, 80, SWP_NOMOVE | SWP_NOZORDER);
+        COnBoardUIGeneral::SetAppMode(STD);
+        EXPECT_EQ(WindowRectOf(roomy).Height(), standard[1]);
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        EXPECT_EQ(WindowRectOf(roomy).Height(), 80);
     };
-    const Act<const Use&> windows[] = {
-        {"dialog",
-         [&](const Use& use) {
-             CCustomDialog dialog(0U, nullptr);
-             inDialog(dialog, use);
-         }},
-        {"dialog with objects",
-         [&](const Use& use) {
-             Owner owner;
-             inDialog(owner, use);
-         }},
-        {"form",
-         [this](const Use& use) {
-             View view(IDD_TEST_COMBOS);
-             ASSERT_TRUE(view.Open(Host()));
-             view.OnInitialUpdate();
-             use(view);
-         }},
-        {"page",
-         [this](const Use& use) {
-             CCustomPropPage page(IDD_TEST_COMBOS);
-             Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
-             sheet.AddPage(&page);
-             sheet.inLoop = [&] {
-                 use(page);
-                 sheet.EndDialog(IDOK);
-             };
-             sheet.DoModal();
-         }},
-    };
-    for (const auto& [name, open] : windows)
+    for (const APPMODE opened : {STD, ONBOARD})
     {
-        SCOPED_TRACE(name);
-        std::vector<int> standard;
-        std::vector<int> onBoard;
-        for (const APPMODE opened : {STD, ONBOARD})
+        SCOPED_TRACE(opened);
+        CCustomDialog dialog(0U, nullptr);
+        Owner owner;
+        for (CCustomDialog* const each : {&dialog, static_cast<CCustomDialog*>(&owner)})
         {
             const ModeScope scope(opened);
-            open([&](CWnd& window) {
-                for (const APPMODE mode : {opened, ONBOARD, EFB, STD})
-                {
-                    COnBoardUIGeneral::SetAppMode(mode);
-                    std::vector<int>& expected = mode == STD ? standard : onBoard;
-                    for (int look = 0; look < 2; ++look)
-                    {
-                        const std::vector<int> heights = ComboHeights(window);
-                        expected = expected.empty() ? heights : expected;
-                        EXPECT_EQ(heights, expected) << opened << " to " << mode;
-                        PumpAll(); // the first paint makes the objects that are not there
-                    }
-                }
-                // What the host gives counts, also when the mode comes again.
-                COnBoardUIGeneral::SetAppMode(ONBOARD);
-                CWnd& roomy = *window.GetDlgItem(IDC_TEST_ROOMY);
-                roomy.SetWindowPos(nullptr, 0, 0, 90, 80, SWP_NOMOVE | SWP_NOZORDER);
-                COnBoardUIGeneral::SetAppMode(STD);
-                EXPECT_EQ(WindowRectOf(roomy).Height(), standard[1]);
-                COnBoardUIGeneral::SetAppMode(ONBOARD);
-                EXPECT_EQ(WindowRectOf(roomy).Height(), 80);
-            });
+            ASSERT_TRUE(each->Create(IDD_TEST_COMBOS, &Host()));
+            use(*each);
         }
+        const ModeScope scope(opened);
+        View view(IDD_TEST_COMBOS);
+        ASSERT_TRUE(view.Open(Host()));
+        view.OnInitialUpdate();
+        use(view);
+        view.DestroyWindow();
+
+        COnBoardUIGeneral::SetAppMode(opened);
+        CCustomPropPage page(IDD_TEST_COMBOS);
+        Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+        sheet.AddPage(&page);
+        sheet.inLoop = [&] {
+            use(page);
+            sheet.EndDialog(IDOK);
+        };
+        sheet.DoModal();
     }
 }
 

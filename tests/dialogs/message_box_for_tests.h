@@ -14,6 +14,13 @@ public:
     MessageBoxForTests(const char* text, unsigned int style, CSize area = CSize(1280, 1024))
         : Scripted<CZepMsgBoxDlg>(text, style, area, nullptr)
     {}
+    // Open at once.
+    MessageBoxForTests(const std::string& text, unsigned int style, CWnd* parent,
+                       CSize area = CSize(1280, 1024))
+        : MessageBoxForTests(text.c_str(), style, area)
+    {
+        EXPECT_TRUE(Create(IDD, parent));
+    }
 
     CWnd& Button(size_t index) { return *m_buttons[index]; }
     CRect PlaceOfButton(size_t index) { return PlaceIn(*this, Button(index)); }

@@ -50,8 +50,7 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
         SCOPED_TRACE(&each - cases);
         const ModeScope scope(each.mode);
         SetOnBoardAppTitle(std::string(each.titleLength, 'W').c_str());
-        Box box(each.message.c_str(), each.style, each.area);
-        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, nullptr));
+        Box box(each.message, each.style, nullptr, each.area);
         const CSize client = ClientRectOf(box).Size();
         EXPECT_NEAR(client.cx, each.client.cx, 1) << "by the rounding of the halves";
         EXPECT_NEAR(client.cy, each.client.cy, 1);
@@ -63,38 +62,34 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
         EXPECT_EQ(box.PlaceOfButton(box.m_buttons.size() - 1), each.lastButton + down);
         EXPECT_NE(box.GetExStyle() & WS_EX_TOPMOST, 0U);
         const CPoint middle = WindowRectOf(box).CenterPoint();
-        const CPoint middleOfScreen(Wide.cx / 2, Wide.cy / 2);
-        EXPECT_NEAR(middle.x, middleOfScreen.x, 1);
-        EXPECT_NEAR(middle.y, middleOfScreen.y, 1);
+        EXPECT_NEAR(middle.x, Wide.cx / 2, 1) << "of the screen";
+        EXPECT_NEAR(middle.y, Wide.cy / 2, 1);
     }
 }
 
 TEST_F(MessageBoxTest, ACaptionOfAnyHeightHidesNoLetterOfTheText)
 {
     int clamped = 0;
-    for (const int caption : {12, 19, 23, 27})
+    for (const auto& [caption, lines] :
+         {std::pair(12, 1), {12, 9}, {19, 1}, {19, 9}, {23, 1}, {23, 9}, {27, 1}, {27, 9}})
     {
-        for (const int lines : {1, 9})
+        SCOPED_TRACE(caption);
+        Box box(Lines(lines).c_str(), MB_OK);
+        box.m_captionHeight = caption;
+        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, nullptr));
+        TEXTMETRIC metrics = {};
+        CClientDC dc(box.m_text.get());
+        dc.SelectObject(box.m_text->GetFont());
+        dc.GetTextMetrics(&metrics);
+        const CRect text = PlaceIn(box, *box.m_text);
+        const int icon = PlaceIn(box, box.m_icon).top;
+        EXPECT_GE(text.top, -metrics.tmInternalLeading);
+        if (icon != 11 - caption * 7 / 10) // as wanted
         {
-            Box box(Lines(lines).c_str(), MB_OK);
-            box.m_captionHeight = caption;
-            ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, nullptr));
-            TEXTMETRIC metrics = {};
-            CClientDC dc(box.m_text.get());
-            dc.SelectObject(box.m_text->GetFont());
-            dc.GetTextMetrics(&metrics);
-            const int text = PlaceIn(box, *box.m_text).top;
-            const int icon = PlaceIn(box, box.m_icon).top;
-            const int wanted = 11 - caption * 7 / 10;
-            EXPECT_GE(text, -metrics.tmInternalLeading) << caption;
-            if (icon != wanted)
-            {
-                ++clamped;
-                EXPECT_EQ(text, -metrics.tmInternalLeading) << caption << ": no sooner";
-            }
-            const CRect button = box.PlaceOfButton(0);
-            EXPECT_GT(button.top, std::max(PlaceIn(box, *box.m_text).bottom, icon + 48L));
+            ++clamped;
+            EXPECT_EQ(text.top, -metrics.tmInternalLeading) << "no sooner";
         }
+        EXPECT_GT(box.PlaceOfButton(0).top, std::max(text.bottom, icon + 48L));
     }
     EXPECT_EQ(clamped, 2) << "the long text under the two highest";
 }
@@ -106,26 +101,19 @@ TEST_F(MessageBoxTest, NothingOverlapsForAnyTextButtonsAndArea)
     {
         words += "several words ";
     }
-    const std::string texts[] = {"Word", Lines(3), Lines(400), std::string(5'000, 'x'), words};
-    const CSize areas[] = {CSize(320, 240), CSize(800, 300), Wide, CSize(0, 0)};
-    const std::vector<UINT> allStyles = {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE};
-    const std::vector<UINT> oneStyle = {MB_ABORTRETRYIGNORE}; // long texts take their time
     const auto expectOrder = [this](const std::string& text, UINT style, CSize area) {
         const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
         SCOPED_TRACE(testing::Message()
                      << area.cx << ' ' << text.size() << ' ' << style << onBoard);
-        Box box(text.c_str(), style, area);
-        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+        Box box(text, style, &Host(), area);
         const CRect client = ClientRectOf(box);
         const std::vector<CRect> places = ChildPlaces(box); // the picture, the text, the buttons
         for (auto one = places.begin(); one != places.end(); ++one)
         {
-            CRect both;
-            both.UnionRect(client, *one);
-            EXPECT_TRUE(both == client || one < places.begin() + 2);
+            EXPECT_TRUE((*one | client) == client || one < places.begin() + 2);
             for (auto other = one + 1; other != places.end(); ++other)
             {
-                EXPECT_FALSE(both.IntersectRect(*one, *other));
+                EXPECT_FALSE(CRect().IntersectRect(*one, *other));
             }
         }
         EXPECT_LE(places[1].right, client.right);
@@ -148,14 +136,17 @@ TEST_F(MessageBoxTest, NothingOverlapsForAnyTextButtonsAndArea)
     for (const APPMODE mode : {STD, ONBOARD})
     {
         const ModeScope scope(mode);
-        for (const std::string& text : texts)
+        for (const CSize& area : {CSize(320, 240), CSize(800, 300), Wide, CSize(0, 0)})
         {
-            for (const CSize& area : areas)
+            for (const UINT style : {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE})
             {
-                for (const UINT style : &text > &texts[1] ? oneStyle : allStyles)
-                {
-                    expectOrder(text, style, area);
-                }
+                expectOrder("Word", style, area);
+                expectOrder(Lines(3), style, area);
+            }
+            // Long texts take their time.
+            for (const std::string& text : {Lines(400), std::string(5'000, 'x'), words})
+            {
+                expectOrder(text, MB_ABORTRETRYIGNORE, area);
             }
         }
     }
@@ -167,8 +158,7 @@ TEST_F(MessageBoxTest, ATextMeasuresAsItsWidestLineAndALineMoreThanItHas)
     for (const APPMODE mode : {STD, ONBOARD})
     {
         const ModeScope scope(mode);
-        Box box("Ready", MB_OK);
-        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+        Box box("Ready", MB_OK, &Host());
         CClientDC dc(&box);
         CFont* const before =
             mode == STD ? dc.GetCurrentFont() : dc.SelectObject(&CCustomDialog::m_OBStaticTextFont);
@@ -182,9 +172,7 @@ TEST_F(MessageBoxTest, ATextMeasuresAsItsWidestLineAndALineMoreThanItHas)
                 std::string piece(random() % 30, ' ');
                 std::ranges::generate(piece, [&] { return char(' ' + random() % letters); });
                 piece += random() % 2 != 0 ? "\r" : "";
-                CSize extent;
-                ::GetTextExtentPoint32(dc, piece.data(), int(piece.size()), &extent);
-                widest = std::max(widest, extent.cx);
+                widest = std::max(widest, dc.GetTextExtent(piece.data(), int(piece.size())).cx);
                 text += piece + '\n';
             }
             int width = 0;
@@ -202,15 +190,14 @@ TEST_F(MessageBoxTest, ATextMeasuresAsItsWidestLineAndALineMoreThanItHas)
 
 // Modes -----------------------------------------------------------------------------------------
 
-std::vector<CRect> Arrangement(Box& box)
+std::vector<CRect> Arrangement(const Box& box)
 {
     std::vector<CRect> places = ChildPlaces(box);
-    const CRect client = ClientRectOf(box);
     // The client area is by up to two pixels larger than it has to be, as its halves round: what
     // hangs on its lower edge is told from there.
     for (size_t index = 2; index < places.size(); ++index)
     {
-        places[index] -= CPoint(0, client.Height());
+        places[index] -= CPoint(0, ClientRectOf(box).Height());
     }
     places.push_back(ClientRectOf(*box.m_text)); // less wide with a bar
     return places;
@@ -218,20 +205,14 @@ std::vector<CRect> Arrangement(Box& box)
 
 TEST_F(MessageBoxTest, AnOpenBoxFollowsTheModeAndIsThenAnsweredByPointer)
 {
-    const std::pair<APPMODE, APPMODE> trips[] = {
-        {STD, EFB}, {EFB, STD}, {ONBOARD, EFBFS}, {FULLSCREEN, ONBOARD}};
-    for (const int lines : {3, 400})
+    for (const std::string& text : {Lines(3), Lines(400)})
     {
-        const std::string text = Lines(lines);
-        for (const auto& [from, to] : trips)
+        for (const auto& [from, to] :
+             {std::pair{STD, EFB}, {EFB, STD}, {ONBOARD, EFBFS}, {FULLSCREEN, ONBOARD}})
         {
             SCOPED_TRACE(std::string(APPMODE_NAMES[from]) + " " + APPMODE_NAMES[to]);
             const ModeScope scope(to);
-            Box fresh(text.c_str(), MB_YESNOCANCEL);
-            ASSERT_TRUE(fresh.Create(CZepMsgBoxDlg::IDD, &Host()));
-            const std::vector<CRect> expected = Arrangement(fresh);
-            fresh.DestroyWindow();
-
+            const std::vector<CRect> expected = Arrangement(Box(text, MB_YESNOCANCEL, &Host()));
             COnBoardUIGeneral::SetAppMode(from);
             const auto followAndAnswer = [&, to = to](Box& box) {
                 COnBoardUIGeneral::SetAppMode(to);
@@ -247,8 +228,7 @@ TEST_F(MessageBoxTest, AnOpenBoxFollowsTheModeAndIsThenAnsweredByPointer)
 
 TEST_F(MessageBoxTest, AModeChangeShowsTheTextThatTheBoxIsLaidOutFor)
 {
-    Box box("Ready", MB_OK);
-    ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
+    Box box("Ready", MB_OK, &Host());
     box.m_message = Lines(9).c_str(); // so is a text that breaks otherwise on another screen
     const ModeScope scope(ONBOARD);
     EXPECT_EQ(box.Shown(), Lines(9));

@@ -23,20 +23,6 @@ public:
         const CritSectLock lock(iconmap_cs_);
         iconmap_.clear();
     }
-
-    std::vector<int> Ids()
-    {
-        std::vector<ICON_INFO> icons;
-        GetIcons(icons);
-        std::vector<int> ids;
-        for (const ICON_INFO& each : icons)
-        {
-            ids.push_back(int(each.id));
-            EXPECT_NE(each.icon, nullptr);
-            EXPECT_EQ(each.icon, GetIcon(int(each.id)));
-        }
-        return ids;
-    }
 };
 
 // What the program has of the ids that are loaded; it has those around them, too.
@@ -45,33 +31,36 @@ const std::vector<int> Present = {3527, 3573, 3575, 3579, 3600};
 TEST(AppIconsTest, LoadsWhatThereIsOfItsIdsOnce)
 {
     FreshAppIcons icons;
-    EXPECT_EQ(icons.Ids(), std::vector<int>());
+    std::vector<AppIcons::ICON_INFO> found = {{1, nullptr}};
+    icons.GetIcons(found);
+    EXPECT_EQ(found.size(), 1U);
     icons.LoadIcons();
-    EXPECT_EQ(icons.Ids(), Present);
     for (const int id : {3526, 3574, 3576, 3577, 3578, 3601, 3540, 0, -1, 3527 + 0x10000})
     {
         EXPECT_EQ(icons.GetIcon(id), nullptr) << id;
     }
-
     // Another object sees the same, and asking again loads nothing, nor forgets.
-    const HICON first = icons.GetIcon(3527);
     const int objects = GraphicsObjects();
     for (int time = 0; time < 10; ++time)
     {
         AppIcons().LoadIcons();
     }
     EXPECT_EQ(GraphicsObjects(), objects);
-    EXPECT_EQ(AppIcons().GetIcon(3527), first);
-
-    std::vector<AppIcons::ICON_INFO> more = {{1, nullptr}};
-    icons.GetIcons(more);
-    ASSERT_EQ(more.size(), 1 + Present.size()) << "appended";
-    EXPECT_EQ(more.front().id, 1u);
+    AppIcons().GetIcons(found);
+    ASSERT_EQ(found.size(), 1 + Present.size()) << "appended";
+    EXPECT_EQ(found.front().id, 1U);
+    for (size_t index = 0; index < Present.size(); ++index)
+    {
+        EXPECT_EQ(int(found[1 + index].id), Present[index]);
+        EXPECT_NE(found[1 + index].icon, nullptr);
+        EXPECT_EQ(found[1 + index].icon, icons.GetIcon(Present[index]));
+    }
 }
 
 TEST(AppIconsTest, AReaderOnAnotherThreadSeesNoneOrAllWhileItFills)
 {
     std::atomic<bool> done = false;
+    // How often it saw none, all or something else.
     std::atomic<int> empty = 0;
     std::atomic<int> full = 0;
     std::atomic<int> torn = 0;
@@ -85,18 +74,14 @@ TEST(AppIconsTest, AReaderOnAnotherThreadSeesNoneOrAllWhileItFills)
             ++(seen.empty() ? empty : seen.size() == Present.size() ? full : torn);
         }
     });
-    // Not before the reader came by in this state.
-    const auto awaitOneMore = [](const std::atomic<int>& readings) {
-        for (const int before = readings; readings == before;)
-        {
-            std::this_thread::yield();
-        }
-    };
-    for (int filling = 0; filling < 40; ++filling)
+    for (int filling = 1; filling <= 40; ++filling)
     {
-        awaitOneMore(empty);
+        // Not before the reader came by in this state.
+        for (const int before = empty; empty == before; std::this_thread::yield())
+        {}
         icons.LoadIcons();
-        awaitOneMore(full);
+        for (const int before = full; full == before; std::this_thread::yield())
+        {}
         FreshAppIcons::Empty();
     }
     done = true;
@@ -108,23 +93,19 @@ TEST(MappedImageListTest, KnowsTheImageOfEachIdItWasGiven)
 {
     MappedImageList images;
     images.AddIcon(3527); // there is no list yet
-    EXPECT_EQ(images.GetIdxFromCtrlID(3527), -1);
-
     ASSERT_TRUE(images.Create(16, 16, ILC_COLOR32 | ILC_MASK, 0, 4));
+    EXPECT_EQ(images.GetIdxFromCtrlID(3527), -1);
     images.AddIcon(3527);
     images.AddIcon(0x00050000 + 3600); // loaded by its low word, known by all of it
-    const HICON icon = AfxGetApp()->LoadIcon(3573);
-    images.AddIcon(40001, icon);
-    EXPECT_EQ(images.GetIdxFromCtrlID(3527), 0);
-    EXPECT_EQ(images.GetIdxFromCtrlID(0x00050000 + 3600), 1);
-    EXPECT_EQ(images.GetIdxFromCtrlID(3600), -1);
-    EXPECT_EQ(images.GetIdxFromCtrlID(40001), 2);
-
+    images.AddIcon(40001, AfxGetApp()->LoadIcon(3573));
     images.AddIcon(3540); // the program has none
     images.AddIcon(40001, nullptr);
     EXPECT_EQ(images.GetImageCount(), 3);
-    EXPECT_EQ(images.GetIdxFromCtrlID(3540), -1);
-    EXPECT_EQ(images.GetIdxFromCtrlID(40001), 2) << "unchanged";
+    for (const auto& [id, index] :
+         {std::pair(3527U, 0), {0x00050000 + 3600, 1}, {3600, -1}, {40001, 2}, {3540, -1}})
+    {
+        EXPECT_EQ(images.GetIdxFromCtrlID(id), index) << id;
+    }
     images.AddIcon(3527);
     EXPECT_EQ(images.GetIdxFromCtrlID(3527), 3) << "the latest";
 }

@@ -52,7 +52,7 @@ constexpr WORD ComboId = 7;
 inline DialogTemplate ComboForm()
 {
     CCustomDropListCombo::RegisterWndClass(nullptr);
-    DialogTemplate form(CRect(40, 40, 240, 140), WS_POPUP | WS_CAPTION | WS_VISIBLE);
+    DialogTemplate form(CRect(40, 40, 240, 140), WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE);
     form.Add("CCUSTOMDROPLISTCOMBO", "", WS_TABSTOP, CRect(5, 5, 100, 18), ComboId);
     return form;
 }

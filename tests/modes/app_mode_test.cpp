@@ -21,7 +21,7 @@ class Probe : public CWnd
 public:
     std::string name;
     Journal* journal = nullptr;
-    std::function<void()> whenMoved;
+    std::function<void()> whenMoved = [] {};
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -30,25 +30,21 @@ protected:
         if (message == WM_WINDOWPOSCHANGED)
         {
             journal->push_back(name);
-            if (whenMoved)
-            {
-                whenMoved();
-            }
+            whenMoved();
         }
         return result;
     }
 };
 
-// The test owns it.
-class View : public CCustomFormView
+using Dialog = CCustomDialog;
+using Page = CCustomPropPage;
+using Sheet = CCustomPropSheet;
+struct View : CCustomFormView
 {
-public:
-    explicit View(UINT id)
+    View(UINT id, int)
         : CCustomFormView(id)
     {}
-
-protected:
-    void PostNcDestroy() override {}
+    void PostNcDestroy() override {} // the test owns it
 };
 
 class AppModeTest : public WindowTest
@@ -62,27 +58,12 @@ protected:
                                     CRect(0, 0, 400, 300), &Host(), 0));
     }
 
-    template <class Window> static Window New()
-    {
-        if constexpr (std::is_constructible_v<Window, UINT>)
-        {
-            return Window(1U);
-        }
-        else
-        {
-            return Window(1U, nullptr);
-        }
-    }
-
     // A mode-aware window with a probe on it.
     template <class Window> struct Aware
     {
-        Window window = New<Window>();
+        Window window{1U, 0};
         Probe probe;
     };
-    using Dialog = CCustomDialog;
-    using Page = CCustomPropPage;
-    using Sheet = CCustomPropSheet;
 
     template <class Window> std::unique_ptr<Aware<Window>> Make(const std::string& name)
     {
@@ -145,7 +126,6 @@ TEST_F(AppModeTest, EachChangeHasItsScale)
     for (const auto& [mode, expected] : steps)
     {
         SetOnBoardAppMode(mode);
-        EXPECT_EQ(COnBoardUIGeneral::GetAppMode(), mode);
         EXPECT_EQ(COnBoardUIGeneral::InOnBoardMode(), mode != STD);
         CRect place = WindowRectOf(dialog->probe);
         dialog->window.ScreenToClient(&place);
@@ -163,11 +143,10 @@ TEST_F(AppModeTest, ReceiversMayEndThemselvesAndOthers)
     };
     for (const auto& [ended, expected] : cases)
     {
-        std::vector<std::unique_ptr<Aware<Dialog>>> dialogs;
-        dialogs.reserve(5);
+        std::unique_ptr<Aware<Dialog>> dialogs[5];
         for (int index = 0; index < 5; ++index)
         {
-            dialogs.push_back(Make<Dialog>(std::to_string(index)));
+            dialogs[index] = Make<Dialog>(std::to_string(index));
         }
         const auto page = Make<Page>("page");
         dialogs[2]->probe.whenMoved = [&, &ended = ended] {
@@ -176,10 +155,9 @@ TEST_F(AppModeTest, ReceiversMayEndThemselvesAndOthers)
                 dialogs[index].reset();
             }
         };
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        const ModeScope scope(ONBOARD);
         EXPECT_EQ(journal, expected) << ended.size() << " from " << ended[0];
-        dialogs.clear();
-        COnBoardUIGeneral::SetAppMode(STD);
+        dialogs[2].reset();
     }
 }
 
@@ -235,18 +213,13 @@ TEST_F(AppModeTest, AWindowRegisteredTwiceIsToldTwiceAndRemovedOnceIsToldOnce)
 
 TEST_F(AppModeTest, TheStandardFontsFollowTheScreensResolution)
 {
-    const struct
+    for (const auto& [dotsPerInch, height] : {std::pair(96, 83), {120, 67}, {144, 56}, {0, -11}})
     {
-        int dotsPerInch, height;
-    } screens[] = {{96, 83}, {120, 67}, {144, 56}, {0, -11}};
-    for (const auto& screen : screens)
-    {
-        EXPECT_EQ(StandardFontHeight(screen.dotsPerInch, -11), screen.height);
+        EXPECT_EQ(StandardFontHeight(dotsPerInch, -11), height);
     }
     COnBoardUIGeneral::SetStdModeGoals();
-    const CClientDC screen(nullptr);
     EXPECT_EQ(COnBoardUIGeneral::GetStdCtrllfHeight(),
-              StandardFontHeight(screen.GetDeviceCaps(LOGPIXELSY), 0));
+              StandardFontHeight(CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY), 0));
 }
 
 } // namespace

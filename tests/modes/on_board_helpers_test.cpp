@@ -1,12 +1,11 @@
-#include "AppAccess.h"
 #include "OnBoardUI.h"
 #include "support/Acting.h"
+#include "support/AreaHost.h"
 #include "support/Canvas.h"
 #include "support/Fenced.h"
 #include "support/WindowTest.h"
 
 #include <cmath>
-#include <cstring>
 #include <tuple>
 
 namespace {
@@ -23,14 +22,11 @@ TEST_F(OnBoardHelpersTest, OnBoardFontsComeFromTheSystemFont)
     for (const double factor : {1.0, 1.3, 1.7, 0.49, -1.3})
     {
         ASSERT_NE(CreateOnBoardFont(font, factor, 5, 700), 0) << "the same object again";
-        LOGFONT expected = stock;
-        expected.lfHeight = LONG(std::trunc(stock.lfHeight * factor));
-        expected.lfWidth = 5;
-        expected.lfWeight = 700;
         LOGFONT made = {};
         font.GetLogFont(&made);
         EXPECT_STREQ(made.lfFaceName, "Arial");
-        EXPECT_EQ(std::memcmp(&made, &expected, offsetof(LOGFONT, lfFaceName)), 0) << factor;
+        EXPECT_EQ(made.lfHeight, LONG(std::trunc(stock.lfHeight * factor)));
+        EXPECT_EQ(std::pair(made.lfWidth, made.lfWeight), std::pair(5L, 700L));
     }
     EXPECT_EQ(GraphicsObjects(), objects) << "the one before is not left behind";
 }
@@ -39,25 +35,23 @@ TEST_F(OnBoardHelpersTest, GradientsRunFromCornerToCorner)
 {
     constexpr COLORREF From = RGB(200, 0, 40);
     constexpr COLORREF To = RGB(0, 100, 40);
+    CRect area(10, 10, 110, 110);
     for (const bool vertical : {false, true})
     {
         Canvas canvas(120, 120);
-        CRect area(10, 10, 110, 110);
         ASSERT_TRUE(GradientFill(&canvas.DC(), area, From, To, vertical ? 1 : 0));
-        const auto at = [&](int along) {
-            return vertical ? canvas.At(60, along) : canvas.At(along, 60);
+        const auto at = [&](int along, int across = 60) {
+            return vertical ? canvas.At(across, along) : canvas.At(along, across);
         };
         EXPECT_EQ(at(10), From);
         EXPECT_EQ(at(60), RGB(100, 50, 40));
         EXPECT_NEAR(GetGValue(at(109)), 100, 3);
-        EXPECT_EQ(canvas.At(30, 30), vertical ? canvas.At(90, 30) : canvas.At(30, 90));
+        EXPECT_EQ(at(30, 30), at(30, 90));
         EXPECT_EQ(at(9), Canvas::Untouched);
         EXPECT_EQ(at(110), Canvas::Untouched);
     }
-    Canvas canvas(20, 20);
-    CRect area(0, 0, 20, 20);
     EXPECT_FALSE(GradientFill(nullptr, area, From, To, 0));
-    EXPECT_FALSE(GradientFill(&canvas.DC(), area, From, To, 77)) << "no such mode";
+    EXPECT_FALSE(GradientFill(&Canvas(20, 20).DC(), area, From, To, 77)) << "no such mode";
 }
 
 TEST_F(OnBoardHelpersTest, SystemColoursComeAndGoWithTheOnBoardModes)
@@ -83,17 +77,15 @@ TEST_F(OnBoardHelpersTest, SystemColoursComeAndGoWithTheOnBoardModes)
 TEST_F(OnBoardHelpersTest, ADialogsFontReachesItsDirectChildrenThoughOneEnds)
 {
     auto& panel = Add<CWnd>(CRect(0, 0, 200, 200));
+    Acting<CStatic> leaving;
+    CStatic taken;
+    CStatic last;
+    CStatic inner;
     const CRect place(0, 0, 50, 20);
-    auto& leaving = Add<Acting<CStatic>>(place);
-    auto& taken = Add<CStatic>(place);
-    auto& last = Add<CStatic>(place);
-    auto& inner = Add<CStatic>(place);
-    for (CWnd* const child : std::initializer_list<CWnd*>{&leaving, &taken, &last})
-    {
-        child->SetParent(&panel);
-        ::SetWindowPos(*child, HWND_BOTTOM, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
-    }
-    inner.SetParent(&last);
+    leaving.Create("", WS_CHILD, place, &panel);
+    taken.Create("", WS_CHILD, place, &panel);
+    last.Create("", WS_CHILD, place, &panel);
+    inner.Create("", WS_CHILD, place, &last);
     leaving.ActIn(WM_SETFONT, [&] {
         taken.DestroyWindow();
         leaving.DestroyWindow();
@@ -125,55 +117,34 @@ TEST_F(OnBoardHelpersTest, AWindowMayEndTheFontThatItsDialogGivesOut)
     EXPECT_EQ(log.Count(WM_SETFONT), 0) << "there is none any more";
 }
 
-// A host with a given area, which answers false all the same: the values count.
-class AreaHost : public IAppAccess
-{
-public:
-    CRect area;
-    int asked = -1;
-
-    const char* GetProviderName() override { return "area"; }
-    bool GetAvailableArea(GAA_TYPE type, int& x, int& y, int& width, int& height) override
-    {
-        asked = int(type);
-        x = area.left;
-        y = area.top;
-        width = area.Width();
-        height = area.Height();
-        return false;
-    }
-};
-
 TEST_F(OnBoardHelpersTest, WindowsAreKeptInsideTheHostsArea)
 {
     CWnd window;
     ASSERT_TRUE(
         window.CreateEx(0, AfxRegisterWndClass(0), "", WS_POPUP, CRect(0, 0, 9, 9), nullptr, 0));
     AreaHost host;
-    host.area = CRect(100, 50, 500, 350);
-    const std::tuple<CRect, CPoint> cases[] = {
-        {CRect(CPoint(300, 250), CSize(200, 100)), CPoint(300, 250)}, // in the corner
-        {CRect(CPoint(301, 251), CSize(200, 100)), CPoint(300, 250)},
-        {CRect(CPoint(99, 49), CSize(200, 100)), CPoint(100, 50)},
-        {CRect(CPoint(-500, 900), CSize(200, 100)), CPoint(100, 250)},
-        {CRect(CPoint(450, 60), CSize(600, 100)), CPoint(100, 60)},   // too wide: left
-        {CRect(CPoint(150, 60), CSize(200, 500)), CPoint(150, -150)}, // too tall: bottom
+    host.answers = false; // the values count all the same
+    const CRect area(100, 50, 500, 350);
+    const std::tuple<CRect, CRect, CPoint> cases[] = {
+        {area, CRect(CPoint(300, 250), CSize(200, 100)), CPoint(300, 250)}, // in the corner
+        {area, CRect(CPoint(301, 251), CSize(200, 100)), CPoint(300, 250)},
+        {area, CRect(CPoint(99, 49), CSize(200, 100)), CPoint(100, 50)},
+        {area, CRect(CPoint(-500, 900), CSize(200, 100)), CPoint(100, 250)},
+        {area, CRect(CPoint(450, 60), CSize(600, 100)), CPoint(100, 60)},   // too wide: left
+        {area, CRect(CPoint(150, 60), CSize(200, 500)), CPoint(150, -150)}, // too tall: bottom
+        {CRect(0, 0, 0, 0), CRect(300, 300, 500, 400), CPoint(0, -100)}, // an empty area counts too
     };
-    for (const auto& [before, after] : cases)
+    for (const auto& [offered, before, after] : cases)
     {
+        host.area = offered;
         window.MoveWindow(&before);
+        EnsureWndVisible(nullptr, window);
+        EXPECT_EQ(WindowRectOf(window), before);
         EnsureWndVisible(&host, window);
         EXPECT_EQ(WindowRectOf(window), CRect(after, before.Size()))
             << before.left << ", " << before.top;
-        EXPECT_EQ(host.asked, 1);
     }
-
-    host.area = CRect();
-    window.MoveWindow(300, 300, 200, 100);
-    EnsureWndVisible(nullptr, window);
-    EXPECT_EQ(WindowRectOf(window), CRect(300, 300, 500, 400));
-    EnsureWndVisible(&host, window);
-    EXPECT_EQ(WindowRectOf(window), CRect(0, -100, 200, 0)) << "an empty area counts too";
+    EXPECT_EQ(host.askedFor, 1);
 }
 
 } // namespace

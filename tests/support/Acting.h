@@ -5,23 +5,24 @@
 #include <functional>
 #include <utility>
 
-// A control on which the test acts once, inside the first message of a kind, before the control
-// gets it. The control may end itself there.
+// A control on which the test acts once, inside the first message of a kind, or after so many of
+// them, before the control gets it. The control may end itself there.
 template <class Base> class Acting : public Base
 {
 public:
     using Base::Base;
 
-    void ActIn(UINT message, std::function<void()> act)
+    void ActIn(UINT message, std::function<void()> act, int after = 0)
     {
         m_message = message;
+        m_after = after;
         m_act = std::move(act);
     }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (message == m_message && m_act)
+        if (message == m_message && m_act && m_after-- == 0)
         {
             const HWND window = this->m_hWnd;
             std::exchange(m_act, nullptr)();
@@ -35,5 +36,6 @@ protected:
 
 private:
     UINT m_message = 0;
+    int m_after = 0;
     std::function<void()> m_act;
 };

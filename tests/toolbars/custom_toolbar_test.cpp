@@ -1,15 +1,10 @@
 #include "CustomToolbar.h"
 #include "support/WindowTest.h"
 
-#include <algorithm>
-#include <random>
-
 namespace {
 
 using Ids = std::vector<unsigned int>;
 using Messages = std::vector<std::string>;
-
-constexpr unsigned int Separator = 0;
 
 struct Button
 {
@@ -21,48 +16,25 @@ struct Button
     friend bool operator==(const Button&, const Button&) = default;
 };
 
-const std::string Head = "Ordering Toolbar Btns: ";
-
-std::string Miscount(size_t current, size_t wanted)
-{
-    return Head + "Btn miscount.  Current = " + std::to_string(current) +
-           ".  New = " + std::to_string(wanted) + ".";
-}
-
-std::string NotFound(unsigned int id)
-{
-    return Head + "Target Btn " + std::to_string(id) + " not found.";
-}
-
-std::string NotInOrder(unsigned int id)
-{
-    return Head + "Existing Btn " + std::to_string(id) + " not in order list.";
-}
-
 class OrderedBar : public CustomToolbar
 {
 public:
     bool refuses = false; // to give a place another command
 
-    void Fill(CWnd& parent, const std::vector<Button>& buttons)
+    OrderedBar(CWnd& parent, const std::vector<Button>& buttons)
     {
         EXPECT_TRUE(CreateEx(&parent, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE));
         for (const Button& button : buttons)
         {
-            Append(button);
+            TBBUTTON made = {};
+            made.idCommand = int(button.id);
+            made.iBitmap = button.image;
+            made.fsStyle = button.style;
+            made.fsState = button.state;
+            SendMessage(TB_ADDBUTTONS, 1, LPARAM(&made));
         }
         SetWindowPos(nullptr, 0, 0, 780, 60, SWP_NOZORDER);
         PumpAll();
-    }
-
-    void Append(const Button& button)
-    {
-        TBBUTTON made = {};
-        made.idCommand = int(button.id);
-        made.iBitmap = button.image;
-        made.fsStyle = button.style;
-        made.fsState = button.state;
-        SendMessage(TB_ADDBUTTONS, 1, LPARAM(&made));
     }
 
     std::vector<Button> Buttons() const
@@ -78,14 +50,21 @@ public:
         return buttons;
     }
 
-    Ids Order() const
+    // What it says, without its head. The result goes with that: true where there is nothing.
+    Messages Order(const Ids& order)
     {
-        Ids ids;
-        for (const Button& button : Buttons())
+        const std::string head = "Ordering Toolbar Btns: ";
+        Messages messages = {head + "from before"};
+        const bool done = OrderBtns(order, messages);
+        EXPECT_EQ(done, messages.size() == 1);
+        for (std::string& message : messages)
         {
-            ids.push_back(button.id);
+            EXPECT_EQ(message.substr(0, head.size()), head);
+            message.erase(0, head.size());
         }
-        return ids;
+        EXPECT_EQ(messages.front(), "from before");
+        messages.erase(messages.begin());
+        return messages;
     }
 
 protected:
@@ -97,124 +76,78 @@ protected:
     }
 };
 
-class CustomToolbarTest : public WindowTest
+using CustomToolbarTest = WindowTest;
+
+TEST_F(CustomToolbarTest, PutsItsButtonsIntoOrderAndTellsWhatDoesNotFit)
 {
-protected:
-    // The result goes with the messages: true where there are none.
-    static Messages OrderBar(OrderedBar& bar, const Ids& order)
+    constexpr BYTE Hidden = TBSTATE_ENABLED | TBSTATE_HIDDEN;
+    const std::vector<Button> five = {{10, 0, TBSTYLE_CHECK},
+                                      {11, 1, TBSTYLE_BUTTON, Hidden},
+                                      {0, 2, TBSTYLE_SEP},
+                                      {13, 3},
+                                      {14, 4}};
+    const std::vector<Button> twins = {{7, 0}, {8, 1}, {7, 2}, {0, 3, TBSTYLE_SEP}};
+    // The command and its picture change places, style and state stay where they are. What is
+    // displaced waits where the target was for its own turn.
+    const struct
     {
-        Messages messages = {"from before"};
-        const bool done = bar.OrderBtns(order, messages);
-        EXPECT_EQ(messages.front(), "from before");
-        messages.erase(messages.begin());
-        EXPECT_EQ(done, messages.empty());
-        return messages;
+        const std::vector<Button>& before;
+        Ids order;
+        std::vector<std::pair<unsigned int, int>> after; // id and picture
+        Messages said = {};
+    } cases[] = {
+        {five, {10, 11, 0, 13, 14}, {{10, 0}, {11, 1}, {0, 2}, {13, 3}, {14, 4}}},
+        {five, {14, 0, 10, 11, 13}, {{14, 4}, {0, 2}, {10, 0}, {11, 1}, {13, 3}}},
+        {five,
+         {14, 99, 13},
+         {{14, 4}, {13, 3}, {10, 0}, {11, 1}, {0, 2}},
+         {"Btn miscount.  Current = 5.  New = 3.", "Target Btn 99 not found.",
+          "Existing Btn 10 not in order list.", "Existing Btn 11 not in order list.",
+          "Existing Btn 0 not in order list."}},
+        {five,
+         {13, 13, 14, 11, 10, 0},
+         {{0, 2}, {13, 3}, {14, 4}, {11, 1}, {10, 0}},
+         {"Btn miscount.  Current = 5.  New = 6."}},
+        {twins, {8, 0, 7, 7}, {{8, 1}, {0, 3}, {7, 2}, {7, 0}}},
+    };
+    for (const auto& [before, order, after, said] : cases)
+    {
+        SCOPED_TRACE(testing::PrintToString(order));
+        OrderedBar bar(Host(), before);
+        Host().Forget();
+        EXPECT_EQ(bar.Order(order), said);
+        EXPECT_TRUE(Host().Told().empty()) << "nobody can act, or end the bar, in the middle of it";
+        std::vector<Button> expected = before;
+        for (size_t place = 0; place < after.size(); ++place)
+        {
+            expected[place].id = after[place].first;
+            expected[place].image = after[place].second;
+        }
+        EXPECT_EQ(bar.Buttons(), expected);
     }
-
-    static std::vector<Button> Five() { return {{10, 0}, {11, 1}, {1234, 2}, {13, 3}, {14, 4}}; }
-};
-
-TEST_F(CustomToolbarTest, TakesACompleteOrderWithoutAWord)
-{
-    OrderedBar bar;
-    bar.Fill(Host(), Five());
-    EXPECT_EQ(OrderBar(bar, {10, 11, 1234, 13, 14}), Messages());
-    EXPECT_EQ(bar.Buttons(), Five());
-    Host().Forget();
-    EXPECT_EQ(OrderBar(bar, {14, 1234, 10, 11, 13}), Messages());
-    EXPECT_TRUE(Host().Told().empty()) << "nobody can act, or end the bar, in the middle of it";
-    EXPECT_EQ(bar.Buttons(), (std::vector<Button>{{14, 4}, {1234, 2}, {10, 0}, {11, 1}, {13, 3}}));
-
-    CRect first;
-    bar.GetItemRect(0, &first);
-    Click(ClientPoint(bar, first.CenterPoint()));
-    EXPECT_EQ(Host().Count(WM_COMMAND), 1);
-    EXPECT_EQ(Host().CodesFrom(14).size(), 1U) << "the button does what it now stands for";
-
-    OrderedBar none; // no window
-    EXPECT_EQ(OrderBar(none, {10}), (Messages{Miscount(0, 1), NotFound(10)}));
+    CustomToolbar none; // no window
+    Messages messages;
+    EXPECT_FALSE(none.OrderBtns({10}, messages));
+    EXPECT_EQ(messages.size(), 2U);
 }
 
-TEST_F(CustomToolbarTest, DoesWithManyOrdersWhatAPlainListDoes)
+TEST_F(CustomToolbarTest, AButtonDoesWhatItNowStandsForUnlessTheBarRefuses)
 {
-    std::mt19937 random(20261121);
-    const auto below = [&random](unsigned int end) { return unsigned(random() % end); };
-    OrderedBar bar;
-    bar.Fill(Host(), {});
-    for (int round = 0; round < 300; ++round)
-    {
-        SCOPED_TRACE(round);
-        while (bar.GetCount() > 0)
-        {
-            bar.SendMessage(TB_DELETEBUTTON, 0);
-        }
-        // Ids from few enough that some come twice, each with a picture of its own.
-        const unsigned int count = below(14);
-        for (unsigned int index = 0; index < count; ++index)
-        {
-            const bool separator = below(5) == 0;
-            bar.Append({separator ? Separator : 100 + below(40), int(index),
-                        BYTE(separator       ? TBSTYLE_SEP
-                             : below(3) == 0 ? TBSTYLE_CHECK
-                                             : TBSTYLE_BUTTON),
-                        BYTE(TBSTATE_ENABLED | (below(4) == 0 ? TBSTATE_HIDDEN : 0))});
-        }
-        std::vector<Button> model = bar.Buttons();
-
-        // The present order, shuffled, with some ids lost, some twice and some unknown.
-        Ids order = bar.Order();
-        std::ranges::shuffle(order, random);
-        for (unsigned int change = below(4); change > 0 && !order.empty(); --change)
-        {
-            unsigned int& one = order[below(unsigned(order.size()))];
-            one = below(2) == 0 ? 200 + below(5) : order[below(unsigned(order.size()))];
-        }
-        order.resize(order.size() - std::min<size_t>(below(3), order.size()));
-
-        Messages expected;
-        if (order.size() != model.size())
-        {
-            expected.push_back(Miscount(model.size(), order.size()));
-        }
-        Ids targets;
-        const auto find = [&model](unsigned int id) {
-            return std::ranges::find(model, id, &Button::id);
-        };
-        for (const unsigned int id : order)
-        {
-            find(id) != model.end() ? targets.push_back(id) : expected.push_back(NotFound(id));
-        }
-        for (const Button& button : model)
-        {
-            if (std::ranges::find(targets, button.id) == targets.end())
-            {
-                targets.push_back(button.id);
-                expected.push_back(NotInOrder(button.id));
-            }
-        }
-        for (size_t place = 0; place < std::min(model.size(), targets.size()); ++place)
-        {
-            Button& there = *find(targets[place]);
-            if (model[place].id != there.id)
-            {
-                std::swap(model[place].id, there.id);
-                std::swap(model[place].image, there.image);
-            }
-        }
-
-        EXPECT_EQ(OrderBar(bar, order), expected);
-        ASSERT_EQ(bar.Buttons(), model);
-    }
-}
-
-TEST_F(CustomToolbarTest, ReportsPairsThatTheBarRefusesToSwap)
-{
-    OrderedBar bar;
-    bar.Fill(Host(), {{10, 0}, {11, 1}});
+    OrderedBar bar(Host(), {{10, 0}, {11, 1}});
     bar.refuses = true;
-    EXPECT_EQ(OrderBar(bar, {11, 10}), (Messages{Head + "SetButtonInfo failed for pair (10, 11)",
-                                                 Head + "SetButtonInfo failed for pair (11, 10)"}));
-    EXPECT_EQ(bar.Order(), (Ids{10, 11}));
+    EXPECT_EQ(bar.Order({11, 10}), (Messages{"SetButtonInfo failed for pair (10, 11)",
+                                             "SetButtonInfo failed for pair (11, 10)"}));
+    for (const UINT id : {10U, 11U})
+    {
+        CRect first;
+        bar.GetItemRect(0, &first);
+        Click(ClientPoint(bar, first.CenterPoint()));
+        EXPECT_EQ(Host().CodesFrom(id).size(), 1U);
+        EXPECT_EQ(Host().Count(WM_COMMAND), 1);
+        bar.refuses = false;
+        bar.Order({11, 10});
+        Host().Forget();
+    }
 }
 
 TEST_F(CustomToolbarTest, IsDarkWithLightTextsOnBoardWhateverStandsBehindIt)
