@@ -179,30 +179,18 @@ TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
 
 // Moving ----------------------------------------------------------------------------------------
 
-// Presses, moves and lets go in the platform's own loop for moves, which begins with the press.
-void DragInPlatformLoop(CPoint from, CPoint to)
-{
-    // The display tells of each move once more, on a busy machine some time later, and puts the
-    // pointer back there: so the last is repeated.
-    constexpr int Arrivals = 8;
-    const CPoint halfway((from.x + to.x) / 2, (from.y + to.y) / 2);
-    std::vector<std::function<void()>> steps(Arrivals + 3, [to] { QueueMove(to); });
-    steps[0] = [] { QueueButton(true); };
-    steps[1] = [halfway] { QueueMove(halfway); };
-    steps.back() = [] { QueueButton(false); };
-    MoveTo(from);
-    PlaySteps(steps);
-}
-
 TEST_F(CustomDialogTest, TheCaptionIsDraggedAsFarAsTheHostsAreaAllows)
 {
     const CSize size(300, 200);
-    // By how much, and where the dialog ends: a grip of it stays in the area, or all of it.
-    const std::tuple<CSize, CPoint, CPoint> cases[] = {
-        {CSize(-10, 20), CPoint(290, 220), CPoint(290, 220)},
-        {CSize(-280, 0), CPoint(20, 200), CPoint(200, 200)},
-        {CSize(0, -180), CPoint(300, 80), CPoint(300, 80)},
-        {CSize(280, 300), CPoint(548, 428), CPoint(300, 280)},
+    const CPoint start(300, 200);
+    // By how much, and where the dialog ends: a grip of it stays in the area, or all of it. Of two
+    // edges that cannot both be kept the right and the lower one count.
+    const std::tuple<CSize, CSize, CPoint, CPoint> cases[] = {
+        {CSize(-10, 20), size, CPoint(290, 220), CPoint(290, 220)},
+        {CSize(-280, 0), size, CPoint(20, 200), CPoint(200, 200)},
+        {CSize(0, -180), size, CPoint(300, 80), CPoint(300, 80)},
+        {CSize(280, 300), size, CPoint(548, 428), CPoint(300, 280)},
+        {CSize(-300, -200), CSize(1000, 900), CPoint(0, 80), CPoint(-400, -420)},
     };
     host.area = CRect(200, 80, 600, 480);
     const auto proposed = [](DialogForTests& dialog, CRect place) {
@@ -214,19 +202,26 @@ TEST_F(CustomDialogTest, TheCaptionIsDraggedAsFarAsTheHostsAreaAllows)
         SetSpecialConfigVal("Dialog", "ShowEntireDialog", whole ? 1 : 0);
         const ModeScope mode(ONBOARD);
         DialogForTests dialog(form, Host(), &host);
-        int grip = 40; // elsewhere each time, or it would be a double click
-        for (const auto& [by, gripped, kept] : cases)
+        for (const auto& [by, of, gripped, kept] : cases)
         {
-            dialog.SetWindowPos(nullptr, 300, 200, size.cx, size.cy, SWP_NOZORDER);
-            PumpAll();
-            const CPoint from = WindowPoint(dialog, CPoint(grip += 20, 15));
-            DragInPlatformLoop(from, from + by);
-            EXPECT_EQ(WindowRectOf(dialog), CRect(whole ? kept : gripped, size)) << whole << grip;
+            EXPECT_EQ(proposed(dialog, CRect(start + by, of)), whole ? kept : gripped) << by.cx;
         }
         EXPECT_EQ(host.askedFor, 1);
-        EXPECT_EQ(proposed(dialog, CRect(0, 0, 1000, 900)),
-                  whole ? CPoint(-400, -420) : CPoint(0, 80))
-            << "of two edges that cannot both be kept the right and the lower one count";
+
+        dialog.SetWindowPos(nullptr, start.x, start.y, size.cx, size.cy, SWP_NOZORDER);
+        PumpAll();
+        const CPoint from = WindowPoint(dialog, CPoint(60, 15));
+        const CPoint to = from + std::get<0>(cases[3]);
+        MoveTo(from);
+        // The display tells of each move once more, on a busy machine some time later, and puts the
+        // pointer back there: so the last is repeated.
+        std::vector<std::function<void()>> steps(11, [to] { QueueMove(to); });
+        steps[0] = [] { QueueButton(true); };
+        steps[1] = [from] { QueueMove(from + CSize(40, 0)); };
+        steps.back() = [] { QueueButton(false); };
+        PlaySteps(steps);
+        EXPECT_EQ(WindowRectOf(dialog).TopLeft(),
+                  whole ? std::get<3>(cases[3]) : std::get<2>(cases[3]));
     }
     RestPointer();
     // Nobody asks in the standard mode, nor where there is no host or no answer.

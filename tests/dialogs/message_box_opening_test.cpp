@@ -12,7 +12,6 @@ public:
     using MessageBoxForTests::MessageBoxForTests;
 
     std::function<void()> atDataExchange = [] {}; // initialising, its text not yet shown
-    int moves = 0;                                // of the box, since its initialisation began
 
 protected:
     void DoDataExchange(CDataExchange* exchange) override
@@ -20,23 +19,7 @@ protected:
         MessageBoxForTests::DoDataExchange(exchange);
         atDataExchange();
     }
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        moves = message == WM_INITDIALOG ? 0 : moves + (message == WM_MOVE || message == WM_SIZE);
-        return MessageBoxForTests::WindowProc(message, wParam, lParam);
-    }
 };
-
-TEST_F(MessageBoxTest, ABoxOpensWhereItStands)
-{
-    const ModeScope scope(ONBOARD);
-    for (const int lines : {1, 9, 400})
-    {
-        OpeningBox box(Lines(lines).c_str(), MB_YESNO);
-        ASSERT_TRUE(box.Create(CZepMsgBoxDlg::IDD, &Host()));
-        EXPECT_EQ(box.moves, 0) << lines;
-    }
-}
 
 TEST_F(MessageBoxTest, WhatChangesWhileTheBoxOpensCounts)
 {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <climits>
 #include <random>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -13,53 +14,45 @@ const CSize Wide(1280, 1024);
 
 TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
 {
-    const struct
+    // The mode, the text, the style, how long the title is, the area; whether there is a bar, the
+    // client area's size, and the places of the text and of the first and the last button.
+    const std::tuple<APPMODE, std::string, UINT, int, CSize, bool, CSize, CRect, CRect, CRect>
+        cases[] = {
+            {STD, "Ready", MB_YESNO, 1, Wide, false, CSize(325, 117), CRect(70, 13, 311, 30),
+             CRect(79, 51, 154, 74), CRect(161, 51, 236, 74)},
+            {ONBOARD, "Ready", MB_YESNO, 1, Wide, false, CSize(627, 151), CRect(84, 15, 603, 43),
+             CRect(173, 62, 300, 101), CRect(311, 62, 438, 101)},
+            {ONBOARD, Lines(400), MB_YESNO, 1, Wide, true, CSize(687, 717), CRect(84, 5, 664, 619),
+             CRect(203, 628, 330, 667), CRect(341, 628, 468, 667)},
+            // The most lines that need no bar, and one more.
+            {STD, Lines(37), MB_OK, 1, Wide, false, CSize(325, 677), CRect(70, -2, 311, 607),
+             CRect(123, 611, 198, 634), CRect(123, 611, 198, 634)},
+            {STD, Lines(38), MB_OK, 1, Wide, true, CSize(387, 681), CRect(70, -2, 372, 612),
+             CRect(154, 615, 229, 638), CRect(154, 615, 229, 638)},
+            {STD, "Ready", MB_OK, 60, Wide, false, CSize(869, 117), CRect(70, 13, 311, 30),
+             CRect(395, 51, 470, 74), CRect(395, 51, 470, 74)},
+            {STD, "Ready", MB_OK, 60, CSize(320, 240), true, CSize(297, 117),
+             CRect(70, 13, 282, 30), CRect(109, 51, 184, 74), CRect(109, 51, 184, 74)},
+            {ONBOARD, Lines(9), MB_OK, 1, CSize(640, 240), true, CSize(617, 201),
+             CRect(84, 5, 594, 103), CRect(243, 112, 370, 151), CRect(243, 112, 370, 151)},
+            {ONBOARD, Lines(9), MB_ABORTRETRYIGNORE, 1, CSize(-5, INT_MIN), true, CSize(463, 151),
+             CRect(84, 5, 439, 53), CRect(22, 62, 149, 101), CRect(298, 62, 425, 101)},
+        };
+    for (const auto& [mode, message, style, title, area, bar, size, text, first, last] : cases)
     {
-        APPMODE mode;
-        std::string message;
-        UINT style;
-        int titleLength;
-        CSize area;
-        CSize client;
-        CRect text;
-        CRect firstButton;
-        CRect lastButton;
-    } cases[] = {
-        {STD, "Ready", MB_YESNO, 1, Wide, CSize(325, 117), CRect(70, 13, 311, 30),
-         CRect(79, 51, 154, 74), CRect(161, 51, 236, 74)},
-        {ONBOARD, "Ready", MB_YESNO, 1, Wide, CSize(627, 151), CRect(84, 15, 603, 43),
-         CRect(173, 62, 300, 101), CRect(311, 62, 438, 101)},
-        {ONBOARD, Lines(400), MB_YESNO, 1, Wide, CSize(687, 717), CRect(84, 5, 664, 619),
-         CRect(203, 628, 330, 667), CRect(341, 628, 468, 667)},
-        // The most lines that need no bar, and one more.
-        {STD, Lines(37), MB_OK, 1, Wide, CSize(325, 677), CRect(70, -2, 311, 607),
-         CRect(123, 611, 198, 634), CRect(123, 611, 198, 634)},
-        {STD, Lines(38), MB_OK, 1, Wide, CSize(387, 681), CRect(70, -2, 372, 612),
-         CRect(154, 615, 229, 638), CRect(154, 615, 229, 638)},
-        {STD, "Ready", MB_OK, 60, Wide, CSize(869, 117), CRect(70, 13, 311, 30),
-         CRect(395, 51, 470, 74), CRect(395, 51, 470, 74)},
-        {STD, "Ready", MB_OK, 60, CSize(320, 240), CSize(297, 117), CRect(70, 13, 282, 30),
-         CRect(109, 51, 184, 74), CRect(109, 51, 184, 74)},
-        {ONBOARD, Lines(9), MB_OK, 1, CSize(640, 240), CSize(617, 201), CRect(84, 5, 594, 103),
-         CRect(243, 112, 370, 151), CRect(243, 112, 370, 151)},
-        {ONBOARD, Lines(9), MB_ABORTRETRYIGNORE, 1, CSize(-5, INT_MIN), CSize(463, 151),
-         CRect(84, 5, 439, 53), CRect(22, 62, 149, 101), CRect(298, 62, 425, 101)},
-    };
-    for (const auto& each : cases)
-    {
-        SCOPED_TRACE(&each - cases);
-        const ModeScope scope(each.mode);
-        SetOnBoardAppTitle(std::string(each.titleLength, 'W').c_str());
-        Box box(each.message, each.style, nullptr, each.area);
+        SCOPED_TRACE(testing::Message() << mode << ' ' << size.cx);
+        const ModeScope scope(mode);
+        SetOnBoardAppTitle(std::string(title, 'W').c_str());
+        Box box(message, style, nullptr, area);
         const CSize client = ClientRectOf(box).Size();
-        EXPECT_NEAR(client.cx, each.client.cx, 1) << "by the rounding of the halves";
-        EXPECT_NEAR(client.cy, each.client.cy, 1);
-        const CPoint down(0, client.cy - each.client.cy);
-        EXPECT_EQ(PlaceIn(box, box.m_icon).TopLeft(),
-                  each.mode == STD ? CPoint(11, -2) : CPoint(18, 5));
-        EXPECT_EQ(PlaceIn(box, *box.m_text), each.text);
-        EXPECT_EQ(box.PlaceOfButton(0), each.firstButton + down);
-        EXPECT_EQ(box.PlaceOfButton(box.m_buttons.size() - 1), each.lastButton + down);
+        EXPECT_NEAR(client.cx, size.cx, 1) << "by the rounding of the halves";
+        EXPECT_NEAR(client.cy, size.cy, 1);
+        const CPoint down(0, client.cy - size.cy);
+        EXPECT_EQ(PlaceIn(box, box.m_icon).TopLeft(), mode == STD ? CPoint(11, -2) : CPoint(18, 5));
+        EXPECT_EQ(PlaceIn(box, *box.m_text), text);
+        EXPECT_EQ(ClientRectOf(*box.m_text).Width() < text.Width(), bar);
+        EXPECT_EQ(box.PlaceOfButton(0), first + down);
+        EXPECT_EQ(box.PlaceOfButton(box.m_buttons.size() - 1), last + down);
         EXPECT_NE(box.GetExStyle() & WS_EX_TOPMOST, 0U);
         const CPoint middle = WindowRectOf(box).CenterPoint();
         EXPECT_NEAR(middle.x, Wide.cx / 2, 1) << "of the screen";
@@ -92,64 +85,6 @@ TEST_F(MessageBoxTest, ACaptionOfAnyHeightHidesNoLetterOfTheText)
         EXPECT_GT(box.PlaceOfButton(0).top, std::max(text.bottom, icon + 48L));
     }
     EXPECT_EQ(clamped, 2) << "the long text under the two highest";
-}
-
-TEST_F(MessageBoxTest, NothingOverlapsForAnyTextButtonsAndArea)
-{
-    std::string words;
-    while (words.size() < 5'000)
-    {
-        words += "several words ";
-    }
-    const auto expectOrder = [this](const std::string& text, UINT style, CSize area) {
-        const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-        SCOPED_TRACE(testing::Message()
-                     << area.cx << ' ' << text.size() << ' ' << style << onBoard);
-        Box box(text, style, &Host(), area);
-        const CRect client = ClientRectOf(box);
-        const std::vector<CRect> places = ChildPlaces(box); // the picture, the text, the buttons
-        for (auto one = places.begin(); one != places.end(); ++one)
-        {
-            EXPECT_TRUE((*one | client) == client || one < places.begin() + 2);
-            for (auto other = one + 1; other != places.end(); ++other)
-            {
-                EXPECT_FALSE(CRect().IntersectRect(*one, *other));
-            }
-        }
-        EXPECT_LE(places[1].right, client.right);
-        const int widths[] = {320, 340, 480}; // what large buttons need
-        if (area.cy >= 240 && area.cx >= (onBoard ? widths[box.m_buttons.size() - 1] : 320))
-        {
-            EXPECT_LE(WindowRectOf(box).Width(), area.cx);
-            EXPECT_LE(WindowRectOf(box).Height(), area.cy);
-        }
-        CWnd& shown = *box.m_text;
-        const CRect lines = ClientRectOf(shown);
-        if (shown.SendMessage(EM_GETLINECOUNT) * (onBoard ? 27 : 13) > lines.Height())
-        {
-            EXPECT_TRUE(onBoard ? lines.Width() <= WindowRectOf(shown).Width() - 52
-                                : (shown.GetStyle() & WS_VSCROLL) != 0);
-            shown.SendMessage(WM_VSCROLL, SB_BOTTOM);
-            EXPECT_GT(box.FirstLine(), 0);
-        }
-    };
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        const ModeScope scope(mode);
-        for (const CSize& area : {CSize(320, 240), CSize(800, 300), Wide, CSize(0, 0)})
-        {
-            for (const UINT style : {MB_OK, MB_OKCANCEL, MB_ABORTRETRYIGNORE})
-            {
-                expectOrder("Word", style, area);
-                expectOrder(Lines(3), style, area);
-            }
-            // Long texts take their time.
-            for (const std::string& text : {Lines(400), std::string(5'000, 'x'), words})
-            {
-                expectOrder(text, MB_ABORTRETRYIGNORE, area);
-            }
-        }
-    }
 }
 
 TEST_F(MessageBoxTest, ATextMeasuresAsItsWidestLineAndALineMoreThanItHas)

@@ -46,16 +46,13 @@ public:
         HWND found = nullptr;
         PumpUntil(
             [&] {
-                while ((found = ::FindWindowEx(nullptr, found, nullptr, title)) != nullptr)
+                DWORD process = 0;
+                do
                 {
-                    DWORD process = 0;
+                    found = ::FindWindowEx(nullptr, found, nullptr, title);
                     ::GetWindowThreadProcessId(found, &process);
-                    if (process == m_id && ::IsWindowVisible(found))
-                    {
-                        return true;
-                    }
-                }
-                return false;
+                } while (found != nullptr && (process != m_id || !::IsWindowVisible(found)));
+                return found != nullptr;
             },
             20000);
         return found;

@@ -3,6 +3,7 @@
 
 #include "gallery/RunningGallery.h"
 #include "support/WindowTest.h"
+#include "support_libs/text_file.h"
 
 #include <cstdlib>
 #include <fstream>
@@ -12,29 +13,17 @@
 namespace {
 
 // A file of the test's own for as long as the object lives.
-class TemporaryFile
+struct TemporaryFile : TextFile
 {
-public:
     TemporaryFile()
-    {
-        char folder[MAX_PATH] = "";
-        ::GetTempPath(MAX_PATH, folder);
-        ::GetTempFileName(folder, "gal", 0, m_name);
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile() { ::DeleteFile(m_name); }
-
-    std::string Name() const { return '"' + std::string(m_name) + '"'; }
-    std::string Option() const { return " --settings " + Name(); }
+        : TextFile("")
+    {}
+    std::string Option() const { return " --settings \"" + std::string(Path()) + '"'; }
     std::string Content() const
     {
-        std::ifstream file(m_name);
+        std::ifstream file(Path());
         return {std::istreambuf_iterator<char>(file), {}};
     }
-
-private:
-    char m_name[MAX_PATH] = "";
 };
 
 // The page that is shown, or its control with that text, once there is one.
@@ -165,10 +154,11 @@ TEST_F(GalleryTest, SaysWhatItUnderstandsOnItsCommandLine)
     for (const auto& [arguments, code, said] : lines)
     {
         const TemporaryFile output;
-        const std::string stream = code == 0 ? " > " : " 2> ";
+        const std::string stream = code == 0 ? " > \"" : " 2> \"";
         // The command processor takes the outer quotes away.
-        const std::string command = GalleryCommand(arguments) + stream + output.Name();
-        EXPECT_EQ(std::system(('"' + command + '"').c_str()), code) << command;
+        const std::string command =
+            '"' + GalleryCommand(arguments) + stream + output.Path() + "\"\"";
+        EXPECT_EQ(std::system(command.c_str()), code) << command;
         EXPECT_NE(output.Content().find(said), std::string::npos) << output.Content();
     }
 }
