@@ -126,54 +126,51 @@ TEST_F(CustomDialogTest, OnBoardNothingOpensTheSystemMenu)
     CCustomPropSheet sheet("Sheet", nullptr);
     sheet.AddPage(&page);
     ASSERT_TRUE(sheet.Create(&Host()));
-    EXPECT_EQ(MenusOpened(dialog), 3);
-    COnBoardUIGeneral::SetAppMode(ONBOARD);
-    EXPECT_NE(sheet.GetStyle() & WS_SYSMENU, 0U);
-    for (CWnd* const window : {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&sheet)})
+    sheet.ShowWindow(SW_SHOW);
+    for (const auto& [mode, opened] : {std::pair(STD, 3), {ONBOARD, 0}})
     {
-        EXPECT_EQ(MenusOpened(*window), 0);
-        EXPECT_TRUE(ShowsWhatAPaintWould(*window));
+        COnBoardUIGeneral::SetAppMode(mode);
+        EXPECT_NE(sheet.GetStyle() & WS_SYSMENU, 0U);
+        for (CWnd* const window : {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&sheet)})
+        {
+            EXPECT_EQ(MenusOpened(*window), opened) << (window == &sheet);
+            EXPECT_TRUE(mode == STD || ShowsWhatAPaintWould(*window));
+        }
     }
     sheet.DestroyWindow();
 }
 
 TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
 {
+    using D = CCustomDialog;
     DialogForTests dialog(form, Host());
-    struct Look
-    {
-        COLORREF text;
-        COLORREF ground; // behind letters; CLR_INVALID: as it was
-        HGDIOBJ brush;
+    // Who asks how, and its text, its ground and its brush. CLR_INVALID: the ground stays.
+    const std::tuple<UINT, int, COLORREF, COLORREF, HGDIOBJ> cases[] = {
+        {WM_CTLCOLOREDIT, IdEdit, RGB(26, 26, 26), RGB(180, 180, 180), D::m_BkEditBrush},
+        {WM_CTLCOLORLISTBOX, IdList, RGB(26, 26, 26), RGB(180, 180, 180), D::m_BkEditBrush},
+        {WM_CTLCOLOREDIT, IdDisabled, RGB(70, 70, 70), RGB(100, 100, 100),
+         D::m_BkEditDisabledBrush},
+        {WM_CTLCOLORSTATIC, IdDisabled, RGB(70, 70, 70), RGB(100, 100, 100), // the platform's
+         D::m_BkEditDisabledBrush},
+        {WM_CTLCOLORSTATIC, IdReadOnly, RGB(26, 26, 26), RGB(180, 180, 180), D::m_BkEditBrush},
+        {WM_CTLCOLORSTATIC, IdLabel, RGB(230, 230, 230), CLR_INVALID, D::m_BkBrush},
+        {WM_CTLCOLORDLG, 0, RGB(0, 0, 0), CLR_INVALID, D::m_BkBrush},
     };
-    const Look field = {RGB(26, 26, 26), RGB(180, 180, 180), CCustomDialog::m_BkEditBrush};
-    const Look off = {RGB(70, 70, 70), RGB(100, 100, 100), CCustomDialog::m_BkEditDisabledBrush};
-    const Look label = {RGB(230, 230, 230), CLR_INVALID, CCustomDialog::m_BkBrush};
-    const Look panel = {RGB(0, 0, 0), CLR_INVALID, CCustomDialog::m_BkBrush};
-    const std::tuple<UINT, int, const Look&> cases[] = {
-        {WM_CTLCOLOREDIT, IdEdit, field},
-        {WM_CTLCOLORLISTBOX, IdList, field},
-        {WM_CTLCOLOREDIT, IdDisabled, off},
-        {WM_CTLCOLORSTATIC, IdDisabled, off}, // the platform's
-        {WM_CTLCOLORSTATIC, IdReadOnly, field},
-        {WM_CTLCOLORSTATIC, IdLabel, label},
-        {WM_CTLCOLORDLG, 0, panel},
-    };
-    for (const auto& [message, id, look] : cases)
+    for (const auto& [message, id, text, ground, brush] : cases)
     {
         SCOPED_TRACE(testing::Message() << message << ' ' << id);
         CDC dc;
         dc.CreateCompatibleDC(nullptr);
         const HWND control = id == 0 ? dialog.m_hWnd : ::GetDlgItem(dialog, id);
-        EXPECT_NE(AskColors(dialog, message, dc, control), look.brush);
+        EXPECT_NE(AskColors(dialog, message, dc, control), brush);
         EXPECT_NE(dc.GetTextColor(), RGB(230, 230, 230)) << "the platform's in its mode";
         const COLORREF before = dc.GetBkColor();
         const ModeScope mode(EFB);
-        EXPECT_EQ(AskColors(dialog, message, dc, control), look.brush);
-        EXPECT_EQ(dc.GetTextColor(), look.text);
-        EXPECT_EQ(dc.GetBkColor(), look.ground == CLR_INVALID ? before : look.ground);
+        EXPECT_EQ(AskColors(dialog, message, dc, control), brush);
+        EXPECT_EQ(dc.GetTextColor(), text);
+        EXPECT_EQ(dc.GetBkColor(), ground == CLR_INVALID ? before : ground);
         EXPECT_EQ(dc.GetBkMode(), id == IdLabel ? TRANSPARENT : OPAQUE);
-        EXPECT_EQ(dc.GetCurrentFont() == &CCustomDialog::m_OBStaticTextFont, id == IdLabel);
+        EXPECT_EQ(dc.GetCurrentFont() == &D::m_OBStaticTextFont, id == IdLabel);
     }
 }
 

@@ -275,7 +275,7 @@ TEST_F(MessageBoxTest, BadInputHasADefinedResult)
 TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
 {
     auto* box = new Fenced<Box>(Lines(3), MB_YESNOCANCEL, &Host());
-    auto button = std::make_unique<Acting<CCustomPushbutton>>();
+    auto button = std::make_unique<Fenced<Acting<CCustomPushbutton>>>();
     button->Attach(box->Button(0).Detach());
     button->ActIn(BM_SETSTYLE, [&] { delete std::exchange(box, nullptr); });
     box->m_buttons[0] = std::move(button);

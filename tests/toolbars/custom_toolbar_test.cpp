@@ -23,7 +23,7 @@ public:
 
     OrderedBar(CWnd& parent, const std::vector<Button>& buttons)
     {
-        EXPECT_TRUE(CreateEx(&parent, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE));
+        EXPECT_TRUE(CreateEx(&parent, TBSTYLE_FLAT | TBSTYLE_LIST, WS_CHILD | WS_VISIBLE));
         for (const Button& button : buttons)
         {
             TBBUTTON made = {};
@@ -31,6 +31,7 @@ public:
             made.iBitmap = button.image;
             made.fsStyle = button.style;
             made.fsState = button.state;
+            made.iString = INT_PTR("Direct to");
             SendMessage(TB_ADDBUTTONS, 1, LPARAM(&made));
         }
         SetWindowPos(nullptr, 0, 0, 780, 60, SWP_NOZORDER);
@@ -152,15 +153,7 @@ TEST_F(CustomToolbarTest, AButtonDoesWhatItNowStandsForUnlessTheBarRefuses)
 
 TEST_F(CustomToolbarTest, IsDarkWithLightTextsOnBoardWhateverStandsBehindIt)
 {
-    CustomToolbar bar;
-    ASSERT_TRUE(bar.CreateEx(&Host(), TBSTYLE_FLAT | TBSTYLE_LIST, WS_CHILD | WS_VISIBLE));
-    TBBUTTON button = {};
-    button.iBitmap = I_IMAGENONE;
-    button.idCommand = 1;
-    button.fsState = TBSTATE_ENABLED;
-    button.iString = INT_PTR("Direct to");
-    bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
-    bar.SetWindowPos(nullptr, 0, 0, 200, 40, SWP_NOZORDER);
+    OrderedBar bar(Host(), {{1, I_IMAGENONE}});
     const auto shows = [&](COLORREF color) {
         bar.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
         PumpAll();
