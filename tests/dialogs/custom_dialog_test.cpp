@@ -195,7 +195,7 @@ TEST_F(CustomDialogTest, AModeThatAControlChangesOnTheWayComesToAllInOrder)
             EXPECT_EQ(fonts.front(), dialog.SendMessage(WM_GETFONT)) << "of the label";
             fonts.front() = fonts.back() = 0; // of a dialog, each has its own
         }
-        const std::pair told(ChildPlaces(dialog), fonts);
+        std::pair told(ChildPlaces(dialog), fonts);
         COnBoardUIGeneral::SetAppMode(STD);
         return told;
     };

@@ -180,19 +180,6 @@ std::vector<int> ComboHeights(const CWnd& window)
 TEST_F(FormWindowsTest, CombosAreAsHighHoweverTheirWindowReachesTheMode)
 {
     CCustomDropListCombo::RegisterWndClass(nullptr);
-    struct Owner : CCustomDialog // of the combos' objects
-    {
-        CCustomDropListCombo combos[3];
-        Owner()
-            : CCustomDialog(0U, nullptr)
-        {}
-        void DoDataExchange(CDataExchange* exchange) override
-        {
-            DDX_Control(exchange, IDC_TEST_TIGHT, combos[0]);
-            DDX_Control(exchange, IDC_TEST_ROOMY, combos[1]);
-            DDX_Control(exchange, IDC_TEST_BOXED, combos[2]);
-        }
-    };
     std::vector<int> standard;
     std::vector<int> onBoard;
     const auto use = [&](CWnd& window) {
@@ -221,13 +208,18 @@ TEST_F(FormWindowsTest, CombosAreAsHighHoweverTheirWindowReachesTheMode)
     for (const APPMODE opened : {STD, ONBOARD})
     {
         SCOPED_TRACE(opened);
-        CCustomDialog dialog(0U, nullptr);
-        Owner owner;
-        for (CCustomDialog* const each : {&dialog, static_cast<CCustomDialog*>(&owner)})
+        CCustomDropListCombo combos[3];
+        DialogForTests dialogs[2]; // one with objects of the combos
+        dialogs[1].beforeInit = [&] {
+            combos[0].SubclassDlgItem(IDC_TEST_TIGHT, &dialogs[1]);
+            combos[1].SubclassDlgItem(IDC_TEST_ROOMY, &dialogs[1]);
+            combos[2].SubclassDlgItem(IDC_TEST_BOXED, &dialogs[1]);
+        };
+        for (DialogForTests& dialog : dialogs)
         {
             const ModeScope scope(opened);
-            ASSERT_TRUE(each->Create(IDD_TEST_COMBOS, &Host()));
-            use(*each);
+            ASSERT_TRUE(dialog.Create(IDD_TEST_COMBOS, &Host()));
+            use(dialog);
         }
         const ModeScope scope(opened);
         View view(IDD_TEST_COMBOS);

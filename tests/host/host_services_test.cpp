@@ -5,14 +5,6 @@
 
 #include <vector>
 
-// This host's own side of the types that the library only hands on.
-class PIUID
-{};
-class MiscFtrInfo
-{};
-class KESSPLITTERWND::CPanesConfigurationEntry
-{};
-
 namespace {
 template <class Provider> struct Plain : Provider
 {

@@ -185,7 +185,6 @@ TEST_F(AppModeTest, WindowsAndChangesThatComeDuringAChangeHaveTheirTurn)
     // goes through that change after all others.
     EXPECT_EQ(journal, Journal{});
     EXPECT_EQ(modes, (std::vector<APPMODE>{ONBOARD, EFB}));
-    EXPECT_EQ(COnBoardUIGeneral::GetAppMode(), EFB);
     // Widened first and narrowed then: the other order gives 168.
     EXPECT_EQ(WindowRectOf(last->probe).Width(), 169);
     journal.clear();
