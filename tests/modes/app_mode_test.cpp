@@ -61,7 +61,7 @@ protected:
     // A mode-aware window with a probe on it.
     template <class Window> struct Aware
     {
-        Window window{1U, 0};
+        Window window{1U, {}};
         Probe probe;
     };
 

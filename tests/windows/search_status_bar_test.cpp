@@ -29,15 +29,12 @@ public:
     CString Text() const { return GetText(0); }
 };
 
-class SearchStatusBarTest : public WindowTest
-{
-protected:
-    Bar& AddBar() { return Add<Bar>(CRect(0, 0, 300, 20)); }
-};
+using SearchStatusBarTest = WindowTest;
+const CRect Place(0, 0, 300, 20);
 
 TEST_F(SearchStatusBarTest, ASearchGainsADotEachSecond)
 {
-    Bar& bar = AddBar();
+    Bar& bar = Add<Bar>(Place);
     const DWORD start = ::GetTickCount();
     bar.StartSearchProgress();
     ASSERT_TRUE(PumpUntil([&] { return bar.Text() == "Searching. ."; }));
@@ -46,7 +43,7 @@ TEST_F(SearchStatusBarTest, ASearchGainsADotEachSecond)
 
 TEST_F(SearchStatusBarTest, TheDotsBeginAgainAfterFiveAndGoOnWithTheNextSearch)
 {
-    Bar& bar = AddBar();
+    Bar& bar = Add<Bar>(Place);
     bar.m_period = 10;
     std::vector<CString> seen;
     const auto see = [&](size_t count) {
@@ -75,7 +72,7 @@ TEST_F(SearchStatusBarTest, TheDotsBeginAgainAfterFiveAndGoOnWithTheNextSearch)
 TEST_F(SearchStatusBarTest, LoadingStandsStillAndLetsNoSearchBegin)
 {
     const ModeScope scope(ONBOARD);
-    Bar& bar = AddBar();
+    Bar& bar = Add<Bar>(Place);
     bar.m_period = 10;
     bar.timersAtPainting.clear();
     bar.StartLoadingProgress();
