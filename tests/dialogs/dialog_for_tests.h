@@ -47,7 +47,6 @@ public:
     using CCustomDialog::m_captionHeight;
     using CCustomDialog::m_centredTitle;
     using CCustomDialog::m_hasModalChild;
-    using CCustomDialog::m_showEntire;
     using CCustomDialog::SetCtrlTabOrder;
 
 protected:

@@ -9,8 +9,6 @@ namespace {
 constexpr WORD ButtonClass = 0x0080;
 constexpr WORD EditClass = 0x0081;
 constexpr WORD StaticClass = 0x0082;
-constexpr WORD ListBoxClass = 0x0083;
-constexpr WORD ComboClass = 0x0085;
 
 // Fields of templates in all the ways that the formats allow.
 std::vector<DialogTemplate> AllKinds()
@@ -18,21 +16,21 @@ std::vector<DialogTemplate> AllKinds()
     std::vector<DialogTemplate> kinds;
     for (const bool extended : {false, true})
     {
-        std::vector<DialogTemplate::Header> headers(4);
-        headers[0].points = 0;
-        headers[0].menu = WORD(77);
-        headers[0].windowClass = WORD(0x8002); // the platform's dialog class
-        headers[0].style |= WS_THICKFRAME;
-        headers[1].points = 14;
-        headers[1].face = "Arial";
-        headers[2].style |= DS_FIXEDSYS | DS_MODALFRAME;
-        headers[2].face = "MS Shell Dlg";
-        headers[3].windowClass = "#32770";
-        headers[3].style = WS_POPUP;
-        headers[3].title = "";
-        for (DialogTemplate::Header& header : headers)
+        constexpr DWORD Style = WS_POPUP | WS_CAPTION | WS_SYSMENU;
+        const DialogTemplate::Header headers[] = {
+            {.extended = extended,
+             .style = Style | WS_THICKFRAME,
+             .menu = WORD(77),
+             .windowClass = WORD(0x8002), // the platform's dialog class
+             .points = 0},
+            {.extended = extended, .points = 14, .face = "Arial"},
+            {.extended = extended,
+             .style = Style | DS_FIXEDSYS | DS_MODALFRAME,
+             .face = "MS Shell Dlg"},
+            {.extended = extended, .style = WS_POPUP, .windowClass = "#32770", .title = ""},
+        };
+        for (const DialogTemplate::Header& header : headers)
         {
-            header.extended = extended;
             DialogTemplate bytes(header);
             bytes.Add(ButtonClass, "Odd", WS_TABSTOP, CRect(7, 9, 50, 23), 101)
                 .Add(EditClass, "", WS_BORDER, CRect(7, 30, 103, 43), 102, {0x1234, 0x5678, 0x9ABC})
@@ -80,8 +78,8 @@ TEST_F(DialogTemplateTest, OpeningOnBoardAndSwitchingThereAgree)
 {
     DialogTemplate bytes(DialogTemplate::Header{});
     bytes
-        .Add(ListBoxClass, "", WS_VSCROLL, CRect(5, 5, 60, 62), 101) // whole rows only
-        .Add(ComboClass, "", CBS_DROPDOWNLIST, CRect(70, 5, 130, 80), 102)
+        .Add("ListBox", "", WS_VSCROLL, CRect(5, 5, 60, 62), 101) // whole rows only
+        .Add("ComboBox", "", CBS_DROPDOWNLIST, CRect(70, 5, 130, 80), 102)
         .Add(ButtonClass, "OK", 0, CRect(0, 0, 1, 1), 103)
         .Add(StaticClass, "", 0, CRect(-9, -5, 3000, 0), 104);
     DialogForTests switched(bytes, Host());
