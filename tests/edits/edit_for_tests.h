@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+constexpr DWORD ManyLines = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;
+
 // An edit that lets a test see its bar.
 class EditForTests : public CCustomEdit
 {
@@ -48,9 +50,17 @@ public:
     }
 
     CPoint PartPoint(CFauxScrollBar::ePRESSED part) { return ::PartPoint(*this, m_bar, part); }
-};
 
-constexpr DWORD ManyLines = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;
+    // What the tests of all controls with bars of their own ask for.
+    static constexpr DWORD BothBarsStyle = ManyLines;
+    static constexpr int SureWait = 60; // milliseconds without a repeat of a held arrow
+    static constexpr bool HoldsElsewhere = true;
+    CFauxScrollBar& Bar(int) { return m_bar; }
+    bool IsBarPressed() const { return m_scrolling; }
+    int TopRow() const { return GetFirstVisibleLine(); }
+    int LastTopRow() const { return GetLineCount() - VisibleLines(); }
+    void FillBothWays(int lines) { Fill(lines); }
+};
 
 // An edit with the border of dialog templates, made as hosts make it.
 class EdgedEdit : public EditForTests

@@ -1,6 +1,7 @@
-// Real presses, holds, drags and turns on the bars that lists draw themselves: what the list box
-// and the report list have in common.
+// Real presses, holds, drags and turns on the bars that controls draw themselves: what the list
+// box, the report list and the edit have in common.
 
+#include "edits/edit_for_tests.h"
 #include "listctrl/list_for_tests.h"
 #include "lists/list_box_for_tests.h"
 
@@ -27,10 +28,17 @@ protected:
     }
 };
 
-using Lists = testing::Types<ListBoxForTests, ListForTests>;
-TYPED_TEST_SUITE(OwnBars, Lists);
+using Controls = testing::Types<ListBoxForTests, ListForTests, EditForTests>;
+TYPED_TEST_SUITE(OwnBars, Controls);
 
-TYPED_TEST(OwnBars, FrameBandsAndCornerArePainted)
+// Those with a bar each way.
+template <class List> class TwoOwnBars : public OwnBars<List>
+{};
+
+using Lists = testing::Types<ListBoxForTests, ListForTests>;
+TYPED_TEST_SUITE(TwoOwnBars, Lists);
+
+TYPED_TEST(TwoOwnBars, FrameBandsAndCornerArePainted)
 {
     auto& list = this->AddList();
     const Pixels seen = WindowPixels(list);
@@ -52,7 +60,32 @@ TYPED_TEST(OwnBars, FrameBandsAndCornerArePainted)
     EXPECT_LT(WindowPixels(list).Count(palette::Trough, list.Bar(SB_VERT).GetArea()), 1000);
 }
 
-TYPED_TEST(OwnBars, ArrowsTroughsAndWheelScrollInEveryOnBoardMode)
+// What a thumb across, its arrows and the wheel do.
+TYPED_TEST(TwoOwnBars, ScrollSidewaysAndByTheWheel)
+{
+    auto& list = this->AddList();
+    const CFauxScrollBar& across = list.Bar(SB_HORZ);
+    Click(list.PartPoint(Second, SB_HORZ));
+    EXPECT_EQ(across.GetScrollPos(), 1);
+    Wheel(-WHEEL_DELTA * 5);
+    EXPECT_EQ(list.TopRow(), 1) << "a turn of any size is one row";
+    Wheel(WHEEL_DELTA);
+    EXPECT_EQ(list.TopRow(), 0);
+    Click(list.PartPoint(First, SB_HORZ));
+    EXPECT_EQ(across.GetScrollPos(), 0);
+    const CRect area = across.GetArea();
+    Drag(list.PartPoint(Thumb, SB_HORZ),
+         WindowPoint(list, CPoint(area.right - 3, area.CenterPoint().y)), 1);
+    EXPECT_EQ(across.GetScrollPos(), RangeOf(across).y);
+    Drag(list.PartPoint(Thumb, SB_HORZ), WindowPoint(list, CPoint(3, area.CenterPoint().y)));
+    EXPECT_EQ(across.GetScrollPos(), 0);
+    MoveTo(list.PartPoint(Second, SB_HORZ));
+    Press();
+    EXPECT_TRUE(PumpUntil([&] { return across.GetScrollPos() >= 3; })) << "held";
+    Release();
+}
+
+TYPED_TEST(OwnBars, ArrowsAndTroughsScrollInEveryOnBoardMode)
 {
     for (const APPMODE mode : {FULLSCREEN, ONBOARD, EFB, EFBFS})
     {
@@ -74,14 +107,6 @@ TYPED_TEST(OwnBars, ArrowsTroughsAndWheelScrollInEveryOnBoardMode)
             Click(list.PartPoint(click.part));
             EXPECT_EQ(list.TopRow(), click.top) << click.part;
         }
-        Wheel(-WHEEL_DELTA * 5);
-        EXPECT_EQ(list.TopRow(), 2) << "a turn of any size is one row";
-        Wheel(WHEEL_DELTA);
-        EXPECT_EQ(list.TopRow(), 1);
-        Click(list.PartPoint(Second, SB_HORZ));
-        EXPECT_EQ(list.Bar(SB_HORZ).GetScrollPos(), 1);
-        Click(list.PartPoint(First, SB_HORZ));
-        EXPECT_EQ(list.Bar(SB_HORZ).GetScrollPos(), 0);
         this->Remove(list);
     }
 }
@@ -93,6 +118,10 @@ TYPED_TEST(OwnBars, AHeldArrowWaitsThenRepeatsToTheEndAndATroughDoesNot)
     EXPECT_EQ(list.TopRow(), 1);
     PumpFor(TypeParam::SureWait);
     EXPECT_EQ(list.TopRow(), 1) << "not before its time";
+    if (TypeParam::HoldsElsewhere)
+    {
+        MoveTo(this->Away);
+    }
     const int end = list.LastTopRow();
     ASSERT_TRUE(PumpUntil([&] { return list.TopRow() == end; }, 6000));
     PumpFor(300);
@@ -100,11 +129,6 @@ TYPED_TEST(OwnBars, AHeldArrowWaitsThenRepeatsToTheEndAndATroughDoesNot)
     Release();
     PumpFor(200);
     EXPECT_FALSE(list.IsBarPressed());
-    // Sideways too; and a held trough pages once.
-    MoveTo(list.PartPoint(Second, SB_HORZ));
-    Press();
-    EXPECT_TRUE(PumpUntil([&] { return list.Bar(SB_HORZ).GetScrollPos() >= 3; }));
-    Release();
     list.SendMessage(WM_VSCROLL, SB_TOP);
     this->PressOn(list, AfterThumb);
     PumpFor(450);
@@ -131,14 +155,6 @@ TYPED_TEST(OwnBars, AThumbIsDraggedRelativelyAndFromEndToEnd)
     EXPECT_FALSE(list.IsBarPressed());
     Drag(list.PartPoint(Thumb), WindowPoint(list, CPoint(track.CenterPoint().x, track.top + 2)));
     EXPECT_EQ(list.TopRow(), 0);
-
-    const CFauxScrollBar& across = list.Bar(SB_HORZ);
-    const CRect area = across.GetArea();
-    Drag(list.PartPoint(Thumb, SB_HORZ),
-         WindowPoint(list, CPoint(area.right - 3, area.CenterPoint().y)), 1);
-    EXPECT_EQ(across.GetScrollPos(), RangeOf(across).y);
-    Drag(list.PartPoint(Thumb, SB_HORZ), WindowPoint(list, CPoint(3, area.CenterPoint().y)));
-    EXPECT_EQ(across.GetScrollPos(), 0);
 }
 
 TYPED_TEST(OwnBars, WhateverCutsAPressOffEndsIt)
@@ -148,6 +164,7 @@ TYPED_TEST(OwnBars, WhateverCutsAPressOffEndsIt)
         {"hidden", [](TypeParam& list) { list.ShowWindow(SW_HIDE); }},
         {"cancelled", [](TypeParam& list) { list.SendMessage(WM_CANCELMODE); }},
         {"standard mode", [](TypeParam& list) { SetMode(STD, list); }},
+        {"another mode", [](TypeParam& list) { SetMode(EFB, list); }},
         {"pointer away", [this](TypeParam& list) {
              MoveTo(this->Away);
              PumpUntil([&] { return !list.IsBarPressed(); });
@@ -158,7 +175,7 @@ TYPED_TEST(OwnBars, WhateverCutsAPressOffEndsIt)
         {
             if (part == Second && row.name == std::string("pointer away"))
             {
-                continue; // the list box's arrow goes on
+                continue; // the arrows of some go on
             }
             SCOPED_TRACE(row.name);
             auto& list = this->AddList();
@@ -170,7 +187,7 @@ TYPED_TEST(OwnBars, WhateverCutsAPressOffEndsIt)
             const int top = list.TopRow();
             MessageLog log(list, {WM_TIMER});
             MoveTo(list.PartPoint(part) + CPoint(0, 25));
-            PumpFor(350);
+            PumpFor(200);
             EXPECT_EQ(log.Count(WM_TIMER), 0);
             EXPECT_EQ(list.TopRow(), top);
             Release();
