@@ -1,9 +1,5 @@
-#include "catalog/DialogTemplate.h"
 #include "edits/edit_for_tests.h"
-#include "support/Acting.h"
 #include "support/Canvas.h"
-
-#include "CustomDialog.h"
 
 #include <tuple>
 
@@ -224,37 +220,15 @@ TEST_F(EditTest, EnteringAModeBringsTextAndBarTogetherOnce)
     auto& plain = Add<CEdit>(CRect(20, 20, 320, 260), ManyLines);
     plain.SetWindowText(EditForTests::Lines(50).c_str());
     plain.SetSel(40, 60);
-    CCustomEdit taker;
+    EditForTests taker;
     ASSERT_TRUE(taker.SubclassWindow(plain.UnsubclassWindow()));
     Repaint(taker);
     EXPECT_EQ(taker.GetSel(), 0U);
+    EXPECT_TRUE(taker.m_barShown);
     taker.SetSel(40, 60);
     SetMode(STD, taker);
+    EXPECT_NE(taker.GetStyle() & WS_VSCROLL, 0U);
     SetMode(ONBOARD, taker);
     EXPECT_EQ(taker.GetSel(), DWORD(MAKELONG(40, 60)));
     taker.DestroyWindow();
-}
-
-TEST_F(EditTest, AnEditOfATemplateFollowsItsDialog)
-{
-    DialogTemplate form(CRect(0, 0, 200, 160), WS_POPUP | WS_CAPTION | WS_VISIBLE);
-    form.Add("Edit", "", ManyLines | WS_BORDER, CRect(10, 10, 110, 100), 101);
-    for (const APPMODE born : {STD, EFB})
-    {
-        SCOPED_TRACE(APPMODE_NAMES[born]);
-        COnBoardUIGeneral::SetAppMode(born);
-        Acting<CCustomDialog> dialog(0U, nullptr);
-        EditForTests edit;
-        dialog.ActIn(WM_INITDIALOG, [&] { ASSERT_TRUE(edit.SubclassDlgItem(101, &dialog)); });
-        ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-        edit.Fill(80);
-        for (const APPMODE mode : {ONBOARD, STD, EFBFS, STD})
-        {
-            COnBoardUIGeneral::SetAppMode(mode);
-            PumpAll();
-            EXPECT_EQ(edit.m_barShown, mode != STD);
-            EXPECT_EQ((edit.GetStyle() & WS_VSCROLL) == 0, mode != STD);
-        }
-        dialog.DestroyWindow();
-    }
 }

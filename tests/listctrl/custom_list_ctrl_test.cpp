@@ -82,18 +82,17 @@ TEST_F(ListCtrlOnBoard, TheLastColumnFillsTheList)
 TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
 {
     auto& list = AddList(100, 8, ReportStyle, CRect(20, 20, 400, 400));
-    const auto keep = [&](int rows) {
-        while (list.GetItemCount() > rows)
-        {
-            list.DeleteItem(0);
-        }
-    };
     const Act<> changes[] = {
-        {"made", [] {}},
         {"scrolled to the end",
          [&] { list.PerformVScroll(SB_BOTTOM), list.PerformHScroll(SB_RIGHT); }},
         {"last row deleted", [&] { list.DeleteItem(99); }},
-        {"rows deleted", [&] { keep(39); }},
+        {"rows deleted",
+         [&] {
+             while (list.GetItemCount() > 39)
+             {
+                 list.DeleteItem(0);
+             }
+         }},
         {"row inserted", [&] { list.InsertItem(20, "new"); }},
         {"column resized", [&] { list.SetColumnWidth(3, 400); }},
         {"column removed", [&] { list.DeleteColumn(2); }},
@@ -178,40 +177,31 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
 
 // Modes ------------------------------------------------------------------------------------------
 
-TEST_F(ListCtrlTest, SwitchingModesKeepsTopRowAndSelectionInSight)
+TEST_F(ListCtrlTest, SwitchingModesKeepsTheTopRowOrTheSelectionInSight)
 {
     auto& list = AddList(300, 3, ReportStyle, CRect(20, 20, 420, 320));
-    list.EnsureVisible(299, FALSE);
-    list.EnsureVisible(40, FALSE);
-    ASSERT_EQ(list.GetTopIndex(), 40);
+    list.Scroll(CSize(0, 40 * list.RowHeight()));
     list.SetItemState(44, 3, 3);
-    for (const APPMODE mode : {ONBOARD, EFB, STD, FULLSCREEN, STD})
+    // As a dialog restyles it; in the end there is too little room for both.
+    for (const auto& [mode, height] :
+         {std::pair(ONBOARD, 510), {EFB, 510}, {STD, 300}, {FULLSCREEN, 510}, {ONBOARD, 130}})
     {
         SCOPED_TRACE(APPMODE_NAMES[mode]);
-        const auto top = [&] { return mode == STD ? list.GetTopIndex() : list.TopRow(); };
         SetMode(mode, list);
-        EXPECT_EQ(top(), 40);
-        // As a dialog restyles it.
         list.SetFont(mode == STD ? &CCustomListCtrl::GetStdFont()
                                  : &CCustomListCtrl::GetOnBoardFont());
-        list.MoveWindow(20, 20, 400, mode == STD ? 300 : 510);
+        list.MoveWindow(20, 20, 400, height);
         PumpAll();
-        EXPECT_EQ(top(), 40);
+        const int top = mode == STD ? list.GetTopIndex() : list.TopRow();
+        EXPECT_TRUE(height == 130 ? top <= 44 : top == 40) << top;
         EXPECT_EQ(list.Selected(), std::set<int>{44});
         EXPECT_EQ((list.GetStyle() & WS_VSCROLL) != 0, mode == STD);
         if (mode != STD)
         {
+            EXPECT_LE(list.RowPoint(44).y, ClientRectOf(list).bottom);
             list.ExpectInStep("in this mode");
         }
     }
-    EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
-    // Too little room for both: the selection stays in sight.
-    COnBoardUIGeneral::SetAppMode(ONBOARD);
-    list.SetFont(&CCustomListCtrl::GetOnBoardFont());
-    list.MoveWindow(20, 20, 400, 130);
-    PumpAll();
-    EXPECT_LE(list.TopRow(), 44);
-    EXPECT_LE(list.RowPoint(44).y, ClientRectOf(list).bottom);
     COnBoardUIGeneral::SetAppMode(STD);
 }
 
@@ -247,7 +237,6 @@ TEST_F(ListCtrlOnBoard, OneObjectServesSeveralWindowsOneAfterTheOther)
         EXPECT_EQ(static_cast<void*>(list.GetScrollBarCtrl(SB_HORZ)), &list.m_hBar);
         const HWND header = list.m_header;
         const HWND window = list.UnsubclassWindow();
-        EXPECT_EQ(header, ::GetDlgItem(window, 0));
         EXPECT_TRUE(::IsWindow(header));
         ::DestroyWindow(window);
     }

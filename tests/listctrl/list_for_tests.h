@@ -105,7 +105,7 @@ public:
     // What the tests of all controls with bars of their own ask for.
     static constexpr DWORD BothBarsStyle = ReportStyle;
     static constexpr COLORREF Corner = palette::ListCorner;
-    static constexpr int SureWait = 200; // milliseconds without a repeat of a held arrow
+    static constexpr int SureWait = 200;          // milliseconds without a repeat of a held arrow
     static constexpr bool HoldsElsewhere = false; // with the pointer away
     CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
     bool IsBarPressed() const { return m_pressed; }

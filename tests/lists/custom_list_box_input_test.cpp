@@ -2,35 +2,8 @@
 
 #include "lists/list_box_for_tests.h"
 #include "support/Acting.h"
-#include "support/Fenced.h"
 
 using namespace parts;
-
-TEST_F(ListBoxOnBoard, AHeldArrowRepeatsAlsoWithThePointerElsewhere)
-{
-    auto& list = AddList(500);
-    MoveTo(list.PartPoint(Second));
-    Press();
-    MoveTo(ClientPoint(Host(), CPoint(600, 500)));
-    ASSERT_TRUE(PumpUntil([&] { return list.GetTopIndex() >= 3; }));
-    Release();
-    PumpFor(160);
-    const int released = list.GetTopIndex();
-    PumpFor(300);
-    EXPECT_EQ(list.GetTopIndex(), released);
-    EXPECT_FALSE(list.m_tracking);
-    // The least turn of a wheel is a row.
-    MoveTo(list.PartPoint(Second));
-    Wheel(1);
-    EXPECT_EQ(list.GetTopIndex(), released - 1);
-    // Another on-board mode ends a press.
-    Press();
-    SetMode(EFB, list);
-    EXPECT_FALSE(list.m_tracking);
-    PumpFor(200);
-    EXPECT_EQ(list.GetTopIndex(), released);
-    Release();
-}
 
 TEST_F(ListBoxOnBoard, WithoutABarTheRowsAreThePlatformsToScroll)
 {
@@ -90,6 +63,10 @@ TEST_F(ListBoxOnBoard, KeysMoveSelectionRowsAndBarTogether)
         EXPECT_LT(row.top, ClientRectOf(list).bottom) << key;
         EXPECT_EQ(list.m_vBar.GetScrollPos(), list.GetTopIndex()) << key;
     }
+    const int top = list.GetTopIndex();
+    MoveTo(ClientPoint(list, CPoint(30, 100)));
+    Wheel(-1);
+    EXPECT_EQ(list.GetTopIndex(), top + 1) << "the least turn of a wheel is a row";
 }
 
 TEST_F(ListBoxOnBoard, TheBarFollowsASelectionDraggedPastTheEdge)
@@ -127,17 +104,5 @@ TEST_F(ListBoxOnBoard, AListMayBeEmptiedOrDestroyedWhileItIsWorked)
             EXPECT_EQ(list.GetSafeHwnd() == nullptr, destroy);
             Remove(list);
         }
-    }
-}
-
-TEST_F(ListBoxOnBoard, AParentMayDeleteTheListInItsNotification)
-{
-    for (const bool byKey : {true, false})
-    {
-        auto& list = AddList<Fenced<ListBoxForTests>>(300);
-        list.SetFocus();
-        const OnceTold end(Host(), LBN_SELCHANGE, [&] { Remove(list); });
-        byKey ? TypeKey(VK_DOWN) : Click(ClientPoint(list, CPoint(30, 30)));
-        EXPECT_TRUE(bool(end)) << byKey;
     }
 }

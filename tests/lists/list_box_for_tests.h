@@ -52,7 +52,7 @@ public:
     // What the tests of all controls with bars of their own ask for.
     static constexpr DWORD BothBarsStyle = WideListStyle;
     static constexpr COLORREF Corner = palette::Panel;
-    static constexpr int SureWait = 80; // milliseconds without a repeat of a held arrow
+    static constexpr int SureWait = 80;          // milliseconds without a repeat of a held arrow
     static constexpr bool HoldsElsewhere = true; // with the pointer away
     CFauxScrollBar& Bar(int axis) { return axis == SB_VERT ? m_vBar : m_hBar; }
     bool IsBarPressed() const { return m_tracking; }
