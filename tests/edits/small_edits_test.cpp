@@ -209,7 +209,10 @@ TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidthAndKnowsOfEscape)
         edit.MoveWindow(200, 200, 500, 44);
         EXPECT_EQ(WindowRectOf(edit), CRect(host.TopLeft() + CPoint(40, 30), CSize(width, 44)));
     }
+    edit.SetWindowText("ab");
     edit.SetFocus();
+    edit.SetSel(0, -1);
+    edit.Copy();
     for (const UINT key : {UINT(VK_ESCAPE), UINT('V')})
     {
         TypeKey(key);

@@ -78,24 +78,19 @@ TEST_F(ListCtrlOnBoard, AHeadingStandsInItsItemBesideItsArrow)
 {
     auto& list = AddList(3, 3, ReportStyle, CRect(20, 20, 620, 220));
     constexpr int Item = 1;
-    // The text's room within the item: from 4 pixels on, and clear of an arrow by 23.
-    const struct
-    {
-        int format;
-        double place; // in its room: 0 at the left, 1 at the right
-        int reserved;
-    } headings[] = {{HDF_LEFT, 0, 0},
-                    {HDF_CENTER, 0.5, 0},
-                    {HDF_RIGHT, 1, 0},
-                    {HDF_RIGHT | HDF_SORTUP, 1, 23},
-                    {HDF_CENTER | HDF_SORTDOWN, 0.5, 23}};
-    for (const auto& heading : headings)
+    // The text's room within the item: from 4 pixels on, and clear of an arrow by 23. Its place
+    // there is 0 at the left and 1 at the right.
+    for (const auto& [format, place, reserved] : {std::tuple(HDF_LEFT, 0.0, 0),
+                                                  {HDF_CENTER, 0.5, 0},
+                                                  {HDF_RIGHT, 1.0, 0},
+                                                  {HDF_RIGHT | HDF_SORTUP, 1.0, 23},
+                                                  {HDF_CENTER | HDF_SORTDOWN, 0.5, 23}})
     {
         char text[] = "HH";
         HDITEM data = {};
         data.mask = HDI_FORMAT | HDI_TEXT;
         data.pszText = text;
-        data.fmt = HDF_STRING | heading.format;
+        data.fmt = HDF_STRING | format;
         list.m_header.SetItem(Item, &data);
         Repaint(list.m_header);
         const CRect item = list.ColumnRect(Item);
@@ -110,8 +105,8 @@ TEST_F(ListCtrlOnBoard, AHeadingStandsInItsItemBesideItsArrow)
                 last = x;
             }
         }
-        const double free = item.Width() - 4 - heading.reserved - (last + 1 - first);
-        EXPECT_NEAR(first, item.left + 4 + heading.place * free, 3) << heading.format;
+        const double free = item.Width() - 4 - reserved - (last + 1 - first);
+        EXPECT_NEAR(first, item.left + 4 + place * free, 3) << format;
     }
 }
 
@@ -362,16 +357,11 @@ TEST_F(ListCtrlOnBoard, TheHotDividerIsNextToTheItemUnderThePoint)
 {
     auto& list = AddList(10, 4);
     CCustomListCtrlHdr& header = list.m_header;
-    const struct
+    for (const auto& [x, scrolled, divider] :
+         {std::tuple(20, 0, 0), {90, 0, 1}, {-5, 0, -1}, {50, -100, 1}}) // then column 1 is at 2
     {
-        int x;
-        int scrolled;
-        int divider;
-    } points[] = {{20, 0, 0}, {90, 0, 1}, {-5, 0, -1}, {50, -100, 1}}; // then column 1 begins at 2
-    for (const auto& point : points)
-    {
-        header.OBScrollHeader(point.scrolled, TRUE);
-        EXPECT_EQ(header.SetHotDivider(CPoint(point.x, 5)), point.divider) << point.x;
+        header.OBScrollHeader(scrolled, TRUE);
+        EXPECT_EQ(header.SetHotDivider(CPoint(x, 5)), divider) << x;
     }
     header.OBResetScroll(TRUE);
     EXPECT_EQ(HeaderAccess::Offset(header), CPoint(0, 0));

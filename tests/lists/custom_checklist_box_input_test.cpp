@@ -8,29 +8,25 @@ using testing::ElementsAre;
 
 TEST_F(CheckListTest, AClickOnTheCheckChangesItAndOneBesideItOnlySelects)
 {
-    const struct
-    {
-        UINT style;
-        std::vector<int> checks; // after each click
-        int told;
-    } table[] = {{BS_CHECKBOX, {0, 0, 0}, 0},
-                 {BS_AUTOCHECKBOX, {1, 0, 1}, 3},
-                 {BS_3STATE, {0, 0, 0}, 0},
-                 {BS_AUTO3STATE, {1, 2, 0}, 3}};
+    // The style, the checks after each click, and how many are told.
+    const std::tuple<UINT, std::vector<int>, int> table[] = {{BS_CHECKBOX, {0, 0, 0}, 0},
+                                                             {BS_AUTOCHECKBOX, {1, 0, 1}, 3},
+                                                             {BS_3STATE, {0, 0, 0}, 0},
+                                                             {BS_AUTO3STATE, {1, 2, 0}, 3}};
     for (const APPMODE mode : {STD, EFBFS})
     {
         const ModeScope scope(mode);
-        for (const auto& row : table)
+        for (const auto& [style, checks, told] : table)
         {
-            SCOPED_TRACE(testing::Message() << APPMODE_NAMES[mode] << " style " << row.style);
-            auto& list = AddList(4, row.style);
+            SCOPED_TRACE(testing::Message() << APPMODE_NAMES[mode] << " style " << style);
+            auto& list = AddList(4, style);
             Host().Forget();
-            for (const int check : row.checks)
+            for (const int check : checks)
             {
                 Click(list.CheckPoint(1)); // fast: the second one is a double click
                 EXPECT_EQ(list.GetCheck(1), check);
             }
-            EXPECT_EQ(Told(list), row.told);
+            EXPECT_EQ(Told(list), told);
             EXPECT_EQ(list.GetCurSel(), 1);
 
             const std::vector<int> before = list.Checks();
@@ -44,7 +40,7 @@ TEST_F(CheckListTest, AClickOnTheCheckChangesItAndOneBesideItOnlySelects)
             // Below the last row there is nothing to be changed.
             Click(list.CheckPoint(3) + CPoint(0, list.GetItemHeight(0)));
             EXPECT_EQ(list.Checks(), before);
-            EXPECT_EQ(Told(list), row.told);
+            EXPECT_EQ(Told(list), told);
             Remove(list);
         }
     }

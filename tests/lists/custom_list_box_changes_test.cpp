@@ -47,22 +47,6 @@ TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
     EXPECT_TRUE(list.m_hBarNeeded);
     EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
     EXPECT_TRUE(LeftOfRows(list) == onBoard);
-    // The bar goes with the row that was too wide, and home with all rows.
-    list.DeleteString(4);
-    EXPECT_FALSE(list.m_hBarNeeded);
-    list.AddString(WideText);
-    list.ScrollTo(SB_HORZ, 20);
-    list.ResetContent();
-    list.Fill(3);
-    list.AddString(WideText);
-    EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
-    EXPECT_TRUE(LeftOfRows(list) == onBoard);
-    // Another font leaves rows and bar in the same place.
-    list.ScrollTo(SB_HORZ, 20);
-    list.SetFont(&CCustomListBox::GetOnBoardFont());
-    const Pixels scrolled = LeftOfRows(list);
-    list.ScrollTo(SB_HORZ, 20);
-    EXPECT_TRUE(LeftOfRows(list) == scrolled);
     SetMode(STD, list);
 }
 
@@ -84,6 +68,10 @@ TEST_F(ListBoxTest, ColumnsStayWhereTheyAreAndAreCountedAnew)
     const CPoint wide = RangeOf(list.m_hBar);
     list.SetColumnWidth(45);
     EXPECT_LT(RangeOf(list.m_hBar).y, wide.y);
+    list.SendMessage(WM_HSCROLL, SB_RIGHT);
+    list.MoveWindow(20, 20, 1400, 560);
+    EXPECT_FALSE(list.m_hBarNeeded);
+    EXPECT_EQ(list.GetTopIndex(), 0) << "columns left out of sight";
     SetMode(STD, list);
 }
 
@@ -147,58 +135,4 @@ TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
     EXPECT_EQ(HighlightedPixels(list), 0);
     ::DestroyWindow(list.UnsubclassWindow());
     ::DestroyWindow(first);
-}
-
-// Size and content ------------------------------------------------------------------------------
-
-TEST_F(ListBoxOnBoard, RowsAreNotLeftOutOfSightWhenTheirBarGoes)
-{
-    auto& list = AddList(3, WideListStyle);
-    const Pixels unscrolled = LeftOfRows(list);
-    list.SetHorizontalExtent(400);
-    list.SendMessage(WM_HSCROLL, SB_RIGHT);
-    EXPECT_FALSE(LeftOfRows(list) == unscrolled);
-    list.MoveWindow(20, 20, 500, 300);
-    EXPECT_FALSE(list.m_hBarNeeded);
-    EXPECT_TRUE(LeftOfRows(list) == unscrolled);
-    // Nor are rows above the first in sight, or columns before it.
-    list.Fill(27);
-    list.SetTopIndex(29);
-    ASSERT_GT(list.GetTopIndex(), 0);
-    list.MoveWindow(20, 20, 500, 560);
-    EXPECT_FALSE(list.m_vBarNeeded);
-    EXPECT_EQ(list.GetTopIndex(), 0);
-    auto& columns = AddList(60, ColumnsStyle);
-    columns.SetColumnWidth(140);
-    columns.SendMessage(WM_HSCROLL, SB_RIGHT);
-    ASSERT_GT(columns.GetTopIndex(), 0);
-    columns.MoveWindow(20, 20, 780, 500);
-    EXPECT_FALSE(columns.m_hBarNeeded);
-    EXPECT_EQ(columns.GetTopIndex(), 0);
-    Remove(columns);
-    list.MoveWindow(20, 20, 500, 300);
-    // Wider, but not as wide as the rows: the bar goes back, and the rows with it.
-    list.SetHorizontalExtent(1000);
-    list.SendMessage(WM_HSCROLL, SB_RIGHT);
-    list.MoveWindow(20, 20, 700, 300);
-    const int end = RangeOf(list.m_hBar).y;
-    EXPECT_EQ(list.m_hBar.GetScrollPos(), end);
-    const Pixels seen = LeftOfRows(list);
-    list.ScrollTo(SB_HORZ, end);
-    EXPECT_TRUE(LeftOfRows(list) == seen);
-}
-
-TEST_F(ListBoxOnBoard, BothBarsGoWhenTheContentFitsWithoutThem)
-{
-    auto& list = AddList(0, WideListStyle);
-    const int width = ClientRectOf(list).Width();
-    list.Fill(list.VisibleRows() + 1);
-    list.SetHorizontalExtent(width + 20);
-    ASSERT_TRUE(list.m_vBarNeeded && list.m_hBarNeeded);
-    // Fits without the bars, but neither way beside one of them.
-    list.SetHorizontalExtent(width - 10);
-    EXPECT_TRUE(list.m_vBarNeeded && list.m_hBarNeeded) << "one row too many";
-    list.DeleteString(0);
-    EXPECT_FALSE(list.m_vBarNeeded || list.m_hBarNeeded);
-    EXPECT_EQ(ClientRectOf(list).Width(), width);
 }

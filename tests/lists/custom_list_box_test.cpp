@@ -4,62 +4,63 @@
 
 // Layout ----------------------------------------------------------------------------------------
 
-TEST_F(ListBoxOnBoard, BandAppearsWithTheRowThatDoesNotFitAndGoesWithIt)
+TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
 {
-    auto& list = AddList(0);
-    const int inset = ::GetSystemMetrics(SM_CXFRAME) - 3 + ::GetSystemMetrics(SM_CXEDGE);
-    EXPECT_EQ(ClientRectOf(list).Width(), 300 - 2 * inset);
-
+    auto& list = AddList(0, WideListStyle);
+    const int width = ClientRectOf(list).Width();
     const int visible = list.VisibleRows();
-    list.Fill(visible);
-    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
-    list.AddString("One more");
-    EXPECT_TRUE(list.m_vBar.ShowScrollBar());
-    EXPECT_EQ(ClientRectOf(list).Width(), 300 - 2 * inset - 52);
-    EXPECT_EQ(RangeOf(list.m_vBar), CPoint(0, 2)); // rows - visible rows + 1
-    EXPECT_EQ(list.m_vBar.GetPageSize(), visible - 1);
-
-    // The bar lies beside the client rectangle and three pixels over its ends.
-    const CRect area = list.m_vBar.GetArea();
-    EXPECT_EQ(area.TopLeft(), CPoint(inset + ClientRectOf(list).Width(), inset - 3));
-    EXPECT_EQ(area.Size(), CSize(55, ClientRectOf(list).Height() + 6));
-
-    list.DeleteString(0);
-    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
-    EXPECT_EQ(ClientRectOf(list).Width(), 300 - 2 * inset);
-    list.Fill(100);
-    list.SetTopIndex(50);
-    list.ResetContent();
-    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
-    EXPECT_EQ(list.m_vBar.GetScrollPos(), 0);
-}
-
-TEST_F(ListBoxOnBoard, BarFollowsEveryWayOfScrollingAndResizing)
-{
-    auto& list = AddList(200);
-    list.MoveWindow(20, 20, 300, 200);
-    EXPECT_EQ(list.m_vBar.GetArea().Height(), ClientRectOf(list).Height() + 6);
-    EXPECT_EQ(list.m_vBar.GetPageSize(), list.VisibleRows() - 1);
-    const int end = 200 - list.VisibleRows();
+    constexpr int End = -1;   // as far as the bar goes
+    constexpr int Stays = -2; // where it is
     const struct
     {
         const char* name;
         std::function<void()> act;
+        const char* bars;
         int top;
-    } ways[] = {
-        {"top index", [&] { list.SetTopIndex(30); }, 30},
-        {"search", [&] { list.SelectString(-1, "Row 7"); }, 7},
-        {"position", [&] { EXPECT_EQ(list.ScrollTo(SB_VERT, 12), 7); }, 12},
-        {"thumb", [&] { list.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 25)); }, 25},
-        {"end", [&] { list.SetTopIndex(199); }, end},
-        {"negative position", [&] { list.ScrollTo(SB_VERT, -5); }, 0},
-        {"huge position", [&] { list.ScrollTo(SB_VERT, INT_MAX); }, end},
+        int across;
+    } changes[] = {
+        {"empty", [] {}, "", 0, 0},
+        {"full", [&] { list.Fill(visible); }, "", 0, 0},
+        {"one more", [&] { list.AddString("One more"); }, "v", 0, 0},
+        {"as wide as without a bar", [&] { list.SetHorizontalExtent(width - 9); }, "vh", 0, 0},
+        {"neither way too large", [&] { list.DeleteString(0); }, "", 0, 0},
+        {"filled", [&] { list.Fill(200 - visible), list.SetHorizontalExtent(0); }, "v", 0, 0},
+        {"lower", [&] { list.MoveWindow(20, 20, 300, 200); }, "v", 0, 0},
+        {"top index", [&] { list.SetTopIndex(30); }, "v", 30, 0},
+        {"search", [&] { list.SelectString(-1, "Row 7"); }, "v", 6, 0},
+        {"position", [&] { EXPECT_EQ(list.ScrollTo(SB_VERT, 12), 6); }, "v", 12, 0},
+        {"thumb", [&] { list.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 25)); }, "v", 25,
+         0},
+        {"end", [&] { list.SetTopIndex(199); }, "v", End, 0},
+        {"negative position", [&] { list.ScrollTo(SB_VERT, -5); }, "v", 0, 0},
+        {"huge position", [&] { list.ScrollTo(SB_VERT, INT_MAX); }, "v", End, 0},
+        {"wide row", [&] { list.AddString(WideText); }, "vh", Stays, 0},
+        {"to the right", [&] { list.SendMessage(WM_HSCROLL, SB_RIGHT); }, "vh", Stays, End},
+        {"wide row gone", [&] { list.DeleteString(200); }, "v", End, 0},
+        {"wide again", [&] { list.SetHorizontalExtent(1000); }, "vh", Stays, 0},
+        {"a little to the right", [&] { list.ScrollTo(SB_HORZ, 20); }, "vh", Stays, 20},
+        {"font", [&] { list.SetFont(&CCustomListBox::GetOnBoardFont()); }, "vh", Stays, 20},
+        {"wider, to its end",
+         [&] { list.ScrollTo(SB_HORZ, 999), list.MoveWindow(20, 20, 700, 200); }, "vh", Stays, End},
+        {"other rows", [&] { list.ResetContent(), list.Fill(20); }, "vh", 0, 0},
+        {"as wide as its rows", [&] { list.SetHorizontalExtent(400); }, "v", 0, 0},
+        {"higher, from its end", [&] { list.SetTopIndex(19), list.MoveWindow(20, 20, 700, 560); },
+         "", 0, 0},
     };
-    for (const auto& way : ways)
+    for (const auto& change : changes)
     {
-        way.act();
-        EXPECT_EQ(list.GetTopIndex(), way.top) << way.name;
-        EXPECT_EQ(list.m_vBar.GetScrollPos(), way.top) << way.name;
+        const int before = list.GetTopIndex();
+        change.act();
+        list.ExpectInStep(change.name);
+        const std::string bars(list.m_vBarNeeded ? "v" : "");
+        EXPECT_EQ(bars + (list.m_hBarNeeded ? "h" : ""), change.bars) << change.name;
+        EXPECT_EQ(list.GetTopIndex(), change.top == End     ? list.GetCount() - list.VisibleRows()
+                                      : change.top == Stays ? before
+                                                            : change.top)
+            << change.name;
+        EXPECT_EQ(list.m_hBar.GetScrollPos(),
+                  change.across == End ? RangeOf(list.m_hBar).y : change.across)
+            << change.name;
     }
 }
 

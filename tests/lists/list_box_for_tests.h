@@ -49,6 +49,34 @@ public:
         return ::PartPoint(*this, Bar(axis), part);
     }
 
+    // Whether rows, bars and frame tell of the same place.
+    void ExpectInStep(const char* when)
+    {
+        SCOPED_TRACE(when);
+        PumpAll();
+        const int inset = ::GetSystemMetrics(SM_CXFRAME) - 3 + ::GetSystemMetrics(SM_CXEDGE);
+        const CRect client = ClientRectOf(*this);
+        EXPECT_EQ(client.Width(),
+                  WindowRectOf(*this).Width() - 2 * inset - (m_vBarNeeded ? 52 : 0));
+        EXPECT_EQ(m_vBar.ShowScrollBar() != 0, m_vBarNeeded);
+        EXPECT_EQ(m_hBar.ShowScrollBar() != 0, m_hBarNeeded);
+        const int visible = VisibleRows();
+        EXPECT_EQ(m_vBarNeeded, GetCount() > visible);
+        EXPECT_EQ(m_vBar.GetScrollPos(), GetTopIndex());
+        EXPECT_LE(GetTopIndex(), std::max(0, GetCount() - visible)) << "rows left out of sight";
+        if (m_vBarNeeded)
+        {
+            EXPECT_EQ(RangeOf(m_vBar), CPoint(0, GetCount() - visible + 1));
+            EXPECT_EQ(m_vBar.GetPageSize(), visible - 1);
+            // Beside the client rectangle and three pixels over its ends.
+            EXPECT_EQ(m_vBar.GetArea(), CRect(CPoint(inset + client.Width(), inset - 3),
+                                              CSize(55, client.Height() + 6)));
+        }
+        const int across = ::GetScrollPos(*this, SB_HORZ);
+        ScrollTo(SB_HORZ, m_hBar.GetScrollPos());
+        EXPECT_EQ(::GetScrollPos(*this, SB_HORZ), across) << "not where the bar says";
+    }
+
     // What the tests of all controls with bars of their own ask for.
     static constexpr DWORD BothBarsStyle = WideListStyle;
     static constexpr COLORREF Corner = palette::Panel;

@@ -93,19 +93,15 @@ TYPED_TEST(OwnBars, ArrowsAndTroughsScrollInEveryOnBoardMode)
         const ModeScope scope(mode);
         auto& list = this->AddList();
         const int page = list.Bar(SB_VERT).GetPageSize();
-        const struct
+        // The second click is fast enough to be a double click.
+        for (const auto& [part, top] : {std::pair(Second, 1),
+                                        {Second, 2},
+                                        {First, 1},
+                                        {AfterThumb, 1 + page},
+                                        {BeforeThumb, 1}})
         {
-            CFauxScrollBar::ePRESSED part;
-            int top;
-        } clicks[] = {{Second, 1}, // the next one is fast enough to be a double click
-                      {Second, 2},
-                      {First, 1},
-                      {AfterThumb, 1 + page},
-                      {BeforeThumb, 1}};
-        for (const auto& click : clicks)
-        {
-            Click(list.PartPoint(click.part));
-            EXPECT_EQ(list.TopRow(), click.top) << click.part;
+            Click(list.PartPoint(part));
+            EXPECT_EQ(list.TopRow(), top) << part;
         }
         this->Remove(list);
     }
