@@ -224,6 +224,7 @@ TEST_F(ListCtrlTest, TheLeastWidthHoldsInADrag)
         const ModeScope scope(mode);
         auto& list = AddList(10);
         list.SetMinColWidth(40);
+        list.SetMinColWidth(-5); // no width
         const CPoint from = list.DividerPoint(0);
         Drag(from, from - CPoint(list.GetColumnWidth(0) - 10, 0));
         EXPECT_EQ(list.GetColumnWidth(0), mode == STD ? 40 : 68);

@@ -13,25 +13,6 @@ TEST(ListLayout, FewAndManyRowsAndWideColumns)
 
 // Ranges -----------------------------------------------------------------------------------------
 
-TEST_F(ListCtrlOnBoard, TheBarComesWithTheFirstRowThatDoesNotFit)
-{
-    auto& list = AddList(1);
-    EXPECT_EQ(list.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
-    const int fit = list.VisibleRows();
-    const int width = ClientRectOf(list).Width();
-    list.Fill(fit - 2); // one row was there
-    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
-    list.InsertItem(0, "one more");
-    EXPECT_EQ(ClientRectOf(list).Width(), width - 52);
-    list.InsertItem(0, "one more");
-    EXPECT_EQ(list.m_vBar.GetPageSize(), fit - 1);
-    list.ExpectInStep("one more");
-    list.DeleteItem(0);
-    list.DeleteItem(0);
-    EXPECT_FALSE(list.m_vBar.ShowScrollBar());
-    EXPECT_EQ(ClientRectOf(list).Width(), width);
-}
-
 TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
 {
     auto& list = AddList(3, 0);
@@ -63,42 +44,45 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
     EXPECT_EQ(list.GetColumnWidth(2), 70);
 }
 
-TEST_F(ListCtrlOnBoard, TheLastColumnFillsTheList)
-{
-    auto& list = AddList(5);
-    EXPECT_EQ(list.ColumnRect(2).right, ClientRectOf(list).Width());
-    list.SetWindowPos(nullptr, 0, 0, 360, 300, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_EQ(list.ColumnRect(2).right, ClientRectOf(list).Width());
-    // A new last column takes over, and what filled the list has its own width again.
-    list.InsertColumn(3, "D", LVCFMT_LEFT, 20);
-    list.InsertItem(0, "row");
-    EXPECT_EQ(list.GetColumnWidth(2), 102);
-    EXPECT_GE(list.ColumnRect(3).right, ClientRectOf(list).Width());
-    list.DeleteColumn(3);
-    EXPECT_EQ(list.ColumnRect(2).right, ClientRectOf(list).Width());
-    list.ExpectInStep("columns came and went");
-}
-
 TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
 {
-    auto& list = AddList(100, 8, ReportStyle, CRect(20, 20, 400, 400));
-    const Act<> changes[] = {
-        {"scrolled to the end",
-         [&] { list.PerformVScroll(SB_BOTTOM), list.PerformHScroll(SB_RIGHT); }},
-        {"last row deleted", [&] { list.DeleteItem(99); }},
-        {"rows deleted",
-         [&] {
-             while (list.GetItemCount() > 39)
-             {
-                 list.DeleteItem(0);
-             }
-         }},
-        {"row inserted", [&] { list.InsertItem(20, "new"); }},
-        {"column resized", [&] { list.SetColumnWidth(3, 400); }},
-        {"column removed", [&] { list.DeleteColumn(2); }},
-        {"smaller", [&] { list.MoveWindow(20, 20, 250, 250); }},
-        {"larger", [&] { list.MoveWindow(20, 20, 700, 500); }},
-        {"font", [&] { list.SetFont(&CCustomListCtrl::GetOnBoardFont()); }},
+    auto& list = AddList(1);
+    const int fit = list.VisibleRows();
+    constexpr int Any = -1;
+    const struct
+    {
+        const char* name;
+        std::function<void()> act;
+        const char* bars;
+        int top;
+    } changes[] = {
+        {"all but full", [&] { list.Fill(fit - 2); }, "", 0}, // one row was there
+        {"one more", [&] { list.InsertItem(0, "one more"); }, "v", 0},
+        {"and gone", [&] { list.DeleteItem(0); }, "", 0},
+        {"lower and narrower", [&] { list.MoveWindow(20, 20, 340, 200); }, "v", 0},
+        {"another last column", [&] { list.InsertColumn(3, "D", LVCFMT_LEFT, 20); }, "vh", 0},
+        {"what was fitted is no more",
+         [&] { EXPECT_EQ((list.InsertItem(0, ""), list.GetColumnWidth(2)), 102); }, "vh", 0},
+        {"and gone", [&] { list.DeleteColumn(3); }, "vh", 0},
+        {"many rows and columns", [&] { list.FillBothWays(300 - list.GetItemCount()); }, "vh", 0},
+        {"row in sight", [&] { EXPECT_TRUE(list.EnsureVisible(200, FALSE)); }, "vh", Any},
+        {"row that was", [&] { list.EnsureVisible(list.TopRow(), FALSE); }, "vh", Any},
+        {"no row", [&] { EXPECT_FALSE(list.EnsureVisible(300, FALSE)); }, "vh", Any},
+        {"by pixels home", [&] { list.Scroll(CSize(INT_MIN, INT_MIN)); }, "vh", 0},
+        {"by pixels", [&] { list.Scroll(CSize(list.m_scrollUnit.cx, 2 * list.RowHeight())); }, "vh",
+         2},
+        {"to the end", [&] { list.PerformVScroll(SB_BOTTOM), list.PerformHScroll(SB_RIGHT); }, "vh",
+         Any},
+        {"last row deleted", [&] { list.DeleteItem(299); }, "vh", Any},
+        {"row inserted", [&] { list.InsertItem(20, "new"); }, "vh", Any},
+        {"column of an odd width", [&] { list.InsertColumn(1, "", LVCFMT_LEFT, INT_MAX); }, "vh",
+         Any},
+        {"column resized", [&] { list.SetColumnWidth(1, -3); }, "vh", Any},
+        {"column removed", [&] { list.DeleteColumn(2); }, "vh", Any},
+        {"higher", [&] { list.MoveWindow(20, 20, 700, 500); }, "vh", Any},
+        {"font", [&] { list.SetFont(&CCustomListCtrl::GetOnBoardFont()); }, "vh", Any},
+        {"far beyond", [&] { list.PerformVScroll(INT_MAX, 0), list.PerformHScroll(INT_MAX, 0); },
+         "vh", Any},
         {"emptied, and a first row",
          [&] {
              list.DeleteAllItems();
@@ -110,16 +94,19 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
              ASSERT_LT(HeaderAccess::Offset(list.m_header).x, 0);
              list.InsertItem(0, "first");
              EXPECT_EQ(list.m_drawOffset.x, 0);
-         }},
+         },
+         "h", 0},
     };
     for (const auto& change : changes)
     {
         change.act();
         list.ExpectInStep(change.name);
+        const std::string bars(list.m_vBar.ShowScrollBar() ? "v" : "");
+        EXPECT_EQ(bars + (list.m_hBar.ShowScrollBar() ? "h" : ""), change.bars) << change.name;
+        EXPECT_TRUE(change.top == Any || list.TopRow() == change.top) << change.name;
     }
-    while (list.m_header.GetItemCount() > 1)
+    while (list.DeleteColumn(list.m_header.GetItemCount() - 1) && list.m_header.GetItemCount() > 0)
     {
-        list.DeleteColumn(list.m_header.GetItemCount() - 1);
         list.ExpectInStep("columns removed one by one");
     }
     // Without a bar nothing scrolls.

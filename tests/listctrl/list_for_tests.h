@@ -124,28 +124,38 @@ public:
     }
     int Focused() const { return GetNextItem(-1, LVNI_FOCUSED); }
 
-    // Whether ranges, offset and header tell of the same place.
+    // Whether ranges, offset, header and frame tell of the same place.
     void ExpectInStep(const char* when)
     {
-        EXPECT_EQ(GetTopIndex(), 0) << when;
-        EXPECT_EQ(m_drawOffset.y, -m_vBar.GetScrollPos() * RowHeight()) << when;
-        EXPECT_EQ(m_drawOffset.x, -m_hBar.GetScrollPos() * m_scrollUnit.cx) << when;
-        EXPECT_EQ(HeaderAccess::Offset(m_header).x, m_drawOffset.x) << when;
-        EXPECT_GE(HeaderRect().right, ClientRectOf(*this).right) << when;
+        SCOPED_TRACE(when);
+        EXPECT_EQ(GetTopIndex(), 0);
+        EXPECT_EQ(m_drawOffset, CPoint(-m_hBar.GetScrollPos() * m_scrollUnit.cx,
+                                       -m_vBar.GetScrollPos() * RowHeight()));
+        EXPECT_EQ(HeaderAccess::Offset(m_header), CPoint(m_drawOffset.x, 0));
+        const CRect client = ClientRectOf(*this);
+        EXPECT_GE(HeaderRect().right, client.right);
         const int visible = VisibleRows();
-        EXPECT_EQ(m_vBar.ShowScrollBar() != 0, GetItemCount() > 0 && visible <= GetItemCount())
-            << when;
+        EXPECT_EQ(m_vBar.ShowScrollBar() != 0, GetItemCount() > 0 && visible <= GetItemCount());
         if (m_vBar.ShowScrollBar())
         {
-            EXPECT_EQ(LastTopRow(), GetItemCount() - visible + 2) << when;
+            EXPECT_EQ(LastTopRow(), GetItemCount() - visible + 2);
+            EXPECT_EQ(m_vBar.GetPageSize(), std::max(1, visible - 1));
         }
         const CRect last = ColumnRect(m_header.GetItemCount() - 1);
-        const int width = ClientRectOf(*this).Width();
-        EXPECT_EQ(m_hBar.ShowScrollBar() != 0, last.right > width) << when;
+        EXPECT_GE(last.right, client.right) << "the last column fills the list";
+        EXPECT_EQ(m_hBar.ShowScrollBar() != 0, last.right > client.right);
         if (m_hBar.ShowScrollBar())
         {
-            EXPECT_EQ(RangeOf(m_hBar).y, (last.right - width) / (width / 10) + 2) << when;
+            EXPECT_EQ(RangeOf(m_hBar).y, (last.right - client.right) / (client.right / 10) + 2);
         }
+        // The frame is three pixels less wide than that of a sizeable window, by the metrics of the
+        // other direction; the edge lies within it.
+        const int edge = (GetExStyle() & WS_EX_CLIENTEDGE) != 0 ? ::GetSystemMetrics(SM_CXEDGE) : 0;
+        const CSize frame(::GetSystemMetrics(SM_CYFRAME) - 3 + edge,
+                          ::GetSystemMetrics(SM_CXFRAME) - 3 + edge);
+        EXPECT_EQ(ClientPoint(*this, CPoint(0, 0)) - WindowRectOf(*this).TopLeft(), frame);
+        EXPECT_EQ(WindowRectOf(*this).Width() - client.right,
+                  2 * frame.cx + (m_vBar.ShowScrollBar() ? 52 : 0));
     }
 };
 

@@ -1,5 +1,5 @@
 // What hosts and derived classes know of the lists: the sizes of texts and rows, the wait that a
-// derived class may start, the combo's window class, and the report list's frame.
+// derived class may start, and the combo's window class.
 
 #include "CustomDropListCombo.h"
 #include "CustomEdit.h"
@@ -82,15 +82,4 @@ TEST_F(WindowTest, TheCombosWindowClassServesEveryModule)
     WNDCLASS known = {};
     const HMODULE another = ::GetModuleHandle("user32.dll");
     EXPECT_TRUE(::GetClassInfo(another, "CCUSTOMDROPLISTCOMBO", &known));
-}
-
-// The frame is three pixels less wide than that of a sizeable window, by the metrics of the other
-// direction; the edge lies within it.
-TEST_F(ListCtrlOnBoard, TheFrameIsThatOfASizeableWindowLessThreePixels)
-{
-    auto& list = AddList(3);
-    const int edge = ::GetSystemMetrics(SM_CXEDGE);
-    EXPECT_EQ(ClientPoint(list, CPoint(0, 0)) - WindowRectOf(list).TopLeft(),
-              CSize(::GetSystemMetrics(SM_CYFRAME) - 3 + edge,
-                    ::GetSystemMetrics(SM_CXFRAME) - 3 + edge));
 }
