@@ -18,7 +18,6 @@ class EditForTests : public CCustomEdit
 public:
     using CCustomEdit::m_bar;
     using CCustomEdit::m_barShown;
-    using CCustomEdit::m_lastHit;
     using CCustomEdit::m_overflowing;
     using CCustomEdit::m_scrolling;
 
@@ -100,11 +99,11 @@ inline void ExpectAgreement(EditForTests& edit, const std::string& after)
     const int lines = edit.GetLineCount();
     const int page = edit.VisibleLines();
     const bool fits = first == 0 && lines <= page;
-    const int sides = (edit.GetExStyle() & WS_EX_CLIENTEDGE) != 0 ? 6 : 0;
     EXPECT_EQ(edit.m_barShown, !fits && lines > 1);
     EXPECT_EQ(edit.m_bar.ShowScrollBar() != 0, edit.m_barShown);
-    EXPECT_EQ(ClientRectOf(edit).Width(),
-              WindowRectOf(edit).Width() - sides - (edit.m_barShown ? 52 : 0));
+    const CSize size = WindowRectOf(edit).Size();
+    const int border = (size.cx - ClientRectOf(edit).Width() - (edit.m_barShown ? 52 : 0)) / 2;
+    EXPECT_EQ(border, (edit.GetExStyle() & WS_EX_CLIENTEDGE) != 0 ? 3 : std::min(border, 1));
     EXPECT_EQ(edit.GetStyle() & WS_VSCROLL, 0U);
     EXPECT_EQ(edit.m_bar.GetScrollPos(), first);
     if (edit.m_barShown)
@@ -113,6 +112,9 @@ inline void ExpectAgreement(EditForTests& edit, const std::string& after)
         edit.m_bar.GetScrollInfo(&info, SIF_RANGE | SIF_PAGE);
         EXPECT_EQ(int(info.nPage), page);
         EXPECT_EQ(info.nMax, lines - page + 2);
+        // Beside the client area, whatever the border is.
+        EXPECT_EQ(edit.m_bar.GetArea(),
+                  CRect(size.cx - border - 52, border, size.cx - border, size.cy - border));
     }
     int start = 0;
     int end = 0;

@@ -11,6 +11,7 @@
 
 #include <cstring>
 #include <string>
+#include <tuple>
 
 class SmallEditsTest : public WindowTest
 {
@@ -51,50 +52,44 @@ TEST_F(SmallEditsTest, PromptRules)
 {
     using Edit = EditWithPrompt;
     constexpr const char* prompt = "<Enter text here>";
-    struct
+    // A name, the text before, if any, the deed, then the text as told and as seen.
+    const std::tuple<const char*, const char*, void (*)(Edit&), const char*, const char*> table[] =
+        {
+            {"a text", "abc", [](Edit&) {}, "abc", "abc"},
+            {"empty text", nullptr, [](Edit& e) { e.SetWindowText(""); }, "", prompt},
+            {"null text", nullptr, [](Edit& e) { e.SetWindowText(nullptr); }, "", prompt},
+            {"prompt as text", nullptr, [](Edit& e) { e.SetWindowText(prompt); }, "", prompt},
+            {"a text by message", nullptr,
+             [](Edit& e) { e.SendMessage(WM_SETTEXT, 0, LPARAM("abc")); }, "abc", "abc"},
+            {"a text taken away", "abc", [](Edit& e) { e.SetWindowText(""); }, "", ""},
+            {"reset", "abc", [](Edit& e) { e.Reset(); }, "", prompt},
+            {"other prompt", nullptr, [](Edit& e) { e.SetPromptText("?"); }, "", "?"},
+            {"null prompt", nullptr, [](Edit& e) { e.SetPromptText(nullptr); }, "", ""},
+            {"prompt under a text", "abc", [](Edit& e) { e.SetPromptText("?"); }, "abc", "abc"},
+            {"key", nullptr, [](Edit&) { TypeText("q"); }, "q", "q"},
+            {"on-screen key", nullptr, [](Edit& e) { e.SendMessage(WM_CHAR, 'q', 1); }, "q", "q"},
+            {"press", nullptr, [](Edit& e) { Click(ClientPoint(e, CPoint(9, 9))); }, "", ""},
+            {"right press", nullptr, [](Edit& e) { e.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, 0); },
+             "", ""},
+            {"middle press", nullptr, [](Edit& e) { e.SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, 0); },
+             "", ""},
+            {"all selected", nullptr, [](Edit& e) { e.SetSel(0, -1); }, "", prompt},
+        };
+    for (const auto& [name, before, deed, text, shown] : table)
     {
-        const char* name;
-        const char* before; // the text, or none
-        void (*deed)(Edit&);
-        const char* text;  // as told
-        const char* shown; // as seen
-    } const table[] = {
-        {"fresh", nullptr, [](Edit&) {}, "", prompt},
-        {"a text", "abc", [](Edit&) {}, "abc", "abc"},
-        {"empty text", nullptr, [](Edit& e) { e.SetWindowText(""); }, "", prompt},
-        {"null text", nullptr, [](Edit& e) { e.SetWindowText(nullptr); }, "", prompt},
-        {"prompt as text", nullptr, [](Edit& e) { e.SetWindowText(prompt); }, "", prompt},
-        {"a text by message", nullptr, [](Edit& e) { e.SendMessage(WM_SETTEXT, 0, LPARAM("abc")); },
-         "abc", "abc"},
-        {"a text taken away", "abc", [](Edit& e) { e.SetWindowText(""); }, "", ""},
-        {"reset", "abc", [](Edit& e) { e.Reset(); }, "", prompt},
-        {"other prompt", nullptr, [](Edit& e) { e.SetPromptText("?"); }, "", "?"},
-        {"null prompt", nullptr, [](Edit& e) { e.SetPromptText(nullptr); }, "", ""},
-        {"prompt under a text", "abc", [](Edit& e) { e.SetPromptText("?"); }, "abc", "abc"},
-        {"key", nullptr, [](Edit&) { TypeText("q"); }, "q", "q"},
-        {"on-screen key", nullptr, [](Edit& e) { e.SendMessage(WM_CHAR, 'q', 1); }, "q", "q"},
-        {"press", nullptr, [](Edit& e) { Click(ClientPoint(e, CPoint(9, 9))); }, "", ""},
-        {"right press", nullptr, [](Edit& e) { e.SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, 0); }, "",
-         ""},
-        {"middle press", nullptr, [](Edit& e) { e.SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, 0); }, "",
-         ""},
-        {"all selected", nullptr, [](Edit& e) { e.SetSel(0, -1); }, "", prompt},
-    };
-    for (const auto& row : table)
-    {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(name);
         auto& edit = Add<EditWithPrompt>(CRect(20, 20, 220, 50), ES_AUTOHSCROLL);
         edit.SetFocus();
-        if (row.before != nullptr)
+        if (before != nullptr)
         {
-            edit.SetWindowText(row.before);
+            edit.SetWindowText(before);
         }
-        row.deed(edit);
+        deed(edit);
         PumpAll();
-        EXPECT_EQ(TextOf(edit), row.text);
-        EXPECT_EQ(Shown(edit), row.shown);
-        EXPECT_EQ(::GetWindowTextLength(edit), int(std::strlen(row.text)));
-        if (std::strcmp(row.text, row.shown) != 0)
+        EXPECT_EQ(TextOf(edit), text);
+        EXPECT_EQ(Shown(edit), shown);
+        EXPECT_EQ(::GetWindowTextLength(edit), int(std::strlen(text)));
+        if (std::strcmp(text, shown) != 0)
         {
             EXPECT_EQ(edit.GetSel(), 0U) << "caret in front, nothing selected";
         }

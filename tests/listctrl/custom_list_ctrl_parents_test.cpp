@@ -15,11 +15,7 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyTheListOrChangeTheModeInANotification)
     const auto clickRow = [](ListForTests& list) {
         Click(ClientPoint(list, list.RowPoint(list.TopRow() + 2)));
     };
-    const struct
-    {
-        UINT code;
-        std::function<void(ListForTests&)> bring;
-    } notifications[] = {
+    const std::pair<UINT, std::function<void(ListForTests&)>> notifications[] = {
         {UINT(LVN_ITEMCHANGED), clickRow},
         {UINT(LVN_ITEMCHANGED),
          [](ListForTests& list) { list.SetFocus(), TypeKey(VK_NEXT, VK_SHIFT); }},
@@ -31,14 +27,14 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyTheListOrChangeTheModeInANotification)
          [](ListForTests& list) { Click(ClientPoint(list, CPoint(40, 8))); }}};
     for (const auto& act : acts)
     {
-        for (const auto& notification : notifications)
+        for (const auto& [code, bring] : notifications)
         {
-            SCOPED_TRACE(testing::Message() << act.name << " in " << int(notification.code));
+            SCOPED_TRACE(testing::Message() << act.name << " in " << int(code));
             auto& list = AddList(100, 8);
             list.SetItemState(3, 3, 3); // no range begins here
             list.PerformVScroll(SB_PAGEDOWN);
-            const OnceTold done(Host(), notification.code, [&] { act.act(list); });
-            notification.bring(list);
+            const OnceTold done(Host(), code, [&] { act.act(list); });
+            bring(list);
             PumpAll();
             EXPECT_TRUE(bool(done));
             EXPECT_LE(list.m_vBar.GetScrollPos(), list.GetItemCount());
