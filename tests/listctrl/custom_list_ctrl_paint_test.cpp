@@ -1,4 +1,4 @@
-// What a report list paints: cells, grid lines, frame, and the same after every change as afresh.
+// What a report list paints: cells and grid lines.
 
 #include "listctrl/list_for_tests.h"
 
@@ -29,6 +29,7 @@ TEST_F(ListCtrlOnBoard, CellsShowTextSelectionAndEndAtTheDivider)
     list.SetItemText(6, 1, "WWW");
     list.SetItemState(6, 3, 3);
     list.PerformVScroll(5, 0);
+    EXPECT_EQ(WindowPixels(list).At(200, 300), palette::Field);
     const int top = list.HeaderRect().bottom;
     const int height = list.RowHeight();
     const int y = top + height + 1; // row 6 is the second one drawn
@@ -90,33 +91,6 @@ TEST_F(ListCtrlOnBoard, GridLinesStandAtRowsAndDividers)
     {
         EXPECT_EQ(plain.At(5, first + row * step), gray);
         EXPECT_EQ(plain.At(5, first + row * step + 1), Canvas::Untouched);
-    }
-}
-
-TEST_F(ListCtrlOnBoard, WhatIsOnTheScreenIsWhatAFullPaintGives)
-{
-    auto& list = AddList(200, 8, ReportStyle, CRect(20, 20, 400, 400));
-    list.SetExtendedStyle(LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
-    list.SetItemState(4, 3, 3);
-    PumpAll();
-    EXPECT_EQ(WindowPixels(list).At(200, 300), palette::Field);
-    const Act<> steps[] = {
-        {"two lines", [&] { list.PerformVScroll(SB_LINEDOWN), list.PerformVScroll(SB_LINEDOWN); }},
-        {"line up", [&] { list.PerformVScroll(SB_LINEUP); }},
-        {"text", [&] { list.SetItemText(3, 0, "changed"); }},
-        {"state", [&] { list.SetItemState(6, 3, 3); }},
-        {"page down", [&] { list.PerformVScroll(SB_PAGEDOWN); }},
-        {"sideways", [&] { list.PerformHScroll(SB_LINERIGHT); }},
-        {"inserted", [&] { list.InsertItem(list.TopRow() + 2, "inserted"); }},
-        {"deleted", [&] { list.DeleteItem(list.TopRow()); }},
-        {"sorted", [&] { list.SortItems([](LPARAM, LPARAM, LPARAM) { return 0; }, 0); }},
-        {"to the end", [&] { list.PerformVScroll(SB_BOTTOM); }},
-        {"line up from there", [&] { list.PerformVScroll(SB_LINEUP); }},
-    };
-    for (const auto& step : steps)
-    {
-        step.act();
-        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << step.name;
     }
 }
 

@@ -47,6 +47,7 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
 TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
 {
     auto& list = AddList(1);
+    list.SetExtendedStyle(LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
     const int fit = list.VisibleRows();
     constexpr int Any = -1;
     const struct
@@ -71,10 +72,16 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
         {"by pixels home", [&] { list.Scroll(CSize(INT_MIN, INT_MIN)); }, "vh", 0},
         {"by pixels", [&] { list.Scroll(CSize(list.m_scrollUnit.cx, 2 * list.RowHeight())); }, "vh",
          2},
+        {"a line", [&] { list.PerformVScroll(SB_LINEDOWN); }, "vh", 3},
+        {"text", [&] { list.SetItemText(4, 0, "changed"); }, "vh", 3},
+        {"state", [&] { list.SetItemState(6, 3, 3); }, "vh", 3},
+        {"sorted", [&] { list.SortItems([](LPARAM, LPARAM, LPARAM) { return 0; }, 0); }, "vh", Any},
+        {"page", [&] { list.PerformVScroll(SB_PAGEDOWN); }, "vh", Any},
         {"to the end", [&] { list.PerformVScroll(SB_BOTTOM), list.PerformHScroll(SB_RIGHT); }, "vh",
          Any},
         {"last row deleted", [&] { list.DeleteItem(299); }, "vh", Any},
-        {"row inserted", [&] { list.InsertItem(20, "new"); }, "vh", Any},
+        {"a line up", [&] { list.PerformVScroll(SB_LINEUP); }, "vh", Any},
+        {"row inserted", [&] { list.InsertItem(list.TopRow() + 2, "new"); }, "vh", Any},
         {"column of an odd width", [&] { list.InsertColumn(1, "", LVCFMT_LEFT, INT_MAX); }, "vh",
          Any},
         {"column resized", [&] { list.SetColumnWidth(1, -3); }, "vh", Any},
@@ -100,6 +107,7 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
     for (const auto& change : changes)
     {
         change.act();
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << change.name;
         list.ExpectInStep(change.name);
         const std::string bars(list.m_vBar.ShowScrollBar() ? "v" : "");
         EXPECT_EQ(bars + (list.m_hBar.ShowScrollBar() ? "h" : ""), change.bars) << change.name;

@@ -2,6 +2,7 @@
 
 #include "lists/list_box_for_tests.h"
 #include "support/Acting.h"
+#include "support/Fenced.h"
 
 using namespace parts;
 
@@ -104,5 +105,17 @@ TEST_F(ListBoxOnBoard, AListMayBeEmptiedOrDestroyedWhileItIsWorked)
             EXPECT_EQ(list.GetSafeHwnd() == nullptr, destroy);
             Remove(list);
         }
+    }
+}
+
+TEST_F(ListBoxOnBoard, AParentMayDeleteTheListInItsNotification)
+{
+    for (const bool byKey : {true, false})
+    {
+        auto& list = AddList<Fenced<ListBoxForTests>>(300);
+        list.SetFocus();
+        const OnceTold end(Host(), LBN_SELCHANGE, [&] { Remove(list); });
+        byKey ? TypeKey(VK_DOWN) : Click(ClientPoint(list, CPoint(30, 30)));
+        EXPECT_TRUE(bool(end)) << byKey;
     }
 }

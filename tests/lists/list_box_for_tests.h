@@ -53,7 +53,6 @@ public:
     void ExpectInStep(const char* when)
     {
         SCOPED_TRACE(when);
-        PumpAll();
         const int inset = ::GetSystemMetrics(SM_CXFRAME) - 3 + ::GetSystemMetrics(SM_CXEDGE);
         const CRect client = ClientRectOf(*this);
         EXPECT_EQ(client.Width(),
@@ -67,7 +66,7 @@ public:
         if (m_vBarNeeded)
         {
             EXPECT_EQ(RangeOf(m_vBar), CPoint(0, GetCount() - visible + 1));
-            EXPECT_EQ(m_vBar.GetPageSize(), visible - 1);
+            EXPECT_EQ(m_vBar.GetPageSize(), std::max(1, visible - 1));
             // Beside the client rectangle and three pixels over its ends.
             EXPECT_EQ(m_vBar.GetArea(), CRect(CPoint(inset + client.Width(), inset - 3),
                                               CSize(55, client.Height() + 6)));
