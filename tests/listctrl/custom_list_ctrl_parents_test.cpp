@@ -1,6 +1,7 @@
 // Parents that take rows, columns or the list away in the middle of things.
 
 #include "listctrl/list_for_tests.h"
+#include "support/Fenced.h"
 
 TEST_F(ListCtrlOnBoard, AParentMayEmptyTheListOrChangeTheModeInANotification)
 {
@@ -11,6 +12,7 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyTheListOrChangeTheModeInANotification)
              while (list.DeleteColumn(0))
              {}
          }},
+        {"object gone", [this](ListForTests& list) { Remove(list); }},
         {"other mode", [](ListForTests&) { COnBoardUIGeneral::SetAppMode(STD); }}};
     const auto clickRow = [](ListForTests& list) {
         Click(ClientPoint(list, list.RowPoint(list.TopRow() + 2)));
@@ -30,15 +32,19 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyTheListOrChangeTheModeInANotification)
         for (const auto& [code, bring] : notifications)
         {
             SCOPED_TRACE(testing::Message() << act.name << " in " << int(code));
-            auto& list = AddList(100, 8);
+            auto& list = AddList<Fenced<ListForTests>>(100, 8);
+            const HWND window = list;
             list.SetItemState(3, 3, 3); // no range begins here
             list.PerformVScroll(SB_PAGEDOWN);
             const OnceTold done(Host(), code, [&] { act.act(list); });
             bring(list);
             PumpAll();
             EXPECT_TRUE(bool(done));
-            EXPECT_LE(list.m_vBar.GetScrollPos(), list.GetItemCount());
-            Remove(list);
+            if (::IsWindow(window))
+            {
+                EXPECT_LE(list.m_vBar.GetScrollPos(), list.GetItemCount());
+                Remove(list);
+            }
             COnBoardUIGeneral::SetAppMode(ONBOARD);
             Host().SetFocus();
         }
