@@ -32,10 +32,12 @@ TEST_F(EditOnBoard, AThumbDragMovesTheTextLineByLine)
 
 namespace {
 
-// Writes the requests down, and may act on one.
+// The flight bag while it lives: writes the requests down, and may act on one.
 class KeyboardHost : public IEFB
 {
 public:
+    KeyboardHost() { CCustomEdit::SetEfb(this); }
+    ~KeyboardHost() override { CCustomEdit::SetEfb(nullptr); }
     using Request = std::tuple<bool, int, HWND>; // show, position, window
 
     const char* GetProviderName() override { return "test"; }
@@ -54,7 +56,6 @@ public:
 TEST_F(EditTest, ATapAsksForTheKeyboardInTheFlightBagModes)
 {
     KeyboardHost keyboard;
-    CCustomEdit::SetEfb(&keyboard);
     for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
     {
         COnBoardUIGeneral::SetAppMode(mode);
@@ -76,7 +77,6 @@ TEST_F(EditTest, ATapAsksForTheKeyboardInTheFlightBagModes)
 
 TEST_F(EditTest, TheHostMayDoAnythingWhenItIsAskedForTheKeyboard)
 {
-    KeyboardHost keyboard;
     const std::function<void(CWnd&)> deeds[] = {
         [](CWnd& edit) { edit.DestroyWindow(); },
         [](CWnd&) { COnBoardUIGeneral::SetAppMode(STD); },
@@ -85,11 +85,11 @@ TEST_F(EditTest, TheHostMayDoAnythingWhenItIsAskedForTheKeyboard)
     for (const auto& deed : deeds)
     {
         COnBoardUIGeneral::SetAppMode(EFB);
-        CCustomEdit::SetEfb(&keyboard);
+        KeyboardHost keyboard;
         auto& edit = AddEdit(50);
         keyboard.act = [&] { deed(edit); };
         Click(ClientPoint(edit, CPoint(30, 30)));
-        EXPECT_EQ(std::exchange(keyboard.requests, {}).size(), 1U);
+        EXPECT_EQ(keyboard.requests.size(), 1U);
         Remove(edit);
     }
 }

@@ -74,12 +74,6 @@ public:
 class EditTest : public WindowTest
 {
 protected:
-    void TearDown() override
-    {
-        CCustomEdit::SetEfb(nullptr);
-        WindowTest::TearDown();
-    }
-
     EdgedEdit& AddEdit(int lines, DWORD style = ManyLines)
     {
         auto& edit = Add<EdgedEdit>(CRect(20, 20, 320, 260), style);

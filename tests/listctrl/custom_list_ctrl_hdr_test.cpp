@@ -33,6 +33,19 @@ struct ListThatFollows : ListForTests
     }
 };
 
+// As if each column had been resized in the header.
+struct ResizedList : Acting<Fenced<ListForTests>>
+{
+    bool resized = false;
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return resized && message == LVM_GETCOLUMNWIDTH
+                   ? 1
+                   : Acting::WindowProc(message, wParam, lParam);
+    }
+};
+
 } // namespace
 
 TEST_F(ListCtrlOnBoard, TheHeaderIsAGradientAndAPressedItemTheReverse)
@@ -313,24 +326,28 @@ TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
 
 TEST_F(ListCtrlOnBoard, AListMayEndWhenItsHeaderGivesItAWidth)
 {
-    using List = Acting<Fenced<ListForTests>>;
-    const Act<List&> acts[] = {
-        {"widened", [](List& list) { list.SetWindowPos(nullptr, 0, 0, 780, 300, SWP_NOMOVE); }},
-        {"column gone", [](List& list) { list.DeleteColumn(7); }},
-        {"scrolled home", [](List& list) { list.PerformHScroll(SB_LEFT); }},
-        {"strip", [](List& list) { list.m_header.RepositionHeaderStrip(); }},
+    const Act<ResizedList&> acts[] = {
+        {"widened",
+         [](ResizedList& list) { list.SetWindowPos(nullptr, 0, 0, 780, 300, SWP_NOMOVE); }},
+        {"column gone", [](ResizedList& list) { list.DeleteColumn(7); }},
+        {"scrolled home", [](ResizedList& list) { list.PerformHScroll(SB_LEFT); }},
+        {"strip", [](ResizedList& list) { list.m_header.RepositionHeaderStrip(); }},
     };
     const AccessFaults faults;
     for (const auto& each : acts)
     {
-        // Eight columns; without one they fit.
-        auto& list = AddList<List>(3, 8, ReportStyle, CRect(0, 20, 690, 300));
-        list.PerformHScroll(2, 0);
-        const HWND window = list;
-        list.ActIn(LVM_SETCOLUMNWIDTH, [&] { Remove(list); });
-        each.act(list);
-        EXPECT_FALSE(::IsWindow(window)) << each.name;
-        EXPECT_EQ(faults.Count(), 0) << each.name;
+        for (const bool resized : {true, false}) // false: the last column gets one all the same
+        {
+            // Eight columns; without one they fit.
+            auto& list = AddList<ResizedList>(3, 8, ReportStyle, CRect(0, 20, 690, 300));
+            list.PerformHScroll(2, 0);
+            list.resized = resized;
+            const HWND window = list;
+            list.ActIn(LVM_SETCOLUMNWIDTH, [&] { Remove(list); });
+            each.act(list);
+            EXPECT_FALSE(::IsWindow(window)) << each.name;
+            EXPECT_EQ(faults.Count(), 0) << each.name << resized;
+        }
     }
 }
 
@@ -348,25 +365,16 @@ TEST_F(ListCtrlOnBoard, TheHotDividerIsNextToTheItemUnderThePoint)
     EXPECT_EQ(HeaderAccess::Offset(header), CPoint(0, 0));
 }
 
-TEST_F(ListCtrlTest, AHeaderLivesWithoutAList)
+TEST_F(ListCtrlOnBoard, AHeaderLivesWithoutAList)
 {
-    CCustomListCtrlHdr none; // no window at all
-    none.OBScrollHeader(5, TRUE);
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        const ModeScope scope(mode);
-        auto& header = Add<CCustomListCtrlHdr>(CRect(20, 20, 420, 50), HDS_BUTTONS);
-        HDITEM item = {};
-        item.mask = HDI_WIDTH;
-        item.cxy = 100;
-        header.InsertItem(0, &item);
-        MessageLog log(Host(), {LVM_SETCOLUMNWIDTH, LVM_GETCOLUMNWIDTH});
-        header.OBScrollHeader(-50, TRUE);
-        header.OBResetScroll(TRUE);
-        Drag(ClientPoint(header, CPoint(100, 10)), ClientPoint(header, CPoint(140, 10)));
-        header.GetItem(0, &item);
-        EXPECT_EQ(item.cxy, 140) << APPMODE_NAMES[mode];
-        EXPECT_EQ(log.All().size(), 0U) << "nobody else's columns are touched";
-        Remove(header);
-    }
+    auto& header = Add<CCustomListCtrlHdr>(CRect(20, 20, 420, 50), HDS_BUTTONS);
+    HDITEM item = {};
+    item.mask = HDI_WIDTH;
+    item.cxy = 100;
+    header.InsertItem(0, &item);
+    MessageLog log(Host(), {LVM_SETCOLUMNWIDTH, LVM_GETCOLUMNWIDTH});
+    Drag(ClientPoint(header, CPoint(100, 10)), ClientPoint(header, CPoint(140, 10)));
+    header.GetItem(0, &item);
+    EXPECT_EQ(item.cxy, 140);
+    EXPECT_EQ(log.All().size(), 0U) << "nobody else's columns are touched";
 }
