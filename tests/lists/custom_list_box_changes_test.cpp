@@ -116,6 +116,15 @@ TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
     SetMode(ONBOARD, list);
     EXPECT_FALSE(list.m_hBarNeeded);
     EXPECT_TRUE(list.m_vBarNeeded);
+    list.AddString("One more"); // a filling whose end is still on its way
+    list.DestroyWindow();
+
+    // Rows are filled in at once again.
+    create(WideListStyle, 0);
+    MessageLog log(list, {WM_SETREDRAW});
+    list.Fill(100);
+    PumpAll();
+    EXPECT_EQ(log.Count(WM_SETREDRAW), 1) << "the end of the filling";
 
     // Let go of in the middle of a drag: the next window is not dragged.
     MoveTo(list.PartPoint(parts::Thumb));
