@@ -119,8 +119,9 @@ TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
     list.AddString("One more"); // a filling whose end is still on its way
     list.DestroyWindow();
 
-    // Rows are filled in at once again.
+    // Rows are filled in at once again, and the frame is that of an empty list.
     create(WideListStyle, 0);
+    EXPECT_FALSE(list.m_vBar.ShowScrollBar() || list.m_hBar.ShowScrollBar());
     MessageLog log(list, {WM_SETREDRAW});
     list.Fill(100);
     PumpAll();
