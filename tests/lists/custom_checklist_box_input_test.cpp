@@ -179,7 +179,7 @@ TEST_F(CheckListTest, TheParentMayEmptyOrDeleteTheListWhenItIsTold)
             auto& list =
                 AddList<Fenced<CheckListForTests>>(4, BS_AUTOCHECKBOX, CheckListStyle | kind);
             const CPoint check = list.CheckPoint(1);
-            list.SendMessage(LB_SETCURSEL, 1);
+            list.SendMessage(kind != 0 ? LB_SETSEL : LB_SETCURSEL, 1, 1);
             list.SendMessage(LB_SETCARETINDEX, 1);
             const OnceTold acted(Host(), code,
                                  [&, ends = ends] { ends ? Remove(list) : list.ResetContent(); });
