@@ -70,8 +70,12 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
         {"row that was", [&] { list.EnsureVisible(list.TopRow(), FALSE); }, "vh", Any},
         {"no row", [&] { EXPECT_FALSE(list.EnsureVisible(300, FALSE)); }, "vh", Any},
         {"by pixels home", [&] { list.Scroll(CSize(INT_MIN, INT_MIN)); }, "vh", 0},
-        {"by pixels", [&] { list.Scroll(CSize(list.m_scrollUnit.cx, 2 * list.RowHeight())); }, "vh",
-         2},
+        {"by pixels",
+         [&] {
+             list.Scroll(CSize(list.m_scrollUnit.cx, 2 * list.RowHeight()));
+             EXPECT_EQ(list.m_hBar.GetScrollPos(), 1);
+         },
+         "vh", 2},
         {"a line", [&] { list.PerformVScroll(SB_LINEDOWN); }, "vh", 3},
         {"text", [&] { list.SetItemText(4, 0, "changed"); }, "vh", 3},
         {"state", [&] { list.SetItemState(6, 3, 3); }, "vh", 3},
