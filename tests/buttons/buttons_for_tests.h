@@ -51,16 +51,14 @@ using TestPush = Traced<CCustomPushbutton>;
 // The smallest rectangle round all pixels of a colour.
 inline CRect Extent(const Pixels& pixels, COLORREF color, const CRect& within)
 {
-    CRect extent(within.right, within.bottom, within.left, within.top);
+    CRect extent;
     for (int y = within.top; y < within.bottom; ++y)
     {
         for (int x = within.left; x < within.right; ++x)
         {
             if (pixels.At(x, y) == color)
             {
-                extent =
-                    CRect(std::min(int(extent.left), x), std::min(int(extent.top), y),
-                          std::max(int(extent.right), x + 1), std::max(int(extent.bottom), y + 1));
+                extent.UnionRect(CRect(extent), CRect(x, y, x + 1, y + 1));
             }
         }
     }

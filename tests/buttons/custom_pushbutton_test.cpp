@@ -1,4 +1,3 @@
-#include "buttons/ButtonLayout.h"
 #include "buttons/buttons_for_tests.h"
 
 #include <tuple>
@@ -8,22 +7,14 @@ namespace {
 constexpr COLORREF Outline = RGB(70, 70, 70);
 
 // A column of the face beside caption and outline, from below the outline to above it.
-struct Face
+void ExpectFace(const Pixels& seen, int top, int bottom)
 {
-    COLORREF top;
-    COLORREF bottom;
-};
-
-Face FaceOf(const Pixels& seen)
-{
-    return {seen.At(4, 3), seen.At(4, seen.Height() - 4)};
-}
-
-int Gray(COLORREF color)
-{
-    EXPECT_EQ(GetRValue(color), GetGValue(color));
-    EXPECT_EQ(GetRValue(color), GetBValue(color));
-    return GetRValue(color);
+    for (const auto& [y, grey] : {std::pair(3, top), {seen.Height() - 4, bottom}})
+    {
+        const COLORREF color = seen.At(4, y);
+        EXPECT_NEAR(GetRValue(color), grey, 2);
+        EXPECT_EQ(color, RGB(GetRValue(color), GetRValue(color), GetRValue(color)));
+    }
 }
 
 } // namespace
@@ -38,18 +29,16 @@ TEST_F(ButtonOnBoard, EachStateOfAPushButtonHasItsFace)
         EXPECT_EQ(idle.At(edge), Outline) << edge.x << ", " << edge.y;
     }
     EXPECT_NE(idle.At(3, 50), Outline);
-    EXPECT_NEAR(Gray(FaceOf(idle).top), 148, 2);
-    EXPECT_NEAR(Gray(FaceOf(idle).bottom), 92, 2);
+    ExpectFace(idle, 148, 92);
 
     MoveTo(push.Middle());
     Press();
     const Pixels held = WindowPixels(push);
-    EXPECT_NEAR(Gray(FaceOf(held).top), 42, 2);
-    EXPECT_NEAR(Gray(FaceOf(held).bottom), 98, 2);
+    ExpectFace(held, 42, 98);
     EXPECT_EQ(Extent(held, RGB(106, 104, 118), CRect(4, 4, 196, 96)), CRect(7, 7, 193, 93));
     Release();
     const Pixels focused = WindowPixels(push);
-    EXPECT_TRUE(FaceOf(focused).top == FaceOf(idle).top);
+    ExpectFace(focused, 148, 92);
     EXPECT_GT(focused.Count(Outline, CRect(7, 7, 193, 8)), 80);
     EXPECT_LT(focused.Count(Outline, CRect(7, 7, 193, 8)), 110) << "dotted";
     EXPECT_EQ(focused.Count(Outline, CRect(8, 8, 192, 92)), 0);
@@ -57,8 +46,7 @@ TEST_F(ButtonOnBoard, EachStateOfAPushButtonHasItsFace)
     push.EnableWindow(FALSE);
     PumpAll();
     const Pixels disabled = WindowPixels(push);
-    EXPECT_EQ(FaceOf(disabled).top, RGB(90, 90, 90));
-    EXPECT_EQ(FaceOf(disabled).bottom, RGB(90, 90, 90));
+    ExpectFace(disabled, 90, 90);
     EXPECT_EQ(disabled.Count(RGB(230, 230, 230)), 0);
     EXPECT_GT(disabled.Count(RGB(70, 70, 70), CRect(8, 8, 192, 92)), 20);
 }
@@ -79,9 +67,8 @@ TEST_F(ButtonOnBoard, TheStylePlacesACaption)
     {
         SCOPED_TRACE(style);
         auto& push = Add<TestPush>(CRect(20, 20, 220, 120), style, "HH");
-        CRect room(0, 0, 200, 100);
         const int edge = (style & BS_MULTILINE) != 0 ? 10 : 8;
-        room.DeflateRect(edge, edge);
+        const CRect room(edge, edge, 200 - edge, 100 - edge);
         const CRect letters = Extent(push.Drawn(), Text, CRect(3, 3, 197, 97));
         EXPECT_EQ(letters & room, letters);
         // But for what the font leaves round its letters.
@@ -92,25 +79,4 @@ TEST_F(ButtonOnBoard, TheStylePlacesACaption)
         expectAt(down, letters.top - room.top, room.bottom - letters.bottom);
         Remove(push);
     }
-}
-
-TEST_F(ButtonOnBoard, CaptionsWithoutEndAndButtonsWithoutSizeOrWindowDoNoHarm)
-{
-    const std::string endless(5000, 'W');
-    for (const CSize size : {CSize(0, 0), CSize(1, 40), CSize(40, 1), CSize(90, 30)})
-    {
-        for (const DWORD style : {DWORD(0), DWORD(BS_MULTILINE)})
-        {
-            const CRect place(CPoint(10, 10), size);
-            Add<TestPush>(place, style, endless.c_str()).Drawn();
-            Add<TestCheckBox>(place, style, endless.c_str()).Drawn();
-            Add<TestRadio>(place, style, endless.c_str()).Drawn();
-        }
-    }
-    TestRadio loose;
-    loose.SetCheck(BST_CHECKED);
-    loose.SetState(TRUE);
-    loose.CCustomRadiobutton::DrawOB();
-    loose.EndTracking();
-    EXPECT_EQ(loose.GetCheck(), BST_CHECKED);
 }
