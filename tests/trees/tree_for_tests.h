@@ -43,6 +43,21 @@ inline std::string SelectedTexts(const MultiTree& tree)
     return SelectedTexts(tree, tree);
 }
 
+// What the states themselves say, by a walk from an item on that asks the platform.
+inline std::string StatesSay(const CTreeCtrl& tree, HTREEITEM item)
+{
+    std::string texts;
+    for (; item != nullptr; item = tree.GetNextSiblingItem(item))
+    {
+        if ((tree.CTreeCtrl::GetItemState(item, TVIS_SELECTED) & TVIS_SELECTED) != 0)
+        {
+            texts += tree.GetItemText(item)[0];
+        }
+        texts += StatesSay(tree, tree.GetChildItem(item));
+    }
+    return texts;
+}
+
 // Adds items whose texts begin with the letters of names below parent.
 inline std::vector<HTREEITEM> AddItems(CTreeCtrl& tree, const std::string& names,
                                        HTREEITEM parent = TVI_ROOT)
@@ -80,6 +95,18 @@ inline CPoint EmptyBeside(const CTreeCtrl& tree, HTREEITEM item, int away = 60)
 {
     const CRect text = TextRectOf(tree, item);
     return ClientPoint(tree, CPoint(text.right + away, text.CenterPoint().y));
+}
+
+// Screen point of the first pixel in an item's row that is a part of it (TVHT_).
+inline CPoint PartOf(const CTreeCtrl& tree, HTREEITEM item, UINT part)
+{
+    CPoint point(0, TextRectOf(tree, item).CenterPoint().y);
+    UINT flags = 0;
+    for (; (flags & part) == 0 && point.x < 100; ++point.x)
+    {
+        tree.HitTest(point, &flags);
+    }
+    return ClientPoint(tree, point);
 }
 
 // One press at a point and what follows it, with keys held from before the press to after it.
