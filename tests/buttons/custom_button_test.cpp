@@ -9,9 +9,7 @@
 #include <gmock/gmock.h>
 
 #include <tuple>
-#include <utility>
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 using Steps = std::vector<std::string>;
 
@@ -218,16 +216,4 @@ TEST_F(ButtonOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
         ::DestroyWindow(window);
         EXPECT_EQ(box.GetCheck(), check) << "still to be asked";
     }
-}
-
-TEST_F(WindowTest, SiblingsComeInTheirOrderAndWithTheButtonItself)
-{
-    auto& first = Add<CStatic>(ButtonPlace, WS_GROUP);
-    auto& button = Add<TestPush>(ButtonPlace, WS_TABSTOP | WS_GROUP);
-    Add<CStatic>(ButtonPlace, WS_TABSTOP);
-    auto& last = Add<CStatic>(ButtonPlace, WS_TABSTOP | WS_GROUP);
-    std::vector<CWnd*> found = {&Host()}; // what is there stays
-    button.GetSiblingControls(found, WS_GROUP);
-    button.GetSiblingControls(found, WS_GROUP | WS_TABSTOP);
-    EXPECT_THAT(found, ElementsAre(&Host(), &first, &button, &last, &button, &last));
 }

@@ -29,13 +29,12 @@ constexpr struct
 // Of the captions' font.
 TEXTMETRIC CaptionMetrics()
 {
-    CClientDC dc(nullptr);
     CFont font;
     CreateOnBoardFont(font, 1.7, 0, FW_NORMAL);
-    const HGDIOBJ before = ::SelectObject(dc, font);
+    CClientDC dc(nullptr);
+    dc.SelectObject(&font);
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics);
-    ::SelectObject(dc, before);
     return metrics;
 }
 
@@ -312,6 +311,7 @@ TEST_F(RadioGroup, GroupBoxesThatItLiesInHearOfEachClickInEveryMode)
     auto& apart = Add<CButton>(CRect(400, 20, 500, 200), BS_GROUPBOX, "Apart");
     MessageLog toldAround(around, {WM_COMMAND});
     MessageLog toldApart(apart, {WM_COMMAND});
+    MessageLog toldItself(radio, {WM_COMMAND});
     const WPARAM told = MAKEWPARAM(radio.GetDlgCtrlID(), BN_CLICKED);
     for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
     {
@@ -320,42 +320,35 @@ TEST_F(RadioGroup, GroupBoxesThatItLiesInHearOfEachClickInEveryMode)
         Click(radio.Middle());
         EXPECT_THAT(toldAround.WParams(WM_COMMAND), ElementsAre(told)) << APPMODE_NAMES[mode];
     }
-    EXPECT_EQ(toldApart.Count(WM_COMMAND), 0);
+    EXPECT_EQ(toldApart.Count(WM_COMMAND) + toldItself.Count(WM_COMMAND), 0);
 }
 
-TEST_F(RadioGroup, AMemberOrABoxThatIsToldMayEndTheOthers)
+TEST_F(RadioGroup, ABoxThatIsToldMayEndTheButton)
 {
-    auto& head = AddRadio(WS_GROUP);
-    auto& second = AddRadio();
-    auto& killer = Add<Acting<TestRadio>>(CRect(300, 40, 400, 70), BS_AUTORADIOBUTTON, "K");
-    killer.ActIn(BM_SETCHECK, [&] { Remove(second); });
-    Click(second.Middle());
-    EXPECT_EQ(::GetCapture(), nullptr);
-
-    const CRect place(20, 20, 300, 200);
+    auto& radio = AddRadio(WS_GROUP);
     int told = 0;
-    for (const int which : {1, 2})
+    for (const char* const name : {"First", "Second"})
     {
-        auto& box = Add<Acting<CButton>>(place, BS_GROUPBOX, std::to_string(which).c_str());
+        auto& box = Add<Acting<CButton>>(CRect(20, 20, 300, 200), BS_GROUPBOX, name);
         box.ActIn(WM_COMMAND, [&] {
             ++told;
-            Remove(head);
+            Remove(radio);
         });
     }
-    Click(head.Middle());
+    Click(radio.Middle());
     EXPECT_EQ(told, 1);
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
-TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesDrawsAtOnce)
+TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesLeavesTheLook)
 {
+    const CPoint down(0, 40);
     CWnd* const buttons[] = {&Add<TestRadio>(ButtonPlace, 0, "R"),
-                             &Add<TestCheckBox>(ButtonPlace + CPoint(0, 40), 0, "B"),
-                             &Add<TestPush>(ButtonPlace + CPoint(0, 80), 0, "P")};
+                             &Add<TestCheckBox>(ButtonPlace + down, 0, "B"),
+                             &Add<TestPush>(ButtonPlace + down + down, 0, "P")};
     for (CWnd* const button : buttons)
     {
         const Pixels before = WindowPixels(*button);
-        CClientDC(button).FillSolidRect(0, 0, 50, 20, RGB(255, 0, 0));
         button->SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
         EXPECT_TRUE(WindowPixels(*button) == before);
     }

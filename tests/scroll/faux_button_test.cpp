@@ -142,14 +142,15 @@ TEST(FauxNcButton, PaintsGlyphAndBorderInTheStandardModeOnly)
 
     const Pixels raised = Painted(button, !Pressed, Enabled, STD);
     const Pixels sunk = Painted(button, Pressed, Enabled, STD);
-    const COLORREF light = ::GetSysColor(COLOR_3DHILIGHT);
-    const COLORREF dark = ::GetSysColor(COLOR_3DDKSHADOW);
-    EXPECT_TRUE(raised.At(10, 15) == light && raised.At(15, 29) == dark);
-    EXPECT_TRUE(sunk.At(10, 15) == dark && sunk.At(15, 29) == light);
-    const COLORREF innerLight = ::GetSysColor(COLOR_3DLIGHT);
-    const COLORREF innerDark = ::GetSysColor(COLOR_3DSHADOW);
-    EXPECT_TRUE(raised.At(11, 15) == innerLight && raised.At(15, 28) == innerDark);
-    EXPECT_TRUE(sunk.At(11, 15) == innerDark && sunk.At(15, 28) == innerLight);
+    // Along the left and along the lower edge, from outside.
+    for (const auto& [at, lit, shadowed] :
+         {std::tuple(10, COLOR_3DHILIGHT, COLOR_3DDKSHADOW), {11, COLOR_3DLIGHT, COLOR_3DSHADOW}})
+    {
+        EXPECT_EQ(raised.At(at, 15), ::GetSysColor(lit));
+        EXPECT_EQ(sunk.At(at, 15), ::GetSysColor(shadowed));
+        EXPECT_EQ(raised.At(15, 39 - at), ::GetSysColor(shadowed));
+        EXPECT_EQ(sunk.At(15, 39 - at), ::GetSysColor(lit));
+    }
     EXPECT_EQ(raised.At(20, 20), Canvas::Untouched) << "no glyph, transparent";
     button.SetShow(0);
     EXPECT_EQ(Painted(button, !Pressed, Enabled, STD), Canvas(80, 80).Picture()) << "hidden";

@@ -76,17 +76,10 @@ TEST_F(MultiTreeInputTest, TheRightButtonKeepsASelectionAndOpensOneMenu)
     ClickItem(tree, d, {VK_CONTROL});
     MessageLog log(tree, {WM_CONTEXTMENU});
     Host().Forget();
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(NM_RCLICK))
-        {
-            const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
-            EXPECT_EQ(notify.itemNew.hItem, b);
-            EXPECT_EQ(ClientPoint(tree, notify.ptDrag), PointOf(tree, b));
-        }
-    };
+    const CPoint at = PointOf(tree, b);
+    ExpectAllAt(tree, b, at);
     ClickItem(tree, b, {}, true);
     Host().hook = nullptr;
-    const CPoint at = PointOf(tree, b);
     EXPECT_EQ(log.All(), std::vector<Received>({{WM_CONTEXTMENU, WPARAM(tree.GetSafeHwnd()),
                                                  MAKELPARAM(at.x, at.y)}}));
     EXPECT_EQ(SelectedTexts(tree), "bd") << "a selected item keeps the others";
@@ -129,29 +122,12 @@ TEST_F(MultiTreeInputTest, TheKeyboardFocusSelectsNothing)
 TEST_F(MultiTreeInputTest, APressIsADragOnceItMovesFarEnough)
 {
     auto& tree = AddTree();
-    CPoint start;
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(TVN_BEGINDRAG) || told.code == UINT(TVN_BEGINRDRAG))
-        {
-            const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
-            EXPECT_EQ(notify.itemNew.hItem, d);
-            EXPECT_EQ(ClientPoint(tree, notify.ptDrag), start);
-        }
-    };
-    // What was told last of the button, after a press on an item.
+    ExpectAllAt(tree, d, PointOf(tree, d));
+    // What was told last of a press on an item.
     const auto pull = [&](HTREEITEM item, CPoint by, std::vector<UINT> held = {},
                           bool right = false) {
         Host().Forget();
-        start = PointOf(tree, item);
-        PressScript(start, std::move(held), right).Pull(by).Release();
-        const std::vector<UINT> codes = Host().CodesFrom(FirstId);
-        for (const UINT drag : {TVN_BEGINDRAG, TVN_BEGINRDRAG})
-        {
-            if (std::ranges::count(codes, drag) > 0)
-            {
-                return int(drag);
-            }
-        }
+        PressScript(PointOf(tree, item), std::move(held), right).Pull(by).Release();
         return Codes().empty() ? 0 : Codes().back();
     };
     const CPoint threshold(::GetSystemMetrics(SM_CXDRAG), ::GetSystemMetrics(SM_CYDRAG));
@@ -311,10 +287,7 @@ TEST_F(MultiTreeInputTest, AnInterruptedBandGivesTheSelectionBack)
     auto& tree = AddTree();
     const std::function<void()> interruptions[] = {
         [] { TypeKey(VK_ESCAPE); },
-        [&] {
-            Host().SetCapture();
-            ::ReleaseCapture();
-        },
+        [] { ::ReleaseCapture(); },
         [&] { tree.SendMessage(WM_CANCELMODE); },
     };
     for (const auto& interrupt : interruptions)

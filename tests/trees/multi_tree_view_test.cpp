@@ -28,7 +28,6 @@ public:
     }
 
     bool accepts = false;
-    bool plain = false; // does what the class does
     std::function<void()> onImage = [] {};
     std::function<void()> onDrop = [] {};
     std::vector<HWND> ended;
@@ -39,7 +38,8 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        if (!plain && (message == mnDragDropMsg || message == mnDragCopyMsg))
+        const LRESULT answer = MultiTreeView::WindowProc(message, wParam, lParam);
+        if (message == mnDragDropMsg || message == mnDragCopyMsg)
         {
             received.push_back(message == mnDragDropMsg ? "drop" : "copy");
             dropPoint = *reinterpret_cast<const POINT*>(wParam);
@@ -55,7 +55,7 @@ protected:
         {
             received.push_back("leave");
         }
-        return MultiTreeView::WindowProc(message, wParam, lParam);
+        return answer;
     }
 };
 
@@ -286,7 +286,6 @@ TEST_F(MultiTreeViewTest, ScrollsAsATarget)
     {
         track(CPoint(20, client.bottom - 3));
         EXPECT_TRUE(scrolls(5000)) << "the timer scrolls";
-        m_target->plain = true;
         target.SendMessage(end, WPARAM(&dropped), LPARAM(&payload));
         EXPECT_FALSE(scrolls(400));
     }
@@ -316,13 +315,10 @@ TEST_F(MultiTreeViewTest, TornOffItActivatesNoFrameAndTellsItsCaption)
 
     view->SetWindowText("Routes");
     char text[8] = "unset";
-    const auto caption = [&](size_t size, char* to) {
-        return view->SendMessage(0x0415, size, LPARAM(to)) != 0;
-    };
-    EXPECT_FALSE(caption(6, text));
-    EXPECT_FALSE(caption(100, nullptr));
+    EXPECT_EQ(view->SendMessage(0x0415, 6, LPARAM(text)), 0);
+    EXPECT_EQ(view->SendMessage(0x0415, 100), 0);
     EXPECT_STREQ(text, "unset");
-    EXPECT_TRUE(caption(7, text));
+    EXPECT_NE(view->SendMessage(0x0415, 7, LPARAM(text)), 0);
     EXPECT_STREQ(text, "Routes");
     frame->DestroyWindow();
 }

@@ -122,19 +122,18 @@ struct PressScript
         , held(std::move(keys))
         , right(rightButton)
     {
-        steps.push_back([at] { QueueMove(at); });
+        Move(at);
         // The display tells of the move a little later, and of no key being down then.
-        steps.push_back([any = !held.empty()] { PumpFor(any ? 30 : 0); });
+        Do([any = !held.empty()] { PumpFor(any ? 30 : 0); });
         for (const UINT key : held)
         {
-            steps.push_back([key] { QueueKey(key, true); });
+            Do([key] { QueueKey(key, true); });
         }
-        steps.push_back([button = right] { QueueButton(true, button); });
+        Do([button = right] { QueueButton(true, button); });
     }
     PressScript& Move(CPoint to)
     {
-        steps.push_back([to] { QueueMove(to); });
-        return *this;
+        return Do([to] { QueueMove(to); });
     }
     // A distance counts from the first move on.
     PressScript& Pull(CPoint by)
@@ -148,10 +147,10 @@ struct PressScript
     }
     void Release()
     {
-        steps.push_back([button = right] { QueueButton(false, button); });
+        Do([button = right] { QueueButton(false, button); });
         for (const UINT key : held)
         {
-            steps.push_back([key] { QueueKey(key, false); });
+            Do([key] { QueueKey(key, false); });
         }
         PlaySteps(steps);
     }
@@ -217,11 +216,26 @@ protected:
         std::vector<int> codes(all.begin(), all.end());
         std::erase_if(codes, [](int code) {
             return code != Changing && code != Changed && code != int(NM_CLICK) &&
-                   code != int(NM_RCLICK) && code != int(TVN_BEGINDRAG);
+                   code != int(NM_RCLICK) && code != int(TVN_BEGINDRAG) &&
+                   code != int(TVN_BEGINRDRAG);
         });
         return codes;
     }
     int CountOf(int code) { return int(std::ranges::count(Codes(), code)); }
+
+    // All that is told of a place from now on is told of an item and a point of the screen.
+    void ExpectAllAt(const CTreeCtrl& tree, HTREEITEM item, CPoint point)
+    {
+        Host().hook = [&tree, item, point](ToldMessage& told) {
+            const int code = int(told.code);
+            if (code == int(NM_RCLICK) || code == int(TVN_BEGINDRAG) || code == int(TVN_BEGINRDRAG))
+            {
+                const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
+                EXPECT_EQ(notify.itemNew.hItem, item);
+                EXPECT_EQ(ClientPoint(tree, notify.ptDrag), point);
+            }
+        };
+    }
 
     UINT m_doubleClickTime = 0;
     HTREEITEM a = nullptr, b = nullptr, c = nullptr, d = nullptr, e = nullptr, f = nullptr;
