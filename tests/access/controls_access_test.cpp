@@ -14,6 +14,7 @@
 #include <gmock/gmock.h>
 
 #include <set>
+#include <tuple>
 
 INSTANTIATE_TEST_SUITE_P(Controls, AccessInModes, testing::Values(STD, ONBOARD));
 
@@ -25,12 +26,7 @@ TEST_P(AccessInModes, WhatOnlyShowsTellsItsKindAndText)
     bar.SetParts(3, edges);
     bar.SetText("Ready", 0, 0);
     bar.SetText("\tUTC 12:00", 2, 0);
-    const struct
-    {
-        const CWnd& window;
-        long role;
-        const char* name;
-    } statics[] = {
+    const std::tuple<const CWnd&, long, const char*> statics[] = {
         {Add<CCustomStatic>(place, 0, "&Fuel && oil"), ROLE_SYSTEM_STATICTEXT, "Fuel & oil"},
         {Add<CBoldStatic>(place, SS_NOPREFIX, "A&B"), ROLE_SYSTEM_STATICTEXT, "A&B"},
         {Add<CCustomStatic>(place, SS_ICON, ""), ROLE_SYSTEM_GRAPHIC, ""},
@@ -39,12 +35,12 @@ TEST_P(AccessInModes, WhatOnlyShowsTellsItsKindAndText)
         {Add<CColorStatic>(place, 0, "Red"), ROLE_SYSTEM_GRAPHIC, "Red"},
         {bar, ROLE_SYSTEM_STATUSBAR, "Ready"},
     };
-    for (const auto& expected : statics)
+    for (const auto& [window, role, name] : statics)
     {
-        const Read read(*Reached(expected.window), CHILDID_SELF);
-        EXPECT_EQ(read.role, expected.role) << expected.name;
-        EXPECT_EQ(read.name, expected.name);
-        EXPECT_EQ(read.state, STATE_SYSTEM_READONLY) << expected.name;
+        const Read read(*Reached(window), CHILDID_SELF);
+        EXPECT_EQ(read.role, role) << name;
+        EXPECT_EQ(read.name, name);
+        EXPECT_EQ(read.state, STATE_SYSTEM_READONLY) << name;
     }
     EXPECT_EQ(Read(*Reached(bar), CHILDID_SELF).value, "Ready; UTC 12:00");
 }

@@ -340,7 +340,7 @@ TEST_F(RadioGroup, ABoxThatIsToldMayEndTheButton)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
-TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesLeavesTheLook)
+TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesDrawsAtOnce)
 {
     const CPoint down(0, 40);
     CWnd* const buttons[] = {&Add<TestRadio>(ButtonPlace, 0, "R"),
@@ -349,6 +349,7 @@ TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesLeavesTheLook)
     for (CWnd* const button : buttons)
     {
         const Pixels before = WindowPixels(*button);
+        CClientDC(button).FillSolidRect(0, 0, 50, 20, RGB(255, 0, 0));
         button->SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
         EXPECT_TRUE(WindowPixels(*button) == before);
     }

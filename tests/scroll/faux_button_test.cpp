@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -35,45 +36,38 @@ TEST(FauxButton, TheStandardLookIsThePlatforms)
         right(false, SB_HORZ);
     CFauxDropButton drop;
     CFauxScrollThumb thumb(SB_HORZ);
-    const struct
-    {
-        CFauxButton& part;
-        UINT type, state;
-    } cases[] = {
+    const std::tuple<CFauxButton&, UINT, UINT> cases[] = {
         {up, DFC_SCROLL, DFCS_SCROLLUP},         {down, DFC_SCROLL, DFCS_SCROLLDOWN},
         {left, DFC_SCROLL, DFCS_SCROLLLEFT},     {right, DFC_SCROLL, DFCS_SCROLLRIGHT},
         {drop, DFC_SCROLL, DFCS_SCROLLCOMBOBOX}, {thumb, DFC_BUTTON, DFCS_BUTTONPUSH},
     };
-    for (const auto& each : cases)
+    for (const auto& [part, type, state] : cases)
     {
-        each.part.SetArea(VertArea);
-        const auto expectLook = [&each](int pressed, int enabled, UINT extra) {
+        part.SetArea(VertArea);
+        for (const auto& [pressed, enabled, extra] : {std::tuple(!Pressed, Enabled, 0),
+                                                      {Pressed, Enabled, DFCS_FLAT},
+                                                      {Pressed, !Enabled, DFCS_INACTIVE}})
+        {
             Canvas platform(80, 80);
             CRect area = VertArea;
-            platform.DC().DrawFrameControl(&area, each.type, each.state | extra);
-            EXPECT_EQ(Painted(each.part, pressed, enabled, STD), platform.Picture()) << extra;
-        };
-        expectLook(!Pressed, Enabled, 0);
-        expectLook(Pressed, Enabled, DFCS_FLAT);
-        expectLook(Pressed, !Enabled, DFCS_INACTIVE);
-        each.part.SetShow(0);
+            platform.DC().DrawFrameControl(&area, type, state | UINT(extra));
+            EXPECT_EQ(Painted(part, pressed, enabled, STD), platform.Picture()) << extra;
+        }
+        part.SetShow(0);
         for (const APPMODE mode : {STD, ONBOARD})
         {
-            EXPECT_EQ(Painted(each.part, Pressed, Enabled, mode), Canvas(80, 80).Picture())
-                << "hidden";
+            EXPECT_EQ(Painted(part, Pressed, Enabled, mode), Canvas(80, 80).Picture()) << "hidden";
         }
     }
 }
 
 TEST(FauxButton, TheOnBoardFaceRunsAlongItsGradient)
 {
-    const struct
-    {
-        int pressed, enabled, nearGrey, farGrey; // 3 and 46 of 50 pixels along the gradient
-    } cases[] = {{!Pressed, Enabled, 146, 95},
-                 {Pressed, Enabled, 44, 95},
-                 {!Pressed, !Enabled, 90, 90},
-                 {Pressed, !Enabled, 90, 90}};
+    // 3 and 46 of 50 pixels along the gradient
+    const std::tuple<int, int, int, int> cases[] = {{!Pressed, Enabled, 146, 95},
+                                                    {Pressed, Enabled, 44, 95},
+                                                    {!Pressed, !Enabled, 90, 90},
+                                                    {Pressed, !Enabled, 90, 90}};
     for (const auto& [pressed, enabled, nearGrey, farGrey] : cases)
     {
         for (const int axis : {SB_VERT, SB_HORZ})
@@ -99,35 +93,35 @@ TEST(FauxButton, ArrowsTakeTheirColourFromTheState)
     CFauxDropButton drop;
     const CRect horzArea(10, 10, 42, 65);
     const COLORREF grey = RGB(100, 100, 100);
-    const struct
+    // Part, area, corners with the apex first, a point inside and its colour, as it is and pressed.
+    const std::tuple<CFauxButton&, CRect, std::vector<CPoint>, CPoint, COLORREF, COLORREF> cases[] =
+        {
+            {up, VertArea, {{36, 20}, {20, 36}, {52, 36}}, {36, 32}, grey, grey},
+            {down, VertArea, {{36, 31}, {20, 15}, {52, 15}}, {36, 20}, grey, grey},
+            {left, horzArea, {{18, 36}, {34, 20}, {34, 52}}, {30, 36}, grey, grey},
+            {right, horzArea, {{32, 36}, {16, 20}, {16, 52}}, {22, 36}, grey, grey},
+            {drop, VertArea, {{36, 33}, {20, 17}, {52, 17}}, {36, 22}, 6, 3}, // the opposite face
+            {up,
+             CRect(30, 30, 50, 50),
+             {{39, 31}, {23, 47}, {55, 47}},
+             {39, 42},
+             grey,
+             grey}, // larger
+        };
+    for (const auto& [part, area, corners, inside, normalColor, pressedColor] : cases)
     {
-        CFauxButton& part;
-        CRect area;
-        std::vector<CPoint> corners; // the apex first
-        CPoint inside;
-        COLORREF normal, pressed;
-    } cases[] = {
-        {up, VertArea, {{36, 20}, {20, 36}, {52, 36}}, {36, 32}, grey, grey},
-        {down, VertArea, {{36, 31}, {20, 15}, {52, 15}}, {36, 20}, grey, grey},
-        {left, horzArea, {{18, 36}, {34, 20}, {34, 52}}, {30, 36}, grey, grey},
-        {right, horzArea, {{32, 36}, {16, 20}, {16, 52}}, {22, 36}, grey, grey},
-        {drop, VertArea, {{36, 33}, {20, 17}, {52, 17}}, {36, 22}, 6, 3}, // the opposite face
-        {up, CRect(30, 30, 50, 50), {{39, 31}, {23, 47}, {55, 47}}, {39, 42}, grey, grey}, // larger
-    };
-    for (const auto& c : cases)
-    {
-        c.part.SetArea(c.area);
-        c.part.SetColors(1, 2, 3, 4, 5, 6);
-        const Pixels normal = Painted(c.part, !Pressed, Enabled, ONBOARD);
-        for (const CPoint corner : c.corners)
+        part.SetArea(area);
+        part.SetColors(1, 2, 3, 4, 5, 6);
+        const Pixels normal = Painted(part, !Pressed, Enabled, ONBOARD);
+        for (const CPoint corner : corners)
         {
             EXPECT_EQ(normal.At(corner), 1U) << corner.x << ", " << corner.y;
         }
-        EXPECT_EQ(normal.At(c.inside), c.normal);
-        EXPECT_EQ(Painted(c.part, Pressed, Enabled, ONBOARD).At(c.inside), c.pressed);
-        const Pixels disabled = Painted(c.part, !Pressed, !Enabled, ONBOARD);
-        EXPECT_EQ(disabled.At(c.inside), 4U);
-        EXPECT_EQ(Painted(c.part, Pressed, !Enabled, ONBOARD), disabled);
+        EXPECT_EQ(normal.At(inside), normalColor);
+        EXPECT_EQ(Painted(part, Pressed, Enabled, ONBOARD).At(inside), pressedColor);
+        const Pixels disabled = Painted(part, !Pressed, !Enabled, ONBOARD);
+        EXPECT_EQ(disabled.At(inside), 4U);
+        EXPECT_EQ(Painted(part, Pressed, !Enabled, ONBOARD), disabled);
     }
 }
 

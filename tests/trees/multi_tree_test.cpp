@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <tuple>
-
 using testing::ElementsAre;
 
 namespace {
@@ -94,20 +92,18 @@ TEST_F(MultiTreeTest, EachStateChangeAsksAndTellsTheParent)
 TEST_F(MultiTreeTest, TheCaretMovesWithoutTheSelection)
 {
     auto& tree = AddTree();
-    EXPECT_TRUE(tree.SetItemState(b, TVIS_FOCUSED | TVIS_SELECTED, TVIS_FOCUSED | TVIS_SELECTED));
-    EXPECT_EQ(tree.GetFocusedItem(), b);
+    EXPECT_TRUE(tree.SetItemState(b, Both, Both));
     tree.SetItemState(e, TVIS_SELECTED, TVIS_SELECTED);
-    for (const HTREEITEM caret : {d, e, HTREEITEM(nullptr)})
+    EXPECT_EQ(Shown(tree), "be:b");
+    for (const auto& [caret, shown] : {std::pair(d, "be:d"), {e, "be:e"}, {nullptr, "be:-"}})
     {
         tree.FocusItem(caret);
-        EXPECT_EQ(tree.GetFocusedItem(), caret);
-        EXPECT_EQ(SelectedTexts(tree), "be");
+        EXPECT_EQ(Shown(tree), shown);
     }
-    for (const HTREEITEM alone : {c, HTREEITEM(nullptr)})
+    for (const auto& [alone, shown] : {std::pair(c, "c:c"), {nullptr, ":-"}})
     {
         tree.SelectItem(alone);
-        EXPECT_EQ(SelectedTexts(tree), alone != nullptr ? "c" : "");
-        EXPECT_EQ(tree.GetFocusedItem(), alone);
+        EXPECT_EQ(Shown(tree), shown);
     }
     tree.SelectAll(true, false);
     tree.FocusItem(d);
@@ -131,11 +127,10 @@ TEST_F(MultiTreeTest, ARefusalLeavesEverythingAsItWasAndIsAskedForOnce)
     };
     EXPECT_FALSE(tree.SetItemState(d, TVIS_SELECTED, TVIS_SELECTED));
     EXPECT_FALSE(tree.SetItemState(b, 0, TVIS_SELECTED));
-    EXPECT_FALSE(tree.SetItemState(e, TVIS_FOCUSED | TVIS_SELECTED, TVIS_FOCUSED | TVIS_SELECTED));
+    EXPECT_FALSE(tree.SetItemState(e, Both, Both));
     tree.SelectAll(true, true);
     EXPECT_FALSE(tree.SelectChildren(a, true, true));
-    EXPECT_EQ(SelectedTexts(tree), "b");
-    EXPECT_EQ(tree.GetFocusedItem(), b);
+    EXPECT_EQ(Shown(tree), "b:b");
     EXPECT_EQ(CountOf(Changed), 0);
     // Where only the caret is held back, the rest of the change is made.
     EXPECT_TRUE(tree.SetItemState(b, 0, TVIS_FOCUSED));
@@ -243,22 +238,21 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
 {
     auto& tree = AddTree();
     // Selected alone, then also; how it is closed; what stays selected and has the caret.
-    const std::tuple<HTREEITEM, HTREEITEM, UINT, UINT, const char*, HTREEITEM> cases[] = {
-        {b, e, TVIS_SELECTED, TVE_COLLAPSE, "e", nullptr},
-        {a, b, TVIS_SELECTED, TVE_TOGGLE, "a", a}, // a selected branch keeps the caret
-        {b, e, TVIS_FOCUSED | TVIS_SELECTED, TVE_COLLAPSE, "e", nullptr},
-        {b, e, TVIS_SELECTED, TVE_EXPAND, "be", b},
-        {b, b, TVIS_SELECTED, TVE_COLLAPSERESET, "", nullptr}, // alone it closes as well
+    const std::tuple<HTREEITEM, HTREEITEM, UINT, UINT, const char*> cases[] = {
+        {b, e, TVIS_SELECTED, TVE_COLLAPSE, "e:-"},
+        {a, b, TVIS_SELECTED, TVE_TOGGLE, "a:a"}, // a selected branch keeps the caret
+        {b, e, Both, TVE_COLLAPSE, "e:-"},
+        {b, e, TVIS_SELECTED, TVE_EXPAND, "be:b"},
+        {b, b, TVIS_SELECTED, TVE_COLLAPSERESET, ":-"}, // alone it closes as well
     };
-    for (const auto& [first, second, state, code, selected, caret] : cases)
+    for (const auto& [first, second, state, code, shown] : cases)
     {
         tree.Expand(a, TVE_EXPAND);
         tree.SelectItem(first);
         tree.SetItemState(second, state, state);
         tree.Expand(a, code);
-        EXPECT_EQ(SelectedTexts(tree), selected) << code;
-        EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), selected) << code;
-        EXPECT_EQ(tree.GetFocusedItem(), caret) << code;
+        EXPECT_EQ(Shown(tree), shown) << code;
+        EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), SelectedTexts(tree)) << code;
     }
 }
 

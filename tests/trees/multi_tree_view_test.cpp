@@ -12,8 +12,6 @@ namespace {
 // A view that writes down what it is told and takes what it is given if it is to.
 class ViewForTests : public MultiTreeView
 {
-    DECLARE_DYNCREATE(ViewForTests)
-
 public:
     using MultiTreeView::m_dragging;
     using MultiTreeView::m_dragImage;
@@ -58,8 +56,6 @@ protected:
         return answer;
     }
 };
-
-IMPLEMENT_DYNCREATE(ViewForTests, MultiTreeView)
 
 class MultiTreeViewTest : public TreeTest
 {
@@ -299,10 +295,10 @@ TEST_F(MultiTreeViewTest, TornOffItActivatesNoFrameAndTellsItsCaption)
 {
     auto* frame = new CFrameWnd; // deletes itself
     CCreateContext context;
-    context.m_pNewViewClass = RUNTIME_CLASS(ViewForTests);
+    context.m_pNewViewClass = RUNTIME_CLASS(MultiTreeView);
     ASSERT_TRUE(frame->Create(nullptr, "Frame", WS_POPUP | WS_VISIBLE, CRect(100, 80, 400, 380),
                               nullptr, nullptr, 0, &context));
-    auto* view = STATIC_DOWNCAST(ViewForTests, frame->GetActiveView());
+    CView* const view = frame->GetActiveView();
     ASSERT_NE(view, nullptr);
     for (const bool peeled : {false, true, false})
     {

@@ -4,6 +4,8 @@
 #include "MultiTreeView.h"
 #include "support/Accessible.h"
 
+#include <tuple>
+
 class TreeAccessInModes : public AccessInModes
 {};
 
@@ -44,15 +46,13 @@ TEST_P(TreeAccessInModes, ItemsOfATreeTellNamePlaceAndState)
     EXPECT_EQ(child.lVal, 2);
     EXPECT_EQ(object->get_accFocus(&child), S_OK);
     EXPECT_EQ(child.lVal, 2);
-    const struct
+    const std::tuple<long, long, long> steps[] = {
+        {0, NAVDIR_LASTCHILD, 3}, {1, NAVDIR_FIRSTCHILD, 2}, {1, NAVDIR_NEXT, 3},
+        {2, NAVDIR_LEFT, 1},      {1, NAVDIR_DOWN, 2},       {3, NAVDIR_UP, 2}};
+    for (const auto& [from, direction, to] : steps)
     {
-        long from, direction, to;
-    } steps[] = {{0, NAVDIR_LASTCHILD, 3}, {1, NAVDIR_FIRSTCHILD, 2}, {1, NAVDIR_NEXT, 3},
-                 {2, NAVDIR_LEFT, 1},      {1, NAVDIR_DOWN, 2},       {3, NAVDIR_UP, 2}};
-    for (const auto& step : steps)
-    {
-        EXPECT_EQ(object->accNavigate(step.direction, Child(step.from), &child), S_OK);
-        EXPECT_EQ(child.lVal, step.to) << step.from << " " << step.direction;
+        EXPECT_EQ(object->accNavigate(direction, Child(from), &child), S_OK);
+        EXPECT_EQ(child.lVal, to) << from << " " << direction;
     }
     EXPECT_EQ(object->accNavigate(NAVDIR_NEXT, Child(3), &child), S_FALSE);
 }

@@ -12,6 +12,7 @@
 #include <tuple>
 
 constexpr DWORD TreeStyle = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
+constexpr UINT Both = TVIS_FOCUSED | TVIS_SELECTED;
 
 // What a test sees of a tree beyond its interface.
 class TreeForTests : public Fenced<MultiTree>
@@ -41,6 +42,13 @@ template <class Tree> std::string SelectedTexts(const Tree& tree, const CTreeCtr
 inline std::string SelectedTexts(const MultiTree& tree)
 {
     return SelectedTexts(tree, tree);
+}
+
+// The same, and the first letter of the item with the caret after a colon.
+inline std::string Shown(const MultiTree& tree)
+{
+    const HTREEITEM caret = tree.GetFocusedItem();
+    return SelectedTexts(tree) + ':' + (caret != nullptr ? tree.GetItemText(caret)[0] : '-');
 }
 
 // What the states themselves say, by a walk from an item on that asks the platform.

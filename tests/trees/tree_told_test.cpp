@@ -101,13 +101,12 @@ TEST_F(TreeToldTest, SurvivesAParentThatIsToldOfStates)
         {"clears the tree", [&](HTREEITEM) { tree->DeleteAllItems(); }},
         {"ends the tree", [&](HTREEITEM) { Remove(*tree); }},
     };
-    const auto both = TVIS_FOCUSED | TVIS_SELECTED;
     const Act<> operations[] = {
         {"all", [&] { tree->SelectAll(true, true); }},
         {"none", [&] { tree->SelectAll(false, true); }},
         {"range", [&] { tree->SelectRange(b, f, true); }},
-        {"state", [&] { tree->SetItemState(d, both, both); }},
-        {"caret kept", [&] { tree->SetItemState(e, TVIS_SELECTED, both); }},
+        {"state", [&] { tree->SetItemState(d, Both, Both); }},
+        {"caret kept", [&] { tree->SetItemState(e, TVIS_SELECTED, Both); }},
         {"caret away", [&] { tree->FocusItem(nullptr); }},
         {"caret", [&] { tree->FocusItem(d); }},
         {"item", [&] { tree->SelectItem(d); }},
@@ -134,7 +133,7 @@ TEST_F(TreeToldTest, SurvivesAParentThatIsToldOfStates)
                 tree = &AddToldTree();
                 const WindowAlive alive(*tree);
                 tree->SetItemState(c, TVIS_SELECTED, TVIS_SELECTED);
-                tree->SetItemState(e, both, both);
+                tree->SetItemState(e, Both, Both);
                 int count = 0;
                 Host().hook = [&, &acting = acting](ToldMessage& told) {
                     const int code = int(told.code);
