@@ -82,18 +82,11 @@ void Turn(CPoint point, DWORD button)
     PumpAll();
 }
 
-class FromAnotherProcess : public WindowTest
-{
-protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        ::CoInitialize(nullptr);
-    }
-};
+using FromAnotherProcess = WindowTest;
 
 TEST_F(FromAnotherProcess, ButtonsAreReadPressedAndHeard)
 {
+    ::CoInitialize(nullptr);
     const RunningGallery gallery("--mode onboard --page buttons");
     const HWND frame = gallery.Window(Title);
     const HWND check = Within(frame, "Button", "Terrain");
@@ -136,6 +129,7 @@ TEST_F(FromAnotherProcess, ButtonsAreReadPressedAndHeard)
 
 TEST_F(FromAnotherProcess, RowsAreFoundAtAPointWorkedAndHeard)
 {
+    ::CoInitialize(nullptr);
     const RunningGallery gallery("--mode onboard --page checklist");
     const HWND list = Within(gallery.Window(Title), "ListBox", nullptr);
     ASSERT_NE(list, nullptr);

@@ -1,5 +1,4 @@
 #include "scroll/FauxScrollGeometry.h"
-#include "scroll/NcBands.h"
 
 #include <gtest/gtest.h>
 
@@ -46,13 +45,6 @@ TEST(ScrollGeometry, AThumbWithoutRoomStaysBetweenTheButtons)
     const scroll::Span thumb = {70, 90};
     EXPECT_EQ(scroll::LimitedShift(thumb, {80, 85}, 0), 10) << "the near end wins";
     EXPECT_EQ(scroll::ThumbAt(thumb, {50, 60}, 0, 0, 0.0), (scroll::Span{50, 60})) << "shorter";
-}
-
-TEST(NcBands, AWindowSmallerThanItsBandsHasNoClientArea)
-{
-    CRect rect(10, 20, 40, 50);
-    scroll::TakeBands(rect, CSize(1, 1), true, true);
-    EXPECT_EQ(rect, CRect(11, 21, 11, 21));
 }
 
 } // namespace
