@@ -50,8 +50,12 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     auto& box = Add<CCustomCheckBox>(CRect(10, 10, 200, 60), BS_AUTOCHECKBOX, "Auto");
     const Held<IAccessible> check = Reached(box);
     EXPECT_EQ(check->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+    EXPECT_EQ(Read(*check, CHILDID_SELF).action, "Check") << "posted";
     PumpAll();
     EXPECT_EQ(Read(*check, CHILDID_SELF).state, STATE_SYSTEM_CHECKED | STATE_SYSTEM_FOCUSED);
+    box.SetState(TRUE);
+    EXPECT_NE(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_PRESSED, 0);
+    box.SetState(FALSE);
     box.EnableWindow(FALSE);
     EXPECT_EQ(check->accDoDefaultAction(Child(CHILDID_SELF)), DISP_E_MEMBERNOTFOUND);
 
