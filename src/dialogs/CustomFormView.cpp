@@ -80,10 +80,14 @@ void CCustomFormView::OnInitialUpdate()
     // The framework calls this for every document that is opened in the view.
     if (!std::exchange(m_restyled, true))
     {
-        dialogs::OpenForm(*this, *m_controlList, m_controls);
-        if (alive && COnBoardUIGeneral::InOnBoardMode())
+        // The range first: the controls may change the mode, which scales it, too.
+        if (COnBoardUIGeneral::InOnBoardMode())
         {
             ScaleScrollRange(metrics::OnBoardScale);
+        }
+        if (alive)
+        {
+            dialogs::OpenForm(*this, *m_controlList, m_controls);
         }
     }
     else

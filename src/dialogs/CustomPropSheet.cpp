@@ -145,9 +145,9 @@ void CCustomPropSheet::LayOutOnBoard()
     const HWND tabs = *GetTabControl();
     const CSize page = RescaledRect(PageArea(tabs), metrics::OnBoardScale).Size();
     dialogs::OpenOnBoard(sheet, dialogs::ChildrenOf(*this, false).standardFont);
-    if (!alive)
+    if (!alive || !COnBoardUIGeneral::InOnBoardMode())
     {
-        return;
+        return; // it has followed the mode back
     }
 
     const CRect tabsBefore = PlaceOf(tabs);

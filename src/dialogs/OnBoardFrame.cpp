@@ -83,10 +83,11 @@ Children ChildrenOf(const CWnd& window, bool scaledLater)
 
 namespace {
 
-// Gives those children that have one font another.
-void SwapFonts(std::span<const HWND> children, HFONT from, HFONT to)
+// Gives those children that have one font another: also those that were made in the middle of a
+// change of the mode. Whoever makes a control for a form takes the form's font.
+void SwapFonts(HWND window, HFONT from, HFONT to)
 {
-    ForEachLeft(children, [from, to](HWND child) {
+    ForEachChild(window, [from, to](HWND child) {
         if (reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == from)
         {
             ::SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(to), FALSE);
@@ -159,11 +160,11 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
         const bool stillOnBoard = COnBoardUIGeneral::InOnBoardMode();
         if (alive && oldMode == STD && stillOnBoard)
         {
-            SwapFonts(windows, children.standardFont, onBoard);
+            SwapFonts(handle, children.standardFont, onBoard);
         }
         else if (alive && newMode == STD && !stillOnBoard)
         {
-            SwapFonts(windows, onBoard, children.standardFont);
+            SwapFonts(handle, onBoard, children.standardFont);
         }
     }
     if (alive)
@@ -405,7 +406,10 @@ void OpenOnBoard(HWND window, HFONT standard, std::span<const HWND> placed)
     const std::vector<HWND> children =
         RestyleNewWindow(window, placed, &lists::ComboScaling::NoteStandard);
     lists::ComboScaling::Fit(children);
-    SwapFonts(children, standard, CCustomDialog::m_OBStaticTextFont);
+    if (COnBoardUIGeneral::InOnBoardMode()) // else its children have heard of the end of it
+    {
+        SwapFonts(window, standard, CCustomDialog::m_OBStaticTextFont);
+    }
 }
 
 void OpenForm(CWnd& window, ControlList& list, std::vector<CWnd*>& controls)

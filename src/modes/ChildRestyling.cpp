@@ -224,20 +224,12 @@ public:
     Restyling(HWND window, double scale, std::span<const HWND> placed, BeforeChild before)
         : m_placed(placed)
         , m_before(before)
+        , m_children(ChildrenNow(window))
         , m_outer(s_innermost)
     {
         m_change.parent = window;
         m_change.scale = scale;
         m_change.mode = COnBoardUIGeneral::GetAppMode();
-        const auto collect = [](HWND child, LPARAM restyling) -> BOOL {
-            auto& now = *reinterpret_cast<Restyling*>(restyling);
-            if (::GetParent(child) == now.m_change.parent) // the enumeration goes deeper
-            {
-                now.m_children.push_back(child);
-            }
-            return TRUE;
-        };
-        ::EnumChildWindows(window, collect, reinterpret_cast<LPARAM>(this));
         // What those change once more comes after this change.
         s_innermost = this;
         FinishThoseOf(window, m_outer);

@@ -12,8 +12,7 @@ using BeforeChild = void (*)(HWND child);
 
 // Rescales and restyles the direct children of a window for a change of mode; what every
 // mode-aware window does when it is told of one. Nothing when the modes are equal or the window
-// does not exist. Returns the children, of which some may have ended: asking for them once more
-// takes a question to the system for each.
+// does not exist. Returns these children, of which some may have ended.
 std::vector<HWND> RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode,
                                   BeforeChild before = nullptr);
 

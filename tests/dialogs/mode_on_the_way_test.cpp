@@ -1,0 +1,101 @@
+#include "CustomFormView.h"
+#include "CustomPropPage.h"
+#include "dialogs/dialog_for_tests.h"
+#include "support/Acting.h"
+#include "support/forms.h"
+
+namespace {
+
+using ModeOnTheWayTest = CustomDialogTest;
+
+// A control that ends the on-board mode on the way.
+class Changing : public Acting<CWnd>
+{
+public:
+    void In(const CWnd& window, int id)
+    {
+        SubclassWindow(::GetDlgItem(window, id));
+        ActIn(WM_SIZE, [] { COnBoardUIGeneral::SetAppMode(STD); });
+    }
+};
+
+// Opened in the on-board mode, which a control ends while it is scaled for it.
+TEST_F(ModeOnTheWayTest, AWindowThatOpensFollowsTheModeBack)
+{
+    DialogForTests dialog;
+    Changing changing;
+    dialog.beforeInit = [&] { changing.In(dialog, IdEdit); };
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    ASSERT_FALSE(COnBoardUIGeneral::InOnBoardMode());
+    EXPECT_NE(HFONT(*dialog.GetDlgItem(IdLabel)->GetFont()),
+              HFONT(CCustomDialog::m_OBStaticTextFont));
+
+    struct View : CCustomFormView
+    {
+        View()
+            : CCustomFormView(IDD_TEST_FORM)
+        {}
+        using CCustomFormView::Create;
+        void PostNcDestroy() override {} // the test owns it
+    } view;
+    const CRect place(0, 0, 120, 60);
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    ASSERT_TRUE(view.Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, &Host(), 5, nullptr));
+    const CSize total = view.GetTotalSize();
+    Changing inView;
+    inView.In(view, IDC_TEST_EDIT);
+    view.OnInitialUpdate();
+    ASSERT_FALSE(COnBoardUIGeneral::InOnBoardMode());
+    EXPECT_NEAR(view.GetTotalSize().cx, total.cx, 2) << "all of it can be reached";
+    EXPECT_NEAR(view.GetTotalSize().cy, total.cy, 2);
+
+    struct Sheet : Scripted<CCustomPropSheet>
+    {
+        using Scripted<CCustomPropSheet>::Scripted;
+        Changing changing;
+        BOOL OnInitDialog() override
+        {
+            if (COnBoardUIGeneral::InOnBoardMode())
+            {
+                changing.In(*this, IDOK);
+            }
+            return Scripted<CCustomPropSheet>::OnInitDialog();
+        }
+    };
+    CSize standard;
+    for (const APPMODE opened : {STD, ONBOARD})
+    {
+        COnBoardUIGeneral::SetAppMode(opened);
+        CCustomPropPage page(IDD_TEST_PAGE_1);
+        Sheet sheet("Sheet", nullptr, &Host());
+        sheet.AddPage(&page);
+        sheet.inLoop = [&] {
+            const CSize size = WindowRectOf(sheet).Size();
+            EXPECT_TRUE(opened == STD || size == standard) << size.cx << ' ' << size.cy;
+            standard = size;
+            sheet.EndDialog(IDOK);
+        };
+        EXPECT_EQ(sheet.DoModal(), IDOK);
+        ASSERT_FALSE(COnBoardUIGeneral::InOnBoardMode());
+    }
+}
+
+TEST_F(ModeOnTheWayTest, ALabelThatAControlMakesMeanwhileIsReadLikeTheOthers)
+{
+    DialogForTests dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    CStatic label;
+    Acting<CEdit> edit;
+    edit.SubclassWindow(*dialog.GetDlgItem(IdEdit));
+    edit.ActIn(WM_SIZE, [&] {
+        label.Create("made", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 20), &dialog, 900);
+        label.SetFont(dialog.GetFont());
+    });
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    EXPECT_EQ(label.GetFont(), dialog.GetDlgItem(IdLabel)->GetFont());
+    COnBoardUIGeneral::SetAppMode(STD);
+    EXPECT_EQ(label.GetFont(), dialog.GetFont());
+}
+
+} // namespace
