@@ -275,7 +275,7 @@ private:
     void EnterOnBoard();
     void LeaveOnBoard();
     void ForgetWindow();
-    View CurrentView(int top, int rows);
+    void KeepView(int top, int rows);
     void RestoreView();
     void ScalePlatformColumns(bool toOnBoard);
 

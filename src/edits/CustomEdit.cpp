@@ -263,12 +263,7 @@ void CCustomEdit::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
 
 void CCustomEdit::OnWindowPosChanging(WINDOWPOS* position)
 {
-    const WindowAlive alive(*this);
     m_bars->WindowPosChanging(position);
-    if (alive)
-    {
-        m_bars->TakePlace(*position);
-    }
 }
 
 void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)

@@ -80,7 +80,7 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     const WindowAlive alive(*this);
     const Effect effect = EffectOf(message);
-    m_bars->EndUnbroken(ConcernsLines(message, effect));
+    m_bars->SettlePlace(ConcernsLines(message, effect));
     if (alive && ChoosesLines(message, effect))
     {
         m_bars->ForgetFirstLine();
@@ -240,9 +240,7 @@ LRESULT CCustomEdit::OnSetFont(WPARAM wParam, LPARAM lParam)
     if (reinterpret_cast<HFONT>(wParam) != onBoard || !m_bars->InOnBoard() ||
         reinterpret_cast<HFONT>(Ask(WM_GETFONT)) != onBoard)
     {
-        LRESULT result = 0;
-        m_bars->SetFont(result);
-        return result;
+        return m_bars->SetFont();
     }
     if (LOWORD(lParam) != 0)
     {

@@ -4,7 +4,6 @@
 // turn, and the text follows a thumb line by line. A horizontal bar stays the platform's.
 
 #include "CustomEdit.h"
-#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "scroll/BarHost.h"
 #include "scroll/NcBands.h"
@@ -27,42 +26,27 @@ public:
     // The platform breaks all lines several times over for one font. Meanwhile the client area is
     // so wide that there is nothing to break; an edit that is about to get another place breaks
     // them only there.
-    bool SetFont(LRESULT& result)
+    LRESULT SetFont()
     {
         const WindowAlive alive(m_edit);
-        const bool wraps = Wraps();
-        if (wraps && !m_unbroken)
+        ForgetPlace();
+        if (!m_unbroken && Wraps())
         {
             m_firstLine = m_edit.FirstLine();
-            m_unbroken = m_keepingUnbroken = true;
+            m_unbroken = true;
             m_placed = false;
             scroll::RecalculateFrameUnpainted(m_edit);
         }
-        result = alive ? Default() : 0;
-        if (!alive)
+        const LRESULT result = alive ? Default() : 0;
+        if (alive && m_unbroken)
         {
-            return false;
+            LayOutInPlace();
         }
-        m_keepingUnbroken = false;
-        if (wraps && !IsBeingPlaced(m_edit))
-        {
-            BreakLines();
-        }
-        return bool(alive);
+        return result;
     }
 
     // Between the two: there is no layout to follow.
     bool IsUnbroken() const { return m_unbroken; }
-
-    // Before any message: a place that never came is not waited for, nor does anybody who asks for
-    // the lines or scrolls them (asked) wait for it.
-    void EndUnbroken(bool asked)
-    {
-        if (m_unbroken && !m_keepingUnbroken && !IsFollowing() && (asked || !IsBeingPlaced(m_edit)))
-        {
-            BreakLines();
-        }
-    }
 
     // WM_NCCALCSIZE: whether the client area is to be too wide for a line to be broken, which ends
     // with the first frame of a new place.
@@ -71,27 +55,13 @@ public:
         if (std::exchange(m_placed, false))
         {
             m_unbroken = false;
+            ForgetPlace();
         }
         return m_unbroken;
     }
 
     // Somebody has chosen what is in sight since.
     void ForgetFirstLine() { m_firstLine = -1; }
-
-    // WM_WINDOWPOSCHANGING, after everything else: the place has come.
-    void TakePlace(WINDOWPOS& position)
-    {
-        if (m_unbroken && !m_keepingUnbroken && !IsFollowing() && IsBeingPlaced(m_edit))
-        {
-            const WindowAlive alive(m_edit);
-            Follow(); // now, so that its frame is the new one's
-            if (alive)
-            {
-                m_placed = true; // unless the frame is kept from it
-                position.flags |= SWP_FRAMECHANGED;
-            }
-        }
-    }
 
     // WM_SIZE: the lines are broken, and the first one in sight is what it was.
     void RestoreFirstLine()
@@ -108,7 +78,7 @@ public:
 
     void ForgetUnbroken()
     {
-        m_unbroken = m_keepingUnbroken = m_placed = false;
+        m_unbroken = m_placed = false;
         m_firstLine = -1;
     }
 
@@ -121,10 +91,9 @@ public:
 private:
     CCustomEdit& m_edit;
     Part m_noPart = CFauxScrollBar::PRESSED_NONE; // of the bar that there is not
-    bool m_unbroken = false;        // the client area is too wide for a line to be broken
-    bool m_keepingUnbroken = false; // in SetFont or BreakLines
-    bool m_placed = false;          // the next frame is that of a new place
-    int m_firstLine = -1;           // in sight before that
+    bool m_unbroken = false; // the client area is too wide for a line to be broken
+    bool m_placed = false;   // the next frame is that of a new place
+    int m_firstLine = -1;    // in sight before that
 
     // Whether there are lines that a width breaks.
     bool Wraps()
@@ -133,10 +102,22 @@ private:
                Ask(WM_GETTEXTLENGTH, 0, 0) > 0;
     }
 
-    void BreakLines()
+    bool IsReady() override { return m_edit.IsReady(); }
+    void EnterOnBoard() override { m_edit.EnterOnBoard(); }
+    void LeaveOnBoard() override { m_edit.LeaveOnBoard(); }
+    void Foresee(const CSize&) override
     {
         const WindowAlive alive(m_edit);
-        m_keepingUnbroken = true;
+        Follow(); // now, so that its frame is the new one's
+        if (alive)
+        {
+            m_placed = true; // unless the frame is kept from it
+        }
+    }
+    // Breaks the lines.
+    void LayOut() override
+    {
+        const WindowAlive alive(m_edit);
         Follow();
         if (!alive)
         {
@@ -146,14 +127,9 @@ private:
         scroll::RecalculateFrameUnpainted(m_edit);
         if (alive)
         {
-            m_keepingUnbroken = false;
             m_edit.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
         }
     }
-
-    bool IsReady() override { return m_edit.IsReady(); }
-    void EnterOnBoard() override { m_edit.EnterOnBoard(); }
-    void LeaveOnBoard() override { m_edit.LeaveOnBoard(); }
 
     CFauxScrollBar* BarOf(int axis) override { return axis == SB_VERT ? &m_edit.m_bar : nullptr; }
     void DrawBars() override { m_edit.DrawOBScrollBars(); }

@@ -6,7 +6,6 @@
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
-#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 #include "paint/SharedObjects.h"
@@ -169,7 +168,6 @@ void CCustomListCtrl::PreSubclassWindow()
 void CCustomListCtrl::ForgetWindow()
 {
     m_bars->BeginAfresh();
-    m_bars->EndAwaiting();
     m_drawOffset = CPoint(0, 0);
     m_furtherOffset = CPoint(0, 0);
     m_scrollUnit = CSize(0, 0);
@@ -221,7 +219,6 @@ int CCustomListCtrl::OnCreate(LPCREATESTRUCT)
 
 void CCustomListCtrl::OnDestroy()
 {
-    m_bars->EndAwaiting();
     m_bars->Destroy();
 }
 
@@ -260,7 +257,7 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         m_bars->Follow();
         if (alive && listctrl::ConcernsView(message))
         {
-            m_bars->LayOutNow();
+            m_bars->SettlePlace(true);
         }
         if (!alive || !FollowFilling(message))
         {
@@ -291,24 +288,18 @@ void CCustomListCtrl::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* param
 
 void CCustomListCtrl::OnWindowPosChanging(WINDOWPOS* position)
 {
-    const WindowAlive alive(*this);
     m_bars->WindowPosChanging(position);
-    if (alive)
-    {
-        m_bars->TakePlace(*position);
-    }
 }
 
 void CCustomListCtrl::OnSize(UINT type, int width, int height)
 {
     const WindowAlive alive(*this);
     CListCtrl::OnSize(type, width, height);
-    // While it enters or leaves a mode, the size that counts is still to come.
-    if (!alive || (m_bars->IsFollowing() && IsBeingPlaced(*this)))
+    if (!alive || m_bars->IsSizePassing())
     {
         return;
     }
-    m_bars->EndAwaiting();
+    m_bars->TakePlace(); // the list is laid out by this
     m_bars->SetPlacingDue(true);
     m_fittedTo.SetRectEmpty();
     if (!InOnBoard())

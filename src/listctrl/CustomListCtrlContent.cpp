@@ -425,8 +425,12 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
         InvalidateRows(row < 0 ? 0 : row, row < 0 ? end : row);
         if (lParam != 0 && (reinterpret_cast<const LVITEM*>(lParam)->stateMask & LVIS_FOCUSED) != 0)
         {
+            const WindowAlive alive(*this);
             FollowFocus();
-            HoldPlatform(); // some platforms bring the row with the focus into sight
+            if (alive)
+            {
+                HoldPlatform(); // some platforms bring the row with the focus into sight
+            }
         }
         break;
     case WM_SETFOCUS:

@@ -4,16 +4,16 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
-#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 
 void CCustomListCtrl::EnterOnBoard()
 {
     const WindowAlive alive(*this);
-    if (!m_view || !m_bars->AwaitsPlace()) // else it has not been brought back yet
+    KeepView(int(Ask(LVM_GETTOPINDEX)), int(Ask(LVM_GETCOUNTPERPAGE)));
+    if (!alive)
     {
-        m_view = CurrentView(int(Ask(LVM_GETTOPINDEX)), int(Ask(LVM_GETCOUNTPERPAGE)));
+        return;
     }
     m_wheel = 0;
     m_bars->SetPlacingDue(true);
@@ -31,18 +31,19 @@ void CCustomListCtrl::EnterOnBoard()
     {
         ScalePlatformColumns(true);
     }
-    if (alive && !m_bars->AwaitPlace())
+    if (alive)
     {
-        m_bars->LayOut();
+        m_bars->LayOutInPlace();
     }
 }
 
 void CCustomListCtrl::LeaveOnBoard()
 {
     const WindowAlive alive(*this);
-    if (!m_view || !m_bars->AwaitsPlace())
+    KeepView(TopRow(), RowsInSight());
+    if (!alive)
     {
-        m_view = CurrentView(TopRow(), RowsInSight());
+        return;
     }
     m_bars->End();
     if (m_header.IsHotTracking())
@@ -68,13 +69,12 @@ void CCustomListCtrl::LeaveOnBoard()
     {
         m_bars->SetPlatformStyles(0);
     }
-    if (alive && !m_bars->AwaitPlace())
+    if (alive)
     {
-        m_bars->LayOut();
+        m_bars->LayOutInPlace();
     }
 }
 
-// The rest of entering or leaving a mode, in a new frame.
 void CCustomListCtrl::Bars::LayOut()
 {
     const WindowAlive alive(m_list);
@@ -94,82 +94,65 @@ void CCustomListCtrl::Bars::LayOut()
     }
 }
 
-// A list that gets its place with its font --------------------------------------------------------
-
-bool CCustomListCtrl::Bars::AwaitPlace()
-{
-    return m_awaitsPlace = IsBeingPlaced(m_list);
-}
-
-void CCustomListCtrl::Bars::TakePlace(WINDOWPOS& position)
+// The frame at once with the bars that so many rows and such columns call for.
+void CCustomListCtrl::Bars::Foresee(const CSize& window)
 {
     CRect row;
-    if (!m_awaitsPlace)
+    if (!InOnBoard() || !m_list.FirstRowRect(row))
     {
         return;
     }
-    position.flags |= SWP_FRAMECHANGED;
-    if (InOnBoard() && (position.flags & SWP_NOSIZE) == 0 && m_list.FirstRowRect(row))
-    {
-        // The frame at once with the bars that so many rows and such columns call for.
-        const int high = position.cy - 2 * ::GetSystemMetrics(SM_CXFRAME);
-        const int wide = position.cx - 2 * ::GetSystemMetrics(SM_CYFRAME);
-        const int items = int(Ask(LVM_GETITEMCOUNT, 0, 0));
-        const bool vertical = listctrl::VerticalBar(items, row.Height(), high).needed;
-        CRect last;
-        const int columns = m_list.ColumnCount();
-        const bool horizontal = columns > 0 && m_list.HeaderItemRect(columns - 1, last) &&
-                                last.right > wide - (vertical ? metrics::ScrollBand : 0);
-        ShowBar(SB_VERT, vertical);
-        ShowBar(SB_HORZ, horizontal);
-    }
+    const int high = window.cy - 2 * ::GetSystemMetrics(SM_CXFRAME);
+    const int wide = window.cx - 2 * ::GetSystemMetrics(SM_CYFRAME);
+    const int items = int(Ask(LVM_GETITEMCOUNT, 0, 0));
+    const bool vertical = listctrl::VerticalBar(items, row.Height(), high).needed;
+    CRect last;
+    const int columns = m_list.ColumnCount();
+    const bool horizontal = columns > 0 && m_list.HeaderItemRect(columns - 1, last) &&
+                            last.right > wide - (vertical ? metrics::ScrollBand : 0);
+    ShowBar(SB_VERT, vertical);
+    ShowBar(SB_HORZ, horizontal);
 }
 
-void CCustomListCtrl::Bars::SettlePlace()
+// The row at the top, and a selected row in sight: the one with the focus before others. What has
+// not been brought back yet is kept.
+void CCustomListCtrl::KeepView(int top, int rows)
 {
-    if (!IsBeingPlaced(m_list))
+    if (!m_view || !m_bars->viewDue)
     {
-        LayOutNow();
+        const WindowAlive alive(*this); // an owner may be asked for the states of its rows
+        View view = {top, -1};
+        const int end = std::min(top + rows, int(Ask(LVM_GETITEMCOUNT)));
+        const auto selected = [&](int row) {
+            return alive && row >= 0 && Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
+        };
+        const int focus = int(Ask(LVM_GETNEXTITEM, WPARAM(-1), LVNI_FOCUSED));
+        if (focus >= view.top && focus < end && selected(focus))
+        {
+            view.selected = focus;
+        }
+        for (int row = view.top; row < end && alive && view.selected == -1; ++row)
+        {
+            view.selected = selected(row) ? row : -1;
+        }
+        if (!alive)
+        {
+            return;
+        }
+        m_view = view;
     }
-}
-
-void CCustomListCtrl::Bars::LayOutNow()
-{
-    // For a mode that is over nothing is laid out: the list is about to follow the next one.
-    if (m_awaitsPlace && !IsFollowing() && IsLaidOut() == COnBoardUIGeneral::InOnBoardMode())
-    {
-        m_awaitsPlace = false;
-        LayOut();
-    }
-}
-
-// The row at the top, and a selected row in sight: the one with the focus before others.
-CCustomListCtrl::View CCustomListCtrl::CurrentView(int top, int rows)
-{
-    View view = {top, -1};
-    const int end = std::min(top + rows, int(Ask(LVM_GETITEMCOUNT)));
-    const auto selected = [this](int row) {
-        return row >= 0 && Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
-    };
-    const int focus = int(Ask(LVM_GETNEXTITEM, WPARAM(-1), LVNI_FOCUSED));
-    if (focus >= view.top && focus < end && selected(focus))
-    {
-        view.selected = focus;
-    }
-    for (int row = view.top; row < end && view.selected == -1; ++row)
-    {
-        view.selected = selected(row) ? row : -1;
-    }
-    return view;
+    m_bars->viewDue = true;
 }
 
 void CCustomListCtrl::RestoreView()
 {
     CRect first;
-    if (!m_view || !FirstRowRect(first) || first.Height() <= 0)
+    if (!m_view || m_bars->IsLaidOut() != COnBoardUIGeneral::InOnBoardMode() ||
+        !FirstRowRect(first) || first.Height() <= 0)
     {
         return;
     }
+    m_bars->viewDue = false;
     const int rows = m_bars->IsLaidOut() ? RowsInSight() : int(Ask(LVM_GETCOUNTPERPAGE));
     const int top = m_view->selected == -1
                         ? m_view->top

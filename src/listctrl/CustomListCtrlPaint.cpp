@@ -144,15 +144,17 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
     std::set<int> selected;
     m_paintedRows = rows;
     GetSelectedRows(selected);
-    if (alive)
-    {
-        m_paintedRows.reset();
-        m_focusRow = RowWithFocus();
-    }
     if (!alive)
     {
         return;
     }
+    m_paintedRows.reset();
+    const int focus = RowWithFocus();
+    if (!alive)
+    {
+        return;
+    }
+    m_focusRow = focus;
 
     std::vector<CRect> cells = CellsOfFirstRow(columns);
     for (CRect& cell : cells)

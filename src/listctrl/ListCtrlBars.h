@@ -25,21 +25,8 @@ public:
 
     scroll::Filling filling{*this};
 
-    // Frame, bars and view for the mode of the moment.
-    void LayOut();
-
-    // A list that gets its font and then its place for another mode is laid out in its place alone.
-    // Whether that is so.
-    bool AwaitPlace();
-    bool AwaitsPlace() const { return m_awaitsPlace; }
-    // WM_WINDOWPOSCHANGING, after everything else.
-    void TakePlace(WINDOWPOS& position);
-    // WM_SIZE: it has come, and the list is laid out by that.
-    void EndAwaiting() { m_awaitsPlace = false; }
-    // Before any message: a place that does not come any more is not waited for.
-    void SettlePlace() override;
-    // In the place of the moment: somebody asks for the rows in sight, or chooses them.
-    void LayOutNow();
+    // What the mode before had in sight is still to be brought back.
+    bool viewDue = false;
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -51,11 +38,12 @@ public:
 
 private:
     CCustomListCtrl& m_list;
-    bool m_awaitsPlace = false;
 
     bool IsReady() override { return !m_list.m_creating; }
     void EnterOnBoard() override { m_list.EnterOnBoard(); }
     void LeaveOnBoard() override { m_list.LeaveOnBoard(); }
+    void LayOut() override;
+    void Foresee(const CSize& window) override;
 
     CFauxScrollBar* BarOf(int axis) override { return &m_list.Bar(axis); }
     void PlaceBars() override { m_list.ResizeOBScrollBars(); }

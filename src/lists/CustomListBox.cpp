@@ -4,7 +4,6 @@
 
 #include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
-#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
@@ -145,7 +144,7 @@ void CCustomListBox::BeginAfresh()
     m_made = m_refitting = false;
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
     m_bars->filling.BeginAfresh();
-    m_bars->ForgetPlace();
+    m_bars->givesPlaceBack = false;
     HideBars();
 }
 
@@ -208,7 +207,7 @@ void CCustomListBox::EnterOnBoard()
     const bool scrolled = !InColumns() && (GetStyle() & WS_HSCROLL) != 0 &&
                           ::GetScrollInfo(GetSafeHwnd(), SB_HORZ, &sideways) && sideways.nPos > 0;
     // What the list was to get back in a place that has not come.
-    const bool kept = m_bars->AwaitsPlace() && m_bars->givesPlaceBack;
+    const bool kept = m_bars->givesPlaceBack;
     const int pixels = kept ? m_bars->scrolledPixels : (scrolled ? sideways.nPos : 0);
     const int place = kept ? m_bars->standardPlace : (InColumns() ? Ask(LB_GETTOPINDEX) : pixels);
     DisableScrollBars();
@@ -239,15 +238,22 @@ void CCustomListBox::EnterOnBoard()
     m_bars->standardPlace = place;
     m_bars->placeBar = m_hBar.GetScrollPos(); // until the list is in its place
     m_bars->scrolledPixels = pixels;
-    if (m_bars->AwaitPlace())
-    {
-        return;
-    }
-    scroll::RecalculateFrame(*this, false);
+    m_bars->LayOutInPlace();
+}
+
+void CCustomListBox::Bars::LayOut()
+{
+    const WindowAlive alive(m_list);
+    scroll::RecalculateFrame(m_list, false);
     if (alive)
     {
-        m_bars->FinishEntering();
+        Finish();
     }
+}
+
+void CCustomListBox::Bars::Finish()
+{
+    IsLaidOut() ? FinishEntering() : FinishLeaving();
 }
 
 void CCustomListBox::Bars::FinishEntering()
@@ -309,24 +315,20 @@ void CCustomListBox::LeaveOnBoard()
     {
         Ask(LB_SETHORIZONTALEXTENT, WPARAM(m_hostExtent));
     }
-    if (!alive || m_bars->AwaitPlace())
-    {
-        return;
-    }
-    scroll::RecalculateFrame(*this, false);
     if (alive)
     {
-        TakeNeedlessBars(*this);
-    }
-    if (alive)
-    {
-        m_bars->FinishLeaving();
+        m_bars->LayOutInPlace();
     }
 }
 
 void CCustomListBox::Bars::FinishLeaving()
 {
     const WindowAlive alive(m_list);
+    TakeNeedlessBars(m_list);
+    if (!alive)
+    {
+        return;
+    }
     const CSize size = SizeOf(m_list);
     const CSize standard = m_list.m_stdSize;
     if (givesSizeBack && size.cx == standard.cx && size.cy != standard.cy)
@@ -334,7 +336,7 @@ void CCustomListBox::Bars::FinishLeaving()
         m_list.SetWindowPos(nullptr, 0, 0, standard.cx, standard.cy,
                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    if (alive && givesPlaceBack)
+    if (alive && std::exchange(givesPlaceBack, false))
     {
         const LONGLONG place = std::min<LONGLONG>(standardPlace, MaxOffset);
         m_list.InColumns() ? Ask(LB_SETTOPINDEX, WPARAM(standardPlace), 0)
@@ -350,69 +352,6 @@ void CCustomListBox::Bars::FinishLeaving()
     }
 }
 
-// A list that gets its place with its font --------------------------------------------------------
-
-bool CCustomListBox::Bars::AwaitPlace()
-{
-    return m_awaitsPlace = IsBeingPlaced(m_list);
-}
-
-void CCustomListBox::Bars::TakePlace(WINDOWPOS& position)
-{
-    if (!m_awaitsPlace || IsFollowing())
-    {
-        return;
-    }
-    position.flags |= SWP_FRAMECHANGED;
-    if (InOnBoard())
-    {
-        ForeseeBars((position.flags & SWP_NOSIZE) != 0 ? SizeOf(m_list)
-                                                       : CSize(position.cx, position.cy));
-    }
-}
-
-// For a mode that is over nothing is finished: the list is about to follow the next one.
-bool CCustomListBox::Bars::IsFinishingDue() const
-{
-    return m_awaitsPlace && !IsFollowing() && IsLaidOut() == COnBoardUIGeneral::InOnBoardMode();
-}
-
-void CCustomListBox::Bars::PlaceCame()
-{
-    if (!IsFinishingDue())
-    {
-        return;
-    }
-    m_awaitsPlace = false;
-    if (IsLaidOut())
-    {
-        FinishEntering();
-        return;
-    }
-    const WindowAlive alive(m_list);
-    TakeNeedlessBars(m_list);
-    if (alive)
-    {
-        FinishLeaving();
-    }
-}
-
-void CCustomListBox::Bars::SettlePlace()
-{
-    if (m_settling || !IsFinishingDue() || IsBeingPlaced(m_list))
-    {
-        return;
-    }
-    const WindowAlive alive(m_list);
-    m_settling = true;
-    scroll::RecalculateFrame(m_list, false); // somebody kept the place away, or its frame
-    if (alive)
-    {
-        m_settling = false;
-        PlaceCame(); // unless a size has come by that
-    }
-}
-
 void CCustomListBox::DisableScrollBars()
 {
     m_bars->TakePlatformBars();
@@ -420,7 +359,6 @@ void CCustomListBox::DisableScrollBars()
 
 void CCustomListBox::OnDestroy()
 {
-    m_bars->ForgetPlace();
     m_bars->Destroy();
 }
 
@@ -434,24 +372,21 @@ void CCustomListBox::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params
 
 void CCustomListBox::OnWindowPosChanging(WINDOWPOS* position)
 {
-    const WindowAlive alive(*this);
     m_bars->WindowPosChanging(position);
-    if (alive)
-    {
-        m_bars->TakePlace(*position);
-    }
 }
 
 void CCustomListBox::OnSize(UINT type, int width, int height)
 {
     const WindowAlive alive(*this);
     CListBox::OnSize(type, width, height);
-    // While it enters a mode, the size that counts is still to come.
-    if (!alive || (m_bars->IsFollowing() && IsBeingPlaced(*this)))
+    if (!alive || m_bars->IsSizePassing())
     {
         return;
     }
-    m_bars->PlaceCame();
+    if (m_bars->TakePlace()) // by now the platform may have cut the list to whole rows
+    {
+        m_bars->Finish();
+    }
     if (!alive || !FollowMode())
     {
         return;
@@ -461,6 +396,9 @@ void CCustomListBox::OnSize(UINT type, int width, int height)
     {
         MirrorContent();
         DrawOBBorders();
+    }
+    if (alive)
+    {
         DrawOBScrollBars();
     }
 }

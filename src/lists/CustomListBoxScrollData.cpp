@@ -64,8 +64,12 @@ void CCustomListBox::UpdateScrollData()
 
 // Shows the bars that a window of a size will call for, so that its frame is calculated once. What
 // is seen otherwise then is mended as ever.
-void CCustomListBox::Bars::ForeseeBars(const CSize& window)
+void CCustomListBox::Bars::Foresee(const CSize& window)
 {
+    if (!InOnBoard())
+    {
+        return;
+    }
     CRect frame(0, 0, 0, 0);
     ::AdjustWindowRectEx(&frame, m_list.GetStyle() & WS_BORDER, FALSE, m_list.GetExStyle());
     const CSize inset(m_list.m_frameWidth - metrics::Border,

@@ -29,25 +29,12 @@ public:
     std::vector<int> standardHeights;
     int standardPlace = 0;
     int placeBar = 0;
-    bool givesPlaceBack = false;
+    bool givesPlaceBack = false; // and has not yet
     bool givesSizeBack = false;
     int scrolledPixels = 0; // sideways, in the standard mode
 
-    // The rest of entering and leaving a mode, in the new frame.
-    void FinishEntering();
-    void FinishLeaving();
-
-    // A list that gets its font and then its place for another mode is laid out in its place alone.
-    // Whether that is so: the rest waits for it.
-    bool AwaitPlace();
-    bool AwaitsPlace() const { return m_awaitsPlace; }
-    // WM_WINDOWPOSCHANGING, after everything else.
-    void TakePlace(WINDOWPOS& position);
-    // WM_SIZE, after the platform, which may have cut the list to whole rows: the rest.
-    void PlaceCame();
-    // The rest of what will not come any more.
-    void SettlePlace() override;
-    void ForgetPlace() { m_awaitsPlace = m_settling = false; }
+    // The rest of entering or leaving a mode, in the new frame.
+    void Finish();
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -57,14 +44,14 @@ public:
 
 private:
     CCustomListBox& m_list;
-    bool m_awaitsPlace = false;
-    bool m_settling = false; // in SettlePlace
 
-    bool IsFinishingDue() const;
-    void ForeseeBars(const CSize& window);
+    void FinishEntering();
+    void FinishLeaving();
 
     void EnterOnBoard() override { m_list.EnterOnBoard(); }
     void LeaveOnBoard() override { m_list.LeaveOnBoard(); }
+    void LayOut() override;
+    void Foresee(const CSize& window) override;
 
     CFauxScrollBar* BarOf(int axis) override { return &m_list.Bar(axis); }
     void StripBars() override { m_list.DisableScrollBars(); }
@@ -72,8 +59,12 @@ private:
     void DrawBars() override { m_list.DrawOBScrollBars(); }
     void DrawFrame() override
     {
+        const WindowAlive alive(m_list);
         m_list.DrawOBBorders();
-        DrawBars();
+        if (alive)
+        {
+            DrawBars();
+        }
     }
     bool IsPainted(int axis) override
     {

@@ -3,6 +3,7 @@
 #include "scroll/BarHost.h"
 
 #include "OnBoardUIGeneral.h"
+#include "modes/ChildRestyling.h"
 #include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
@@ -22,7 +23,7 @@ BarHost::BarHost(CWnd& window, const Manner& manner)
 
 void BarHost::BeginAfresh()
 {
-    m_onBoard = m_following = false;
+    m_onBoard = m_following = m_awaitsPlace = false;
     m_platformStyles = 0;
     Forget();
     m_timed = m_leaveRequested = false;
@@ -52,7 +53,8 @@ bool BarHost::Follow()
     {
         End(); // a change between two on-board modes sends no message either
     }
-    if (!m_following && m_window.GetSafeHwnd() != nullptr)
+    // What it is about to follow lays it out anew.
+    if (m_window.GetSafeHwnd() != nullptr && m_onBoard == COnBoardUIGeneral::InOnBoardMode())
     {
         const WindowAlive alive(m_window);
         SettlePlace();
@@ -108,7 +110,7 @@ int BarHost::Create()
 void BarHost::Destroy()
 {
     End();
-    m_onBoard = false; // nothing is laid out any more
+    m_onBoard = m_awaitsPlace = false; // nothing is laid out any more
     m_following = true;
     Default();
 }
@@ -209,6 +211,12 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
         StripBars();
         SaveRecalculation(*position);
     }
+    if (alive && m_awaitsPlace && !m_following)
+    {
+        position->flags |= SWP_FRAMECHANGED;
+        Foresee((position->flags & SWP_NOSIZE) != 0 ? AreaOf(m_window).Size()
+                                                    : CSize(position->cx, position->cy));
+    }
 }
 
 void BarHost::NcPaint(const MSG& message)
@@ -227,6 +235,40 @@ void BarHost::NcPaint(const MSG& message)
     {
         InvalidateBars();
         DrawFrame();
+    }
+}
+
+// Place -----------------------------------------------------------------------------------------
+
+void BarHost::LayOutInPlace()
+{
+    m_awaitsPlace = IsBeingPlaced(m_window);
+    if (!m_awaitsPlace)
+    {
+        LayOut();
+    }
+}
+
+bool BarHost::TakePlace()
+{
+    // For a mode that is over nothing is laid out: the control is about to follow the next one.
+    const bool came =
+        m_awaitsPlace && !m_following && m_onBoard == COnBoardUIGeneral::InOnBoardMode();
+    m_awaitsPlace = m_awaitsPlace && !came;
+    return came;
+}
+
+bool BarHost::IsSizePassing() const
+{
+    return m_following && IsBeingPlaced(m_window);
+}
+
+void BarHost::SettlePlace(bool asked)
+{
+    if (m_awaitsPlace && !m_following && (asked || !IsBeingPlaced(m_window)))
+    {
+        m_awaitsPlace = false;
+        LayOut();
     }
 }
 

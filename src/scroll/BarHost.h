@@ -55,9 +55,6 @@ public:
     // Returns whether it is laid out for an on-board mode and has survived: the first question of
     // every handler. A press ends here when the mode has changed, which is told by no message.
     bool Follow();
-    // Before that: what a control has put off until its place comes, when it does not come any
-    // more. Not while it follows.
-    virtual void SettlePlace() {}
     bool IsFollowing() const { return m_following; }
     // Laid out for an on-board mode; and the mode still is one.
     bool IsLaidOut() const { return m_onBoard; }
@@ -85,6 +82,22 @@ public:
     void NcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params, const CSize& inset);
     void WindowPosChanging(WINDOWPOS* position);
     void NcPaint(const MSG& message);
+
+    // Place --------------------------------------------------------------------------------------
+
+    // A control that gets its font and then its place for another mode (IsBeingPlaced) is laid out
+    // in its place alone: the end of following the mode, or of taking the font, for as long as that
+    // has not come.
+    void LayOutInPlace();
+    bool AwaitsPlace() const { return m_awaitsPlace; }
+    // WM_SIZE, after the platform: whether the place has come by that, and the rest is to be done
+    // in its frame.
+    bool TakePlace();
+    // A size on the way to the mode, where the one that counts is still to come.
+    bool IsSizePassing() const;
+    // Lays out what waits for a place that does not come any more; in the place of the moment if
+    // somebody asks for the layout or changes it.
+    void SettlePlace(bool asked = false);
 
     // Painting -----------------------------------------------------------------------------------
 
@@ -137,6 +150,11 @@ protected:
     virtual bool IsReady() { return true; }
     virtual void EnterOnBoard() = 0;
     virtual void LeaveOnBoard() = 0;
+    // The frame, and the rest of the layout.
+    virtual void LayOut() = 0;
+    // The place has come: its frame, for a window of this size, is about to be calculated.
+    virtual void Foresee(const CSize& window) = 0;
+    void ForgetPlace() { m_awaitsPlace = false; }
 
     // A bar of the control; null: it has none of that axis.
     virtual CFauxScrollBar* BarOf(int axis) = 0;
@@ -178,6 +196,7 @@ private:
 
     bool m_onBoard = false;   // laid out for an on-board mode
     bool m_following = false; // in Follow, or nothing is laid out any more
+    bool m_awaitsPlace = false;
     DWORD m_platformStyles = 0;
     bool m_frameDone = false;
     bool m_placingDue = true;

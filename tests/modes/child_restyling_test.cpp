@@ -4,9 +4,9 @@
 #include "CustomListCtrl.h"
 #include "FauxScrollBar.h"
 #include "OnBoardUI.h"
+#include "support/Acts.h"
 #include "support/WindowTest.h"
 
-#include <cmath>
 #include <functional>
 #include <limits>
 #include <optional>
@@ -28,9 +28,66 @@ void Restyle(const CWnd& parent, double scale, APPMODE mode)
         ::EnumChildWindows(parent, &ModifyChildsForAppMode, reinterpret_cast<LPARAM>(&data)));
 }
 
-// A plain window of any class. It notes the first place that it is asked to take, before it has its
-// own say.
-class Plain : public CWnd
+// What an heir may keep of its width and place: nothing, or all before it asks the control, or
+// after that and the frame with it, or without asking.
+enum class Keeps
+{
+    Nothing,
+    Before,
+    After,
+    Swallowed
+};
+
+// An heir that has its own say once, right after the first message of a kind. It notes the first
+// place that it is asked to take, before that.
+template <class Base> class Heir : public Base
+{
+public:
+    Keeps keeps = Keeps::Nothing;
+    std::optional<WINDOWPOS> asked;
+    void ActAfter(UINT message, std::function<void()> act)
+    {
+        m_message = message;
+        m_act = std::move(act);
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        constexpr UINT Kept = SWP_NOSIZE | SWP_NOMOVE;
+        auto* const position =
+            message == WM_WINDOWPOSCHANGING ? reinterpret_cast<WINDOWPOS*>(lParam) : nullptr;
+        if (position != nullptr && !asked)
+        {
+            asked = *position;
+        }
+        const bool keepsNow = position != nullptr && keeps != Keeps::Nothing &&
+                              (position->flags & SWP_NOSIZE) == 0 &&
+                              position->cx != WindowRectOf(*this).Width();
+        if (keepsNow && keeps != Keeps::After)
+        {
+            position->flags |= Kept;
+        }
+        const LRESULT result =
+            keepsNow && keeps == Keeps::Swallowed ? 0 : Base::WindowProc(message, wParam, lParam);
+        if (keepsNow && keeps == Keeps::After)
+        {
+            position->flags = (position->flags | Kept) & ~SWP_FRAMECHANGED;
+        }
+        if (message == m_message && m_act)
+        {
+            std::exchange(m_act, nullptr)();
+        }
+        return result;
+    }
+
+private:
+    UINT m_message = 0;
+    std::function<void()> m_act;
+};
+
+// A plain window of any class.
+class Plain : public Heir<CWnd>
 {
 public:
     explicit Plain(const char* windowClass)
@@ -39,17 +96,6 @@ public:
     BOOL Create(const char* text, DWORD style, const CRect& place, CWnd* parent, UINT id)
     {
         return CWnd::Create(m_class, text, style, place, parent, id);
-    }
-    std::optional<WINDOWPOS> asked;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == WM_WINDOWPOSCHANGING && !asked)
-        {
-            asked = *reinterpret_cast<const WINDOWPOS*>(lParam);
-        }
-        return CWnd::WindowProc(message, wParam, lParam);
     }
 
 private:
@@ -77,18 +123,12 @@ protected:
 TEST_F(ChildRestylingTest, PlacesScaleAndAreTruncated)
 {
     CWnd& child = AddPlain("STATIC", CRect(0, 0, 1, 1));
-    const double nextAboveOne = std::nextafter(1.0, 2.0);
     const std::tuple<CRect, double, CRect> cases[] = {
         {CRect(CPoint(10, 20), CSize(100, 30)), Enlarging, CRect(CPoint(22, 34), CSize(224, 51))},
         {CRect(CPoint(22, 34), CSize(224, 51)), Reducing, CRect(CPoint(9, 20), CSize(99, 30))},
         {CRect(CPoint(10, 20), CSize(100, 30)), 1.0, CRect(CPoint(7, 20), CSize(75, 30))},
         {CRect(CPoint(-10, -20), CSize(7, 3)), Enlarging, CRect(CPoint(-22, -34), CSize(15, 5))},
         {CRect(CPoint(-10, -20), CSize(7, 3)), Reducing, CRect(CPoint(-4, -11), CSize(3, 1))},
-        {CRect(10, 10, 20, 20), 0.0, CRect(0, 0, 0, 0)},
-        // The factor nearest above one still narrows, the next one widens.
-        {CRect(100, 100, 200, 200), nextAboveOne, CRect(CPoint(75, 100), CSize(75, 100))},
-        {CRect(100, 100, 200, 200), std::nextafter(nextAboveOne, 2.0),
-         CRect(CPoint(132, 100), CSize(132, 100))},
     };
     for (const auto& [before, scale, after] : cases)
     {
@@ -118,11 +158,9 @@ TEST_F(ChildRestylingTest, OnlyDirectChildrenAreTouched)
     EXPECT_EQ(ModifyChildsForAppMode(Host(), reinterpret_cast<LPARAM>(&nobody)), 1);
     EXPECT_EQ(WindowRectOf(Host()), place);
 
-    // Absurd factors do no harm.
-    for (const double scale : {1e300, -1e300, std::numeric_limits<double>::infinity(),
-                               std::numeric_limits<double>::quiet_NaN()})
+    for (const double absurd : {1e300, -1e300, std::numeric_limits<double>::quiet_NaN()})
     {
-        Restyle(Host(), scale, ONBOARD); // to its end, or it fails
+        Restyle(Host(), absurd, ONBOARD); // to its end, or it fails
     }
 }
 
@@ -144,7 +182,10 @@ TEST_F(ChildRestylingTest, ControlsGetTheFontOfTheMode)
         MessageLog log(control, {WM_SETFONT});
         Restyle(Host(), Enlarging, EFB);
         Restyle(Host(), 1.0, FULLSCREEN);
+        EXPECT_EQ(control.GetStyle() & WS_VSCROLL, 0U);
         Restyle(Host(), Reducing, STD);
+        EXPECT_EQ((control.GetStyle() & WS_VSCROLL) != 0, standard == &CCustomListBox::GetStdFont())
+            << "a list box gets the platform's bar back";
         std::vector<WPARAM> expected;
         if (standard != nullptr)
         {
@@ -162,145 +203,85 @@ TEST_F(ChildRestylingTest, ControlsGetTheFontOfTheMode)
     }
 }
 
-TEST_F(ChildRestylingTest, AListBoxGetsThePlatformsBarBackInTheStandardModeOnly)
+// With heirs of edits and lists that have much to show, in the standard mode.
+class ChildPlacingTest : public ChildRestylingTest
 {
-    CWnd& list = AddPlain("LISTBOX", CRect(10, 20, 110, 50), LBS_NOINTEGRALHEIGHT);
-    MessageLog log(list, {WM_STYLECHANGED});
-    Restyle(Host(), Enlarging, ONBOARD);
-    EXPECT_EQ(list.GetStyle() & WS_VSCROLL, 0U);
-    Restyle(Host(), Reducing, STD);
-    EXPECT_NE(list.GetStyle() & WS_VSCROLL, 0U);
-    log.Clear();
-    Restyle(Host(), Reducing, STD);
-    EXPECT_EQ(log.Count(WM_STYLECHANGED), 0) << "written only when it changes";
-}
+protected:
+    const ModeScope m_standard{STD};
 
-// In the new mode, as a window that follows it does.
-void ChangeMode(const CWnd& parent, APPMODE mode)
-{
-    COnBoardUIGeneral::SetAppMode(mode);
-    Restyle(parent, mode == STD ? Reducing : Enlarging, mode);
-}
-
-TEST_F(ChildRestylingTest, AnEditBreaksItsLinesForItsFontAndItsPlace)
-{
-    const ModeScope standard(STD);
-    auto& edit = Add<CCustomEdit>(CRect(10, 20, 210, 120),
-                                  ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL | WS_BORDER);
-    CString paragraph;
-    for (int word = 0; word < 60; ++word)
+    // In the new mode, as a window that follows it does.
+    void ChangeMode(APPMODE mode)
     {
-        paragraph += "waypoint ";
+        COnBoardUIGeneral::SetAppMode(mode);
+        Restyle(Host(), mode == STD ? Reducing : Enlarging, mode);
     }
-    edit.SetWindowText(paragraph + "\r\n" + paragraph + "\r\n" + paragraph);
-    const auto isBroken = [&edit](const char* when, int firstLine) {
-        SCOPED_TRACE(when);
-        CRect client;
-        edit.GetClientRect(&client);
-        EXPECT_LE(client.Width(), WindowRectOf(edit).Width());
-        EXPECT_EQ(edit.GetFirstVisibleLine(), firstLine);
+
+    static CString Words(int count)
+    {
+        CString words;
+        for (int word = 0; word < count; ++word)
+        {
+            words += "waypoint ";
+        }
+        return words;
+    }
+
+    Heir<CCustomEdit>& AddEdit(const CRect& place)
+    {
+        return Add<Heir<CCustomEdit>>(place,
+                                      ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL | WS_BORDER);
+    }
+
+    Heir<CCustomListBox>& AddList(const CRect& place, DWORD style, int words)
+    {
+        auto& list = Add<Heir<CCustomListBox>>(place, WS_VSCROLL | style);
+        for (int row = 0; row < 100; ++row)
+        {
+            list.AddString(Words(words));
+        }
+        return list;
+    }
+};
+
+TEST_F(ChildPlacingTest, AnEditBreaksItsLinesForItsFontAndItsPlace)
+{
+    CCustomEdit& edit = AddEdit(CRect(10, 20, 210, 120));
+    edit.SetWindowText(Words(60) + "\r\n" + Words(60) + "\r\n" + Words(60));
+    edit.LineScroll(7); // there are fewer paragraphs
+    CFont& onBoard = CCustomEdit::GetOnBoardFont();
+    const Act<> steps[] = {
+        {"on-board", [&] { ChangeMode(ONBOARD); }},
+        {"a font alone", [&] { edit.SetFont(&CCustomEdit::GetStdFont()); }},
+        {"and back", [&] { edit.SetFont(&onBoard); }},
+        {"standard", [&] { ChangeMode(STD); }},
+        {"a font alone in the standard mode", [&] { edit.SetFont(&onBoard); }},
+    };
+    for (const auto& [name, act] : steps)
+    {
+        SCOPED_TRACE(name);
+        act();
+        EXPECT_LE(ClientRectOf(edit).Width(), WindowRectOf(edit).Width());
+        EXPECT_EQ(edit.GetFirstVisibleLine(), 7);
         const int lines = edit.GetLineCount();
-        EXPECT_GT(lines, 3 + firstLine);
+        EXPECT_GT(lines, 3 + 7);
         edit.SetRect(nullptr); // breaks them anew
         EXPECT_EQ(edit.GetLineCount(), lines);
-    };
-    edit.LineScroll(7); // there are fewer paragraphs
-    ChangeMode(Host(), ONBOARD);
-    isBroken("on-board", 7);
-    edit.SetFont(&CCustomEdit::GetStdFont());
-    isBroken("a font alone", 7);
-    edit.SetFont(&CCustomEdit::GetOnBoardFont());
-    isBroken("and back", 7);
-    ChangeMode(Host(), STD);
-    isBroken("standard", 7);
-    edit.SetFont(&CCustomEdit::GetOnBoardFont());
-    isBroken("a font alone in the standard mode", 7);
+    }
 }
 
-TEST_F(ChildRestylingTest, AListBoxIsLaidOutInItsNewPlaceAlone)
+TEST_F(ChildPlacingTest, AnEditShowsWhatItsHeirBroughtIntoSightOnTheWay)
 {
-    const ModeScope standard(STD);
-    auto& list = Add<CCustomListBox>(CRect(10, 20, 110, 120), WS_VSCROLL | LBS_NOINTEGRALHEIGHT);
-    for (int row = 0; row < 200; ++row)
-    {
-        list.AddString("waypoint");
-    }
-    MessageLog log(list, {WM_SIZE});
-    ChangeMode(Host(), ONBOARD);
-    EXPECT_LE(log.Count(WM_SIZE), 2) << "at the new size, and once more for its bar at most";
-    CRect client;
-    list.GetClientRect(&client);
-    EXPECT_LT(client.Width(), WindowRectOf(list).Width() - 52) << "with its bar";
-}
-
-// A control whose heir has its own say once, right after the first message of a kind, and which may
-// keep its width and place whatever it is told.
-enum class Keeps
-{
-    Nothing,
-    Before,   // then asks the control
-    After,    // the control, and the frame with it
-    Swallowed // the control is not asked
-};
-template <class Base> class Heir : public Base
-{
-public:
-    using Base::Base;
-    Keeps keeps = Keeps::Nothing;
-    void ActAfter(UINT message, std::function<void()> act)
-    {
-        m_message = message;
-        m_act = std::move(act);
-    }
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        constexpr UINT Kept = SWP_NOSIZE | SWP_NOMOVE;
-        auto* const position = reinterpret_cast<WINDOWPOS*>(lParam);
-        const bool asked = message == WM_WINDOWPOSCHANGING && keeps != Keeps::Nothing &&
-                           (position->flags & SWP_NOSIZE) == 0 &&
-                           position->cx != WindowRectOf(*this).Width();
-        if (asked && keeps != Keeps::After)
-        {
-            position->flags |= Kept;
-        }
-        const LRESULT result =
-            asked && keeps == Keeps::Swallowed ? 0 : Base::WindowProc(message, wParam, lParam);
-        if (asked && keeps == Keeps::After)
-        {
-            position->flags = (position->flags | Kept) & ~SWP_FRAMECHANGED;
-        }
-        if (message == m_message && m_act)
-        {
-            std::exchange(m_act, nullptr)();
-        }
-        return result;
-    }
-
-private:
-    UINT m_message = 0;
-    std::function<void()> m_act;
-};
-
-TEST_F(ChildRestylingTest, AnEditShowsWhatItsHeirBroughtIntoSightOnTheWay)
-{
-    const ModeScope standard(STD);
-    auto& edit = Add<Heir<CCustomEdit>>(CRect(10, 20, 210, 120),
-                                        ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL | WS_BORDER);
-    CString text;
-    for (int word = 0; word < 80; ++word)
-    {
-        text += "waypoint ";
-    }
+    Heir<CCustomEdit>& edit = AddEdit(CRect(10, 20, 210, 120));
+    const CString text = Words(80);
+    int lines = 0;
     const std::tuple<const char*, UINT, std::function<void()>> steps[] = {
         {"another text", WM_SETFONT, [&] { edit.SetWindowText(text + "!"); }},
         {"another text for a size", WM_SIZE, [&] { edit.SetWindowText(text + "?"); }},
         {"scrolled up", WM_SETFONT, [&] { edit.LineScroll(-edit.GetFirstVisibleLine()); }},
-        {"scrolled to the caret", WM_SETFONT,
+        {"asked for its lines", WM_SETFONT,
          [&] {
-             edit.SetSel(0, 0, TRUE);
-             edit.SendMessage(EM_SCROLLCARET);
+             lines = edit.GetLineCount();
+             edit.LineScroll(-7);
          }},
     };
     for (const auto& [what, message, act] : steps)
@@ -313,29 +294,52 @@ TEST_F(ChildRestylingTest, AnEditShowsWhatItsHeirBroughtIntoSightOnTheWay)
             edit.LineScroll(7);
             ASSERT_EQ(edit.GetFirstVisibleLine(), 7);
             edit.ActAfter(message, act);
-            if (placed)
-            {
-                ChangeMode(Host(), ONBOARD);
-            }
-            else
-            {
-                edit.SetFont(&CCustomEdit::GetStdFont());
-            }
+            placed ? ChangeMode(ONBOARD) : edit.SetFont(&CCustomEdit::GetStdFont());
             EXPECT_EQ(edit.GetFirstVisibleLine(), 0) << placed;
             edit.ActAfter(0, nullptr);
-            ChangeMode(Host(), STD);
+            ChangeMode(STD);
         }
     }
-    int lines = 0;
-    edit.MoveWindow(10, 20, 200, 100);
-    edit.ActAfter(WM_SETFONT, [&] { lines = edit.GetLineCount(); });
-    ChangeMode(Host(), ONBOARD);
     EXPECT_GT(lines, 8) << "broken, whenever it is asked";
 }
 
-TEST_F(ChildRestylingTest, AReportListKeepsItsRowsHoweverTheModeComes)
+TEST_F(ChildPlacingTest, AListBoxIsLaidOutInItsNewPlaceAlone)
 {
-    const ModeScope standard(STD);
+    const CCustomListBox& list = AddList(CRect(10, 20, 110, 120), LBS_NOINTEGRALHEIGHT, 1);
+    MessageLog log(list, {WM_SIZE});
+    ChangeMode(ONBOARD);
+    EXPECT_LE(log.Count(WM_SIZE), 2) << "at the new size, and once more for its bar at most";
+    EXPECT_LT(ClientRectOf(list).Width(), WindowRectOf(list).Width() - 52) << "with its bar";
+}
+
+TEST_F(ChildPlacingTest, AListBoxGetsItsSidewaysPlaceBackWheneverTheModeGoesBack)
+{
+    auto& list = AddList(CRect(10, 20, 110, 120), WS_HSCROLL | LBS_NOINTEGRALHEIGHT, 7);
+    list.SetHorizontalExtent(400);
+    list.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 60));
+    const int place = list.GetScrollPos(SB_HORZ);
+    ASSERT_GT(place, 0);
+    for (const auto& [from, to] : {std::pair{ONBOARD, STD}, {STD, ONBOARD}})
+    {
+        if (from != STD)
+        {
+            ChangeMode(from);
+        }
+        list.ActAfter(WM_SETFONT, [from = from] { COnBoardUIGeneral::SetAppMode(from); });
+        ChangeMode(to);
+        list.RedrawWindow();
+        EXPECT_TRUE(from != STD || list.GetScrollPos(SB_HORZ) == place) << "on the way in";
+        for (const APPMODE mode : {STD, ONBOARD, STD})
+        {
+            ChangeMode(mode);
+            list.RedrawWindow();
+            EXPECT_TRUE(mode != STD || list.GetScrollPos(SB_HORZ) == place) << "from " << from;
+        }
+    }
+}
+
+TEST_F(ChildPlacingTest, AReportListKeepsItsRowsHoweverTheModeComes)
+{
     constexpr int Top = 40;
     auto& list = Add<Heir<CCustomListCtrl>>(CRect(10, 20, 210, 220), LVS_REPORT);
     list.InsertColumn(0, "Name", LVCFMT_LEFT, 100);
@@ -343,123 +347,83 @@ TEST_F(ChildRestylingTest, AReportListKeepsItsRowsHoweverTheModeComes)
     {
         list.InsertItem(row, "waypoint");
     }
-    const auto rowHeight = [&] {
-        CRect row;
-        list.GetItemRect(0, &row, LVIR_BOUNDS);
-        return row.Height();
-    };
     const auto* const bar = reinterpret_cast<const CFauxScrollBar*>(list.GetScrollBarCtrl(SB_VERT));
     const auto top = [&] {
         return list.GetTopIndex() + (COnBoardUIGeneral::InOnBoardMode() ? bar->GetScrollPos() : 0);
     };
-    const auto begin = [&](APPMODE mode) {
-        ChangeMode(Host(), STD);
-        list.MoveWindow(10, 20, 200, 200);
-        list.Scroll(CSize(0, (Top - list.GetTopIndex()) * rowHeight()));
-        ASSERT_EQ(top(), Top);
-        if (mode != STD)
-        {
-            ChangeMode(Host(), mode);
-            ASSERT_EQ(top(), Top);
-        }
+    APPMODE before = STD;
+    const auto goBack = [&] { COnBoardUIGeneral::SetAppMode(before); };
+    const struct
+    {
+        const char* what;
+        bool placed;
+        UINT message;
+        std::function<void()> act;
+        int highest = Top;
+    } steps[] = {
+        {"it is laid out", true, 0, nullptr},
+        {"the mode went back on the way", true, WM_SETFONT, goBack},
+        {"and in a list that nobody places", false, WM_NCCALCSIZE, goBack},
+        {"the heir shows another row", true, WM_SETFONT, [&] { list.EnsureVisible(100, 0); }, 100},
+        {"deletes one out of sight", true, WM_SETFONT, [&] { list.DeleteItem(190); }},
+        {"asks for it", true, WM_SETFONT, [&] { EXPECT_EQ(top(), Top); }},
     };
     for (const auto& [from, to] : {std::pair{STD, ONBOARD}, {ONBOARD, STD}})
     {
-        SCOPED_TRACE(from);
-        begin(from);
-        list.ActAfter(WM_SETFONT, [from = from] { COnBoardUIGeneral::SetAppMode(from); });
-        ChangeMode(Host(), to);
-        EXPECT_EQ(top(), Top) << "the mode went back on the way";
-
-        begin(from);
-        list.ActAfter(WM_SETFONT, [&] { list.EnsureVisible(100, FALSE); });
-        ChangeMode(Host(), to);
-        EXPECT_GT(top(), Top + 30) << "the heir shows another row";
-        EXPECT_LE(top(), 100);
-
-        begin(from);
-        list.ActAfter(WM_SETFONT, [&] { list.DeleteItem(199); });
-        ChangeMode(Host(), to);
-        EXPECT_EQ(top(), Top) << "the heir deletes a row out of sight";
-        list.InsertItem(199, "waypoint");
-
-        begin(from);
-        int asked = 0;
-        list.ActAfter(WM_SETFONT, [&] { asked = top(); });
-        ChangeMode(Host(), to);
-        EXPECT_EQ(asked, Top) << "whenever it is asked";
+        for (const auto& each : steps)
+        {
+            SCOPED_TRACE(testing::Message() << each.what << " from " << from);
+            ChangeMode(STD);
+            list.MoveWindow(10, 20, 200, 200);
+            CRect row;
+            list.GetItemRect(0, &row, LVIR_BOUNDS);
+            list.Scroll(CSize(0, (Top - list.GetTopIndex()) * row.Height()));
+            if (from != STD)
+            {
+                ChangeMode(from);
+            }
+            ASSERT_EQ(top(), Top);
+            before = from;
+            list.ActAfter(each.message, each.act);
+            each.placed ? ChangeMode(to) : COnBoardUIGeneral::SetAppMode(to);
+            list.RedrawWindow();
+            EXPECT_LE(top(), each.highest);
+            EXPECT_GE(top(), each.highest == Top ? Top : Top + 31);
+        }
     }
 }
 
-TEST_F(ChildRestylingTest, AListBoxGetsItsSidewaysPlaceBackWheneverTheModeGoesBack)
-{
-    const ModeScope standard(STD);
-    auto& list = Add<Heir<CCustomListBox>>(CRect(10, 20, 110, 120),
-                                           WS_VSCROLL | WS_HSCROLL | LBS_NOINTEGRALHEIGHT);
-    for (int row = 0; row < 50; ++row)
-    {
-        list.AddString("waypoint waypoint waypoint waypoint waypoint waypoint waypoint");
-    }
-    list.SetHorizontalExtent(400);
-    list.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 60));
-    const int place = list.GetScrollPos(SB_HORZ);
-    ASSERT_GT(place, 0);
-    ChangeMode(Host(), ONBOARD);
-    ChangeMode(Host(), STD);
-    ASSERT_EQ(list.GetScrollPos(SB_HORZ), place);
-    list.ActAfter(WM_SETFONT, [] { COnBoardUIGeneral::SetAppMode(STD); });
-    ChangeMode(Host(), ONBOARD);
-    list.RedrawWindow();
-    EXPECT_EQ(list.GetScrollPos(SB_HORZ), place) << "on the way in";
-    ChangeMode(Host(), STD);
-    ChangeMode(Host(), ONBOARD);
-    list.ActAfter(WM_SETFONT, [] { COnBoardUIGeneral::SetAppMode(ONBOARD); });
-    ChangeMode(Host(), STD);
-    list.RedrawWindow();
-    ChangeMode(Host(), STD);
-    list.RedrawWindow();
-    EXPECT_EQ(list.GetScrollPos(SB_HORZ), place) << "on the way out";
-}
-
-TEST_F(ChildRestylingTest, AControlThatKeepsItsSizeHasTheFrameOfTheMode)
+TEST_F(ChildPlacingTest, AControlThatKeepsItsSizeHasTheFrameOfTheMode)
 {
     for (const Keeps keeps : {Keeps::Before, Keeps::After, Keeps::Swallowed})
     {
         SCOPED_TRACE(int(keeps));
-        const ModeScope standard(STD);
-        auto& list = Add<Heir<CCustomListBox>>(CRect(10, 20, 210, 125), WS_VSCROLL);
-        auto& edit = Add<Heir<CCustomEdit>>(CRect(10, 130, 210, 230),
-                                            ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL | WS_BORDER);
-        CString text;
-        for (int row = 0; row < 50; ++row)
-        {
-            list.AddString("waypoint");
-            text += "waypoint waypoint ";
-        }
-        edit.SetWindowText(text);
-        ChangeMode(Host(), ONBOARD);
-        ChangeMode(Host(), STD);
-        const auto width = [](const CWnd& control) {
-            const_cast<CWnd&>(control).RedrawWindow(nullptr, nullptr,
-                                                    RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-            return ClientRectOf(control).Width();
-        };
+        auto& list = AddList(CRect(10, 20, 210, 125), 0, 1);
+        auto& edit = AddEdit(CRect(10, 130, 210, 230));
+        edit.SetWindowText(Words(100));
+        ChangeMode(ONBOARD);
+        ChangeMode(STD);
         list.MoveWindow(10, 20, 200, 105);
         edit.MoveWindow(10, 130, 200, 100);
-        const int listWidth = width(list);
-        const int editWidth = width(edit);
-        const CSize listSize = WindowRectOf(list).Size();
+        const auto widths = [&] {
+            for (CWnd* const control : std::initializer_list<CWnd*>{&list, &edit})
+            {
+                control->RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+            }
+            return std::pair(ClientRectOf(list).Width(), ClientRectOf(edit).Width());
+        };
+        const auto standard = widths();
+        const CSize size = WindowRectOf(list).Size();
         list.keeps = edit.keeps = keeps;
-        for (int turn = 0; turn < 2; ++turn)
+        for (const APPMODE mode : {ONBOARD, STD, ONBOARD, STD})
         {
-            ChangeMode(Host(), ONBOARD);
-            EXPECT_LT(width(list), 200 - 52) << "with its bar";
-            EXPECT_LE(width(edit), 200 - 52) << "with its bar";
-            ChangeMode(Host(), STD);
-            EXPECT_EQ(width(list), listWidth);
-            EXPECT_EQ(width(edit), editWidth);
+            ChangeMode(mode);
+            const auto now = widths();
+            EXPECT_TRUE(mode == STD ? now == standard
+                                    : now.first < 200 - 52 && now.second <= 200 - 52)
+                << mode << ' ' << now.first << ' ' << now.second;
         }
-        EXPECT_EQ(WindowRectOf(list).Size(), listSize) << "whatever the frames cut off it";
+        EXPECT_EQ(WindowRectOf(list).Size(), size) << "whatever the frames cut off it";
         Remove(list);
         Remove(edit);
     }
@@ -493,7 +457,6 @@ TEST_F(ChildRestylingTest, AnAttachedRichEditChangesItsDefaultCharacters)
     format.dwMask = CFM_SIZE;
     format.yHeight = 202;
     edit.SetDefaultCharFormat(format);
-    MessageLog log(edit, {EM_SETBKGNDCOLOR});
     const std::tuple<double, APPMODE, const char*, LONG, bool> steps[] = {
         {Enlarging, ONBOARD, "Arial", 252, true}, // 252.5
         {1.0, EFBFS, "Arial", 315, true},
@@ -505,9 +468,8 @@ TEST_F(ChildRestylingTest, AnAttachedRichEditChangesItsDefaultCharacters)
         EXPECT_STREQ(format.szFaceName, face);
         EXPECT_EQ(format.yHeight, height);
         EXPECT_EQ((format.dwEffects & CFE_BOLD) != 0, bold);
+        EXPECT_EQ(edit.SetBackgroundColor(FALSE, RGB(0, 0, 0)), RGB(180, 180, 180));
     }
-    const Received background = {EM_SETBKGNDCOLOR, FALSE, RGB(180, 180, 180)};
-    EXPECT_EQ(log.All(), std::vector<Received>(3, background));
 }
 
 TEST_F(ChildRestylingTest, AnAttachedTabControlSizesItsItems)
