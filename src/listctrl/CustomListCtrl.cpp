@@ -347,8 +347,8 @@ void CCustomListCtrl::OnNcPaint()
 void CCustomListCtrl::DrawNC()
 {
     m_bars->DrawBorder(m_OutlinePen, m_OutlineBrush, palette::ListCorner);
-    DrawBars();
     Invalidate();
+    DrawBars();
 }
 
 void CCustomListCtrl::OnEnable(BOOL enable)

@@ -311,7 +311,10 @@ void CCustomListCtrl::OnLvnInsertitem(NMHDR*, LRESULT* result)
     }
     const WindowAlive alive(*this);
     m_bars->TakePlatformBars();
-    UpdateVScrollData();
+    if (alive)
+    {
+        UpdateVScrollData();
+    }
     if (alive)
     {
         DrawScrollBars();

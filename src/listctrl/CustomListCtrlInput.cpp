@@ -20,7 +20,12 @@ LRESULT CCustomListCtrl::OnNcHitTest(CPoint point)
     }
     m_vPart = CFauxScrollBar::PRESSED_NONE;
     m_hPart = CFauxScrollBar::PRESSED_NONE;
+    const WindowAlive alive(*this);
     ResizeOBScrollBars();
+    if (!alive)
+    {
+        return HTNOWHERE;
+    }
     const UINT hit = m_bars->HitBar(point);
     if (hit == 0)
     {

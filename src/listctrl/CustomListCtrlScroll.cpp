@@ -11,9 +11,14 @@
 
 void CCustomListCtrl::DrawBars()
 {
-    if (InOnBoard() && GetSafeHwnd() != nullptr)
+    if (!InOnBoard() || GetSafeHwnd() == nullptr)
     {
-        ResizeOBScrollBars();
+        return;
+    }
+    const WindowAlive alive(*this);
+    ResizeOBScrollBars();
+    if (alive)
+    {
         // The outlines cross in the corner; the vertical bar's lies on top.
         const bool painted = m_bars->DrawBar(SB_HORZ);
         m_bars->DrawBar(SB_VERT, painted);
@@ -22,9 +27,10 @@ void CCustomListCtrl::DrawBars()
 
 void CCustomListCtrl::DrawScrollBars()
 {
-    if (InOnBoard() && GetSafeHwnd() != nullptr)
+    const WindowAlive alive(*this);
+    DrawBars();
+    if (alive && InOnBoard())
     {
-        DrawBars();
         FitLastColumn();
     }
 }
@@ -144,7 +150,10 @@ void CCustomListCtrl::ReCheckScrollBars()
     }
     const WindowAlive alive(*this);
     m_bars->TakePlatformBars();
-    UpdateScrollData();
+    if (alive)
+    {
+        UpdateScrollData();
+    }
     if (alive)
     {
         DrawScrollBars();
@@ -246,8 +255,8 @@ void CCustomListCtrl::MoveTo(int axis, int position)
     }
     if (alive)
     {
-        DrawBars();
         Invalidate(FALSE);
+        DrawBars();
     }
 }
 
