@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace {
 
@@ -226,14 +227,25 @@ void CCustomDropListCombo::SetHeight(int height)
     const WindowAlive alive(*this);
     CRect window;
     GetWindowRect(&window);
-    m_sizing = true;
+    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+    const bool sizing = std::exchange(m_sizing, true);
     // A height that it has already is no reason to have a parent erased that waits for its paint.
     const UINT same = height == window.Height() ? SWP_NOREDRAW : 0;
     SetWindowPos(nullptr, 0, 0, window.Width(), height,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | same);
-    if (alive)
+    if (!alive)
     {
-        m_sizing = false;
+        return;
+    }
+    m_sizing = sizing;
+    if (const APPMODE now = COnBoardUIGeneral::GetAppMode(); now != mode)
+    {
+        // Changed on the way, and what it made of the height is overwritten by now.
+        const int last = HeightFor(now);
+        if (alive)
+        {
+            SetHeight(last);
+        }
     }
 }
 
@@ -251,8 +263,8 @@ void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
         return;
     }
     list->AppModeChanged(newMode, oldMode);
-    // Each step may leave the combo without this list.
-    const auto both = [&] { return alive && ListIfMade() == list; };
+    // Each step may leave the combo without this list, or in yet another mode.
+    const auto both = [&] { return alive && ListIfMade() == list && m_shapedFor == newMode; };
     if (both())
     {
         SetLBFont();

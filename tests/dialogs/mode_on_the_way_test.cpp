@@ -1,3 +1,4 @@
+#include "CustomDropListCombo.h"
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
@@ -96,6 +97,22 @@ TEST_F(ModeOnTheWayTest, ALabelThatAControlMakesMeanwhileIsReadLikeTheOthers)
     EXPECT_EQ(label.GetFont(), dialog.GetDlgItem(IdLabel)->GetFont());
     COnBoardUIGeneral::SetAppMode(STD);
     EXPECT_EQ(label.GetFont(), dialog.GetFont());
+}
+
+TEST_F(ModeOnTheWayTest, AComboThatHearsOfTheNextModeMeanwhileHasItsHeight)
+{
+    for (const UINT message : {WM_WINDOWPOSCHANGING, WM_NCCALCSIZE, WM_WINDOWPOSCHANGED, WM_SIZE})
+    {
+        auto& combo = Add<Acting<CCustomDropListCombo>>(CRect(10, 10, 160, 34));
+        combo.ActIn(message, [] { COnBoardUIGeneral::SetAppMode(STD); });
+        for (const char* const when : {"at once", "and later"})
+        {
+            COnBoardUIGeneral::SetAppMode(ONBOARD);
+            COnBoardUIGeneral::SetAppMode(STD);
+            EXPECT_EQ(WindowRectOf(combo).Height(), 24) << message << ' ' << when;
+        }
+        Remove(combo);
+    }
 }
 
 } // namespace
