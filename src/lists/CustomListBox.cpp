@@ -10,6 +10,7 @@
 #include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
+#include <cstdlib>
 #include <utility>
 
 namespace {
@@ -144,7 +145,7 @@ void CCustomListBox::BeginAfresh()
     m_made = m_refitting = false;
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
     m_bars->filling.BeginAfresh();
-    m_bars->givesPlaceBack = false;
+    m_bars->givesPlaceBack = m_bars->givesSizeBack = false;
     HideBars();
 }
 
@@ -189,7 +190,10 @@ void CCustomListBox::EnterOnBoard()
 {
     const WindowAlive alive(*this);
     m_hostExtent = Ask(LB_GETHORIZONTALEXTENT);
-    m_stdSize = SizeOf(*this);
+    if (!m_bars->givesSizeBack)
+    {
+        m_stdSize = SizeOf(*this);
+    }
     m_stdItemHeight = m_standardKnown ? Ask(LB_GETITEMHEIGHT) : 0;
     m_bars->standardHeights.clear();
     if (m_standardKnown && (GetStyle() & LBS_OWNERDRAWVARIABLE) != 0)
@@ -234,7 +238,7 @@ void CCustomListBox::EnterOnBoard()
         return;
     }
     CountAllWidths();
-    m_onBoardSize = m_stdSize;
+    m_onBoardSize = SizeOf(*this);
     m_bars->standardPlace = place;
     m_bars->placeBar = m_hBar.GetScrollPos(); // until the list is in its place
     m_bars->scrolledPixels = pixels;
@@ -264,17 +268,14 @@ void CCustomListBox::Bars::FinishEntering()
     {
         // Rows that all fit now go back to their beginning.
         m_list.m_hBar.SetScrollPos(scrolledPixels / m_list.AverageCharWidth(), TRUE);
+        placeBar = m_list.m_hBar.GetScrollPos(); // the mode may go back in this
         m_list.MoveContent(SB_HORZ);
     }
     if (alive)
     {
         m_list.MirrorContent();
         placeBar = m_list.m_hBar.GetScrollPos();
-        // Of a list that was given another size the standard one is not kept.
-        if (const CSize size = SizeOf(m_list); size.cx == m_list.m_stdSize.cx)
-        {
-            m_list.m_onBoardSize = size;
-        }
+        m_list.m_onBoardSize = SizeOf(m_list);
     }
 }
 
@@ -331,9 +332,12 @@ void CCustomListBox::Bars::FinishLeaving()
     }
     const CSize size = SizeOf(m_list);
     const CSize standard = m_list.m_stdSize;
-    if (givesSizeBack && size.cx == standard.cx && size.cy != standard.cy)
+    // Scaled there and back, its width has lost a fraction, and a list of whole rows one of them.
+    const int lost = (m_list.GetStyle() & LBS_NOINTEGRALHEIGHT) != 0 ? 0 : 1;
+    if (std::exchange(givesSizeBack, false) && std::abs(size.cx - standard.cx) <= lost &&
+        size.cy != standard.cy)
     {
-        m_list.SetWindowPos(nullptr, 0, 0, standard.cx, standard.cy,
+        m_list.SetWindowPos(nullptr, 0, 0, size.cx, standard.cy,
                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
     if (alive && std::exchange(givesPlaceBack, false))

@@ -29,7 +29,7 @@ public:
     std::vector<int> standardHeights;
     int standardPlace = 0;
     int placeBar = 0;
-    bool givesPlaceBack = false; // and has not yet
+    bool givesPlaceBack = false; // and has not yet, as also below
     bool givesSizeBack = false;
     int scrolledPixels = 0; // sideways, in the standard mode
 
