@@ -87,10 +87,22 @@ namespace {
 // change of the mode. Whoever makes a control for a form takes the form's font.
 void SwapFonts(HWND window, HFONT from, HFONT to)
 {
-    ForEachChild(window, [from, to](HWND child) {
-        if (reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == from)
+    // What they hear may change the mode again, and that is seen to: nothing is for this one then.
+    const auto holds = [onBoard = COnBoardUIGeneral::InOnBoardMode()] {
+        return COnBoardUIGeneral::InOnBoardMode() == onBoard;
+    };
+    const auto give = [](HWND child, HFONT font) {
+        ::SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
+    };
+    ForEachChild(window, [&](HWND child) {
+        if (holds() && reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == from &&
+            holds())
         {
-            ::SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(to), FALSE);
+            give(child, to);
+            if (!holds())
+            {
+                give(child, from);
+            }
         }
     });
 }

@@ -2,6 +2,7 @@
 
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
@@ -145,7 +146,7 @@ void CCustomListCtrl::FitLastColumn()
     Ask(LVM_SETCOLUMNWIDTH, WPARAM(last), MAKELPARAM(LVSCW_AUTOSIZE_USEHEADER, 0));
     // Where nothing is left to fill, platforms differ.
     const int wanted = alive ? std::max(HeadingWidth(last), int(client.Width() - column.left)) : 0;
-    if (alive && int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(last))) != wanted)
+    if (alive && m_bars->IsLaidOut() && int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(last))) != wanted)
     {
         Ask(LVM_SETCOLUMNWIDTH, WPARAM(last), MAKELPARAM(wanted, 0));
     }
@@ -154,6 +155,17 @@ void CCustomListCtrl::FitLastColumn()
         return;
     }
     m_fitting = false;
+    if (!m_bars->IsLaidOut())
+    {
+        // The list has left the mode on the way; the column had its width back before this one.
+        if (size_t(last) < m_columnWidths.size())
+        {
+            Ask(LVM_SETCOLUMNWIDTH, WPARAM(last),
+                MAKELPARAM(std::min(m_columnWidths[size_t(last)].standard, listctrl::WidestColumn),
+                           0));
+        }
+        return;
+    }
     if (HeaderItemRect(last, column))
     {
         m_fittedTo = CRect(column.left, 0, column.right, client.Width());

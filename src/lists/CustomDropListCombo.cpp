@@ -7,6 +7,7 @@
 #include "OnBoardUIGeneral.h"
 #include "lists/ComboLayout.h"
 #include "lists/ComboScaling.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/MeasuringDC.h"
@@ -231,8 +232,11 @@ void CCustomDropListCombo::SetHeight(int height)
     const bool sizing = std::exchange(m_sizing, true);
     // A height that it has already is no reason to have a parent erased that waits for its paint.
     const UINT same = height == window.Height() ? SWP_NOREDRAW : 0;
-    SetWindowPos(nullptr, 0, 0, window.Width(), height,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | same);
+    {
+        const GivingPlace giving(GetSafeHwnd());
+        SetWindowPos(nullptr, 0, 0, window.Width(), height,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | same);
+    }
     if (!alive)
     {
         return;
@@ -240,7 +244,7 @@ void CCustomDropListCombo::SetHeight(int height)
     m_sizing = sizing;
     if (const APPMODE now = COnBoardUIGeneral::GetAppMode(); now != mode)
     {
-        // Changed on the way, and what it made of the height is overwritten by now.
+        // What the next one made of the height is overwritten by now.
         const int last = HeightFor(now);
         if (alive)
         {

@@ -212,6 +212,35 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
     return TRUE;
 }
 
+GivingPlace::GivingPlace(HWND child)
+    : m_child(child)
+    , m_outer(std::exchange(s_innermost, this))
+{}
+
+GivingPlace::~GivingPlace()
+{
+    for (size_t next = 0; next < m_changes.size(); ++next)
+    {
+        ModifyChildWndsData change = m_changes[next];
+        ModifyChildsForAppMode(m_child, reinterpret_cast<LPARAM>(&change));
+    }
+    s_innermost = m_outer;
+}
+
+bool GivingPlace::PutOff(HWND child, const ModifyChildWndsData& change)
+{
+    GivingPlace* outermost = nullptr;
+    for (GivingPlace* each = s_innermost; each != nullptr; each = each->m_outer)
+    {
+        outermost = each->m_child == child ? each : outermost;
+    }
+    if (outermost != nullptr)
+    {
+        outermost->m_changes.push_back(change);
+    }
+    return outermost != nullptr;
+}
+
 namespace {
 
 // The children of one window on their way through a change of the mode. What one of them hears may
@@ -276,41 +305,21 @@ private:
         }
     }
 
-    // A child that hears of a change of the mode, with the changes that it is to go through.
-    struct Hearing
-    {
-        HWND child;
-        std::vector<ModifyChildWndsData> changes;
-        Hearing* outer;
-    };
-    static inline Hearing* s_hearing = nullptr;
-
     void Restyle(HWND child) const
     {
-        for (Hearing* each = s_hearing; each != nullptr; each = each->outer)
+        if (GivingPlace::PutOff(child, m_change))
         {
-            if (each->child == child)
-            {
-                each->changes.push_back(m_change);
-                return;
-            }
+            return;
         }
         if (m_before != nullptr)
         {
             m_before(child);
         }
-        if (std::ranges::find(m_placed, child) != m_placed.end())
+        if (std::ranges::find(m_placed, child) == m_placed.end())
         {
-            return;
+            const GivingPlace giving(child);
+            GivingPlace::PutOff(child, m_change);
         }
-        Hearing now = {child, {m_change}, s_hearing};
-        s_hearing = &now;
-        for (size_t next = 0; next < now.changes.size(); ++next)
-        {
-            ModifyChildWndsData change = now.changes[next];
-            ModifyChildsForAppMode(child, reinterpret_cast<LPARAM>(&change));
-        }
-        s_hearing = now.outer;
     }
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AppMode.h"
+#include "OnBoardUI.h"
 
 #include <afxwin.h>
 
@@ -25,6 +26,27 @@ std::vector<HWND> RestyleNewWindow(HWND window, std::span<const HWND> placed = {
 // that, so it need not lay itself out in between. A window that keeps its place gets the
 // WM_WINDOWPOSCHANGING all the same.
 bool IsBeingPlaced(HWND window);
+
+// While a child is given a place that would overwrite what a change of the mode on the way makes of
+// it: such a change comes to the child at the end of this. It may end the child.
+class GivingPlace
+{
+public:
+    explicit GivingPlace(HWND child);
+    GivingPlace(const GivingPlace&) = delete;
+    GivingPlace& operator=(const GivingPlace&) = delete;
+    ~GivingPlace();
+
+    // False when the child is not being given a place.
+    static bool PutOff(HWND child, const ModifyChildWndsData& change);
+
+private:
+    HWND m_child;
+    std::vector<ModifyChildWndsData> m_changes;
+    GivingPlace* m_outer;
+
+    static inline GivingPlace* s_innermost = nullptr;
+};
 
 // The factor of a change between two modes that differ; 1 between two on-board modes.
 double ModeScale(APPMODE newMode, APPMODE oldMode);
