@@ -15,9 +15,10 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 PALETTE = (HERE.parent / "src/paint/Palette.h").read_text()
 
-# Side of the square, width of its rim, how far the cross reaches to either side of its diagonals,
-# all in pixels.
-SIZES = {"std": (13, 1, 1), "onboard": (32, 3, 2)}
+# Side of the square, width of its rim, from there to the sign, and how far the cross reaches to
+# either side of its diagonals, all in pixels. The on-board one with the row that is not copied and
+# one more makes a row that a finger hits, and is as wide as one: the sign is no larger than needed.
+SIZES = {"std": (13, 1, 1, 1), "onboard": (50, 3, 9, 2)}
 
 
 def mark(name):
@@ -43,9 +44,9 @@ def square(side, rim, colors):
     return pixels
 
 
-def crossed(pixels, rim, reach, color):
+def crossed(pixels, inset, reach, color):
     side = len(pixels)
-    first, last = rim + 1 + rim // 2, side - 2 - rim - rim // 2
+    first, last = inset, side - 1 - inset
     for row in range(first, last + 1):
         for col in range(first, last + 1):
             down = abs((col - first) - (row - first))
@@ -55,9 +56,9 @@ def crossed(pixels, rim, reach, color):
     return pixels
 
 
-def filled(pixels, rim, color):
+def filled(pixels, inset, color):
     side = len(pixels)
-    inset = rim + (side - 2 * rim) // 4
+    inset += (side - 2 * inset) // 5
     for row in range(inset, side - inset):
         for col in range(inset, side - inset):
             pixels[row][col] = color
@@ -74,13 +75,13 @@ def write_bitmap(path, rows):
     path.write_bytes(head + info + data)
 
 
-for size, (side, rim, reach) in SIZES.items():
+for size, (side, rim, room, reach) in SIZES.items():
     for state, name in (("enabled", "MarkEnabled"), ("disabled", "MarkDisabled")):
         colors = mark(name)
         columns = [
             square(side, rim, colors),
-            crossed(square(side, rim, colors), rim, reach, colors[3]),
-            filled(square(side, rim, colors), rim, colors[3]),
+            crossed(square(side, rim, colors), rim + room, reach, colors[3]),
+            filled(square(side, rim, colors), rim + room, colors[3]),
         ]
         rows = [sum((column[row] for column in columns), []) for row in range(side)]
         rows.append([colors[3]] * (3 * side))

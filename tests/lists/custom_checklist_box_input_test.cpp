@@ -154,7 +154,7 @@ TEST_F(CheckListTest, SidewaysTheWholeRowIsReachedAndItsCheckMovesAlong)
     list.AddString("A row that is a good deal wider than its window");
     CClientDC dc(&list);
     CFont* const before = dc.SelectObject(&CCustomChecklistBox::GetOnBoardFont());
-    EXPECT_EQ(narrow, 35 + dc.GetTextExtent("Row 1").cx);
+    EXPECT_EQ(narrow, 53 + dc.GetTextExtent("Row 1").cx);
     dc.SelectObject(before);
     ASSERT_TRUE(list.m_hBarNeeded);
     list.SendMessage(WM_HSCROLL, SB_RIGHT);

@@ -158,7 +158,7 @@ TEST_F(CheckListTest, RowsAreHighEnoughInEveryModeAndKeepTheirChecks)
         {
             SetMode(mode, list);
             EXPECT_EQ(list.GetItemHeight(0), list.CalcMinimumItemHeight());
-            EXPECT_GE(list.GetItemHeight(9), mode == STD ? standard : 34);
+            EXPECT_GE(list.GetItemHeight(9), mode == STD ? standard : 52);
             EXPECT_EQ(list.GetCheck(2), 1);
             EXPECT_EQ(list.GetItemData(3), 8U);
         }
@@ -213,7 +213,7 @@ TEST_F(CheckListTest, EachStateHasItsPicture)
         SCOPED_TRACE(APPMODE_NAMES[mode]);
         const ModeScope scope(mode);
         auto& list = AddList(6, BS_AUTO3STATE);
-        const int side = mode == STD ? 13 : 32;
+        const int side = mode == STD ? 13 : 50;
         const int middle = side / 2;
         const auto box = [&](int row) {
             const CRect rect = list.RowRect(row);
