@@ -10,7 +10,9 @@
 
 // A tool bar whose buttons the host can put into the order that it keeps in its settings. In the
 // on-board modes it is dark, with light texts: it answers NM_CUSTOMDRAW itself then, so that its
-// parent is not asked.
+// parent is not asked. Its buttons are as large there as the host asks for, but never smaller than
+// a finger (52 x 52 pixels), and in the standard mode they are again what they were; the bar's own
+// size is its host's.
 class ONBOARDUI_API CustomToolbar : public CToolBar
 {
     DECLARE_DYNAMIC(CustomToolbar)
@@ -49,10 +51,18 @@ public:
     // @}
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     // @{
     // In the standard mode the platform's.
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg BOOL OnCustomDraw(NMHDR* header, LRESULT* result);
     // @}
     DECLARE_MESSAGE_MAP()
+
+private:
+    void FitButtons();
+
+    bool m_enlarged = false; // the buttons, for a finger
+    CSize m_platformButton;  // what they were before that, pixels
 };

@@ -1,9 +1,12 @@
 #include "CustomToolbar.h"
 
 #include "OnBoardUIGeneral.h"
+#include "modes/WindowAlive.h"
+#include "paint/Metrics.h"
 #include "paint/Palette.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_set>
 
 IMPLEMENT_DYNAMIC(CustomToolbar, CToolBar)
@@ -12,6 +15,59 @@ BEGIN_MESSAGE_MAP(CustomToolbar, CToolBar)
     ON_WM_ERASEBKGND()
     ON_NOTIFY_REFLECT_EX(NM_CUSTOMDRAW, &CustomToolbar::OnCustomDraw)
 END_MESSAGE_MAP()
+
+namespace {
+
+// Whether the places of the buttons matter to a message. The platform finds new sizes whenever a
+// button or a font comes, which nobody tells.
+bool NeedsPlaces(UINT message)
+{
+    constexpr UINT messages[] = {WM_PAINT,         WM_NCHITTEST,  WM_SETCURSOR,
+                                 TB_GETITEMRECT,   TB_GETRECT,    TB_HITTEST,
+                                 TB_GETBUTTONSIZE, TB_GETMAXSIZE, WM_WINDOWPOSCHANGED};
+    return std::ranges::find(messages, message) != std::end(messages);
+}
+
+} // namespace
+
+// On-board the buttons are made as large as a finger wherever that matters, and the platform gets
+// its own size back before it hears anything else in the standard mode.
+void CustomToolbar::FitButtons()
+{
+    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    CSize size = m_platformButton;
+    if (onBoard)
+    {
+        size = CSize(DWORD(DefWindowProc(TB_GETBUTTONSIZE, 0, 0)));
+        if (std::min(size.cx, size.cy) >= metrics::FingerRow)
+        {
+            return;
+        }
+        m_platformButton = size;
+        size = CSize(std::max<int>(size.cx, metrics::FingerRow),
+                     std::max<int>(size.cy, metrics::FingerRow));
+    }
+    m_enlarged = onBoard;
+    DefWindowProc(TB_SETBUTTONSIZE, 0, MAKELPARAM(size.cx, size.cy));
+}
+
+LRESULT CustomToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_DESTROY || message == WM_NCDESTROY)
+    {
+        m_enlarged = false;
+    }
+    else if (COnBoardUIGeneral::InOnBoardMode() ? NeedsPlaces(message) : m_enlarged)
+    {
+        const WindowAlive alive(*this);
+        FitButtons();
+        if (!alive)
+        {
+            return 0;
+        }
+    }
+    return CToolBar::WindowProc(message, wParam, lParam);
+}
 
 // A flat bar shows its parent's ground otherwise, which may be light.
 BOOL CustomToolbar::OnEraseBkgnd(CDC* dc)

@@ -168,4 +168,33 @@ TEST_F(CustomToolbarTest, IsDarkWithLightTextsOnBoardWhateverStandsBehindIt)
     EXPECT_TRUE(shows(black) && !shows(RGB(50, 50, 50)));
 }
 
+TEST_F(CustomToolbarTest, ButtonsAreAsLargeAsAFingerOnBoardAndThePlatformsInTheStandardMode)
+{
+    const auto size = [](const CustomToolbar& bar) { return bar.GetToolBarCtrl().GetButtonSize(); };
+    for (const APPMODE made : {STD, ONBOARD})
+    {
+        const ModeScope scope(made);
+        OrderedBar bar;
+        bar.Fill(Host(), Five());
+        bar.SetSizes(CSize(30, 26), CSize(16, 15));
+        for (const APPMODE mode : {EFB, STD, FULLSCREEN})
+        {
+            COnBoardUIGeneral::SetAppMode(mode);
+            bar.Append({unsigned(mode) + 20, 5}); // of which the platform finds its sizes anew
+            EXPECT_EQ(size(bar), mode == STD ? CSize(30, 26) : CSize(52, 52)) << mode;
+        }
+        EXPECT_EQ(bar.CalcFixedLayout(FALSE, TRUE), CSize(8 * 52, 52)) << "room in a frame";
+        Host().Forget();
+        Click(ClientPoint(bar, CPoint(50, 50)));
+        EXPECT_EQ(Host().CodesFrom(10).size(), 1U);
+        bar.SetSizes(CSize(70, 60), CSize(16, 15));
+        EXPECT_EQ(size(bar), CSize(70, 60));
+        // A text may make them higher than a finger, and lower again.
+        EXPECT_TRUE(bar.SetButtonText(0, "Direct"));
+        EXPECT_GE(std::min(size(bar).cx, size(bar).cy), 52);
+        COnBoardUIGeneral::SetAppMode(STD);
+        EXPECT_LT(size(bar).cy, 52);
+    }
+}
+
 } // namespace
