@@ -33,12 +33,10 @@ constexpr Known Targets[] = {
     {"drawn list box", "row", {OfFont, 30}},
     {"list box of many selections", "row", {OfFont, 20}},
     {"list box of columns", "row", {OfFont, 20}},
-    {"check list", "row", {OfFont, 34}},
     {"report list", "row", {OfFont, 28}},
     {"report list", "heading", {OfFont, 31}},
     {"message box", "Button", {OfTemplate, 39}},
     {"property sheet", "tab", {"size of the platform's tabs, scaled", 33}},
-    {"tool bar", "button", {"size of the platform's buttons; a host may set more", 20}},
 };
 
 template <size_t Count>
