@@ -63,6 +63,6 @@ protected:
 private:
     void FitButtons();
 
-    bool m_enlarged = false; // the buttons, for a finger
-    CSize m_platformButton;  // what they were before that, pixels
+    CSize m_enlarged;       // what the buttons were made for a finger, pixels; 0 where they were not
+    CSize m_platformButton; // what they were before that
 };

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <iterator>
 #include <unordered_set>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CustomToolbar, CToolBar)
 
@@ -31,33 +32,39 @@ bool NeedsPlaces(UINT message)
 } // namespace
 
 // On-board the buttons are made as large as a finger wherever that matters, and the platform gets
-// its own size back before it hears anything else in the standard mode.
+// its own size back before it hears anything else in the standard mode, unless it or its host has
+// found another since.
 void CustomToolbar::FitButtons()
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    CSize size = m_platformButton;
+    const CSize size(DWORD(DefWindowProc(TB_GETBUTTONSIZE, 0, 0)));
+    const CSize before = std::exchange(m_enlarged, CSize());
+    CSize wanted = size == before ? m_platformButton : size;
     if (onBoard)
     {
-        size = CSize(DWORD(DefWindowProc(TB_GETBUTTONSIZE, 0, 0)));
         if (std::min(size.cx, size.cy) >= metrics::FingerRow)
         {
+            m_enlarged = size == before ? before : CSize();
             return;
         }
         m_platformButton = size;
-        size = CSize(std::max<int>(size.cx, metrics::FingerRow),
-                     std::max<int>(size.cy, metrics::FingerRow));
+        wanted = CSize(std::max<int>(size.cx, metrics::FingerRow),
+                       std::max<int>(size.cy, metrics::FingerRow));
     }
-    m_enlarged = onBoard;
-    DefWindowProc(TB_SETBUTTONSIZE, 0, MAKELPARAM(size.cx, size.cy));
+    if (wanted != size)
+    {
+        DefWindowProc(TB_SETBUTTONSIZE, 0, MAKELPARAM(wanted.cx, wanted.cy));
+        m_enlarged = onBoard ? CSize(DWORD(DefWindowProc(TB_GETBUTTONSIZE, 0, 0))) : CSize();
+    }
 }
 
 LRESULT CustomToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_DESTROY || message == WM_NCDESTROY)
     {
-        m_enlarged = false;
+        m_enlarged = CSize();
     }
-    else if (COnBoardUIGeneral::InOnBoardMode() ? NeedsPlaces(message) : m_enlarged)
+    else if (COnBoardUIGeneral::InOnBoardMode() ? NeedsPlaces(message) : m_enlarged != CSize())
     {
         const WindowAlive alive(*this);
         FitButtons();
