@@ -123,11 +123,11 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
     m_itemLefts.clear();
     m_itemWidths.clear();
     const HWND list = ListWindow();
-    const int count = std::max(0, GetItemCount());
+    const int count = int(Ask(HDM_GETITEMCOUNT));
     int left = int(m_offset.x);
     for (int order = 0; order < count && alive; ++order)
     {
-        const int item = OrderToIndex(order);
+        const int item = int(Ask(HDM_ORDERTOINDEX, WPARAM(order)));
         CRect rect;
         ItemRect(item, rect);
         if (list != nullptr && item != count - 1 &&
@@ -135,10 +135,10 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
         {
             ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(item),
                           MAKELPARAM(std::min(rect.Width(), listctrl::WidestColumn), 0));
-            if (!alive)
-            {
-                return;
-            }
+        }
+        if (!alive)
+        {
+            return;
         }
         m_itemLefts.push_back(left);
         m_itemWidths.push_back(rect.Width());
@@ -175,13 +175,13 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
 
 bool CCustomListCtrlHdr::ItemRect(int item, CRect& rect) const
 {
-    return item >= 0 && GetItemRect(item, &rect) != FALSE;
+    return item >= 0 && Ask(HDM_GETITEMRECT, WPARAM(item), reinterpret_cast<LPARAM>(&rect)) != 0;
 }
 
 // The item under a point of the unshifted header, or -1.
 int CCustomListCtrlHdr::ItemAt(CPoint point) const
 {
-    const int count = GetItemCount();
+    const int count = int(Ask(HDM_GETITEMCOUNT));
     for (int item = 0; item < count; ++item)
     {
         CRect rect;

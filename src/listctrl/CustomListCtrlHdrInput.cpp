@@ -18,10 +18,17 @@ constexpr int Farthest = SHRT_MAX; // that the platform's pointer messages can t
 
 } // namespace
 
+// A message for the platform's header alone, past the handlers of this class and its heirs: who
+// asks goes on with its own afterwards.
+LRESULT CCustomListCtrlHdr::Ask(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return const_cast<CCustomListCtrlHdr*>(this)->DefWindowProc(message, wParam, lParam);
+}
+
 // The first item whose right edge is that near to x (shifted, as drawn), or -1.
 int CCustomListCtrlHdr::DividerAt(int x) const
 {
-    const int count = GetItemCount();
+    const int count = int(Ask(HDM_GETITEMCOUNT));
     for (int item = 0; item < count; ++item)
     {
         CRect rect;
@@ -41,13 +48,13 @@ LRESULT CCustomListCtrlHdr::DefaultAt(UINT message, UINT flags, CPoint point)
     const int item = ItemAt(point);
     HDHITTESTINFO hit = {};
     hit.pt = point;
-    DefWindowProc(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
     CRect rect;
     if (item != -1 && (hit.flags & (HHT_ONDIVIDER | HHT_ONDIVOPEN)) != 0 && ItemRect(item, rect))
     {
         point.x = rect.CenterPoint().x;
         hit.pt = point;
-        DefWindowProc(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+        Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
         if (hit.iItem != item || (hit.flags & HHT_ONHEADER) == 0)
         {
             return 0; // too narrow to be anything but a divider
@@ -93,7 +100,7 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
     {
         HDHITTESTINFO hit = {};
         hit.pt = point;
-        m_pressedItem = HitTest(&hit);
+        m_pressedItem = int(Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
         m_dragged = (hit.flags & HHT_ONDIVIDER) != 0;
         Default();
         return;
@@ -236,7 +243,7 @@ void CCustomListCtrlHdr::EndFarPress(int pressed, CPoint point)
     {
         return;
     }
-    const bool wide = SendMessage(HDM_GETUNICODEFORMAT) != 0;
+    const bool wide = Ask(HDM_GETUNICODEFORMAT) != 0;
     NMHEADER told = {};
     told.hdr.code = wide ? HDN_ITEMCLICKW : HDN_ITEMCLICKA;
     told.iItem = pressed;
@@ -328,7 +335,7 @@ void CCustomListCtrlHdr::OnLButtonDblClk(UINT flags, CPoint point)
     {
         HDHITTESTINFO hit = {};
         hit.pt = CPoint(onBoard ? point.x - m_offset.x : point.x, point.y);
-        item = onBoard ? ItemAt(hit.pt) : HitTest(&hit);
+        item = onBoard ? ItemAt(hit.pt) : int(Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
     }
     const HWND list = ListWindow();
     const auto toHeading = [&] {
@@ -379,7 +386,8 @@ LRESULT CCustomListCtrlHdr::OnSetHotDivider(WPARAM wParam, LPARAM lParam)
         data.mask = HDI_ORDER;
         CRect rect;
         divider = -1;
-        if (GetItem(item, &data) && ItemRect(item, rect))
+        if (Ask(HDM_GETITEM, WPARAM(item), reinterpret_cast<LPARAM>(&data)) != 0 &&
+            ItemRect(item, rect))
         {
             divider = data.iOrder + (point.x > rect.CenterPoint().x ? 1 : 0);
         }

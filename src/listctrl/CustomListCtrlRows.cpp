@@ -18,13 +18,13 @@ constexpr UINT SelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
 void CCustomListCtrl::ClearSelection()
 {
     const WindowAlive alive(*this);
-    const int focus = GetNextItem(-1, LVNI_FOCUSED);
+    const int focus = NextRow(-1, LVNI_FOCUSED);
     if (focus >= 0)
     {
         SetItemState(focus, 0, LVIS_SELECTED);
     }
     // All of them only when the usual one was not the only one: it takes a look at every row.
-    if (alive && GetSelectedCount() > 0)
+    if (alive && Ask(LVM_GETSELECTEDCOUNT) > 0)
     {
         SetItemState(-1, 0, LVIS_SELECTED);
     }
@@ -43,22 +43,23 @@ void CCustomListCtrl::SelectRange(int from, int to, bool select)
 // selection began (extend), or as one more or less (toggle).
 void CCustomListCtrl::SelectRow(int row, bool extend, bool toggle)
 {
-    if (row < 0 || row >= GetItemCount())
+    if (row < 0 || row >= int(Ask(LVM_GETITEMCOUNT)))
     {
         return;
     }
     const WindowAlive alive(*this);
     const bool single = (GetStyle() & LVS_SINGLESEL) != 0;
     // The host may have set a mark where no row is, or rows may have gone since.
-    const int mark = std::min(GetSelectionMark(), GetItemCount() - 1);
-    const int focus = GetNextItem(-1, LVNI_FOCUSED);
+    const int mark = std::min(int(Ask(LVM_GETSELECTIONMARK)), int(Ask(LVM_GETITEMCOUNT)) - 1);
+    const int focus = NextRow(-1, LVNI_FOCUSED);
     if (extend && !single && mark >= 0)
     {
         // The rows between the old end of the range and the new one are all that changes if the
         // range is all that is selected.
-        const bool grows = focus >= 0 && int(GetSelectedCount()) == std::abs(focus - mark) + 1 &&
-                           GetItemState(mark, LVIS_SELECTED) != 0 &&
-                           GetItemState(focus, LVIS_SELECTED) != 0;
+        const bool grows = focus >= 0 &&
+                           int(Ask(LVM_GETSELECTEDCOUNT)) == std::abs(focus - mark) + 1 &&
+                           Ask(LVM_GETITEMSTATE, WPARAM(mark), LVIS_SELECTED) != 0 &&
+                           Ask(LVM_GETITEMSTATE, WPARAM(focus), LVIS_SELECTED) != 0;
         if (!grows)
         {
             ClearSelection();
@@ -90,7 +91,7 @@ void CCustomListCtrl::SelectRow(int row, bool extend, bool toggle)
     }
     if (toggle && !single)
     {
-        const bool selected = GetItemState(row, LVIS_SELECTED) != 0;
+        const bool selected = Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
         SetItemState(row, LVIS_FOCUSED | (selected ? 0U : UINT(LVIS_SELECTED)), SelectedAndFocused);
     }
     else
@@ -175,18 +176,18 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         return;
     }
     int picked = -1;
-    if (hit.iItem >= 0 && GetItemState(hit.iItem, LVIS_SELECTED) != 0)
+    if (hit.iItem >= 0 && Ask(LVM_GETITEMSTATE, WPARAM(hit.iItem), LVIS_SELECTED) != 0)
     {
         picked = hit.iItem;
     }
-    else if (GetSelectedCount() > 0)
+    else if (Ask(LVM_GETSELECTEDCOUNT) > 0)
     {
-        picked = GetNextItem(-1, LVNI_SELECTED);
+        picked = NextRow(-1, LVNI_SELECTED);
     }
     if (picked == -1)
     {
         // Selected and deselected again, so that the parent is told of a change in any case.
-        if (GetItemCount() > 0)
+        if (int(Ask(LVM_GETITEMCOUNT)) > 0)
         {
             SetItemState(0, SelectedAndFocused, SelectedAndFocused);
         }
@@ -201,7 +202,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         // With the keys the platform has picked the right rows: one of them is exchanged for
         // itself, since the parent waits for the final step. The mark stays, and so does the focus
         // on a row that is no longer selected.
-        const int mark = several ? GetSelectionMark() : picked + TopRow();
+        const int mark = several ? int(Ask(LVM_GETSELECTIONMARK)) : picked + TopRow();
         const int drawn = several ? picked : picked + TopRow();
         const UINT states =
             several && picked != hit.iItem ? UINT(LVIS_SELECTED) : SelectedAndFocused;
@@ -211,7 +212,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
             m_selChanging = FALSE;
             SetItemState(drawn, states, states);
         }
-        if (alive && mark < GetItemCount())
+        if (alive && mark < int(Ask(LVM_GETITEMCOUNT)))
         {
             SetSelectionMark(mark);
         }
@@ -236,12 +237,12 @@ bool CCustomListCtrl::MoveByPage(UINT key, UINT flags)
     told.wVKey = WORD(key);
     told.flags = flags;
     TellNotify(GetSafeHwnd(), told.hdr);
-    if (alive && GetItemCount() > 0)
+    if (alive && int(Ask(LVM_GETITEMCOUNT)) > 0)
     {
         const bool extend = IsKeyDown(VK_SHIFT);
         const int target =
-            listctrl::PageTarget(key == VK_NEXT, std::max(0, GetNextItem(-1, LVNI_FOCUSED)),
-                                 TopRow(), RowsInSight(), GetItemCount());
+            listctrl::PageTarget(key == VK_NEXT, std::max(0, NextRow(-1, LVNI_FOCUSED)), TopRow(),
+                                 RowsInSight(), int(Ask(LVM_GETITEMCOUNT)));
         if (IsKeyDown(VK_CONTROL) && !extend)
         {
             SetItemState(target, LVIS_FOCUSED, LVIS_FOCUSED);
@@ -262,7 +263,7 @@ void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
         return;
     }
     const WindowAlive alive(*this);
-    const int before = GetNextItem(-1, LVNI_FOCUSED);
+    const int before = NextRow(-1, LVNI_FOCUSED);
     if (!MoveByPage(key, flags) && alive)
     {
         Default();
@@ -274,7 +275,7 @@ void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
     HoldPlatform();
     const bool sideways = key == VK_LEFT || key == VK_RIGHT;
     const bool moves = (key >= VK_PRIOR && key <= VK_DOWN) && !sideways;
-    const int focus = alive ? GetNextItem(-1, LVNI_FOCUSED) : -1;
+    const int focus = alive ? NextRow(-1, LVNI_FOCUSED) : -1;
     if (alive && (moves || focus != before))
     {
         BringIntoSight(focus);
@@ -293,9 +294,9 @@ void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
 void CCustomListCtrl::OnChar(UINT, UINT, UINT)
 {
     const WindowAlive alive(*this);
-    const int before = InOnBoard() ? GetNextItem(-1, LVNI_FOCUSED) : -1;
+    const int before = InOnBoard() ? NextRow(-1, LVNI_FOCUSED) : -1;
     Default();
-    const int focus = alive && InOnBoard() ? GetNextItem(-1, LVNI_FOCUSED) : before;
+    const int focus = alive && InOnBoard() ? NextRow(-1, LVNI_FOCUSED) : before;
     if (alive && focus != before)
     {
         HoldPlatform();

@@ -276,8 +276,11 @@ int CCustomComboLBox::RowAt(const CPoint& screen) const
         return -1;
     }
     // Not by LB_ITEMFROMPOINT, whose answer has 16 bits only.
-    const int row = GetTopIndex() + int(point.y) / GetItemHeight();
-    return row < GetCount() ? row : -1;
+    const WindowAlive alive(*this);
+    const int top = GetTopIndex();
+    const int height = alive ? GetItemHeight() : 1;
+    const int row = top + int(point.y) / height;
+    return alive && row < GetCount() && alive ? row : -1;
 }
 
 void CCustomComboLBox::Track(const CPoint& screen)
@@ -299,15 +302,19 @@ int CCustomComboLBox::GetHighlightedRow() const
     {
         return -1;
     }
-    return m_hotRow >= 0 && m_hotRow < GetCount() ? m_hotRow : GetCurSel();
+    const WindowAlive alive(*this);
+    const int hot = m_hotRow;
+    const bool isRow = hot >= 0 && hot < GetCount();
+    return isRow ? hot : alive ? GetCurSel() : -1;
 }
 
 void CCustomComboLBox::InvalidateRow(int row)
 {
     CRect rect;
+    const HWND list = GetSafeHwnd(); // which may end in the question
     if (row >= 0 && GetItemRect(row, &rect) != LB_ERR)
     {
-        InvalidateRect(&rect, FALSE);
+        ::InvalidateRect(list, &rect, FALSE);
     }
 }
 
@@ -317,10 +324,21 @@ void CCustomComboLBox::SetHotRow(int row)
     {
         return;
     }
-    InvalidateRow(GetHighlightedRow());
-    m_hotRow = row;
-    InvalidateRow(GetHighlightedRow());
-    if (row >= 0)
+    const WindowAlive alive(*this);
+    const auto invalidate = [&] {
+        const int shown = GetHighlightedRow();
+        if (alive)
+        {
+            InvalidateRow(shown);
+        }
+    };
+    invalidate();
+    if (alive)
+    {
+        m_hotRow = row;
+        invalidate();
+    }
+    if (alive && row >= 0)
     {
         // The platform's list box knows nothing of it. A listener in this process may end the list.
         access::TellChild(GetSafeHwnd(), EVENT_OBJECT_SELECTION, access::ChildOf(row));
@@ -338,9 +356,10 @@ void CCustomComboLBox::Pick(int row)
     {
         SetCurSel(row);
     }
+    const int picked = alive ? GetCurSel() : -1;
     if (alive && m_combo != nullptr)
     {
-        m_combo->ListClosed(GetCurSel());
+        m_combo->ListClosed(picked);
     }
 }
 
@@ -372,7 +391,11 @@ LRESULT CCustomComboLBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == WM_MOUSEWHEEL && alive)
     {
         // Another row is under the pointer now, which has not moved.
-        SetHotRow(RowAt(CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))));
+        const int row = RowAt(CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
+        if (alive)
+        {
+            SetHotRow(row);
+        }
     }
     if (alive)
     {
