@@ -1,8 +1,9 @@
-// A control or form may end itself in any of its own messages while the mode changes and while it
-// is painted.
+// A control or form may end itself in any of its own messages while the mode changes, while it is
+// painted and while a user works it.
 
 #include "robust/Subjects.h"
 #include "robust/Watch.h"
+#include "support/Input.h"
 #include "support/WindowTest.h"
 
 #include "CustomButton.h"
@@ -27,6 +28,8 @@ struct Heard
 // Of one message. What follows is likely the same again.
 constexpr int MostTellings = 2;
 
+constexpr UINT BlinkOfTheCaret = 0x118; // the system's own timer
+
 class OwnDeath : public WindowTest
 {
 protected:
@@ -38,9 +41,10 @@ protected:
 
     static bool Hear(const CWnd& window, UINT message)
     {
-        // An edit of the platform asks for it in the middle of its painting, and afterwards writes
-        // into what it had.
-        if (PlatformWorks != 0 || message == WM_CTLCOLOREDIT)
+        // An edit of the platform asks for the first in the middle of its painting, and afterwards
+        // writes into what it had; the others come when it is time.
+        constexpr UINT left[] = {WM_CTLCOLOREDIT, WM_MOUSELEAVE, WM_NCMOUSELEAVE, BlinkOfTheCaret};
+        if (PlatformWorks != 0 || std::ranges::find(left, message) != std::end(left))
         {
             return false;
         }
@@ -127,6 +131,24 @@ protected:
                        RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
     }
 
+    // With the ticks of its timers while the button is down, if it is held: a loop of the platform
+    // has to find its end in the queue.
+    static void PressOn(HWND window, CPoint point, bool held)
+    {
+        QueueMove(point);
+        QueueButton(true);
+        if (held)
+        {
+            PumpAll();
+        }
+        for (const UINT id : TimerIds)
+        {
+            ::SendMessage(window, WM_TIMER, held ? id : 0, 0);
+        }
+        QueueButton(false);
+        PumpAll();
+    }
+
     // As the platform has a list box draw and measure a row, without its own work around that.
     void HaveRowDrawn(HWND window)
     {
@@ -186,6 +208,54 @@ TEST_F(OwnDeath, DuringARepaintDoesNoHarm)
                     HaveRowDrawn(window);
                 }
             });
+        }
+    }
+}
+
+TEST_F(OwnDeath, DuringInputDoesNoHarm)
+{
+    using Use = void (*)(HWND window, const CRect& place);
+    constexpr std::pair<const char*, Use> uses[] = {
+        {"pressing",
+         [](HWND window, const CRect& place) { PressOn(window, place.CenterPoint(), false); }},
+        {"scrolling",
+         [](HWND window, const CRect& place) {
+             ::SendMessage(window, WM_VSCROLL, SB_PAGEDOWN, 0);
+             // The platform's own bars, in every mode those of forms, run a loop.
+             const LONG style = ::GetWindowLong(window, GWL_STYLE);
+             const bool child = (style & WS_CHILD) != 0;
+             const bool own = COnBoardUIGeneral::InOnBoardMode() && (style & WS_VSCROLL) == 0;
+             PressOn(window, child ? CPoint(place.right - 12, place.top + 16) : place.CenterPoint(),
+                     child && own);
+             ::Wheel(-WHEEL_DELTA);
+         }},
+        {"typing",
+         [](HWND, const CRect&) {
+             for (const UINT key :
+                  {UINT(VK_DOWN), UINT(VK_NEXT), UINT(VK_SPACE), UINT('W'), UINT(VK_RETURN)})
+             {
+                 TypeKey(key);
+             }
+         }},
+    };
+    for (const Subject& subject : Subjects())
+    {
+        for (const APPMODE mode : {STD, EFB})
+        {
+            for (const auto& [name, use] : uses)
+            {
+                GiveAll(subject, mode, name, [mode, use = use](HWND window) {
+                    if (mode != STD)
+                    {
+                        ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
+                    }
+                    CRect place;
+                    ::GetWindowRect(window, &place);
+                    ::SetFocus(window);
+                    use(window, place);
+                    RestPointer();
+                });
+            }
         }
     }
 }
