@@ -56,10 +56,10 @@ TEST_F(ListCtrlOnBoard, ARangeEndsAtTheLastRowWhereverItsMarkIs)
     // As on a platform that keeps the mark as a host has set it.
     struct WildMark : ListForTests
     {
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
         {
             const bool mark = message == LVM_GETSELECTIONMARK;
-            return mark ? INT_MAX : ListForTests::WindowProc(message, wParam, lParam);
+            return mark ? INT_MAX : ListForTests::DefWindowProc(message, wParam, lParam);
         }
     };
     auto& list = AddList<WildMark>(50);

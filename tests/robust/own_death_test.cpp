@@ -41,9 +41,10 @@ protected:
 
     static bool Hear(const CWnd& window, UINT message)
     {
-        // An edit of the platform asks for the first in the middle of its painting, and afterwards
-        // writes into what it had; the others come when it is time.
-        constexpr UINT left[] = {WM_CTLCOLOREDIT, WM_MOUSELEAVE, WM_NCMOUSELEAVE, BlinkOfTheCaret};
+        // An edit of the platform on a form tells the first two in the middle of its painting and
+        // of its typing, and goes on with what it had; the others come when it is time.
+        constexpr UINT left[] = {WM_CTLCOLOREDIT, WM_COMMAND, WM_MOUSELEAVE, WM_NCMOUSELEAVE,
+                                 BlinkOfTheCaret};
         if (PlatformWorks != 0 || std::ranges::find(left, message) != std::end(left))
         {
             return false;
