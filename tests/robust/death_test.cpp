@@ -4,8 +4,11 @@
 
 #include "robust/Play.h"
 
+#include "CustomPropPage.h"
+#include "CustomPropSheet.h"
 #include "catalog/Makers.h"
 #include "support/WindowTest.h"
+#include "support/forms.h"
 
 namespace {
 
@@ -19,6 +22,24 @@ Made MakePlain(CWnd& parent, const Contents&)
     return plain;
 }
 
+// A window of its own, as large as its pages want it: presses reach what lies on them.
+Made MakeSheet(CWnd& owner, const Contents&)
+{
+    struct Sheet : Hearing<CCustomPropSheet>
+    {
+        Hearing<CCustomPropPage> page{UINT(IDD_TEST_PAGE_1)};
+
+        explicit Sheet(CWnd& parent)
+            : Hearing<CCustomPropSheet>("Sheet", nullptr, &parent)
+        {
+            AddPage(&page);
+        }
+    };
+    auto sheet = std::make_unique<Sheet>(owner);
+    sheet->Create(&owner, WS_POPUP | WS_CAPTION);
+    return sheet;
+}
+
 struct ParentKind
 {
     const char* name;
@@ -27,7 +48,7 @@ struct ParentKind
 constexpr ParentKind ParentKinds[] = {{"", &MakePlain},
                                       {"on a dialog", &Parents::MakeDialog},
                                       {"on a message box", &Parents::MakeMessageBox},
-                                      {"on a page", &Parents::MakeSheet},
+                                      {"on a page", &MakeSheet},
                                       {"on a form view", &Parents::MakeFormView}};
 
 // Input by queue: a press may run a loop of the control's own, which needs its end to be there.
@@ -195,12 +216,15 @@ protected:
         play.from = from;
         play.toldBefore = awaited && !IsFirstOfItsKind(*awaited, m_rehearsed);
         play.parent = kind->make(Host(), {Stage, "A text"});
-        play.parent->SetWindowPos(nullptr, 0, 0, Stage.right, Stage.bottom,
-                                  SWP_NOMOVE | SWP_NOZORDER);
         CWnd* parent = play.parent.get();
         if (auto* const sheet = dynamic_cast<CPropertySheet*>(parent))
         {
             parent = sheet->GetPage(0);
+        }
+        else
+        {
+            parent->SetWindowPos(nullptr, 0, 0, Stage.right, Stage.bottom,
+                                 SWP_NOMOVE | SWP_NOZORDER);
         }
         play.control = subject->make(*parent);
         if (death == Death::Sibling)
