@@ -53,8 +53,12 @@ void CustomToolbar::FitButtons()
     }
     if (wanted != size)
     {
+        const WindowAlive alive(*this); // the platform may lay the bar out, and tell of it
         DefWindowProc(TB_SETBUTTONSIZE, 0, MAKELPARAM(wanted.cx, wanted.cy));
-        m_enlarged = onBoard ? CSize(DWORD(DefWindowProc(TB_GETBUTTONSIZE, 0, 0))) : CSize();
+        if (alive && onBoard)
+        {
+            m_enlarged = CSize(DWORD(DefWindowProc(TB_GETBUTTONSIZE, 0, 0)));
+        }
     }
 }
 
