@@ -12,17 +12,6 @@ constexpr UINT Keys[] = {VK_UP,    VK_DOWN,   VK_LEFT, VK_RIGHT, VK_HOME,   VK_E
                          VK_PRIOR, VK_NEXT,   VK_TAB,  VK_SPACE, VK_RETURN, VK_ESCAPE,
                          VK_BACK,  VK_DELETE, 'A',     'Z',      VK_F16};
 
-// A menu of the platform's runs a loop of its own: it is closed once it waits.
-LRESULT CALLBACK CloseMenu(int code, WPARAM wParam, LPARAM lParam)
-{
-    const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
-    if (code == HC_ACTION && sent.message == WM_ENTERIDLE && sent.wParam == MSGF_MENU)
-    {
-        ::PostMessage(sent.hwnd, WM_KEYDOWN, VK_ESCAPE, 1);
-    }
-    return ::CallNextHookEx(nullptr, code, wParam, lParam);
-}
-
 } // namespace
 
 Storm::Storm(const Subject& subject, std::uint32_t seed)
@@ -51,6 +40,7 @@ void Storm::Note(UINT message, WPARAM wParam, LPARAM lParam)
         m_last.erase(m_last.begin());
     }
     m_last.push_back({message, wParam, lParam});
+    ++m_sent;
     Watch::GoesOn();
 }
 
@@ -308,10 +298,8 @@ void Storm::Touch(CWnd& window)
 
 void Storm::Blow(CWnd& parent, CWnd& window, int messages)
 {
-    const HHOOK menus =
-        ::SetWindowsHookEx(WH_CALLWNDPROC, &CloseMenu, nullptr, ::GetCurrentThreadId());
     const HWND handle = window.GetSafeHwnd();
-    for (int index = 0; index < messages && ::IsWindow(handle); ++index)
+    for (const int end = m_sent + messages; m_sent < end && ::IsWindow(handle);)
     {
         const HWND target = Target(window);
         switch (Between(0, 11))
@@ -353,5 +341,4 @@ void Storm::Blow(CWnd& parent, CWnd& window, int messages)
             break;
         }
     }
-    ::UnhookWindowsHookEx(menus);
 }

@@ -30,6 +30,7 @@ private:
     Arguments m_arguments;
     ToParent m_toParent{m_arguments};
     std::vector<Received> m_last;
+    int m_sent = 0;
     Watch m_watch;
 
     int Between(int first, int last) { return m_arguments.Between(first, last); }

@@ -1,6 +1,8 @@
 #include "robust/Subjects.h"
 
 #include "catalog/Makers.h"
+#include "trees/TreeLook.h"
+#include "trees/TreeSelection.h"
 
 #include <algorithm>
 #include <set>
@@ -50,6 +52,24 @@ struct SeenCombo : CCustomDropListCombo
 {
     static CWnd* List(CCustomDropListCombo& combo) { return combo.*&SeenCombo::m_list; }
 };
+
+// The bars of a tree are private to its parts: only what is instantiated with them may look.
+std::string FaultOf(MultiTree& tree);
+std::string FaultOf(MultiTreeView& tree);
+template <class Tree, auto Selection, auto Look, auto Bars, auto... Each> struct Opened
+{
+    friend std::string FaultOf(Tree& tree)
+    {
+        auto& bars = (*((*(tree.*Selection)).*Look)).*Bars;
+        return (FaultOf((bars.*Each).bar) + ...);
+    }
+};
+template struct Opened<MultiTree, &MultiTree::m_selection, &trees::TreeSelection::m_look,
+                       &trees::TreeLook::m_bars, &trees::TreeBars::m_vertical,
+                       &trees::TreeBars::m_horizontal>;
+template struct Opened<MultiTreeView, &MultiTreeView::m_selection, &trees::TreeSelection::m_look,
+                       &trees::TreeLook::m_bars, &trees::TreeBars::m_vertical,
+                       &trees::TreeBars::m_horizontal>;
 
 // Whether the window is such a control, which is then used.
 template <class Control, class Use> bool On(CWnd& window, Use use)
@@ -155,6 +175,8 @@ std::optional<std::string> FaultOf(CWnd& window)
     On<CCustomEdit>(window, [&](auto& edit) { fault = SeenEdit::Fault(edit); });
     On<CCustomListBox>(window, [&](auto& list) { fault = SeenList::Fault(list); });
     On<CCustomListCtrl>(window, [&](auto& list) { fault = Seen<CCustomListCtrl>::Fault(list); });
+    On<MultiTree>(window, [&](auto& tree) { fault = FaultOf(tree); });
+    On<MultiTreeView>(window, [&](auto& tree) { fault = FaultOf(tree); });
     On<CCustomDropListCombo>(window, [&](auto& combo) {
         fault = combo.IsExpanded()         ? "still open"
                 : PartOf(combo) == nullptr ? std::string()

@@ -57,6 +57,12 @@ protected:
     }
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
+        // The system menu runs a loop of the platform's own, which not each Escape ends.
+        const HWND root = ::GetAncestor(this->m_hWnd, GA_ROOT);
+        if (message == WM_CONTEXTMENU && (::GetWindowLong(root, GWL_STYLE) & WS_SYSMENU) != 0)
+        {
+            return 0;
+        }
         const FocusGiver giver(this->m_hWnd, message);
         const int works = message != WM_WINDOWPOSCHANGED;
         PlatformWorks += works;
