@@ -192,26 +192,25 @@ void Storm::Ask(HWND window)
 {
     static const HRESULT ready = ::CoInitialize(nullptr);
     (void)ready;
-    const long child = Between(0, 6);
-    const int what = Between(0, 3);
-    Note(WM_GETOBJECT, WPARAM(what), LPARAM(child));
     const Held<IAccessible> object = Reached(window);
-    if (object == nullptr)
+    for (int questions = Between(1, 6); questions > 0 && object != nullptr; --questions)
     {
-        return;
+        const long child = Between(0, 6);
+        const int what = Between(0, 3);
+        Note(WM_GETOBJECT, WPARAM(what), LPARAM(child));
+        PlaceOf(*object, child);
+        Read(*object, child);
+        what == 0   ? object->accDoDefaultAction(Child(child))
+        : what != 1 ? S_OK
+                    : object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(child));
     }
-    PlaceOf(*object, child);
-    Read(*object, child);
-    what == 0   ? object->accDoDefaultAction(Child(child))
-    : what != 1 ? S_OK
-                : object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(child));
 }
 
 // What is its own: by the host's calls and by messages.
 void Storm::Use(CWnd& window, HWND target)
 {
     const auto& own = WordsOf(target);
-    const bool called = target == window.GetSafeHwnd() && (own.empty() || Between(0, 3) == 0);
+    const bool called = target == window.GetSafeHwnd() && Between(0, own.empty() ? 1 : 3) == 0;
     if (called)
     {
         Note(WM_APP); // the log's word for a call, if there is any
@@ -331,7 +330,7 @@ void Storm::Blow(CWnd& parent, CWnd& window, int messages)
             break;
         }
         case 7:
-            Between(0, 3) ? TellParent(target) : Ask(target);
+            Between(0, 11) ? TellParent(target) : Ask(target);
             break;
         case 8:
             SendOne(target, AnyWords);

@@ -15,6 +15,7 @@ public:
 
     // So many messages. Ends early when the window is gone.
     void Blow(CWnd& parent, CWnd& window, int messages);
+    int Sent() const { return m_sent; }
 
     // A press somewhere on it, released as a hand does it.
     void Touch(CWnd& window);

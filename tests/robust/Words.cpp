@@ -38,7 +38,7 @@ const Kind Kinds[] = {
      ODT_STATIC, {WM_CTLCOLORSTATIC}, {STN_CLICKED, STN_DBLCLK, STN_ENABLE, STN_DISABLE}},
     {"Edit",
      {{EM_SETSEL, Row, Row}, {EM_REPLACESEL, Flag, Text}, {EM_UNDO}, {EM_SETREADONLY, Flag},
-      {EM_LINESCROLL, None, Small}, {EM_SCROLL, Small}, {EM_SCROLLCARET}, {EM_LIMITTEXT, Data},
+      {EM_LINESCROLL, None, Small}, {EM_SCROLL, Small}, {EM_SCROLLCARET}, {EM_LIMITTEXT, Data}, {EM_LIMITTEXT, Length},
       {EM_GETLINE, Row, Buffer}, {EM_SETMARGINS, Flag, Flag}, {EM_GETRECT, None, Place},
       {EM_SETRECT, None, Place}, {EM_CHARFROMPOS, None, Point}, {EM_LINEINDEX, Row},
       {EM_GETFIRSTVISIBLELINE}, {WM_COPY}, {WM_PASTE}, {WM_CUT}, {WM_CLEAR}, {WM_UNDO},
