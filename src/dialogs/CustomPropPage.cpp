@@ -50,7 +50,7 @@ BOOL CCustomPropPage::OnInitDialog()
 LRESULT CCustomPropPage::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const WindowAlive alive(*this);
-    m_initialising = m_initialising || message == WM_INITDIALOG;
+    m_initialising = dialogs::IsInitialising(*this, message, m_initialising);
     const LRESULT result = CPropertyPage::WindowProc(message, wParam, lParam);
     if (alive && message == WM_INITDIALOG)
     {

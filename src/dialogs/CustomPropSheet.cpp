@@ -229,7 +229,7 @@ LRESULT CCustomPropSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         m_frameActive = true;
     }
     const WindowAlive alive(*this);
-    m_initialising = message == WM_INITDIALOG || (m_initialising && message != WM_NCDESTROY);
+    m_initialising = dialogs::IsInitialising(*this, message, m_initialising);
     const LRESULT result = CPropertySheet::WindowProc(message, wParam, lParam);
     if (alive && message == WM_INITDIALOG)
     {

@@ -69,6 +69,14 @@ void TakePlatformCaption(CWnd& window, DWORD& taken)
     scroll::RecalculateFrame(window);
 }
 
+bool IsInitialising(const CWnd& window, UINT message, bool before)
+{
+    constexpr char DialogClass[] = "#32770"; // the platform's
+    return message == WM_INITDIALOG ||
+           (message == WM_NCCREATE ? IsOfClass(window.GetSafeHwnd(), DialogClass)
+                                   : before && message != WM_NCDESTROY);
+}
+
 Children ChildrenOf(const CWnd& window, bool scaledLater)
 {
     Children children;

@@ -28,6 +28,10 @@ void CreateSharedObjects();
 // back; 0 in the standard mode.
 void TakePlatformCaption(CWnd& window, DWORD& taken);
 
+// Whether a message finds a page or a sheet on its way to its initialisation, given whether the one
+// before it has: from its creation on, if it is a dialog, for the mode may change before that.
+bool IsInitialising(const CWnd& window, UINT message, bool before);
+
 // What a window knows of its children when the mode changes.
 struct Children
 {

@@ -82,6 +82,11 @@ void ComboScaling::Fit(std::span<const HWND> children)
     ForEachLeft(children, [children](HWND child) { Fit(child, children); });
 }
 
+void ComboScaling::FitAgain(HWND window)
+{
+    Fit(window, ChildrenNow(::GetParent(window)));
+}
+
 void ComboScaling::Fit(HWND window, std::span<const HWND> siblings)
 {
     if (CCustomDropListCombo* const combo = ComboOf(window))

@@ -25,6 +25,8 @@ public:
     static void NoteStandard(HWND window);
     // After the scaling: gives the combos among the children their heights.
     static void Fit(std::span<const HWND> children);
+    // Once more for one that was in another place when the mode changed while it took its height.
+    static void FitAgain(HWND window);
 
     // Whether a window is scaling its children.
     static bool IsAtWorkIn(HWND parent);

@@ -245,6 +245,11 @@ void CCustomDropListCombo::SetHeight(int height)
     if (const APPMODE now = COnBoardUIGeneral::GetAppMode(); now != mode)
     {
         // What the next one made of the height is overwritten by now.
+        if (m_fitted > 0)
+        {
+            lists::ComboScaling::FitAgain(GetSafeHwnd());
+            return;
+        }
         const int last = HeightFor(now);
         if (alive)
         {

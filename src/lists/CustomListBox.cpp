@@ -4,6 +4,7 @@
 
 #include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
@@ -145,7 +146,8 @@ void CCustomListBox::BeginAfresh()
     m_made = m_refitting = false;
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
     m_bars->filling.BeginAfresh();
-    m_bars->givesPlaceBack = m_bars->givesSizeBack = false;
+    m_bars->givesPlaceBack = false;
+    m_bars->ForgetSize();
     HideBars();
 }
 
@@ -190,10 +192,7 @@ void CCustomListBox::EnterOnBoard()
 {
     const WindowAlive alive(*this);
     m_hostExtent = Ask(LB_GETHORIZONTALEXTENT);
-    if (!m_bars->givesSizeBack)
-    {
-        m_stdSize = SizeOf(*this);
-    }
+    m_bars->KeepSize(false);
     m_stdItemHeight = m_standardKnown ? Ask(LB_GETITEMHEIGHT) : 0;
     m_bars->standardHeights.clear();
     if (m_standardKnown && (GetStyle() & LBS_OWNERDRAWVARIABLE) != 0)
@@ -238,7 +237,6 @@ void CCustomListBox::EnterOnBoard()
         return;
     }
     CountAllWidths();
-    m_onBoardSize = SizeOf(*this);
     m_bars->standardPlace = place;
     m_bars->placeBar = m_hBar.GetScrollPos(); // until the list is in its place
     m_bars->scrolledPixels = pixels;
@@ -263,28 +261,27 @@ void CCustomListBox::Bars::Finish()
 void CCustomListBox::Bars::FinishEntering()
 {
     const WindowAlive alive(m_list);
+    const auto goesOn = [&] { return alive && IsLaidOut(); }; // the mode may go back on the way
     m_list.ResizeOBScrollBars();
-    if (alive && scrolledPixels > 0)
+    if (goesOn() && scrolledPixels > 0)
     {
         // Rows that all fit now go back to their beginning.
         m_list.m_hBar.SetScrollPos(scrolledPixels / m_list.AverageCharWidth(), TRUE);
-        placeBar = m_list.m_hBar.GetScrollPos(); // the mode may go back in this
+        placeBar = m_list.m_hBar.GetScrollPos();
         m_list.MoveContent(SB_HORZ);
     }
-    if (alive)
+    if (goesOn())
     {
         m_list.MirrorContent();
         placeBar = m_list.m_hBar.GetScrollPos();
-        m_list.m_onBoardSize = SizeOf(m_list);
+        GiveSizeBack();
     }
 }
 
 void CCustomListBox::LeaveOnBoard()
 {
     const WindowAlive alive(*this);
-    // The platform cuts a list to whole rows whenever its frame changes; unless the host has sized
-    // it since, it gets back what it had.
-    m_bars->givesSizeBack = m_stdItemHeight > 0 && SizeOf(*this) == m_onBoardSize;
+    m_bars->KeepSize(true);
     m_bars->givesPlaceBack = m_bars->standardPlace > 0 && m_hBar.GetScrollPos() == m_bars->placeBar;
     m_bars->End();
     HideBars();
@@ -325,34 +322,68 @@ void CCustomListBox::LeaveOnBoard()
 void CCustomListBox::Bars::FinishLeaving()
 {
     const WindowAlive alive(m_list);
+    const auto goesOn = [&] { return alive && !IsLaidOut(); }; // the mode may come back on the way
     TakeNeedlessBars(m_list);
-    if (!alive)
+    if (goesOn())
     {
-        return;
+        GiveSizeBack();
     }
-    const CSize size = SizeOf(m_list);
-    const CSize standard = m_list.m_stdSize;
-    // Scaled there and back, its width has lost a fraction, and a list of whole rows one of them.
-    const int lost = (m_list.GetStyle() & LBS_NOINTEGRALHEIGHT) != 0 ? 0 : 1;
-    if (std::exchange(givesSizeBack, false) && std::abs(size.cx - standard.cx) <= lost &&
-        size.cy != standard.cy)
-    {
-        m_list.SetWindowPos(nullptr, 0, 0, size.cx, standard.cy,
-                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-    if (alive && std::exchange(givesPlaceBack, false))
+    if (goesOn() && std::exchange(givesPlaceBack, false))
     {
         const LONGLONG place = std::min<LONGLONG>(standardPlace, MaxOffset);
         m_list.InColumns() ? Ask(LB_SETTOPINDEX, WPARAM(standardPlace), 0)
                            : Ask(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, place), 0);
     }
-    if (alive)
+    if (goesOn())
     {
         TellSize();
     }
-    if (alive)
+    if (goesOn())
     {
         m_list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
+    }
+}
+
+void CCustomListBox::Bars::KeepSize(bool onBoard)
+{
+    // On the way from one mode to the next it has no size of its own.
+    if (std::exchange(m_sizeDue, true))
+    {
+        return;
+    }
+    const CSize size = SizeOf(m_list);
+    if (!onBoard)
+    {
+        m_list.m_stdSize = m_list.m_standardKnown ? size : CSize();
+        m_list.m_onBoardSize = CSize();
+        return;
+    }
+    if (size != m_list.m_onBoardSize)
+    {
+        m_list.m_stdSize = CSize(); // its host has sized it
+    }
+    m_list.m_onBoardSize = size;
+}
+
+void CCustomListBox::Bars::GiveSizeBack()
+{
+    if (!std::exchange(m_sizeDue, false))
+    {
+        return;
+    }
+    CSize& kept = IsLaidOut() ? m_list.m_onBoardSize : m_list.m_stdSize;
+    const CSize size = SizeOf(m_list);
+    // Scaled there and back its width has lost a fraction, and a list of whole rows one of them.
+    const int lost = (m_list.GetStyle() & LBS_NOINTEGRALHEIGHT) != 0 ? 0 : 3;
+    const WindowAlive alive(m_list);
+    if (kept.cy > 0 && kept.cy != size.cy && std::abs(size.cx - kept.cx) <= lost)
+    {
+        m_list.SetWindowPos(nullptr, 0, 0, size.cx, kept.cy,
+                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    }
+    if (alive)
+    {
+        kept = SizeOf(m_list);
     }
 }
 
@@ -376,7 +407,12 @@ void CCustomListBox::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params
 
 void CCustomListBox::OnWindowPosChanging(WINDOWPOS* position)
 {
+    const WindowAlive alive(*this);
     m_bars->WindowPosChanging(position);
+    if (alive && IsPlacePassing(*this))
+    {
+        m_bars->KeepSize(m_bars->IsLaidOut());
+    }
 }
 
 void CCustomListBox::OnSize(UINT type, int width, int height)
@@ -387,9 +423,14 @@ void CCustomListBox::OnSize(UINT type, int width, int height)
     {
         return;
     }
-    if (m_bars->TakePlace()) // by now the platform may have cut the list to whole rows
+    // By now the platform may have cut the list to whole rows.
+    if (m_bars->TakePlace())
     {
         m_bars->Finish();
+    }
+    else if (IsBeingPlaced(*this) && !IsPlacePassing(*this))
+    {
+        m_bars->GiveSizeBack();
     }
     if (!alive || !FollowMode())
     {

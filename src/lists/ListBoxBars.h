@@ -29,12 +29,19 @@ public:
     std::vector<int> standardHeights;
     int standardPlace = 0;
     int placeBar = 0;
-    bool givesPlaceBack = false; // and has not yet, as also below
-    bool givesSizeBack = false;
-    int scrolledPixels = 0; // sideways, in the standard mode
+    bool givesPlaceBack = false; // and has not yet
+    int scrolledPixels = 0;      // sideways, in the standard mode
 
     // The rest of entering or leaving a mode, in the new frame.
     void Finish();
+
+    // Before the list leaves a kind of mode: it is as large again when that comes back, unless its
+    // host sizes it meanwhile. The platform cuts a list to whole rows whenever its frame changes,
+    // and would cut it once more each time.
+    void KeepSize(bool onBoard);
+    void ForgetSize() { m_sizeDue = false; }
+    // In the place for the mode of the moment.
+    void GiveSizeBack();
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -44,6 +51,7 @@ public:
 
 private:
     CCustomListBox& m_list;
+    bool m_sizeDue = false; // kept, and not given back yet
 
     void FinishEntering();
     void FinishLeaving();

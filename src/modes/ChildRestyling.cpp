@@ -131,28 +131,38 @@ CRect RescaledRect(const CRect& rect, double scale)
 
 namespace {
 
-HWND s_placed = nullptr;
+struct Placed
+{
+    HWND window = nullptr;
+    bool onBoard = false;
+};
+Placed s_placed;
 
 // Marks the window that is being placed; what it does may place others.
 class Placing
 {
 public:
-    explicit Placing(HWND window)
-        : m_outer(std::exchange(s_placed, window))
+    Placing(HWND window, bool onBoard)
+        : m_outer(std::exchange(s_placed, {window, onBoard}))
     {}
     Placing(const Placing&) = delete;
     Placing& operator=(const Placing&) = delete;
     ~Placing() { s_placed = m_outer; }
 
 private:
-    HWND m_outer;
+    Placed m_outer;
 };
 
 } // namespace
 
 bool IsBeingPlaced(HWND window)
 {
-    return window != nullptr && window == s_placed;
+    return window != nullptr && window == s_placed.window;
+}
+
+bool IsPlacePassing(HWND window)
+{
+    return IsBeingPlaced(window) && s_placed.onBoard != COnBoardUIGeneral::InOnBoardMode();
 }
 
 BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
@@ -167,7 +177,7 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
     }
     const auto is = [child](const char* wanted) { return IsOfClass(child, wanted); };
     const bool standard = change->mode == STD;
-    const Placing placing(child);
+    const Placing placing(child, !standard);
 
     CRect target = RescaledRect(PlaceIn(change->parent, child), change->scale);
     UINT flags = SWP_NOZORDER;

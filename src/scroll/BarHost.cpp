@@ -252,8 +252,8 @@ void BarHost::LayOutInPlace()
 bool BarHost::TakePlace()
 {
     // For a mode that is over nothing is laid out: the control is about to follow the next one.
-    const bool came =
-        m_awaitsPlace && !m_following && m_onBoard == COnBoardUIGeneral::InOnBoardMode();
+    const bool came = m_awaitsPlace && !m_following &&
+                      m_onBoard == COnBoardUIGeneral::InOnBoardMode() && !IsPlacePassing(m_window);
     m_awaitsPlace = m_awaitsPlace && !came;
     return came;
 }
