@@ -44,6 +44,14 @@ public:
     int GetMaxRows() const { return m_maxRows; }
     // @}
 
+    // @{
+    // The platform's own answers: an heir does not hear of the question, in which it might end the
+    // list that the combo goes on with. Without a window there are no rows.
+    int GetCount() const;
+    int GetCurSel() const;
+    int GetTopIndex() const;
+    // @}
+
     // Height of a row in pixels, at least 1.
     int GetItemHeight() const;
     using CCustomListBox::GetItemHeight;
@@ -120,6 +128,7 @@ private:
     int m_hotRow = -1; // under the pointer
     CPoint m_seenPoint{-1, -1};
 
+    int Answer(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void SetHotRow(int row);
     void InvalidateRow(int row);
     void TellBarReleased(bool wasHeld);

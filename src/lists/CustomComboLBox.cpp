@@ -131,11 +131,35 @@ bool CCustomComboLBox::IsPopupVisible() const
     return m_popup != nullptr && m_popup->GetSafeHwnd() != nullptr && m_popup->IsWindowVisible();
 }
 
+// What the platform answers ----------------------------------------------------------------------
+
+int CCustomComboLBox::Answer(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return GetSafeHwnd() == nullptr
+               ? LB_ERR
+               : const_cast<CCustomComboLBox*>(this)->Ask(message, wParam, lParam);
+}
+
+int CCustomComboLBox::GetCount() const
+{
+    return std::max(0, Answer(LB_GETCOUNT));
+}
+
+int CCustomComboLBox::GetCurSel() const
+{
+    return Answer(LB_GETCURSEL);
+}
+
+int CCustomComboLBox::GetTopIndex() const
+{
+    return std::max(0, Answer(LB_GETTOPINDEX));
+}
+
 // Size ------------------------------------------------------------------------------------------
 
 int CCustomComboLBox::GetItemHeight() const
 {
-    return GetSafeHwnd() == nullptr ? 1 : std::max(1, CCustomListBox::GetItemHeight(0));
+    return std::max(1, Answer(LB_GETITEMHEIGHT));
 }
 
 int CCustomComboLBox::GetEntryHeight(const char* text)
@@ -159,7 +183,7 @@ int CCustomComboLBox::GetFrameHeight() const
 
 int CCustomComboLBox::GetDropRows() const
 {
-    return std::clamp(GetSafeHwnd() == nullptr ? 0 : GetCount(), 1, m_maxRows);
+    return std::clamp(GetCount(), 1, m_maxRows);
 }
 
 int CCustomComboLBox::GetActualListHeight() const
@@ -230,10 +254,10 @@ void CCustomComboLBox::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     if (alive)
     {
         MeasureStandardRow();
-        Invalidate(FALSE);
     }
     if (alive)
     {
+        Invalidate(FALSE);
         TellBarReleased(held);
     }
 }
@@ -276,11 +300,8 @@ int CCustomComboLBox::RowAt(const CPoint& screen) const
         return -1;
     }
     // Not by LB_ITEMFROMPOINT, whose answer has 16 bits only.
-    const WindowAlive alive(*this);
-    const int top = GetTopIndex();
-    const int height = alive ? GetItemHeight() : 1;
-    const int row = top + int(point.y) / height;
-    return alive && row < GetCount() && alive ? row : -1;
+    const int row = GetTopIndex() + int(point.y) / GetItemHeight();
+    return row < GetCount() ? row : -1;
 }
 
 void CCustomComboLBox::Track(const CPoint& screen)
@@ -298,23 +319,15 @@ void CCustomComboLBox::Track(const CPoint& screen)
 
 int CCustomComboLBox::GetHighlightedRow() const
 {
-    if (GetSafeHwnd() == nullptr)
-    {
-        return -1;
-    }
-    const WindowAlive alive(*this);
-    const int hot = m_hotRow;
-    const bool isRow = hot >= 0 && hot < GetCount();
-    return isRow ? hot : alive ? GetCurSel() : -1;
+    return m_hotRow >= 0 && m_hotRow < GetCount() ? m_hotRow : GetCurSel();
 }
 
 void CCustomComboLBox::InvalidateRow(int row)
 {
     CRect rect;
-    const HWND list = GetSafeHwnd(); // which may end in the question
-    if (row >= 0 && GetItemRect(row, &rect) != LB_ERR)
+    if (row >= 0 && Answer(LB_GETITEMRECT, WPARAM(row), reinterpret_cast<LPARAM>(&rect)) != LB_ERR)
     {
-        ::InvalidateRect(list, &rect, FALSE);
+        InvalidateRect(&rect, FALSE);
     }
 }
 
@@ -324,21 +337,10 @@ void CCustomComboLBox::SetHotRow(int row)
     {
         return;
     }
-    const WindowAlive alive(*this);
-    const auto invalidate = [&] {
-        const int shown = GetHighlightedRow();
-        if (alive)
-        {
-            InvalidateRow(shown);
-        }
-    };
-    invalidate();
-    if (alive)
-    {
-        m_hotRow = row;
-        invalidate();
-    }
-    if (alive && row >= 0)
+    InvalidateRow(GetHighlightedRow());
+    m_hotRow = row;
+    InvalidateRow(GetHighlightedRow());
+    if (row >= 0)
     {
         // The platform's list box knows nothing of it. A listener in this process may end the list.
         access::TellChild(GetSafeHwnd(), EVENT_OBJECT_SELECTION, access::ChildOf(row));
@@ -356,10 +358,9 @@ void CCustomComboLBox::Pick(int row)
     {
         SetCurSel(row);
     }
-    const int picked = alive ? GetCurSel() : -1;
     if (alive && m_combo != nullptr)
     {
-        m_combo->ListClosed(picked);
+        m_combo->ListClosed(GetCurSel());
     }
 }
 
@@ -391,11 +392,7 @@ LRESULT CCustomComboLBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == WM_MOUSEWHEEL && alive)
     {
         // Another row is under the pointer now, which has not moved.
-        const int row = RowAt(CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)));
-        if (alive)
-        {
-            SetHotRow(row);
-        }
+        SetHotRow(RowAt(CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam))));
     }
     if (alive)
     {

@@ -157,8 +157,14 @@ void CCustomDropListCombo::PressAt(const CPoint& screen)
     if (list == nullptr || !list->HoldsPoint(screen))
     {
         ListClosed(GetCurSel());
+        return;
     }
-    else if (const UINT bar = list->BarAt(screen))
+    const UINT bar = list->BarAt(screen); // which asks the list's window
+    if (!alive || ListIfMade() != list)
+    {
+        return;
+    }
+    if (bar != 0)
     {
         PressListBar(bar, screen);
     }

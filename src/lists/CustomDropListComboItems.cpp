@@ -147,8 +147,9 @@ int CCustomDropListCombo::FindStringExact(int after, LPCSTR text) const
 
 int CCustomDropListCombo::SelectString(int after, LPCSTR text)
 {
+    const WindowAlive alive(*this);
     const int found = FindString(after, text);
-    return found == CB_ERR ? CB_ERR : SetCurSel(found);
+    return found == CB_ERR || !alive ? CB_ERR : SetCurSel(found);
 }
 
 void CCustomDropListCombo::Sort(bool ascending)
@@ -164,32 +165,36 @@ void CCustomDropListCombo::Sort(bool ascending)
     {
         return;
     }
+    const WindowAlive alive(*this);
+    // The list may be gone, or another's, once anybody has heard of it.
+    const auto listed = [&] { return alive && list == ListIfMade(); };
     std::vector<Item> items(size_t(list->GetCount()));
     const int selected = list->GetCurSel();
     for (int index = 0; index < int(items.size()); ++index)
     {
         Item& item = items[size_t(index)];
         list->GetText(index, item.text);
-        item.data = list->GetItemData(index);
+        item.data = listed() ? list->GetItemData(index) : 0;
+        if (!listed())
+        {
+            return;
+        }
         item.selected = index == selected;
     }
     std::stable_sort(items.begin(), items.end(), [ascending](const Item& a, const Item& b) {
         const int order = a.text.CompareNoCase(b.text);
         return ascending ? order < 0 : order > 0;
     });
-    const WindowAlive alive(*this);
     list->ResetContent();
     for (const Item& item : items)
     {
-        // The list may be gone, or another's, once anybody has heard of a change.
-        const auto listed = [&] { return alive && list == ListIfMade(); };
         const int index = listed() ? list->AddString(item.text) : LB_ERR;
         if (index < 0 || !listed())
         {
             return;
         }
         list->SetItemData(index, item.data);
-        if (item.selected)
+        if (item.selected && listed())
         {
             list->SetCurSel(index);
         }

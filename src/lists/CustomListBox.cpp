@@ -409,7 +409,7 @@ void CCustomListBox::OnWindowPosChanging(WINDOWPOS* position)
 {
     const WindowAlive alive(*this);
     m_bars->WindowPosChanging(position);
-    if (alive && IsPlacePassing(*this))
+    if (alive && IsPlaceToCome(*this))
     {
         m_bars->KeepSize(m_bars->IsLaidOut());
     }
@@ -428,7 +428,7 @@ void CCustomListBox::OnSize(UINT type, int width, int height)
     {
         m_bars->Finish();
     }
-    else if (IsBeingPlaced(*this) && !IsPlacePassing(*this))
+    else if (IsBeingPlaced(*this) && !IsPlaceToCome(*this))
     {
         m_bars->GiveSizeBack();
     }

@@ -135,6 +135,7 @@ struct Placed
 {
     HWND window = nullptr;
     bool onBoard = false;
+    bool moves = false; // else it is prepared for that
 };
 Placed s_placed;
 
@@ -145,6 +146,7 @@ public:
     Placing(HWND window, bool onBoard)
         : m_outer(std::exchange(s_placed, {window, onBoard}))
     {}
+    void Move() { s_placed.moves = true; }
     Placing(const Placing&) = delete;
     Placing& operator=(const Placing&) = delete;
     ~Placing() { s_placed = m_outer; }
@@ -160,9 +162,10 @@ bool IsBeingPlaced(HWND window)
     return window != nullptr && window == s_placed.window;
 }
 
-bool IsPlacePassing(HWND window)
+bool IsPlaceToCome(HWND window)
 {
-    return IsBeingPlaced(window) && s_placed.onBoard != COnBoardUIGeneral::InOnBoardMode();
+    return IsBeingPlaced(window) &&
+           (!s_placed.moves || s_placed.onBoard != COnBoardUIGeneral::InOnBoardMode());
 }
 
 BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
@@ -177,7 +180,7 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
     }
     const auto is = [child](const char* wanted) { return IsOfClass(child, wanted); };
     const bool standard = change->mode == STD;
-    const Placing placing(child, !standard);
+    Placing placing(child, !standard);
 
     CRect target = RescaledRect(PlaceIn(change->parent, child), change->scale);
     UINT flags = SWP_NOZORDER;
@@ -218,6 +221,7 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
         ResizeTabs(child, change->scale);
     }
     const CSize size = SizeOf(target);
+    placing.Move();
     ::SetWindowPos(child, nullptr, target.left, target.top, size.cx, size.cy, flags);
     return TRUE;
 }

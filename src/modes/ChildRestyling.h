@@ -26,8 +26,9 @@ std::vector<HWND> RestyleNewWindow(HWND window, std::span<const HWND> placed = {
 // that, so it need not lay itself out in between. A window that keeps its place gets the
 // WM_WINDOWPOSCHANGING all the same.
 bool IsBeingPlaced(HWND window);
-// Whether the mode that it is being placed for is over by now: another place comes after this one.
-bool IsPlacePassing(HWND window);
+// Whether it is, and its place for the mode of the moment is still to come: so far it has its font
+// alone, or that mode has come meanwhile. What size it gets now passes.
+bool IsPlaceToCome(HWND window);
 
 // While a child is given a place that would overwrite what a change of the mode on the way makes of
 // it: such a change comes to the child at the end of this. It may end the child.

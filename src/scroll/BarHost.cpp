@@ -253,7 +253,7 @@ bool BarHost::TakePlace()
 {
     // For a mode that is over nothing is laid out: the control is about to follow the next one.
     const bool came = m_awaitsPlace && !m_following &&
-                      m_onBoard == COnBoardUIGeneral::InOnBoardMode() && !IsPlacePassing(m_window);
+                      m_onBoard == COnBoardUIGeneral::InOnBoardMode() && !IsPlaceToCome(m_window);
     m_awaitsPlace = m_awaitsPlace && !came;
     return came;
 }

@@ -1,5 +1,6 @@
 #include "CustomDropListCombo.h"
 #include "CustomFormView.h"
+#include "CustomListBox.h"
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
 #include "support/Acting.h"
@@ -112,6 +113,79 @@ TEST_F(ModeOnTheWayTest, AComboThatHearsOfTheNextModeMeanwhileHasItsHeight)
             EXPECT_EQ(WindowRectOf(combo).Height(), 24) << message << ' ' << when;
         }
         Remove(combo);
+    }
+}
+
+TEST_F(ModeOnTheWayTest, APageAndItsSheetScaleOnceWhateverComesBeforeTheyAreInitialised)
+{
+    std::vector<CRect> opened;
+    for (const bool onBoard : {true, false})
+    {
+        for (const bool ofPage : {true, false})
+        {
+            COnBoardUIGeneral::SetAppMode(onBoard ? ONBOARD : STD);
+            Acting<CCustomPropPage> page(IDD_TEST_PAGE_1);
+            Acting<Scripted<CCustomPropSheet>> sheet("Sheet", nullptr, &Host());
+            const auto change = [] { COnBoardUIGeneral::SetAppMode(ONBOARD); };
+            ofPage ? page.ActIn(WM_INITDIALOG, change) : sheet.ActIn(WM_INITDIALOG, change);
+            sheet.AddPage(&page);
+            sheet.inLoop = [&] {
+                std::vector<CRect> places = ChildPlaces(sheet);
+                places.push_back(ChildPlaces(page).front());
+                opened = onBoard ? places : opened;
+                EXPECT_EQ(places, opened) << ofPage;
+                sheet.EndDialog(IDOK);
+            };
+            EXPECT_EQ(sheet.DoModal(), IDOK);
+        }
+    }
+}
+
+TEST_F(ModeOnTheWayTest, AListOfWholeRowsAndAComboHaveTheirHeightsInEachMode)
+{
+    CCustomDropListCombo::RegisterWndClass(AfxGetInstanceHandle());
+    DialogForTests dialog;
+    Acting<CStatic> label;
+    Acting<CCustomListBox> list;
+    Acting<CCustomDropListCombo> combo;
+    DialogTemplate controls({.style = WS_POPUP | WS_VISIBLE});
+    controls.Add("Static", "Label", 0, CRect(5, 5, 60, 17), 1)
+        .Add("ListBox", "", WS_VSCROLL, CRect(80, 5, 140, 61), 2)
+        .Add("CCUSTOMDROPLISTCOMBO", "", 0, CRect(5, 65, 70, 78), 3)
+        .Add("Edit", "", 0, CRect(5, 105, 70, 117), 4);
+    dialog.beforeInit = [&] {
+        label.SubclassWindow(*dialog.GetDlgItem(1));
+        list.SubclassWindow(*dialog.GetDlgItem(2));
+        combo.SubclassWindow(*dialog.GetDlgItem(3));
+    };
+    ASSERT_TRUE(dialog.CreateIndirect(controls, &Host()));
+    const auto heights = [&] {
+        return std::pair(WindowRectOf(list).Height(), WindowRectOf(combo).Height());
+    };
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    const auto onBoard = heights();
+    COnBoardUIGeneral::SetAppMode(STD); // in which the list has the library's font now
+    const auto standard = heights();
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    const std::function<void(std::function<void()>)> meanwhile[] = {
+        [](auto) {},
+        [&](auto act) { label.ActIn(WM_SIZE, act); },
+        [&](auto act) { list.ActIn(WM_SETFONT, act); },
+        [&](auto act) { list.ActIn(WM_SIZE, act); },
+        [&](auto act) { combo.ActIn(WM_SIZE, act, 1); },
+    };
+    for (const auto& go : meanwhile)
+    {
+        go([] { COnBoardUIGeneral::SetAppMode(ONBOARD); });
+        COnBoardUIGeneral::SetAppMode(STD);
+        EXPECT_EQ(heights(), COnBoardUIGeneral::InOnBoardMode() ? onBoard : standard);
+        COnBoardUIGeneral::SetAppMode(STD);
+        EXPECT_EQ(heights(), standard);
+        go([] { COnBoardUIGeneral::SetAppMode(STD); });
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        EXPECT_EQ(heights(), COnBoardUIGeneral::InOnBoardMode() ? onBoard : standard);
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        EXPECT_EQ(heights(), onBoard);
     }
 }
 
