@@ -150,6 +150,8 @@ protected:
     bool m_hasModalChild = false; // set by CheckForChildDialog, for derived classes
     std::vector<CWnd*> m_controls;
     bool m_showEntire = false; // while it is dragged, all of the dialog stays in the host's area
+    // Lays itself out when its frame is calculated for a mode, which is then done for each one.
+    bool m_framesEachMode = false;
 
 private:
     bool m_initialising = false; // and scales the children at the end of that

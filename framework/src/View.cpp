@@ -142,11 +142,17 @@ void CScrollView::UpdateBars()
     }
     m_updatingBars = true;
     const framework::StillThere here(*this);
-    // Twice: one bar takes room from the other's axis.
+    // Twice when the room has changed by it: one bar takes some from the other's axis.
+    CRect before(0, 0, 0, 0);
     for (int round = 0; round < 2; ++round)
     {
         CRect client;
         GetClientRect(&client);
+        if (round > 0 && client == before)
+        {
+            break;
+        }
+        before = client;
         SCROLLINFO info = {sizeof(info), SIF_RANGE | SIF_PAGE | SIF_POS, 0, 0, 0, 0, 0};
         info.nMax = std::max<int>(0, m_total.cx - 1);
         info.nPage = UINT(client.Width());

@@ -91,9 +91,20 @@ Children ChildrenOf(const CWnd& window, bool scaledLater)
 
 namespace {
 
+// The children after a change of the mode that went through some, with those made in the middle of
+// it. The platform puts a new one behind or before all others: two questions to the system tell
+// that there is none, where to collect them is one for each.
+std::vector<HWND> ChildrenAfter(HWND window, const std::vector<HWND>& before)
+{
+    const bool same = !before.empty() && ::IsWindow(before.back()) &&
+                      ::FindWindowEx(window, nullptr, nullptr, nullptr) == before.front() &&
+                      ::FindWindowEx(window, before.back(), nullptr, nullptr) == nullptr;
+    return same ? before : ChildrenNow(window);
+}
+
 // Gives those children that have one font another: also those that were made in the middle of a
 // change of the mode. Whoever makes a control for a form takes the form's font.
-void SwapFonts(HWND window, HFONT from, HFONT to)
+void SwapFonts(HWND window, const std::vector<HWND>& before, HFONT from, HFONT to)
 {
     // What they hear may change the mode again, and that is seen to: nothing is for this one then.
     const auto holds = [onBoard = COnBoardUIGeneral::InOnBoardMode()] {
@@ -102,7 +113,7 @@ void SwapFonts(HWND window, HFONT from, HFONT to)
     const auto give = [](HWND child, HFONT font) {
         ::SendMessage(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     };
-    ForEachChild(window, [&](HWND child) {
+    ForEachLeft(ChildrenAfter(window, before), [&](HWND child) {
         if (holds() && reinterpret_cast<HFONT>(::SendMessage(child, WM_GETFONT, 0, 0)) == from &&
             holds())
         {
@@ -150,6 +161,37 @@ private:
 
 } // namespace
 
+namespace {
+
+// Whether the frame that the window would calculate now is another one than it has. Between two
+// on-board modes it is not, and to have it calculated by the system takes long for a window of its
+// own.
+bool IsFrameDue(const CWnd& window)
+{
+    CRect due;
+    window.GetWindowRect(&due);
+    const WindowAlive alive(window);
+    window.SendMessage(WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&due));
+    CRect client;
+    if (alive)
+    {
+        window.GetClientRect(&client);
+        window.ClientToScreen(&client);
+    }
+    return alive && due != client;
+}
+
+// For a window that is repainted afterwards: until then nothing is, nor what stands around it.
+void RecalculateFrame(HWND window)
+{
+    constexpr UINT Unpainted = SWP_NOCOPYBITS | SWP_NOREDRAW | SWP_DEFERERASE;
+    ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
+                   SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED |
+                       Unpainted);
+}
+
+} // namespace
+
 void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
                 const Children& children)
 {
@@ -180,16 +222,16 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
         const bool stillOnBoard = COnBoardUIGeneral::InOnBoardMode();
         if (alive && oldMode == STD && stillOnBoard)
         {
-            SwapFonts(handle, children.standardFont, onBoard);
+            SwapFonts(handle, windows, children.standardFont, onBoard);
         }
         else if (alive && newMode == STD && !stillOnBoard)
         {
-            SwapFonts(handle, onBoard, children.standardFont);
+            SwapFonts(handle, windows, onBoard, children.standardFont);
         }
     }
-    if (alive)
+    if (alive && (children.frameEachTime || IsFrameDue(window)))
     {
-        scroll::RecalculateFrameUnpainted(window);
+        RecalculateFrame(handle);
     }
     if (alive)
     {
@@ -428,7 +470,7 @@ void OpenOnBoard(HWND window, HFONT standard, std::span<const HWND> placed)
     lists::ComboScaling::Fit(children);
     if (COnBoardUIGeneral::InOnBoardMode()) // else its children have heard of the end of it
     {
-        SwapFonts(window, standard, CCustomDialog::m_OBStaticTextFont);
+        SwapFonts(window, children, standard, CCustomDialog::m_OBStaticTextFont);
     }
 }
 

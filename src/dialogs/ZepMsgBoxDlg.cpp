@@ -62,6 +62,7 @@ CZepMsgBoxDlg::CZepMsgBoxDlg(const char* text, unsigned int style, const CSize& 
     , m_text(std::make_unique<dialogs::MessageText>())
 {
     static_assert(IDD == IDD_MESSAGE_BOX);
+    m_framesEachMode = true;
     m_message.SetString(text);
     m_displayText = m_message;
     DetermineIcon();

@@ -349,7 +349,8 @@ void CZepMsgBoxDlg::TakeLook()
         m_text->SendMessage(WM_SETFONT,
                             onBoard ? WPARAM(CCustomEdit::GetOnBoardFont().GetSafeHandle()) : font);
     }
-    const DWORD defaultId = alive ? GetDefID() : 0;
+    // Only the platform's buttons have a look for it, and the system looks through all controls.
+    const DWORD defaultId = alive && !onBoard ? GetDefID() : 0;
     for (size_t index = 0; alive && index < m_buttons.size(); ++index)
     {
         // In the on-board modes a button paints itself.

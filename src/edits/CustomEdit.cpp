@@ -328,6 +328,10 @@ void CCustomEdit::DrawOBNC()
         return;
     }
     m_bars->InvalidateBars();
+    if (!IsWindowVisible())
+    {
+        return; // nothing would reach the screen, and a context takes its time
+    }
     CWindowDC dc(this);
     const CRect client = scroll::ClientRectInWindow(*this);
     CRect frame = AreaOf(*this);

@@ -231,7 +231,7 @@ void CCustomDropListCombo::SetHeight(int height)
     const APPMODE mode = COnBoardUIGeneral::GetAppMode();
     const bool sizing = std::exchange(m_sizing, true);
     // A height that it has already is no reason to have a parent erased that waits for its paint.
-    const UINT same = height == window.Height() ? SWP_NOREDRAW : 0;
+    const UINT same = height == window.Height() ? SWP_NOREDRAW | SWP_DEFERERASE : 0;
     {
         const GivingPlace giving(GetSafeHwnd());
         SetWindowPos(nullptr, 0, 0, window.Width(), height,

@@ -315,6 +315,10 @@ void BarHost::DrawBar(CDC& dc, int axis)
 
 void BarHost::DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner)
 {
+    if (!m_window.IsWindowVisible())
+    {
+        return; // nothing would reach the screen, and a context takes its time
+    }
     CWindowDC dc(&m_window);
     const CRect frame = AreaOf(m_window);
     // Only round the client area: a frame narrower than the pen must not be painted over rows, and

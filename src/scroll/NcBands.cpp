@@ -147,7 +147,7 @@ void RecalculateFrame(const CWnd& window, bool copyBits)
 
 void RecalculateFrameUnpainted(const CWnd& window)
 {
-    Recalculate(window, SWP_NOCOPYBITS | SWP_NOREDRAW);
+    Recalculate(window, SWP_NOCOPYBITS | SWP_NOREDRAW | SWP_DEFERERASE);
 }
 
 void SaveRecalculation(WINDOWPOS& position)

@@ -168,6 +168,10 @@ void TreeBars::Draw(bool force)
 // The border, and the corner between two bars.
 void TreeBars::DrawBorder()
 {
+    if (!Window().IsWindowVisible())
+    {
+        return; // nothing would reach the screen, and a context takes its time
+    }
     CWindowDC dc(&Window());
     const CRect window = AreaOf(Window());
     const CRect client = scroll::ClientRectInWindow(Window());
