@@ -206,12 +206,14 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
 {
     const WindowAlive alive(m_window);
     Default();
+    // For a new font the platform may change it before the place comes.
+    const bool frameAlone = alive && ChangesFrameAlone(*position);
     if (alive && InOnBoard() && m_frameDone && (m_window.GetStyle() & m_manner.styles) != 0)
     {
         StripBars();
         SaveRecalculation(*position);
     }
-    if (alive && m_awaitsPlace && !m_following)
+    if (alive && m_awaitsPlace && !m_following && !frameAlone)
     {
         position->flags |= SWP_FRAMECHANGED;
         Foresee((position->flags & SWP_NOSIZE) != 0 ? AreaOf(m_window).Size()

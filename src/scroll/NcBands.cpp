@@ -150,10 +150,15 @@ void RecalculateFrameUnpainted(const CWnd& window)
     Recalculate(window, SWP_NOCOPYBITS | SWP_NOREDRAW | SWP_DEFERERASE);
 }
 
+bool ChangesFrameAlone(const WINDOWPOS& position)
+{
+    constexpr UINT frameAlone = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;
+    return (position.flags & frameAlone) == frameAlone;
+}
+
 void SaveRecalculation(WINDOWPOS& position)
 {
-    constexpr UINT frameOnly = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;
-    if ((position.flags & frameOnly) == frameOnly)
+    if (ChangesFrameAlone(position))
     {
         position.flags &= ~UINT(SWP_FRAMECHANGED);
     }

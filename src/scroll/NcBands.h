@@ -61,6 +61,10 @@ void RecalculateFrame(const CWnd& window, bool copyBits = true);
 // painted, neither it nor what stands around it.
 void RecalculateFrameUnpainted(const CWnd& window);
 
+// Whether a WM_WINDOWPOSCHANGING wants the frame calculated and nothing else, as the platform does
+// for its bars.
+bool ChangesFrameAlone(const WINDOWPOS& position);
+
 // In WM_WINDOWPOSCHANGING, after a style of the platform's was taken away with which it wanted the
 // frame recalculated: saves that when the frame is all that changes.
 void SaveRecalculation(WINDOWPOS& position);

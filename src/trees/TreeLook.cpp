@@ -21,6 +21,7 @@ namespace trees {
 bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
     const WindowAlive alive(m_owner.Window());
+    const bool before = m_onBoard;
     switch (message)
     {
     case WM_SIZE:
@@ -32,6 +33,17 @@ bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
         if (!alive)
         {
             return true;
+        }
+        if (message == WM_SIZE && m_onBoard != before)
+        {
+            // The frame is another one by now, and the platform has been told of the size in it.
+            CRect client;
+            m_owner.Window().GetClientRect(&client);
+            if (client.Size() != CSize(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)))
+            {
+                result = 0;
+                return true;
+            }
         }
         break;
     default:

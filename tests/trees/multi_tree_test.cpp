@@ -312,6 +312,14 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
     Repaint(tree);
     EXPECT_EQ(TextRectOf(tree, a).Size(), before);
     EXPECT_EQ(HFONT(tree.SendMessage(WM_GETFONT)), font);
+
+    for (const APPMODE mode : {ONBOARD, STD})
+    {
+        const ModeScope with(mode);
+        tree.MoveWindow(0, 0, 60, mode == STD ? 80 : 140); // with both bars
+        EXPECT_EQ(tree.GetVisibleCount(), UINT(ClientRectOf(tree).Height() / tree.GetItemHeight()))
+            << "a size that comes with the mode is that of the last one's frame";
+    }
 }
 
 } // namespace
