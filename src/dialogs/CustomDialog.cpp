@@ -92,7 +92,8 @@ void CCustomDialog::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     const HFONT font = StandardFont(); // the dialog may be asked, and end
     if (alive)
     {
-        dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles, {font, m_initialising, m_framesEachMode});
+        dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles,
+                            {font, m_initialising, m_framesEachMode});
     }
 }
 

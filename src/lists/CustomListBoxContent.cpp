@@ -385,7 +385,10 @@ LRESULT CCustomListBox::OnRowsMeasured(WPARAM wParam, LPARAM)
     if (alive && FollowMode())
     {
         m_bars->standardHeights.clear();
-        ContentChanged();
+        if (!m_bars->AwaitsPlace()) // else it is laid out there
+        {
+            ContentChanged();
+        }
     }
     return result;
 }
