@@ -249,9 +249,12 @@ void Storm::Life(CWnd& parent, CWnd& window)
     switch (step)
     {
     case 0:
-        window.SetWindowPos(nullptr, Between(-5, 60), Between(-5, 60), Between(0, 400),
-                            Between(0, 300), SWP_NOZORDER | SWP_NOACTIVATE);
+    {
+        const int most = Between(0, 3) != 0 ? 400 : 3; // also hardly any room, or none
+        window.SetWindowPos(nullptr, Between(-5, 60), Between(-5, 60), Between(0, most),
+                            Between(0, most), SWP_NOZORDER | SWP_NOACTIVATE);
         break;
+    }
     case 1:
     case 2:
         (what != 0 ? window : parent).SetFocus();

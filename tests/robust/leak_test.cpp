@@ -70,27 +70,4 @@ TEST_P(Leaks, ManyLivesLeaveNothing)
 INSTANTIATE_TEST_SUITE_P(Of, Leaks, testing::ValuesIn(Subjects()),
                          [](const auto& info) { return TestName(info.param.name); });
 
-// Not counted: the platform keeps much of a long text whose lines it breaks anew.
-TEST_F(WindowTest, NoRoomAndATextWithoutEndDoNoHarm)
-{
-    for (const Subject& subject : Subjects())
-    {
-        SCOPED_TRACE(subject.name);
-        const std::unique_ptr<CWnd> window = subject.make(Host());
-        window->ModifyStyleEx(0, WS_EX_CLIENTEDGE);
-        window->SetWindowText(std::string(2000, 'W').c_str());
-        for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
-        {
-            const ModeScope scope(mode);
-            for (const CSize size : {CSize(0, 0), CSize(3, 3), CSize(200, 1)})
-            {
-                window->SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
-                Repaint(*window);
-                const CSize client = ClientRectOf(*window).Size();
-                EXPECT_TRUE(client.cx >= 0 && client.cy >= 0) << client.cx << ' ' << client.cy;
-            }
-        }
-    }
-}
-
 } // namespace

@@ -49,10 +49,15 @@ private:
             if (touches % 10 == 0)
             {
                 COnBoardUIGeneral::SetAppMode(touches == 0 ? ONBOARD : touches == 10 ? EFB : STD);
-                window.SetWindowPos(nullptr, 10, 10, 300, 200, SWP_NOZORDER | SWP_SHOWWINDOW);
                 window.EnableWindow(TRUE);
                 window.SendMessage(WM_SETREDRAW, TRUE);
-                Repaint(window);
+                // Also without any room.
+                for (const CSize size : {CSize(0, 0), CSize(3, 3), CSize(200, 1), CSize(300, 200)})
+                {
+                    window.SetWindowPos(nullptr, 10, 10, size.cx, size.cy,
+                                        SWP_NOZORDER | SWP_SHOWWINDOW);
+                    Repaint(window);
+                }
             }
             storm.Touch(window);
             ReleaseAll(window, storm);
