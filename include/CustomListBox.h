@@ -241,8 +241,8 @@ private:
 
     int m_hostExtent = 0;         // horizontal extent that the host set, pixels
     bool m_standardKnown = false; // the list was laid out for the standard mode before
-    CSize m_stdSize;              // of the window, in the standard mode
-    CSize m_onBoardSize;          // what the platform made of it in the on-board mode
+    CSize m_stdSize;              // of the window, in the standard mode; 0: not known
+    CSize m_onBoardSize;          // and in an on-board mode
     int m_stdItemHeight = 0;      // pixels, in the standard mode; 0: not known
     int m_averageWidth = 0;       // of a character of the font; 0: not measured
     bool m_made = false;          // made as this object, so that its style was seen whole

@@ -373,8 +373,10 @@ void CCustomListBox::Bars::GiveSizeBack()
     }
     CSize& kept = IsLaidOut() ? m_list.m_onBoardSize : m_list.m_stdSize;
     const CSize size = SizeOf(m_list);
-    // Scaled there and back its width has lost a fraction, and a list of whole rows one of them.
-    const int lost = (m_list.GetStyle() & LBS_NOINTEGRALHEIGHT) != 0 ? 0 : 3;
+    // A host that sizes it takes another width, but for what a list of whole rows, which has lost
+    // one of them, has lost of its width on the way: a pixel, which is more on-board.
+    constexpr int MostLost = 3;
+    const int lost = (m_list.GetStyle() & LBS_NOINTEGRALHEIGHT) != 0 ? 0 : MostLost;
     const WindowAlive alive(m_list);
     if (kept.cy > 0 && kept.cy != size.cy && std::abs(size.cx - kept.cx) <= lost)
     {
@@ -384,6 +386,17 @@ void CCustomListBox::Bars::GiveSizeBack()
     if (alive)
     {
         kept = SizeOf(m_list);
+    }
+}
+
+void CCustomListBox::Bars::RecalculateFrame()
+{
+    const WindowAlive alive(m_list);
+    const bool ours = SizeOf(m_list) == m_list.m_onBoardSize;
+    scroll::RecalculateFrame(m_list, false);
+    if (alive && ours && IsLaidOut())
+    {
+        m_list.m_onBoardSize = SizeOf(m_list);
     }
 }
 

@@ -5,7 +5,6 @@
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "scroll/FauxScrollGeometry.h"
-#include "scroll/NcBands.h"
 
 #include <algorithm>
 
@@ -46,7 +45,7 @@ void CCustomListBox::UpdateScrollData()
             Needed(axis) = false;
             Bar(axis).ShowScrollBar(FALSE);
         }
-        scroll::RecalculateFrame(*this, false);
+        m_bars->RecalculateFrame();
         if (alive)
         {
             m_refitting = false;
@@ -205,6 +204,6 @@ void CCustomListBox::ShowBar(int axis, bool needed)
     {
         // The new client size comes back as WM_SIZE, which places the bars. Last: it leaves our
         // code.
-        scroll::RecalculateFrame(*this, false);
+        m_bars->RecalculateFrame();
     }
 }

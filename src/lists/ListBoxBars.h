@@ -42,6 +42,8 @@ public:
     void ForgetSize() { m_sizeDue = false; }
     // In the place for the mode of the moment.
     void GiveSizeBack();
+    // For bars that come or go: a size that the list is cut to by that is not its host's.
+    void RecalculateFrame();
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override

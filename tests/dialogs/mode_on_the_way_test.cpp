@@ -150,7 +150,7 @@ TEST_F(ModeOnTheWayTest, AListOfWholeRowsAndAComboHaveTheirHeightsInEachMode)
     Acting<CCustomDropListCombo> combo;
     DialogTemplate controls({.style = WS_POPUP | WS_VISIBLE});
     controls.Add("Static", "Label", 0, CRect(5, 5, 60, 17), 1)
-        .Add("ListBox", "", WS_VSCROLL, CRect(80, 5, 140, 61), 2)
+        .Add("ListBox", "", WS_VSCROLL | WS_HSCROLL, CRect(80, 5, 140, 61), 2)
         .Add("CCUSTOMDROPLISTCOMBO", "", 0, CRect(5, 65, 70, 78), 3)
         .Add("Edit", "", 0, CRect(5, 105, 70, 117), 4);
     dialog.beforeInit = [&] {
@@ -167,6 +167,8 @@ TEST_F(ModeOnTheWayTest, AListOfWholeRowsAndAComboHaveTheirHeightsInEachMode)
     COnBoardUIGeneral::SetAppMode(STD); // in which the list has the library's font now
     const auto standard = heights();
     COnBoardUIGeneral::SetAppMode(ONBOARD);
+    list.AddString("so wide that the list is lower, with a bar below it");
+    list.ResetContent();
     const std::function<void(std::function<void()>)> meanwhile[] = {
         [](auto) {},
         [&](auto act) { label.ActIn(WM_SIZE, act); },
