@@ -347,10 +347,11 @@ Received ToParent::Next(HWND control)
 int EndTimers()
 {
     int ended = 0;
-    const auto end = [](HWND window, LPARAM count) -> BOOL {
+    const auto end = [](HWND window, LPARAM last) -> BOOL {
         for (const UINT id : TimerIds)
         {
-            *reinterpret_cast<int*>(count) += ::KillTimer(window, id) != FALSE;
+            int& ended = *reinterpret_cast<int*>(last);
+            ended = ::KillTimer(window, id) ? int(id) : ended;
         }
         return TRUE;
     };

@@ -122,8 +122,9 @@ private:
     Received Notified(HWND control, UINT code);
 };
 
-constexpr UINT TimerIds[] = {101, 102, 103, 104, 105, 106, 1011, 1189, 1190, 1278, 2566};
-// So many timers of ours went on, in all windows of this thread; now they are at an end.
+constexpr UINT DragWatch = 2566;
+constexpr UINT TimerIds[] = {101, 102, 103, 104, 105, 106, 1011, 1189, 1190, 1278, DragWatch};
+// The id of one of our timers that went on in a window of this thread, or 0; now all are at an end.
 int EndTimers();
 // How many ticks of any timer come within so many milliseconds.
 int TicksWithin(int milliseconds);

@@ -81,6 +81,8 @@ private:
             ::SendMessage(to, WM_LBUTTONUP, 0, -1);
             ::SendMessage(to, WM_NCLBUTTONUP, HTNOWHERE, 0);
             ::SendMessage(to, WM_NCMOUSELEAVE, 0, 0);
+            // The watch over a drag ends at its first tick after it.
+            ::SendMessage(to, WM_TIMER, DragWatch, 0);
         }
         PumpAll();
         EXPECT_EQ(::GetCapture(), nullptr) << storm.Log();
