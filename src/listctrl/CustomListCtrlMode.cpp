@@ -18,11 +18,7 @@ void CCustomListCtrl::EnterOnBoard()
     m_wheel = 0;
     m_bars->SetPlacingDue(true);
     m_measured = Measured();
-    m_bars->TakePlatformBars();
-    if (alive)
-    {
-        TakeHeader();
-    }
+    TakeHeader();
     if (alive)
     {
         HoldPlatform();
@@ -30,6 +26,10 @@ void CCustomListCtrl::EnterOnBoard()
     if (alive)
     {
         ScalePlatformColumns(true);
+    }
+    if (alive)
+    {
+        m_bars->TakePlatformBars(); // before that each column would bring one back
     }
     if (alive)
     {

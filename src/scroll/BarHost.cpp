@@ -215,6 +215,7 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
     }
     if (alive && m_awaitsPlace && !m_following && !frameAlone)
     {
+        m_placeComes = true;
         position->flags |= SWP_FRAMECHANGED;
         Foresee((position->flags & SWP_NOSIZE) != 0 ? AreaOf(m_window).Size()
                                                     : CSize(position->cx, position->cy));
@@ -245,6 +246,7 @@ void BarHost::NcPaint(const MSG& message)
 void BarHost::LayOutInPlace()
 {
     m_awaitsPlace = IsBeingPlaced(m_window);
+    m_placeComes = false;
     if (!m_awaitsPlace)
     {
         LayOut();
@@ -262,7 +264,7 @@ bool BarHost::TakePlace()
 
 bool BarHost::IsSizePassing() const
 {
-    return m_following && IsBeingPlaced(m_window);
+    return IsBeingPlaced(m_window) && (m_following || (m_awaitsPlace && !m_placeComes));
 }
 
 void BarHost::SettlePlace(bool asked)

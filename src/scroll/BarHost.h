@@ -197,6 +197,7 @@ private:
     bool m_onBoard = false;   // laid out for an on-board mode
     bool m_following = false; // in Follow, or nothing is laid out any more
     bool m_awaitsPlace = false;
+    bool m_placeComes = false; // what it waits for, with its frame
     DWORD m_platformStyles = 0;
     bool m_frameDone = false;
     bool m_placingDue = true;
