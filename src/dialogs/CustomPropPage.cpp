@@ -33,6 +33,16 @@ void CCustomPropPage::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     {
         dialogs::FollowMode(*this, newMode, oldMode, children);
     }
+    // The platform took the page for hidden meanwhile, and did not hide it for another one.
+    const auto* const sheet = alive ? DYNAMIC_DOWNCAST(CPropertySheet, GetParent()) : nullptr;
+    if (sheet != nullptr && (GetStyle() & WS_VISIBLE) != 0)
+    {
+        const auto current = reinterpret_cast<HWND>(sheet->SendMessage(PSM_GETCURRENTPAGEHWND));
+        if (alive && current != nullptr && current != GetSafeHwnd())
+        {
+            ShowWindow(SW_HIDE);
+        }
+    }
 }
 
 BOOL CCustomPropPage::OnInitDialog()

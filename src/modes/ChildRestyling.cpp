@@ -146,10 +146,11 @@ public:
     Placing(HWND window, bool onBoard)
         : m_outer(std::exchange(s_placed, {window, onBoard}))
     {}
-    void Move() { s_placed.moves = true; }
     Placing(const Placing&) = delete;
     Placing& operator=(const Placing&) = delete;
     ~Placing() { s_placed = m_outer; }
+
+    void Move() { s_placed.moves = true; }
 
 private:
     Placed m_outer;

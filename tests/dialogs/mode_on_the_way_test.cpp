@@ -141,6 +141,24 @@ TEST_F(ModeOnTheWayTest, APageAndItsSheetScaleOnceWhateverComesBeforeTheyAreInit
     }
 }
 
+TEST_F(ModeOnTheWayTest, APageThatIsLeftMeanwhileIsHidden)
+{
+    CCustomPropPage pages[] = {CCustomPropPage(IDD_TEST_PAGE_1), CCustomPropPage(IDD_TEST_PAGE_1)};
+    Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+    sheet.AddPage(&pages[0]);
+    sheet.AddPage(&pages[1]);
+    Acting<CWnd> control;
+    sheet.inLoop = [&] {
+        control.SubclassWindow(::GetWindow(pages[0], GW_CHILD));
+        control.ActIn(WM_SIZE, [&] { sheet.SetActivePage(1); });
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        EXPECT_FALSE(pages[0].IsWindowVisible());
+        EXPECT_TRUE(pages[1].IsWindowVisible());
+        sheet.EndDialog(IDOK);
+    };
+    EXPECT_EQ(sheet.DoModal(), IDOK);
+}
+
 TEST_F(ModeOnTheWayTest, AListOfWholeRowsAndAComboHaveTheirHeightsInEachMode)
 {
     CCustomDropListCombo::RegisterWndClass(AfxGetInstanceHandle());
