@@ -25,23 +25,38 @@ CCustomPropPage::~CCustomPropPage()
     COnBoardUIGeneral::RemoveCustomPropPage(this);
 }
 
+namespace {
+
+// The page that is shown on the sheet of a page; null for one without a sheet.
+HWND ShownPage(HWND page)
+{
+    const HWND parent = page == nullptr ? nullptr : ::GetParent(page);
+    return DYNAMIC_DOWNCAST(CPropertySheet, CWnd::FromHandlePermanent(parent)) == nullptr
+               ? nullptr
+               : reinterpret_cast<HWND>(::SendMessage(parent, PSM_GETCURRENTPAGEHWND, 0, 0));
+}
+
+} // namespace
+
 void CCustomPropPage::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
     const WindowAlive alive(*this);
+    const HWND page = GetSafeHwnd();
+    const bool shown = page != nullptr && ShownPage(page) == page;
+    if (!alive)
+    {
+        return;
+    }
     const dialogs::Children children = dialogs::ChildrenOf(*this, m_initialising);
     if (alive)
     {
         dialogs::FollowMode(*this, newMode, oldMode, children);
     }
     // The platform took the page for hidden meanwhile, and did not hide it for another one.
-    const auto* const sheet = alive ? DYNAMIC_DOWNCAST(CPropertySheet, GetParent()) : nullptr;
-    if (sheet != nullptr && (GetStyle() & WS_VISIBLE) != 0)
+    const HWND now = alive && shown ? ShownPage(page) : nullptr;
+    if (alive && now != nullptr && now != page)
     {
-        const auto current = reinterpret_cast<HWND>(sheet->SendMessage(PSM_GETCURRENTPAGEHWND));
-        if (alive && current != nullptr && current != GetSafeHwnd())
-        {
-            ShowWindow(SW_HIDE);
-        }
+        ShowWindow(SW_HIDE);
     }
 }
 
