@@ -13,6 +13,7 @@
 template <class Base> class Traced : public Base
 {
 public:
+    using Base::DrawRCText;
     using Base::m_check;
     using Base::m_focused;
     using Base::m_mouseDown;

@@ -1,9 +1,7 @@
 // What all buttons share: following a press, the steps of a click, and every way of losing either.
 
 #include "buttons/buttons_for_tests.h"
-#include "support/Acting.h"
 #include "support/Acts.h"
-#include "support/Fenced.h"
 #include "support/Repaint.h"
 
 #include <gmock/gmock.h>
@@ -72,6 +70,13 @@ TEST_F(ButtonOnBoard, APressDraggedOffIsNoClick)
     DragTo(push.Middle());
     Release();
     EXPECT_EQ(Host().Count(WM_COMMAND), 1);
+
+    // One that comes while another window has the capture takes nothing away.
+    Host().SetFocus();
+    Host().SetCapture();
+    push.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
+    EXPECT_EQ(::GetFocus(), Host().GetSafeHwnd());
+    ::ReleaseCapture();
 }
 
 TEST_F(ButtonOnBoard, APressThatIsCutOffLeavesNothingHeld)
@@ -114,40 +119,6 @@ TEST_F(ButtonOnBoard, APressThatIsCutOffLeavesNothingHeld)
         Host().EnableWindow(TRUE);
         Host().ShowWindow(SW_SHOW);
         Remove(button);
-    }
-}
-
-TEST_F(ButtonOnBoard, AButtonMayEndItselfInAPress)
-{
-    // What it was told before, in what it ends, and what brings that about in which mode.
-    const std::tuple<const char*, UINT, UINT, UINT, APPMODE> cases[] = {
-        {"disabled", WM_LBUTTONDOWN, WM_CAPTURECHANGED, WM_ENABLE, ONBOARD},
-        {"hidden", WM_LBUTTONDOWN, WM_CAPTURECHANGED, WM_SHOWWINDOW, ONBOARD},
-        {"checked", WM_LBUTTONDOWN, WM_CAPTURECHANGED, BM_SETCHECK, ONBOARD},
-        {"its state set", WM_LBUTTONDOWN, WM_CAPTURECHANGED, BM_SETSTATE, ONBOARD},
-        {"without the focus", WM_LBUTTONDOWN, WM_CAPTURECHANGED, WM_KILLFOCUS, ONBOARD},
-        {"cancelled", WM_LBUTTONDOWN, WM_CAPTURECHANGED, WM_CANCELMODE, ONBOARD},
-        {"asked in another mode", WM_LBUTTONDOWN, WM_CAPTURECHANGED, BM_GETCHECK, STD},
-        {"given the focus", WM_NULL, WM_SETFOCUS, WM_LBUTTONDOWN, ONBOARD},
-        {"asked for its text", BM_CLICK, WM_GETTEXT, WM_LBUTTONDOWN, ONBOARD},
-    };
-    const AccessFaults faults;
-    for (const auto& [name, before, last, then, mode] : cases)
-    {
-        SCOPED_TRACE(name);
-        auto* const button = new Fenced<Acting<TestPush>>;
-        button->Create("Push", WS_CHILD | WS_VISIBLE, ButtonPlace, &Host(), ButtonId);
-        button->SendMessage(before);
-        button->ActIn(last, [button] {
-            button->DestroyWindow();
-            delete button;
-        });
-        const HWND window = *button;
-        const ModeScope scope(mode);
-        ::SendMessage(window, then, 0, 0);
-        EXPECT_FALSE(::IsWindow(window));
-        EXPECT_EQ(::GetCapture(), nullptr);
-        EXPECT_EQ(faults.Count(), 0);
     }
 }
 

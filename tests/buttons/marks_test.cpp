@@ -1,9 +1,7 @@
 // Check boxes and radio buttons: their marks to the pixel, captions, keys and groups.
 
 #include "OnBoardUI.h"
-#include "buttons/ButtonLayout.h"
 #include "buttons/buttons_for_tests.h"
-#include "support/Acting.h"
 
 #include <gmock/gmock.h>
 
@@ -84,20 +82,6 @@ TEST_F(ButtonOnBoard, TheCheckSquareHasThreeSunkenRingsAndACross)
     }
 }
 
-TEST(ButtonLayout, TheCheckSquareIsAsHighAsItsItem)
-{
-    const std::pair<int, CRect> cases[] = {
-        {28, CRect(4, 4, 31, 31)},  // as high as the text: 3 lower
-        {52, CRect(4, 16, 55, 67)}, // goes on below the edge
-        {1, CRect(4, -9, 4, -9)},
-    };
-    for (const auto& [bottom, mark] : cases)
-    {
-        EXPECT_EQ(buttons::CheckSquare(CRect(1, 1, 200, bottom), 27), mark) << bottom;
-    }
-    EXPECT_EQ(buttons::RadioSquare(CRect(1, 1, 200, 10)), CRect(4, -5, 26, 17));
-}
-
 TEST_F(ButtonOnBoard, TheRadioCircleIsThisPicture)
 {
     static constexpr const char* Circle[] = {
@@ -174,6 +158,11 @@ TEST_F(ButtonOnBoard, TheCaptionStandsBesideTheMarkAndInTheMiddle)
             EXPECT_NEAR(frame.top, top - 1, 1);
             EXPECT_EQ(Extent(focused, Text, beside), letters);
             EXPECT_GE(frame.right, letters.right);
+            // Also for an heir that draws it by itself it is a frame alone.
+            Canvas canvas(160, 101);
+            canvas.DC().SetBkMode(TRANSPARENT);
+            radio.DrawRCText(canvas.DC(), CRect(1, 1, 160, 101), CRect(4, 40, 26, 62));
+            EXPECT_EQ(canvas.Picture().Count(RGB(255, 255, 255)), 0);
         }
         Remove(radio);
     }
@@ -321,23 +310,6 @@ TEST_F(RadioGroup, GroupBoxesThatItLiesInHearOfEachClickInEveryMode)
         EXPECT_THAT(toldAround.WParams(WM_COMMAND), ElementsAre(told)) << APPMODE_NAMES[mode];
     }
     EXPECT_EQ(toldApart.Count(WM_COMMAND) + toldItself.Count(WM_COMMAND), 0);
-}
-
-TEST_F(RadioGroup, ABoxThatIsToldMayEndTheButton)
-{
-    auto& radio = AddRadio(WS_GROUP);
-    int told = 0;
-    for (const char* const name : {"First", "Second"})
-    {
-        auto& box = Add<Acting<CButton>>(CRect(20, 20, 300, 200), BS_GROUPBOX, name);
-        box.ActIn(WM_COMMAND, [&] {
-            ++told;
-            Remove(radio);
-        });
-    }
-    Click(radio.Middle());
-    EXPECT_EQ(told, 1);
-    EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesDrawsAtOnce)

@@ -175,15 +175,15 @@ TEST_F(CustomDialogTest, ControlsAreScaledOnceWhenTheModeChangesOnTheirWay)
 
 TEST_F(CustomDialogTest, AModeThatAControlChangesOnTheWayComesToAllInOrder)
 {
-    // Places and fonts after going on-board and back or on to another mode, which the edit does in
-    // the middle of the first change, in one of its messages; 0: the host does it.
-    const auto after = [this](APPMODE last, UINT message) {
+    // Places and fonts after going on-board and back or on to another mode, which the control does
+    // in the middle of the first change, in one of its messages; 0: the host does it.
+    const auto after = [this](APPMODE last, int id, UINT message) {
         DialogForTests dialog(form, Host());
-        Acting<CEdit> edit;
-        edit.SubclassWindow(*dialog.GetDlgItem(IdEdit));
-        edit.ActIn(message, [last] { COnBoardUIGeneral::SetAppMode(last); });
+        Acting<CWnd> control;
+        control.SubclassWindow(*dialog.GetDlgItem(id));
+        control.ActIn(message, [last] { COnBoardUIGeneral::SetAppMode(last); });
         COnBoardUIGeneral::SetAppMode(ONBOARD);
-        edit.SendMessage(0);
+        control.SendMessage(0);
         std::vector<LRESULT> fonts;
         for (HWND child = ::GetWindow(dialog, GW_CHILD); child != nullptr;
              child = ::GetWindow(child, GW_HWNDNEXT))
@@ -201,13 +201,14 @@ TEST_F(CustomDialogTest, AModeThatAControlChangesOnTheWayComesToAllInOrder)
     };
     for (const APPMODE last : {STD, EFB})
     {
-        const auto wanted = after(last, 0);
+        const auto wanted = after(last, IdEdit, 0);
         for (const UINT message :
              {WM_SETFONT, WM_WINDOWPOSCHANGING, WM_NCCALCSIZE, WM_WINDOWPOSCHANGED, WM_SIZE})
         {
-            const auto told = after(last, message);
-            EXPECT_EQ(told.first, wanted.first) << last << ' ' << message;
-            EXPECT_EQ(told.second, wanted.second) << last << ' ' << message;
+            for (const int id : {IdLabel, IdEdit})
+            {
+                EXPECT_EQ(after(last, id, message), wanted) << last << ' ' << id << ' ' << message;
+            }
         }
     }
 }
@@ -267,43 +268,6 @@ TEST_F(CustomDialogTest, TheTabKeyFollowsTheOrderThatIsSet)
         TypeKey(VK_TAB);
         EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), id);
     }
-}
-
-TEST_F(CustomDialogTest, AControlThatIsPutInOrderMayEndItsDialog)
-{
-    const AccessFaults faults;
-    for (const UINT message : {UINT(WM_STYLECHANGING), UINT(WM_WINDOWPOSCHANGING)})
-    {
-        auto* dialog = new Fenced<DialogForTests>(form, Host());
-        Acting<CEdit> edit;
-        ASSERT_TRUE(edit.SubclassDlgItem(IdEdit, dialog));
-        edit.ActIn(message, [&] { delete std::exchange(dialog, nullptr); });
-        const UINT ids[] = {IdEdit, IdList, 0};
-        dialog->SetCtrlTabOrder(ids);
-        EXPECT_EQ(dialog, nullptr);
-    }
-    EXPECT_EQ(faults.Count(), 0);
-}
-
-TEST_F(CustomDialogTest, AModalChildIsFound)
-{
-    DialogForTests parent(form, Host());
-    DialogForTests modeless(form, parent);
-    parent.CheckForChildDialog(static_cast<CWnd*>(nullptr));
-    parent.CheckForChildDialog(&modeless);
-    EXPECT_FALSE(parent.m_hasModalChild);
-
-    DialogForTests child;
-    child.InitModalIndirect(form, &parent);
-    child.inLoop = [&] {
-        modeless.CheckForChildDialog(&child);
-        EXPECT_FALSE(modeless.m_hasModalChild) << "another's";
-        ::EnumThreadWindows(::GetCurrentThreadId(), &DialogForTests::CheckForChildDialog,
-                            reinterpret_cast<LPARAM>(static_cast<CCustomDialog*>(&parent)));
-        EXPECT_TRUE(parent.m_hasModalChild);
-        child.EndDialog(1);
-    };
-    EXPECT_EQ(child.DoModal(), 1);
 }
 
 } // namespace

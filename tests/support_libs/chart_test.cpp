@@ -57,21 +57,4 @@ TEST(K3ChartTest, GivesTheNearestPositionOutsideAndShowsNothingThere)
     EXPECT_EQ(x, 7);
 }
 
-TEST(K3ChartTest, CutsLinesAtItsEdges)
-{
-    const double onEquator[] = {0, 0, 0};
-    const double eastward[] = {170, -170, -160};
-    const K3Chart flat(K3Chart::Mercator, 0, 0, 1, {0, 0});
-    EXPECT_EQ(flat.Trace(onEquator, eastward, 3),
-              (K3Chart::Lines{{{170, 0}, {180, 0}}, {{-180, 0}, {-170, 0}, {-160, 0}}}));
-    const K3Chart globe(K3Chart::Orthographic, 0, 0, 1, {0, 0});
-    const double through[] = {60, 120, 60}; // out over the horizon at 90 and back
-    const K3Chart::Lines seen = globe.Trace(onEquator, through, 3);
-    ASSERT_EQ(seen.size(), 1u) << "in again where it went out";
-    EXPECT_EQ(seen[0], (std::vector<K3DevPt>{{50, 0}, {57, 0}, {50, 0}}));
-
-    EXPECT_EQ(flat.Trace(onEquator, eastward, -5), K3Chart::Lines());
-    EXPECT_EQ(flat.Trace(nullptr, eastward, 3), K3Chart::Lines());
-}
-
 } // namespace

@@ -41,23 +41,4 @@ TEST(IconListTest, ReadsNamesAndPicturesOfItsListAlone)
     EXPECT_EQ(symbols.GetAt(3), nullptr);
 }
 
-TEST(IconListTest, RefusesWhatIsNotSoundAndStaysAsItWas)
-{
-    const std::string named = "[Symbols]\nSymbol A\n";
-    std::string tall = named;
-    for (int row = 0; row < IconInfo::MaxSide; ++row)
-    {
-        tall += std::string(IconInfo::MaxSide, '#') + '\n';
-    }
-    Symbols symbols;
-    ASSERT_TRUE(symbols.LoadText(tall)) << "the largest picture";
-    for (const std::string& text :
-         {std::string(), std::string("[Symbols]\n#\n"), named, named + "Symbol B\n#\n",
-          named + "##\n#\n", named + "#x\n", tall + "#\n", std::string(100000, '\0')})
-    {
-        EXPECT_FALSE(symbols.LoadText(text)) << text.substr(0, 40);
-        EXPECT_EQ(symbols.GetCount(), 1);
-    }
-}
-
 } // namespace
