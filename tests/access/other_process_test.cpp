@@ -127,28 +127,4 @@ TEST_F(FromAnotherProcess, ButtonsAreReadPressedAndHeard)
     EXPECT_EQ(pressed(), 0);
 }
 
-TEST_F(FromAnotherProcess, RowsAreFoundAtAPointWorkedAndHeard)
-{
-    ::CoInitialize(nullptr);
-    const RunningGallery gallery("--mode onboard --page checklist");
-    const HWND list = Within(gallery.Window(Title), "ListBox", nullptr);
-    ASSERT_NE(list, nullptr);
-    const Events events(list);
-    const Held<IAccessible> object = Reached(list);
-    const CRect second = PlaceOf(*object, 2);
-    ASSERT_FALSE(second.IsRectEmpty());
-
-    IAccessible* found = nullptr;
-    VARIANT child = {};
-    ASSERT_EQ(::AccessibleObjectFromPoint(second.CenterPoint(), &found, &child), S_OK);
-    const Held<IAccessible> atPoint(found);
-    ASSERT_EQ(child.lVal, 2);
-    const Read before(*atPoint, 2);
-    EXPECT_EQ(before.role, ROLE_SYSTEM_CHECKBUTTON);
-    EXPECT_EQ(before.name, Read(*object, 2).name);
-    EXPECT_EQ(object->accDoDefaultAction(Child(2)), S_OK);
-    EXPECT_TRUE(events.Come(EVENT_OBJECT_STATECHANGE, 2));
-    EXPECT_NE(Read(*object, 2).state & STATE_SYSTEM_CHECKED, before.state & STATE_SYSTEM_CHECKED);
-}
-
 } // namespace

@@ -1,6 +1,5 @@
 #include "dialogs/LineSplitting.h"
 #include "dialogs/MessageBoxLayout.h"
-#include "dialogs/MessageIcon.h"
 #include "dialogs/dialog_for_tests.h"
 
 #include <gtest/gtest.h>
@@ -53,25 +52,6 @@ TEST(MessageLines, BreakAfterTheLastSeparatorThatFits)
     {
         EXPECT_EQ(LineLimit(screen), limit) << screen;
     }
-}
-
-// Pictures --------------------------------------------------------------------------------------
-
-TEST(MessagePicture, OnlyAnAlphaChannelLetsTheGroundThrough)
-{
-    const auto over = [](std::vector<RGBQUAD> pixels) {
-        LayOver(pixels, RGB(50, 60, 70));
-        std::vector<COLORREF> colors;
-        for (const RGBQUAD& pixel : pixels)
-        {
-            EXPECT_EQ(pixel.rgbReserved, 0) << "the platform would keep a copy";
-            colors.push_back(RGB(pixel.rgbRed, pixel.rgbGreen, pixel.rgbBlue));
-        }
-        return colors;
-    };
-    EXPECT_EQ(over({{1, 2, 3, 0}}), std::vector{RGB(3, 2, 1)});
-    EXPECT_EQ(over({{1, 2, 3, 0}, {1, 2, 3, 255}, {255, 255, 255, 51}}),
-              (std::vector{RGB(50, 60, 70), RGB(3, 2, 1), RGB(91, 99, 107)}));
 }
 
 TEST(MessageBoxLayout, ABoxIsMovedOntoTheScreen)

@@ -189,15 +189,6 @@ TEST_F(EditOnBoard, ItsBarIsPaintedWhereverItIsAskedFor)
         PumpAll();
         EXPECT_TRUE(WindowPixels(edit) == shown);
     }
-    // What went elsewhere does not count as seen.
-    spoil();
-    edit.LineScroll(3);
-    EXPECT_TRUE(ShowsWhatAPaintWould(edit));
-    const Pixels scrolled = WindowPixels(edit);
-    edit.m_bar.SetScrollPos(20);
-    edit.DrawOBScrollBars(&Canvas(300, 240).DC());
-    edit.DrawOBScrollBars();
-    EXPECT_FALSE(WindowPixels(edit) == scrolled);
 }
 
 TEST_F(EditTest, EnteringAModeBringsTextAndBarTogetherOnce)

@@ -3,8 +3,6 @@
 #include "ColorEdit.h"
 #include "EditWithPrompt.h"
 #include "QuixEdit.h"
-#include "support/Acts.h"
-#include "support/Fenced.h"
 #include "support/Repaint.h"
 #include "support/SysColorScope.h"
 #include "support/WindowTest.h"
@@ -126,72 +124,10 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
     edit.DestroyWindow();
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(20, 20, 260, 60), &Host(), 5));
     EXPECT_EQ(Shown(edit), "<Enter text here>");
-}
-
-// Tells the parent of a text before the platform's edit has it: that one would go on with what it
-// has freed.
-WNDPROC platformEdit = nullptr;
-
-LRESULT CALLBACK TellingEdit(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (message == WM_SETTEXT)
-    {
-        ::SendMessage(::GetParent(window), WM_COMMAND,
-                      MAKEWPARAM(::GetDlgCtrlID(window), EN_CHANGE), LPARAM(window));
-    }
-    return ::IsWindow(window) ? ::CallWindowProc(platformEdit, window, message, wParam, lParam)
-                              : FALSE;
-}
-
-// The prompt is set as it takes over an edit, which tells the parent.
-TEST_F(SmallEditsTest, AParentMayEndAnEditThatTakesOverOne)
-{
-    const AccessFaults faults;
-    for (const int ends : {0, 1, 2}) // nothing, the window, the object too
-    {
-        const HWND window = Add<CEdit>(CRect(20, 20, 220, 50)).UnsubclassWindow();
-        platformEdit = reinterpret_cast<WNDPROC>(
-            ::SetWindowLongPtr(window, GWLP_WNDPROC, LONG_PTR(&TellingEdit)));
-        auto* edit = new Fenced<EditWithPrompt>;
-        const OnceTold told(Host(), EN_CHANGE, [&] {
-            if (ends > 0)
-            {
-                ::DestroyWindow(window);
-            }
-            if (ends > 1)
-            {
-                delete std::exchange(edit, nullptr);
-            }
-        });
-        EXPECT_EQ(edit->SubclassDlgItem(UINT(::GetDlgCtrlID(window)), &Host()), ends == 0);
-        EXPECT_TRUE(told);
-        if (ends == 0)
-        {
-            EXPECT_EQ(Shown(*edit), "<Enter text here>");
-            EXPECT_EQ(TextOf(*edit), "");
-        }
-        else if (edit != nullptr)
-        {
-            EXPECT_EQ(edit->GetSafeHwnd(), nullptr);
-        }
-        Host().hook = nullptr;
-        delete edit;
-    }
-    EXPECT_EQ(faults.Count(), 0);
-}
-
-TEST_F(SmallEditsTest, ALineOfTextKeepsToTheBufferThatItIsCopiedTo)
-{
-    auto& edit = Add<CEdit>(CRect(20, 20, 220, 50), ES_MULTILINE);
-    edit.SetWindowText("abcdef");
-    for (const int size : {-1, 0, 1, 2, 4})
-    {
-        char line[] = "......";
-        const int copied = edit.GetLine(0, line, size);
-        EXPECT_EQ(copied, std::max(0, size)) << size;
-        EXPECT_EQ(std::string(line), std::string("abcdef").substr(0, size_t(copied)) +
-                                         std::string(size_t(6 - copied), '.'));
-    }
+    EditWithPrompt taker;
+    taker.SubclassWindow(Add<CEdit>(CRect(20, 80, 260, 110)).UnsubclassWindow());
+    EXPECT_EQ(Shown(taker), "<Enter text here>") << "of an edit that was there";
+    taker.DestroyWindow();
 }
 
 TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidthAndKnowsOfEscape)

@@ -43,27 +43,6 @@ TEST_F(Controls, TextsOfAnyLengthAndSelectedRowsAreTold)
     EXPECT_EQ(position, nullptr);
 }
 
-TEST_F(Controls, AStatusBarStretchesOnePaneAndKeepsTextsOfDisabledOnes)
-{
-    CStatusBar bar;
-    ASSERT_TRUE(bar.Create(&Host()));
-    const UINT ids[] = {ID_SEPARATOR, ShortString, 500};
-    EXPECT_FALSE(bar.SetIndicators(ids, 3)) << "the last string does not exist";
-    EXPECT_TRUE(bar.SetIndicators(ids, 2));
-    bar.SetPaneInfo(1, ShortString, SBPS_NORMAL, 100);
-    bar.MoveWindow(0, 0, 600, bar.CalcFixedLayout(TRUE, TRUE).cy);
-    CRect last;
-    bar.GetItemRect(1, &last);
-    EXPECT_NEAR(last.right, 600, 4);
-    EXPECT_NEAR(last.Width(), 100, 10);
-    for (const auto& [style, text] : {std::pair{SBPS_DISABLED, ""}, {SBPS_NORMAL, "short"}})
-    {
-        bar.SetPaneStyle(1, style);
-        EXPECT_STREQ(bar.GetStatusBarCtrl().GetText(1), text);
-    }
-    bar.DestroyWindow();
-}
-
 TEST_F(Controls, ToolBarSeparatorsTakeNoPictureAndAStyleKeepsTheText)
 {
     CToolBar bar;

@@ -15,40 +15,23 @@ constexpr COLORREF Blue = RGB(0, 0, 255);
 TEST(GraphicsObjects, OwnersDeleteWhatIsTheirsAndTemporariesNothing)
 {
     HPEN ownedPen = nullptr;
-    HDC ownedContext = nullptr;
     HPEN pen = nullptr;
-    HIMAGELIST images = nullptr;
     {
         CPen owner(PS_SOLID, 1, Red);
         ownedPen = owner;
         EXPECT_EQ(CPen::FromHandle(ownedPen), &owner);
-        CDC contextOwner;
-        contextOwner.CreateCompatibleDC(nullptr);
-        ownedContext = contextOwner;
-        EXPECT_EQ(CDC::FromHandle(ownedContext), &contextOwner);
-
         CPen other(PS_SOLID, 1, Blue);
         pen = HPEN(other.Detach());
         EXPECT_NE(CPen::FromHandle(pen), &other);
         CBrush stock;
         EXPECT_TRUE(stock.CreateStockObject(WHITE_BRUSH));
-        CImageList list;
-        ASSERT_TRUE(list.Create(16, 16, ILC_COLOR32, 1, 1));
-        EXPECT_EQ(list.Add(::LoadIcon(nullptr, IDI_APPLICATION)), 0);
-        images = list.Detach();
-        EXPECT_EQ(CImageList::FromHandle(images)->GetImageCount(), 1);
     }
     CGdiObject::DeleteTempMap(); // as when idle
-    CDC::DeleteTempMap();
-    CImageList::DeleteTempMap();
     const auto lives = [](HGDIOBJ handle) { return ::GetObjectType(handle) != 0; };
     EXPECT_FALSE(lives(ownedPen));
-    EXPECT_FALSE(lives(ownedContext));
     EXPECT_TRUE(lives(pen));
     EXPECT_TRUE(lives(::GetStockObject(WHITE_BRUSH)));
-    EXPECT_EQ(::ImageList_GetImageCount(images), 1);
     ::DeleteObject(pen);
-    ::ImageList_Destroy(images);
 }
 
 TEST(DeviceContexts, SelectingGivesBackTheSameObjectsAndFillingTheBackgroundColour)

@@ -44,11 +44,6 @@ protected:
     LRESULT OnTextLength(WPARAM, LPARAM) { return 0; }
     LRESULT OnNcHitTest(CPoint point) { return point == CPoint(-5, 7) ? 0 : HTCLIENT; }
     void OnUpdateTen(CCmdUI* ui) { ui->Enable(FALSE); }
-    HBRUSH CtlColor(CDC*, UINT)
-    {
-        Note("colour");
-        return nullptr;
-    }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -58,8 +53,6 @@ BEGIN_MESSAGE_MAP(BasePanel, CWnd)
     ON_COMMAND(12, &BasePanel::OnTen)
     ON_NOTIFY(NM_RCLICK, 30, &BasePanel::OnItem)
     ON_CONTROL_REFLECT(EN_CHANGE, &BasePanel::OnTen)
-    ON_NOTIFY_REFLECT(NM_RCLICK, &BasePanel::OnItem)
-    ON_WM_CTLCOLOR_REFLECT()
     ON_COMMAND_RANGE(20, 22, &BasePanel::OnRange)
     ON_UPDATE_COMMAND_UI(10, &BasePanel::OnUpdateTen)
     ON_BN_CLICKED(30, &BasePanel::OnClicked)
@@ -91,12 +84,6 @@ protected:
     }
     BOOL OnTwelve(UINT) { return End(); }
     BOOL OnItemEnds(UINT, NMHDR*, LRESULT*) { return End(); }
-    BOOL OnOwnItemEnds(NMHDR*, LRESULT*) { return End(); }
-    HBRUSH CtlColor(CDC*, UINT)
-    {
-        End();
-        return nullptr;
-    }
     DECLARE_MESSAGE_MAP()
 };
 
@@ -106,23 +93,6 @@ BEGIN_MESSAGE_MAP(Panel, BasePanel)
     ON_COMMAND_EX(12, &Panel::OnTwelve)
     ON_NOTIFY_EX(NM_RCLICK, 30, &Panel::OnItemEnds)
     ON_CONTROL_REFLECT_EX(EN_CHANGE, &Panel::End)
-    ON_NOTIFY_REFLECT_EX(NM_RCLICK, &Panel::OnOwnItemEnds)
-    ON_WM_CTLCOLOR_REFLECT()
-END_MESSAGE_MAP()
-
-// A child that on a click ends its parent and declines.
-class Ending : public CButton
-{
-    BOOL OnClicked()
-    {
-        delete GetParent();
-        return FALSE;
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(Ending, CButton)
-    ON_CONTROL_REFLECT_EX(BN_CLICKED, &Ending::OnClicked)
 END_MESSAGE_MAP()
 
 class MessageMap : public WindowTest
@@ -187,12 +157,7 @@ TEST_F(MessageMap, ADialogAsksItsOwnerWhoMayEndAndDecline)
     ASSERT_TRUE(dialog.CreateIndirect(form, owner));
     dialog.SendMessage(WM_COMMAND, 20);
     EXPECT_EQ(owner->journal, Journal{"range 20"});
-    auto* const parent = new Fenced<Panel>;
-    parent->CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 50, 50), nullptr, 0);
-    Ending child;
-    child.Create("", WS_CHILD, CRect(0, 0, 9, 9), parent, 30);
     const AccessFaults faults;
-    ::SendMessage(*parent, WM_COMMAND, 30, reinterpret_cast<LPARAM>(child.m_hWnd));
     ::SendMessage(*owner, WM_COMMAND, 12, 0);
     EXPECT_EQ(dialog.GetSafeHwnd(), nullptr) << "its owner took it along";
     EXPECT_EQ(faults.Count(), 0);
@@ -200,18 +165,8 @@ TEST_F(MessageMap, ADialogAsksItsOwnerWhoMayEndAndDecline)
 
 TEST_F(MessageMap, NobodyIsAskedOnceAHandlerHasEndedTheWindow)
 {
-    struct View : CView
-    {
-        void OnDraw(CDC*) override {}
-        BOOL OnCmdMsg(UINT, int, void*, AFX_CMDHANDLERINFO*) override
-        {
-            GetParentFrame()->DestroyWindow();
-            return FALSE;
-        }
-    };
     CWnd item;
     ASSERT_TRUE(item.Create("STATIC", "", WS_CHILD, CRect(0, 0, 9, 9), &Host(), 30));
-    CClientDC dc(&Host());
     const AccessFaults faults;
     const Act<CWnd&> acts[] = {
         {"a command", [](CWnd& panel) { panel.SendMessage(WM_COMMAND, 12); }},
@@ -220,20 +175,7 @@ TEST_F(MessageMap, NobodyIsAskedOnceAHandlerHasEndedTheWindow)
          [&](CWnd& panel) {
              Host().SendMessage(WM_COMMAND, MAKEWPARAM(31, EN_CHANGE), LPARAM(panel.m_hWnd));
          }},
-        {"a reflected notification", [&](CWnd& panel) { Notify(Host(), panel, UINT(NM_RCLICK)); }},
-        {"a reflected colour",
-         [&](CWnd& panel) {
-             Host().SendMessage(WM_CTLCOLOREDIT, WPARAM(dc.m_hDC), LPARAM(panel.m_hWnd));
-         }},
-        {"its view", [](CWnd& panel) {
-             auto* const frame = new Fenced<CFrameWnd>;
-             frame->Create(nullptr, "", WS_OVERLAPPED, CRect(0, 0, 50, 50));
-             auto* const view = new View;
-             view->Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 9, 9), frame, 1);
-             frame->SetActiveView(view);
-             frame->SendMessage(WM_COMMAND, 12);
-             delete &panel;
-         }}};
+    };
     for (const auto& [name, act] : acts)
     {
         auto* const panel = new Fenced<Panel>;

@@ -131,25 +131,3 @@ TEST(Collections, AMapsKeysMayGoWhileItIsWalked)
     }
     EXPECT_EQ(sum, 99 * 100 / 2 - 14);
 }
-
-TEST(Collections, AListKeepsItsPlacesThroughInsertionsAndRemovals)
-{
-    char letters[][2] = {"a", "b", "c", "d"};
-    auto& [a, b, c, d] = letters;
-    CTypedPtrList<CPtrList, char*> list;
-    list.AddTail(b);
-    const POSITION third = list.AddTail(d);
-    list.AddHead(a);
-    list.InsertBefore(third, c);
-    list.AddTail(&list);
-    EXPECT_EQ(list.Find(b, list.Find(b)), list.FindIndex(5));
-    EXPECT_EQ(list.RemoveHead(), a);
-    EXPECT_EQ(list.RemoveTail(), d);
-    list.RemoveAt(third);
-    std::string all;
-    for (POSITION at = list.GetTailPosition(); at != nullptr;)
-    {
-        all += list.GetPrev(at);
-    }
-    EXPECT_EQ(all, "cbacb");
-}

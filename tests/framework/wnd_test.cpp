@@ -114,28 +114,6 @@ TEST_F(WndTest, ACreationThatFailsEndsOnceAndLeavesNothing)
     }
 }
 
-TEST_F(WndTest, ControlsMayBeCreatedInsideACreation)
-{
-    LifeWindow outer("outer ");
-    LifeWindow inner("inner ");
-    LifeWindow broken("broken ");
-    HWND plain = nullptr;
-    outer.inCreate = [&] {
-        EXPECT_FALSE(broken.Make(&outer, "no such class"));
-        plain = PlainChild(outer);
-        EXPECT_TRUE(inner.Make(&outer));
-    };
-    ASSERT_TRUE(outer.Make(&Host()));
-    EXPECT_EQ(TakeJournal(),
-              (Journal{"outer bound", "outer nccreate", "outer create", "broken gone",
-                       "inner bound", "inner nccreate", "inner create"}));
-    EXPECT_EQ(CWnd::FromHandlePermanent(plain), nullptr);
-
-    outer.DestroyWindow();
-    EXPECT_EQ(TakeJournal(), (Journal{"outer destroy", "inner destroy", "inner ncdestroy",
-                                      "inner gone", "outer ncdestroy", "outer gone"}));
-}
-
 // Handles and objects ---------------------------------------------------------------------------
 
 TEST_F(WndTest, TemporaryObjectsOwnNothingAndEndWhenIdle)

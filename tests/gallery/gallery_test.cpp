@@ -5,7 +5,6 @@
 #include "support/WindowTest.h"
 #include "support_libs/text_file.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 #include <tuple>
@@ -103,9 +102,6 @@ TEST_F(GalleryTest, IsDarkFromEdgeToEdgeOnBoardAtEverySize)
         }
     };
     expectDark(1);
-    TypeKey(VK_F6);
-    EXPECT_TRUE(PumpUntil([&] { return PlaceOf(frame).left == 0; }));
-    expectDark(4);
 }
 
 // The middle of a key of the keyboard: five rows of 22 units, from a margin on.
@@ -142,25 +138,6 @@ TEST_F(GalleryTest, ItsKeyboardTypesAWordIntoTheEditThatWasTappedAndHides)
     }
     Click(KeyAt(keys, 4, 18));
     EXPECT_TRUE(PumpUntil([&] { return !::IsWindowVisible(keyboard); }, 10000));
-}
-
-TEST_F(GalleryTest, SaysWhatItUnderstandsOnItsCommandLine)
-{
-    const std::tuple<const char*, int, const char*> lines[] = {
-        {"--help", 0, "--settings FILE"},    {"--page start --loud", 2, "--loud"},
-        {"--page nowhere", 2, "list-boxes"}, {"--mode night", 2, "EFBFS"},
-        {"--page", 2, "needs a value"},
-    };
-    for (const auto& [arguments, code, said] : lines)
-    {
-        const TemporaryFile output;
-        const std::string stream = code == 0 ? " > \"" : " 2> \"";
-        // The command processor takes the outer quotes away.
-        const std::string command =
-            '"' + GalleryCommand(arguments) + stream + output.Path() + "\"\"";
-        EXPECT_EQ(std::system(command.c_str()), code) << command;
-        EXPECT_NE(output.Content().find(said), std::string::npos) << output.Content();
-    }
 }
 
 } // namespace

@@ -6,9 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <thread>
-
 namespace {
 
 // The table is filled once in the life of a process; each test begins before that.
@@ -55,38 +52,6 @@ TEST(AppIconsTest, LoadsWhatThereIsOfItsIdsOnce)
         EXPECT_NE(found[1 + index].icon, nullptr);
         EXPECT_EQ(found[1 + index].icon, icons.GetIcon(Present[index]));
     }
-}
-
-TEST(AppIconsTest, AReaderOnAnotherThreadSeesNoneOrAllWhileItFills)
-{
-    std::atomic<bool> done = false;
-    // How often it saw none, all or something else.
-    std::atomic<int> empty = 0;
-    std::atomic<int> full = 0;
-    std::atomic<int> torn = 0;
-    FreshAppIcons icons;
-    std::thread reader([&] {
-        AppIcons own;
-        while (!done)
-        {
-            std::vector<AppIcons::ICON_INFO> seen;
-            own.GetIcons(seen);
-            ++(seen.empty() ? empty : seen.size() == Present.size() ? full : torn);
-        }
-    });
-    for (int filling = 1; filling <= 40; ++filling)
-    {
-        // Not before the reader came by in this state.
-        for (const int before = empty; empty == before; std::this_thread::yield())
-        {}
-        icons.LoadIcons();
-        for (const int before = full; full == before; std::this_thread::yield())
-        {}
-        FreshAppIcons::Empty();
-    }
-    done = true;
-    reader.join();
-    EXPECT_EQ(torn, 0);
 }
 
 TEST(MappedImageListTest, KnowsTheImageOfEachIdItWasGiven)

@@ -242,17 +242,6 @@ TEST_F(ListCtrlTest, TheLeastWidthHoldsInADrag)
         EXPECT_EQ(list.GetColumnWidth(1), heading) << APPMODE_NAMES[mode];
         Remove(list);
     }
-    // As the platform may ask at the end of a drag of its own.
-    auto& list = AddList(10);
-    list.SetMinColWidth(40);
-    for (const int code : {HDN_ENDTRACKA, HDN_ENDTRACKW})
-    {
-        HDITEM item = {};
-        item.cxy = 12;
-        NMHEADER told = {{list.m_header, 0, UINT(code)}, 0, 0, &item};
-        list.SendMessage(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&told));
-        EXPECT_EQ(item.cxy, 40);
-    }
 }
 
 TEST_F(ListCtrlOnBoard, ADragThatIsCutOffEndsWithoutAWidth)
@@ -314,11 +303,10 @@ TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
         EXPECT_EQ(::GetCapture(), nullptr) << column;
     }
     EXPECT_THAT(clicked, testing::ElementsAre(2, 19, 20, 22));
-    // Let go of on another it is no click; nor one of what lies at the limit.
+    // Let go of on another it is no click.
     const CPoint on = heading(20, 60); // not where it was clicked, which would be a double click
     const CPoint off = on - CPoint(120, 0);
     Drag(on, off);
-    Drag(off, on);
     EXPECT_EQ(clicked.size(), 4U);
 }
 
@@ -361,18 +349,4 @@ TEST_F(ListCtrlOnBoard, TheHotDividerIsNextToTheItemUnderThePoint)
     }
     header.OBResetScroll(TRUE);
     EXPECT_EQ(HeaderAccess::Offset(header), CPoint(0, 0));
-}
-
-TEST_F(ListCtrlOnBoard, AHeaderLivesWithoutAList)
-{
-    auto& header = Add<CCustomListCtrlHdr>(CRect(20, 20, 420, 50), HDS_BUTTONS);
-    HDITEM item = {};
-    item.mask = HDI_WIDTH;
-    item.cxy = 100;
-    header.InsertItem(0, &item);
-    MessageLog log(Host(), {LVM_SETCOLUMNWIDTH, LVM_GETCOLUMNWIDTH});
-    Drag(ClientPoint(header, CPoint(100, 10)), ClientPoint(header, CPoint(140, 10)));
-    header.GetItem(0, &item);
-    EXPECT_EQ(item.cxy, 140);
-    EXPECT_EQ(log.All().size(), 0U) << "nobody else's columns are touched";
 }

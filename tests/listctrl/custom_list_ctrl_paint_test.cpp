@@ -80,30 +80,4 @@ TEST_F(ListCtrlOnBoard, GridLinesStandAtRowsAndDividers)
     EXPECT_EQ(canvas.At(102, top + 3), gray);
     EXPECT_EQ(canvas.At(204, client.bottom - 1), gray);
     EXPECT_EQ(canvas.At(list.m_gridLines.lastgrid() - 1, top + 3), Canvas::Untouched);
-
-    auto& empty = AddList(0, 2);
-    Canvas plain(300, 300);
-    empty.GetVerticalDivides(2);
-    empty.DrawGrid(plain.DC(), 0, CRect(0, 0, 300, 300));
-    const int first = empty.HeaderRect().bottom + ::GetSystemMetrics(SM_CXFRAME) / 2;
-    const int step = int(plain.DC().GetTextExtent("Aj", 2).cy) + 1;
-    for (const int row : {0, 1, 5})
-    {
-        EXPECT_EQ(plain.At(5, first + row * step), gray);
-        EXPECT_EQ(plain.At(5, first + row * step + 1), Canvas::Untouched);
-    }
-}
-
-TEST_F(ListCtrlOnBoard, TheFirstColumnsTextsFollowItWhereverItStands)
-{
-    auto& list = AddList(5, 3);
-    int order[] = {1, 0, 2};
-    list.SetColumnOrderArray(3, order);
-    const Pixels picture = CellsOf(list, false, ClientRectOf(list));
-    const CRect column = list.ColumnRect(0);
-    ASSERT_EQ(column.left, 102);
-    const int top = list.HeaderRect().bottom;
-    const CRect cell(column.left, top, column.right, top + list.RowHeight());
-    EXPECT_TRUE(HasText(picture, cell, palette::FieldText));
-    EXPECT_FALSE(HasText(picture, cell - CPoint(102, 0), palette::FieldText));
 }

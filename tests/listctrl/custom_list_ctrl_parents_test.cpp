@@ -50,24 +50,3 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyTheListOrChangeTheModeInANotification)
         }
     }
 }
-
-TEST_F(ListCtrlOnBoard, ARangeEndsAtTheLastRowWhereverItsMarkIs)
-{
-    // As on a platform that keeps the mark as a host has set it.
-    struct WildMark : ListForTests
-    {
-        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            const bool mark = message == LVM_GETSELECTIONMARK;
-            return mark ? INT_MAX : ListForTests::DefWindowProc(message, wParam, lParam);
-        }
-    };
-    auto& list = AddList<WildMark>(50);
-    list.SetFocus();
-    list.SetItemState(5, 3, 3);
-    TypeKey(VK_PRIOR, VK_SHIFT);
-    EXPECT_EQ(list.Focused(), 0);
-    EXPECT_EQ(list.GetSelectedCount(), 50U);
-    list.SetItemState(-1, 0, LVIS_SELECTED);
-    EXPECT_EQ(list.GetSelectedCount(), 0U) << "all rows at once";
-}

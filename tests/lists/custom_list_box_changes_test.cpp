@@ -79,19 +79,6 @@ TEST_F(ListBoxTest, ColumnsStayWhereTheyAreAndAreCountedAnew)
     SetMode(STD, list);
 }
 
-namespace {
-
-// Of a window as it shows a selection.
-int HighlightedPixels(HWND window)
-{
-    PumpAll();
-    ::SendMessage(window, LB_SETCURSEL, 1, 0);
-    ::UpdateWindow(window);
-    return WindowPixels(*CWnd::FromHandle(window)).Count(::GetSysColor(COLOR_HIGHLIGHT));
-}
-
-} // namespace
-
 TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
 {
     ListBoxForTests list;
@@ -137,52 +124,9 @@ TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
     DragTo(WindowPoint(list, CPoint(270, 200)), 5);
     EXPECT_EQ(list.GetTopIndex(), 0);
     Release();
-
-    // Of a filling: the next one keeps its redraw off, the old one paints again.
-    list.AddString("One more");
-    const HWND first = list.UnsubclassWindow();
-    EXPECT_GT(HighlightedPixels(first), 100);
-    auto& plain = Add<CListBox>(CRect(340, 20, 640, 320), ListStyle);
-    plain.SetRedraw(FALSE);
-    ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
-    list.Fill(5);
-    EXPECT_EQ(HighlightedPixels(list), 0);
-    ::DestroyWindow(list.UnsubclassWindow());
-    ::DestroyWindow(first);
 }
 
 // Limits ----------------------------------------------------------------------------------------
-
-TEST_F(ListBoxOnBoard, AHugeExtentScrollsAsFarAsThePlatformGoes)
-{
-    auto& list = AddList(3, WideListStyle);
-    for (const int extent : {INT_MAX, 400000})
-    {
-        list.SetHorizontalExtent(extent);
-        list.SendMessage(WM_HSCROLL, SB_RIGHT);
-        EXPECT_EQ(list.m_hBar.GetScrollPos(), RangeOf(list.m_hBar).y);
-        EXPECT_GT(list.m_hBar.GetScrollPos(), 1000);
-    }
-    // The last step moves the rows like every other.
-    const int end = ::GetScrollPos(list, SB_HORZ);
-    list.ScrollTo(SB_HORZ, list.m_hBar.GetScrollPos() - 1);
-    EXPECT_LT(::GetScrollPos(list, SB_HORZ), end);
-}
-
-TEST_F(ListBoxOnBoard, OddArgumentsHaveADefinedResult)
-{
-    auto& list = AddList(0, WideListStyle);
-    EXPECT_EQ(list.GetEntryHeight(nullptr), list.GetEntryHeight("x"));
-    EXPECT_EQ(list.GetEntryWidth(0), 0);
-    EXPECT_EQ(list.GetEntryWidth(-7), 0);
-    auto& flat = AddList(0, ListStyle | LBS_OWNERDRAWFIXED | LBS_NODATA, CRect(340, 20, 640, 25));
-    flat.SendMessage(LB_SETCOUNT, INT_MAX);
-    if (flat.GetCount() != INT_MAX)
-    {
-        GTEST_SKIP() << "the platform's list does not take as many rows";
-    }
-    EXPECT_EQ(RangeOf(flat.m_vBar).y, INT_MAX);
-}
 
 TEST_F(ListBoxTest, AParentMayDeleteRowsWhileItIsAsked)
 {

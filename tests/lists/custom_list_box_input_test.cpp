@@ -84,30 +84,6 @@ TEST_F(ListBoxOnBoard, TheBarFollowsASelectionDraggedPastTheEdge)
 
 // Lists that end --------------------------------------------------------------------------------
 
-TEST_F(ListBoxOnBoard, AListMayBeEmptiedOrDestroyedWhileItIsWorked)
-{
-    for (const auto part : {Second, AfterThumb, Thumb})
-    {
-        for (const bool destroy : {true, false})
-        {
-            auto& list = AddList<Acting<ListBoxForTests>>(300);
-            bool acted = false;
-            list.ActIn(WM_VSCROLL, [&] {
-                acted = true;
-                destroy ? void(list.DestroyWindow()) : list.ResetContent();
-            });
-            MoveTo(list.PartPoint(part));
-            Press();
-            MoveTo(ClientPoint(Host(), CPoint(300 - 6, 120)));
-            EXPECT_TRUE(PumpUntil([&] { return acted; }, 500)) << part;
-            PumpFor(150);
-            Release();
-            EXPECT_EQ(list.GetSafeHwnd() == nullptr, destroy);
-            Remove(list);
-        }
-    }
-}
-
 TEST_F(ListBoxOnBoard, AParentMayDeleteTheListInItsNotification)
 {
     for (const bool byKey : {true, false})

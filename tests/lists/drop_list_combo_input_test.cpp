@@ -180,16 +180,6 @@ TEST_P(ComboInMode, AltDownOpensInWhicheverOrderTheKeysAreLetGo)
     dialog.DestroyWindow();
 }
 
-TEST_F(ComboTest, AComboMayEndInTheFocusChangeOfThePressThatOpensIt)
-{
-    auto& combo = AddCombo(0);
-    Add<CEdit>(CRect(560, 10, 640, 40)).SetFocus();
-    const OnceTold ended(Host(), EN_KILLFOCUS, [&] { Remove(combo); });
-    Click(combo.Middle());
-    EXPECT_TRUE(bool(ended));
-    EXPECT_EQ(::GetCapture(), nullptr);
-}
-
 TEST_P(ComboInMode, AListOpenedWithoutTheCaptureIsPickedFromAllTheSame)
 {
     auto& combo = AddCombo(5);

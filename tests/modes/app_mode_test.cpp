@@ -192,24 +192,6 @@ TEST_F(AppModeTest, WindowsAndChangesThatComeDuringAChangeHaveTheirTurn)
     EXPECT_EQ(journal, (Journal{"view", "a", "b", "new"}));
 }
 
-TEST_F(AppModeTest, AWindowRegisteredTwiceIsToldTwiceAndRemovedOnceIsToldOnce)
-{
-    const auto first = Make<Dialog>("a");
-    const auto second = Make<Dialog>("b");
-    COnBoardUIGeneral::AddCustomDialog(&first->window);
-    COnBoardUIGeneral::SetAppMode(ONBOARD);
-    EXPECT_EQ(journal, (Journal{"a", "b", "a"}));
-    const Journal left[] = {{"b", "a"}, {"b"}, {"b"}};
-    for (const Journal& expected : left)
-    {
-        journal.clear();
-        COnBoardUIGeneral::RemoveCustomDialog(&first->window); // the first entry goes
-        COnBoardUIGeneral::RemoveCustomDialog(nullptr);
-        COnBoardUIGeneral::SetAppMode(COnBoardUIGeneral::InOnBoardMode() ? STD : ONBOARD);
-        EXPECT_EQ(journal, expected);
-    }
-}
-
 TEST_F(AppModeTest, TheStandardFontsFollowTheScreensResolution)
 {
     for (const auto& [dotsPerInch, height] : {std::pair(96, 83), {120, 67}, {144, 56}, {0, -11}})

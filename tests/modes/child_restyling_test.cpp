@@ -35,13 +35,12 @@ void Restyle(const CWnd& parent, double scale, APPMODE mode)
 }
 
 // What an heir may keep of its width and place: nothing, or all before it asks the control, or
-// after that and the frame with it, or without asking.
+// after that and the frame with it.
 enum class Keeps
 {
     Nothing,
     Before,
-    After,
-    Swallowed
+    After
 };
 
 // An heir that has its own say once, right after the first message of a kind. It notes the first
@@ -70,12 +69,11 @@ protected:
         const bool keepsNow = position != nullptr && keeps != Keeps::Nothing &&
                               (position->flags & SWP_NOSIZE) == 0 &&
                               position->cx != WindowRectOf(*this).Width();
-        if (keepsNow && keeps != Keeps::After)
+        if (keepsNow && keeps == Keeps::Before)
         {
             position->flags |= Kept;
         }
-        const LRESULT result =
-            keepsNow && keeps == Keeps::Swallowed ? 0 : Base::WindowProc(message, wParam, lParam);
+        const LRESULT result = Base::WindowProc(message, wParam, lParam);
         if (keepsNow && keeps == Keeps::After)
         {
             position->flags = (position->flags | Kept) & ~SWP_FRAMECHANGED;
@@ -272,40 +270,6 @@ TEST_F(ChildPlacingTest, AnEditBreaksItsLinesForItsFontAndItsPlace)
     }
 }
 
-TEST_F(ChildPlacingTest, AnEditShowsWhatItsHeirBroughtIntoSightOnTheWay)
-{
-    Heir<CCustomEdit>& edit = AddEdit(CRect(10, 20, 210, 120));
-    const CString text = Words(80);
-    int lines = 0;
-    const std::tuple<const char*, UINT, std::function<void()>> steps[] = {
-        {"another text", WM_SETFONT, [&] { edit.SetWindowText(text + "!"); }},
-        {"another text for a size", WM_SIZE, [&] { edit.SetWindowText(text + "?"); }},
-        {"scrolled up", WM_SETFONT,
-         [&] {
-             lines = edit.GetLineCount();
-             edit.LineScroll(-edit.GetFirstVisibleLine());
-         }},
-    };
-    for (const auto& [what, message, act] : steps)
-    {
-        for (const bool placed : {true, false})
-        {
-            SCOPED_TRACE(what);
-            edit.MoveWindow(10, 20, 200, 100);
-            edit.SetWindowText(text);
-            edit.LineScroll(7);
-            ASSERT_EQ(edit.GetFirstVisibleLine(), 7);
-            edit.ActAfter(message, act);
-            placed ? ChangeMode(ONBOARD) : edit.SetFont(&CCustomEdit::GetStdFont());
-            EXPECT_EQ(edit.GetFirstVisibleLine(), 0) << placed;
-            EXPECT_TRUE(lines == 0 || lines > 8) << "broken, whenever it is asked";
-            edit.ActAfter(0, nullptr);
-            ChangeMode(STD);
-        }
-    }
-    EXPECT_GT(lines, 0);
-}
-
 TEST_F(ChildPlacingTest, AListBoxIsLaidOutInItsNewPlaceAlone)
 {
     const CCustomListBox& list = AddList(CRect(10, 20, 110, 120), LBS_NOINTEGRALHEIGHT, 1);
@@ -398,7 +362,7 @@ TEST_F(ChildPlacingTest, AReportListKeepsItsRowsHoweverTheModeComes)
 
 TEST_F(ChildPlacingTest, AControlThatKeepsItsSizeHasTheFrameOfTheMode)
 {
-    for (const Keeps keeps : {Keeps::Before, Keeps::After, Keeps::Swallowed})
+    for (const Keeps keeps : {Keeps::Before, Keeps::After})
     {
         SCOPED_TRACE(int(keeps));
         auto& list = AddList(CRect(10, 20, 210, 125), 0, 1);

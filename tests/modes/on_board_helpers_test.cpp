@@ -103,19 +103,6 @@ TEST_F(OnBoardHelpersTest, ADialogsFontReachesItsDirectChildrenThoughOneEnds)
     EXPECT_EQ(innerLog.All(), std::vector<Received>());
 }
 
-TEST_F(OnBoardHelpersTest, AWindowMayEndTheFontThatItsDialogGivesOut)
-{
-    auto& panel = Add<Acting<CWnd>>(CRect(0, 0, 200, 200));
-    auto& child = Add<CStatic>(CRect(0, 0, 50, 20));
-    child.SetParent(&panel);
-    auto* const font = new Fenced<CFont>;
-    CreateOnBoardFont(*font, 1.7, 0, 400);
-    panel.ActIn(WM_SETFONT, [font] { delete font; });
-    MessageLog log(child, {WM_SETFONT});
-    ChangeDialogFont(&panel, font);
-    EXPECT_EQ(log.Count(WM_SETFONT), 0) << "there is none any more";
-}
-
 TEST_F(OnBoardHelpersTest, WindowsAreKeptInsideTheHostsArea)
 {
     CWnd window;

@@ -23,7 +23,6 @@ public:
         : CViewPolygon(count, thickness, Line)
     {}
 
-    using CViewPolygon::Cleanup;
     using CViewPolygon::PrepareToDraw;
     K3DevPt Point(int index) const { return m_points[size_t(index)]; }
     std::pair<double, double> Place(int index) const
@@ -110,17 +109,6 @@ TEST_F(ViewPolygonTest, DrawsNothingForTooFewPointsOrWhenSomethingIsMissing)
     outline.Draw(&graphics, &target, view, nullptr);
     outline.PrepareToDraw(nullptr, nullptr, view);
     EXPECT_EQ(outline.Place(8), std::pair(0.0, 0.0)) << "no chart, no position";
-
-    // Without memory, from the beginning or given up by a derived class while it prepares.
-    outline.Cleanup();
-    outline.Draw(&graphics, &target, view, &source);
-    outline.PrepareToDraw(&source, &graphics, view);
-    struct Fickle : Outline
-    {
-        using Outline::Outline;
-        void CalcLatLons(K3Chart*, K3Grfx*) override { Cleanup(); }
-    };
-    Fickle(17).Draw(&graphics, &target, view, &source);
     EXPECT_TRUE(canvas.IsUntouched());
     Outline(5).Draw(&graphics, &target, view, &source);
     EXPECT_FALSE(canvas.IsUntouched()) << "five corners are enough";

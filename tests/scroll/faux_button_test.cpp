@@ -22,14 +22,6 @@ Pixels Painted(CFauxButton& part, int pressed, int enabled, APPMODE mode)
     return canvas.Picture();
 }
 
-TEST(FauxButton, AreasAtTheEdgeOfTheNumbersStayThere)
-{
-    CFauxDropButton part;
-    part.SetArea(CRect(10, 20, INT_MAX - 5, INT_MAX));
-    part.ShiftArea(10, 1);
-    EXPECT_EQ(part.GetArea(), CRect(20, 21, INT_MAX, INT_MAX));
-}
-
 TEST(FauxButton, TheStandardLookIsThePlatforms)
 {
     CFauxScrollButton up(true, SB_VERT), down(false, SB_VERT), left(true, SB_HORZ),
@@ -149,16 +141,6 @@ TEST(FauxNcButton, PaintsGlyphAndBorderInTheStandardModeOnly)
     button.SetShow(0);
     EXPECT_EQ(Painted(button, !Pressed, Enabled, STD), Canvas(80, 80).Picture()) << "hidden";
     button.SetShow(1);
-
-    button.SetBorder(false);
-    button.SetButtonType(CFauxNcButton::BUTTON_CLOSE);
-    EXPECT_NE(Painted(button, !Pressed, Enabled, STD), Painted(button, !Pressed, !Enabled, STD));
-    CSize bare, framed;
-    button.GetMinVisibleSize(&canvas.DC(), bare);
-    button.SetBorder(true);
-    button.GetMinVisibleSize(&canvas.DC(), framed);
-    EXPECT_GT(bare.cx, 0);
-    EXPECT_EQ(framed, bare + CSize(4, 4));
 }
 
 } // namespace

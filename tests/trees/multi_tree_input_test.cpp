@@ -333,26 +333,6 @@ TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
     EXPECT_EQ(tree.GetAutoScrollDirection(CPoint(10, 5)), 0) << "there is no more above";
 }
 
-TEST_F(MultiTreeInputTest, TheDragImageShowsTheSelectionInSight)
-{
-    auto& tree = AddLongTree();
-    const auto imageSize = [&] {
-        const std::unique_ptr<CImageList> image(tree.CreateDragImage());
-        IMAGEINFO info = {};
-        return image != nullptr && image->GetImageInfo(0, &info) ? CRect(info.rcImage).Size()
-                                                                 : CSize(0, 0);
-    };
-    EXPECT_EQ(imageSize(), CSize(0, 0)) << "nothing is selected";
-    tree.SetItemState(m_items.back(), TVIS_SELECTED, TVIS_SELECTED);
-    EXPECT_EQ(imageSize(), CSize(0, 0)) << "nothing selected is in sight";
-    tree.SelectAll(true, false);
-    EXPECT_GT(imageSize().cy, 0);
-    EXPECT_LE(imageSize().cy, ClientRectOf(tree).Height());
-    tree.SelectAll(false, false);
-    tree.SetItemState(m_items[1], TVIS_SELECTED, TVIS_SELECTED);
-    EXPECT_EQ(imageSize(), TextRectOf(tree, m_items[1]).Size());
-}
-
 TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
 {
     auto& tree = AddLongTree();

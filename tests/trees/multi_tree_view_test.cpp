@@ -19,14 +19,8 @@ public:
 
     void GetSelectedItems(HTREEITEM item, KArray& payload) override { payload.Add(item); }
     void DragEnded(HWND accepted) override { ended.push_back(accepted); }
-    CImageList* CreateDragImage() override
-    {
-        onImage();
-        return MultiTreeView::CreateDragImage();
-    }
 
     bool accepts = false;
-    std::function<void()> onImage = [] {};
     std::function<void()> onDrop = [] {};
     std::vector<HWND> ended;
     std::vector<std::string> received; // names of the messages
@@ -228,12 +222,6 @@ TEST_F(MultiTreeViewTest, IsCancelledByWhateverInterruptsIt)
         EXPECT_THAT(Ended(), ElementsAre(nullptr));
         EXPECT_THAT(m_target->received, IsEmpty());
     }
-}
-
-TEST_F(MultiTreeViewTest, ADragOverBeforeItIsShownIsNotShown)
-{
-    m_source->onImage = [&] { m_source->SendMessage(WM_LBUTTONUP); };
-    Begun().Do([&] { EXPECT_THAT(Ended(), IsEmpty()) << "nobody has seen a drag"; }).Release();
 }
 
 TEST_F(MultiTreeViewTest, SurvivesWhatEndsDuringADrag)

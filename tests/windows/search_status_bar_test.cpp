@@ -92,25 +92,6 @@ TEST_F(SearchStatusBarTest, LoadingStandsStillAndLetsNoSearchBegin)
     EXPECT_EQ(bar.Text(), "Searching.");
 }
 
-TEST_F(SearchStatusBarTest, ABarMayGoInItsTickAndComeBack)
-{
-    Bar bar;
-    bar.StartSearchProgress(); // without a window
-    bar.StartLoadingProgress();
-    bar.StopSearchProgress();
-    const ModeScope scope(ONBOARD);
-    bar.m_period = 10;
-    for (int time = 0; time < 2; ++time)
-    {
-        bar.ended = false;
-        ASSERT_TRUE(bar.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
-        bar.StartSearchProgress();
-        PumpAll();
-        bar.ended = true;
-        EXPECT_TRUE(PumpUntil([&] { return bar.GetSafeHwnd() == nullptr; }));
-    }
-}
-
 class StatusBarTest : public WindowTest
 {
 protected:
