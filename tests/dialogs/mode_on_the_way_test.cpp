@@ -199,7 +199,7 @@ TEST_F(ModeOnTheWayTest, AListOfWholeRowsAndAComboHaveTheirHeightsInEachMode)
     controls.Add("Static", "Label", 0, CRect(5, 5, 60, 17), 1)
         .Add("ListBox", "", WS_VSCROLL | WS_HSCROLL, CRect(80, 5, 140, 61), 2)
         .Add("CCUSTOMDROPLISTCOMBO", "", 0, CRect(5, 65, 70, 78), 3)
-        .Add("Edit", "", 0, CRect(5, 105, 70, 117), 4);
+        .Add("Edit", "", 0, CRect(5, 20, 70, 60), 4);
     dialog.beforeInit = [&] {
         label.SubclassWindow(*dialog.GetDlgItem(1));
         list.SubclassWindow(*dialog.GetDlgItem(2));
