@@ -200,9 +200,17 @@ bool Act(CWnd& window, Arguments& arguments)
         const char* const text = arguments.Words();
         arguments.OneOf(ComboActs)(combo, row, text);
     };
+    const auto insert = [&](CWnd& tree) {
+        TVINSERTSTRUCT branch = {};
+        branch.hParent = HTREEITEM(arguments.Value(Argument::TreeItem, tree));
+        branch.item.mask = TVIF_TEXT;
+        branch.item.pszText = const_cast<char*>(arguments.Words());
+        tree.SendMessage(TVM_INSERTITEM, 0, LPARAM(&branch));
+    };
     return On<CCustomDropListCombo>(window, work) ||
            On<CSearchStatusBar>(window, [&](auto& bar) { (bar.*arguments.OneOf(SearchActs))(); }) ||
            On<CCustomListCtrl>(window, [&](auto& list) { UseReport(list, arguments); }) ||
+           On<MultiTree>(window, insert) || On<MultiTreeView>(window, insert) ||
            On<CColorStatic>(window, [&](auto& swatch) { swatch.Set(color()); }) ||
            On<CColoredGroupBox>(window, [&](auto& outline) { outline.SetColor(color()); });
 }

@@ -249,12 +249,16 @@ LPARAM Arguments::Value(Argument argument, HWND window)
     }
     case TreeItem:
     {
-        LRESULT item = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_ROOT, 0);
-        for (int steps = Between(0, 30) - 1; steps > 0 && item != 0; --steps)
+        const auto next = [=](UINT which, LRESULT of) {
+            return ::SendMessage(window, TVM_GETNEXTITEM, which, of);
+        };
+        LRESULT item = Between(0, 15) != 0 ? next(TVGN_ROOT, 0) : 0;
+        LRESULT on = item;
+        for (int steps = Between(0, 20); steps > 0 && on != 0; --steps)
         {
-            const LRESULT child = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_CHILD, item);
-            const LRESULT next = ::SendMessage(window, TVM_GETNEXTITEM, TVGN_NEXT, item);
-            item = child != 0 && Between(0, 1) ? child : next;
+            item = on;
+            const LRESULT child = Between(0, 3) == 0 ? next(TVGN_CHILD, item) : 0;
+            on = child != 0 ? child : next(TVGN_NEXT, item);
         }
         return item;
     }
