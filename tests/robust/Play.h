@@ -307,24 +307,20 @@ private:
 
     void End()
     {
-        switch (death)
+        if (death == Death::Sibling)
         {
-        case Death::Window:
-            ::DestroyWindow(control->GetSafeHwnd());
-            break;
-        case Death::Control:
-            ::DestroyWindow(control->GetSafeHwnd());
-            control.reset();
-            break;
-        case Death::Sibling:
             sibling.reset();
-            break;
-        case Death::Parent:
-            ::DestroyWindow(parent->GetSafeHwnd());
+            return;
+        }
+        ::DestroyWindow(Ending());
+        if (death != Death::Window)
+        {
             control.reset();
+        }
+        if (death == Death::Parent)
+        {
             sibling.reset();
             parent.reset();
-            break;
         }
     }
 };

@@ -164,12 +164,6 @@ void Storm::Input(HWND window)
     }
 }
 
-void Storm::Scroll(HWND window)
-{
-    const UINT message = Between(0, 2) ? WM_VSCROLL : WM_HSCROLL;
-    Send(window, message, MAKEWPARAM(Between(0, 8), Between(0, 50)), 0);
-}
-
 void Storm::SendOne(HWND window, const std::vector<Word>& words)
 {
     const Word& word = m_arguments.OneOf(words);
@@ -313,8 +307,11 @@ void Storm::Blow(CWnd& parent, CWnd& window, int messages)
             Input(target);
             break;
         case 4:
-            Scroll(target);
+        {
+            const UINT message = Between(0, 2) ? WM_VSCROLL : WM_HSCROLL;
+            Send(target, message, MAKEWPARAM(Between(0, 8), Between(0, 50)), 0);
             break;
+        }
         case 5:
             Life(parent, window);
             break;

@@ -46,7 +46,6 @@ private:
     bool PressBar(HWND window, LPARAM onScreen);
     void OtherButton(HWND window, LPARAM point);
     void Key(HWND window);
-    void Scroll(HWND window);
     void Life(CWnd& parent, CWnd& window);
     void TellParent(HWND window);
     void Ask(HWND window);
