@@ -1,8 +1,6 @@
 // What each kind of control answers to assistive programs, in the standard and an on-board mode.
 
 #include "BoldStatic.h"
-#include "ColorStatic.h"
-#include "ColoredGroupBox.h"
 #include "CustomCheckBox.h"
 #include "CustomListBox.h"
 #include "CustomListCtrl.h"
@@ -30,8 +28,6 @@ TEST_P(AccessInModes, WhatOnlyShowsTellsItsKindAndText)
         {Add<CBoldStatic>(place, SS_NOPREFIX, "A&B"), ROLE_SYSTEM_STATICTEXT, "A&B"},
         {Add<CCustomStatic>(place, SS_ICON, ""), ROLE_SYSTEM_GRAPHIC, ""},
         {Add<CCustomStatic>(place, BS_GROUPBOX, "&Tanks"), ROLE_SYSTEM_GROUPING, "Tanks"},
-        {Add<CColoredGroupBox>(place, 0, "Frame"), ROLE_SYSTEM_GROUPING, "Frame"},
-        {Add<CColorStatic>(place, 0, "Red"), ROLE_SYSTEM_GRAPHIC, "Red"},
         {bar, ROLE_SYSTEM_STATUSBAR, "Ready"},
     };
     for (const auto& [window, role, name] : statics)

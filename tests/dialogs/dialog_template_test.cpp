@@ -1,6 +1,5 @@
 #include "CustomDialogTemplate.h"
 #include "dialogs/dialog_for_tests.h"
-#include "support/forms.h"
 
 #include <cstring>
 
@@ -148,22 +147,6 @@ TEST_F(DialogTemplateTest, TruncatedTemplatesAreRefusedAndDamagedOnesDoNoHarm)
     BYTE* const copy = guarded.Of(future.Data(), future.Size());
     copy[0] = 2;
     EXPECT_FALSE(CCustomDialogTemplate().Load(copy, future.Size())) << "an unknown version";
-}
-
-TEST_F(DialogTemplateTest, WhatFailsLeavesNothingAndNothingMovesWhileItIsLocked)
-{
-    CCustomDialogTemplate loaded;
-    EXPECT_FALSE(loaded.ChangeTemplateForOB());
-    EXPECT_TRUE(loaded.Load(UINT(IDD_TEST_FORM), ::GetModuleHandle(nullptr)));
-    EXPECT_FALSE(loaded.Load(UINT(IDD_TEST_FORM), ::GetModuleHandle("user32")));
-    EXPECT_EQ(loaded.Lock(), nullptr);
-
-    ASSERT_TRUE(loaded.Load(IDD_TEST_FORM));
-    loaded.Lock();
-    EXPECT_FALSE(loaded.ChangeTemplateForOB() || loaded.Load(IDD_TEST_FORM));
-    loaded.Unlock();
-    EXPECT_TRUE(loaded.ChangeTemplateForOB());
-    EXPECT_FALSE(loaded.ChangeTemplateForOB()) << "once only";
 }
 
 } // namespace

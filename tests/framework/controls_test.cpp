@@ -1,17 +1,14 @@
 // The classes for the platform's controls: the messages behind less obvious members.
 
 #include <afxcmn.h>
-#include <afxext.h>
 
 #include "support/WindowTest.h"
 
 #include <string>
-#include <utility>
 
 namespace {
 
 const CRect Place(10, 10, 210, 160);
-constexpr UINT ShortString = 60000; // in framework_strings.rc
 
 using Controls = WindowTest;
 
@@ -41,23 +38,4 @@ TEST_F(Controls, TextsOfAnyLengthAndSelectedRowsAreTold)
     EXPECT_EQ(report.GetNextSelectedItem(position), 1);
     EXPECT_EQ(report.GetNextSelectedItem(position), 3);
     EXPECT_EQ(position, nullptr);
-}
-
-TEST_F(Controls, ToolBarSeparatorsTakeNoPictureAndAStyleKeepsTheText)
-{
-    CToolBar bar;
-    ASSERT_TRUE(bar.Create(&Host()));
-    const UINT ids[] = {101, ID_SEPARATOR, 102};
-    ASSERT_TRUE(bar.SetButtons(ids, 3));
-    UINT id = 0;
-    UINT style = 0;
-    int image = -1;
-    bar.GetButtonInfo(2, id, style, image);
-    EXPECT_EQ(image, 1);
-    EXPECT_TRUE(bar.SetButtonText(2, "text"));
-    bar.SetButtonStyle(2, TBBS_CHECKBOX | TBBS_CHECKED | TBBS_DISABLED);
-    EXPECT_STREQ(bar.GetButtonText(2), "text");
-    EXPECT_TRUE(bar.GetToolBarCtrl().IsButtonChecked(102));
-    EXPECT_FALSE(bar.GetToolBarCtrl().IsButtonEnabled(102));
-    bar.DestroyWindow();
 }

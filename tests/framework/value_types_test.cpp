@@ -110,24 +110,3 @@ TEST(Collections, ArraysGrowWhereTheyAreToldAlsoByTheirOwnElements)
         ASSERT_STREQ(texts[index], "a text that is long enough to live on the heap");
     }
 }
-
-TEST(Collections, AMapsKeysMayGoWhileItIsWalked)
-{
-    CMap<CString, LPCTSTR, int, int> map;
-    for (int number = 0; number < 100; ++number)
-    {
-        map.SetAt(std::to_string(number).c_str(), number);
-    }
-    map["7"] = -7;
-    int value = 0;
-    EXPECT_FALSE(map.Lookup("100", value) || map.RemoveKey("100"));
-    int sum = 0;
-    for (POSITION position = map.GetStartPosition(); position != nullptr;)
-    {
-        CString key;
-        map.GetNextAssoc(position, key, value);
-        sum += value;
-        EXPECT_TRUE(map.RemoveKey(key));
-    }
-    EXPECT_EQ(sum, 99 * 100 / 2 - 14);
-}

@@ -43,18 +43,4 @@ TEST(K3ChartTest, HasTheScaleOfItsProjectionAndGivesEachPointBack)
     }
 }
 
-TEST(K3ChartTest, GivesTheNearestPositionOutsideAndShowsNothingThere)
-{
-    const K3Chart globe(K3Chart::Orthographic, 0, 10, 1, Middle);
-    const K3Chart flat(K3Chart::Mercator, 95, 10, -3, Middle); // as far as there is, at its least
-    double latitude = 0, longitude = 0, x = 7, y = 7;
-    EXPECT_FALSE(globe.ToPosition(160, 50, latitude, longitude));
-    EXPECT_NEAR(longitude, 100, 1e-9);
-    EXPECT_FALSE(flat.ToPosition(281, 49, latitude, longitude));
-    EXPECT_NEAR(latitude, 85, 1e-9);
-    EXPECT_NEAR(longitude, -170, 1e-9);
-    EXPECT_FALSE(globe.ToDevice(0, -171, x, y) || flat.ToDevice(86, 10, x, y));
-    EXPECT_EQ(x, 7);
-}
-
 } // namespace
