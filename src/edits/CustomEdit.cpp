@@ -328,9 +328,9 @@ void CCustomEdit::DrawOBNC()
         return;
     }
     m_bars->InvalidateBars();
-    if (!IsWindowVisible())
+    if (!scroll::IsFrameSeen(*this))
     {
-        return; // nothing would reach the screen, and a context takes its time
+        return;
     }
     CWindowDC dc(this);
     const CRect client = scroll::ClientRectInWindow(*this);

@@ -232,17 +232,19 @@ void CCustomDropListCombo::SetHeight(int height)
     const bool sizing = std::exchange(m_sizing, true);
     // A height that it has already is no reason to have a parent erased that waits for its paint.
     const UINT same = height == window.Height() ? SWP_NOREDRAW | SWP_DEFERERASE : 0;
+    bool changed = false; // maybe there and back
     {
         const GivingPlace giving(GetSafeHwnd());
         SetWindowPos(nullptr, 0, 0, window.Width(), height,
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | same);
+        changed = giving.HasPutOff();
     }
     if (!alive)
     {
         return;
     }
     m_sizing = sizing;
-    if (const APPMODE now = COnBoardUIGeneral::GetAppMode(); now != mode)
+    if (const APPMODE now = COnBoardUIGeneral::GetAppMode(); changed || now != mode)
     {
         // What the next one made of the height is overwritten by now.
         if (m_fitted > 0)

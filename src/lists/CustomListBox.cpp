@@ -371,7 +371,8 @@ void CCustomListBox::Bars::GiveSizeBack()
     {
         return;
     }
-    CSize& kept = IsLaidOut() ? m_list.m_onBoardSize : m_list.m_stdSize;
+    const bool onBoard = IsLaidOut();
+    CSize& kept = onBoard ? m_list.m_onBoardSize : m_list.m_stdSize;
     const CSize size = SizeOf(m_list);
     // A host that sizes it takes another width, but for what a list of whole rows, which has lost
     // one of them, has lost of its width on the way: a pixel, which is more on-board.
@@ -383,7 +384,7 @@ void CCustomListBox::Bars::GiveSizeBack()
         m_list.SetWindowPos(nullptr, 0, 0, size.cx, kept.cy,
                             SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
-    if (alive)
+    if (alive && IsLaidOut() == onBoard)
     {
         kept = SizeOf(m_list);
     }

@@ -40,6 +40,9 @@ public:
     GivingPlace& operator=(const GivingPlace&) = delete;
     ~GivingPlace();
 
+    // Whether a change of the mode has come to the child on the way.
+    bool HasPutOff() const { return !m_changes.empty(); }
+
     // False when the child is not being given a place.
     static bool PutOff(HWND child, const ModifyChildWndsData& change);
 

@@ -213,7 +213,7 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
         StripBars();
         SaveRecalculation(*position);
     }
-    if (alive && m_awaitsPlace && !m_following && !frameAlone)
+    if (alive && m_awaitsPlace && !m_following && !frameAlone && !IsPlaceToCome(m_window))
     {
         m_placeComes = true;
         position->flags |= SWP_FRAMECHANGED;
@@ -319,9 +319,9 @@ void BarHost::DrawBar(CDC& dc, int axis)
 
 void BarHost::DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner)
 {
-    if (!m_window.IsWindowVisible())
+    if (!IsFrameSeen(m_window))
     {
-        return; // nothing would reach the screen, and a context takes its time
+        return;
     }
     CWindowDC dc(&m_window);
     const CRect frame = AreaOf(m_window);

@@ -150,6 +150,11 @@ void RecalculateFrameUnpainted(const CWnd& window)
     Recalculate(window, SWP_NOCOPYBITS | SWP_NOREDRAW | SWP_DEFERERASE);
 }
 
+bool IsFrameSeen(const CWnd& window)
+{
+    return window.IsWindowVisible() != FALSE;
+}
+
 bool ChangesFrameAlone(const WINDOWPOS& position)
 {
     constexpr UINT frameAlone = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;

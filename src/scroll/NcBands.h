@@ -69,6 +69,10 @@ bool ChangesFrameAlone(const WINDOWPOS& position);
 // frame recalculated: saves that when the frame is all that changes.
 void SaveRecalculation(WINDOWPOS& position);
 
+// Whether what is painted on the frame now would reach the screen. Else it is not worth the
+// context, which takes its time: the window paints its frame when it is shown.
+bool IsFrameSeen(const CWnd& window);
+
 // Whether the region of a WM_NCPAINT (screen coordinates, or 1 for everything) reaches out of the
 // client area. The message also comes along with paints of the client area alone.
 bool TouchesFrame(const CWnd& window, HRGN updated);

@@ -168,9 +168,9 @@ void TreeBars::Draw(bool force)
 // The border, and the corner between two bars.
 void TreeBars::DrawBorder()
 {
-    if (!Window().IsWindowVisible())
+    if (!scroll::IsFrameSeen(Window()))
     {
-        return; // nothing would reach the screen, and a context takes its time
+        return;
     }
     CWindowDC dc(&Window());
     const CRect window = AreaOf(Window());

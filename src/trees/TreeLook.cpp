@@ -39,7 +39,7 @@ bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
             // The frame is another one by now, and the platform has been told of the size in it.
             CRect client;
             m_owner.Window().GetClientRect(&client);
-            if (client.Size() != CSize(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)))
+            if (WORD(client.right) != LOWORD(lParam) || WORD(client.bottom) != HIWORD(lParam))
             {
                 result = 0;
                 return true;
