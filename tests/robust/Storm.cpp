@@ -193,7 +193,7 @@ void Storm::Ask(HWND window)
         const int what = Between(0, 3);
         Note(WM_GETOBJECT, WPARAM(what), LPARAM(child));
         PlaceOf(*object, child);
-        Read(*object, child);
+        (void)Read(*object, child);
         what == 0   ? object->accDoDefaultAction(Child(child))
         : what != 1 ? S_OK
                     : object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(child));
