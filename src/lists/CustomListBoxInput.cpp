@@ -98,6 +98,16 @@ void CCustomListBox::OnMouseMove(UINT flags, CPoint point)
 void CCustomListBox::OnLButtonDown(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
+    if (::GetFocus() != GetSafeHwnd())
+    {
+        // The platform would take it in the middle of the press and go on with a list that has
+        // ended by what the last one with the focus tells.
+        SetFocus();
+        if (!alive)
+        {
+            return;
+        }
+    }
     CListBox::OnLButtonDown(flags, point);
     if (alive && FollowMode())
     {

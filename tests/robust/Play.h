@@ -113,6 +113,7 @@ constexpr Forbidden PlatformFaults[] = {
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDTRACK)}, 0, false},
     // In the middle of a click, with which it goes on.
     {WC_HEADER, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}, 0, false},
+    {WC_HEADER, {WM_NOTIFY, UINT(HDN_BEGINTRACK)}, 0, false},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCHANGING)}},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCHANGED)}},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}},
@@ -332,7 +333,9 @@ template <class Base> struct Hearing : Mortal<Base>
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        return Play::Tell(message, wParam, lParam) ? 0 : Base::WindowProc(message, wParam, lParam);
+        return Play::Tell(message, wParam, lParam)
+                   ? 0
+                   : Mortal<Base>::WindowProc(message, wParam, lParam);
     }
 };
 

@@ -150,6 +150,7 @@ std::vector<Subject> MakeSubjects()
                             return tree;
                         }});
     std::vector<Subject> subjects;
+    subjects.reserve(controls.size());
     for (const Control& control : controls)
     {
         subjects.push_back({control.name,
