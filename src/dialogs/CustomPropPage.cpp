@@ -42,7 +42,7 @@ void CCustomPropPage::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
     const WindowAlive alive(*this);
     const HWND page = GetSafeHwnd();
-    const bool shown = page != nullptr && ShownPage(page) == page;
+    const bool shown = newMode != oldMode && page != nullptr && ShownPage(page) == page;
     if (!alive)
     {
         return;

@@ -159,10 +159,6 @@ private:
     bool m_held; // a hidden window would be shown by it
 };
 
-} // namespace
-
-namespace {
-
 // Whether the frame that the window would calculate now is another one than it has. Between two
 // on-board modes it is not, and to have it calculated by the system takes long for a window of its
 // own.
