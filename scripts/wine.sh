@@ -43,6 +43,9 @@ start_display() {
     fi
     rm -f "$wine_folder/display.$$.log"
     export DISPLAY=:$number
+    # A desktop's display has settings. Of one that has none, and no file of them, the libraries under
+    # Wine look for that file several times for each font that a program selects.
+    export XENVIRONMENT=$root/scripts/display.resources
     unset WAYLAND_DISPLAY XAUTHORITY
 }
 
