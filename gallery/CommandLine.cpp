@@ -78,7 +78,7 @@ CString CommandLine::Usage()
            "  --mode NAME        starts in this display mode, not in the one used last;\r\n"
            "                     with --pictures, takes no other\r\n"
            "  --settings FILE    keeps there what the next run starts with\r\n"
-           "  --pictures FOLDER  writes a picture of each page in each mode and ends\r\n"
+           "  --pictures FOLDER  writes pictures of each page in each mode and ends\r\n"
            "\r\n"
            "F5 to F9 or Ctrl+1 to Ctrl+5 switch the display mode.\r\n"
            "\r\n"

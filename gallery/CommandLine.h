@@ -12,7 +12,7 @@
 //
 // --page opens a page by its name, --mode starts in a display mode; without it the gallery starts
 // in the one that its window was last switched to, which it keeps in the settings. --settings names
-// their file, instead of one of the user's. --pictures writes a picture of each page in each mode,
+// their file, instead of one of the user's. --pictures writes pictures of each page in each mode,
 // or of the page and in the mode named, and ends; such a run neither reads nor keeps settings.
 // --help prints this. What cannot be understood is said on the standard error output, with the
 // names that there are, and ends the program with code 2.

@@ -150,8 +150,9 @@ protected:
     bool m_hasModalChild = false; // set by CheckForChildDialog, for derived classes
     std::vector<CWnd*> m_controls;
     bool m_showEntire = false; // while it is dragged, all of the dialog stays in the host's area
-    // Lays itself out when its frame is calculated for a mode, which is then done for each one.
-    bool m_framesEachMode = false;
+    // Null, or places the controls by rules of the dialog's own once a change of the mode has
+    // scaled them; the dialog is repainted after that.
+    void (*m_layOutForMode)(CCustomDialog& dialog) = nullptr;
 
 private:
     bool m_initialising = false; // and scales the children at the end of that

@@ -107,11 +107,11 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 public:
+    static IEFB* m_efb;        // the host's, stored by it here or by SetEfb; null: none
     static UINT m_timerid;     // auto-repeat
     static UINT m_timerperiod; // milliseconds
 
 protected:
-    static IEFB* m_efb;
     static CPen m_OutlinePen; // for derived classes
     static CFont m_OBFont;
     static CFont m_StdFont;

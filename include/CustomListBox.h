@@ -16,7 +16,8 @@
 // box, in any mode, and follows mode changes both ways.
 //
 // The vertical bar appears when there are more rows than fit, whatever the style says (not in a
-// list of several columns); the horizontal one only in a list made with WS_HSCROLL.
+// list of several columns); the horizontal one only in a list of several columns or with
+// WS_HSCROLL.
 class ONBOARDUI_API CCustomListBox : public CListBox
 {
     DECLARE_DYNAMIC(CCustomListBox)
@@ -164,6 +165,11 @@ protected:
     bool IsSelected(int index) { return Ask(LB_GETSEL, WPARAM(index)) > 0; }
     // Their indexes, rising; in a list that selects one row at most that one.
     std::vector<int> SelectedRows();
+    // Before a press is worked. The platform would take the focus in the middle of it and go on
+    // with a list that has ended by what the last one with the focus tells. Whether it is there.
+    bool TakeFocus();
+    // A press as the platform works it. It may end the list.
+    void PressRow(UINT flags, CPoint point);
     // Sends the parent WM_COMMAND with this code. It may end the list.
     void NotifyParent(UINT code);
 
@@ -241,8 +247,6 @@ private:
 
     int m_hostExtent = 0;         // horizontal extent that the host set, pixels
     bool m_standardKnown = false; // the list was laid out for the standard mode before
-    CSize m_stdSize;              // of the window, in the standard mode; 0: not known
-    CSize m_onBoardSize;          // and in an on-board mode
     int m_stdItemHeight = 0;      // pixels, in the standard mode; 0: not known
     int m_averageWidth = 0;       // of a character of the font; 0: not measured
     bool m_made = false;          // made as this object, so that its style was seen whole

@@ -92,7 +92,8 @@ protected:
     virtual void HandleMouseMoveScroll(const CPoint& point);
 
     // @{
-    // Scroll the drawing by the difference of two positions of a bar, or by a scroll code.
+    // Scroll the drawing by the difference of two positions of a bar, no further than the bar goes,
+    // or by a scroll code.
     virtual void PerformHScroll(int newPos, int oldPos);
     virtual void PerformHScroll(int code);
     virtual void PerformVScroll(int newPos, int oldPos);

@@ -67,6 +67,7 @@ protected:
 
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
+    afx_msg void OnWindowPosChanging(WINDOWPOS* position);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hitTest, UINT message);
     afx_msg void OnCaptureChanged(CWnd* taker);
@@ -103,6 +104,7 @@ private:
     friend class CCustomListCtrl;
 
     HWND ListWindow() const;
+    int StripWidth() const;
     CCustomListCtrl* List() const;
     LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     bool ItemRect(int item, CRect& rect) const;

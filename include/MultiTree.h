@@ -102,6 +102,8 @@ public:
     virtual void DragEnded(HWND accepted);
     // How far the pointer moves, in pixels, before a press becomes a drag.
     virtual CSize GetDragThreshold();
+    // Pixels of the cursor's picture; the image of a drag may lie beside it.
+    CSize GetCursorSize() const;
 
     // Sends the parent a notification from this window and gives its answer; 0 without a parent.
     int _SendNotify(NMHDR* header);

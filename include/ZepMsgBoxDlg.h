@@ -1,17 +1,18 @@
 #pragma once
 
 #include "CustomDialog.h"
+#include "CustomEdit.h"
 #include "CustomPushbutton.h"
 
 #include <memory>
 #include <optional>
 #include <vector>
 
-namespace dialogs {
+namespace windows {
 struct MessageLayout;
 struct MessagePremises;
 class MessageText;
-} // namespace dialogs
+} // namespace windows
 
 // The library's message box: a modal, topmost dialog with an icon, a text and a row of buttons. It
 // sizes itself to the text within an area, shows a longer text with a scroll bar, and follows the
@@ -74,7 +75,6 @@ protected:
     afx_msg void OnSysColorChange();
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnWindowPosChanging(WINDOWPOS* position);
-    afx_msg void OnWindowPosChanged(WINDOWPOS* position);
     DECLARE_MESSAGE_MAP()
 
     unsigned int m_style;
@@ -82,7 +82,7 @@ protected:
     CString m_message;
     CString m_displayText; // the message, broken into lines
     CStatic m_icon;
-    std::unique_ptr<dialogs::MessageText> m_text;
+    std::unique_ptr<CCustomEdit> m_text; // of a class of the library; not to be replaced
     std::vector<std::unique_ptr<CCustomPushbutton>> m_buttons; // from left to right
     int m_iconId = 0;
     // In pixels of the mode.
@@ -101,18 +101,23 @@ private:
     bool m_splitThemed = false;
     int m_standardTextWidth = 0; // of the text's control in the template
     std::optional<APPMODE> m_laidOutFor;
-    CString m_shownText;   // as the edit was last given it
-    bool m_sizing = false; // to the lines that the text has, or not yet initialised
+    bool m_layingOut = false;
+    bool m_layoutDue = false; // also anew, for a mode that has changed on the way
+    CString m_shownText;      // as the edit was last given it
+    bool m_sizing = false;    // to the lines that the text has, or not yet initialised
     bool m_beingCreated = false;
-    std::unique_ptr<dialogs::MessageLayout> m_opensWith; // what the box was created for
+    std::unique_ptr<windows::MessageLayout> m_opensWith; // what the box was created for
 
+    windows::MessageText& Text();
     void OpenInPlace(WINDOWPOS& position);
-    dialogs::MessagePremises PremisesFor(const CString& title, int buttons, const CSize& window,
+    windows::MessagePremises PremisesFor(const CString& title, int buttons, const CSize& window,
                                          const CSize& client) const;
-    dialogs::MessageLayout LayOut(const dialogs::MessagePremises& premises);
+    windows::MessageLayout LayOut(const windows::MessagePremises& premises);
     int TemplateTextWidth() const;
     int ButtonCount() const;
     void FollowMode();
+    void LayOutUntilSettled();
+    void LayOutForMode();
     void TakeLook();
     void ShowIcon();
     void ShowText();

@@ -12,10 +12,7 @@
 
 namespace {
 
-class TestApp : public CWinApp
-{};
-
-TestApp theApp;
+CWinApp theApp;
 
 // Whether the heaps of the platform and of the run-time library are undamaged where nothing has run
 // into it. They find most when they check their blocks, as in the preset "heap".

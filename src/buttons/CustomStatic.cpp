@@ -172,10 +172,15 @@ void CCustomStatic::DrawOBNC()
     {
         return;
     }
-    if ((GetExStyle() & WS_EX_CLIENTEDGE) != 0)
+    const HWND window = m_hWnd;
+    // Asked for by hand: there may be none to be had, and then there is no border.
+    const HDC context = (GetExStyle() & WS_EX_CLIENTEDGE) != 0 ? ::GetWindowDC(window) : nullptr;
+    if (context != nullptr)
     {
-        CWindowDC dc(this);
+        CDC dc;
+        dc.Attach(context);
         DrawRings(dc, AreaOf(*this), palette::StaticBorder, palette::StaticBorder);
+        ::ReleaseDC(window, dc.Detach());
     }
     Invalidate();
 }

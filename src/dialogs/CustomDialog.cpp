@@ -92,8 +92,12 @@ void CCustomDialog::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     const HFONT font = StandardFont(); // the dialog may be asked, and end
     if (alive)
     {
-        dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles,
-                            {font, m_initialising, m_framesEachMode});
+        dialogs::Children children = {font, m_initialising, nullptr};
+        if (m_layOutForMode != nullptr)
+        {
+            children.layOut = [this] { m_layOutForMode(*this); };
+        }
+        dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles, children);
     }
 }
 

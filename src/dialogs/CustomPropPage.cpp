@@ -30,7 +30,7 @@ namespace {
 // The page that is shown on the sheet of a page; null for one without a sheet.
 HWND ShownPage(HWND page)
 {
-    const HWND parent = page == nullptr ? nullptr : ::GetParent(page);
+    const HWND parent = ::GetParent(page);
     return DYNAMIC_DOWNCAST(CPropertySheet, CWnd::FromHandlePermanent(parent)) == nullptr
                ? nullptr
                : reinterpret_cast<HWND>(::SendMessage(parent, PSM_GETCURRENTPAGEHWND, 0, 0));

@@ -177,15 +177,6 @@ bool IsFrameDue(const CWnd& window)
     return alive && due != client;
 }
 
-// For a window that is repainted afterwards: until then nothing is, nor what stands around it.
-void RecalculateFrame(HWND window)
-{
-    constexpr UINT Unpainted = SWP_NOCOPYBITS | SWP_NOREDRAW | SWP_DEFERERASE;
-    ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
-                   SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED |
-                       Unpainted);
-}
-
 } // namespace
 
 void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
@@ -202,6 +193,12 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
         // Or nothing would be left to move or close it by.
         window.ModifyStyle(0, std::exchange(taken, 0));
     }
+    const auto followInFrame = [&] {
+        if (alive && IsFrameDue(window))
+        {
+            scroll::RecalculateFrameUnpainted(window);
+        }
+    };
     if (alive && !children.scaledLater)
     {
         const PaintingHeld held(window);
@@ -224,10 +221,15 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
         {
             SwapFonts(handle, windows, onBoard, children.standardFont);
         }
+        followInFrame(); // of a window of its own it takes longer once it is seen again
     }
-    if (alive && (children.frameEachTime || IsFrameDue(window)))
+    else
     {
-        RecalculateFrame(handle);
+        followInFrame();
+    }
+    if (alive && children.layOut != nullptr)
+    {
+        children.layOut();
     }
     if (alive)
     {

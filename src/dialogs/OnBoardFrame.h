@@ -9,6 +9,7 @@
 
 #include <afxwin.h>
 
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -39,9 +40,8 @@ struct Children
     HFONT standardFont = nullptr;
     // The window is being initialised and scales them at the end of that.
     bool scaledLater = false;
-    // The window has its frame calculated for every mode, also when it stays as it is: it lays
-    // itself out when it hears of that.
-    bool frameEachTime = false;
+    // Called once they are scaled and the frame is the mode's, before the window is repainted.
+    std::function<void()> layOut;
 };
 
 // As they are for a window whose own font is theirs in the standard mode. It is asked for its font

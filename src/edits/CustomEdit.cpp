@@ -350,7 +350,7 @@ void CCustomEdit::DrawOBNC()
     DrawOBScrollBars(&dc);
     if (alive)
     {
-        Invalidate();
+        m_bars->InvalidateClient();
     }
 }
 

@@ -85,9 +85,22 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_bars->ForgetFirstLine();
     }
+    if (alive && message == WM_PAINT)
+    {
+        m_bars->BeginPaint();
+    }
+    else if (alive && message == WM_ERASEBKGND)
+    {
+        m_bars->Erased();
+    }
     if (!alive || effect == Effect::None)
     {
-        return alive ? CEdit::WindowProc(message, wParam, lParam) : 0;
+        const LRESULT result = alive ? CEdit::WindowProc(message, wParam, lParam) : 0;
+        if (alive && message == WM_PAINT)
+        {
+            m_bars->EndPaint();
+        }
+        return result;
     }
     const LRESULT result = CEdit::WindowProc(message, wParam, lParam);
     if (alive && message == WM_SIZE)

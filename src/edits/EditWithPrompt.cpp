@@ -26,21 +26,17 @@ EditWithPrompt::EditWithPrompt()
 
 void EditWithPrompt::PreSubclassWindow()
 {
+    CEdit::PreSubclassWindow();
     m_showingPrompt = m_prompt.IsEmpty() ? 0 : 1; // each window of the object begins with it
     if (m_showingPrompt)
     {
         // The messages are not ours yet: an edit that exists takes them as any text and selection,
-        // and one that is being made gets the prompt when it is ready for a text.
-        const WindowAlive alive(*this);
+        // and one that is being made gets the prompt when it is ready for a text. The parent is
+        // told of the text and may end the edit.
         const HWND window = m_hWnd;
         ::SetWindowText(window, m_prompt);
         ::SendMessage(window, EM_SETSEL, 0, 0);
-        if (!alive)
-        {
-            return; // the parent was told of the text
-        }
     }
-    CEdit::PreSubclassWindow();
 }
 
 int EditWithPrompt::OnCreate(LPCREATESTRUCT cs)

@@ -347,7 +347,7 @@ void CCustomListCtrl::OnNcPaint()
 void CCustomListCtrl::DrawNC()
 {
     m_bars->DrawBorder(m_OutlinePen, m_OutlineBrush, palette::ListCorner);
-    Invalidate();
+    m_bars->InvalidateClient();
     DrawBars();
 }
 

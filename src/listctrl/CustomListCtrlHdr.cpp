@@ -23,6 +23,7 @@ IMPLEMENT_DYNCREATE(CCustomListCtrlHdr, CHeaderCtrl)
 BEGIN_MESSAGE_MAP(CCustomListCtrlHdr, CHeaderCtrl)
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
+    ON_WM_WINDOWPOSCHANGING()
     ON_WM_NCHITTEST()
     ON_WM_SETCURSOR()
     ON_WM_CAPTURECHANGED()
@@ -112,6 +113,26 @@ void CCustomListCtrlHdr::OBResetScroll(int relayout)
     }
 }
 
+// As far to the right as the shift brings columns into sight: the platform hits nothing beyond the
+// window's own edge.
+int CCustomListCtrlHdr::StripWidth() const
+{
+    CRect client(0, 0, 0, 0);
+    ::GetClientRect(ListWindow(), &client);
+    return int(client.right - std::min<LONG>(0, m_offset.x));
+}
+
+// For most that happens to its list the platform makes the header as wide as that alone.
+void CCustomListCtrlHdr::OnWindowPosChanging(WINDOWPOS* position)
+{
+    const WindowAlive alive(*this);
+    CHeaderCtrl::OnWindowPosChanging(position);
+    if (alive && m_offset.x < 0 && (position->flags & SWP_NOSIZE) == 0 && ListWindow() != nullptr)
+    {
+        position->cx = StripWidth();
+    }
+}
+
 void CCustomListCtrlHdr::RepositionHeaderStrip()
 {
     if (GetSafeHwnd() == nullptr || m_repositioning)
@@ -151,12 +172,8 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
     }
     if (alive && list != nullptr && (::GetWindowLongPtr(list, GWL_STYLE) & LVS_NOCOLUMNHEADER) == 0)
     {
-        // As far to the right as the shift brings columns into sight: the platform hits nothing
-        // beyond the window's own edge.
-        CRect client;
-        ::GetClientRect(list, &client);
         const CRect now = PlaceIn(list, GetSafeHwnd());
-        const CRect strip(0, now.top, client.right - std::min<LONG>(0, m_offset.x), now.bottom);
+        const CRect strip(0, now.top, StripWidth(), now.bottom);
         if (strip != now)
         {
             SetWindowPos(nullptr, strip.left, strip.top, strip.Width(), strip.Height(),

@@ -2,6 +2,7 @@
 
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
@@ -26,11 +27,14 @@ void CCustomListCtrl::OnPaint()
         return;
     }
     const WindowAlive alive(*this);
+    m_bars->BeginPaint();
     CPaintDC dc(this);
     if (!alive)
     {
         return;
     }
+    m_bars->Erased(); // all of it is painted
+    m_bars->EndPaint();
     CRect client;
     GetClientRect(&client);
     const int top = HeaderBottom();

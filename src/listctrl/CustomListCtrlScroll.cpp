@@ -181,6 +181,10 @@ void CCustomListCtrl::PerformVScroll(int newPos, int oldPos)
     {
         ShiftPixels(int(m_drawOffset.y) - before);
     }
+    if (alive && m_vBar.GetScrollPos() != newPos)
+    {
+        MoveTo(SB_VERT, m_vBar.GetScrollPos()); // the bar has no such position
+    }
 }
 
 void CCustomListCtrl::PerformVScroll(int code)
@@ -206,6 +210,10 @@ void CCustomListCtrl::PerformHScroll(int newPos, int oldPos)
     if (alive)
     {
         Invalidate(FALSE);
+    }
+    if (alive && m_hBar.GetScrollPos() != newPos)
+    {
+        MoveTo(SB_HORZ, m_hBar.GetScrollPos());
     }
 }
 

@@ -66,13 +66,7 @@ int CCustomChecklistBox::RowChangedAt(CPoint point)
 void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    if (::GetFocus() != GetSafeHwnd())
-    {
-        // The parent is told of it and may end the list, which the platform's list box would not
-        // stand if it took the focus itself, in the middle of the click.
-        SetFocus();
-    }
-    const int index = alive ? RowChangedAt(point) : -1;
+    const int index = TakeFocus() ? RowChangedAt(point) : -1;
     if (!alive)
     {
         return;
@@ -86,7 +80,7 @@ void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
     }
     else
     {
-        CCustomListBox::OnLButtonDown(flags, point);
+        PressRow(flags, point);
     }
     // The parent may have been told of a selection; the rows may be others.
     if (changes && alive && CanChange(index))

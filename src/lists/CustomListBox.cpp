@@ -11,7 +11,6 @@
 #include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
-#include <cstdlib>
 #include <utility>
 
 namespace {
@@ -146,8 +145,8 @@ void CCustomListBox::BeginAfresh()
     m_made = m_refitting = false;
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
     m_bars->filling.BeginAfresh();
-    m_bars->givesPlaceBack = false;
-    m_bars->ForgetSize();
+    m_bars->givesPlaceBack = m_bars->layingOut = false;
+    m_bars->size.BeginAfresh();
     HideBars();
 }
 
@@ -177,22 +176,11 @@ bool CCustomListBox::FollowMode()
     return m_bars->Follow();
 }
 
-namespace {
-
-CSize SizeOf(const CWnd& window)
-{
-    CRect rect;
-    window.GetWindowRect(&rect);
-    return rect.Size();
-}
-
-} // namespace
-
 void CCustomListBox::EnterOnBoard()
 {
     const WindowAlive alive(*this);
     m_hostExtent = Ask(LB_GETHORIZONTALEXTENT);
-    m_bars->KeepSize(false);
+    m_bars->size.Keep(false, m_standardKnown);
     m_stdItemHeight = m_standardKnown ? Ask(LB_GETITEMHEIGHT) : 0;
     m_bars->standardHeights.clear();
     if (m_standardKnown && (GetStyle() & LBS_OWNERDRAWVARIABLE) != 0)
@@ -246,10 +234,30 @@ void CCustomListBox::EnterOnBoard()
 void CCustomListBox::Bars::LayOut()
 {
     const WindowAlive alive(m_list);
+    const bool outer = std::exchange(layingOut, true);
     scroll::RecalculateFrame(m_list, false);
     if (alive)
     {
         Finish();
+    }
+    if (alive)
+    {
+        layingOut = outer;
+    }
+}
+
+void CCustomListBox::Bars::Sized()
+{
+    if (!IsBeingPlaced(m_list))
+    {
+        if (!IsFollowing() && !layingOut)
+        {
+            size.Sized();
+        }
+    }
+    else if (!IsPlaceToCome(m_list))
+    {
+        size.GiveBack();
     }
 }
 
@@ -274,14 +282,14 @@ void CCustomListBox::Bars::FinishEntering()
     {
         m_list.MirrorContent();
         placeBar = m_list.m_hBar.GetScrollPos();
-        GiveSizeBack();
+        size.GiveBack();
     }
 }
 
 void CCustomListBox::LeaveOnBoard()
 {
     const WindowAlive alive(*this);
-    m_bars->KeepSize(true);
+    m_bars->size.Keep(true, m_standardKnown);
     m_bars->givesPlaceBack = m_bars->standardPlace > 0 && m_hBar.GetScrollPos() == m_bars->placeBar;
     m_bars->End();
     HideBars();
@@ -326,7 +334,7 @@ void CCustomListBox::Bars::FinishLeaving()
     TakeNeedlessBars(m_list);
     if (goesOn())
     {
-        GiveSizeBack();
+        size.GiveBack();
     }
     if (goesOn() && std::exchange(givesPlaceBack, false))
     {
@@ -341,63 +349,6 @@ void CCustomListBox::Bars::FinishLeaving()
     if (goesOn())
     {
         m_list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
-    }
-}
-
-void CCustomListBox::Bars::KeepSize(bool onBoard)
-{
-    // On the way from one mode to the next it has no size of its own.
-    if (std::exchange(m_sizeDue, true))
-    {
-        return;
-    }
-    const CSize size = SizeOf(m_list);
-    if (!onBoard)
-    {
-        m_list.m_stdSize = m_list.m_standardKnown ? size : CSize();
-        m_list.m_onBoardSize = CSize();
-        return;
-    }
-    if (size != m_list.m_onBoardSize)
-    {
-        m_list.m_stdSize = CSize(); // its host has sized it
-    }
-    m_list.m_onBoardSize = size;
-}
-
-void CCustomListBox::Bars::GiveSizeBack()
-{
-    if (!std::exchange(m_sizeDue, false))
-    {
-        return;
-    }
-    const bool onBoard = IsLaidOut();
-    CSize& kept = onBoard ? m_list.m_onBoardSize : m_list.m_stdSize;
-    const CSize size = SizeOf(m_list);
-    // A host that sizes it takes another width, but for what a list of whole rows, which has lost
-    // one of them, has lost of its width on the way: a pixel, which is more on-board.
-    constexpr int MostLost = 3;
-    const int lost = (m_list.GetStyle() & LBS_NOINTEGRALHEIGHT) != 0 ? 0 : MostLost;
-    const WindowAlive alive(m_list);
-    if (kept.cy > 0 && kept.cy != size.cy && std::abs(size.cx - kept.cx) <= lost)
-    {
-        m_list.SetWindowPos(nullptr, 0, 0, size.cx, kept.cy,
-                            SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-    }
-    if (alive && IsLaidOut() == onBoard)
-    {
-        kept = SizeOf(m_list);
-    }
-}
-
-void CCustomListBox::Bars::RecalculateFrame()
-{
-    const WindowAlive alive(m_list);
-    const bool ours = SizeOf(m_list) == m_list.m_onBoardSize;
-    scroll::RecalculateFrame(m_list, false);
-    if (alive && ours && IsLaidOut())
-    {
-        m_list.m_onBoardSize = SizeOf(m_list);
     }
 }
 
@@ -425,7 +376,7 @@ void CCustomListBox::OnWindowPosChanging(WINDOWPOS* position)
     m_bars->WindowPosChanging(position);
     if (alive && IsPlaceToCome(*this))
     {
-        m_bars->KeepSize(m_bars->IsLaidOut());
+        m_bars->size.Keep(m_bars->IsLaidOut(), m_standardKnown);
     }
 }
 
@@ -437,28 +388,27 @@ void CCustomListBox::OnSize(UINT type, int width, int height)
     {
         return;
     }
-    // By now the platform may have cut the list to whole rows.
-    if (m_bars->TakePlace())
+    const bool came = m_bars->TakePlace();
+    if (came)
     {
-        m_bars->Finish();
+        m_bars->Finish(); // by now the platform may have cut the list to whole rows
     }
-    else if (IsBeingPlaced(*this) && !IsPlaceToCome(*this))
+    if (alive && FollowMode())
     {
-        m_bars->GiveSizeBack();
+        ResizeOBScrollBars();
+        if (alive)
+        {
+            MirrorContent();
+            DrawOBBorders();
+        }
+        if (alive)
+        {
+            DrawOBScrollBars();
+        }
     }
-    if (!alive || !FollowMode())
+    if (alive && !came)
     {
-        return;
-    }
-    ResizeOBScrollBars();
-    if (alive)
-    {
-        MirrorContent();
-        DrawOBBorders();
-    }
-    if (alive)
-    {
-        DrawOBScrollBars();
+        m_bars->Sized(); // with the bars that it calls for
     }
 }
 

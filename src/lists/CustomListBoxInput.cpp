@@ -1,6 +1,7 @@
 // The list box: pointer, wheel and keys.
 
 #include "CustomListBox.h"
+#include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
 #include "modes/WindowAlive.h"
 
@@ -95,19 +96,28 @@ void CCustomListBox::OnMouseMove(UINT flags, CPoint point)
     }
 }
 
-void CCustomListBox::OnLButtonDown(UINT flags, CPoint point)
+bool CCustomListBox::TakeFocus()
 {
     const WindowAlive alive(*this);
     if (::GetFocus() != GetSafeHwnd())
     {
-        // The platform would take it in the middle of the press and go on with a list that has
-        // ended by what the last one with the focus tells.
         SetFocus();
-        if (!alive)
-        {
-            return;
-        }
     }
+    return bool(alive);
+}
+
+void CCustomListBox::OnLButtonDown(UINT flags, CPoint point)
+{
+    // The list of a platform's combo leaves the focus to the combo, which closes it otherwise.
+    if (!COnBoardUIGeneral::InOnBoardMode() || (GetStyle() & LBS_COMBOBOX) != 0 || TakeFocus())
+    {
+        PressRow(flags, point);
+    }
+}
+
+void CCustomListBox::PressRow(UINT flags, CPoint point)
+{
+    const WindowAlive alive(*this);
     CListBox::OnLButtonDown(flags, point);
     if (alive && FollowMode())
     {

@@ -45,7 +45,7 @@ void CCustomListBox::UpdateScrollData()
             Needed(axis) = false;
             Bar(axis).ShowScrollBar(FALSE);
         }
-        m_bars->RecalculateFrame();
+        m_bars->size.RecalculateFrame();
         if (alive)
         {
             m_refitting = false;
@@ -204,6 +204,6 @@ void CCustomListBox::ShowBar(int axis, bool needed)
     {
         // The new client size comes back as WM_SIZE, which places the bars. Last: it leaves our
         // code.
-        m_bars->RecalculateFrame();
+        m_bars->size.RecalculateFrame();
     }
 }

@@ -3,6 +3,7 @@
 // What the list box does in its own way with its bars: a press becomes scroll messages to itself.
 
 #include "CustomListBox.h"
+#include "lists/KeptSize.h"
 #include "modes/WindowAlive.h"
 #include "scroll/BarHost.h"
 #include "scroll/Filling.h"
@@ -18,10 +19,12 @@ public:
                          .repeatPeriod = m_timerperiod,
                          .waitTimer = &m_timerInitialWaitID,
                          .waitPeriod = &m_timerInitialWaitPeriod})
+        , size(list, *this)
         , m_list(list)
     {}
 
     scroll::Filling filling{*this};
+    lists::KeptSize size;
 
     // As the standard mode had it, to be given back as long as nobody has changed it meanwhile: the
     // heights of rows that differ, and the place sideways (pixels, or the first row of columns)
@@ -31,19 +34,13 @@ public:
     int placeBar = 0;
     bool givesPlaceBack = false; // and has not yet
     int scrolledPixels = 0;      // sideways, in the standard mode
+    bool layingOut = false;      // so that a new size is not the host's
 
     // The rest of entering or leaving a mode, in the new frame.
     void Finish();
 
-    // Before the list leaves a kind of mode: it is as large again when that comes back, unless its
-    // host sizes it meanwhile. The platform cuts a list to whole rows whenever its frame changes,
-    // and would cut it once more each time.
-    void KeepSize(bool onBoard);
-    void ForgetSize() { m_sizeDue = false; }
-    // In the place for the mode of the moment.
-    void GiveSizeBack();
-    // For bars that come or go: a size that the list is cut to by that is not its host's.
-    void RecalculateFrame();
+    // WM_SIZE in a place that no change of the mode waits for.
+    void Sized();
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
@@ -53,7 +50,6 @@ public:
 
 private:
     CCustomListBox& m_list;
-    bool m_sizeDue = false; // kept, and not given back yet
 
     void FinishEntering();
     void FinishLeaving();

@@ -342,7 +342,6 @@ private:
 
 std::vector<HWND> RestyleChildren(HWND window, APPMODE newMode, APPMODE oldMode, BeforeChild before)
 {
-    // Without a window the enumeration would visit every top-level window of the desktop.
     if (newMode == oldMode || window == nullptr)
     {
         return {};

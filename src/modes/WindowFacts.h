@@ -5,7 +5,6 @@
 #include <afxwin.h>
 
 #include <span>
-#include <utility>
 #include <vector>
 
 // The whole window as its own device context has it, from (0, 0).
@@ -38,25 +37,15 @@ inline bool IsOfClass(HWND window, const char* wanted)
 // among them.
 inline std::vector<HWND> ChildrenNow(HWND parent)
 {
-    struct Collecting
+    // One after the other and not by the system's enumeration, which asks for the children of each
+    // child too.
+    std::vector<HWND> children;
+    for (HWND child = ::GetWindow(parent, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT))
     {
-        HWND parent;
-        std::vector<HWND> children;
-    } collecting = {parent, {}};
-    const auto collect = [](HWND child, LPARAM data) -> BOOL {
-        auto& now = *reinterpret_cast<Collecting*>(data);
-        if (::GetParent(child) == now.parent) // the enumeration goes deeper
-        {
-            now.children.push_back(child);
-        }
-        return TRUE;
-    };
-    // One question to the system for all. Without a parent it would be about the whole desktop.
-    if (parent != nullptr)
-    {
-        ::EnumChildWindows(parent, collect, reinterpret_cast<LPARAM>(&collecting));
+        children.push_back(child);
     }
-    return std::move(collecting.children);
+    return children;
 }
 
 // Does something to each of some collected windows that is still there when its turn comes.

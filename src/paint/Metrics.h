@@ -39,9 +39,9 @@ constexpr int RowCheckInset = 1;
 constexpr int RowCheckReach = 2;
 constexpr int RowCheckText = 3;
 
-// Rows of trees and of the lists that combos drop: what a finger hits, 13.8 mm at 96 dots per inch.
-// A tree's level is indented as far, so that the mark that opens a branch can be hit, too. The mark
-// is a triangle of this height and half its width.
+// Rows of trees and of the lists that combos drop, buttons of tool bars: what a finger hits, 13.8 mm
+// at 96 dots per inch. A tree's level is indented as far, so that the mark that opens a branch can
+// be hit, too. The mark is a triangle of this height and half its width.
 constexpr int FingerRow = 52;
 constexpr int BranchMark = 14;
 constexpr int TreeTextMargin = 2; // from either edge of the label to its text

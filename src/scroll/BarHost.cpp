@@ -12,6 +12,8 @@
 #include "paint/Palette.h"
 #include "scroll/NcBands.h"
 
+#include <utility>
+
 namespace scroll {
 
 BarHost::BarHost(CWnd& window, const Manner& manner)
@@ -24,6 +26,7 @@ BarHost::BarHost(CWnd& window, const Manner& manner)
 void BarHost::BeginAfresh()
 {
     m_onBoard = m_following = m_awaitsPlace = false;
+    m_painting = m_paintsAll = m_clientDue = false;
     m_platformStyles = 0;
     Forget();
     m_timed = m_leaveRequested = false;
@@ -206,7 +209,7 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
 {
     const WindowAlive alive(m_window);
     Default();
-    // For a new font the platform may change it before the place comes.
+    // In the place the platform may still show bars of its own.
     const bool frameAlone = alive && ChangesFrameAlone(*position);
     if (alive && InOnBoard() && m_frameDone && (m_window.GetStyle() & m_manner.styles) != 0)
     {
@@ -215,7 +218,6 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
     }
     if (alive && m_awaitsPlace && !m_following && !frameAlone && !IsPlaceToCome(m_window))
     {
-        m_placeComes = true;
         position->flags |= SWP_FRAMECHANGED;
         Foresee((position->flags & SWP_NOSIZE) != 0 ? AreaOf(m_window).Size()
                                                     : CSize(position->cx, position->cy));
@@ -237,7 +239,12 @@ void BarHost::NcPaint(const MSG& message)
     if (alive && TouchesFrame(m_window, updated))
     {
         InvalidateBars();
+        m_paintsAll = m_painting && updated == reinterpret_cast<HRGN>(1);
         DrawFrame();
+        if (alive)
+        {
+            m_paintsAll = false;
+        }
     }
 }
 
@@ -246,7 +253,6 @@ void BarHost::NcPaint(const MSG& message)
 void BarHost::LayOutInPlace()
 {
     m_awaitsPlace = IsBeingPlaced(m_window);
-    m_placeComes = false;
     if (!m_awaitsPlace)
     {
         LayOut();
@@ -264,7 +270,7 @@ bool BarHost::TakePlace()
 
 bool BarHost::IsSizePassing() const
 {
-    return IsBeingPlaced(m_window) && (m_following || (m_awaitsPlace && !m_placeComes));
+    return m_following ? IsBeingPlaced(m_window) : m_awaitsPlace && IsPlaceToCome(m_window);
 }
 
 void BarHost::SettlePlace(bool asked)
@@ -315,6 +321,24 @@ bool BarHost::DrawBar(int axis, bool force)
 void BarHost::DrawBar(CDC& dc, int axis)
 {
     PainterOf(axis).DrawTo(dc, m_window, *BarOf(axis), DrawnPart(axis));
+}
+
+void BarHost::InvalidateClient()
+{
+    m_clientDue = m_clientDue || m_paintsAll;
+    if (!m_paintsAll)
+    {
+        m_window.Invalidate();
+    }
+}
+
+void BarHost::EndPaint()
+{
+    m_painting = false;
+    if (std::exchange(m_clientDue, false))
+    {
+        m_window.Invalidate();
+    }
 }
 
 void BarHost::DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner)

@@ -110,6 +110,14 @@ public:
     bool DrawBar(int axis, bool force = false);
     // Paints a bar through a context that somebody else has, with the origin of the whole window.
     void DrawBar(CDC& dc, int axis);
+    // @{
+    // WM_PAINT, from before it begins. The frame is drawn as it begins, and drawing it invalidates
+    // the client area: one that is painted and erased as a whole then would be painted twice.
+    void BeginPaint() { m_painting = true; }
+    void Erased() { m_clientDue = false; }
+    void EndPaint();
+    void InvalidateClient();
+    // @}
     // The frame round the client area and the bars, and the corner where two bands meet.
     void DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner);
 
@@ -197,9 +205,11 @@ private:
     bool m_onBoard = false;   // laid out for an on-board mode
     bool m_following = false; // in Follow, or nothing is laid out any more
     bool m_awaitsPlace = false;
-    bool m_placeComes = false; // what it waits for, with its frame
     DWORD m_platformStyles = 0;
     bool m_frameDone = false;
+    bool m_painting = false;
+    bool m_paintsAll = false; // the frame is drawn for a paint of the whole window
+    bool m_clientDue = false; // and the client area would not be erased for it
     bool m_placingDue = true;
 
     Part m_part = CFauxScrollBar::PRESSED_NONE;

@@ -125,29 +125,28 @@ bool WritesScrollStyles(const CWnd& window)
 
 namespace {
 
-void Recalculate(const CWnd& window, UINT more)
+constexpr UINT FrameAlone = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;
+
+} // namespace
+
+void RecalculateFrame(const CWnd& window, bool copyBits)
 {
     const HWND handle = window.GetSafeHwnd();
     // A window of its own must not become the active one by it.
     const bool child = (StyleOfWindow(handle) & WS_CHILD) != 0;
-    const UINT flags =
-        SWP_NOSIZE | SWP_NOMOVE | SWP_FRAMECHANGED | more | (child ? 0 : SWP_NOACTIVATE);
+    const UINT flags = SWP_NOSIZE | SWP_NOMOVE | SWP_FRAMECHANGED |
+                       (copyBits ? 0 : SWP_NOCOPYBITS) | (child ? 0 : SWP_NOACTIVATE);
     // Placed behind its own predecessor, the window keeps its place in the order of its siblings,
     // which is also the tab order of a dialog.
     HWND predecessor = ::GetWindow(handle, GW_HWNDPREV);
     ::SetWindowPos(handle, predecessor != nullptr ? predecessor : HWND_TOP, 0, 0, 0, 0, flags);
 }
 
-} // namespace
-
-void RecalculateFrame(const CWnd& window, bool copyBits)
-{
-    Recalculate(window, copyBits ? 0 : SWP_NOCOPYBITS);
-}
-
 void RecalculateFrameUnpainted(const CWnd& window)
 {
-    Recalculate(window, SWP_NOCOPYBITS | SWP_NOREDRAW | SWP_DEFERERASE);
+    constexpr UINT Unpainted = SWP_NOCOPYBITS | SWP_NOREDRAW | SWP_DEFERERASE;
+    ::SetWindowPos(window.GetSafeHwnd(), nullptr, 0, 0, 0, 0,
+                   FrameAlone | SWP_NOACTIVATE | Unpainted);
 }
 
 bool IsFrameSeen(const CWnd& window)
@@ -157,8 +156,7 @@ bool IsFrameSeen(const CWnd& window)
 
 bool ChangesFrameAlone(const WINDOWPOS& position)
 {
-    constexpr UINT frameAlone = SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_FRAMECHANGED;
-    return (position.flags & frameAlone) == frameAlone;
+    return (position.flags & FrameAlone) == FrameAlone;
 }
 
 void SaveRecalculation(WINDOWPOS& position)

@@ -144,4 +144,30 @@ DragImageHidden::~DragImageHidden()
     }
 }
 
+CSize CursorSize()
+{
+    CSize size(::GetSystemMetrics(SM_CXCURSOR), ::GetSystemMetrics(SM_CYCURSOR));
+    const HCURSOR cursor = ::GetCursor();
+    ICONINFO info = {};
+    if (cursor == nullptr || !::GetIconInfo(cursor, &info))
+    {
+        return size;
+    }
+    BITMAP picture = {};
+    const bool colored = info.hbmColor != nullptr;
+    if (::GetObject(colored ? info.hbmColor : info.hbmMask, sizeof(picture), &picture) != 0)
+    {
+        // Without colours the mask holds both halves of the picture, one below the other.
+        size = CSize(picture.bmWidth, colored ? picture.bmHeight : picture.bmHeight / 2);
+    }
+    for (const HBITMAP bitmap : {info.hbmColor, info.hbmMask})
+    {
+        if (bitmap != nullptr)
+        {
+            ::DeleteObject(bitmap);
+        }
+    }
+    return size;
+}
+
 } // namespace trees

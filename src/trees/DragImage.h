@@ -26,4 +26,7 @@ public:
     ~DragImageHidden();
 };
 
+// Pixels of the picture of the cursor that is set; of the system's cursors where there is none.
+CSize CursorSize();
+
 } // namespace trees

@@ -196,6 +196,11 @@ CSize MultiTree::GetDragThreshold()
     return TreeSelection::SystemDragThreshold();
 }
 
+CSize MultiTree::GetCursorSize() const
+{
+    return trees::CursorSize();
+}
+
 // Pointer and keys ------------------------------------------------------------------------------
 
 void MultiTree::OnButtonDown(bool left, UINT flags, CPoint point)

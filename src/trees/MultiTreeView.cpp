@@ -7,8 +7,6 @@
 #include "trees/DragImage.h"
 #include "trees/TreeSelection.h"
 
-#include <algorithm>
-#include <climits>
 
 using trees::TreeSelection;
 using trees::WatchedItem;
@@ -265,28 +263,7 @@ void MultiTreeView::OnBeginDrag(NMHDR* header, LRESULT* result)
 
 CSize MultiTreeView::GetCursorSize() const
 {
-    CSize size(::GetSystemMetrics(SM_CXCURSOR), ::GetSystemMetrics(SM_CYCURSOR));
-    const HCURSOR cursor = ::GetCursor();
-    ICONINFO info = {};
-    if (cursor == nullptr || !::GetIconInfo(cursor, &info))
-    {
-        return size;
-    }
-    BITMAP picture = {};
-    const bool colored = info.hbmColor != nullptr;
-    if (::GetObject(colored ? info.hbmColor : info.hbmMask, sizeof(picture), &picture) != 0)
-    {
-        // Without colours the mask holds both halves of the picture, one below the other.
-        size = CSize(picture.bmWidth, colored ? picture.bmHeight : picture.bmHeight / 2);
-    }
-    for (const HBITMAP bitmap : {info.hbmColor, info.hbmMask})
-    {
-        if (bitmap != nullptr)
-        {
-            ::DeleteObject(bitmap);
-        }
-    }
-    return size;
+    return trees::CursorSize();
 }
 
 void MultiTreeView::OnMouseMove(UINT flags, CPoint point)
@@ -357,6 +334,10 @@ void MultiTreeView::OnLButtonUp(UINT flags, CPoint point)
         under != nullptr &&
         SendDragMessage(under, (flags & MK_CONTROL) != 0 ? mnDragCopyMsg : mnDragDropMsg, &point,
                         &payload);
+    if (alive && !m_dragging)
+    {
+        m_payload = payload; // with what the target has taken out or put in
+    }
     if (alive)
     {
         DragEnded(accepted ? under : nullptr);

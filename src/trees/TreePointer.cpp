@@ -214,12 +214,16 @@ bool TreeSelection::TakeKeyboard()
     {
         return false;
     }
-    // Without a caret the platform gives its own to the first item, and selects that.
+    // Without a caret the platform gives its own to the first item, selects that, and tells so.
     const WatchedItem caret(m_items, m_items.Caret());
     if (!hadCaret && caret.Get() != nullptr &&
         std::find(before.All().begin(), before.All().end(), caret.Get()) == before.All().end())
     {
-        Put(caret, false);
+        // The parent was told that it is selected, and may have seen to it by itself.
+        if (m_items.IsSelected(caret.Get()) && Put(caret, false))
+        {
+            Announce(TVN_SELCHANGED, caret.Get(), false);
+        }
     }
     return bool(alive);
 }

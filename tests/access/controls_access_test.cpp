@@ -120,11 +120,8 @@ TEST_P(AccessInModes, RowsAreToldWhereTheyStand)
         ASSERT_TRUE(WindowRectOf(*window).PtInRect(row.CenterPoint())) << row.top;
         EXPECT_EQ(ChildAt(*object, row.TopLeft() + CSize(9, 2)), 40);
         Click(row.TopLeft() + CSize(9, row.Height() / 2));
-        VARIANT child = {};
-        EXPECT_EQ(object->get_accFocus(&child), S_OK);
-        EXPECT_EQ(child.lVal, 40);
-        EXPECT_EQ(object->get_accSelection(&child), S_OK);
-        EXPECT_EQ(child.lVal, 40);
+        EXPECT_EQ(FocusIn(*object), 40);
+        EXPECT_EQ(SelectionIn(*object), 40);
         EXPECT_EQ(object->accDoDefaultAction(Child(40)), S_OK);
         PumpAll();
         EXPECT_THAT(Host().CodesFrom(UINT(window->GetDlgCtrlID())),

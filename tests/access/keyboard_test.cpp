@@ -1,6 +1,7 @@
 // Every control of the catalog, reached and worked by keys alone in every mode, and read as an
 // assistive program reads it.
 
+#include "CustomDialog.h"
 #include "CustomEdit.h"
 #include "CustomListCtrl.h"
 #include "CustomPropPage.h"
@@ -8,7 +9,6 @@
 #include "CustomStatic.h"
 #include "CustomToolbar.h"
 #include "EditWithPrompt.h"
-#include "ZepMsgBoxDlg.h"
 #include "catalog/Controls.h"
 #include "catalog/DialogTemplate.h"
 #include "support/Accessible.h"
@@ -87,10 +87,7 @@ std::string ToldOfFocus()
         return "no focus";
     }
     const Held<IAccessible> object = Reached(focus);
-    VARIANT row = {};
-    const bool onRow =
-        object->get_accFocus(&row) == S_OK && row.vt == VT_I4 && row.lVal != CHILDID_SELF;
-    const Read read(*object, onRow ? row.lVal : CHILDID_SELF);
+    const Read read(*object, std::max(FocusIn(*object), long(CHILDID_SELF)));
     const bool valued = read.role == ROLE_SYSTEM_TEXT || read.role == ROLE_SYSTEM_COMBOBOX;
     return (valued ? read.value : read.name) + InWords(read.state) +
            ((read.state & STATE_SYSTEM_FOCUSED) != 0 ? "" : " without focus");
@@ -114,6 +111,15 @@ struct Worked
 
 const std::vector<Key> Types = {{'X', "x"}};
 const std::vector<Key> GoesDown = {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}};
+const std::vector<Key> Extends = {{VK_DOWN, "Row 1 selected"},
+                                  {VK_DOWN, "Row 10 selected", VK_SHIFT}};
+const std::vector<Key> Checks = {
+    {VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected checked"}, {VK_SPACE, "Row 1 selected mixed"}};
+const std::vector<Key> OpensAndChooses = {
+    {VK_DOWN, "Row 0 open", VK_MENU}, {VK_DOWN, nullptr}, {VK_RETURN, "Row 1 closed"}};
+const std::vector<Key> GoesOnUnselected = {
+    {VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}, {VK_DOWN, "Row 2", VK_CONTROL}};
+const std::vector<Key> GoesRound = {{VK_RIGHT, "Cancel"}, {VK_RIGHT, "Yes"}, {VK_LEFT, "Cancel"}};
 const std::vector<Key> GoesThroughAPage = {{VK_TAB, "Row selected"}, {VK_TAB, "Row"}, {'X', "x"}};
 
 const std::vector<Worked> AllWorked = {
@@ -132,24 +138,12 @@ const std::vector<Worked> AllWorked = {
     {"fixed edit", ROLE_SYSTEM_TEXT, "Name", Types},
     {"list box", ROLE_SYSTEM_LIST, "Name", GoesDown},
     {"drawn list box", ROLE_SYSTEM_LIST, "Name", GoesDown},
-    {"list box of many selections",
-     ROLE_SYSTEM_LIST,
-     "Name",
-     {{VK_DOWN, "Row 1 selected"}, {VK_DOWN, "Row 10 selected", VK_SHIFT}}},
+    {"list box of many selections", ROLE_SYSTEM_LIST, "Name", Extends},
     {"list box of columns", ROLE_SYSTEM_LIST, "Name", GoesDown},
-    {"check list",
-     ROLE_SYSTEM_LIST,
-     "Name",
-     {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected checked"}, {VK_SPACE, "Row 1 selected mixed"}}},
-    {"combo",
-     ROLE_SYSTEM_COMBOBOX,
-     "Name",
-     {{VK_DOWN, "Row 0 open", VK_MENU}, {VK_DOWN, nullptr}, {VK_RETURN, "Row 1 closed"}}},
+    {"check list", ROLE_SYSTEM_LIST, "Name", Checks},
+    {"combo", ROLE_SYSTEM_COMBOBOX, "Name", OpensAndChooses},
     {"list of a combo", ROLE_SYSTEM_LIST, "Row"}, // worked by the keys of its combo
-    {"report list",
-     ROLE_SYSTEM_LIST,
-     "Name",
-     {{VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}, {VK_DOWN, "Row 2", VK_CONTROL}}},
+    {"report list", ROLE_SYSTEM_LIST, "Name", GoesOnUnselected},
     {"header", ROLE_SYSTEM_LIST, "Name"},
     {"tree", ROLE_SYSTEM_OUTLINE, "Name", {{VK_RIGHT, "Row selected open"}}},
     {"tree view", ROLE_SYSTEM_OUTLINE, "Name", {{VK_RIGHT, "Row selected open"}}},
@@ -160,17 +154,8 @@ const std::vector<Worked> AllWorked = {
     {"property sheet", ROLE_SYSTEM_DIALOG, "Row", GoesThroughAPage},
     {"property page", ROLE_SYSTEM_PROPERTYPAGE, "Row", GoesThroughAPage},
     {"dialog", ROLE_SYSTEM_DIALOG, "Row", {{VK_TAB, "Row"}, {'X', "x"}}},
-    {"message box",
-     ROLE_SYSTEM_DIALOG,
-     "Title",
-     {{VK_RIGHT, "Cancel"}, {VK_RIGHT, "Yes"}, {VK_LEFT, "Cancel"}}},
+    {"message box", ROLE_SYSTEM_DIALOG, "Title", GoesRound},
 };
-
-const Control& InCatalog(const char* name)
-{
-    return *std::ranges::find_if(
-        Controls(), [name](const Control& control) { return std::string(control.name) == name; });
-}
 
 } // namespace
 
@@ -182,15 +167,18 @@ INSTANTIATE_TEST_SUITE_P(Controls, KeyboardAlone,
 
 TEST_P(KeyboardAlone, ReachesWorksAndReadsEveryControl)
 {
-    for (const Worked& worked : AllWorked)
+    ASSERT_EQ(AllWorked.size(), Controls().size()) << "a control of the catalog is not here";
+    for (size_t index = 0; index < AllWorked.size(); ++index)
     {
+        const Worked& worked = AllWorked[index];
         SCOPED_TRACE(worked.control);
+        ASSERT_STREQ(worked.control, Controls()[index].name);
         COnBoardUIGeneral::SetAppMode(STD);
         COnBoardUIGeneral::SetAppTitle("Title"); // of message boxes
         Stage stage(GetParam());
         const bool isEdit = worked.role == ROLE_SYSTEM_TEXT;
         const std::unique_ptr<CWnd> control =
-            InCatalog(worked.control).make(stage, {CRect(20, 60, 220, 220), "Row", 40, !isEdit});
+            Controls()[index].make(stage, {CRect(20, 60, 220, 220), "Row", 40, !isEdit});
         ASSERT_TRUE(control);
         stage.AddLast();
         const bool onRow = std::string(worked.control) == "report list"; // as the platform's
@@ -200,9 +188,8 @@ TEST_P(KeyboardAlone, ReachesWorksAndReadsEveryControl)
         {
             stage.GetDlgItem(FirstButton)->SetFocus();
         }
-        PumpAll();
 
-        const Pixels without = WindowPixels(*control);
+        const Pixels without = Settled(*control);
         TypeKey(VK_TAB);
         if (worked.keys.empty())
         {
@@ -238,7 +225,6 @@ TEST_P(KeyboardAlone, ReachesWorksAndReadsEveryControl)
         control->DestroyWindow();
     }
     COnBoardUIGeneral::SetAppTitle("");
-    EXPECT_EQ(AllWorked.size(), Controls().size()) << "a control of the catalog is not here";
 }
 
 // A window and its parts from the first on. The second is found where it says that it is, and its
@@ -309,8 +295,7 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
         EXPECT_EQ(sheet.GetActiveIndex(), 1);
         const Pixels without = WindowPixels(tabs);
         tabs.SetFocus();
-        PumpAll();
-        EXPECT_NE(WindowPixels(tabs), without) << "the focus is not seen";
+        EXPECT_NE(Settled(tabs), without) << "the focus is not seen";
         EXPECT_EQ(ToldOfFocus(), "Second selected");
         TypeKey(VK_LEFT);
         EXPECT_EQ(ToldOfFocus(), "First selected");

@@ -2,7 +2,6 @@
 
 #include "buttons/buttons_for_tests.h"
 #include "support/Acts.h"
-#include "support/Repaint.h"
 
 #include <gmock/gmock.h>
 
@@ -19,8 +18,7 @@ TEST_F(ButtonOnBoard, AClickRunsItsStepsInOrder)
         EXPECT_EQ(told.lParam, LPARAM(LOWORD(reinterpret_cast<UINT_PTR>(push.m_hWnd))));
         EXPECT_EQ(told.wParam, WPARAM(MAKELONG(ButtonId, BN_CLICKED)));
     };
-    MoveTo(push.Middle());
-    Press();
+    Press(push.Middle());
     EXPECT_EQ(::GetFocus(), push.m_hWnd);
     EXPECT_EQ(push.SendMessage(BM_GETSTATE), 1);
     Release();
@@ -48,8 +46,7 @@ TEST_F(ButtonOnBoard, AClickRunsItsStepsInOrder)
 TEST_F(ButtonOnBoard, APressDraggedOffIsNoClick)
 {
     auto& push = Add<TestPush>(ButtonPlace, 0, "Push");
-    MoveTo(push.Middle());
-    Press();
+    Press(push.Middle());
     const CRect window = WindowRectOf(push);
     MoveTo(CPoint(window.right - 1, window.bottom - 1));
     EXPECT_TRUE(push.m_pressed);
@@ -57,15 +54,13 @@ TEST_F(ButtonOnBoard, APressDraggedOffIsNoClick)
     MoveTo(CPoint(window.right, window.bottom - 1)); // the first pixel beyond
     EXPECT_FALSE(push.m_pressed);
     push.Invalidate(FALSE);
-    PumpAll();
-    EXPECT_EQ(WindowPixels(push), held) << "a held button looks pressed wherever the pointer is";
+    EXPECT_EQ(Settled(push), held) << "a held button looks pressed wherever the pointer is";
     Release();
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_TRUE(push.steps.empty());
 
     // Back on it in time, it is a click.
-    MoveTo(push.Middle());
-    Press();
+    Press(push.Middle());
     DragTo(CPoint(window.right + 30, window.bottom + 30));
     DragTo(push.Middle());
     Release();
@@ -103,8 +98,7 @@ TEST_F(ButtonOnBoard, APressThatIsCutOffLeavesNothingHeld)
         SCOPED_TRACE(what);
         auto& button = Add<TestCheckBox>(ButtonPlace, 0, "Cut off", ButtonId);
         const HWND window = button.m_hWnd;
-        MoveTo(button.Middle());
-        Press();
+        Press(button.Middle());
         ASSERT_TRUE(button.m_tracking);
         cut(button);
         MoveTo(CPoint(130, 110)); // still on it; the next message of any kind shows another mode
@@ -131,8 +125,7 @@ TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
         Click(ClientPoint(*button, CPoint(5, 5)));
     }
     Host().SetFocus();
-    PumpAll();
-    EXPECT_TRUE(WindowPixels(ours) == WindowPixels(plain));
+    EXPECT_TRUE(Settled(ours) == Settled(plain));
     EXPECT_EQ(ours.steps, Steps{"group, free"});
 
     // Each kind of mode has its own check state; a new mode shows with the next paint.
@@ -141,8 +134,7 @@ TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
     ours.SetWindowText("Other");
     EXPECT_EQ(WindowPixels(ours).At(219, 23), RGB(50, 50, 50))
         << "a new caption must not bring the old look back";
-    PumpAll();
-    EXPECT_TRUE(WindowPixels(ours) == ours.Drawn());
+    EXPECT_TRUE(Settled(ours) == ours.Drawn());
     ours.SetState(TRUE);
     COnBoardUIGeneral::SetAppMode(STD);
     EXPECT_EQ(ours.GetCheck(), BST_CHECKED);

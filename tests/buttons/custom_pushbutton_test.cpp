@@ -31,8 +31,7 @@ TEST_F(ButtonOnBoard, EachStateOfAPushButtonHasItsFace)
     EXPECT_NE(idle.At(3, 50), Outline);
     ExpectFace(idle, 148, 92);
 
-    MoveTo(push.Middle());
-    Press();
+    Press(push.Middle());
     const Pixels held = WindowPixels(push);
     ExpectFace(held, 42, 98);
     EXPECT_EQ(Extent(held, RGB(106, 104, 118), CRect(4, 4, 196, 96)), CRect(7, 7, 193, 93));
@@ -44,8 +43,7 @@ TEST_F(ButtonOnBoard, EachStateOfAPushButtonHasItsFace)
     EXPECT_EQ(focused.Count(Outline, CRect(8, 8, 192, 92)), 0);
 
     push.EnableWindow(FALSE);
-    PumpAll();
-    const Pixels disabled = WindowPixels(push);
+    const Pixels disabled = Settled(push);
     ExpectFace(disabled, 90, 90);
     EXPECT_EQ(disabled.Count(RGB(230, 230, 230)), 0);
     EXPECT_GT(disabled.Count(RGB(70, 70, 70), CRect(8, 8, 192, 92)), 20);

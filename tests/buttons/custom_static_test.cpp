@@ -7,8 +7,6 @@
 #include "CustomStatic.h"
 #include "buttons/buttons_for_tests.h"
 #include "catalog/DialogTemplate.h"
-#include "support/Acts.h"
-#include "support/Fenced.h"
 
 namespace {
 
@@ -52,8 +50,7 @@ TEST_F(ButtonOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
 
     EXPECT_EQ(box.SetBackgroundColor(0, RGB(0, 0, 90)), Panel);
     box.SetWindowText("");
-    PumpAll();
-    EXPECT_EQ(WindowPixels(box).At(100, 60), RGB(0, 0, 90));
+    EXPECT_EQ(Settled(box).At(100, 60), RGB(0, 0, 90));
     EXPECT_EQ(WindowPixels(box).Count(Frame, CRect(1, Top, 199, Top + 3)), 3 * 198);
     EXPECT_EQ(box.SetBackgroundColor(1, RGB(1, 2, 3)), RGB(0, 0, 90));
 
@@ -125,8 +122,7 @@ TEST_F(WindowTest, TheModeOfItsMakingDecidesWhetherAGroupBoxIsTransparent)
     EXPECT_FALSE(onBoard.GetExStyle() & WS_EX_TRANSPARENT);
     standard.SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
     standard.Invalidate();
-    PumpAll();
-    EXPECT_EQ(WindowPixels(standard).At(1, 60), Frame);
+    EXPECT_EQ(Settled(standard).At(1, 60), Frame);
 }
 
 TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
@@ -149,24 +145,7 @@ TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
     EXPECT_EQ(seen.Count(black), 0) << "the platform's own text must not stay";
     const ModeScope mode(ONBOARD);
     bold.Invalidate();
-    PumpAll();
-    EXPECT_EQ(WindowPixels(bold).Count(Red), 0);
-}
-
-TEST_F(WindowTest, AParentMayDestroyALabelThatTellsItOfBeingDisabled)
-{
-    const AccessFaults faults;
-    const CRect place(20, 20, 120, 60);
-    for (CWnd* const label : {static_cast<CWnd*>(&Add<Fenced<CBoldStatic>>(place, SS_NOTIFY)),
-                              static_cast<CWnd*>(&Add<Fenced<CColorStatic>>(place, SS_NOTIFY)),
-                              static_cast<CWnd*>(&Add<Fenced<CColoredGroupBox>>(place, SS_NOTIFY))})
-    {
-        const OnceTold told(Host(), STN_DISABLE, [&] { Remove(*label); });
-        ::EnableWindow(*label, FALSE);
-        EXPECT_TRUE(told);
-    }
-    EXPECT_EQ(faults.Count(), 0);
-    Host().hook = nullptr;
+    EXPECT_EQ(Settled(bold).Count(Red), 0);
 }
 
 TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
@@ -176,8 +155,7 @@ TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
     auto& swatch = Add(std::move(made), CRect(20, 20, 60, 60));
     EXPECT_EQ(WindowPixels(swatch).Count(RGB(9, 99, 199)), 1600);
     swatch.Set(RGB(199, 9, 99));
-    PumpAll();
-    EXPECT_EQ(WindowPixels(swatch).Count(RGB(199, 9, 99)), 1600);
+    EXPECT_EQ(Settled(swatch).Count(RGB(199, 9, 99)), 1600);
 
     constexpr COLORREF Green = RGB(0, 128, 0);
     auto& outline = Add<CColoredGroupBox>(CRect(100, 20, 200, 80), 0, "Tanks");
@@ -185,8 +163,7 @@ TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
     outline.RedrawWindow();
     const Pixels enabled = WindowPixels(outline);
     outline.EnableWindow(FALSE);
-    PumpAll();
-    EXPECT_EQ(WindowPixels(outline), enabled) << "its text is not shown";
+    EXPECT_EQ(Settled(outline), enabled) << "its text is not shown";
     // One pixel: left and top, the other two sides fall outside.
     EXPECT_EQ(enabled.Count(Green), 100 + 60 - 1);
     const ModeScope mode(ONBOARD);

@@ -188,8 +188,7 @@ TEST_F(ButtonOnBoard, ACheckBoxTellsOfAClickTwiceAndOfAKeyOnce)
         EXPECT_EQ(box.SendMessage(BM_GETCHECK), before);
         box.SendMessage(BM_CLICK);
         EXPECT_EQ(box.GetCheck(), after);
-        PumpAll();
-        EXPECT_TRUE(WindowPixels(box) == box.Drawn());
+        EXPECT_TRUE(Settled(box) == box.Drawn());
     }
 }
 

@@ -1,7 +1,6 @@
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
 #include "support/MessageLog.h"
-#include "support/forms.h"
 
 #include <tuple>
 

@@ -1,7 +1,6 @@
 #include "dialogs/dialog_for_tests.h"
 #include "support/Acting.h"
 #include "support/Fenced.h"
-#include "support/forms.h"
 
 #include <cstring>
 #include <tuple>
@@ -268,6 +267,16 @@ TEST_F(CustomDialogTest, TheTabKeyFollowsTheOrderThatIsSet)
         TypeKey(VK_TAB);
         EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), id);
     }
+
+    // A control may end the dialog when it is put in its place.
+    const AccessFaults faults;
+    auto* const ending = new Fenced<DialogForTests>;
+    ASSERT_TRUE(ending->CreateIndirect(form, &Host()));
+    Acting<CWnd> list;
+    list.SubclassWindow(*ending->GetDlgItem(IdList));
+    list.ActIn(WM_WINDOWPOSCHANGING, [ending] { delete ending; });
+    ending->SetCtrlTabOrder(ids);
+    EXPECT_EQ(faults.Count(), 0);
 }
 
 } // namespace

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "CustomDialog.h"
+#include "CustomFormView.h"
 #include "CustomPropSheet.h"
 #include "EFB.h"
-#include "LayoutMgmt.h"
 #include "SpecialConfigVals.h"
 #include "catalog/DialogTemplate.h"
 #include "support/AreaHost.h"
-#include "support/Repaint.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
+#include "support/forms.h"
 
 #include <ostream>
 #include <string>
@@ -43,10 +43,8 @@ public:
     }
 
     using CCustomDialog::BuildListOfControls;
-    using CCustomDialog::CheckForChildDialog;
     using CCustomDialog::m_captionHeight;
     using CCustomDialog::m_centredTitle;
-    using CCustomDialog::m_hasModalChild;
     using CCustomDialog::SetCtrlTabOrder;
 
 protected:
@@ -58,6 +56,19 @@ protected:
         }
         return Scripted<CCustomDialog>::WindowProc(message, wParam, lParam);
     }
+};
+
+// An open form view that the test owns.
+class ViewForTests : public CCustomFormView
+{
+public:
+    explicit ViewForTests(CWnd& parent, UINT form = IDD_TEST_FORM)
+        : CCustomFormView(form)
+    {
+        const CRect place(0, 0, 500, 400);
+        EXPECT_TRUE(Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, &parent, 5, nullptr));
+    }
+    void PostNcDestroy() override {}
 };
 
 using Journal = std::vector<std::string>;
@@ -110,13 +121,6 @@ inline void PrintTo(const CRect& rect, std::ostream* out)
 {
     *out << '(' << rect.left << ", " << rect.top << ")-(" << rect.right << ", " << rect.bottom
          << ')';
-}
-
-inline CRect PlaceIn(const CWnd& parent, const CWnd& child)
-{
-    CRect place = WindowRectOf(child);
-    parent.ScreenToClient(&place);
-    return place;
 }
 
 inline std::vector<CRect> ChildPlaces(const CWnd& parent)

@@ -91,31 +91,19 @@ TEST_F(DialogTemplateTest, OpeningOnBoardAndSwitchingThereAgree)
     EXPECT_EQ(actual, expected);
 }
 
-// Copies end where the memory does, so that a byte too far is a fault.
-class GuardedCopy
+// A copy that ends where the memory does, so that a byte too far is a fault. The next one takes its
+// place.
+BYTE* Guarded(const void* bytes, size_t size)
 {
-public:
-    GuardedCopy() { ::VirtualAlloc(m_memory, Page, MEM_COMMIT, PAGE_READWRITE); }
-    GuardedCopy(const GuardedCopy&) = delete;
-    GuardedCopy& operator=(const GuardedCopy&) = delete;
-    ~GuardedCopy() { ::VirtualFree(m_memory, 0, MEM_RELEASE); }
-
-    BYTE* Of(const void* bytes, size_t size)
-    {
-        BYTE* const copy = m_memory + Page - size;
-        std::memcpy(copy, bytes, size);
-        return copy;
-    }
-
-private:
-    static constexpr size_t Page = 0x1000;
-    BYTE* m_memory =
-        static_cast<BYTE*>(::VirtualAlloc(nullptr, 2 * Page, MEM_RESERVE, PAGE_NOACCESS));
-};
+    constexpr size_t Page = 0x1000;
+    static void* const pages = ::VirtualAlloc(nullptr, 2 * Page, MEM_RESERVE, PAGE_NOACCESS);
+    static const auto first =
+        static_cast<BYTE*>(::VirtualAlloc(pages, Page, MEM_COMMIT, PAGE_READWRITE));
+    return static_cast<BYTE*>(std::memcpy(first + Page - size, bytes, size));
+}
 
 TEST_F(DialogTemplateTest, TruncatedTemplatesAreRefusedAndDamagedOnesDoNoHarm)
 {
-    GuardedCopy guarded;
     size_t kind = 0;
     for (const DialogTemplate& bytes : AllKinds())
     {
@@ -123,13 +111,13 @@ TEST_F(DialogTemplateTest, TruncatedTemplatesAreRefusedAndDamagedOnesDoNoHarm)
         for (size_t at = 0; at < bytes.Size(); ++at)
         {
             CCustomDialogTemplate loaded;
-            const BYTE* const begin = guarded.Of(bytes.Data(), at);
+            const BYTE* const begin = Guarded(bytes.Data(), at);
             EXPECT_FALSE(loaded.Load(begin, at)) << at;
             EXPECT_FALSE(loaded.Load(reinterpret_cast<LPCDLGTEMPLATE>(begin)));
             EXPECT_FALSE(loaded.IsLoaded());
             for (const BYTE value : {BYTE(0), BYTE(0xFF)})
             {
-                BYTE* const copy = guarded.Of(bytes.Data(), bytes.Size());
+                BYTE* const copy = Guarded(bytes.Data(), bytes.Size());
                 copy[at] = value;
                 const BOOL sound = loaded.Load(copy, bytes.Size());
                 // Asking the platform for fonts takes its time, so not for every byte. A font that
@@ -144,7 +132,7 @@ TEST_F(DialogTemplateTest, TruncatedTemplatesAreRefusedAndDamagedOnesDoNoHarm)
         }
     }
     DialogTemplate future({.extended = true});
-    BYTE* const copy = guarded.Of(future.Data(), future.Size());
+    BYTE* const copy = Guarded(future.Data(), future.Size());
     copy[0] = 2;
     EXPECT_FALSE(CCustomDialogTemplate().Load(copy, future.Size())) << "an unknown version";
 }

@@ -1,34 +1,18 @@
 #include "CustomDropListCombo.h"
-#include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "dialogs/SheetTabs.h"
 #include "dialogs/dialog_for_tests.h"
 #include "support/Fenced.h"
-#include "support/forms.h"
 
 #include <afxcmn.h>
 
 namespace {
 
-struct View : CCustomFormView
-{
-    explicit View(UINT form = IDD_TEST_FORM)
-        : CCustomFormView(form)
-    {}
-    BOOL Open(CWnd& parent)
-    {
-        const CRect place(0, 0, 500, 400);
-        return Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, &parent, 5, nullptr);
-    }
-    void PostNcDestroy() override {} // the test owns it
-};
-
 using FormWindowsTest = CustomDialogTest;
 
 TEST_F(FormWindowsTest, AFormIsRescaledOnceHoweverItReachesTheMode)
 {
-    View standard;
-    ASSERT_TRUE(standard.Open(Host()));
+    ViewForTests standard(Host());
     const CRect before = ChildPlaces(standard).front();
     // The mode when it is opened, at its update and after that.
     const APPMODE cases[][3] = {
@@ -40,8 +24,7 @@ TEST_F(FormWindowsTest, AFormIsRescaledOnceHoweverItReachesTheMode)
     for (const auto& [opened, atItsUpdate, after] : cases)
     {
         const ModeScope scope(opened);
-        View view;
-        ASSERT_TRUE(view.Open(Host()));
+        ViewForTests view(Host());
         COnBoardUIGeneral::SetAppMode(atItsUpdate);
         view.OnInitialUpdate();
         view.OnInitialUpdate(); // for another document
@@ -54,8 +37,7 @@ TEST_F(FormWindowsTest, AFormIsRescaledOnceHoweverItReachesTheMode)
 
 TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndLooksAndWorksLikeADialog)
 {
-    View view;
-    ASSERT_TRUE(view.Open(Host()));
+    ViewForTests view(Host());
     view.MoveWindow(0, 0, 120, 60);
     const CRect before = ChildPlaces(view).front();
     const CSize total = view.GetTotalSize();
@@ -141,8 +123,7 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
             EXPECT_GE(firstRect.Height(), int(pageBefore.cy * 1.7));
             EXPECT_TRUE(sheet.SetActivePage(1));
             EXPECT_EQ(WindowRectOf(second), firstRect);
-            PumpAll();
-            EXPECT_EQ(WindowPixels(sheet).At(sheetBefore.right, 5), RGB(70, 90, 110));
+            EXPECT_EQ(Settled(sheet).At(sheetBefore.right, 5), RGB(70, 90, 110));
             EXPECT_EQ(sheet.GetStyle() & WS_SYSMENU, 0U);
             // The strip of the tabs, right of the last one.
             const CPoint strip = ClientPoint(*sheet.GetTabControl(), CPoint(sheetBefore.right, 10));
@@ -260,8 +241,7 @@ TEST_F(FormWindowsTest, CombosAreAsHighHoweverTheirWindowReachesTheMode)
             use(dialog);
         }
         const ModeScope scope(opened);
-        View view(IDD_TEST_COMBOS);
-        ASSERT_TRUE(view.Open(Host()));
+        ViewForTests view(Host(), IDD_TEST_COMBOS);
         view.OnInitialUpdate();
         use(view);
         view.DestroyWindow();

@@ -1,10 +1,8 @@
 #include "CustomDropListCombo.h"
-#include "CustomFormView.h"
 #include "CustomListBox.h"
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
 #include "support/Acting.h"
-#include "support/forms.h"
 
 namespace {
 
@@ -33,17 +31,9 @@ TEST_F(ModeOnTheWayTest, AWindowThatOpensFollowsTheModeBack)
     EXPECT_NE(HFONT(*dialog.GetDlgItem(IdLabel)->GetFont()),
               HFONT(CCustomDialog::m_OBStaticTextFont));
 
-    struct View : CCustomFormView
-    {
-        View()
-            : CCustomFormView(IDD_TEST_FORM)
-        {}
-        using CCustomFormView::Create;
-        void PostNcDestroy() override {} // the test owns it
-    } view;
-    const CRect place(0, 0, 120, 60);
     COnBoardUIGeneral::SetAppMode(ONBOARD);
-    ASSERT_TRUE(view.Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, &Host(), 5, nullptr));
+    ViewForTests view(Host());
+    view.MoveWindow(0, 0, 120, 60);
     const CSize total = view.GetTotalSize();
     Changing inView;
     inView.In(view, IDC_TEST_EDIT);
@@ -216,11 +206,16 @@ TEST_F(ModeOnTheWayTest, AListOfWholeRowsAndAComboHaveTheirHeightsInEachMode)
     COnBoardUIGeneral::SetAppMode(ONBOARD);
     list.AddString("so wide that the list is lower, with a bar below it");
     list.ResetContent();
+    for (int row = 0; row < 20; ++row)
+    {
+        list.AddString("row");
+    }
     const std::function<void(std::function<void()>)> meanwhile[] = {
         [](auto) {},
         [&](auto act) { label.ActIn(WM_SIZE, act); },
         [&](auto act) { list.ActIn(WM_SETFONT, act); },
         [&](auto act) { list.ActIn(WM_SIZE, act); },
+        [&](auto act) { list.ActIn(WM_WINDOWPOSCHANGING, act, 4); }, // as it gets its height back
         [&](auto act) { combo.ActIn(WM_SIZE, act, 1); },
     };
     for (const auto& go : meanwhile)

@@ -13,8 +13,7 @@ TEST_F(EditOnBoard, AThumbDragMovesTheTextLineByLine)
     auto& edit = AddEdit(120);
     MessageLog log(edit, {WM_VSCROLL});
     const CPoint grip = edit.PartPoint(Thumb);
-    MoveTo(grip);
-    Press();
+    Press(grip);
     DragTo(grip + CPoint(0, 30));
     EXPECT_EQ(log.Count(WM_VSCROLL), edit.GetFirstVisibleLine());
     const CRect area = edit.m_bar.GetArea();

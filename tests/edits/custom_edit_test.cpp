@@ -101,8 +101,7 @@ TEST_F(EditOnBoard, TheBorderTellsTheState)
         SCOPED_TRACE(testing::Message() << enabled << readOnly);
         edit.EnableWindow(enabled);
         edit.SetReadOnly(readOnly);
-        PumpAll();
-        const Pixels seen = WindowPixels(edit);
+        const Pixels seen = Settled(edit);
         for (int line = 0; line < 3; ++line)
         {
             EXPECT_EQ(seen.At(100, line), topLeft);
@@ -186,8 +185,7 @@ TEST_F(EditOnBoard, ItsBarIsPaintedWhereverItIsAskedFor)
         EXPECT_EQ(paper.Picture().At(bar.CenterPoint()), shown.At(bar.CenterPoint()));
         spoil();
         edit.DrawOBNC();
-        PumpAll();
-        EXPECT_TRUE(WindowPixels(edit) == shown);
+        EXPECT_TRUE(Settled(edit) == shown);
     }
 }
 

@@ -4,11 +4,9 @@
 #include "EFB.h"
 #include "support/Bars.h"
 #include "support/OnBoard.h"
-#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <string>
-#include <vector>
 
 constexpr DWORD ManyLines = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;
 
@@ -32,12 +30,7 @@ public:
     }
     void Fill(int lines) { SetWindowText(Lines(lines).c_str()); }
 
-    std::string Text() const
-    {
-        CString text;
-        GetWindowText(text);
-        return text.GetString();
-    }
+    std::string Text() const { return TextOf(*this); }
 
     // How many lines the text area holds, from the platform's own measures.
     int VisibleLines() const

@@ -3,32 +3,21 @@
 #include "ColorEdit.h"
 #include "EditWithPrompt.h"
 #include "QuixEdit.h"
-#include "support/Repaint.h"
-#include "support/SysColorScope.h"
 #include "support/WindowTest.h"
 
 #include <cstring>
 #include <string>
 #include <tuple>
 
-class SmallEditsTest : public WindowTest
-{
-protected:
-    template <class Edit> static std::string TextOf(const Edit& edit)
-    {
-        CString text;
-        edit.GetWindowText(text);
-        return text.GetString();
-    }
+using SmallEditsTest = WindowTest;
 
-    // What is in the edit itself, whatever it says.
-    static std::string Shown(const CEdit& edit)
-    {
-        char line[100] = {};
-        line[edit.GetLine(0, line, sizeof(line) - 1)] = '\0';
-        return line;
-    }
-};
+// What is in the edit itself, whatever it says.
+static std::string Shown(const CEdit& edit)
+{
+    char line[100] = {};
+    line[edit.GetLine(0, line, sizeof(line) - 1)] = '\0';
+    return line;
+}
 
 TEST_F(SmallEditsTest, ColoursAreBlackOnFacesUntilSet)
 {
@@ -105,19 +94,18 @@ TEST_F(SmallEditsTest, PromptRules)
 TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
 {
     auto& edit = Add<EditWithPrompt>(CRect(20, 20, 260, 60));
-    const auto count = [&](COLORREF color) {
-        PumpAll();
-        return WindowPixels(edit).Count(color);
-    };
+    const auto count = [&](COLORREF color) { return Settled(edit).Count(color); };
     EXPECT_GT(count(RGB(119, 121, 118)), 20);
     edit.SetPromptColor(RGB(200, 30, 30));
     EXPECT_GT(count(RGB(200, 30, 30)), 20);
-    {
-        const SysColorScope windows(COLOR_WINDOW, RGB(10, 60, 20));
-        Repaint(edit);
-        EXPECT_GT(count(RGB(10, 60, 20)), 5000);
-        EXPECT_EQ(count(windows.Before()), 0) << "one ground behind letters and beside them";
-    }
+    const int window = COLOR_WINDOW; // another one, as the user chooses it
+    const COLORREF before = ::GetSysColor(window);
+    const COLORREF green = RGB(10, 60, 20);
+    ::SetSysColors(1, &window, &green);
+    Repaint(edit);
+    EXPECT_GT(count(green), 5000);
+    EXPECT_EQ(count(before), 0) << "one ground behind letters and beside them";
+    ::SetSysColors(1, &window, &before);
     PumpAll();
     edit.SetWindowText("text");
     EXPECT_EQ(count(RGB(200, 30, 30)), 0);

@@ -111,12 +111,8 @@ TEST_F(DialogTest, AModalDialogReturnsWhatEndedItAndDisablesItsOwnerMeanwhile)
 
 TEST_F(DialogTest, KeysButtonsAndItsOwnHandlersEndIt)
 {
-    const struct
-    {
-        bool inInit; // and so it is never shown
-        std::function<void(Form&)> act;
-        INT_PTR expected;
-    } cases[] = {
+    // Whether at its initialisation, and so it is never shown; the act; what the dialog returns.
+    const std::tuple<bool, std::function<void(Form&)>, INT_PTR> cases[] = {
         {false, [](Form&) { TypeKey(VK_RETURN); }, IDOK},
         {false, [](Form&) { TypeKey(VK_ESCAPE); }, IDCANCEL},
         {false, [](Form& d) { Click(ClientPoint(*d.GetDlgItem(IDCANCEL), CPoint(10, 5))); },
@@ -127,14 +123,14 @@ TEST_F(DialogTest, KeysButtonsAndItsOwnHandlersEndIt)
         {true, [](Form& d) { d.EndDialog(9); }, 9},
         {false, [](Form&) { ::PostQuitMessage(5); }, -1},
     };
-    for (const auto& each : cases)
+    for (const auto& [inInit, act, result] : cases)
     {
-        SCOPED_TRACE(&each - cases);
+        SCOPED_TRACE(testing::Message() << inInit << result);
         Form dialog(form, &Host());
-        (each.inInit ? dialog.inInit : dialog.inLoop) = [&] { each.act(dialog); };
-        EXPECT_EQ(dialog.DoModal(), each.expected);
+        (inInit ? dialog.inInit : dialog.inLoop) = [&, &act = act] { act(dialog); };
+        EXPECT_EQ(dialog.DoModal(), result);
         EXPECT_EQ(dialog.gone, 1);
-        EXPECT_EQ(dialog.shown, !each.inInit);
+        EXPECT_EQ(dialog.shown, !inInit);
         EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
         EXPECT_TRUE(Host().IsWindowEnabled());
     }

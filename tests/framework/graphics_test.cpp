@@ -1,7 +1,5 @@
 // Who owns graphics objects and device contexts.
 
-#include <afxcmn.h>
-
 #include "support/Canvas.h"
 #include "support/WindowTest.h"
 

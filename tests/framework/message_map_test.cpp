@@ -4,6 +4,7 @@
 #include "support/WindowTest.h"
 
 #include <string>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -119,13 +120,8 @@ TEST_F(MessageMap, CommandsFindTheHandlerOfTheirIdAndCode)
     Panel& panel = AddPanel();
     CWnd button;
     ASSERT_TRUE(button.Create("BUTTON", "", WS_CHILD, CRect(0, 0, 9, 9), &panel, 30));
-    const struct
-    {
-        UINT id;
-        UINT code;
-        bool fromControl;
-        Journal expected;
-    } cases[] = {
+    // The id, the code, whether it is of a control, and what is done.
+    const std::tuple<UINT, UINT, bool, Journal> cases[] = {
         {10, 0, false, {"10"}}, // the derived map first, and only it
         {10, 1, false, {"10"}}, // the same from an accelerator
         {20, 0, false, {"range 20"}},
@@ -137,11 +133,10 @@ TEST_F(MessageMap, CommandsFindTheHandlerOfTheirIdAndCode)
         {42, EN_UPDATE, true, {}},
         {10, EN_CHANGE, true, {}}, // a control of a command's number
     };
-    for (const auto& each : cases)
+    for (const auto& [id, code, fromControl, done] : cases)
     {
-        EXPECT_EQ(Command(panel, each.id, each.code, each.fromControl ? button.m_hWnd : nullptr),
-                  each.expected)
-            << each.id << ", " << each.code;
+        EXPECT_EQ(Command(panel, id, code, fromControl ? button.m_hWnd : nullptr), done)
+            << id << ", " << code;
     }
     panel.takeEleven = FALSE;
     EXPECT_EQ(Command(panel, 11, 0, nullptr), (Journal{"11", "base 11"}))

@@ -127,11 +127,7 @@ TEST_F(PropertySheetTest, EveryWayOfCancellingResetsThePages)
 {
     const Journal reset = {"first init", "first active", "first cancel"};
     const Journal gone = {"first init", "first active"}; // without asking the pages
-    const struct
-    {
-        std::function<void(Sheet&)> end;
-        const Journal& expected;
-    } cases[] = {
+    const std::pair<std::function<void(Sheet&)>, const Journal&> cases[] = {
         {[](Sheet& sheet) { sheet.Press(PSBTN_CANCEL); }, reset},
         {[](Sheet&) { TypeKey(VK_ESCAPE); }, reset},
         {[](Sheet& sheet) { sheet.SendMessage(WM_CLOSE); }, reset},
@@ -142,9 +138,9 @@ TEST_F(PropertySheetTest, EveryWayOfCancellingResetsThePages)
     {
         SCOPED_TRACE(&each - cases);
         Sheet sheet(&Host(), {&first, &second});
-        sheet.inLoop = [&] { each.end(sheet); };
+        sheet.inLoop = [&] { each.first(sheet); };
         EXPECT_EQ(sheet.DoModal(), IDCANCEL);
-        EXPECT_EQ(TakeJournal(), each.expected);
+        EXPECT_EQ(TakeJournal(), each.second);
         EXPECT_EQ(sheet.gone, 1);
         EXPECT_EQ(first.GetSafeHwnd(), nullptr);
         EXPECT_TRUE(Host().IsWindowEnabled());

@@ -7,7 +7,6 @@
 
 #include <string>
 #include <utility>
-#include <vector>
 
 // Resource ids of framework_strings.rc
 constexpr UINT ShortString = 60000;

@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -91,23 +92,19 @@ TEST_F(WndTest, TheObjectIsThereBeforeTheFirstMessage)
 
 TEST_F(WndTest, ACreationThatFailsEndsOnceAndLeavesNothing)
 {
-    const struct
-    {
-        const char* windowClass;
-        UINT refuses;
-        Journal expected;
-    } cases[] = {
+    // The class, the message that refuses, and what is heard.
+    const std::tuple<const char*, UINT, Journal> cases[] = {
         {"no such class", 0, {"gone"}},
         {nullptr, WM_NCCREATE, {"bound", "nccreate", "ncdestroy", "gone"}},
         {nullptr, WM_CREATE, {"bound", "nccreate", "create", "ncdestroy", "gone"}},
     };
-    for (const auto& each : cases)
+    for (const auto& [windowClass, refuses, heard] : cases)
     {
         LifeWindow window;
-        window.refuses = each.refuses;
-        EXPECT_FALSE(window.Make(&Host(), each.windowClass));
+        window.refuses = refuses;
+        EXPECT_FALSE(window.Make(&Host(), windowClass));
         std::erase(journal, "destroy"); // platforms differ on whether it comes
-        EXPECT_EQ(TakeJournal(), each.expected);
+        EXPECT_EQ(TakeJournal(), heard);
         EXPECT_EQ(window.GetSafeHwnd(), nullptr);
         // Nothing still waits for the next window of the thread.
         EXPECT_EQ(CWnd::FromHandlePermanent(PlainChild(Host())), nullptr);

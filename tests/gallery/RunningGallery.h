@@ -13,6 +13,8 @@ inline std::string GalleryCommand(const std::string& arguments)
     return '"' + path.substr(0, path.find_last_of('\\') + 1) + "gallery.exe\" " + arguments;
 }
 
+constexpr const char* Title = "OnBoardUI Gallery";
+
 // Ended with the object.
 class RunningGallery
 {
@@ -63,9 +65,21 @@ private:
     DWORD m_id = 0;
 };
 
-inline CRect PlaceOf(HWND window)
+// A visible window on a page of its frame, of that class and with that text, or the page that is
+// shown, once there is one.
+inline HWND Shown(HWND frame, const char* text = nullptr, const char* windowClass = nullptr)
 {
-    CRect place;
-    ::GetWindowRect(window, &place);
-    return place;
+    HWND found = nullptr;
+    PumpUntil(
+        [&] {
+            HWND page = nullptr;
+            while (found == nullptr && (page = ::FindWindowEx(frame, page, "#32770", nullptr)))
+            {
+                found = text == nullptr ? page : ::FindWindowEx(page, nullptr, windowClass, text);
+                found = ::IsWindowVisible(found) ? found : nullptr;
+            }
+            return found != nullptr;
+        },
+        10000);
+    return found;
 }

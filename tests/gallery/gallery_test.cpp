@@ -25,26 +25,6 @@ struct TemporaryFile : TextFile
     }
 };
 
-// The page that is shown, or its control with that text, once there is one.
-HWND Shown(HWND frame, const char* text = nullptr)
-{
-    HWND found = nullptr;
-    PumpUntil(
-        [&] {
-            HWND page = nullptr;
-            while (found == nullptr && (page = ::FindWindowEx(frame, page, "#32770", nullptr)))
-            {
-                found = text == nullptr ? page : ::FindWindowEx(page, nullptr, nullptr, text);
-                found = ::IsWindowVisible(found) ? found : nullptr;
-            }
-            return found != nullptr;
-        },
-        10000);
-    return found;
-}
-
-constexpr const char* Title = "OnBoardUI Gallery";
-
 using GalleryTest = WindowTest;
 
 TEST_F(GalleryTest, OpensPagesAndSwitchesModesFromItsStartPageAndKeepsTheMode)
@@ -54,10 +34,10 @@ TEST_F(GalleryTest, OpensPagesAndSwitchesModesFromItsStartPageAndKeepsTheMode)
         const RunningGallery gallery(settings.Option());
         const HWND frame = gallery.Window(Title);
         ASSERT_NE(Shown(frame, "Display mode: STD"), nullptr);
-        Click(PlaceOf(Shown(frame, "Edits")).CenterPoint());
+        Click(WindowRectOf(Shown(frame, "Edits")).CenterPoint());
         EXPECT_NE(Shown(frame, "With a prompt"), nullptr) << "the page of the tile";
         TypeKey(VK_HOME); // in the list of pages
-        Click(PlaceOf(Shown(frame, "Flight bag\nfull screen")).CenterPoint());
+        Click(WindowRectOf(Shown(frame, "Flight bag\nfull screen")).CenterPoint());
         EXPECT_NE(Shown(frame, "Display mode: EFBFS"), nullptr);
         TypeKey(VK_TAB); // from the button that was tapped to the first tile
         TypeKey(VK_RIGHT);
@@ -71,7 +51,7 @@ TEST_F(GalleryTest, OpensPagesAndSwitchesModesFromItsStartPageAndKeepsTheMode)
     EXPECT_NE(settings.Content().find("EFBFS"), std::string::npos) << "only the user changes it";
 }
 
-TEST_F(GalleryTest, IsDarkFromEdgeToEdgeOnBoardAtEverySize)
+TEST_F(GalleryTest, IsDarkFromEdgeToEdgeOnBoard)
 {
     const TemporaryFile settings;
     const RunningGallery gallery("--mode onboard" + settings.Option());
@@ -84,24 +64,21 @@ TEST_F(GalleryTest, IsDarkFromEdgeToEdgeOnBoardAtEverySize)
                picture.Count(::GetSysColor(COLOR_ACTIVECAPTION));
     };
     const auto dark = [&] {
-        const CRect page = PlaceOf(Shown(frame));
+        const CRect page = WindowRectOf(Shown(frame));
         const int inPage = light(page);
         // An edit with a prompt is as light as the platform's, and takes less than that.
-        return light(PlaceOf(frame)) == inPage && inPage < page.Width() * page.Height() / 25;
+        return light(WindowRectOf(frame)) == inPage && inPage < page.Width() * page.Height() / 25;
     };
-    const auto expectDark = [&](int step) {
-        const int pages = int(::SendMessage(list, LB_GETCOUNT, 0, 0));
-        EXPECT_GT(pages, 0);
-        for (int page = 0; page < pages; page += step)
-        {
-            ::SendMessage(list, LB_SETCURSEL, WPARAM(page), 0);
-            ::SendMessage(frame, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(list), LBN_SELCHANGE),
-                          LPARAM(list));
-            PumpFor(50); // until it is painted
-            EXPECT_TRUE(PumpUntil(dark)) << "page " << page;
-        }
-    };
-    expectDark(1);
+    const int pages = int(::SendMessage(list, LB_GETCOUNT, 0, 0));
+    EXPECT_GT(pages, 0);
+    for (int page = 0; page < pages; ++page)
+    {
+        ::SendMessage(list, LB_SETCURSEL, WPARAM(page), 0);
+        ::SendMessage(frame, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(list), LBN_SELCHANGE),
+                      LPARAM(list));
+        PumpFor(50); // until it is painted
+        EXPECT_TRUE(PumpUntil(dark)) << "page " << page;
+    }
 }
 
 // The middle of a key of the keyboard: five rows of 22 units, from a margin on.
@@ -117,11 +94,11 @@ TEST_F(GalleryTest, ItsKeyboardTypesAWordIntoTheEditThatWasTappedAndHides)
     const HWND edit = ::FindWindowEx(Shown(gallery.Window(Title)), nullptr, "EDIT", nullptr);
     ASSERT_NE(edit, nullptr);
     ::SendMessage(edit, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(""));
-    Click(PlaceOf(edit).CenterPoint());
+    Click(WindowRectOf(edit).CenterPoint());
     const HWND keyboard = gallery.Window("Keyboard");
     ASSERT_NE(keyboard, nullptr);
-    const CRect keys = PlaceOf(keyboard);
-    EXPECT_FALSE(CRect().IntersectRect(keys, PlaceOf(edit))) << "it covers what is typed";
+    const CRect keys = WindowRectOf(keyboard);
+    EXPECT_FALSE(CRect().IntersectRect(keys, WindowRectOf(edit))) << "it covers what is typed";
     // Row, unit and what is typed then.
     const std::tuple<int, int, std::string> word[] = {
         {2, 2, "s"}, {1, 16, "so"}, {3, 13, "son"}, {2, 18, "so"}, {1, 16, "soo"}};

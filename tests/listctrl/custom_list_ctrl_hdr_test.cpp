@@ -8,14 +8,6 @@
 
 namespace {
 
-// A header of the test's own, which paints onto a canvas.
-class HeaderForTests : public CCustomListCtrlHdr
-{
-public:
-    using CCustomListCtrlHdr::DrawOBSortArrow;
-    using CCustomListCtrlHdr::DrawStdSortArrow;
-};
-
 // Notes what its header tells of a drag.
 struct ListThatFollows : ListForTests
 {
@@ -57,8 +49,7 @@ TEST_F(ListCtrlOnBoard, TheHeaderIsAGradientAndAPressedItemTheReverse)
     EXPECT_NEAR(GetRValue(picture.At(80, height - 1)), 92, 2);
     EXPECT_EQ(picture.At(102, 3), RGB(0, 0, 0)) << "divider";
     EXPECT_GT(picture.Count(palette::HeaderText), 20);
-    MoveTo(ClientPoint(list, CPoint(50, 8)));
-    Press();
+    Press(ClientPoint(list, CPoint(50, 8)));
     const Pixels pressed = WindowPixels(list.m_header);
     EXPECT_EQ(pressed.At(80, 0), RGB(90, 90, 90));
     EXPECT_GT(GetRValue(pressed.At(80, height - 1)), 140);
@@ -70,7 +61,7 @@ TEST_F(ListCtrlOnBoard, TheHeaderIsAGradientAndAPressedItemTheReverse)
 
 TEST_F(ListCtrlOnBoard, SortArrowsPointUpAndDown)
 {
-    HeaderForTests header;
+    HeaderAccess header;
     const CRect item(10, 0, 110, 30);
     for (const bool up : {true, false})
     {
@@ -153,9 +144,9 @@ TEST_F(ListCtrlOnBoard, TheStripStandsOverTheShiftedColumns)
     for (int step = 0; step < 4; ++step)
     {
         list.PerformHScroll(SB_LINERIGHT);
-        PumpAll();
-        const Pixels picture = WindowPixels(list);
+        const Pixels picture = Settled(list);
         list.GetVerticalDivides(8);
+        EXPECT_FALSE(list.m_gridLines.Positions().empty());
         for (const int x : list.m_gridLines.Positions())
         {
             if (x > 0 && x < ClientRectOf(list).right - 1)
@@ -197,8 +188,7 @@ TEST_F(ListCtrlOnBoard, ADividerIsDraggedAlsoWithTheListScrolledSideways)
         list.told.clear();
         const CPoint from = list.DividerPoint(column);
         CPoint pointer = from + CPoint(25, 0);
-        MoveTo(from);
-        Press();
+        Press(from);
         DragTo(pointer, 3);
         EXPECT_TRUE(list.m_header.IsHotTracking());
         EXPECT_EQ(::GetCapture(), list.m_header.GetSafeHwnd());
@@ -258,8 +248,7 @@ TEST_F(ListCtrlOnBoard, ADragThatIsCutOffEndsWithoutAWidth)
         auto& list = AddList(10);
         const int column = row.name == std::string("columns") ? 1 : 0;
         const CPoint from = list.DividerPoint(column);
-        MoveTo(from);
-        Press();
+        Press(from);
         DragTo(from + CPoint(30, 0));
         ASSERT_TRUE(list.m_header.IsHotTracking());
         row.act(list);
@@ -277,7 +266,7 @@ TEST_F(ListCtrlOnBoard, ADragThatIsCutOffEndsWithoutAWidth)
 TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
 {
     // The platform's pointer messages reach 32767 pixels; each column is 1700 wide on-board.
-    auto& list = AddList(3, 24, ReportStyle, CRect(0, 20, 800, 200));
+    auto& list = AddList(3, 24, ReportStyle, CRect(0, 20, 780, 200));
     std::vector<int> clicked;
     Host().hook = [&](ToldMessage& told) {
         if (told.code == UINT(LVN_COLUMNCLICK))
@@ -293,6 +282,8 @@ TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
     const auto heading = [&](int column, int dx) {
         const int left = int(list.ColumnRect(column).left);
         list.PerformHScroll(left / int(list.m_scrollUnit.cx) - 1, list.m_hBar.GetScrollPos());
+        // A new height, for which the platform makes its header as wide as the list.
+        list.SetWindowPos(nullptr, 0, 0, 780, 180 + column, SWP_NOMOVE | SWP_NOZORDER);
         PumpAll();
         return ClientPoint(list, CPoint(left + int(list.m_drawOffset.x) + dx, 8));
     };

@@ -36,8 +36,7 @@ TEST_F(ListCtrlOnBoard, AnHeirDecidesWhatPressesAndHoldsDo)
         int steps = 0;
     };
     auto& list = AddList<Heir>(100);
-    MoveTo(list.PartPoint(Second));
-    Press();
+    Press(list.PartPoint(Second));
     EXPECT_EQ(list.steps, 1);
     EXPECT_TRUE(PumpUntil([&] { return list.steps > 1; })) << "held";
     Release();
@@ -115,8 +114,7 @@ TEST_F(ListCtrlOnBoard, APointerThatOnlyRestsOnTheThumbIsNoDrag)
     list.SendMessage(WM_HSCROLL, SB_LINERIGHT);
     EXPECT_EQ(list.m_hBar.GetScrollPos(), 1);
     list.ExpectInStep("messages");
-    MoveTo(list.PartPoint(Thumb));
-    Press();
+    Press(list.PartPoint(Thumb));
     list.SendMessage(WM_VSCROLL, SB_LINEDOWN);
     EXPECT_EQ(list.TopRow(), 1) << "a held one is where the user has it";
     Release();
@@ -128,8 +126,7 @@ TEST_F(ListCtrlOnBoard, ThePressOnTheRightArrowIsNotHeld)
     for (const auto& [part, axis] :
          {std::pair(First, SB_VERT), {Second, SB_VERT}, {Second, SB_HORZ}, {First, SB_HORZ}})
     {
-        MoveTo(list.PartPoint(part, axis));
-        Press();
+        Press(list.PartPoint(part, axis));
         EXPECT_EQ(list.m_pressed, axis == SB_VERT || part == First) << axis << part;
         Release();
     }

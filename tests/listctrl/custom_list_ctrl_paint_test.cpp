@@ -56,8 +56,7 @@ TEST_F(ListCtrlOnBoard, CellsShowTextSelectionAndEndAtTheDivider)
     auto& single = AddList(3, 1);
     single.SetItemState(1, 3, 3);
     const Pixels picture = CellsOf(single, false, CRect(0, 0, 500, 400));
-    CRect row;
-    single.GetItemRect(1, &row, LVIR_BOUNDS);
+    const CRect row = ItemRectOf(single, 1);
     EXPECT_EQ(picture.At(row.right - 1, row.top), palette::Highlight);
     EXPECT_EQ(picture.At(row.right, row.top), Canvas::Untouched);
 }

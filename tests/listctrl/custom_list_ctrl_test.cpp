@@ -3,6 +3,8 @@
 #include "listctrl/ListLayout.h"
 #include "listctrl/list_for_tests.h"
 
+#include <tuple>
+
 TEST(ListLayout, FewAndManyRowsAndWideColumns)
 {
     EXPECT_FALSE(listctrl::VerticalBar(0, 20, 206).needed);
@@ -50,13 +52,8 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
     list.SetExtendedStyle(LVS_EX_GRIDLINES | LVS_EX_FULLROWSELECT);
     const int fit = list.VisibleRows();
     constexpr int Any = -1;
-    const struct
-    {
-        const char* name;
-        std::function<void()> act;
-        const char* bars;
-        int top;
-    } changes[] = {
+    // What changes, the bars then, and the top row.
+    const std::tuple<const char*, std::function<void()>, const char*, int> changes[] = {
         {"all but full", [&] { list.Fill(fit - 2); }, "", 0}, // one row was there
         {"one more", [&] { list.InsertItem(0, "one more"); }, "v", 0},
         {"and gone", [&] { list.DeleteItem(0); }, "", 0},
@@ -108,14 +105,14 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
          },
          "h", 0},
     };
-    for (const auto& change : changes)
+    for (const auto& [name, act, bars, top] : changes)
     {
-        change.act();
-        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << change.name;
-        list.ExpectInStep(change.name);
-        const std::string bars(list.m_vBar.ShowScrollBar() ? "v" : "");
-        EXPECT_EQ(bars + (list.m_hBar.ShowScrollBar() ? "h" : ""), change.bars) << change.name;
-        EXPECT_TRUE(change.top == Any || list.TopRow() == change.top) << change.name;
+        act();
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << name;
+        list.ExpectInStep(name);
+        const std::string shown(list.m_vBar.ShowScrollBar() ? "v" : "");
+        EXPECT_EQ(shown + (list.m_hBar.ShowScrollBar() ? "h" : ""), bars) << name;
+        EXPECT_TRUE(top == Any || list.TopRow() == top) << name;
     }
     while (list.DeleteColumn(list.m_header.GetItemCount() - 1) && list.m_header.GetItemCount() > 0)
     {
@@ -208,8 +205,7 @@ TEST_F(ListCtrlOnBoard, OneObjectServesSeveralWindowsOneAfterTheOther)
 {
     auto& list = AddList(1, 10);
     list.PerformHScroll(SB_LINERIGHT);
-    MoveTo(list.DividerPoint(1));
-    Press();
+    Press(list.DividerPoint(1));
     ASSERT_TRUE(list.m_header.IsHotTracking());
     list.DestroyWindow();
     Release();
@@ -225,10 +221,7 @@ TEST_F(ListCtrlOnBoard, OneObjectServesSeveralWindowsOneAfterTheOther)
         const ModeScope scope(mode);
         auto& plain = Add<CListCtrl>(CRect(20, 20, 420, 320), ReportStyle);
         plain.InsertColumn(0, "One", LVCFMT_LEFT, 100);
-        for (int row = 0; row < 50; ++row)
-        {
-            plain.InsertItem(row, "row");
-        }
+        AddRows(plain, 50);
         ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
         PumpAll();
         EXPECT_EQ(list.m_vBar.ShowScrollBar() != 0, mode != STD);

@@ -15,12 +15,7 @@ public:
 
     size_t Records() const { return m_records->Count(); }
 
-    CRect RowRect(int row) const
-    {
-        CRect rect;
-        GetItemRect(row, &rect);
-        return rect;
-    }
+    CRect RowRect(int row) const { return ItemRectOf(*this, row); }
 
     // Screen points on a row's check and on its text.
     CPoint CheckPoint(int row) const

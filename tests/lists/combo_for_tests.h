@@ -8,8 +8,6 @@
 #include "support/OnBoard.h"
 #include "support/WindowTest.h"
 
-#include <string>
-
 // A combo that lets a test see its list.
 class ComboForTests : public CCustomDropListCombo
 {
@@ -21,13 +19,7 @@ public:
     bool HasList() const { return m_list != nullptr; }
     CRect ListRect() { return WindowRectOf(*List().GetParent()); }
 
-    void Fill(int items)
-    {
-        for (int item = 0; item < items; ++item)
-        {
-            AddString(("Item " + std::to_string(item)).c_str());
-        }
-    }
+    void Fill(int items) { AddRows(*this, items, "Item "); }
 
     // Opens the list by a click on the combo.
     void Open()
@@ -38,12 +30,7 @@ public:
 
     // Screen points.
     CPoint Middle() const { return WindowRectOf(*this).CenterPoint(); }
-    CPoint RowPoint(int row)
-    {
-        CRect rect;
-        List().GetItemRect(row, &rect);
-        return ClientPoint(List(), rect.CenterPoint());
-    }
+    CPoint RowPoint(int row) { return ClientPoint(List(), ItemRectOf(List(), row).CenterPoint()); }
 };
 
 constexpr WORD ComboId = 7;
@@ -81,12 +68,5 @@ protected:
 };
 
 // The same on either side of the mode switch.
-class ComboInMode : public OnBoard<ComboTest>, public testing::WithParamInterface<APPMODE>
-{
-protected:
-    void SetUp() override
-    {
-        OnBoard::SetUp();
-        COnBoardUIGeneral::SetAppMode(GetParam());
-    }
-};
+class ComboInMode : public InMode<ComboTest>
+{};

@@ -4,15 +4,13 @@
 
 #include <gmock/gmock.h>
 
-#include <climits>
-
 namespace {
 
 // The pixels that both a list with bars and one without show of the first rows.
 Pixels LeftOfRows(CListBox& list)
 {
     PumpAll();
-    list.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
+    Repaint(list);
     return ScreenPixels(CRect(WindowPoint(list, CPoint(20, 20)), CSize(60, 20)));
 }
 
@@ -63,10 +61,8 @@ TEST_F(ListBoxTest, ColumnsStayWhereTheyAreAndAreCountedAnew)
     {
         SetMode(mode, list);
         EXPECT_GT(list.GetTopIndex(), 0);
-        CRect row;
         list.SetColumnWidth(0); // keeps the width that it has
-        list.GetItemRect(0, &row);
-        EXPECT_EQ(row.Width(), 80);
+        EXPECT_EQ(ItemRectOf(list, 0).Width(), 80);
     }
     EXPECT_GT(list.m_hBar.GetScrollPos(), 0);
     const CPoint wide = RangeOf(list.m_hBar);
@@ -115,8 +111,7 @@ TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
     EXPECT_EQ(log.Count(WM_SETREDRAW), 1) << "the end of the filling";
 
     // Let go of in the middle of a drag: the next window is not dragged.
-    MoveTo(list.PartPoint(parts::Thumb));
-    Press();
+    Press(list.PartPoint(parts::Thumb));
     ASSERT_TRUE(list.m_tracking);
     ::DestroyWindow(list.UnsubclassWindow());
     create(ListStyle, 100);

@@ -1,8 +1,6 @@
 // Real input on a list box: what own_bars_test.cpp does not say of every list with bars of its own.
 
 #include "lists/list_box_for_tests.h"
-#include "support/Acting.h"
-#include "support/Fenced.h"
 
 using namespace parts;
 
@@ -35,8 +33,7 @@ TEST_F(ListBoxOnBoard, WithoutABarTheRowsAreThePlatformsToScroll)
     for (int turn = 0; turn < 59; ++turn)
     {
         TypeKey(VK_DOWN);
-        CRect row;
-        heights.GetItemRect(heights.GetCaretIndex(), &row);
+        const CRect row = ItemRectOf(heights, heights.GetCaretIndex());
         ASSERT_LE(row.bottom, ClientRectOf(heights).bottom) << turn;
         ASSERT_GE(row.top, 0) << turn;
     }
@@ -58,10 +55,8 @@ TEST_F(ListBoxOnBoard, KeysMoveSelectionRowsAndBarTogether)
     for (const UINT key : {VK_UP, VK_DOWN, VK_END, VK_UP, VK_HOME, VK_NEXT, VK_NEXT, VK_PRIOR})
     {
         TypeKey(key);
-        CRect row;
-        list.GetItemRect(list.GetCaretIndex(), &row);
         EXPECT_GE(list.GetCaretIndex(), list.GetTopIndex()) << key;
-        EXPECT_LT(row.top, ClientRectOf(list).bottom) << key;
+        EXPECT_LT(ItemRectOf(list, list.GetCaretIndex()).top, ClientRectOf(list).bottom) << key;
         EXPECT_EQ(list.m_vBar.GetScrollPos(), list.GetTopIndex()) << key;
     }
     const int top = list.GetTopIndex();
@@ -73,8 +68,7 @@ TEST_F(ListBoxOnBoard, KeysMoveSelectionRowsAndBarTogether)
 TEST_F(ListBoxOnBoard, TheBarFollowsASelectionDraggedPastTheEdge)
 {
     auto& list = AddList(200);
-    MoveTo(ClientPoint(list, CPoint(30, 100)));
-    Press();
+    Press(ClientPoint(list, CPoint(30, 100)));
     MoveTo(ClientPoint(list, CPoint(30, 330)));
     EXPECT_TRUE(PumpUntil([&] { return list.GetTopIndex() > 3; }));
     PumpAll();
@@ -82,16 +76,16 @@ TEST_F(ListBoxOnBoard, TheBarFollowsASelectionDraggedPastTheEdge)
     Release();
 }
 
-// Lists that end --------------------------------------------------------------------------------
-
-TEST_F(ListBoxOnBoard, AParentMayDeleteTheListInItsNotification)
+// The platform selects the row that was there before.
+TEST_F(ListBoxTest, OnBoardAPressTakesTheFocusAndThenWhatIsUnderIt)
 {
-    for (const bool byKey : {true, false})
+    for (const auto& [mode, selected] : {std::pair{STD, 0}, {ONBOARD, 40}})
     {
-        auto& list = AddList<Fenced<ListBoxForTests>>(300);
-        list.SetFocus();
-        const OnceTold end(Host(), LBN_SELCHANGE, [&] { Remove(list); });
-        byKey ? TypeKey(VK_DOWN) : Click(ClientPoint(list, CPoint(30, 30)));
-        EXPECT_TRUE(bool(end)) << byKey;
+        const ModeScope scope(mode);
+        auto& list = AddList(100);
+        const OnceTold scroll(Host(), LBN_SETFOCUS, [&] { list.SetTopIndex(40); });
+        Click(ClientPoint(list, CPoint(30, 2)));
+        EXPECT_EQ(list.GetCurSel(), selected);
+        Remove(list);
     }
 }

@@ -2,6 +2,8 @@
 
 #include "lists/list_box_for_tests.h"
 
+#include <tuple>
+
 // Layout ----------------------------------------------------------------------------------------
 
 TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
@@ -11,14 +13,8 @@ TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
     const int visible = list.VisibleRows();
     constexpr int End = -1;   // as far as the bar goes
     constexpr int Stays = -2; // where it is
-    const struct
-    {
-        const char* name;
-        std::function<void()> act;
-        const char* bars;
-        int top;
-        int across;
-    } changes[] = {
+    // What changes, the bars then, the top row and the place across.
+    const std::tuple<const char*, std::function<void()>, const char*, int, int> changes[] = {
         {"empty", [] {}, "", 0, 0},
         {"full", [&] { list.Fill(visible); }, "", 0, 0},
         {"one more", [&] { list.AddString("One more"); }, "v", 0, 0},
@@ -65,21 +61,20 @@ TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
         {"higher, from its end", [&] { list.SetTopIndex(19), list.MoveWindow(20, 20, 700, 560); },
          "", 0, 0},
     };
-    for (const auto& change : changes)
+    for (const auto& [name, act, bars, top, across] : changes)
     {
         const int before = list.GetTopIndex();
-        change.act();
-        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << change.name;
-        list.ExpectInStep(change.name);
-        const std::string bars(list.m_vBarNeeded ? "v" : "");
-        EXPECT_EQ(bars + (list.m_hBarNeeded ? "h" : ""), change.bars) << change.name;
-        EXPECT_EQ(list.GetTopIndex(), change.top == End     ? list.GetCount() - list.VisibleRows()
-                                      : change.top == Stays ? before
-                                                            : change.top)
-            << change.name;
-        EXPECT_EQ(list.m_hBar.GetScrollPos(),
-                  change.across == End ? RangeOf(list.m_hBar).y : change.across)
-            << change.name;
+        act();
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << name;
+        list.ExpectInStep(name);
+        const std::string shown(list.m_vBarNeeded ? "v" : "");
+        EXPECT_EQ(shown + (list.m_hBarNeeded ? "h" : ""), bars) << name;
+        EXPECT_EQ(list.GetTopIndex(), top == End     ? list.GetCount() - list.VisibleRows()
+                                      : top == Stays ? before
+                                                     : top)
+            << name;
+        EXPECT_EQ(list.m_hBar.GetScrollPos(), across == End ? RangeOf(list.m_hBar).y : across)
+            << name;
     }
 }
 
@@ -104,8 +99,7 @@ TEST_F(ListBoxTest, DrawnRowsFollowTheMode)
         EXPECT_EQ(seen.At(200, 3 + onBoard + 2), RGB(50, 80, 110));
         EXPECT_GT(seen.Count(RGB(230, 230, 230), CRect(3, 3 + onBoard, 203, 3 + 2 * onBoard)), 20);
         list.EnableWindow(FALSE);
-        PumpAll();
-        EXPECT_GT(WindowPixels(list).Count(RGB(70, 70, 70), CRect(5, 5, 203, 200)), 50);
+        EXPECT_GT(Settled(list).Count(RGB(70, 70, 70), CRect(5, 5, 203, 200)), 50);
         SetMode(STD, list);
         EXPECT_EQ(list.GetItemHeight(0), standard);
         Remove(list);
@@ -118,10 +112,8 @@ TEST_F(ListBoxTest, ListsThatWereThereGoThroughAllModesAndBack)
     {
         COnBoardUIGeneral::SetAppMode(born);
         auto& plain = Add<CListBox>(CRect(20, 20, 320, 320), WideListStyle);
-        for (int row = 0; row < 60; ++row)
-        {
-            plain.AddString(row == 3 ? WideText : "Some row");
-        }
+        AddRows(plain, 60);
+        plain.AddString(WideText);
         ListBoxForTests list;
         ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
         for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, STD, EFBFS, STD})
@@ -162,6 +154,5 @@ TEST_F(ListBoxTest, WhatTheHostSetInTheStandardModeStays)
     auto& still = Add<ListBoxForTests>(CRect(20, 340, 220, 440), ListStyle | LBS_NOREDRAW);
     const Pixels before = WindowPixels(still);
     still.Fill(3);
-    PumpAll();
-    EXPECT_EQ(WindowPixels(still).Count(0), before.Count(0));
+    EXPECT_EQ(Settled(still), before);
 }

@@ -42,8 +42,7 @@ TEST_P(ComboInMode, AClickOpensTheListTracksAndPicksOnRelease)
         EXPECT_EQ(combo.List().GetHighlightedRow(), highlighted);
         EXPECT_EQ(combo.GetCurSel(), 0);
     }
-    MoveTo(combo.RowPoint(2));
-    Press();
+    Press(combo.RowPoint(2));
     EXPECT_TRUE(combo.IsExpanded());
     EXPECT_THAT(TakeCodes(combo), IsEmpty());
     Release();
@@ -186,8 +185,7 @@ TEST_P(ComboInMode, AListOpenedWithoutTheCaptureIsPickedFromAllTheSame)
     combo.DoDropButton();
     ASSERT_TRUE(combo.IsExpanded());
     EXPECT_EQ(::GetCapture(), nullptr);
-    MoveTo(combo.RowPoint(3));
-    Press();
+    Press(combo.RowPoint(3));
     EXPECT_THAT(TakeCodes(combo), IsEmpty());
     // The combo may end in what is told then, which ends the list in the middle of its click.
     const OnceTold end(Host(), Told, [&] {
@@ -205,8 +203,7 @@ TEST_F(ComboTest, APressOnTheListsBarThatEndsElsewherePicksNothing)
     auto& combo = AddCombo(200);
     combo.Open();
     const CRect list = combo.ListRect();
-    MoveTo(CPoint(list.right - 26, list.top + 60)); // the thumb stands at the top
-    Press();
+    Press(CPoint(list.right - 26, list.top + 60)); // the thumb stands at the top
     DragTo(CPoint(list.right - 26, list.top + 120));
     EXPECT_GT(combo.List().GetTopIndex(), 20);
     DragTo(CPoint(list.left + 20, list.top + 120));
@@ -214,8 +211,7 @@ TEST_F(ComboTest, APressOnTheListsBarThatEndsElsewherePicksNothing)
     Release();
     EXPECT_TRUE(combo.IsExpanded()) << "the thumb was dragged into the rows";
 
-    MoveTo(CPoint(list.right - 20, list.bottom - 20));
-    Press();
+    Press(CPoint(list.right - 20, list.bottom - 20));
     ASSERT_TRUE(combo.List().IsBarHeld());
     COnBoardUIGeneral::SetAppMode(EFB);
     Release();

@@ -315,10 +315,7 @@ TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
 TEST_P(ComboInMode, DisabledFocusedOpenAndPlainLookDifferent)
 {
     auto& combo = AddCombo(3);
-    const auto look = [&] {
-        PumpAll();
-        return WindowPixels(combo);
-    };
+    const auto look = [&] { return Settled(combo); };
     std::vector<Pixels> looks = {look()};
     const auto expectNew = [&](COLORREF ground) {
         looks.push_back(look());

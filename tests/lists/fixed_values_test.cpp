@@ -61,8 +61,7 @@ TEST_F(ListBoxOnBoard, RowsAreHalfAgainAsHighAsTheirTextAndThoseOfVariableChecks
 TEST_F(ListBoxOnBoard, ADerivedClassMayStartTheInitialWait)
 {
     auto& list = AddList(500);
-    MoveTo(list.PartPoint(parts::Second));
-    Press();
+    Press(list.PartPoint(parts::Second));
     list.KillTimer(CCustomListBox::m_timerid);
     const int top = list.GetTopIndex();
     list.SetTimer(CCustomListBox::m_timerInitialWaitID, 10, nullptr);

@@ -5,7 +5,6 @@
 #include "support/Acts.h"
 #include "support/Bars.h"
 #include "support/OnBoard.h"
-#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <string>
@@ -27,13 +26,7 @@ public:
     using Base::m_vBar;
     using Base::m_vBarNeeded;
 
-    void Fill(int rows)
-    {
-        for (int row = 0; row < rows; ++row)
-        {
-            this->AddString(("Row " + std::to_string(row)).c_str());
-        }
-    }
+    void Fill(int rows) { AddRows(*this, rows); }
 };
 
 class ListBoxForTests : public BarsSeen<CCustomListBox>

@@ -20,12 +20,6 @@ protected:
         PumpAll();
         return list;
     }
-
-    static void PressOn(List& list, CFauxScrollBar::ePRESSED part)
-    {
-        MoveTo(list.PartPoint(part));
-        Press();
-    }
 };
 
 using Controls = testing::Types<ListBoxForTests, ListForTests, EditForTests>;
@@ -56,8 +50,7 @@ TYPED_TEST(TwoOwnBars, FrameBandsAndCornerArePainted)
         EXPECT_EQ(seen.Count(::GetSysColor(COLOR_SCROLLBAR), area), 0);
     }
     list.EnableWindow(FALSE);
-    PumpAll();
-    EXPECT_LT(WindowPixels(list).Count(palette::Trough, list.Bar(SB_VERT).GetArea()), 1000);
+    EXPECT_LT(Settled(list).Count(palette::Trough, list.Bar(SB_VERT).GetArea()), 1000);
 }
 
 // What a thumb across, its arrows and the wheel do.
@@ -79,8 +72,7 @@ TYPED_TEST(TwoOwnBars, ScrollSidewaysAndByTheWheel)
     EXPECT_EQ(across.GetScrollPos(), RangeOf(across).y);
     Drag(list.PartPoint(Thumb, SB_HORZ), WindowPoint(list, CPoint(3, area.CenterPoint().y)));
     EXPECT_EQ(across.GetScrollPos(), 0);
-    MoveTo(list.PartPoint(Second, SB_HORZ));
-    Press();
+    Press(list.PartPoint(Second, SB_HORZ));
     EXPECT_TRUE(PumpUntil([&] { return across.GetScrollPos() >= 3; })) << "held";
     Release();
 }
@@ -110,7 +102,7 @@ TYPED_TEST(OwnBars, ArrowsAndTroughsScrollInEveryOnBoardMode)
 TYPED_TEST(OwnBars, AHeldArrowWaitsThenRepeatsToTheEndAndATroughDoesNot)
 {
     auto& list = this->AddList(40);
-    this->PressOn(list, Second);
+    Press(list.PartPoint(Second));
     EXPECT_EQ(list.TopRow(), 1);
     PumpFor(TypeParam::SureWait);
     EXPECT_EQ(list.TopRow(), 1) << "not before its time";
@@ -126,7 +118,7 @@ TYPED_TEST(OwnBars, AHeldArrowWaitsThenRepeatsToTheEndAndATroughDoesNot)
     PumpFor(200);
     EXPECT_FALSE(list.IsBarPressed());
     list.SendMessage(WM_VSCROLL, SB_TOP);
-    this->PressOn(list, AfterThumb);
+    Press(list.PartPoint(AfterThumb));
     PumpFor(450);
     EXPECT_EQ(list.TopRow(), std::min(end, list.Bar(SB_VERT).GetPageSize()));
     Release();
@@ -137,8 +129,7 @@ TYPED_TEST(OwnBars, AThumbIsDraggedRelativelyAndFromEndToEnd)
     auto& list = this->AddList();
     const CFauxScrollBar& down = list.Bar(SB_VERT);
     const CPoint grip = list.PartPoint(Thumb) + CPoint(0, 9); // off its middle
-    MoveTo(grip);
-    Press();
+    Press(grip);
     EXPECT_EQ(list.TopRow(), 0) << "the press alone moves nothing";
     DragTo(grip + CPoint(0, 40));
     EXPECT_NEAR(list.TopRow(), 40 / down.GetPixelsPerScroll(), 2);
@@ -175,7 +166,7 @@ TYPED_TEST(OwnBars, WhateverCutsAPressOffEndsIt)
             }
             SCOPED_TRACE(row.name);
             auto& list = this->AddList();
-            this->PressOn(list, part);
+            Press(list.PartPoint(part));
             DragTo(list.PartPoint(part) + CPoint(0, 5));
             ASSERT_TRUE(list.IsBarPressed());
             row.act(list);

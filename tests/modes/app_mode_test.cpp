@@ -127,9 +127,7 @@ TEST_F(AppModeTest, EachChangeHasItsScale)
     {
         SetOnBoardAppMode(mode);
         EXPECT_EQ(COnBoardUIGeneral::InOnBoardMode(), mode != STD);
-        CRect place = WindowRectOf(dialog->probe);
-        dialog->window.ScreenToClient(&place);
-        EXPECT_EQ(place, expected) << APPMODE_NAMES[mode];
+        EXPECT_EQ(PlaceIn(dialog->window, dialog->probe), expected) << APPMODE_NAMES[mode];
     }
 }
 

@@ -109,11 +109,6 @@ private:
 class ChildRestylingTest : public WindowTest
 {
 protected:
-    CRect PlaceOf(const CWnd& child)
-    {
-        return WindowRectOf(child) - WindowRectOf(Host()).TopLeft();
-    }
-
     Plain& AddPlain(const char* windowClass, const CRect& place, DWORD style = 0)
     {
         Plain& plain = Add(std::make_unique<Plain>(windowClass), place, style);
@@ -136,7 +131,7 @@ TEST_F(ChildRestylingTest, PlacesScaleAndAreTruncated)
     {
         child.MoveWindow(&before);
         Restyle(Host(), scale, ONBOARD);
-        EXPECT_EQ(PlaceOf(child), after) << before.left << " by " << scale;
+        EXPECT_EQ(PlaceIn(Host(), child), after) << before.left << " by " << scale;
     }
 }
 
@@ -148,7 +143,7 @@ TEST_F(ChildRestylingTest, OnlyDirectChildrenAreTouched)
     MessageLog log(inner, {WM_SETFONT, WM_WINDOWPOSCHANGING});
     Restyle(Host(), Enlarging, ONBOARD);
     EXPECT_EQ(log.All(), std::vector<Received>());
-    EXPECT_EQ(PlaceOf(box).Width(), 224);
+    EXPECT_EQ(PlaceIn(Host(), box).Width(), 224);
 
     EXPECT_EQ(ModifyChildsForAppMode(box, 0), 1);
 
@@ -279,6 +274,38 @@ TEST_F(ChildPlacingTest, AListBoxIsLaidOutInItsNewPlaceAlone)
     EXPECT_LT(ClientRectOf(list).Width(), WindowRectOf(list).Width() - 52) << "with its bar";
 }
 
+TEST_F(ChildPlacingTest, AListBoxOfWholeRowsKeepsThemHoweverTheModeComes)
+{
+    auto& list = AddList(CRect(10, 20, 160, 98), 0, 1);
+    MessageLog log(list, {WM_SIZE});
+    ChangeMode(ONBOARD), ChangeMode(STD); // in which it has the library's font now
+    EXPECT_LT(log.Count(WM_SIZE), 12) << "a height that is no longer one of whole rows";
+    int height = WindowRectOf(list).Height();
+    const auto place = [&](double scale, APPMODE mode) { Restyle(Host(), scale, mode); };
+    const auto hear = [&](APPMODE mode) {
+        COnBoardUIGeneral::SetAppMode(mode);
+        list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
+    };
+    const Act<> ways[] = {
+        {"before its place",
+         [&] { hear(ONBOARD), place(Enlarging, ONBOARD), hear(STD), place(Reducing, STD); }},
+        {"through two that narrow it",
+         [&] { ChangeMode(ONBOARD), hear(EFB), place(1, EFB), ChangeMode(STD); }},
+        {"after a place for another, and one that its parent chose",
+         [&] {
+             place(Enlarging, ONBOARD), list.SetFont(&CCustomListBox::GetStdFont());
+             list.MoveWindow(10, 20, 150, 30);
+             height = WindowRectOf(list).Height();
+             ChangeMode(ONBOARD), ChangeMode(STD);
+         }},
+    };
+    for (const auto& [name, act] : ways)
+    {
+        act();
+        EXPECT_EQ(WindowRectOf(list).Height(), height) << name;
+    }
+}
+
 TEST_F(ChildPlacingTest, AListBoxGetsItsSidewaysPlaceBackWheneverTheModeGoesBack)
 {
     auto& list = AddList(CRect(10, 20, 110, 120), WS_HSCROLL | LBS_NOINTEGRALHEIGHT, 7);
@@ -310,10 +337,7 @@ TEST_F(ChildPlacingTest, AReportListKeepsItsRowsHoweverTheModeComes)
     constexpr int Top = 40;
     auto& list = Add<Heir<CCustomListCtrl>>(CRect(10, 20, 210, 220), LVS_REPORT);
     list.InsertColumn(0, "Name", LVCFMT_LEFT, 100);
-    for (int row = 0; row < 200; ++row)
-    {
-        list.InsertItem(row, "waypoint");
-    }
+    AddRows(list, 200);
     const auto* const bar = reinterpret_cast<const CFauxScrollBar*>(list.GetScrollBarCtrl(SB_VERT));
     const auto top = [&] {
         return list.GetTopIndex() + (COnBoardUIGeneral::InOnBoardMode() ? bar->GetScrollPos() : 0);
@@ -342,9 +366,7 @@ TEST_F(ChildPlacingTest, AReportListKeepsItsRowsHoweverTheModeComes)
             SCOPED_TRACE(testing::Message() << each.what << " from " << from);
             ChangeMode(STD);
             list.MoveWindow(10, 20, 200, 200);
-            CRect row;
-            list.GetItemRect(0, &row, LVIR_BOUNDS);
-            list.Scroll(CSize(0, (Top - list.GetTopIndex()) * row.Height()));
+            list.Scroll(CSize(0, (Top - list.GetTopIndex()) * ItemRectOf(list, 0).Height()));
             if (from != STD)
             {
                 ChangeMode(from);
@@ -401,7 +423,7 @@ TEST_F(ChildRestylingTest, ACombosHeightTakesInItsList)
     for (const auto& [scale, mode] : BothWays)
     {
         Plain& combo = AddPlain("COMBOBOX", CRect(10, 20, 110, 170), CBS_DROPDOWNLIST);
-        const int closed = PlaceOf(combo).Height();
+        const int closed = PlaceIn(Host(), combo).Height();
         CRect dropped;
         combo.SendMessage(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
         ASSERT_GT(dropped.Height(), closed);

@@ -2,7 +2,6 @@
 #include "support/Acting.h"
 #include "support/AreaHost.h"
 #include "support/Canvas.h"
-#include "support/Fenced.h"
 #include "support/WindowTest.h"
 
 #include <cmath>

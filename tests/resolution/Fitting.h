@@ -3,16 +3,15 @@
 // Whether what a window shows has room in it.
 
 #include "CustomButton.h"
-#include "CustomListBox.h"
 #include "CustomPushbutton.h"
 #include "CustomStatic.h"
 #include "OnBoardUIGeneral.h"
+#include "support/Input.h"
 
 #include <afxcmn.h>
 #include <afxwin.h>
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 
 namespace fitting {
@@ -22,25 +21,6 @@ inline std::string ClassOf(HWND window)
     char name[40] = "";
     ::GetClassName(window, name, int(sizeof(name)));
     return name;
-}
-
-inline bool Is(HWND window, const char* name)
-{
-    return ::lstrcmpi(ClassOf(window).c_str(), name) == 0;
-}
-
-inline std::string TextOf(HWND window)
-{
-    char text[600] = "";
-    ::GetWindowText(window, text, int(sizeof(text)));
-    return text;
-}
-
-inline CSize SizeOf(HWND window)
-{
-    CRect client;
-    ::GetClientRect(window, &client);
-    return client.Size();
 }
 
 // What it is drawn in: the painted controls have fonts of their own on-board.
@@ -95,38 +75,35 @@ inline int CapitalHeight(HWND window)
 // Of rows, headings, tabs and fields: how high they are; 0 for what has none.
 inline int RowHeight(HWND window)
 {
-    CRect row(LVIR_BOUNDS, 0, 0, 0);
-    if (Is(window, "ListBox") && ::SendMessage(window, LB_GETCOUNT, 0, 0) > 0)
+    constexpr std::pair<const char*, UINT> withRows[] = {{WC_LISTVIEW, LVM_GETITEMRECT},
+                                                         {WC_TABCONTROL, TCM_GETITEMRECT},
+                                                         {TOOLBARCLASSNAME, TB_GETITEMRECT}};
+    for (const auto& [name, ask] : withRows)
     {
-        return int(::SendMessage(window, LB_GETITEMHEIGHT, 0, 0));
+        CRect row(LVIR_BOUNDS, 0, 0, 0);
+        if (IsOfClass(window, name) && ::SendMessage(window, ask, 0, LPARAM(&row)))
+        {
+            return row.Height();
+        }
     }
-    if (Is(window, WC_LISTVIEW) && ::SendMessage(window, LVM_GETITEMRECT, 0, LPARAM(&row)))
+    const bool hasItems =
+        IsOfClass(window, "ListBox") && ::SendMessage(window, LB_GETCOUNT, 0, 0) > 0;
+    if (hasItems || IsOfClass(window, WC_TREEVIEW))
     {
-        return row.Height();
+        return int(::SendMessage(window, hasItems ? LB_GETITEMHEIGHT : TVM_GETITEMHEIGHT, 0, 0));
     }
-    if (Is(window, WC_TREEVIEW))
-    {
-        return int(::SendMessage(window, TVM_GETITEMHEIGHT, 0, 0));
-    }
-    if (Is(window, WC_TABCONTROL) && ::SendMessage(window, TCM_GETITEMRECT, 0, LPARAM(&row)))
-    {
-        return row.Height();
-    }
-    if (Is(window, TOOLBARCLASSNAME) && ::SendMessage(window, TB_GETITEMRECT, 0, LPARAM(&row)))
-    {
-        return row.Height();
-    }
-    const bool hasLine = Is(window, WC_HEADER) || Is(window, "CCUSTOMDROPLISTCOMBO") ||
-                         Is(window, STATUSCLASSNAME) || Is(window, "Edit");
-    return hasLine ? int(SizeOf(window).cy) : 0;
+    const bool hasLine = IsOfClass(window, WC_HEADER) ||
+                         IsOfClass(window, "CCUSTOMDROPLISTCOMBO") ||
+                         IsOfClass(window, STATUSCLASSNAME) || IsOfClass(window, "Edit");
+    return hasLine ? ClientRectOf(window).Height() : 0;
 }
 
 // Empty, or what does not fit.
 inline std::string Fault(HWND window)
 {
     const DWORD style = DWORD(::GetWindowLong(window, GWL_STYLE));
-    const CSize room = SizeOf(window);
-    const std::string text = TextOf(window);
+    const CSize room = ClientRectOf(window).Size();
+    const std::string text = TextOf(*CWnd::FromHandle(window));
     const auto tell = [&](const std::string& what, CSize needed) {
         return ClassOf(window) + " '" + text + "' of " + std::to_string(room.cx) + " x " +
                std::to_string(room.cy) + ": " + what + " takes " + std::to_string(needed.cx) +
@@ -137,8 +114,8 @@ inline std::string Fault(HWND window)
         const int line = LineHeight(window);
         return row < line ? tell("a line in a row of " + std::to_string(row), CSize(0, line)) : "";
     }
-    const bool isButton = Is(window, "Button");
-    if (text.empty() || (!isButton && !Is(window, "Static")))
+    const bool isButton = IsOfClass(window, "Button");
+    if (text.empty() || (!isButton && !IsOfClass(window, "Static")))
     {
         return "";
     }
@@ -180,9 +157,10 @@ inline std::string Fault(HWND window)
 inline int CutOfSquare(HWND check)
 {
     const UINT kind = UINT(::GetWindowLong(check, GWL_STYLE)) & BS_TYPEMASK;
-    const bool isCheck = Is(check, "Button") && (kind == BS_AUTOCHECKBOX || kind == BS_AUTO3STATE);
+    const bool isCheck =
+        IsOfClass(check, "Button") && (kind == BS_AUTOCHECKBOX || kind == BS_AUTO3STATE);
     return isCheck && COnBoardUIGeneral::InOnBoardMode()
-               ? 3 + (int(SizeOf(check).cy) - 1 - LineHeight(check)) / 2
+               ? 3 + (ClientRectOf(check).Height() - 1 - LineHeight(check)) / 2
                : 0;
 }
 

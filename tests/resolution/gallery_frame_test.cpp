@@ -122,8 +122,7 @@ TEST_F(SmallGallery, AHeldTroughScrollsUpToThePointer)
 {
     Open(STD, int(GalleryPage::SizeInMode().cy) * 3 / 5);
     CWnd& bar = Part(IDC_PAGE_DOWN);
-    MoveTo(ClientPoint(bar, ClientRectOf(bar).CenterPoint()));
-    Press();
+    Press(ClientPoint(bar, ClientRectOf(bar).CenterPoint()));
     EXPECT_GT(Top(), 0);
     PumpFor(600);
     EXPECT_LT(Top(), Hidden());

@@ -70,8 +70,7 @@ TEST_F(Resolution, LeavesTheTextsOfEveryControlRoom)
             const std::string name = control.name;
             if (name == "combo" || name == "header") // of a fixed height
             {
-                CRect place;
-                window->GetWindowRect(&place);
+                const CRect place = WindowRectOf(*window);
                 window->SetWindowPos(nullptr, 0, 0, place.Width(), look::Scaled(place.Height()),
                                      SWP_NOMOVE | SWP_NOZORDER);
             }
@@ -106,12 +105,9 @@ std::vector<Placed> ChildrenOf(const GalleryPage& page)
     {
         if (::IsWindowVisible(child))
         {
-            CRect place;
-            ::GetWindowRect(child, &place);
-            page.ScreenToClient(&place);
-            const bool isBox = fitting::Is(child, "Button") &&
+            const bool isBox = IsOfClass(child, "Button") &&
                                (::GetWindowLong(child, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
-            children.push_back({child, place + page.Origin(), isBox});
+            children.push_back({child, PlaceIn(page, child) + page.Origin(), isBox});
         }
     }
     return children;
@@ -120,8 +116,8 @@ std::vector<Placed> ChildrenOf(const GalleryPage& page)
 std::string Named(const Placed& placed)
 {
     const CRect& at = placed.place;
-    return fitting::ClassOf(placed.window) + " '" + fitting::TextOf(placed.window) + "' at " +
-           std::to_string(at.left) + ", " + std::to_string(at.top) + " to " +
+    return fitting::ClassOf(placed.window) + " '" + TextOf(*CWnd::FromHandle(placed.window)) +
+           "' at " + std::to_string(at.left) + ", " + std::to_string(at.top) + " to " +
            std::to_string(at.right) + ", " + std::to_string(at.bottom);
 }
 
@@ -141,8 +137,7 @@ TEST_F(Resolution, LeavesThePagesOfTheGalleryWhole)
             PumpAll();
             GalleryPage& page = frame->Page();
             EXPECT_EQ(fitting::FaultsWithin(page), "");
-            CRect shown;
-            page.GetClientRect(&shown);
+            const CRect shown = ClientRectOf(page);
             const CRect content(CPoint(0, 0), page.ContentSize());
             const std::vector<Placed> children = ChildrenOf(page);
             for (const Placed& one : children)
@@ -159,9 +154,7 @@ TEST_F(Resolution, LeavesThePagesOfTheGalleryWhole)
                 }
                 // All that has room is brought in sight when the focus goes there.
                 page.Reveal(one.window);
-                CRect now;
-                ::GetWindowRect(one.window, &now);
-                page.ScreenToClient(&now);
+                const CRect now = PlaceIn(page, one.window);
                 EXPECT_TRUE(now.Width() > shown.Width() || now.Height() > shown.Height() ||
                             (now | shown) == shown)
                     << Named(one) << " is not seen";

@@ -18,8 +18,11 @@ struct Answer
     Answer(Number number)
         : text(std::to_string(number))
     {}
+    Answer(const std::string& string)
+        : text('"' + string + '"')
+    {}
     Answer(const CString& string)
-        : text('"' + std::string(string) + '"')
+        : Answer(std::string(string))
     {}
     Answer(const CPoint& point)
         : text(std::to_string(point.x) + '/' + std::to_string(point.y))
@@ -115,6 +118,34 @@ inline std::string Essentials(const NMHDR& header)
     return within(TBN_FIRST, TBN_LAST) ? Joined(About<NMTOOLBAR>(header).iItem) : std::string();
 }
 
+template <class Record> const Record& About(const ToldMessage& told)
+{
+    return *reinterpret_cast<const Record*>(told.lParam);
+}
+
+// What a message to the host is about, as text.
+inline std::string Essentials(const ToldMessage& told)
+{
+    switch (told.message)
+    {
+    case WM_NOTIFY:
+        return Essentials(About<NMHDR>(told));
+    case WM_COMMAND:
+    case WM_CONTEXTMENU:
+        return {};
+    case WM_DELETEITEM:
+        return Joined(told.wParam, About<DELETEITEMSTRUCT>(told).itemID,
+                      About<DELETEITEMSTRUCT>(told).itemData);
+    case WM_MEASUREITEM:
+        return Joined(told.wParam, About<MEASUREITEMSTRUCT>(told).itemID);
+    case WM_COMPAREITEM:
+        return Joined(told.wParam, int(About<COMPAREITEMSTRUCT>(told).itemID1),
+                      int(About<COMPAREITEMSTRUCT>(told).itemID2));
+    default:
+        return Joined(LOWORD(told.wParam), HIWORD(told.wParam));
+    }
+}
+
 // What a control answered and told its parent, line by line.
 class Journal
 {
@@ -138,12 +169,12 @@ public:
 
     void Add(int line, std::initializer_list<Answer> answers)
     {
-        std::string text = "line " + std::to_string(line) + ':';
+        m_text += "line " + std::to_string(line) + ':';
         for (const Answer& answer : answers)
         {
-            text += ' ' + answer.text;
+            m_text += ' ' + answer.text;
         }
-        m_lines.push_back(text);
+        m_text += '\n';
         PumpAll();
     }
 
@@ -182,13 +213,13 @@ public:
         return 0;
     }
 
-    const std::vector<std::string>& Lines() const { return m_lines; }
+    const std::string& Text() const { return m_text; }
 
 private:
     HostWindow& m_host;
     CWnd& m_control;
     std::function<void()> m_inTheMiddle;
-    std::vector<std::string> m_lines;
+    std::string m_text;
     bool m_writing = true;
 
     void Tell(ToldMessage& told)
@@ -197,44 +228,14 @@ private:
         {
             answer(told);
         }
-        if (!m_writing || told.message == WM_DRAWITEM)
+        const bool paints = told.message == WM_DRAWITEM ||
+                            (told.message == WM_NOTIFY && (told.code == UINT(NM_CUSTOMDRAW) ||
+                                                           told.code == UINT(LVN_GETDISPINFO)));
+        if (m_writing && !paints) // whose times are the display's
         {
-            return; // comes with painting, whose times are the display's
+            m_text += "    told" + Joined(told.message, told.id, int(told.code)) +
+                      Essentials(told) + '\n';
         }
-        std::string line = "    told" + Joined(told.message, told.id, int(told.code));
-        switch (told.message)
-        {
-        case WM_NOTIFY:
-            if (told.code == UINT(NM_CUSTOMDRAW) || told.code == UINT(LVN_GETDISPINFO))
-            {
-                return; // also with painting
-            }
-            line += Essentials(*reinterpret_cast<const NMHDR*>(told.lParam));
-            break;
-        case WM_COMMAND:
-        case WM_CONTEXTMENU:
-            break;
-        case WM_DELETEITEM:
-        {
-            const auto& item = *reinterpret_cast<const DELETEITEMSTRUCT*>(told.lParam);
-            line += Joined(told.wParam, item.itemID, item.itemData);
-            break;
-        }
-        case WM_MEASUREITEM:
-            line += Joined(told.wParam,
-                           reinterpret_cast<const MEASUREITEMSTRUCT*>(told.lParam)->itemID);
-            break;
-        case WM_COMPAREITEM:
-        {
-            const auto& items = *reinterpret_cast<const COMPAREITEMSTRUCT*>(told.lParam);
-            line += Joined(told.wParam, int(items.itemID1), int(items.itemID2));
-            break;
-        }
-        default:
-            line += Joined(LOWORD(told.wParam), HIWORD(told.wParam));
-            break;
-        }
-        m_lines.push_back(line);
     }
 };
 

@@ -1,9 +1,6 @@
 #pragma once
 
 #include "robust/Journal.h"
-#include "support/Repaint.h"
-
-#include <algorithm>
 
 // In the standard mode a control of the library is the platform's: one script gives the same
 // answers and tells the parent the same, in the same order, on both; also when the display has
@@ -21,7 +18,6 @@ template <class Fill> CRect Filled(Fill fill)
 class Parity : public WindowTest
 {
 protected:
-    using Lines = std::vector<std::string>;
     static constexpr UINT Id = 77;
 
     // Under load two presses would be a double click for one control and none for another.
@@ -40,7 +36,8 @@ protected:
 
     // What the script gives on one control.
     template <class Control, class Script>
-    Lines Played(const char* windowClass, DWORD style, Script script, bool before, bool within)
+    std::string Played(const char* windowClass, DWORD style, Script script, bool before,
+                       bool within)
     {
         Control control;
         control.CWnd::CreateEx(WS_EX_CLIENTEDGE, windowClass, "Text",
@@ -53,34 +50,20 @@ protected:
         Journal journal(Host(), control,
                         within ? std::function<void()>([this] { ThroughAllModes(); }) : nullptr);
         script(control, journal);
-        Lines lines = journal.Lines();
         control.DestroyWindow();
-        return lines;
+        return journal.Text();
     }
 
     template <class Ours, class Platforms, class Script>
     void Compare(const char* windowClass, DWORD style, Script script)
     {
-        const Lines wanted = Played<Platforms>(windowClass, style, script, false, false);
-        EXPECT_FALSE(wanted.empty());
+        const std::string platforms = Played<Platforms>(windowClass, style, script, false, false);
+        EXPECT_NE(platforms, "");
         for (const auto& [before, within] : {std::pair{false, false}, {true, false}, {false, true}})
         {
-            const Lines given = Played<Ours>(windowClass, style, script, before, within);
-            const auto [left, right] = std::ranges::mismatch(wanted, given);
-            if (left == wanted.end() && right == given.end())
-            {
-                continue;
-            }
-            std::string last;
-            for (auto back = left - std::min<ptrdiff_t>(4, left - wanted.begin()); back != left;
-                 ++back)
-            {
-                last += "\n  " + *back;
-            }
-            ADD_FAILURE() << windowClass << " of style " << style << ", modes before " << before
-                          << ", within " << within << last
-                          << "\nplatform: " << (left != wanted.end() ? *left : "(end)")
-                          << "\nours:     " << (right != given.end() ? *right : "(end)");
+            EXPECT_EQ(Played<Ours>(windowClass, style, script, before, within), platforms)
+                << windowClass << " of style " << style << ", modes before " << before
+                << ", within " << within;
         }
     }
 };

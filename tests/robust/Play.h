@@ -5,7 +5,7 @@
 
 #include "CustomComboLBox.h"
 #include "OnBoardUIGeneral.h"
-#include "support/Pumping.h"
+#include "support/Repaint.h"
 
 #include <afxdlgs.h>
 
@@ -252,9 +252,7 @@ struct Play
     }
     void Paint(HWND window) const
     {
-        constexpr UINT All =
-            RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN;
-        Do(window, [=] { ::RedrawWindow(window, nullptr, nullptr, All); });
+        Do(window, [=] { Repaint(window); });
     }
     void ChangeModes(HWND window) const
     {

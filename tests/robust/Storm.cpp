@@ -2,7 +2,6 @@
 
 #include "OnBoardUIGeneral.h"
 #include "support/Accessible.h"
-#include "support/Repaint.h"
 
 #include <sstream>
 
@@ -129,39 +128,26 @@ std::pair<LPARAM, LPARAM> Storm::Somewhere(HWND window)
 
 void Storm::Input(HWND window)
 {
-    const auto [inside, onScreen] = Somewhere(window);
-    switch (Between(0, 10))
-    {
-    case 0:
-        Press(window, WM_LBUTTONDOWN, WM_LBUTTONUP, MK_LBUTTON, inside);
-        break;
-    case 1:
-        Press(window, WM_LBUTTONDBLCLK, WM_LBUTTONUP, MK_LBUTTON, inside);
-        break;
-    case 2:
-    case 3:
-        Send(window, WM_MOUSEMOVE, Between(0, 1) ? MK_LBUTTON : 0, inside);
-        break;
-    case 4:
-        PressBar(window, onScreen);
-        break;
-    case 5:
-        Send(window, WM_NCMOUSEMOVE, HTVSCROLL, onScreen);
-        break;
-    case 6:
-        Send(window, WM_NCMOUSELEAVE, 0, 0);
-        break;
-    case 7:
-        Send(window, Between(0, 3) ? WM_MOUSEWHEEL : WM_MOUSEHWHEEL,
-             MAKEWPARAM(0, Between(-3, 3) * 60), onScreen);
-        break;
-    case 8:
-        OtherButton(window, inside);
-        break;
-    default:
-        Key(window);
-        break;
-    }
+    const auto point = Somewhere(window);
+    const LPARAM inside = point.first;
+    const LPARAM onScreen = point.second;
+    const std::function<void()> inputs[] = {
+        [&] { Press(window, WM_LBUTTONDOWN, WM_LBUTTONUP, MK_LBUTTON, inside); },
+        [&] { Press(window, WM_LBUTTONDBLCLK, WM_LBUTTONUP, MK_LBUTTON, inside); },
+        [&] { Send(window, WM_MOUSEMOVE, Between(0, 1) ? MK_LBUTTON : 0, inside); },
+        [&] { Send(window, WM_MOUSEMOVE, Between(0, 1) ? MK_LBUTTON : 0, inside); },
+        [&] { PressBar(window, onScreen); },
+        [&] { Send(window, WM_NCMOUSEMOVE, HTVSCROLL, onScreen); },
+        [&] { Send(window, WM_NCMOUSELEAVE, 0, 0); },
+        [&] {
+            Send(window, Between(0, 3) ? WM_MOUSEWHEEL : WM_MOUSEHWHEEL,
+                 MAKEWPARAM(0, Between(-3, 3) * 60), onScreen);
+        },
+        [&] { OtherButton(window, inside); },
+        [&] { Key(window); },
+        [&] { Key(window); },
+    };
+    m_arguments.OneOf(inputs)();
 }
 
 void Storm::SendOne(HWND window, const std::vector<Word>& words)
@@ -184,8 +170,6 @@ void Storm::TellParent(HWND window)
 // As an assistive program does.
 void Storm::Ask(HWND window)
 {
-    static const HRESULT ready = ::CoInitialize(nullptr);
-    (void)ready;
     const Held<IAccessible> object = Reached(window);
     for (int questions = Between(1, 6); questions > 0 && object != nullptr; --questions)
     {
@@ -240,46 +224,30 @@ void Storm::Life(CWnd& parent, CWnd& window)
     {
         Note(WM_USER, WPARAM(step), what); // the log's word for a step of a window's life
     }
-    switch (step)
-    {
-    case 0:
-    {
-        const int most = Between(0, 3) != 0 ? 400 : 3; // also hardly any room, or none
-        window.SetWindowPos(nullptr, Between(-5, 60), Between(-5, 60), Between(0, most),
-                            Between(0, most), SWP_NOZORDER | SWP_NOACTIVATE);
-        break;
-    }
-    case 1:
-    case 2:
-        (what != 0 ? window : parent).SetFocus();
-        break;
-    case 3:
-        ::ReleaseCapture();
-        break;
-    case 4:
-        window.EnableWindow(what != 0);
-        break;
-    case 5:
-        window.ShowWindow(what != 0 ? SW_SHOWNA : SW_HIDE);
-        break;
-    case 6:
-        COnBoardUIGeneral::SetAppMode(APPMODE(Between(0, 4)));
-        break;
-    case 7:
-        // Not a bar of the platform's, which would run a loop of its own when it is pressed.
-        if (FaultOf(window) && !m_subject.pressesLoop)
-        {
-            window.ModifyStyle(Between(0, 1) ? WS_VSCROLL : 0, Between(0, 1) ? WS_VSCROLL : 0,
-                               SWP_FRAMECHANGED);
-        }
-        break;
-    case 8:
-        Repaint(window);
-        break;
-    default:
-        SendOne(window, CommonWords);
-        break;
-    }
+    const std::function<void()> steps[] = {
+        [&] {
+            const int most = Between(0, 3) != 0 ? 400 : 3; // also hardly any room, or none
+            window.SetWindowPos(nullptr, Between(-5, 60), Between(-5, 60), Between(0, most),
+                                Between(0, most), SWP_NOZORDER | SWP_NOACTIVATE);
+        },
+        [&] { (what != 0 ? window : parent).SetFocus(); },
+        [&] { (what != 0 ? window : parent).SetFocus(); },
+        [] { ::ReleaseCapture(); },
+        [&] { window.EnableWindow(what != 0); },
+        [&] { window.ShowWindow(what != 0 ? SW_SHOWNA : SW_HIDE); },
+        [&] { COnBoardUIGeneral::SetAppMode(APPMODE(Between(0, 4))); },
+        [&] {
+            // Not a bar of the platform's, which would run a loop of its own when it is pressed.
+            if (FaultOf(window) && !m_subject.pressesLoop)
+            {
+                window.ModifyStyle(Between(0, 1) ? WS_VSCROLL : 0, Between(0, 1) ? WS_VSCROLL : 0,
+                                   SWP_FRAMECHANGED);
+            }
+        },
+        [&] { Repaint(window); },
+        [&] { SendOne(window, CommonWords); },
+    };
+    steps[std::min(step, 9)]();
 }
 
 void Storm::Touch(CWnd& window)
@@ -292,52 +260,35 @@ void Storm::Touch(CWnd& window)
     }
 }
 
+// What was posted: repeats, scrolls, paints.
+void Storm::PumpSome()
+{
+    MSG message;
+    for (int waiting = Between(0, 8);
+         waiting > 0 && ::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE); --waiting)
+    {
+        Note(message.message, message.wParam, message.lParam);
+        ::DispatchMessage(&message);
+    }
+}
+
 void Storm::Blow(CWnd& parent, CWnd& window, int messages)
 {
     const HWND handle = window.GetSafeHwnd();
     for (const int end = m_sent + messages; m_sent < end && ::IsWindow(handle);)
     {
         const HWND target = Target(window);
-        switch (Between(0, 11))
-        {
-        case 0:
-        case 1:
-        case 2:
-        case 3:
-            Input(target);
-            break;
-        case 4:
-        {
-            const UINT message = Between(0, 2) ? WM_VSCROLL : WM_HSCROLL;
-            Send(target, message, MAKEWPARAM(Between(0, 8), Between(0, 50)), 0);
-            break;
-        }
-        case 5:
-            Life(parent, window);
-            break;
-        case 6:
-        {
-            MSG message; // what was posted: repeats, scrolls, paints
-            for (int waiting = Between(0, 8); waiting > 0; --waiting)
-            {
-                if (!::PeekMessage(&message, nullptr, 0, 0, PM_REMOVE))
-                {
-                    break;
-                }
-                Note(message.message, message.wParam, message.lParam);
-                ::DispatchMessage(&message);
-            }
-            break;
-        }
-        case 7:
-            Between(0, 11) ? TellParent(target) : Ask(target);
-            break;
-        case 8:
-            SendOne(target, AnyWords);
-            break;
-        default:
-            Use(window, target);
-            break;
-        }
+        const int what = Between(0, 11);
+        const std::function<void()> gusts[] = {
+            [&] {
+                const UINT message = Between(0, 2) ? WM_VSCROLL : WM_HSCROLL;
+                Send(target, message, MAKEWPARAM(Between(0, 8), Between(0, 50)), 0);
+            },
+            [&] { Life(parent, window); },
+            [&] { PumpSome(); },
+            [&] { Between(0, 11) ? TellParent(target) : Ask(target); },
+            [&] { SendOne(target, AnyWords); },
+        };
+        what < 4 ? Input(target) : what < 9 ? gusts[what - 4]() : Use(window, target);
     }
 }

@@ -50,4 +50,5 @@ private:
     void TellParent(HWND window);
     void Ask(HWND window);
     void Use(CWnd& window, HWND target);
+    void PumpSome();
 };

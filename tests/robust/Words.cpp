@@ -119,13 +119,6 @@ const Kind& KindOf(HWND window)
 
 } // namespace
 
-bool IsOfClass(HWND window, const char* windowClass)
-{
-    char name[64] = "";
-    ::GetClassName(window, name, sizeof(name));
-    return ::lstrcmpi(windowClass, name) == 0;
-}
-
 // clang-format off
 const std::vector<Word> CommonWords = {
     {WM_CANCELMODE}, {WM_SETTEXT, None, Text}, {WM_SETFONT, Font, Flag}, {WM_SETREDRAW, Flag},

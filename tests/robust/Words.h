@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/Canvas.h"
+#include "support/Input.h"
 #include "support/MessageLog.h"
 
 #include <afxcmn.h>
@@ -48,8 +49,6 @@ struct Word
     Argument lParam = Argument::None;
     WPARAM fixed = 0;
 };
-
-bool IsOfClass(HWND window, const char* windowClass);
 
 // What any window understands.
 extern const std::vector<Word> CommonWords;

@@ -77,9 +77,8 @@ public:
     explicit Provocation(const Play& play)
         : m_play(play)
         , m_window(play.control->GetSafeHwnd())
-    {
-        ::GetWindowRect(m_window, &m_place);
-    }
+        , m_place(WindowRectOf(m_window))
+    {}
 
     void Run()
     {
@@ -247,13 +246,10 @@ protected:
         {
             if (left != nullptr && left->GetSafeHwnd() != nullptr)
             {
-                const HWND window = left->GetSafeHwnd();
-                ::SendMessage(window, WM_CANCELMODE, 0, 0);
-                const bool timed = std::any_of(std::begin(TimerIds), std::end(TimerIds),
-                                               [=](UINT id) { return ::KillTimer(window, id); });
-                EXPECT_FALSE(timed) << play.Title() << ": left with a timer";
+                ::SendMessage(*left, WM_CANCELMODE, 0, 0);
             }
         }
+        EXPECT_EQ(EndTimers(), 0) << play.Title() << ": left with a timer";
         return play.Finish();
     }
 };

@@ -4,7 +4,6 @@
 
 #include "robust/Subjects.h"
 #include "support/LiveObjects.h"
-#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <cstdlib>

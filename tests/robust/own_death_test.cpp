@@ -119,12 +119,6 @@ protected:
         return asAwaited;
     }
 
-    static void Repaint(HWND window)
-    {
-        ::RedrawWindow(window, nullptr, nullptr,
-                       RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    }
-
     // With the ticks of its timers while the button is down, if it is held: a loop of the platform
     // has to find its end in the queue.
     static void PressOn(HWND window, CPoint point, bool held)
@@ -255,10 +249,8 @@ TEST_F(OwnDeath, DuringInputDoesNoHarm)
                     {
                         ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
                     }
-                    CRect place;
-                    ::GetWindowRect(window, &place);
                     ::SetFocus(window);
-                    use(window, place);
+                    use(window, WindowRectOf(window));
                     RestPointer();
                 });
             }

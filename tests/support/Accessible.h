@@ -2,6 +2,7 @@
 
 // Reaches windows as an assistive program does: through the platform's accessibility interface.
 
+#include "support/OnBoard.h"
 #include "support/WindowTest.h"
 
 #include <afxwin.h>
@@ -10,9 +11,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 struct Releaser
 {
@@ -22,6 +25,8 @@ template <class Interface> using Held = std::unique_ptr<Interface, Releaser>;
 
 inline Held<IAccessible> Reached(HWND window)
 {
+    static const HRESULT ready = ::CoInitialize(nullptr);
+    EXPECT_TRUE(SUCCEEDED(ready));
     IAccessible* reached = nullptr;
     const HRESULT result = ::AccessibleObjectFromWindow(
         window, DWORD(OBJID_CLIENT), IID_IAccessible, reinterpret_cast<void**>(&reached));
@@ -107,20 +112,60 @@ inline long ChildAt(IAccessible& object, const CPoint& point)
     return object.accHitTest(point.x, point.y, &found) == S_OK ? found.lVal : -1;
 }
 
-// Controls as they answer in a display mode.
-class AccessInModes : public WindowTest, public testing::WithParamInterface<APPMODE>
+// The child that has the focus, or the one that is selected; -1 for none or another window.
+inline long FocusIn(IAccessible& object)
 {
-protected:
-    void SetUp() override
+    VARIANT found = {};
+    return object.get_accFocus(&found) == S_OK && found.vt == VT_I4 ? found.lVal : -1;
+}
+inline long SelectionIn(IAccessible& object)
+{
+    VARIANT found = {};
+    return object.get_accSelection(&found) == S_OK && found.vt == VT_I4 ? found.lVal : -1;
+}
+
+// What is told of one window to assistive programs, by way of the system. One at a time.
+class Events
+{
+public:
+    explicit Events(HWND window)
     {
-        WindowTest::SetUp();
-        ::CoInitialize(nullptr);
-        COnBoardUIGeneral::SetAppMode(GetParam());
+        s_window = window;
+        s_told.clear();
+        DWORD process = 0;
+        ::GetWindowThreadProcessId(window, &process);
+        m_hook = ::SetWinEventHook(EVENT_MIN, EVENT_MAX, nullptr, &Events::Hear, process, 0,
+                                   WINEVENT_OUTOFCONTEXT);
     }
-    void TearDown() override
+    Events(const Events&) = delete;
+    Events& operator=(const Events&) = delete;
+    ~Events() { ::UnhookWinEvent(m_hook); }
+
+    // The changes of states so far, by the child.
+    std::vector<long> States() const { return s_told; }
+    // Whether that of a child comes; forgets all.
+    bool Come(long child) const
     {
-        COnBoardUIGeneral::SetAppMode(STD);
-        WindowTest::TearDown();
-        ::CoUninitialize();
+        const bool came = PumpUntil([&] { return std::ranges::count(s_told, child) > 0; }, 20000);
+        s_told.clear();
+        return came;
+    }
+
+private:
+    static inline HWND s_window = nullptr;
+    static inline std::vector<long> s_told;
+    HWINEVENTHOOK m_hook;
+
+    static void CALLBACK Hear(HWINEVENTHOOK, DWORD event, HWND window, LONG, LONG child, DWORD,
+                              DWORD)
+    {
+        if (window == s_window && event == EVENT_OBJECT_STATECHANGE)
+        {
+            s_told.push_back(child);
+        }
     }
 };
+
+// Controls as they answer in a display mode.
+class AccessInModes : public InMode<WindowTest>
+{};

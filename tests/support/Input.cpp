@@ -43,36 +43,36 @@ void SendKey(UINT key, DWORD flags)
     Send(input);
 }
 
-void MouseAndPump(DWORD flags, int data = 0)
+void MouseAndPump(DWORD flags, int data = 0, CPoint point = CPoint(0, 0))
 {
-    SendMouse(flags, CPoint(0, 0), data);
+    SendMouse(flags, point, data);
     PumpAll();
 }
 
 } // namespace
 
-CPoint ClientPoint(const CWnd& window, CPoint point)
+CPoint ClientPoint(HWND window, CPoint point)
 {
-    window.ClientToScreen(&point);
+    ::ClientToScreen(window, &point);
     return point;
 }
 
-CPoint WindowPoint(const CWnd& window, CPoint point)
+CPoint WindowPoint(HWND window, CPoint point)
 {
     return WindowRectOf(window).TopLeft() + point;
 }
 
-CRect ClientRectOf(const CWnd& window)
+CRect ClientRectOf(HWND window)
 {
     CRect rect;
-    window.GetClientRect(&rect);
+    ::GetClientRect(window, &rect);
     return rect;
 }
 
-CRect WindowRectOf(const CWnd& window)
+CRect WindowRectOf(HWND window)
 {
     CRect rect;
-    window.GetWindowRect(&rect);
+    ::GetWindowRect(window, &rect);
     return rect;
 }
 
@@ -87,9 +87,21 @@ void Press()
     MouseAndPump(MOUSEEVENTF_LEFTDOWN);
 }
 
+// With the place: another program's late word of where the pointer was may come between.
+void Press(CPoint point)
+{
+    MoveTo(point);
+    MouseAndPump(MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, 0, point);
+}
+
 void Release()
 {
     MouseAndPump(MOUSEEVENTF_LEFTUP);
+}
+
+void Release(CPoint point)
+{
+    MouseAndPump(MOUSEEVENTF_LEFTUP | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, 0, point);
 }
 
 bool IsPressed()
@@ -99,12 +111,8 @@ bool IsPressed()
 
 void Click(CPoint point)
 {
-    MoveTo(point);
-    // Each with the place: another program's late word of where the pointer was may come between.
-    SendMouse(MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, point);
-    PumpAll();
-    SendMouse(MOUSEEVENTF_LEFTUP | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, point);
-    PumpAll();
+    Press(point);
+    Release(point);
 }
 
 void Wheel(int delta)
@@ -125,8 +133,7 @@ void DragTo(CPoint to, int steps)
 
 void Drag(CPoint from, CPoint to, int steps)
 {
-    MoveTo(from);
-    Press();
+    Press(from);
     DragTo(to, steps);
     Release();
 }

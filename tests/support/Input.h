@@ -1,23 +1,36 @@
 #pragma once
 
+#include "modes/WindowFacts.h"
+
 #include <afxwin.h>
 
 #include <functional>
+#include <string>
 #include <vector>
 
 // The pointer and the keyboard, through the system, exact to the pixel. All points are screen
 // points; each verb pumps afterwards, so what it causes has happened when it returns.
 
 // Screen point of a point of a window's client area, or of the window with its non-client area.
-CPoint ClientPoint(const CWnd& window, CPoint point);
-CPoint WindowPoint(const CWnd& window, CPoint point);
+CPoint ClientPoint(HWND window, CPoint point);
+CPoint WindowPoint(HWND window, CPoint point);
 
-CRect ClientRectOf(const CWnd& window); // from (0, 0)
-CRect WindowRectOf(const CWnd& window); // on the screen
+CRect ClientRectOf(HWND window); // from (0, 0)
+CRect WindowRectOf(HWND window); // on the screen
+
+// As its class gives it.
+template <class Window> std::string TextOf(const Window& window)
+{
+    CString text;
+    window.GetWindowText(text);
+    return text.GetString();
+}
 
 void MoveTo(CPoint point);
 void Press();
 void Release();
+void Press(CPoint point); // moves there before
+void Release(CPoint point);
 bool IsPressed(); // the left button, asked of the system now
 void Click(CPoint point);
 void Wheel(int delta); // at the pointer's place

@@ -2,7 +2,10 @@
 
 #include "OnBoardUIGeneral.h"
 
-// A fixture whose windows live in the on-board mode.
+#include <gtest/gtest.h>
+
+// Fixtures whose windows live in the on-board mode, or in that of the parameter.
+
 template <class Fixture> class OnBoard : public Fixture
 {
 protected:
@@ -11,10 +14,14 @@ protected:
         Fixture::SetUp();
         COnBoardUIGeneral::SetAppMode(ONBOARD);
     }
+};
 
-    void TearDown() override
+template <class Fixture> class InMode : public Fixture, public testing::WithParamInterface<APPMODE>
+{
+protected:
+    void SetUp() override
     {
-        COnBoardUIGeneral::SetAppMode(STD);
-        Fixture::TearDown();
+        Fixture::SetUp();
+        COnBoardUIGeneral::SetAppMode(GetParam());
     }
 };

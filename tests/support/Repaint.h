@@ -6,10 +6,10 @@
 #include "OnBoardUIGeneral.h"
 
 // Paints a window with its frame and its children afresh, at once.
-inline void Repaint(CWnd& window)
+inline void Repaint(HWND window)
 {
-    window.RedrawWindow(nullptr, nullptr,
-                        RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    ::RedrawWindow(window, nullptr, nullptr,
+                   RDW_FRAME | RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
 // Many controls notice the mode at their next message.
@@ -19,11 +19,17 @@ inline void SetMode(APPMODE mode, CWnd& window)
     Repaint(window);
 }
 
+// What a window shows once all is pumped.
+inline Pixels Settled(const CWnd& window)
+{
+    PumpAll();
+    return WindowPixels(window);
+}
+
 // Whether what is on the screen, once all is pumped, is what a full paint gives.
 inline bool ShowsWhatAPaintWould(CWnd& window)
 {
-    PumpAll();
-    const Pixels shown = WindowPixels(window);
+    const Pixels shown = Settled(window);
     Repaint(window);
     return shown == WindowPixels(window);
 }

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "catalog/Pixels.h"
 #include "support/HostWindow.h"
 #include "support/Input.h"
 #include "support/LiveObjects.h"
 #include "support/MessageLog.h"
 #include "support/ModeScope.h"
 #include "support/Pumping.h"
+#include "support/Repaint.h"
+#include "support/Rows.h"
 
 #include <gtest/gtest.h>
 

@@ -145,9 +145,7 @@ TEST_F(CustomToolbarTest, AButtonDoesWhatItNowStandsForUnlessTheBarRefuses)
                                              "SetButtonInfo failed for pair (11, 10)"}));
     for (const UINT id : {10U, 11U})
     {
-        CRect first;
-        bar.GetItemRect(0, &first);
-        Click(ClientPoint(bar, first.CenterPoint()));
+        Click(ClientPoint(bar, ItemRectOf(bar, 0).CenterPoint()));
         EXPECT_EQ(Host().CodesFrom(id).size(), 1U);
         EXPECT_EQ(Host().Count(WM_COMMAND), 1);
         bar.refuses = false;
@@ -160,9 +158,8 @@ TEST_F(CustomToolbarTest, IsDarkWithLightTextsOnBoardWhateverStandsBehindIt)
 {
     OrderedBar bar(Host(), {{1, I_IMAGENONE}});
     const auto shows = [&](COLORREF color) {
-        bar.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-        PumpAll();
-        return WindowPixels(bar).Count(color) > 0;
+        Repaint(bar);
+        return Settled(bar).Count(color) > 0;
     };
     const COLORREF black = ::GetSysColor(COLOR_BTNTEXT);
     for (const APPMODE mode : {ONBOARD, EFBFS})

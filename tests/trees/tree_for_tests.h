@@ -4,7 +4,6 @@
 #include "modes/WindowAlive.h"
 #include "support/Acts.h"
 #include "support/Fenced.h"
-#include "support/Repaint.h"
 #include "support/WindowTest.h"
 
 #include <algorithm>

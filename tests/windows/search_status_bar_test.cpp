@@ -104,8 +104,7 @@ protected:
     static Pixels Painted(CWnd& bar)
     {
         bar.Invalidate();
-        PumpAll();
-        return WindowPixels(bar);
+        return Settled(bar);
     }
 };
 

@@ -3,7 +3,7 @@
 #include "CustomDialog.h"
 #include "CustomEdit.h"
 
-namespace dialogs {
+namespace windows {
 
 // The text of a message box: an edit that looks like a label, is only read and, in the on-board
 // modes, asks for no keyboard. Keys scroll it and copy from it.
@@ -36,4 +36,4 @@ private:
     bool m_keepingBar = false; // for the text to come
 };
 
-} // namespace dialogs
+} // namespace windows

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <span>
 
-namespace dialogs {
+namespace windows {
 
 // Lays a picture with an alpha channel over a ground. One whose fourth bytes are all 0 has none and
 // stays as it is.
@@ -35,4 +35,4 @@ inline void LayOver(std::span<RGBQUAD> pixels, COLORREF ground)
 // of 32 bits with an alpha channel. False, and the picture left alone, when there is none.
 bool LoadPictureOver(CBitmap& picture, UINT id, COLORREF ground);
 
-} // namespace dialogs
+} // namespace windows

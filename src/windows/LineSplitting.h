@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-namespace dialogs {
+namespace windows {
 
 // How many characters a line of a message has at most, on a screen of this width in pixels.
 constexpr size_t LineLimit(int screenWidth)
@@ -129,4 +129,4 @@ inline std::string SplitLines(std::string_view text, size_t limit, const CodePag
     return lines;
 }
 
-} // namespace dialogs
+} // namespace windows

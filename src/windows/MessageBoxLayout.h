@@ -11,7 +11,7 @@
 
 #include <algorithm>
 
-namespace dialogs {
+namespace windows {
 
 constexpr int MessageIconSize = 48; // both ways, in every mode
 
@@ -28,8 +28,8 @@ struct MessageUnits
     {
         const double scale = onBoard ? metrics::OnBoardScale : 1.0;
         const auto size = [&](int across, int down) {
-            return CSize(Truncated(::MulDiv(across, unit.cx, UnitsAcross) * scale),
-                         Truncated(::MulDiv(down, unit.cy, UnitsDown) * scale));
+            return CSize(Truncated(::MulDiv(across, unit.cx, dialogs::UnitsAcross) * scale),
+                         Truncated(::MulDiv(down, unit.cy, dialogs::UnitsDown) * scale));
         };
         return {size(50, 14), size(7, 7), size(4, 4), size(50, 8)};
     }
@@ -178,7 +178,7 @@ inline MessagePlaces PlaceMessageParts(const MessageUnits& units, const MessageS
                         size.text);
 
     const CSize row = MessageButtonsSize(units, buttons);
-    const int bottom = int(client.cy - units.margin.cy) - BandHeight(captionHeight);
+    const int bottom = int(client.cy - units.margin.cy) - dialogs::BandHeight(captionHeight);
     places.firstButton =
         CRect(CPoint((size.client.cx - row.cx) / 2 - 1, bottom - row.cy), units.button);
     places.buttonStep = units.button.cx + units.spacing.cy;
@@ -228,4 +228,4 @@ inline CRect MessageMovedInto(const CRect& place, const CRect& bounds)
                  place.Size());
 }
 
-} // namespace dialogs
+} // namespace windows

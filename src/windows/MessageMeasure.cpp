@@ -1,4 +1,4 @@
-#include "dialogs/MessageMeasure.h"
+#include "windows/MessageMeasure.h"
 
 #include "CustomDialog.h"
 #include "OnBoardUIGeneral.h"
@@ -10,7 +10,7 @@
 #include <climits>
 #include <numeric>
 
-namespace dialogs {
+namespace windows {
 
 bool VisualStyles()
 {
@@ -57,8 +57,8 @@ HGDIOBJ FontToMeasure(CDC& dc)
 
 } // namespace
 
-TextMeasure::TextMeasure(CWnd& box)
-    : m_dc(&box)
+TextMeasure::TextMeasure()
+    : m_dc(MeasuringDC())
     , m_font(m_dc, FontToMeasure(m_dc))
 {}
 
@@ -160,4 +160,4 @@ int TextMeasure::Title(const CString& title)
     return Extent({title, size_t(title.GetLength())}).cx;
 }
 
-} // namespace dialogs
+} // namespace windows

@@ -1,12 +1,12 @@
-#include "dialogs/LineSplitting.h"
-#include "dialogs/MessageBoxLayout.h"
 #include "dialogs/dialog_for_tests.h"
+#include "windows/LineSplitting.h"
+#include "windows/MessageBoxLayout.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using namespace dialogs;
+using namespace windows;
 
 // Lines -----------------------------------------------------------------------------------------
 

@@ -4,11 +4,11 @@
 
 #include "MessageBoxResources.h"
 #include "OnBoardUIGeneral.h"
-#include "dialogs/MessageBoxLayout.h"
-#include "dialogs/MessageText.h"
 #include "dialogs/Opening.h"
 #include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
+#include "windows/MessageBoxLayout.h"
+#include "windows/MessageText.h"
 
 #include <cctype>
 #include <span>
@@ -22,7 +22,6 @@ BEGIN_MESSAGE_MAP(CZepMsgBoxDlg, CCustomDialog)
     ON_WM_SYSCOLORCHANGE()
     ON_WM_SIZE()
     ON_WM_WINDOWPOSCHANGING()
-    ON_WM_WINDOWPOSCHANGED()
 END_MESSAGE_MAP()
 
 namespace {
@@ -59,10 +58,10 @@ CZepMsgBoxDlg::CZepMsgBoxDlg(const char* text, unsigned int style, const CSize& 
     : CCustomDialog(IDD, nullptr, host)
     , m_style(style)
     , m_area(area)
-    , m_text(std::make_unique<dialogs::MessageText>())
+    , m_text(std::make_unique<windows::MessageText>())
 {
     static_assert(IDD == IDD_MESSAGE_BOX);
-    m_framesEachMode = true;
+    m_layOutForMode = [](CCustomDialog& box) { static_cast<CZepMsgBoxDlg&>(box).FollowMode(); };
     m_message.SetString(text);
     m_displayText = m_message;
     DetermineIcon();
@@ -117,15 +116,21 @@ void CZepMsgBoxDlg::DoDataExchange(CDataExchange* exchange)
     }
 }
 
+windows::MessageText& CZepMsgBoxDlg::Text()
+{
+    return static_cast<windows::MessageText&>(*m_text);
+}
+
 int CZepMsgBoxDlg::OnCreate(LPCREATESTRUCT cs)
 {
     // A box can be shown again: its parts begin anew with each window.
     m_buttonPressed = 0;
     m_laidOutFor.reset();
+    m_layingOut = m_layoutDue = false;
     m_sizing = true; // its lines are made when it initialises
     m_shownText.Empty();
     m_buttons.clear();
-    m_text = std::make_unique<dialogs::MessageText>();
+    m_text = std::make_unique<windows::MessageText>();
     m_opensWith.reset();
     m_beingCreated = true;
     const WindowAlive alive(*this);
@@ -166,6 +171,8 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     }
     if (alive)
     {
+        m_laidOutFor = COnBoardUIGeneral::GetAppMode();
+        m_layingOut = true;
         TakeLook();
     }
     if (alive)
@@ -174,7 +181,10 @@ BOOL CZepMsgBoxDlg::OnInitDialog()
     }
     if (alive)
     {
-        m_laidOutFor = COnBoardUIGeneral::GetAppMode();
+        LayOutUntilSettled();
+    }
+    if (alive)
+    {
         // Last: each new width of the edit would break a long text anew.
         ShowText();
     }
@@ -277,18 +287,6 @@ void CZepMsgBoxDlg::OnWindowPosChanging(WINDOWPOS* position)
         std::exchange(m_beingCreated, false))
     {
         OpenInPlace(*position);
-    }
-}
-
-// A change of the mode ends with a new calculation of the frame, when all children were scaled: the
-// box places them by its own rules.
-void CZepMsgBoxDlg::OnWindowPosChanged(WINDOWPOS* position)
-{
-    const WindowAlive alive(*this);
-    CCustomDialog::OnWindowPosChanged(position);
-    if (alive && m_laidOutFor && *m_laidOutFor != COnBoardUIGeneral::GetAppMode())
-    {
-        FollowMode();
     }
 }
 
@@ -404,7 +402,7 @@ BOOL CZepMsgBoxDlg::PreTranslateMessage(MSG* message)
         // It goes to the focus, which a button has.
         if (FocusedButton() >= 0 && m_text->GetSafeHwnd() != nullptr)
         {
-            m_text->ScrollByWheel(GET_WHEEL_DELTA_WPARAM(message->wParam));
+            Text().ScrollByWheel(GET_WHEEL_DELTA_WPARAM(message->wParam));
             return TRUE;
         }
         break;
@@ -440,12 +438,12 @@ bool CZepMsgBoxDlg::PressKey(UINT key)
     case VK_NEXT:
     case VK_HOME:
     case VK_END:
-        return m_text->GetSafeHwnd() != nullptr && m_text->ScrollByKey(key);
+        return m_text->GetSafeHwnd() != nullptr && Text().ScrollByKey(key);
     case 'C':
     case VK_INSERT:
         if (IsKeyDown(VK_CONTROL) && m_text->GetSafeHwnd() != nullptr)
         {
-            m_text->CopyAll();
+            Text().CopyAll();
             return true;
         }
         return false;

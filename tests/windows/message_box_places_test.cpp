@@ -1,8 +1,7 @@
-#include "dialogs/message_box_for_tests.h"
+#include "support/Acting.h"
+#include "windows/message_box_for_tests.h"
 
-#include <algorithm>
 #include <climits>
-#include <functional>
 #include <tuple>
 #include <utility>
 
@@ -121,6 +120,39 @@ TEST_F(MessageBoxTest, AnOpenBoxFollowsTheModeAndIsThenAnsweredByPointer)
                 box.ClickOn(1);
             };
             EXPECT_EQ(Answer(text, MB_YESNOCANCEL, followAndAnswer), IDNO);
+        }
+    }
+}
+
+TEST_F(MessageBoxTest, AModeThatAPartChangesOnTheWayIsTheOneThatTheBoxIsLaidOutFor)
+{
+    const std::tuple<APPMODE, APPMODE, APPMODE> ways[] = {
+        {ONBOARD, EFB, ONBOARD}, {STD, EFB, STD}, {EFB, STD, EFB}, {ONBOARD, EFB, STD}};
+    for (const auto& [from, to, last] : ways)
+    {
+        const ModeScope scope(last);
+        const std::vector<CRect> expected = Arrangement(Box(Lines(3), MB_YESNOCANCEL, &Host()));
+        for (const UINT message : {UINT(WM_WINDOWPOSCHANGED), UINT(WM_SETFONT), UINT(BM_SETSTYLE)})
+        {
+            for (const int before : {0, 1, 2})
+            {
+                SCOPED_TRACE(testing::Message() << APPMODE_NAMES[from] << ' ' << APPMODE_NAMES[to]
+                                                << ' ' << message << ' ' << before);
+                COnBoardUIGeneral::SetAppMode(from);
+                Box box(Lines(3), MB_YESNOCANCEL, &Host());
+                auto button = std::make_unique<Acting<CCustomPushbutton>>();
+                button->Attach(box.Button(0).Detach());
+                button->ActIn(
+                    message, [last = last] { COnBoardUIGeneral::SetAppMode(last); }, before);
+                box.m_buttons[0] = std::move(button);
+                COnBoardUIGeneral::SetAppMode(to);
+                COnBoardUIGeneral::SetAppMode(last);
+                EXPECT_EQ(Arrangement(box), expected);
+                for (const auto& each : box.m_buttons)
+                {
+                    EXPECT_EQ((each->GetStyle() & BS_TYPEMASK) == BS_OWNERDRAW, last != STD);
+                }
+            }
         }
     }
 }

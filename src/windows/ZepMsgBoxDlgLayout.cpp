@@ -4,16 +4,16 @@
 
 #include "MessageBoxResources.h"
 #include "OnBoardUIGeneral.h"
-#include "dialogs/LineSplitting.h"
-#include "dialogs/MessageBoxLayout.h"
-#include "dialogs/MessageIcon.h"
-#include "dialogs/MessageMeasure.h"
-#include "dialogs/MessageText.h"
 #include "dialogs/Opening.h"
 #include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/Palette.h"
+#include "windows/LineSplitting.h"
+#include "windows/MessageBoxLayout.h"
+#include "windows/MessageIcon.h"
+#include "windows/MessageMeasure.h"
+#include "windows/MessageText.h"
 
 #include <utility>
 
@@ -59,7 +59,7 @@ void CZepMsgBoxDlg::CalcStdSizes()
         MapDialogRect(&mapped);
         unit = mapped.Size();
     }
-    const auto units = dialogs::MessageUnits::Of(unit, COnBoardUIGeneral::InOnBoardMode());
+    const auto units = windows::MessageUnits::Of(unit, COnBoardUIGeneral::InOnBoardMode());
     m_buttonSize = units.button;
     m_margin = units.margin;
     m_spacing = units.spacing;
@@ -88,8 +88,8 @@ int CZepMsgBoxDlg::TemplateTextWidth() const
 
 void CZepMsgBoxDlg::SplitText()
 {
-    const size_t limit = dialogs::LineLimit(::GetSystemMetrics(SM_CXSCREEN));
-    const bool themed = dialogs::VisualStyles();
+    const size_t limit = windows::LineLimit(::GetSystemMetrics(SM_CXSCREEN));
+    const bool themed = windows::VisualStyles();
     // Every change of the size comes here.
     if (m_splitMessage == m_message && m_splitText == m_displayText && m_splitLimit == limit &&
         m_splitThemed == themed)
@@ -97,7 +97,7 @@ void CZepMsgBoxDlg::SplitText()
         return;
     }
     const std::string_view message(m_message, size_t(m_message.GetLength()));
-    m_displayText = dialogs::SplitLines(message, limit, dialogs::CodePage(::GetACP())).c_str();
+    m_displayText = windows::SplitLines(message, limit, windows::CodePage(::GetACP())).c_str();
     if (themed)
     {
         m_displayText += "\r\n";
@@ -110,7 +110,7 @@ void CZepMsgBoxDlg::SplitText()
 
 void CZepMsgBoxDlg::GetStaticTextSize(const CString& text, int& width, int& height)
 {
-    dialogs::TextMeasure measure(*this);
+    windows::TextMeasure measure;
     const CSize size = measure.Lines({text, size_t(text.GetLength())}, width);
     width = size.cx;
     height = size.cy;
@@ -121,12 +121,12 @@ int CZepMsgBoxDlg::GetTitleWidth()
     const WindowAlive alive(*this);
     CString title;
     GetWindowText(title);
-    return !alive ? 0 : dialogs::TextMeasure(*this).Title(title);
+    return !alive ? 0 : windows::TextMeasure().Title(title);
 }
 
 void CZepMsgBoxDlg::GetButtonsSize(int& width, int& height)
 {
-    const CSize size = dialogs::MessageButtonsSize({m_buttonSize, m_margin, m_spacing, m_textUnit},
+    const CSize size = windows::MessageButtonsSize({m_buttonSize, m_margin, m_spacing, m_textUnit},
                                                    int(m_buttons.size()));
     width = size.cx;
     height = size.cy;
@@ -135,10 +135,10 @@ void CZepMsgBoxDlg::GetButtonsSize(int& width, int& height)
 // Places ----------------------------------------------------------------------------------------
 
 // The box may be gone afterwards.
-dialogs::MessagePremises CZepMsgBoxDlg::PremisesFor(const CString& title, int buttons,
+windows::MessagePremises CZepMsgBoxDlg::PremisesFor(const CString& title, int buttons,
                                                     const CSize& window, const CSize& client) const
 {
-    dialogs::MessagePremises premises = {COnBoardUIGeneral::GetAppMode(),
+    windows::MessagePremises premises = {COnBoardUIGeneral::GetAppMode(),
                                          m_displayText,
                                          title,
                                          buttons,
@@ -148,22 +148,22 @@ dialogs::MessagePremises CZepMsgBoxDlg::PremisesFor(const CString& title, int bu
                                          0,
                                          window,
                                          client};
-    premises.lineHead = dialogs::LineHead(COnBoardUIGeneral::InOnBoardMode()
+    premises.lineHead = windows::LineHead(COnBoardUIGeneral::InOnBoardMode()
                                               ? HFONT(CCustomEdit::GetOnBoardFont().GetSafeHandle())
                                               : StandardFont());
     return premises;
 }
 
-dialogs::MessageLayout CZepMsgBoxDlg::LayOut(const dialogs::MessagePremises& premises)
+windows::MessageLayout CZepMsgBoxDlg::LayOut(const windows::MessagePremises& premises)
 {
     // The width of the text's control as it opens in the mode.
     const int width =
         COnBoardUIGeneral::InOnBoardMode()
             ? RescaledRect(CRect(0, 0, m_standardTextWidth, 0), metrics::OnBoardScale).Width()
             : m_standardTextWidth;
-    dialogs::MessageContent content;
+    windows::MessageContent content;
     {
-        dialogs::TextMeasure measure(*this);
+        windows::TextMeasure measure;
         content.text = measure.Lines({premises.text, size_t(premises.text.GetLength())}, width);
         content.titleWidth = measure.Title(premises.title);
     }
@@ -173,9 +173,9 @@ dialogs::MessageLayout CZepMsgBoxDlg::LayOut(const dialogs::MessagePremises& pre
     content.captionHeight = premises.captionHeight;
     content.lineHead = premises.lineHead;
     content.barWidth = ::GetSystemMetrics(SM_CXVSCROLL);
-    const dialogs::MessageSize size = dialogs::SizeMessageBox(premises.units, content);
+    const windows::MessageSize size = windows::SizeMessageBox(premises.units, content);
 
-    const CSize growth = dialogs::MessageGrowth(size.client, premises.client);
+    const CSize growth = windows::MessageGrowth(size.client, premises.client);
     return {premises, size, CentredPlace(premises.window + growth + growth)};
 }
 
@@ -196,7 +196,7 @@ void CZepMsgBoxDlg::OpenInPlace(WINDOWPOS& position)
     m_standardTextWidth = TemplateTextWidth();
     CalcStdSizes();
     SplitText();
-    const dialogs::MessageLayout layout = LayOut(
+    const windows::MessageLayout layout = LayOut(
         PremisesFor(COnBoardUIGeneral::GetAppTitle(), ButtonCount(), window.Size(), client.Size()));
     position.x = layout.window.left;
     position.y = layout.window.top;
@@ -204,17 +204,18 @@ void CZepMsgBoxDlg::OpenInPlace(WINDOWPOS& position)
     position.cy = layout.window.Height();
     position.flags &= ~UINT(SWP_NOMOVE | SWP_NOSIZE);
 
-    const dialogs::MessagePlaces places = dialogs::PlaceMessageParts(
+    const windows::MessagePlaces places = windows::PlaceMessageParts(
         layout.premises.units, layout.size, client.Size() + layout.window.Size() - window.Size(),
         layout.premises.captionHeight, layout.premises.buttons);
     m_opening->Fix(IDC_MESSAGE_ICON, places.icon);
     m_opening->Fix(IDC_MESSAGE_TEXT, places.text);
-    m_opensWith = std::make_unique<dialogs::MessageLayout>(layout);
+    m_opensWith = std::make_unique<windows::MessageLayout>(layout);
 }
 
 void CZepMsgBoxDlg::SizeToText()
 {
     const WindowAlive alive(*this);
+    const auto goesOn = [&] { return alive && !m_layoutDue; };
     CRect window;
     GetWindowRect(&window);
     CRect client;
@@ -225,7 +226,7 @@ void CZepMsgBoxDlg::SizeToText()
     {
         return;
     }
-    dialogs::MessagePremises premises =
+    windows::MessagePremises premises =
         PremisesFor(title, int(m_buttons.size()), window.Size(), client.Size());
     if (!alive)
     {
@@ -238,35 +239,39 @@ void CZepMsgBoxDlg::SizeToText()
         premises.window = opened->premises.window;
         premises.client = opened->premises.client;
     }
-    const dialogs::MessageLayout layout =
+    const windows::MessageLayout laidOut =
         opened != nullptr && opened->premises == premises ? *opened : LayOut(premises);
 
     const UINT flags = MoveFlags(m_hWnd);
     m_sizing = true;
-    Place(*this, layout.window, flags);
+    Place(*this, laidOut.window, flags);
     if (!alive)
     {
         return;
     }
     m_sizing = false;
+    if (!goesOn())
+    {
+        return;
+    }
     GetClientRect(&client);
-    const dialogs::MessagePlaces places =
-        dialogs::PlaceMessageParts(layout.premises.units, layout.size, client.Size(),
-                                   layout.premises.captionHeight, layout.premises.buttons);
+    const windows::MessagePlaces places =
+        windows::PlaceMessageParts(laidOut.premises.units, laidOut.size, client.Size(),
+                                   laidOut.premises.captionHeight, laidOut.premises.buttons);
     // The library's text changes its place as it is told of it; labels and buttons do not.
     constexpr UINT Unasked = SWP_NOSENDCHANGING;
     Place(m_icon, places.icon, flags | Unasked);
-    if (alive)
+    if (goesOn())
     {
         Place(*m_text, places.text, flags);
     }
-    for (size_t index = 0; alive && index < m_buttons.size(); ++index)
+    for (size_t index = 0; goesOn() && index < m_buttons.size(); ++index)
     {
         Place(*m_buttons[index], places.Button(int(index)), flags | Unasked);
     }
-    if (alive && m_text->GetSafeHwnd() != nullptr)
+    if (goesOn() && m_text->GetSafeHwnd() != nullptr)
     {
-        m_text->SetScrolls(layout.size.scrolls);
+        Text().SetScrolls(laidOut.size.scrolls);
     }
 }
 
@@ -282,7 +287,7 @@ CRect CZepMsgBoxDlg::CentredPlace(const CSize& size) const
     {
         ::GetWindowRect(owner, &middle);
     }
-    const CRect place = dialogs::MessageCentred(size, middle);
+    const CRect place = windows::MessageCentred(size, middle);
     CRect shown;
     shown.IntersectRect(&place, &work);
     if (over && shown != place)
@@ -293,45 +298,74 @@ CRect CZepMsgBoxDlg::CentredPlace(const CSize& size) const
         ::GetMonitorInfo(::MonitorFromWindow(owner, MONITOR_DEFAULTTOPRIMARY), &monitor);
         work = monitor.rcWork;
     }
-    return dialogs::MessageMovedInto(place, work);
+    return windows::MessageMovedInto(place, work);
 }
 
 // Following the display mode --------------------------------------------------------------------
 
 void CZepMsgBoxDlg::FollowMode()
 {
+    m_layoutDue = m_laidOutFor.has_value();
+    if (m_layoutDue && !m_layingOut)
+    {
+        LayOutUntilSettled();
+    }
+}
+
+// Anew as long as one of the controls changes the mode on the way, which leaves the rest to that.
+void CZepMsgBoxDlg::LayOutUntilSettled()
+{
+    constexpr int MostTurns = 4; // for a mode that changes each time
     const WindowAlive alive(*this);
-    const bool wasOnBoard = m_laidOutFor && *m_laidOutFor != STD;
-    m_laidOutFor = COnBoardUIGeneral::GetAppMode();
-    const int focused = FocusedButton();
+    m_layingOut = true;
+    for (int turn = 0; alive && turn < MostTurns && std::exchange(m_layoutDue, false); ++turn)
+    {
+        LayOutForMode();
+    }
+    if (alive)
+    {
+        m_layingOut = m_layoutDue = false;
+    }
+}
+
+void CZepMsgBoxDlg::LayOutForMode()
+{
+    const WindowAlive alive(*this);
+    const auto goesOn = [&] { return alive && !m_layoutDue; };
+    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
+    // All on-board modes have one ground with the same picture on it, one font, and one kind of
+    // button. A box that is laid out for the mode heard of it in the middle of the change to
+    // another, which has gone on with its controls since.
+    const bool looksOtherwise = *m_laidOutFor == STD || mode == STD || *m_laidOutFor == mode;
+    m_laidOutFor = mode;
+    const int focused = looksOtherwise ? FocusedButton() : -1;
     if (focused >= 0)
     {
         SetDefID(UINT(m_buttons[size_t(focused)]->GetDlgCtrlID()));
     }
-    if (!alive)
+    if (!goesOn())
     {
         return;
     }
     CalcStdSizes();
     SplitText(); // for the screen as it is now
-    // All on-board modes have one ground, and the same picture on it.
-    if (!wasOnBoard || *m_laidOutFor == STD || m_iconPicture.GetSafeHandle() == nullptr)
+    if (looksOtherwise || m_iconPicture.GetSafeHandle() == nullptr)
     {
         ShowIcon();
     }
-    if (alive)
+    if (goesOn() && looksOtherwise)
     {
         TakeLook();
     }
-    if (alive)
+    if (goesOn())
     {
         SizeToText();
     }
-    if (alive)
+    if (goesOn())
     {
         ShowText();
     }
-    if (alive && focused >= 0)
+    if (goesOn() && focused >= 0)
     {
         // The platform's button and the library's each remember a focus of their own.
         m_buttons[size_t(focused)]->SendMessage(WM_SETFOCUS);
@@ -342,16 +376,17 @@ void CZepMsgBoxDlg::FollowMode()
 void CZepMsgBoxDlg::TakeLook()
 {
     const WindowAlive alive(*this);
+    const auto goesOn = [&] { return alive && !m_layoutDue; };
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
     const auto font = WPARAM(StandardFont());
-    if (alive && m_text->GetSafeHwnd() != nullptr)
+    if (goesOn() && m_text->GetSafeHwnd() != nullptr)
     {
         m_text->SendMessage(WM_SETFONT,
                             onBoard ? WPARAM(CCustomEdit::GetOnBoardFont().GetSafeHandle()) : font);
     }
     // Only the platform's buttons have a look for it, and the system looks through all controls.
-    const DWORD defaultId = alive && !onBoard ? GetDefID() : 0;
-    for (size_t index = 0; alive && index < m_buttons.size(); ++index)
+    const DWORD defaultId = goesOn() && !onBoard ? GetDefID() : 0;
+    for (size_t index = 0; goesOn() && index < m_buttons.size(); ++index)
     {
         // In the on-board modes a button paints itself.
         CCustomPushbutton& button = *m_buttons[index];
@@ -360,12 +395,12 @@ void CZepMsgBoxDlg::TakeLook()
                               : isDefault ? BS_DEFPUSHBUTTON
                                           : BS_PUSHBUTTON,
                               FALSE);
-        if (alive)
+        if (goesOn())
         {
             button.SendMessage(WM_SETFONT, font);
         }
     }
-    if (!alive)
+    if (!goesOn())
     {
         return;
     }
@@ -381,7 +416,7 @@ void CZepMsgBoxDlg::ShowText()
     if (m_text->GetSafeHwnd() != nullptr && m_shownText != m_displayText)
     {
         m_shownText = m_displayText;
-        m_text->Show(m_displayText);
+        Text().Show(m_displayText);
     }
 }
 
@@ -392,7 +427,7 @@ void CZepMsgBoxDlg::ShowIcon()
         return;
     }
     CBitmap picture;
-    dialogs::LoadPictureOver(picture, UINT(m_iconId),
+    windows::LoadPictureOver(picture, UINT(m_iconId),
                              COnBoardUIGeneral::InOnBoardMode() ? palette::Panel
                                                                 : ::GetSysColor(COLOR_3DFACE));
     const WindowAlive alive(*this);

@@ -3,7 +3,6 @@
 #include "CustomEdit.h"
 #include "OnBoardUI.h"
 #include "ZepMsgBoxDlg.h"
-#include "dialogs/MessageText.h"
 #include "dialogs/dialog_for_tests.h"
 
 // A message box with its protected side open to tests, on a screen of 1280 x 1024 unless it is
@@ -26,18 +25,12 @@ public:
     CRect PlaceOfButton(size_t index) { return PlaceIn(*this, Button(index)); }
     void ClickOn(size_t index) { Click(WindowRectOf(Button(index)).CenterPoint()); }
     int FirstLine() { return int(m_text->SendMessage(EM_GETFIRSTVISIBLELINE)); }
-    std::string Shown()
-    {
-        CString text;
-        m_text->GetWindowText(text);
-        return std::string(text);
-    }
+    std::string Shown() { return TextOf(*m_text); }
 
     using CZepMsgBoxDlg::GetStaticTextSize;
     using CZepMsgBoxDlg::m_area;
     using CZepMsgBoxDlg::m_buttons;
     using CZepMsgBoxDlg::m_captionHeight;
-    using CZepMsgBoxDlg::m_displayText;
     using CZepMsgBoxDlg::m_icon;
     using CZepMsgBoxDlg::m_iconId;
     using CZepMsgBoxDlg::m_lpszTemplateName;

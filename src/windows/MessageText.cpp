@@ -1,4 +1,4 @@
-#include "dialogs/MessageText.h"
+#include "windows/MessageText.h"
 
 #include "OnBoardUIGeneral.h"
 #include "modes/WindowAlive.h"
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace dialogs {
+namespace windows {
 
 BEGIN_MESSAGE_MAP(MessageText, CCustomEdit)
     ON_WM_GETDLGCODE()
@@ -139,4 +139,4 @@ HBRUSH MessageText::CtlColor(CDC* dc, UINT)
     return CCustomDialog::m_BkBrush;
 }
 
-} // namespace dialogs
+} // namespace windows

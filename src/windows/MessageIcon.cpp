@@ -1,6 +1,6 @@
-#include "dialogs/MessageIcon.h"
+#include "windows/MessageIcon.h"
 
-namespace dialogs {
+namespace windows {
 
 bool LoadPictureOver(CBitmap& picture, UINT id, COLORREF ground)
 {
@@ -23,4 +23,4 @@ bool LoadPictureOver(CBitmap& picture, UINT id, COLORREF ground)
     return picture.Attach(loaded) != FALSE;
 }
 
-} // namespace dialogs
+} // namespace windows

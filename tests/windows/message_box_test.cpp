@@ -1,6 +1,6 @@
-#include "dialogs/message_box_for_tests.h"
 #include "support/Acting.h"
 #include "support/Fenced.h"
+#include "windows/message_box_for_tests.h"
 
 #include <tuple>
 #include <utility>
@@ -34,9 +34,7 @@ TEST_F(MessageBoxTest, EveryButtonOfEverySetAnswersToThePointerInEveryMode)
                 const int id = ids[index];
                 box.inLoop = [&] {
                     EXPECT_EQ(box.GetButtonPressed(), 0);
-                    CString caption;
-                    box.Button(index).GetWindowText(caption);
-                    EXPECT_EQ(caption, captions[id]);
+                    EXPECT_EQ(TextOf(box.Button(index)), captions[id]);
                     box.ClickOn(index);
                 };
                 EXPECT_EQ(box.DoModal(), id == IDCANCEL ? IDCANCEL : IDOK);
@@ -75,8 +73,7 @@ TEST_F(MessageBoxTest, TheStyleNamesTheIcon)
         {
             Box box("Look", MB_OK | icon, nullptr);
             box.ShowWindow(SW_SHOW);
-            PumpAll();
-            const Pixels picture = WindowPixels(box.m_icon);
+            const Pixels picture = Settled(box.m_icon);
             EXPECT_EQ(ClientRectOf(box.m_icon).Size(), CSize(48, 48));
             EXPECT_GT(picture.Count(ground), 48 * 48 / 8) << "what is not painted is ground";
             EXPECT_LT(picture.Count(ground), 48 * 48 * 3 / 4) << "something is painted";
@@ -151,9 +148,7 @@ TEST_F(MessageBoxTest, OtherWindowsKeepTheirKeys)
             own->SetFocus();
             TypeText("yn");
             TypeKey(VK_ESCAPE);
-            CString typed;
-            own->GetWindowText(typed);
-            EXPECT_EQ(typed, "yn");
+            EXPECT_EQ(TextOf(*own), "yn");
         }
         box.Button(0).SetFocus();
         box.Button(0).PostMessage(WM_CHAR, 0x159); // no Y
@@ -227,8 +222,7 @@ TEST_F(MessageBoxTest, OnBoardTheTextLooksLikeALabelAndAsksForNoKeyboard)
     const ModeScope scope(EFB);
     CCustomEdit::SetEfb(&bag);
     Answer("Ready", MB_OK, [](Box& box) {
-        PumpAll();
-        const Pixels text = WindowPixels(*box.m_text);
+        const Pixels text = Settled(*box.m_text);
         EXPECT_GT(text.Count(RGB(50, 50, 50)), text.Width() * text.Height() / 2);
         EXPECT_GT(text.Count(RGB(230, 230, 230)), 50);
         Click(WindowRectOf(*box.m_text).CenterPoint());

@@ -7,7 +7,7 @@
 #include <array>
 #include <string_view>
 
-namespace dialogs {
+namespace windows {
 
 bool VisualStyles();
 
@@ -15,11 +15,11 @@ bool VisualStyles();
 int LineHead(HFONT font);
 
 // Measures text in the font that a message box's sizes are based on: the on-board one, or in the
-// standard mode that of a window's fresh device context.
+// standard mode that of a fresh device context.
 class TextMeasure
 {
 public:
-    explicit TextMeasure(CWnd& box);
+    TextMeasure();
 
     // The pixels of a text of lines, at least so wide. It is meant that a text of several lines
     // counts one more, as room below it, and that what ends a line is measured with it.
@@ -37,8 +37,8 @@ private:
 
     class LargestPiece;
 
-    CClientDC m_dc;
+    CDC& m_dc;
     Selected m_font;
 };
 
-} // namespace dialogs
+} // namespace windows
