@@ -4,6 +4,7 @@
 #include "CustomDropListCombo.h"
 #include "Row.h"
 #include "Stage.h"
+#include "paint/Metrics.h"
 
 #include <string>
 
@@ -14,7 +15,6 @@ constexpr int Openings = 20;
 constexpr DWORD Style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP;
 // Of both sides, in pixels as far as they are no counts.
 constexpr int ListRows = CCustomComboLBox::DefaultMaxRows;
-constexpr int RowHeight = 30;
 constexpr int Width = 300;
 constexpr int ComboHeight = 40;
 
@@ -64,42 +64,37 @@ template <APPMODE mode> Side Ours()
             }};
 }
 
-CFont& RowFont()
+HWND ListOf(CComboBox& combo)
 {
-    static CFont font;
-    if (font.GetSafeHandle() == nullptr)
-    {
-        font.CreateFont(RowHeight, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                        OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH,
-                        "Arial");
-    }
-    return font;
+    COMBOBOXINFO parts = {};
+    parts.cbSize = sizeof(parts);
+    ::GetComboBoxInfo(combo.GetSafeHwnd(), &parts);
+    return parts.hwndList;
 }
 
 Side Platforms()
 {
-    auto font = std::make_shared<CFont>();
     auto combo = std::make_shared<std::unique_ptr<CComboBox>>();
     return {[=] {
                 EnterMode(STD);
                 *combo = std::make_unique<CComboBox>();
                 (*combo)->Create(Style | CBS_DROPDOWNLIST, CRect(20, 20, 20 + Width, 400), &Stage(),
                                  1);
-                // As large and with as many rows as ours; the font decides how high a row is.
-                (*combo)->SetFont(&RowFont());
+                // With as many rows as ours, which are as high and have the same font.
+                (*combo)->SetFont(&CCustomDropListCombo::GetOnBoardFont());
                 (*combo)->SetItemHeight(-1, ComboHeight - 6);
-                (*combo)->SetWindowPos(nullptr, 0, 0, Width, ComboHeight + ListRows * RowHeight + 2,
+                ::SendMessage(ListOf(**combo), LB_SETITEMHEIGHT, 0, metrics::FingerRow);
+                (*combo)->SetWindowPos(nullptr, 0, 0, Width,
+                                       ComboHeight + ListRows * metrics::FingerRow + 2,
                                        SWP_NOMOVE | SWP_NOZORDER);
                 Fill(**combo);
             },
             [=] {
-                COMBOBOXINFO parts = {};
-                parts.cbSize = sizeof(parts);
-                ::GetComboBoxInfo((*combo)->GetSafeHwnd(), &parts);
+                const HWND list = ListOf(**combo);
                 for (int opening = 0; opening < Openings; ++opening)
                 {
                     (*combo)->ShowDropDown(TRUE);
-                    PaintOpen(parts.hwndList);
+                    PaintOpen(list);
                     PaintNow(**combo);
                     (*combo)->ShowDropDown(FALSE);
                     PaintNow(Stage());

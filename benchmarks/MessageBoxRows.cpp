@@ -14,7 +14,6 @@
 #include "Row.h"
 #include "Stage.h"
 #include "ZepMsgBoxDlg.h"
-#include "dialogs/MessageText.h"
 #include "paint/GdiGuards.h"
 
 #include <algorithm>

@@ -5,6 +5,7 @@
 #include "MultiTree.h"
 #include "Row.h"
 #include "Stage.h"
+#include "paint/Metrics.h"
 
 #include <string>
 
@@ -14,7 +15,6 @@ constexpr int AllItems = 10'000;
 constexpr int RangeItems = 5'000;
 constexpr int FewItems = 10;
 constexpr int Clicks = 50;
-constexpr int RowHeight = 40; // pixels, on-board
 constexpr DWORD Style =
     WS_CHILD | WS_VISIBLE | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS;
 
@@ -123,7 +123,8 @@ template <int count> Side ClickOneByOne()
 {
     auto filled = std::make_shared<std::unique_ptr<Filled<MultiTree>>>();
     return {[filled] {
-                *filled = std::make_unique<Filled<MultiTree>>(count, FewItems * RowHeight, ONBOARD);
+                *filled = std::make_unique<Filled<MultiTree>>(count, FewItems * metrics::FingerRow,
+                                                              ONBOARD);
                 (*filled)->tree.SetFocus();
                 (*filled)->tree.SelectItem((*filled)->items.front());
                 PaintNow((*filled)->tree);
