@@ -317,22 +317,13 @@ void CCustomButton::DrawOB()
         return;
     }
     NoteMode();
-    // Asked for by hand: there may be none to be had, and then nothing is drawn.
-    const HWND window = m_hWnd;
-    const HDC context = ::GetDC(window);
-    if (context == nullptr)
-    {
-        return;
-    }
-    CDC dc;
-    dc.Attach(context);
+    if (OwnContext dc(m_hWnd, OwnContext::Client); dc)
     {
         CRect client;
         GetClientRect(&client);
         BackBuffer buffer(dc, client);
         DrawOB(buffer);
     }
-    ::ReleaseDC(window, dc.Detach());
 }
 
 void CCustomButton::DrawChoice(CDC& dc, const std::function<void(const CRect&, CRect&)>& drawMark)

@@ -172,15 +172,12 @@ void CCustomStatic::DrawOBNC()
     {
         return;
     }
-    const HWND window = m_hWnd;
-    // Asked for by hand: there may be none to be had, and then there is no border.
-    const HDC context = (GetExStyle() & WS_EX_CLIENTEDGE) != 0 ? ::GetWindowDC(window) : nullptr;
-    if (context != nullptr)
+    if ((GetExStyle() & WS_EX_CLIENTEDGE) != 0)
     {
-        CDC dc;
-        dc.Attach(context);
-        DrawRings(dc, AreaOf(*this), palette::StaticBorder, palette::StaticBorder);
-        ::ReleaseDC(window, dc.Detach());
+        if (OwnContext dc(m_hWnd, OwnContext::Whole); dc)
+        {
+            DrawRings(dc, AreaOf(*this), palette::StaticBorder, palette::StaticBorder);
+        }
     }
     Invalidate();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
-// Guards that put a device context back as it was found. Nothing is restored by hand.
+// Guards that put a device context back as it was found, or give it back. Nothing is restored by
+// hand.
 
 #include <afxwin.h>
 
@@ -105,4 +106,41 @@ public:
 private:
     HDC m_dc;
     int m_saved;
+};
+
+// A window's own device context where there may be none to be had, which is no error: then it is
+// false, and nothing is drawn. The window may go meanwhile.
+class OwnContext : public CDC
+{
+public:
+    enum Area
+    {
+        Client,
+        Whole
+    };
+
+    OwnContext(HWND window, Area area)
+        : m_window(window)
+    {
+        if (const HDC context = area == Whole ? ::GetWindowDC(window) : ::GetDC(window))
+        {
+            Attach(context);
+        }
+    }
+
+    OwnContext(const OwnContext&) = delete;
+    OwnContext& operator=(const OwnContext&) = delete;
+
+    ~OwnContext() override
+    {
+        if (*this)
+        {
+            ::ReleaseDC(m_window, Detach());
+        }
+    }
+
+    explicit operator bool() const { return GetSafeHdc() != nullptr; }
+
+private:
+    HWND m_window;
 };
