@@ -10,7 +10,6 @@
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
-#include "scroll/NcBands.h"
 
 #include <utility>
 
@@ -196,6 +195,7 @@ void BarHost::NcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params, const C
         TakeBands(params->rgrc[0], inset, IsShown(SB_VERT), IsShown(SB_HORZ));
     }
     m_frameDone = true;
+    m_frame.Note(m_window);
     m_placingDue = true; // a paint of the frame may come before the new size is told
     if (!m_manner.platformFirst)
     {
@@ -214,7 +214,7 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
     if (alive && InOnBoard() && m_frameDone && (m_window.GetStyle() & m_manner.styles) != 0)
     {
         StripBars();
-        SaveRecalculation(*position);
+        m_frame.SaveRecalculation(m_window, *position);
     }
     if (alive && m_awaitsPlace && !m_following && !frameAlone && !IsPlaceToCome(m_window))
     {

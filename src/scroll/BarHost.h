@@ -2,6 +2,7 @@
 
 #include "FauxScrollBar.h"
 #include "scroll/BarPaint.h"
+#include "scroll/NcBands.h"
 
 #include <afxwin.h>
 
@@ -207,6 +208,7 @@ private:
     bool m_awaitsPlace = false;
     DWORD m_platformStyles = 0;
     bool m_frameDone = false;
+    FrameStyles m_frame;
     bool m_painting = false;
     bool m_paintsAll = false; // the frame is drawn for a paint of the whole window
     bool m_clientDue = false; // and the client area would not be erased for it

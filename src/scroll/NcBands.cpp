@@ -159,9 +159,17 @@ bool ChangesFrameAlone(const WINDOWPOS& position)
     return (position.flags & FrameAlone) == FrameAlone;
 }
 
-void SaveRecalculation(WINDOWPOS& position)
+void FrameStyles::Note(const CWnd& window)
 {
-    if (ChangesFrameAlone(position))
+    m_style = StyleOfWindow(window.GetSafeHwnd()) & ~ScrollStyles;
+    m_exStyle = window.GetExStyle();
+}
+
+void FrameStyles::SaveRecalculation(const CWnd& window, WINDOWPOS& position) const
+{
+    FrameStyles now;
+    now.Note(window);
+    if (ChangesFrameAlone(position) && now.m_style == m_style && now.m_exStyle == m_exStyle)
     {
         position.flags &= ~UINT(SWP_FRAMECHANGED);
     }

@@ -65,9 +65,21 @@ void RecalculateFrameUnpainted(const CWnd& window);
 // for its bars.
 bool ChangesFrameAlone(const WINDOWPOS& position);
 
-// In WM_WINDOWPOSCHANGING, after a style of the platform's was taken away with which it wanted the
-// frame recalculated: saves that when the frame is all that changes.
-void SaveRecalculation(WINDOWPOS& position);
+// The styles, but for those of the bars, with which the frame was calculated last.
+class FrameStyles
+{
+public:
+    // In WM_NCCALCSIZE.
+    void Note(const CWnd& window);
+
+    // In WM_WINDOWPOSCHANGING, after a style of the platform's was taken away with which it wanted
+    // the frame recalculated: saves that when the frame is all that changes, and is what it was.
+    void SaveRecalculation(const CWnd& window, WINDOWPOS& position) const;
+
+private:
+    DWORD m_style = 0;
+    DWORD m_exStyle = 0;
+};
 
 // Whether what is painted on the frame now would reach the screen. Else it is not worth the
 // context, which takes its time: the window paints its frame when it is shown.

@@ -4,7 +4,6 @@
 #include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
-#include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
 
 #include <algorithm>
@@ -261,6 +260,7 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     switch (message)
     {
     case WM_NCCALCSIZE:
+        m_frame.Note(Window());
         if (wParam != FALSE)
         {
             auto& proposed = reinterpret_cast<NCCALCSIZE_PARAMS*>(lParam)->rgrc[0];
@@ -270,7 +270,7 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     case WM_WINDOWPOSCHANGING:
         if (Strip() != 0)
         {
-            scroll::SaveRecalculation(*reinterpret_cast<WINDOWPOS*>(lParam));
+            m_frame.SaveRecalculation(Window(), *reinterpret_cast<WINDOWPOS*>(lParam));
         }
         break;
     case WM_NCHITTEST:

@@ -2,6 +2,7 @@
 
 #include "FauxScrollBar.h"
 #include "scroll/BarPaint.h"
+#include "scroll/NcBands.h"
 #include "trees/TreeOwner.h"
 
 namespace trees {
@@ -53,6 +54,7 @@ private:
     Bar m_vertical{SB_VERT};
     Bar m_horizontal{SB_HORZ};
     bool m_stripping = false; // the platform's styles are being taken away
+    scroll::FrameStyles m_frame;
     Bar* m_held = nullptr;    // the bar that is pressed
     CFauxScrollBar::ePRESSED m_part = CFauxScrollBar::PRESSED_NONE;
     CPoint m_last; // of the pointer, on the screen

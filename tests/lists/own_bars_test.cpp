@@ -53,6 +53,18 @@ TYPED_TEST(TwoOwnBars, FrameBandsAndCornerArePainted)
     EXPECT_LT(Settled(list).Count(palette::Trough, list.Bar(SB_VERT).GetArea()), 1000);
 }
 
+TYPED_TEST(TwoOwnBars, AFrameThatChangesTogetherWithAPlatformsBarIsCalculated)
+{
+    auto& list = this->AddList();
+    const CRect before = ClientRectOf(list);
+    list.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED);
+    EXPECT_EQ(ClientRectOf(list), before);
+    list.ModifyStyleEx(WS_EX_CLIENTEDGE, 0);
+    list.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED);
+    EXPECT_GT(ClientRectOf(list).Width(), before.Width());
+    EXPECT_EQ(list.GetStyle() & WS_VSCROLL, 0U);
+}
+
 // What a thumb across, its arrows and the wheel do.
 TYPED_TEST(TwoOwnBars, ScrollSidewaysAndByTheWheel)
 {
