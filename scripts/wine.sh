@@ -59,9 +59,10 @@ end_display() {
 }
 
 # Only the Liberation fonts: what else a machine has installed would change which face "Arial" is.
-# The cache lies beside it, so that nothing is written into the home folder.
+# The cache lies beside it, so that nothing is written into the home folder. It takes its name when it
+# is whole: another run may be reading it.
 write_font_configuration() {
-    cat > "$wine_folder/fonts.conf" << XML
+    cat > "$wine_folder/fonts.conf.$$" << XML
 <?xml version="1.0"?>
 <!DOCTYPE fontconfig SYSTEM "fonts.dtd">
 <fontconfig>
@@ -69,6 +70,7 @@ write_font_configuration() {
   <cachedir>$wine_folder/font-cache</cachedir>
 </fontconfig>
 XML
+    mv "$wine_folder/fonts.conf.$$" "$wine_folder/fonts.conf"
 }
 
 set_wine_environment() {

@@ -2,6 +2,7 @@
 // ./soak goes through many seeds, and one that failed is replayed by its own.
 
 #include "robust/Storm.h"
+#include "support/LiveObjects.h"
 #include "support/WindowTest.h"
 
 #include <cstdlib>
@@ -23,6 +24,7 @@ protected:
         SCOPED_TRACE(std::string(subject.name) + ", seed " + std::to_string(seed));
         std::unique_ptr<CWnd> window = subject.make(Host());
         const int faults = Watch::Faults();
+        const int objects = GraphicsObjects();
         Storm storm(subject, seed);
         storm.Blow(Host(), *window, Messages);
 
@@ -36,6 +38,8 @@ protected:
         PumpAll();
         EXPECT_EQ(Watch::Faults(), faults);
         ForgetClipboard();
+        // A first use keeps some; what is lost message after message comes to hundreds.
+        EXPECT_LT(GraphicsObjects() - objects, 100) << storm.Log();
         return storm.Sent();
     }
 
