@@ -106,6 +106,7 @@ protected:
     void InvalidateItem(int index);
     // @}
 
+    int LeastRowHeight() override { return RowHeight(); }
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);

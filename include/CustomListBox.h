@@ -170,6 +170,12 @@ protected:
     bool TakeFocus();
     // A press as the platform works it. It may end the list.
     void PressRow(UINT flags, CPoint point);
+    // After an heir has given rows another height by itself. It may end the list.
+    void RowsFitted();
+    // Pixels below which no row is measured.
+    virtual int LeastRowHeight() { return 0; }
+    // Ends what is pressed on a bar.
+    void EndPress();
     // Sends the parent WM_COMMAND with this code. It may end the list.
     void NotifyParent(UINT code);
 

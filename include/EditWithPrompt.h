@@ -6,7 +6,8 @@
 
 // An edit that shows a grey prompt until the user or the host gives it a text. While the prompt
 // shows, the edit counts as empty: whoever asks for its text gets an empty one. The first key or
-// press takes the prompt away; Reset brings it back.
+// press takes the prompt away; Reset brings it back. In an edit for passwords the prompt can be
+// read.
 class ONBOARDUI_API EditWithPrompt : public CEdit
 {
     DECLARE_DYNAMIC(EditWithPrompt)
@@ -66,6 +67,10 @@ protected:
     CBrush m_brush;
 
 private:
+    UINT m_passwordChar = 0; // put aside while the prompt shows; 0: the text is shown
+
+    bool BeginPrompt();
+    bool LeavePrompt();
     void ShowText(const char* text);
     void ShowPrompt();
     bool EndPrompt();

@@ -8,8 +8,6 @@
 #include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr UINT CopyCharacter = 0x03;   // Ctrl+C
@@ -43,24 +41,12 @@ void CCustomEdit::ProcessVScroll()
 
 void CCustomEdit::OnNcLButtonUp(UINT, CPoint)
 {
-    if (m_bars->IsDragging())
-    {
-        // The bar has positions past the end of the text; the text is on its way to its end.
-        m_bar.SetScrollPos(std::min(m_bar.GetScrollPos(), m_lastTop));
-    }
     m_bars->NcButtonUp();
 }
 
 LRESULT CCustomEdit::OnNCMouseLeave(WPARAM, LPARAM)
 {
-    const WindowAlive alive(*this);
-    const bool dragged = m_bars->IsDragging();
-    const LRESULT result = m_bars->NcMouseLeave();
-    if (alive && dragged && FollowMode())
-    {
-        FollowText(); // a bar past the end of the text comes back to it
-    }
-    return result;
+    return m_bars->NcMouseLeave();
 }
 
 void CCustomEdit::OnCaptureChanged(CWnd*)

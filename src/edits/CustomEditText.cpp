@@ -69,12 +69,31 @@ bool ChoosesLines(UINT message, Effect effect)
     return effect == Effect::MayScroll || message == WM_SETTEXT || message == EM_SETHANDLE;
 }
 
+// Whether a user changes the text by it without a key or a character: undoing with Alt, pasting with
+// the middle button, an input method.
+bool ChangesText(UINT message, WPARAM wParam)
+{
+    switch (message)
+    {
+    case WM_SYSKEYDOWN:
+    case WM_SYSCHAR:
+        return wParam == VK_BACK;
+    case WM_MBUTTONDOWN:
+    case WM_IME_STARTCOMPOSITION:
+    case WM_IME_COMPOSITION:
+    case WM_IME_CHAR:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 // Not every change is notified, and a parent need not pass its notifications on.
 LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (m_fauxReadOnly && wParam == VK_BACK && (message == WM_SYSKEYDOWN || message == WM_SYSCHAR))
+    if (m_fauxReadOnly && ChangesText(message, wParam))
     {
         return 0;
     }

@@ -179,4 +179,7 @@ private:
             Step(axis, SB_LINEDOWN);
         }
     }
+    // The bar may stand past the end of the text, or the text was changed under the thumb: it is
+    // compared once the steps that still wait are done.
+    void DragEnded() override { m_edit.PostMessage(WM_VSCROLL, SB_ENDSCROLL); }
 };

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(EditWithPrompt, CEdit)
 
@@ -27,8 +28,9 @@ EditWithPrompt::EditWithPrompt()
 void EditWithPrompt::PreSubclassWindow()
 {
     CEdit::PreSubclassWindow();
-    m_showingPrompt = m_prompt.IsEmpty() ? 0 : 1; // each window of the object begins with it
-    if (m_showingPrompt)
+    m_showingPrompt = 0;
+    m_passwordChar = 0;
+    if (!m_prompt.IsEmpty() && BeginPrompt()) // each window of the object begins with it
     {
         // The messages are not ours yet: an edit that exists takes them as any text and selection,
         // and one that is being made gets the prompt when it is ready for a text. The parent is
@@ -45,13 +47,10 @@ int EditWithPrompt::OnCreate(LPCREATESTRUCT cs)
     const int result = CEdit::OnCreate(cs);
     if (alive && result != -1 && m_showingPrompt)
     {
-        if (cs->lpszName != nullptr && *cs->lpszName != '\0')
+        m_showingPrompt = 0;
+        if (cs->lpszName == nullptr || *cs->lpszName == '\0') // else it was made with a text
         {
-            m_showingPrompt = 0; // it was made with a text
-        }
-        else
-        {
-            ShowPrompt();
+            Reset(); // now that there is an edit to be asked
         }
     }
     return result;
@@ -80,13 +79,43 @@ void EditWithPrompt::ShowPrompt()
     }
 }
 
+// A prompt is to be read, also where the text is not. False when the edit did not survive it.
+bool EditWithPrompt::BeginPrompt()
+{
+    const WindowAlive alive(*this);
+    if (!m_showingPrompt)
+    {
+        m_passwordChar = GetSafeHwnd() != nullptr ? UINT(GetPasswordChar()) : 0;
+        if (m_passwordChar != 0)
+        {
+            SetPasswordChar(0);
+        }
+    }
+    if (alive)
+    {
+        m_showingPrompt = 1;
+    }
+    return bool(alive);
+}
+
+// Its text stays. False when the edit did not survive it.
+bool EditWithPrompt::LeavePrompt()
+{
+    const WindowAlive alive(*this);
+    m_showingPrompt = 0;
+    if (const UINT hidden = std::exchange(m_passwordChar, 0))
+    {
+        SetPasswordChar(TCHAR(hidden));
+    }
+    return bool(alive);
+}
+
 // The user begins. False when the edit did not survive it.
 bool EditWithPrompt::EndPrompt()
 {
     const WindowAlive alive(*this);
-    if (m_showingPrompt)
+    if (m_showingPrompt && LeavePrompt())
     {
-        m_showingPrompt = 0;
         ShowText("");
     }
     return bool(alive);
@@ -94,8 +123,10 @@ bool EditWithPrompt::EndPrompt()
 
 void EditWithPrompt::Reset()
 {
-    m_showingPrompt = 1;
-    ShowPrompt();
+    if (BeginPrompt())
+    {
+        ShowPrompt();
+    }
 }
 
 void EditWithPrompt::SetPromptText(const char* prompt)
@@ -105,11 +136,10 @@ void EditWithPrompt::SetPromptText(const char* prompt)
     {
         return;
     }
-    if (m_prompt.IsEmpty())
+    if (!m_prompt.IsEmpty() || LeavePrompt())
     {
-        m_showingPrompt = 0;
+        ShowPrompt();
     }
-    ShowPrompt();
 }
 
 void EditWithPrompt::SetPromptColor(COLORREF color)
@@ -161,7 +191,14 @@ LRESULT EditWithPrompt::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return GetWindowText(reinterpret_cast<char*>(lParam),
                                  int(std::min<WPARAM>(wParam, INT_MAX)));
         case WM_GETTEXTLENGTH:
+        case EM_GETLINE:
+        case EM_LINELENGTH:
             return 0;
+        case EM_GETPASSWORDCHAR:
+            return LRESULT(m_passwordChar);
+        case EM_SETPASSWORDCHAR:
+            m_passwordChar = UINT(wParam);
+            return TRUE;
         case WM_SETTEXT:
         {
             const auto* text = reinterpret_cast<const char*>(lParam);
@@ -169,9 +206,9 @@ LRESULT EditWithPrompt::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             {
                 return TRUE;
             }
-            if (m_prompt != text)
+            if (m_prompt != text && !LeavePrompt())
             {
-                m_showingPrompt = 0;
+                return FALSE;
             }
             break;
         }

@@ -71,13 +71,19 @@ void CCustomChecklistBox::FitRows()
     const int before = own;
     own = height;
     const int rows = variable ? Ask(LB_GETCOUNT) : 1;
+    bool fitted = false;
     for (int row = 0; row < rows && alive; ++row)
     {
         const int now = Ask(LB_GETITEMHEIGHT, WPARAM(row));
         if (now != height && (now < height || now == before))
         {
             Ask(LB_SETITEMHEIGHT, WPARAM(row), LPARAM(height));
+            fitted = true;
         }
+    }
+    if (alive && fitted)
+    {
+        RowsFitted();
     }
 }
 

@@ -434,7 +434,11 @@ void CCustomComboLBox::OnLButtonDblClk(UINT flags, CPoint point)
 
 void CCustomComboLBox::OnLButtonUp(UINT, CPoint point)
 {
-    if (m_combo != nullptr)
+    if (IsBarHeld())
+    {
+        EndPress(); // of a bar, dragged into the rows
+    }
+    else if (m_combo != nullptr)
     {
         ClientToScreen(&point);
         m_combo->ReleaseAt(point);
@@ -443,6 +447,11 @@ void CCustomComboLBox::OnLButtonUp(UINT, CPoint point)
 
 void CCustomComboLBox::OnMouseMove(UINT, CPoint point)
 {
+    if (IsBarHeld())
+    {
+        HandleMouseMoveScroll(point);
+        return;
+    }
     ClientToScreen(&point);
     Track(point);
 }

@@ -374,6 +374,14 @@ LRESULT CCustomListBox::OnMayScroll(WPARAM wParam, LPARAM lParam)
     return result;
 }
 
+void CCustomListBox::RowsFitted()
+{
+    if (m_bars->InOnBoard() && !m_bars->IsFollowing() && !m_bars->AwaitsPlace())
+    {
+        ContentChanged();
+    }
+}
+
 LRESULT CCustomListBox::OnRowsMeasured(WPARAM wParam, LPARAM)
 {
     if (GetCurrentMessage()->message == LB_SETCOLUMNWIDTH && int(wParam) <= 0)

@@ -126,6 +126,15 @@ void CCustomListBox::PressRow(UINT flags, CPoint point)
     }
 }
 
+void CCustomListBox::EndPress()
+{
+    m_bars->End();
+    if (FollowMode())
+    {
+        DrawOBScrollBars();
+    }
+}
+
 void CCustomListBox::OnLButtonUp(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);

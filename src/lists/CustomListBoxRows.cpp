@@ -200,10 +200,14 @@ void CCustomListBox::MeasureRows()
         measure.itemHeight = UINT(std::max(0, Ask(LB_GETITEMHEIGHT, WPARAM(row))));
         measure.itemData = variable ? ULONG_PTR(DefWindowProc(LB_GETITEMDATA, WPARAM(row), 0)) : 0;
         ::SendMessage(parent, WM_MEASUREITEM, measure.CtlID, reinterpret_cast<LPARAM>(&measure));
-        if (alive && measure.itemHeight > 0 &&
-            int(measure.itemHeight) != Ask(LB_GETITEMHEIGHT, WPARAM(row)))
+        if (!alive || measure.itemHeight == 0)
         {
-            Ask(LB_SETITEMHEIGHT, WPARAM(row), LPARAM(measure.itemHeight));
+            continue;
+        }
+        const int height = std::max(int(measure.itemHeight), LeastRowHeight());
+        if (height != Ask(LB_GETITEMHEIGHT, WPARAM(row)))
+        {
+            Ask(LB_SETITEMHEIGHT, WPARAM(row), LPARAM(height));
         }
     }
 }

@@ -192,6 +192,8 @@ protected:
     // A scroll code; and a thumb that was dragged from one position to another.
     virtual void Step(int axis, int code) = 0;
     virtual void Dragged(int axis, int before, int after) = 0;
+    // A thumb is held no more. Must not leave our code.
+    virtual void DragEnded() {}
 
 private:
     bool FollowOrPass();

@@ -99,10 +99,15 @@ void BarHost::SetTimer(const UINT& timer, const UINT& period)
 
 void BarHost::Forget()
 {
+    const bool dragged = IsDragging();
     m_part = CFauxScrollBar::PRESSED_NONE;
     Held() = false;
     PartOf(SB_VERT) = CFauxScrollBar::PRESSED_NONE;
     PartOf(SB_HORZ) = CFauxScrollBar::PRESSED_NONE;
+    if (dragged && m_window.GetSafeHwnd() != nullptr && InOnBoard())
+    {
+        DragEnded();
+    }
 }
 
 void BarHost::CancelLeave()

@@ -25,6 +25,17 @@ TEST_F(EditOnBoard, AThumbDragMovesTheTextLineByLine)
     }
     Release();
     ExpectAgreement(edit, "dragged");
+    // A text of the host's under a held thumb, and an end that nobody's finger made.
+    Press(edit.PartPoint(Thumb));
+    edit.Fill(150);
+    Release();
+    ExpectAgreement(edit, "another text");
+    Press(edit.PartPoint(Thumb));
+    DragTo(WindowPoint(edit, CPoint(area.CenterPoint().x, area.bottom - 5)), 10);
+    edit.SendMessage(WM_CANCELMODE);
+    PumpAll();
+    ExpectAgreement(edit, "cut off past the end");
+    Release();
 }
 
 // The on-screen keyboard ------------------------------------------------------------------------
@@ -113,7 +124,12 @@ TEST_F(EditTest, AFauxReadOnlyEditScrollsAndCopiesAndTakesNoOtherKey)
         TypeKey('X', VK_CONTROL);
         TypeKey('V', VK_CONTROL);
         TypeKey(VK_INSERT, VK_SHIFT);
+        edit.Copy();
+        edit.SetSel(0, 0);
+        edit.SendMessage(WM_MBUTTONDOWN, MK_MBUTTON, 0); // pastes under Wine
+        edit.SendMessage(WM_IME_COMPOSITION, 0, GCS_RESULTSTR);
         EXPECT_EQ(edit.Text(), before) << APPMODE_NAMES[mode];
+        edit.SetSel(0, 6);
         TypeKey('C', VK_CONTROL);
         edit.SendMessage(WM_VSCROLL, SB_LINEDOWN);
         EXPECT_EQ(edit.GetFirstVisibleLine(), 1);

@@ -11,13 +11,22 @@
 
 using SmallEditsTest = WindowTest;
 
-// What is in the edit itself, whatever it says.
-static std::string Shown(const CEdit& edit)
+namespace {
+
+class PromptSeen : public EditWithPrompt
 {
-    char line[100] = {};
-    line[edit.GetLine(0, line, sizeof(line) - 1)] = '\0';
-    return line;
-}
+public:
+    // What is in the edit itself, whatever it says.
+    std::string Shown()
+    {
+        char line[100] = {};
+        line[DefWindowProc(WM_GETTEXT, sizeof(line), LPARAM(line))] = '\0';
+        return line;
+    }
+    bool IsHidden() { return DefWindowProc(EM_GETPASSWORDCHAR, 0, 0) != 0; }
+};
+
+} // namespace
 
 TEST_F(SmallEditsTest, ColoursAreBlackOnFacesUntilSet)
 {
@@ -65,7 +74,7 @@ TEST_F(SmallEditsTest, PromptRules)
     for (const auto& [name, before, deed, text, shown] : table)
     {
         SCOPED_TRACE(name);
-        auto& edit = Add<EditWithPrompt>(CRect(20, 20, 220, 50), ES_AUTOHSCROLL);
+        auto& edit = Add<PromptSeen>(CRect(20, 20, 220, 50), ES_AUTOHSCROLL);
         edit.SetFocus();
         if (before != nullptr)
         {
@@ -74,8 +83,9 @@ TEST_F(SmallEditsTest, PromptRules)
         deed(edit);
         PumpAll();
         EXPECT_EQ(TextOf(edit), text);
-        EXPECT_EQ(Shown(edit), shown);
+        EXPECT_EQ(edit.Shown(), shown);
         EXPECT_EQ(::GetWindowTextLength(edit), int(std::strlen(text)));
+        EXPECT_EQ(edit.LineLength(0), int(std::strlen(text)));
         if (std::strcmp(text, shown) != 0)
         {
             EXPECT_EQ(edit.GetSel(), 0U) << "caret in front, nothing selected";
@@ -83,7 +93,7 @@ TEST_F(SmallEditsTest, PromptRules)
         Remove(edit);
     }
     char given[] = "u";
-    auto& edit = Add<EditWithPrompt>(CRect(20, 20, 220, 50));
+    auto& edit = Add<PromptSeen>(CRect(20, 20, 220, 50));
     EXPECT_EQ(edit.GetWindowText(nullptr, 0), 0);
     edit.SendMessage(WM_GETTEXT, 0, LPARAM(given));
     EXPECT_STREQ(given, "u") << "no room";
@@ -93,7 +103,7 @@ TEST_F(SmallEditsTest, PromptRules)
 
 TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
 {
-    auto& edit = Add<EditWithPrompt>(CRect(20, 20, 260, 60));
+    auto& edit = Add<PromptSeen>(CRect(20, 20, 260, 60));
     const auto count = [&](COLORREF color) { return Settled(edit).Count(color); };
     EXPECT_GT(count(RGB(119, 121, 118)), 20);
     edit.SetPromptColor(RGB(200, 30, 30));
@@ -111,10 +121,35 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
     EXPECT_EQ(count(RGB(200, 30, 30)), 0);
     edit.DestroyWindow();
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(20, 20, 260, 60), &Host(), 5));
-    EXPECT_EQ(Shown(edit), "<Enter text here>");
-    EditWithPrompt taker;
+    EXPECT_EQ(edit.Shown(), "<Enter text here>");
+    PromptSeen taker;
     taker.SubclassWindow(Add<CEdit>(CRect(20, 80, 260, 110)).UnsubclassWindow());
-    EXPECT_EQ(Shown(taker), "<Enter text here>") << "of an edit that was there";
+    EXPECT_EQ(taker.Shown(), "<Enter text here>") << "of an edit that was there";
+    taker.DestroyWindow();
+}
+
+TEST_F(SmallEditsTest, APromptIsReadWhereAPasswordIsNot)
+{
+    auto& edit = Add<PromptSeen>(CRect(20, 20, 260, 60), ES_PASSWORD);
+    PromptSeen taker;
+    taker.SubclassWindow(Add<CEdit>(CRect(20, 80, 260, 110), ES_PASSWORD).UnsubclassWindow());
+    for (PromptSeen* const each : {&edit, &taker})
+    {
+        EXPECT_FALSE(each->IsHidden());
+        EXPECT_NE(each->GetPasswordChar(), '\0');
+        each->SetFocus();
+        TypeText("s");
+        EXPECT_TRUE(each->IsHidden());
+        each->Reset();
+        EXPECT_FALSE(each->IsHidden());
+        each->SetWindowText("secret");
+        EXPECT_TRUE(each->IsHidden());
+        each->Reset();
+        each->SetPasswordChar('#');
+        each->SetPromptText("");
+        EXPECT_EQ(each->GetPasswordChar(), '#');
+        EXPECT_TRUE(each->IsHidden());
+    }
     taker.DestroyWindow();
 }
 

@@ -180,6 +180,30 @@ TEST_F(CheckListTest, RowsAreHighEnoughInEveryModeAndKeepTheirChecks)
     taker.DestroyWindow();
 }
 
+TEST_F(CheckListTest, AParentThatMeasuresRowsMakesThemNoLowerAndTheyGetTheirBar)
+{
+    Host().AlsoRecord({WM_MEASUREITEM});
+    Host().hook = [](ToldMessage& told) {
+        if (told.message == WM_MEASUREITEM)
+        {
+            reinterpret_cast<MEASUREITEMSTRUCT*>(told.lParam)->itemHeight = 16;
+            told.answer = TRUE;
+        }
+    };
+    for (const APPMODE born : {STD, ONBOARD})
+    {
+        COnBoardUIGeneral::SetAppMode(born);
+        auto& list = Add<CheckListForTests>(CRect(20, 20, 320, 320), CheckListStyle);
+        list.Fill(10);
+        PumpAll();
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        Repaint(list);
+        EXPECT_GE(list.GetItemHeight(0), 52);
+        EXPECT_TRUE(list.m_vBarNeeded);
+        Remove(list);
+    }
+}
+
 namespace {
 
 // Has its checks at the right, and draws next to nothing itself.
