@@ -337,10 +337,18 @@ template <template <class> class As> struct Makers
             {
                 return false;
             }
-            // Tabs as wide for every text.
-            GetTabControl()->SendMessage(TCM_SETMINTABWIDTH, 0, contents.place.Width() / 2);
-            SetTexts(*GetActivePage(), contents.text);
-            return true;
+            // Tabs as wide for every text. The sheet may end when it is asked for them.
+            CTabCtrl* const tabs = GetTabControl();
+            if (tabs != nullptr)
+            {
+                tabs->SendMessage(TCM_SETMINTABWIDTH, 0, contents.place.Width() / 2);
+            }
+            CPropertyPage* const page = tabs != nullptr ? GetActivePage() : nullptr;
+            if (page != nullptr)
+            {
+                SetTexts(*page, contents.text);
+            }
+            return page != nullptr;
         }
         BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
         {

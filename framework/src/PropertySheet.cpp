@@ -184,7 +184,8 @@ CPropertyPage* CPropertySheet::GetPage(int page) const
 
 int CPropertySheet::GetActiveIndex() const
 {
-    return m_hWnd == nullptr ? int(m_psh.nStartPage) : GetTabControl()->GetCurSel();
+    const CTabCtrl* const tabs = m_hWnd != nullptr ? GetTabControl() : nullptr;
+    return tabs == nullptr ? int(m_psh.nStartPage) : tabs->GetCurSel();
 }
 
 CTabCtrl* CPropertySheet::GetTabControl() const
@@ -239,22 +240,35 @@ BOOL CPropertySheet::Create(CWnd* parent, DWORD style, DWORD exStyle)
     {
         return FALSE;
     }
+    // Each of these may end it.
+    const framework::StillThere here(*this);
     if (style != DWORD(-1))
     {
         ModifyStyle(0, style);
     }
-    ModifyStyleEx(0, exStyle);
-    HideButtons();
-    return TRUE;
+    if (here)
+    {
+        ModifyStyleEx(0, exStyle);
+    }
+    if (here)
+    {
+        HideButtons();
+    }
+    return bool(here);
 }
 
 // A modeless sheet has no buttons; whoever shows it decides what becomes of the pages.
 void CPropertySheet::HideButtons()
 {
+    const CTabCtrl* const tabControl = GetTabControl(); // the sheet is asked, and may end
+    if (tabControl == nullptr)
+    {
+        return;
+    }
     CRect sheet;
     GetWindowRect(&sheet);
     CRect tabs;
-    GetTabControl()->GetWindowRect(&tabs);
+    tabControl->GetWindowRect(&tabs);
     CRect client;
     GetClientRect(&client);
     ClientToScreen(&client);

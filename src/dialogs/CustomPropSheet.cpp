@@ -41,9 +41,9 @@ struct dialogs::SheetControls
     SheetTabs tabs;
     CCustomPushbutton buttons[std::size(ButtonIds)];
 
-    explicit SheetControls(CPropertySheet& sheet)
+    SheetControls(CPropertySheet& sheet, HWND tabControl)
     {
-        tabs.SubclassWindow(*sheet.GetTabControl());
+        tabs.SubclassWindow(tabControl);
         for (size_t index = 0; index < std::size(ButtonIds); ++index)
         {
             buttons[index].SubclassDlgItem(ButtonIds[index], &sheet);
@@ -104,7 +104,12 @@ BOOL CCustomPropSheet::OnInitDialog()
         m_showEntire = GetSpecialConfigVal("Dialog", "ShowEntireDialog", 0) != 0;
         m_initialising = false;
         m_laidOut = true;
-        m_sheetControls = std::make_unique<dialogs::SheetControls>(*this);
+        const CTabCtrl* const tabs = GetTabControl(); // the sheet is asked, and may end
+        if (!alive || tabs == nullptr)
+        {
+            return result;
+        }
+        m_sheetControls = std::make_unique<dialogs::SheetControls>(*this, *tabs);
         if (COnBoardUIGeneral::InOnBoardMode())
         {
             LayOutOnBoard();
@@ -142,7 +147,7 @@ void CCustomPropSheet::LayOutOnBoard()
 {
     const WindowAlive alive(*this);
     const HWND sheet = GetSafeHwnd();
-    const HWND tabs = *GetTabControl();
+    const HWND tabs = m_sheetControls->tabs;
     const CSize page = RescaledRect(PageArea(tabs), metrics::OnBoardScale).Size();
     dialogs::OpenOnBoard(sheet, dialogs::ChildrenOf(*this, false).standardFont);
     if (!alive || !COnBoardUIGeneral::InOnBoardMode())

@@ -146,7 +146,10 @@ std::vector<Subject> MakeSubjects()
                                                                LBS_WANTKEYBOARDINPUT)});
     controls.push_back({"tree of one selection", [](CWnd& parent, const Contents& contents) {
                             auto tree = Catalog::MakeTree(parent, contents);
-                            static_cast<MultiTree&>(*tree).SetMultiSelect(false);
+                            if (tree != nullptr)
+                            {
+                                static_cast<MultiTree&>(*tree).SetMultiSelect(false);
+                            }
                             return tree;
                         }});
     std::vector<Subject> subjects;

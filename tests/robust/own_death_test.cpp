@@ -27,7 +27,7 @@ struct Heard
 
 // Of one message. What follows is likely the same again.
 constexpr int MostTellings = 2;
-constexpr int MostPlays = 3;
+constexpr int MostPlays = 8;
 
 constexpr UINT BlinkOfTheCaret = 0x118; // the system's own timer
 
@@ -66,7 +66,8 @@ protected:
             return false;
         }
         EndsItself = nullptr;
-        ::DestroyWindow(*now.m_window);
+        ::DestroyWindow(now.m_window != nullptr ? now.m_window->GetSafeHwnd()
+                                                : window.GetSafeHwnd()); // one that is being made
         now.m_window.reset();
         return true;
     }
@@ -96,27 +97,33 @@ protected:
     // Has it done to the window, in which it may be ended; whether it was, or was not to be.
     template <class Act>
     bool Give(const Subject& subject, APPMODE mode, const std::string& title,
-              std::optional<Heard> awaited, Act act)
+              std::optional<Heard> awaited, Act act, bool making)
     {
         const Watch watch([=] { return title; });
         const int faults = Watch::Faults();
         const ModeScope scope(mode);
         m_heard.clear();
         m_awaited = awaited;
+        s_now = this;
+        EndsItself = making ? &OwnDeath::Hear : nullptr;
         m_window = subject.make(Host());
-        const HWND window = *m_window;
+        const bool endedAtOnce = EndsItself == nullptr; // it, or a page of it
+        EndsItself = nullptr;
+        const HWND window = m_window != nullptr ? m_window->GetSafeHwnd() : nullptr;
         PumpAll();
 
-        s_now = this;
-        EndsItself = &OwnDeath::Hear;
+        EndsItself = making ? nullptr : &OwnDeath::Hear;
         act(window);
-        const bool asAwaited = (::IsWindow(window) == FALSE) == awaited.has_value();
+        const bool ended = making ? endedAtOnce : ::IsWindow(window) == FALSE;
         EndsItself = nullptr;
-        Repaint(window);
+        if (::IsWindow(window))
+        {
+            Repaint(window);
+        }
         m_window.reset();
         PumpAll();
         EXPECT_EQ(Watch::Faults(), faults) << title;
-        return asAwaited;
+        return ended == awaited.has_value();
     }
 
     // With the ticks of its timers while the button is down, if it is held: a loop of the platform
@@ -151,11 +158,12 @@ protected:
     // Once without an end, and once for each end on the way. On a busy machine the focus may change
     // by itself in a play, which then takes another course: it is played again.
     template <class Act>
-    void GiveAll(const Subject& subject, APPMODE mode, const std::string& what, Act act)
+    void GiveAll(const Subject& subject, APPMODE mode, const std::string& what, Act act,
+                 bool making = false)
     {
         const std::string title =
             subject.name + (" in mode " + std::to_string(int(mode))) + ", " + what;
-        EXPECT_TRUE(Give(subject, mode, title, {}, act)) << title;
+        EXPECT_TRUE(Give(subject, mode, title, {}, act, making)) << title;
         for (const Heard& word : std::exchange(m_heard, {}))
         {
             char end[60] = "";
@@ -164,12 +172,23 @@ protected:
             bool ended = false;
             for (int plays = 0; plays < MostPlays && !ended; ++plays)
             {
-                ended = Give(subject, mode, title + end, word, act);
+                ended = Give(subject, mode, title + end, word, act, making);
             }
             EXPECT_TRUE(ended) << title << end;
         }
     }
 };
+
+TEST_F(OwnDeath, WhileItIsMadeDoesNoHarm)
+{
+    for (const Subject& subject : Subjects())
+    {
+        for (const APPMODE mode : {STD, EFB})
+        {
+            GiveAll(subject, mode, "made", [](HWND) {}, true);
+        }
+    }
+}
 
 TEST_F(OwnDeath, DuringAChangeOfTheModeDoesNoHarm)
 {
