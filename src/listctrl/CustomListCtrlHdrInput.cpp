@@ -154,7 +154,7 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
         m_oldCursor = before;
     }
     TellTracking(int(point.x));
-    if (alive)
+    if (alive && COnBoardUIGeneral::InOnBoardMode()) // who was told may have changed it
     {
         RepositionHeaderStrip();
     }
@@ -219,7 +219,7 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
     {
         DefaultAt(WM_LBUTTONUP, flags, point);
     }
-    if (alive)
+    if (alive && COnBoardUIGeneral::InOnBoardMode()) // who was told may have changed it
     {
         RepositionHeaderStrip();
     }

@@ -32,7 +32,7 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyTheListOrChangeTheModeInANotification)
         for (const auto& [code, bring] : notifications)
         {
             SCOPED_TRACE(testing::Message() << act.name << " in " << int(code));
-            auto& list = AddList<Fenced<ListForTests>>(100, 8);
+            auto& list = AddList<Fenced<ListForTests>>(100, 5);
             const HWND window = list;
             list.SetItemState(3, 3, 3); // no range begins here
             list.PerformVScroll(SB_PAGEDOWN);
@@ -43,6 +43,10 @@ TEST_F(ListCtrlOnBoard, AParentMayEmptyTheListOrChangeTheModeInANotification)
             if (::IsWindow(window))
             {
                 EXPECT_LE(list.m_vBar.GetScrollPos(), list.GetItemCount());
+                for (int column = COnBoardUIGeneral::InOnBoardMode() ? 5 : 0; column < 5; ++column)
+                {
+                    EXPECT_EQ(list.GetColumnWidth(column), 60) << column;
+                }
                 Remove(list);
             }
             COnBoardUIGeneral::SetAppMode(ONBOARD);
