@@ -394,15 +394,16 @@ void TreeBars::DragTo(CPoint screen)
     }
 }
 
-// The one way out of a press, however it ends.
+// The one way out of a press, however it ends, also while its bar is let go for a step.
 void TreeBars::EndPress()
 {
+    const bool pressed = m_held != nullptr || m_part != CFauxScrollBar::PRESSED_NONE;
+    m_held = nullptr;
     m_part = CFauxScrollBar::PRESSED_NONE;
-    if (m_held == nullptr)
+    if (!pressed)
     {
         return;
     }
-    m_held = nullptr;
     Window().KillTimer(RepeatTimer);
     scroll::CancelNcLeave(Window());
     Mirror();

@@ -1,3 +1,4 @@
+#include "support/Acting.h"
 #include "trees/tree_for_tests.h"
 
 #include <gmock/gmock.h>
@@ -10,9 +11,9 @@ class MultiTreeInputTest : public TreeTest
 {
 protected:
     // A tree of many single-letter items and a few long ones, which scrolls both ways.
-    TreeForTests& AddLongTree()
+    template <class Tree = TreeForTests> Tree& AddLongTree()
     {
-        auto& tree = Add<TreeForTests>(CRect(20, 20, 220, 220), TreeStyle);
+        auto& tree = Add<Tree>(CRect(20, 20, 220, 220), TreeStyle);
         m_items = AddItems(tree, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
         for (const char letter : {'0', '1', '2'})
         {
@@ -383,6 +384,19 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
     Repaint(tree);
     EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), DWORD(WS_VSCROLL | WS_HSCROLL));
     EXPECT_EQ(ClientRectOf(tree).Size(), standard);
+}
+
+TEST_F(MultiTreeInputTest, NoTimerGoesOnWhenAStepOfABarChangesTheMode)
+{
+    auto& tree = AddLongTree<Acting<TreeForTests>>();
+    const ModeScope mode(ONBOARD);
+    Repaint(tree);
+    const MessageLog log(tree, {WM_TIMER});
+    tree.ActIn(WM_VSCROLL, [&] { SetMode(STD, tree); });
+    Press(WindowPoint(tree, CPoint(200 - 26, 200 - 52 - 10)));
+    PumpFor(400);
+    EXPECT_EQ(log.Count(WM_TIMER), 0);
+    Release();
 }
 
 } // namespace
