@@ -100,7 +100,7 @@ protected:
     virtual void PerformVScroll(int code);
     // @}
 
-    // Takes the dividers of so many columns from the header.
+    // Takes the dividers of so many columns from the header, in the place of those before.
     virtual void GetVerticalDivides(int columns);
     // Selection and texts of the rows in rect, in client coordinates.
     virtual void DrawCells(CDC& dc, int items, int columns, bool fullRowSelect, const CRect& rect);

@@ -60,8 +60,11 @@ void CCustomListCtrl::DrawOB(CDC& dc)
     const auto style = DWORD(Ask(LVM_GETEXTENDEDLISTVIEWSTYLE));
     const int columns = ColumnCount();
     const WindowAlive alive(*this);
-    m_gridLines.Clear();
     GetVerticalDivides(columns);
+    if (!alive)
+    {
+        return;
+    }
     const int items = int(Ask(LVM_GETITEMCOUNT));
     DrawCells(dc, items, columns, (style & LVS_EX_FULLROWSELECT) != 0, client);
     if (alive && (style & LVS_EX_GRIDLINES) != 0)

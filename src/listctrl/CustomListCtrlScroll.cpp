@@ -342,8 +342,9 @@ void CCustomListCtrl::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 {
     if (!InOnBoard() || bar != nullptr)
     {
+        const WindowAlive alive(*this);
         CListCtrl::OnVScroll(code, position, bar);
-        if (bar == nullptr && !IsVistaOrHigher())
+        if (alive && bar == nullptr && !IsVistaOrHigher())
         {
             RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
         }

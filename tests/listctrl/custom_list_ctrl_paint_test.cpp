@@ -1,6 +1,7 @@
 // What a report list paints: cells and grid lines.
 
 #include "listctrl/list_for_tests.h"
+#include "support/Fenced.h"
 
 namespace {
 
@@ -79,4 +80,24 @@ TEST_F(ListCtrlOnBoard, GridLinesStandAtRowsAndDividers)
     EXPECT_EQ(canvas.At(102, top + 3), gray);
     EXPECT_EQ(canvas.At(204, client.bottom - 1), gray);
     EXPECT_EQ(canvas.At(list.m_gridLines.lastgrid() - 1, top + 3), Canvas::Untouched);
+}
+
+TEST_F(ListCtrlOnBoard, AnHeirMayEndTheListWhenItIsAskedForTheDividers)
+{
+    struct Heir : Fenced<ListForTests>
+    {
+        std::function<void()> end;
+        void GetVerticalDivides(int columns) override
+        {
+            ListForTests::GetVerticalDivides(columns);
+            end ? std::exchange(end, nullptr)() : void();
+        }
+    };
+    const AccessFaults faults;
+    auto& list = AddList<Heir>(20);
+    const HWND window = list;
+    list.end = [&] { Remove(list); };
+    Repaint(window);
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(faults.Count(), 0);
 }
