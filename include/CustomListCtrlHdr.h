@@ -115,6 +115,7 @@ private:
     void EndFarPress(int pressed, CPoint point);
     void LoadArrows();
     void TakeThemeFont();
+    void ReturnThemeFont();
     void DrawOB(CDC& dc);
     void DrawOBItem(CDC& dc, int item, bool last, const CRect& client);
     void DrawStdArrows();

@@ -96,7 +96,7 @@ CCustomListCtrl::CCustomListCtrl()
 CCustomListCtrl::~CCustomListCtrl()
 {
     // The header's window belongs to the list's, which may outlive this object.
-    m_header.UnsubclassWindow();
+    m_header.LeaveWindow();
 }
 
 CFont& CCustomListCtrl::GetOnBoardFont()

@@ -66,9 +66,17 @@ void CCustomListCtrlHdr::PreSubclassWindow()
 // The window stays, as part of a list that the object has left.
 void CCustomListCtrlHdr::LeaveWindow()
 {
-    if (GetSafeHwnd() != nullptr)
+    const WindowAlive alive(*this);
+    if (alive)
     {
         EndTracking();
+    }
+    if (alive)
+    {
+        ReturnThemeFont();
+    }
+    if (alive)
+    {
         UnsubclassWindow();
     }
 }
@@ -307,5 +315,22 @@ void CCustomListCtrlHdr::TakeThemeFont()
         {
             SetFont(&m_themeFont, FALSE);
         }
+    }
+}
+
+// The font ends with the object: the header of a list that goes on without it gets the list's.
+void CCustomListCtrlHdr::ReturnThemeFont()
+{
+    const auto font = LRESULT(m_themeFont.GetSafeHandle());
+    const HWND list = ListWindow();
+    if (font == 0 || list == nullptr || List() != nullptr || Ask(WM_GETFONT) != font)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    const LRESULT own = ::SendMessage(list, WM_GETFONT, 0, 0);
+    if (alive)
+    {
+        Ask(WM_SETFONT, WPARAM(own));
     }
 }
