@@ -264,6 +264,7 @@ private:
     std::vector<ColumnWidth> m_columnWidths;
     std::optional<View> m_view;
     std::optional<RowSpan> m_paintedRows; // while they are being painted
+    int m_focusRow = -1;                  // on-board, as last drawn
     Measured m_measured;
     std::unique_ptr<Bars> m_bars;
 
@@ -315,7 +316,6 @@ private:
     std::vector<CRect> CellsOfFirstRow(int columns);
     LRESULT AskHeader(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void FollowFocus();
-    int m_focusRow = -1; // on-board, as last drawn
     void BringIntoSight(int row);
     void SelectRow(int row, bool extend, bool toggle);
     void SelectRange(int from, int to, bool select);

@@ -183,6 +183,7 @@ void CCustomListCtrl::ForgetWindow()
     m_columnWidths.clear();
     m_view.reset();
     m_paintedRows.reset();
+    m_focusRow = -1;
     m_measured = Measured();
     m_header.LeaveWindow();
 }
