@@ -49,18 +49,12 @@ CImageList* ComposeDragImage(TreeItems& items, TreeLook& look, const CWnd& windo
         if (items.IsSelected(item.Get()) && inSight.IntersectRect(&box, &client))
         {
             parts.push_back({box, text});
-            std::vector<HTREEITEM> more = held.All();
-            more.push_back(item.Get());
-            held.Set(std::move(more));
+            held.Add(item.Get());
             all.UnionRect(&all, &inSight);
         }
         item.Set(items.Next(item.Get(), TVGN_NEXTVISIBLE));
     }
-    if (!alive)
-    {
-        return nullptr;
-    }
-    if (parts.empty())
+    if (!alive || parts.empty())
     {
         return nullptr;
     }
