@@ -61,6 +61,10 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     {
         m_bars.After(message, wParam, lParam, result);
     }
+    if (alive && message == WM_ENABLE && m_onBoard)
+    {
+        m_owner.Window().Invalidate(); // every colour is another one
+    }
     if (!alive || message != WM_SETFONT)
     {
         return;

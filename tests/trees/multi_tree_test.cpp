@@ -303,6 +303,9 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
         PumpAll();
         EXPECT_EQ(ground(f), Highlight) << "selected without the focus, too";
         EXPECT_EQ(ground(d), Highlight);
+        tree.EnableWindow(FALSE);
+        EXPECT_TRUE(ShowsWhatAPaintWould(tree));
+        tree.EnableWindow();
     }
     Repaint(tree);
     EXPECT_EQ(TextRectOf(tree, a).Size(), before);
