@@ -308,6 +308,7 @@ private:
     Measured Measure();
     void MoveTo(int axis, int position);
     void HomeSideways();
+    void EndLabelEdit();
     void ShiftPixels(int dy);
     void InvalidateRows(int first, int last);
     void InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam);

@@ -181,6 +181,10 @@ void CCustomListCtrl::PerformVScroll(int newPos, int oldPos)
     {
         ShiftPixels(int(m_drawOffset.y) - before);
     }
+    if (alive && m_drawOffset.y != before)
+    {
+        EndLabelEdit();
+    }
     if (alive && m_vBar.GetScrollPos() != newPos)
     {
         MoveTo(SB_VERT, m_vBar.GetScrollPos()); // the bar has no such position
@@ -210,6 +214,10 @@ void CCustomListCtrl::PerformHScroll(int newPos, int oldPos)
     if (alive)
     {
         Invalidate(FALSE);
+    }
+    if (alive && m_drawOffset.x != before)
+    {
+        EndLabelEdit();
     }
     if (alive && m_hBar.GetScrollPos() != newPos)
     {
@@ -265,6 +273,15 @@ void CCustomListCtrl::MoveTo(int axis, int position)
     {
         Invalidate(FALSE);
         DrawBars();
+    }
+}
+
+// The edit of a label would stay where its row was. The row is painted anew as it shows the focus.
+void CCustomListCtrl::EndLabelEdit()
+{
+    if (Ask(LVM_GETEDITCONTROL) != 0)
+    {
+        SetFocus();
     }
 }
 

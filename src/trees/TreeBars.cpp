@@ -313,6 +313,10 @@ void TreeBars::Press(WPARAM hitTest, CPoint screen)
 {
     const WindowAlive alive(Window());
     EndPress();
+    if (alive && m_owner.Platform(TVM_GETEDITCONTROL, 0, 0) != 0)
+    {
+        Window().SetFocus(); // the edit of a label would stay where its item was
+    }
     if (!alive)
     {
         return;

@@ -43,6 +43,31 @@ TEST_F(ListCtrlOnBoard, AnHeirDecidesWhatPressesAndHoldsDo)
     EXPECT_EQ(list.m_drawOffset.y, 0);
 }
 
+TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowMoves)
+{
+    auto& list = AddList(100, 8, ReportStyle | LVS_EDITLABELS);
+    list.SetFocus();
+    Host().hook = [](ToldMessage& told) {
+        if (told.code == UINT(LVN_ENDLABELEDIT))
+        {
+            told.answer = TRUE; // the new text is accepted
+        }
+    };
+    for (const auto& [axis, text] : {std::pair(SB_VERT, "down"), {SB_HORZ, "across"}})
+    {
+        ASSERT_NE(list.EditLabel(1), nullptr);
+        list.EnsureVisible(3, FALSE);
+        ASSERT_NE(list.GetEditControl(), nullptr) << "it has not moved";
+        list.GetEditControl()->SetWindowText(text);
+        Click(list.PartPoint(Second, axis));
+        EXPECT_EQ(list.GetEditControl(), nullptr) << text;
+        EXPECT_EQ(list.GetItemText(1, 0), text);
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << text;
+        list.PerformVScroll(SB_TOP);
+    }
+    EXPECT_NE(list.m_drawOffset.x, 0);
+}
+
 // Keys -------------------------------------------------------------------------------------------
 
 TEST_F(ListCtrlOnBoard, KeysMoveTheFocusAndTheFocusedRowIsInSight)

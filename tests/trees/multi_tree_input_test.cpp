@@ -399,4 +399,16 @@ TEST_F(MultiTreeInputTest, NoTimerGoesOnWhenAStepOfABarChangesTheMode)
     Release();
 }
 
+TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressed)
+{
+    auto& tree = AddLongTree();
+    tree.ModifyStyle(0, TVS_EDITLABELS);
+    const ModeScope mode(ONBOARD);
+    Repaint(tree);
+    ASSERT_NE(tree.EditLabel(m_items[1]), nullptr);
+    Click(WindowPoint(tree, CPoint(200 - 26, 200 - 52 - 10)));
+    EXPECT_EQ(tree.GetEditControl(), nullptr);
+    EXPECT_EQ(tree.GetFirstVisibleItem(), m_items[1]);
+}
+
 } // namespace
