@@ -178,6 +178,22 @@ bool ChoosesView(UINT message)
     }
 }
 
+// After these there may be a header, which a list that was made hidden or in another view has not
+// had.
+bool MayBringHeader(UINT message)
+{
+    switch (message)
+    {
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
+    case LVM_SETVIEW:
+    case WM_STYLECHANGED:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 bool listctrl::ConcernsView(UINT message)
@@ -191,11 +207,15 @@ void CCustomListCtrl::KeepInStep(UINT message)
     {
         m_view.reset();
     }
-    if (m_bars->AwaitsPlace())
+    const WindowAlive alive(*this);
+    if (MayBringHeader(message))
+    {
+        TakeHeader();
+    }
+    if (!alive || m_bars->AwaitsPlace())
     {
         return; // with the size that it gets
     }
-    const WindowAlive alive(*this);
     if (m_bars->IsLaidOut() && !m_settling && !m_bars->IsFollowing() && MayChangeContent(message))
     {
         m_settling = true;

@@ -234,6 +234,18 @@ TEST_F(ListCtrlTest, TheLeastWidthHoldsInADrag)
     }
 }
 
+TEST_F(ListCtrlTest, AListMadeHiddenTakesTheHeaderThatItGetsLater)
+{
+    auto& list = AddList(0, 0);
+    list.DestroyWindow();
+    const CRect place(20, 20, 420, 420);
+    ASSERT_TRUE(list.Create(ReportStyle | WS_CHILD, place, &Host(), FirstId));
+    PumpAll();
+    list.AddColumns(1);
+    list.ShowWindow(SW_SHOW);
+    EXPECT_EQ(list.m_header.GetSafeHwnd(), HWND(list.SendMessage(LVM_GETHEADER)));
+}
+
 TEST_F(ListCtrlOnBoard, ADragThatIsCutOffEndsWithoutAWidth)
 {
     const Act<ListForTests&> cuts[] = {
