@@ -311,6 +311,7 @@ private:
     void EndLabelEdit();
     void ShiftPixels(int dy);
     void InvalidateRows(int first, int last);
+    void FollowChange(int row, UINT states);
     void InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam);
     int RowWithFocus() const;
     int NextRow(int after, UINT state) const;

@@ -387,6 +387,12 @@ void CCustomListCtrl::HomeSideways()
     }
 }
 
+namespace {
+
+constexpr int LastRow = INT_MAX - 1; // of whatever number
+
+} // namespace
+
 void CCustomListCtrl::InvalidateRows(int first, int last)
 {
     CRect row;
@@ -408,7 +414,6 @@ void CCustomListCtrl::InvalidateRows(int first, int last)
     }
 }
 
-// The platform invalidates its unscrolled rows; these are the places where they are drawn.
 // The row that shows the focus: none without it.
 int CCustomListCtrl::RowWithFocus() const
 {
@@ -433,28 +438,38 @@ void CCustomListCtrl::FollowFocus()
     m_focusRow = row;
 }
 
+// A row has changed, these states of it among others; -1: all rows.
+void CCustomListCtrl::FollowChange(int row, UINT states)
+{
+    // One that is selected in a list for one takes that from another row, of which nothing is told.
+    const bool all =
+        row < 0 || ((states & LVIS_SELECTED) != 0 && (GetStyle() & LVS_SINGLESEL) != 0);
+    InvalidateRows(all ? 0 : row, all ? LastRow : row);
+    if ((states & LVIS_FOCUSED) != 0)
+    {
+        const WindowAlive alive(*this);
+        FollowFocus();
+        if (alive)
+        {
+            HoldPlatform(); // some platforms bring the row with the focus into sight
+        }
+    }
+}
+
+// The platform invalidates its unscrolled rows; these are the places where they are drawn.
 void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    constexpr int end = INT_MAX - 1;
     const int row = int(wParam);
+    const auto* const item = reinterpret_cast<const LVITEM*>(lParam); // for messages of that kind
     switch (message)
     {
     case LVM_SETITEMTEXTA:
     case LVM_SETITEMTEXTW:
     case LVM_UPDATE:
-        InvalidateRows(row < 0 ? 0 : row, row < 0 ? end : row);
+        FollowChange(row, 0);
         break;
     case LVM_SETITEMSTATE:
-        InvalidateRows(row < 0 ? 0 : row, row < 0 ? end : row);
-        if (lParam != 0 && (reinterpret_cast<const LVITEM*>(lParam)->stateMask & LVIS_FOCUSED) != 0)
-        {
-            const WindowAlive alive(*this);
-            FollowFocus();
-            if (alive)
-            {
-                HoldPlatform(); // some platforms bring the row with the focus into sight
-            }
-        }
+        FollowChange(row, item != nullptr ? item->stateMask : 0);
         break;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:
@@ -464,25 +479,22 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
         break;
     case LVM_SETITEMA:
     case LVM_SETITEMW:
-        if (lParam != 0)
+        if (item != nullptr && item->iItem >= 0)
         {
-            const int changed = reinterpret_cast<const LVITEM*>(lParam)->iItem;
-            InvalidateRows(changed, changed);
+            FollowChange(item->iItem, (item->mask & LVIF_STATE) != 0 ? item->stateMask : 0);
         }
         break;
     case LVM_REDRAWITEMS:
         InvalidateRows(row, int(lParam));
         break;
     case LVM_DELETEITEM:
-        InvalidateRows(row, end);
+        InvalidateRows(row, LastRow);
         break;
     case LVM_INSERTITEMA:
     case LVM_INSERTITEMW:
-        if (lParam != 0)
+        if (item != nullptr)
         {
-            InvalidateRows(std::clamp(reinterpret_cast<const LVITEM*>(lParam)->iItem, 0,
-                                      std::max(0, GetItemCount() - 1)),
-                           end);
+            InvalidateRows(std::clamp(item->iItem, 0, std::max(0, GetItemCount() - 1)), LastRow);
         }
         break;
     case LVM_SORTITEMS:

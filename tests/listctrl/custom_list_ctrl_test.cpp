@@ -130,6 +130,35 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
     EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
 }
 
+TEST_F(ListCtrlOnBoard, RowsThatAMessageDoesNotNameArePaintedWhereTheyAreDrawn)
+{
+    // Made by somebody else, so that it paints while it is filled.
+    auto& plain =
+        Add<CListCtrl>(CRect(20, 20, 420, 320), ReportStyle | LVS_SINGLESEL | LVS_SORTASCENDING);
+    plain.InsertColumn(0, "", LVCFMT_LEFT, 100);
+    AddRows(plain, 30);
+    ListForTests list;
+    ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
+    list.PerformVScroll(10, 0);
+    list.SetItemState(12, 3, 3);
+    const Act<> acts[] = {
+        {"selected in its place", [&] { list.SetItemState(13, 3, 3); }},
+        {"by its description", [&] { list.SetItem(14, 0, LVIF_STATE, nullptr, 0, 2, 2, 0); }},
+        {"focused so",
+         [&] {
+             list.SetFocus();
+             PumpAll();
+             list.SetItem(15, 0, LVIF_STATE, nullptr, 0, LVIS_FOCUSED, LVIS_FOCUSED, 0);
+         }}};
+    for (const auto& each : acts)
+    {
+        PumpAll();
+        each.act();
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << each.name;
+    }
+    list.DestroyWindow();
+}
+
 // Only what is in sight --------------------------------------------------------------------------
 
 TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
