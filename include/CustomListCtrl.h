@@ -312,7 +312,7 @@ private:
     void ShiftPixels(int dy);
     void InvalidateRows(int first, int last);
     void FollowChange(int row, UINT states);
-    void InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam);
+    void InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam, LRESULT result);
     int RowWithFocus() const;
     int NextRow(int after, UINT state) const;
     std::vector<CRect> CellsOfFirstRow(int columns);

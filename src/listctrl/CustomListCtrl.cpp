@@ -268,7 +268,7 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
     if (alive && m_bars->IsLaidOut())
     {
-        InvalidateChangedRows(message, wParam, lParam);
+        InvalidateChangedRows(message, wParam, lParam, result);
     }
     if (alive)
     {

@@ -457,7 +457,8 @@ void CCustomListCtrl::FollowChange(int row, UINT states)
 }
 
 // The platform invalidates its unscrolled rows; these are the places where they are drawn.
-void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam)
+void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam,
+                                            LRESULT result)
 {
     const int row = int(wParam);
     const auto* const item = reinterpret_cast<const LVITEM*>(lParam); // for messages of that kind
@@ -492,9 +493,13 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
         break;
     case LVM_INSERTITEMA:
     case LVM_INSERTITEMW:
-        if (item != nullptr)
+        if (item != nullptr && result >= 0)
         {
-            InvalidateRows(std::clamp(item->iItem, 0, std::max(0, GetItemCount() - 1)), LastRow);
+            InvalidateRows(int(result), LastRow); // a sorted list puts it where it belongs
+            if ((item->mask & LVIF_STATE) != 0)
+            {
+                FollowChange(int(result), item->stateMask);
+            }
         }
         break;
     case LVM_SORTITEMS:

@@ -149,7 +149,10 @@ TEST_F(ListCtrlOnBoard, RowsThatAMessageDoesNotNameArePaintedWhereTheyAreDrawn)
              list.SetFocus();
              PumpAll();
              list.SetItem(15, 0, LVIF_STATE, nullptr, 0, LVIS_FOCUSED, LVIS_FOCUSED, 0);
-         }}};
+         }},
+        {"sorted in", [&] { list.InsertItem(30, "Row 20 and more"); }},
+        {"and selected so",
+         [&] { list.InsertItem(LVIF_TEXT | LVIF_STATE, 0, "Row 23", 2, 2, 0, 0); }}};
     for (const auto& each : acts)
     {
         PumpAll();
