@@ -75,8 +75,8 @@ public:
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
     // @}
 
-    // Changes the row's check as a click on it would, of this one row, and tells the parent; the
-    // selection and the focus stay.
+    // Changes the row's check as a click on it would, of this one row, and tells the parent by a
+    // posted message; the selection and the focus stay.
     HRESULT accDoDefaultAction(VARIANT child) override;
 
 protected:

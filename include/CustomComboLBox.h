@@ -108,7 +108,7 @@ public:
     HRESULT accSelect(long flags, VARIANT child) override;
     // @}
 
-    // Picks the row, as a click on it does; fails while the list is closed.
+    // Picks the row, as a click on it does, by a posted message; fails while the list is closed.
     HRESULT accDoDefaultAction(VARIANT child) override;
 
 protected:
@@ -119,6 +119,7 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg LRESULT OnAct(WPARAM row, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -152,7 +152,7 @@ public:
 
     // @{
     // Assistive programs are told of a combo box, named by the label before it, whose value is the
-    // selected text. The default action opens or closes the list.
+    // selected text. The default action opens or closes the list, by a posted message.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accValue(VARIANT child, BSTR* value) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
@@ -192,6 +192,7 @@ protected:
     afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg void OnCaptureChanged(CWnd* taker);
     afx_msg void OnCancelMode();
+    afx_msg LRESULT OnAct(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     static std::vector<CCustomDropListCombo*> m_instances; // all that live

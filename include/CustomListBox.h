@@ -119,7 +119,7 @@ public:
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
     // @}
 
-    // Selects as the user does, and tells the parent of a list with LBS_NOTIFY.
+    // Selects as the user does, and tells the parent of a list with LBS_NOTIFY by a posted message.
     HRESULT accSelect(long flags, VARIANT child) override;
 
     // @{

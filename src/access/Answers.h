@@ -77,6 +77,15 @@ inline HWND LabelBefore(HWND control)
     return isLabel ? before : nullptr;
 }
 
+// Does what assistive programs ask of a window or of the row that is its WPARAM. Windows post it to
+// themselves: what comes of it may open a dialog, and the program that asks would wait for its end.
+constexpr UINT ActMessage = 0x069C;
+
+inline HRESULT PostAct(CWnd& window, int row = -1)
+{
+    return window.PostMessage(ActMessage, WPARAM(row)) ? S_OK : E_FAIL;
+}
+
 inline bool IsSelf(const VARIANT& child)
 {
     return child.vt == VT_I4 && child.lVal == CHILDID_SELF;

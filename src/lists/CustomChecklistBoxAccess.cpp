@@ -4,6 +4,7 @@
 
 #include "access/Answers.h"
 #include "lists/CheckListLayout.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
 using access::Give;
@@ -87,7 +88,7 @@ HRESULT CCustomChecklistBox::accDoDefaultAction(VARIANT child)
     ChangeCheck(index, false);
     if (alive)
     {
-        NotifyParent(CLBN_CHKCHANGE);
+        PostCommand(GetSafeHwnd(), CLBN_CHKCHANGE); // it may open a dialog
     }
     return S_OK;
 }

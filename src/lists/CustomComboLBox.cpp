@@ -34,6 +34,7 @@ BEGIN_MESSAGE_MAP(CCustomComboLBox, CCustomListBox)
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSEACTIVATE()
+    ON_MESSAGE(access::ActMessage, &CCustomComboLBox::OnAct)
 END_MESSAGE_MAP()
 
 CCustomComboLBox::CCustomComboLBox() = default;

@@ -59,10 +59,15 @@ HRESULT CCustomComboLBox::accDoDefaultAction(VARIANT child)
     {
         return CCustomListBox::accDoDefaultAction(child);
     }
-    if (!IsPopupVisible())
+    return IsPopupVisible() ? access::PostAct(*this, index) : DISP_E_MEMBERNOTFOUND;
+}
+
+// The list may have been closed or lost the row meanwhile.
+LRESULT CCustomComboLBox::OnAct(WPARAM row, LPARAM)
+{
+    if (IsPopupVisible() && Exists(int(row)))
     {
-        return DISP_E_MEMBERNOTFOUND;
+        Pick(int(row));
     }
-    Pick(index);
-    return S_OK;
+    return 0;
 }

@@ -40,22 +40,27 @@ HRESULT CCustomDropListCombo::get_accDefaultAction(VARIANT child, BSTR* action)
                                  : CWnd::get_accDefaultAction(child, action);
 }
 
-// As Alt+Down does it.
 HRESULT CCustomDropListCombo::accDoDefaultAction(VARIANT child)
 {
     if (!access::IsSelf(child))
     {
         return CWnd::accDoDefaultAction(child);
     }
+    return IsWindowEnabled() ? access::PostAct(*this) : E_FAIL;
+}
+
+// As Alt+Down does it.
+LRESULT CCustomDropListCombo::OnAct(WPARAM, LPARAM)
+{
     const WindowAlive alive(*this);
     if (!IsWindowEnabled())
     {
-        return E_FAIL;
+        return 0;
     }
     SetFocus();
     if (!alive)
     {
-        return E_FAIL;
+        return 0;
     }
     if (m_expanded)
     {
@@ -65,5 +70,5 @@ HRESULT CCustomDropListCombo::accDoDefaultAction(VARIANT child)
     {
         ToggleDropList();
     }
-    return S_OK;
+    return 0;
 }

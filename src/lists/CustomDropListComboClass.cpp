@@ -3,6 +3,7 @@
 #include "CustomComboLBox.h"
 #include "CustomDropListCombo.h"
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "lists/ComboScaling.h"
 #include "modes/WindowAlive.h"
 
@@ -56,6 +57,7 @@ BEGIN_MESSAGE_MAP(CCustomDropListCombo, CWnd)
     ON_WM_SHOWWINDOW()
     ON_WM_CAPTURECHANGED()
     ON_WM_CANCELMODE()
+    ON_MESSAGE(access::ActMessage, &CCustomDropListCombo::OnAct)
 END_MESSAGE_MAP()
 
 std::vector<CCustomDropListCombo*> CCustomDropListCombo::m_instances;

@@ -144,7 +144,7 @@ HRESULT CCustomListBox::accSelect(long flags, VARIANT child)
     }
     if (alive && (GetStyle() & LBS_NOTIFY) != 0 && SelectedRows() != before)
     {
-        NotifyParent(LBN_SELCHANGE);
+        PostCommand(GetSafeHwnd(), LBN_SELCHANGE); // it may open a dialog
     }
     return S_OK;
 }

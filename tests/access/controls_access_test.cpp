@@ -58,6 +58,7 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     auto& combo = Add<ComboForTests>(CRect(10, 90, 200, 120));
     combo.AddString("07L");
     combo.AddString("25R");
+    combo.AddString("34");
     combo.SetCurSel(0);
     const Held<IAccessible> object = Reached(combo);
     const auto open = [&] { return Read(*object, CHILDID_SELF).state & ~STATE_SYSTEM_FOCUSED; };
@@ -66,6 +67,8 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     for (const long state : {STATE_SYSTEM_EXPANDED, STATE_SYSTEM_COLLAPSED, STATE_SYSTEM_EXPANDED})
     {
         EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+        EXPECT_NE(open(), state) << "posted";
+        PumpAll();
         EXPECT_EQ(open(), state);
     }
     EXPECT_THAT(Host().CodesFrom(UINT(combo.GetDlgCtrlID())),
@@ -79,7 +82,13 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     EXPECT_EQ(Read(*list, 2).state, STATE_SYSTEM_SELECTED);
     EXPECT_EQ(CWnd::GetFocus(), &combo);
     EXPECT_EQ(Read(*object, CHILDID_SELF).value, "07L");
+    EXPECT_EQ(list->accDoDefaultAction(Child(3)), S_OK);
+    combo.RemoveString(2);
+    PumpAll();
+    EXPECT_EQ(open(), STATE_SYSTEM_EXPANDED) << "the row has gone meanwhile";
     EXPECT_EQ(list->accDoDefaultAction(Child(2)), S_OK);
+    EXPECT_EQ(Read(*object, CHILDID_SELF).value, "07L") << "posted";
+    PumpAll();
     EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED);
     EXPECT_EQ(Read(*object, CHILDID_SELF).value, "25R");
     EXPECT_EQ(Read(*object, CHILDID_SELF).name, "Runway");
@@ -112,6 +121,7 @@ TEST_P(AccessInModes, RowsAreToldWhereTheyStand)
         EXPECT_EQ(hidden.state, STATE_SYSTEM_OFFSCREEN);
         Host().Forget();
         EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(41)), S_OK);
+        PumpAll();
         EXPECT_FALSE(Host().CodesFrom(UINT(window->GetDlgCtrlID())).empty());
         EXPECT_EQ(Read(*object, 41).state, STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED);
         EXPECT_EQ(Read(*object, 1).state, STATE_SYSTEM_OFFSCREEN);

@@ -55,6 +55,8 @@ TEST_F(CheckListAccess, TheDefaultActionChangesTheCheck)
     EXPECT_EQ(Read(*object, 2).action, "(none)");
     EXPECT_EQ(object->accDoDefaultAction(Child(2)), DISP_E_MEMBERNOTFOUND);
     EXPECT_EQ(list.GetCheck(1), 1);
+    EXPECT_EQ(Told(list), 0) << "posted";
+    PumpAll();
     EXPECT_EQ(Told(list), 3);
 }
 
@@ -91,6 +93,8 @@ TEST_F(CheckListAccess, WaysAndSelection)
     {
         EXPECT_EQ(object->accSelect(flags, Child(2)), E_INVALIDARG) << flags;
     }
+    EXPECT_THAT(Codes(list), ElementsAre(LBN_SETFOCUS)) << "posted";
+    PumpAll();
     EXPECT_THAT(Codes(list), ElementsAre(LBN_SETFOCUS, LBN_SELCHANGE, LBN_SELCHANGE));
     EXPECT_EQ(Reached(AddList(3))->accSelect(SELFLAG_ADDSELECTION, Child(2)), E_INVALIDARG);
 }
@@ -117,6 +121,7 @@ TEST_F(CheckListAccess, TheObjectOutlivesItsList)
     const Held<IAccessible> object = Reached(list);
     const OnceTold end(Host(), CLBN_CHKCHANGE, [&] { list.DestroyWindow(); });
     EXPECT_EQ(object->accDoDefaultAction(Child(1)), S_OK);
+    PumpAll();
     EXPECT_EQ(list.GetSafeHwnd(), nullptr);
     long count = 0;
     EXPECT_EQ(object->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
