@@ -47,12 +47,19 @@ inline HRESULT ReadOnly(HRESULT result, VARIANT& state)
     return result;
 }
 
-// The text of a label without the mark of its mnemonic.
+// The text of a label without the mark of its mnemonic. A picture of a template has none: the
+// number of its resource stands there, behind a byte of ones.
 inline CString LabelText(HWND label)
 {
     CString text;
     CWnd::FromHandle(label)->GetWindowText(text);
-    if ((::GetWindowLongPtr(label, GWL_STYLE) & SS_NOPREFIX) != 0)
+    const auto style = ::GetWindowLongPtr(label, GWL_STYLE);
+    const auto kind = style & SS_TYPEMASK;
+    if ((kind == SS_BITMAP || kind == SS_ICON) && !text.IsEmpty() && BYTE(text[0]) == 0xFF)
+    {
+        return CString();
+    }
+    if ((style & SS_NOPREFIX) != 0)
     {
         return text;
     }
@@ -105,11 +112,12 @@ inline void TellChild(HWND window, DWORD event, long child)
 }
 
 // The name of a control that has a label before it. Nothing where the platform names the child:
-// it is another or has no label.
+// it is another or has no label, as a picture without a text is none.
 inline std::optional<HRESULT> NameFromLabel(HWND control, const VARIANT& child, BSTR* name)
 {
     const HWND label = IsSelf(child) ? LabelBefore(control) : nullptr;
-    return label == nullptr ? std::nullopt : std::optional(Give(*name, LabelText(label)));
+    const CString text = label == nullptr ? CString() : LabelText(label);
+    return text.IsEmpty() ? std::nullopt : std::optional(Give(*name, text));
 }
 
 // Questions that a window answers of itself alone; its base class answers those about its children.

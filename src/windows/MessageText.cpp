@@ -1,6 +1,7 @@
 #include "windows/MessageText.h"
 
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 
@@ -68,6 +69,18 @@ void MessageText::UpdateScrollPosFromText()
     {
         CCustomEdit::UpdateScrollPosFromText();
     }
+}
+
+HRESULT MessageText::get_accName(VARIANT child, BSTR* name)
+{
+    const CWnd* const box = access::IsSelf(child) ? GetParent() : nullptr;
+    if (box == nullptr)
+    {
+        return CCustomEdit::get_accName(child, name);
+    }
+    CString title;
+    box->GetWindowText(title);
+    return access::Give(*name, title);
 }
 
 bool MessageText::ScrollByKey(UINT key)

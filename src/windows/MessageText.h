@@ -26,6 +26,9 @@ public:
 
     void UpdateScrollPosFromText() override;
 
+    // Assistive programs are told the title of the box as its name.
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
+
 protected:
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);

@@ -26,7 +26,7 @@ TEST_P(AccessInModes, WhatOnlyShowsTellsItsKindAndText)
     const std::tuple<const CWnd&, long, const char*> statics[] = {
         {Add<CCustomStatic>(place, 0, "&Fuel && oil"), ROLE_SYSTEM_STATICTEXT, "Fuel & oil"},
         {Add<CBoldStatic>(place, SS_NOPREFIX, "A&B"), ROLE_SYSTEM_STATICTEXT, "A&B"},
-        {Add<CCustomStatic>(place, SS_ICON, ""), ROLE_SYSTEM_GRAPHIC, ""},
+        {Add<CCustomStatic>(place, SS_ICON, "\xFF\x16\x27"), ROLE_SYSTEM_GRAPHIC, ""},
         {Add<CCustomStatic>(place, BS_GROUPBOX, "&Tanks"), ROLE_SYSTEM_GROUPING, "Tanks"},
         {bar, ROLE_SYSTEM_STATUSBAR, "Ready"},
     };

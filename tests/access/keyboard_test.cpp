@@ -1,6 +1,7 @@
 // Every control of the catalog, reached and worked by keys alone in every mode, and read as an
 // assistive program reads it.
 
+#include "ColorStatic.h"
 #include "CustomDialog.h"
 #include "CustomEdit.h"
 #include "CustomListCtrl.h"
@@ -256,6 +257,7 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
     EXPECT_THAT(Host().CodesFrom(UINT(report.GetDlgCtrlID())),
                 testing::Contains(UINT(LVN_COLUMNCLICK)));
 
+    Add<CColorStatic>(CRect(280, 90, 300, 110), 0, ""); // no label: it has no text
     auto& prompt = Add<EditWithPrompt>(CRect(300, 90, 400, 110));
     EXPECT_EQ(Read(*Reached(prompt), CHILDID_SELF).name, "<Enter text here>") << "without a label";
     EXPECT_EQ(Read(*Reached(prompt), CHILDID_SELF).value, "");

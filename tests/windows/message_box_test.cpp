@@ -1,3 +1,4 @@
+#include "support/Accessible.h"
 #include "support/Acting.h"
 #include "support/Fenced.h"
 #include "windows/message_box_for_tests.h"
@@ -225,6 +226,8 @@ TEST_F(MessageBoxTest, OnBoardTheTextLooksLikeALabelAndAsksForNoKeyboard)
         const Pixels text = Settled(*box.m_text);
         EXPECT_GT(text.Count(RGB(50, 50, 50)), text.Width() * text.Height() / 2);
         EXPECT_GT(text.Count(RGB(230, 230, 230)), 50);
+        const Read read(*Reached(*box.m_text), CHILDID_SELF);
+        EXPECT_EQ(read.name + ": " + read.value, "Flight: Ready");
         Click(WindowRectOf(*box.m_text).CenterPoint());
     });
     CCustomEdit::SetEfb(nullptr);
