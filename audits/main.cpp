@@ -20,7 +20,6 @@
 #include "catalog/Controls.h"
 
 #include <afxcmn.h>
-#include <afxdlgs.h>
 #include <afxwin.h>
 
 #include <algorithm>
@@ -150,9 +149,14 @@ void PrintAnswers(APPMODE mode, const std::string& name, const CWnd& window, con
                 (unsigned long)answers.state, focus, Verdict(isSilent, 0, nullptr).c_str());
 }
 
-// What an assistive program is told of the control, and whether one sees that it has the focus.
+// What an assistive program is told of the control and of the windows within it, and whether one
+// sees that it has the focus.
 void PrintAccess(APPMODE mode, const Control& control)
 {
+    if (std::strcmp(control.name, "list of a combo") == 0)
+    {
+        return; // named by its combo, and asked where that drops it
+    }
     Shown shown(control, mode, Sample, State{}.rows);
     CWnd& window = shown.Window();
     const Pixels before = ScreenPixels(window);
@@ -182,14 +186,18 @@ void PrintAccess(APPMODE mode, const Control& control)
         surprised = surprised || !seen;
     }
     PrintAnswers(mode, control.name, window, focus);
-    if (std::strcmp(control.name, "property sheet") == 0)
+    if (std::strcmp(control.name, "combo") == 0)
     {
-        PrintAnswers(mode, "tabs", *static_cast<CPropertySheet&>(window).GetTabControl(), "");
+        StatesOf("combo").back().enter(window, Sample);
     }
-    if (isReport)
+    for (const Part& part : shown.Parts())
     {
-        PrintAnswers(mode, "header", *CWnd::FromHandle(HWND(window.SendMessage(LVM_GETHEADER))),
-                     "");
+        // What a template has of the platform's own is not ours to name.
+        const bool isOurs = CWnd::FromHandlePermanent(*part.window) != nullptr;
+        if (!part.kind.empty() && part.hasText && isOurs)
+        {
+            PrintAnswers(mode, std::string(control.name) + ": " + part.kind, *part.window, "");
+        }
     }
 }
 

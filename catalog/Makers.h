@@ -155,7 +155,6 @@ template <template <class> class As> struct Makers
         {
             list->AddString(Numbered(contents, row).c_str());
         }
-        list->SetWindowText(contents.text.c_str());
         list->PlacePopup(place);
         list->ShowPopup(true);
         return list;

@@ -100,8 +100,10 @@ public:
     void DrawItem(LPDRAWITEMSTRUCT draw) override;
 
     // @{
-    // What assistive programs are told: as of any list box, but the highlighted row is the selected
-    // one. Selecting highlights as the pointer does and leaves the focus to the combo.
+    // What assistive programs are told: as of any list box, but the name is the combo's and the
+    // highlighted row is the selected one. Selecting highlights as the pointer does and leaves the
+    // focus to the combo.
+    HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
     HRESULT get_accSelection(VARIANT* children) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;

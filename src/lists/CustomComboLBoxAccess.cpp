@@ -3,7 +3,15 @@
 
 #include "CustomComboLBox.h"
 
+#include "CustomDropListCombo.h"
 #include "access/Rows.h"
+
+HRESULT CCustomComboLBox::get_accName(VARIANT child, BSTR* name)
+{
+    const bool named = m_combo != nullptr && m_combo->GetSafeHwnd() != nullptr;
+    return named && access::IsSelf(child) ? m_combo->get_accName(child, name)
+                                          : CCustomListBox::get_accName(child, name);
+}
 
 HRESULT CCustomComboLBox::get_accState(VARIANT child, VARIANT* state)
 {

@@ -76,6 +76,7 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
         << "as when the user closes it";
     // The open list: highlighting chooses nothing yet, the default action does and closes.
     const Held<IAccessible> list = Reached(combo.List());
+    EXPECT_EQ(Read(*list, CHILDID_SELF).name, "Runway") << "as its combo";
     EXPECT_EQ(list->accSelect(SELFLAG_NONE, Child(2)), S_OK);
     EXPECT_EQ(Read(*list, 2).state, 0) << "nothing was asked for";
     EXPECT_EQ(list->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(2)), S_OK);

@@ -143,7 +143,7 @@ const std::vector<Worked> AllWorked = {
     {"list box of columns", ROLE_SYSTEM_LIST, "Name", GoesDown},
     {"check list", ROLE_SYSTEM_LIST, "Name", Checks},
     {"combo", ROLE_SYSTEM_COMBOBOX, "Name", OpensAndChooses},
-    {"list of a combo", ROLE_SYSTEM_LIST, "Row"}, // worked by the keys of its combo
+    {"list of a combo", ROLE_SYSTEM_LIST, "(none)"}, // named and worked by its combo
     {"report list", ROLE_SYSTEM_LIST, "Name", GoesOnUnselected},
     {"header", ROLE_SYSTEM_LIST, "Name"},
     {"tree", ROLE_SYSTEM_OUTLINE, "Name", {{VK_RIGHT, "Row selected open"}}},
