@@ -52,8 +52,9 @@ HRESULT SheetTabs::get_accState(VARIANT child, VARIANT* state)
     GetItemRect(tab, &place);
     const bool active = tab == GetCurSel();
     const bool focused = active && ::GetFocus() == GetSafeHwnd();
+    const bool enabled = IsWindowEnabled() != FALSE;
     return access::GivePartState(*state, *this, place,
-                                 STATE_SYSTEM_SELECTABLE | STATE_SYSTEM_FOCUSABLE |
+                                 STATE_SYSTEM_SELECTABLE | (enabled ? STATE_SYSTEM_FOCUSABLE : 0) |
                                      (active ? STATE_SYSTEM_SELECTED : 0) |
                                      (focused ? STATE_SYSTEM_FOCUSED : 0));
 }

@@ -94,6 +94,8 @@ TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
     EXPECT_EQ(Read(*object, CHILDID_SELF).value, "25R");
     EXPECT_EQ(Read(*object, CHILDID_SELF).name, "Runway");
     EXPECT_EQ(list->accDoDefaultAction(Child(1)), DISP_E_MEMBERNOTFOUND);
+    combo.EnableWindow(FALSE);
+    EXPECT_EQ(open(), STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_UNAVAILABLE);
 }
 
 TEST_P(AccessInModes, RowsAreToldWhereTheyStand)

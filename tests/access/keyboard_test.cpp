@@ -302,6 +302,8 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
         TypeKey(VK_LEFT);
         EXPECT_EQ(ToldOfFocus(), "First selected");
         TypeKey(VK_ESCAPE);
+        tabs.EnableWindow(FALSE);
+        EXPECT_EQ(Read(*Reached(tabs), 2).state, STATE_SYSTEM_UNAVAILABLE);
     };
     EXPECT_EQ(sheet.DoModal(), IDCANCEL);
 }

@@ -17,7 +17,8 @@ TEST_F(CheckListAccess, FixedAndAbsentRowsAreToldAsSuch)
     list.Enable(2, FALSE);
     EXPECT_EQ(Read(*object, 2).role, ROLE_SYSTEM_CHECKBUTTON);
     EXPECT_EQ(Read(*object, 2).state, STATE_SYSTEM_MIXED);
-    EXPECT_EQ(Read(*object, 3).state, STATE_SYSTEM_UNAVAILABLE);
+    EXPECT_EQ(Read(*object, 3).state, STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_FOCUSABLE)
+        << "it can be selected all the same";
     list.EnableWindow(FALSE);
     EXPECT_EQ(Read(*object, 1).state, STATE_SYSTEM_UNAVAILABLE);
     for (const long child : {-1L, 4L, LONG_MAX})

@@ -67,6 +67,10 @@ struct Read
                      STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN |
                      STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_READONLY |
                      STATE_SYSTEM_PRESSED);
+            if ((state & STATE_SYSTEM_UNAVAILABLE) != 0)
+            {
+                state |= number.lVal & STATE_SYSTEM_FOCUSABLE; // which is odd then
+            }
         }
         if (SUCCEEDED(object.get_accName(Child(child), &text)))
         {
