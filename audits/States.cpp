@@ -6,6 +6,7 @@
 
 #include <afxcmn.h>
 
+#include <algorithm>
 #include <string_view>
 
 namespace {
@@ -30,10 +31,12 @@ void SelectReportRow(CWnd& list, const std::string& text)
     SelectFirstCell(list, text);
 }
 
-void SelectBranch(CWnd& tree, const std::string&)
+Enter ChooseBranch(UINT how)
 {
-    const LRESULT root = tree.SendMessage(TVM_GETNEXTITEM, TVGN_ROOT, 0);
-    tree.SendMessage(TVM_SELECTITEM, TVGN_CARET, root);
+    return [=](CWnd& tree, const std::string&) {
+        const LRESULT root = tree.SendMessage(TVM_GETNEXTITEM, TVGN_ROOT, 0);
+        tree.SendMessage(TVM_SELECTITEM, how, root);
+    };
 }
 
 Enter Row(bool enabled, int check)
@@ -42,6 +45,43 @@ Enter Row(bool enabled, int check)
         auto& list = static_cast<CCustomChecklistBox&>(window);
         list.Enable(0, enabled);
         list.SetCheck(0, check);
+    };
+}
+
+// Of all buttons of a tool bar, which are as wide with any text.
+Enter Tools(UINT message, bool on)
+{
+    return [=](CWnd& bar, const std::string&) {
+        TBBUTTONINFO info = {};
+        info.cbSize = sizeof(info);
+        info.dwMask = TBIF_SIZE;
+        info.cx = 100;
+        const LRESULT buttons = bar.SendMessage(TB_BUTTONCOUNT);
+        for (LRESULT id = 1; id <= buttons; ++id)
+        {
+            bar.SendMessage(TB_SETBUTTONINFO, WPARAM(id), LPARAM(&info));
+            bar.SendMessage(message, WPARAM(id), MAKELPARAM(on, 0));
+        }
+    };
+}
+
+void MixCheck(CWnd& box, const std::string&)
+{
+    box.SendMessage(BM_SETSTYLE, BS_AUTO3STATE, TRUE);
+    box.SendMessage(BM_SETCHECK, BST_INDETERMINATE);
+}
+
+// As the user presses it; the release does not come.
+void PressHeading(CWnd& header, const std::string&)
+{
+    header.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(30, 10));
+}
+
+Enter Focused(const Enter& enter)
+{
+    return [=](CWnd& window, const std::string& text) {
+        window.SetFocus();
+        enter(window, text);
     };
 }
 
@@ -76,6 +116,20 @@ std::vector<State> StatesOf(const char* control)
     {
         states.push_back({"checked", true, Sending(BM_SETCHECK, BST_CHECKED)});
     }
+    if (has("check box"))
+    {
+        states.push_back({"mixed", true, &MixCheck});
+    }
+    if (name == "tool bar")
+    {
+        states.push_back({"buttons off", false, Tools(TB_ENABLEBUTTON, false)});
+        states.push_back({"checked", true, Tools(TB_CHECKBUTTON, true)});
+        states.push_back({"pressed", true, Tools(TB_PRESSBUTTON, true)});
+    }
+    if (name == "header")
+    {
+        states.push_back({"pressed", true, &PressHeading});
+    }
     if (has("edit"))
     {
         states.push_back({"read-only", true, Sending(EM_SETREADONLY, TRUE)});
@@ -90,6 +144,7 @@ std::vector<State> StatesOf(const char* control)
         states.push_back({"row off", false, Row(false, BST_UNCHECKED), 1});
         states.push_back({"row on", true, Row(true, BST_UNCHECKED), 1});
         states.push_back({"checked", true, Row(true, BST_CHECKED), 1});
+        states.push_back({"mixed", true, Row(true, BST_INDETERMINATE), 1});
         states.push_back({"checked off", false, Row(false, BST_CHECKED), 1});
     }
     if (name == "combo")
@@ -104,7 +159,8 @@ std::vector<State> StatesOf(const char* control)
     }
     else if (has("tree"))
     {
-        states.push_back({"selected", true, &SelectBranch, 1});
+        states.push_back({"drop target", true, ChooseBranch(TVGN_DROPHILITE), 1});
+        states.push_back({"selected", true, ChooseBranch(TVGN_CARET), 1});
     }
     else if (has("many selections"))
     {
@@ -122,6 +178,14 @@ std::vector<State> StatesOf(const char* control)
     else if (has("list"))
     {
         states.push_back({"selected", true, Sending(LB_SETCURSEL, 0), 1});
+    }
+    const auto selected = std::find_if(states.begin(), states.end(), [](const State& state) {
+        return std::string_view(state.name) == "selected";
+    });
+    // The platform rings the text of a tree's item alone, more closely than it rings blanks.
+    if (selected != states.end() && !has("tree"))
+    {
+        states.push_back({"in focus", true, Focused(selected->enter), 1});
     }
     return states;
 }
