@@ -75,7 +75,7 @@ CString CommandLine::Usage()
     return "gallery [--page NAME] [--mode NAME] [--settings FILE] [--pictures FOLDER] [--help]\r\n"
            "\r\n"
            "  --page NAME        opens this page; with --pictures, takes no other\r\n"
-           "  --mode NAME        starts in this display mode, not in the one used last;\r\n"
+           "  --mode NAME        starts in this display mode, not in the one chosen last;\r\n"
            "                     with --pictures, takes no other\r\n"
            "  --settings FILE    keeps there what the next run starts with\r\n"
            "  --pictures FOLDER  writes pictures of each page in each mode and ends\r\n"

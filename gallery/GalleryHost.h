@@ -39,7 +39,7 @@ public:
 
     // Where the configuration values come from and go to; before, there are none.
     void KeepSettingsIn(const CString& file) { m_settings.KeepIn(file); }
-    // The display mode that the user left the gallery in.
+    // The display mode that the user chose last.
     APPMODE KeptMode();
     void KeepMode(APPMODE mode);
 
