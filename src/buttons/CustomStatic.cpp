@@ -6,6 +6,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "buttons/GroupBoxLayout.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/GdiGuards.h"
@@ -19,6 +20,7 @@ BEGIN_MESSAGE_MAP(CCustomStatic, CStatic)
     ON_WM_CREATE()
     ON_WM_PAINT()
     ON_WM_UPDATEUISTATE()
+    ON_WM_ENABLE()
     ON_WM_ERASEBKGND()
     ON_WM_NCPAINT()
     ON_WM_NCCALCSIZE()
@@ -191,6 +193,20 @@ void CCustomStatic::OnPaint()
 void CCustomStatic::OnUpdateUIState(UINT, UINT)
 {
     Draw();
+}
+
+// The platform would draw the group box in its own look here too. On-board it looks the same either
+// way.
+void CCustomStatic::OnEnable(BOOL enable)
+{
+    if (COnBoardUIGeneral::InOnBoardMode() && m_groupBox)
+    {
+        TellEnabled(m_hWnd, enable);
+    }
+    else
+    {
+        Default();
+    }
 }
 
 BOOL CCustomStatic::OnEraseBkgnd(CDC* dc)

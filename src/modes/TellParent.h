@@ -2,6 +2,8 @@
 
 // How a control tells its parent. Whoever is told may end the control or change the mode.
 
+#include "modes/WindowFacts.h"
+
 #include <afxwin.h>
 
 // A WM_COMMAND with the control's id and handle; nothing without a parent.
@@ -18,6 +20,16 @@ inline void PostCommand(HWND control, UINT code)
     {
         ::PostMessage(parent, WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code),
                       reinterpret_cast<LPARAM>(control));
+    }
+}
+
+// What the platform's static tells when it is enabled or disabled, for one that must not be told of
+// it: it would draw itself. The style's bit means something else to a button.
+inline void TellEnabled(HWND control, BOOL enabled)
+{
+    if ((::GetWindowLongPtr(control, GWL_STYLE) & SS_NOTIFY) != 0 && !IsOfClass(control, "Button"))
+    {
+        TellCommand(control, enabled ? STN_ENABLE : STN_DISABLE);
     }
 }
 

@@ -63,6 +63,24 @@ TEST_F(ButtonOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
     }
 }
 
+TEST_F(ButtonOnBoard, ADisabledGroupBoxLooksAsBefore)
+{
+    GroupBox box(Host(), CRect(20, 20, 220, 120), "Group");
+    auto& frame = Add<CCustomStatic>(CRect(20, 220, 220, 320), SS_BLACKFRAME | SS_NOTIFY, "Group");
+    for (CWnd* const group : std::initializer_list<CWnd*>{&box, &frame})
+    {
+        const Pixels enabled = WindowPixels(*group);
+        for (const UINT code : {STN_DISABLE, STN_ENABLE})
+        {
+            group->EnableWindow(code == STN_ENABLE);
+            EXPECT_EQ(WindowPixels(*group), enabled) << "nothing in the platform's look";
+        }
+    }
+    const std::vector<UINT> told = {STN_DISABLE, STN_ENABLE};
+    EXPECT_EQ(Host().CodesFrom(UINT(frame.GetDlgCtrlID())), told);
+    EXPECT_EQ(Host().Count(WM_COMMAND), 2) << "a button's group box tells nothing";
+}
+
 TEST_F(ButtonOnBoard, AClientEdgeBecomesABorderOfThreePixels)
 {
     auto& label = Add<CCustomStatic>(CRect(20, 20, 120, 60));
