@@ -25,6 +25,7 @@ public:
 protected:
     afx_msg void OnPaint();
     afx_msg void OnEnable(BOOL enable);
+    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     COLORREF m_color; // meant: not set by the constructor

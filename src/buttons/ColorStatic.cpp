@@ -5,6 +5,7 @@
 BEGIN_MESSAGE_MAP(CColorStatic, CStatic)
     ON_WM_PAINT()
     ON_WM_ENABLE()
+    ON_MESSAGE(WM_SETTEXT, &CColorStatic::OnSetText)
 END_MESSAGE_MAP()
 
 CColorStatic::CColorStatic() // meant: the colour is the host's to give
@@ -45,4 +46,10 @@ void CColorStatic::OnEnable(BOOL enable)
     {
         Invalidate();
     }
+}
+
+// Kept as every window keeps its text; the platform's label would show it.
+LRESULT CColorStatic::OnSetText(WPARAM wParam, LPARAM lParam)
+{
+    return ::DefWindowProc(m_hWnd, WM_SETTEXT, wParam, lParam);
 }

@@ -8,6 +8,7 @@
 BEGIN_MESSAGE_MAP(CColoredGroupBox, CStatic)
     ON_WM_PAINT()
     ON_WM_ENABLE()
+    ON_MESSAGE(WM_SETTEXT, &CColoredGroupBox::OnSetText)
 END_MESSAGE_MAP()
 
 CColoredGroupBox::CColoredGroupBox()
@@ -45,8 +46,11 @@ void CColoredGroupBox::OnPaint()
 // parent. An outline looks the same either way.
 void CColoredGroupBox::OnEnable(BOOL enable)
 {
-    if ((GetStyle() & SS_NOTIFY) != 0)
-    {
-        TellCommand(m_hWnd, enable ? STN_ENABLE : STN_DISABLE);
-    }
+    TellEnabled(m_hWnd, enable);
+}
+
+// Kept as every window keeps its text; the platform's label would show it.
+LRESULT CColoredGroupBox::OnSetText(WPARAM wParam, LPARAM lParam)
+{
+    return ::DefWindowProc(m_hWnd, WM_SETTEXT, wParam, lParam);
 }

@@ -174,6 +174,8 @@ TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
     EXPECT_EQ(WindowPixels(swatch).Count(RGB(9, 99, 199)), 1600);
     swatch.Set(RGB(199, 9, 99));
     EXPECT_EQ(Settled(swatch).Count(RGB(199, 9, 99)), 1600);
+    swatch.SetWindowText("Tanks");
+    EXPECT_EQ(WindowPixels(swatch).Count(RGB(199, 9, 99)), 1600) << "its name is not shown";
 
     constexpr COLORREF Green = RGB(0, 128, 0);
     auto& outline = Add<CColoredGroupBox>(CRect(100, 20, 200, 80), 0, "Tanks");
@@ -182,6 +184,11 @@ TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
     const Pixels enabled = WindowPixels(outline);
     outline.EnableWindow(FALSE);
     EXPECT_EQ(Settled(outline), enabled) << "its text is not shown";
+    outline.SetWindowText("Other tanks");
+    EXPECT_EQ(Settled(outline), enabled) << "nor another one";
+    CString name;
+    outline.GetWindowText(name);
+    EXPECT_EQ(name, "Other tanks");
     // One pixel: left and top, the other two sides fall outside.
     EXPECT_EQ(enabled.Count(Green), 100 + 60 - 1);
     const ModeScope mode(ONBOARD);
