@@ -14,8 +14,8 @@
 // the derived class draw it, and tells its parent of a click by a BN_CLICKED that it sends.
 //
 // The check state of the on-board modes and that of the platform's button are apart: a host that
-// changes the mode carries it over. A button that has the focus when an on-board mode begins shows
-// it. The parent may destroy the button while it is told of a click. The next window of an object
+// changes the mode carries it over. Whichever button has the focus when the mode changes shows it.
+// The parent may destroy the button while it is told of a click. The next window of an object
 // begins unchecked.
 class ONBOARDUI_API CCustomButton : public CButton
 {
@@ -146,6 +146,10 @@ private:
     // Whether the handler goes on. If not, the platform's button has had its message, when there
     // still is one; its answer goes into answer.
     bool FollowOrPass(LRESULT* answer = nullptr);
+    // @{
+    // Whether the button is still there, be it without a window.
     bool SurvivesEnd();
-    void NoteMode();
+    bool NoteMode();
+    // @}
+    void GiveBackFocus();
 };

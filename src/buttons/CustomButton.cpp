@@ -100,7 +100,10 @@ void CCustomButton::PreSubclassWindow()
 std::optional<bool> CCustomButton::FollowMode()
 {
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    NoteMode();
+    if (!NoteMode())
+    {
+        return std::nullopt;
+    }
     if (m_tracking && (COnBoardUIGeneral::GetAppMode() != m_trackedIn || IsOutOfReach(m_hWnd)) &&
         !SurvivesEnd())
     {
@@ -109,14 +112,49 @@ std::optional<bool> CCustomButton::FollowMode()
     return onBoard;
 }
 
-// The focus is followed on-board only: what has become of it before is seen with the first message
-// of the mode.
-void CCustomButton::NoteMode()
+// The focus is followed on-board here and else by the platform's button: what has become of it
+// before is seen with the first message of the mode.
+bool CCustomButton::NoteMode()
 {
     const bool before = std::exchange(m_followsFocus, COnBoardUIGeneral::InOnBoardMode());
-    if (m_followsFocus && !before && GetSafeHwnd() != nullptr)
+    if (m_followsFocus == before || GetSafeHwnd() == nullptr)
+    {
+        return true;
+    }
+    if (m_followsFocus)
     {
         m_focused = ::GetFocus() == m_hWnd;
+        return true;
+    }
+    const WindowAlive alive(*this);
+    GiveBackFocus();
+    return bool(alive);
+}
+
+// Tells the platform's button what it has missed. Its type is a push button's meanwhile: it tells
+// the parent nothing, and a radio button is not chosen.
+void CCustomButton::GiveBackFocus()
+{
+    const bool has = ::GetFocus() == m_hWnd;
+    if (has == ((DefWindowProc(BM_GETSTATE, 0, 0) & BST_FOCUS) != 0))
+    {
+        return;
+    }
+    constexpr DWORD TypeAndWords = BS_TYPEMASK | BS_NOTIFY;
+    const DWORD own = GetStyle() & TypeAndWords;
+    const WindowAlive alive(*this); // a change of the style is told, and the parent gives colours
+    ModifyStyle(TypeAndWords, BS_PUSHBUTTON);
+    if (alive)
+    {
+        DefWindowProc(has ? WM_SETFOCUS : WM_KILLFOCUS, 0, 0);
+    }
+    if (alive)
+    {
+        ModifyStyle(TypeAndWords, own);
+    }
+    if (alive)
+    {
+        Invalidate(); // the platform only inverts the frame
     }
 }
 
@@ -316,7 +354,10 @@ void CCustomButton::DrawOB()
     {
         return;
     }
-    NoteMode();
+    if (!NoteMode())
+    {
+        return;
+    }
     if (OwnContext dc(m_hWnd, OwnContext::Client); dc)
     {
         CRect client;

@@ -365,11 +365,6 @@ void CZepMsgBoxDlg::LayOutForMode()
     {
         ShowText();
     }
-    if (goesOn() && focused >= 0)
-    {
-        // The platform's button and the library's each remember a focus of their own.
-        m_buttons[size_t(focused)]->SendMessage(WM_SETFOCUS);
-    }
 }
 
 // The fonts and the kinds of the controls in the mode.

@@ -160,6 +160,31 @@ TEST_F(WindowTest, AnOnBoardModeBeginsWithTheFocusAsItIs)
     }
 }
 
+TEST_F(WindowTest, TheStandardModeComesBackWithTheFocusAsItIs)
+{
+    for (const DWORD kind : {BS_PUSHBUTTON, BS_AUTOCHECKBOX, BS_AUTORADIOBUTTON, BS_OWNERDRAW})
+    {
+        SCOPED_TRACE(kind);
+        auto& first = Add<TestPush>(ButtonPlace, kind | BS_NOTIFY, "Button");
+        auto& second = Add<TestPush>(ButtonPlace + CPoint(0, 100), kind | BS_NOTIFY, "Button");
+        RestPointer();
+        first.SetFocus();
+        const Pixels with = Settled(first);
+        const Pixels without = Settled(second);
+        SetMode(ONBOARD, Host());
+        second.SetFocus();
+        Host().Forget();
+        SetMode(STD, Host());
+        EXPECT_TRUE(Settled(first) == without && WindowPixels(second) == with);
+        EXPECT_EQ(first.SendMessage(BM_GETSTATE) & BST_FOCUS, 0);
+        EXPECT_NE(second.SendMessage(BM_GETSTATE) & BST_FOCUS, 0);
+        EXPECT_EQ(Host().Count(WM_COMMAND), 0);
+        EXPECT_EQ(second.GetButtonStyle(), kind | BS_NOTIFY);
+        Remove(first);
+        Remove(second);
+    }
+}
+
 TEST_F(ButtonOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
 {
     TestCheckBox box;
