@@ -87,9 +87,12 @@ BOOL CustomToolbar::OnEraseBkgnd(CDC* dc)
     {
         return CToolBar::OnEraseBkgnd(dc);
     }
-    CRect client;
-    GetClientRect(&client);
-    dc->FillSolidRect(&client, palette::Panel);
+    if (dc != nullptr)
+    {
+        CRect client;
+        GetClientRect(&client);
+        dc->FillSolidRect(&client, palette::Panel);
+    }
     return TRUE;
 }
 

@@ -143,7 +143,7 @@ void MessageText::OnKeyDown(UINT key, UINT repeat, UINT flags)
 
 HBRUSH MessageText::CtlColor(CDC* dc, UINT)
 {
-    if (!COnBoardUIGeneral::InOnBoardMode())
+    if (!COnBoardUIGeneral::InOnBoardMode() || dc == nullptr)
     {
         return nullptr; // as the dialog colours its labels
     }

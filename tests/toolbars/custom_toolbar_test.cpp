@@ -166,6 +166,7 @@ TEST_F(CustomToolbarTest, IsDarkWithLightTextsOnBoardWhateverStandsBehindIt)
     {
         const ModeScope scope(mode);
         EXPECT_TRUE(shows(RGB(50, 50, 50)) && shows(RGB(230, 230, 230)) && !shows(black)) << mode;
+        EXPECT_TRUE(bar.SendMessage(WM_ERASEBKGND)) << "no context";
     }
     EXPECT_TRUE(shows(black) && !shows(RGB(50, 50, 50)));
 }

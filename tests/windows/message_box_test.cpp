@@ -245,6 +245,7 @@ TEST_F(MessageBoxTest, BadInputHasADefinedResult)
         empty.m_iconId = 31'999;                      // no such picture
         empty.inLoop = [&] {
             EXPECT_EQ(empty.Shown(), "");
+            empty.SendMessage(WM_CTLCOLORSTATIC, 0, LPARAM(empty.m_text->m_hWnd)); // no context
             EXPECT_TRUE(empty.m_buttons.empty());
             empty.EndDialog(9);
         };
