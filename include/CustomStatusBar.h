@@ -22,6 +22,8 @@ public:
     // Draws the whole client area in the on-board look.
     virtual void DrawOB(CDC& dc);
 
+    void PreSubclassWindow() override;
+
     // @{
     // What assistive programs are told: a status bar, whose value is the texts of its panes with
     // "; " between them. Empty panes and those that the owner draws have none.
@@ -32,7 +34,6 @@ public:
 
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT cs);
-    afx_msg void OnDestroy();
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);

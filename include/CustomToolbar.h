@@ -35,6 +35,8 @@ public:
     virtual bool OrderBtns(const std::vector<unsigned int>& order,
                            std::vector<std::string>& messages);
 
+    void PreSubclassWindow() override;
+
     // @{
     // Assistive programs are told of a tool bar and of its buttons, each named by its text or the
     // tip of its command. The default action of a button clicks it.

@@ -25,6 +25,8 @@ public:
     void StopLoadingProgress();
     // @}
 
+    void PreSubclassWindow() override;
+
 protected:
     afx_msg void OnDestroy();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);

@@ -31,6 +31,18 @@ bool NeedsPlaces(UINT message)
 
 } // namespace
 
+CustomToolbar::CustomToolbar()
+{
+    EnableActiveAccessibility();
+}
+
+// One object may serve several windows, one after the other.
+void CustomToolbar::PreSubclassWindow()
+{
+    m_enlarged = CSize();
+    CToolBar::PreSubclassWindow();
+}
+
 // On-board the buttons are made as large as a finger wherever that matters, and the platform gets
 // its own size back before it hears anything else in the standard mode, unless it or its host has
 // found another since.

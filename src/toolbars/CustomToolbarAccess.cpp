@@ -4,11 +4,6 @@
 
 #include "access/Strip.h"
 
-CustomToolbar::CustomToolbar()
-{
-    EnableActiveAccessibility();
-}
-
 HRESULT CustomToolbar::get_accChildCount(long* count)
 {
     *count = GetCount();

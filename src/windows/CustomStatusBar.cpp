@@ -12,7 +12,6 @@ IMPLEMENT_DYNAMIC(CCustomStatusBar, CStatusBarCtrl)
 
 BEGIN_MESSAGE_MAP(CCustomStatusBar, CStatusBarCtrl)
     ON_WM_CREATE()
-    ON_WM_DESTROY()
     ON_WM_PAINT()
     ON_WM_ERASEBKGND()
     ON_WM_SIZE()
@@ -54,6 +53,14 @@ CFont& CCustomStatusBar::GetOnBoardFont()
 
 // Following the display mode --------------------------------------------------------------------
 
+// One object may serve several windows, one after the other.
+void CCustomStatusBar::PreSubclassWindow()
+{
+    m_onBoard = false;
+    m_standardFont = nullptr;
+    CStatusBarCtrl::PreSubclassWindow();
+}
+
 // Gives the bar the font of the mode's kind, and with it the height, when it still has the other
 // one. Returns whether the mode is on-board: the first question of every handler.
 bool CCustomStatusBar::FollowMode()
@@ -92,13 +99,6 @@ int CCustomStatusBar::OnCreate(LPCREATESTRUCT cs)
         FollowMode();
     }
     return result;
-}
-
-void CCustomStatusBar::OnDestroy()
-{
-    CStatusBarCtrl::OnDestroy();
-    m_onBoard = false;
-    m_standardFont = nullptr;
 }
 
 void CCustomStatusBar::OnSize(UINT type, int width, int height)

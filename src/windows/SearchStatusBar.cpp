@@ -30,6 +30,13 @@ CSearchStatusBar::CSearchStatusBar()
 
 CSearchStatusBar::~CSearchStatusBar() = default;
 
+// The timer of a window that the object has left is none of the next one's.
+void CSearchStatusBar::PreSubclassWindow()
+{
+    m_activeTimer = -1;
+    CCustomStatusBar::PreSubclassWindow();
+}
+
 void CSearchStatusBar::StartSearchProgress()
 {
     if (m_activeTimer != -1 || GetSafeHwnd() == nullptr)

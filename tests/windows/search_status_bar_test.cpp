@@ -178,6 +178,34 @@ TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryModeAndMayDeleteTheBarThere)
     EXPECT_EQ(faults.Count(), 0);
 }
 
+TEST_F(StatusBarTest, TheNextBarOfAnObjectHasAFontAndTimersOfItsOwn)
+{
+    CFont fonts[2];
+    CStatusBarCtrl bars[2];
+    Bar object;
+    for (const int turn : {0, 1})
+    {
+        ASSERT_TRUE(fonts[turn].CreatePointFont(120 + 20 * turn, "Arial"));
+        bars[turn].Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), UINT(turn));
+        bars[turn].SetFont(&fonts[turn]);
+        const ModeScope scope(ONBOARD);
+        const HWND window = bars[turn].Detach();
+        ASSERT_TRUE(object.SubclassWindow(window));
+        Painted(object);
+        EXPECT_EQ(object.GetFont(), &CCustomStatusBar::GetOnBoardFont());
+        object.StartSearchProgress();
+        EXPECT_EQ(object.Text(), "Searching.");
+        if (turn == 1)
+        {
+            COnBoardUIGeneral::SetAppMode(STD);
+            Painted(object);
+            EXPECT_EQ(object.GetFont(), &fonts[turn]);
+        }
+        object.UnsubclassWindow();
+        ::DestroyWindow(window);
+    }
+}
+
 TEST_F(StatusBarTest, AFontThatComesOnBoardIsThatOfTheStandardMode)
 {
     auto& bar = AddBar({-1});
