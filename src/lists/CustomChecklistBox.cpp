@@ -353,5 +353,5 @@ LRESULT CCustomChecklistBox::OnGetText(WPARAM wParam, LPARAM lParam)
 LRESULT CCustomChecklistBox::OnSetItemHeight(WPARAM wParam, LPARAM lParam)
 {
     const int height = std::max(int(LOWORD(lParam)), CalcMinimumItemHeight());
-    return OnContentReplaced(wParam, MAKELPARAM(height, 0));
+    return OnRowsMeasured(wParam, MAKELPARAM(height, 0));
 }

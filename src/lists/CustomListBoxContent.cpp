@@ -382,14 +382,15 @@ void CCustomListBox::RowsFitted()
     }
 }
 
-LRESULT CCustomListBox::OnRowsMeasured(WPARAM wParam, LPARAM)
+LRESULT CCustomListBox::OnRowsMeasured(WPARAM wParam, LPARAM lParam)
 {
-    if (GetCurrentMessage()->message == LB_SETCOLUMNWIDTH && int(wParam) <= 0)
+    const UINT message = GetCurrentMessage()->message;
+    if (message == LB_SETCOLUMNWIDTH && int(wParam) <= 0)
     {
         return 0; // the platform divides by it
     }
     const WindowAlive alive(*this);
-    const LRESULT result = Default();
+    const LRESULT result = DefWindowProc(message, wParam, lParam);
     if (alive && FollowMode())
     {
         m_bars->standardHeights.clear();

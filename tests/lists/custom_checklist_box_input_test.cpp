@@ -168,6 +168,30 @@ TEST_F(CheckListTest, SidewaysTheWholeRowIsReachedAndItsCheckMovesAlong)
     EXPECT_TRUE(ShowsWhatAPaintWould(list));
 }
 
+TEST_F(CheckListTest, AHeightOfARowMeasuresNoText)
+{
+    struct Measured : CheckListForTests
+    {
+        int texts = 0;
+        int GetEntryWidth(int index) override
+        {
+            ++texts;
+            return CheckListForTests::GetEntryWidth(index);
+        }
+    };
+    const ModeScope mode(ONBOARD);
+    auto& list = AddList<Measured>(20, BS_AUTOCHECKBOX, VariableCheckListStyle | WS_HSCROLL);
+    list.texts = 0;
+    const int before = RangeOf(list.m_vBar).y;
+    for (int row = 0; row < 20; ++row)
+    {
+        list.SetItemHeight(row, 100);
+    }
+    EXPECT_EQ(list.texts, 0);
+    EXPECT_EQ(list.GetItemHeight(19), 100);
+    EXPECT_GT(RangeOf(list.m_vBar).y, before) << "fewer rows in sight";
+}
+
 TEST_F(CheckListTest, TheParentMayEmptyOrDeleteTheListWhenItIsTold)
 {
     for (const UINT code : {UINT(CLBN_CHKCHANGE), UINT(LBN_SETFOCUS), UINT(LBN_SELCHANGE)})
