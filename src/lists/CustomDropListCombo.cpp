@@ -298,6 +298,9 @@ void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     if (alive)
     {
         CalculateSpacing();
+    }
+    if (alive)
+    {
         Repaint();
     }
 }
@@ -321,6 +324,10 @@ void CCustomDropListCombo::OnSize(UINT type, int width, int height)
         m_heights[size_t(mode)] = window.Height();
     }
     CalculateSpacing();
+    if (!alive)
+    {
+        return;
+    }
     Repaint();
     if (m_expanded)
     {

@@ -251,7 +251,10 @@ int CCustomDropListCombo::OnCreate(LPCREATESTRUCT cs)
     if (alive && result != -1)
     {
         List();
-        CalculateSpacing();
+        if (alive)
+        {
+            CalculateSpacing();
+        }
     }
     return result;
 }

@@ -62,7 +62,12 @@ void CCustomDropListCombo::OnPaint(CDC& dc)
     GetClientRect(&client);
     const bool enabled = IsWindowEnabled() != FALSE;
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    const WindowAlive alive(*this);
     CalculateSpacing();
+    if (!alive)
+    {
+        return;
+    }
     if (onBoard)
     {
         dc.FillSolidRect(&client, palette::Outline); // a thick line rounds its corners off
@@ -76,7 +81,6 @@ void CCustomDropListCombo::OnPaint(CDC& dc)
         dc.FillSolidRect(&client, LookOf(false, enabled, false).ground);
         dc.DrawEdge(&edge, EDGE_SUNKEN, BF_RECT);
     }
-    const WindowAlive alive(*this);
     if (dc.RectVisible(m_textArea))
     {
         DrawEditText(dc, GetCurSel()); // asks the list for the text

@@ -206,6 +206,36 @@ TEST_F(ComboTest, AComboMayEndItselfWhileItsOpenListIsTakenAway)
     }
 }
 
+TEST_F(ComboTest, AComboMayEndItselfWhileItIsLaidOut)
+{
+    struct Ending : Fenced<ComboForTests>
+    {
+        std::function<void()> end;
+        void CalculateSpacing() override
+        {
+            const auto now = std::exchange(end, nullptr);
+            now ? now() : CCustomDropListCombo::CalculateSpacing();
+        }
+    };
+    const Act<Ending&> cases[] = {
+        {"sized", [](auto& combo) { combo.MoveWindow(CRect(50, 50, 200, 90)); }},
+        {"painted", [](auto& combo) { combo.RedrawWindow(); }},
+        {"another mode", [](auto&) { COnBoardUIGeneral::SetAppMode(ONBOARD); }},
+    };
+    const AccessFaults faults;
+    for (const auto& [what, act] : cases)
+    {
+        auto* combo = new Ending;
+        combo->Create(WS_CHILD | WS_VISIBLE, CRect(50, 50, 250, 80), &Host(), ComboId);
+        combo->Fill(3);
+        PumpAll();
+        combo->end = [&] { delete std::exchange(combo, nullptr); };
+        act(*combo);
+        EXPECT_EQ(combo, nullptr) << what;
+        EXPECT_EQ(faults.Count(), 0) << what;
+    }
+}
+
 TEST_F(ComboTest, AComboOfATemplateWorksWithoutAnObjectOfTheHosts)
 {
     CCustomDialog dialog(0U, nullptr);
