@@ -37,8 +37,9 @@ public:
     // @}
 
     // From now on keys scroll nothing and change nothing but the clipboard, by Ctrl+C and
-    // Ctrl+Insert; the bar scrolls and the pointer selects as before. There is no way back. The
-    // host still sets the text, and in the standard mode so does the platform's context menu.
+    // Ctrl+Insert; Tab, Enter and Escape are the dialog's. The bar scrolls and the pointer selects
+    // as before. There is no way back. The host still sets the text, and in the standard mode so
+    // does the platform's context menu.
     void SetFauxReadOnly() { m_fauxReadOnly = true; }
 
     // @{
@@ -93,6 +94,7 @@ protected:
     afx_msg void OnContextMenu(CWnd* window, CPoint point);
     afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg UINT OnGetDlgCode();
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg void OnCaptureChanged(CWnd* taker);

@@ -153,6 +153,15 @@ void CCustomEdit::OnKeyDown(UINT key, UINT repeat, UINT flags)
     }
 }
 
+// An edit of many lines has every key to itself, Tab, Enter and Escape too. One that takes no key
+// would keep the focus for ever.
+UINT CCustomEdit::OnGetDlgCode()
+{
+    const WindowAlive alive(*this);
+    const UINT wanted = CEdit::OnGetDlgCode();
+    return alive && m_fauxReadOnly ? wanted & ~UINT(DLGC_WANTALLKEYS) : wanted;
+}
+
 // As a user would, so that the parent is told and it can be undone.
 void CCustomEdit::EmptyText()
 {

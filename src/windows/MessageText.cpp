@@ -127,7 +127,7 @@ void MessageText::CopyAll()
     }
 }
 
-// Enter, Escape and Tab are the box's, and the focus selects nothing.
+// Letters are the box's, and the focus selects nothing.
 UINT MessageText::OnGetDlgCode()
 {
     return DLGC_WANTARROWS;

@@ -43,6 +43,7 @@ public:
     ~Stage() override { DestroyWindow(); }
 
     int clicks = 0; // of the control
+    std::string answered;
 
     void AddLast()
     {
@@ -57,8 +58,8 @@ protected:
         clicks += wParam == MAKEWPARAM(ControlId, BN_CLICKED);
         return CCustomDialog::OnCommand(wParam, lParam);
     }
-    void OnOK() override {}
-    void OnCancel() override {}
+    void OnOK() override { answered += "OK "; }
+    void OnCancel() override { answered += "Cancel "; }
 
 private:
     CButton m_last;
@@ -217,15 +218,36 @@ TEST_P(KeyboardAlone, ReachesWorksAndReadsEveryControl)
             }
         }
         EXPECT_TRUE(stage.clicks > 0 || !worked.clicks);
-        if (onRow)
+        if (!isForm && !worked.keys.empty())
         {
             const Pixels with = WindowPixels(*control);
             TypeKey(VK_TAB);
-            EXPECT_NE(WindowPixels(*control), with) << "the focus is not seen";
+            EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), int(LastButton));
+            EXPECT_TRUE(!onRow || WindowPixels(*control) != with) << "the focus is not seen";
         }
         control->DestroyWindow();
     }
     COnBoardUIGeneral::SetAppTitle("");
+}
+
+// Its dialog goes on working, whatever it looks like.
+TEST_P(KeyboardAlone, GetsOutOfAnEditThatTakesNoKey)
+{
+    Stage stage(GetParam());
+    CCustomEdit edit;
+    edit.CreateEx(WS_EX_CLIENTEDGE, "EDIT", "one\r\ntwo",
+                  WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE | ES_WANTRETURN,
+                  CRect(20, 60, 220, 120), &stage, ControlId);
+    edit.SetFauxReadOnly();
+    stage.AddLast();
+    edit.SetFocus();
+    TypeKey(VK_TAB);
+    EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), int(LastButton));
+    TypeKey(VK_TAB, VK_SHIFT);
+    EXPECT_EQ(CWnd::GetFocus(), &edit);
+    TypeKey(VK_RETURN);
+    TypeKey(VK_ESCAPE);
+    EXPECT_EQ(stage.answered, "OK Cancel ");
 }
 
 // A window and its parts from the first on. The second is found where it says that it is, and its
