@@ -86,7 +86,7 @@ LRESULT CALLBACK CCustomDropListCombo::ClassProcedure(HWND window, UINT message,
     case WM_GETFONT:
         return reinterpret_cast<LRESULT>(::GetProp(window, FontProperty));
     case WM_GETDLGCODE:
-        return DLGC_WANTARROWS; // asked before the dialog is initialised
+        return DLGC_WANTARROWS | DLGC_WANTCHARS; // asked before the dialog is initialised
     case WM_NCDESTROY:
         ::RemoveProp(window, FontProperty);
         lists::ComboScaling::TakeHeights(window);

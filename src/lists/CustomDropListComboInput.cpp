@@ -305,11 +305,13 @@ bool CCustomDropListCombo::TakesKey(const MSG& key) const
     return m_expanded || (key.wParam == m_closingKey && (HIWORD(key.lParam) & WasDownBefore) != 0);
 }
 
+// Characters too, though they select nothing: the dialog would press the button whose mnemonic one
+// is.
 UINT CCustomDropListCombo::OnGetDlgCode()
 {
+    constexpr UINT wanted = DLGC_WANTARROWS | DLGC_WANTCHARS;
     const auto* const asked = reinterpret_cast<const MSG*>(GetCurrentMessage()->lParam);
-    return asked != nullptr && TakesKey(*asked) ? DLGC_WANTARROWS | DLGC_WANTMESSAGE
-                                                : DLGC_WANTARROWS;
+    return asked != nullptr && TakesKey(*asked) ? wanted | DLGC_WANTMESSAGE : wanted;
 }
 
 BOOL CCustomDropListCombo::PreTranslateMessage(MSG* message)

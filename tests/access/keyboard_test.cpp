@@ -47,7 +47,7 @@ public:
 
     void AddLast()
     {
-        m_last.Create("Last", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(200, 5, 260, 30), this,
+        m_last.Create("&Last", WS_CHILD | WS_VISIBLE | WS_TABSTOP, CRect(200, 5, 260, 30), this,
                       LastButton);
         PumpAll();
     }
@@ -118,7 +118,10 @@ const std::vector<Key> Extends = {{VK_DOWN, "Row 1 selected"},
 const std::vector<Key> Checks = {
     {VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected checked"}, {VK_SPACE, "Row 1 selected mixed"}};
 const std::vector<Key> OpensAndChooses = {
-    {VK_DOWN, "Row 0 open", VK_MENU}, {VK_DOWN, nullptr}, {VK_RETURN, "Row 1 closed"}};
+    {VK_DOWN, "Row 0 open", VK_MENU},
+    {VK_DOWN, nullptr},
+    {VK_RETURN, "Row 1 closed"},
+    {'L', "Row 1 closed"}}; // presses no button that has it for its mnemonic
 const std::vector<Key> GoesOnUnselected = {
     {VK_DOWN, nullptr}, {VK_DOWN, "Row 1 selected"}, {VK_DOWN, "Row 2", VK_CONTROL}};
 const std::vector<Key> GoesRound = {{VK_RIGHT, "Cancel"}, {VK_RIGHT, "Yes"}, {VK_LEFT, "Cancel"}};
