@@ -15,7 +15,8 @@ class ControlList;
 
 // A form view that follows the display mode: registered from construction to destruction, it
 // rescales and restyles its children, and the range that it scrolls, when the mode changes or when
-// it is created in an on-board mode. Both begin at the top again then.
+// it is created in an on-board mode. Both begin at the top again then. A key that moves the focus
+// on the form scrolls the control that gets it into sight, in every mode.
 class ONBOARDUI_API CCustomFormView : public CFormView
 {
     DECLARE_DYNAMIC(CCustomFormView)
@@ -32,6 +33,12 @@ public:
     // As the framework's; the first time it also scales and restyles the children, and the range
     // that is scrolled, if the mode is an on-board one. Each time it lists the controls.
     void OnInitialUpdate() override;
+
+    // Scrolls as far as needed to have a control of the form in sight; of one that is larger than
+    // the view the near edge.
+    void Reveal(HWND control);
+
+    BOOL PreTranslateMessage(MSG* message) override;
 
     // @{
     // Assistive programs are told of a pane, named by its frame where it has no text of its own.

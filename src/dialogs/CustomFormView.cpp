@@ -5,8 +5,10 @@
 #include "dialogs/OnBoardFrame.h"
 #include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
 
+#include <algorithm>
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CCustomFormView, CFormView)
@@ -100,6 +102,41 @@ int CCustomFormView::OnCreate(LPCREATESTRUCT cs)
 {
     m_restyled = false; // an object may get another window
     return CFormView::OnCreate(cs);
+}
+
+// A control that a press gives the focus is in sight, and a host that gives it may want to scroll
+// otherwise, so it is keys alone.
+BOOL CCustomFormView::PreTranslateMessage(MSG* message)
+{
+    const bool key = message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST;
+    const WindowAlive alive(*this);
+    const HWND before = ::GetFocus();
+    const BOOL done = CFormView::PreTranslateMessage(message);
+    if (const HWND focus = ::GetFocus(); alive && key && focus != before)
+    {
+        Reveal(focus);
+    }
+    return done;
+}
+
+void CCustomFormView::Reveal(HWND control)
+{
+    if (!::IsChild(GetSafeHwnd(), control))
+    {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    const CRect place = PlaceIn(*this, control);
+    const auto step = [](LONG from, LONG to, LONG room) {
+        return from < 0 || to - from > room ? from : std::max<LONG>(0, to - room);
+    };
+    const CSize way(step(place.left, place.right, client.Width()),
+                    step(place.top, place.bottom, client.Height()));
+    if (way != CSize(0, 0))
+    {
+        ScrollToPosition(GetScrollPosition() + way);
+    }
 }
 
 std::vector<CWnd*>& CCustomFormView::GetControls()

@@ -253,6 +253,26 @@ TEST_P(KeyboardAlone, GetsOutOfAnEditThatTakesNoKey)
     EXPECT_EQ(stage.answered, "OK Cancel ");
 }
 
+TEST_P(KeyboardAlone, HasTheFocusInSightOnAFormLargerThanItsPlace)
+{
+    Stage stage(GetParam());
+    const auto form = std::ranges::find(Controls(), std::string("form view"), &Control::name);
+    ASSERT_NE(form, Controls().end());
+    const std::unique_ptr<CWnd> view = form->make(stage, {CRect(20, 60, 120, 110), "Row"});
+    view->SendMessage(WM_VSCROLL, SB_BOTTOM);
+    view->GetWindow(GW_CHILD)->GetNextWindow()->SetFocus();
+    for (const UINT held : {0, VK_SHIFT, 0})
+    {
+        TypeKey(VK_TAB, held);
+        const CRect place = PlaceIn(*view, ::GetFocus());
+        const CRect client = ClientRectOf(*view);
+        EXPECT_TRUE(view->IsChild(CWnd::GetFocus()));
+        EXPECT_TRUE(place.top == 0 || (place.top > 0 && place.bottom <= client.bottom)) << held;
+        EXPECT_GE(place.left, 0);
+    }
+    view->DestroyWindow();
+}
+
 // A window and its parts from the first on. The second is found where it says that it is, and its
 // default action is done.
 void ReadAndWork(const CWnd& window, const std::vector<std::pair<long, const char*>>& parts)

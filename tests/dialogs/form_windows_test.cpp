@@ -52,6 +52,7 @@ TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndLooksAndWorksLikeA
     TypeKey(VK_TAB);
     EXPECT_EQ(::GetDlgCtrlID(::GetFocus()), IDC_TEST_CHECK);
 
+    view.ScrollToPosition(CPoint(0, 0));
     view.SendMessage(WM_VSCROLL, SB_PAGEDOWN);
     view.SendMessage(WM_VSCROLL, SB_LINEDOWN);
     const int page = view.GetTotalSize().cy / 10;
