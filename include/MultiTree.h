@@ -76,7 +76,8 @@ public:
     virtual void SelectRange(HTREEITEM first, HTREEITEM last, bool only);
     // False for what is no item. For hosts: the tree's own rules go by the items' states.
     virtual bool IsSelected(HTREEITEM item) const;
-    // Whether the user may add an item to the selection with Ctrl, and drag it: not null.
+    // Whether the user may add an item to the selection with Ctrl, by a click or by Space, and drag
+    // it: not null.
     virtual bool CanCtrlSelectItem(HTREEITEM item);
 
     // Changes state bits. TVIS_FOCUSED moves the caret without selecting; TVIS_SELECTED asks and

@@ -1,4 +1,4 @@
-// The selection: what a press becomes, and the arrow keys.
+// The selection: what a press becomes, and the keys.
 
 #include "trees/TreeSelection.h"
 
@@ -376,13 +376,18 @@ void TreeSelection::OnKeyDown(UINT key)
             return;
         }
     }
+    const bool shift = IsKeyDown(VK_SHIFT);
+    const bool control = IsKeyDown(VK_CONTROL);
+    if (m_multi && key == VK_SPACE && control && !shift)
+    {
+        ToggleCaret();
+        return;
+    }
     if (!m_multi || (key != VK_UP && key != VK_DOWN))
     {
         m_owner.DefaultOfCurrent();
         return;
     }
-    const bool shift = IsKeyDown(VK_SHIFT);
-    const bool control = IsKeyDown(VK_CONTROL);
     const WatchedItem caret(m_items, m_items.Caret());
     if (m_anchor.Get() == nullptr)
     {
@@ -399,6 +404,23 @@ void TreeSelection::OnKeyDown(UINT key)
         return;
     }
     MoveArrow(caret, key == VK_DOWN, shift);
+}
+
+// What a click with Ctrl does, for the item that the arrows with Ctrl have reached. The platform
+// would take the key for a check, so the parent is told of it from here.
+void TreeSelection::ToggleCaret()
+{
+    const WindowAlive alive(Window());
+    const WatchedItem caret(m_items, m_items.Caret());
+    NMTVKEYDOWN told = {};
+    told.hdr.code = TVN_KEYDOWN;
+    told.wVKey = VK_SPACE;
+    SendNotify(&told.hdr);
+    if (alive && caret.Get() != nullptr)
+    {
+        m_anchor.Set(nullptr);
+        Click(caret, MK_CONTROL);
+    }
 }
 
 void TreeSelection::MoveArrow(const WatchedItem& caret, bool down, bool shift)

@@ -141,6 +141,7 @@ private:
     void Click(const WatchedItem& item, UINT flags);
     void TellClick(const WatchedItem& item, bool left, CPoint point, const MSG& up);
     void BeginDrag(const WatchedItem& item, bool left, CPoint point);
+    void ToggleCaret();
     void MoveArrow(const WatchedItem& caret, bool down, bool shift);
 
     CRect BandBox(HTREEITEM item) const;

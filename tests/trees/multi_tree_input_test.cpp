@@ -214,6 +214,29 @@ TEST_F(MultiTreeInputTest, ArrowsMoveExtendOrPassTheSelection)
     }
 }
 
+TEST_F(MultiTreeInputTest, CtrlAndSpaceSelectAndDeselectTheItemThatCtrlAndArrowsReach)
+{
+    auto& tree = AddTree();
+    TypeKey(VK_SPACE, VK_CONTROL); // without a caret
+    EXPECT_EQ(SelectedTexts(tree), "");
+    ClickItem(tree, b);
+    tree.refused = e;
+    const std::tuple<UINT, UINT, const char*> keys[] = {
+        {VK_DOWN, VK_CONTROL, "b:c"},   {VK_DOWN, VK_CONTROL, "b:d"},
+        {VK_SPACE, VK_CONTROL, "bd:d"}, {VK_DOWN, VK_CONTROL, "bd:e"},
+        {VK_SPACE, VK_CONTROL, "bd:e"}, {VK_UP, VK_CONTROL, "bd:d"},
+        {VK_SPACE, VK_CONTROL, "b:d"},  {VK_SPACE, VK_CONTROL, "bd:d"},
+        {VK_UP, VK_SHIFT, "cd:c"}, // from the item that was toggled, as after a click
+    };
+    for (const auto& [key, held, shown] : keys)
+    {
+        Host().Forget();
+        TypeKey(key, held);
+        EXPECT_EQ(Shown(tree), shown);
+        EXPECT_EQ(Host().CodesFrom(UINT(tree.GetDlgCtrlID())).front(), UINT(TVN_KEYDOWN));
+    }
+}
+
 TEST_F(MultiTreeInputTest, TheUserClosesABranchByItsMarkAndByKey)
 {
     auto& tree = AddTree();
