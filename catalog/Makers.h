@@ -265,7 +265,7 @@ template <template <class> class As> struct Makers
     static Made MakeToolBar(CWnd& parent, const Contents& contents)
     {
         auto bar = std::make_unique<As<CustomToolbar>>();
-        if (!bar->CreateEx(&parent, TBSTYLE_FLAT | TBSTYLE_LIST, Shown, CRect(0, 0, 0, 0),
+        if (!bar->CreateEx(&parent, TBSTYLE_FLAT | TBSTYLE_LIST, Child, CRect(0, 0, 0, 0),
                            ControlId))
         {
             return nullptr;

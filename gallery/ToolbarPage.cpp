@@ -68,8 +68,8 @@ END_MESSAGE_MAP()
 void ToolbarPage::CreateContent()
 {
     AddLabel("The bar", grid::Across(0, grid::Caption));
-    m_bar.CreateEx(this, TBSTYLE_FLAT | TBSTYLE_TRANSPARENT, WS_CHILD | WS_VISIBLE | CBRS_TOP,
-                   CRect(0, 0, 0, 0), Bar);
+    m_bar.CreateEx(this, TBSTYLE_FLAT | TBSTYLE_TRANSPARENT,
+                   WS_CHILD | WS_VISIBLE | WS_TABSTOP | CBRS_TOP, CRect(0, 0, 0, 0), Bar);
     m_pictures.Create(PictureSize, PictureSize, ILC_COLOR32 | ILC_MASK, int(std::size(Buttons)), 1);
     m_largePictures.Create(LargePictureSize, LargePictureSize, ILC_COLOR32 | ILC_MASK,
                            int(std::size(Buttons)), 1);

@@ -13,6 +13,10 @@
 // parent is not asked. Its buttons are as large there as the host asks for, but never smaller than
 // a finger (52 x 52 pixels), and in the standard mode they are again what they were; the bar's own
 // size is its host's.
+//
+// A bar that its host gives the focus, or WS_TABSTOP, is worked by keys in every mode: arrows, Home
+// and End go from one button that can be pressed to another, Space and Enter click it. A press does
+// not give the focus.
 class ONBOARDUI_API CustomToolbar : public CToolBar
 {
     DECLARE_DYNAMIC(CustomToolbar)
@@ -45,6 +49,7 @@ public:
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
+    HRESULT get_accFocus(VARIANT* child) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;
     HRESULT accLocation(long* left, long* top, long* width, long* height, VARIANT child) override;
     HRESULT accNavigate(long direction, VARIANT start, VARIANT* end) override;
@@ -60,11 +65,24 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg BOOL OnCustomDraw(NMHDR* header, LRESULT* result);
     // @}
+    afx_msg void OnPaint();
+    afx_msg UINT OnGetDlgCode();
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
+    afx_msg void OnSetFocus(CWnd* old);
+    afx_msg void OnKillFocus(CWnd* taker);
     DECLARE_MESSAGE_MAP()
 
 private:
     void FitButtons();
+    bool WorksKeys();
+    bool IsPressable(int button) const;
+    int FocusedButton() const;
+    void FocusNext(int from, int step);
+    void FocusButton(int button);
+    void InvalidateFocus();
+    void Press(int button);
 
-    CSize m_enlarged;       // what the buttons were made for a finger, pixels; 0 where they were not
+    CSize m_enlarged; // what the buttons were made for a finger, pixels; 0 where they were not
     CSize m_platformButton; // what they were before that
+    int m_focused = -1;     // the place that keys have reached; -1: none yet
 };

@@ -15,6 +15,11 @@ IMPLEMENT_DYNAMIC(CustomToolbar, CToolBar)
 BEGIN_MESSAGE_MAP(CustomToolbar, CToolBar)
     ON_WM_ERASEBKGND()
     ON_NOTIFY_REFLECT_EX(NM_CUSTOMDRAW, &CustomToolbar::OnCustomDraw)
+    ON_WM_PAINT()
+    ON_WM_GETDLGCODE()
+    ON_WM_KEYDOWN()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
 
 namespace {
@@ -79,6 +84,7 @@ LRESULT CustomToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     if (message == WM_DESTROY || message == WM_NCDESTROY)
     {
         m_enlarged = CSize();
+        m_focused = -1;
     }
     else if (COnBoardUIGeneral::InOnBoardMode() ? NeedsPlaces(message) : m_enlarged != CSize())
     {

@@ -70,9 +70,17 @@ HRESULT CustomToolbar::get_accState(VARIANT child, VARIANT* state)
     add((data.fsState & TBSTATE_INDETERMINATE) != 0, STATE_SYSTEM_MIXED);
     add((data.fsState & TBSTATE_HIDDEN) != 0, STATE_SYSTEM_INVISIBLE);
     add((data.fsState & TBSTATE_ENABLED) == 0, STATE_SYSTEM_UNAVAILABLE);
+    add(button == FocusedButton(), STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_FOCUSED);
     CRect place(0, 0, 0, 0);
     GetItemRect(button, &place);
     return access::GivePartState(*state, *this, place, bits);
+}
+
+HRESULT CustomToolbar::get_accFocus(VARIANT* child)
+{
+    const int button = FocusedButton();
+    return button >= 0 ? access::Give(*child, access::ChildOf(button))
+                       : CToolBar::get_accFocus(child);
 }
 
 HRESULT CustomToolbar::get_accDefaultAction(VARIANT child, BSTR* action)

@@ -26,6 +26,7 @@ namespace {
 
 constexpr UINT FirstButton = 101;
 constexpr UINT LastButton = 102;
+constexpr UINT FirstTool = 700;
 
 // A host's dialog with a button, a label, the control and another button.
 class Stage : public CCustomDialog
@@ -56,6 +57,7 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
     {
         clicks += wParam == MAKEWPARAM(ControlId, BN_CLICKED);
+        answered += wParam >= FirstTool && HIWORD(wParam) == 0 ? std::to_string(wParam) + ' ' : "";
         return CCustomDialog::OnCommand(wParam, lParam);
     }
     void OnOK() override { answered += "OK "; }
@@ -154,7 +156,7 @@ const std::vector<Worked> AllWorked = {
     {"tree view", ROLE_SYSTEM_OUTLINE, "Name", {{VK_RIGHT, "Row selected open"}}},
     {"status bar", ROLE_SYSTEM_STATUSBAR, "Row"},
     {"search bar", ROLE_SYSTEM_STATUSBAR, "Row"},
-    {"tool bar", ROLE_SYSTEM_TOOLBAR, "Row"},
+    {"tool bar", ROLE_SYSTEM_TOOLBAR, "Row", {{VK_RIGHT, "Row"}}},
     {"form view", ROLE_SYSTEM_PANE, "Row", {{'X', "x"}, {VK_TAB, "Row"}}},
     {"property sheet", ROLE_SYSTEM_DIALOG, "Row", GoesThroughAPage},
     {"property page", ROLE_SYSTEM_PROPERTYPAGE, "Row", GoesThroughAPage},
@@ -253,6 +255,67 @@ TEST_P(KeyboardAlone, GetsOutOfAnEditThatTakesNoKey)
     EXPECT_EQ(stage.answered, "OK Cancel ");
 }
 
+// Appends a button to a bar.
+void AddTool(CustomToolbar& bar, const char* text, BYTE style, BYTE state = TBSTATE_ENABLED)
+{
+    TBBUTTON button = {};
+    button.iBitmap = I_IMAGENONE;
+    button.idCommand = style == TBSTYLE_SEP ? 0 : int(FirstTool) + bar.GetCount();
+    button.fsStyle = style;
+    button.fsState = state;
+    button.iString = INT_PTR(text);
+    bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
+}
+
+TEST_P(KeyboardAlone, ReachesAndPressesWhatCanBePressedOfAToolBar)
+{
+    Stage stage(GetParam());
+    CustomToolbar bar;
+    ASSERT_TRUE(bar.CreateEx(&stage, TBSTYLE_LIST, WS_CHILD | WS_VISIBLE | WS_TABSTOP));
+    AddTool(bar, "Disabled", TBSTYLE_BUTTON, 0);
+    AddTool(bar, "Plan", TBSTYLE_BUTTON);
+    AddTool(bar, "", TBSTYLE_SEP);
+    AddTool(bar, "Hidden", TBSTYLE_BUTTON, TBSTATE_ENABLED | TBSTATE_HIDDEN);
+    AddTool(bar, "Chart", TBSTYLE_CHECK);
+    AddTool(bar, "Last", TBSTYLE_BUTTON);
+    bar.SetWindowPos(nullptr, 0, 60, 600, 60, SWP_NOZORDER);
+    stage.AddLast();
+    stage.GetDlgItem(FirstButton)->SetFocus();
+    const Key keys[] = {
+        {VK_TAB, "Plan"},   {VK_LEFT, "Plan"},  {VK_RETURN, "Plan"},         {VK_END, "Last"},
+        {VK_RIGHT, "Last"}, {VK_LEFT, "Chart"}, {VK_SPACE, "Chart checked"}, {VK_HOME, "Plan"},
+        {VK_SPACE, "Plan"}};
+    for (const Key& key : keys)
+    {
+        RestPointer();
+        const Pixels before = WindowPixels(bar);
+        const std::string was = ToldOfFocus();
+        TypeKey(key.key);
+        EXPECT_EQ(ToldOfFocus(), key.told);
+        EXPECT_EQ(Settled(bar) != before, was != key.told) << "the focus is not seen";
+    }
+    EXPECT_EQ(stage.answered, "701 704 701 ");
+    const Pixels whole = Settled(bar);
+    const CRect part(5, 0, 30, 20);
+    bar.InvalidateRect(&part);
+    EXPECT_EQ(Settled(bar), whole) << "what shows the focus is painted once";
+    bar.SendMessage(TB_ENABLEBUTTON, FirstTool + 1, FALSE);
+    TypeKey(VK_SPACE);
+    TypeKey(VK_ESCAPE);
+    EXPECT_EQ(stage.answered, "701 704 701 Cancel ");
+    TypeKey(VK_RIGHT);
+    TypeKey(VK_TAB, VK_SHIFT);
+    TypeKey(VK_TAB);
+    EXPECT_EQ(ToldOfFocus(), "Chart checked") << "where it was";
+    while (bar.GetCount() > 0)
+    {
+        bar.SendMessage(TB_DELETEBUTTON, 0);
+    }
+    TypeKey(VK_RIGHT);
+    TypeKey(VK_RETURN);
+    EXPECT_EQ(stage.answered, "701 704 701 Cancel OK ") << "nothing to press";
+}
+
 TEST_P(KeyboardAlone, HasTheFocusInSightOnAFormLargerThanItsPlace)
 {
     Stage stage(GetParam());
@@ -315,12 +378,7 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
     ASSERT_TRUE(bar.CreateEx(&Host(), TBSTYLE_FLAT | TBSTYLE_LIST, WS_CHILD | WS_VISIBLE));
     for (const BYTE style : {TBSTYLE_BUTTON, TBSTYLE_CHECK, TBSTYLE_SEP})
     {
-        TBBUTTON button = {};
-        button.idCommand = style == TBSTYLE_SEP ? 0 : 700 + style;
-        button.fsStyle = style;
-        button.fsState = TBSTATE_ENABLED;
-        button.iString = INT_PTR("Tool");
-        bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
+        AddTool(bar, "Tool", style);
     }
     bar.SetWindowPos(nullptr, 0, 0, 300, 40, SWP_NOZORDER);
     PumpAll();
