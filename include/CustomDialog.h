@@ -6,6 +6,7 @@
 #include <afxwin.h>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class IAppAccess;
@@ -112,7 +113,7 @@ protected:
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
-    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetCaption(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnMenuRequest(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
@@ -155,9 +156,9 @@ protected:
     void (*m_layOutForMode)(CCustomDialog& dialog) = nullptr;
 
 private:
-    bool m_initialising = false; // and scales the children at the end of that
-    bool m_frameActive = true;   // as the system said last
-    DWORD m_takenStyles = 0;     // of the platform's caption, to be given back
+    bool m_initialising = false;       // and scales the children at the end of that
+    DWORD m_takenStyles = 0;           // of the platform's caption, to be given back
+    std::optional<bool> m_frameActive; // as the system said last
     std::unique_ptr<dialogs::ControlList> m_controlList;
 
     void MiscConstruction();

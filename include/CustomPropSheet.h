@@ -6,6 +6,7 @@
 #include <afxdlgs.h>
 
 #include <memory>
+#include <optional>
 
 class IAppAccess;
 class IEFB;
@@ -67,7 +68,7 @@ protected:
     afx_msg BOOL OnNcActivate(BOOL active);
     afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);
     afx_msg LRESULT OnNcHitTest(CPoint point);
-    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetCaption(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnMenuRequest(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
@@ -82,10 +83,10 @@ protected:
     bool m_showEntire = false;  // while it is dragged, all of it stays in the host's area
 
 private:
-    bool m_initialising = false; // and scales the children at the end of that
-    bool m_laidOut = false;      // by the platform, with its own frame; ours comes after
-    bool m_frameActive = true;   // as the system said last
-    DWORD m_takenStyles = 0;     // of the platform's caption, to be given back
+    bool m_initialising = false;       // and scales the children at the end of that
+    bool m_laidOut = false;            // by the platform, with its own frame; ours comes after
+    DWORD m_takenStyles = 0;           // of the platform's caption, to be given back
+    std::optional<bool> m_frameActive; // as the system said last
     std::unique_ptr<dialogs::SheetControls> m_sheetControls; // the platform's, with our look
 
     void Construct();

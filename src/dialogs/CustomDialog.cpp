@@ -25,7 +25,8 @@ BEGIN_MESSAGE_MAP(CCustomDialog, CDialog)
     ON_WM_NCHITTEST()
     ON_WM_NCLBUTTONDOWN()
     ON_WM_LBUTTONDOWN()
-    ON_MESSAGE(WM_SETTEXT, &CCustomDialog::OnSetText)
+    ON_MESSAGE(WM_SETTEXT, &CCustomDialog::OnSetCaption)
+    ON_MESSAGE(WM_SETICON, &CCustomDialog::OnSetCaption)
     ON_MESSAGE(WM_SYSCOMMAND, &CCustomDialog::OnMenuRequest)
     ON_MESSAGE(WM_CONTEXTMENU, &CCustomDialog::OnMenuRequest)
 END_MESSAGE_MAP()
@@ -97,6 +98,7 @@ void CCustomDialog::AppModeChanged(APPMODE newMode, APPMODE oldMode)
         {
             children.layOut = [this] { m_layOutForMode(*this); };
         }
+        dialogs::TellPlatformOfActivation(*this, m_frameActive);
         dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles, children);
     }
 }
@@ -261,7 +263,7 @@ LRESULT CCustomDialog::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         m_opening.reset();
         m_takenStyles = 0;
         m_initialising = false;
-        m_frameActive = true;
+        m_frameActive.reset();
     }
     const LRESULT result = CDialog::WindowProc(message, wParam, lParam);
     if (message == WM_INITDIALOG && alive)
@@ -448,7 +450,7 @@ BOOL CCustomDialog::OnNcActivate(BOOL active)
     {
         return CDialog::OnNcActivate(active);
     }
-    DrawOBNC(m_frameActive);
+    DrawOBNC(*m_frameActive);
     return TRUE; // the activation goes on
 }
 
@@ -482,14 +484,14 @@ void CCustomDialog::OnLButtonDown(UINT flags, CPoint point)
     CDialog::OnLButtonDown(flags, point);
 }
 
-LRESULT CCustomDialog::OnSetText(WPARAM, LPARAM)
+LRESULT CCustomDialog::OnSetCaption(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this);
     const LRESULT result = Default();
-    // The platform paints its own caption with the new text.
+    // The platform paints its own caption with the new text or icon.
     if (alive && COnBoardUIGeneral::InOnBoardMode())
     {
-        DrawOBNC(m_frameActive);
+        DrawOBNC(m_frameActive.value_or(true));
     }
     return result;
 }

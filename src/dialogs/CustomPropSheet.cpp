@@ -26,7 +26,8 @@ BEGIN_MESSAGE_MAP(CCustomPropSheet, CPropertySheet)
     ON_WM_NCACTIVATE()
     ON_WM_NCCALCSIZE()
     ON_WM_NCHITTEST()
-    ON_MESSAGE(WM_SETTEXT, &CCustomPropSheet::OnSetText)
+    ON_MESSAGE(WM_SETTEXT, &CCustomPropSheet::OnSetCaption)
+    ON_MESSAGE(WM_SETICON, &CCustomPropSheet::OnSetCaption)
     ON_MESSAGE(WM_SYSCOMMAND, &CCustomPropSheet::OnMenuRequest)
     ON_MESSAGE(WM_CONTEXTMENU, &CCustomPropSheet::OnMenuRequest)
 END_MESSAGE_MAP()
@@ -91,6 +92,7 @@ void CCustomPropSheet::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     const dialogs::Children children = dialogs::ChildrenOf(*this, m_initialising);
     if (alive)
     {
+        dialogs::TellPlatformOfActivation(*this, m_frameActive);
         dialogs::FollowMode(*this, newMode, oldMode, m_takenStyles, children);
     }
 }
@@ -231,7 +233,7 @@ LRESULT CCustomPropSheet::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_laidOut = false;
         m_takenStyles = 0;
-        m_frameActive = true;
+        m_frameActive.reset();
     }
     const WindowAlive alive(*this);
     m_initialising = dialogs::IsInitialising(*this, message, m_initialising);
@@ -302,7 +304,7 @@ BOOL CCustomPropSheet::OnNcActivate(BOOL active)
     {
         return CPropertySheet::OnNcActivate(active);
     }
-    DrawOBNC(m_frameActive);
+    DrawOBNC(*m_frameActive);
     return TRUE;
 }
 
@@ -321,13 +323,13 @@ LRESULT CCustomPropSheet::OnNcHitTest(CPoint point)
                              : CPropertySheet::OnNcHitTest(point);
 }
 
-LRESULT CCustomPropSheet::OnSetText(WPARAM, LPARAM)
+LRESULT CCustomPropSheet::OnSetCaption(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this);
     const LRESULT result = Default();
     if (alive && HasOnBoardFrame())
     {
-        DrawOBNC(m_frameActive);
+        DrawOBNC(m_frameActive.value_or(true));
     }
     return result;
 }

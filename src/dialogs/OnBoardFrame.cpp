@@ -69,6 +69,15 @@ void TakePlatformCaption(CWnd& window, DWORD& taken)
     scroll::RecalculateFrame(window);
 }
 
+void TellPlatformOfActivation(const CWnd& window, const std::optional<bool>& active)
+{
+    constexpr LPARAM Unpainted = -1;
+    if (active && !COnBoardUIGeneral::InOnBoardMode())
+    {
+        ::DefWindowProc(window.GetSafeHwnd(), WM_NCACTIVATE, WPARAM(*active), Unpainted);
+    }
+}
+
 bool IsInitialising(const CWnd& window, UINT message, bool before)
 {
     constexpr char DialogClass[] = "#32770"; // the platform's

@@ -29,6 +29,10 @@ void CreateSharedObjects();
 // back; 0 in the standard mode.
 void TakePlatformCaption(CWnd& window, DWORD& taken);
 
+// Before a window follows the mode back to the standard one: tells the platform, which paints its
+// caption by what it was told last, what the system has told the window meanwhile; nothing paints.
+void TellPlatformOfActivation(const CWnd& window, const std::optional<bool>& active);
+
 // Whether a message finds a page or a sheet on its way to its initialisation, given whether the one
 // before it has: from its creation on, if it is a dialog, for the mode may change before that.
 bool IsInitialising(const CWnd& window, UINT message, bool before);

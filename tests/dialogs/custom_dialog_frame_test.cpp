@@ -96,6 +96,49 @@ TEST_F(CustomDialogTest, FrameAndCaptionArePainted)
     EXPECT_GT(WindowPixels(dialog).Count(Letters, CRect(half - 15, 3, half + 15, 30)), 10);
 }
 
+// The standard caption tells what the system said last, in whichever mode that was, and no message
+// brings it up in the others.
+TEST_F(CustomDialogTest, ThePlatformsCaptionShowsOnlyInItsModeAndAsTheWindowIs)
+{
+    const auto check = [&](CWnd& window) {
+        const auto caption = [&](APPMODE mode) {
+            COnBoardUIGeneral::SetAppMode(mode);
+            const Pixels shown = Settled(window);
+            return shown.At(shown.Width() / 2, 6);
+        };
+        const auto activate = [&](APPMODE mode, CWnd& which) {
+            COnBoardUIGeneral::SetAppMode(mode);
+            which.SetActiveWindow();
+        };
+        activate(ONBOARD, window);
+        const COLORREF toldOnBoard = caption(STD);
+        activate(STD, Host());
+        const COLORREF inactive = caption(STD);
+        activate(STD, window);
+        const COLORREF active = caption(STD);
+        EXPECT_NE(active, inactive);
+        EXPECT_EQ(toldOnBoard, active) << "opened on-board";
+        activate(ONBOARD, Host());
+        EXPECT_EQ(caption(STD), inactive) << "left on-board";
+        activate(ONBOARD, window);
+        EXPECT_EQ(caption(STD), active) << "come back to on-board";
+        EXPECT_EQ(caption(ONBOARD), RGB(70, 90, 110));
+        window.SendMessage(WM_SETICON, ICON_SMALL, LPARAM(::LoadIcon(nullptr, IDI_WARNING)));
+        EXPECT_TRUE(ShowsWhatAPaintWould(window));
+        window.DestroyWindow();
+    };
+    const ModeScope mode(ONBOARD);
+    DialogForTests dialog(form, Host());
+    check(dialog);
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    CCustomPropPage page(IDD_TEST_PAGE_1);
+    CCustomPropSheet sheet("Sheet", nullptr);
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create(&Host()));
+    sheet.ShowWindow(SW_SHOW);
+    check(sheet);
+}
+
 // How often a window with the platform's menu style opens its system menu for what asks for one.
 int MenusOpened(CWnd& window)
 {
