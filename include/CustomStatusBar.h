@@ -5,6 +5,8 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <vector>
+
 // A status bar that follows the display mode: the platform's in the standard mode; dark, in the
 // on-board font and high enough for it in the others, unless its owner places it (CCS_NORESIZE).
 // Created by Create or put over an existing status bar, in any mode.
@@ -38,6 +40,8 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg LRESULT OnSetFont(WPARAM font, LPARAM redraw);
+    afx_msg LRESULT OnSetPaneText(WPARAM pane, LPARAM text);
+    afx_msg LRESULT OnGetPaneRect(WPARAM pane, LPARAM place);
     afx_msg void OnWindowPosChanged(WINDOWPOS* position);
     DECLARE_MESSAGE_MAP()
 
@@ -48,6 +52,7 @@ private:
     HFONT m_standardFont = nullptr;
 
     bool FollowMode();
+    std::vector<CRect> PanePlaces() const;
     void DrawPane(CDC& dc, int pane, const CRect& place);
     CString PaneText(int pane) const;
 };

@@ -8,6 +8,8 @@
 #include "paint/Palette.h"
 #include "paint/SharedObjects.h"
 
+#include <algorithm>
+
 IMPLEMENT_DYNAMIC(CCustomStatusBar, CStatusBarCtrl)
 
 BEGIN_MESSAGE_MAP(CCustomStatusBar, CStatusBarCtrl)
@@ -17,14 +19,16 @@ BEGIN_MESSAGE_MAP(CCustomStatusBar, CStatusBarCtrl)
     ON_WM_SIZE()
     ON_WM_WINDOWPOSCHANGED()
     ON_MESSAGE(WM_SETFONT, &CCustomStatusBar::OnSetFont)
+    ON_MESSAGE(SB_SETTEXTA, &CCustomStatusBar::OnSetPaneText)
+    ON_MESSAGE(SB_SETTEXTW, &CCustomStatusBar::OnSetPaneText)
+    ON_MESSAGE(SB_GETRECT, &CCustomStatusBar::OnGetPaneRect)
 END_MESSAGE_MAP()
 
 CFont CCustomStatusBar::m_OBFont;
 
 namespace {
 
-constexpr int TextMargin = 6;   // from either edge of a pane
-constexpr int SimplePane = 255; // stands for the whole bar's text in its simple form
+constexpr int TextMargin = 6; // from either edge of a pane
 
 // A tab in front centres a pane's text, two put it to the right.
 int LeadingTabs(const CString& text)
@@ -74,7 +78,12 @@ bool CCustomStatusBar::FollowMode()
     m_onBoard = onBoard;
     if (onBoard)
     {
-        m_standardFont = reinterpret_cast<HFONT>(SendMessage(WM_GETFONT));
+        const LRESULT standard = SendMessage(WM_GETFONT);
+        if (!alive)
+        {
+            return onBoard;
+        }
+        m_standardFont = reinterpret_cast<HFONT>(standard);
     }
     DefWindowProc(WM_SETFONT,
                   onBoard ? WPARAM(GetOnBoardFont().GetSafeHandle()) : WPARAM(m_standardFont), 0);
@@ -105,9 +114,9 @@ void CCustomStatusBar::OnSize(UINT type, int width, int height)
 {
     const WindowAlive alive(*this);
     CStatusBarCtrl::OnSize(type, width, height);
-    if (alive)
+    if (alive && FollowMode() && alive)
     {
-        FollowMode();
+        Invalidate(FALSE); // the last pane ends elsewhere, and its text may stand there
     }
 }
 
@@ -166,6 +175,64 @@ void CCustomStatusBar::OnPaint()
     DrawOB(buffer);
 }
 
+// Where the panes are, or the one text of the simple form. The platform works it out when it
+// paints, which it does not on-board, and when it is told of a size, unless the bar's owner places
+// it.
+std::vector<CRect> CCustomStatusBar::PanePlaces() const
+{
+    const WindowAlive alive(*this); // it may end in each question
+    CRect area;
+    GetClientRect(&area);
+    int borders[3] = {}; // at the sides, above, between panes
+    GetBorders(borders);
+    area.top += borders[1];
+    if (alive && IsSimple())
+    {
+        return {area};
+    }
+    const int count = alive ? std::max(0, GetParts(0, nullptr)) : 0;
+    std::vector<int> edges(size_t(count), 0);
+    if (alive && count > 0)
+    {
+        GetParts(count, edges.data());
+    }
+    std::vector<CRect> places;
+    CRect place(area.left, area.top, area.left, area.bottom);
+    for (const int edge : edges)
+    {
+        place.right = edge == -1 ? area.right : edge;
+        places.push_back(place);
+        place.left = place.right + borders[2];
+    }
+    return places;
+}
+
+LRESULT CCustomStatusBar::OnSetPaneText(WPARAM, LPARAM)
+{
+    const WindowAlive alive(*this);
+    const LRESULT result = Default();
+    if (alive && m_onBoard && (GetStyle() & CCS_NORESIZE) != 0)
+    {
+        Invalidate(FALSE); // the platform has done so where it believes the pane to be
+    }
+    return result;
+}
+
+LRESULT CCustomStatusBar::OnGetPaneRect(WPARAM pane, LPARAM place)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        return Default();
+    }
+    const std::vector<CRect> places = PanePlaces();
+    if (pane >= places.size() || place == 0)
+    {
+        return FALSE;
+    }
+    *reinterpret_cast<RECT*>(place) = places[pane];
+    return TRUE;
+}
+
 void CCustomStatusBar::DrawOB(CDC& dc)
 {
     CRect client;
@@ -176,23 +243,14 @@ void CCustomStatusBar::DrawOB(CDC& dc)
     const TextColor color(dc, palette::PanelText);
     const BackgroundMode mode(dc, TRANSPARENT);
     const WindowAlive alive(*this); // it may end in its own questions
-    const bool simple = IsSimple();
-    if (simple && alive)
+    const std::vector<CRect> places = PanePlaces();
+    for (size_t pane = 0; pane < places.size() && alive; ++pane)
     {
-        DrawPane(dc, SimplePane, client);
-    }
-    const int count = simple || !alive ? 0 : GetParts(0, nullptr);
-    for (int pane = 0; pane < count && alive; ++pane)
-    {
-        CRect place;
-        GetRect(pane, &place);
-        if (alive)
+        // In the simple form its text is that of the first.
+        DrawPane(dc, int(pane), places[pane]);
+        if (alive && pane + 1 < places.size())
         {
-            DrawPane(dc, pane, place);
-        }
-        if (alive && pane + 1 < count)
-        {
-            dc.FillSolidRect(place.right, client.top, 1, client.Height(), palette::Outline);
+            dc.FillSolidRect(places[pane].right, client.top, 1, client.Height(), palette::Outline);
         }
     }
 }
@@ -238,9 +296,10 @@ void CCustomStatusBar::DrawPane(CDC& dc, int pane, const CRect& place)
 
 CString CCustomStatusBar::PaneText(int pane) const
 {
+    const WindowAlive alive(*this);
     int type = 0;
     GetTextLength(pane, &type);
-    if ((type & SBT_OWNERDRAW) != 0)
+    if (!alive || (type & SBT_OWNERDRAW) != 0)
     {
         return "";
     }
@@ -259,13 +318,11 @@ HRESULT CCustomStatusBar::get_accValue(VARIANT child, BSTR* value)
     {
         return CStatusBarCtrl::get_accValue(child, value);
     }
-    if (IsSimple())
-    {
-        return access::Give(*value, PaneText(SimplePane));
-    }
+    const WindowAlive alive(*this); // it may end in each question
+    const bool simple = IsSimple();
+    const int count = !alive ? 0 : simple ? 1 : GetParts(0, nullptr);
     CString texts;
-    const int count = GetParts(0, nullptr);
-    for (int pane = 0; pane < count; ++pane)
+    for (int pane = 0; pane < count && alive; ++pane)
     {
         const CString text = PaneText(pane);
         texts += texts.IsEmpty() || text.IsEmpty() ? text : "; " + text;

@@ -1,4 +1,6 @@
 #include "SearchStatusBar.h"
+#include "support/Accessible.h"
+#include "support/Acting.h"
 #include "support/Fenced.h"
 #include "support/WindowTest.h"
 
@@ -203,6 +205,70 @@ TEST_F(StatusBarTest, TheNextBarOfAnObjectHasAFontAndTimersOfItsOwn)
         }
         object.UnsubclassWindow();
         ::DestroyWindow(window);
+    }
+}
+
+TEST_F(StatusBarTest, ItsSimpleFormShowsAndTellsItsTextInEveryMode)
+{
+    auto& bar = AddBar({50, -1});
+    bar.SetText("Pane", 0, 0);
+    bar.SetText("\tOpens a chart", 255, 0);
+    bar.SetSimple();
+    for (const APPMODE mode : {STD, EFB})
+    {
+        COnBoardUIGeneral::SetAppMode(mode);
+        EXPECT_EQ(Read(*Reached(bar), CHILDID_SELF).value, "Opens a chart");
+    }
+    const CRect client = ClientRectOf(bar);
+    const CRect middle(client.CenterPoint() - CSize(90, 12), CSize(180, 24));
+    EXPECT_GT(Painted(bar).Count(RGB(230, 230, 230), middle), 200);
+}
+
+TEST_F(StatusBarTest, AnOwnerThatPlacesItGetsItsPanesWhereTheyAre)
+{
+    const ModeScope scope(ONBOARD);
+    auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0), CCS_NORESIZE | CCS_NOPARENTALIGN);
+    std::vector<int> edges = {100, -1};
+    bar.SetParts(2, edges.data());
+    bar.MoveWindow(CRect(0, 0, 300, 34));
+    PumpAll();
+    bar.SetText("First", 0, 0);
+    bar.SetText("\t\tLast", 1, 0);
+    const auto letters = [&](int from, int to) {
+        return Settled(bar).Count(RGB(230, 230, 230), CRect(from, 0, to, 34));
+    };
+    EXPECT_GT(letters(0, 100), 100);
+    EXPECT_GT(letters(230, 300), 100) << "the last ends where the bar does";
+    bar.MoveWindow(CRect(0, 0, 400, 34));
+    EXPECT_EQ(letters(230, 300), 0) << "and goes there with it";
+    EXPECT_GT(letters(330, 400), 100);
+    CRect last;
+    ASSERT_TRUE(bar.GetRect(1, &last)); // for what the host puts there
+    EXPECT_EQ(last.BottomRight(), CPoint(400, 34));
+    EXPECT_FALSE(bar.GetRect(2, &last));
+}
+
+TEST_F(StatusBarTest, ItMayGoWhenItIsAskedForWhatItShows)
+{
+    const AccessFaults faults;
+    const auto expectGone = [&](UINT asked, auto show) {
+        auto* bar = new Fenced<Acting<CCustomStatusBar>>;
+        ASSERT_TRUE(bar->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
+        bar->ActIn(asked, [&] { delete std::exchange(bar, nullptr); });
+        show(*bar);
+        PumpAll();
+        EXPECT_EQ(bar, nullptr) << asked;
+        EXPECT_EQ(faults.Count(), 0) << asked;
+        delete bar;
+    };
+    for (const int asked : {WM_GETFONT, SB_ISSIMPLE, SB_GETBORDERS, SB_GETPARTS, SB_GETTEXTLENGTH})
+    {
+        const ModeScope scope(STD);
+        expectGone(UINT(asked), [](CWnd& bar) { SetMode(ONBOARD, bar); });
+    }
+    for (const int asked : {SB_ISSIMPLE, SB_GETPARTS, SB_GETTEXTLENGTH, SB_GETTEXT})
+    {
+        expectGone(UINT(asked), [](CWnd& bar) { const Read read(*Reached(bar), CHILDID_SELF); });
     }
 }
 
