@@ -426,7 +426,12 @@ void CZepMsgBoxDlg::ShowIcon()
                              COnBoardUIGeneral::InOnBoardMode() ? palette::Panel
                                                                 : ::GetSysColor(COLOR_3DFACE));
     const WindowAlive alive(*this);
-    m_icon.SetBitmap(picture);
+    const CRect place = PlaceIn(m_hWnd, m_icon);
+    m_icon.SetBitmap(picture); // which makes the control as large as it
+    if (alive)
+    {
+        Place(m_icon, place, MoveFlags(m_hWnd));
+    }
     if (!alive)
     {
         return;

@@ -82,6 +82,12 @@ TEST_F(MessageBoxTest, TheStyleNamesTheIcon)
             pictures.push_back(picture);
         }
     }
+    // One of the application's own may have another size. It is laid over the ground anew.
+    Box box("Look", MB_OK);
+    box.m_iconId = 10017; // of the test program
+    ASSERT_TRUE(box.Create(Box::IDD, &Host()));
+    box.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(ClientRectOf(box.m_icon).Size(), CSize(48, 48));
 }
 
 // Keys ------------------------------------------------------------------------------------------
