@@ -125,6 +125,7 @@ private:
     int ButtonWith(HWND window) const;
     int FocusedButton() const;
     int DefaultButton() const;
+    int ShownDefaultButton() const;
     void Focus(int button);
     int EscapeId() const;
     void Answer(int id);

@@ -318,6 +318,19 @@ int CZepMsgBoxDlg::DefaultButton() const
     return named < int(m_buttons.size()) ? named : 0;
 }
 
+// The one that is shown as the default one: the arrows move it. -1 for none.
+int CZepMsgBoxDlg::ShownDefaultButton() const
+{
+    const WindowAlive alive(*this); // it is asked
+    const DWORD id = GetDefID();
+    if (!alive || m_buttons.empty())
+    {
+        return -1;
+    }
+    const int shown = ButtonWith(::GetDlgItem(m_hWnd, LOWORD(id)));
+    return shown >= 0 ? shown : DefaultButton();
+}
+
 void CZepMsgBoxDlg::Focus(int button)
 {
     const WindowAlive alive(*this);
@@ -420,10 +433,15 @@ bool CZepMsgBoxDlg::PressKey(UINT key)
     switch (key)
     {
     case VK_RETURN:
-        Answer(count == 0
-                   ? IDOK
-                   : m_buttons[size_t(focused >= 0 ? focused : DefaultButton())]->GetDlgCtrlID());
+    {
+        const WindowAlive alive(*this);
+        const int pressed = focused >= 0 ? focused : ShownDefaultButton();
+        if (alive)
+        {
+            Answer(pressed < 0 ? IDOK : m_buttons[size_t(pressed)]->GetDlgCtrlID());
+        }
         return true;
+    }
     case VK_LEFT:
     case VK_UP:
     case VK_RIGHT:

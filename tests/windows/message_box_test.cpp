@@ -114,6 +114,7 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
         // The text is the last stop, and there the default button answers.
         {MB_YESNO, {VK_TAB, VK_TAB, VK_RETURN}, IDYES},
         {MB_YESNO | MB_DEFBUTTON2, {VK_TAB, VK_RETURN}, IDNO},
+        {MB_YESNO, {VK_RIGHT, VK_TAB, VK_RETURN}, IDNO}, // the arrows move it
         {MB_YESNO, {VK_TAB, VK_TAB, VK_TAB, VK_TAB, VK_RETURN}, IDNO},
         {7, {VK_ESCAPE}, IDCANCEL}, // without buttons there is still a way out
         {7, {VK_RETURN}, IDOK},
