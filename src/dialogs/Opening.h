@@ -3,10 +3,58 @@
 #include "CustomDialogTemplate.h"
 #include "modes/WindowFacts.h"
 
+#include <afxcmn.h>
+
 #include <algorithm>
 #include <vector>
 
 namespace dialogs {
+
+// How large a control of the platform has made itself in the standard mode, where its template
+// gives it a size: a picture as large as what it shows, a line thin, an up-down control of one
+// width.
+inline CSize ChosenSize(HWND control, const CSize& given)
+{
+    const DWORD style = DWORD(::GetWindowLongPtr(control, GWL_STYLE));
+    CRect window;
+    ::GetWindowRect(control, &window);
+    if (IsOfClass(control, UPDOWN_CLASS))
+    {
+        return (style & UDS_HORZ) != 0 ? given : CSize(window.Width(), given.cy);
+    }
+    if (!IsOfClass(control, WC_STATIC))
+    {
+        return given;
+    }
+    CRect client; // it gave itself a frame, too
+    ::GetClientRect(control, &client);
+    const CSize framed = given + window.Size() - client.Size();
+    switch (style & SS_TYPEMASK)
+    {
+    case SS_ETCHEDHORZ:
+        return CSize(framed.cx, window.Height());
+    case SS_ETCHEDVERT:
+        return CSize(window.Width(), framed.cy);
+    case SS_BITMAP:
+    case SS_ICON:
+    {
+        const WPARAM kind = (style & SS_TYPEMASK) == SS_BITMAP ? IMAGE_BITMAP : IMAGE_ICON;
+        const bool keeps = (style & (SS_CENTERIMAGE | SS_REALSIZECONTROL)) != 0 ||
+                           ::SendMessage(control, STM_GETIMAGE, kind, 0) == 0;
+        return keeps ? given : window.Size();
+    }
+    default:
+        return given;
+    }
+}
+
+// Whether it is an up-down control that has looked for its buddy and taken its place beside it.
+inline bool StandsBesideBuddy(HWND control)
+{
+    const DWORD style = DWORD(::GetWindowLongPtr(control, GWL_STYLE));
+    return (style & UDS_AUTOBUDDY) != 0 && (style & (UDS_ALIGNLEFT | UDS_ALIGNRIGHT)) != 0 &&
+           IsOfClass(control, UPDOWN_CLASS);
+}
 
 // A dialog on its way from a template rewritten for on-board display to its initialisation. Shared
 // by the dialog and by the call that creates it, which may outlive the dialog.
@@ -31,6 +79,7 @@ public:
     {
         const auto font = WPARAM(m_template.StandardFont());
         const std::vector<HWND> children = ChildrenNow(dialog);
+        std::vector<HWND> besideBuddies;
         auto next = children.begin();
         for (const CCustomDialogTemplate::Control& control : m_template.Controls())
         {
@@ -53,7 +102,16 @@ public:
             ::SetWindowPos(child, nullptr, place.left, place.top, place.Width(), place.Height(),
                            SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW);
             ::SendMessage(child, WM_SETFONT, font, FALSE);
+            if (StandsBesideBuddy(child))
+            {
+                besideBuddies.push_back(child);
+            }
         }
+        // A buddy has the width of the template again.
+        ForEachLeft(besideBuddies, [](HWND child) {
+            const LRESULT buddy = ::SendMessage(child, UDM_GETBUDDY, 0, 0);
+            ::SendMessage(child, UDM_SETBUDDY, WPARAM(buddy), 0);
+        });
     }
 
 private:
@@ -63,7 +121,8 @@ private:
         const auto found = std::ranges::find_if(m_fixed, hasId);
         if (found == m_fixed.end())
         {
-            return control.place;
+            const CRect& place = control.place;
+            return CRect(place.TopLeft(), ChosenSize(window, place.Size()));
         }
         m_fixedControls.push_back(window);
         const CRect place = found->place;

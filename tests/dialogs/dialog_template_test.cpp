@@ -80,7 +80,16 @@ TEST_F(DialogTemplateTest, OpeningOnBoardAndSwitchingThereAgree)
         .Add("ListBox", "", WS_VSCROLL, CRect(5, 5, 60, 62), 101) // whole rows only
         .Add("ComboBox", "", CBS_DROPDOWNLIST, CRect(70, 5, 130, 80), 102)
         .Add(ButtonClass, "OK", 0, CRect(0, 0, 1, 1), 103)
-        .Add(StaticClass, "", 0, CRect(-9, -5, 3000, 0), 104);
+        .Add(StaticClass, "", 0, CRect(-9, -5, 3000, 0), 104)
+        // These choose their size, and some their place.
+        .Add(StaticClass, "#10017", SS_BITMAP, CRect(7, 60, 60, 90), 105)
+        .Add(StaticClass, "#10017", SS_BITMAP | SS_CENTERIMAGE, CRect(7, 60, 60, 90), 106)
+        .Add(StaticClass, "", SS_ETCHEDHORZ, CRect(7, 92, 67, 103), 107)
+        .Add(StaticClass, "", SS_ETCHEDVERT, CRect(7, 92, 17, 103), 108)
+        .Add("Edit", "", 0, CRect(7, 105, 67, 119), 109)
+        .Add(UPDOWN_CLASS, "", UDS_AUTOBUDDY | UDS_ALIGNRIGHT, CRect(90, 7, 101, 20), 110)
+        .Add("Edit", "", 0, CRect(77, 105, 137, 119), 111)
+        .Add(UPDOWN_CLASS, "", UDS_AUTOBUDDY, CRect(140, 105, 151, 119), 112);
     DialogForTests switched(bytes, Host());
     COnBoardUIGeneral::SetAppMode(ONBOARD);
     DialogForTests opened(bytes, Host());
