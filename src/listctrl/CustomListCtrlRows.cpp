@@ -15,6 +15,11 @@ constexpr UINT SelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
 
 // Selecting -------------------------------------------------------------------------------------
 
+bool CCustomListCtrl::IsSelected(int row)
+{
+    return Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
+}
+
 void CCustomListCtrl::ClearSelection()
 {
     const WindowAlive alive(*this);
@@ -58,8 +63,7 @@ void CCustomListCtrl::SelectRow(int row, bool extend, bool toggle)
         // range is all that is selected.
         const bool grows = focus >= 0 &&
                            int(Ask(LVM_GETSELECTEDCOUNT)) == std::abs(focus - mark) + 1 &&
-                           Ask(LVM_GETITEMSTATE, WPARAM(mark), LVIS_SELECTED) != 0 &&
-                           Ask(LVM_GETITEMSTATE, WPARAM(focus), LVIS_SELECTED) != 0;
+                           IsSelected(mark) && IsSelected(focus);
         if (!grows)
         {
             ClearSelection();
@@ -91,8 +95,8 @@ void CCustomListCtrl::SelectRow(int row, bool extend, bool toggle)
     }
     if (toggle && !single)
     {
-        const bool selected = Ask(LVM_GETITEMSTATE, WPARAM(row), LVIS_SELECTED) != 0;
-        SetItemState(row, LVIS_FOCUSED | (selected ? 0U : UINT(LVIS_SELECTED)), SelectedAndFocused);
+        SetItemState(row, LVIS_FOCUSED | (IsSelected(row) ? 0U : UINT(LVIS_SELECTED)),
+                     SelectedAndFocused);
     }
     else
     {
@@ -170,13 +174,22 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         return;
     }
     m_selChanging = TRUE;
-    Default();
+    if (hit.iItem >= 0 && TopRow() != 0 && IsSelected(hit.iItem))
+    {
+        // The platform would leave the selection as it is until the button goes up, and then select
+        // this row, whatever has been selected meanwhile.
+        SetItemState(hit.iItem, 0, LVIS_SELECTED);
+    }
+    if (alive)
+    {
+        Default();
+    }
     if (!alive)
     {
         return;
     }
     int picked = -1;
-    if (hit.iItem >= 0 && Ask(LVM_GETITEMSTATE, WPARAM(hit.iItem), LVIS_SELECTED) != 0)
+    if (hit.iItem >= 0 && IsSelected(hit.iItem))
     {
         picked = hit.iItem;
     }

@@ -216,6 +216,25 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
                 testing::Contains(UINT(LVN_ITEMCHANGED)).Times(testing::Ge(2)));
 }
 
+TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlace)
+{
+    auto& list = AddList(100);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    list.PerformVScroll(5, 0);
+    int row = 7; // another one each time: two clicks on one would be a double click
+    for (const std::set<int>& before : {std::set{-5}, {-5, 2}, {0, 2}, {0}})
+    {
+        list.SetItemState(-1, 0, LVIS_SELECTED);
+        for (const int each : before)
+        {
+            list.SetItemState(row + each, LVIS_SELECTED, LVIS_SELECTED);
+        }
+        Click(ClientPoint(list, list.RowPoint(row)));
+        EXPECT_EQ(list.Selected(), std::set<int>{row});
+        EXPECT_EQ(list.Focused(), row++);
+    }
+}
+
 TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFinalStep)
 {
     // The row, from the top one, the key held, and what is selected where several rows can be.
