@@ -319,6 +319,7 @@ private:
     LRESULT AskHeader(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void FollowFocus();
     void BringIntoSight(int row);
+    static constexpr UINT SelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
     bool IsSelected(int row);
     void SelectRow(int row, bool extend, bool toggle);
     void SelectRange(int from, int to, bool select);

@@ -351,25 +351,6 @@ BOOL CCustomListCtrl::OnLvnColumnclick(NMHDR*, LRESULT* result)
     return FALSE;
 }
 
-// The platform tells its parent of clicks and drags on its unscrolled rows; this names the one that
-// is drawn there instead. All these notifications begin alike.
-BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
-{
-    auto* click = reinterpret_cast<NMITEMACTIVATE*>(header);
-    if (InOnBoard() && click->iItem >= 0)
-    {
-        const int row = click->iItem + TopRow();
-        click->iItem = row < GetItemCount() ? row : -1;
-    }
-    return FALSE;
-}
-
-BOOL CCustomListCtrl::OnLvnItemActivate(NMHDR* header, LRESULT* result)
-{
-    // By a key it is the row with the focus, which needs no exchange.
-    return m_activating ? OnNmClick(header, result) : FALSE;
-}
-
 // The first row of a list brings the columns back to the left edge.
 void CCustomListCtrl::HomeSideways()
 {
