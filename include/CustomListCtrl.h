@@ -292,6 +292,7 @@ private:
     // Content
     HWND HeaderWindow() const;
     int ColumnCount() const;
+    int ColumnAt(int x) const;
     int HeaderBottom() const;
     bool HeaderItemRect(int column, CRect& rect) const;
     bool FirstRowRect(CRect& rect) const;

@@ -137,17 +137,57 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
 // is drawn there instead. All these notifications begin alike.
 BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
 {
-    auto* click = reinterpret_cast<NMITEMACTIVATE*>(header);
-    if (InOnBoard() && click->iItem >= 0)
+    const WindowAlive alive(*this);
+    auto& told = *reinterpret_cast<NMITEMACTIVATE*>(header);
+    if (!InOnBoard())
     {
-        const int row = click->iItem + TopRow();
-        click->iItem = row < GetItemCount() ? row : -1;
+        return FALSE;
     }
-    return FALSE;
+    // Of a drag no more is told than its row.
+    const bool drag = told.hdr.code == UINT(LVN_BEGINDRAG) || told.hdr.code == UINT(LVN_BEGINRDRAG);
+    if (!drag && m_drawOffset.x != 0)
+    {
+        told.iSubItem = ColumnAt(told.ptAction.x - int(m_drawOffset.x));
+    }
+    if (told.iItem >= 0 && TopRow() != 0)
+    {
+        const int row = told.iItem + TopRow();
+        told.iItem = row < int(Ask(LVM_GETITEMCOUNT)) ? row : -1;
+        LVITEMW drawn = {};
+        drawn.mask = LVIF_PARAM | LVIF_STATE;
+        drawn.iItem = told.iItem;
+        drawn.stateMask = ~0U;
+        if (!drag)
+        {
+            Ask(LVM_GETITEMW, 0, reinterpret_cast<LPARAM>(&drawn)); // an owner may be asked
+            told.lParam = drawn.lParam;
+        }
+        if (told.hdr.code == UINT(LVN_ITEMACTIVATE))
+        {
+            told.uNewState = drawn.state | (told.uNewState & ~told.uOldState);
+            told.uOldState = drawn.state;
+        }
+    }
+    return !alive;
+}
+
+// The column at a place across the unscrolled list, or -1.
+int CCustomListCtrl::ColumnAt(int x) const
+{
+    int column = ColumnCount() - 1;
+    CRect heading;
+    while (column >= 0 &&
+           !(HeaderItemRect(column, heading) && x >= heading.left && x < heading.right))
+    {
+        --column;
+    }
+    return column;
 }
 
 BOOL CCustomListCtrl::OnLvnItemActivate(NMHDR* header, LRESULT* result)
 {
-    // By a key it is the row with the focus, which needs no exchange.
-    return m_activating ? OnNmClick(header, result) : FALSE;
+    // By a key it is the row with the focus, which needs no exchange. Where no row is drawn there
+    // is none to activate.
+    return m_activating && (OnNmClick(header, result) ||
+                            reinterpret_cast<const NMITEMACTIVATE*>(header)->iItem < 0);
 }

@@ -161,11 +161,11 @@ TEST_F(ListCtrlOnBoard, ThePressOnTheRightArrowIsNotHeld)
 
 namespace {
 
-// Notes the rows of the clicks that it has let through to its parent.
+// Notes rows, columns and data of the clicks that it has let through to its parent.
 class ListThatNotes : public ListForTests
 {
 public:
-    std::vector<int> clicked;
+    std::vector<std::tuple<int, int, LPARAM>> clicked;
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
@@ -175,7 +175,8 @@ protected:
         const UINT code = message == WM_NOTIFY && !taken ? told.hdr.code : 0;
         if (code == UINT(NM_CLICK) || code == UINT(NM_DBLCLK) || code == UINT(LVN_ITEMACTIVATE))
         {
-            clicked.push_back(told.iItem);
+            clicked.emplace_back(told.iItem, told.iSubItem, told.lParam);
+            EXPECT_EQ(told.uOldState, code == UINT(LVN_ITEMACTIVATE) ? 3U : 0U);
         }
         return taken;
     }
@@ -185,9 +186,12 @@ protected:
 
 TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
 {
-    auto& list = AddList<ListThatNotes>(100, 3, ReportStyle | LVS_SINGLESEL);
+    auto& list = AddList<ListThatNotes>(100, 8, ReportStyle | LVS_SINGLESEL);
     list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
     list.PerformVScroll(5, 0);
+    list.PerformHScroll(3, 0);
+    list.SetItemData(2, 200);
+    list.SetItemData(7, 700);
     std::vector<std::pair<int, bool>> told; // rows that were selected, and whether finally
     Host().hook = [&](ToldMessage& message) {
         if (message.code == UINT(LVN_ITEMCHANGED))
@@ -206,14 +210,19 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
     Press(); // a double click
     Release();
     EXPECT_GE(list.clicked.size(), 3U);
-    EXPECT_THAT(list.clicked, testing::Each(7));
+    EXPECT_THAT(list.clicked, testing::Each(std::tuple(7, 1, 700)));
     // Below the last row nothing is selected, and the parent is told of a change all the same.
     list.PerformVScroll(SB_BOTTOM);
     Host().Forget();
+    list.clicked.clear();
     Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
     EXPECT_EQ(list.GetSelectedCount(), 0U);
     EXPECT_THAT(Host().CodesFrom(FirstId),
                 testing::Contains(UINT(LVN_ITEMCHANGED)).Times(testing::Ge(2)));
+    Press(); // twice: nothing is activated
+    Release();
+    EXPECT_THAT(list.clicked, testing::SizeIs(2));
+    EXPECT_THAT(list.clicked, testing::Each(std::tuple(-1, 1, 0)));
 }
 
 TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlace)
