@@ -252,6 +252,24 @@ private:
         int end;
     };
 
+    // The row that a press hits, among the platform's unscrolled rows and among those that are
+    // drawn; -1: none. Whether they differ.
+    struct PressHit
+    {
+        int platform;
+        int drawn;
+        bool scrolled;
+    };
+    // What was selected before the platform was let see a press.
+    struct PressNote
+    {
+        int row; // the platform's, and its states
+        UINT states;
+        int focus;
+        int mark;
+        std::set<int> selected; // where the platform deselects more than that row
+    };
+
     // What it has in common with every control that has faux bars: mode, frame and presses.
     class Bars;
 
@@ -265,6 +283,7 @@ private:
     std::optional<View> m_view;
     std::optional<RowSpan> m_paintedRows; // while they are being painted
     int m_focusRow = -1;                  // on-board, as last drawn
+    std::optional<PressNote> m_pressNote; // until the press is taken back
     Measured m_measured;
     std::unique_ptr<Bars> m_bars;
 
@@ -326,6 +345,10 @@ private:
     void SelectRange(int from, int to, bool select);
     void ClearSelection();
     bool MoveByPage(UINT key, UINT flags);
+    bool TakeFocusForPress();
+    PressHit HitBy(const CPoint& point);
+    void LetPlatformPress(UINT message, const PressHit& hit, const CPoint& point);
+    void TakeBackPress();
     void SelectClicked(const CPoint& point, UINT flags);
     static constexpr int LongestText = 512; // characters; no cell shows as many
     const WCHAR* ReadCell(int row, int column, WCHAR* text);

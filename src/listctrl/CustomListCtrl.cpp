@@ -184,6 +184,7 @@ void CCustomListCtrl::ForgetWindow()
     m_view.reset();
     m_paintedRows.reset();
     m_focusRow = -1;
+    m_pressNote.reset();
     m_measured = Measured();
     m_header.LeaveWindow();
 }

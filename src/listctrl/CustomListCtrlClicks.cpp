@@ -4,6 +4,8 @@
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 
+#include <utility>
+
 // Presses ----------------------------------------------------------------------------------------
 
 void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
@@ -29,38 +31,154 @@ void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 
 void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
-    if (!InOnBoard() || TopRow() == 0)
+    if (!InOnBoard() || m_drawOffset == CPoint(0, 0))
     {
         Default();
         return;
     }
-    SelectClicked(point, flags);
+    const WindowAlive alive(*this);
+    const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
+    if (alive && !hit.scrolled)
+    {
+        Default();
+    }
+    if (!alive || !hit.scrolled)
+    {
+        return;
+    }
+    // What the parent finds selected when it shows a menu: with a key what was, as the platform
+    // does.
+    if (hit.drawn < 0)
+    {
+        ClearSelection();
+    }
+    else if ((flags & (MK_CONTROL | MK_SHIFT)) != 0 || IsSelected(hit.drawn))
+    {
+        SetItemState(hit.drawn, LVIS_FOCUSED, LVIS_FOCUSED);
+    }
+    else
+    {
+        SelectRow(hit.drawn, false, false);
+    }
+    if (alive)
+    {
+        LetPlatformPress(WM_RBUTTONDOWN, hit, point);
+    }
+    if (alive)
+    {
+        Invalidate();
+    }
+}
+
+// The focus comes first: the platform's list does not survive its end in the middle of its click.
+// False when the list did not survive it either.
+bool CCustomListCtrl::TakeFocusForPress()
+{
+    const WindowAlive alive(*this);
+    if (::GetFocus() != GetSafeHwnd())
+    {
+        SetFocus();
+    }
+    return bool(alive);
+}
+
+// Without full rows a row is hit in its first column, wherever that stands.
+CCustomListCtrl::PressHit CCustomListCtrl::HitBy(const CPoint& point)
+{
+    LVHITTESTINFO unscrolled = {};
+    unscrolled.pt = point;
+    const int platform = int(Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&unscrolled)));
+    if (m_drawOffset == CPoint(0, 0))
+    {
+        return {platform, platform, false};
+    }
+    const bool full = (Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_FULLROWSELECT) != 0;
+    const bool hits = full || ColumnAt(point.x - int(m_drawOffset.x)) == 0;
+    const int drawn = hits ? RowAt(point) : -1;
+    return {platform, drawn, TopRow() != 0 || drawn != platform};
+}
+
+// Lets the platform do what belongs to a press besides selecting: wait for the button, begin drags,
+// tell of clicks. With Ctrl it changes one row only, if any, which is taken back.
+void CCustomListCtrl::LetPlatformPress(UINT message, const PressHit& hit, const CPoint& point)
+{
+    const WindowAlive alive(*this);
+    PressNote note = {
+        hit.platform, 0, NextRow(-1, LVNI_FOCUSED), int(Ask(LVM_GETSELECTIONMARK)), {}};
+    if (hit.platform >= 0)
+    {
+        note.states = UINT(Ask(LVM_GETITEMSTATE, WPARAM(hit.platform), SelectedAndFocused));
+    }
+    else if (message == WM_RBUTTONDOWN)
+    {
+        GetSelectedRows(note.selected); // beside its rows the platform deselects all
+    }
+    if (!alive)
+    {
+        return;
+    }
+    m_pressNote = std::move(note);
+    m_selChanging = TRUE;
+    Ask(message, MK_CONTROL | (message == WM_LBUTTONDOWN ? MK_LBUTTON : MK_RBUTTON),
+        MAKELPARAM(point.x, point.y));
+    if (alive)
+    {
+        TakeBackPress();
+    }
+}
+
+void CCustomListCtrl::TakeBackPress()
+{
+    if (!m_pressNote)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    const PressNote note = *std::exchange(m_pressNote, std::nullopt);
+    if (note.row >= 0)
+    {
+        SetItemState(note.row, note.states, SelectedAndFocused);
+    }
+    for (auto row = note.selected.begin(); alive && row != note.selected.end(); ++row)
+    {
+        SetItemState(*row, LVIS_SELECTED, LVIS_SELECTED);
+    }
+    if (!alive)
+    {
+        return;
+    }
+    m_selChanging = FALSE;
+    if (note.focus >= 0 && note.focus != note.row)
+    {
+        SetItemState(note.focus, LVIS_FOCUSED, LVIS_FOCUSED);
+    }
+    if (alive && note.mark < int(Ask(LVM_GETITEMCOUNT)))
+    {
+        SetSelectionMark(note.mark);
+    }
 }
 
 // The platform picks a row from its unscrolled rows, which is then exchanged for the one that is
 // drawn in its place. While it is not yet, IsSelChanging tells so.
 void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
 {
-    // The focus first: the platform's list does not survive its end in the middle of its click.
     const WindowAlive alive(*this);
-    if (::GetFocus() != GetSafeHwnd())
+    const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
+    if (!alive)
     {
-        SetFocus();
-        if (!alive)
-        {
-            return;
-        }
+        return;
     }
-    LVHITTESTINFO hit = {};
-    hit.pt = point;
-    Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
     // The keys only say something where several rows can be selected.
     const bool several =
         (flags & (MK_CONTROL | MK_SHIFT)) != 0 && (GetStyle() & LVS_SINGLESEL) == 0;
-    if (several && hit.iItem >= 0 && TopRow() != 0)
+    if (several && hit.scrolled)
     {
         // What is selected so far is known by rows that the platform would take for others.
-        SelectRow(hit.iItem + TopRow(), (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
+        LetPlatformPress(WM_LBUTTONDOWN, hit, point);
+        if (alive)
+        {
+            SelectRow(hit.drawn, (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
+        }
         if (alive)
         {
             Invalidate();
@@ -68,11 +186,11 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         return;
     }
     m_selChanging = TRUE;
-    if (hit.iItem >= 0 && TopRow() != 0 && IsSelected(hit.iItem))
+    if (hit.scrolled && hit.platform >= 0 && IsSelected(hit.platform))
     {
         // The platform would leave the selection as it is until the button goes up, and then select
         // this row, whatever has been selected meanwhile.
-        SetItemState(hit.iItem, 0, LVIS_SELECTED);
+        SetItemState(hit.platform, 0, LVIS_SELECTED);
     }
     if (alive)
     {
@@ -83,15 +201,26 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         return;
     }
     int picked = -1;
-    if (hit.iItem >= 0 && IsSelected(hit.iItem))
+    if (hit.platform >= 0 && IsSelected(hit.platform))
     {
-        picked = hit.iItem;
+        picked = hit.platform;
     }
     else if (Ask(LVM_GETSELECTEDCOUNT) > 0)
     {
         picked = NextRow(-1, LVNI_SELECTED);
     }
-    if (picked == -1)
+    // With the keys the platform has picked the right rows: one of them is exchanged for itself,
+    // since the parent waits for the final step. The mark stays, and so does the focus on a row
+    // that is no longer selected.
+    const int final = hit.scrolled ? hit.drawn : picked;
+    const int mark = several ? int(Ask(LVM_GETSELECTIONMARK)) : final;
+    const UINT states =
+        several && picked != hit.platform ? UINT(LVIS_SELECTED) : SelectedAndFocused;
+    if (picked >= 0 && m_scrollUnit.cy > 0)
+    {
+        SetItemState(picked, 0, states);
+    }
+    if (alive && final < 0)
     {
         // Selected and deselected again, so that the parent is told of a change in any case.
         if (int(Ask(LVM_GETITEMCOUNT)) > 0)
@@ -104,21 +233,10 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
             SetItemState(0, 0, SelectedAndFocused);
         }
     }
-    else if (m_scrollUnit.cy > 0)
+    else if (alive && m_scrollUnit.cy > 0)
     {
-        // With the keys the platform has picked the right rows: one of them is exchanged for
-        // itself, since the parent waits for the final step. The mark stays, and so does the focus
-        // on a row that is no longer selected.
-        const int mark = several ? int(Ask(LVM_GETSELECTIONMARK)) : picked + TopRow();
-        const int drawn = several ? picked : picked + TopRow();
-        const UINT states =
-            several && picked != hit.iItem ? UINT(LVIS_SELECTED) : SelectedAndFocused;
-        SetItemState(picked, 0, states);
-        if (alive)
-        {
-            m_selChanging = FALSE;
-            SetItemState(drawn, states, states);
-        }
+        m_selChanging = FALSE;
+        SetItemState(final, states, states);
         if (alive && mark < int(Ask(LVM_GETITEMCOUNT)))
         {
             SetSelectionMark(mark);
@@ -139,19 +257,21 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
 {
     const WindowAlive alive(*this);
     auto& told = *reinterpret_cast<NMITEMACTIVATE*>(header);
-    if (!InOnBoard())
+    TakeBackPress(); // the parent looks at the selection
+    if (!alive || !InOnBoard())
     {
-        return FALSE;
+        return !alive;
     }
     // Of a drag no more is told than its row.
     const bool drag = told.hdr.code == UINT(LVN_BEGINDRAG) || told.hdr.code == UINT(LVN_BEGINRDRAG);
+    int row = told.iItem < 0 ? -1 : told.iItem + TopRow();
     if (!drag && m_drawOffset.x != 0)
     {
         told.iSubItem = ColumnAt(told.ptAction.x - int(m_drawOffset.x));
+        row = row < 0 ? RowAt(told.ptAction) : row;
     }
-    if (told.iItem >= 0 && TopRow() != 0)
+    if (row != told.iItem)
     {
-        const int row = told.iItem + TopRow();
         told.iItem = row < int(Ask(LVM_GETITEMCOUNT)) ? row : -1;
         LVITEMW drawn = {};
         drawn.mask = LVIF_PARAM | LVIF_STATE;

@@ -166,6 +166,7 @@ class ListThatNotes : public ListForTests
 {
 public:
     std::vector<std::tuple<int, int, LPARAM>> clicked;
+    std::function<void(int row)> onRightClick;
 
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
@@ -173,10 +174,15 @@ protected:
         const BOOL taken = ListForTests::OnChildNotify(message, wParam, lParam, result);
         const auto& told = *reinterpret_cast<const NMITEMACTIVATE*>(lParam);
         const UINT code = message == WM_NOTIFY && !taken ? told.hdr.code : 0;
-        if (code == UINT(NM_CLICK) || code == UINT(NM_DBLCLK) || code == UINT(LVN_ITEMACTIVATE))
+        if (code == UINT(NM_CLICK) || code == UINT(NM_DBLCLK) || code == UINT(LVN_ITEMACTIVATE) ||
+            code == UINT(LVN_BEGINDRAG))
         {
             clicked.emplace_back(told.iItem, told.iSubItem, told.lParam);
             EXPECT_EQ(told.uOldState, code == UINT(LVN_ITEMACTIVATE) ? 3U : 0U);
+        }
+        if (code == UINT(NM_RCLICK))
+        {
+            onRightClick(told.iItem);
         }
         return taken;
     }
@@ -259,7 +265,7 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFin
         for (const int top : {0, 20})
         {
             SCOPED_TRACE(testing::Message() << single << ' ' << top);
-            auto& list = AddList(100, 3, ReportStyle | single);
+            auto& list = AddList<ListThatNotes>(100, 3, ReportStyle | single);
             list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
             list.PerformVScroll(top, 0);
             bool final = false; // the last change of the selection that was told
@@ -289,10 +295,98 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFin
                 EXPECT_EQ(list.Selected(), expected) << row;
                 EXPECT_EQ(list.Focused(), top + row);
                 EXPECT_TRUE(final) << row;
+                EXPECT_THAT(std::exchange(list.clicked, {}),
+                            ElementsAre(std::tuple(top + row, 0, 0)));
             }
             Host().hook = nullptr;
+            MoveTo(ClientPoint(list, list.RowPoint(top + 5)));
+            PumpFor(30);
+            QueueKey(VK_CONTROL, true);
+            Press();
+            DragTo(ClientPoint(list, CPoint(90, 90)));
+            Release();
+            QueueKey(VK_CONTROL, false);
+            ASSERT_FALSE(list.clicked.empty());
+            EXPECT_EQ(std::get<0>(list.clicked.front()), top + 5) << "dragged";
             list.DestroyWindow();
         }
+    }
+}
+
+TEST_F(ListCtrlOnBoard, ARightClickIsToldOfWithTheDrawnRowSelectedOrAsItWas)
+{
+    auto& list = AddList<ListThatNotes>(100, 8);
+    int order[] = {1, 0, 2, 3, 4, 5, 6, 7}; // the first column is drawn where the other one was
+    list.SetColumnOrderArray(8, order);
+    list.PerformHScroll(3, 0);
+    list.PerformVScroll(5, 0);
+    Host().AlsoRecord({WM_CONTEXTMENU});
+    int told = 0;
+    int x = 20;
+    std::set<int> expected;
+    list.onRightClick = [&](int row) {
+        ++told;
+        EXPECT_EQ(row, 7);
+        EXPECT_EQ(list.Selected(), expected);
+        EXPECT_EQ(list.Focused(), 7);
+        EXPECT_FALSE(list.IsSelChanging());
+    };
+    const std::tuple<std::set<int>, UINT, std::set<int>> clicks[] = {
+        {{}, 0, {7}},        {{2, 9}, 0, {7}},    {{2, 7, 9}, 0, {2, 7, 9}},
+        {{8}, 0, {7}},       {{7, 8}, 0, {7, 8}}, {{2, 9}, VK_CONTROL, {2, 9}},
+        {{9}, VK_SHIFT, {9}}};
+    for (const DWORD full : {0, LVS_EX_FULLROWSELECT})
+    {
+        list.SetExtendedStyle(full);
+        for (const auto& [before, held, after] : clicks)
+        {
+            SCOPED_TRACE(testing::Message()
+                         << full << ' ' << testing::PrintToString(before) << held);
+            list.SetItemState(-1, 0, LVIS_SELECTED);
+            for (const int row : before)
+            {
+                list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+            }
+            told = 0;
+            expected = after;
+            Host().Forget();
+            x = 70 - x; // two clicks on one place would be a double click
+            MoveTo(ClientPoint(list, list.RowPoint(7, x)));
+            PumpFor(30); // as above
+            held != 0 ? QueueKey(held, true) : void();
+            QueueButton(true, true);
+            QueueButton(false, true);
+            held != 0 ? QueueKey(held, false) : void();
+            PumpAll();
+            EXPECT_EQ(told, 1);
+            EXPECT_EQ(Host().Count(WM_CONTEXTMENU), 1);
+            EXPECT_EQ(list.Selected(), after);
+        }
+    }
+}
+
+TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
+{
+    auto& list = AddList(100, 8);
+    // Whether the first column comes second, and the row at the top.
+    for (const auto& [second, top] : {std::pair(false, 0), {false, 5}, {true, 0}, {true, 5}})
+    {
+        SCOPED_TRACE(testing::Message() << second << top);
+        int order[] = {second ? 1 : 0, second ? 0 : 1, 2, 3, 4, 5, 6, 7};
+        list.SetColumnOrderArray(8, order);
+        list.PerformVScroll(top, list.TopRow());
+        list.PerformHScroll(second ? 3 : 1, list.m_hBar.GetScrollPos());
+        bool final = false;
+        Host().hook = [&](ToldMessage& message) {
+            final = message.code == UINT(LVN_ITEMCHANGED) ? list.IsSelChanging() == 0 : final;
+        };
+        Click(ClientPoint(list, list.RowPoint(7, second ? 90 : 60)));
+        EXPECT_EQ(list.Selected(), std::set<int>{7});
+        EXPECT_TRUE(final);
+        final = false;
+        Click(ClientPoint(list, list.RowPoint(8, second ? 110 : 90)));
+        EXPECT_EQ(list.Selected(), std::set<int>());
+        EXPECT_TRUE(final);
     }
 }
 
