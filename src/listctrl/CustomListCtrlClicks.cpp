@@ -21,11 +21,11 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
 void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 {
     const WindowAlive alive(*this);
-    m_activating = true;
+    const bool outer = std::exchange(m_activating, true); // a handler may let another one through
     Default();
     if (alive)
     {
-        m_activating = false;
+        m_activating = outer;
     }
 }
 

@@ -7,6 +7,8 @@
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
+#include <utility>
+
 // Selecting -------------------------------------------------------------------------------------
 
 bool CCustomListCtrl::IsSelected(int row)
@@ -146,6 +148,7 @@ void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
     }
     const WindowAlive alive(*this);
     const int before = NextRow(-1, LVNI_FOCUSED);
+    const bool outer = std::exchange(m_activating, false); // a double click may be waiting for it
     if (!MoveByPage(key, flags) && alive)
     {
         Default();
@@ -154,6 +157,7 @@ void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
     {
         return;
     }
+    m_activating = outer;
     HoldPlatform();
     const bool sideways = key == VK_LEFT || key == VK_RIGHT;
     const bool moves = (key >= VK_PRIOR && key <= VK_DOWN) && !sideways;

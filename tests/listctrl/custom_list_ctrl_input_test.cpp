@@ -390,6 +390,30 @@ TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
     }
 }
 
+TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
+{
+    auto& list = AddList(100);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    list.PerformVScroll(5, 0);
+    NMITEMACTIVATE byKey = {};
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == UINT(NM_DBLCLK))
+        {
+            list.SendMessage(WM_KEYDOWN, VK_RETURN);
+        }
+        else if (message.code == UINT(LVN_KEYDOWN)) // in the place of what the platform tells
+        {
+            byKey.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
+            byKey.iItem = 3;
+            Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&byKey));
+        }
+    };
+    Click(ClientPoint(list, list.RowPoint(7)));
+    Press();
+    Release();
+    EXPECT_EQ(byKey.iItem, 3);
+}
+
 TEST_F(ListCtrlOnBoard, AListWithoutAHeaderScrollsAndIsClicked)
 {
     auto& list = AddList(100, 2, ReportStyle | LVS_NOCOLUMNHEADER | LVS_SINGLESEL);
