@@ -103,13 +103,14 @@ CCustomListCtrl::PressHit CCustomListCtrl::HitBy(const CPoint& point)
 void CCustomListCtrl::LetPlatformPress(UINT message, const PressHit& hit, const CPoint& point)
 {
     const WindowAlive alive(*this);
+    const bool right = message == WM_RBUTTONDOWN;
     PressNote note = {
         hit.platform, 0, NextRow(-1, LVNI_FOCUSED), int(Ask(LVM_GETSELECTIONMARK)), {}};
     if (hit.platform >= 0)
     {
         note.states = UINT(Ask(LVM_GETITEMSTATE, WPARAM(hit.platform), SelectedAndFocused));
     }
-    else if (message == WM_RBUTTONDOWN)
+    else if (right)
     {
         GetSelectedRows(note.selected); // beside its rows the platform deselects all
     }
@@ -119,8 +120,20 @@ void CCustomListCtrl::LetPlatformPress(UINT message, const PressHit& hit, const 
     }
     m_pressNote = std::move(note);
     m_selChanging = TRUE;
-    Ask(message, MK_CONTROL | (message == WM_LBUTTONDOWN ? MK_LBUTTON : MK_RBUTTON),
-        MAKELPARAM(point.x, point.y));
+    // What it would change at a right press is changed before: it does not survive the list's end
+    // in the middle of that.
+    if (right && hit.platform >= 0)
+    {
+        SetItemState(hit.platform, LVIS_FOCUSED, LVIS_FOCUSED);
+    }
+    else if (right)
+    {
+        ClearSelection();
+    }
+    if (alive)
+    {
+        Ask(message, MK_CONTROL | (right ? MK_RBUTTON : MK_LBUTTON), MAKELPARAM(point.x, point.y));
+    }
     if (alive)
     {
         TakeBackPress();

@@ -365,6 +365,34 @@ TEST_F(ListCtrlOnBoard, ARightClickIsToldOfWithTheDrawnRowSelectedOrAsItWas)
     }
 }
 
+TEST_F(ListCtrlOnBoard, WhatARightPressInScrolledRowsTellsMayEndTheListOrChangeItsMode)
+{
+    int told = INT_MAX;
+    for (int turn = 0; turn / 2 < told; ++turn)
+    {
+        const ModeScope scope(ONBOARD);
+        auto& list = AddList(100);
+        list.PerformVScroll(5, 0);
+        list.SetItemState(2, 3, 3); // in the place of row 7
+        told = 0;
+        Host().hook = [&](ToldMessage&) {
+            if (told++ == turn / 2)
+            {
+                turn % 2 == 0 ? void(list.DestroyWindow()) : SetMode(STD, list);
+            }
+        };
+        const CPoint point = list.RowPoint(7);
+        list.PostMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+        list.SendMessage(WM_RBUTTONDOWN, 0, MAKELPARAM(point.x, point.y));
+        EXPECT_EQ(::IsWindow(list), turn % 2 != 0 || told <= turn / 2) << turn;
+        EXPECT_FALSE(::IsWindow(list) && list.IsSelChanging()) << turn;
+        Host().hook = nullptr;
+        PumpAll();
+        Remove(list);
+    }
+    EXPECT_GT(told, 9);
+}
+
 TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
 {
     auto& list = AddList(100, 8);
