@@ -168,6 +168,15 @@ public:
     std::vector<std::tuple<int, int, LPARAM>> clicked;
     std::function<void(int row)> onRightClick;
 
+    void SelectOnly(const std::set<int>& rows, int from = 0)
+    {
+        SetItemState(-1, 0, LVIS_SELECTED);
+        for (const int row : rows)
+        {
+            SetItemState(from + row, LVIS_SELECTED, LVIS_SELECTED);
+        }
+    }
+
 protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
     {
@@ -233,17 +242,13 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
 
 TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlace)
 {
-    auto& list = AddList(100);
+    auto& list = AddList<ListThatNotes>(100);
     list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
     list.PerformVScroll(5, 0);
     int row = 7; // another one each time: two clicks on one would be a double click
     for (const std::set<int>& before : {std::set{-5}, {-5, 2}, {0, 2}, {0}})
     {
-        list.SetItemState(-1, 0, LVIS_SELECTED);
-        for (const int each : before)
-        {
-            list.SetItemState(row + each, LVIS_SELECTED, LVIS_SELECTED);
-        }
+        list.SelectOnly(before, row);
         Click(ClientPoint(list, list.RowPoint(row)));
         EXPECT_EQ(list.Selected(), std::set<int>{row});
         EXPECT_EQ(list.Focused(), row++);
@@ -342,11 +347,7 @@ TEST_F(ListCtrlOnBoard, ARightClickIsToldOfWithTheDrawnRowSelectedOrAsItWas)
         {
             SCOPED_TRACE(testing::Message()
                          << full << ' ' << testing::PrintToString(before) << held);
-            list.SetItemState(-1, 0, LVIS_SELECTED);
-            for (const int row : before)
-            {
-                list.SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
-            }
+            list.SelectOnly(before);
             told = 0;
             expected = after;
             Host().Forget();
@@ -424,15 +425,15 @@ TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
     list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
     list.PerformVScroll(5, 0);
     NMITEMACTIVATE byKey = {};
+    byKey.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
+    byKey.iItem = 3;
     Host().hook = [&](ToldMessage& message) {
         if (message.code == UINT(NM_DBLCLK))
         {
             list.SendMessage(WM_KEYDOWN, VK_RETURN);
         }
-        else if (message.code == UINT(LVN_KEYDOWN)) // in the place of what the platform tells
+        else if (message.code == UINT(LVN_KEYDOWN)) // as some platforms tell it, with the row
         {
-            byKey.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
-            byKey.iItem = 3;
             Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&byKey));
         }
     };
