@@ -25,6 +25,7 @@ BEGIN_MESSAGE_MAP(CCustomDialog, CDialog)
     ON_WM_NCHITTEST()
     ON_WM_NCLBUTTONDOWN()
     ON_WM_LBUTTONDOWN()
+    ON_MESSAGE(WM_GETFONT, &CCustomDialog::OnGetFont)
     ON_MESSAGE(WM_SETTEXT, &CCustomDialog::OnSetCaption)
     ON_MESSAGE(WM_SETICON, &CCustomDialog::OnSetCaption)
     ON_MESSAGE(WM_SYSCOMMAND, &CCustomDialog::OnMenuRequest)
@@ -107,6 +108,18 @@ HFONT CCustomDialog::StandardFont() const
 {
     return m_opening != nullptr ? m_opening->Template().StandardFont()
                                 : dialogs::ChildrenOf(*this, false).standardFont;
+}
+
+// Whoever makes a control takes the dialog's font for it. The platform's answer for a rewritten
+// template is a font of its own that no mode knows.
+LRESULT CCustomDialog::OnGetFont(WPARAM, LPARAM)
+{
+    if (m_opening == nullptr)
+    {
+        return Default();
+    }
+    return reinterpret_cast<LRESULT>(COnBoardUIGeneral::InOnBoardMode() ? HFONT(m_OBStaticTextFont)
+                                                                        : StandardFont());
 }
 
 BOOL CCustomDialog::OnInitDialog()

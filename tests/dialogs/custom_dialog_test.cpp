@@ -232,6 +232,32 @@ TEST_F(CustomDialogTest, ChildrenThatTheDialogMakesItselfDoNotDisturbTheTemplate
     EXPECT_TRUE(again.CreateIndirect(form, &Host()));
 }
 
+TEST_F(CustomDialogTest, AControlThatIsMadeInTheDialogsFontFollowsTheMode)
+{
+    const ModeScope mode(ONBOARD);
+    DialogForTests dialog;
+    CStatic made[3];
+    const auto make = [&](int index) {
+        CStatic& label = made[index];
+        label.Create("own", WS_CHILD, CRect(0, 0, 50, 13), &dialog, UINT(900 + index));
+        label.SetFont(dialog.GetFont());
+    };
+    dialog.beforeInit = [&] { make(0); };
+    dialog.inInit = [&] { make(1); };
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    COnBoardUIGeneral::SetAppMode(STD);
+    make(2);
+    for (const APPMODE next : {STD, EFB, STD})
+    {
+        COnBoardUIGeneral::SetAppMode(next);
+        for (const CStatic& label : made)
+        {
+            EXPECT_EQ(label.GetFont(), dialog.GetDlgItem(IdLabel)->GetFont())
+                << next << label.GetDlgCtrlID();
+        }
+    }
+}
+
 // Controls and children -------------------------------------------------------------------------
 
 TEST_F(CustomDialogTest, TheListOfControlsOutlivesTheIdleMoment)
