@@ -115,7 +115,7 @@ protected:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetCaption(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnMenuRequest(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSystemRequest(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 public:

@@ -69,7 +69,7 @@ protected:
     afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg LRESULT OnSetCaption(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnMenuRequest(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSystemRequest(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 public:

@@ -28,8 +28,9 @@ BEGIN_MESSAGE_MAP(CCustomDialog, CDialog)
     ON_MESSAGE(WM_GETFONT, &CCustomDialog::OnGetFont)
     ON_MESSAGE(WM_SETTEXT, &CCustomDialog::OnSetCaption)
     ON_MESSAGE(WM_SETICON, &CCustomDialog::OnSetCaption)
-    ON_MESSAGE(WM_SYSCOMMAND, &CCustomDialog::OnMenuRequest)
-    ON_MESSAGE(WM_CONTEXTMENU, &CCustomDialog::OnMenuRequest)
+    ON_MESSAGE(WM_SYSCOMMAND, &CCustomDialog::OnSystemRequest)
+    ON_MESSAGE(WM_CONTEXTMENU, &CCustomDialog::OnSystemRequest)
+    ON_MESSAGE(WM_NCLBUTTONDBLCLK, &CCustomDialog::OnSystemRequest)
 END_MESSAGE_MAP()
 
 IEFB* CCustomDialog::m_efb = nullptr;
@@ -509,8 +510,8 @@ LRESULT CCustomDialog::OnSetCaption(WPARAM, LPARAM)
     return result;
 }
 
-LRESULT CCustomDialog::OnMenuRequest(WPARAM wParam, LPARAM lParam)
+LRESULT CCustomDialog::OnSystemRequest(WPARAM wParam, LPARAM lParam)
 {
     const UINT message = GetCurrentMessage()->message;
-    return dialogs::AsksForSystemMenu(*this, message, wParam, lParam) ? 0 : Default();
+    return dialogs::AsksForSystemCommand(*this, message, wParam, lParam) ? 0 : Default();
 }

@@ -28,8 +28,9 @@ BEGIN_MESSAGE_MAP(CCustomPropSheet, CPropertySheet)
     ON_WM_NCHITTEST()
     ON_MESSAGE(WM_SETTEXT, &CCustomPropSheet::OnSetCaption)
     ON_MESSAGE(WM_SETICON, &CCustomPropSheet::OnSetCaption)
-    ON_MESSAGE(WM_SYSCOMMAND, &CCustomPropSheet::OnMenuRequest)
-    ON_MESSAGE(WM_CONTEXTMENU, &CCustomPropSheet::OnMenuRequest)
+    ON_MESSAGE(WM_SYSCOMMAND, &CCustomPropSheet::OnSystemRequest)
+    ON_MESSAGE(WM_CONTEXTMENU, &CCustomPropSheet::OnSystemRequest)
+    ON_MESSAGE(WM_NCLBUTTONDBLCLK, &CCustomPropSheet::OnSystemRequest)
 END_MESSAGE_MAP()
 
 IEFB* CCustomPropSheet::m_efb = nullptr;
@@ -334,8 +335,9 @@ LRESULT CCustomPropSheet::OnSetCaption(WPARAM, LPARAM)
     return result;
 }
 
-LRESULT CCustomPropSheet::OnMenuRequest(WPARAM wParam, LPARAM lParam)
+LRESULT CCustomPropSheet::OnSystemRequest(WPARAM wParam, LPARAM lParam)
 {
     const UINT message = GetCurrentMessage()->message;
-    return m_laidOut && dialogs::AsksForSystemMenu(*this, message, wParam, lParam) ? 0 : Default();
+    return m_laidOut && dialogs::AsksForSystemCommand(*this, message, wParam, lParam) ? 0
+                                                                                      : Default();
 }

@@ -275,9 +275,17 @@ Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight)
     return frame;
 }
 
-bool AsksForSystemMenu(const CWnd& window, UINT message, WPARAM wParam, LPARAM lParam)
+bool AsksForSystemCommand(const CWnd& window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (!COnBoardUIGeneral::InOnBoardMode() || (window.GetStyle() & WS_CHILD) != 0)
+    if (!COnBoardUIGeneral::InOnBoardMode())
+    {
+        return false;
+    }
+    if (message == WM_NCLBUTTONDBLCLK)
+    {
+        return wParam == HTCAPTION && !window.IsZoomed();
+    }
+    if ((window.GetStyle() & WS_CHILD) != 0)
     {
         return false;
     }

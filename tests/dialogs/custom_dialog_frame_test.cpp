@@ -182,6 +182,20 @@ TEST_F(CustomDialogTest, OnBoardNothingOpensTheSystemMenu)
     sheet.DestroyWindow();
 }
 
+TEST_F(CustomDialogTest, TwoTapsOnTheCaptionMaximiseOnlyWhereABoxRestores)
+{
+    DialogForTests dialog(Form(WS_POPUP | WS_CAPTION | WS_MAXIMIZEBOX | WS_VISIBLE), Host());
+    const auto zoomed = [&](APPMODE mode) {
+        COnBoardUIGeneral::SetAppMode(mode);
+        const CPoint caption = WindowPoint(dialog, CPoint(60, 10));
+        dialog.SendMessage(WM_NCLBUTTONDBLCLK, HTCAPTION, MAKELPARAM(caption.x, caption.y));
+        return dialog.IsZoomed() != FALSE;
+    };
+    EXPECT_TRUE(zoomed(STD));
+    EXPECT_FALSE(zoomed(ONBOARD)) << "as it came";
+    EXPECT_FALSE(zoomed(ONBOARD));
+}
+
 TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
 {
     using D = CCustomDialog;
