@@ -24,6 +24,8 @@ TEST(Text, NullIsEmptyAndPartsAreCutToTheText)
     const LPCTSTR null = nullptr;
     CString empty(null);
     empty += null;
+    empty.Append(null, 3);
+    EXPECT_EQ(CString("ab").FindOneOf(null), -1);
     EXPECT_EQ(empty.Compare(null), 0);
     EXPECT_EQ(CString("ab").Replace(null, "x"), 0);
     EXPECT_EQ(CString("ab") + null, CString("ab"));

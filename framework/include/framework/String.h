@@ -50,7 +50,7 @@ public:
     void SetString(LPCTSTR text, int length) { *this = CString(text, length); }
 
     void Append(LPCTSTR text) { m_text.append(text == nullptr ? "" : text); }
-    void Append(LPCTSTR text, int length) { m_text.append(text, size_t(length)); }
+    void Append(LPCTSTR text, int length) { *this += CString(text, length); }
     void AppendChar(char character) { m_text.push_back(character); }
     CString& operator+=(LPCTSTR text) { return Append(text), *this; }
     CString& operator+=(const CString& text) { return m_text.append(text.m_text), *this; }
@@ -71,7 +71,10 @@ public:
     int Find(LPCTSTR text, int start = 0) const;
     int Find(char character, int start = 0) const;
     int ReverseFind(char character) const { return Index(m_text.rfind(character)); }
-    int FindOneOf(LPCTSTR characters) const { return Index(m_text.find_first_of(characters)); }
+    int FindOneOf(LPCTSTR characters) const
+    {
+        return characters == nullptr ? -1 : Index(m_text.find_first_of(characters));
+    }
 
     // Comparisons stop at the first null character. Less than, equal to or more than zero.
     int Compare(LPCTSTR other) const;
