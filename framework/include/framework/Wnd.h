@@ -395,7 +395,7 @@ template <class Handler> LRESULT AfxCallCtlColor(const AFX_MSGCALL& m, Handler h
 }
 
 // Binds wnd to the next window that this thread creates (in parent, unless that is null), before
-// its first message; for windows
-// that the platform creates on the caller's behalf. AfxUnhookWindowCreate says whether it happened.
+// its first message; for windows that the platform creates on the caller's behalf.
+// AfxUnhookWindowCreate says whether it happened.
 FRAMEWORK_API void AfxHookWindowCreate(CWnd* wnd, HWND parent = nullptr);
 FRAMEWORK_API BOOL AfxUnhookWindowCreate();
