@@ -32,8 +32,14 @@ BOOL CToolBar::CreateEx(CWnd* parent, DWORD controlStyle, DWORD style, CRect bor
 
 BOOL CToolBar::LoadBitmap(LPCTSTR name)
 {
-    return SetBitmap(static_cast<HBITMAP>(::LoadImage(AfxFindResourceHandle(name, RT_BITMAP), name,
-                                                      IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS)));
+    const auto images = static_cast<HBITMAP>(::LoadImage(
+        AfxFindResourceHandle(name, RT_BITMAP), name, IMAGE_BITMAP, 0, 0, LR_LOADMAP3DCOLORS));
+    const BOOL taken = SetBitmap(images);
+    if (!taken)
+    {
+        ::DeleteObject(images);
+    }
+    return taken;
 }
 
 BOOL CToolBar::LoadToolBar(LPCTSTR name)

@@ -3,6 +3,8 @@
 #include "support/Canvas.h"
 #include "support/WindowTest.h"
 
+#include <afxext.h>
+
 namespace {
 
 constexpr COLORREF Red = RGB(255, 0, 0);
@@ -50,6 +52,15 @@ TEST(DeviceContexts, SelectingGivesBackTheSameObjectsAndFillingTheBackgroundColo
     dc.SetBkColor(Blue);
     dc.FillSolidRect(0, 0, 10, 10, Red);
     EXPECT_EQ(dc.GetBkColor(), Blue);
+}
+
+TEST_F(WindowTest, PicturesThatAToolBarRefusesAreDeleted)
+{
+    CToolBar bar;
+    bar.LoadBitmap(10017);
+    const int before = GraphicsObjects();
+    EXPECT_FALSE(bar.LoadBitmap(10018)) << "no window that could replace them";
+    EXPECT_EQ(GraphicsObjects(), before);
 }
 
 TEST_F(WindowTest, ContextsOfAWindowAreReleased)
