@@ -2,6 +2,7 @@
 
 #include "Look.h"
 #include "resource.h"
+#include "Tap.h"
 
 #include <AppAccess.h>
 #include <EFB.h>
@@ -153,9 +154,7 @@ void EditsPage::PoseForPicture()
     }
     CRect area;
     m_single.GetClientRect(&area);
-    const LPARAM end = MAKELPARAM(area.right / 2, area.bottom / 2);
-    m_single.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, end);
-    m_single.SendMessage(WM_LBUTTONUP, 0, end);
+    Tap(m_single, CPoint(area.right / 2, area.bottom / 2));
 }
 
 HBRUSH EditsPage::OnCtlColor(CDC* dc, CWnd* control, UINT kind)

@@ -2,6 +2,7 @@
 
 #include "Look.h"
 #include "OpenDialog.h"
+#include "Tap.h"
 #include "WindowMoves.h"
 #include "resource.h"
 
@@ -181,9 +182,7 @@ void GalleryPage::TapRow(CListBox& list, int row)
 {
     CRect rect;
     list.GetItemRect(row, &rect);
-    const CPoint point = rect.CenterPoint();
-    list.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
-    list.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    Tap(list, rect.CenterPoint());
 }
 
 void GalleryPage::Place(CWnd& control, const CRect& design, CWnd* caption)

@@ -1,6 +1,7 @@
 #include "ReportListPage.h"
 
 #include "Look.h"
+#include "Tap.h"
 #include "resource.h"
 
 namespace {
@@ -49,13 +50,6 @@ int CALLBACK CompareLegs(LPARAM first, LPARAM second, LPARAM order)
     const auto& by = *reinterpret_cast<const Order*>(order);
     const int compared = legs::Compare(int(first), int(second), by.column);
     return by.descending ? -compared : compared;
-}
-
-// A press and its release, as the pointer sends them.
-void Tap(CWnd& window, CPoint point)
-{
-    window.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
-    window.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
 }
 
 // A point of the so-manieth row from the top of what is in sight.

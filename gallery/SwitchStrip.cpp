@@ -1,6 +1,7 @@
 #include "SwitchStrip.h"
 
 #include "Look.h"
+#include "Tap.h"
 #include "resource.h"
 
 #include <OnBoardUI.h>
@@ -84,9 +85,7 @@ BOOL SwitchStrip::Create(CWnd& parent, UINT id, const char* name, std::span<cons
 
 void SwitchStrip::Tap(int index)
 {
-    const CPoint point = SwitchRect(index).CenterPoint();
-    SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(point.x, point.y));
-    SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    ::Tap(*this, SwitchRect(index).CenterPoint());
 }
 
 CRect SwitchStrip::SwitchRect(int index) const
