@@ -20,6 +20,12 @@ inline std::optional<APPMODE> ModeNamed(LPCSTR name)
     return std::nullopt;
 }
 
+// The modes of an electronic flight bag.
+inline bool IsFlightBag(APPMODE mode)
+{
+    return mode == EFB || mode == EFBFS;
+}
+
 // The modes whose window is the screen.
 inline bool CoversScreen(APPMODE mode)
 {

@@ -1,8 +1,9 @@
 #include "EditsPage.h"
 
+#include "DisplayModes.h"
 #include "Look.h"
-#include "resource.h"
 #include "Tap.h"
+#include "resource.h"
 
 #include <AppAccess.h>
 #include <EFB.h>
@@ -66,12 +67,6 @@ constexpr const char* Briefing =
     "EGLL: stands 301 to 307 closed for works until further notice; expect remote parking.\r\n"
     "EHAM: birds in large numbers near the approach path of runway 27 from sunrise to sunset.\r\n"
     "LSZH: approaches over the south until 0700 local time.";
-
-bool FlightBag()
-{
-    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
-    return mode == EFB || mode == EFBFS;
-}
 
 } // namespace
 
@@ -139,7 +134,8 @@ void EditsPage::OnLaidOut()
     ScreenToClient(&beside);
     m_fixed.SetFixedPlace(above.left, beside.top, above.Width());
     m_fixed.MoveWindow(above.left, beside.top, above.Width(), beside.Height());
-    if (IEFB* const efb = m_appAccess.GetEFB(); efb != nullptr && !FlightBag())
+    if (IEFB* const efb = m_appAccess.GetEFB();
+        efb != nullptr && !IsFlightBag(COnBoardUIGeneral::GetAppMode()))
     {
         efb->ShowVKB(false, VKB_FOR_EDIT, m_single.GetSafeHwnd());
     }

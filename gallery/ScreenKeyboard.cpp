@@ -1,5 +1,6 @@
 #include "ScreenKeyboard.h"
 
+#include "DisplayModes.h"
 #include "Look.h"
 
 #include <OnBoardUI.h>
@@ -70,12 +71,6 @@ constexpr KeyRow AllRows[Rows] = {
 
 constexpr UINT_PTR WatchTimer = 1;
 constexpr UINT WatchPeriod = 250; // ms
-
-bool FlightBag()
-{
-    const APPMODE mode = COnBoardUIGeneral::GetAppMode();
-    return mode == EFB || mode == EFBFS;
-}
 
 } // namespace
 
@@ -253,7 +248,7 @@ void ScreenKeyboard::OnCaptureChanged(CWnd*)
 void ScreenKeyboard::OnTimer(UINT_PTR)
 {
     // Its window may have gone, or the mode with it, without anybody having asked.
-    if (!::IsWindowVisible(m_target) || !FlightBag())
+    if (!::IsWindowVisible(m_target) || !IsFlightBag(COnBoardUIGeneral::GetAppMode()))
     {
         Hide();
     }
