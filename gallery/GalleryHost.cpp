@@ -35,6 +35,14 @@ const MappedImageList* Filled(MappedImageList& list, int size)
     return &list;
 }
 
+template <class Class> void TakeBack(const IEFB* efb)
+{
+    if (Class::GetEfb() == efb)
+    {
+        Class::SetEfb(nullptr);
+    }
+}
+
 } // namespace
 
 GalleryEfb::GalleryEfb(IAppAccess& host)
@@ -47,12 +55,10 @@ GalleryEfb::GalleryEfb(IAppAccess& host)
 
 GalleryEfb::~GalleryEfb()
 {
-    if (CCustomEdit::GetEfb() == this)
-    {
-        CCustomEdit::SetEfb(nullptr);
-    }
-    CCustomDialog::SetEfb(nullptr);
-    CCustomPropSheet::SetEfb(nullptr);
+    // Another may have been given since.
+    TakeBack<CCustomEdit>(this);
+    TakeBack<CCustomDialog>(this);
+    TakeBack<CCustomPropSheet>(this);
 }
 
 bool GalleryEfb::GetAvailableArea(int& x, int& y, int& width, int& height)
