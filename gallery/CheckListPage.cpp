@@ -59,12 +59,14 @@ void WeighedList::DrawItem(LPDRAWITEMSTRUCT draw)
     area.top += (area.Height() - dc->GetTextExtent(text).cy) / 2; // level with the item's text
     const bool selected =
         (draw->itemState & ODS_SELECTED) != 0 && (draw->itemState & ODS_DISABLED) == 0;
-    const int mode = dc->SetBkMode(TRANSPARENT);
-    const COLORREF color =
-        selected ? dc->SetTextColor(::GetSysColor(COLOR_HIGHLIGHTTEXT)) : dc->GetTextColor();
+    const int before = dc->SaveDC();
+    dc->SetBkMode(TRANSPARENT);
+    if (selected)
+    {
+        dc->SetTextColor(::GetSysColor(COLOR_HIGHLIGHTTEXT));
+    }
     dc->DrawText(text, &area, DT_RIGHT | DT_SINGLELINE | DT_NOPREFIX);
-    dc->SetTextColor(color);
-    dc->SetBkMode(mode);
+    dc->RestoreDC(before);
 }
 
 BEGIN_MESSAGE_MAP(CheckListPage, GalleryPage)
