@@ -182,29 +182,23 @@ TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryModeAndMayDeleteTheBarThere)
 
 TEST_F(StatusBarTest, TheNextBarOfAnObjectHasAFontAndTimersOfItsOwn)
 {
-    CFont fonts[2];
-    CStatusBarCtrl bars[2];
     Bar object;
-    for (const int turn : {0, 1})
+    for (const int points : {120, 140})
     {
-        ASSERT_TRUE(fonts[turn].CreatePointFont(120 + 20 * turn, "Arial"));
-        bars[turn].Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), UINT(turn));
-        bars[turn].SetFont(&fonts[turn]);
-        const ModeScope scope(ONBOARD);
-        const HWND window = bars[turn].Detach();
-        ASSERT_TRUE(object.SubclassWindow(window));
-        Painted(object);
-        EXPECT_EQ(object.GetFont(), &CCustomStatusBar::GetOnBoardFont());
+        CFont font;
+        font.CreatePointFont(points, "Arial");
+        auto& bar = Add<CStatusBarCtrl>(CRect(0, 0, 0, 0));
+        bar.SetFont(&font);
+        object.UnsubclassWindow();
+        ASSERT_TRUE(object.SubclassWindow(bar.Detach()));
+        for (const APPMODE mode : {ONBOARD, STD, EFB})
+        {
+            COnBoardUIGeneral::SetAppMode(mode);
+            Painted(object);
+            EXPECT_EQ(object.GetFont(), mode == STD ? &font : &CCustomStatusBar::GetOnBoardFont());
+        }
         object.StartSearchProgress();
         EXPECT_EQ(object.Text(), "Searching.");
-        if (turn == 1)
-        {
-            COnBoardUIGeneral::SetAppMode(STD);
-            Painted(object);
-            EXPECT_EQ(object.GetFont(), &fonts[turn]);
-        }
-        object.UnsubclassWindow();
-        ::DestroyWindow(window);
     }
 }
 
