@@ -214,7 +214,10 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
     if (alive && InOnBoard() && m_frameDone && (m_window.GetStyle() & m_manner.styles) != 0)
     {
         StripBars();
-        m_frame.SaveRecalculation(m_window, *position);
+        if (alive)
+        {
+            m_frame.SaveRecalculation(m_window, *position);
+        }
     }
     if (alive && m_awaitsPlace && !m_following && !frameAlone && !IsPlaceToCome(m_window))
     {
