@@ -82,7 +82,8 @@ bool CCustomListCtrl::TakeFocusForPress()
     return bool(alive);
 }
 
-// Without full rows a row is hit in its first column, wherever that stands.
+// Without full rows a row is hit in its first column, wherever that stands; a full one across all
+// of the list, also where its bar goes on beside the last column.
 CCustomListCtrl::PressHit CCustomListCtrl::HitBy(const CPoint& point)
 {
     LVHITTESTINFO unscrolled = {};
@@ -94,7 +95,7 @@ CCustomListCtrl::PressHit CCustomListCtrl::HitBy(const CPoint& point)
     }
     const bool full = (Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_FULLROWSELECT) != 0;
     const bool hits = full || ColumnAt(point.x - int(m_drawOffset.x)) == 0;
-    const int drawn = hits ? RowAt(point) : -1;
+    const int drawn = hits ? RowAt(full ? CPoint(int(m_drawOffset.x), int(point.y)) : point) : -1;
     return {platform, drawn, TopRow() != 0 || drawn != platform};
 }
 

@@ -226,6 +226,11 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
     Release();
     EXPECT_GE(list.clicked.size(), 3U);
     EXPECT_THAT(list.clicked, testing::Each(std::tuple(7, 1, 700)));
+    // The bar across goes past the last column; so does the bar of a selected row.
+    list.PerformHScroll(SB_RIGHT);
+    Click(ClientPoint(list, list.RowPoint(8, ClientRectOf(list).right - 10)));
+    EXPECT_EQ(list.Selected(), std::set<int>{8});
+    list.PerformHScroll(3, list.m_hBar.GetScrollPos());
     // Below the last row nothing is selected, and the parent is told of a change all the same.
     list.PerformVScroll(SB_BOTTOM);
     Host().Forget();
