@@ -199,6 +199,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         }
         return;
     }
+    const int before = int(Ask(LVM_GETSELECTIONMARK));
     m_selChanging = TRUE;
     if (hit.scrolled && hit.platform >= 0 && IsSelected(hit.platform))
     {
@@ -224,10 +225,12 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         picked = NextRow(-1, LVNI_SELECTED);
     }
     // With the keys the platform has picked the right rows: one of them is exchanged for itself,
-    // since the parent waits for the final step. The mark stays, and so does the focus on a row
-    // that is no longer selected.
+    // since the parent waits for the final step. The mark stays, as it does beside all rows, and so
+    // does the focus on a row that is no longer selected.
     const int final = hit.scrolled ? hit.drawn : picked;
-    const int mark = several ? int(Ask(LVM_GETSELECTIONMARK)) : final;
+    const int mark = final >= 0 && !several ? final
+                     : hit.scrolled         ? before
+                                            : int(Ask(LVM_GETSELECTIONMARK));
     const UINT states =
         several && picked != hit.platform ? UINT(LVIS_SELECTED) : SelectedAndFocused;
     if (picked >= 0 && m_scrollUnit.cy > 0)
@@ -251,14 +254,17 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     {
         m_selChanging = FALSE;
         SetItemState(final, states, states);
-        if (alive && mark < int(Ask(LVM_GETITEMCOUNT)))
+    }
+    if (alive)
+    {
+        m_selChanging = FALSE;
+        if (mark < int(Ask(LVM_GETITEMCOUNT)))
         {
             SetSelectionMark(mark);
         }
     }
     if (alive)
     {
-        m_selChanging = FALSE;
         Invalidate();
     }
 }

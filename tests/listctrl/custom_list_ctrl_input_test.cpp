@@ -258,6 +258,11 @@ TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlac
         EXPECT_EQ(list.Selected(), std::set<int>{row});
         EXPECT_EQ(list.Focused(), row++);
     }
+    // Beside the rows the mark stays for a press with Shift.
+    list.PerformVScroll(SB_BOTTOM);
+    Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
+    EXPECT_EQ(list.Selected(), std::set<int>());
+    EXPECT_EQ(list.GetSelectionMark(), row - 1);
 }
 
 TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFinalStep)
