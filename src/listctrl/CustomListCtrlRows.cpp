@@ -141,15 +141,11 @@ bool CCustomListCtrl::MoveByPage(UINT key, UINT flags)
 
 void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
 {
-    if (!InOnBoard())
-    {
-        Default();
-        return;
-    }
     const WindowAlive alive(*this);
-    const int before = NextRow(-1, LVNI_FOCUSED);
+    const bool onBoard = InOnBoard();
+    const int before = onBoard ? NextRow(-1, LVNI_FOCUSED) : -1;
     const bool outer = std::exchange(m_activating, false); // a double click may be waiting for it
-    if (!MoveByPage(key, flags) && alive)
+    if (!(onBoard && MoveByPage(key, flags)) && alive)
     {
         Default();
     }
@@ -158,6 +154,10 @@ void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
         return;
     }
     m_activating = outer;
+    if (!onBoard)
+    {
+        return;
+    }
     HoldPlatform();
     const bool sideways = key == VK_LEFT || key == VK_RIGHT;
     const bool moves = (key >= VK_PRIOR && key <= VK_DOWN) && !sideways;

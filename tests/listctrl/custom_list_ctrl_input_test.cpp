@@ -431,26 +431,45 @@ TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
 
 TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
 {
-    auto& list = AddList(100);
-    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
-    list.PerformVScroll(5, 0);
-    NMITEMACTIVATE byKey = {};
-    byKey.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
-    byKey.iItem = 3;
-    Host().hook = [&](ToldMessage& message) {
-        if (message.code == UINT(NM_DBLCLK))
+    struct Heir : ListForTests
+    {
+        NMITEMACTIVATE byKey = {};
+        std::vector<int> heard; // the rows of it that the parent got
+
+        BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
         {
-            list.SendMessage(WM_KEYDOWN, VK_RETURN);
-        }
-        else if (message.code == UINT(LVN_KEYDOWN)) // as some platforms tell it, with the row
-        {
-            Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&byKey));
+            const BOOL taken = ListForTests::OnChildNotify(message, wParam, lParam, result);
+            if (!taken && lParam == reinterpret_cast<LPARAM>(&byKey))
+            {
+                heard.push_back(byKey.iItem);
+            }
+            return taken;
         }
     };
-    Click(ClientPoint(list, list.RowPoint(7)));
-    Press();
-    Release();
-    EXPECT_EQ(byKey.iItem, 3);
+    auto& list = AddList<Heir>(100);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    // In the standard mode the platform tells no row, so that anything may stand there.
+    for (const auto& [mode, row] : {std::pair(ONBOARD, 3), {STD, -1}})
+    {
+        SetMode(mode, list);
+        list.PerformVScroll(mode == STD ? 0 : 5, 0);
+        list.byKey.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
+        list.byKey.iItem = row;
+        Host().hook = [&](ToldMessage& message) {
+            if (message.code == UINT(NM_DBLCLK))
+            {
+                list.SendMessage(WM_KEYDOWN, VK_RETURN);
+            }
+            else if (message.code == UINT(LVN_KEYDOWN)) // as some platforms tell it, with the row
+            {
+                Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&list.byKey));
+            }
+        };
+        Click(ClientPoint(list, list.RowPoint(7)));
+        Press();
+        Release();
+        EXPECT_THAT(std::exchange(list.heard, {}), ElementsAre(row)) << mode;
+    }
 }
 
 TEST_F(ListCtrlOnBoard, AListWithoutAHeaderScrollsAndIsClicked)
