@@ -131,6 +131,12 @@ void CCustomListCtrl::LetPlatformPress(UINT message, const PressHit& hit, const 
     {
         ClearSelection();
     }
+    // While the button is down the host may change the selection itself. Where rows come back their
+    // return is the final step.
+    if (alive && right && m_pressNote && m_pressNote->selected.empty())
+    {
+        m_selChanging = FALSE;
+    }
     if (alive)
     {
         Ask(message, MK_CONTROL | (right ? MK_RBUTTON : MK_LBUTTON), MAKELPARAM(point.x, point.y));
@@ -155,6 +161,10 @@ void CCustomListCtrl::TakeBackPress()
     }
     for (auto row = note.selected.begin(); alive && row != note.selected.end(); ++row)
     {
+        if (std::next(row) == note.selected.end())
+        {
+            m_selChanging = FALSE;
+        }
         SetItemState(*row, LVIS_SELECTED, LVIS_SELECTED);
     }
     if (!alive)

@@ -404,6 +404,40 @@ TEST_F(ListCtrlOnBoard, WhatARightPressInScrolledRowsTellsMayEndTheListOrChangeI
     EXPECT_GT(told, 9);
 }
 
+TEST_F(ListCtrlOnBoard, WhatIsSelectedDuringARightPressIsToldWithAFinalStep)
+{
+    Host().AlsoRecord({WM_APP});
+    for (const int sideways : {0, 3}) // where the platform takes a row, and where it finds none
+    {
+        auto& list = AddList(100, 8);
+        int order[] = {sideways != 0 ? 1 : 0, sideways != 0 ? 0 : 1, 2, 3, 4, 5, 6, 7};
+        list.SetColumnOrderArray(8, order);
+        list.PerformVScroll(5, 0);
+        list.PerformHScroll(sideways, 0);
+        std::set<int> known; // to a parent that waits for the final step
+        Host().hook = [&](ToldMessage& message) {
+            if (message.message == WM_APP)
+            {
+                list.SetItemState(20, LVIS_SELECTED, LVIS_SELECTED);
+            }
+            const auto& change = *reinterpret_cast<const NMLISTVIEW*>(message.lParam);
+            if (message.code == UINT(LVN_ITEMCHANGED) && list.IsSelChanging() == 0 &&
+                ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) != 0)
+            {
+                known = list.Selected();
+            }
+        };
+        const CPoint point = list.RowPoint(7);
+        Host().PostMessage(WM_APP);
+        list.PostMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+        list.SendMessage(WM_RBUTTONDOWN, 0, MAKELPARAM(point.x, point.y));
+        EXPECT_EQ(known, (std::set<int>{7, 20})) << sideways;
+        EXPECT_EQ(list.Selected(), known);
+        Host().hook = nullptr;
+        Remove(list);
+    }
+}
+
 TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
 {
     auto& list = AddList(100, 8);
