@@ -48,11 +48,16 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
     }
     // What the parent finds selected when it shows a menu: with a key what was, as the platform
     // does.
+    const bool kept = (flags & (MK_CONTROL | MK_SHIFT)) != 0 || IsSelected(hit.drawn);
+    if (!alive)
+    {
+        return;
+    }
     if (hit.drawn < 0)
     {
         ClearSelection();
     }
-    else if ((flags & (MK_CONTROL | MK_SHIFT)) != 0 || IsSelected(hit.drawn))
+    else if (kept)
     {
         SetItemState(hit.drawn, LVIS_FOCUSED, LVIS_FOCUSED);
     }
@@ -86,10 +91,11 @@ bool CCustomListCtrl::TakeFocusForPress()
 // of the list, also where its bar goes on beside the last column.
 CCustomListCtrl::PressHit CCustomListCtrl::HitBy(const CPoint& point)
 {
+    const WindowAlive alive(*this);
     LVHITTESTINFO unscrolled = {};
     unscrolled.pt = point;
     const int platform = int(Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&unscrolled)));
-    if (m_drawOffset == CPoint(0, 0))
+    if (!alive || m_drawOffset == CPoint(0, 0))
     {
         return {platform, platform, false};
     }
@@ -211,7 +217,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     }
     const int before = int(Ask(LVM_GETSELECTIONMARK));
     m_selChanging = TRUE;
-    if (hit.scrolled && hit.platform >= 0 && IsSelected(hit.platform))
+    if (hit.scrolled && hit.platform >= 0 && IsSelected(hit.platform) && alive)
     {
         // The platform would leave the selection as it is until the button goes up, and then select
         // this row, whatever has been selected meanwhile.
@@ -221,18 +227,14 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     {
         Default();
     }
+    int picked = alive && hit.platform >= 0 && IsSelected(hit.platform) ? hit.platform : -1;
+    if (alive && picked < 0 && Ask(LVM_GETSELECTEDCOUNT) > 0)
+    {
+        picked = NextRow(-1, LVNI_SELECTED);
+    }
     if (!alive)
     {
         return;
-    }
-    int picked = -1;
-    if (hit.platform >= 0 && IsSelected(hit.platform))
-    {
-        picked = hit.platform;
-    }
-    else if (Ask(LVM_GETSELECTEDCOUNT) > 0)
-    {
-        picked = NextRow(-1, LVNI_SELECTED);
     }
     // With the keys the platform has picked the right rows: one of them is exchanged for itself,
     // since the parent waits for the final step. The mark stays, as it does beside all rows, and so
