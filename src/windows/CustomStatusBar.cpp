@@ -19,6 +19,7 @@ BEGIN_MESSAGE_MAP(CCustomStatusBar, CStatusBarCtrl)
     ON_WM_SIZE()
     ON_WM_WINDOWPOSCHANGED()
     ON_MESSAGE(WM_SETFONT, &CCustomStatusBar::OnSetFont)
+    ON_MESSAGE(WM_SETTEXT, &CCustomStatusBar::OnSetPaneText)
     ON_MESSAGE(SB_SETTEXTA, &CCustomStatusBar::OnSetPaneText)
     ON_MESSAGE(SB_SETTEXTW, &CCustomStatusBar::OnSetPaneText)
     ON_MESSAGE(SB_GETRECT, &CCustomStatusBar::OnGetPaneRect)
@@ -224,7 +225,12 @@ LRESULT CCustomStatusBar::OnGetPaneRect(WPARAM pane, LPARAM place)
     {
         return Default();
     }
-    const std::vector<CRect> places = PanePlaces();
+    const WindowAlive alive(*this); // it may end in each question
+    std::vector<CRect> places = PanePlaces();
+    if (alive && !places.empty() && IsSimple() && alive)
+    {
+        places.resize(size_t(std::max(0, GetParts(0, nullptr))), places.front());
+    }
     if (pane >= places.size() || place == 0)
     {
         return FALSE;

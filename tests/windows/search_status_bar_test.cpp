@@ -236,10 +236,17 @@ TEST_F(StatusBarTest, AnOwnerThatPlacesItGetsItsPanesWhereTheyAre)
     bar.MoveWindow(CRect(0, 0, 400, 34));
     EXPECT_EQ(letters(230, 300), 0) << "and goes there with it";
     EXPECT_GT(letters(330, 400), 100);
-    CRect last;
-    ASSERT_TRUE(bar.GetRect(1, &last)); // for what the host puts there
-    EXPECT_EQ(last.BottomRight(), CPoint(400, 34));
-    EXPECT_FALSE(bar.GetRect(2, &last));
+    bar.SetWindowText(""); // the first pane's
+    EXPECT_EQ(letters(0, 100), 0);
+    for (const bool simple : {false, true}) // whose one place is every pane's
+    {
+        bar.SetSimple(simple);
+        CRect last;
+        ASSERT_TRUE(bar.GetRect(1, &last)) << simple; // for what the host puts there
+        EXPECT_EQ(last.BottomRight(), CPoint(400, 34));
+        EXPECT_EQ(last.left < 100, simple);
+        EXPECT_FALSE(bar.GetRect(2, &last));
+    }
 }
 
 TEST_F(StatusBarTest, ItMayGoWhenItIsAskedForWhatItShows)
