@@ -16,7 +16,7 @@
 //
 // A bar that its host gives the focus, or WS_TABSTOP, is worked by keys in every mode: arrows, Home
 // and End go from one button that can be pressed to another, Space and Enter click it. A press does
-// not give the focus.
+// not give the focus. A platform whose bar asks for the arrows works it by keys of its own.
 class ONBOARDUI_API CustomToolbar : public CToolBar
 {
     DECLARE_DYNAMIC(CustomToolbar)
@@ -78,6 +78,7 @@ private:
     bool IsPressable(int button) const;
     int FocusedButton() const;
     void FocusNext(int from, int step);
+    void StepFocus(int step);
     void FocusButton(int button);
     void InvalidateFocus();
     void Press(int button);

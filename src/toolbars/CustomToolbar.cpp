@@ -45,6 +45,7 @@ CustomToolbar::CustomToolbar()
 void CustomToolbar::PreSubclassWindow()
 {
     m_enlarged = CSize();
+    m_focused = -1;
     CToolBar::PreSubclassWindow();
 }
 

@@ -5,6 +5,8 @@
 #include "access/Strip.h"
 #include "modes/WindowAlive.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr UINT WasDownBefore = 0x4000; // in the flags of a key message
@@ -25,11 +27,16 @@ bool CustomToolbar::IsPressable(int button) const
            (data.fsState & (TBSTATE_ENABLED | TBSTATE_HIDDEN)) == TBSTATE_ENABLED;
 }
 
-// The button that shows the focus, or -1. One that was disabled keeps it until a key goes on.
+// The button that shows the focus, or -1. One that was disabled keeps it until a key goes on; a
+// place that shows no button any more has none.
 int CustomToolbar::FocusedButton() const
 {
     const int focused = ::GetFocus() == GetSafeHwnd() ? m_focused : -1;
-    return focused < GetCount() ? focused : -1; // the bar may end in the question
+    TBBUTTON data = {};
+    const bool shows = focused >= 0 &&
+                       SendMessage(TB_GETBUTTON, WPARAM(focused), LPARAM(&data)) != 0 &&
+                       (data.fsStyle & BTNS_SEP) == 0 && (data.fsState & TBSTATE_HIDDEN) == 0;
+    return shows ? focused : -1; // the bar may end in the question
 }
 
 // To the next button that can be pressed; where there is none the focus stays.
@@ -37,7 +44,8 @@ void CustomToolbar::FocusNext(int from, int step)
 {
     const WindowAlive alive(*this);
     const int count = GetCount();
-    for (int button = from + step; alive && button >= 0 && button < count; button += step)
+    for (int button = std::min(from, count) + step; alive && button >= 0 && button < count;
+         button += step)
     {
         const bool found = IsPressable(button);
         if (found && alive)
@@ -45,6 +53,19 @@ void CustomToolbar::FocusNext(int from, int step)
             FocusButton(button);
             return;
         }
+    }
+}
+
+// From the place that has the focus, or had it: from one that shows no button any more also the
+// other way.
+void CustomToolbar::StepFocus(int step)
+{
+    const WindowAlive alive(*this);
+    const int place = m_focused;
+    FocusNext(place, step);
+    if (alive && FocusedButton() < 0 && alive)
+    {
+        FocusNext(place, -step);
     }
 }
 
@@ -83,21 +104,30 @@ void CustomToolbar::OnPaint()
         return;
     }
     const WindowAlive alive(*this);
-    CRgn painted; // what was inverted before is inverted anew only there
-    painted.CreateRectRgn(0, 0, 0, 0);
-    ::GetUpdateRgn(m_hWnd, painted, FALSE);
-    Default();
-    const int button = alive && WorksKeys() ? FocusedButton() : -1;
+    const int button = WorksKeys() ? FocusedButton() : -1;
     CRect place(0, 0, 0, 0);
     if (alive && button >= 0)
     {
         GetItemRect(button, &place);
     }
-    if (alive && !place.IsRectEmpty())
+    if (!alive)
     {
-        place.DeflateRect(3, 3);
+        return;
+    }
+    place.DeflateRect(3, 3);
+    CRgn painted;
+    painted.CreateRectRgn(0, 0, 0, 0);
+    ::GetUpdateRgn(m_hWnd, painted, FALSE);
+    const bool shows = !place.IsRectEmpty() && painted.RectInRegion(&place);
+    if (shows)
+    {
+        // It inverts what stands there, which is to be the ground: not every button fills its own.
+        InvalidateRect(&place);
+    }
+    Default();
+    if (alive && shows)
+    {
         CClientDC dc(this);
-        dc.SelectClipRgn(&painted);
         dc.DrawFocusRect(&place);
     }
 }
@@ -134,11 +164,11 @@ void CustomToolbar::OnKeyDown(UINT key, UINT repeat, UINT flags)
     {
     case VK_LEFT:
     case VK_UP:
-        FocusNext(button, -1);
+        StepFocus(-1);
         break;
     case VK_RIGHT:
     case VK_DOWN:
-        FocusNext(button, 1);
+        StepFocus(1);
         break;
     case VK_HOME:
         FocusNext(-1, 1);
@@ -189,7 +219,7 @@ void CustomToolbar::OnSetFocus(CWnd* old)
     }
     else
     {
-        FocusNext(-1, 1);
+        StepFocus(1);
     }
 }
 

@@ -295,25 +295,44 @@ TEST_P(KeyboardAlone, ReachesAndPressesWhatCanBePressedOfAToolBar)
         EXPECT_EQ(Settled(bar) != before, was != key.told) << "the focus is not seen";
     }
     EXPECT_EQ(stage.answered, "701 704 701 ");
+    bar.ModifyStyle(0, TBSTYLE_FLAT); // whose buttons fill no ground
+    Repaint(bar);
     const Pixels whole = Settled(bar);
-    const CRect part(5, 0, 30, 20);
-    bar.InvalidateRect(&part);
-    EXPECT_EQ(Settled(bar), whole) << "what shows the focus is painted once";
+    CRect part;
+    bar.GetItemRect(1, &part);
+    part.right -= 20;
+    for (const BOOL erase : {TRUE, FALSE})
+    {
+        bar.InvalidateRect(&part, erase);
+        EXPECT_EQ(Settled(bar), whole) << "what shows the focus is painted once, " << erase;
+    }
     bar.SendMessage(TB_ENABLEBUTTON, FirstTool + 1, FALSE);
     TypeKey(VK_SPACE);
     TypeKey(VK_ESCAPE);
     EXPECT_EQ(stage.answered, "701 704 701 Cancel ");
     TypeKey(VK_RIGHT);
-    TypeKey(VK_TAB, VK_SHIFT);
-    TypeKey(VK_TAB);
-    EXPECT_EQ(ToldOfFocus(), "Chart checked") << "where it was";
+    const auto toldAfterReturn = [] {
+        TypeKey(VK_TAB, VK_SHIFT);
+        TypeKey(VK_TAB);
+        return ToldOfFocus();
+    };
+    EXPECT_EQ(toldAfterReturn(), "Chart checked") << "where it was";
+    bar.SendMessage(TB_HIDEBUTTON, FirstTool + 4, TRUE);
+    TypeKey(VK_RETURN); // no button's, so it is the dialog's
+    EXPECT_EQ(toldAfterReturn(), "Last");
+    bar.SendMessage(TB_HIDEBUTTON, FirstTool + 5, TRUE);
+    bar.SendMessage(TB_HIDEBUTTON, FirstTool + 4, FALSE);
+    EXPECT_EQ(toldAfterReturn(), "Chart checked");
+    bar.SendMessage(TB_ENABLEBUTTON, FirstTool + 1, TRUE);
+    bar.SubclassWindow(bar.UnsubclassWindow());
+    EXPECT_EQ(toldAfterReturn(), "Plan") << "the first of the object's next bar";
     while (bar.GetCount() > 0)
     {
         bar.SendMessage(TB_DELETEBUTTON, 0);
     }
     TypeKey(VK_RIGHT);
     TypeKey(VK_RETURN);
-    EXPECT_EQ(stage.answered, "701 704 701 Cancel OK ") << "nothing to press";
+    EXPECT_EQ(stage.answered, "701 704 701 Cancel OK OK ") << "nothing to press";
 }
 
 TEST_P(KeyboardAlone, HasTheFocusInSightOnAFormLargerThanItsPlace)
