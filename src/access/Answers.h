@@ -144,6 +144,24 @@ HRESULT GiveLabelsName(std::type_identity_t<Base>& window, const VARIANT& child,
     return named ? *named : window.Base::get_accName(child, name);
 }
 
+// The same of an edit. The platform names one by the static before it, whatever that shows: it is
+// not asked where a picture or a swatch stands there.
+inline HRESULT GiveEditsName(CEdit& edit, const VARIANT& child, BSTR* name)
+{
+    const HWND label = IsSelf(child) ? LabelBefore(edit) : nullptr;
+    if (label == nullptr)
+    {
+        return edit.CEdit::get_accName(child, name);
+    }
+    const CString text = LabelText(label);
+    if (text.IsEmpty())
+    {
+        *name = nullptr;
+        return S_FALSE;
+    }
+    return Give(*name, text);
+}
+
 // Whether a point of the screen is in a window's client area; gives it in client coordinates.
 inline bool IsInClient(const CWnd& window, CPoint& point)
 {

@@ -10,7 +10,7 @@
 
 HRESULT CCustomEdit::get_accName(VARIANT child, BSTR* name)
 {
-    return access::GiveLabelsName<CEdit>(*this, child, name);
+    return access::GiveEditsName(*this, child, name);
 }
 
 HRESULT CCustomEdit::get_accRole(VARIANT child, VARIANT* role)
@@ -31,7 +31,7 @@ HRESULT CCustomEdit::get_accState(VARIANT child, VARIANT* state)
 
 HRESULT ColorEdit::get_accName(VARIANT child, BSTR* name)
 {
-    return access::GiveLabelsName<CEdit>(*this, child, name);
+    return access::GiveEditsName(*this, child, name);
 }
 
 HRESULT ColorEdit::get_accRole(VARIANT child, VARIANT* role)
@@ -54,7 +54,7 @@ HRESULT EditWithPrompt::get_accRole(VARIANT child, VARIANT* role)
 
 HRESULT QuixEdit::get_accName(VARIANT child, BSTR* name)
 {
-    return access::GiveLabelsName<CEdit>(*this, child, name);
+    return access::GiveEditsName(*this, child, name);
 }
 
 HRESULT QuixEdit::get_accRole(VARIANT child, VARIANT* role)

@@ -392,6 +392,9 @@ TEST_P(KeyboardAlone, ReadsWindowsOfParts)
     EXPECT_EQ(Read(*Reached(edit), CHILDID_SELF).state, 0);
     edit.SetFauxReadOnly();
     EXPECT_EQ(Read(*Reached(edit), CHILDID_SELF).state, STATE_SYSTEM_READONLY);
+    Add<CCustomStatic>(CRect(280, 160, 300, 180), SS_ICON, "\xFF\x16\x27"); // none, too
+    EXPECT_EQ(Read(*Reached(Add<CCustomEdit>(CRect(300, 160, 400, 180))), CHILDID_SELF).name,
+              "(none)");
 
     CustomToolbar bar;
     ASSERT_TRUE(bar.CreateEx(&Host(), TBSTYLE_FLAT | TBSTYLE_LIST, WS_CHILD | WS_VISIBLE));
