@@ -99,7 +99,6 @@ void CCustomButton::PreSubclassWindow()
 // disabled parent has cut off: none of them sends the button a message.
 std::optional<bool> CCustomButton::FollowMode()
 {
-    const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
     if (!NoteMode())
     {
         return std::nullopt;
@@ -109,7 +108,7 @@ std::optional<bool> CCustomButton::FollowMode()
     {
         return std::nullopt;
     }
-    return onBoard;
+    return COnBoardUIGeneral::InOnBoardMode(); // may be another by now
 }
 
 // The focus is followed on-board here and else by the platform's button: what has become of it
