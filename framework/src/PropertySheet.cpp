@@ -184,8 +184,21 @@ CPropertyPage* CPropertySheet::GetPage(int page) const
 
 int CPropertySheet::GetActiveIndex() const
 {
-    const CTabCtrl* const tabs = m_hWnd != nullptr ? GetTabControl() : nullptr;
-    return tabs == nullptr ? int(m_psh.nStartPage) : tabs->GetCurSel();
+    if (m_hWnd == nullptr)
+    {
+        return int(m_psh.nStartPage);
+    }
+    const framework::StillThere here(*this); // it may end in the question
+    const CTabCtrl* const tabs = GetTabControl();
+    return !here ? -1 : tabs == nullptr ? int(m_psh.nStartPage) : tabs->GetCurSel();
+}
+
+CPropertyPage* CPropertySheet::GetActivePage() const
+{
+    const bool asks = m_hWnd != nullptr;
+    const framework::StillThere here(*this);
+    const int active = GetActiveIndex();
+    return !asks || here ? GetPage(active) : nullptr;
 }
 
 CTabCtrl* CPropertySheet::GetTabControl() const

@@ -1,5 +1,6 @@
 #include <afxdlgs.h>
 
+#include "support/Acting.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
 #include "support/forms.h"
@@ -169,6 +170,14 @@ TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwnerUntilItIsClosed)
         EXPECT_EQ(sheet.GetActivePage(), &second);
         ::SendMessage(sheet, byFrame ? WM_CLOSE : UINT(PSM_PRESSBUTTON), byFrame ? 0 : PSBTN_OK, 0);
         EXPECT_EQ(sheet.gone, 1) << byFrame;
+    }
+    for (const bool byIndex : {true, false})
+    {
+        auto* const sheet =
+            new Acting<Sheet>(&Host(), std::initializer_list<CPropertyPage*>{&first});
+        ASSERT_TRUE(sheet->Create(&Host()));
+        sheet->ActIn(PSM_GETTABCONTROL, [sheet] { delete sheet; }); // it may end as it is asked
+        EXPECT_TRUE(byIndex ? sheet->GetActiveIndex() == -1 : sheet->GetActivePage() == nullptr);
     }
 }
 

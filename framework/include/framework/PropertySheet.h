@@ -62,7 +62,7 @@ public:
     void RemovePage(int page);
     int GetPageCount() const { return int(m_pages.size()); }
     CPropertyPage* GetPage(int page) const;
-    CPropertyPage* GetActivePage() const { return GetPage(GetActiveIndex()); }
+    CPropertyPage* GetActivePage() const;
     int GetActiveIndex() const;
     BOOL SetActivePage(int page);
     CTabCtrl* GetTabControl() const;
