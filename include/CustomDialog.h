@@ -142,7 +142,7 @@ public:
     // @}
 
 protected:
-    std::shared_ptr<dialogs::Opening> m_opening; // the template, while the dialog opens from it
+    std::shared_ptr<dialogs::Opening> m_opening; // the template, where it opened on-board
     IAppAccess* m_host;
     int m_frameWidth;
     int m_frameHeight;
