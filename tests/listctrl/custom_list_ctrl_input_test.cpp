@@ -420,9 +420,9 @@ TEST_F(ListCtrlOnBoard, WhatIsSelectedDuringARightPressIsToldWithAFinalStep)
             {
                 list.SetItemState(20, LVIS_SELECTED, LVIS_SELECTED);
             }
-            const auto& change = *reinterpret_cast<const NMLISTVIEW*>(message.lParam);
+            const auto* const change = reinterpret_cast<const NMLISTVIEW*>(message.lParam);
             if (message.code == UINT(LVN_ITEMCHANGED) && list.IsSelChanging() == 0 &&
-                ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) != 0)
+                ((change->uNewState ^ change->uOldState) & LVIS_SELECTED) != 0)
             {
                 known = list.Selected();
             }
