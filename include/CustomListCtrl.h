@@ -253,12 +253,15 @@ private:
     };
 
     // The row that a press hits, among the platform's unscrolled rows and among those that are
-    // drawn; -1: none. Whether they differ.
+    // drawn; -1: none. Whether they differ, whether it is a check box of the drawn one, and where
+    // the platform is told of it.
     struct PressHit
     {
-        int platform;
-        int drawn;
-        bool scrolled;
+        int platform = -1;
+        int drawn = -1;
+        bool scrolled = false;
+        bool onBox = false;
+        CPoint press;
     };
     // What was selected before the platform was let see a press.
     struct PressNote
@@ -272,11 +275,12 @@ private:
 
     // What it has in common with every control that has faux bars: mode, frame and presses.
     class Bars;
+    class ByPointer;
 
     bool m_creating = false; // the platform's part of the window is not made yet
     bool m_settling = false;
     bool m_fitting = false;
-    bool m_activating = false; // by a double click
+    bool m_activating = false; // by the pointer
     int m_fittedColumn = -1;   // the last column, once it fills the list
     CRect m_fittedTo;          // client width and place of that column when it was fitted
     std::vector<ColumnWidth> m_columnWidths;

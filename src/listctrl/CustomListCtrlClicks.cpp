@@ -8,6 +8,32 @@
 
 // Presses ----------------------------------------------------------------------------------------
 
+// While it lives, what is activated is so by the pointer: it names an unscrolled row. A handler may
+// let another one live.
+class CCustomListCtrl::ByPointer
+{
+public:
+    explicit ByPointer(CCustomListCtrl& list)
+        : m_list(list)
+        , m_alive(list)
+        , m_outer(std::exchange(list.m_activating, true))
+    {}
+    ~ByPointer()
+    {
+        if (m_alive)
+        {
+            m_list.m_activating = m_outer;
+        }
+    }
+    ByPointer(const ByPointer&) = delete;
+    ByPointer& operator=(const ByPointer&) = delete;
+
+private:
+    CCustomListCtrl& m_list;
+    const WindowAlive m_alive;
+    const bool m_outer;
+};
+
 void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
 {
     if (!InOnBoard())
@@ -15,18 +41,20 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
         Default();
         return;
     }
+    const ByPointer by(*this);
     SelectClicked(point, flags);
+}
+
+void CCustomListCtrl::OnLButtonUp(UINT, CPoint)
+{
+    const ByPointer by(*this);
+    ReleaseButton();
 }
 
 void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 {
-    const WindowAlive alive(*this);
-    const bool outer = std::exchange(m_activating, true); // a handler may let another one through
+    const ByPointer by(*this);
     Default();
-    if (alive)
-    {
-        m_activating = outer;
-    }
 }
 
 void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
@@ -97,12 +125,27 @@ CCustomListCtrl::PressHit CCustomListCtrl::HitBy(const CPoint& point)
     const int platform = int(Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&unscrolled)));
     if (!alive || m_drawOffset == CPoint(0, 0))
     {
-        return {platform, platform, false};
+        return {platform, platform, false, false, point};
     }
     const bool full = (Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_FULLROWSELECT) != 0;
     const bool hits = full || ColumnAt(point.x - int(m_drawOffset.x)) == 0;
     const int drawn = hits ? RowAt(full ? CPoint(int(m_drawOffset.x), int(point.y)) : point) : -1;
-    return {platform, drawn, TopRow() != 0 || drawn != platform};
+    PressHit hit = {platform, drawn, TopRow() != 0 || drawn != platform, false, point};
+    if ((Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_CHECKBOXES) != 0 && platform >= 0)
+    {
+        LVHITTESTINFO box = {};
+        box.pt = CPoint(int(point.x - m_drawOffset.x), int(point.y));
+        Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&box));
+        hit.onBox = drawn >= 0 && box.flags == LVHT_ONITEMSTATEICON;
+        // The platform would change the box of its own row: what it gets is moved beside it.
+        CRect text;
+        if (alive && unscrolled.flags == LVHT_ONITEMSTATEICON &&
+            GetItemRect(platform, &text, LVIR_LABEL))
+        {
+            hit.press.x = text.left + 1;
+        }
+    }
+    return hit;
 }
 
 // Lets the platform do what belongs to a press besides selecting: wait for the button, begin drags,
@@ -194,7 +237,11 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
 {
     const WindowAlive alive(*this);
     const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
-    if (!alive)
+    if (alive && hit.onBox)
+    {
+        SetCheck(hit.drawn, !GetCheck(hit.drawn));
+    }
+    if (!alive || hit.onBox)
     {
         return;
     }
@@ -204,7 +251,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     if (several && hit.scrolled)
     {
         // What is selected so far is known by rows that the platform would take for others.
-        LetPlatformPress(WM_LBUTTONDOWN, hit, point);
+        LetPlatformPress(WM_LBUTTONDOWN, hit, hit.press);
         if (alive)
         {
             SelectRow(hit.drawn, (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
@@ -225,7 +272,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     }
     if (alive)
     {
-        Default();
+        Ask(WM_LBUTTONDOWN, flags, MAKELPARAM(hit.press.x, hit.press.y));
     }
     int picked = alive && hit.platform >= 0 && IsSelected(hit.platform) ? hit.platform : -1;
     if (alive && picked < 0 && Ask(LVM_GETSELECTEDCOUNT) > 0)

@@ -56,11 +56,6 @@ void CCustomListCtrl::ProcessHScroll()
     m_bars->Press(SB_HORZ);
 }
 
-void CCustomListCtrl::OnLButtonUp(UINT, CPoint)
-{
-    ReleaseButton();
-}
-
 void CCustomListCtrl::OnNcLButtonUp(UINT, CPoint)
 {
     ReleaseButton();

@@ -463,19 +463,45 @@ TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
     }
 }
 
+TEST_F(ListCtrlOnBoard, APressOnACheckBoxChangesThatOfTheDrawnRow)
+{
+    auto& list = AddList(100, 8);
+    list.SetExtendedStyle(LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
+    for (const auto& [down, across] : {std::pair(5, 0), {0, 1}, {5, 1}, {5, 0}})
+    {
+        SCOPED_TRACE(testing::Message() << down << ' ' << across);
+        list.PerformVScroll(down, list.m_vBar.GetScrollPos());
+        list.PerformHScroll(across, list.m_hBar.GetScrollPos());
+        const int row = list.TopRow() + 2;
+        Click(ClientPoint(list, list.RowPoint(row, 7)));
+        list.SetItemState(-1, 0, 3);
+        Click(ClientPoint(list, list.RowPoint(row + 1, 40)));
+        EXPECT_EQ(list.Selected(), std::set<int>{row + 1});
+        for (int each = 0; each < 12; ++each)
+        {
+            EXPECT_EQ(list.GetCheck(each), across == 0 && each == row) << each;
+            list.SetCheck(each, FALSE);
+        }
+    }
+}
+
 TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
 {
     struct Heir : ListForTests
     {
         NMITEMACTIVATE byKey = {};
-        std::vector<int> heard; // the rows of it that the parent got
+        NMITEMACTIVATE byClick = {};
+        std::vector<int> heard; // the rows of them that the parent got
 
         BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
         {
             const BOOL taken = ListForTests::OnChildNotify(message, wParam, lParam, result);
-            if (!taken && lParam == reinterpret_cast<LPARAM>(&byKey))
+            for (const NMITEMACTIVATE* each : {&byKey, &byClick})
             {
-                heard.push_back(byKey.iItem);
+                if (!taken && lParam == reinterpret_cast<LPARAM>(each))
+                {
+                    heard.push_back(each->iItem);
+                }
             }
             return taken;
         }
@@ -503,6 +529,17 @@ TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
         Press();
         Release();
         EXPECT_THAT(std::exchange(list.heard, {}), ElementsAre(row)) << mode;
+        // Where one click activates, some platforms tell of the unscrolled row.
+        Host().hook = [&](ToldMessage& message) {
+            if (message.code == UINT(NM_CLICK))
+            {
+                list.byClick.hdr = list.byKey.hdr;
+                list.byClick.iItem = mode == STD ? 8 : 3;
+                Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&list.byClick));
+            }
+        };
+        Click(ClientPoint(list, list.RowPoint(8)));
+        EXPECT_THAT(std::exchange(list.heard, {}), ElementsAre(8)) << mode;
     }
 }
 
