@@ -169,6 +169,7 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg LRESULT OnMouseHover(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg void OnCancelMode();
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);

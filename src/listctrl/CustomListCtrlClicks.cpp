@@ -2,6 +2,7 @@
 
 #include "CustomListCtrl.h"
 #include "listctrl/ListLayout.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
 #include <utility>
@@ -101,6 +102,29 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
     {
         Invalidate();
     }
+}
+
+// The platform would select its unscrolled row.
+LRESULT CCustomListCtrl::OnMouseHover(WPARAM, LPARAM lParam)
+{
+    if (!InOnBoard() || m_drawOffset == CPoint(0, 0))
+    {
+        return Default();
+    }
+    const WindowAlive alive(*this);
+    NMHDR told = {};
+    told.code = NM_HOVER;
+    const bool taken = TellNotify(GetSafeHwnd(), told) != 0;
+    if (!alive || taken || (Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_TRACKSELECT) == 0)
+    {
+        return 0;
+    }
+    const PressHit hit = TakeFocusForPress() ? HitBy(CPoint(lParam)) : PressHit();
+    if (alive && hit.drawn >= 0)
+    {
+        SelectRow(hit.drawn, false, false);
+    }
+    return 0;
 }
 
 // The focus comes first: the platform's list does not survive its end in the middle of its click.

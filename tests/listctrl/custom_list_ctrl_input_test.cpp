@@ -485,6 +485,29 @@ TEST_F(ListCtrlOnBoard, APressOnACheckBoxChangesThatOfTheDrawnRow)
     }
 }
 
+TEST_F(ListCtrlOnBoard, ARestingPointerSelectsTheDrawnRowUnlessTheParentObjects)
+{
+    auto& list = AddList(100);
+    list.SetExtendedStyle(LVS_EX_TRACKSELECT | LVS_EX_FULLROWSELECT);
+    list.SendMessage(LVM_SETHOVERTIME, 0, 20);
+    list.PerformVScroll(5, 0);
+    int told = 0;
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == UINT(NM_HOVER))
+        {
+            message.answer = told++;
+        }
+    };
+    for (const int row : {7, 8})
+    {
+        MoveTo(ClientPoint(list, list.RowPoint(row)));
+        MoveTo(ClientPoint(list, list.RowPoint(row, 24)));
+        EXPECT_TRUE(PumpUntil([&] { return told == row - 6; }));
+        PumpAll();
+        EXPECT_EQ(list.Selected(), std::set<int>{7}) << row;
+    }
+}
+
 TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
 {
     struct Heir : ListForTests
