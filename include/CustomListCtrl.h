@@ -289,6 +289,7 @@ private:
     std::optional<RowSpan> m_paintedRows; // while they are being painted
     int m_focusRow = -1;                  // on-board, as last drawn
     std::optional<PressNote> m_pressNote; // until the press is taken back
+    int m_pressedRow = -1; // to be selected alone when the button goes up, unless it is dragged
     Measured m_measured;
     std::unique_ptr<Bars> m_bars;
 

@@ -186,6 +186,7 @@ void CCustomListCtrl::ForgetWindow()
     m_paintedRows.reset();
     m_focusRow = -1;
     m_pressNote.reset();
+    m_pressedRow = -1;
     m_measured = Measured();
     m_header.LeaveWindow();
 }

@@ -48,8 +48,13 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
 
 void CCustomListCtrl::OnLButtonUp(UINT, CPoint)
 {
+    const WindowAlive alive(*this);
     const ByPointer by(*this);
-    ReleaseButton();
+    SelectRow(std::exchange(m_pressedRow, -1), false, false);
+    if (alive)
+    {
+        ReleaseButton();
+    }
 }
 
 void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
@@ -272,11 +277,20 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     // The keys only say something where several rows can be selected.
     const bool several =
         (flags & (MK_CONTROL | MK_SHIFT)) != 0 && (GetStyle() & LVS_SINGLESEL) == 0;
-    if (several && hit.scrolled)
+    // One of those that are selected together is alone only when the button goes up: until then
+    // they may be dragged.
+    const bool together = !several && hit.drawn >= 0 && IsSelected(hit.drawn) && alive &&
+                          Ask(LVM_GETSELECTEDCOUNT) > 1;
+    m_pressedRow = together && hit.scrolled ? hit.drawn : -1;
+    if ((several || together) && hit.scrolled)
     {
         // What is selected so far is known by rows that the platform would take for others.
         LetPlatformPress(WM_LBUTTONDOWN, hit, hit.press);
-        if (alive)
+        if (alive && together)
+        {
+            SetItemState(hit.drawn, LVIS_FOCUSED, LVIS_FOCUSED);
+        }
+        else if (alive)
         {
             SelectRow(hit.drawn, (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
         }
@@ -368,6 +382,7 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
     // Of a drag no more is told than its row.
     const bool drag = told.hdr.code == UINT(LVN_BEGINDRAG) || told.hdr.code == UINT(LVN_BEGINRDRAG);
     int row = told.iItem < 0 ? -1 : told.iItem + TopRow();
+    m_pressedRow = drag ? -1 : m_pressedRow;
     if (!drag && m_drawOffset.x != 0)
     {
         told.iSubItem = ColumnAt(told.ptAction.x - int(m_drawOffset.x));

@@ -82,6 +82,7 @@ LRESULT CCustomListCtrl::OnNCMouseLeave(WPARAM, LPARAM)
 
 void CCustomListCtrl::OnCancelMode()
 {
+    m_pressedRow = -1;
     m_bars->CutOff();
 }
 

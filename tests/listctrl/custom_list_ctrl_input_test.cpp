@@ -258,6 +258,16 @@ TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlac
         EXPECT_EQ(list.Selected(), std::set<int>{row});
         EXPECT_EQ(list.Focused(), row++);
     }
+    // Those that are selected together are dragged together.
+    const std::set<int> together = {row, row + 1, row + 3};
+    list.SelectOnly(together);
+    Press(ClientPoint(list, list.RowPoint(row + 1)));
+    EXPECT_EQ(list.Focused(), row + 1);
+    DragTo(ClientPoint(list, CPoint(90, 90)));
+    EXPECT_EQ(list.Selected(), together);
+    EXPECT_EQ(list.clicked.back(), std::tuple(row + 1, 0, 0));
+    Release();
+    EXPECT_EQ(list.Selected(), together);
     // Beside the rows the mark stays for a press with Shift.
     list.PerformVScroll(SB_BOTTOM);
     Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
