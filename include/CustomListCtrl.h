@@ -254,15 +254,15 @@ private:
     };
 
     // The row that a press hits, among the platform's unscrolled rows and among those that are
-    // drawn; -1: none. Whether they differ, whether it is a check box of the drawn one, and where
-    // the platform is told of it.
+    // drawn; -1: none. Whether they differ, and whether it hits the check box of either where they
+    // may.
     struct PressHit
     {
         int platform = -1;
         int drawn = -1;
         bool scrolled = false;
         bool onBox = false;
-        CPoint press;
+        bool onPlatformBox = false;
     };
     // What was selected before the platform was let see a press.
     struct PressNote
@@ -289,6 +289,8 @@ private:
     std::optional<RowSpan> m_paintedRows; // while they are being painted
     int m_focusRow = -1;                  // on-board, as last drawn
     std::optional<PressNote> m_pressNote; // until the press is taken back
+    std::optional<NMITEMACTIVATE> m_heldActivation; // until the selection is final
+    int m_pressedTop = 0;  // the first row in sight at the last press
     int m_pressedRow = -1; // to be selected alone when the button goes up, unless it is dragged
     Measured m_measured;
     std::unique_ptr<Bars> m_bars;
@@ -353,6 +355,7 @@ private:
     bool MoveByPage(UINT key, UINT flags);
     bool TakeFocusForPress();
     PressHit HitBy(const CPoint& point);
+    void PressBox(const PressHit& hit, const CPoint& point, UINT flags);
     void LetPlatformPress(UINT message, const PressHit& hit, const CPoint& point);
     void TakeBackPress();
     void SelectClicked(const CPoint& point, UINT flags);

@@ -186,7 +186,9 @@ void CCustomListCtrl::ForgetWindow()
     m_paintedRows.reset();
     m_focusRow = -1;
     m_pressNote.reset();
+    m_heldActivation.reset();
     m_pressedRow = -1;
+    m_pressedTop = 0;
     m_measured = Measured();
     m_header.LeaveWindow();
 }

@@ -42,8 +42,15 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
         Default();
         return;
     }
+    const WindowAlive alive(*this);
     const ByPointer by(*this);
+    m_heldActivation.reset();
     SelectClicked(point, flags);
+    if (alive && m_heldActivation)
+    {
+        NMITEMACTIVATE told = *std::exchange(m_heldActivation, std::nullopt);
+        TellNotify(GetSafeHwnd(), told.hdr);
+    }
 }
 
 void CCustomListCtrl::OnLButtonUp(UINT, CPoint)
@@ -80,6 +87,7 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
     {
         return;
     }
+    m_pressedTop = TopRow();
     // What the parent finds selected when it shows a menu: with a key what was, as the platform
     // does.
     const bool kept = (flags & (MK_CONTROL | MK_SHIFT)) != 0 || IsSelected(hit.drawn);
@@ -154,25 +162,19 @@ CCustomListCtrl::PressHit CCustomListCtrl::HitBy(const CPoint& point)
     const int platform = int(Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&unscrolled)));
     if (!alive || m_drawOffset == CPoint(0, 0))
     {
-        return {platform, platform, false, false, point};
+        return {platform, platform};
     }
     const bool full = (Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_FULLROWSELECT) != 0;
     const bool hits = full || ColumnAt(point.x - int(m_drawOffset.x)) == 0;
     const int drawn = hits ? RowAt(full ? CPoint(int(m_drawOffset.x), int(point.y)) : point) : -1;
-    PressHit hit = {platform, drawn, TopRow() != 0 || drawn != platform, false, point};
-    if ((Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_CHECKBOXES) != 0 && platform >= 0)
+    PressHit hit = {platform, drawn, TopRow() != 0 || drawn != platform};
+    if ((Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_CHECKBOXES) != 0)
     {
         LVHITTESTINFO box = {};
         box.pt = CPoint(int(point.x - m_drawOffset.x), int(point.y));
         Ask(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&box));
         hit.onBox = drawn >= 0 && box.flags == LVHT_ONITEMSTATEICON;
-        // The platform would change the box of its own row: what it gets is moved beside it.
-        CRect text;
-        if (alive && unscrolled.flags == LVHT_ONITEMSTATEICON &&
-            GetItemRect(platform, &text, LVIR_LABEL))
-        {
-            hit.press.x = text.left + 1;
-        }
+        hit.onPlatformBox = platform >= 0 && unscrolled.flags == LVHT_ONITEMSTATEICON;
     }
     return hit;
 }
@@ -260,20 +262,59 @@ void CCustomListCtrl::TakeBackPress()
     }
 }
 
+// A press where a check box is drawn, or where the platform has one, which it must not get: it
+// would change the box of its own row. It tells of a click on a box at once.
+void CCustomListCtrl::PressBox(const PressHit& hit, const CPoint& point, UINT flags)
+{
+    const WindowAlive alive(*this);
+    if (!hit.onBox && hit.drawn >= 0)
+    {
+        SelectRow(hit.drawn, (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
+    }
+    else if (!hit.onBox)
+    {
+        ClearSelection();
+    }
+    NMITEMACTIVATE told = {};
+    told.hdr.code = NM_CLICK;
+    told.iItem = hit.drawn < 0 ? -1 : hit.drawn - TopRow(); // as the platform would name it
+    told.ptAction = point;
+    if (alive)
+    {
+        told.lParam = hit.drawn < 0 ? 0 : LPARAM(GetItemData(hit.drawn));
+    }
+    if (alive)
+    {
+        TellNotify(GetSafeHwnd(), told.hdr);
+    }
+    const UINT state = alive && hit.onBox ? GetItemState(hit.drawn, LVIS_STATEIMAGEMASK) : 0;
+    if (state == INDEXTOSTATEIMAGEMASK(1) || state == INDEXTOSTATEIMAGEMASK(2))
+    {
+        SetItemState(hit.drawn, state ^ INDEXTOSTATEIMAGEMASK(3), LVIS_STATEIMAGEMASK);
+    }
+    if (alive)
+    {
+        Invalidate();
+    }
+}
+
 // The platform picks a row from its unscrolled rows, which is then exchanged for the one that is
 // drawn in its place. While it is not yet, IsSelChanging tells so.
 void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
 {
     const WindowAlive alive(*this);
+    m_pressedRow = -1;
     const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
-    if (alive && hit.onBox)
+    if (alive && (hit.onBox || hit.onPlatformBox))
     {
-        SetCheck(hit.drawn, !GetCheck(hit.drawn));
+        PressBox(hit, point, flags);
+        return;
     }
-    if (!alive || hit.onBox)
+    if (!alive)
     {
         return;
     }
+    m_pressedTop = TopRow();
     // The keys only say something where several rows can be selected.
     const bool several =
         (flags & (MK_CONTROL | MK_SHIFT)) != 0 && (GetStyle() & LVS_SINGLESEL) == 0;
@@ -285,7 +326,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     if ((several || together) && hit.scrolled)
     {
         // What is selected so far is known by rows that the platform would take for others.
-        LetPlatformPress(WM_LBUTTONDOWN, hit, hit.press);
+        LetPlatformPress(WM_LBUTTONDOWN, hit, point);
         if (alive && together)
         {
             SetItemState(hit.drawn, LVIS_FOCUSED, LVIS_FOCUSED);
@@ -310,7 +351,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     }
     if (alive)
     {
-        Ask(WM_LBUTTONDOWN, flags, MAKELPARAM(hit.press.x, hit.press.y));
+        Default();
     }
     int picked = alive && hit.platform >= 0 && IsSelected(hit.platform) ? hit.platform : -1;
     if (alive && picked < 0 && Ask(LVM_GETSELECTEDCOUNT) > 0)
@@ -375,14 +416,18 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
     const WindowAlive alive(*this);
     auto& told = *reinterpret_cast<NMITEMACTIVATE*>(header);
     TakeBackPress(); // the parent looks at the selection
-    if (!alive || !InOnBoard())
+    if (!alive)
     {
-        return !alive;
+        return TRUE;
     }
-    // Of a drag no more is told than its row.
+    // Of a drag no more is told than its row, which is that of the press.
     const bool drag = told.hdr.code == UINT(LVN_BEGINDRAG) || told.hdr.code == UINT(LVN_BEGINRDRAG);
-    int row = told.iItem < 0 ? -1 : told.iItem + TopRow();
     m_pressedRow = drag ? -1 : m_pressedRow;
+    if (!InOnBoard())
+    {
+        return FALSE;
+    }
+    int row = told.iItem < 0 ? -1 : told.iItem + (drag ? m_pressedTop : TopRow());
     if (!drag && m_drawOffset.x != 0)
     {
         told.iSubItem = ColumnAt(told.ptAction.x - int(m_drawOffset.x));
@@ -425,7 +470,12 @@ int CCustomListCtrl::ColumnAt(int x) const
 BOOL CCustomListCtrl::OnLvnItemActivate(NMHDR* header, LRESULT* result)
 {
     // By a key it is the row with the focus, which needs no exchange. Where no row is drawn there
-    // is none to activate.
+    // is none to activate. Where one click activates it waits for the final step of the selection.
+    if (m_activating && m_selChanging != FALSE)
+    {
+        m_heldActivation = *reinterpret_cast<const NMITEMACTIVATE*>(header);
+        return TRUE;
+    }
     return m_activating && (OnNmClick(header, result) ||
                             reinterpret_cast<const NMITEMACTIVATE*>(header)->iItem < 0);
 }

@@ -40,6 +40,7 @@ void CCustomListCtrl::EnterOnBoard()
 void CCustomListCtrl::LeaveOnBoard()
 {
     const WindowAlive alive(*this);
+    m_pressedRow = -1; // the platform goes on with the press
     KeepView(TopRow(), RowsInSight());
     if (!alive)
     {

@@ -167,6 +167,7 @@ class ListThatNotes : public ListForTests
 public:
     std::vector<std::tuple<int, int, LPARAM>> clicked;
     std::function<void(int row)> onRightClick;
+    std::function<void()> onActivation;
 
     void SelectOnly(const std::set<int>& rows, int from = 0)
     {
@@ -187,7 +188,9 @@ protected:
             code == UINT(LVN_BEGINDRAG))
         {
             clicked.emplace_back(told.iItem, told.iSubItem, told.lParam);
-            EXPECT_EQ(told.uOldState, code == UINT(LVN_ITEMACTIVATE) ? 3U : 0U);
+            const bool activates = code == UINT(LVN_ITEMACTIVATE);
+            activates&& onActivation ? onActivation() : void();
+            EXPECT_EQ(told.uOldState, activates ? 3U : 0U);
         }
         if (code == UINT(NM_RCLICK))
         {
@@ -475,7 +478,7 @@ TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
 
 TEST_F(ListCtrlOnBoard, APressOnACheckBoxChangesThatOfTheDrawnRow)
 {
-    auto& list = AddList(100, 8);
+    auto& list = AddList<ListThatNotes>(100, 8);
     list.SetExtendedStyle(LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
     for (const auto& [down, across] : {std::pair(5, 0), {0, 1}, {5, 1}, {5, 0}})
     {
@@ -483,8 +486,14 @@ TEST_F(ListCtrlOnBoard, APressOnACheckBoxChangesThatOfTheDrawnRow)
         list.PerformVScroll(down, list.m_vBar.GetScrollPos());
         list.PerformHScroll(across, list.m_hBar.GetScrollPos());
         const int row = list.TopRow() + 2;
-        Click(ClientPoint(list, list.RowPoint(row, 7)));
-        list.SetItemState(-1, 0, 3);
+        list.SetItemData(row, 700);
+        list.SelectOnly({row, row + 2});
+        Press(ClientPoint(list, list.RowPoint(row, 7)));
+        DragTo(ClientPoint(list, list.RowPoint(row, 9))); // not far enough for a drag
+        Release();
+        EXPECT_THAT(std::exchange(list.clicked, {}), ElementsAre(std::tuple(row, 0, 700)));
+        EXPECT_EQ(list.Selected(), across == 0 ? std::set({row, row + 2}) : std::set{row});
+        list.SelectOnly({});
         Click(ClientPoint(list, list.RowPoint(row + 1, 40)));
         EXPECT_EQ(list.Selected(), std::set<int>{row + 1});
         for (int each = 0; each < 12; ++each)
@@ -492,6 +501,29 @@ TEST_F(ListCtrlOnBoard, APressOnACheckBoxChangesThatOfTheDrawnRow)
             EXPECT_EQ(list.GetCheck(each), across == 0 && each == row) << each;
             list.SetCheck(each, FALSE);
         }
+        list.clicked.clear();
+    }
+    list.SetItemState(8, 0, LVIS_STATEIMAGEMASK); // a row without a box gets none
+    Click(ClientPoint(list, list.RowPoint(8, 7)));
+    EXPECT_EQ(list.GetItemState(8, LVIS_STATEIMAGEMASK), 0U);
+}
+
+TEST_F(ListCtrlOnBoard, OneClickActivatesTheDrawnRowOnceItIsSelected)
+{
+    auto& list = AddList<ListThatNotes>(100);
+    list.SetExtendedStyle(LVS_EX_ONECLICKACTIVATE | LVS_EX_FULLROWSELECT);
+    for (const int top : {0, 5})
+    {
+        list.PerformVScroll(top, 0);
+        int activated = 0;
+        list.onActivation = [&] {
+            ++activated;
+            EXPECT_EQ(list.Selected(), std::set<int>{top + 2});
+            EXPECT_FALSE(list.IsSelChanging());
+        };
+        Click(ClientPoint(list, list.RowPoint(top + 2, 20 + 8 * top))); // no double click
+        EXPECT_EQ(activated, 1);
+        EXPECT_THAT(std::exchange(list.clicked, {}), testing::Each(std::tuple(top + 2, 0, 0)));
     }
 }
 
