@@ -72,6 +72,7 @@ void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 
 void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
+    m_pressedTop = TopRow();
     if (!InOnBoard() || m_drawOffset == CPoint(0, 0))
     {
         Default();
@@ -87,7 +88,6 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
     {
         return;
     }
-    m_pressedTop = TopRow();
     // What the parent finds selected when it shows a menu: with a key what was, as the platform
     // does.
     const bool kept = (flags & (MK_CONTROL | MK_SHIFT)) != 0 || IsSelected(hit.drawn);
