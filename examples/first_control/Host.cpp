@@ -9,11 +9,13 @@ class HostDialog : public CCustomDialog
 
     CCustomListBox m_airports;
     CCustomPushbutton m_mode;
+    CCustomPushbutton m_close; // an on-board dialog has no close box
 
     BOOL OnInitDialog() override
     {
         m_airports.SubclassDlgItem(101, this); // the template's controls become the library's
         m_mode.SubclassDlgItem(IDOK, this);
+        m_close.SubclassDlgItem(IDCANCEL, this);
         for (const char* name : {"EDDF", "EDDM", "EGLL", "EHAM", "EKCH", "ESSA", "LFPG", "LSZH"})
         {
             m_airports.AddString(name);

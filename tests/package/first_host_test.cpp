@@ -12,6 +12,7 @@ std::string hostProgram;
 
 constexpr int ListId = 101;
 constexpr int ModeButtonId = IDOK;
+constexpr int CloseButtonId = IDCANCEL;
 constexpr int Rounding = 2; // pixels that scaling up and down again may cost
 
 // The host's process; ended with the object if it has not ended by then.
@@ -105,7 +106,7 @@ TEST(FirstHost, ShowsItsListAndChangesTheMode)
     EXPECT_NEAR(SizeOf(window).cx, standardSize.cx, Rounding);
     EXPECT_NEAR(SizeOf(window).cy, standardSize.cy, Rounding);
 
-    ::PostMessage(window, WM_CLOSE, 0, 0);
+    ::PostMessage(::GetDlgItem(window, CloseButtonId), BM_CLICK, 0, 0);
     ASSERT_TRUE(host.EndsWithin(10'000));
     EXPECT_EQ(host.ExitCode(), 0u);
 }
