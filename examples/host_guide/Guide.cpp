@@ -107,11 +107,23 @@ private:
 
 class RemarksForm : public CCustomFormView
 {
-public:
+    DECLARE_DYNCREATE(RemarksForm) // for the frame, which makes it
+
     RemarksForm()
-        : CCustomFormView(IDD_SHEET_REMARKS)
+        : CCustomFormView(IDD_FORM_REMARKS)
     {}
+    void DoDataExchange(CDataExchange* exchange) override;
+
+    CCustomEdit m_remarks;
 };
+
+IMPLEMENT_DYNCREATE(RemarksForm, CCustomFormView)
+
+void RemarksForm::DoDataExchange(CDataExchange* exchange)
+{
+    CCustomFormView::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_REMARKS, m_remarks);
+}
 
 // A dialog --------------------------------------------------------------------------------------
 
@@ -139,6 +151,7 @@ protected:
         DDX_Control(exchange, IDC_MODE, m_mode);
         DDX_Control(exchange, IDC_ASK, m_ask);
         DDX_Control(exchange, IDC_SHEET, m_sheet);
+        DDX_Control(exchange, IDC_FORM, m_form);
         DDX_Control(exchange, IDOK, m_ok);
     }
 
@@ -162,6 +175,8 @@ protected:
     afx_msg void OnMode();
     afx_msg void OnAsk();
     afx_msg void OnSheet();
+    afx_msg void OnForm();
+    afx_msg LRESULT OnEndSession(WPARAM ending, LPARAM reason);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -186,6 +201,7 @@ private:
     CCustomPushbutton m_mode;
     CCustomPushbutton m_ask;
     CCustomPushbutton m_sheet;
+    CCustomPushbutton m_form;
     CCustomPushbutton m_ok;
 };
 
@@ -197,6 +213,8 @@ BEGIN_MESSAGE_MAP(FlightDialog, CCustomDialog)
     ON_BN_CLICKED(IDC_MODE, &FlightDialog::OnMode)
     ON_BN_CLICKED(IDC_ASK, &FlightDialog::OnAsk)
     ON_BN_CLICKED(IDC_SHEET, &FlightDialog::OnSheet)
+    ON_BN_CLICKED(IDC_FORM, &FlightDialog::OnForm)
+    ON_MESSAGE(WM_ENDSESSION, &FlightDialog::OnEndSession)
 END_MESSAGE_MAP()
 
 void FlightDialog::FillAirports()
@@ -320,6 +338,24 @@ void FlightDialog::OnSheet()
     sheet.DoModal();
 }
 
+void FlightDialog::OnForm()
+{
+    CCreateContext form = {};
+    form.m_pNewViewClass = RUNTIME_CLASS(RemarksForm);
+    auto* const frame = new CFrameWnd; // deletes itself with its window, as the form does
+    frame->Create(nullptr, "Remarks", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(80, 80, 620, 320),
+                  this, nullptr, 0, &form);
+}
+
+LRESULT FlightDialog::OnEndSession(WPARAM ending, LPARAM)
+{
+    if (ending)
+    {
+        OnBoardRestoreSysColors(); // the program may be ended without another word
+    }
+    return 0;
+}
+
 // Start-up --------------------------------------------------------------------------------------
 
 class DeskApp : public CWinApp
@@ -343,6 +379,9 @@ class DeskApp : public CWinApp
 
     int ExitInstance() override
     {
+        CCustomEdit::SetEfb(nullptr); // the flight bag ends with this object
+        CCustomDialog::SetEfb(nullptr);
+        CCustomPropSheet::SetEfb(nullptr);
         OnBoardRestoreSysColors(); // they are the whole system's
         return CWinApp::ExitInstance();
     }

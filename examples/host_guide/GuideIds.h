@@ -2,6 +2,7 @@
 
 #define IDD_FLIGHT 100
 #define IDD_SHEET_REMARKS 101
+#define IDD_FORM_REMARKS 102
 
 #define IDC_AIRPORTS 1000
 #define IDC_EQUIPMENT 1001
@@ -16,3 +17,4 @@
 #define IDC_MODE 1010
 #define IDC_ASK 1011
 #define IDC_SHEET 1012
+#define IDC_FORM 1013
