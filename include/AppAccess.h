@@ -195,7 +195,7 @@ public:
     virtual DisplayPreferences* GetDisplayPreferences();
 
     // Registered clipboard format for dragging a kind of thing in an item. 1: any non-zero format
-    // is usable, so dragging between the library's own lists and trees works without the host.
+    // is usable.
     virtual unsigned int GetDragDropCF(UIItem item, DRGDRP_ITEM kind);
 
     // The flight bag that the host is part of; null for a host at a desk.
@@ -333,8 +333,8 @@ public:
     virtual CString GetWriteDirectoryBase();
     // What zooms a chart view.
     virtual EnrZoomHandler* GetZoomHandler(UIItem item);
-    // Who is told, by UpdateZOrder, when a dialog or sheet of the library is activated or
-    // restacked. Null: nobody.
+    // Who is told, by UpdateZOrder, when a dialog or sheet of the library is activated, deactivated
+    // or restacked. Null: nobody.
     virtual CZOrderManager* GetZOrderManager();
     // Whether a configuration has a window of a class.
     virtual bool HasConfigWnd(CRuntimeClass*, unsigned int);

@@ -4,7 +4,8 @@
 
 #include <afxwin.h>
 
-// An edit with colours of its own: black on the colour of faces until others are set.
+// An edit with colours of its own: black on the colour of faces until others are set. All else is
+// the platform's in every mode: it has no bar for a finger and asks for no on-screen keyboard.
 class ONBOARDUI_API ColorEdit : public CEdit
 {
     DECLARE_DYNAMIC(ColorEdit)

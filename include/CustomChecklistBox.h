@@ -16,7 +16,10 @@ struct _KES_CHECKLIST_STATE
 
 // A list box with a check box before each row, drawn by itself in every mode. The user changes a
 // check by a click on it or by the space key (in the two styles that change by themselves), and the
-// parent is told by WM_COMMAND with CLBN_CHKCHANGE. It may end the list there.
+// parent is told by WM_COMMAND with CLBN_CHKCHANGE, whether or not the list has LBS_NOTIFY. It may
+// end the list there. No row is named: it is that with the caret (GetCaretIndex), in a list with
+// LBS_EXTENDEDSEL all selected ones with it, and any that an assistive program has changed. A list
+// with LBS_NODATA keeps no checks.
 //
 // It needs a list box that is drawn by its owner; created by itself it sees to that. A caller's
 // item data, read and set by the messages and members of any list box, is the caller's own; the
@@ -49,7 +52,8 @@ public:
     void SetCheck(int index, int check);
     // 0 for an item that does not exist.
     int GetCheck(int index);
-    // Whether the user can change the check; the item itself can be selected all the same.
+    // Whether the user can change the check; the item itself can be selected all the same, and gets
+    // the check of another with which it is selected.
     void Enable(int index, int enable = TRUE);
     // FALSE for an item that does not exist.
     BOOL IsEnabled(int index);

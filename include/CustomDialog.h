@@ -27,8 +27,8 @@ class ONBOARDUI_API CCustomDialog : public CDialog
 
 public:
     // @{
-    // From the template of this id, which is read when the window is made. The host is kept, not
-    // owned, and may be null.
+    // From the template of this id, which is read when the window is made; 0 for one that Create or
+    // CreateIndirect is given. The host is kept, not owned, and may be null.
     CCustomDialog(UINT templateId, CWnd* parent);
     CCustomDialog(UINT templateId, CWnd* parent, IAppAccess* host);
     // @}
@@ -96,7 +96,9 @@ protected:
     HFONT StandardFont() const;
 
     // Has the Tab key go through the controls in the order of the ids, ended by 0, and makes each a
-    // tab stop. Ids that no control has are left out.
+    // tab stop. Ids that no control has are left out. The controls come before all others in the
+    // z-order, and so away from their labels: what follows a label then has its mnemonic, and its
+    // text for a name.
     void SetCtrlTabOrder(const UINT* ids);
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

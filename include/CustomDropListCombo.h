@@ -67,7 +67,8 @@ public:
     int GetCount() const;
     // -1 without a selection.
     int GetCurSel() const;
-    // Selects an item, none for -1, and closes an open list. CB_ERR for what is not there.
+    // Selects an item, none for -1, and closes an open list. CB_ERR for -1, and for what is not
+    // there, when the selection stays and the list is closed all the same.
     int SetCurSel(int index);
     // Whether the list is open.
     bool IsExpanded() const { return m_expanded; }
@@ -91,8 +92,8 @@ public:
     virtual int RemoveString(int index);
     // The text of the selected item; empty without one.
     virtual CString GetSelString() const;
-    // Adds an item before the one with this index, for -1 at the end. Its index, or CB_ERR for any
-    // other index that is not there.
+    // Adds an item before the one with this index, for -1 or the number of items at the end. Its
+    // index, or CB_ERR for any other index that is not there.
     virtual int InsertString(int index, LPCSTR text);
     // Takes all items out; nothing is selected then, and the parent is not told.
     virtual void ResetContent();

@@ -12,8 +12,9 @@ class IEFB;
 // The edit of the library. In the standard mode it is the platform's edit. In an on-board mode it
 // has a border of three pixels, in place of the platform's vertical scroll bar a wide one of its
 // own, painted in its non-client area, and in the two electronic-flight-bag modes it asks the host
-// for the on-screen keyboard when it is tapped. It may be created, made from a dialog template or
-// put over an existing edit, in any mode, and follows mode changes both ways.
+// for the on-screen keyboard when it is tapped, with ES_READONLY, too; to hide it at the end is the
+// host's business. It may be created, made from a dialog template or put over an existing edit, in
+// any mode, and follows mode changes both ways.
 //
 // Only an edit made with WS_VSCROLL gets the bar, and only while its text does not fit.
 class ONBOARDUI_API CCustomEdit : public CEdit

@@ -15,8 +15,8 @@ class ControlList;
 
 // A form view that follows the display mode: registered from construction to destruction, it
 // rescales and restyles its children, and the range that it scrolls, when the mode changes or when
-// it is created in an on-board mode. Both begin at the top again then. A key that moves the focus
-// on the form scrolls the control that gets it into sight, in every mode.
+// OnInitialUpdate comes in an on-board mode. Both begin at the top again then. A key that moves the
+// focus on the form scrolls the control that gets it into sight, in every mode.
 class ONBOARDUI_API CCustomFormView : public CFormView
 {
     DECLARE_DYNAMIC(CCustomFormView)

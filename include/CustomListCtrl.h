@@ -24,8 +24,10 @@ struct BarData;
 // template or put over an existing list view, in any mode, and follows mode changes both ways with
 // its top row and its selection in sight.
 //
-// Columns are 1.7 times as wide in the on-board modes as they were asked for in either kind of
-// mode; the last one fills the rest of the list.
+// InsertColumn takes a width in pixels of the standard mode, whatever the mode; on-board the column
+// is 1.7 times as wide, and the last one fills the rest of the list. GetColumnWidth, SetColumnWidth
+// and SetColumn are of the mode of the moment: a host that keeps widths reads them in the standard
+// mode, or they grow each time that they are inserted again.
 class ONBOARDUI_API CCustomListCtrl : public CListCtrl
 {
     DECLARE_DYNCREATE(CCustomListCtrl)
@@ -52,7 +54,8 @@ public:
 
     // The faux bar for SB_VERT or SB_HORZ, under the type that the framework asks for; null for
     // anything else. It has no window and is no CScrollBar: a caller may compare the pointer and
-    // hand it back to this list, or cast it back to CFauxScrollBar, but call nothing through it.
+    // hand it back to this list, or cast it back to CFauxScrollBar, whose position for SB_VERT is
+    // the row at the top, but call nothing through it.
     CScrollBar* GetScrollBarCtrl(int bar) const override;
 
     // @{

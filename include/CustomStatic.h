@@ -8,7 +8,9 @@
 
 // A label or group box that follows the display mode. On-board it draws a group box dark with a
 // thick outline, over the controls' gaps only, and gives a client edge a border of three pixels.
-// In the standard mode it is the platform's control.
+// In the standard mode it is the platform's control. A group box is the platform's button with
+// BS_GROUPBOX, taken over by this class; labels with SS_BLACKFRAME or SS_ENHMETAFILE, whose numbers
+// end alike, count as one.
 class ONBOARDUI_API CCustomStatic : public CStatic
 {
     DECLARE_DYNAMIC(CCustomStatic)
@@ -23,8 +25,8 @@ public:
     static CFont& GetStdFont();
     // @}
 
-    // The on-board fill behind a group box; gives the one before. Not redrawn. Non-zero useDefault
-    // puts the panel colour back.
+    // The on-board fill behind a group box, but for its caption, which stays on the panel colour;
+    // gives the one before. Not redrawn. Non-zero useDefault puts the panel colour back.
     COLORREF SetBackgroundColor(int useDefault, COLORREF color);
 
     // @{

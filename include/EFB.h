@@ -17,7 +17,8 @@ public:
     ~IEFB() override;
 
     // @{
-    // Told before a modal dialog opens and after it has closed; true.
+    // Told before a modal dialog or sheet of the library opens and after it has closed, in EFB and
+    // EFBFS. True; it is not asked for, and nothing forbids the dialog.
     virtual bool BeginModalDialog();
     virtual bool EndModalDialog();
     // @}

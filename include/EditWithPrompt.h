@@ -7,7 +7,7 @@
 // An edit that shows a grey prompt until the user or the host gives it a text. While the prompt
 // shows, the edit counts as empty: whoever asks for its text gets an empty one. The first key or
 // press takes the prompt away; Reset brings it back. In an edit for passwords the prompt can be
-// read.
+// read. All else is the platform's in every mode: it asks for no on-screen keyboard.
 class ONBOARDUI_API EditWithPrompt : public CEdit
 {
     DECLARE_DYNAMIC(EditWithPrompt)
@@ -19,7 +19,7 @@ public:
     void Reset();
 
     // @{
-    // Null and an empty prompt mean none, and end the one that shows.
+    // "<Enter text here>" at first. Null and an empty prompt mean none, and end the one that shows.
     void SetPromptText(const char* prompt);
     CString GetPromptText() const { return m_prompt; }
     // @}

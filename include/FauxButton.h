@@ -37,6 +37,9 @@ public:
 
     // Remakes every pen and brush: c1 outline and arrow line, c2 first brush, c3 normal face,
     // c4 disabled face and third outline, c5 second outline and second brush, c6 pressed face.
+    // Faces show them only where the platform draws no gradients: those have colours of their own.
+    // An arrow is c4 when disabled, that of a drop button also c6, and c3 when pressed. In the
+    // standard mode nothing is shown of them.
     virtual void SetColors(COLORREF c1, COLORREF c2, COLORREF c3, COLORREF c4, COLORREF c5,
                            COLORREF c6);
 

@@ -10,6 +10,18 @@
 // Coordinates are those of the host's window. Sizes of buttons and thumb follow the area alone and
 // are set for the display mode of the moment by SetArea, so a host sets the area again after a mode
 // change.
+//
+// A host calls SetArea, SetScrollRange and SetScrollPos as its size and content change, and on a
+// press, if the bar is shown, GetHitTest and GetLastHit: then HandleScroll with the code of the
+// arrow or trough, or, while the thumb is held, IncrementScrollByPixels with the way that the
+// pointer has gone. After either it takes GetScrollPos and paints.
+//
+// Ranges are not those of the platform's bars. They begin at 0: with another minimum thumb and
+// drags go astray. The page is how far a press beside the thumb goes, and shortens no range. A drag
+// ends one below the maximum. So a vertical range has a maximum one above the last position, to
+// which the host clamps; that of a horizontal one is the last position, for which the host calls
+// HandleScroll(SB_RIGHT) when a drag has brought the thumb to the end of the trough (GetPartArea).
+// In a range of a single step nothing can be dragged.
 class ONBOARDUI_API CFauxScrollBar
 {
 public:
@@ -86,13 +98,13 @@ public:
 
     // @{
     // HTVSCROLL or HTHSCROLL when the point hits a part, otherwise 0; GetLastHit then tells the
-    // part.
+    // part. A hidden bar is hit, too.
     virtual UINT GetHitTest(const CPoint& point);
     virtual ePRESSED GetLastHit() const;
     // @}
 
     // Recolours the bar (c1 outline, c2 trough, c4 disabled trough, c3 standard trough and held
-    // trough) and passes all six on to buttons and thumb.
+    // trough) and passes all six on to buttons and thumb, which show few of them; see CFauxButton.
     virtual void SetColors(COLORREF c1, COLORREF c2, COLORREF c3, COLORREF c4, COLORREF c5,
                            COLORREF c6);
 
@@ -100,7 +112,7 @@ public:
     int GetScrollPos() const { return m_position; }
 
     // Moves the thumb by pixels along the bar, as far as the trough goes, and takes the position
-    // that its centre stands for. The result is how far it moved.
+    // that its centre stands for, below the maximum. The result is how far it moved.
     int IncrementScrollByPixels(int pixels);
 
     // Length of one step in pixels; 0 with at most one step and where the thumb does not fit.

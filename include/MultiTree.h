@@ -95,12 +95,14 @@ public:
     // The icons and texts of the selected items in sight as one picture for a drag. The list is the
     // caller's to delete; null when nothing selected is in sight.
     virtual CImageList* CreateDragImage();
-    // For a derived class: what kind of thing a drag carries. Nobody asks here.
+    // @{
+    // For a derived class that drags after TVN_BEGINDRAG: what kind of thing a drag carries, what
+    // it carries of this item (appended), and its end over the window that took it, or null. Nobody
+    // calls them here, and they do nothing.
     virtual int GetDragKind(int& kind);
-    // For a derived class: appends what a drag of this item carries. Nothing here.
     virtual void GetSelectedItems(HTREEITEM item, KArray& payload);
-    // For a derived class: a drag has ended over the window that took it, or null.
     virtual void DragEnded(HWND accepted);
+    // @}
     // How far the pointer moves, in pixels, before a press becomes a drag.
     virtual CSize GetDragThreshold();
     // Pixels of the cursor's picture; the image of a drag may lie beside it.

@@ -22,8 +22,9 @@ template <class Tree, class PlatformBase> class OwnerOf;
 // the button is released (wParam a POINT on the screen, lParam the payload, a KArray; the pointers
 // in it belong to who put them there), and Leave (0, 0) to a window that the pointer leaves. A
 // window that takes the payload answers other than 0. As a target a view scrolls by itself while it
-// is sent Track (wParam a POINT on the screen) near its upper or lower edge; a derived view takes
-// what is dropped. A window of another process is sent null for both pointers and takes nothing.
+// is sent Track (wParam a POINT on the screen) near its upper or lower edge, which no view sends:
+// drags of the host's own may. A derived view takes what is dropped. A window of another process is
+// sent null for both pointers and takes nothing.
 //
 // As every view it is made on the heap and deletes itself with its window.
 class ONBOARDUI_API MultiTreeView : public CTreeView

@@ -36,14 +36,14 @@ ONBOARDUI_API int CreateOnBoardOutlinePen(CPen& pen, unsigned long colour);
 // Makes the 1-pixel dotted pen of on-board focus frames. Non-zero on success.
 ONBOARDUI_API int CreateOnBoardFocusPen(CPen& pen, unsigned long colour);
 
-// What ModifyChildsForAppMode is told about a mode change.
+// What ModifyChildsForAppMode is told about a mode change, once the mode is set.
 struct ONBOARDUI_API ModifyChildWndsData
 {
     ModifyChildWndsData();
     virtual ~ModifyChildWndsData();
 
     HWND parent;  // whose direct children are restyled
-    double scale; // geometric factor of the change
+    double scale; // 1.7 out of STD, 1 / 1.7 into it, else 1; the widening by 1.32 comes on top
     APPMODE mode; // the mode being entered
 };
 
@@ -54,8 +54,9 @@ ONBOARDUI_API BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data);
 // Sets font on wnd and on each of its direct children in z-order, with redraw. Nothing for null.
 ONBOARDUI_API void ChangeDialogFont(CWnd* wnd, CFont* font);
 
-// Moves a window into the host's available area (screen pixels), keeping its size. Nothing without
-// a host or for a window that does not exist.
+// Moves a top-level window into the host's available area (screen pixels), keeping its size. One
+// that is higher than the area ends at its lower edge, with the caption above it; one that is wider
+// begins at its left edge. Nothing without a host or for a window that does not exist.
 ONBOARDUI_API void EnsureWndVisible(IAppAccess* host, HWND window);
 
 // Two-colour gradient over rect; mode 0 runs left to right, 1 top to bottom. True only when the

@@ -6,7 +6,8 @@
 
 // An edit that stays where its host fixed it, whatever layout its parent does: only its height
 // follows. Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z work on its text even where the host's accelerators
-// take these keys.
+// take these keys. All else is the platform's in every mode: it has no bar for a finger and asks
+// for no on-screen keyboard.
 class ONBOARDUI_API QuixEdit : public CEdit
 {
     DECLARE_DYNAMIC(QuixEdit)
@@ -14,8 +15,8 @@ class ONBOARDUI_API QuixEdit : public CEdit
 public:
     QuixEdit();
 
-    // In client pixels of the parent. To be called before the window is placed the first time; a
-    // window that exists moves there.
+    // In client pixels of the parent. To be called before the window is placed the first time, when
+    // it else becomes 0 wide at (0, 0); a window that exists moves there.
     void SetFixedPlace(int x, int y, int width);
 
     // Whether the last key was Escape.

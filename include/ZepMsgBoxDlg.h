@@ -29,9 +29,12 @@ public:
     static constexpr UINT IDD = 5000; // the dialog's template
 
     // The text may have several lines; null counts as empty. style takes the flags of the
-    // platform's message box: buttons, icon and default button; other bits are ignored. area is the
-    // most, in pixels, that the box may take: a box that needs more for its buttons takes more. The
-    // host is kept, not owned, and may be null. The title is the application's.
+    // platform's message box: buttons, icon and default button; other bits are ignored. Buttons
+    // beyond MB_RETRYCANCEL are none: Escape alone, or the close box, ends such a box, with
+    // IDCANCEL. A box without an icon flag has an exclamation mark with OK and with OK and Cancel,
+    // and a question mark with all other buttons. area is the most, in pixels, that the box may
+    // take: a box that needs more for its buttons takes more. The host is kept, not owned, and may
+    // be null. The title is the application's.
     CZepMsgBoxDlg(const char* text, unsigned int style, const CSize& area, IAppAccess* host);
     ~CZepMsgBoxDlg() override;
 
