@@ -1,0 +1,456 @@
+// Clicks on the rows of a report list: which row they select and name, and when the parent is told.
+
+#include "listctrl/list_for_tests.h"
+
+#include <gmock/gmock.h>
+
+using testing::ElementsAre;
+
+namespace {
+
+// Notes rows, columns and data of the clicks that it has let through to its parent.
+class ListThatNotes : public ListForTests
+{
+public:
+    std::vector<std::tuple<int, int, LPARAM>> clicked;
+    std::function<void(int row)> onRightClick;
+    std::function<void()> onActivation;
+
+    void SelectOnly(const std::set<int>& rows, int from = 0)
+    {
+        SetItemState(-1, 0, LVIS_SELECTED);
+        for (const int row : rows)
+        {
+            SetItemState(from + row, LVIS_SELECTED, LVIS_SELECTED);
+        }
+    }
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
+    {
+        const BOOL taken = ListForTests::OnChildNotify(message, wParam, lParam, result);
+        const auto& told = *reinterpret_cast<const NMITEMACTIVATE*>(lParam);
+        const UINT code = message == WM_NOTIFY && !taken ? told.hdr.code : 0;
+        if (code == UINT(NM_CLICK) || code == UINT(NM_DBLCLK) || code == UINT(LVN_ITEMACTIVATE) ||
+            code == UINT(LVN_BEGINDRAG))
+        {
+            clicked.emplace_back(told.iItem, told.iSubItem, told.lParam);
+            const bool activates = code == UINT(LVN_ITEMACTIVATE);
+            activates&& onActivation ? onActivation() : void();
+            EXPECT_EQ(told.uOldState, activates ? 3U : 0U);
+        }
+        if (code == UINT(NM_RCLICK))
+        {
+            onRightClick(told.iItem);
+        }
+        return taken;
+    }
+};
+
+} // namespace
+
+TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
+{
+    auto& list = AddList<ListThatNotes>(100, 8, ReportStyle | LVS_SINGLESEL);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    list.PerformVScroll(5, 0);
+    list.PerformHScroll(3, 0);
+    list.SetItemData(2, 200);
+    list.SetItemData(7, 700);
+    std::vector<std::pair<int, bool>> told; // rows that were selected, and whether finally
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == UINT(LVN_ITEMCHANGED))
+        {
+            const auto& change = *reinterpret_cast<const NMLISTVIEW*>(message.lParam);
+            if ((change.uNewState & LVIS_SELECTED) != 0)
+            {
+                told.push_back({change.iItem, list.IsSelChanging() == 0});
+            }
+        }
+    };
+    Click(ClientPoint(list, list.RowPoint(7)));
+    EXPECT_EQ(list.Selected(), std::set<int>{7});
+    EXPECT_EQ(list.Focused(), 7);
+    EXPECT_THAT(told, ElementsAre(std::pair(2, false), std::pair(7, true)));
+    Press(); // a double click
+    Release();
+    EXPECT_GE(list.clicked.size(), 3U);
+    EXPECT_THAT(list.clicked, testing::Each(std::tuple(7, 1, 700)));
+    // The bar across goes past the last column; so does the bar of a selected row.
+    list.PerformHScroll(SB_RIGHT);
+    Click(ClientPoint(list, list.RowPoint(8, ClientRectOf(list).right - 10)));
+    EXPECT_EQ(list.Selected(), std::set<int>{8});
+    list.PerformHScroll(3, list.m_hBar.GetScrollPos());
+    // Below the last row nothing is selected, and the parent is told of a change all the same.
+    list.PerformVScroll(SB_BOTTOM);
+    Host().Forget();
+    list.clicked.clear();
+    Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
+    EXPECT_EQ(list.GetSelectedCount(), 0U);
+    EXPECT_THAT(Host().CodesFrom(FirstId),
+                testing::Contains(UINT(LVN_ITEMCHANGED)).Times(testing::Ge(2)));
+    Press(); // twice: nothing is activated
+    Release();
+    EXPECT_THAT(list.clicked, testing::SizeIs(2));
+    EXPECT_THAT(list.clicked, testing::Each(std::tuple(-1, 1, 0)));
+}
+
+TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlace)
+{
+    auto& list = AddList<ListThatNotes>(100);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    list.PerformVScroll(5, 0);
+    int row = 7; // another one each time: two clicks on one would be a double click
+    for (const std::set<int>& before : {std::set{-5}, {-5, 2}, {0, 2}, {0}})
+    {
+        list.SelectOnly(before, row);
+        Click(ClientPoint(list, list.RowPoint(row)));
+        EXPECT_EQ(list.Selected(), std::set<int>{row});
+        EXPECT_EQ(list.Focused(), row++);
+    }
+    // Those that are selected together are dragged together.
+    const std::set<int> together = {row, row + 1, row + 3};
+    list.SelectOnly(together);
+    Press(ClientPoint(list, list.RowPoint(row + 1)));
+    EXPECT_EQ(list.Focused(), row + 1);
+    DragTo(ClientPoint(list, CPoint(90, 90)));
+    EXPECT_EQ(list.Selected(), together);
+    EXPECT_EQ(list.clicked.back(), std::tuple(row + 1, 0, 0));
+    Release();
+    EXPECT_EQ(list.Selected(), together);
+    // Beside the rows the mark stays for a press with Shift.
+    list.PerformVScroll(SB_BOTTOM);
+    Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
+    EXPECT_EQ(list.Selected(), std::set<int>());
+    EXPECT_EQ(list.GetSelectionMark(), row - 1);
+}
+
+TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFinalStep)
+{
+    // The row, from the top one, the key held, and what is selected where several rows can be.
+    const std::tuple<int, UINT, std::set<int>> clicks[] = {{2, 0, {2}},
+                                                           {5, VK_SHIFT, {2, 3, 4, 5}},
+                                                           {3, VK_SHIFT, {2, 3}},
+                                                           {6, VK_SHIFT, {2, 3, 4, 5, 6}},
+                                                           {4, VK_CONTROL, {2, 3, 5, 6}},
+                                                           {9, VK_CONTROL, {2, 3, 5, 6, 9}},
+                                                           {3, 0, {3}}};
+    for (const DWORD single : {0, LVS_SINGLESEL})
+    {
+        for (const int top : {0, 20})
+        {
+            SCOPED_TRACE(testing::Message() << single << ' ' << top);
+            auto& list = AddList<ListThatNotes>(100, 3, ReportStyle | single);
+            list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+            list.PerformVScroll(top, 0);
+            bool final = false; // the last change of the selection that was told
+            Host().hook = [&](ToldMessage& message) {
+                const auto& change = *reinterpret_cast<const NMLISTVIEW*>(message.lParam);
+                if (message.code == UINT(LVN_ITEMCHANGED) &&
+                    ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) != 0)
+                {
+                    final = list.IsSelChanging() == 0;
+                }
+            };
+            for (const auto& [row, held, selected] : clicks)
+            {
+                final = false;
+                MoveTo(ClientPoint(list, list.RowPoint(top + row)));
+                PumpFor(30); // the display tells of the move late, and of no key being down
+                held != 0 ? QueueKey(held, true) : void();
+                Press();
+                Release();
+                held != 0 ? QueueKey(held, false) : void();
+                PumpAll();
+                std::set<int> expected;
+                for (const int each : single != 0 ? std::set<int>{row} : selected)
+                {
+                    expected.insert(top + each);
+                }
+                EXPECT_EQ(list.Selected(), expected) << row;
+                EXPECT_EQ(list.Focused(), top + row);
+                EXPECT_TRUE(final) << row;
+                EXPECT_THAT(std::exchange(list.clicked, {}),
+                            ElementsAre(std::tuple(top + row, 0, 0)));
+            }
+            Host().hook = nullptr;
+            MoveTo(ClientPoint(list, list.RowPoint(top + 5)));
+            PumpFor(30);
+            QueueKey(VK_CONTROL, true);
+            Press();
+            DragTo(ClientPoint(list, CPoint(90, 90)));
+            Release();
+            QueueKey(VK_CONTROL, false);
+            ASSERT_FALSE(list.clicked.empty());
+            EXPECT_EQ(std::get<0>(list.clicked.front()), top + 5) << "dragged";
+            list.DestroyWindow();
+        }
+    }
+}
+
+TEST_F(ListCtrlOnBoard, ARightClickIsToldOfWithTheDrawnRowSelectedOrAsItWas)
+{
+    auto& list = AddList<ListThatNotes>(100, 8);
+    int order[] = {1, 0, 2, 3, 4, 5, 6, 7}; // the first column is drawn where the other one was
+    list.SetColumnOrderArray(8, order);
+    list.PerformHScroll(3, 0);
+    list.PerformVScroll(5, 0);
+    Host().AlsoRecord({WM_CONTEXTMENU});
+    int told = 0;
+    int x = 20;
+    std::set<int> expected;
+    list.onRightClick = [&](int row) {
+        ++told;
+        EXPECT_EQ(row, 7);
+        EXPECT_EQ(list.Selected(), expected);
+        EXPECT_EQ(list.Focused(), 7);
+        EXPECT_FALSE(list.IsSelChanging());
+    };
+    const std::tuple<std::set<int>, UINT, std::set<int>> clicks[] = {
+        {{}, 0, {7}},        {{2, 9}, 0, {7}},    {{2, 7, 9}, 0, {2, 7, 9}},
+        {{8}, 0, {7}},       {{7, 8}, 0, {7, 8}}, {{2, 9}, VK_CONTROL, {2, 9}},
+        {{9}, VK_SHIFT, {9}}};
+    for (const DWORD full : {0, LVS_EX_FULLROWSELECT})
+    {
+        list.SetExtendedStyle(full);
+        for (const auto& [before, held, after] : clicks)
+        {
+            SCOPED_TRACE(testing::Message()
+                         << full << ' ' << testing::PrintToString(before) << held);
+            list.SelectOnly(before);
+            told = 0;
+            expected = after;
+            Host().Forget();
+            x = 70 - x; // two clicks on one place would be a double click
+            MoveTo(ClientPoint(list, list.RowPoint(7, x)));
+            PumpFor(30); // as above
+            held != 0 ? QueueKey(held, true) : void();
+            QueueButton(true, true);
+            QueueButton(false, true);
+            held != 0 ? QueueKey(held, false) : void();
+            PumpAll();
+            EXPECT_EQ(told, 1);
+            EXPECT_EQ(Host().Count(WM_CONTEXTMENU), 1);
+            EXPECT_EQ(list.Selected(), after);
+        }
+    }
+}
+
+TEST_F(ListCtrlOnBoard, WhatARightPressInScrolledRowsTellsMayEndTheListOrChangeItsMode)
+{
+    int told = INT_MAX;
+    for (int turn = 0; turn / 2 < told; ++turn)
+    {
+        const ModeScope scope(ONBOARD);
+        auto& list = AddList(100);
+        list.PerformVScroll(5, 0);
+        list.SetItemState(2, 3, 3); // in the place of row 7
+        told = 0;
+        Host().hook = [&](ToldMessage&) {
+            if (told++ == turn / 2)
+            {
+                turn % 2 == 0 ? void(list.DestroyWindow()) : SetMode(STD, list);
+            }
+        };
+        const CPoint point = list.RowPoint(7);
+        list.PostMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+        list.SendMessage(WM_RBUTTONDOWN, 0, MAKELPARAM(point.x, point.y));
+        EXPECT_EQ(::IsWindow(list), turn % 2 != 0 || told <= turn / 2) << turn;
+        EXPECT_FALSE(::IsWindow(list) && list.IsSelChanging()) << turn;
+        Host().hook = nullptr;
+        PumpAll();
+        Remove(list);
+    }
+    EXPECT_GT(told, 9);
+}
+
+TEST_F(ListCtrlOnBoard, WhatIsSelectedDuringARightPressIsToldWithAFinalStep)
+{
+    Host().AlsoRecord({WM_APP});
+    for (const int sideways : {0, 3}) // where the platform takes a row, and where it finds none
+    {
+        auto& list = AddList(100, 8);
+        int order[] = {sideways != 0 ? 1 : 0, sideways != 0 ? 0 : 1, 2, 3, 4, 5, 6, 7};
+        list.SetColumnOrderArray(8, order);
+        list.PerformVScroll(5, 0);
+        list.PerformHScroll(sideways, 0);
+        std::set<int> known; // to a parent that waits for the final step
+        Host().hook = [&](ToldMessage& message) {
+            if (message.message == WM_APP)
+            {
+                list.SetItemState(20, LVIS_SELECTED, LVIS_SELECTED);
+            }
+            const auto* const change = reinterpret_cast<const NMLISTVIEW*>(message.lParam);
+            if (message.code == UINT(LVN_ITEMCHANGED) && list.IsSelChanging() == 0 &&
+                ((change->uNewState ^ change->uOldState) & LVIS_SELECTED) != 0)
+            {
+                known = list.Selected();
+            }
+        };
+        const CPoint point = list.RowPoint(7);
+        Host().PostMessage(WM_APP);
+        list.PostMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+        list.SendMessage(WM_RBUTTONDOWN, 0, MAKELPARAM(point.x, point.y));
+        EXPECT_EQ(known, (std::set<int>{7, 20})) << sideways;
+        EXPECT_EQ(list.Selected(), known);
+        Host().hook = nullptr;
+        Remove(list);
+    }
+}
+
+TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
+{
+    auto& list = AddList(100, 8);
+    // Whether the first column comes second, and the row at the top.
+    for (const auto& [second, top] : {std::pair(false, 0), {false, 5}, {true, 0}, {true, 5}})
+    {
+        SCOPED_TRACE(testing::Message() << second << top);
+        int order[] = {second ? 1 : 0, second ? 0 : 1, 2, 3, 4, 5, 6, 7};
+        list.SetColumnOrderArray(8, order);
+        list.PerformVScroll(top, list.TopRow());
+        list.PerformHScroll(second ? 3 : 1, list.m_hBar.GetScrollPos());
+        bool final = false;
+        Host().hook = [&](ToldMessage& message) {
+            final = message.code == UINT(LVN_ITEMCHANGED) ? list.IsSelChanging() == 0 : final;
+        };
+        Click(ClientPoint(list, list.RowPoint(7, second ? 90 : 60)));
+        EXPECT_EQ(list.Selected(), std::set<int>{7});
+        EXPECT_TRUE(final);
+        final = false;
+        Click(ClientPoint(list, list.RowPoint(8, second ? 110 : 90)));
+        EXPECT_EQ(list.Selected(), std::set<int>());
+        EXPECT_TRUE(final);
+    }
+}
+
+TEST_F(ListCtrlOnBoard, APressOnACheckBoxChangesThatOfTheDrawnRow)
+{
+    auto& list = AddList<ListThatNotes>(100, 8);
+    list.SetExtendedStyle(LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT);
+    for (const auto& [down, across] : {std::pair(5, 0), {0, 1}, {5, 1}, {5, 0}})
+    {
+        SCOPED_TRACE(testing::Message() << down << ' ' << across);
+        list.PerformVScroll(down, list.m_vBar.GetScrollPos());
+        list.PerformHScroll(across, list.m_hBar.GetScrollPos());
+        const int row = list.TopRow() + 2;
+        list.SetItemData(row, 700);
+        list.SelectOnly({row, row + 2});
+        Press(ClientPoint(list, list.RowPoint(row, 7)));
+        DragTo(ClientPoint(list, list.RowPoint(row, 9))); // not far enough for a drag
+        Release();
+        EXPECT_THAT(std::exchange(list.clicked, {}), ElementsAre(std::tuple(row, 0, 700)));
+        EXPECT_EQ(list.Selected(), across == 0 ? std::set({row, row + 2}) : std::set{row});
+        list.SelectOnly({});
+        Click(ClientPoint(list, list.RowPoint(row + 1, 40)));
+        EXPECT_EQ(list.Selected(), std::set<int>{row + 1});
+        for (int each = 0; each < 12; ++each)
+        {
+            EXPECT_EQ(list.GetCheck(each), across == 0 && each == row) << each;
+            list.SetCheck(each, FALSE);
+        }
+        list.clicked.clear();
+    }
+    list.SetItemState(8, 0, LVIS_STATEIMAGEMASK); // a row without a box gets none
+    Click(ClientPoint(list, list.RowPoint(8, 7)));
+    EXPECT_EQ(list.GetItemState(8, LVIS_STATEIMAGEMASK), 0U);
+}
+
+TEST_F(ListCtrlOnBoard, OneClickActivatesTheDrawnRowOnceItIsSelected)
+{
+    auto& list = AddList<ListThatNotes>(100);
+    list.SetExtendedStyle(LVS_EX_ONECLICKACTIVATE | LVS_EX_FULLROWSELECT);
+    for (const int top : {0, 5})
+    {
+        list.PerformVScroll(top, 0);
+        int activated = 0;
+        list.onActivation = [&] {
+            ++activated;
+            EXPECT_EQ(list.Selected(), std::set<int>{top + 2});
+            EXPECT_FALSE(list.IsSelChanging());
+        };
+        Click(ClientPoint(list, list.RowPoint(top + 2, 20 + 8 * top))); // no double click
+        EXPECT_EQ(activated, 1);
+        EXPECT_THAT(std::exchange(list.clicked, {}), testing::Each(std::tuple(top + 2, 0, 0)));
+    }
+}
+
+TEST_F(ListCtrlOnBoard, ARestingPointerSelectsTheDrawnRowUnlessTheParentObjects)
+{
+    auto& list = AddList(100);
+    list.SetExtendedStyle(LVS_EX_TRACKSELECT | LVS_EX_FULLROWSELECT);
+    list.SendMessage(LVM_SETHOVERTIME, 0, 20);
+    list.PerformVScroll(5, 0);
+    int told = 0;
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == UINT(NM_HOVER))
+        {
+            message.answer = told++;
+        }
+    };
+    for (const int row : {7, 8})
+    {
+        MoveTo(ClientPoint(list, list.RowPoint(row)));
+        MoveTo(ClientPoint(list, list.RowPoint(row, 24)));
+        EXPECT_TRUE(PumpUntil([&] { return told == row - 6; }));
+        PumpAll();
+        EXPECT_EQ(list.Selected(), std::set<int>{7}) << row;
+    }
+}
+
+TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
+{
+    struct Heir : ListForTests
+    {
+        NMITEMACTIVATE byKey = {};
+        NMITEMACTIVATE byClick = {};
+        std::vector<int> heard; // the rows of them that the parent got
+
+        BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
+        {
+            const BOOL taken = ListForTests::OnChildNotify(message, wParam, lParam, result);
+            for (const NMITEMACTIVATE* each : {&byKey, &byClick})
+            {
+                if (!taken && lParam == reinterpret_cast<LPARAM>(each))
+                {
+                    heard.push_back(each->iItem);
+                }
+            }
+            return taken;
+        }
+    };
+    auto& list = AddList<Heir>(100);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    // In the standard mode the platform tells no row, so that anything may stand there.
+    for (const auto& [mode, row] : {std::pair(ONBOARD, 3), {STD, -1}})
+    {
+        SetMode(mode, list);
+        list.PerformVScroll(mode == STD ? 0 : 5, 0);
+        list.byKey.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
+        list.byKey.iItem = row;
+        Host().hook = [&](ToldMessage& message) {
+            if (message.code == UINT(NM_DBLCLK))
+            {
+                list.SendMessage(WM_KEYDOWN, VK_RETURN);
+            }
+            else if (message.code == UINT(LVN_KEYDOWN)) // as some platforms tell it, with the row
+            {
+                Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&list.byKey));
+            }
+        };
+        Click(ClientPoint(list, list.RowPoint(7)));
+        Press();
+        Release();
+        EXPECT_THAT(std::exchange(list.heard, {}), ElementsAre(row)) << mode;
+        // Where one click activates, some platforms tell of the unscrolled row.
+        Host().hook = [&](ToldMessage& message) {
+            if (message.code == UINT(NM_CLICK))
+            {
+                list.byClick.hdr = list.byKey.hdr;
+                list.byClick.iItem = mode == STD ? 8 : 3;
+                Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&list.byClick));
+            }
+        };
+        Click(ClientPoint(list, list.RowPoint(8)));
+        EXPECT_THAT(std::exchange(list.heard, {}), ElementsAre(8)) << mode;
+    }
+}
