@@ -102,8 +102,8 @@ public:
 
     // @{
     // The index of the first item that begins with the text, or is the text, without regard to
-    // case; CB_ERR when there is none. The search begins behind the item 'after', for -1 at the
-    // first one, and goes round.
+    // case; CB_ERR when there is none. The search begins behind the item 'after', for -1 and every
+    // index that is not there at the first one, and goes round.
     virtual int FindString(int after, LPCSTR text) const;
     virtual int FindStringExact(int after, LPCSTR text) const;
     // @}

@@ -218,6 +218,9 @@ protected:
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     // Messages that may scroll the list without a scroll message (LB_SETTOPINDEX, WM_CHAR ...).
     afx_msg LRESULT OnMayScroll(WPARAM wParam, LPARAM lParam);
+    // Searches (LB_FINDSTRING, LB_FINDSTRINGEXACT) behind any index, and one that selects.
+    afx_msg LRESULT OnFindString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSelectString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetHorizontalExtent(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetHorizontalExtent(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
@@ -292,4 +295,5 @@ private:
     void InvalidateFrom(int index);
     void KeepCaretInSight();
     bool ContentChanged();
+    WPARAM SearchStart(WPARAM after);
 };

@@ -295,23 +295,18 @@ LRESULT CCustomChecklistBox::SearchData(WPARAM start, LPARAM data, Search search
 
 LRESULT CCustomChecklistBox::OnFindString(WPARAM wParam, LPARAM lParam)
 {
-    if (HasText())
-    {
-        return Default();
-    }
-    const UINT message = GetCurrentMessage()->message;
-    return SearchData(wParam, lParam,
-                      [=, this](LPARAM wanted) { return DefWindowProc(message, wParam, wanted); });
+    const auto search = [=, this](LPARAM wanted) {
+        return CCustomListBox::OnFindString(wParam, wanted);
+    };
+    return HasText() ? search(lParam) : SearchData(wParam, lParam, search);
 }
 
 LRESULT CCustomChecklistBox::OnSelectString(WPARAM wParam, LPARAM lParam)
 {
-    if (HasText())
-    {
-        return OnMayScroll(wParam, lParam);
-    }
-    return SearchData(wParam, lParam,
-                      [=, this](LPARAM wanted) { return OnMayScroll(wParam, wanted); });
+    const auto search = [=, this](LPARAM wanted) {
+        return CCustomListBox::OnSelectString(wParam, wanted);
+    };
+    return HasText() ? search(lParam) : SearchData(wParam, lParam, search);
 }
 
 LRESULT CCustomChecklistBox::OnGetItemData(WPARAM wParam, LPARAM)

@@ -374,6 +374,22 @@ LRESULT CCustomListBox::OnMayScroll(WPARAM wParam, LPARAM lParam)
     return result;
 }
 
+// Behind a row that is not there comes the first. The platform reads past its rows for some.
+WPARAM CCustomListBox::SearchStart(WPARAM after)
+{
+    return Exists(int(after)) ? after : WPARAM(-1);
+}
+
+LRESULT CCustomListBox::OnFindString(WPARAM wParam, LPARAM lParam)
+{
+    return DefWindowProc(GetCurrentMessage()->message, SearchStart(wParam), lParam);
+}
+
+LRESULT CCustomListBox::OnSelectString(WPARAM wParam, LPARAM lParam)
+{
+    return OnMayScroll(SearchStart(wParam), lParam);
+}
+
 void CCustomListBox::RowsFitted()
 {
     if (m_bars->InOnBoard() && !m_bars->IsFollowing() && !m_bars->AwaitsPlace())

@@ -66,6 +66,21 @@ TEST_F(CheckListTest, OddArgumentsHaveADefinedResult)
         EXPECT_EQ(unsigned(lists::NextCheck(check, BS_AUTOCHECKBOX)) / 2, 0U) << check;
         EXPECT_EQ(unsigned(lists::NextCheck(check, BS_AUTO3STATE)) / 3, 0U) << check;
     }
+    // Behind a row that is not there comes the first.
+    auto& data = AddList(0, BS_3STATE, ListStyle | LBS_OWNERDRAWFIXED);
+    for (const LPARAM value : {7, 8, 8})
+    {
+        data.SendMessage(LB_ADDSTRING, 0, value);
+        data.SetCheck(data.GetCount() - 1, 1); // so that the list holds records
+    }
+    for (const int after : {-2, 3, INT_MAX, INT_MIN})
+    {
+        for (const UINT search : {LB_FINDSTRING, LB_FINDSTRINGEXACT, LB_SELECTSTRING})
+        {
+            EXPECT_EQ(list.SendMessage(search, WPARAM(after), LPARAM("Row 1")), 1) << after;
+            EXPECT_EQ(data.SendMessage(search, WPARAM(after), 8), 1) << after;
+        }
+    }
     CCustomChecklistBox unborn;
     unborn.SetCheck(0, 1);
     EXPECT_EQ(unborn.GetCheck(0), 0);

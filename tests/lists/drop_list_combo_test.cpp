@@ -337,6 +337,10 @@ TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
         EXPECT_EQ(combo.SetCurSel(absent), CB_ERR);
         EXPECT_EQ(combo.RemoveItemDataPtr(absent), nullptr);
         EXPECT_EQ(combo.SetItemDataPtr(absent, data), CB_ERR);
+        // Behind what is not there comes the first.
+        EXPECT_EQ(combo.FindString(absent, "be"), 2);
+        EXPECT_EQ(combo.FindStringExact(absent, "BETA"), 2);
+        EXPECT_EQ(combo.SelectString(absent, "gamma"), 1);
     }
     EXPECT_EQ(combo.GetCurSel(), 1);
     EXPECT_THAT(TakeCodes(combo), IsEmpty());
