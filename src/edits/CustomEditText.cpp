@@ -104,6 +104,10 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_bars->ForgetFirstLine();
     }
+    if (alive && effect == Effect::MayScroll && !m_firstUpdateDone && !m_bars->IsUnbroken())
+    {
+        FollowMode(); // now: text and bar of an edit that was there are aligned only once
+    }
     if (alive && message == WM_PAINT)
     {
         m_bars->BeginPaint();

@@ -214,4 +214,25 @@ TEST_F(EditTest, EnteringAModeBringsTextAndBarTogetherOnce)
     SetMode(ONBOARD, taker);
     EXPECT_EQ(taker.GetSel(), DWORD(MAKELONG(40, 60)));
     taker.DestroyWindow();
+
+    // Also before it has been seen: what a host does first is not undone.
+    const auto takeOver = [&](const char* text) {
+        auto& other = Add<CEdit>(CRect(20, 20, 320, 260), ManyLines);
+        other.SetWindowText(text);
+        ASSERT_TRUE(taker.SubclassWindow(other.UnsubclassWindow()));
+    };
+    takeOver("");
+    taker.ReplaceSel("first ");
+    taker.ReplaceSel("second");
+    EXPECT_EQ(taker.Text(), "first second");
+    taker.DestroyWindow();
+    takeOver(EditForTests::Lines(50).c_str());
+    taker.SetSel(0, -1, TRUE);
+    EXPECT_EQ(taker.GetSel(), DWORD(MAKELONG(0, taker.GetWindowTextLength())));
+    EXPECT_TRUE(taker.m_barShown);
+    taker.DestroyWindow();
+    takeOver(EditForTests::Lines(50).c_str());
+    taker.LineScroll(7);
+    EXPECT_EQ(taker.GetFirstVisibleLine(), 7);
+    taker.DestroyWindow();
 }
