@@ -259,7 +259,7 @@ private:
     int m_stdItemHeight = 0;      // pixels, in the standard mode; 0: not known
     int m_averageWidth = 0;       // of a character of the font; 0: not measured
     bool m_made = false;          // made as this object, so that its style was seen whole
-    bool m_refitting = false;     // both bars go at once
+    bool m_refitting = false;     // the bars go at once
     std::map<int, int> m_widths;  // how many rows have a width; kept only with WS_HSCROLL
     HFONT m_widthsFont = nullptr; // in which they were counted; compared, never used
     std::unique_ptr<Bars> m_bars;
@@ -276,6 +276,9 @@ private:
     int HeightOfRow(int index);
     int RowsInSight(int count, int height);
     int RowsInColumn();
+    int RowsInColumn(int height) const;
+    int ColumnWidth();
+    int ColumnsOutOfSight(int count, int width, int height);
     bool FitsWithoutBars();
     int ContentWidth() const;
     bool CountsWidths();

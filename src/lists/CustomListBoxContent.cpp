@@ -123,11 +123,32 @@ int CCustomListBox::RowsInSight(int count, int height)
     return rows;
 }
 
+int CCustomListBox::RowsInColumn(int height) const
+{
+    return m_itemHeight <= 0 ? 1 : std::max(1, height / m_itemHeight);
+}
+
 int CCustomListBox::RowsInColumn()
 {
     CRect client;
     GetClientRect(&client);
-    return m_itemHeight <= 0 ? 1 : std::max(1, client.Height() / m_itemHeight);
+    return RowsInColumn(client.Height());
+}
+
+// Of a list with rows.
+int CCustomListBox::ColumnWidth()
+{
+    CRect row;
+    Ask(LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+    return std::max(1, row.Width());
+}
+
+// How many columns a client area of this size does not hold.
+int CCustomListBox::ColumnsOutOfSight(int count, int width, int height)
+{
+    const LONGLONG rows = RowsInColumn(height);
+    const int inSight = std::max(1, width / ColumnWidth());
+    return int(std::max(0LL, (count + rows - 1) / rows - inSight));
 }
 
 // The widths of all rows are kept counted, so that the widest is known without measuring what has

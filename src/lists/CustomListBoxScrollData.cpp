@@ -29,16 +29,20 @@ bool CCustomListBox::FitsWithoutBars()
         return false; // the bands are not taken whole, or there is nothing to judge by
     }
     const int count = Ask(LB_GETCOUNT);
-    return RowsInSight(count, client.Height() + metrics::ScrollBand) >= count &&
-           ContentWidth() <= client.Width() + metrics::ScrollBand;
+    const int height = client.Height() + metrics::ScrollBand;
+    return InColumns() ? ColumnsOutOfSight(count, client.Width(), height) == 0
+                       : RowsInSight(count, height) >= count &&
+                             ContentWidth() <= client.Width() + metrics::ScrollBand;
 }
 
 void CCustomListBox::UpdateScrollData()
 {
     const WindowAlive alive(*this);
-    if (m_vBarNeeded && m_hBarNeeded && m_bars->IsFrameDone() && !m_refitting && FitsWithoutBars())
+    if (m_hBarNeeded && (m_vBarNeeded || InColumns()) && m_bars->IsFrameDone() && !m_refitting &&
+        FitsWithoutBars())
     {
-        // Each bar is judged by the room that the other one leaves, so neither would ever go.
+        // Each bar is judged by the room that the other one leaves, and that of columns by the room
+        // that it leaves itself, so they would never go.
         m_refitting = true;
         for (const int axis : {SB_VERT, SB_HORZ})
         {
@@ -92,11 +96,7 @@ void CCustomListBox::Bars::Foresee(const CSize& window)
         vertical = m_list.VerifyAllowVScrollBar() && m_list.RowsInSight(count, down) < count;
         if (m_list.InColumns())
         {
-            CRect row;
-            Ask(LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
-            const int inSight = std::max(1, across / std::max(1, row.Width()));
-            const int rows = std::max(1, down / height);
-            horizontal = (count + rows - 1) / rows > inSight;
+            horizontal = m_list.ColumnsOutOfSight(count, across, down) > 0;
         }
         else
         {
@@ -154,12 +154,8 @@ void CCustomListBox::UpdateHScrollData()
         int content = 0;
         if (InColumns())
         {
-            CRect row;
-            Ask(LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
-            step = std::max(1, row.Width());
-            const LONGLONG rows = RowsInColumn();
-            const int inSight = std::max(1, client.Width() / step);
-            hidden = int(std::max(0LL, (count + rows - 1) / rows - inSight));
+            step = ColumnWidth();
+            hidden = ColumnsOutOfSight(count, client.Width(), client.Height());
         }
         else
         {

@@ -75,6 +75,27 @@ TEST_F(ListBoxTest, ColumnsStayWhereTheyAreAndAreCountedAnew)
     SetMode(STD, list);
 }
 
+TEST_F(ListBoxOnBoard, ColumnsThatFitWithoutTheBarLoseIt)
+{
+    auto& list = AddList(0, ColumnsStyle);
+    list.SetColumnWidth(80);
+    list.Fill(1);
+    list.Fill(ClientRectOf(list).Width() / 80 * list.VisibleRows() - 1);
+    EXPECT_FALSE(list.m_hBarNeeded);
+    list.AddString("One more");
+    EXPECT_TRUE(list.m_hBarNeeded);
+    list.SendMessage(WM_HSCROLL, SB_RIGHT);
+    list.DeleteString(0);
+    EXPECT_FALSE(list.m_hBarNeeded);
+    EXPECT_EQ(list.GetTopIndex(), 0);
+    EXPECT_TRUE(ShowsWhatAPaintWould(list));
+    for (const auto& [width, bar] : {std::pair{200, true}, {300, false}})
+    {
+        list.MoveWindow(20, 20, width, 300);
+        EXPECT_EQ(list.m_hBarNeeded, bar) << width;
+    }
+}
+
 TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
 {
     ListBoxForTests list;
