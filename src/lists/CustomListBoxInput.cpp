@@ -159,6 +159,10 @@ BOOL CCustomListBox::OnMouseWheel(UINT flags, short delta, CPoint point)
     }
     // One line a turn, however far the wheel was turned.
     SendMessage(WM_VSCROLL, delta > 0 ? SB_LINEUP : SB_LINEDOWN);
+    if (alive && InColumns())
+    {
+        SendMessage(WM_HSCROLL, delta > 0 ? SB_LINELEFT : SB_LINERIGHT); // all that moves columns
+    }
     return TRUE;
 }
 

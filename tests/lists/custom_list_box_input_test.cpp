@@ -14,6 +14,12 @@ TEST_F(ListBoxOnBoard, WithoutABarTheRowsAreThePlatformsToScroll)
     const int rows = columns.GetTopIndex();
     EXPECT_GT(rows, 1); // a whole column
     EXPECT_EQ(columns.m_hBar.GetScrollPos(), 1);
+    MoveTo(ClientPoint(columns, CPoint(30, 100)));
+    for (const int turn : {-WHEEL_DELTA * 3, WHEEL_DELTA})
+    {
+        Wheel(turn);
+        EXPECT_EQ(columns.GetTopIndex(), turn < 0 ? 2 * rows : rows);
+    }
     columns.SetCurSel(2 * rows + 1);
     columns.SetFocus();
     TypeKey(VK_DOWN);
