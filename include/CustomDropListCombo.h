@@ -240,6 +240,7 @@ private:
 
     void Repaint() { Invalidate(FALSE); }
     void ItemsChanged();
+    void CloseLeftOpen();
     bool TellSelChange();
     void PressAt(const CPoint& screen);
     void ReleaseAt(const CPoint& screen);

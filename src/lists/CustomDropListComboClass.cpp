@@ -229,6 +229,7 @@ void CCustomDropListCombo::PreSubclassWindow()
         m_heights[size_t(m_shapedFor)] = window.Height();
     }
     Repaint();
+    CloseLeftOpen();
 }
 
 // The window loses the focus on the way out, which is no closing by the user.

@@ -8,6 +8,7 @@
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -22,6 +23,7 @@ void CCustomDropListCombo::DoDropButton()
 {
     if (GetSafeHwnd() == nullptr)
     {
+        CloseLeftOpen();
         return;
     }
     const WindowAlive alive(*this);
@@ -47,6 +49,16 @@ void CCustomDropListCombo::DoDropButton()
     if (alive && !m_expanded && ::GetCapture() == GetSafeHwnd())
     {
         ::ReleaseCapture();
+    }
+}
+
+// The list of a window that was let go while it was open.
+void CCustomDropListCombo::CloseLeftOpen()
+{
+    CCustomComboLBox* const list = ListIfMade();
+    if (std::exchange(m_expanded, false) && list != nullptr)
+    {
+        list->ShowPopup(false);
     }
 }
 

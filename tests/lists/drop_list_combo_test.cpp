@@ -158,6 +158,24 @@ TEST_F(ComboTest, AComboThatHasMovedTellsItsNewParent)
     combo.SetParent(&Host());
 }
 
+TEST_F(ComboTest, AComboThatIsLetGoOpenCanBeClosedAndBeginsClosedAgain)
+{
+    auto& combo = AddCombo(3);
+    for (const bool picked : {true, false})
+    {
+        combo.DoDropButton();
+        const HWND window = combo.UnsubclassWindow();
+        if (picked)
+        {
+            combo.List().Pick(1);
+            EXPECT_FALSE(combo.List().IsPopupVisible());
+        }
+        ASSERT_TRUE(combo.SubclassWindow(window));
+        EXPECT_FALSE(combo.IsExpanded() || combo.List().IsPopupVisible());
+        EXPECT_EQ(combo.GetCurSel(), 1);
+    }
+}
+
 TEST_F(ComboTest, AListOfTheCallersStaysTheCallers)
 {
     CCustomComboLBox list;
