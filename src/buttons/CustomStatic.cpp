@@ -14,6 +14,8 @@
 #include "paint/Rings.h"
 #include "paint/SharedObjects.h"
 
+#include <algorithm>
+
 IMPLEMENT_DYNAMIC(CCustomStatic, CStatic)
 
 BEGIN_MESSAGE_MAP(CCustomStatic, CStatic)
@@ -43,6 +45,32 @@ template <class Container> bool TakeControls(CWnd& parent, std::vector<CWnd*>& c
     }
     controls = static_cast<Container&>(parent).GetControls();
     return true;
+}
+
+// Whether the parent is of a kind that lists its controls.
+bool TakeControls(CWnd* parent, std::vector<CWnd*>& controls)
+{
+    return parent != nullptr && (TakeControls<CCustomDialog>(*parent, controls) ||
+                                 TakeControls<CCustomPropPage>(*parent, controls) ||
+                                 TakeControls<CCustomFormView>(*parent, controls));
+}
+
+// What stands on a form: what it has listed, and what was made on it since.
+std::vector<HWND> WindowsOn(CWnd* form)
+{
+    std::vector<CWnd*> controls;
+    if (!TakeControls(form, controls))
+    {
+        return {};
+    }
+    std::vector<HWND> windows = ChildrenNow(*form);
+    for (const CWnd* control : controls)
+    {
+        windows.push_back(control->GetSafeHwnd());
+    }
+    std::ranges::sort(windows);
+    windows.erase(std::unique(windows.begin(), windows.end()), windows.end());
+    return windows;
 }
 
 } // namespace
@@ -108,13 +136,7 @@ void CCustomStatic::SuitTransparencyToMode()
 
 void CCustomStatic::GetParentControls(std::vector<CWnd*>& controls)
 {
-    CWnd* const parent = GetParent();
-    if (parent != nullptr)
-    {
-        TakeControls<CCustomDialog>(*parent, controls) ||
-            TakeControls<CCustomPropPage>(*parent, controls) ||
-            TakeControls<CCustomFormView>(*parent, controls);
-    }
+    TakeControls(GetParent(), controls);
 }
 
 // Painting --------------------------------------------------------------------------------------
@@ -221,18 +243,15 @@ BOOL CCustomStatic::OnEraseBkgnd(CDC* dc)
     }
     CRect own;
     GetWindowRect(&own);
-    std::vector<CWnd*> controls;
-    GetParentControls(controls);
-    for (const CWnd* control : controls)
+    for (const HWND window : WindowsOn(GetParent()))
     {
-        const HWND window = control->GetSafeHwnd();
         if (window == m_hWnd || !::IsWindow(window) || !::IsWindowVisible(window) ||
-            (control->GetStyle() & WS_VISIBLE) == 0)
+            (::GetWindowLongPtr(window, GWL_STYLE) & WS_VISIBLE) == 0)
         {
             continue;
         }
         CRect place;
-        control->GetWindowRect(&place);
+        ::GetWindowRect(window, &place);
         if (CRect common; common.IntersectRect(&own, &place))
         {
             ScreenToClient(&place);
