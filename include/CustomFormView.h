@@ -62,6 +62,7 @@ protected:
 private:
     std::unique_ptr<dialogs::ControlList> m_controlList;
     bool m_restyled = false; // the controls are those of the mode
+    unsigned m_openedAt = 0; // the last change of the mode before they were
 
     void ScaleScrollRange(double scale);
 };

@@ -51,4 +51,5 @@ protected:
 private:
     std::unique_ptr<dialogs::ControlList> m_controlList;
     bool m_initialising = false; // and scales the children at the end of that
+    unsigned m_openedAt = 0;     // the last change of the mode before that
 };

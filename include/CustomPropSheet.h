@@ -84,6 +84,7 @@ protected:
 
 private:
     bool m_initialising = false;       // and scales the children at the end of that
+    unsigned m_openedAt = 0;           // the last change of the mode before that
     bool m_laidOut = false;            // by the platform, with its own frame; ours comes after
     DWORD m_takenStyles = 0;           // of the platform's caption, to be given back
     std::optional<bool> m_frameActive; // as the system said last

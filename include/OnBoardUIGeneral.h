@@ -21,7 +21,8 @@ public:
     // Stores the mode, then calls AppModeChanged(newMode, oldMode) of every registered form view,
     // dialog, drop-list combo, property page and property sheet, in this order and each in order
     // of registration, also when the mode stays the same. Receivers may add and remove windows:
-    // nobody is called after its removal, nobody still there is left out.
+    // nobody is called after its removal, nobody still there is left out. A window that opens
+    // during a change opens in the new mode and does not follow that change.
     static void SetAppMode(APPMODE newMode);
     // The mode of the moment, STD at first. During a change it is the new one.
     static APPMODE GetAppMode() { return m_appmode; }

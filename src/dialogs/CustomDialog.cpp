@@ -8,6 +8,7 @@
 #include "dialogs/ControlList.h"
 #include "dialogs/OnBoardFrame.h"
 #include "dialogs/Opening.h"
+#include "modes/ModeChanges.h"
 #include "modes/WindowAlive.h"
 
 IMPLEMENT_DYNAMIC(CCustomDialog, CDialog)
@@ -91,6 +92,10 @@ std::vector<CWnd*>& CCustomDialog::GetControls()
 
 void CCustomDialog::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
+    if (HasModeAlready(m_openedAt))
+    {
+        return;
+    }
     const WindowAlive alive(*this);
     const HFONT font = StandardFont(); // the dialog may be asked, and end
     if (alive)
@@ -133,6 +138,7 @@ BOOL CCustomDialog::OnInitDialog()
     }
     m_showEntire = GetSpecialConfigVal("Dialog", "ShowEntireDialog", 0) != 0;
     m_initialising = false;
+    m_openedAt = LastModeChange();
     {
         const std::shared_ptr<dialogs::Opening> opening = m_opening; // the dialog may go meanwhile
         const HWND window = GetSafeHwnd();

@@ -4,6 +4,7 @@
 #include "dialogs/ControlList.h"
 #include "dialogs/OnBoardFrame.h"
 #include "modes/ChildRestyling.h"
+#include "modes/ModeChanges.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
@@ -38,7 +39,7 @@ CCustomFormView::~CCustomFormView()
 
 void CCustomFormView::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
-    if (newMode == oldMode || GetSafeHwnd() == nullptr)
+    if (newMode == oldMode || GetSafeHwnd() == nullptr || HasModeAlready(m_openedAt))
     {
         return;
     }
@@ -82,6 +83,7 @@ void CCustomFormView::OnInitialUpdate()
     // The framework calls this for every document that is opened in the view.
     if (!std::exchange(m_restyled, true))
     {
+        m_openedAt = LastModeChange();
         // The range first: the controls may change the mode, which scales it, too.
         if (COnBoardUIGeneral::InOnBoardMode())
         {

@@ -3,6 +3,7 @@
 #include "OnBoardUIGeneral.h"
 #include "dialogs/ControlList.h"
 #include "dialogs/OnBoardFrame.h"
+#include "modes/ModeChanges.h"
 #include "modes/WindowAlive.h"
 
 IMPLEMENT_DYNAMIC(CCustomPropPage, CPropertyPage)
@@ -40,6 +41,10 @@ HWND ShownPage(HWND page)
 
 void CCustomPropPage::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
+    if (HasModeAlready(m_openedAt))
+    {
+        return;
+    }
     const WindowAlive alive(*this);
     const HWND page = GetSafeHwnd();
     const bool shown = newMode != oldMode && page != nullptr && ShownPage(page) == page;
@@ -67,6 +72,7 @@ BOOL CCustomPropPage::OnInitDialog()
     if (alive)
     {
         m_initialising = false;
+        m_openedAt = LastModeChange();
         dialogs::OpenForm(*this, *m_controlList, m_controls);
     }
     return TRUE;

@@ -7,6 +7,7 @@
 #include "dialogs/OnBoardFrame.h"
 #include "dialogs/SheetTabs.h"
 #include "modes/ChildRestyling.h"
+#include "modes/ModeChanges.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 
@@ -89,6 +90,10 @@ CCustomPropSheet::~CCustomPropSheet()
 
 void CCustomPropSheet::AppModeChanged(APPMODE newMode, APPMODE oldMode)
 {
+    if (HasModeAlready(m_openedAt))
+    {
+        return;
+    }
     const WindowAlive alive(*this);
     const dialogs::Children children = dialogs::ChildrenOf(*this, m_initialising);
     if (alive)
@@ -106,6 +111,7 @@ BOOL CCustomPropSheet::OnInitDialog()
     {
         m_showEntire = GetSpecialConfigVal("Dialog", "ShowEntireDialog", 0) != 0;
         m_initialising = false;
+        m_openedAt = LastModeChange();
         m_laidOut = true;
         const CTabCtrl* const tabs = GetTabControl(); // the sheet is asked, and may end
         if (!alive || tabs == nullptr)

@@ -5,6 +5,7 @@
 #include "CustomFormView.h"
 #include "CustomPropPage.h"
 #include "CustomPropSheet.h"
+#include "modes/ModeChanges.h"
 #include "modes/StandardFontHeight.h"
 
 #include <algorithm>
@@ -24,8 +25,8 @@ std::vector<CCustomPropSheet*> COnBoardUIGeneral::m_createdPropSheets;
 
 namespace {
 
-// The part of one registry that a mode change has still to tell: the windows that were there when
-// it began. A window that comes later was made in the new mode and has nothing to follow.
+// The part of one registry that a mode change has still to tell: the objects that were there when
+// it began. One that comes later makes its window in the new mode and has nothing to follow.
 template <class Window> class RegistryWalk
 {
 public:
@@ -71,6 +72,7 @@ public:
     ModeChange(APPMODE newMode, APPMODE oldMode)
         : m_newMode(newMode)
         , m_oldMode(oldMode)
+        , m_number(++s_last)
         , m_outer(s_innermost)
     {
         s_innermost = this;
@@ -98,6 +100,14 @@ public:
         }
     }
 
+    static unsigned Last() { return s_last; }
+
+    // Whether the change that is being told, which is the innermost, began after this one.
+    static bool IsTellingNoneAfter(unsigned number)
+    {
+        return s_innermost != nullptr && s_innermost->m_number <= number;
+    }
+
     static void Removed(const void* registry, size_t index)
     {
         for (ModeChange* change = s_innermost; change != nullptr; change = change->m_outer)
@@ -116,12 +126,15 @@ private:
         m_walks{COnBoardUIGeneral::m_createdformviews, COnBoardUIGeneral::m_createddialogs,
                 COnBoardUIGeneral::m_createddlcs, COnBoardUIGeneral::m_createdPropPages,
                 COnBoardUIGeneral::m_createdPropSheets};
+    unsigned m_number;
     ModeChange* m_outer;
 
     static ModeChange* s_innermost;
+    static unsigned s_last;
 };
 
 ModeChange* ModeChange::s_innermost = nullptr;
+unsigned ModeChange::s_last = 0;
 
 template <class Window> void Add(std::vector<Window*>& registry, Window* window)
 {
@@ -143,6 +156,16 @@ template <class Window> void Remove(std::vector<Window*>& registry, Window* wind
 }
 
 } // namespace
+
+unsigned LastModeChange()
+{
+    return ModeChange::Last();
+}
+
+bool HasModeAlready(unsigned openedAt)
+{
+    return ModeChange::IsTellingNoneAfter(openedAt);
+}
 
 void COnBoardUIGeneral::SetAppMode(APPMODE newMode)
 {

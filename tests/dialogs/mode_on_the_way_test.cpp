@@ -173,9 +173,59 @@ TEST_F(ModeOnTheWayTest, APageThatIsLeftMeanwhileIsHidden)
         COnBoardUIGeneral::SetAppMode(ONBOARD);
         EXPECT_FALSE(pages[0].IsWindowVisible());
         EXPECT_TRUE(pages[1].IsWindowVisible());
+        EXPECT_EQ(ChildPlaces(pages[1]), ChildPlaces(pages[0])) << "scaled once";
         sheet.EndDialog(IDOK);
     };
     EXPECT_EQ(sheet.DoModal(), IDOK);
+}
+
+// Opened, or opened anew, while another follows the mode, whose turn is before theirs.
+TEST_F(ModeOnTheWayTest, WhatOpensMeanwhileIsScaledOnce)
+{
+    ViewForTests first(Host()), view(Host());
+    DialogForTests dialog;
+    CCustomPropPage page(IDD_TEST_PAGE_1);
+    Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+    sheet.AddPage(&page);
+    std::vector<CRect> places;
+    const auto listed = [&] {
+        std::vector<CRect> all;
+        for (const CWnd* const form : std::initializer_list<CWnd*>{&view, &dialog, &page, &sheet})
+        {
+            const std::vector<CRect> its = ChildPlaces(*form);
+            all.insert(all.end(), its.begin(), its.end());
+        }
+        return all;
+    };
+    // The sheet stays until the change on its way has come to all, which is before the next one.
+    sheet.inLoop = [&] {
+        COnBoardUIGeneral::SetAppMode(COnBoardUIGeneral::GetAppMode());
+        places = listed();
+        sheet.EndDialog(IDOK);
+    };
+    const auto open = [&] {
+        view.DestroyWindow();
+        view.Create(nullptr, nullptr, WS_CHILD, CRect(0, 0, 500, 400), &Host(), 5, nullptr);
+        view.OnInitialUpdate();
+        dialog.DestroyWindow();
+        dialog.CreateIndirect(form, &Host());
+        sheet.DoModal();
+    };
+    Acting<CWnd> control;
+    control.SubclassWindow(::GetDlgItem(first, IDC_TEST_EDIT));
+    for (const APPMODE mode : {ONBOARD, EFB, STD})
+    {
+        control.ActIn(WM_SIZE, open);
+        COnBoardUIGeneral::SetAppMode(mode);
+        const std::vector<CRect> meanwhile = std::exchange(places, {});
+        open();
+        EXPECT_EQ(meanwhile, places) << APPMODE_NAMES[mode];
+        EXPECT_FALSE(places.empty());
+    }
+    // The changes after that are its own.
+    const std::vector<CRect> standard = ChildPlaces(dialog);
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    EXPECT_EQ(ChildPlaces(dialog), Enlarged(standard));
 }
 
 TEST_F(ModeOnTheWayTest, AListOfWholeRowsAndAComboHaveTheirHeightsInEachMode)
