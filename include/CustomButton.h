@@ -38,7 +38,8 @@ public:
     void SetCheck(int check);
     // @}
 
-    // Begins to follow a press: takes focus and capture. Nothing while any window has the capture.
+    // Begins to follow a press: takes focus and capture. Nothing while any window has the capture,
+    // or without a window.
     virtual void StartTracking();
     // Ends it without a click, from wherever it is lost. May be called at any time.
     virtual void EndTracking();

@@ -230,7 +230,7 @@ void CCustomButton::ChangeCheck(int check)
 
 void CCustomButton::StartTracking()
 {
-    if (::GetCapture() != nullptr)
+    if (GetSafeHwnd() == nullptr || ::GetCapture() != nullptr)
     {
         return;
     }

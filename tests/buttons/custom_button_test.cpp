@@ -73,6 +73,8 @@ TEST_F(ButtonOnBoard, APressDraggedOffIsNoClick)
     push.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     EXPECT_EQ(::GetFocus(), Host().GetSafeHwnd());
     ::ReleaseCapture();
+    TestPush().StartTracking(); // without a window
+    EXPECT_EQ(::GetFocus(), Host().GetSafeHwnd());
 }
 
 TEST_F(ButtonOnBoard, APressThatIsCutOffLeavesNothingHeld)
