@@ -39,9 +39,15 @@ void CCustomButton::OnLButtonUp(UINT, CPoint point)
     {
         if (m_tracking && inside)
         {
+            const HWND window = m_hWnd;
             OnBMClick(0, 0);
             if (!alive)
             {
+                // The window may be another's by now, who knows nothing of this press.
+                if (::GetCapture() == window)
+                {
+                    ::ReleaseCapture();
+                }
                 return;
             }
         }

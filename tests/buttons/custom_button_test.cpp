@@ -219,3 +219,14 @@ TEST_F(ButtonOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
         EXPECT_EQ(box.GetCheck(), check) << "still to be asked";
     }
 }
+
+TEST_F(ButtonOnBoard, AHostThatLetsGoOfAButtonInItsClickHasTheNextPress)
+{
+    auto& push = Add<TestPush>(ButtonPlace, 0, "Push");
+    HWND window = nullptr;
+    const OnceTold told(Host(), BN_CLICKED, [&] { window = push.UnsubclassWindow(); });
+    Click(push.Middle());
+    EXPECT_TRUE(told);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    ::DestroyWindow(window);
+}
