@@ -115,7 +115,8 @@ protected:
     // Whether the mode is on-board, the first question of every handler; nothing when the button
     // has not survived a press that ended here.
     std::optional<bool> FollowMode();
-    // Sets the on-board check state; shown by the next paint.
+    // Sets the on-board check state; shown by the next paint. Of a radio button it moves the stop
+    // of the Tab key, which the platform's does too.
     void ChangeCheck(int check);
     // A click that a key makes: shown at once.
     void ClickByKey();

@@ -215,6 +215,7 @@ void CCustomButton::SetCheck(int check)
 
 void CCustomButton::ChangeCheck(int check)
 {
+    const WindowAlive alive(*this);
     if (m_check != check)
     {
         m_check = check;
@@ -223,6 +224,12 @@ void CCustomButton::ChangeCheck(int check)
             Invalidate(FALSE);
             access::Tell(m_hWnd, EVENT_OBJECT_STATECHANGE); // the platform's button knows nothing
         }
+    }
+    const UINT type = alive ? GetButtonStyle() & BS_TYPEMASK : 0;
+    if (type == BS_RADIOBUTTON || type == BS_AUTORADIOBUTTON)
+    {
+        // As the platform's do: the Tab key goes to the one of a group that is chosen.
+        ModifyStyle(WS_TABSTOP, check != BST_UNCHECKED ? WS_TABSTOP : 0);
     }
 }
 

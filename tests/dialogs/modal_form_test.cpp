@@ -48,7 +48,15 @@ TEST_F(CustomDialogTest, AFormIsWorkedByPointerAndByKeyboardInItsModalLoop)
             return chosen();
         };
         form.inLoop = [&] {
+            // Also in a group of which none was chosen.
+            for (CCustomRadiobutton& radio : radios)
+            {
+                radio.SetCheck(BST_UNCHECKED);
+            }
             EXPECT_EQ(click(radios[1]), "-x--");
+            TypeKey(VK_TAB);
+            TypeKey(VK_TAB, VK_SHIFT);
+            EXPECT_EQ(CWnd::GetFocus(), &radios[1]) << "the chosen one";
             EXPECT_EQ(click(radios[2]), "--x-");
             EXPECT_EQ(key(VK_UP), "-x--") << "an arrow key chooses";
             EXPECT_EQ(key(VK_DOWN), "--x-");
