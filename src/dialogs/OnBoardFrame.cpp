@@ -283,7 +283,7 @@ bool AsksForSystemCommand(const CWnd& window, UINT message, WPARAM wParam, LPARA
     }
     if (message == WM_NCLBUTTONDBLCLK)
     {
-        return wParam == HTCAPTION && !window.IsZoomed();
+        return wParam == HTCAPTION && !window.IsZoomed() && !window.IsIconic();
     }
     if ((window.GetStyle() & WS_CHILD) != 0)
     {

@@ -194,6 +194,10 @@ TEST_F(CustomDialogTest, TwoTapsOnTheCaptionMaximiseOnlyWhereABoxRestores)
     EXPECT_TRUE(zoomed(STD));
     EXPECT_FALSE(zoomed(ONBOARD)) << "as it came";
     EXPECT_FALSE(zoomed(ONBOARD));
+    dialog.ShowWindow(SW_MINIMIZE);
+    ASSERT_TRUE(dialog.IsIconic());
+    EXPECT_FALSE(zoomed(ONBOARD));
+    EXPECT_FALSE(dialog.IsIconic()) << "nothing else brings it back";
 }
 
 TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
