@@ -30,6 +30,12 @@ BOOL CToolBar::CreateEx(CWnd* parent, DWORD controlStyle, DWORD style, CRect bor
     return TRUE;
 }
 
+void CToolBar::PreSubclassWindow()
+{
+    m_images.DeleteObject(); // of a window that has ended: this one has none to be replaced
+    CControlBar::PreSubclassWindow();
+}
+
 BOOL CToolBar::LoadBitmap(LPCTSTR name)
 {
     const auto images = static_cast<HBITMAP>(::LoadImage(

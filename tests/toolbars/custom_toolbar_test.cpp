@@ -171,6 +171,21 @@ TEST_F(CustomToolbarTest, IsDarkWithLightTextsOnBoardWhateverStandsBehindIt)
     EXPECT_TRUE(shows(black) && !shows(RGB(50, 50, 50)));
 }
 
+TEST_F(CustomToolbarTest, ASecondWindowOfTheObjectTakesPicturesOfItsOwn)
+{
+    CustomToolbar bar;
+    for (const char* const window : {"first", "second"})
+    {
+        ASSERT_TRUE(bar.CreateEx(&Host()));
+        for (const char* const pictures : {"new", "instead of those"})
+        {
+            EXPECT_TRUE(bar.SetBitmap(::CreateBitmap(32, 15, 1, 1, nullptr)))
+                << window << ' ' << pictures;
+        }
+        bar.DestroyWindow();
+    }
+}
+
 TEST_F(CustomToolbarTest, ButtonsAreAsHighAsAFingerOnBoardAndThePlatformsInTheStandardMode)
 {
     const auto height = [](const CustomToolbar& bar) {

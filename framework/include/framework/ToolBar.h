@@ -70,6 +70,9 @@ public:
     int GetCount() const override { return int(SendMessage(TB_BUTTONCOUNT)); }
     void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) override;
 
+protected:
+    void PreSubclassWindow() override;
+
 private:
     TBBUTTON ButtonAt(int index) const;
     void ReplaceButton(int index, TBBUTTON button);
