@@ -442,7 +442,7 @@ void CCustomDialog::OnMoving(UINT side, LPRECT proposed)
     CDialog::OnMoving(side, proposed);
     if (alive && COnBoardUIGeneral::InOnBoardMode())
     {
-        dialogs::KeepInHostArea(m_host, *proposed, m_showEntire);
+        dialogs::KeepInHostArea(*this, m_host, proposed, m_showEntire);
     }
 }
 

@@ -278,7 +278,7 @@ void CCustomPropSheet::OnMoving(UINT side, LPRECT proposed)
     CPropertySheet::OnMoving(side, proposed);
     if (alive && COnBoardUIGeneral::InOnBoardMode())
     {
-        dialogs::KeepInHostArea(m_host, *proposed, m_showEntire);
+        dialogs::KeepInHostArea(*this, m_host, proposed, m_showEntire);
     }
 }
 

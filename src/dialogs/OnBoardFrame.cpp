@@ -423,20 +423,23 @@ std::optional<HBRUSH> OnBoardColors(CDC* dc, CWnd* control, UINT kind)
 
 // The host --------------------------------------------------------------------------------------
 
-void KeepInHostArea(IAppAccess* host, RECT& proposed, bool whole)
+void KeepInHostArea(const CWnd& window, IAppAccess* host, RECT* proposed, bool whole)
 {
-    if (host == nullptr)
+    if (host == nullptr || proposed == nullptr)
     {
         return;
     }
+    const HWND handle = window.GetSafeHwnd(); // it may end in the question
     int x = 0;
     int y = 0;
     int width = 0;
     int height = 0;
     const bool answered = host->GetAvailableArea(GAA_WINDOW_AREA, x, y, width, height);
-    if (answered || (width > 0 && height > 0))
+    CRect now;
+    if ((answered || (width > 0 && height > 0)) && ::GetWindowRect(handle, &now))
     {
-        proposed = KeptInside(proposed, x, y, width, height, whole);
+        const CRect place(CPoint(proposed->left, proposed->top), now.Size());
+        *proposed = KeptInside(place, x, y, width, height, whole);
     }
 }
 

@@ -103,9 +103,10 @@ void DrawOnBoardFrame(CWnd& window, int captionHeight, bool active, bool centred
 // their own here. A control that answers for itself has its say first.
 std::optional<HBRUSH> OnBoardColors(CDC* dc, CWnd* control, UINT kind);
 
-// WM_MOVING on-board, after the default processing. Nothing without a host or when the host has no
-// area to offer.
-void KeepInHostArea(IAppAccess* host, RECT& proposed, bool whole);
+// WM_MOVING on-board, after the default processing. Nothing without a host, when the host has no
+// area to offer or no place is proposed. The window keeps its size, which may be another than at
+// the press, of which the platform proposes: the mode may have changed in the middle of the drag.
+void KeepInHostArea(const CWnd& window, IAppAccess* host, RECT* proposed, bool whole);
 
 // Has the host put its windows back into order; nothing without a host or a manager.
 void UpdateHostZOrder(IAppAccess* host);

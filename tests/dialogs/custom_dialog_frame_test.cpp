@@ -261,11 +261,13 @@ TEST_F(CustomDialogTest, TheCaptionIsDraggedAsFarAsTheHostsAreaAllows)
         DialogForTests dialog(form, Host(), &host);
         for (const auto& [by, of, gripped, kept] : cases)
         {
+            dialog.SetWindowPos(nullptr, 0, 0, of.cx, of.cy, SWP_NOMOVE | SWP_NOZORDER);
             EXPECT_EQ(proposed(dialog, CRect(start + by, of)), whole ? kept : gripped) << by.cx;
         }
         EXPECT_EQ(host.askedFor, 1);
 
-        dialog.SetWindowPos(nullptr, start.x, start.y, size.cx, size.cy, SWP_NOZORDER);
+        // Of another size at the press: a change of the mode in the middle of a drag changes it.
+        dialog.SetWindowPos(nullptr, start.x, start.y, 260, 140, SWP_NOZORDER);
         PumpAll();
         const CPoint from = WindowPoint(dialog, CPoint(60, 15));
         const CPoint to = from + std::get<0>(cases[3]);
@@ -274,7 +276,10 @@ TEST_F(CustomDialogTest, TheCaptionIsDraggedAsFarAsTheHostsAreaAllows)
         // pointer back there: so the last is repeated.
         std::vector<std::function<void()>> steps(11, [to] { QueueMove(to); });
         steps[0] = [] { QueueButton(true); };
-        steps[1] = [from] { QueueMove(from + CSize(40, 0)); };
+        steps[1] = [&] {
+            dialog.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+            QueueMove(from + CSize(40, 0));
+        };
         steps.back() = [] { QueueButton(false); };
         PlaySteps(steps);
         EXPECT_EQ(WindowRectOf(dialog).TopLeft(),
