@@ -6,6 +6,7 @@
 #include "paint/Palette.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace windows {
 
@@ -107,7 +108,13 @@ void MessageText::ScrollByWheel(int delta)
     UINT lines = 3;
     ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
     constexpr UINT Most = 20; // also for a user who has pages scrolled
-    SendMessage(EM_LINESCROLL, 0, -::MulDiv(int(std::min(lines, Most)), delta, WHEEL_DELTA));
+    if ((m_turned < 0) != (delta < 0))
+    {
+        m_turned = 0;
+    }
+    m_turned += int(std::min(lines, Most)) * delta; // a touchpad turns it by less than a line
+    const int whole = std::exchange(m_turned, m_turned % WHEEL_DELTA) / WHEEL_DELTA;
+    SendMessage(EM_LINESCROLL, 0, -whole);
 }
 
 void MessageText::CopyAll()

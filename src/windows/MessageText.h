@@ -37,6 +37,7 @@ protected:
 
 private:
     bool m_keepingBar = false; // for the text to come
+    int m_turned = 0;          // of the wheel, in lines times a notch, that is no line yet
 };
 
 } // namespace windows

@@ -196,6 +196,12 @@ TEST_F(MessageBoxTest, ALongTextIsScrolledAndCopiedByKeys)
             return box.FirstLine();
         };
         EXPECT_EQ(key(VK_HOME), 0);
+        for (const auto& [turned, line] :
+             {std::pair(-10, 0), {-10, 0}, {-20, 1}, {-30, 1}, {10, 1}, {20, 1}, {10, 0}})
+        {
+            Wheel(turned); // of a touchpad
+            EXPECT_EQ(box.FirstLine(), line) << turned;
+        }
         const int page = key(VK_NEXT); // from a button, too
         EXPECT_GT(page, 5);
         key(VK_TAB);
