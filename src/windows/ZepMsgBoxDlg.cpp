@@ -446,12 +446,21 @@ bool CZepMsgBoxDlg::PressKey(UINT key)
     case VK_UP:
     case VK_RIGHT:
     case VK_DOWN:
+    {
         if (focused < 0)
         {
             return false;
         }
-        Focus((focused + (key == VK_LEFT || key == VK_UP ? count - 1 : 1)) % count);
+        constexpr DWORD Stop = WS_VISIBLE | WS_DISABLED;
+        const int step = key == VK_LEFT || key == VK_UP ? count - 1 : 1;
+        int next = focused;
+        do
+        {
+            next = (next + step) % count;
+        } while (next != focused && (m_buttons[size_t(next)]->GetStyle() & Stop) != WS_VISIBLE);
+        Focus(next);
         return true;
+    }
     case VK_PRIOR:
     case VK_NEXT:
     case VK_HOME:

@@ -143,6 +143,22 @@ TEST_F(MessageBoxTest, TheKeysOfAMessageBoxAnswerIt)
     }
 }
 
+TEST_F(MessageBoxTest, TheArrowsPassButtonsThatCannotBePressed)
+{
+    const auto walk = [](Box& box) {
+        box.Button(1).EnableWindow(FALSE);
+        for (const auto& [key, focused] : {std::pair(VK_RIGHT, 2), {VK_RIGHT, 0}, {VK_UP, 2}})
+        {
+            TypeKey(UINT(key));
+            EXPECT_EQ(::GetFocus(), box.Button(size_t(focused)).m_hWnd) << key;
+        }
+        box.Button(0).ShowWindow(SW_HIDE);
+        TypeKey(VK_DOWN); // there is no other
+        TypeKey(VK_RETURN);
+    };
+    EXPECT_EQ(Answer("Go on?", MB_YESNOCANCEL, walk), IDCANCEL);
+}
+
 TEST_F(MessageBoxTest, OtherWindowsKeepTheirKeys)
 {
     const auto typeIntoOthers = [](Box& box) {
