@@ -166,15 +166,36 @@ void CPropertySheet::AddPage(CPropertyPage* page)
 
 void CPropertySheet::RemovePage(int page)
 {
-    if (GetPage(page) == nullptr)
+    const CPropertyPage* const removed = GetPage(page);
+    if (removed == nullptr)
     {
         return;
     }
+    const auto left = [&] { return std::find(m_pages.begin(), m_pages.end(), removed); };
     if (m_hWnd != nullptr)
     {
-        SendMessage(PSM_REMOVEPAGE, WPARAM(page));
+        // The page beside the one that is shown comes first: in that it may end the sheet or remove
+        // pages itself, which the platform does not bear in the middle of a removal.
+        const framework::StillThere here(*this);
+        const bool shown = GetActiveIndex() == page;
+        if (here && shown && GetPageCount() > 1)
+        {
+            SendMessage(PSM_SETCURSEL, WPARAM(page > 0 ? page - 1 : 1));
+        }
+        if (!here || left() == m_pages.end())
+        {
+            return;
+        }
+        SendMessage(PSM_REMOVEPAGE, WPARAM(left() - m_pages.begin()));
+        if (!here)
+        {
+            return;
+        }
     }
-    m_pages.erase(m_pages.begin() + page);
+    if (left() != m_pages.end())
+    {
+        m_pages.erase(left());
+    }
 }
 
 CPropertyPage* CPropertySheet::GetPage(int page) const

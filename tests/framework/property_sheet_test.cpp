@@ -6,6 +6,7 @@
 #include "support/forms.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
 
@@ -25,11 +26,16 @@ public:
     std::string name;
     Journal& journal;
     BOOL lets = TRUE; // the user leave the page, and apply it
+    std::function<void()> whenShown;
     CString text = "start";
 
     BOOL OnSetActive() override
     {
         journal.push_back(name + " active");
+        if (whenShown)
+        {
+            std::exchange(whenShown, nullptr)();
+        }
         return CPropertyPage::OnSetActive();
     }
     BOOL OnKillActive() override
@@ -170,6 +176,18 @@ TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwnerUntilItIsClosed)
         EXPECT_EQ(sheet.GetActivePage(), &second);
         ::SendMessage(sheet, byFrame ? WM_CLOSE : UINT(PSM_PRESSBUTTON), byFrame ? 0 : PSBTN_OK, 0);
         EXPECT_EQ(sheet.gone, 1) << byFrame;
+    }
+    // The page beside the one that is removed is shown, and may end the sheet or remove more.
+    for (const bool ends : {false, true})
+    {
+        Page third(IDD_TEST_PAGE_1, "third", journal);
+        auto sheet = std::make_unique<Sheet>(
+            &Host(), std::initializer_list<CPropertyPage*>{&first, &second, &third});
+        ASSERT_TRUE(sheet->Create(&Host()));
+        second.whenShown = [&] { ends ? sheet.reset() : sheet->RemovePage(2); };
+        sheet->RemovePage(0);
+        ASSERT_EQ(sheet == nullptr, ends);
+        EXPECT_TRUE(ends || (sheet->GetPageCount() == 1 && sheet->GetPage(0) == &second));
     }
     for (const bool byIndex : {true, false})
     {
