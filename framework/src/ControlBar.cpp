@@ -37,7 +37,10 @@ void CControlBar::PostNcDestroy()
 void CControlBar::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS* params)
 {
     Default();
-    CRect client(params->rgrc[0]);
-    client.DeflateRect(m_borders);
-    params->rgrc[0] = client;
+    if (params != nullptr)
+    {
+        CRect client(params->rgrc[0]);
+        client.DeflateRect(m_borders);
+        params->rgrc[0] = client;
+    }
 }

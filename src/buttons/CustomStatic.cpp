@@ -286,7 +286,7 @@ void CCustomStatic::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
     const WindowAlive alive(*this);
     Default();
     // Not while a window is made: it gets the border when its parent places it.
-    if (alive && COnBoardUIGeneral::InOnBoardMode() && calcValidRects &&
+    if (alive && COnBoardUIGeneral::InOnBoardMode() && calcValidRects && params != nullptr &&
         (GetExStyle() & WS_EX_CLIENTEDGE) != 0)
     {
         const CSize edge(::GetSystemMetrics(SM_CXEDGE), ::GetSystemMetrics(SM_CYEDGE));

@@ -476,7 +476,7 @@ BOOL CCustomDialog::OnNcActivate(BOOL active)
 
 void CCustomDialog::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS* params)
 {
-    if (COnBoardUIGeneral::InOnBoardMode())
+    if (COnBoardUIGeneral::InOnBoardMode() && params != nullptr)
     {
         // The proposed rectangle stands first in either form of the message.
         const dialogs::Frame frame =

@@ -317,7 +317,7 @@ BOOL CCustomPropSheet::OnNcActivate(BOOL active)
 
 void CCustomPropSheet::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS* params)
 {
-    if (HasOnBoardFrame())
+    if (HasOnBoardFrame() && params != nullptr)
     {
         dialogs::CalcOnBoardFrame(*this, params->rgrc[0], m_captionHeight);
     }

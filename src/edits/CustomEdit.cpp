@@ -255,7 +255,7 @@ void CCustomEdit::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)
     m_bars->NcCalcSize(calcValidRects, params,
                        edged ? CSize(metrics::Border - m_edgeWidth, metrics::Border - m_edgeHeight)
                              : CSize(0, 0));
-    if (alive && calcValidRects && m_bars->KeepsUnbroken())
+    if (alive && calcValidRects && params != nullptr && m_bars->KeepsUnbroken())
     {
         constexpr LONG Unbroken = 0x7000; // pixels; a size has 16 bits
         params->rgrc[0].right = std::max(params->rgrc[0].right, params->rgrc[0].left + Unbroken);

@@ -190,7 +190,7 @@ void BarHost::NcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params, const C
     {
         return;
     }
-    if (calcValidRects)
+    if (calcValidRects && params != nullptr)
     {
         TakeBands(params->rgrc[0], inset, IsShown(SB_VERT), IsShown(SB_HORZ));
     }

@@ -261,7 +261,7 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     {
     case WM_NCCALCSIZE:
         m_frame.Note(Window());
-        if (wParam != FALSE)
+        if (wParam != FALSE && lParam != 0)
         {
             auto& proposed = reinterpret_cast<NCCALCSIZE_PARAMS*>(lParam)->rgrc[0];
             scroll::TakeBands(proposed, CSize(0, 0), m_vertical.shown, m_horizontal.shown);
