@@ -295,8 +295,13 @@ bool AsksForSystemCommand(const CWnd& window, UINT message, WPARAM wParam, LPARA
     {
         return command == SC_KEYMENU || command == SC_MOUSEMENU;
     }
-    return message == WM_CONTEXTMENU && reinterpret_cast<HWND>(wParam) == window.GetSafeHwnd() &&
-           window.SendMessage(WM_NCHITTEST, 0, lParam) == HTCAPTION;
+    if (message != WM_CONTEXTMENU || reinterpret_cast<HWND>(wParam) != window.GetSafeHwnd())
+    {
+        return false;
+    }
+    // The platform looks for its own caption there, which is not where the band is hit.
+    const CPoint at = scroll::ScreenToWindow(window, CPoint(lParam));
+    return AreaOf(window).PtInRect(at) && !scroll::ClientRectInWindow(window).PtInRect(at);
 }
 
 LRESULT HitOnBoardFrame(const CWnd& window, const CPoint& screen, int captionHeight)

@@ -75,7 +75,7 @@ Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight);
 LRESULT HitOnBoardFrame(const CWnd& window, const CPoint& screen, int captionHeight);
 
 // Whether a message to a window with the on-board frame would have the platform open its system
-// menu: by Alt or F10, by Alt+Space, or by the right button on the caption. A window that was open
+// menu: by Alt or F10, by Alt+Space, or by the right button on the frame. A window that was open
 // when the mode changed still has the style for it. A child leaves the keys to its frame.
 // Or whether it would maximise the window, by two taps on the caption: it would lie over the whole
 // screen, not only the host's area, without a box to restore it by. One that is maximised or
