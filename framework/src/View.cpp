@@ -98,6 +98,7 @@ BEGIN_MESSAGE_MAP(CScrollView, CView)
     ON_WM_SIZE()
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
+    ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 void CScrollView::SetScrollSizes(int, SIZE total, const SIZE& page, const SIZE& line)
@@ -241,6 +242,28 @@ void CScrollView::OnVScroll(UINT code, UINT position, CScrollBar* bar)
         return;
     }
     Scroll(SB_VERT, code);
+}
+
+// As many lines a notch as the user has chosen, but no more than are in sight.
+BOOL CScrollView::OnMouseWheel(UINT flags, short delta, CPoint point)
+{
+    CRect client;
+    GetClientRect(&client);
+    if (m_total.cy <= client.Height())
+    {
+        return CView::OnMouseWheel(flags, delta, point); // for whoever is behind the view
+    }
+    UINT lines = 3;
+    ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    const LONGLONG notch =
+        lines == WHEEL_PAGESCROLL ? LONGLONG(m_page.cy) : LONGLONG(lines) * m_line.cy;
+    // A fine wheel turns by less than a pixel; what it has turned the other way does not count.
+    const bool turnsBack = (m_wheelRest < 0) != (delta < 0);
+    const LONGLONG way =
+        std::min<LONGLONG>(notch, client.Height()) * delta + (turnsBack ? 0 : m_wheelRest);
+    m_wheelRest = int(way % WHEEL_DELTA);
+    ScrollToPosition(CPoint(m_position.x, m_position.y - int(way / WHEEL_DELTA)));
+    return TRUE;
 }
 
 // Forms -----------------------------------------------------------------------------------------

@@ -72,6 +72,37 @@ TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndLooksAndWorksLikeA
               CCustomDialog::m_BkEditBrush.GetSafeHandle());
 }
 
+TEST_F(FormWindowsTest, AFormIsScrolledByTheWheelAlsoFromItsControls)
+{
+    UINT lines = 0;
+    ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    ASSERT_GT(lines, 0U);
+    ViewForTests view(Host());
+    view.MoveWindow(0, 0, 120, 60);
+    view.SetScrollSizes(MM_TEXT, CSize(100, 1000), CSize(0, 100), CSize(0, 10));
+    const auto turn = [&view](int id, int delta) {
+        const CWnd& turned = id == 0 ? view : *view.GetDlgItem(id);
+        turned.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, delta), MAKELPARAM(20, 20));
+        return view.GetScrollPosition().y;
+    };
+    const int notch = int(lines) * 10;
+    EXPECT_EQ(turn(0, -WHEEL_DELTA), notch);
+    EXPECT_EQ(turn(IDC_TEST_CHECK, -2 * WHEEL_DELTA), 3 * notch);
+    EXPECT_EQ(turn(IDC_TEST_CHECK, WHEEL_DELTA), 2 * notch);
+    for (int part = 0; part < WHEEL_DELTA; ++part)
+    {
+        turn(0, -1); // a fine wheel
+    }
+    EXPECT_EQ(turn(0, 0), 3 * notch);
+    EXPECT_EQ(turn(0, 0x7000), 0);
+
+    Host().AlsoRecord({WM_MOUSEWHEEL});
+    EXPECT_EQ(Host().Count(WM_MOUSEWHEEL), 0);
+    view.MoveWindow(0, 0, 500, 1000); // nothing to scroll: whoever is behind it may
+    turn(0, -WHEEL_DELTA);
+    EXPECT_EQ(Host().Count(WM_MOUSEWHEEL), 1);
+}
+
 TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
 {
     struct Page : CCustomPropPage

@@ -37,7 +37,8 @@ private:
     void LeaveFrame(BOOL notify);
 };
 
-// A view that scrolls when what it shows is larger than itself; pixels only.
+// A view that scrolls when what it shows is larger than itself, by its bars and by the wheel;
+// pixels only.
 class FRAMEWORK_API CScrollView : public CView
 {
     DECLARE_DYNAMIC(CScrollView)
@@ -59,6 +60,7 @@ protected:
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -66,6 +68,7 @@ private:
     CSize m_page;
     CSize m_line;
     CPoint m_position;
+    int m_wheelRest = 0; // of a pixel, in the parts of one that the wheel counts
     bool m_updatingBars = false;
 
     void UpdateBars();
