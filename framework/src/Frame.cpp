@@ -111,7 +111,15 @@ void CFrameWnd::OnClose()
 void CFrameWnd::OnSize(UINT type, int width, int height)
 {
     const framework::StillThere here(*this);
-    CWnd::OnSize(type, width, height);
+    if (type == SIZE_MINIMIZED && m_pViewActive != nullptr)
+    {
+        // Not every platform deactivates a window that is minimised, but it loses the focus.
+        m_pViewActive->OnActivateFrame(WA_INACTIVE, this);
+    }
+    if (here)
+    {
+        CWnd::OnSize(type, width, height);
+    }
     if (here && type != SIZE_MINIMIZED)
     {
         RecalcLayout();
@@ -127,10 +135,21 @@ BOOL CFrameWnd::OnEraseBkgnd(CDC* dc)
 void CFrameWnd::OnActivate(UINT state, CWnd* other, BOOL minimized)
 {
     const framework::StillThere here(*this);
-    CWnd::OnActivate(state, other, minimized);
+    if (state == WA_INACTIVE && m_pViewActive != nullptr)
+    {
+        m_pViewActive->OnActivateFrame(state, this); // it may end the frame
+    }
+    if (here)
+    {
+        CWnd::OnActivate(state, other, minimized);
+    }
     if (here && m_pViewActive != nullptr)
     {
         m_pViewActive->OnActivateView(state != WA_INACTIVE, m_pViewActive, m_pViewActive);
+    }
+    if (here && state != WA_INACTIVE && m_pViewActive != nullptr)
+    {
+        m_pViewActive->OnActivateFrame(state, this);
     }
 }
 

@@ -270,6 +270,10 @@ BOOL CScrollView::OnMouseWheel(UINT flags, short delta, CPoint point)
 
 IMPLEMENT_DYNAMIC(CFormView, CScrollView)
 
+BEGIN_MESSAGE_MAP(CFormView, CScrollView)
+    ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
 CFormView::CFormView(LPCSTR templateName)
     : m_lpszTemplateName(templateName)
 {}
@@ -292,6 +296,7 @@ BOOL CFormView::Create(LPCSTR, LPCSTR windowName, DWORD requestedStyle, const RE
         PostNcDestroy();
         return FALSE;
     }
+    m_focusOfFrame = nullptr;
     AfxHookWindowCreate(this);
     const HWND window = ::CreateDialogIndirectParam(module, dialogTemplate, parent->m_hWnd,
                                                     &CDialog::DialogProc, 0);
@@ -337,6 +342,33 @@ BOOL CFormView::Create(LPCSTR, LPCSTR windowName, DWORD requestedStyle, const RE
 void CFormView::OnInitialUpdate()
 {
     UpdateData(FALSE);
+}
+
+void CFormView::OnActivateFrame(UINT state, CFrameWnd*)
+{
+    const HWND focus = ::GetFocus();
+    const bool isOurs = ::IsChild(m_hWnd, focus) != FALSE;
+    if (state != WA_INACTIVE)
+    {
+        // One that is minimised has the focus only later.
+        m_focusOfFrame = isOurs ? nullptr : m_focusOfFrame;
+    }
+    else if (focus != nullptr)
+    {
+        m_focusOfFrame = isOurs ? focus : nullptr;
+    }
+}
+
+// The platform remembers the control for dialogs of their own alone.
+void CFormView::OnSetFocus(CWnd* old)
+{
+    if (::IsChild(m_hWnd, m_focusOfFrame) && ::IsWindowVisible(m_focusOfFrame) &&
+        ::IsWindowEnabled(m_focusOfFrame))
+    {
+        ::SetFocus(m_focusOfFrame);
+        return;
+    }
+    CScrollView::OnSetFocus(old);
 }
 
 BOOL CFormView::PreTranslateMessage(MSG* message)

@@ -103,6 +103,45 @@ TEST_F(FormWindowsTest, AFormIsScrolledByTheWheelAlsoFromItsControls)
     EXPECT_EQ(Host().Count(WM_MOUSEWHEEL), 1);
 }
 
+TEST_F(FormWindowsTest, AFormKeepsTheFocusOfItsControlForItsFrame)
+{
+    struct Frame : CFrameWnd
+    {
+        void PostNcDestroy() override {}
+    } frame;
+    ASSERT_TRUE(
+        frame.Create(nullptr, "Frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(100, 80, 600, 500)));
+    ViewForTests view(frame);
+    frame.SetActiveView(&view);
+    const HWND edit = ::GetDlgItem(view, IDC_TEST_EDIT);
+    const HWND check = ::GetDlgItem(view, IDC_TEST_CHECK);
+    const auto comeBack = [&frame] {
+        frame.SetForegroundWindow();
+        PumpAll();
+        return ::GetDlgCtrlID(::GetFocus());
+    };
+    const auto leave = [&] {
+        Host().SetForegroundWindow();
+        PumpAll();
+        EXPECT_NE(::GetForegroundWindow(), frame.m_hWnd);
+    };
+    comeBack();
+    ::SetFocus(check);
+    leave();
+    EXPECT_EQ(comeBack(), IDC_TEST_CHECK);
+    frame.ShowWindow(SW_MINIMIZE);
+    PumpAll();
+    frame.ShowWindow(SW_RESTORE);
+    EXPECT_EQ(comeBack(), IDC_TEST_CHECK);
+    leave();
+    ::EnableWindow(check, FALSE);
+    EXPECT_EQ(comeBack(), IDC_TEST_EDIT) << "the first that can have it";
+    ::EnableWindow(check, TRUE);
+    leave();
+    ::DestroyWindow(edit);
+    EXPECT_EQ(comeBack(), IDC_TEST_CHECK);
+}
+
 TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
 {
     struct Page : CCustomPropPage

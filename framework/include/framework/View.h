@@ -22,6 +22,8 @@ public:
 protected:
     virtual void OnDraw(CDC* dc) = 0;
     virtual void OnActivateView(BOOL activate, CView* activateView, CView* deactiveView);
+    // The frame is left (WA_INACTIVE, while the view has the focus still), or has come back.
+    virtual void OnActivateFrame(UINT, CFrameWnd*) {}
     void PostNcDestroy() override { delete this; }
 
     afx_msg void OnDestroy();
@@ -75,7 +77,8 @@ private:
     void Scroll(int bar, UINT code);
 };
 
-// A view whose controls come from a dialog template.
+// A view whose controls come from a dialog template. The control that has the focus when the frame
+// is left gets it back with the frame.
 class FRAMEWORK_API CFormView : public CScrollView
 {
     DECLARE_DYNAMIC(CFormView)
@@ -90,5 +93,13 @@ protected:
     explicit CFormView(LPCSTR templateName);
     explicit CFormView(UINT templateId);
 
+    void OnActivateFrame(UINT state, CFrameWnd* frame) override;
+
+    afx_msg void OnSetFocus(CWnd* old);
+    DECLARE_MESSAGE_MAP()
+
     LPCSTR m_lpszTemplateName;
+
+private:
+    HWND m_focusOfFrame = nullptr; // had the focus when the frame was left
 };
