@@ -199,9 +199,10 @@ BOOL CWnd::UpdateData(BOOL saveAndValidate)
     }
 }
 
-void CWnd::RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT, LPRECT,
+void CWnd::RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT flag, LPRECT rectParam,
                           LPCRECT rectClient, BOOL)
 {
+    const bool moves = flag != reposQuery;
     CRect rest;
     GetClientRect(&rest);
     if (rectClient != nullptr)
@@ -213,20 +214,31 @@ void CWnd::RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT, LPRE
     {
         const UINT id = UINT(::GetDlgCtrlID(child)) & 0xFFFFU;
         auto* bar = DYNAMIC_DOWNCAST(CControlBar, FromHandlePermanent(child));
-        if (id == leftoverId)
+        if (leftoverId != 0 && id == leftoverId)
         {
             leftover = child;
         }
-        else if (id >= firstId && id <= lastId && bar != nullptr && bar->IsWindowVisible())
+        else if (id >= firstId && id <= lastId && bar != nullptr &&
+                 (bar->GetStyle() & WS_VISIBLE) != 0 && (bar->GetBarStyle() & CBRS_ALIGN_ANY) != 0)
         {
             const int height = bar->CalcFixedLayout(TRUE, TRUE).cy;
             const bool bottom = (bar->GetBarStyle() & CBRS_ALIGN_BOTTOM) != 0;
             const int top = bottom ? rest.bottom - height : rest.top;
-            bar->MoveWindow(rest.left, top, rest.Width(), height);
+            if (moves)
+            {
+                bar->MoveWindow(rest.left, top, rest.Width(), height);
+            }
             (bottom ? rest.bottom : rest.top) += bottom ? -height : height;
         }
     }
-    if (leftover != nullptr)
+    if (!moves)
+    {
+        if (rectParam != nullptr)
+        {
+            *rectParam = rest;
+        }
+    }
+    else if (leftover != nullptr)
     {
         ::SetWindowPos(leftover, nullptr, rest.left, rest.top, rest.Width(), rest.Height(),
                        SWP_NOZORDER | SWP_NOACTIVATE);

@@ -1,4 +1,8 @@
+#include "catalog/DialogTemplate.h"
 #include "support/WindowTest.h"
+
+#include <afxcmn.h>
+#include <afxext.h>
 
 #include <string>
 
@@ -99,6 +103,74 @@ TEST_F(WindowTest, AFrameMakesItsViewWhichIsAskedFirstAndEndsWithItOrForWantOfIt
     frame->SendMessage(WM_CLOSE);
     EXPECT_EQ(MakeFrame(RUNTIME_CLASS(CView)), nullptr) << "no view, no frame";
     EXPECT_EQ(liveObjects, 0);
+}
+
+// Bars ------------------------------------------------------------------------------------------
+
+// Strings of the test program: with a tip, and without one.
+constexpr UINT TippedCommand = 60004;
+constexpr UINT UntippedCommand = 60005;
+
+class PressBar : public CToolBar
+{
+public:
+    BOOL Make(CWnd& parent, DWORD style, UINT id = AFX_IDW_TOOLBAR)
+    {
+        const UINT commands[] = {TippedCommand, UntippedCommand};
+        return CreateEx(&parent, TBSTYLE_FLAT, WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 0, 0),
+                        id) &&
+               SetButtons(commands, 2);
+    }
+    BOOL IsPressable(UINT command) const { return BOOL(SendMessage(TB_ISBUTTONENABLED, command)); }
+    CString Tip(UINT command)
+    {
+        CString text;
+        if (CToolTipCtrl* tips = GetToolBarCtrl().GetToolTips())
+        {
+            tips->GetText(text, this, command);
+        }
+        return text;
+    }
+};
+
+TEST_F(WindowTest, BarsOfAWindowThatIsNotShownYetHaveTheirPlaces)
+{
+    CDialog dialog;
+    const DialogTemplate form(CRect(0, 0, 200, 100), WS_POPUP);
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    const CRect client = ClientRectOf(dialog);
+    const auto place = [&](const CWnd& child) {
+        CRect rect = WindowRectOf(child);
+        dialog.ScreenToClient(&rect);
+        return rect;
+    };
+    PressBar top;
+    PressBar unaligned;
+    PressBar hidden;
+    CStatusBar bottom;
+    CStatic pane;
+    ASSERT_TRUE(top.Make(dialog, CBRS_TOP));
+    ASSERT_TRUE(unaligned.Make(dialog, CBRS_NOALIGN, AFX_IDW_TOOLBAR + 2));
+    ASSERT_TRUE(hidden.Make(dialog, CBRS_TOP, AFX_IDW_TOOLBAR + 3));
+    hidden.ShowWindow(SW_HIDE);
+    ASSERT_TRUE(bottom.Create(&dialog));
+    ASSERT_TRUE(pane.Create("", WS_CHILD, CRect(1, 2, 3, 4), &dialog, AFX_IDW_PANE_FIRST));
+    unaligned.MoveWindow(5, 50, 60, 20);
+
+    CRect left(0, 0, 0, 0);
+    const auto reposition = [&](UINT flag) {
+        dialog.RepositionBars(AFX_IDW_CONTROLBAR_FIRST, AFX_IDW_CONTROLBAR_LAST, AFX_IDW_PANE_FIRST,
+                              flag, &left);
+    };
+    reposition(CWnd::reposQuery);
+    EXPECT_EQ(place(pane), CRect(1, 2, 3, 4)) << "it was only a question";
+    reposition(CWnd::reposDefault);
+    EXPECT_EQ(place(top), CRect(0, 0, client.right, top.CalcFixedLayout(TRUE, TRUE).cy));
+    EXPECT_EQ(place(bottom), CRect(0, client.bottom - bottom.CalcFixedLayout(TRUE, TRUE).cy,
+                                   client.right, client.bottom));
+    EXPECT_EQ(place(pane), CRect(0, place(top).bottom, client.right, place(bottom).top));
+    EXPECT_EQ(left, place(pane)) << "which was answered";
+    EXPECT_EQ(place(unaligned), CRect(5, 50, 65, 70));
 }
 
 } // namespace

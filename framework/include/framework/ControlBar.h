@@ -8,7 +8,10 @@ class CFrameWnd;
 class CStatusBarCtrl;
 class CToolBarCtrl;
 
-constexpr UINT AFX_IDW_TOOLBAR = 0xE800;
+// The ids of bars; those of panes follow.
+constexpr UINT AFX_IDW_CONTROLBAR_FIRST = 0xE800;
+constexpr UINT AFX_IDW_CONTROLBAR_LAST = 0xE8FF;
+constexpr UINT AFX_IDW_TOOLBAR = AFX_IDW_CONTROLBAR_FIRST;
 constexpr UINT AFX_IDW_STATUS_BAR = 0xE801;
 constexpr UINT ID_SEPARATOR = 0;
 
@@ -18,7 +21,7 @@ constexpr DWORD CBRS_ALIGN_TOP = 0x2000;
 constexpr DWORD CBRS_ALIGN_RIGHT = 0x4000;
 constexpr DWORD CBRS_ALIGN_BOTTOM = 0x8000;
 constexpr DWORD CBRS_ALIGN_ANY = 0xF000;
-constexpr DWORD CBRS_NOALIGN = 0;
+constexpr DWORD CBRS_NOALIGN = 0; // where its owner puts it: the frame leaves it there
 constexpr DWORD CBRS_TOP = CBRS_ALIGN_TOP;
 constexpr DWORD CBRS_BOTTOM = CBRS_ALIGN_BOTTOM;
 constexpr DWORD CBRS_TOOLTIPS = 0x0010;

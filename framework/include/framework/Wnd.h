@@ -229,8 +229,16 @@ public:
         ::ScrollWindow(m_hWnd, dx, dy, rect, clip);
     }
 
-    // Lays out child bars round the one pane that takes what is left.
-    void RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT flags = 0,
+    // Lays out child bars, whether or not their parent is shown yet, round the one pane that takes
+    // what is left; a bar without an alignment stays where it is. With reposQuery nothing moves,
+    // and rectParam gets the room that would be left. stretch is not used: every bar takes the
+    // whole width.
+    enum RepositionFlag : UINT
+    {
+        reposDefault,
+        reposQuery,
+    };
+    void RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT flag = reposDefault,
                         LPRECT rectParam = nullptr, LPCRECT rectClient = nullptr,
                         BOOL stretch = TRUE);
 
