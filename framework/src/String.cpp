@@ -265,3 +265,21 @@ void CString::ReleaseBuffer(int newLength)
 {
     m_text.resize(newLength < 0 ? std::strlen(m_text.c_str()) : size_t(newLength));
 }
+
+BOOL AFXAPI AfxExtractSubString(CString& part, LPCTSTR text, int number, char separator)
+{
+    const std::string whole(OrEmpty(text)); // the part may be the text
+    size_t first = 0;
+    for (; number > 0 && first != std::string::npos; --number)
+    {
+        const size_t next = whole.find(separator, first);
+        first = next == std::string::npos ? next : next + 1;
+    }
+    if (number < 0 || first == std::string::npos || text == nullptr)
+    {
+        part.Empty();
+        return FALSE;
+    }
+    part = whole.substr(first, whole.find(separator, first) - first).c_str();
+    return TRUE;
+}

@@ -36,6 +36,13 @@ void CToolBar::PreSubclassWindow()
     CControlBar::PreSubclassWindow();
 }
 
+void CToolBar::ApplyBarStyle()
+{
+    const DWORD tips = (GetBarStyle() & CBRS_TOOLTIPS) != 0 ? TBSTYLE_TOOLTIPS : 0;
+    const DWORD rest = DWORD(SendMessage(TB_GETSTYLE)) & ~DWORD(TBSTYLE_TOOLTIPS);
+    SendMessage(TB_SETSTYLE, 0, LPARAM(rest | tips));
+}
+
 BOOL CToolBar::LoadBitmap(LPCTSTR name)
 {
     const auto images = static_cast<HBITMAP>(::LoadImage(

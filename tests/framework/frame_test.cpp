@@ -173,4 +173,31 @@ TEST_F(WindowTest, BarsOfAWindowThatIsNotShownYetHaveTheirPlaces)
     EXPECT_EQ(place(unaligned), CRect(5, 50, 65, 70));
 }
 
+TEST_F(WindowTest, ABarTellsTheTipsOfItsCommandsUnlessItsParentDoes)
+{
+    PressBar bar;
+    PressBar silent;
+    PressBar later;
+    ASSERT_TRUE(bar.Make(Host(), CBRS_TOP | CBRS_TOOLTIPS));
+    ASSERT_TRUE(silent.Make(Host(), CBRS_TOP, 2));
+    ASSERT_TRUE(later.Make(Host(), CBRS_TOP, 3));
+    later.SetBarStyle(later.GetBarStyle() | CBRS_TOOLTIPS);
+    EXPECT_STREQ(bar.Tip(TippedCommand), "Direct to");
+    EXPECT_STREQ(bar.Tip(UntippedCommand), "");
+    EXPECT_STREQ(silent.Tip(TippedCommand), "");
+    EXPECT_STREQ(later.Tip(TippedCommand), "Direct to");
+
+    Host().hook = [](ToldMessage& told) {
+        if (told.message == WM_NOTIFY && told.code == UINT(TTN_GETDISPINFOW))
+        {
+            reinterpret_cast<NMTTDISPINFOW*>(told.lParam)->lpszText = const_cast<LPWSTR>(L"Mine");
+        }
+        if (told.message == WM_NOTIFY && told.code == UINT(TTN_GETDISPINFOA))
+        {
+            reinterpret_cast<NMTTDISPINFOA*>(told.lParam)->lpszText = const_cast<LPSTR>("Mine");
+        }
+    };
+    EXPECT_STREQ(bar.Tip(TippedCommand), "Mine");
+}
+
 } // namespace

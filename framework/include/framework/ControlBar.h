@@ -4,6 +4,8 @@
 
 #include "framework/Wnd.h"
 
+#include <string>
+
 class CFrameWnd;
 class CStatusBarCtrl;
 class CToolBarCtrl;
@@ -24,6 +26,8 @@ constexpr DWORD CBRS_ALIGN_ANY = 0xF000;
 constexpr DWORD CBRS_NOALIGN = 0; // where its owner puts it: the frame leaves it there
 constexpr DWORD CBRS_TOP = CBRS_ALIGN_TOP;
 constexpr DWORD CBRS_BOTTOM = CBRS_ALIGN_BOTTOM;
+// The tip of a command is the second line of the string resource of its id, unless the bar's parent
+// answers TTN_NEEDTEXT itself.
 constexpr DWORD CBRS_TOOLTIPS = 0x0010;
 constexpr DWORD CBRS_FLYBY = 0x0020;
 constexpr DWORD CBRS_ALL = 0xFFFF;
@@ -39,7 +43,7 @@ public:
     // The size the bar wants. Stretched, the length along the orientation is the most there is.
     virtual CSize CalcFixedLayout(BOOL stretch, BOOL horizontal);
     DWORD GetBarStyle() const { return m_dwStyle; }
-    void SetBarStyle(DWORD style) { m_dwStyle = style & CBRS_ALL; }
+    void SetBarStyle(DWORD style);
     // The widths of the borders as the sides of a rectangle.
     CRect GetBorders() const { return m_borders; }
     void SetBorders(int left = 0, int top = 0, int right = 0, int bottom = 0)
@@ -56,12 +60,18 @@ protected:
     CControlBar() = default;
     BOOL CreateBar(LPCSTR className, CWnd* parent, DWORD controlStyle, DWORD style, UINT id);
     void PostNcDestroy() override;
+    // The bar has a window, and other styles than before.
+    virtual void ApplyBarStyle() {}
 
     afx_msg void OnNcCalcSize(BOOL calcValid, NCCALCSIZE_PARAMS* params);
+    afx_msg BOOL OnToolTipText(UINT id, NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 
     DWORD m_dwStyle = 0;
 
 private:
     CRect m_borders;
+    // The tip that was told last: who asked reads it later.
+    CString m_tip;
+    std::wstring m_wideTip;
 };

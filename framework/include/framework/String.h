@@ -155,3 +155,8 @@ private:
 
     std::string m_text;
 };
+
+// The part with that number, from 0 on, of a text whose parts are separated by a character; FALSE,
+// with an empty part, when there is none.
+FRAMEWORK_API BOOL AFXAPI AfxExtractSubString(CString& part, LPCTSTR text, int number,
+                                              char separator = '\n');

@@ -72,6 +72,7 @@ public:
 
 protected:
     void PreSubclassWindow() override;
+    void ApplyBarStyle() override;
 
 private:
     TBBUTTON ButtonAt(int index) const;
