@@ -68,11 +68,36 @@ BOOL CWinThread::PreTranslateMessage(MSG* message)
     return message->hwnd != nullptr && CWnd::WalkPreTranslateTree(main, message);
 }
 
+namespace {
+
+BOOL CALLBACK Collect(HWND window, LPARAM windows)
+{
+    reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+    return TRUE;
+}
+
+// The bars of all frames of the thread; who answers a bar may end any of them.
+void UpdateBarsOfFrames()
+{
+    std::vector<HWND> windows;
+    ::EnumThreadWindows(::GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(&windows));
+    for (const HWND window : windows)
+    {
+        auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, CWnd::FromHandlePermanent(window));
+        if (frame != nullptr)
+        {
+            frame->UpdateBars();
+        }
+    }
+}
+
+} // namespace
+
 BOOL CWinThread::OnIdle(LONG count)
 {
-    if (auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, m_pMainWnd); frame != nullptr && count == 0)
+    if (count == 0)
     {
-        frame->UpdateBars();
+        UpdateBarsOfFrames();
     }
     CWnd::DeleteTempMap();
     framework::DeleteTemporaryGdiObjects();

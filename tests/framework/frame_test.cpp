@@ -200,4 +200,18 @@ TEST_F(WindowTest, ABarTellsTheTipsOfItsCommandsUnlessItsParentDoes)
     EXPECT_STREQ(bar.Tip(TippedCommand), "Mine");
 }
 
+TEST_F(WindowTest, TheBarsOfEveryFrameAreKeptUpToDate)
+{
+    Frame* const main = MakeFrame(RUNTIME_CLASS(ColourView));
+    ASSERT_NE(main, nullptr);
+    AfxGetApp()->m_pMainWnd = &Host(); // none of the frames
+    PressBar bar;
+    ASSERT_TRUE(bar.Make(*main, CBRS_TOP));
+    EXPECT_TRUE(bar.IsPressable(TippedCommand));
+    PumpAll();
+    EXPECT_FALSE(bar.IsPressable(TippedCommand)) << "nobody handles it";
+    AfxGetApp()->m_pMainWnd = nullptr;
+    main->DestroyWindow();
+}
+
 } // namespace
