@@ -33,11 +33,13 @@ END_MESSAGE_MAP()
 
 CWnd* PASCAL CWnd::FromHandle(HWND window)
 {
-    return CurrentThreadState().windows.Find(window, [](HWND handle) {
-        auto temporary = std::make_unique<CWnd>();
-        temporary->m_hWnd = handle;
-        return temporary;
-    });
+    CWnd* const wnd =
+        CurrentThreadState().windows.Find(window, [](HWND) { return std::make_unique<CWnd>(); });
+    if (wnd != nullptr)
+    {
+        wnd->m_hWnd = window; // also when somebody detached it
+    }
+    return wnd;
 }
 
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND window)
@@ -271,7 +273,14 @@ BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
 
 BOOL CWnd::DestroyWindow()
 {
-    return m_hWnd != nullptr && ::DestroyWindow(m_hWnd);
+    const HWND window = m_hWnd;
+    const framework::StillThere here(*this);
+    const BOOL destroyed = window != nullptr && ::DestroyWindow(window);
+    if (destroyed && here && m_hWnd == window)
+    {
+        Detach(); // only attached, so its last message did not come here
+    }
+    return destroyed;
 }
 
 // The window procedure --------------------------------------------------------------------------

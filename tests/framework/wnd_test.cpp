@@ -133,6 +133,17 @@ TEST_F(WndTest, TemporaryObjectsOwnNothingAndEndWhenIdle)
         EXPECT_TRUE(owner.Attach(plain));
     }
     EXPECT_FALSE(::IsWindow(plain)) << "an attached window ends with its object";
+
+    const HWND another = PlainChild(Host());
+    CWnd::FromHandle(another)->Detach();
+    EXPECT_EQ(CWnd::FromHandle(another)->GetSafeHwnd(), another) << "also after somebody let go";
+    CWnd attached;
+    ASSERT_TRUE(attached.Attach(another));
+    EXPECT_TRUE(attached.DestroyWindow());
+    EXPECT_EQ(attached.GetSafeHwnd(), nullptr) << "though its last message came to nobody";
+    EXPECT_EQ(CWnd::FromHandlePermanent(another), nullptr);
+}
+
 }
 
 // Subclassing -----------------------------------------------------------------------------------
