@@ -1,5 +1,6 @@
 #include "framework/CmdTarget.h"
 
+#include "ThreadState.h"
 #include "framework/Wnd.h"
 
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
@@ -101,6 +102,48 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
         return handled;
     }
     return DispatchCommand(WM_COMMAND, UINT(nCode), m, pHandlerInfo);
+}
+
+void CCmdTarget::BeginWaitCursor()
+{
+    framework::ThreadState& state = framework::CurrentThreadState();
+    const HCURSOR before = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+    if (state.waiting++ == 0)
+    {
+        state.cursorBefore = before;
+    }
+}
+
+void CCmdTarget::EndWaitCursor()
+{
+    framework::ThreadState& state = framework::CurrentThreadState();
+    if (state.waiting > 0 && --state.waiting == 0)
+    {
+        ::SetCursor(state.cursorBefore);
+    }
+}
+
+void CCmdTarget::RestoreWaitCursor()
+{
+    if (framework::CurrentThreadState().waiting > 0)
+    {
+        ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+    }
+}
+
+CWaitCursor::CWaitCursor()
+{
+    CCmdTarget().BeginWaitCursor();
+}
+
+CWaitCursor::~CWaitCursor()
+{
+    CCmdTarget().EndWaitCursor();
+}
+
+void CWaitCursor::Restore()
+{
+    CCmdTarget().RestoreWaitCursor();
 }
 
 void CCmdUI::Enable(BOOL on)

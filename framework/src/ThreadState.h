@@ -19,6 +19,8 @@ struct ThreadState
     HWND creatingIn = nullptr; // ... in this parent, if it is not null
     HHOOK creationHook = nullptr;
     CWinThread* thread = nullptr;
+    int waiting = 0;                // how many have asked for the hourglass
+    HCURSOR cursorBefore = nullptr; // of the first of them
 };
 
 // Made on first use and never freed: windows may outlive every static object.

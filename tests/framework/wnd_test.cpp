@@ -144,6 +144,26 @@ TEST_F(WndTest, TemporaryObjectsOwnNothingAndEndWhenIdle)
     EXPECT_EQ(CWnd::FromHandlePermanent(another), nullptr);
 }
 
+TEST_F(WndTest, TheLastOfWhoeverWaitsGivesThePointerItsShapeBack)
+{
+    const HCURSOR before = ::SetCursor(::LoadCursor(nullptr, IDC_IBEAM));
+    Host().BeginWaitCursor();
+    Host().BeginWaitCursor();
+    Host().EndWaitCursor();
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_WAIT)) << "somebody waits still";
+    ::SetCursor(::LoadCursor(nullptr, IDC_ARROW)); // a box on the way
+    Host().RestoreWaitCursor();
+    EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_WAIT));
+    for (int round = 0; round < 2; ++round) // one too many does nothing
+    {
+        Host().EndWaitCursor();
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_IBEAM));
+    }
+    {
+        const CWaitCursor waits;
+        EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_WAIT));
+    }
+    EXPECT_EQ(::SetCursor(before), ::LoadCursor(nullptr, IDC_IBEAM));
 }
 
 // Subclassing -----------------------------------------------------------------------------------

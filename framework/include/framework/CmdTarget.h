@@ -31,8 +31,12 @@ public:
     // TRUE when somebody handled it.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
-    void BeginWaitCursor() { ::SetCursor(::LoadCursor(nullptr, IDC_WAIT)); }
-    void EndWaitCursor() { ::SetCursor(::LoadCursor(nullptr, IDC_ARROW)); }
+    // The hourglass while something takes long. Pairs nest; the last end gives the pointer the
+    // shape back that it had before the first.
+    void BeginWaitCursor();
+    void EndWaitCursor();
+    // After something else has changed the pointer meanwhile.
+    void RestoreWaitCursor();
 
 protected:
     static const AFX_MSGMAP* PASCAL GetThisMessageMap();
@@ -42,6 +46,17 @@ protected:
     bool DispatchWindowMessage(UINT mapNumber, AFX_MSGCALL& m);
     // The same for entries with codes and ids; reflected entries have no id.
     bool DispatchCommand(UINT mapNumber, UINT code, AFX_MSGCALL& m, AFX_CMDHANDLERINFO* info);
+};
+
+// The hourglass for as long as the object lives.
+class FRAMEWORK_API CWaitCursor
+{
+public:
+    CWaitCursor();
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+    ~CWaitCursor();
+    void Restore();
 };
 
 // Tells a menu item, tool-bar button, status pane or control how a command stands.
