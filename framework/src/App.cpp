@@ -139,6 +139,7 @@ struct ModuleState
     HINSTANCE resources = nullptr;
     std::vector<const CDynLinkLibrary*> extensions;
     std::set<std::string> windowClasses;
+    CString exeName;
 };
 
 ModuleState& State()
@@ -233,6 +234,21 @@ HINSTANCE AfxFindResourceHandle(LPCSTR name, LPCSTR type)
     return AfxGetResourceHandle();
 }
 
+namespace {
+
+// Of the program's file, without folder and extension.
+CString ExeName()
+{
+    char path[MAX_PATH] = {};
+    ::GetModuleFileName(nullptr, path, MAX_PATH);
+    CString name(path);
+    name = name.Mid(name.ReverseFind('\\') + 1);
+    const int extension = name.ReverseFind('.');
+    return extension > 0 ? name.Left(extension) : name;
+}
+
+} // namespace
+
 BOOL AfxWinInit(HINSTANCE instance, HINSTANCE, LPSTR commandLine, int showCommand)
 {
     if (CWinApp* app = AfxGetApp())
@@ -240,6 +256,9 @@ BOOL AfxWinInit(HINSTANCE instance, HINSTANCE, LPSTR commandLine, int showComman
         app->m_hInstance = instance;
         app->m_lpCmdLine = commandLine;
         app->m_nCmdShow = showCommand;
+        State().exeName = ExeName();
+        app->m_pszExeName = State().exeName;
+        app->m_pszAppName = app->m_pszAppName == nullptr ? app->m_pszExeName : app->m_pszAppName;
     }
     const INITCOMMONCONTROLSEX classes = {
         sizeof(classes), ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_BAR_CLASSES};

@@ -87,6 +87,7 @@ TEST_F(WndTest, TheObjectIsThereBeforeTheFirstMessage)
     EXPECT_FALSE(window.DestroyWindow());
     EXPECT_TRUE(TakeQuit()) << "the end of the main window is that of the program";
     EXPECT_EQ(AfxGetMainWnd(), nullptr);
+    EXPECT_STREQ(AfxGetAppName(), "onboardui_tests") << "for want of another name";
     EXPECT_TRUE(window.Make(&Host())) << "an object can have one window after another";
 }
 

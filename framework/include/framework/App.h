@@ -14,7 +14,8 @@ public:
     HINSTANCE m_hInstance = nullptr;
     LPSTR m_lpCmdLine = nullptr;
     int m_nCmdShow = SW_SHOWNORMAL;
-    LPCSTR m_pszAppName = nullptr;
+    LPCSTR m_pszAppName = nullptr; // as given, else the program's file name; set by AfxWinInit
+    LPCSTR m_pszExeName = nullptr; // the program's file, without folder and extension
 
     virtual BOOL InitApplication() { return TRUE; }
     int Run() override;
