@@ -215,23 +215,44 @@ void AfxSetResourceHandle(HINSTANCE module)
     State().resources = module;
 }
 
+namespace {
+
+// Where resources are looked for, in order.
+std::vector<HINSTANCE> ResourceModules()
+{
+    std::vector<HINSTANCE> modules = {AfxGetResourceHandle(), AfxGetInstanceHandle()};
+    for (const CDynLinkLibrary* extension : State().extensions)
+    {
+        modules.push_back(extension->m_hResource);
+    }
+    return modules;
+}
+
+} // namespace
+
 HINSTANCE AfxFindResourceHandle(LPCSTR name, LPCSTR type)
 {
-    for (const HINSTANCE module : {AfxGetResourceHandle(), AfxGetInstanceHandle()})
+    for (const HINSTANCE module : ResourceModules())
     {
         if (::FindResource(module, name, type) != nullptr)
         {
             return module;
         }
     }
-    for (const CDynLinkLibrary* extension : State().extensions)
+    return AfxGetResourceHandle();
+}
+
+// Sixteen strings share one resource, so a module may have that and not the string.
+BOOL CString::LoadString(UINT id)
+{
+    for (const HINSTANCE module : ResourceModules())
     {
-        if (::FindResource(extension->m_hResource, name, type) != nullptr)
+        if (LoadString(module, id))
         {
-            return extension->m_hResource;
+            return TRUE;
         }
     }
-    return AfxGetResourceHandle();
+    return FALSE;
 }
 
 namespace {

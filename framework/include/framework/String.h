@@ -111,11 +111,7 @@ public:
     void AppendFormatV(LPCTSTR format, va_list arguments);
 
     // FALSE, with the text unchanged, when there is no such string resource.
-    BOOL LoadString(UINT id)
-    {
-        // Sixteen strings share one resource.
-        return LoadString(AfxFindResourceHandle(MAKEINTRESOURCE(id / 16 + 1), RT_STRING), id);
-    }
+    BOOL LoadString(UINT id);
     BOOL LoadString(HINSTANCE module, UINT id);
 
     // A buffer of at least minLength characters and a null, holding the text so far. Writing into
