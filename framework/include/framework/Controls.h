@@ -293,9 +293,11 @@ public:
     }
     // Scrolls the caret into view unless told not to.
     void SetSel(int start, int end, BOOL noScroll = FALSE);
+    // Start and end as two words, as GetSel gives them; 0xFFFF is -1.
     void SetSel(DWORD startAndEnd, BOOL noScroll = FALSE)
     {
-        SetSel(short(LOWORD(startAndEnd)), short(HIWORD(startAndEnd)), noScroll);
+        const auto place = [](WORD word) { return word == 0xFFFF ? -1 : int(word); };
+        SetSel(place(LOWORD(startAndEnd)), place(HIWORD(startAndEnd)), noScroll);
     }
     void ReplaceSel(LPCTSTR text, BOOL canUndo = FALSE)
     {
