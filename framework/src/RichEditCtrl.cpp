@@ -30,12 +30,14 @@ CString CRichEditCtrl::GetSelText() const
 
 int CRichEditCtrl::GetTextRange(int first, int last, CString& text) const
 {
-    const int end = last < 0 ? int(GetTextLength()) : last;
+    const int length = int(GetTextLength());
+    const int end = last < 0 ? length : std::min(last, length);
+    const int begin = std::clamp(first, 0, end);
     TEXTRANGE range = {};
-    range.chrg = {first, end};
+    range.chrg = {begin, end};
     // A character may take two bytes in the system's code page.
-    range.lpstrText = text.GetBufferSetLength(std::max(end - first, 0) * 2);
-    const auto length = int(SendMessage(EM_GETTEXTRANGE, 0, LPARAM(&range)));
+    range.lpstrText = text.GetBufferSetLength((end - begin) * 2);
+    const auto copied = int(SendMessage(EM_GETTEXTRANGE, 0, LPARAM(&range)));
     text.ReleaseBuffer();
-    return length;
+    return copied;
 }

@@ -7,6 +7,7 @@
 #include "framework/StatusBarCtrl.h"
 
 #include <algorithm>
+#include <utility>
 
 IMPLEMENT_DYNAMIC(CStatusBarCtrl, CWnd)
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
@@ -50,7 +51,10 @@ BOOL CStatusBar::CreateEx(CWnd* parent, DWORD controlStyle, DWORD style, UINT id
 
 BOOL CStatusBar::SetIndicators(const UINT* ids, int count)
 {
-    ASSERT(count > 0);
+    if (count <= 0)
+    {
+        return FALSE;
+    }
     std::vector<Pane> panes(static_cast<size_t>(count));
     CClientDC dc(this);
     CFont* const before = GetFont() == nullptr ? nullptr : dc.SelectObject(GetFont());
@@ -80,6 +84,13 @@ BOOL CStatusBar::SetIndicators(const UINT* ids, int count)
     return complete;
 }
 
+// A pane that is not there is an empty one.
+const CStatusBar::Pane& CStatusBar::At(int index) const
+{
+    static const Pane none{};
+    return HasPane(index) ? m_panes[size_t(index)] : none;
+}
+
 int CStatusBar::CommandToIndex(UINT id) const
 {
     for (int index = 0; index < GetCount(); ++index)
@@ -101,7 +112,11 @@ void CStatusBar::GetPaneInfo(int index, UINT& id, UINT& style, int& width) const
 
 void CStatusBar::SetPaneInfo(int index, UINT id, UINT style, int width)
 {
-    Pane& pane = At(index);
+    if (!HasPane(index))
+    {
+        return;
+    }
+    Pane& pane = m_panes[size_t(index)];
     pane.id = id;
     pane.style = style;
     pane.width = width;
@@ -119,11 +134,11 @@ void CStatusBar::SetPaneStyle(int index, UINT style)
 
 BOOL CStatusBar::SetPaneText(int index, LPCTSTR text, BOOL update)
 {
-    if (index < 0 || index >= GetCount())
+    if (!HasPane(index))
     {
         return FALSE;
     }
-    Pane& pane = At(index);
+    Pane& pane = m_panes[size_t(index)];
     if (pane.text == text)
     {
         return TRUE;

@@ -11,8 +11,9 @@ LPCTSTR OrEmpty(LPCTSTR text)
     return text == nullptr ? "" : text;
 }
 
-std::string Formatted(LPCTSTR format, va_list arguments)
+std::string Formatted(LPCTSTR givenFormat, va_list arguments)
 {
+    const LPCTSTR format = OrEmpty(givenFormat);
     va_list measured;
     va_copy(measured, arguments);
     const int length = std::vsnprintf(nullptr, 0, format, measured);
@@ -257,7 +258,7 @@ LPTSTR CString::GetBuffer(int minLength)
 
 LPTSTR CString::GetBufferSetLength(int length)
 {
-    m_text.resize(size_t(length));
+    m_text.resize(Count(length));
     return m_text.data();
 }
 

@@ -113,7 +113,7 @@ BOOL CToolBar::SetButtons(const UINT* ids, int count)
     {
         SendMessage(TB_DELETEBUTTON, WPARAM(index));
     }
-    std::vector<TBBUTTON> buttons(static_cast<size_t>(count));
+    std::vector<TBBUTTON> buttons(size_t(std::max(count, 0)));
     int image = 0;
     for (int index = 0; index < count; ++index)
     {
@@ -129,12 +129,15 @@ BOOL CToolBar::SetButtons(const UINT* ids, int count)
         button.idCommand = int(ids[index]);
         button.iBitmap = image++;
     }
-    return BOOL(SendMessage(TB_ADDBUTTONS, WPARAM(count), LPARAM(buttons.data())));
+    return BOOL(SendMessage(TB_ADDBUTTONS, buttons.size(), LPARAM(buttons.data())));
 }
 
 void CToolBar::SetSizes(SIZE button, SIZE image)
 {
-    ASSERT(image.cx > 0 && image.cy > 0);
+    if (image.cx <= 0 || image.cy <= 0)
+    {
+        return; // the pictures are told apart by their size
+    }
     m_imageSize = image;
     SendMessage(TB_SETBITMAPSIZE, 0, MAKELPARAM(image.cx, image.cy));
     SendMessage(TB_SETBUTTONSIZE, 0, MAKELPARAM(button.cx, button.cy));

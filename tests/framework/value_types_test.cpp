@@ -29,6 +29,22 @@ TEST(Text, NullIsEmptyAndPartsAreCutToTheText)
     EXPECT_EQ(empty.Compare(null), 0);
     EXPECT_EQ(CString("ab").Replace(null, "x"), 0);
     EXPECT_EQ(CString("ab") + null, CString("ab"));
+    CString formatted("kept");
+    formatted.AppendFormat(null);
+    EXPECT_STREQ(formatted, "kept");
+    formatted.Format(null);
+    EXPECT_TRUE(formatted.IsEmpty());
+
+    // Counts below zero are none.
+    CString cut("abc", -1);
+    cut.Preallocate(-1);
+    *cut.GetBufferSetLength(-1) = '\0';
+    for (const auto shorten : {&CString::Truncate, &CString::ReleaseBufferSetLength})
+    {
+        cut = "abc";
+        (cut.*shorten)(-1);
+        EXPECT_TRUE(cut.IsEmpty());
+    }
 
     const CString text("abcdef");
     const std::pair<CString, const char*> parts[] = {

@@ -2,7 +2,6 @@
 
 #include "framework/ControlBar.h"
 
-#include <utility>
 #include <vector>
 
 // Pane styles
@@ -72,12 +71,8 @@ private:
         CString text;
     };
 
-    const Pane& At(int index) const
-    {
-        ASSERT(index >= 0 && index < GetCount());
-        return m_panes[size_t(index)];
-    }
-    Pane& At(int index) { return const_cast<Pane&>(std::as_const(*this).At(index)); }
+    bool HasPane(int index) const { return index >= 0 && index < GetCount(); }
+    const Pane& At(int index) const;
     void PlacePanes();
     BOOL ShowText(int index);
 

@@ -24,14 +24,14 @@ public:
     // Also takes MAKEINTRESOURCE(id) and loads that string resource.
     CString(LPCTSTR text);
     CString(LPCTSTR text, int length)
-        : m_text(text == nullptr ? std::string() : std::string(text, size_t(length)))
+        : m_text(text == nullptr ? std::string() : std::string(text, Count(length)))
     {}
     CString(const unsigned char* text)
         : CString(reinterpret_cast<LPCTSTR>(text))
     {}
     CString(LPCWSTR text);
     explicit CString(char repeated, int count = 1)
-        : m_text(count > 0 ? size_t(count) : 0, repeated)
+        : m_text(Count(count), repeated)
     {}
 
     CString& operator=(LPCTSTR text) { return SetString(text), *this; }
@@ -120,9 +120,9 @@ public:
     LPTSTR GetBuffer(int minLength);
     LPTSTR GetBufferSetLength(int length);
     void ReleaseBuffer(int newLength = -1);
-    void ReleaseBufferSetLength(int newLength) { m_text.resize(size_t(newLength)); }
-    void Truncate(int newLength) { m_text.resize(size_t(newLength)); }
-    void Preallocate(int length) { m_text.reserve(size_t(length)); }
+    void ReleaseBufferSetLength(int newLength) { m_text.resize(Count(newLength)); }
+    void Truncate(int newLength) { m_text.resize(Count(newLength)); }
+    void Preallocate(int length) { m_text.reserve(Count(length)); }
     void FreeExtra() { m_text.shrink_to_fit(); }
 
     friend CString operator+(CString a, const CString& b) { return a += b; }
@@ -142,6 +142,7 @@ public:
 
 private:
     static constexpr size_t npos = std::string::npos;
+    static size_t Count(int count) { return count > 0 ? size_t(count) : 0; } // below zero is none
     static int Index(size_t found) { return found == npos ? -1 : int(found); }
     size_t Checked(int index) const
     {
