@@ -9,6 +9,8 @@
 #include "framework/Frame.h"
 #include "framework/Wnd.h"
 
+#include <algorithm>
+
 namespace {
 
 BOOL ChangeStyle(HWND window, int which, DWORD remove, DWORD add, UINT flags)
@@ -91,10 +93,61 @@ CFont* CWnd::GetFont() const
     return CFont::FromHandle(reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
 }
 
+const CWnd CWnd::wndTop(HWND_TOP);
+const CWnd CWnd::wndBottom(HWND_BOTTOM);
+const CWnd CWnd::wndTopMost(HWND_TOPMOST);
+const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
+
 BOOL CWnd::SetWindowPos(const CWnd* after, int x, int y, int width, int height, UINT flags)
 {
     return ::SetWindowPos(m_hWnd, after == nullptr ? nullptr : after->m_hWnd, x, y, width, height,
                           flags);
+}
+
+void CWnd::CenterWindow(CWnd* alternateOwner)
+{
+    const HWND window = m_hWnd;
+    const bool isChild = (GetStyle() & WS_CHILD) != 0;
+    const HWND parent = isChild ? ::GetParent(window) : nullptr;
+    HWND over = alternateOwner != nullptr ? alternateOwner->m_hWnd
+                : isChild                 ? parent
+                                          : ::GetWindow(window, GW_OWNER);
+    CRect place;
+    CRect room; // that the window stays in
+    ::GetWindowRect(window, &place);
+    if (isChild)
+    {
+        ::GetClientRect(parent, &room);
+        ::MapWindowPoints(parent, nullptr, reinterpret_cast<POINT*>(&room), 2);
+    }
+    else
+    {
+        const bool toSee = over != nullptr && over != ::GetDesktopWindow() &&
+                           ::IsWindowVisible(over) && !::IsIconic(over);
+        over = toSee ? over : nullptr;
+        MONITORINFO screen = {};
+        screen.cbSize = sizeof(screen);
+        ::GetMonitorInfo(::MonitorFromWindow(toSee ? over : window, MONITOR_DEFAULTTOPRIMARY),
+                         &screen);
+        room = screen.rcWork;
+    }
+    CRect middle = room;
+    if (over != nullptr && over != parent)
+    {
+        ::GetWindowRect(over, &middle);
+    }
+    CPoint corner = middle.CenterPoint() - CSize(place.Width() / 2, place.Height() / 2);
+    if (!isChild)
+    {
+        corner.x = std::max(std::min(corner.x, room.right - place.Width()), room.left);
+        corner.y = std::max(std::min(corner.y, room.bottom - place.Height()), room.top);
+    }
+    if (isChild)
+    {
+        ::ScreenToClient(parent, &corner);
+    }
+    ::SetWindowPos(window, nullptr, corner.x, corner.y, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CWnd::ClientToScreen(LPRECT rect) const
@@ -127,6 +180,12 @@ int CWnd::ReleaseDC(CDC* dc)
     return dc == nullptr ? 0 : ::ReleaseDC(m_hWnd, dc->m_hDC);
 }
 
+void CWnd::InvalidateRgn(CRgn* region, BOOL erase)
+{
+    ::InvalidateRgn(
+        m_hWnd, region == nullptr ? nullptr : static_cast<HRGN>(region->GetSafeHandle()), erase);
+}
+
 BOOL CWnd::RedrawWindow(LPCRECT rect, CRgn* region, UINT flags)
 {
     return ::RedrawWindow(m_hWnd, rect,
@@ -151,6 +210,17 @@ CFrameWnd* CWnd::GetParentFrame() const
     return nullptr;
 }
 
+CFrameWnd* CWnd::GetTopLevelFrame() const
+{
+    CFrameWnd* top = nullptr;
+    for (HWND window = m_hWnd; window != nullptr; window = ::GetParent(window))
+    {
+        auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, FromHandlePermanent(window));
+        top = frame == nullptr ? top : frame;
+    }
+    return top;
+}
+
 BOOL CWnd::IsChild(const CWnd* child) const
 {
     return child != nullptr && ::IsChild(m_hWnd, child->m_hWnd);
@@ -166,6 +236,25 @@ CWnd* CWnd::GetNextDlgGroupItem(CWnd* control, BOOL previous) const
 {
     return FromHandle(
         ::GetNextDlgGroupItem(m_hWnd, control == nullptr ? nullptr : control->m_hWnd, previous));
+}
+
+int CWnd::GetCheckedRadioButton(int first, int last) const
+{
+    for (int id = first; id <= last; ++id)
+    {
+        if (IsDlgButtonChecked(id) != BST_UNCHECKED)
+        {
+            return id;
+        }
+    }
+    return 0;
+}
+
+int CWnd::GetScrollLimit(int bar)
+{
+    SCROLLINFO info = {};
+    GetScrollInfo(bar, &info, SIF_RANGE | SIF_PAGE);
+    return info.nMax - std::max(int(info.nPage) - 1, 0);
 }
 
 CScrollBar* CWnd::GetScrollBarCtrl(int) const

@@ -145,6 +145,31 @@ TEST_F(WndTest, TemporaryObjectsOwnNothingAndEndWhenIdle)
     EXPECT_EQ(CWnd::FromHandlePermanent(another), nullptr);
 }
 
+TEST_F(WndTest, AWindowIsCentredInItsParentOverItsOwnerOrOnTheScreen)
+{
+    LifeWindow child;
+    ASSERT_TRUE(child.Make(&Host())); // 50 x 40
+    child.CenterWindow();
+    EXPECT_EQ(PlaceIn(Host(), child), CRect(CPoint(375, 280), CSize(50, 40)));
+
+    CWnd popup;
+    ASSERT_TRUE(popup.CreateEx(0, nullptr, "", WS_POPUP, CRect(0, 0, 50, 40), &Host(), 0));
+    popup.CenterWindow();
+    EXPECT_EQ(WindowRectOf(popup), WindowRectOf(child)) << "over its owner";
+    popup.CenterWindow(&child);
+    EXPECT_EQ(WindowRectOf(popup), WindowRectOf(child));
+    CRect screen;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &screen, 0);
+    popup.CenterWindow(CWnd::GetDesktopWindow());
+    EXPECT_EQ(WindowRectOf(popup).TopLeft(), screen.CenterPoint() - CSize(25, 20));
+    child.MoveWindow(-200, -200, 50, 40);
+    popup.CenterWindow(&child);
+    EXPECT_EQ(WindowRectOf(popup).TopLeft(), screen.TopLeft()) << "all of it is to be seen";
+
+    popup.SetWindowPos(&CWnd::wndTopMost, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
+    EXPECT_NE(popup.GetExStyle() & WS_EX_TOPMOST, 0U);
+}
+
 TEST_F(WndTest, TheLastOfWhoeverWaitsGivesThePointerItsShapeBack)
 {
     const HCURSOR before = ::SetCursor(::LoadCursor(nullptr, IDC_IBEAM));

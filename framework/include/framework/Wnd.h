@@ -112,6 +112,16 @@ public:
     }
     void GetWindowText(CString& text) const;
     int GetWindowTextLength() const { return ::GetWindowTextLength(m_hWnd); }
+    // Gives the icon back that was there.
+    HICON SetIcon(HICON icon, BOOL big)
+    {
+        return reinterpret_cast<HICON>(
+            SendMessage(WM_SETICON, WPARAM(big), reinterpret_cast<LPARAM>(icon)));
+    }
+    HICON GetIcon(BOOL big) const
+    {
+        return reinterpret_cast<HICON>(SendMessage(WM_GETICON, WPARAM(big)));
+    }
     void SetFont(CFont* font, BOOL redraw = TRUE);
     CFont* GetFont() const;
 
@@ -124,7 +134,26 @@ public:
     {
         MoveWindow(r->left, r->top, r->right - r->left, r->bottom - r->top, repaint);
     }
+    // Where SetWindowPos puts a window that is not put after another one.
+    static const CWnd wndTop;
+    static const CWnd wndBottom;
+    static const CWnd wndTopMost;
+    static const CWnd wndNoTopMost;
     BOOL SetWindowPos(const CWnd* after, int x, int y, int width, int height, UINT flags);
+    // A child in its parent; another window over its owner or, where that is not to be seen or is
+    // the desktop, on the screen, and always on one screen as a whole if it has the room.
+    void CenterWindow(CWnd* alternateOwner = nullptr);
+    BOOL GetWindowPlacement(WINDOWPLACEMENT* placement) const
+    {
+        placement->length = sizeof(*placement);
+        return ::GetWindowPlacement(m_hWnd, placement);
+    }
+    BOOL SetWindowPlacement(const WINDOWPLACEMENT* placement)
+    {
+        return ::SetWindowPlacement(m_hWnd, placement);
+    }
+    // The window takes over the region.
+    int SetWindowRgn(HRGN region, BOOL redraw) { return ::SetWindowRgn(m_hWnd, region, redraw); }
     void BringWindowToTop() { ::BringWindowToTop(m_hWnd); }
     void GetWindowRect(LPRECT rect) const { ::GetWindowRect(m_hWnd, rect); }
     void GetClientRect(LPRECT rect) const { ::GetClientRect(m_hWnd, rect); }
@@ -146,6 +175,7 @@ public:
     void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, WPARAM(redraw)); }
     void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
     void InvalidateRect(LPCRECT r, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, r, erase); }
+    void InvalidateRgn(CRgn* region, BOOL erase = TRUE);
     void ValidateRect(LPCRECT r) { ::ValidateRect(m_hWnd, r); }
     BOOL GetUpdateRect(LPRECT r, BOOL erase = FALSE) { return ::GetUpdateRect(m_hWnd, r, erase); }
     BOOL RedrawWindow(LPCRECT rect = nullptr, CRgn* region = nullptr,
@@ -179,6 +209,8 @@ public:
     }
     CWnd* GetTopLevelParent() const { return FromHandle(::GetAncestor(m_hWnd, GA_ROOTOWNER)); }
     CFrameWnd* GetParentFrame() const;
+    // The outermost frame that the window is in, or is itself.
+    CFrameWnd* GetTopLevelFrame() const;
     CWnd* GetWindow(UINT command) const { return FromHandle(::GetWindow(m_hWnd, command)); }
     CWnd* GetNextWindow(UINT flag = GW_HWNDNEXT) const { return GetWindow(flag); }
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
@@ -195,6 +227,24 @@ public:
     void GetDlgItem(int id, HWND* window) const { *window = ::GetDlgItem(m_hWnd, id); }
     void SetDlgItemText(int id, LPCSTR text) { ::SetDlgItemText(m_hWnd, id, text); }
     int GetDlgItemText(int id, CString& text) const;
+    int GetDlgItemText(int id, LPSTR buffer, int size) const
+    {
+        return int(::GetDlgItemText(m_hWnd, id, buffer, size));
+    }
+    void SetDlgItemInt(int id, UINT value, BOOL isSigned = TRUE)
+    {
+        ::SetDlgItemInt(m_hWnd, id, value, isSigned);
+    }
+    UINT GetDlgItemInt(int id, BOOL* translated = nullptr, BOOL isSigned = TRUE) const
+    {
+        return ::GetDlgItemInt(m_hWnd, id, translated, isSigned);
+    }
+    void CheckRadioButton(int first, int last, int checked)
+    {
+        ::CheckRadioButton(m_hWnd, first, last, checked);
+    }
+    // The id of the first that is checked, 0 for none.
+    int GetCheckedRadioButton(int first, int last) const;
     void CheckDlgButton(int id, UINT check) { ::CheckDlgButton(m_hWnd, id, check); }
     UINT IsDlgButtonChecked(int id) const { return ::IsDlgButtonChecked(m_hWnd, id); }
     LRESULT SendDlgItemMessage(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
@@ -223,6 +273,16 @@ public:
         return TRUE;
     }
     BOOL GetScrollInfo(int bar, LPSCROLLINFO info, UINT mask = SIF_ALL);
+    void GetScrollRange(int bar, LPINT minimum, LPINT maximum) const
+    {
+        ::GetScrollRange(m_hWnd, bar, minimum, maximum);
+    }
+    // The last position that can be scrolled to.
+    int GetScrollLimit(int bar);
+    BOOL EnableScrollBar(int bar, UINT arrows = ESB_ENABLE_BOTH)
+    {
+        return ::EnableScrollBar(m_hWnd, UINT(bar), arrows);
+    }
     void ShowScrollBar(UINT bar, BOOL show = TRUE) { ::ShowScrollBar(m_hWnd, int(bar), show); }
     void ScrollWindow(int dx, int dy, LPCRECT rect = nullptr, LPCRECT clip = nullptr)
     {
@@ -376,6 +436,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    explicit CWnd(HWND place)
+        : m_hWnd(place)
+    {}
+
     friend class CFrameWnd;
     WNDPROC m_previousProc = nullptr;
     bool m_modalRunning = false;
