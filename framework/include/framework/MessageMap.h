@@ -119,6 +119,9 @@ protected:                                                                      
 #define ON_COMMAND_RANGE(first, last, member)                                                      \
     FRAMEWORK_COMMAND(CN_COMMAND, first, last, FRAMEWORK_MEMBER_OF(void, member, (UINT))(call.id); \
                       return true;)
+#define ON_COMMAND_EX_RANGE(first, last, member)                                                   \
+    FRAMEWORK_COMMAND(CN_COMMAND, first, last,                                                     \
+                      return FRAMEWORK_MEMBER_OF(BOOL, member, (UINT))(call.id) != FALSE;)
 #define ON_UPDATE_COMMAND_UI(id, member)                                                           \
     FRAMEWORK_COMMAND(CN_UPDATE_COMMAND_UI, id, id,                                                \
                       FRAMEWORK_MEMBER_OF(void, member, (CCmdUI*))(call.ui);                       \
@@ -164,6 +167,10 @@ protected:                                                                      
         WM_NOTIFY, notification, first, last,                                                      \
         FRAMEWORK_MEMBER_OF(void, member, (UINT, NMHDR*, LRESULT*))(call.id, FRAMEWORK_NMHDR);     \
         return true;)
+#define ON_NOTIFY_EX_RANGE(notification, first, last, member)                                      \
+    FRAMEWORK_NOTIFY(WM_NOTIFY, notification, first, last,                                         \
+                     return FRAMEWORK_MEMBER_OF(BOOL, member, (UINT, NMHDR*, LRESULT*))(           \
+                                call.id, FRAMEWORK_NMHDR) != FALSE;)
 #define ON_NOTIFY_REFLECT(notification, member)                                                    \
     FRAMEWORK_NOTIFY(WM_NOTIFY + WM_REFLECT_BASE, notification, 0, 0,                              \
                      FRAMEWORK_MEMBER_OF(void, member, (NMHDR*, LRESULT*))(FRAMEWORK_NMHDR);       \
@@ -175,15 +182,37 @@ protected:                                                                      
 
 #define ON_BN_CLICKED(id, member) ON_CONTROL(BN_CLICKED, id, member)
 #define ON_BN_DOUBLECLICKED(id, member) ON_CONTROL(BN_DOUBLECLICKED, id, member)
+#define ON_BN_SETFOCUS(id, member) ON_CONTROL(BN_SETFOCUS, id, member)
+#define ON_BN_KILLFOCUS(id, member) ON_CONTROL(BN_KILLFOCUS, id, member)
+#define ON_STN_CLICKED(id, member) ON_CONTROL(STN_CLICKED, id, member)
+#define ON_STN_DBLCLK(id, member) ON_CONTROL(STN_DBLCLK, id, member)
 #define ON_LBN_SELCHANGE(id, member) ON_CONTROL(LBN_SELCHANGE, id, member)
+#define ON_LBN_SELCANCEL(id, member) ON_CONTROL(LBN_SELCANCEL, id, member)
 #define ON_LBN_DBLCLK(id, member) ON_CONTROL(LBN_DBLCLK, id, member)
 #define ON_LBN_SETFOCUS(id, member) ON_CONTROL(LBN_SETFOCUS, id, member)
 #define ON_LBN_KILLFOCUS(id, member) ON_CONTROL(LBN_KILLFOCUS, id, member)
+#define ON_LBN_ERRSPACE(id, member) ON_CONTROL(LBN_ERRSPACE, id, member)
 // A list with check boxes: the user has changed one.
 #define CLBN_CHKCHANGE 40
 #define ON_CLBN_CHKCHANGE(id, member) ON_CONTROL(CLBN_CHKCHANGE, id, member)
 #define ON_CBN_SELCHANGE(id, member) ON_CONTROL(CBN_SELCHANGE, id, member)
+#define ON_CBN_SELENDOK(id, member) ON_CONTROL(CBN_SELENDOK, id, member)
+#define ON_CBN_SELENDCANCEL(id, member) ON_CONTROL(CBN_SELENDCANCEL, id, member)
+#define ON_CBN_EDITCHANGE(id, member) ON_CONTROL(CBN_EDITCHANGE, id, member)
+#define ON_CBN_EDITUPDATE(id, member) ON_CONTROL(CBN_EDITUPDATE, id, member)
+#define ON_CBN_DROPDOWN(id, member) ON_CONTROL(CBN_DROPDOWN, id, member)
+#define ON_CBN_CLOSEUP(id, member) ON_CONTROL(CBN_CLOSEUP, id, member)
+#define ON_CBN_DBLCLK(id, member) ON_CONTROL(CBN_DBLCLK, id, member)
+#define ON_CBN_SETFOCUS(id, member) ON_CONTROL(CBN_SETFOCUS, id, member)
+#define ON_CBN_KILLFOCUS(id, member) ON_CONTROL(CBN_KILLFOCUS, id, member)
+#define ON_CBN_ERRSPACE(id, member) ON_CONTROL(CBN_ERRSPACE, id, member)
 #define ON_EN_CHANGE(id, member) ON_CONTROL(EN_CHANGE, id, member)
 #define ON_EN_UPDATE(id, member) ON_CONTROL(EN_UPDATE, id, member)
+#define ON_EN_SETFOCUS(id, member) ON_CONTROL(EN_SETFOCUS, id, member)
+#define ON_EN_KILLFOCUS(id, member) ON_CONTROL(EN_KILLFOCUS, id, member)
+#define ON_EN_MAXTEXT(id, member) ON_CONTROL(EN_MAXTEXT, id, member)
+#define ON_EN_HSCROLL(id, member) ON_CONTROL(EN_HSCROLL, id, member)
+#define ON_EN_VSCROLL(id, member) ON_CONTROL(EN_VSCROLL, id, member)
+#define ON_EN_ERRSPACE(id, member) ON_CONTROL(EN_ERRSPACE, id, member)
 
 #include "framework/WindowMessages.h"

@@ -50,6 +50,33 @@
                  call.result = FRAMEWORK_MEMBER(BOOL, OnQueryEndSession, ())();                    \
                  return true;)
 
+#define ON_WM_ENDSESSION()                                                                         \
+    FRAMEWORK_WM(WM_ENDSESSION, FRAMEWORK_MEMBER(void, OnEndSession, (BOOL))(BOOL(call.wParam));   \
+                 return true;)
+
+// The system and other programs
+#define ON_WM_SYSCOMMAND()                                                                         \
+    FRAMEWORK_WM(WM_SYSCOMMAND, FRAMEWORK_MEMBER(void, OnSysCommand,                               \
+                                                 (UINT, LPARAM))(UINT(call.wParam), call.lParam);  \
+                 return true;)
+#define ON_WM_SETTINGCHANGE()                                                                      \
+    FRAMEWORK_WM(WM_SETTINGCHANGE, FRAMEWORK_MEMBER(void, OnSettingChange, (UINT, LPCTSTR))(       \
+                                       UINT(call.wParam), reinterpret_cast<LPCTSTR>(call.lParam)); \
+                 return true;)
+#define ON_WM_COPYDATA()                                                                           \
+    FRAMEWORK_WM(WM_COPYDATA,                                                                      \
+                 call.result = FRAMEWORK_MEMBER(BOOL, OnCopyData, (CWnd*, COPYDATASTRUCT*))(       \
+                     FRAMEWORK_WND(call.wParam), reinterpret_cast<COPYDATASTRUCT*>(call.lParam));  \
+                 return true;)
+#define ON_WM_DROPFILES()                                                                          \
+    FRAMEWORK_WM(WM_DROPFILES, FRAMEWORK_MEMBER(void, OnDropFiles,                                 \
+                                                (HDROP))(reinterpret_cast<HDROP>(call.wParam));    \
+                 return true;)
+#define ON_WM_HELPINFO()                                                                           \
+    FRAMEWORK_WM(WM_HELP, call.result = FRAMEWORK_MEMBER(BOOL, OnHelpInfo, (HELPINFO*))(           \
+                              reinterpret_cast<HELPINFO*>(call.lParam));                           \
+                 return true;)
+
 // Painting
 #define ON_WM_PAINT() FRAMEWORK_WM_VOID(WM_PAINT, OnPaint)
 #define ON_WM_NCPAINT() FRAMEWORK_WM_VOID(WM_NCPAINT, OnNcPaint)
@@ -103,6 +130,13 @@
                  return true;)
 #define ON_WM_ENABLE()                                                                             \
     FRAMEWORK_WM(WM_ENABLE, FRAMEWORK_MEMBER(void, OnEnable, (BOOL))(BOOL(call.wParam));           \
+                 return true;)
+#define ON_WM_ENTERSIZEMOVE() FRAMEWORK_WM_VOID(WM_ENTERSIZEMOVE, OnEnterSizeMove)
+#define ON_WM_EXITSIZEMOVE() FRAMEWORK_WM_VOID(WM_EXITSIZEMOVE, OnExitSizeMove)
+#define ON_WM_STYLECHANGING()                                                                      \
+    FRAMEWORK_WM(WM_STYLECHANGING,                                                                 \
+                 FRAMEWORK_MEMBER(void, OnStyleChanging, (int, LPSTYLESTRUCT))(                    \
+                     int(call.wParam), reinterpret_cast<LPSTYLESTRUCT>(call.lParam));              \
                  return true;)
 #define ON_WM_STYLECHANGED()                                                                       \
     FRAMEWORK_WM(WM_STYLECHANGED,                                                                  \
@@ -158,6 +192,8 @@
 #define ON_WM_NCLBUTTONDOWN() FRAMEWORK_WM_MOUSE(WM_NCLBUTTONDOWN, OnNcLButtonDown)
 #define ON_WM_NCLBUTTONUP() FRAMEWORK_WM_MOUSE(WM_NCLBUTTONUP, OnNcLButtonUp)
 #define ON_WM_NCLBUTTONDBLCLK() FRAMEWORK_WM_MOUSE(WM_NCLBUTTONDBLCLK, OnNcLButtonDblClk)
+#define ON_WM_NCRBUTTONDOWN() FRAMEWORK_WM_MOUSE(WM_NCRBUTTONDOWN, OnNcRButtonDown)
+#define ON_WM_NCRBUTTONUP() FRAMEWORK_WM_MOUSE(WM_NCRBUTTONUP, OnNcRButtonUp)
 #define ON_WM_NCMOUSEMOVE() FRAMEWORK_WM_MOUSE(WM_NCMOUSEMOVE, OnNcMouseMove)
 
 // Mouse
@@ -166,12 +202,20 @@
 #define ON_WM_LBUTTONDBLCLK() FRAMEWORK_WM_MOUSE(WM_LBUTTONDBLCLK, OnLButtonDblClk)
 #define ON_WM_RBUTTONDOWN() FRAMEWORK_WM_MOUSE(WM_RBUTTONDOWN, OnRButtonDown)
 #define ON_WM_RBUTTONUP() FRAMEWORK_WM_MOUSE(WM_RBUTTONUP, OnRButtonUp)
+#define ON_WM_RBUTTONDBLCLK() FRAMEWORK_WM_MOUSE(WM_RBUTTONDBLCLK, OnRButtonDblClk)
 #define ON_WM_MBUTTONDOWN() FRAMEWORK_WM_MOUSE(WM_MBUTTONDOWN, OnMButtonDown)
+#define ON_WM_MBUTTONUP() FRAMEWORK_WM_MOUSE(WM_MBUTTONUP, OnMButtonUp)
+#define ON_WM_MBUTTONDBLCLK() FRAMEWORK_WM_MOUSE(WM_MBUTTONDBLCLK, OnMButtonDblClk)
 #define ON_WM_MOUSEMOVE() FRAMEWORK_WM_MOUSE(WM_MOUSEMOVE, OnMouseMove)
 #define ON_WM_MOUSELEAVE() FRAMEWORK_WM_VOID(WM_MOUSELEAVE, OnMouseLeave)
 #define ON_WM_MOUSEWHEEL()                                                                         \
     FRAMEWORK_WM(WM_MOUSEWHEEL,                                                                    \
                  call.result = FRAMEWORK_MEMBER(BOOL, OnMouseWheel, (UINT, short, CPoint))(        \
+                     LOWORD(call.wParam), short(HIWORD(call.wParam)), FRAMEWORK_POINT);            \
+                 return true;)
+#define ON_WM_MOUSEHWHEEL()                                                                        \
+    FRAMEWORK_WM(WM_MOUSEHWHEEL,                                                                   \
+                 FRAMEWORK_MEMBER(void, OnMouseHWheel, (UINT, short, CPoint))(                     \
                      LOWORD(call.wParam), short(HIWORD(call.wParam)), FRAMEWORK_POINT);            \
                  return true;)
 #define ON_WM_CONTEXTMENU()                                                                        \
@@ -193,6 +237,15 @@
 // Scrolling, timers, owner drawing
 #define ON_WM_HSCROLL() FRAMEWORK_WM_SCROLL(WM_HSCROLL, OnHScroll)
 #define ON_WM_VSCROLL() FRAMEWORK_WM_SCROLL(WM_VSCROLL, OnVScroll)
+// The scrolling of a slider or a scroll bar, told to itself.
+#define ON_WM_HSCROLL_REFLECT()                                                                    \
+    FRAMEWORK_WM(WM_HSCROLL + WM_REFLECT_BASE, FRAMEWORK_MEMBER(void, HScroll, (UINT, UINT))(      \
+                                                   LOWORD(call.wParam), HIWORD(call.wParam));      \
+                 return true;)
+#define ON_WM_VSCROLL_REFLECT()                                                                    \
+    FRAMEWORK_WM(WM_VSCROLL + WM_REFLECT_BASE, FRAMEWORK_MEMBER(void, VScroll, (UINT, UINT))(      \
+                                                   LOWORD(call.wParam), HIWORD(call.wParam));      \
+                 return true;)
 #define ON_WM_TIMER()                                                                              \
     FRAMEWORK_WM(WM_TIMER, FRAMEWORK_MEMBER(void, OnTimer, (UINT_PTR))(UINT_PTR(call.wParam));     \
                  return true;)

@@ -378,6 +378,13 @@ protected:
     afx_msg void OnNcPaint() { Default(); }
     afx_msg BOOL OnEraseBkgnd(CDC*) { return BOOL(Default()); }
     afx_msg void OnSysColorChange() { Default(); }
+    afx_msg void OnSettingChange(UINT, LPCTSTR) { Default(); }
+    afx_msg void OnSysCommand(UINT, LPARAM) { Default(); }
+    afx_msg BOOL OnQueryEndSession() { return BOOL(Default()); }
+    afx_msg void OnEndSession(BOOL) { Default(); }
+    afx_msg BOOL OnCopyData(CWnd*, COPYDATASTRUCT*) { return BOOL(Default()); }
+    afx_msg void OnDropFiles(HDROP) { Default(); }
+    afx_msg BOOL OnHelpInfo(HELPINFO*) { return BOOL(Default()); }
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
     afx_msg void OnSize(UINT, int, int) { Default(); }
     afx_msg void OnMove(int, int) { Default(); }
@@ -388,6 +395,9 @@ protected:
     afx_msg void OnWindowPosChanged(WINDOWPOS*) { Default(); }
     afx_msg void OnShowWindow(BOOL, UINT) { Default(); }
     afx_msg void OnEnable(BOOL) { Default(); }
+    afx_msg void OnEnterSizeMove() { Default(); }
+    afx_msg void OnExitSizeMove() { Default(); }
+    afx_msg void OnStyleChanging(int, LPSTYLESTRUCT) { Default(); }
     afx_msg void OnStyleChanged(int, LPSTYLESTRUCT) { Default(); }
     afx_msg void OnActivate(UINT, CWnd*, BOOL) { Default(); }
     afx_msg void OnActivateApp(BOOL, DWORD) { Default(); }
@@ -404,16 +414,22 @@ protected:
     afx_msg void OnNcLButtonDown(UINT, CPoint) { Default(); }
     afx_msg void OnNcLButtonUp(UINT, CPoint) { Default(); }
     afx_msg void OnNcLButtonDblClk(UINT, CPoint) { Default(); }
+    afx_msg void OnNcRButtonDown(UINT, CPoint) { Default(); }
+    afx_msg void OnNcRButtonUp(UINT, CPoint) { Default(); }
     afx_msg void OnNcMouseMove(UINT, CPoint) { Default(); }
     afx_msg void OnLButtonDown(UINT, CPoint) { Default(); }
     afx_msg void OnLButtonUp(UINT, CPoint) { Default(); }
     afx_msg void OnLButtonDblClk(UINT, CPoint) { Default(); }
     afx_msg void OnRButtonDown(UINT, CPoint) { Default(); }
     afx_msg void OnRButtonUp(UINT, CPoint) { Default(); }
+    afx_msg void OnRButtonDblClk(UINT, CPoint) { Default(); }
     afx_msg void OnMButtonDown(UINT, CPoint) { Default(); }
+    afx_msg void OnMButtonUp(UINT, CPoint) { Default(); }
+    afx_msg void OnMButtonDblClk(UINT, CPoint) { Default(); }
     afx_msg void OnMouseMove(UINT, CPoint) { Default(); }
     afx_msg void OnMouseLeave() { Default(); }
     afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return BOOL(Default()); }
+    afx_msg void OnMouseHWheel(UINT, short, CPoint) { Default(); }
     afx_msg void OnContextMenu(CWnd*, CPoint) { Default(); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
     afx_msg void OnKeyUp(UINT, UINT, UINT) { Default(); }
