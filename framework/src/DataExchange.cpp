@@ -2,7 +2,13 @@
 
 #include "framework/App.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdlib>
+#include <limits>
+#include <optional>
+#include <string>
+#include <type_traits>
 
 IMPLEMENT_DYNAMIC(CException, CObject)
 IMPLEMENT_DYNAMIC(CUserException, CException)
@@ -63,25 +69,110 @@ void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value)
     }
 }
 
-void AFXAPI DDX_Text(CDataExchange* exchange, int id, int& value)
+namespace {
+
+[[noreturn]] void Refuse(CDataExchange& exchange, const CString& why)
+{
+    AfxMessageBox(why, MB_OK | MB_ICONEXCLAMATION);
+    exchange.Fail();
+}
+
+template <class Number> CString TextOf(Number number)
 {
     CString text;
-    if (!exchange->m_bSaveAndValidate)
+    if constexpr (std::is_floating_point_v<Number>)
     {
-        text.Format("%d", value);
-        DDX_Text(exchange, id, text);
-        return;
+        // As many digits as the type holds.
+        text.Format("%.*g", std::numeric_limits<Number>::digits10, double(number));
     }
-    DDX_Text(exchange, id, text);
+    else
+    {
+        text = std::to_string(number).c_str();
+    }
+    return text;
+}
+
+// The number that a text is, or none.
+template <class Number> std::optional<Number> NumberOf(const CString& text)
+{
     const char* const begin = text;
     char* end = nullptr;
-    const long long number = std::strtoll(begin, &end, 10);
-    if (end == begin || *end != '\0' || number != int(number))
+    bool fits = true;
+    Number number = 0;
+    if constexpr (std::is_floating_point_v<Number>)
     {
-        AfxMessageBox("Please enter an integer.", MB_OK | MB_ICONEXCLAMATION);
-        exchange->Fail();
+        const double read = std::strtod(begin, &end);
+        number = Number(read);
+        fits = std::isfinite(number);
     }
-    value = int(number);
+    else
+    {
+        const long long read = std::strtoll(begin, &end, 10);
+        number = Number(read);
+        fits = read == static_cast<long long>(number);
+    }
+    return fits && end != begin && *end == '\0' ? std::optional(number) : std::nullopt;
+}
+
+template <class Number> void ExchangeNumber(CDataExchange& exchange, int id, Number& value)
+{
+    CString text;
+    if (!exchange.m_bSaveAndValidate)
+    {
+        text = TextOf(value);
+        DDX_Text(&exchange, id, text);
+        return;
+    }
+    DDX_Text(&exchange, id, text);
+    const std::optional<Number> number = NumberOf<Number>(text);
+    if (!number)
+    {
+        Refuse(exchange, std::is_floating_point_v<Number> ? "Please enter a number."
+                                                          : "Please enter an integer.");
+    }
+    value = *number;
+}
+
+} // namespace
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, BYTE& value)
+{
+    ExchangeNumber(*exchange, id, value);
+}
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, short& value)
+{
+    ExchangeNumber(*exchange, id, value);
+}
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, int& value)
+{
+    ExchangeNumber(*exchange, id, value);
+}
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, UINT& value)
+{
+    ExchangeNumber(*exchange, id, value);
+}
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, long& value)
+{
+    ExchangeNumber(*exchange, id, value);
+}
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, DWORD& value)
+{
+    ExchangeNumber(*exchange, id, value);
+}
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, float& value)
+{
+    ExchangeNumber(*exchange, id, value);
+}
+
+void AFXAPI DDX_Text(CDataExchange* exchange, int id, double& value)
+{
+    ExchangeNumber(*exchange, id, value);
 }
 
 void AFXAPI DDX_Check(CDataExchange* exchange, int id, int& value)
@@ -142,4 +233,177 @@ void AFXAPI DDX_LBIndex(CDataExchange* exchange, int id, int& index)
     {
         ::SendMessage(list, LB_SETCURSEL, WPARAM(index), 0);
     }
+}
+
+namespace {
+
+// What a list box and a combo call the same things.
+struct ItemMessages
+{
+    UINT getSelection, setSelection, textLength, text, findBeginning, findExact;
+};
+
+constexpr ItemMessages OfListBox = {LB_GETCURSEL, LB_SETCURSEL,  LB_GETTEXTLEN,
+                                    LB_GETTEXT,   LB_FINDSTRING, LB_FINDSTRINGEXACT};
+constexpr ItemMessages OfCombo = {CB_GETCURSEL, CB_SETCURSEL,  CB_GETLBTEXTLEN,
+                                  CB_GETLBTEXT, CB_FINDSTRING, CB_FINDSTRINGEXACT};
+
+CString SelectedText(HWND list, const ItemMessages& messages)
+{
+    CString text;
+    const LRESULT row = ::SendMessage(list, messages.getSelection, 0, 0);
+    const LRESULT length = row < 0 ? -1 : ::SendMessage(list, messages.textLength, WPARAM(row), 0);
+    if (length > 0)
+    {
+        ::SendMessage(list, messages.text, WPARAM(row), LPARAM(text.GetBuffer(int(length))));
+        text.ReleaseBuffer();
+    }
+    return text;
+}
+
+bool SelectText(HWND list, const ItemMessages& messages, UINT find, const CString& text)
+{
+    const LRESULT row = text.IsEmpty()
+                            ? LB_ERR // every item begins with it
+                            : ::SendMessage(list, find, WPARAM(-1), LPARAM(text.GetString()));
+    ::SendMessage(list, messages.setSelection, WPARAM(row), 0);
+    return row >= 0;
+}
+
+void ExchangeItem(CDataExchange& exchange, int id, CString& value, UINT find)
+{
+    const HWND list = exchange.PrepareCtrl(id);
+    if (exchange.m_bSaveAndValidate)
+    {
+        value = SelectedText(list, OfListBox);
+    }
+    else
+    {
+        SelectText(list, OfListBox, find, value);
+    }
+}
+
+void ExchangeComboText(CDataExchange& exchange, int id, CString& value, UINT find)
+{
+    const HWND combo = exchange.PrepareCtrl(id);
+    const auto style = ::GetWindowLongPtr(combo, GWL_STYLE);
+    const bool canBeTypedInto = (style & CBS_DROPDOWNLIST) != CBS_DROPDOWNLIST;
+    if (!exchange.m_bSaveAndValidate)
+    {
+        if (!SelectText(combo, OfCombo, find, value) && canBeTypedInto)
+        {
+            ::SetWindowText(combo, value);
+        }
+    }
+    else if (canBeTypedInto)
+    {
+        CWnd::FromHandle(combo)->GetWindowText(value);
+    }
+    else
+    {
+        value = SelectedText(combo, OfCombo);
+    }
+}
+
+} // namespace
+
+void AFXAPI DDX_LBString(CDataExchange* exchange, int id, CString& value)
+{
+    ExchangeItem(*exchange, id, value, OfListBox.findBeginning);
+}
+
+void AFXAPI DDX_LBStringExact(CDataExchange* exchange, int id, CString& value)
+{
+    ExchangeItem(*exchange, id, value, OfListBox.findExact);
+}
+
+void AFXAPI DDX_CBIndex(CDataExchange* exchange, int id, int& index)
+{
+    const HWND combo = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+    {
+        index = std::max(int(::SendMessage(combo, CB_GETCURSEL, 0, 0)), 0);
+    }
+    else
+    {
+        ::SendMessage(combo, CB_SETCURSEL, WPARAM(index), 0);
+    }
+}
+
+void AFXAPI DDX_CBString(CDataExchange* exchange, int id, CString& value)
+{
+    ExchangeComboText(*exchange, id, value, OfCombo.findBeginning);
+}
+
+void AFXAPI DDX_CBStringExact(CDataExchange* exchange, int id, CString& value)
+{
+    ExchangeComboText(*exchange, id, value, OfCombo.findExact);
+}
+
+// Values that are not allowed -------------------------------------------------------------------
+
+void AFXAPI DDV_MaxChars(CDataExchange* exchange, const CString& value, int most)
+{
+    if (exchange->m_bSaveAndValidate && value.GetLength() > most)
+    {
+        CString why;
+        why.Format("Please enter no more than %d characters.", most);
+        Refuse(*exchange, why);
+    }
+}
+
+namespace {
+
+template <class Number>
+void CheckRange(CDataExchange& exchange, Number value, Number least, Number most)
+{
+    if (exchange.m_bSaveAndValidate && !(value >= least && value <= most))
+    {
+        const CString kind = std::is_floating_point_v<Number> ? "a number" : "an integer";
+        Refuse(exchange,
+               "Please enter " + kind + " from " + TextOf(least) + " to " + TextOf(most) + ".");
+    }
+}
+
+} // namespace
+
+void AFXAPI DDV_MinMaxByte(CDataExchange* exchange, BYTE value, BYTE least, BYTE most)
+{
+    CheckRange(*exchange, value, least, most);
+}
+
+void AFXAPI DDV_MinMaxShort(CDataExchange* exchange, short value, short least, short most)
+{
+    CheckRange(*exchange, value, least, most);
+}
+
+void AFXAPI DDV_MinMaxInt(CDataExchange* exchange, int value, int least, int most)
+{
+    CheckRange(*exchange, value, least, most);
+}
+
+void AFXAPI DDV_MinMaxUInt(CDataExchange* exchange, UINT value, UINT least, UINT most)
+{
+    CheckRange(*exchange, value, least, most);
+}
+
+void AFXAPI DDV_MinMaxLong(CDataExchange* exchange, long value, long least, long most)
+{
+    CheckRange(*exchange, value, least, most);
+}
+
+void AFXAPI DDV_MinMaxDWord(CDataExchange* exchange, const DWORD& value, DWORD least, DWORD most)
+{
+    CheckRange(*exchange, value, least, most);
+}
+
+void AFXAPI DDV_MinMaxFloat(CDataExchange* exchange, const float& value, float least, float most)
+{
+    CheckRange(*exchange, value, least, most);
+}
+
+void AFXAPI DDV_MinMaxDouble(CDataExchange* exchange, const double& value, double least,
+                             double most)
+{
+    CheckRange(*exchange, value, least, most);
 }

@@ -15,6 +15,8 @@ enum : WORD
     IdFirstRadio,
     IdSecondRadio,
     IdList,
+    IdCombo,
+    IdTypedCombo,
 };
 
 DialogTemplate FormTemplate()
@@ -26,6 +28,8 @@ DialogTemplate FormTemplate()
         .Add("Button", "A", BS_AUTORADIOBUTTON | WS_GROUP, CRect(5, 50, 60, 62), IdFirstRadio)
         .Add("Button", "B", BS_AUTORADIOBUTTON, CRect(5, 64, 60, 76), IdSecondRadio)
         .Add("ListBox", "", WS_GROUP, CRect(80, 5, 140, 60), IdList)
+        .Add("ComboBox", "", CBS_DROPDOWNLIST, CRect(80, 65, 140, 120), IdCombo)
+        .Add("ComboBox", "", CBS_DROPDOWN, CRect(80, 80, 140, 120), IdTypedCombo)
         .Add("Button", "OK", BS_DEFPUSHBUTTON | WS_TABSTOP, CRect(5, 90, 50, 104), IDOK)
         .Add("Button", "Cancel", WS_TABSTOP, CRect(60, 90, 105, 104), IDCANCEL);
     return form;
@@ -64,7 +68,9 @@ protected:
             }
         }
         DDX_Text(exchange, IdEdit, text);
+        DDV_MaxChars(exchange, text, 9);
         DDX_Text(exchange, IdNumber, number);
+        DDV_MinMaxInt(exchange, number, -10, 42);
         DDX_Check(exchange, IdCheck, check);
         DDX_Radio(exchange, IdFirstRadio, radio);
         DDX_LBIndex(exchange, IdList, row);
@@ -175,7 +181,12 @@ TEST_F(DialogTest, DataGoesBothWays)
 TEST_F(DialogTest, ARefusedValueKeepsTheDialogOpen)
 {
     constexpr UINT AnswerBox = WM_APP + 4;
-    for (const char* refused : {"seven", "", "7 or so", "99999999999"})
+    // The control, what is typed into it, and the number that the dialog has then.
+    const std::tuple<int, const char*, int> cases[] = {
+        {IdNumber, "seven", 42},       {IdNumber, "", 42},   {IdNumber, "7 or so", 42},
+        {IdNumber, "99999999999", 42}, {IdNumber, "43", 43}, {IdEdit, "more than 9", 42},
+    };
+    for (const auto& [control, refused, number] : cases)
     {
         SCOPED_TRACE(refused);
         Form dialog(form, &Host());
@@ -189,18 +200,74 @@ TEST_F(DialogTest, ARefusedValueKeepsTheDialogOpen)
                 ::SendMessage(box, WM_COMMAND, IDOK, 0);
             }
         };
-        dialog.inLoop = [&] {
-            dialog.SetDlgItemText(IdNumber, refused);
+        dialog.inLoop = [&, &control = control, &refused = refused] {
+            dialog.SetDlgItemText(control, refused);
             Host().PostMessage(AnswerBox);
             dialog.OnOK();
             EXPECT_NE(dialog.GetSafeHwnd(), nullptr);
-            EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, IdNumber)) << "where the mistake is";
+            EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, control)) << "where the mistake is";
             dialog.EndDialog(3);
         };
         EXPECT_EQ(dialog.DoModal(), 3);
         EXPECT_EQ(boxes, 1) << "the user is told";
-        EXPECT_EQ(dialog.number, 42);
+        EXPECT_EQ(dialog.number, number);
     }
+}
+
+// What a member reads after another one was written.
+template <class Value, class Exchange>
+Value AfterWriting(Form& dialog, int id, Value written, Exchange exchange)
+{
+    CDataExchange toControl(&dialog, FALSE);
+    exchange(&toControl, id, written);
+    CDataExchange toMember(&dialog, TRUE);
+    Value read = {};
+    exchange(&toMember, id, read);
+    return read;
+}
+
+TEST_F(DialogTest, ItemsAreExchangedByTheirTextsAndNumbersAsTheirTypes)
+{
+    Form dialog(form);
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    dialog.list.ResetContent();
+    for (const char* item : {"alphabet", "Alpha", "beta"})
+    {
+        dialog.list.AddString(item);
+        dialog.SendDlgItemMessage(IdCombo, CB_ADDSTRING, 0, LPARAM(item));
+        dialog.SendDlgItemMessage(IdTypedCombo, CB_ADDSTRING, 0, LPARAM(item));
+    }
+    using ExchangeText = void(AFXAPI*)(CDataExchange*, int, CString&);
+    const std::tuple<int, ExchangeText, const char*, const char*> texts[] = {
+        {IdList, &DDX_LBString, "ALPHA", "alphabet"},
+        {IdList, &DDX_LBStringExact, "ALPHA", "Alpha"},
+        {IdList, &DDX_LBString, "gamma", ""},
+        {IdList, &DDX_LBString, "", ""},
+        {IdCombo, &DDX_CBString, "ALPHA", "alphabet"},
+        {IdCombo, &DDX_CBStringExact, "ALPHA", "Alpha"},
+        {IdCombo, &DDX_CBString, "gamma", ""},
+        {IdTypedCombo, &DDX_CBString, "bet", "beta"},
+        {IdTypedCombo, &DDX_CBStringExact, "bet", "bet"},
+    };
+    for (const auto& [id, exchange, written, read] : texts)
+    {
+        EXPECT_STREQ(AfterWriting(dialog, id, CString(written), exchange), read) << written;
+    }
+    EXPECT_EQ(AfterWriting(dialog, IdCombo, 2, &DDX_CBIndex), 2);
+    EXPECT_EQ(AfterWriting(dialog, IdCombo, -1, &DDX_CBIndex), 0);
+
+    const auto number = [&](auto value) {
+        using Number = decltype(value);
+        void(AFXAPI * exchange)(CDataExchange*, int, Number&) = &DDX_Text;
+        EXPECT_EQ(AfterWriting(dialog, IdNumber, value, exchange), value);
+    };
+    number(BYTE(255));
+    number(short(-32768));
+    number(4294967295U);
+    number(-2147483647L);
+    number(DWORD(4294967295));
+    number(2.5F);
+    number(-1.25e-7);
 }
 
 } // namespace
