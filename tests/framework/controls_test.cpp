@@ -1,9 +1,11 @@
 // The classes for the platform's controls: the messages behind less obvious members.
 
 #include <afxcmn.h>
+#include <afxext.h>
 
 #include "support/WindowTest.h"
 
+#include <climits>
 #include <string>
 
 namespace {
@@ -57,4 +59,27 @@ TEST_F(Controls, ASelectionInALongTextCanBeSetAsItWasTold)
     EXPECT_EQ(LOWORD(edit.GetSel()), HIWORD(edit.GetSel())) << "none";
     edit.SetSel(DWORD(MAKELONG(0, -1)));
     EXPECT_EQ(edit.GetSel(), DWORD(MAKELONG(0, 60000))) << "all";
+}
+
+TEST_F(Controls, PlacesThatAreNotThereAreEmpty)
+{
+    CStatusBar bar;
+    ASSERT_TRUE(bar.Create(&Host()));
+    const UINT panes[] = {ID_SEPARATOR};
+    EXPECT_FALSE(bar.SetIndicators(panes, 0));
+    for (const int place : {-1, 0, INT_MAX})
+    {
+        bar.SetPaneInfo(place, 1, SBPS_STRETCH, 10);
+        EXPECT_EQ(bar.GetItemID(place), 0U);
+        EXPECT_STREQ(bar.GetPaneText(place), "");
+    }
+
+    AfxInitRichEdit2();
+    auto& edit = Add<CRichEditCtrl>(Place);
+    edit.SetWindowText("abc");
+    CString text;
+    edit.GetTextRange(INT_MIN, INT_MAX, text);
+    EXPECT_STREQ(text, "abc");
+    edit.GetTextRange(INT_MAX, 2, text);
+    EXPECT_STREQ(text, "");
 }
