@@ -69,7 +69,9 @@ void CView::OnPaint()
 
 void CView::OnActivateView(BOOL activate, CView* activateView, CView*)
 {
-    if (activate && activateView == this && GetTopLevelParent() == GetActiveWindow())
+    // A control of the view that has the focus already keeps it.
+    if (activate && activateView == this && GetTopLevelParent() == GetActiveWindow() &&
+        !::IsChild(m_hWnd, ::GetFocus()))
     {
         SetFocus();
     }

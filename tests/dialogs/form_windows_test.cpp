@@ -128,7 +128,10 @@ TEST_F(FormWindowsTest, AFormKeepsTheFocusOfItsControlForItsFrame)
     comeBack();
     ::SetFocus(check);
     leave();
+    const MessageLog focus(*CWnd::FromHandle(check), {WM_SETFOCUS, WM_KILLFOCUS});
     EXPECT_EQ(comeBack(), IDC_TEST_CHECK);
+    EXPECT_EQ(focus.Count(WM_SETFOCUS), 1);
+    EXPECT_EQ(focus.Count(WM_KILLFOCUS), 0) << "it is not taken and given again";
     frame.ShowWindow(SW_MINIMIZE);
     PumpAll();
     frame.ShowWindow(SW_RESTORE);
