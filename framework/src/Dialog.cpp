@@ -201,7 +201,8 @@ void CDialog::PostNcDestroy()
     m_modalEnded = true;
 }
 
-// Commands go on to the owner of the dialog and to the application; notifications stay here.
+// Commands go on to the owner of the dialog and to the application. Notifications stay here, and so
+// do the numbers of the dialog's own controls, which another dialog gives to others.
 BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
     const framework::StillThere here(*this);
@@ -210,7 +211,7 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
         return TRUE;
     }
     const bool command = nCode == CN_COMMAND || UINT(nCode) == CN_UPDATE_COMMAND_UI;
-    if (!here || !command || nID >= 0xF000)
+    if (!here || !command || nID < 0x8000 || nID >= 0xF000)
     {
         return FALSE;
     }

@@ -55,6 +55,7 @@ BEGIN_MESSAGE_MAP(BasePanel, CWnd)
     ON_NOTIFY(NM_RCLICK, 30, &BasePanel::OnItem)
     ON_CONTROL_REFLECT(EN_CHANGE, &BasePanel::OnTen)
     ON_COMMAND_RANGE(20, 22, &BasePanel::OnRange)
+    ON_COMMAND(0x8000, &BasePanel::OnTen)
     ON_UPDATE_COMMAND_UI(10, &BasePanel::OnUpdateTen)
     ON_BN_CLICKED(30, &BasePanel::OnClicked)
     ON_CONTROL_RANGE(EN_CHANGE, 40, 42, &BasePanel::OnAnyChange)
@@ -191,7 +192,9 @@ TEST_F(MessageMap, ADialogAsksItsOwnerWhoMayEndAndDecline)
     const DialogTemplate form(CRect(0, 0, 80, 40));
     ASSERT_TRUE(dialog.CreateIndirect(form, owner));
     dialog.SendMessage(WM_COMMAND, 20);
-    EXPECT_EQ(owner->journal, Journal{"range 20"});
+    EXPECT_EQ(owner->journal, Journal()) << "the number of a control of its own";
+    dialog.SendMessage(WM_COMMAND, 0x8000);
+    EXPECT_EQ(owner->journal, Journal{"base 10"});
     const AccessFaults faults;
     ::SendMessage(*owner, WM_COMMAND, 12, 0);
     EXPECT_EQ(dialog.GetSafeHwnd(), nullptr) << "its owner took it along";

@@ -46,6 +46,7 @@ public:
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreTranslateMessage(MSG* message) override;
 
+    // Commands (from 0x8000) that it does not handle go to its owner and the application.
     // The platform's callback for every dialog of the framework.
     static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
