@@ -2,17 +2,25 @@
 
 #include "framework/App.h"
 
+#include <vector>
+
 namespace framework {
 
 // The top-level window that a modal window belongs to, disabled while that one runs.
 class DisabledOwner
 {
 public:
-    // parent null: the application's main window.
+    // parent null: the window that the user is at, of those that belong to the application's main
+    // window, or that one itself.
     explicit DisabledOwner(const CWnd* parent)
     {
         const CWnd* const meant = parent != nullptr ? parent : AfxGetMainWnd();
-        m_window = meant == nullptr ? nullptr : ::GetAncestor(meant->m_hWnd, GA_ROOT);
+        m_window = m_last = meant == nullptr ? nullptr : ::GetAncestor(meant->m_hWnd, GA_ROOT);
+        const HWND popup = parent == nullptr ? ::GetLastActivePopup(m_window) : nullptr;
+        if (popup != nullptr && ::IsWindowVisible(popup))
+        {
+            m_window = popup;
+        }
     }
     DisabledOwner(const DisabledOwner&) = delete;
     DisabledOwner& operator=(const DisabledOwner&) = delete;
@@ -21,10 +29,18 @@ public:
 
     void Disable()
     {
-        m_disabled = m_window != nullptr && ::IsWindowEnabled(m_window);
-        if (m_disabled)
+        std::vector<HWND> windows = {m_window};
+        while (windows.back() != nullptr && windows.back() != m_last)
         {
-            ::EnableWindow(m_window, FALSE);
+            windows.push_back(::GetWindow(windows.back(), GW_OWNER));
+        }
+        for (const HWND window : windows)
+        {
+            if (::IsWindowEnabled(window))
+            {
+                m_disabled.push_back(window);
+                ::EnableWindow(window, FALSE);
+            }
         }
     }
 
@@ -38,19 +54,20 @@ public:
                                SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE |
                                    SWP_NOZORDER);
         }
-        if (m_disabled && ::IsWindow(m_window))
+        for (const HWND window : m_disabled)
         {
-            ::EnableWindow(m_window, TRUE);
-            if (::GetActiveWindow() == modal.m_hWnd)
-            {
-                ::SetActiveWindow(m_window);
-            }
+            ::EnableWindow(window, TRUE);
+        }
+        if (::IsWindowEnabled(m_window) && ::GetActiveWindow() == modal.m_hWnd)
+        {
+            ::SetActiveWindow(m_window);
         }
     }
 
 private:
     HWND m_window = nullptr;
-    bool m_disabled = false;
+    HWND m_last = nullptr;        // of its owners, which the user must not reach either
+    std::vector<HWND> m_disabled; // those that were not before
 };
 
 } // namespace framework

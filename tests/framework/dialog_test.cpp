@@ -115,6 +115,57 @@ TEST_F(DialogTest, AModalDialogReturnsWhatEndedItAndDisablesItsOwnerMeanwhile)
     }
 }
 
+// The program's main window, for as long as this lives.
+class MainWindowScope
+{
+public:
+    explicit MainWindowScope(CWnd& window) { AfxGetApp()->m_pMainWnd = &window; }
+    MainWindowScope(const MainWindowScope&) = delete;
+    MainWindowScope& operator=(const MainWindowScope&) = delete;
+    ~MainWindowScope() { AfxGetApp()->m_pMainWnd = nullptr; }
+};
+
+TEST_F(DialogTest, OneWithoutAParentDisablesTheWindowInUseAndThoseItBelongsTo)
+{
+    const MainWindowScope main(Host());
+    for (const bool overModal : {true, false})
+    {
+        SCOPED_TRACE(overModal);
+        Form below(form, &Host());
+        const std::function<void(CWnd&, bool)> ask = [&](CWnd& inUse, bool again) {
+            Form box(form);
+            box.inLoop = [&] {
+                EXPECT_EQ(::GetWindow(box, GW_OWNER), inUse.m_hWnd);
+                EXPECT_FALSE(inUse.IsWindowEnabled() || Host().IsWindowEnabled());
+                if (again)
+                {
+                    ask(box, false);
+                }
+                box.EndDialog(2);
+            };
+            EXPECT_EQ(box.DoModal(), 2);
+            EXPECT_TRUE(inUse.IsWindowEnabled());
+            EXPECT_EQ(::GetActiveWindow(), inUse.m_hWnd);
+        };
+        if (overModal)
+        {
+            below.inLoop = [&] {
+                ask(below, true);
+                EXPECT_FALSE(Host().IsWindowEnabled()) << "as the box found it";
+                below.EndDialog(1);
+            };
+            EXPECT_EQ(below.DoModal(), 1);
+        }
+        else
+        {
+            ASSERT_TRUE(below.CreateIndirect(form, &Host()));
+            below.ShowWindow(SW_SHOW);
+            ask(below, false);
+        }
+        EXPECT_TRUE(Host().IsWindowEnabled());
+    }
+}
+
 TEST_F(DialogTest, KeysButtonsAndItsOwnHandlersEndIt)
 {
     // Whether at its initialisation, and so it is never shown; the act; what the dialog returns.

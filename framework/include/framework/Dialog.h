@@ -25,7 +25,9 @@ public:
     BOOL InitModalIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent = nullptr,
                            void* initData = nullptr);
     BOOL InitModalIndirect(HGLOBAL dialogTemplate, CWnd* parent = nullptr);
-    // Runs the dialog; EndDialog's value, or -1 when it could not be created.
+    // Runs the dialog; EndDialog's value, or -1 when it could not be created. Its owner is disabled
+    // meanwhile. Without a parent that is the popup of the main window that was active last, or the
+    // main window, with all that it belongs to.
     virtual INT_PTR DoModal();
     void EndDialog(int result);
 
