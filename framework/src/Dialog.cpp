@@ -173,7 +173,8 @@ INT_PTR CDialog::DoModal()
     m_modalDialog = true;
     if (CreateDlgIndirect(dialogTemplate, CWnd::FromHandle(owner.Window()), module))
     {
-        result = m_modalEnded ? m_endValue : RunModalLoop(MLF_SHOWONIDLE);
+        const DWORD quiet = (GetStyle() & DS_NOIDLEMSG) != 0 ? MLF_NOIDLEMSG : 0;
+        result = m_modalEnded ? m_endValue : RunModalLoop(MLF_SHOWONIDLE | quiet);
     }
 
     owner.EnableAgain(*this);

@@ -41,32 +41,32 @@ GdiMaps& ThreadGdiMaps()
 
 GdiMaps::~GdiMaps()
 {
-    DeleteAllTemporaries();
+    DeleteAllTemporaries(0); // the thread may end in a modal loop
 }
 
-void GdiMaps::DeleteTemporaryObjects()
+void GdiMaps::DeleteTemporaryObjects(int depth)
 {
     for (Objects* map : {&pens, &brushes, &fonts, &bitmaps, &regions, &others})
     {
-        map->DeleteTemporaries([](CGdiObject& object) { object.m_hObject = nullptr; });
+        map->DeleteTemporaries([](CGdiObject& object) { object.m_hObject = nullptr; }, depth);
     }
 }
 
-void GdiMaps::DeleteTemporaryContexts()
+void GdiMaps::DeleteTemporaryContexts(int depth)
 {
-    contexts.DeleteTemporaries([](CDC& dc) { dc.m_hDC = dc.m_hAttribDC = nullptr; });
+    contexts.DeleteTemporaries([](CDC& dc) { dc.m_hDC = dc.m_hAttribDC = nullptr; }, depth);
 }
 
-void GdiMaps::DeleteTemporaryImageLists()
+void GdiMaps::DeleteTemporaryImageLists(int depth)
 {
-    imageLists.DeleteTemporaries([](CImageList& images) { images.m_hImageList = nullptr; });
+    imageLists.DeleteTemporaries([](CImageList& images) { images.m_hImageList = nullptr; }, depth);
 }
 
-void GdiMaps::DeleteAllTemporaries()
+void GdiMaps::DeleteAllTemporaries(int depth)
 {
-    DeleteTemporaryObjects();
-    DeleteTemporaryContexts();
-    DeleteTemporaryImageLists();
+    DeleteTemporaryObjects(depth);
+    DeleteTemporaryContexts(depth);
+    DeleteTemporaryImageLists(depth);
 }
 
 void DeleteTemporaryGdiObjects()

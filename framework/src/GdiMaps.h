@@ -29,10 +29,10 @@ struct GdiMaps
     GdiMaps(const GdiMaps&) = delete;
     GdiMaps& operator=(const GdiMaps&) = delete;
 
-    void DeleteTemporaryObjects();
-    void DeleteTemporaryContexts();
-    void DeleteTemporaryImageLists();
-    void DeleteAllTemporaries();
+    void DeleteTemporaryObjects(int depth = ModalDepth());
+    void DeleteTemporaryContexts(int depth = ModalDepth());
+    void DeleteTemporaryImageLists(int depth = ModalDepth());
+    void DeleteAllTemporaries(int depth = ModalDepth());
 };
 
 // The maps of the calling thread. Usable even while the thread or the process ends, when objects

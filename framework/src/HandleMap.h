@@ -2,13 +2,18 @@
 
 // Which object stands for a platform handle, per thread. Permanent entries belong to objects that
 // own or attached their handle; temporary ones are made for handles that nobody wrapped, own
-// nothing and are dropped when the thread is idle.
+// nothing and are dropped when the thread is idle. A modal loop that is idle drops those that were
+// found in it: whoever called it still uses his own.
 
+#include <algorithm>
 #include <memory>
 #include <unordered_map>
 #include <vector>
 
 namespace framework {
+
+// How many modal loops of the framework the calling thread is in.
+int ModalDepth();
 
 template <class Handle, class Object> class HandleMap
 {
@@ -30,12 +35,14 @@ public:
         {
             return permanent;
         }
-        std::unique_ptr<Object>& entry = m_temporary[handle];
-        if (entry == nullptr)
+        const int depth = ModalDepth();
+        Temporary& entry = m_temporary[handle];
+        if (entry.object == nullptr)
         {
-            entry = make(handle);
+            entry = {make(handle), depth};
         }
-        return entry.get();
+        entry.depth = std::min(entry.depth, depth);
+        return entry.object.get();
     }
 
     void SetPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
@@ -50,20 +57,36 @@ public:
         }
     }
 
-    // Drops the temporaries; release(object) takes the handle away from each before it is deleted.
-    template <class Release> void DeleteTemporaries(Release release)
+    // Drops the temporaries that were not found outside so many modal loops; release(object) takes
+    // the handle away from each before it is deleted.
+    template <class Release> void DeleteTemporaries(Release release, int depth = ModalDepth())
     {
-        auto dropped = std::move(m_temporary);
-        m_temporary.clear();
-        for (auto& entry : dropped)
+        std::vector<std::unique_ptr<Object>> dropped;
+        for (auto entry = m_temporary.begin(); entry != m_temporary.end();)
         {
-            release(*entry.second);
+            if (entry->second.depth < depth)
+            {
+                ++entry;
+                continue;
+            }
+            dropped.push_back(std::move(entry->second.object));
+            entry = m_temporary.erase(entry);
+        }
+        for (const auto& object : dropped)
+        {
+            release(*object);
         }
     }
 
 private:
+    struct Temporary
+    {
+        std::unique_ptr<Object> object;
+        int depth = 0; // the least at which it was found
+    };
+
     std::unordered_map<Handle, Object*> m_permanent;
-    std::unordered_map<Handle, std::unique_ptr<Object>> m_temporary;
+    std::unordered_map<Handle, Temporary> m_temporary;
 };
 
 } // namespace framework

@@ -12,4 +12,9 @@ ThreadState& CurrentThreadState()
     return *state;
 }
 
+int ModalDepth()
+{
+    return CurrentThreadState().modalDepth;
+}
+
 } // namespace framework

@@ -21,6 +21,7 @@ struct ThreadState
     CWinThread* thread = nullptr;
     int waiting = 0;                // how many have asked for the hourglass
     HCURSOR cursorBefore = nullptr; // of the first of them
+    int modalDepth = 0; // modal loops within one another
 };
 
 // Made on first use and never freed: windows may outlive every static object.

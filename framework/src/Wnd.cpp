@@ -2,6 +2,7 @@
 
 #include "framework/Wnd.h"
 
+#include "GdiMaps.h"
 #include "StillThere.h"
 #include "ThreadState.h"
 #include "TypedWindows.h"
@@ -379,13 +380,42 @@ void CWnd::OnNcDestroy()
 
 // Modal loops -----------------------------------------------------------------------------------
 
+namespace {
+
+// While it lives, the thread is in one more modal loop.
+class ModalDepthScope
+{
+public:
+    ModalDepthScope() { ++CurrentThreadState().modalDepth; }
+    ModalDepthScope(const ModalDepthScope&) = delete;
+    ModalDepthScope& operator=(const ModalDepthScope&) = delete;
+    ~ModalDepthScope() { --CurrentThreadState().modalDepth; }
+};
+
+// Nothing waits for a modal window: its owner and the window are told, which may end it.
+void TellIdle(HWND window, DWORD flags)
+{
+    const HWND own = ::GetWindow(window, GW_OWNER);
+    const HWND owner = own != nullptr ? own : ::GetParent(window);
+    if ((flags & MLF_NOIDLEMSG) == 0 && owner != nullptr)
+    {
+        ::SendMessage(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(window));
+    }
+    if ((flags & MLF_NOKICKIDLE) == 0 && ::IsWindow(window))
+    {
+        ::SendMessage(window, WM_KICKIDLE, 0, 0);
+    }
+}
+
+} // namespace
+
 int CWnd::RunModalLoop(DWORD flags)
 {
+    const ModalDepthScope depth;
     CWinThread* const thread = AfxGetThread();
     bool toShow = (flags & MLF_SHOWONIDLE) != 0 && !IsWindowVisible();
     m_modalRunning = true;
     m_modalResult = -1;
-    LONG idleRounds = 0;
     bool idle = true;
     while (ContinueModal())
     {
@@ -400,7 +430,10 @@ int CWnd::RunModalLoop(DWORD flags)
             }
             else
             {
-                idle = thread != nullptr && thread->OnIdle(idleRounds++);
+                idle = false;
+                TellIdle(m_hWnd, flags);
+                DeleteTempMap();
+                framework::DeleteTemporaryGdiObjects();
             }
             continue;
         }
@@ -420,7 +453,6 @@ int CWnd::RunModalLoop(DWORD flags)
         if (thread == nullptr || thread->IsIdleMessage(&thread->m_msgCur))
         {
             idle = true;
-            idleRounds = 0;
         }
     }
     m_modalRunning = false;

@@ -3,6 +3,7 @@
 #include "support/WindowTest.h"
 
 #include <functional>
+#include <optional>
 #include <tuple>
 
 namespace {
@@ -164,6 +165,58 @@ TEST_F(DialogTest, OneWithoutAParentDisablesTheWindowInUseAndThoseItBelongsTo)
         }
         EXPECT_TRUE(Host().IsWindowEnabled());
     }
+}
+
+TEST_F(DialogTest, WhatItsCallersFoundOutlastsItAndWhatIsFoundInItDoesNot)
+{
+    // A context that was given another one to ask is that very object as long as it does.
+    CDC other;
+    ASSERT_TRUE(other.CreateCompatibleDC(nullptr));
+    const HDC handles[] = {::GetWindowDC(Host()), ::GetWindowDC(nullptr)};
+    const auto mark = [&](HDC handle) { CDC::FromHandle(handle)->SetAttribDC(other); };
+    const auto isMarked = [&](HDC handle) {
+        return CDC::FromHandle(handle)->m_hAttribDC == other.m_hDC;
+    };
+    const HWND desktop = ::GetDesktopWindow();
+    mark(handles[0]);
+    CWnd* const found = CWnd::FromHandle(desktop);
+    Host().AlsoRecord({WM_ENTERIDLE});
+    for (const bool marksInside : {true, false})
+    {
+        Form dialog(form, &Host());
+        dialog.inLoop = [&] { // not for ever
+            ::SetTimer(dialog, 1, 3000, [](HWND window, UINT, UINT_PTR, DWORD) {
+                static_cast<CDialog*>(CWnd::FromHandlePermanent(window))->EndDialog(-9);
+            });
+        };
+        std::optional<MessageLog> log;
+        dialog.inInit = [&] { log.emplace(dialog, std::initializer_list<UINT>{WM_KICKIDLE}); };
+        int idle = 0;
+        Host().hook = [&](ToldMessage& told) {
+            if (told.message != WM_ENTERIDLE || !dialog.shown)
+            {
+                return;
+            }
+            EXPECT_EQ(told.wParam, WPARAM(MSGF_DIALOGBOX));
+            EXPECT_EQ(told.lParam, reinterpret_cast<LPARAM>(dialog.m_hWnd));
+            EXPECT_TRUE(isMarked(handles[0]));
+            EXPECT_EQ(CWnd::FromHandle(desktop), found);
+            EXPECT_EQ(isMarked(handles[1]), !marksInside);
+            if (++idle == 1 && marksInside)
+            {
+                mark(handles[1]);
+                dialog.PostMessage(WM_NULL); // and once more
+                return;
+            }
+            EXPECT_EQ(log->Count(WM_KICKIDLE), idle - 1) << "after its owner";
+            dialog.EndDialog(3);
+        };
+        EXPECT_EQ(dialog.DoModal(), 3);
+        mark(handles[1]); // found in there, and now by one who waits outside
+    }
+    Host().hook = nullptr;
+    ::ReleaseDC(Host(), handles[0]);
+    ::ReleaseDC(nullptr, handles[1]);
 }
 
 TEST_F(DialogTest, KeysButtonsAndItsOwnHandlersEndIt)

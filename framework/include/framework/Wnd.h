@@ -27,13 +27,17 @@ struct CCreateContext
 constexpr UINT AFX_IDW_PANE_FIRST = 0xE900;
 constexpr UINT AFX_IDW_PANE_LAST = 0xE9FF;
 
-// RunModalLoop: show the window once there is nothing left to do.
+// RunModalLoop: do not tell the owner that there is nothing left to do (WM_ENTERIDLE), nor the
+// window (WM_KICKIDLE, whose parameters and result mean nothing); show the window then.
+constexpr DWORD MLF_NOIDLEMSG = 0x0001;
+constexpr DWORD MLF_NOKICKIDLE = 0x0002;
 constexpr DWORD MLF_SHOWONIDLE = 0x0004;
+constexpr UINT WM_KICKIDLE = WM_AFXFIRST + 0x10;
 
 // A window of the platform. An object made by Create, Attach or SubclassWindow stands permanently
 // for its handle; FromHandle makes temporary stand-ins that own nothing and last until the thread
-// is idle. Destroying the object destroys the window; destroying the window leaves the object,
-// unless its PostNcDestroy deletes it.
+// is idle: a modal loop leaves those that were found outside it. Destroying the object destroys the
+// window; destroying the window leaves the object, unless its PostNcDestroy deletes it.
 class FRAMEWORK_API CWnd : public CCmdTarget
 {
     DECLARE_DYNCREATE(CWnd)
