@@ -96,6 +96,11 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HIN
         return FALSE;
     }
     AfxHookWindowCreate(this);
+    if (parent == nullptr)
+    {
+        CWnd* const main = AfxGetMainWnd();
+        parent = main == this ? nullptr : main;
+    }
     const HWND window = ::CreateDialogIndirectParam(
         instance == nullptr ? AfxGetResourceHandle() : instance, dialogTemplate,
         parent == nullptr ? nullptr : parent->m_hWnd, &CDialog::DialogProc, 0);

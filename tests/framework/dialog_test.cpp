@@ -219,6 +219,22 @@ TEST_F(DialogTest, WhatItsCallersFoundOutlastsItAndWhatIsFoundInItDoesNot)
     ::ReleaseDC(nullptr, handles[1]);
 }
 
+TEST_F(DialogTest, AModelessOneWithoutAParentBelongsToTheMainWindow)
+{
+    const MainWindowScope main(Host());
+    Form dialog(form);
+    ASSERT_TRUE(dialog.CreateIndirect(form));
+    EXPECT_EQ(::GetWindow(dialog, GW_OWNER), Host().m_hWnd);
+    CDialog child;
+    ASSERT_TRUE(child.CreateIndirect(DialogTemplate(CRect(0, 0, 80, 40), WS_CHILD)));
+    EXPECT_EQ(child.GetParent(), &Host());
+    CDialog itself;
+    const MainWindowScope other(itself);
+    EXPECT_TRUE(itself.CreateIndirect(DialogTemplate(CRect(0, 0, 80, 40))));
+    EXPECT_EQ(::GetWindow(itself, GW_OWNER), nullptr);
+    EXPECT_EQ(AfxGetMainWnd(), &itself);
+}
+
 TEST_F(DialogTest, KeysButtonsAndItsOwnHandlersEndIt)
 {
     // Whether at its initialisation, and so it is never shown; the act; what the dialog returns.

@@ -14,6 +14,7 @@ public:
     explicit CDialog(UINT templateId, CWnd* parent = nullptr);
     ~CDialog() override;
 
+    // Modeless; without a parent the dialog belongs to the application's main window.
     virtual BOOL Create(LPCSTR templateName, CWnd* parent = nullptr);
     virtual BOOL Create(UINT templateId, CWnd* parent = nullptr);
     // The template in memory stays the caller's and must last until the window exists.
