@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <tuple>
 #include <utility>
 
 namespace {
@@ -28,6 +29,7 @@ public:
     BOOL lets = TRUE; // the user leave the page, and apply it
     std::function<void()> whenShown;
     CString text = "start";
+    CString fetched; // whenever the page is shown, if it is not empty
 
     BOOL OnSetActive() override
     {
@@ -36,6 +38,7 @@ public:
         {
             std::exchange(whenShown, nullptr)();
         }
+        text = fetched.IsEmpty() ? text : fetched;
         return CPropertyPage::OnSetActive();
     }
     BOOL OnKillActive() override
@@ -197,6 +200,16 @@ TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwnerUntilItIsClosed)
         sheet->ActIn(PSM_GETTABCONTROL, [sheet] { delete sheet; }); // it may end as it is asked
         EXPECT_TRUE(byIndex ? sheet->GetActiveIndex() == -1 : sheet->GetActivePage() == nullptr);
     }
+}
+
+TEST_F(PropertySheetTest, APageShowsWhatItFetchesWhenItIsShown)
+{
+    first.fetched = "from elsewhere";
+    Sheet sheet(&Host(), {&first});
+    ASSERT_TRUE(sheet.Create(&Host()));
+    CString shown;
+    first.GetDlgItemText(IDC_TEST_EDIT, shown);
+    EXPECT_STREQ(shown, "from elsewhere");
 }
 
 } // namespace

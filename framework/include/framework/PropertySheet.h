@@ -23,7 +23,8 @@ public:
     PROPSHEETPAGE m_psp = {};
 
     void SetModified(BOOL changed = TRUE);
-    virtual BOOL OnSetActive() { return TRUE; }
+    // The page is to be shown: its controls get its data. FALSE keeps it from being.
+    virtual BOOL OnSetActive() { return UpdateData(FALSE); }
     virtual BOOL OnKillActive() { return UpdateData(TRUE); }
     void OnOK() override {}
     void OnCancel() override {}
