@@ -247,8 +247,10 @@ void CPropertySheet::SetTitle(LPCSTR text, UINT style)
     }
 }
 
-BOOL CPropertySheet::CreateSheet(CWnd* parent)
+BOOL CPropertySheet::CreateSheet(CWnd* parent, DWORD style, DWORD exStyle)
 {
+    m_style = style;
+    m_exStyle = exStyle;
     std::vector<PROPSHEETPAGE> descriptions;
     for (CPropertyPage* page : m_pages)
     {
@@ -260,34 +262,71 @@ BOOL CPropertySheet::CreateSheet(CWnd* parent)
     m_psh.pszCaption = m_strCaption;
     m_psh.nPages = UINT(descriptions.size());
     m_psh.ppsp = descriptions.data();
+    PROPSHEETHEADER header = m_psh;
+    if (m_style != DWORD(-1) || m_exStyle != 0)
+    {
+        header.dwFlags |= PSH_USECALLBACK;
+        header.pfnCallback = &CPropertySheet::Called;
+    }
     AfxHookWindowCreate(this);
-    const INT_PTR made = descriptions.empty() ? -1 : ::PropertySheet(&m_psh);
+    const INT_PTR made = descriptions.empty() ? -1 : ::PropertySheet(&header);
     AfxUnhookWindowCreate();
     m_psh.ppsp = nullptr;
     return made != -1 && made != 0 && m_hWnd != nullptr;
 }
 
+// The platform's callback for a sheet that is given styles; the host's own has its turn, too.
+int CALLBACK CPropertySheet::Called(HWND window, UINT message, LPARAM lParam)
+{
+    // Before its window there is only the object that waits for it.
+    CWnd* const object = message == PSCB_PRECREATE ? framework::CurrentThreadState().creating
+                                                   : FromHandlePermanent(window);
+    auto* const sheet = DYNAMIC_DOWNCAST(CPropertySheet, object);
+    if (sheet == nullptr)
+    {
+        return 0;
+    }
+    if (message == PSCB_PRECREATE)
+    {
+        sheet->StyleTemplate(reinterpret_cast<void*>(lParam));
+    }
+    const bool hosts = (sheet->m_psh.dwFlags & PSH_USECALLBACK) != 0;
+    return hosts && sheet->m_psh.pfnCallback != nullptr
+               ? sheet->m_psh.pfnCallback(window, message, lParam)
+               : 0;
+}
+
+// Puts the styles into the platform's template, of either form.
+void CPropertySheet::StyleTemplate(void* dialogTemplate) const
+{
+    auto* const plain = static_cast<DLGTEMPLATE*>(dialogTemplate);
+    const auto* const words = static_cast<const WORD*>(dialogTemplate);
+    // The extended form begins with its version, a mark and a help id, and has the styles in the
+    // other order.
+    const bool extended = words[0] == 1 && words[1] == 0xFFFF;
+    auto* const fields = static_cast<DWORD*>(dialogTemplate);
+    DWORD& style = extended ? fields[3] : plain->style;
+    DWORD& exStyle = extended ? fields[2] : plain->dwExtendedStyle;
+    if (m_style != DWORD(-1))
+    {
+        // Whether a font follows is no matter of style.
+        style = (m_style & ~DWORD(DS_SHELLFONT)) | (style & DS_SHELLFONT);
+    }
+    if (m_exStyle != 0)
+    {
+        exStyle = m_exStyle;
+    }
+}
+
 BOOL CPropertySheet::Create(CWnd* parent, DWORD style, DWORD exStyle)
 {
     m_modal = false;
-    if (!CreateSheet(parent))
+    if (!CreateSheet(parent, style, exStyle))
     {
         return FALSE;
     }
-    // Each of these may end it.
-    const framework::StillThere here(*this);
-    if (style != DWORD(-1))
-    {
-        ModifyStyle(0, style);
-    }
-    if (here)
-    {
-        ModifyStyleEx(0, exStyle);
-    }
-    if (here)
-    {
-        HideButtons();
-    }
+    const framework::StillThere here(*this); // it may end in these
+    HideButtons();
     return bool(here);
 }
 

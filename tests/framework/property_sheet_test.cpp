@@ -212,4 +212,32 @@ TEST_F(PropertySheetTest, APageShowsWhatItFetchesWhenItIsShown)
     EXPECT_STREQ(shown, "from elsewhere");
 }
 
+int hostCallbacks = 0;
+
+TEST_F(PropertySheetTest, AModelessSheetHasTheStylesItIsGiven)
+{
+    constexpr DWORD All = WS_CHILD | WS_POPUP | WS_CAPTION | WS_VISIBLE;
+    // The style and the extended style that are given, and those that the sheet has.
+    const std::tuple<DWORD, DWORD, DWORD, DWORD> cases[] = {
+        {DWORD(-1), 0, WS_POPUP | WS_CAPTION | WS_VISIBLE, 0},
+        {WS_CHILD | WS_VISIBLE, WS_EX_CONTROLPARENT, WS_CHILD | WS_VISIBLE, 0},
+        {WS_POPUP | WS_CAPTION, WS_EX_TOOLWINDOW, WS_POPUP | WS_CAPTION, WS_EX_TOOLWINDOW},
+        {DWORD(-1), WS_EX_TOOLWINDOW, WS_POPUP | WS_CAPTION | WS_VISIBLE, WS_EX_TOOLWINDOW},
+    };
+    for (const auto& [style, exStyle, has, hasEx] : cases)
+    {
+        SCOPED_TRACE(testing::Message() << std::hex << style << ", " << exStyle);
+        Sheet sheet(&Host(), {&first});
+        sheet.m_psh.dwFlags |= PSH_USECALLBACK;
+        sheet.m_psh.pfnCallback = [](HWND, UINT, LPARAM) { return ++hostCallbacks; };
+        hostCallbacks = 0;
+        ASSERT_TRUE(sheet.Create(&Host(), style, exStyle));
+        EXPECT_EQ(sheet.GetStyle() & All, has);
+        EXPECT_EQ(sheet.GetExStyle() & WS_EX_TOOLWINDOW, hasEx);
+        EXPECT_EQ(sheet.GetParent(), &Host());
+        EXPECT_EQ(sheet.shown, (has & WS_VISIBLE) != 0);
+        EXPECT_EQ(hostCallbacks, 2) << "before the sheet is made, and when it is initialised";
+    }
+}
+
 } // namespace

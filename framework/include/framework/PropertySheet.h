@@ -70,6 +70,8 @@ public:
     void SetTitle(LPCSTR text, UINT style = 0);
 
     using CWnd::Create;
+    // Modeless, without the buttons. The styles are those that the window gets, a child's too; left
+    // out, they are the platform's for a sheet.
     virtual BOOL Create(CWnd* parent = nullptr, DWORD style = DWORD(-1), DWORD exStyle = 0);
     // IDOK or IDCANCEL, or -1 when the sheet could not be made.
     virtual INT_PTR DoModal();
@@ -93,8 +95,12 @@ private:
     bool m_modal = false;
     bool m_ended = false; // EndDialog was called, perhaps before the loop began
     int m_result = IDCANCEL;
+    DWORD m_style = DWORD(-1); // those that the window is to have, as in Create
+    DWORD m_exStyle = 0;
 
-    BOOL CreateSheet(CWnd* parent);
+    BOOL CreateSheet(CWnd* parent, DWORD style = DWORD(-1), DWORD exStyle = 0);
+    void StyleTemplate(void* dialogTemplate) const;
+    static int CALLBACK Called(HWND window, UINT message, LPARAM lParam);
     void HideButtons();
     void EndIfClosed(int result);
 };
