@@ -9,6 +9,7 @@ IMPLEMENT_DYNAMIC(CDialog, CWnd)
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_COMMAND(IDOK, &CDialog::OnOK)
     ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    ON_WM_WINDOWPOSCHANGING()
 END_MESSAGE_MAP()
 
 CDialog::CDialog(LPCSTR templateName, CWnd* parent)
@@ -95,12 +96,12 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HIN
         PostNcDestroy();
         return FALSE;
     }
-    AfxHookWindowCreate(this);
     if (parent == nullptr)
     {
         CWnd* const main = AfxGetMainWnd();
         parent = main == this ? nullptr : main;
     }
+    AfxHookWindowCreate(this);
     const HWND window = ::CreateDialogIndirectParam(
         instance == nullptr ? AfxGetResourceHandle() : instance, dialogTemplate,
         parent == nullptr ? nullptr : parent->m_hWnd, &CDialog::DialogProc, 0);
@@ -199,6 +200,18 @@ void CDialog::EndDialog(int result)
     else if (m_hWnd != nullptr)
     {
         ::EndDialog(m_hWnd, result);
+    }
+}
+
+// One that has ended at its initialisation is not shown, whatever its template says.
+void CDialog::OnWindowPosChanging(WINDOWPOS* position)
+{
+    const framework::StillThere here(*this);
+    CWnd::OnWindowPosChanging(position);
+    if (here && m_modalDialog && m_modalEnded && (position->flags & SWP_SHOWWINDOW) != 0)
+    {
+        position->flags &= ~UINT(SWP_SHOWWINDOW);
+        position->flags |= SWP_NOACTIVATE | SWP_NOZORDER;
     }
 }
 

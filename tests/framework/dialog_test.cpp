@@ -20,9 +20,10 @@ enum : WORD
     IdTypedCombo,
 };
 
-DialogTemplate FormTemplate()
+DialogTemplate FormTemplate(DWORD style = 0)
 {
-    DialogTemplate form(CRect(20, 20, 200, 140), WS_POPUP | WS_CAPTION | WS_SYSMENU, "Form");
+    DialogTemplate form(CRect(20, 20, 200, 140), WS_POPUP | WS_CAPTION | WS_SYSMENU | style,
+                        "Form");
     form.Add("Edit", "", WS_BORDER | WS_TABSTOP, CRect(5, 5, 60, 17), IdEdit)
         .Add("Edit", "", WS_BORDER | WS_TABSTOP, CRect(5, 20, 60, 32), IdNumber)
         .Add("Button", "Check", BS_AUTOCHECKBOX | WS_TABSTOP, CRect(5, 35, 60, 47), IdCheck)
@@ -52,11 +53,18 @@ public:
     int radio = 1;
     int row = 2;
     CListBox list;
+    bool seen = false; // by the user
 
     using CDialog::CreateIndirect;
     using CDialog::OnOK;
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        seen = seen || (message == WM_WINDOWPOSCHANGED &&
+                        (reinterpret_cast<WINDOWPOS*>(lParam)->flags & SWP_SHOWWINDOW) != 0);
+        return Scripted::WindowProc(message, wParam, lParam);
+    }
     void DoDataExchange(CDataExchange* exchange) override
     {
         CDialog::DoDataExchange(exchange);
@@ -249,14 +257,15 @@ TEST_F(DialogTest, KeysButtonsAndItsOwnHandlersEndIt)
         {true, [](Form& d) { d.EndDialog(9); }, 9},
         {false, [](Form&) { ::PostQuitMessage(5); }, -1},
     };
+    const DialogTemplate visible = FormTemplate(WS_VISIBLE);
     for (const auto& [inInit, act, result] : cases)
     {
         SCOPED_TRACE(testing::Message() << inInit << result);
-        Form dialog(form, &Host());
+        Form dialog(inInit ? visible : form, &Host());
         (inInit ? dialog.inInit : dialog.inLoop) = [&, &act = act] { act(dialog); };
         EXPECT_EQ(dialog.DoModal(), result);
         EXPECT_EQ(dialog.gone, 1);
-        EXPECT_EQ(dialog.shown, !inInit);
+        EXPECT_EQ(dialog.seen, !inInit);
         EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
         EXPECT_TRUE(Host().IsWindowEnabled());
     }

@@ -46,10 +46,10 @@ public:
     DWORD GetDefID() const { return DWORD(SendMessage(DM_GETDEFID)); }
     void MapDialogRect(LPRECT rect) const { ::MapDialogRect(m_hWnd, rect); }
 
+    // Commands (from 0x8000) that it does not handle go to its owner and the application.
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
     BOOL PreTranslateMessage(MSG* message) override;
 
-    // Commands (from 0x8000) that it does not handle go to its owner and the application.
     // The platform's callback for every dialog of the framework.
     static INT_PTR CALLBACK DialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam);
 
@@ -67,6 +67,7 @@ protected:
     void* m_lpDialogInit = nullptr;
     CWnd* m_pParentWnd = nullptr;
 
+    afx_msg void OnWindowPosChanging(WINDOWPOS* position);
     DECLARE_MESSAGE_MAP()
 
 private:
