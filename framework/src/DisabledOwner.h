@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ThreadState.h"
 #include "framework/App.h"
 
 #include <vector>
@@ -13,6 +14,7 @@ public:
     // parent null: the window that the user is at, of those that belong to the application's main
     // window, or that one itself.
     explicit DisabledOwner(const CWnd* parent)
+        : m_alone(parent != nullptr)
     {
         const CWnd* const meant = parent != nullptr ? parent : AfxGetMainWnd();
         m_window = m_last = meant == nullptr ? nullptr : ::GetAncestor(meant->m_hWnd, GA_ROOT);
@@ -33,6 +35,12 @@ public:
         while (windows.back() != nullptr && windows.back() != m_last)
         {
             windows.push_back(::GetWindow(windows.back(), GW_OWNER));
+        }
+        if (!m_alone)
+        {
+            // Nor may the loops outside be told to end under this one.
+            const std::vector<HWND>& outside = CurrentThreadState().modalWindows;
+            windows.insert(windows.end(), outside.begin(), outside.end());
         }
         for (const HWND window : windows)
         {
@@ -65,6 +73,7 @@ public:
     }
 
 private:
+    bool m_alone; // what else the user can reach is left to the caller, who named the parent
     HWND m_window = nullptr;
     HWND m_last = nullptr;        // of its owners, which the user must not reach either
     std::vector<HWND> m_disabled; // those that were not before

@@ -14,7 +14,7 @@ ThreadState& CurrentThreadState()
 
 int ModalDepth()
 {
-    return CurrentThreadState().modalDepth;
+    return int(CurrentThreadState().modalWindows.size());
 }
 
 } // namespace framework

@@ -6,6 +6,7 @@
 #include "framework/Thread.h"
 
 #include <unordered_map>
+#include <vector>
 
 namespace framework {
 
@@ -21,7 +22,7 @@ struct ThreadState
     CWinThread* thread = nullptr;
     int waiting = 0;                // how many have asked for the hourglass
     HCURSOR cursorBefore = nullptr; // of the first of them
-    int modalDepth = 0; // modal loops within one another
+    std::vector<HWND> modalWindows; // of modal loops within one another, the outermost first
 };
 
 // Made on first use and never freed: windows may outlive every static object.

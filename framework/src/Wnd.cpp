@@ -383,13 +383,13 @@ void CWnd::OnNcDestroy()
 namespace {
 
 // While it lives, the thread is in one more modal loop.
-class ModalDepthScope
+class ModalLoopScope
 {
 public:
-    ModalDepthScope() { ++CurrentThreadState().modalDepth; }
-    ModalDepthScope(const ModalDepthScope&) = delete;
-    ModalDepthScope& operator=(const ModalDepthScope&) = delete;
-    ~ModalDepthScope() { --CurrentThreadState().modalDepth; }
+    explicit ModalLoopScope(HWND window) { CurrentThreadState().modalWindows.push_back(window); }
+    ModalLoopScope(const ModalLoopScope&) = delete;
+    ModalLoopScope& operator=(const ModalLoopScope&) = delete;
+    ~ModalLoopScope() { CurrentThreadState().modalWindows.pop_back(); }
 };
 
 // Nothing waits for a modal window: its owner and the window are told, which may end it.
@@ -411,7 +411,7 @@ void TellIdle(HWND window, DWORD flags)
 
 int CWnd::RunModalLoop(DWORD flags)
 {
-    const ModalDepthScope depth;
+    const ModalLoopScope loop(m_hWnd);
     CWinThread* const thread = AfxGetThread();
     bool toShow = (flags & MLF_SHOWONIDLE) != 0 && !IsWindowVisible();
     m_modalRunning = true;

@@ -146,6 +146,7 @@ TEST_F(DialogTest, OneWithoutAParentDisablesTheWindowInUseAndThoseItBelongsTo)
             box.inLoop = [&] {
                 EXPECT_EQ(::GetWindow(box, GW_OWNER), inUse.m_hWnd);
                 EXPECT_FALSE(inUse.IsWindowEnabled() || Host().IsWindowEnabled());
+                EXPECT_FALSE(below.IsWindowEnabled()) << "its loop is the outer one";
                 if (again)
                 {
                     ask(box, false);
@@ -160,6 +161,11 @@ TEST_F(DialogTest, OneWithoutAParentDisablesTheWindowInUseAndThoseItBelongsTo)
         {
             below.inLoop = [&] {
                 ask(below, true);
+                Form tool(form);
+                ASSERT_TRUE(tool.CreateIndirect(form, &Host()));
+                tool.ShowWindow(SW_SHOW);
+                ask(tool, false);
+                EXPECT_TRUE(below.IsWindowEnabled());
                 EXPECT_FALSE(Host().IsWindowEnabled()) << "as the box found it";
                 below.EndDialog(1);
             };
