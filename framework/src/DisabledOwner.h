@@ -31,6 +31,11 @@ public:
 
     void Disable()
     {
+        // A window that is dragged or scrolled would go on to get every press.
+        if (const HWND pressed = ::GetCapture(); pressed != nullptr)
+        {
+            ::SendMessage(pressed, WM_CANCELMODE, 0, 0);
+        }
         std::vector<HWND> windows = {m_window};
         while (windows.back() != nullptr && windows.back() != m_last)
         {

@@ -101,7 +101,10 @@ protected:
 TEST_F(DialogTest, AModalDialogReturnsWhatEndedItAndDisablesItsOwnerMeanwhile)
 {
     Form dialog(form, &Host());
+    CWnd held; // by a press that a timer's dialog comes into
+    held.CreateEx(0, "STATIC", "", WS_POPUP | WS_VISIBLE, CRect(20, 20, 80, 80), nullptr, 0);
     dialog.inLoop = [&] {
+        EXPECT_EQ(::GetCapture(), nullptr);
         EXPECT_FALSE(Host().IsWindowEnabled());
         EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, IdEdit)) << "the first tab stop";
         Form inner(form, &dialog);
@@ -116,6 +119,7 @@ TEST_F(DialogTest, AModalDialogReturnsWhatEndedItAndDisablesItsOwnerMeanwhile)
     };
     for (int round = 1; round <= 2; ++round) // an object can run more than once
     {
+        held.SetCapture();
         EXPECT_EQ(dialog.DoModal(), 4711);
         EXPECT_TRUE(Host().IsWindowEnabled());
         EXPECT_EQ(::GetActiveWindow(), Host().m_hWnd);
