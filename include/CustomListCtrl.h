@@ -25,9 +25,10 @@ struct BarData;
 // its top row and its selection in sight.
 //
 // InsertColumn takes a width in pixels of the standard mode, whatever the mode; on-board the column
-// is 1.7 times as wide, and the last one fills the rest of the list. GetColumnWidth, SetColumnWidth
-// and SetColumn are of the mode of the moment: a host that keeps widths reads them in the standard
-// mode, or they grow each time that they are inserted again.
+// is 1.7 times as wide, and the one that stands last, in whatever order the user has put them,
+// fills the rest of the list. GetColumnWidth, SetColumnWidth and SetColumn are of the mode of the
+// moment: a host that keeps widths reads them in the standard mode, or they grow each time that
+// they are inserted again.
 class ONBOARDUI_API CCustomListCtrl : public CListCtrl
 {
     DECLARE_DYNCREATE(CCustomListCtrl)
@@ -245,7 +246,8 @@ private:
         int items = -1;
         int rowHeight = 0;
         int columns = 0;
-        int right = 0; // of the last column
+        int last = -1; // the column
+        int right = 0; // of it
         CSize client;
 
         bool operator==(const Measured& other) const = default;
@@ -322,6 +324,7 @@ private:
     // Content
     HWND HeaderWindow() const;
     int ColumnCount() const;
+    int LastColumn() const;
     int ColumnAt(int x) const;
     int HeaderBottom() const;
     bool HeaderItemRect(int column, CRect& rect) const;
@@ -330,6 +333,7 @@ private:
     int TopRow() const;
     void TakeHeader();
     int HeadingWidth(int column);
+    void GiveOwnWidth(int column);
     void FitLastColumn();
     void HoldPlatform();
     bool FollowFilling(UINT message);

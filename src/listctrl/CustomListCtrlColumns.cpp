@@ -59,15 +59,12 @@ LRESULT CCustomListCtrl::OnInsertColumn(WPARAM wParam, LPARAM lParam)
         width.standard = listctrl::StandardWidth(width.onBoard);
     }
     m_columnWidths.insert(m_columnWidths.begin() + std::min<LRESULT>(index, before), width);
-    // What filled the list is the last column no longer.
-    if (m_fittedColumn != -1 && m_fittedColumn == before - 1)
+    if (m_fittedColumn != -1)
     {
-        const bool stillLast = index < before;
-        m_fittedColumn = stillLast ? before : -1;
-        if (!stillLast)
+        m_fittedColumn += index <= m_fittedColumn ? 1 : 0;
+        if (m_fittedColumn != LastColumn())
         {
-            Ask(LVM_SETCOLUMNWIDTH, WPARAM(before - 1),
-                MAKELPARAM(m_columnWidths[size_t(before - 1)].onBoard, 0));
+            GiveOwnWidth(std::exchange(m_fittedColumn, -1));
         }
     }
     return index;
@@ -76,14 +73,19 @@ LRESULT CCustomListCtrl::OnInsertColumn(WPARAM wParam, LPARAM lParam)
 LRESULT CCustomListCtrl::OnDeleteColumn(WPARAM wParam, LPARAM)
 {
     const WindowAlive alive(*this);
+    const bool settling = std::exchange(m_settling, true); // not half way
     const LRESULT deleted = Default();
+    if (alive)
+    {
+        m_settling = settling;
+    }
     if (alive && deleted && wParam < m_columnWidths.size())
     {
         m_columnWidths.erase(m_columnWidths.begin() + std::ptrdiff_t(wParam));
     }
     if (alive && deleted && m_fittedColumn != -1)
     {
-        m_fittedColumn = ColumnCount() - 1; // the new last column fills the list
+        m_fittedColumn = LastColumn(); // fills the list, also if it has not been last so far
         m_fittedTo.SetRectEmpty();
     }
     return deleted;
@@ -91,7 +93,7 @@ LRESULT CCustomListCtrl::OnDeleteColumn(WPARAM wParam, LPARAM)
 
 LRESULT CCustomListCtrl::OnSetColumnWidth(WPARAM wParam, LPARAM lParam)
 {
-    const int last = ColumnCount() - 1;
+    const int last = LastColumn();
     if (InOnBoard() && last >= 0 && int(wParam) == last &&
         short(LOWORD(lParam)) == LVSCW_AUTOSIZE_USEHEADER)
     {
@@ -124,12 +126,24 @@ int CCustomListCtrl::HeadingWidth(int column)
            2 * metrics::ListRowMargin + arrow;
 }
 
+// The width in the kind of mode that the list is laid out for, to the platform alone.
+void CCustomListCtrl::GiveOwnWidth(int column)
+{
+    if (column >= 0 && size_t(column) < m_columnWidths.size())
+    {
+        const ColumnWidth& own = m_columnWidths[size_t(column)];
+        const int width = m_bars->IsLaidOut() ? own.onBoard : own.standard;
+        Ask(LVM_SETCOLUMNWIDTH, WPARAM(column),
+            MAKELPARAM(std::min(width, listctrl::WidestColumn), 0));
+    }
+}
+
 // The last column fills what the others leave of the list, and is at least as wide as its heading.
 void CCustomListCtrl::FitLastColumn()
 {
-    const int last = ColumnCount() - 1;
+    const int last = LastColumn();
     CRect column;
-    if (last < 0 || m_fitting || !HeaderItemRect(last, column))
+    if (m_fitting || !HeaderItemRect(last, column))
     {
         return;
     }
@@ -142,8 +156,24 @@ void CCustomListCtrl::FitLastColumn()
     }
     const WindowAlive alive(*this);
     m_fitting = true;
-    m_fittedColumn = last;
-    Ask(LVM_SETCOLUMNWIDTH, WPARAM(last), MAKELPARAM(LVSCW_AUTOSIZE_USEHEADER, 0));
+    const int before = std::exchange(m_fittedColumn, last);
+    if (before != -1 && before != last)
+    {
+        const int own = column.Width(); // as the user or the host has it by now
+        if (size_t(last) < m_columnWidths.size() && own != m_columnWidths[size_t(last)].onBoard)
+        {
+            m_columnWidths[size_t(last)] = {listctrl::StandardWidth(own), own};
+        }
+        GiveOwnWidth(before);
+    }
+    if (alive)
+    {
+        Ask(LVM_SETCOLUMNWIDTH, WPARAM(last), MAKELPARAM(LVSCW_AUTOSIZE_USEHEADER, 0));
+    }
+    if (alive)
+    {
+        HeaderItemRect(last, column);
+    }
     // Where nothing is left to fill, platforms differ.
     const int wanted = alive ? std::max(HeadingWidth(last), int(client.Width() - column.left)) : 0;
     if (alive && m_bars->IsLaidOut() && int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(last))) != wanted)
@@ -157,12 +187,11 @@ void CCustomListCtrl::FitLastColumn()
     m_fitting = false;
     if (!m_bars->IsLaidOut())
     {
-        // The list has left the mode on the way; the column had its width back before this one.
-        if (size_t(last) < m_columnWidths.size())
+        // The list has left the mode on the way; the columns had their widths back before these.
+        GiveOwnWidth(last);
+        if (alive && before != last)
         {
-            Ask(LVM_SETCOLUMNWIDTH, WPARAM(last),
-                MAKELPARAM(std::min(m_columnWidths[size_t(last)].standard, listctrl::WidestColumn),
-                           0));
+            GiveOwnWidth(before);
         }
         return;
     }
@@ -191,11 +220,12 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         }
     }
     const std::vector<ColumnWidth> widths = m_columnWidths;
+    const int last = LastColumn();
     for (int column = 0; column < count && alive; ++column)
     {
         const ColumnWidth& width = widths[size_t(column)];
         const int now = int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(column)));
-        const bool kept = toOnBoard || column == count - 1 || now == width.onBoard;
+        const bool kept = toOnBoard || column == last || now == width.onBoard;
         const int wanted = toOnBoard ? width.onBoard
                            : kept    ? width.standard
                                      : listctrl::StandardWidth(now);

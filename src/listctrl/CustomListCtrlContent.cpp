@@ -31,9 +31,17 @@ int CCustomListCtrl::ColumnCount() const
     return std::max(0, int(AskHeader(HDM_GETITEMCOUNT)));
 }
 
+// The column that stands last, in whatever order; -1 without columns.
+int CCustomListCtrl::LastColumn() const
+{
+    const int count = ColumnCount();
+    return count == 0 ? -1 : int(AskHeader(HDM_ORDERTOINDEX, WPARAM(count - 1)));
+}
+
 bool CCustomListCtrl::HeaderItemRect(int column, CRect& rect) const
 {
-    return AskHeader(HDM_GETITEMRECT, WPARAM(column), reinterpret_cast<LPARAM>(&rect)) != FALSE;
+    return column >= 0 &&
+           AskHeader(HDM_GETITEMRECT, WPARAM(column), reinterpret_cast<LPARAM>(&rect)) != FALSE;
 }
 
 // Client coordinate below the header; 0 when none is shown.
@@ -254,7 +262,8 @@ CCustomListCtrl::Measured CCustomListCtrl::Measure()
     now.items = int(Ask(LVM_GETITEMCOUNT));
     now.rowHeight = FirstRowRect(rect) ? rect.Height() : 0;
     now.columns = ColumnCount();
-    now.right = now.columns > 0 && HeaderItemRect(now.columns - 1, rect) ? int(rect.right) : 0;
+    now.last = LastColumn();
+    now.right = HeaderItemRect(now.last, rect) ? int(rect.right) : 0;
     GetClientRect(&rect);
     now.client = rect.Size();
     return now;

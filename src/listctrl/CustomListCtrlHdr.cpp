@@ -154,12 +154,14 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
     const HWND list = ListWindow();
     const int count = int(Ask(HDM_GETITEMCOUNT));
     int left = int(m_offset.x);
+    int last = -1;
     for (int order = 0; order < count && alive; ++order)
     {
         const int item = int(Ask(HDM_ORDERTOINDEX, WPARAM(order)));
         CRect rect;
         ItemRect(item, rect);
-        if (list != nullptr && item != count - 1 &&
+        last = item;
+        if (list != nullptr && order != count - 1 &&
             ::SendMessage(list, LVM_GETCOLUMNWIDTH, WPARAM(item), 0) != rect.Width())
         {
             ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(item),
@@ -175,7 +177,7 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
     }
     if (alive && list != nullptr && count > 0)
     {
-        ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(count - 1),
+        ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(last),
                       MAKELPARAM(LVSCW_AUTOSIZE_USEHEADER, 0));
     }
     if (alive && list != nullptr && (::GetWindowLongPtr(list, GWL_STYLE) & LVS_NOCOLUMNHEADER) == 0)

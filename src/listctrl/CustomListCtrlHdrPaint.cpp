@@ -82,9 +82,10 @@ void CCustomListCtrlHdr::DrawOB(CDC& dc)
     const TextColor color(dc, palette::HeaderText);
     const Selected font(dc, ownFont);
     const Selected pen(dc, ::GetStockObject(BLACK_PEN));
+    const int last = alive ? int(Ask(HDM_ORDERTOINDEX, WPARAM(count - 1))) : -1;
     for (int item = 0; item < count && alive; ++item)
     {
-        DrawOBItem(dc, item, item == count - 1, client);
+        DrawOBItem(dc, item, item == last, client);
     }
     if (alive && m_hotDivider >= 0 && count > 0)
     {

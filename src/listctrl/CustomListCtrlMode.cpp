@@ -108,8 +108,7 @@ void CCustomListCtrl::Bars::Foresee(const CSize& window)
     const int items = int(Ask(LVM_GETITEMCOUNT, 0, 0));
     const bool vertical = listctrl::VerticalBar(items, row.Height(), high).needed;
     CRect last;
-    const int columns = m_list.ColumnCount();
-    const bool horizontal = columns > 0 && m_list.HeaderItemRect(columns - 1, last) &&
+    const bool horizontal = m_list.HeaderItemRect(m_list.LastColumn(), last) &&
                             last.right > wide - (vertical ? metrics::ScrollBand : 0);
     ShowBar(SB_VERT, vertical);
     ShowBar(SB_HORZ, horizontal);

@@ -10,6 +10,7 @@
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 
+#include <algorithm>
 #include <cwchar>
 
 namespace {
@@ -282,9 +283,13 @@ void CCustomListCtrl::DrawGrid(CDC& dc, int items, const CRect& rect)
         ScreenToClient(&header);
     }
     const auto& dividers = m_gridLines.Positions();
-    for (size_t divider = 0; divider + 1 < dividers.size(); ++divider)
+    const auto end = std::max_element(dividers.begin(), dividers.end());
+    for (auto divider = dividers.begin(); divider != dividers.end(); ++divider)
     {
-        dc.MoveTo(dividers[divider], header.top);
-        dc.LineTo(dividers[divider], rect.bottom);
+        if (divider != end) // whichever column stands there
+        {
+            dc.MoveTo(*divider, header.top);
+            dc.LineTo(*divider, rect.bottom);
+        }
     }
 }

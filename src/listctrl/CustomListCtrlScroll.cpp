@@ -109,7 +109,7 @@ void CCustomListCtrl::UpdateHScrollData(bool& frameChanged)
 {
     const WindowAlive alive(*this);
     frameChanged = false;
-    if (m_fittedColumn != -1 && m_fittedColumn == ColumnCount() - 1)
+    if (m_fittedColumn != -1)
     {
         FitLastColumn();
         if (!alive)
@@ -120,9 +120,10 @@ void CCustomListCtrl::UpdateHScrollData(bool& frameChanged)
     CRect last;
     CRect client;
     GetClientRect(&client);
-    const int columns = ColumnCount();
-    const int total = columns > 0 && HeaderItemRect(columns - 1, last) ? int(last.right) : 0;
-    m_measured.columns = columns;
+    const int column = LastColumn();
+    const int total = HeaderItemRect(column, last) ? int(last.right) : 0;
+    m_measured.columns = ColumnCount();
+    m_measured.last = column;
     m_measured.right = total;
     m_measured.client = client.Size();
     const int step = client.Width() / listctrl::StepsAcross;

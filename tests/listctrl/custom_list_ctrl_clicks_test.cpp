@@ -442,7 +442,7 @@ TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
         Release();
         EXPECT_THAT(std::exchange(list.heard, {}), ElementsAre(row)) << mode;
         // Where one click activates, some platforms tell of the unscrolled row.
-        Host().hook = [&](ToldMessage& message) {
+        Host().hook = [&, mode = mode](ToldMessage& message) {
             if (message.code == UINT(NM_CLICK))
             {
                 list.byClick.hdr = list.byKey.hdr;

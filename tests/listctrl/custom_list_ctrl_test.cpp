@@ -61,7 +61,7 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
         {"another last column", [&] { list.InsertColumn(3, "D", LVCFMT_LEFT, 20); }, "vh", 0},
         {"what was fitted is no more",
          [&] { EXPECT_EQ((list.InsertItem(0, ""), list.GetColumnWidth(2)), 102); }, "vh", 0},
-        {"and gone", [&] { list.DeleteColumn(3); }, "vh", 0},
+        {"and gone", [&] { list.DeleteColumn(3); }, "v", 0},
         {"many rows and columns", [&] { list.FillBothWays(300 - list.GetItemCount()); }, "vh", 0},
         {"row in sight", [&] { EXPECT_TRUE(list.EnsureVisible(200, FALSE)); }, "vh", Any},
         {"row that was", [&] { list.EnsureVisible(list.TopRow(), FALSE); }, "vh", Any},
@@ -128,6 +128,64 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
         list.SendMessage(WM_HSCROLL, code);
     }
     EXPECT_EQ(list.m_drawOffset, CPoint(0, 0));
+}
+
+TEST_F(ListCtrlOnBoard, TheColumnThatStandsLastFillsTheListAndAllOthersAreReached)
+{
+    for (const int width : {250, 600}) // too narrow for all columns, and wide enough
+    {
+        auto& list = AddList(3, 3, ReportStyle, CRect(20, 20, 20 + width, 220));
+        list.SetExtendedStyle(LVS_EX_HEADERDRAGDROP | LVS_EX_GRIDLINES);
+        const auto put = [&](int column, int place) {
+            LVCOLUMN moved = {};
+            moved.mask = LVCF_ORDER;
+            moved.iOrder = place;
+            list.SetColumn(column, &moved);
+        };
+        int order[] = {2, 0, 1};
+        // What changes, and the order then.
+        const std::tuple<const char*, std::function<void()>, std::vector<int>> changes[] = {
+            {"order", [&] { list.SetColumnOrderArray(3, order); }, {2, 0, 1}},
+            {"column", [&] { put(1, 0); }, {1, 2, 0}},
+            {"drag",
+             [&] {
+                 list.PerformHScroll(SB_LEFT);
+                 const CPoint heading = list.DividerPoint(1, -50);
+                 Drag(heading, heading + CPoint(140, 0));
+             },
+             {2, 1, 0}},
+            {"fitted to the front", [&] { put(0, 0); }, {0, 2, 1}},
+            {"one more",
+             [&] { list.InsertColumn(3, "D", LVCFMT_LEFT, 60), list.ReCheckScrollBars(); },
+             {0, 2, 1, 3}},
+            {"between", [&] { put(3, 1); }, {0, 3, 2, 1}},
+            {"last deleted", [&] { list.DeleteColumn(1); }, {0, 2, 1}}};
+        for (const auto& [name, act, expected] : changes)
+        {
+            act();
+            PumpAll();
+            SCOPED_TRACE(testing::Message() << name << ' ' << width);
+            EXPECT_TRUE(ShowsWhatAPaintWould(list));
+            std::vector<int> now(expected.size());
+            list.GetColumnOrderArray(now.data(), int(now.size()));
+            EXPECT_EQ(now, expected);
+            for (size_t place = 0; place + 1 < now.size(); ++place)
+            {
+                EXPECT_EQ(list.GetColumnWidth(now[place]), 102) << now[place];
+            }
+            list.PerformHScroll(SB_RIGHT);
+            list.ExpectInStep(name);
+            EXPECT_LT(list.ColumnRect(now.back()).left + list.m_drawOffset.x,
+                      ClientRectOf(list).right);
+        }
+        SetMode(STD, list);
+        for (const int column : {0, 1, 2})
+        {
+            EXPECT_EQ(list.GetColumnWidth(column), 60);
+        }
+        SetMode(ONBOARD, list);
+        Remove(list);
+    }
 }
 
 TEST_F(ListCtrlOnBoard, RowsThatAMessageDoesNotNameArePaintedWhereTheyAreDrawn)

@@ -124,7 +124,7 @@ public:
             EXPECT_EQ(LastTopRow(), GetItemCount() - visible + 2);
             EXPECT_EQ(m_vBar.GetPageSize(), std::max(1, visible - 1));
         }
-        const CRect last = ColumnRect(m_header.GetItemCount() - 1);
+        const CRect last = ColumnRect(m_header.OrderToIndex(m_header.GetItemCount() - 1));
         EXPECT_GE(last.right, client.right) << "the last column fills the list";
         EXPECT_EQ(m_hBar.ShowScrollBar() != 0, last.right > client.right);
         if (m_hBar.ShowScrollBar())
