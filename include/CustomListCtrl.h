@@ -338,7 +338,7 @@ private:
     void HoldPlatform();
     bool FollowFilling(UINT message);
     void EndFilling();
-    void KeepInStep(UINT message);
+    void KeepInStep(UINT message, bool sameMode);
     void UpdateScrollData();
     Measured Measure();
     void MoveTo(int axis, int position);

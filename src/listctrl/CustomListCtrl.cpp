@@ -270,6 +270,7 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         }
     }
+    const bool laidOut = m_bars->IsLaidOut();
     const LRESULT result = CListCtrl::WindowProc(message, wParam, lParam);
     if (alive && m_bars->IsLaidOut())
     {
@@ -277,7 +278,7 @@ LRESULT CCustomListCtrl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     }
     if (alive)
     {
-        KeepInStep(message);
+        KeepInStep(message, laidOut == m_bars->IsLaidOut());
     }
     return result;
 }

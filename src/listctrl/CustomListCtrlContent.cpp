@@ -209,9 +209,9 @@ bool listctrl::ConcernsView(UINT message)
     return ChoosesView(message) || message == LVM_GETTOPINDEX || message == LVM_GETCOUNTPERPAGE;
 }
 
-void CCustomListCtrl::KeepInStep(UINT message)
+void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
 {
-    if (ChoosesView(message))
+    if (ChoosesView(message) && sameMode)
     {
         m_view.reset();
     }

@@ -121,7 +121,7 @@ bool CCustomListCtrl::MoveByPage(UINT key, UINT flags)
     told.wVKey = WORD(key);
     told.flags = flags;
     TellNotify(GetSafeHwnd(), told.hdr);
-    if (alive && int(Ask(LVM_GETITEMCOUNT)) > 0)
+    if (alive && InOnBoard() && int(Ask(LVM_GETITEMCOUNT)) > 0)
     {
         const bool extend = IsKeyDown(VK_SHIFT);
         const int target =
@@ -154,7 +154,7 @@ void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
         return;
     }
     m_activating = outer;
-    if (!onBoard)
+    if (!onBoard || !InOnBoard()) // who was told of the key may have changed it
     {
         return;
     }

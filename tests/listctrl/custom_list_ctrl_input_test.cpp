@@ -127,6 +127,32 @@ TEST_F(ListCtrlOnBoard, ShiftAndPagesSelectRanges)
     EXPECT_THAT(Host().CodesFrom(FirstId), testing::Contains(UINT(LVN_KEYDOWN)).Times(2));
 }
 
+TEST_F(ListCtrlOnBoard, AKeyThatLeavesTheModeLeavesTheRowsWhereTheyWere)
+{
+    for (const auto& [key, code] : {std::pair(VK_F11, UINT(LVN_KEYDOWN)),
+                                    {VK_NEXT, UINT(LVN_KEYDOWN)},
+                                    {VK_DOWN, UINT(LVN_ITEMCHANGED)}})
+    {
+        SCOPED_TRACE(key);
+        const ModeScope scope(ONBOARD);
+        auto& list = AddList(100);
+        list.PerformVScroll(20, 0);
+        list.SetItemState(22, 3, 3);
+        Host().hook = [&, code = code](ToldMessage& told) {
+            if (told.code == code && COnBoardUIGeneral::InOnBoardMode())
+            {
+                SetMode(STD, list);
+            }
+        };
+        list.SendMessage(WM_KEYDOWN, WPARAM(key));
+        EXPECT_EQ(list.GetTopIndex(), 20);
+        list.SetFont(&CCustomListCtrl::GetStdFont()); // as a dialog restyles it
+        EXPECT_EQ(list.GetTopIndex(), 20);
+        Host().hook = nullptr;
+        Remove(list);
+    }
+}
+
 TEST_F(ListCtrlOnBoard, APointerThatOnlyRestsOnTheThumbIsNoDrag)
 {
     auto& list = AddList(300, 8);
