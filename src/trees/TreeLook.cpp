@@ -46,6 +46,14 @@ bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
             }
         }
         break;
+    case TVM_SETINDENT:
+    case TVM_SETITEMHEIGHT:
+        if (m_onBoard && !m_following)
+        {
+            result = TakeSize(message, wParam);
+            return true;
+        }
+        break;
     default:
         break;
     }
@@ -65,15 +73,42 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     {
         m_owner.Window().Invalidate(); // every colour is another one
     }
-    if (!alive || message != WM_SETFONT)
+    if (!alive || (message != WM_SETFONT && message != TVM_SETIMAGELIST))
     {
         return;
     }
     m_bold.DeleteObject();
-    if (m_onBoard && !m_following)
+    if (!m_onBoard || m_following)
     {
-        MakeRowsForFinger(); // the host has given it another font
+        return;
     }
+    // The host has given it another font, or pictures: the platform makes a level as wide as those.
+    const int indent = int(m_items.Ask(TVM_GETINDENT));
+    if (indent != std::max(m_standardIndent, metrics::FingerRow))
+    {
+        m_standardIndent = indent;
+        MakeLevelsForFinger();
+    }
+    if (alive)
+    {
+        MakeRowsForFinger();
+    }
+}
+
+// A size that the host sets in an on-board mode: it is that of the standard mode, and the least one
+// in this mode.
+LRESULT TreeLook::TakeSize(UINT message, WPARAM wParam)
+{
+    const LRESULT before = m_items.RowHeight();
+    if (message == TVM_SETINDENT)
+    {
+        m_standardIndent = int(wParam);
+        MakeLevelsForFinger();
+        return 0;
+    }
+    m_standardRow = int(wParam);
+    MakeRowsForFinger();
+    return before;
 }
 
 void TreeLook::Follow()
@@ -125,7 +160,7 @@ void TreeLook::EnterOnBoard()
     m_items.Ask(TVM_SETITEMHEIGHT, WPARAM(-1));
     m_standardRow = height == m_items.RowHeight() ? -1 : height;
     m_items.Ask(WM_SETFONT, WPARAM(CCustomListBox::GetOnBoardFont().GetSafeHandle()), FALSE);
-    m_items.Ask(TVM_SETINDENT, WPARAM(std::max(m_standardIndent, metrics::FingerRow)));
+    MakeLevelsForFinger();
     MakeRowsForFinger();
     m_bars.EnterOnBoard();
 }
@@ -151,11 +186,20 @@ void TreeLook::LeaveOnBoard()
     m_sawStandard = true;
 }
 
+void TreeLook::MakeLevelsForFinger()
+{
+    m_items.Ask(TVM_SETINDENT, WPARAM(std::max(m_standardIndent, metrics::FingerRow)));
+}
+
 void TreeLook::MakeRowsForFinger()
 {
+    const WindowAlive alive(m_owner.Window());
     m_items.Ask(TVM_SETITEMHEIGHT, WPARAM(-1));
-    m_items.Ask(TVM_SETITEMHEIGHT,
-                WPARAM(std::max({metrics::FingerRow, m_items.RowHeight(), m_standardRow})));
+    if (alive)
+    {
+        m_items.Ask(TVM_SETITEMHEIGHT,
+                    WPARAM(std::max({metrics::FingerRow, m_items.RowHeight(), m_standardRow})));
+    }
 }
 
 // Layout ----------------------------------------------------------------------------------------

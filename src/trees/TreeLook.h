@@ -65,6 +65,8 @@ private:
 
     void EnterOnBoard();
     void LeaveOnBoard();
+    LRESULT TakeSize(UINT message, WPARAM wParam);
+    void MakeLevelsForFinger();
     void MakeRowsForFinger();
 
     bool Read(HTREEITEM item, Row& row) const;

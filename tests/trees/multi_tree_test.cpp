@@ -320,4 +320,43 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
     }
 }
 
+TEST_F(MultiTreeTest, WhatAHostSetsOnBoardIsAsIfItHadBeenSetBefore)
+{
+    CImageList small;
+    CImageList large;
+    small.Create(16, 16, ILC_COLOR24, 1, 1);
+    large.Create(64, 64, ILC_COLOR24, 1, 1);
+    const Act<MultiTree&> settings[] = {
+        {"pictures", [&](MultiTree& tree) { tree.SetImageList(&small, TVSIL_NORMAL); }},
+        {"large pictures", [&](MultiTree& tree) { tree.SetImageList(&large, TVSIL_NORMAL); }},
+        {"and no more",
+         [&](MultiTree& tree) {
+             tree.SetImageList(&large, TVSIL_NORMAL);
+             tree.SetImageList(nullptr, TVSIL_NORMAL);
+         }},
+        {"indent", [](MultiTree& tree) { tree.SetIndent(24); }},
+        {"wide indent", [](MultiTree& tree) { tree.SetIndent(80); }},
+        {"height", [](MultiTree& tree) { EXPECT_GE(tree.SetItemHeight(40), 16); }},
+        {"great height", [](MultiTree& tree) { tree.SetItemHeight(100); }},
+        {"and no more", [](MultiTree& tree) { tree.SetItemHeight(40), tree.SetItemHeight(-1); }}};
+    for (const auto& setting : settings)
+    {
+        // Of rows and of a level: on-board, and in the standard mode after that.
+        const auto sizes = [&](bool before) {
+            TreeForTests& tree = AddTree();
+            before ? setting.act(tree) : void();
+            SetMode(ONBOARD, tree);
+            before ? void() : setting.act(tree);
+            EXPECT_GE(tree.GetItemHeight(), 52);
+            std::vector<UINT> found = {UINT(tree.GetItemHeight()), tree.GetIndent()};
+            EXPECT_GE(tree.GetIndent(), 52U);
+            SetMode(STD, tree);
+            found.insert(found.end(), {UINT(tree.GetItemHeight()), tree.GetIndent()});
+            Remove(tree);
+            return found;
+        };
+        EXPECT_EQ(sizes(false), sizes(true)) << setting.name;
+    }
+}
+
 } // namespace
