@@ -21,9 +21,9 @@ template <class Tree, class PlatformBase> class OwnerOf;
 // change by TVN_SELCHANGING and may refuse it, and told afterwards by TVN_SELCHANGED, as with the
 // platform's tree. It may delete items, the tree's window or the tree itself in any of them.
 //
-// In an on-board mode the tree has the library's colours and font, and rows and levels for a finger;
-// it follows mode changes both ways by itself. A height of rows and an indent that the host sets, at
-// any time, are those of the standard mode, and the least ones on-board.
+// In an on-board mode the tree has the library's colours and font, and rows and levels for a
+// finger; it follows mode changes both ways by itself. A height of rows and an indent that the host
+// sets, at any time, are those of the standard mode, and the least ones on-board.
 //
 // Items are the platform's handles; null, and the constants that stand for no item, are nothing to
 // be done. Points and rectangles are in client pixels.
