@@ -124,12 +124,23 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
         break;
     case LVM_SORTITEMS:
     case LVM_SORTITEMSEX:
+    case LVM_SETCOLUMNA:
+    case LVM_SETCOLUMNW:
     case LVM_SETCOLUMNWIDTH:
+    case LVM_SETIMAGELIST: // which makes the rows higher, or less high
     case LVM_SETITEMCOUNT:
     case LVM_DELETECOLUMN:
     case LVM_SETCOLUMNORDERARRAY:
     case LVM_SETEXTENDEDLISTVIEWSTYLE:
         Invalidate(FALSE);
+        break;
+    case WM_STYLECHANGED:
+        if (const auto* const styles = reinterpret_cast<const STYLESTRUCT*>(lParam);
+            styles != nullptr &&
+            ((styles->styleOld ^ styles->styleNew) & ~DWORD(WS_VSCROLL | WS_HSCROLL)) != 0)
+        {
+            Invalidate(FALSE); // the rows stand elsewhere without the headings
+        }
         break;
     default:
         break;

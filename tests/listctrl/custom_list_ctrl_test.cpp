@@ -194,7 +194,11 @@ TEST_F(ListCtrlOnBoard, RowsThatAMessageDoesNotNameArePaintedWhereTheyAreDrawn)
     auto& plain =
         Add<CListCtrl>(CRect(20, 20, 420, 320), ReportStyle | LVS_SINGLESEL | LVS_SORTASCENDING);
     plain.InsertColumn(0, "", LVCFMT_LEFT, 100);
+    plain.InsertColumn(1, "B", LVCFMT_LEFT, 100);
+    plain.InsertColumn(2, "C", LVCFMT_LEFT, 100);
     AddRows(plain, 30);
+    CImageList tall;
+    tall.Create(1, 52, ILC_COLOR24, 1, 1);
     ListForTests list;
     ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
     list.PerformVScroll(10, 0);
@@ -210,7 +214,16 @@ TEST_F(ListCtrlOnBoard, RowsThatAMessageDoesNotNameArePaintedWhereTheyAreDrawn)
          }},
         {"sorted in", [&] { list.InsertItem(30, "Row 20 and more"); }},
         {"and selected so",
-         [&] { list.InsertItem(LVIF_TEXT | LVIF_STATE, 0, "Row 23", 2, 2, 0, 0); }}};
+         [&] { list.InsertItem(LVIF_TEXT | LVIF_STATE, 0, "Row 23", 2, 2, 0, 0); }},
+        {"a column put elsewhere",
+         [&] {
+             LVCOLUMN first = {};
+             first.mask = LVCF_ORDER;
+             list.SetColumn(1, &first);
+         }},
+        {"rows for a finger", [&] { list.SetImageList(&tall, LVSIL_SMALL); }},
+        {"without headings", [&] { list.ModifyStyle(0, LVS_NOCOLUMNHEADER); }},
+        {"and with them", [&] { list.ModifyStyle(LVS_NOCOLUMNHEADER, 0); }}};
     for (const auto& each : acts)
     {
         PumpAll();
