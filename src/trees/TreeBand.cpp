@@ -99,6 +99,7 @@ std::vector<HTREEITEM> TreeSelection::ItemsMeeting(const CRect& rect)
 void TreeSelection::UpdateSelectionForRect(const CRect& rect, UINT flags)
 {
     const WindowAlive alive(Window());
+    const bool multi = m_multi;
     const bool add = (flags & MK_CONTROL) != 0;
     std::unordered_set<HTREEITEM> kept;
     std::vector<HTREEITEM> candidates;
@@ -135,7 +136,7 @@ void TreeSelection::UpdateSelectionForRect(const CRect& rect, UINT flags)
         m_band->met.Set(meeting);
     }
     ChangeEach(candidates, false, true);
-    if (!alive)
+    if (!alive || m_multi != multi)
     {
         return;
     }
@@ -219,7 +220,8 @@ TreeSelection::LoopEnd TreeSelection::RunBand(Band& band, MSG& last)
         }
         ::TranslateMessage(&last);
         ::DispatchMessage(&last);
-        if (!alive || m_band != &band || last.message != WM_MOUSEMOVE || last.hwnd != Handle())
+        if (!alive || m_band != &band || last.message != WM_MOUSEMOVE || last.hwnd != Handle() ||
+            ::GetCapture() != Handle())
         {
             continue;
         }
@@ -250,6 +252,7 @@ void TreeSelection::DoBanding(bool left, UINT flags, CPoint point)
     {
         return;
     }
+    const bool multi = m_multi;
     Band band(*this, flags, point, origin);
     m_band = &band;
     if (!BeginLoop())
@@ -266,7 +269,7 @@ void TreeSelection::DoBanding(bool left, UINT flags, CPoint point)
     TreeLook::InvalidateBand(Handle(), band.rect);
     StopAutoScroll();
     EndLoop();
-    if (!alive)
+    if (!alive || m_multi != multi)
     {
         return;
     }

@@ -55,14 +55,15 @@ private:
     const bool m_active;
 };
 
-// Whether any of them took the change.
+// Whether any of them took the change. The parent may make it a tree of one selection on the way.
 bool TreeSelection::ChangeEach(const std::vector<HTREEITEM>& items, bool select, bool notify)
 {
     const WindowAlive alive(Window());
     const WatchedItems held(m_items, items);
     const BulkChange bulk(*this, items.size());
+    const bool multi = m_multi;
     bool changed = false;
-    for (size_t index = 0; index < held.Size() && alive; ++index)
+    for (size_t index = 0; index < held.Size() && alive && m_multi == multi; ++index)
     {
         if (held[index] != nullptr &&
             SetItemState(held[index], select ? Select : 0, Select, notify))

@@ -58,7 +58,7 @@ void TreeSelection::OnButtonDown(bool left, UINT flags, CPoint point)
     }
     const WatchedItem held(m_items, item);
     DoPreSelection(item, left, flags);
-    if (alive && held.Get() != nullptr)
+    if (alive && m_multi && held.Get() != nullptr)
     {
         DoAction(item, left, flags, point);
     }
@@ -87,8 +87,9 @@ void TreeSelection::DoPreSelection(HTREEITEM given, bool left, UINT flags)
         }
         if (!control && !m_items.IsSelected(item.Get()))
         {
+            const bool multi = m_multi;
             SelectAllIgnore(nullptr, false, item.Get());
-            if (alive)
+            if (alive && m_multi == multi)
             {
                 SetItemState(item.Get(), FocusAndSelect, FocusAndSelect, true);
             }
@@ -259,8 +260,9 @@ void TreeSelection::DoAction(HTREEITEM given, bool left, UINT flags, CPoint poin
         return;
     }
     MSG last = {};
+    const bool multi = m_multi;
     const LoopEnd end = WaitForMove(last);
-    if (!alive || end == LoopEnd::Lost)
+    if (!alive || m_multi != multi || end == LoopEnd::Lost)
     {
         return;
     }
@@ -282,6 +284,7 @@ void TreeSelection::DoAction(HTREEITEM given, bool left, UINT flags, CPoint poin
 void TreeSelection::Click(const WatchedItem& item, UINT flags)
 {
     const WindowAlive alive(Window());
+    const bool multi = m_multi;
     UINT state = FocusAndSelect;
     if ((flags & MK_CONTROL) == 0)
     {
@@ -291,7 +294,7 @@ void TreeSelection::Click(const WatchedItem& item, UINT flags)
     {
         state = TVIS_FOCUSED;
     }
-    if (!alive || item.Get() == nullptr)
+    if (!alive || m_multi != multi || item.Get() == nullptr)
     {
         return;
     }

@@ -63,8 +63,16 @@ void TreeSelection::SetMultiSelect(bool multi)
 {
     if (m_multi && !multi && Handle() != nullptr)
     {
-        // What a plain tree can show: its caret, selected.
         const WindowAlive alive(Window());
+        if (m_inLoop && ::GetCapture() == Handle())
+        {
+            ::ReleaseCapture(); // what is pressed becomes nothing of many
+        }
+        if (!alive)
+        {
+            return;
+        }
+        // What a plain tree can show: its caret, selected.
         const WatchedItem caret(m_items, m_items.Caret());
         SelectAllIgnore(nullptr, false, caret.Get());
         if (!alive)
@@ -231,7 +239,7 @@ int TreeSelection::SetItemState(HTREEITEM given, UINT state, UINT mask, bool not
         if ((mask & Select) != 0)
         {
             const bool selecting = (state & Select) != 0;
-            if (Announce(TVN_SELCHANGING, item.Get(), selecting) != 0 || !alive ||
+            if (Announce(TVN_SELCHANGING, item.Get(), selecting) != 0 || !alive || !m_multi ||
                 item.Get() == nullptr)
             {
                 return FALSE;
