@@ -96,6 +96,7 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
     const WindowAlive alive(*this);
     m_pressPoint = point;
     m_dragged = false;
+    m_farPress = false;
     if (!COnBoardUIGeneral::InOnBoardMode())
     {
         HDHITTESTINFO hit = {};
@@ -250,10 +251,11 @@ void CCustomListCtrlHdr::EndFarPress(int pressed, CPoint point)
     TellNotify(GetSafeHwnd(), told.hdr);
 }
 
-// The one way out of a drag: released, or the capture lost.
+// The one way out of a drag: released, or the capture lost. Also for a far press, without a click.
 void CCustomListCtrlHdr::EndTracking()
 {
     m_tracking = false;
+    m_farPress = false;
     m_pressedItem = -1;
     const HCURSOR cursor = m_oldCursor;
     m_oldCursor = nullptr;

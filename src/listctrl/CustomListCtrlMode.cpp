@@ -47,7 +47,7 @@ void CCustomListCtrl::LeaveOnBoard()
         return;
     }
     m_bars->End();
-    if (m_header.IsHotTracking())
+    if (m_header.IsHotTracking() || m_header.m_farPress)
     {
         m_header.EndTracking();
         if (!alive)

@@ -311,6 +311,19 @@ TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
     const CPoint off = on - CPoint(120, 0);
     Drag(on, off);
     EXPECT_EQ(clicked.size(), 4U);
+    // Nor when the capture is lost, nor is the divider that is pressed next.
+    Press(heading(21, 60));
+    ::ReleaseCapture();
+    DragTo(ClientPoint(list, CPoint(50, 400))); // the header does not see the button go up
+    Release();
+    Click(list.DividerPoint(20, -5));
+    EXPECT_EQ(clicked.size(), 4U);
+    Press(heading(22, 90));
+    ASSERT_EQ(::GetCapture(), list.m_header.GetSafeHwnd());
+    SetMode(STD, list);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    Release();
+    EXPECT_EQ(clicked.size(), 4U);
 }
 
 TEST_F(ListCtrlOnBoard, AListMayEndWhenItsHeaderGivesItAWidth)
