@@ -344,6 +344,7 @@ private:
     void MoveTo(int axis, int position);
     void HomeSideways();
     void EndLabelEdit();
+    void FollowLabelEdit();
     void ShiftPixels(int dy);
     void InvalidateRows(int first, int last);
     void FollowChange(int row, UINT states);

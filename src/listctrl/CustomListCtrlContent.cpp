@@ -252,6 +252,10 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
     {
         m_fittedTo.SetRectEmpty(); // the heading has another width
         RestoreView();
+        if (alive)
+        {
+            FollowLabelEdit();
+        }
     }
 }
 

@@ -90,6 +90,10 @@ void CCustomListCtrl::Bars::LayOut()
     }
     if (alive)
     {
+        m_list.FollowLabelEdit();
+    }
+    if (alive)
+    {
         const UINT erase = InOnBoard() ? 0 : RDW_ERASE;
         m_list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ALLCHILDREN | erase);
     }

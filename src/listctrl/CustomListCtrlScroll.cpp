@@ -5,6 +5,7 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
+#include "modes/LabelEdit.h"
 #include "modes/WindowAlive.h"
 
 // Painting the bars ------------------------------------------------------------------------------
@@ -283,6 +284,28 @@ void CCustomListCtrl::EndLabelEdit()
     if (Ask(LVM_GETEDITCONTROL) != 0)
     {
         SetFocus();
+    }
+}
+
+// The edit of a label stays with its row, which has the focus, when the rows become higher or less
+// high; it ends when the row is not in sight any more.
+void CCustomListCtrl::FollowLabelEdit()
+{
+    const auto edit = HWND(Ask(LVM_GETEDITCONTROL));
+    const int row = edit == nullptr ? -1 : NextRow(-1, LVNI_FOCUSED);
+    CRect label(LVIR_LABEL, 0, 0, 0);
+    const WindowAlive alive(*this);
+    if (edit == nullptr || (row >= 0 && !Ask(LVM_GETITEMRECT, WPARAM(row), LPARAM(&label))))
+    {
+        return;
+    }
+    label.OffsetRect(m_drawOffset);
+    CRect area;
+    GetClientRect(&area);
+    area.top = HeaderBottom();
+    if (alive && !PlaceLabelEdit(edit, label, area, Ask(WM_GETFONT)))
+    {
+        EndLabelEdit();
     }
 }
 

@@ -309,13 +309,21 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
 
 // Presses ---------------------------------------------------------------------------------------
 
+void TreeBars::EndLabelEdit()
+{
+    if (m_owner.Platform(TVM_GETEDITCONTROL, 0, 0) != 0)
+    {
+        Window().SetFocus();
+    }
+}
+
 void TreeBars::Press(WPARAM hitTest, CPoint screen)
 {
     const WindowAlive alive(Window());
     EndPress();
-    if (alive && m_owner.Platform(TVM_GETEDITCONTROL, 0, 0) != 0)
+    if (alive)
     {
-        Window().SetFocus(); // the edit of a label would stay where its item was
+        EndLabelEdit();
     }
     if (!alive)
     {

@@ -2,6 +2,7 @@
 
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
+#include "modes/LabelEdit.h"
 #include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
@@ -95,6 +96,35 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     }
 }
 
+// The item whose label is being edited: the one that the edit lies on.
+HTREEITEM TreeLook::EditedItem() const
+{
+    const auto edit = HWND(m_items.Ask(TVM_GETEDITCONTROL));
+    TVHITTESTINFO hit = {};
+    hit.pt = PlaceIn(m_owner.Window(), edit).CenterPoint();
+    return edit == nullptr ? nullptr
+                           : HTREEITEM(m_items.Ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
+}
+
+// The edit of a label stays with its item when the rows become higher or less high; it ends when
+// the item is not in sight any more.
+void TreeLook::FollowLabelEdit(HTREEITEM edited)
+{
+    const auto edit = HWND(m_items.Ask(TVM_GETEDITCONTROL));
+    if (edit == nullptr)
+    {
+        return;
+    }
+    const WindowAlive alive(m_owner.Window());
+    const CRect label = m_items.Rect(edited, true); // for which the parent may be asked
+    CRect client;
+    m_owner.Window().GetClientRect(&client);
+    if (alive && !PlaceLabelEdit(edit, label, client, m_items.Ask(WM_GETFONT)))
+    {
+        m_bars.EndLabelEdit();
+    }
+}
+
 // A size that the host sets in an on-board mode: it is that of the standard mode, and the least one
 // in this mode.
 LRESULT TreeLook::TakeSize(UINT message, WPARAM wParam)
@@ -120,23 +150,24 @@ void TreeLook::Follow()
         m_sawStandard = true;
     }
     const WindowAlive alive(window);
-    const auto look = [&] {
+    const auto change = [&](void (TreeLook::*layOut)()) {
+        const HTREEITEM item = EditedItem(); // for a text's width the parent may be asked
+        if (!alive)
+        {
+            return;
+        }
+        const WatchedItem edited(m_items, item);
+        (this->*layOut)();
         if (alive)
         {
             m_bold.DeleteObject();
             window.Invalidate();
+            FollowLabelEdit(edited.Get());
         }
     };
     FollowMode(
-        window, m_onBoard, m_following,
-        [&] {
-            EnterOnBoard();
-            look();
-        },
-        [&] {
-            LeaveOnBoard();
-            look();
-        });
+        window, m_onBoard, m_following, [&] { change(&TreeLook::EnterOnBoard); },
+        [&] { change(&TreeLook::LeaveOnBoard); });
 }
 
 void TreeLook::Reset()

@@ -65,6 +65,8 @@ private:
 
     void EnterOnBoard();
     void LeaveOnBoard();
+    HTREEITEM EditedItem() const;
+    void FollowLabelEdit(HTREEITEM edited);
     LRESULT TakeSize(UINT message, WPARAM wParam);
     void MakeLevelsForFinger();
     void MakeRowsForFinger();

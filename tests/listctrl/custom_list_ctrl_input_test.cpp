@@ -41,7 +41,7 @@ TEST_F(ListCtrlOnBoard, AnHeirDecidesWhatPressesAndHoldsDo)
     EXPECT_EQ(list.m_drawOffset.y, 0);
 }
 
-TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowMoves)
+TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
 {
     auto& list = AddList(100, 8, ReportStyle | LVS_EDITLABELS);
     list.SetFocus();
@@ -64,6 +64,25 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowMoves)
         list.PerformVScroll(SB_TOP);
     }
     EXPECT_NE(list.m_drawOffset.x, 0);
+    list.PerformHScroll(SB_LEFT);
+    for (const APPMODE mode : {STD, ONBOARD}) // it goes with its row, or ends out of sight
+    {
+        SetMode(mode, list);
+        for (const int row : {3, list.GetCountPerPage() - 1})
+        {
+            ASSERT_NE(list.EditLabel(row), nullptr);
+            SetMode(mode == STD ? ONBOARD : STD, list);
+            list.SetFont(mode == STD ? &CCustomListCtrl::GetOnBoardFont()
+                                     : &CCustomListCtrl::GetStdFont());
+            const CWnd* const edit = list.GetEditControl();
+            EXPECT_TRUE(mode != STD || (edit != nullptr) == (row == 3)) << row;
+            const CRect label = ItemRectOf(list, row);
+            EXPECT_TRUE(edit == nullptr || label.PtInRect(PlaceIn(list, *edit).CenterPoint()))
+                << row;
+            list.SendMessage(LVM_CANCELEDITLABEL);
+            SetMode(mode, list);
+        }
+    }
 }
 
 // Keys -------------------------------------------------------------------------------------------

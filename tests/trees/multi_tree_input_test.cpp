@@ -450,7 +450,7 @@ TEST_F(MultiTreeInputTest, NoTimerGoesOnWhenAStepOfABarChangesTheMode)
     Release();
 }
 
-TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressed)
+TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheMode)
 {
     auto& tree = AddLongTree();
     tree.ModifyStyle(0, TVS_EDITLABELS);
@@ -460,6 +460,22 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressed)
     Click(WindowPoint(tree, CPoint(200 - 26, 200 - 52 - 10)));
     EXPECT_EQ(tree.GetEditControl(), nullptr);
     EXPECT_EQ(tree.GetFirstVisibleItem(), m_items[1]);
+    tree.SelectSetFirstVisible(m_items[0]);
+    for (const APPMODE other : {STD, ONBOARD}) // it goes with its item, or ends out of sight
+    {
+        SetMode(other == STD ? ONBOARD : STD, tree);
+        for (const size_t item : {size_t(1), size_t(tree.GetVisibleCount()) - 1})
+        {
+            ASSERT_NE(tree.EditLabel(m_items[item]), nullptr);
+            SetMode(other, tree);
+            const CWnd* const edit = tree.GetEditControl();
+            EXPECT_TRUE(other == STD || (edit != nullptr) == (item == 1)) << item;
+            const CRect label = TextRectOf(tree, m_items[item]);
+            EXPECT_TRUE(edit == nullptr || label.PtInRect(PlaceIn(tree, *edit).CenterPoint()));
+            tree.SendMessage(TVM_ENDEDITLABELNOW, TRUE);
+            SetMode(other == STD ? ONBOARD : STD, tree);
+        }
+    }
 }
 
 } // namespace
