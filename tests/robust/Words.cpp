@@ -376,12 +376,3 @@ int TicksWithin(int milliseconds)
     ::UnhookWindowsHookEx(hook);
     return s_count;
 }
-
-void ForgetClipboard()
-{
-    if (::OpenClipboard(nullptr))
-    {
-        ::EmptyClipboard();
-        ::CloseClipboard();
-    }
-}

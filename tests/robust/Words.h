@@ -127,6 +127,3 @@ constexpr UINT TimerIds[] = {101, 102, 103, 104, 105, 106, 1011, 1189, 1190, 127
 int EndTimers();
 // How many ticks of any timer come within so many milliseconds.
 int TicksWithin(int milliseconds);
-
-// A press of the middle button pastes in an edit of a later test what one of these has cut.
-void ForgetClipboard();

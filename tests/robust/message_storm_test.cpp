@@ -27,6 +27,7 @@ protected:
         const int objects = GraphicsObjects();
         Storm storm(subject, seed);
         storm.Blow(Host(), *window, Messages);
+        EXPECT_GE(storm.Sent(), Messages) << "its window went\n" << storm.Log();
 
         ReleaseAll(*window, storm);
         if (seed % PressesEach == 0)
@@ -37,7 +38,6 @@ protected:
         window.reset();
         PumpAll();
         EXPECT_EQ(Watch::Faults(), faults);
-        ForgetClipboard();
         // A first use keeps some; what is lost message after message comes to hundreds.
         EXPECT_LT(GraphicsObjects() - objects, 100) << storm.Log();
         return storm.Sent();

@@ -197,7 +197,7 @@ void CALLBACK PlayStep(HWND, UINT, UINT_PTR timer, DWORD)
 
 void PlaySteps(std::vector<std::function<void()>> steps)
 {
-    constexpr int Bound = 10'000; // milliseconds
+    constexpr int Bound = 60'000; // milliseconds, with the waits in steps
     stepsToPlay = std::move(steps);
     nextStep = 0;
     const UINT_PTR timer = ::SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &PlayStep);
@@ -231,6 +231,15 @@ void TypeKey(UINT key, UINT held)
         SendKey(held, KEYEVENTF_KEYUP);
     }
     PumpAll();
+}
+
+void ForgetClipboard()
+{
+    if (::OpenClipboard(nullptr))
+    {
+        ::EmptyClipboard();
+        ::CloseClipboard();
+    }
 }
 
 void TypeText(const char* text)

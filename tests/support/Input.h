@@ -55,3 +55,5 @@ void PlaySteps(std::vector<std::function<void()>> steps);
 
 void TypeKey(UINT key, UINT held = 0); // with another one held down
 void TypeText(const char* text);
+// What one has cut or copied, a key or a press of the middle button would paste in the next test.
+void ForgetClipboard();

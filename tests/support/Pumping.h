@@ -10,7 +10,8 @@
 void PumpAll();
 
 // Until condition() holds, which is asked again after each message and each 10 ms. Its last answer.
-bool PumpUntil(const std::function<bool()>& condition, int boundMs = 2000);
+// The bound is for a busy machine.
+bool PumpUntil(const std::function<bool()>& condition, int boundMs = 10'000);
 
 // For so long by the clock, for what must not happen in that time and for timers.
 void PumpFor(int milliseconds);

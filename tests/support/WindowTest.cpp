@@ -16,6 +16,7 @@ void WindowTest::SetUp()
 {
     m_host = std::make_unique<HostWindow>();
     RestPointer();
+    ForgetClipboard();
 }
 
 void WindowTest::TearDown()
