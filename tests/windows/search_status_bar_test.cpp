@@ -1,10 +1,5 @@
 #include "SearchStatusBar.h"
-#include "support/Accessible.h"
-#include "support/Acting.h"
-#include "support/Fenced.h"
 #include "support/WindowTest.h"
-
-#include <tuple>
 
 namespace {
 
@@ -12,17 +7,12 @@ namespace {
 class Bar : public CSearchStatusBar
 {
 public:
-    bool ended = false; // by its next painting
     std::vector<int> timersAtPainting;
 
     void DrawOB(CDC& dc) override
     {
         timersAtPainting.push_back(m_activeTimer);
         CSearchStatusBar::DrawOB(dc);
-        if (ended)
-        {
-            DestroyWindow();
-        }
     }
 
     using CSearchStatusBar::m_activeTimer;
@@ -40,7 +30,8 @@ TEST_F(SearchStatusBarTest, ASearchGainsADotEachSecond)
     const DWORD start = ::GetTickCount();
     bar.StartSearchProgress();
     ASSERT_TRUE(PumpUntil([&] { return bar.Text() == "Searching. ."; }));
-    EXPECT_NEAR(double(::GetTickCount() - start), 1350, 450);
+    EXPECT_GE(::GetTickCount() - start, 900U);
+    EXPECT_EQ(bar.m_period, 1000U);
 }
 
 TEST_F(SearchStatusBarTest, TheDotsBeginAgainAfterFiveAndGoOnWithTheNextSearch)
@@ -92,203 +83,10 @@ TEST_F(SearchStatusBarTest, LoadingStandsStillAndLetsNoSearchBegin)
     bar.StartSearchProgress();
     bar.StartLoadingProgress();
     EXPECT_EQ(bar.Text(), "Searching.");
-}
-
-class StatusBarTest : public WindowTest
-{
-protected:
-    CCustomStatusBar& AddBar(std::vector<int> edges)
-    {
-        auto& bar = Add<Fenced<CCustomStatusBar>>(CRect(0, 0, 0, 0));
-        bar.SetParts(int(edges.size()), edges.data());
-        return bar;
-    }
-    static Pixels Painted(CWnd& bar)
-    {
-        bar.Invalidate();
-        return Settled(bar);
-    }
-};
-
-TEST_F(StatusBarTest, OnBoardItIsDarkAndHighEnoughAndTheStandardLookComesBack)
-{
-    auto& bar = AddBar({150, 300, -1});
-    bar.SetText("Left", 0, 0);
-    bar.SetText("\tMiddle", 1, 0);
-    bar.SetText("\t\tRight", 2, 0);
-    const Pixels standard = Painted(bar);
-    {
-        const ModeScope scope(EFB);
-        const Pixels dark = Painted(bar);
-        const CRect client = ClientRectOf(bar);
-        EXPECT_GE(client.Height(), 27 + 4);
-        EXPECT_EQ(WindowRectOf(bar).bottom, WindowRectOf(Host()).bottom);
-        EXPECT_GT(dark.Count(RGB(50, 50, 50)), client.Width() * client.Height() * 8 / 10);
-        // From, to and whether there are letters.
-        const std::tuple<int, int, bool> areas[] = {{0, 75, true},
-                                                    {75, 150, false},
-                                                    {190, 260, true},
-                                                    {310, client.right - 100, false},
-                                                    {client.right - 80, client.right, true}};
-        for (const auto& [from, to, inked] : areas)
-        {
-            const int letters = dark.Count(RGB(230, 230, 230), CRect(from, 0, to, client.bottom));
-            EXPECT_TRUE(inked ? letters > 20 : letters == 0) << from;
-        }
-    }
-    EXPECT_TRUE(Painted(bar) == standard);
-}
-
-TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryModeAndMayDeleteTheBarThere)
-{
-    const AccessFaults faults;
-    auto& bar = AddBar({50, 200, -1});
-    bar.SetText("Other", 1, 0);
-    int drawn = 0;
-    bool ends = false;
-    Host().AlsoRecord({WM_DRAWITEM});
-    Host().hook = [&](ToldMessage& told) {
-        if (told.message != WM_DRAWITEM)
-        {
-            return;
-        }
-        const auto* const item = reinterpret_cast<const DRAWITEMSTRUCT*>(told.lParam);
-        EXPECT_EQ(item->itemData, 77U);
-        ++drawn;
-        // What it leaves behind shows nowhere else.
-        ::SetTextColor(item->hDC, RGB(255, 0, 0));
-        ::IntersectClipRect(item->hDC, 0, 0, 1, 1);
-        if (ends)
-        {
-            Remove(bar);
-        }
-    };
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        COnBoardUIGeneral::SetAppMode(mode);
-        bar.SendMessage(SB_SETTEXT, SBT_OWNERDRAW, 77);
-        drawn = 0;
-        const Pixels seen = Painted(bar);
-        EXPECT_GT(drawn, 0) << mode;
-        EXPECT_EQ(seen.Count(RGB(230, 230, 230)) > 20, mode != STD) << "of the other pane";
-    }
-    ends = true;
-    drawn = 0;
-    bar.Invalidate();
     PumpAll();
-    EXPECT_EQ(drawn, 1);
-    EXPECT_EQ(faults.Count(), 0);
-}
-
-TEST_F(StatusBarTest, TheNextBarOfAnObjectHasAFontAndTimersOfItsOwn)
-{
-    Bar object;
-    for (const int points : {120, 140})
-    {
-        CFont font;
-        font.CreatePointFont(points, "Arial");
-        auto& bar = Add<CStatusBarCtrl>(CRect(0, 0, 0, 0));
-        bar.SetFont(&font);
-        object.UnsubclassWindow();
-        ASSERT_TRUE(object.SubclassWindow(bar.Detach()));
-        for (const APPMODE mode : {ONBOARD, STD, EFB})
-        {
-            COnBoardUIGeneral::SetAppMode(mode);
-            Painted(object);
-            EXPECT_EQ(object.GetFont(), mode == STD ? &font : &CCustomStatusBar::GetOnBoardFont());
-        }
-        object.StartSearchProgress();
-        EXPECT_EQ(object.Text(), "Searching.");
-    }
-}
-
-TEST_F(StatusBarTest, ItsSimpleFormShowsAndTellsItsTextInEveryMode)
-{
-    auto& bar = AddBar({50, -1});
-    bar.SetText("Pane", 0, 0);
-    bar.SetText("\tOpens a chart", 255, 0);
-    bar.SetSimple();
-    for (const APPMODE mode : {STD, EFB})
-    {
-        COnBoardUIGeneral::SetAppMode(mode);
-        EXPECT_EQ(Read(*Reached(bar), CHILDID_SELF).value, "Opens a chart");
-    }
-    const CRect client = ClientRectOf(bar);
-    const CRect middle(client.CenterPoint() - CSize(90, 12), CSize(180, 24));
-    EXPECT_GT(Painted(bar).Count(RGB(230, 230, 230), middle), 200);
-}
-
-TEST_F(StatusBarTest, AnOwnerThatPlacesItGetsItsPanesWhereTheyAre)
-{
-    const ModeScope scope(ONBOARD);
-    auto& bar = Add<CCustomStatusBar>(CRect(0, 0, 0, 0), CCS_NORESIZE | CCS_NOPARENTALIGN);
-    std::vector<int> edges = {100, -1};
-    bar.SetParts(2, edges.data());
-    bar.MoveWindow(CRect(0, 0, 300, 34));
-    PumpAll();
-    bar.SetText("First", 0, 0);
-    bar.SetText("\t\tLast", 1, 0);
-    const auto letters = [&](int from, int to) {
-        return Settled(bar).Count(RGB(230, 230, 230), CRect(from, 0, to, 34));
-    };
-    EXPECT_GT(letters(0, 100), 100);
-    EXPECT_GT(letters(230, 300), 100) << "the last ends where the bar does";
-    bar.MoveWindow(CRect(0, 0, 400, 34));
-    EXPECT_EQ(letters(230, 300), 0) << "and goes there with it";
-    EXPECT_GT(letters(330, 400), 100);
-    bar.SetWindowText(""); // the first pane's
-    EXPECT_EQ(letters(0, 100), 0);
-    for (const bool simple : {false, true}) // whose one place is every pane's
-    {
-        bar.SetSimple(simple);
-        CRect last;
-        ASSERT_TRUE(bar.GetRect(1, &last)) << simple; // for what the host puts there
-        EXPECT_EQ(last.BottomRight(), CPoint(400, 34));
-        EXPECT_EQ(last.left < 100, simple);
-        EXPECT_FALSE(bar.GetRect(2, &last));
-    }
-}
-
-TEST_F(StatusBarTest, ItMayGoWhenItIsAskedForWhatItShows)
-{
-    const AccessFaults faults;
-    const auto expectGone = [&](UINT asked, auto show) {
-        auto* bar = new Fenced<Acting<CCustomStatusBar>>;
-        ASSERT_TRUE(bar->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
-        bar->ActIn(asked, [&] { delete std::exchange(bar, nullptr); });
-        show(*bar);
-        PumpAll();
-        EXPECT_EQ(bar, nullptr) << asked;
-        EXPECT_EQ(faults.Count(), 0) << asked;
-        delete bar;
-    };
-    for (const int asked : {WM_GETFONT, SB_ISSIMPLE, SB_GETBORDERS, SB_GETPARTS, SB_GETTEXTLENGTH})
-    {
-        const ModeScope scope(STD);
-        expectGone(UINT(asked), [](CWnd& bar) { SetMode(ONBOARD, bar); });
-    }
-    for (const int asked : {SB_ISSIMPLE, SB_GETPARTS, SB_GETTEXTLENGTH, SB_GETTEXT})
-    {
-        expectGone(UINT(asked), [](CWnd& bar) { const Read read(*Reached(bar), CHILDID_SELF); });
-    }
-}
-
-TEST_F(StatusBarTest, AFontThatComesOnBoardIsThatOfTheStandardMode)
-{
-    auto& bar = AddBar({-1});
-    CFont font;
-    ASSERT_TRUE(font.CreatePointFont(120, "Arial"));
-    {
-        const ModeScope scope(ONBOARD);
-        Painted(bar);
-        const int height = ClientRectOf(bar).Height();
-        bar.SetFont(&font);
-        PumpAll();
-        EXPECT_EQ(ClientRectOf(bar).Height(), height);
-        EXPECT_NE(bar.SendMessage(WM_GETFONT), LRESULT(font.GetSafeHandle()));
-    }
-    Painted(bar);
-    EXPECT_EQ(bar.SendMessage(WM_GETFONT), LRESULT(font.GetSafeHandle()));
+    bar.timersAtPainting.clear();
+    bar.SendMessage(WM_TIMER, 1189);
+    EXPECT_FALSE(bar.timersAtPainting.empty()) << "a dot shows at once";
 }
 
 } // namespace
