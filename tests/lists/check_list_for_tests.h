@@ -61,10 +61,11 @@ protected:
         return Host().CodesFrom(UINT(list.GetDlgCtrlID()));
     }
 
-    // How many changes of a check a list has told since the last Forget.
+    // How many changes of a check a list has told since the last Forget, by the number that hosts
+    // are compiled with.
     int Told(const CWnd& list)
     {
         const std::vector<UINT> codes = Codes(list);
-        return int(std::count(codes.begin(), codes.end(), UINT(CLBN_CHKCHANGE)));
+        return int(std::count(codes.begin(), codes.end(), 40U));
     }
 };

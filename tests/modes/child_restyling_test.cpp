@@ -121,9 +121,7 @@ TEST_F(ChildRestylingTest, PlacesScaleAndAreTruncated)
 {
     CWnd& child = AddPlain("STATIC", CRect(0, 0, 1, 1));
     const std::tuple<CRect, double, CRect> cases[] = {
-        {CRect(CPoint(10, 20), CSize(100, 30)), Enlarging, CRect(CPoint(22, 34), CSize(224, 51))},
         {CRect(CPoint(22, 34), CSize(224, 51)), Reducing, CRect(CPoint(9, 20), CSize(99, 30))},
-        {CRect(CPoint(10, 20), CSize(100, 30)), 1.0, CRect(CPoint(7, 20), CSize(75, 30))},
         {CRect(CPoint(-10, -20), CSize(7, 3)), Enlarging, CRect(CPoint(-22, -34), CSize(15, 5))},
         {CRect(CPoint(-10, -20), CSize(7, 3)), Reducing, CRect(CPoint(-4, -11), CSize(3, 1))},
     };

@@ -170,7 +170,7 @@ TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
     PressScript(PointOf(tree, d)).Do([] { TypeKey(VK_ESCAPE); }).Release();
     PressScript(PointOf(tree, e)).Do([&] { Host().SetCapture(); }).Release();
     ::ReleaseCapture();
-    EXPECT_EQ(CountOf(int(NM_CLICK)), 0);
+    EXPECT_EQ(CountOf(int(NM_CLICK)) + CountOf(int(TVN_BEGINDRAG)), 0);
 
     // The item goes between press and release; the click is told without it.
     Host().hook = [&](ToldMessage& told) {
@@ -374,23 +374,27 @@ TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
     tree.SetBandingHit(true); // rows, which reach as far as the band does
     const CRect client = ClientRectOf(tree);
     const CPoint start = EmptyBeside(tree, m_items[3], 30);
+    const MessageLog log(tree, {WM_TIMER});
     PressScript(start)
         .Move(start + CPoint(-10, 10))
         .Move(ClientPoint(tree, client.BottomRight() - CPoint(4, 4)))
         .Do([&] {
-            PumpFor(400);
-            EXPECT_NE(tree.GetFirstVisibleItem(), m_items[0]) << "the lower edge scrolls down";
-            EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0) << "and the right edge to the right";
-            EXPECT_GT(tree.GetSelectedCount(), 10U) << "items out of sight belong to the band";
+            // The lower edge scrolls down and the right edge to the right; items out of sight
+            // belong to the band.
+            EXPECT_TRUE(PumpUntil([&] {
+                return tree.GetFirstVisibleItem() != m_items[0] && tree.GetScrollPos(SB_HORZ) > 0 &&
+                       tree.GetSelectedCount() > 10U;
+            }));
         })
         .Move(ClientPoint(tree, CPoint(4, 4)))
         .Do([&] {
-            PumpFor(1200);
-            EXPECT_EQ(tree.GetFirstVisibleItem(), m_items[0]) << "the upper edge scrolls up again";
-            EXPECT_EQ(tree.GetScrollPos(SB_HORZ), 0);
+            EXPECT_TRUE(PumpUntil([&] {
+                return tree.GetFirstVisibleItem() == m_items[0] && tree.GetScrollPos(SB_HORZ) == 0;
+            })) << "and back again";
         })
         .Release();
     EXPECT_EQ(SelectedTexts(tree), "abcd") << "from the press up to the first item";
+    EXPECT_GT(std::ranges::count(log.WParams(WM_TIMER), 1011U), 2);
     EXPECT_EQ(tree.GetAutoScrollDirection(CPoint(10, 5)), 0) << "there is no more above";
 }
 
@@ -445,6 +449,7 @@ TEST_F(MultiTreeInputTest, NoTimerGoesOnWhenAStepOfABarChangesTheMode)
     const MessageLog log(tree, {WM_TIMER});
     tree.ActIn(WM_VSCROLL, [&] { SetMode(STD, tree); });
     Press(WindowPoint(tree, CPoint(200 - 26, 200 - 52 - 10)));
+    EXPECT_FALSE(COnBoardUIGeneral::InOnBoardMode()) << "the press was a step";
     PumpFor(400);
     EXPECT_EQ(log.Count(WM_TIMER), 0);
     Release();

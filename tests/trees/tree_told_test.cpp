@@ -148,6 +148,7 @@ TEST_F(TreeToldTest, SurvivesAParentThatIsToldOfStates)
                 operate();
                 Host().hook = nullptr;
                 came = count > which;
+                EXPECT_TRUE(came || which > 0) << "it tells nothing";
                 PumpAll();
                 EXPECT_EQ(faults.Count(), 0);
                 if (alive)

@@ -54,8 +54,8 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
         EXPECT_EQ(box.PlaceOfButton(box.m_buttons.size() - 1), last + down);
         EXPECT_NE(box.GetExStyle() & WS_EX_TOPMOST, 0U);
         const CPoint middle = WindowRectOf(box).CenterPoint();
-        EXPECT_NEAR(middle.x, 640, 1) << "of the screen";
-        EXPECT_NEAR(middle.y, 512, 1);
+        EXPECT_NEAR(middle.x, ::GetSystemMetrics(SM_CXSCREEN) / 2, 1);
+        EXPECT_NEAR(middle.y, ::GetSystemMetrics(SM_CYSCREEN) / 2, 1);
     }
 }
 
