@@ -393,7 +393,12 @@ template <template <class> class As> struct Makers
             void OnCancel() override {}
         };
         auto box = std::make_unique<As<Stays>>(contents);
-        return box->Create(CZepMsgBoxDlg::IDD, &parent) ? std::move(box) : nullptr;
+        if (!box->Create(CZepMsgBoxDlg::IDD, &parent))
+        {
+            return nullptr;
+        }
+        box->ShowWindow(SW_SHOW); // which else its modal loop does
+        return box;
     }
 
     static Made MakeDialog(CWnd& parent, const Contents& contents)

@@ -164,6 +164,7 @@ protected:
         const std::string title =
             subject.name + (" in mode " + std::to_string(int(mode))) + ", " + what;
         EXPECT_TRUE(Give(subject, mode, title, {}, act, making)) << title;
+        EXPECT_TRUE(!m_heard.empty() || (mode == STD && !making)) << title << ": nothing is heard";
         for (const Heard& word : std::exchange(m_heard, {}))
         {
             char end[60] = "";
@@ -185,7 +186,8 @@ TEST_F(OwnDeath, WhileItIsMadeDoesNoHarm)
     {
         for (const APPMODE mode : {STD, EFB})
         {
-            GiveAll(subject, mode, "made", [](HWND) {}, true);
+            GiveAll(
+                subject, mode, "made", [](HWND) {}, true);
         }
     }
 }
