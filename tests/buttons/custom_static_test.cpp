@@ -4,6 +4,8 @@
 #include "ColorStatic.h"
 #include "ColoredGroupBox.h"
 #include "CustomDialog.h"
+#include "CustomFormView.h"
+#include "CustomPropPage.h"
 #include "CustomStatic.h"
 #include "buttons/buttons_for_tests.h"
 #include "catalog/DialogTemplate.h"
@@ -13,6 +15,8 @@ namespace {
 constexpr COLORREF Panel = RGB(50, 50, 50);
 constexpr COLORREF Frame = RGB(60, 60, 60);
 constexpr COLORREF Text = RGB(230, 230, 230);
+
+using StaticOnBoard = OnBoard<WindowTest>;
 
 struct GroupBox : CCustomStatic
 {
@@ -25,7 +29,7 @@ struct GroupBox : CCustomStatic
 
 } // namespace
 
-TEST_F(ButtonOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
+TEST_F(StaticOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
 {
     GroupBox box(Host(), CRect(20, 20, 220, 120), "HH");
     const Pixels seen = WindowPixels(box);
@@ -63,7 +67,7 @@ TEST_F(ButtonOnBoard, AGroupBoxHasAFrameThatItsCaptionCuts)
     }
 }
 
-TEST_F(ButtonOnBoard, ADisabledGroupBoxLooksAsBefore)
+TEST_F(StaticOnBoard, ADisabledGroupBoxLooksAsBefore)
 {
     GroupBox box(Host(), CRect(20, 20, 220, 120), "Group");
     auto& frame = Add<CCustomStatic>(CRect(20, 220, 220, 320), SS_BLACKFRAME | SS_NOTIFY, "Group");
@@ -81,7 +85,7 @@ TEST_F(ButtonOnBoard, ADisabledGroupBoxLooksAsBefore)
     EXPECT_EQ(Host().Count(WM_COMMAND), 2) << "a button's group box tells nothing";
 }
 
-TEST_F(ButtonOnBoard, AClientEdgeBecomesABorderOfThreePixels)
+TEST_F(StaticOnBoard, AClientEdgeBecomesABorderOfThreePixels)
 {
     auto& label = Add<CCustomStatic>(CRect(20, 20, 120, 60));
     label.ModifyStyleEx(0, WS_EX_CLIENTEDGE);
@@ -95,7 +99,7 @@ TEST_F(ButtonOnBoard, AClientEdgeBecomesABorderOfThreePixels)
     }
 }
 
-TEST_F(ButtonOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
+TEST_F(StaticOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
 {
     CCustomDialog dialog(0U, nullptr);
     ASSERT_TRUE(dialog.CreateIndirect(DialogTemplate(CRect(0, 0, 200, 100), WS_POPUP | WS_VISIBLE),
@@ -119,6 +123,24 @@ TEST_F(ButtonOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
     EXPECT_EQ(seen.Count(Canvas::Untouched, CRect(20, 30, 50, 60)), 900);
     EXPECT_EQ(seen.Count(Canvas::Untouched, CRect(180, 30, 200, 60)), 600) << "reaches out of it";
     EXPECT_EQ(seen.Count(Panel), 200 * 100 - 1500) << "what is hidden is painted over";
+
+    // The same on a page and on a form.
+    struct Form : CCustomFormView
+    {
+        Form()
+            : CCustomFormView(1U)
+        {}
+    };
+    const auto expectAlike = [&](auto&& parent) {
+        ASSERT_TRUE(parent.CWnd::CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE,
+                                          CRect(0, 0, 300, 200), &dialog, 9));
+        parent.GetControls() = dialog.GetControls();
+        box.SetParent(&parent);
+        EXPECT_EQ(erased(), seen);
+        box.SetParent(&dialog);
+    };
+    expectAlike(CCustomPropPage(1U));
+    expectAlike(Form());
 
     // On the screen, the box being painted last.
     PumpAll();

@@ -324,4 +324,18 @@ TEST_F(ButtonOnBoard, AChangeOfTheFocusCuesDrawsAtOnce)
         button->SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
         EXPECT_TRUE(WindowPixels(*button) == before);
     }
+    // In the standard mode it goes no further than to a radio button.
+    struct Radio : TestRadio
+    {
+        int passed = 0;
+        LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            passed += message == WM_UPDATEUISTATE;
+            return TestRadio::DefWindowProc(message, wParam, lParam);
+        }
+    };
+    COnBoardUIGeneral::SetAppMode(STD);
+    auto& radio = Add<Radio>(ButtonPlace, 0, "R");
+    radio.SendMessage(WM_UPDATEUISTATE, MAKEWPARAM(UIS_SET, UISF_HIDEFOCUS));
+    EXPECT_EQ(radio.passed, 0);
 }

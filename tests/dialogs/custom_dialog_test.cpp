@@ -53,8 +53,10 @@ TEST_F(CustomDialogTest, TheFlightBagIsToldOfModalDialogsInItsModes)
                                                                   {ONBOARD, EFB, untold},
                                                                   {EFB, STD, told},
                                                                   {EFBFS, EFBFS, told}};
+    DialogForTests parent(form, Host());
+    const DialogForTests modeless(form, parent);
     DialogForTests dialog; // an object can run more than once
-    dialog.InitModalIndirect(form, &Host());
+    dialog.InitModalIndirect(form, &parent);
     dialog.inInit = [&] { journal.push_back("init"); };
     for (const auto& [before, meanwhile, expected] : cases)
     {
@@ -62,13 +64,13 @@ TEST_F(CustomDialogTest, TheFlightBagIsToldOfModalDialogsInItsModes)
         journal.clear();
         dialog.inLoop = [&, mode = meanwhile] {
             journal.push_back("shown");
-            EXPECT_TRUE(dialog.IsModal());
+            EXPECT_TRUE(dialog.IsModal() && parent.HasModalChild() && !dialog.HasModalChild());
             COnBoardUIGeneral::SetAppMode(mode);
             dialog.EndDialog(7);
         };
         EXPECT_EQ(dialog.DoModal(), 7);
         EXPECT_EQ(journal, expected) << APPMODE_NAMES[before];
-        EXPECT_FALSE(dialog.IsModal());
+        EXPECT_FALSE(dialog.IsModal() || parent.HasModalChild());
     }
     COnBoardUIGeneral::SetAppMode(EFBFS);
     journal.clear();

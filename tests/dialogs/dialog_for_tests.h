@@ -42,6 +42,15 @@ public:
         return result;
     }
 
+    // As it finds out itself.
+    bool HasModalChild()
+    {
+        const WNDENUMPROC check = &CCustomDialog::CheckForChildDialog;
+        m_hasModalChild = false;
+        ::EnumThreadWindows(::GetCurrentThreadId(), check, reinterpret_cast<LPARAM>(this));
+        return m_hasModalChild;
+    }
+
     using CCustomDialog::BuildListOfControls;
     using CCustomDialog::m_captionHeight;
     using CCustomDialog::m_centredTitle;

@@ -173,4 +173,19 @@ TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidthAndKnowsOfEscape)
         EXPECT_EQ(edit.EscapePressed(), key == VK_ESCAPE);
     }
     EXPECT_EQ(TextOf(edit), "v") << "without Ctrl";
+    // With it, before any accelerator takes the key: what is selected, the key and the text then.
+    BYTE keys[256] = {};
+    keys[VK_CONTROL] = 0x80;
+    edit.SetWindowText("ab");
+    ::SetKeyboardState(keys);
+    for (const auto& [from, to, key, text] :
+         {std::tuple(0, 1, 'C', "ab"), {2, 2, 'V', "aba"}, {0, 1, 'X', "ba"}, {0, 0, 'Z', "aba"}})
+    {
+        edit.SetSel(from, to);
+        MSG pressed = {edit, WM_KEYDOWN, WPARAM(key), 1, 0, {}};
+        edit.PreTranslateMessage(&pressed);
+        EXPECT_EQ(TextOf(edit), text) << key;
+    }
+    keys[VK_CONTROL] = 0;
+    ::SetKeyboardState(keys);
 }

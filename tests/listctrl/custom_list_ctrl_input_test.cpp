@@ -185,6 +185,13 @@ TEST_F(ListCtrlOnBoard, APointerThatOnlyRestsOnTheThumbIsNoDrag)
     Press(list.PartPoint(Thumb));
     list.SendMessage(WM_VSCROLL, SB_LINEDOWN);
     EXPECT_EQ(list.TopRow(), 1) << "a held one is where the user has it";
+    CPoint away = list.PartPoint(Thumb) + CPoint(0, 60);
+    list.ScreenToClient(&away);
+    for (const UINT held : {MK_LBUTTON | MK_SHIFT, MK_LBUTTON | MK_CONTROL, MK_LBUTTON})
+    {
+        list.SendMessage(WM_MOUSEMOVE, held, MAKELPARAM(away.x, away.y));
+        EXPECT_EQ(list.TopRow() == 1, held != MK_LBUTTON) << held;
+    }
     Release();
 }
 

@@ -111,6 +111,9 @@ public:
     void ExpectInStep(const char* when)
     {
         SCOPED_TRACE(when);
+        EXPECT_EQ(static_cast<void*>(GetScrollBarCtrl(SB_VERT)), &m_vBar);
+        EXPECT_EQ(static_cast<void*>(GetScrollBarCtrl(SB_HORZ)), &m_hBar);
+        EXPECT_EQ(GetScrollBarCtrl(SB_CTL), nullptr);
         EXPECT_EQ(GetTopIndex(), 0);
         EXPECT_EQ(m_drawOffset, CPoint(-m_hBar.GetScrollPos() * m_scrollUnit.cx,
                                        -m_vBar.GetScrollPos() * RowHeight()));
@@ -130,6 +133,7 @@ public:
         if (m_hBar.ShowScrollBar())
         {
             EXPECT_EQ(RangeOf(m_hBar).y, (last.right - client.right) / (client.right / 10) + 2);
+            EXPECT_EQ(m_hBar.GetPageSize(), client.right * RangeOf(m_hBar).y / last.right);
         }
         // The frame is three pixels less wide than that of a sizeable window, by the metrics of the
         // other direction; the edge lies within it.

@@ -190,6 +190,17 @@ TEST_F(AppModeTest, WindowsAndChangesThatComeDuringAChangeHaveTheirTurn)
     EXPECT_EQ(journal, (Journal{"view", "a", "b", "new"}));
 }
 
+TEST_F(AppModeTest, AWindowThatIsRegisteredTwiceIsToldTwiceUntilOneIsTakenAway)
+{
+    const auto dialog = Make<Dialog>("dialog");
+    COnBoardUIGeneral::AddCustomDialog(&dialog->window);
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    COnBoardUIGeneral::RemoveCustomDialog(&dialog->window);
+    journal.push_back("removed");
+    COnBoardUIGeneral::SetAppMode(EFB);
+    EXPECT_EQ(journal, (Journal{"dialog", "dialog", "removed", "dialog"}));
+}
+
 TEST_F(AppModeTest, TheStandardFontsFollowTheScreensResolution)
 {
     for (const auto& [dotsPerInch, height] : {std::pair(96, 83), {120, 67}, {144, 56}, {0, -11}})
@@ -197,8 +208,7 @@ TEST_F(AppModeTest, TheStandardFontsFollowTheScreensResolution)
         EXPECT_EQ(StandardFontHeight(dotsPerInch, -11), height);
     }
     COnBoardUIGeneral::SetStdModeGoals();
-    EXPECT_EQ(COnBoardUIGeneral::GetStdCtrllfHeight(),
-              StandardFontHeight(CClientDC(nullptr).GetDeviceCaps(LOGPIXELSY), 0));
+    EXPECT_EQ(COnBoardUIGeneral::GetStdCtrllfHeight(), 83) << "at 96 dots per inch";
 }
 
 } // namespace

@@ -141,6 +141,21 @@ TEST(FauxNcButton, PaintsGlyphAndBorderInTheStandardModeOnly)
     button.SetShow(0);
     EXPECT_EQ(Painted(button, !Pressed, Enabled, STD), Canvas(80, 80).Picture()) << "hidden";
     button.SetShow(1);
+
+    CSize plain, bordered;
+    button.SetButtonType(CFauxNcButton::BUTTON_CLOSE);
+    button.GetMinVisibleSize(&canvas.DC(), bordered);
+    button.SetBorder(false);
+    button.GetMinVisibleSize(&canvas.DC(), plain);
+    EXPECT_EQ(bordered - plain, CSize(4, 4));
+    for (const int enabled : {TRUE, FALSE})
+    {
+        const Pixels glyph = Painted(button, !Pressed, enabled, STD);
+        EXPECT_EQ(glyph.Count(::GetSysColor(COLOR_BTNTEXT)) > 5, enabled);
+        EXPECT_EQ(glyph.Count(::GetSysColor(COLOR_GRAYTEXT)) > 5, !enabled);
+    }
+    EXPECT_EQ(button.HitTest(CPoint(10, 29)), 1);
+    EXPECT_EQ(button.HitTest(CPoint(10, 30)), 0);
 }
 
 } // namespace
