@@ -134,7 +134,7 @@ TEST_F(StaticOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
     const auto expectAlike = [&](auto&& parent) {
         ASSERT_TRUE(parent.CWnd::CreateEx(0, AfxRegisterWndClass(0), "", WS_CHILD | WS_VISIBLE,
                                           CRect(0, 0, 300, 200), &dialog, 9));
-        parent.GetControls() = dialog.GetControls();
+        parent.GetControls() = {&box, &inside, &across, &hidden, &windowless};
         box.SetParent(&parent);
         EXPECT_EQ(erased(), seen);
         box.SetParent(&dialog);
