@@ -352,8 +352,10 @@ void TreeSelection::BeginDrag(const WatchedItem& item, bool left, CPoint point)
     {
         return;
     }
+    const bool multi = m_multi;
     SetItemState(item.Get(), FocusAndSelect, FocusAndSelect, true);
-    if (!alive || item.Get() == nullptr || (Window().GetStyle() & TVS_DISABLEDRAGDROP) != 0)
+    if (!alive || m_multi != multi || item.Get() == nullptr ||
+        (Window().GetStyle() & TVS_DISABLEDRAGDROP) != 0)
     {
         return;
     }

@@ -143,6 +143,11 @@ bool TreeSelection::Put(const WatchedItem& item, bool selected)
     {
         m_items.Apply(item.Get(), selected ? Select : 0, Select);
     }
+    // Where the host has made it a tree of one selection meanwhile, that is the caret.
+    if (alive && selected && !m_multi && item.Get() != nullptr && item.Get() != m_items.Caret())
+    {
+        m_items.Apply(item.Get(), 0, Select);
+    }
     return alive && item.Get() != nullptr;
 }
 
@@ -176,6 +181,11 @@ bool TreeSelection::TakeFocus(const WatchedItem& item, bool wasSelected, UINT& s
     if (m_items.IsSelected(caret.Get()))
     {
         SetCaret(nullptr);
+        if (alive && !m_multi) // the host has made it a tree of one selection
+        {
+            SetCaret(item.Get());
+            return false;
+        }
         if (!alive)
         {
             return false;
@@ -190,7 +200,7 @@ bool TreeSelection::TakeFocus(const WatchedItem& item, bool wasSelected, UINT& s
             return false;
         }
     }
-    if (!SetCaret(item.Get()) || !alive || item.Get() == nullptr)
+    if (!SetCaret(item.Get()) || !alive || !m_multi || item.Get() == nullptr)
     {
         return false;
     }
@@ -279,7 +289,7 @@ int TreeSelection::SetItemState(HTREEITEM given, UINT state, UINT mask, bool not
 // on the systems where this is needed.
 void TreeSelection::GiveBack(const WatchedItem& previous, bool wasSelected)
 {
-    if (CaretMovesDeselect() && wasSelected)
+    if (CaretMovesDeselect() && wasSelected && m_multi)
     {
         Put(previous, true);
     }
@@ -319,8 +329,9 @@ bool TreeSelection::SelectItem(HTREEITEM given)
     {
         return false;
     }
-    return none ? SetCaret(nullptr)
-                : SetItemState(item.Get(), Focus | Select, Focus | Select, true) != FALSE;
+    return none || !m_multi
+               ? SetCaret(item.Get())
+               : SetItemState(item.Get(), Focus | Select, Focus | Select, true) != FALSE;
 }
 
 // In sight --------------------------------------------------------------------------------------

@@ -100,6 +100,7 @@ TEST_F(TreeToldTest, SurvivesAParentThatIsToldOfStates)
         {"deletes the next", [&](HTREEITEM item) { tree->DeleteItem(item == d ? e : d); }},
         {"clears the tree", [&](HTREEITEM) { tree->DeleteAllItems(); }},
         {"ends the tree", [&](HTREEITEM) { Remove(*tree); }},
+        {"makes it one of one selection", [&](HTREEITEM) { tree->SetMultiSelect(false); }},
     };
     const Act<> operations[] = {
         {"all", [&] { tree->SelectAll(true, true); }},
@@ -154,6 +155,7 @@ TEST_F(TreeToldTest, SurvivesAParentThatIsToldOfStates)
                 if (alive)
                 {
                     EXPECT_EQ(StatesSay(*tree, tree->GetRootItem()), SelectedTexts(*tree));
+                    EXPECT_TRUE(tree->IsMultiSelect() || SelectedTexts(*tree).size() <= 1);
                     Remove(*tree);
                 }
             }
