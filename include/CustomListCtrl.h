@@ -291,11 +291,11 @@ private:
     CRect m_fittedTo;          // client width and place of that column when it was fitted
     std::vector<ColumnWidth> m_columnWidths;
     std::optional<View> m_view;
-    std::optional<RowSpan> m_paintedRows; // while they are being painted
-    int m_focusRow = -1;                  // on-board, as last drawn
-    std::optional<PressNote> m_pressNote; // until the press is taken back
+    std::optional<RowSpan> m_paintedRows;           // while they are being painted
+    int m_focusRow = -1;                            // on-board, as last drawn
+    std::optional<PressNote> m_pressNote;           // until the press is taken back
     std::optional<NMITEMACTIVATE> m_heldActivation; // until the selection is final
-    int m_pressedTop = 0;  // the first row in sight at the last press
+    int m_pressedTop = 0;                           // the first row in sight at the last press
     int m_pressedRow = -1; // to be selected alone when the button goes up, unless it is dragged
     Measured m_measured;
     std::unique_ptr<Bars> m_bars;
@@ -359,6 +359,7 @@ private:
     bool IsSelected(int row);
     void SelectRow(int row, bool extend, bool toggle);
     void SelectRange(int from, int to, bool select);
+    void SelectAlone(int row);
     void ClearSelection();
     bool MoveByPage(UINT key, UINT flags);
     bool TakeFocusForPress();

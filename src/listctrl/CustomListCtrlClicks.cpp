@@ -49,6 +49,7 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
     if (alive && m_heldActivation)
     {
         NMITEMACTIVATE told = *std::exchange(m_heldActivation, std::nullopt);
+        told.iItem -= InOnBoard() && told.iItem >= 0 ? TopRow() : 0; // as the platform names it
         TellNotify(GetSafeHwnd(), told.hdr);
     }
 }
@@ -57,7 +58,10 @@ void CCustomListCtrl::OnLButtonUp(UINT, CPoint)
 {
     const WindowAlive alive(*this);
     const ByPointer by(*this);
-    SelectRow(std::exchange(m_pressedRow, -1), false, false);
+    if (const int row = std::exchange(m_pressedRow, -1); row >= 0)
+    {
+        SelectAlone(row);
+    }
     if (alive)
     {
         ReleaseButton();
@@ -135,9 +139,32 @@ LRESULT CCustomListCtrl::OnMouseHover(WPARAM, LPARAM lParam)
     const PressHit hit = TakeFocusForPress() ? HitBy(CPoint(lParam)) : PressHit();
     if (alive && hit.drawn >= 0)
     {
-        SelectRow(hit.drawn, false, false);
+        SelectAlone(hit.drawn);
     }
     return 0;
+}
+
+// As SelectRow, but a row that is selected already is not deselected on the way.
+void CCustomListCtrl::SelectAlone(int row)
+{
+    const WindowAlive alive(*this);
+    std::set<int> selected;
+    GetSelectedRows(selected);
+    for (auto other = selected.begin(); alive && other != selected.end(); ++other)
+    {
+        if (*other != row)
+        {
+            SetItemState(*other, 0, LVIS_SELECTED);
+        }
+    }
+    if (alive && row < int(Ask(LVM_GETITEMCOUNT)))
+    {
+        SetItemState(row, SelectedAndFocused, SelectedAndFocused);
+    }
+    if (alive && row < int(Ask(LVM_GETITEMCOUNT)))
+    {
+        SetSelectionMark(row);
+    }
 }
 
 // The focus comes first: the platform's list does not survive its end in the middle of its click.
@@ -275,14 +302,15 @@ void CCustomListCtrl::PressBox(const PressHit& hit, const CPoint& point, UINT fl
     {
         ClearSelection();
     }
+    if (!alive)
+    {
+        return;
+    }
     NMITEMACTIVATE told = {};
     told.hdr.code = NM_CLICK;
     told.iItem = hit.drawn < 0 ? -1 : hit.drawn - TopRow(); // as the platform would name it
     told.ptAction = point;
-    if (alive)
-    {
-        told.lParam = hit.drawn < 0 ? 0 : LPARAM(GetItemData(hit.drawn));
-    }
+    told.lParam = hit.drawn < 0 ? 0 : LPARAM(GetItemData(hit.drawn));
     if (alive)
     {
         TellNotify(GetSafeHwnd(), told.hdr);
@@ -322,6 +350,10 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     // they may be dragged.
     const bool together = !several && hit.drawn >= 0 && IsSelected(hit.drawn) && alive &&
                           Ask(LVM_GETSELECTEDCOUNT) > 1;
+    if (!alive)
+    {
+        return;
+    }
     m_pressedRow = together && hit.scrolled ? hit.drawn : -1;
     if ((several || together) && hit.scrolled)
     {
@@ -474,6 +506,7 @@ BOOL CCustomListCtrl::OnLvnItemActivate(NMHDR* header, LRESULT* result)
     if (m_activating && m_selChanging != FALSE)
     {
         m_heldActivation = *reinterpret_cast<const NMITEMACTIVATE*>(header);
+        m_heldActivation->iItem += m_heldActivation->iItem >= 0 ? m_pressedTop : 0;
         return TRUE;
     }
     return m_activating && (OnNmClick(header, result) ||

@@ -239,6 +239,10 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
         // What is told on the way may change the content once more.
         for (int turn = 0; alive && turn < 4 && !(Measure() == m_measured); ++turn)
         {
+            if (alive && Measure().items != m_measured.items)
+            {
+                m_pressedRow = -1; // it may be another one by now
+            }
             UpdateScrollData();
         }
         if (!alive)

@@ -38,6 +38,7 @@ LRESULT CCustomListCtrl::OnNcHitTest(CPoint point)
 
 void CCustomListCtrl::OnNcLButtonDown(UINT hitTest, CPoint point)
 {
+    m_pressedRow = -1;
     m_bars->PressNc(hitTest, point);
 }
 
@@ -99,6 +100,7 @@ void CCustomListCtrl::OnNcMouseMove(UINT hitTest, CPoint point)
 void CCustomListCtrl::OnMouseMove(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
+    m_pressedRow = (flags & MK_LBUTTON) != 0 ? m_pressedRow : -1; // released somewhere else
     if (InOnBoard() && flags == MK_LBUTTON)
     {
         HandleMouseMoveScroll(point);
