@@ -56,6 +56,21 @@ void AFXAPI DDX_Control(CDataExchange* exchange, int id, CWnd& control)
     }
 }
 
+namespace {
+
+// A text that is there already is left with its caret and its scrolling, and nobody is told.
+void ShowText(HWND control, const CString& text)
+{
+    CString shown;
+    CWnd::FromHandle(control)->GetWindowText(shown);
+    if (shown != text)
+    {
+        ::SetWindowText(control, text);
+    }
+}
+
+} // namespace
+
 void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value)
 {
     const HWND edit = exchange->PrepareEditCtrl(id);
@@ -65,7 +80,7 @@ void AFXAPI DDX_Text(CDataExchange* exchange, int id, CString& value)
     }
     else
     {
-        ::SetWindowText(edit, value);
+        ShowText(edit, value);
     }
 }
 
@@ -292,7 +307,7 @@ void ExchangeComboText(CDataExchange& exchange, int id, CString& value, UINT fin
     {
         if (!SelectText(combo, OfCombo, find, value) && canBeTypedInto)
         {
-            ::SetWindowText(combo, value);
+            ShowText(combo, value);
         }
     }
     else if (canBeTypedInto)

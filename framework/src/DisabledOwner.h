@@ -3,6 +3,7 @@
 #include "ThreadState.h"
 #include "framework/App.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace framework {
@@ -11,23 +12,29 @@ namespace framework {
 class DisabledOwner
 {
 public:
-    // parent null: the window that the user is at, of those that belong to the application's main
-    // window, or that one itself.
+    // parent null: the application's main window, or the modal dialog over it that the user is at.
+    // Where that is another popup, it is disabled as well, but a tool window may end by itself, and
+    // what it owns with it.
     explicit DisabledOwner(const CWnd* parent)
         : m_alone(parent != nullptr)
     {
         const CWnd* const meant = parent != nullptr ? parent : AfxGetMainWnd();
-        m_window = m_last = meant == nullptr ? nullptr : ::GetAncestor(meant->m_hWnd, GA_ROOT);
-        const HWND popup = parent == nullptr ? ::GetLastActivePopup(m_window) : nullptr;
+        m_owner = m_inUse = m_last =
+            meant == nullptr ? nullptr : ::GetAncestor(meant->m_hWnd, GA_ROOT);
+        const HWND popup = parent == nullptr ? ::GetLastActivePopup(m_last) : nullptr;
         if (popup != nullptr && ::IsWindowVisible(popup))
         {
-            m_window = popup;
+            m_owner = m_inUse = popup;
+        }
+        while (m_owner != m_last && m_owner != nullptr && !IsModal(m_owner))
+        {
+            m_owner = ::GetWindow(m_owner, GW_OWNER);
         }
     }
     DisabledOwner(const DisabledOwner&) = delete;
     DisabledOwner& operator=(const DisabledOwner&) = delete;
 
-    HWND Window() const { return m_window; }
+    HWND Window() const { return m_owner; }
 
     void Disable()
     {
@@ -36,7 +43,7 @@ public:
         {
             ::SendMessage(pressed, WM_CANCELMODE, 0, 0);
         }
-        std::vector<HWND> windows = {m_window};
+        std::vector<HWND> windows = {m_inUse};
         while (windows.back() != nullptr && windows.back() != m_last)
         {
             windows.push_back(::GetWindow(windows.back(), GW_OWNER));
@@ -71,15 +78,31 @@ public:
         {
             ::EnableWindow(window, TRUE);
         }
-        if (::IsWindowEnabled(m_window) && ::GetActiveWindow() == modal.m_hWnd)
+        HWND next = m_inUse;
+        while (next != m_last && next != nullptr && !CanBeUsed(next))
         {
-            ::SetActiveWindow(m_window);
+            next = ::GetWindow(next, GW_OWNER);
+        }
+        if (CanBeUsed(next) && ::GetActiveWindow() == modal.m_hWnd)
+        {
+            ::SetActiveWindow(next);
         }
     }
 
 private:
+    static bool IsModal(HWND window)
+    {
+        const std::vector<HWND>& modal = CurrentThreadState().modalWindows;
+        return std::find(modal.begin(), modal.end(), window) != modal.end();
+    }
+    static bool CanBeUsed(HWND window)
+    {
+        return ::IsWindowVisible(window) && ::IsWindowEnabled(window) && !::IsIconic(window);
+    }
+
     bool m_alone; // what else the user can reach is left to the caller, who named the parent
-    HWND m_window = nullptr;
+    HWND m_owner = nullptr;
+    HWND m_inUse = nullptr;
     HWND m_last = nullptr;        // of its owners, which the user must not reach either
     std::vector<HWND> m_disabled; // those that were not before
 };

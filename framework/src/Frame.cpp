@@ -111,7 +111,7 @@ void CFrameWnd::OnClose()
 void CFrameWnd::OnSize(UINT type, int width, int height)
 {
     const framework::StillThere here(*this);
-    if (type == SIZE_MINIMIZED && m_pViewActive != nullptr)
+    if (type == SIZE_MINIMIZED && m_pViewActive != nullptr && ::IsChild(m_hWnd, ::GetFocus()))
     {
         // Not every platform deactivates a window that is minimised, but it loses the focus.
         m_pViewActive->OnActivateFrame(WA_INACTIVE, this);

@@ -84,7 +84,7 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
         answer = OnSetActive() ? 0 : -1;
         break;
     case UINT(PSN_KILLACTIVE):
-        answer = OnKillActive() ? FALSE : TRUE;
+        answer = m_leaving || OnKillActive() ? FALSE : TRUE;
         break;
     case UINT(PSN_APPLY):
         answer = OnApply() ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE;
@@ -155,6 +155,7 @@ void CPropertySheet::AddPage(CPropertyPage* page)
     }
     m_pages.push_back(page);
     page->m_sheet = this;
+    page->m_leaving = false;
     if (m_hWnd != nullptr)
     {
         PROPSHEETPAGE description = page->m_psp;
@@ -166,7 +167,7 @@ void CPropertySheet::AddPage(CPropertyPage* page)
 
 void CPropertySheet::RemovePage(int page)
 {
-    const CPropertyPage* const removed = GetPage(page);
+    CPropertyPage* const removed = GetPage(page);
     if (removed == nullptr)
     {
         return;
@@ -180,12 +181,14 @@ void CPropertySheet::RemovePage(int page)
         const bool shown = GetActiveIndex() == page;
         if (here && shown && GetPageCount() > 1)
         {
+            removed->m_leaving = true;
             SendMessage(PSM_SETCURSEL, WPARAM(page > 0 ? page - 1 : 1));
         }
         if (!here || left() == m_pages.end())
         {
             return;
         }
+        removed->m_leaving = false;
         SendMessage(PSM_REMOVEPAGE, WPARAM(left() - m_pages.begin()));
         if (!here)
         {

@@ -108,6 +108,7 @@ void CScrollView::SetScrollSizes(int, SIZE total, const SIZE& page, const SIZE& 
     m_total = total;
     m_page = CSize(page.cx > 0 ? page.cx : total.cx / 10, page.cy > 0 ? page.cy : total.cy / 10);
     m_line = CSize(line.cx > 0 ? line.cx : m_page.cx / 10, line.cy > 0 ? line.cy : m_page.cy / 10);
+    m_line = CSize(std::max(1L, m_line.cx), std::max(1L, m_line.cy)); // also of a low form
     if (m_hWnd != nullptr)
     {
         UpdateBars();

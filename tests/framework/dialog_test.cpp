@@ -145,15 +145,15 @@ TEST_F(DialogTest, OneWithoutAParentDisablesTheWindowInUseAndThoseItBelongsTo)
     {
         SCOPED_TRACE(overModal);
         Form below(form, &Host());
-        const std::function<void(CWnd&, bool)> ask = [&](CWnd& inUse, bool again) {
+        const std::function<void(CWnd&, CWnd&)> ask = [&](CWnd& inUse, CWnd& owner) {
             Form box(form);
             box.inLoop = [&] {
-                EXPECT_EQ(::GetWindow(box, GW_OWNER), inUse.m_hWnd);
+                EXPECT_EQ(::GetWindow(box, GW_OWNER), owner.m_hWnd);
                 EXPECT_FALSE(inUse.IsWindowEnabled() || Host().IsWindowEnabled());
                 EXPECT_FALSE(below.IsWindowEnabled()) << "its loop is the outer one";
-                if (again)
+                if (&inUse == &below && overModal)
                 {
-                    ask(box, false);
+                    ask(box, box);
                 }
                 box.EndDialog(2);
             };
@@ -164,11 +164,11 @@ TEST_F(DialogTest, OneWithoutAParentDisablesTheWindowInUseAndThoseItBelongsTo)
         if (overModal)
         {
             below.inLoop = [&] {
-                ask(below, true);
+                ask(below, below);
                 Form tool(form);
                 ASSERT_TRUE(tool.CreateIndirect(form, &Host()));
                 tool.ShowWindow(SW_SHOW);
-                ask(tool, false);
+                ask(tool, Host());
                 EXPECT_TRUE(below.IsWindowEnabled());
                 EXPECT_FALSE(Host().IsWindowEnabled()) << "as the box found it";
                 below.EndDialog(1);
@@ -179,7 +179,14 @@ TEST_F(DialogTest, OneWithoutAParentDisablesTheWindowInUseAndThoseItBelongsTo)
         {
             ASSERT_TRUE(below.CreateIndirect(form, &Host()));
             below.ShowWindow(SW_SHOW);
-            ask(below, false);
+            ask(below, Host());
+            Form box(form);
+            box.inLoop = [&] {
+                below.ShowWindow(SW_HIDE);
+                box.EndDialog(2);
+            };
+            EXPECT_EQ(box.DoModal(), 2);
+            EXPECT_EQ(::GetActiveWindow(), Host().m_hWnd) << "keys go to what is to be seen";
         }
         EXPECT_TRUE(Host().IsWindowEnabled());
     }

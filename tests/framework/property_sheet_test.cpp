@@ -187,6 +187,7 @@ TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwnerUntilItIsClosed)
         auto sheet = std::make_unique<Sheet>(
             &Host(), std::initializer_list<CPropertyPage*>{&first, &second, &third});
         ASSERT_TRUE(sheet->Create(&Host()));
+        first.lets = FALSE; // it is not asked
         second.whenShown = [&] { ends ? sheet.reset() : sheet->RemovePage(2); };
         sheet->RemovePage(0);
         ASSERT_EQ(sheet == nullptr, ends);

@@ -27,8 +27,8 @@ public:
                            void* initData = nullptr);
     BOOL InitModalIndirect(HGLOBAL dialogTemplate, CWnd* parent = nullptr);
     // Runs the dialog; EndDialog's value, or -1 when it could not be created. Its owner is disabled
-    // meanwhile. Without a parent that is the popup of the main window that was active last, or the
-    // main window, with all that it belongs to.
+    // meanwhile. Without a parent that is the modal dialog that is open over the main window, or
+    // the main window; what the user was at is disabled as well, with all that it belongs to.
     virtual INT_PTR DoModal();
     void EndDialog(int result);
 
