@@ -1,11 +1,8 @@
 #include "FauxScrollBar.h"
-#include "scroll/BarPaint.h"
-#include "scroll/NcBands.h"
 #include "support/Canvas.h"
-#include "support/WindowTest.h"
+#include "support/ModeScope.h"
 
-#include <functional>
-#include <tuple>
+#include <gtest/gtest.h>
 
 namespace {
 
@@ -61,61 +58,6 @@ TEST(BarPainting, TroughOutlineAndHeldPart)
     bar.SetArea(Area);
     draw(Bar::PRESSED_NONE, TRUE);
     EXPECT_EQ(canvas.At(10, 200), 3U) << "the standard trough has no outline";
-}
-
-class BarHost : public WindowTest
-{
-protected:
-    CWnd& AddWindow()
-    {
-        return Add<CStatic>(CRect(10, 10, 210, 340), WS_BORDER | WS_VSCROLL | WS_HSCROLL);
-    }
-};
-
-TEST_F(BarHost, TheBarIsPaintedWhenItLooksDifferent)
-{
-    const ModeScope mode(ONBOARD);
-    CWnd& window = AddWindow();
-    Bar bar(SB_VERT);
-    bar.SetArea(Area);
-    bar.SetScrollRange(0, 20);
-    scroll::BarPainter painter;
-    const auto draw = [&](Bar::ePRESSED pressed = Bar::PRESSED_NONE, bool force = false) {
-        return painter.Draw(window, bar, pressed, force);
-    };
-    EXPECT_TRUE(draw());
-    EXPECT_EQ(WindowPixels(window).At(37, 200), RGB(26, 26, 26));
-    EXPECT_TRUE(draw(Bar::PRESSED_NONE, true));
-    EXPECT_TRUE(draw(Bar::PRESSED_FIRST));
-    EXPECT_TRUE(draw());
-    const std::tuple<const char*, std::function<void()>, bool> changes[] = {
-        {"nothing", [] {}, false},
-        {"page size", [&] { bar.SetPageSize(9); }, false},
-        {"position", [&] { bar.SetScrollPos(5); }, true},
-        {"colours", [&] { bar.SetColors(1, 2, 3, 4, 5, 6); }, true},
-        {"disabled", [&] { window.EnableWindow(FALSE); }, true},
-        {"mode", [&] { COnBoardUIGeneral::SetAppMode(EFB); }, true},
-        {"invalid", [&] { painter.Invalidate(); }, true},
-        {"hidden", [&] { bar.ShowScrollBar(FALSE); }, false},
-        {"shown again", [&] { bar.ShowScrollBar(TRUE); }, true},
-        // With redraw off nothing arrives, so afterwards nothing counts as painted.
-        {"redraw off", [&] { window.SetRedraw(FALSE); }, false},
-        {"redraw on", [&] { window.SetRedraw(TRUE); }, true},
-    };
-    for (const auto& [name, change, shows] : changes)
-    {
-        change();
-        EXPECT_EQ(draw(), shows) << name;
-    }
-    EXPECT_FALSE(draw());
-}
-
-TEST_F(BarHost, AFrameLaidOutAnewKeepsTheTabOrder)
-{
-    CWnd& window = AddWindow();
-    CWnd& second = AddWindow();
-    scroll::RecalculateFrame(second, false);
-    EXPECT_EQ(::GetWindow(Host(), GW_CHILD), window.GetSafeHwnd());
 }
 
 } // namespace
