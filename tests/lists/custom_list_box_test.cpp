@@ -106,31 +106,6 @@ TEST_F(ListBoxTest, DrawnRowsFollowTheMode)
     }
 }
 
-TEST_F(ListBoxTest, ListsThatWereThereGoThroughAllModesAndBack)
-{
-    for (const APPMODE born : {STD, ONBOARD})
-    {
-        COnBoardUIGeneral::SetAppMode(born);
-        auto& plain = Add<CListBox>(CRect(20, 20, 320, 320), WideListStyle);
-        AddRows(plain, 60);
-        plain.AddString(WideText);
-        ListBoxForTests list;
-        ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
-        for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, STD, EFBFS, STD})
-        {
-            SetMode(mode, list);
-            PumpAll();
-            const bool onBoard = mode != STD;
-            EXPECT_TRUE(list.m_vBarNeeded == onBoard && list.m_hBarNeeded == onBoard) << mode;
-            // No extent was set, so the platform's list shows no horizontal bar.
-            EXPECT_EQ(list.GetStyle() & (WS_VSCROLL | WS_HSCROLL), onBoard ? 0U : WS_VSCROLL);
-        }
-        list.SetTopIndex(5);
-        EXPECT_EQ(::GetScrollPos(list, SB_VERT), 5) << born;
-        list.DestroyWindow();
-    }
-}
-
 TEST_F(ListBoxTest, WhatTheHostSetInTheStandardModeStays)
 {
     auto& drawn = AddList(5, WideListStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
