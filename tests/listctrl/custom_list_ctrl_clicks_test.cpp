@@ -236,68 +236,6 @@ TEST_F(ListCtrlOnBoard, ARightClickIsToldOfWithTheDrawnRowSelectedOrAsItWas)
     }
 }
 
-TEST_F(ListCtrlOnBoard, WhatARightPressInScrolledRowsTellsMayEndTheListOrChangeItsMode)
-{
-    int told = INT_MAX;
-    for (int turn = 0; turn / 2 < told; ++turn)
-    {
-        const ModeScope scope(ONBOARD);
-        auto& list = AddList(100);
-        list.PerformVScroll(5, 0);
-        list.SetItemState(2, 3, 3); // in the place of row 7
-        told = 0;
-        Host().hook = [&](ToldMessage&) {
-            if (told++ == turn / 2)
-            {
-                turn % 2 == 0 ? void(list.DestroyWindow()) : SetMode(STD, list);
-            }
-        };
-        const CPoint point = list.RowPoint(7);
-        list.PostMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
-        list.SendMessage(WM_RBUTTONDOWN, 0, MAKELPARAM(point.x, point.y));
-        EXPECT_EQ(::IsWindow(list), turn % 2 != 0 || told <= turn / 2) << turn;
-        EXPECT_FALSE(::IsWindow(list) && list.IsSelChanging()) << turn;
-        Host().hook = nullptr;
-        PumpAll();
-        Remove(list);
-    }
-    EXPECT_GT(told, 9);
-}
-
-TEST_F(ListCtrlOnBoard, WhatIsSelectedDuringARightPressIsToldWithAFinalStep)
-{
-    Host().AlsoRecord({WM_APP});
-    for (const int sideways : {0, 3}) // where the platform takes a row, and where it finds none
-    {
-        auto& list = AddList(100, 8);
-        int order[] = {sideways != 0 ? 1 : 0, sideways != 0 ? 0 : 1, 2, 3, 4, 5, 6, 7};
-        list.SetColumnOrderArray(8, order);
-        list.PerformVScroll(5, 0);
-        list.PerformHScroll(sideways, 0);
-        std::set<int> known; // to a parent that waits for the final step
-        Host().hook = [&](ToldMessage& message) {
-            if (message.message == WM_APP)
-            {
-                list.SetItemState(20, LVIS_SELECTED, LVIS_SELECTED);
-            }
-            const auto* const change = reinterpret_cast<const NMLISTVIEW*>(message.lParam);
-            if (message.code == UINT(LVN_ITEMCHANGED) && list.IsSelChanging() == 0 &&
-                ((change->uNewState ^ change->uOldState) & LVIS_SELECTED) != 0)
-            {
-                known = list.Selected();
-            }
-        };
-        const CPoint point = list.RowPoint(7);
-        Host().PostMessage(WM_APP);
-        list.PostMessage(WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
-        list.SendMessage(WM_RBUTTONDOWN, 0, MAKELPARAM(point.x, point.y));
-        EXPECT_EQ(known, (std::set<int>{7, 20})) << sideways;
-        EXPECT_EQ(list.Selected(), known);
-        Host().hook = nullptr;
-        Remove(list);
-    }
-}
-
 TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
 {
     auto& list = AddList(100, 8);
@@ -372,6 +310,21 @@ TEST_F(ListCtrlOnBoard, OneClickActivatesTheDrawnRowOnceItIsSelected)
         EXPECT_EQ(activated, 1);
         EXPECT_THAT(std::exchange(list.clicked, {}), testing::Each(std::tuple(top + 2, 0, 0)));
     }
+    // As some platforms tell it: of the row that stands there unscrolled.
+    list.onActivation = nullptr;
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    Host().hook = [&](ToldMessage& message) {
+        if (message.code == UINT(NM_CLICK))
+        {
+            NMITEMACTIVATE activation = {};
+            activation.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
+            activation.iItem = 3;
+            activation.uOldState = 3;
+            Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&activation));
+        }
+    };
+    Click(ClientPoint(list, list.RowPoint(8)));
+    EXPECT_THAT(list.clicked, ElementsAre(std::tuple(8, 0, 0), std::tuple(8, 0, 0)));
 }
 
 TEST_F(ListCtrlOnBoard, ARestingPointerSelectsTheDrawnRowUnlessTheParentObjects)
@@ -394,63 +347,5 @@ TEST_F(ListCtrlOnBoard, ARestingPointerSelectsTheDrawnRowUnlessTheParentObjects)
         EXPECT_TRUE(PumpUntil([&] { return told == row - 6; }));
         PumpAll();
         EXPECT_EQ(list.Selected(), std::set<int>{7}) << row;
-    }
-}
-
-TEST_F(ListCtrlOnBoard, AKeyThatActivatesInADoubleClicksHandlerNamesItsOwnRow)
-{
-    struct Heir : ListForTests
-    {
-        NMITEMACTIVATE byKey = {};
-        NMITEMACTIVATE byClick = {};
-        std::vector<int> heard; // the rows of them that the parent got
-
-        BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
-        {
-            const BOOL taken = ListForTests::OnChildNotify(message, wParam, lParam, result);
-            for (const NMITEMACTIVATE* each : {&byKey, &byClick})
-            {
-                if (!taken && lParam == reinterpret_cast<LPARAM>(each))
-                {
-                    heard.push_back(each->iItem);
-                }
-            }
-            return taken;
-        }
-    };
-    auto& list = AddList<Heir>(100);
-    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
-    // In the standard mode the platform tells no row, so that anything may stand there.
-    for (const auto& [mode, row] : {std::pair(ONBOARD, 3), {STD, -1}})
-    {
-        SetMode(mode, list);
-        list.PerformVScroll(mode == STD ? 0 : 5, 0);
-        list.byKey.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
-        list.byKey.iItem = row;
-        Host().hook = [&](ToldMessage& message) {
-            if (message.code == UINT(NM_DBLCLK))
-            {
-                list.SendMessage(WM_KEYDOWN, VK_RETURN);
-            }
-            else if (message.code == UINT(LVN_KEYDOWN)) // as some platforms tell it, with the row
-            {
-                Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&list.byKey));
-            }
-        };
-        Click(ClientPoint(list, list.RowPoint(7)));
-        Press();
-        Release();
-        EXPECT_THAT(std::exchange(list.heard, {}), ElementsAre(row)) << mode;
-        // Where one click activates, some platforms tell of the unscrolled row.
-        Host().hook = [&, mode = mode](ToldMessage& message) {
-            if (message.code == UINT(NM_CLICK))
-            {
-                list.byClick.hdr = list.byKey.hdr;
-                list.byClick.iItem = mode == STD ? 8 : 3;
-                Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&list.byClick));
-            }
-        };
-        Click(ClientPoint(list, list.RowPoint(8)));
-        EXPECT_THAT(std::exchange(list.heard, {}), ElementsAre(8)) << mode;
     }
 }

@@ -1,8 +1,6 @@
 // The header: its look, its place over the columns, and columns resized with the pointer.
 
 #include "listctrl/list_for_tests.h"
-#include "support/Acting.h"
-#include "support/Fenced.h"
 
 #include <gmock/gmock.h>
 
@@ -22,19 +20,6 @@ struct ListThatFollows : ListForTests
             told.insert(told.end(), {header->iItem, header->iButton, header->pitem->cxy});
         }
         return ListForTests::WindowProc(message, wParam, lParam);
-    }
-};
-
-// As if each column had been resized in the header.
-struct ResizedList : Acting<Fenced<ListForTests>>
-{
-    bool resized = false;
-
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        return resized && message == LVM_GETCOLUMNWIDTH
-                   ? 1
-                   : Acting::WindowProc(message, wParam, lParam);
     }
 };
 
@@ -135,7 +120,7 @@ TEST_F(ListCtrlTest, TheApplicationsArrowsStandAtTheRightInTheStandardMode)
     }
 }
 
-TEST_F(ListCtrlOnBoard, TheStripStandsOverTheShiftedColumns)
+TEST_F(ListCtrlOnBoard, TheStripStandsOverTheShiftedColumnsAndTheGridIsDrawnByThem)
 {
     auto& list = AddList(50, 8);
     list.SetExtendedStyle(LVS_EX_GRIDLINES);
@@ -147,6 +132,11 @@ TEST_F(ListCtrlOnBoard, TheStripStandsOverTheShiftedColumns)
         const Pixels picture = Settled(list);
         list.GetVerticalDivides(8);
         EXPECT_FALSE(list.m_gridLines.Positions().empty());
+        for (int row = 0; row < list.VisibleRows(); ++row)
+        {
+            const CSize line(150, ItemRectOf(list, 0).top + row * list.RowHeight());
+            EXPECT_EQ(picture.At(origin + line), ::GetSysColor(COLOR_GRAYTEXT)) << row;
+        }
         for (const int x : list.m_gridLines.Positions())
         {
             if (x > 0 && x < ClientRectOf(list).right - 1)
@@ -324,32 +314,6 @@ TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
     EXPECT_EQ(::GetCapture(), nullptr);
     Release();
     EXPECT_EQ(clicked.size(), 4U);
-}
-
-TEST_F(ListCtrlOnBoard, AListMayEndWhenItsHeaderGivesItAWidth)
-{
-    const Act<ResizedList&> acts[] = {
-        {"widened",
-         [](ResizedList& list) { list.SetWindowPos(nullptr, 0, 0, 780, 300, SWP_NOMOVE); }},
-        // Not with a column taken away: there the platform goes on with what it has freed.
-        {"scrolled home", [](ResizedList& list) { list.PerformHScroll(SB_LEFT); }},
-        {"strip", [](ResizedList& list) { list.m_header.RepositionHeaderStrip(); }},
-    };
-    const AccessFaults faults;
-    for (const auto& each : acts)
-    {
-        for (const bool resized : {true, false}) // false: the last column gets one all the same
-        {
-            auto& list = AddList<ResizedList>(3, 8, ReportStyle, CRect(0, 20, 690, 300));
-            list.PerformHScroll(2, 0);
-            list.resized = resized;
-            const HWND window = list;
-            list.ActIn(LVM_SETCOLUMNWIDTH, [&] { Remove(list); });
-            each.act(list);
-            EXPECT_FALSE(::IsWindow(window)) << each.name;
-            EXPECT_EQ(faults.Count(), 0) << each.name << resized;
-        }
-    }
 }
 
 TEST_F(ListCtrlOnBoard, TheHotDividerIsNextToTheItemUnderThePoint)

@@ -1,7 +1,6 @@
-// What a report list paints: cells and grid lines.
+// What a report list paints of its cells.
 
 #include "listctrl/list_for_tests.h"
-#include "support/Fenced.h"
 
 namespace {
 
@@ -54,50 +53,4 @@ TEST_F(ListCtrlOnBoard, CellsShowTextSelectionAndEndAtTheDivider)
         const CRect below(0, top + bottom / height * height, 300, bottom);
         EXPECT_EQ(picture.Count(palette::FieldText, below), 0);
     }
-    auto& single = AddList(3, 1);
-    single.SetItemState(1, 3, 3);
-    const Pixels picture = CellsOf(single, false, CRect(0, 0, 500, 400));
-    const CRect row = ItemRectOf(single, 1);
-    EXPECT_EQ(picture.At(row.right - 1, row.top), palette::Highlight);
-    EXPECT_EQ(picture.At(row.right, row.top), Canvas::Untouched);
-}
-
-TEST_F(ListCtrlOnBoard, GridLinesStandAtRowsAndDividers)
-{
-    const COLORREF gray = ::GetSysColor(COLOR_GRAYTEXT);
-    auto& list = AddList(30, 3);
-    const CRect client = ClientRectOf(list);
-    const int top = list.HeaderRect().bottom;
-    list.PerformVScroll(4, 0);
-    list.GetVerticalDivides(3);
-    Canvas canvas(client.Width(), client.Height());
-    list.DrawGrid(canvas.DC(), 30, client);
-    for (int y = top; y < client.bottom; y += list.RowHeight())
-    {
-        EXPECT_EQ(canvas.At(50, y), gray);
-        EXPECT_EQ(canvas.At(50, y + 1), Canvas::Untouched);
-    }
-    EXPECT_EQ(canvas.At(102, top + 3), gray);
-    EXPECT_EQ(canvas.At(204, client.bottom - 1), gray);
-    EXPECT_EQ(canvas.At(list.m_gridLines.lastgrid() - 1, top + 3), Canvas::Untouched);
-}
-
-TEST_F(ListCtrlOnBoard, AnHeirMayEndTheListWhenItIsAskedForTheDividers)
-{
-    struct Heir : Fenced<ListForTests>
-    {
-        std::function<void()> end;
-        void GetVerticalDivides(int columns) override
-        {
-            ListForTests::GetVerticalDivides(columns);
-            end ? std::exchange(end, nullptr)() : void();
-        }
-    };
-    const AccessFaults faults;
-    auto& list = AddList<Heir>(20);
-    const HWND window = list;
-    list.end = [&] { Remove(list); };
-    Repaint(window);
-    EXPECT_FALSE(::IsWindow(window));
-    EXPECT_EQ(faults.Count(), 0);
 }

@@ -32,7 +32,6 @@ class ListForTests : public CCustomListCtrl
 {
 public:
     using CCustomListCtrl::DrawCells;
-    using CCustomListCtrl::DrawGrid;
     using CCustomListCtrl::GetVerticalDivides;
     using CCustomListCtrl::m_drawOffset;
     using CCustomListCtrl::m_gridLines;
