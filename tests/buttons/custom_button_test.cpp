@@ -1,7 +1,6 @@
 // What all buttons share: following a press, the steps of a click, and every way of losing either.
 
 #include "buttons/buttons_for_tests.h"
-#include "support/Acting.h"
 #include "support/Acts.h"
 
 #include <gmock/gmock.h>
@@ -186,17 +185,6 @@ TEST_F(WindowTest, TheStandardModeComesBackWithTheFocusAsItIs)
         Remove(first);
         Remove(second);
     }
-}
-
-TEST_F(ButtonOnBoard, APressThatEndsTheStandardModeOnItsWayIsThatOfTheNextMode)
-{
-    auto& push = Add<Acting<TestPush>>(ButtonPlace, BS_NOTIFY, "Push");
-    push.SetFocus();
-    push.ActIn(WM_STYLECHANGED, [] { COnBoardUIGeneral::SetAppMode(EFB); }); // its focus comes back
-    COnBoardUIGeneral::SetAppMode(STD);
-    push.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
-    EXPECT_TRUE(COnBoardUIGeneral::InOnBoardMode() && push.m_pressed && push.m_tracking);
-    push.SendMessage(WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
 }
 
 TEST_F(ButtonOnBoard, TheNextWindowOfAnObjectBeginsAfresh)

@@ -1,4 +1,3 @@
-#include "support/Acting.h"
 #include "trees/tree_for_tests.h"
 
 #include <gmock/gmock.h>
@@ -11,9 +10,9 @@ class MultiTreeInputTest : public TreeTest
 {
 protected:
     // A tree of many single-letter items and a few long ones, which scrolls both ways.
-    template <class Tree = TreeForTests> Tree& AddLongTree()
+    TreeForTests& AddLongTree()
     {
-        auto& tree = Add<Tree>(CRect(20, 20, 220, 220), TreeStyle);
+        auto& tree = Add<TreeForTests>(CRect(20, 20, 220, 220), TreeStyle);
         m_items = AddItems(tree, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ");
         for (const char letter : {'0', '1', '2'})
         {
@@ -340,34 +339,6 @@ TEST_F(MultiTreeInputTest, AnInterruptedBandGivesTheSelectionBack)
     Band(tree, d).Do([&] { tree.DeleteAllItems(); }).Release();
 }
 
-TEST_F(MultiTreeInputTest, ATreeThatBecomesOneOfOneSelectionInAPressShowsNoMore)
-{
-    auto& tree = AddTree();
-    for (const bool asked : {false, true}) // by a timer, and when the press selects
-    {
-        for (const auto& [press, to] : {std::pair(EmptyBeside(tree, b), PointOf(tree, e)),
-                                        {PointOf(tree, d), EmptyBeside(tree, b)},
-                                        {PointOf(tree, d), PointOf(tree, d)}})
-        {
-            tree.SetMultiSelect(true);
-            tree.SelectItem(a);
-            tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
-            const OnceTold once(Host(), asked ? UINT(TVN_SELCHANGING) : UINT(-1),
-                                [&] { tree.SetMultiSelect(false); });
-            PressScript(press)
-                .Do([&, asked = asked] { asked ? void() : tree.SetMultiSelect(false); })
-                .Move(press + CPoint(1, 0))
-                .Move(to)
-                .Move(to + CPoint(5, 5))
-                .Release();
-            EXPECT_EQ(::GetCapture(), nullptr);
-            const HTREEITEM caret = tree.GetFocusedItem();
-            EXPECT_EQ(SelectedTexts(tree), std::string(1, tree.GetItemText(caret)[0])) << asked;
-            EXPECT_EQ(CountOf(int(TVN_BEGINDRAG)), 0);
-        }
-    }
-}
-
 TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
 {
     auto& tree = AddLongTree();
@@ -439,20 +410,6 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
     Repaint(tree);
     EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), DWORD(WS_VSCROLL | WS_HSCROLL));
     EXPECT_EQ(ClientRectOf(tree).Size(), standard);
-}
-
-TEST_F(MultiTreeInputTest, NoTimerGoesOnWhenAStepOfABarChangesTheMode)
-{
-    auto& tree = AddLongTree<Acting<TreeForTests>>();
-    const ModeScope mode(ONBOARD);
-    Repaint(tree);
-    const MessageLog log(tree, {WM_TIMER});
-    tree.ActIn(WM_VSCROLL, [&] { SetMode(STD, tree); });
-    Press(WindowPoint(tree, CPoint(200 - 26, 200 - 52 - 10)));
-    EXPECT_FALSE(COnBoardUIGeneral::InOnBoardMode()) << "the press was a step";
-    PumpFor(400);
-    EXPECT_EQ(log.Count(WM_TIMER), 0);
-    Release();
 }
 
 TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheMode)
