@@ -195,6 +195,18 @@ TEST_F(ListCtrlOnBoard, APointerThatOnlyRestsOnTheThumbIsNoDrag)
     Release();
 }
 
+TEST_F(ListCtrlOnBoard, ThePressOnTheRightArrowDoesNotCountAsHeld)
+{
+    auto& list = AddList(100, 8);
+    for (const auto& [part, axis] :
+         {std::pair(First, SB_VERT), {Second, SB_VERT}, {Second, SB_HORZ}, {First, SB_HORZ}})
+    {
+        Press(list.PartPoint(part, axis));
+        EXPECT_EQ(list.m_pressed, axis == SB_VERT || part == First) << axis << part;
+        Release();
+    }
+}
+
 TEST_F(ListCtrlOnBoard, AListWithoutAHeaderScrollsAndIsClicked)
 {
     auto& list = AddList(100, 2, ReportStyle | LVS_NOCOLUMNHEADER | LVS_SINGLESEL);

@@ -339,6 +339,34 @@ TEST_F(MultiTreeInputTest, AnInterruptedBandGivesTheSelectionBack)
     Band(tree, d).Do([&] { tree.DeleteAllItems(); }).Release();
 }
 
+TEST_F(MultiTreeInputTest, ATreeThatBecomesOneOfOneSelectionInAPressShowsNoMore)
+{
+    auto& tree = AddTree();
+    for (const bool asked : {false, true}) // by a timer, and when the press selects
+    {
+        for (const auto& [press, to] : {std::pair(EmptyBeside(tree, b), PointOf(tree, e)),
+                                        {PointOf(tree, d), EmptyBeside(tree, b)},
+                                        {PointOf(tree, d), PointOf(tree, d)}})
+        {
+            tree.SetMultiSelect(true);
+            tree.SelectItem(a);
+            tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
+            const OnceTold once(Host(), asked ? UINT(TVN_SELCHANGING) : UINT(-1),
+                                [&] { tree.SetMultiSelect(false); });
+            PressScript(press)
+                .Do([&, asked = asked] { asked ? void() : tree.SetMultiSelect(false); })
+                .Move(press + CPoint(1, 0))
+                .Move(to)
+                .Move(to + CPoint(5, 5))
+                .Release();
+            EXPECT_EQ(::GetCapture(), nullptr);
+            const HTREEITEM caret = tree.GetFocusedItem();
+            EXPECT_EQ(SelectedTexts(tree), std::string(1, tree.GetItemText(caret)[0])) << asked;
+            EXPECT_EQ(CountOf(int(TVN_BEGINDRAG)), 0);
+        }
+    }
+}
+
 TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
 {
     auto& tree = AddLongTree();
