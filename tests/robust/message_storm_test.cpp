@@ -74,6 +74,7 @@ private:
     void ReleaseAll(CWnd& window, const Storm& storm)
     {
         const HWND handle = window.GetSafeHwnd();
+        PumpAll(); // what assistive programs have asked for is done when messages are
         if (::IsWindow(handle))
         {
             Rest(window);
