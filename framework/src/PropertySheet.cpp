@@ -8,6 +8,43 @@
 #include "framework/TabCtrl.h"
 
 #include <algorithm>
+#include <utility>
+
+namespace {
+
+// The sheets whose pages are being told something, the innermost first.
+class Telling
+{
+public:
+    explicit Telling(HWND sheet)
+        : m_sheet(sheet)
+        , m_outer(std::exchange(s_innermost, this))
+    {}
+
+    ~Telling() { s_innermost = m_outer; }
+
+    Telling(const Telling&) = delete;
+    Telling& operator=(const Telling&) = delete;
+
+    static bool ComesFrom(HWND sheet)
+    {
+        const Telling* told = s_innermost;
+        while (told != nullptr && told->m_sheet != sheet)
+        {
+            told = told->m_outer;
+        }
+        return told != nullptr;
+    }
+
+private:
+    HWND m_sheet;
+    Telling* m_outer;
+    static thread_local Telling* s_innermost;
+};
+
+thread_local Telling* Telling::s_innermost = nullptr;
+
+} // namespace
 
 // Pages -----------------------------------------------------------------------------------------
 
@@ -78,6 +115,7 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
         return CDialog::OnNotify(wParam, lParam, result);
     }
     LRESULT answer = 0;
+    const Telling telling(header->hwndFrom);
     switch (header->code)
     {
     case UINT(PSN_SETACTIVE):
@@ -117,6 +155,7 @@ BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CPropertySheet::HandleInitDialog)
     ON_MESSAGE(PSM_PRESSBUTTON, &CPropertySheet::OnPressButton)
     ON_WM_CLOSE()
+    ON_WM_DESTROY()
 END_MESSAGE_MAP()
 
 CPropertySheet::CPropertySheet()
@@ -144,6 +183,16 @@ CPropertySheet::~CPropertySheet()
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this)
     {
         CWnd::DestroyWindow();
+    }
+}
+
+void CPropertySheet::OnDestroy()
+{
+    // A page that ends its sheet in what it is told goes back into the platform's sheet, which
+    // reads on in the record that it frees here. The record is left to it, and lost.
+    if (!Telling::ComesFrom(m_hWnd))
+    {
+        CWnd::OnDestroy();
     }
 }
 

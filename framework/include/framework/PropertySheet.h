@@ -86,6 +86,7 @@ protected:
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPressButton(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
+    afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
 
     CString m_strCaption;
