@@ -42,25 +42,6 @@ TEST_F(Controls, TextsOfAnyLengthAndSelectedRowsAreTold)
     EXPECT_EQ(position, nullptr);
 }
 
-TEST_F(Controls, ASelectionInALongTextCanBeSetAsItWasTold)
-{
-    auto& edit = Add<CEdit>(Place, ES_AUTOHSCROLL);
-    edit.SetWindowText(std::string(60000, 'x').c_str());
-    const std::pair<int, int> selections[] = {{33000, 40000}, {100, 65000}, {0, 7}};
-    for (const auto& [start, end] : selections)
-    {
-        edit.SetSel(start, end);
-        const DWORD told = edit.GetSel();
-        edit.SetSel(0, 1);
-        edit.SetSel(told);
-        EXPECT_EQ(edit.GetSel(), told);
-    }
-    edit.SetSel(DWORD(MAKELONG(-1, 0)));
-    EXPECT_EQ(LOWORD(edit.GetSel()), HIWORD(edit.GetSel())) << "none";
-    edit.SetSel(DWORD(MAKELONG(0, -1)));
-    EXPECT_EQ(edit.GetSel(), DWORD(MAKELONG(0, 60000))) << "all";
-}
-
 TEST_F(Controls, PlacesThatAreNotThereAreEmpty)
 {
     CStatusBar bar;

@@ -97,46 +97,6 @@ BEGIN_MESSAGE_MAP(Panel, BasePanel)
     ON_CONTROL_REFLECT_EX(EN_CHANGE, &Panel::End)
 END_MESSAGE_MAP()
 
-// Writes down with what its handlers are called.
-class Listener : public CWnd
-{
-public:
-    Journal journal;
-
-protected:
-    template <class... Values> void Note(const char* what, Values... values)
-    {
-        std::string text = what;
-        ((text += " " + std::to_string(values)), ...);
-        journal.push_back(text);
-    }
-    void OnSysCommand(UINT id, LPARAM lParam) { Note("system", id, lParam); }
-    void OnSettingChange(UINT flags, LPCTSTR section) { Note(section, flags); }
-    void OnEndSession(BOOL ending) { Note("end", ending); }
-    BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data)
-    {
-        Note("data", from == this, data->dwData);
-        return TRUE;
-    }
-    void OnMouseHWheel(UINT keys, short delta, CPoint point)
-    {
-        Note("wheel", keys, delta, point.x, point.y);
-    }
-    void OnRButtonDblClk(UINT keys, CPoint point) { Note("double", keys, point.x, point.y); }
-    void HScroll(UINT code, UINT position) { Note("scroll", code, position); }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(Listener, CWnd)
-    ON_WM_SYSCOMMAND()
-    ON_WM_SETTINGCHANGE()
-    ON_WM_ENDSESSION()
-    ON_WM_COPYDATA()
-    ON_WM_MOUSEHWHEEL()
-    ON_WM_RBUTTONDBLCLK()
-    ON_WM_HSCROLL_REFLECT()
-END_MESSAGE_MAP()
-
 class MessageMap : public WindowTest
 {
 protected:
@@ -255,21 +215,6 @@ TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)
     panel.SetWindowText("text");
     EXPECT_EQ(panel.SendMessage(WM_GETTEXTLENGTH), 0) << "handled: the default is not asked";
     EXPECT_EQ(panel.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-5, 7)), HTNOWHERE);
-}
-
-TEST_F(MessageMap, HandlersGetTheWordsOfTheirMessage)
-{
-    auto& listener = Add<Listener>(CRect(0, 0, 50, 50));
-    COPYDATASTRUCT data = {7, 0, nullptr};
-    listener.SendMessage(WM_SYSCOMMAND, SC_CLOSE, 12);
-    listener.SendMessage(WM_SETTINGCHANGE, 3, LPARAM("Policy"));
-    listener.SendMessage(WM_ENDSESSION, TRUE);
-    EXPECT_TRUE(listener.SendMessage(WM_COPYDATA, WPARAM(listener.m_hWnd), LPARAM(&data)));
-    listener.SendMessage(WM_MOUSEHWHEEL, MAKEWPARAM(MK_CONTROL, -120), MAKELPARAM(-5, 6));
-    listener.SendMessage(WM_RBUTTONDBLCLK, MK_RBUTTON, MAKELPARAM(-5, 6));
-    Host().SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 40000), LPARAM(listener.m_hWnd));
-    EXPECT_EQ(listener.journal, (Journal{"system 61536 12", "Policy 3", "end 1", "data 1 7",
-                                         "wheel 8 -120 -5 6", "double 2 -5 6", "scroll 5 40000"}));
 }
 
 } // namespace

@@ -1,6 +1,5 @@
-// Points, sizes, rectangles, text and collections as values.
+// Text as values.
 
-#include <afxtempl.h>
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
@@ -108,48 +107,4 @@ TEST(Text, StringResources)
     EXPECT_STREQ(CString(MAKEINTRESOURCE(ShortString)), "short");
     text.Format(FormatString, 7, "x");
     EXPECT_STREQ(text, "7 of x");
-}
-
-TEST(Text, AStringIsFoundBehindAModuleThatHasOnlyItsNeighbours)
-{
-    constexpr UINT Neighbour = 60015; // in the same block of sixteen
-    constexpr WORD block[17] = {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1, L'x'};
-    char folder[MAX_PATH] = {};
-    ::GetSystemDirectory(folder, MAX_PATH);
-    const CString original = CString(folder) + "\\version.dll";
-    ::GetTempPath(MAX_PATH, folder);
-    const CString copy = CString(folder) + "onboardui_strings.dll";
-    ASSERT_TRUE(::CopyFile(original, copy, FALSE));
-    const HANDLE update = ::BeginUpdateResource(copy, TRUE);
-    EXPECT_TRUE(::UpdateResource(update, RT_STRING, MAKEINTRESOURCE(Neighbour / 16 + 1), 0,
-                                 const_cast<WORD*>(block), sizeof(block)));
-    EXPECT_TRUE(::EndUpdateResource(update, FALSE));
-    const HMODULE module = ::LoadLibraryEx(copy, nullptr, LOAD_LIBRARY_AS_DATAFILE);
-    AfxSetResourceHandle(module);
-    CString text;
-    EXPECT_TRUE(text.LoadString(Neighbour));
-    EXPECT_STREQ(text, "x");
-    EXPECT_TRUE(text.LoadString(ShortString));
-    EXPECT_STREQ(text, "short");
-    AfxSetResourceHandle(nullptr);
-    ::FreeLibrary(module);
-    ::DeleteFile(copy);
-}
-
-TEST(Collections, ArraysGrowWhereTheyAreToldAlsoByTheirOwnElements)
-{
-    CStringArray texts;
-    texts.SetAtGrow(2, "a text that is long enough to live on the heap");
-    EXPECT_TRUE(texts[0].IsEmpty());
-    texts.RemoveAt(0, 2);
-    for (int index = 0; index < 20; ++index)
-    {
-        texts.Add(texts[0]);
-        texts.InsertAt(0, texts[texts.GetUpperBound()], 2);
-    }
-    EXPECT_EQ(texts.Append(texts), 61);
-    for (INT_PTR index = 0; index < texts.GetSize(); ++index)
-    {
-        ASSERT_STREQ(texts[index], "a text that is long enough to live on the heap");
-    }
 }

@@ -192,51 +192,6 @@ TEST_F(WndTest, TheLastOfWhoeverWaitsGivesThePointerItsShapeBack)
     EXPECT_EQ(::SetCursor(before), ::LoadCursor(nullptr, IDC_IBEAM));
 }
 
-// Subclassing -----------------------------------------------------------------------------------
-
-// Answers one message itself and leaves the rest to the list box that it stands before.
-class DoublingList : public CListBox
-{
-public:
-    int presubclassed = 0;
-
-protected:
-    void PreSubclassWindow() override { ++presubclassed; }
-    LRESULT OnGetCount(WPARAM, LPARAM) { return 2 * Default(); }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(DoublingList, CListBox)
-    ON_MESSAGE(LB_GETCOUNT, &DoublingList::OnGetCount)
-END_MESSAGE_MAP()
-
-TEST_F(WndTest, ASubclassedControlWorksBeforeDuringAndAfter)
-{
-    for (const bool ourProcedureOnTop : {true, false})
-    {
-        CWnd list;
-        ASSERT_TRUE(list.Create("LISTBOX", "", WS_CHILD, CRect(0, 0, 90, 90), &Host(), 500));
-        const HWND window = list.UnsubclassWindow();
-        const auto addAndCount = [window] {
-            ::SendMessage(window, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>("row"));
-            return ::SendMessage(window, LB_GETCOUNT, 0, 0);
-        };
-        EXPECT_EQ(addAndCount(), 1);
-
-        DoublingList ours;
-        ASSERT_TRUE(ours.SubclassDlgItem(500, &Host()));
-        EXPECT_EQ(ours.presubclassed, 1);
-        EXPECT_EQ(addAndCount(), 4);
-        {
-            const MessageLog above(ourProcedureOnTop ? Host() : static_cast<CWnd&>(ours));
-            EXPECT_EQ(ours.UnsubclassWindow(), window);
-            EXPECT_EQ(addAndCount(), 3) << ourProcedureOnTop;
-        }
-        ASSERT_TRUE(ours.SubclassWindow(window));
-        EXPECT_EQ(addAndCount(), 8);
-    }
-}
-
 TEST_F(WindowTest, AMessageReachesTheChildrenBehindOneThatEndsInIt)
 {
     constexpr UINT Message = WM_APP;
