@@ -1,8 +1,6 @@
 #include "CustomDropListCombo.h"
 #include "CustomPropPage.h"
-#include "dialogs/SheetTabs.h"
 #include "dialogs/dialog_for_tests.h"
-#include "support/Fenced.h"
 
 #include <afxcmn.h>
 
@@ -213,42 +211,6 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
         EXPECT_EQ(sheet.DoModal(), IDOK);
         EXPECT_FALSE(sheet.IsModal());
         EXPECT_EQ(journal, opened == EFB ? (Journal{"begin", "end"}) : Journal());
-    }
-}
-
-// The platform's tabs as a host may have them: in one of their messages they go.
-Fenced<dialogs::SheetTabs>* endingTabs = nullptr;
-UINT lastMessage = 0;
-WNDPROC platformTabs = nullptr;
-
-LRESULT CALLBACK EndingTabs(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (message != lastMessage || endingTabs == nullptr)
-    {
-        return ::CallWindowProc(platformTabs, window, message, wParam, lParam);
-    }
-    endingTabs->DestroyWindow();
-    delete std::exchange(endingTabs, nullptr);
-    return 0;
-}
-
-TEST_F(FormWindowsTest, TabsMayEndInWhatTheyAreToldAndAsked)
-{
-    const AccessFaults faults;
-    const ModeScope mode(ONBOARD);
-    for (const UINT message : {WM_NCPAINT, TCM_GETITEMCOUNT, WM_SETFOCUS, WM_KILLFOCUS})
-    {
-        const HWND window = Add<CTabCtrl>(CRect(10, 10, 210, 110)).UnsubclassWindow();
-        lastMessage = 0;
-        platformTabs = WNDPROC(::SetWindowLongPtr(window, GWLP_WNDPROC, LONG_PTR(&EndingTabs)));
-        endingTabs = new Fenced<dialogs::SheetTabs>;
-        ASSERT_TRUE(endingTabs->SubclassWindow(window));
-        ::SetFocus(message == WM_KILLFOCUS ? window : Host());
-        lastMessage = message;
-        ::RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_UPDATENOW);
-        ::SetFocus(message == WM_SETFOCUS ? window : Host());
-        EXPECT_FALSE(::IsWindow(window)) << message;
-        EXPECT_EQ(faults.Count(), 0) << message;
     }
 }
 

@@ -73,68 +73,6 @@ TEST_F(ModeOnTheWayTest, AWindowThatOpensFollowsTheModeBack)
     }
 }
 
-TEST_F(ModeOnTheWayTest, ALabelThatAControlMakesMeanwhileIsReadLikeTheOthers)
-{
-    DialogForTests dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-    CStatic label;
-    Acting<CEdit> edit;
-    edit.SubclassWindow(*dialog.GetDlgItem(IdEdit));
-    edit.ActIn(WM_SIZE, [&] {
-        label.Create("made", WS_CHILD | WS_VISIBLE, CRect(0, 0, 60, 20), &dialog, 900);
-        label.SetFont(dialog.GetFont());
-    });
-    COnBoardUIGeneral::SetAppMode(ONBOARD);
-    EXPECT_EQ(label.GetFont(), dialog.GetDlgItem(IdLabel)->GetFont());
-    COnBoardUIGeneral::SetAppMode(STD);
-    EXPECT_EQ(label.GetFont(), dialog.GetFont());
-}
-
-TEST_F(ModeOnTheWayTest, AComboThatHearsOfTheNextModeMeanwhileIsAsItWas)
-{
-    DialogForTests dialog(form, Host());
-    for (const UINT message : {WM_WINDOWPOSCHANGING, WM_NCCALCSIZE, WM_WINDOWPOSCHANGED, WM_SIZE})
-    {
-        for (const int before : {0, 1}) // its place and its height are given one after the other
-        {
-            SCOPED_TRACE(testing::Message() << message << ' ' << before);
-            Acting<CCustomDropListCombo> combo;
-            combo.Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 160, 34), &dialog, 900);
-            combo.ActIn(
-                message, [] { COnBoardUIGeneral::SetAppMode(STD); }, before);
-            for (const int round : {1, 2})
-            {
-                COnBoardUIGeneral::SetAppMode(ONBOARD);
-                COnBoardUIGeneral::SetAppMode(STD);
-                const CRect place = PlaceIn(dialog, combo);
-                EXPECT_EQ(place.Height(), 24);
-                EXPECT_NEAR(place.left, 10, round); // less what each scaling has cut off
-                EXPECT_NEAR(place.Width(), 150, round);
-            }
-        }
-    }
-}
-
-TEST_F(ModeOnTheWayTest, AListBoxOfWholeRowsKeepsThem)
-{
-    DialogForTests dialog(form, Host());
-    CCustomListBox list;
-    list.Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL, CRect(10, 10, 160, 98), &dialog, 900);
-    list.SetFont(&CCustomListBox::GetStdFont());
-    for (int row = 0; row < 20; ++row)
-    {
-        list.AddString("waypoint");
-    }
-    const int height = WindowRectOf(list).Height();
-    for (const APPMODE mode : {ONBOARD, STD, EFB, STD})
-    {
-        COnBoardUIGeneral::SetAppMode(mode);
-        PumpAll();
-        EXPECT_TRUE(mode != STD || WindowRectOf(list).Height() == height)
-            << WindowRectOf(list).Height() << " of " << height;
-    }
-}
-
 TEST_F(ModeOnTheWayTest, APageAndItsSheetScaleOnceWhateverComesBeforeTheyAreInitialised)
 {
     std::vector<CRect> opened;
