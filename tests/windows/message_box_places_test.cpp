@@ -59,33 +59,6 @@ TEST_F(MessageBoxTest, ABoxIsExactInBothLooks)
     }
 }
 
-TEST_F(MessageBoxTest, ATextMeasuresAsItsWidestLineAndALineMoreThanItHas)
-{
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        const ModeScope scope(mode);
-        Box box("Ready", MB_OK, &Host());
-        CClientDC dc(&box);
-        CFont* const before =
-            mode == STD ? dc.GetCurrentFont() : dc.SelectObject(&CCustomDialog::m_OBStaticTextFont);
-        for (const auto& [text, widest, lines] :
-             {std::tuple("one", "one", 1),
-              {"a\nthe widest line\n\nb\n", "the widest line", 5},
-              {"\xC4\xD6 with accents\nno", "\xC4\xD6 with accents", 3}})
-        {
-            int width = 0;
-            int height = 0;
-            box.GetStaticTextSize(text, width, height);
-            EXPECT_EQ(width, dc.GetTextExtent(CString(widest)).cx) << text;
-            EXPECT_EQ(height, lines * (mode == STD ? 16 : 27)) << text;
-            width = 900;
-            box.GetStaticTextSize(text, width, height);
-            EXPECT_EQ(width, 900);
-        }
-        dc.SelectObject(before);
-    }
-}
-
 // Modes -----------------------------------------------------------------------------------------
 
 std::vector<CRect> Arrangement(const Box& box)

@@ -310,22 +310,4 @@ TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
     EXPECT_EQ(faults.Count(), 0);
 }
 
-TEST_F(MessageBoxTest, ABoxMayGoWhenItIsAskedForItsFont)
-{
-    const AccessFaults faults;
-    bool went = true;
-    int before = 0;
-    for (; went && before < 20; ++before)
-    {
-        auto* box = new Fenced<Acting<Box>>(Lines(3).c_str(), MB_YESNO);
-        box->ActIn(
-            WM_GETFONT, [&] { delete std::exchange(box, nullptr); }, before);
-        box->Create(CZepMsgBoxDlg::IDD, &Host());
-        went = box == nullptr;
-        delete box;
-        EXPECT_EQ(faults.Count(), 0) << before;
-    }
-    EXPECT_GT(before, 1);
-}
-
 } // namespace
