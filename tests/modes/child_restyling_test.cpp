@@ -34,21 +34,14 @@ void Restyle(const CWnd& parent, double scale, APPMODE mode)
         ::EnumChildWindows(parent, &ModifyChildsForAppMode, reinterpret_cast<LPARAM>(&data)));
 }
 
-// What an heir may keep of its width and place: nothing, or all before it asks the control, or
-// after that and the frame with it.
-enum class Keeps
-{
-    Nothing,
-    Before,
-    After
-};
-
 // An heir that has its own say once, right after the first message of a kind. It notes the first
 // place that it is asked to take, before that.
 template <class Base> class Heir : public Base
 {
 public:
-    Keeps keeps = Keeps::Nothing;
+    // Its width and place: once the control has had its say, with the frame, or before that.
+    bool keeps = false;
+    bool before = false;
     std::optional<WINDOWPOS> asked;
     void ActAfter(UINT message, std::function<void()> act)
     {
@@ -59,22 +52,21 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        constexpr UINT Kept = SWP_NOSIZE | SWP_NOMOVE;
         auto* const position =
             message == WM_WINDOWPOSCHANGING ? reinterpret_cast<WINDOWPOS*>(lParam) : nullptr;
         if (position != nullptr && !asked)
         {
             asked = *position;
         }
-        const bool keepsNow = position != nullptr && keeps != Keeps::Nothing &&
-                              (position->flags & SWP_NOSIZE) == 0 &&
+        constexpr UINT Kept = SWP_NOSIZE | SWP_NOMOVE;
+        const bool keepsNow = position != nullptr && keeps && (position->flags & SWP_NOSIZE) == 0 &&
                               position->cx != WindowRectOf(*this).Width();
-        if (keepsNow && keeps == Keeps::Before)
+        if (keepsNow && before)
         {
             position->flags |= Kept;
         }
         const LRESULT result = Base::WindowProc(message, wParam, lParam);
-        if (keepsNow && keeps == Keeps::After)
+        if (keepsNow && !before)
         {
             position->flags = (position->flags | Kept) & ~SWP_FRAMECHANGED;
         }
@@ -116,22 +108,6 @@ protected:
         return plain;
     }
 };
-
-TEST_F(ChildRestylingTest, PlacesScaleAndAreTruncated)
-{
-    CWnd& child = AddPlain("STATIC", CRect(0, 0, 1, 1));
-    const std::tuple<CRect, double, CRect> cases[] = {
-        {CRect(CPoint(22, 34), CSize(224, 51)), Reducing, CRect(CPoint(9, 20), CSize(99, 30))},
-        {CRect(CPoint(-10, -20), CSize(7, 3)), Enlarging, CRect(CPoint(-22, -34), CSize(15, 5))},
-        {CRect(CPoint(-10, -20), CSize(7, 3)), Reducing, CRect(CPoint(-4, -11), CSize(3, 1))},
-    };
-    for (const auto& [before, scale, after] : cases)
-    {
-        child.MoveWindow(&before);
-        Restyle(Host(), scale, ONBOARD);
-        EXPECT_EQ(PlaceIn(Host(), child), after) << before.left << " by " << scale;
-    }
-}
 
 TEST_F(ChildRestylingTest, OnlyDirectChildrenAreTouched)
 {
@@ -263,15 +239,6 @@ TEST_F(ChildPlacingTest, AnEditBreaksItsLinesForItsFontAndItsPlace)
     }
 }
 
-TEST_F(ChildPlacingTest, AListBoxIsLaidOutInItsNewPlaceAlone)
-{
-    const CCustomListBox& list = AddList(CRect(10, 20, 110, 120), LBS_NOINTEGRALHEIGHT, 1);
-    MessageLog log(list, {WM_SIZE});
-    ChangeMode(ONBOARD);
-    EXPECT_LE(log.Count(WM_SIZE), 2) << "at the new size, and once more for its bar at most";
-    EXPECT_LT(ClientRectOf(list).Width(), WindowRectOf(list).Width() - 52) << "with its bar";
-}
-
 TEST_F(ChildPlacingTest, AListBoxOfWholeRowsKeepsThemHoweverTheModeComes)
 {
     auto& list = AddList(CRect(10, 20, 160, 98), 0, 1);
@@ -382,38 +349,33 @@ TEST_F(ChildPlacingTest, AReportListKeepsItsRowsHoweverTheModeComes)
 
 TEST_F(ChildPlacingTest, AControlThatKeepsItsSizeHasTheFrameOfTheMode)
 {
-    for (const Keeps keeps : {Keeps::Before, Keeps::After})
-    {
-        SCOPED_TRACE(int(keeps));
-        auto& list = AddList(CRect(10, 20, 210, 125), 0, 1);
-        auto& edit = AddEdit(CRect(10, 130, 210, 230));
-        edit.SetWindowText(Words(100));
-        ChangeMode(ONBOARD);
-        ChangeMode(STD);
-        list.MoveWindow(10, 20, 200, 105);
-        edit.MoveWindow(10, 130, 200, 100);
-        const auto widths = [&] {
-            for (CWnd* const control : std::initializer_list<CWnd*>{&list, &edit})
-            {
-                control->RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-            }
-            return std::pair(ClientRectOf(list).Width(), ClientRectOf(edit).Width());
-        };
-        const auto standard = widths();
-        const CSize size = WindowRectOf(list).Size();
-        list.keeps = edit.keeps = keeps;
-        for (const APPMODE mode : {ONBOARD, STD, ONBOARD, STD})
+    auto& list = AddList(CRect(10, 20, 210, 125), 0, 1);
+    auto& edit = AddEdit(CRect(10, 130, 210, 230));
+    edit.SetWindowText(Words(100));
+    ChangeMode(ONBOARD);
+    ChangeMode(STD);
+    list.MoveWindow(10, 20, 200, 105);
+    edit.MoveWindow(10, 130, 200, 100);
+    const auto widths = [&] {
+        for (CWnd* const control : std::initializer_list<CWnd*>{&list, &edit})
         {
-            ChangeMode(mode);
-            const auto now = widths();
-            EXPECT_TRUE(mode == STD ? now == standard
-                                    : now.first < 200 - 52 && now.second <= 200 - 52)
-                << mode << ' ' << now.first << ' ' << now.second;
+            control->RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
         }
-        EXPECT_EQ(WindowRectOf(list).Size(), size) << "whatever the frames cut off it";
-        Remove(list);
-        Remove(edit);
+        return std::pair(ClientRectOf(list).Width(), ClientRectOf(edit).Width());
+    };
+    const auto standard = widths();
+    const CSize size = WindowRectOf(list).Size();
+    list.keeps = edit.keeps = true;
+    for (const auto& [before, mode] :
+         {std::pair(true, ONBOARD), {true, STD}, {false, ONBOARD}, {false, STD}})
+    {
+        list.before = edit.before = before;
+        ChangeMode(mode);
+        const auto now = widths();
+        EXPECT_TRUE(mode == STD ? now == standard : now.first < 200 - 52 && now.second <= 200 - 52)
+            << mode << ' ' << now.first << ' ' << now.second;
     }
+    EXPECT_EQ(WindowRectOf(list).Size(), size) << "whatever the frames cut off it";
 }
 
 TEST_F(ChildRestylingTest, ACombosHeightTakesInItsList)

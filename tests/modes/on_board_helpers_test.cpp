@@ -2,7 +2,6 @@
 #include "OnBoardUI.h"
 #include "support/Acting.h"
 #include "support/AreaHost.h"
-#include "support/Canvas.h"
 #include "support/WindowTest.h"
 
 #include <algorithm>
@@ -33,28 +32,6 @@ TEST_F(OnBoardHelpersTest, OnBoardFontsComeFromTheSystemFont)
         EXPECT_EQ(std::pair(made.lfWidth, made.lfWeight), std::pair(5L, 700L));
     }
     EXPECT_EQ(GraphicsObjects(), objects) << "the one before is not left behind";
-}
-
-TEST_F(OnBoardHelpersTest, GradientsRunFromCornerToCorner)
-{
-    constexpr COLORREF From = RGB(200, 0, 40);
-    constexpr COLORREF To = RGB(0, 100, 40);
-    CRect area(10, 10, 110, 110);
-    for (const bool vertical : {false, true})
-    {
-        Canvas canvas(120, 120);
-        ASSERT_TRUE(GradientFill(&canvas.DC(), area, From, To, vertical ? 1 : 0));
-        const auto at = [&](int along) {
-            return vertical ? canvas.At(30, along) : canvas.At(along, 30);
-        };
-        EXPECT_EQ(at(9), Canvas::Untouched);
-        EXPECT_EQ(at(10), From);
-        EXPECT_EQ(at(60), RGB(100, 50, 40));
-        EXPECT_NEAR(GetGValue(at(109)), 100, 3);
-        EXPECT_EQ(at(110), Canvas::Untouched);
-    }
-    EXPECT_FALSE(GradientFill(nullptr, area, From, To, 0));
-    EXPECT_FALSE(GradientFill(&Canvas(20, 20).DC(), area, From, To, 77)) << "no such mode";
 }
 
 TEST_F(OnBoardHelpersTest, SystemColoursComeAndGoWithTheOnBoardModes)
