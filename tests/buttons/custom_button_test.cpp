@@ -144,25 +144,7 @@ TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
     EXPECT_EQ(ours.SendMessage(BM_GETSTATE) & BST_PUSHED, 0);
 }
 
-TEST_F(WindowTest, AnOnBoardModeBeginsWithTheFocusAsItIs)
-{
-    auto& first = Add<TestPush>(ButtonPlace, 0, "First");
-    auto& second = Add<TestPush>(ButtonPlace + CPoint(0, 100), 0, "Second");
-    RestPointer();
-    // It goes elsewhere while nobody follows it.
-    for (const auto& [mode, with, without] :
-         {std::tuple(ONBOARD, &first, &second), {EFB, &second, &first}})
-    {
-        with->SetFocus();
-        SetMode(mode, Host());
-        EXPECT_TRUE(with->m_focused) << APPMODE_NAMES[mode];
-        EXPECT_FALSE(without->m_focused);
-        EXPECT_FALSE(WindowPixels(*with) == WindowPixels(*without));
-        COnBoardUIGeneral::SetAppMode(STD);
-    }
-}
-
-TEST_F(WindowTest, TheStandardModeComesBackWithTheFocusAsItIs)
+TEST_F(WindowTest, EachModeBeginsWithTheFocusAsItIs)
 {
     for (const DWORD kind : {BS_PUSHBUTTON, BS_AUTOCHECKBOX, BS_AUTORADIOBUTTON, BS_OWNERDRAW})
     {
@@ -174,6 +156,8 @@ TEST_F(WindowTest, TheStandardModeComesBackWithTheFocusAsItIs)
         const Pixels with = Settled(first);
         const Pixels without = Settled(second);
         SetMode(ONBOARD, Host());
+        EXPECT_TRUE(first.m_focused && !second.m_focused);
+        EXPECT_FALSE(WindowPixels(first) == WindowPixels(second));
         second.SetFocus();
         Host().Forget();
         SetMode(STD, Host());
@@ -182,6 +166,10 @@ TEST_F(WindowTest, TheStandardModeComesBackWithTheFocusAsItIs)
         EXPECT_NE(second.SendMessage(BM_GETSTATE) & BST_FOCUS, 0);
         EXPECT_EQ(Host().Count(WM_COMMAND), 0);
         EXPECT_EQ(second.GetButtonStyle(), kind | BS_NOTIFY);
+        first.SetFocus(); // while nobody follows it
+        SetMode(EFB, Host());
+        EXPECT_TRUE(first.m_focused && !second.m_focused);
+        COnBoardUIGeneral::SetAppMode(STD);
         Remove(first);
         Remove(second);
     }

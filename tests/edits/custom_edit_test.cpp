@@ -1,5 +1,4 @@
 #include "edits/edit_for_tests.h"
-#include "support/Canvas.h"
 
 #include <tuple>
 
@@ -169,23 +168,6 @@ TEST_F(EditTest, AnOnBoardTripLeavesThePlatformsBarAsTheHostHadIt)
             EXPECT_EQ(ClientRectOf(edit).Width(), width);
         }
         Remove(edit);
-    }
-}
-
-TEST_F(EditOnBoard, ItsBarIsPaintedWhereverItIsAskedFor)
-{
-    auto& edit = AddEdit(100);
-    const Pixels shown = WindowPixels(edit);
-    const CRect bar = edit.m_bar.GetArea();
-    const auto spoil = [&] { CWindowDC(&edit).FillSolidRect(bar, RGB(255, 0, 0)); };
-    for (int time = 0; time < 2; ++time) // the second is no news to the screen
-    {
-        Canvas paper(300, 240);
-        edit.DrawOBScrollBars(&paper.DC());
-        EXPECT_EQ(paper.Picture().At(bar.CenterPoint()), shown.At(bar.CenterPoint()));
-        spoil();
-        edit.DrawOBNC();
-        EXPECT_TRUE(Settled(edit) == shown);
     }
 }
 
