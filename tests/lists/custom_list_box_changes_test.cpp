@@ -1,8 +1,6 @@
-// Lists whose mode, columns or window changes under their bars, and arguments that go far.
+// Lists whose mode, columns or window changes under their bars.
 
 #include "lists/list_box_for_tests.h"
-
-#include <gmock/gmock.h>
 
 namespace {
 
@@ -140,26 +138,4 @@ TEST_F(ListBoxOnBoard, TheNextWindowOfAnObjectBeginsAfresh)
     DragTo(WindowPoint(list, CPoint(270, 200)), 5);
     EXPECT_EQ(list.GetTopIndex(), 0);
     Release();
-}
-
-// Limits ----------------------------------------------------------------------------------------
-
-TEST_F(ListBoxTest, AParentMayDeleteRowsWhileItIsAsked)
-{
-    auto& list = AddList(30, ListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS);
-    std::vector<UINT> asked;
-    Host().AlsoRecord({WM_MEASUREITEM});
-    Host().hook = [&](ToldMessage& told) {
-        if (told.message == WM_MEASUREITEM)
-        {
-            asked.push_back(reinterpret_cast<MEASUREITEMSTRUCT*>(told.lParam)->itemID);
-            while (list.GetCount() > 4)
-            {
-                list.DeleteString(list.GetCount() - 1);
-            }
-        }
-    };
-    SetMode(ONBOARD, list);
-    EXPECT_THAT(asked, testing::ElementsAre(0, 1, 2, 3));
-    SetMode(STD, list);
 }

@@ -25,8 +25,6 @@ TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
         {"top index", [&] { list.SetTopIndex(30); }, "v", 30, 0},
         {"search", [&] { list.SelectString(-1, "Row 7"); }, "v", 6, 0},
         {"position", [&] { EXPECT_EQ(list.ScrollTo(SB_VERT, 12), 6); }, "v", 12, 0},
-        {"thumb", [&] { list.SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 25)); }, "v", 25,
-         0},
         {"end", [&] { list.SetTopIndex(199); }, "v", End, 0},
         {"negative position", [&] { list.ScrollTo(SB_VERT, -5); }, "v", 0, 0},
         {"huge position", [&] { list.ScrollTo(SB_VERT, INT_MAX); }, "v", End, 0},

@@ -3,7 +3,6 @@
 #include "CustomDialog.h"
 #include "lists/ComboLayout.h"
 #include "lists/combo_for_tests.h"
-#include "support/Acting.h"
 
 #include <gmock/gmock.h>
 
@@ -173,28 +172,6 @@ TEST_F(ComboTest, AListOfTheCallersStaysTheCallers)
     EXPECT_FALSE(other.HasList());
     Remove(combo);
     EXPECT_EQ(list.GetSafeHwnd(), nullptr); // its window served the combo
-}
-
-TEST_F(ComboTest, AComboMayEndItselfWhileItsOpenListIsTakenAway)
-{
-    CCustomComboLBox list;
-    const std::function<void(CCustomDropListCombo&)> takings[] = {
-        [](auto& combo) { combo.DetachCustomComboLBox(); },
-        [&](auto& combo) { combo.SetCustomComboLBox(&list); },
-        [](auto& combo) { combo.SetCustomComboLBox(nullptr); }};
-    const AccessFaults faults;
-    for (const auto& take : takings)
-    {
-        auto* combo = new Fenced<Acting<ComboForTests>>;
-        combo->Create(WS_CHILD | WS_VISIBLE, CRect(50, 50, 250, 80), &Host(), ComboId);
-        combo->Fill(3);
-        combo->ToggleDropList();
-        combo->ActIn(WM_CAPTURECHANGED, [&] { delete std::exchange(combo, nullptr); });
-        take(*combo);
-        EXPECT_EQ(combo, nullptr);
-        EXPECT_EQ(list.GetComboParent(), nullptr);
-        EXPECT_EQ(faults.Count(), 0) << &take - takings;
-    }
 }
 
 TEST_F(ComboTest, AComboOfATemplateWorksWithoutAnObjectOfTheHosts)

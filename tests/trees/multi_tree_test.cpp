@@ -317,12 +317,9 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
 
 TEST_F(MultiTreeTest, WhatAHostSetsOnBoardIsAsIfItHadBeenSetBefore)
 {
-    CImageList small;
     CImageList large;
-    small.Create(16, 16, ILC_COLOR24, 1, 1);
     large.Create(64, 64, ILC_COLOR24, 1, 1);
     const Act<MultiTree&> settings[] = {
-        {"pictures", [&](MultiTree& tree) { tree.SetImageList(&small, TVSIL_NORMAL); }},
         {"large pictures", [&](MultiTree& tree) { tree.SetImageList(&large, TVSIL_NORMAL); }},
         {"and no more",
          [&](MultiTree& tree) {
