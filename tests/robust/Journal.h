@@ -5,32 +5,9 @@
 
 #include <afxcmn.h>
 
-#include <concepts>
 #include <sstream>
 #include <string>
-
-// What a message answered, as text.
-struct Answer
-{
-    std::string text;
-
-    template <std::integral Number>
-    Answer(Number number)
-        : text(std::to_string(number))
-    {}
-    Answer(const std::string& string)
-        : text('"' + string + '"')
-    {}
-    Answer(const CString& string)
-        : Answer(std::string(string))
-    {}
-    Answer(const CPoint& point)
-        : text(std::to_string(point.x) + '/' + std::to_string(point.y))
-    {}
-    Answer(const CRect& rect)
-        : text(Answer(rect.TopLeft()).text + '-' + Answer(rect.BottomRight()).text)
-    {}
-};
+#include <tuple>
 
 // An item of a tree by its text: handles differ.
 inline CString Named(HWND tree, HTREEITEM item)
@@ -53,6 +30,19 @@ template <class... Values> std::string Joined(const Values&... values)
     std::ostringstream line;
     ((line << ' ' << values), ...);
     return line.str();
+}
+
+// What a message answered.
+template <class Value> std::string Written(const Value& value)
+{
+    if constexpr (std::is_base_of_v<RECT, Value>)
+    {
+        return Joined(value.left, value.top, value.right, value.bottom);
+    }
+    else
+    {
+        return Joined(value);
+    }
 }
 
 template <class Record> const Record& About(const NMHDR& header)
@@ -167,13 +157,10 @@ public:
         ForgetClipboard();
     }
 
-    void Add(int line, std::initializer_list<Answer> answers)
+    template <class... Answers> void Add(int line, const std::tuple<Answers...>& answers)
     {
-        m_text += "line " + std::to_string(line) + ':';
-        for (const Answer& answer : answers)
-        {
-            m_text += ' ' + answer.text;
-        }
+        m_text += "line" + Joined(line) + ':';
+        std::apply([this](const auto&... each) { ((m_text += Written(each)), ...); }, answers);
         m_text += '\n';
         PumpAll();
     }
@@ -183,26 +170,26 @@ public:
     std::function<void(ToldMessage&)> answer;
 
     // Input. The points are the control's, of its window.
-    Answer Key(UINT key, UINT held = 0)
+    int Key(UINT key, UINT held = 0)
     {
         m_control.SetFocus();
         TypeKey(key, held);
-        return key;
+        return int(key);
     }
     // To whatever has the focus.
-    static Answer Enter(const char* text, UINT key)
+    static int Enter(const char* text, UINT key)
     {
         TypeText(text);
         TypeKey(key);
-        return key;
+        return int(key);
     }
-    Answer Press(int x, int y)
+    int Press(int x, int y)
     {
         QueueClick(WindowPoint(m_control, CPoint(x, y)));
         return 0;
     }
     // In runs with a change of modes it happens here.
-    Answer Middle()
+    int Middle()
     {
         if (m_inTheMiddle)
         {
@@ -240,4 +227,4 @@ private:
 };
 
 // Several answers: left to right, as braces have it.
-#define ASK(...) journal.Add(__LINE__, {__VA_ARGS__})
+#define ASK(...) journal.Add(__LINE__, std::tuple{__VA_ARGS__})

@@ -64,9 +64,6 @@ DWORD WINAPI EndWhatCannotBeSaid(void*)
         ::Sleep(1000);
     }
     ::Sleep(3000);
-    constexpr char Words[] = "Hung, in the heap\n";
-    DWORD written = 0;
-    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), Words, sizeof(Words) - 1, &written, nullptr);
     ::TerminateProcess(::GetCurrentProcess(), 3);
     return 0;
 }

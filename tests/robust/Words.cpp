@@ -133,6 +133,7 @@ const std::vector<Word> AnyWords = {
     {WM_GETTEXT, Fixed, Buffer, 0x100}, {WM_GETTEXTLENGTH}, {WM_GETFONT}, {WM_GETDLGCODE},
     {WM_SETTINGCHANGE}, {WM_THEMECHANGED}, {WM_FONTCHANGE}, {WM_DISPLAYCHANGE, Fixed, None, 32},
     {WM_PARENTNOTIFY, Fixed, Point, WM_LBUTTONDOWN}, {WM_QUERYNEWPALETTE},
+    {WM_NCCALCSIZE, Flag}, {WM_MOVING}, // without the record that belongs to them
 };
 // clang-format on
 

@@ -110,22 +110,4 @@ TEST_P(MessageStorm, LeavesTheControlSound)
 INSTANTIATE_TEST_SUITE_P(Of, MessageStorm, testing::ValuesIn(Subjects()),
                          [](const auto& info) { return TestName(info.param.name); });
 
-TEST_F(WindowTest, ControlsPassOverMessagesThatComeWithoutTheirRecord)
-{
-    for (const Subject& subject : Subjects())
-    {
-        for (const APPMODE mode : {STD, ONBOARD})
-        {
-            const ModeScope scope(mode);
-            const std::unique_ptr<CWnd> window = subject.make(Host());
-            for (const BOOL flag : {FALSE, TRUE})
-            {
-                window->SendMessage(WM_NCCALCSIZE, WPARAM(flag), 0);
-                window->SendMessage(WM_MOVING, WPARAM(flag), 0);
-            }
-            EXPECT_EQ(FaultOf(*window).value_or(""), "") << subject.name;
-        }
-    }
-}
-
 } // namespace

@@ -34,9 +34,7 @@ void Pick(CListBox& list, Journal& journal)
             list.GetItemData(row));
     }
     const auto layout = [&] {
-        return CString((Answer(ClientRectOf(list)).text + ' ' +
-                        std::to_string(list.GetStyle() & (WS_HSCROLL | WS_VSCROLL)))
-                           .c_str());
+        return Written(ClientRectOf(list)) + Joined(list.GetStyle() & (WS_HSCROLL | WS_VSCROLL));
     };
     ASK(layout(), list.GetCaretIndex(), list.GetAnchorIndex(), journal.Key(VK_DOWN),
         journal.Key(VK_END, VK_SHIFT), list.GetCurSel(), list.GetSelCount(), journal.Press(30, 20),
