@@ -118,18 +118,4 @@ TEST_F(SmallGallery, ThePointerScrollsAPageAsFarAsItGoes)
     EXPECT_EQ(Top(), 0);
 }
 
-TEST_F(SmallGallery, AHeldTroughScrollsUpToThePointer)
-{
-    Open(STD, int(GalleryPage::SizeInMode().cy) * 7 / 10);
-    CWnd& bar = Part(IDC_PAGE_DOWN);
-    const CRect area = ClientRectOf(bar);
-    Press(ClientPoint(bar, CPoint(area.right / 2, area.bottom * 3 / 5)));
-    const int pressed = Top();
-    EXPECT_GT(pressed, 0);
-    EXPECT_TRUE(PumpUntil([&] { return Top() > pressed; })) << "it repeats";
-    PumpFor(600);
-    EXPECT_LT(Top(), Hidden());
-    Release();
-}
-
 } // namespace

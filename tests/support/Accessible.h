@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 struct Releaser
@@ -55,11 +54,7 @@ struct Read
     Read(IAccessible& object, long child)
     {
         VARIANT number = {};
-        BSTR text = nullptr;
-        if (SUCCEEDED(object.get_accRole(Child(child), &number)))
-        {
-            role = number.lVal;
-        }
+        role = SUCCEEDED(object.get_accRole(Child(child), &number)) ? number.lVal : -1;
         if (SUCCEEDED(object.get_accState(Child(child), &number)))
         {
             state = number.lVal &
@@ -72,30 +67,22 @@ struct Read
                 state |= number.lVal & STATE_SYSTEM_FOCUSABLE; // which is odd then
             }
         }
-        if (SUCCEEDED(object.get_accName(Child(child), &text)))
-        {
-            name = Taken(std::exchange(text, nullptr));
-        }
-        if (SUCCEEDED(object.get_accDefaultAction(Child(child), &text)))
-        {
-            action = Taken(std::exchange(text, nullptr));
-        }
-        if (SUCCEEDED(object.get_accValue(Child(child), &text)))
-        {
-            value = Taken(std::exchange(text, nullptr));
-        }
-        if (SUCCEEDED(object.get_accDescription(Child(child), &text)))
-        {
-            description = Taken(text);
-        }
+        const auto text = [&](auto get) {
+            BSTR given = nullptr;
+            return SUCCEEDED((object.*get)(Child(child), &given)) ? Taken(given) : "(error)";
+        };
+        name = text(&IAccessible::get_accName);
+        action = text(&IAccessible::get_accDefaultAction);
+        value = text(&IAccessible::get_accValue);
+        description = text(&IAccessible::get_accDescription);
     }
 
     long role = -1;
     long state = -1;
-    std::string name = "(error)";
-    std::string action = "(error)";
-    std::string value = "(error)";
-    std::string description = "(error)";
+    std::string name;
+    std::string action;
+    std::string value;
+    std::string description;
 };
 
 // Where it says that a child is, on the screen; empty where it is refused.

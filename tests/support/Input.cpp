@@ -4,11 +4,6 @@
 
 namespace {
 
-void Send(const INPUT& input)
-{
-    ::SendInput(1, const_cast<INPUT*>(&input), sizeof(input));
-}
-
 void SendMouse(DWORD flags, CPoint point = CPoint(0, 0), int data = 0)
 {
     INPUT input = {};
@@ -21,12 +16,7 @@ void SendMouse(DWORD flags, CPoint point = CPoint(0, 0), int data = 0)
         input.mi.dx = point.x * 65536 / ::GetSystemMetrics(SM_CXSCREEN) + 1;
         input.mi.dy = point.y * 65536 / ::GetSystemMetrics(SM_CYSCREEN) + 1;
     }
-    Send(input);
-}
-
-void SendMove(CPoint point)
-{
-    SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, point);
+    ::SendInput(1, &input, sizeof(input));
 }
 
 void SendKey(UINT key, DWORD flags)
@@ -40,7 +30,7 @@ void SendKey(UINT key, DWORD flags)
     {
         input.ki.dwFlags |= KEYEVENTF_EXTENDEDKEY; // not those of the number pad
     }
-    Send(input);
+    ::SendInput(1, &input, sizeof(input));
 }
 
 void MouseAndPump(DWORD flags, int data = 0, CPoint point = CPoint(0, 0))
@@ -78,7 +68,7 @@ CRect WindowRectOf(HWND window)
 
 void MoveTo(CPoint point)
 {
-    SendMove(point);
+    QueueMove(point);
     PumpAll();
 }
 
@@ -145,15 +135,15 @@ void RestPointer()
 
 void QueueClick(CPoint point)
 {
-    SendMove(point);
-    SendMouse(MOUSEEVENTF_LEFTDOWN);
-    SendMouse(MOUSEEVENTF_LEFTUP);
+    QueueMove(point);
+    QueueButton(true);
+    QueueButton(false);
     PumpAll();
 }
 
 void QueueMove(CPoint point)
 {
-    SendMove(point);
+    SendMouse(MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE, point);
 }
 
 void QueueButton(bool down, bool right)

@@ -5,18 +5,6 @@ namespace {
 
 using SupportTest = WindowTest;
 
-TEST_F(SupportTest, PixelsAreThoseOfTheScreen)
-{
-    auto& label = Add<CStatic>(CRect(20, 30, 80, 60), WS_BORDER);
-    constexpr COLORREF Ink = RGB(10, 200, 30);
-    CClientDC(&label).FillSolidRect(ClientRectOf(label), Ink);
-    const Pixels whole = WindowPixels(label);
-    EXPECT_EQ(whole.Count(Ink), 58 * 28) << "the border belongs to it";
-    EXPECT_EQ(whole, ScreenPixels(WindowRectOf(label)));
-    CClientDC(&label).SetPixelV(57, 27, RGB(10, 200, 31));
-    EXPECT_NE(whole, WindowPixels(label));
-}
-
 TEST_F(SupportTest, LiveObjectsAreCounted)
 {
     ::DeleteObject(::CreatePen(PS_SOLID, 1, RGB(1, 2, 3)));

@@ -1,6 +1,5 @@
 #include "GMSUtil.h"
 #include "SpecialConfigVals.h"
-#include "YAUL.h"
 
 #include <gtest/gtest.h>
 
@@ -28,19 +27,6 @@ TEST(SpecialConfigVals, NumbersAndTextsAreOneTableThatAnswersTheDefaultUntilSet)
     }
     ClearSpecialConfigVals();
     EXPECT_EQ(GetSpecialConfigVal("Dialog", "Width", 7), 7);
-}
-
-TEST(KArrayTest, NothingIsBeyondIt)
-{
-    KArray items;
-    int item = 0;
-    EXPECT_EQ(items.Add(&item), 0);
-    for (const int index : {-1, 1, INT_MAX})
-    {
-        EXPECT_EQ(items.GetAt(index), nullptr);
-        EXPECT_FALSE(items.SetAt(index, nullptr) || items.RemoveAt(index));
-    }
-    EXPECT_EQ(items.GetAt(0), &item);
 }
 
 } // namespace
