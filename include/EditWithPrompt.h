@@ -15,7 +15,8 @@ class ONBOARDUI_API EditWithPrompt : public CEdit
 public:
     EditWithPrompt();
 
-    // Empties the edit and shows the prompt again.
+    // Empties the edit and shows the prompt again. A parent may ask for it whenever it is told that
+    // the edit is empty: while the prompt comes or goes it does nothing.
     void Reset();
 
     // @{
@@ -67,7 +68,8 @@ protected:
     CBrush m_brush;
 
 private:
-    UINT m_passwordChar = 0; // put aside while the prompt shows; 0: the text is shown
+    UINT m_passwordChar = 0;    // put aside while the prompt shows; 0: the text is shown
+    bool m_showingText = false; // the prompt comes or goes
 
     bool BeginPrompt();
     bool LeavePrompt();

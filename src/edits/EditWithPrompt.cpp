@@ -30,6 +30,7 @@ void EditWithPrompt::PreSubclassWindow()
     CEdit::PreSubclassWindow();
     m_showingPrompt = 0;
     m_passwordChar = 0;
+    m_showingText = false;
     if (!m_prompt.IsEmpty() && BeginPrompt()) // each window of the object begins with it
     {
         // The messages are not ours yet: an edit that exists takes them as any text and selection,
@@ -61,9 +62,16 @@ int EditWithPrompt::OnCreate(LPCREATESTRUCT cs)
 // Past the rules of what counts as a text.
 void EditWithPrompt::ShowText(const char* text)
 {
-    if (GetSafeHwnd() != nullptr)
+    if (GetSafeHwnd() == nullptr)
     {
-        CEdit::DefWindowProc(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+        return;
+    }
+    const WindowAlive alive(*this);
+    const bool outer = std::exchange(m_showingText, true);
+    CEdit::DefWindowProc(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)); // the parent is told
+    if (alive)
+    {
+        m_showingText = outer;
     }
 }
 
@@ -123,7 +131,9 @@ bool EditWithPrompt::EndPrompt()
 
 void EditWithPrompt::Reset()
 {
-    if (BeginPrompt())
+    // A parent asks for it whenever it is told of an edit without a text. The prompt is on its way
+    // then, or the user has just begun.
+    if (!m_showingText && BeginPrompt())
     {
         ShowPrompt();
     }

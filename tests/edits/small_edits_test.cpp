@@ -101,6 +101,28 @@ TEST_F(SmallEditsTest, PromptRules)
     EXPECT_STREQ(given, "") << "a size beyond all numbers";
 }
 
+TEST_F(SmallEditsTest, AParentMayBringThePromptBackWhereverTheEditIsEmpty)
+{
+    PromptSeen edit;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == EN_CHANGE && edit.GetWindowTextLength() == 0)
+        {
+            edit.Reset();
+        }
+    };
+    edit.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(20, 20, 220, 50), &Host(), 5);
+    edit.Reset();
+    EXPECT_EQ(edit.Shown(), "<Enter text here>");
+    edit.SetFocus();
+    TypeText("q");
+    EXPECT_EQ(TextOf(edit) + edit.Shown(), "qq");
+    TypeKey(VK_BACK);
+    EXPECT_EQ(TextOf(edit) + edit.Shown(), "<Enter text here>");
+    Click(ClientPoint(edit, CPoint(9, 9)));
+    EXPECT_EQ(edit.Shown(), "") << "the user begins";
+    edit.DestroyWindow();
+}
+
 TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
 {
     auto& edit = Add<PromptSeen>(CRect(20, 20, 260, 60));
