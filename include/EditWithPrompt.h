@@ -70,9 +70,11 @@ protected:
 private:
     UINT m_passwordChar = 0;    // put aside while the prompt shows; 0: the text is shown
     bool m_showingText = false; // the prompt comes or goes
+    bool m_promptDue = false;   // the edit was there before the object: its next message puts it in
 
     bool BeginPrompt();
     bool LeavePrompt();
+    bool PutDuePromptIn();
     void ShowText(const char* text);
     void ShowPrompt();
     bool EndPrompt();

@@ -28,17 +28,19 @@ EditWithPrompt::EditWithPrompt()
 void EditWithPrompt::PreSubclassWindow()
 {
     CEdit::PreSubclassWindow();
-    m_showingPrompt = 0;
+    m_showingPrompt = m_prompt.IsEmpty() ? 0 : 1; // each window of the object begins with it
     m_passwordChar = 0;
     m_showingText = false;
-    if (!m_prompt.IsEmpty() && BeginPrompt()) // each window of the object begins with it
+    m_promptDue = false;
+    // An edit has a line from its making on; one that is being made gets the prompt when it is
+    // ready for a text. In one that was there the prompt waits until the edit's messages are ours:
+    // the parent is told of it and would read it as a text.
+    const WindowAlive alive(*this);
+    const bool wasThere = ::SendMessage(m_hWnd, EM_GETLINECOUNT, 0, 0) > 0;
+    if (alive)
     {
-        // The messages are not ours yet: an edit that exists takes them as any text and selection,
-        // and one that is being made gets the prompt when it is ready for a text. The parent is
-        // told of the text and may end the edit.
-        const HWND window = m_hWnd;
-        ::SetWindowText(window, m_prompt);
-        ::SendMessage(window, EM_SETSEL, 0, 0);
+        m_promptDue = m_showingPrompt != 0 && wasThere;
+        ::InvalidateRect(m_hWnd, nullptr, TRUE); // the message at the latest
     }
 }
 
@@ -91,6 +93,10 @@ void EditWithPrompt::ShowPrompt()
 bool EditWithPrompt::BeginPrompt()
 {
     const WindowAlive alive(*this);
+    if (std::exchange(m_promptDue, false))
+    {
+        m_showingPrompt = 0; // it counts as shown since the edit was taken over
+    }
     if (!m_showingPrompt)
     {
         m_passwordChar = GetSafeHwnd() != nullptr ? UINT(GetPasswordChar()) : 0;
@@ -139,10 +145,22 @@ void EditWithPrompt::Reset()
     }
 }
 
+// False when the edit did not survive it.
+bool EditWithPrompt::PutDuePromptIn()
+{
+    const WindowAlive alive(*this);
+    const bool due = m_promptDue;
+    if (due)
+    {
+        Reset();
+    }
+    return !due || alive;
+}
+
 void EditWithPrompt::SetPromptText(const char* prompt)
 {
     m_prompt = prompt != nullptr ? prompt : "";
-    if (!m_showingPrompt)
+    if (!PutDuePromptIn() || !m_showingPrompt)
     {
         return;
     }
@@ -193,6 +211,10 @@ void EditWithPrompt::GetWindowText(CString& text) const
 
 LRESULT EditWithPrompt::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message != WM_DESTROY && message != WM_NCDESTROY && !PutDuePromptIn())
+    {
+        return 0;
+    }
     if (m_showingPrompt)
     {
         switch (message)

@@ -144,10 +144,35 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
     edit.DestroyWindow();
     ASSERT_TRUE(edit.Create(WS_CHILD | WS_VISIBLE, CRect(20, 20, 260, 60), &Host(), 5));
     EXPECT_EQ(edit.Shown(), "<Enter text here>");
-    PromptSeen taker;
-    taker.SubclassWindow(Add<CEdit>(CRect(20, 80, 260, 110)).UnsubclassWindow());
-    EXPECT_EQ(taker.Shown(), "<Enter text here>") << "of an edit that was there";
-    taker.DestroyWindow();
+}
+
+TEST_F(SmallEditsTest, ThePromptOfAnEditThatWasThereIsNoTextEither)
+{
+    for (const char* const given : {"", "EDDF"}) // what the parent sets when it is told
+    {
+        SCOPED_TRACE(given);
+        auto& before = Add<CEdit>(CRect(20, 80, 260, 110));
+        before.SetWindowText("text");
+        PromptSeen taker;
+        std::string read;
+        Host().hook = [&](ToldMessage& told) {
+            CString text;
+            Host().GetDlgItemText(int(told.id), text);
+            read += text;
+            if (told.code == EN_CHANGE && text.IsEmpty())
+            {
+                taker.SetWindowText(given);
+            }
+        };
+        taker.SubclassWindow(before.UnsubclassWindow());
+        EXPECT_EQ(TextOf(taker), "");
+        PumpAll(); // without another message it comes with the next paint
+        EXPECT_EQ(TextOf(taker), given);
+        EXPECT_EQ(taker.Shown(), *given == '\0' ? "<Enter text here>" : given);
+        EXPECT_EQ(read.find('<'), std::string::npos);
+        Host().hook = nullptr;
+        taker.DestroyWindow();
+    }
 }
 
 TEST_F(SmallEditsTest, APromptIsReadWhereAPasswordIsNot)
@@ -155,6 +180,7 @@ TEST_F(SmallEditsTest, APromptIsReadWhereAPasswordIsNot)
     auto& edit = Add<PromptSeen>(CRect(20, 20, 260, 60), ES_PASSWORD);
     PromptSeen taker;
     taker.SubclassWindow(Add<CEdit>(CRect(20, 80, 260, 110), ES_PASSWORD).UnsubclassWindow());
+    PumpAll();
     for (PromptSeen* const each : {&edit, &taker})
     {
         EXPECT_FALSE(each->IsHidden());
