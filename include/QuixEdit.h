@@ -19,10 +19,11 @@ public:
     // it else becomes 0 wide at (0, 0); a window that exists moves there.
     void SetFixedPlace(int x, int y, int width);
 
-    // Whether the last key was Escape.
+    // Whether the last key was Escape, since this window began.
     bool EscapePressed() const { return m_escapePressed != 0; }
 
     BOOL PreTranslateMessage(MSG* message) override;
+    void PreSubclassWindow() override;
 
     // @{
     // What assistive programs are told: a text box, named by the label before it.

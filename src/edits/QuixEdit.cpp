@@ -44,6 +44,13 @@ constexpr WPARAM ControlBits = 0x1F;
 
 } // namespace
 
+void QuixEdit::PreSubclassWindow()
+{
+    CEdit::PreSubclassWindow();
+    m_escapePressed = 0; // that was the window before
+    m_doneCharacter = 0;
+}
+
 void QuixEdit::SetFixedPlace(int x, int y, int width)
 {
     m_fixedX = x;

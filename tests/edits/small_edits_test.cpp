@@ -234,6 +234,12 @@ TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidthAndKnowsOfEscape)
         edit.PreTranslateMessage(&pressed);
         EXPECT_EQ(TextOf(edit), text) << key;
     }
+    edit.SetFixedPlace(40, 30, 150);
+    MSG escape = {edit, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+    edit.PreTranslateMessage(&escape);
+    edit.DestroyWindow();
+    edit.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(), &Host(), 5);
+    EXPECT_FALSE(edit.EscapePressed()) << "that was the window before";
     keys[VK_CONTROL] = 0;
     ::SetKeyboardState(keys);
 }
