@@ -6,8 +6,8 @@
 
 // An edit that stays where its host fixed it, whatever layout its parent does: only its height
 // follows. Ctrl+C, Ctrl+V, Ctrl+X and Ctrl+Z work on its text even where the host's accelerators
-// take these keys. All else is the platform's in every mode: it has no bar for a finger and asks
-// for no on-screen keyboard.
+// take these keys, but copy no password. All else is the platform's in every mode: it has no bar
+// for a finger and asks for no on-screen keyboard.
 class ONBOARDUI_API QuixEdit : public CEdit
 {
     DECLARE_DYNAMIC(QuixEdit)

@@ -16,8 +16,8 @@ QuixEdit::QuixEdit()
 
 namespace {
 
-// What a key does while Ctrl is held; 0 for nothing.
-UINT ClipboardMessageOf(WPARAM key)
+// What a key does while Ctrl is held; 0 for nothing of its own.
+UINT ClipboardMessageOf(WPARAM key, bool password)
 {
     // With Alt as well it is a character of the keyboard's third level.
     if (!IsKeyDown(VK_CONTROL) || IsKeyDown(VK_MENU))
@@ -27,11 +27,11 @@ UINT ClipboardMessageOf(WPARAM key)
     switch (key)
     {
     case 'C':
-        return WM_COPY;
+        return password ? 0 : WM_COPY; // the message copies what the key does not
     case 'V':
         return WM_PASTE;
     case 'X':
-        return WM_CUT;
+        return password ? 0 : WM_CUT;
     case 'Z':
         return EM_UNDO;
     default:
@@ -82,7 +82,7 @@ BOOL QuixEdit::PreTranslateMessage(MSG* message)
     if (message->message == WM_KEYDOWN)
     {
         m_escapePressed = message->wParam == VK_ESCAPE;
-        const UINT clipboard = ClipboardMessageOf(message->wParam);
+        const UINT clipboard = ClipboardMessageOf(message->wParam, (GetStyle() & ES_PASSWORD) != 0);
         m_doneCharacter = clipboard != 0 ? message->wParam & ControlBits : 0;
         if (clipboard != 0)
         {

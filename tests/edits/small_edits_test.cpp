@@ -238,8 +238,16 @@ TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidthAndKnowsOfEscape)
     MSG escape = {edit, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
     edit.PreTranslateMessage(&escape);
     edit.DestroyWindow();
-    edit.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(), &Host(), 5);
+    edit.Create(WS_CHILD | WS_VISIBLE | ES_PASSWORD | ES_AUTOHSCROLL, CRect(), &Host(), 5);
     EXPECT_FALSE(edit.EscapePressed()) << "that was the window before";
+    edit.SetWindowText("secret");
+    for (const UINT key : {'C', 'X', 'V'})
+    {
+        edit.SetSel(0, key == 'V' ? 0 : -1);
+        MSG pressed = {edit, WM_KEYDOWN, key, 1, 0, {}};
+        edit.PreTranslateMessage(&pressed);
+    }
+    EXPECT_EQ(TextOf(edit), "asecret") << "no password in the clipboard";
     keys[VK_CONTROL] = 0;
     ::SetKeyboardState(keys);
 }
