@@ -151,6 +151,7 @@ private:
     // @{
     // Whether the button is still there, be it without a window.
     bool SurvivesEnd();
+    bool EndOutOfReach();
     bool NoteMode();
     // @}
     void GiveBackFocus();

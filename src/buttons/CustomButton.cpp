@@ -45,7 +45,8 @@ CFont CCustomButton::m_Font;
 
 namespace {
 
-// Hidden or disabled, by itself or with a window above it.
+// Hidden or disabled, by itself or with a window above it. A window that is not redrawn for a while
+// is taken for hidden.
 bool IsOutOfReach(HWND window)
 {
     if (!::IsWindowVisible(window))
@@ -95,16 +96,15 @@ void CCustomButton::PreSubclassWindow()
     CButton::PreSubclassWindow();
 }
 
-// The first question of every handler. A press ends here that a change of the mode or a hidden or
-// disabled parent has cut off: none of them sends the button a message.
+// The first question of every handler. A press ends here that a change of the mode has cut off,
+// which sends the button no message.
 std::optional<bool> CCustomButton::FollowMode()
 {
     if (!NoteMode())
     {
         return std::nullopt;
     }
-    if (m_tracking && (COnBoardUIGeneral::GetAppMode() != m_trackedIn || IsOutOfReach(m_hWnd)) &&
-        !SurvivesEnd())
+    if (m_tracking && COnBoardUIGeneral::GetAppMode() != m_trackedIn && !SurvivesEnd())
     {
         return std::nullopt;
     }
@@ -169,6 +169,14 @@ bool CCustomButton::FollowOrPass(LRESULT* answer)
         }
     }
     return onBoard.value_or(false);
+}
+
+// Asked first where input comes. A press ends here that a hidden or disabled parent has cut off,
+// which sends the button no message either. Nowhere else: a host that holds back the painting of
+// its form asks and sets its buttons then.
+bool CCustomButton::EndOutOfReach()
+{
+    return !m_tracking || !IsOutOfReach(m_hWnd) || SurvivesEnd();
 }
 
 // Ends a press; whether the button is still there, be it without a window.

@@ -10,7 +10,7 @@
 
 void CCustomButton::OnLButtonDown(UINT, CPoint)
 {
-    if (!FollowOrPass())
+    if (!EndOutOfReach() || !FollowOrPass())
     {
         return;
     }
@@ -26,7 +26,7 @@ void CCustomButton::OnLButtonUp(UINT, CPoint point)
 {
     const WindowAlive alive(*this);
     const bool inside = InButtonRect(point);
-    const auto onBoard = FollowMode();
+    const auto onBoard = EndOutOfReach() ? FollowMode() : std::nullopt;
     if (!onBoard)
     {
         return;
@@ -71,7 +71,7 @@ void CCustomButton::OnLButtonDblClk(UINT flags, CPoint point)
 
 void CCustomButton::OnMouseMove(UINT, CPoint point)
 {
-    if (!FollowOrPass())
+    if (!EndOutOfReach() || !FollowOrPass())
     {
         return;
     }

@@ -118,6 +118,19 @@ TEST_F(ButtonOnBoard, APressThatIsCutOffLeavesNothingHeld)
     }
 }
 
+TEST_F(ButtonOnBoard, AFormThatIsRedrawnInOneGoEndsNoPress)
+{
+    auto& box = Add<TestCheckBox>(ButtonPlace, 0, "Direct", ButtonId);
+    Press(box.Middle());
+    Host().SetRedraw(FALSE);
+    box.SetWindowText("Direct TOBAK");
+    EXPECT_EQ(Host().IsDlgButtonChecked(ButtonId), UINT(BST_UNCHECKED));
+    Host().SetRedraw(TRUE);
+    Repaint(Host());
+    Release();
+    EXPECT_EQ(box.GetCheck(), BST_CHECKED);
+}
+
 TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
 {
     auto& ours = Add<TestCheckBox>(ButtonPlace, BS_AUTOCHECKBOX, "Box");
