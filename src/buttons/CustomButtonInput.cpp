@@ -52,10 +52,10 @@ void CCustomButton::OnLButtonUp(UINT, CPoint point)
             }
         }
         EndTracking();
-        if (alive)
-        {
-            m_mouseDown = false;
-        }
+    }
+    if (alive)
+    {
+        m_mouseDown = false;
     }
     if (alive && inside)
     {

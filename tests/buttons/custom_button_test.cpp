@@ -129,6 +129,11 @@ TEST_F(ButtonOnBoard, AFormThatIsRedrawnInOneGoEndsNoPress)
     Repaint(Host());
     Release();
     EXPECT_EQ(box.GetCheck(), BST_CHECKED);
+
+    Press(box.Middle());
+    COnBoardUIGeneral::SetAppMode(STD);
+    Release();
+    EXPECT_FALSE(box.m_mouseDown) << "in whichever mode it comes up";
 }
 
 TEST_F(WindowTest, InTheStandardModeThePlatformsButtonDraws)
