@@ -1,6 +1,7 @@
 #include "BoldStatic.h"
 
 #include "OnBoardUIGeneral.h"
+#include "buttons/OwnGround.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 
@@ -65,17 +66,9 @@ LRESULT CBoldStatic::OnLookChanged(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this); // the parent is told
     const LRESULT result = Default();
-    if (alive && IsWindowVisible())
+    if (alive)
     {
-        // The label has no ground of its own: what it stands on takes the old text away.
-        CRect place;
-        GetWindowRect(&place);
-        if (CWnd* const parent = GetParent(); parent != nullptr)
-        {
-            parent->ScreenToClient(&place);
-            parent->InvalidateRect(&place);
-        }
-        Invalidate();
+        InvalidateWithGround(*this);
     }
     return result;
 }

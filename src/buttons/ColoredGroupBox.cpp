@@ -1,13 +1,16 @@
 #include "ColoredGroupBox.h"
 
 #include "OnBoardUIGeneral.h"
+#include "buttons/OwnGround.h"
 #include "modes/TellParent.h"
+#include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 
 BEGIN_MESSAGE_MAP(CColoredGroupBox, CStatic)
     ON_WM_PAINT()
     ON_WM_ENABLE()
+    ON_WM_SIZE()
     ON_MESSAGE(WM_SETTEXT, &CColoredGroupBox::OnSetText)
 END_MESSAGE_MAP()
 
@@ -40,6 +43,18 @@ void CColoredGroupBox::OnPaint()
     dc.LineTo(box.right, box.bottom);
     dc.LineTo(box.left, box.bottom);
     dc.LineTo(box.left, box.top);
+}
+
+// The platform keeps what is painted and asks for the rest alone; a wide outline leaves its lower
+// and its right line then.
+void CColoredGroupBox::OnSize(UINT type, int width, int height)
+{
+    const WindowAlive alive(*this);
+    CStatic::OnSize(type, width, height);
+    if (alive && COnBoardUIGeneral::InOnBoardMode())
+    {
+        InvalidateWithGround(*this);
+    }
 }
 
 // The platform's label would draw its text at once, over what nobody paints again, and tell the

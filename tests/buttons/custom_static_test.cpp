@@ -220,4 +220,10 @@ TEST_F(WindowTest, ASwatchIsItsColourAndAnOutlineHasItsExclusiveEdges)
     // Three pixels about each line: two on the left and at the top, one on the other sides.
     EXPECT_EQ(wide.Count(Green), 100 * 60 - 97 * 57);
     EXPECT_EQ(wide.Count(Green, CRect(2, 2, 99, 59)), 0);
+    outline.ModifyStyleEx(0, WS_EX_TRANSPARENT); // the host clips what is not
+    for (const CSize size : {CSize(160, 120), CSize(90, 50)})
+    {
+        outline.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER);
+        EXPECT_TRUE(ShowsWhatAPaintWould(Host())) << "no line where its edges were";
+    }
 }
