@@ -110,6 +110,7 @@ constexpr Forbidden PlatformFaults[] = {
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_GETDISPINFO)}},
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_ITEMCHANGING)}, 0, true, true},
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_DELETEITEM)}, 0, true, true},
+    {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_DELETEALLITEMS)}},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDTRACK)}, 0, false},
     // In the middle of a click, with which it goes on.
     {WC_HEADER, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}, 0, false},
