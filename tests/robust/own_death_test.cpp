@@ -155,8 +155,17 @@ protected:
         Host().SendMessage(WM_MEASUREITEM, id, reinterpret_cast<LPARAM>(&height));
     }
 
+    template <class Act>
+    bool Comes(const Heard& word, const Subject& subject, APPMODE mode, const std::string& title,
+               Act act, bool making)
+    {
+        Give(subject, mode, title, {}, act, making);
+        return std::ranges::find(m_heard, word) != m_heard.end();
+    }
+
     // Once without an end, and once for each end on the way. On a busy machine the focus may change
-    // by itself in a play, which then takes another course: it is played again.
+    // by itself in a play, which then takes another course: it is played again. What was only heard
+    // because of that does not come without an end either.
     template <class Act>
     void GiveAll(const Subject& subject, APPMODE mode, const std::string& what, Act act,
                  bool making = false)
@@ -175,7 +184,7 @@ protected:
             {
                 ended = Give(subject, mode, title + end, word, act, making);
             }
-            EXPECT_TRUE(ended) << title << end;
+            EXPECT_TRUE(ended || !Comes(word, subject, mode, title, act, making)) << title << end;
         }
     }
 };
