@@ -241,7 +241,7 @@ TEST_F(SmallEditsTest, AFixedEditKeepsItsPlaceAndWidthAndKnowsOfEscape)
     edit.Create(WS_CHILD | WS_VISIBLE | ES_PASSWORD | ES_AUTOHSCROLL, CRect(), &Host(), 5);
     EXPECT_FALSE(edit.EscapePressed()) << "that was the window before";
     edit.SetWindowText("secret");
-    for (const UINT key : {'C', 'X', 'V'})
+    for (const UINT key : {UINT('C'), UINT('X'), UINT('V')})
     {
         edit.SetSel(0, key == 'V' ? 0 : -1);
         MSG pressed = {edit, WM_KEYDOWN, key, 1, 0, {}};
