@@ -17,5 +17,6 @@
 #include "framework/Controls.h"
 #include "framework/DataExchange.h"
 #include "framework/Dialog.h"
+#include "framework/Exceptions.h"
 #include "framework/Frame.h"
 #include "framework/View.h"

@@ -1,6 +1,8 @@
 #include "framework/App.h"
 
 #include "GdiMaps.h"
+#include "Guarded.h"
+#include "Idle.h"
 #include "ThreadState.h"
 #include "framework/Frame.h"
 
@@ -54,7 +56,10 @@ BOOL CWinThread::PumpMessage()
     }
     // A handler may pump in turn, which overwrites m_msgCur.
     MSG message = m_msgCur;
-    if (!PreTranslateMessage(&message))
+    const MSG own = message;
+    BOOL done = TRUE; // also when that throws
+    framework::CallGuarded(own, [&] { return done = PreTranslateMessage(&message); });
+    if (!done)
     {
         ::TranslateMessage(&message);
         ::DispatchMessage(&message);

@@ -10,9 +10,6 @@
 #include <string>
 #include <type_traits>
 
-IMPLEMENT_DYNAMIC(CException, CObject)
-IMPLEMENT_DYNAMIC(CUserException, CException)
-
 HWND CDataExchange::PrepareCtrl(int id)
 {
     m_lastControl = ::GetDlgItem(m_pDlgWnd->m_hWnd, id);

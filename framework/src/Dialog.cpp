@@ -1,6 +1,7 @@
 #include "framework/Dialog.h"
 
 #include "DisabledOwner.h"
+#include "Guarded.h"
 #include "StillThere.h"
 #include "framework/App.h"
 
@@ -69,13 +70,8 @@ private:
 
 } // namespace
 
-INT_PTR CALLBACK CDialog::DialogProc(HWND dialog, UINT message, WPARAM, LPARAM)
+BOOL CDialog::Initialise(HWND dialog, CDialog* object)
 {
-    auto* object = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(dialog));
-    if (message != WM_INITDIALOG || object == nullptr)
-    {
-        return FALSE;
-    }
     const auto gone = [&] { return FromHandlePermanent(dialog) != object; };
     CFont* const font = object->GetFont();
     if (font != nullptr && !gone())
@@ -87,6 +83,28 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND dialog, UINT message, WPARAM, LPARAM)
         object->PreInitDialog();
     }
     return !gone() && object->OnInitDialog();
+}
+
+INT_PTR CALLBACK CDialog::DialogProc(HWND dialog, UINT message, WPARAM, LPARAM)
+{
+    auto* object = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(dialog));
+    if (message != WM_INITDIALOG || object == nullptr)
+    {
+        return FALSE;
+    }
+    // The platform stands between this and the window's own procedure.
+    const MSG current = *GetCurrentMessage();
+    bool threw = true;
+    const LRESULT focus = framework::CallGuarded(current, [&] {
+        const LRESULT wanted = Initialise(dialog, object);
+        threw = false;
+        return wanted;
+    });
+    if (FromHandlePermanent(dialog) == object)
+    {
+        object->m_initThrew = threw;
+    }
+    return focus;
 }
 
 BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance)
@@ -101,6 +119,7 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HIN
         CWnd* const main = AfxGetMainWnd();
         parent = main == this ? nullptr : main;
     }
+    m_initThrew = false;
     AfxHookWindowCreate(this);
     const HWND window = ::CreateDialogIndirectParam(
         instance == nullptr ? AfxGetResourceHandle() : instance, dialogTemplate,
@@ -108,6 +127,11 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HIN
     if (!AfxUnhookWindowCreate())
     {
         PostNcDestroy();
+    }
+    if (window != nullptr && FromHandlePermanent(window) == this && m_initThrew)
+    {
+        DestroyWindow();
+        return FALSE;
     }
     return window != nullptr;
 }
@@ -203,12 +227,13 @@ void CDialog::EndDialog(int result)
     }
 }
 
-// One that has ended at its initialisation is not shown, whatever its template says.
+// One that has ended or thrown at its initialisation is not shown, whatever its template says.
 void CDialog::OnWindowPosChanging(WINDOWPOS* position)
 {
     const framework::StillThere here(*this);
     CWnd::OnWindowPosChanging(position);
-    if (here && m_modalDialog && m_modalEnded && (position->flags & SWP_SHOWWINDOW) != 0)
+    const bool ended = here && (m_initThrew || (m_modalDialog && m_modalEnded));
+    if (ended && (position->flags & SWP_SHOWWINDOW) != 0)
     {
         position->flags &= ~UINT(SWP_SHOWWINDOW);
         position->flags |= SWP_NOACTIVATE | SWP_NOZORDER;

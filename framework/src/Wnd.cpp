@@ -2,7 +2,8 @@
 
 #include "framework/Wnd.h"
 
-#include "GdiMaps.h"
+#include "Guarded.h"
+#include "Idle.h"
 #include "StillThere.h"
 #include "ThreadState.h"
 #include "TypedWindows.h"
@@ -317,13 +318,15 @@ LRESULT CALLBACK CWnd::Procedure(HWND window, UINT message, WPARAM wParam, LPARA
     MSG& current = CurrentThreadState().current;
     const MSG outer = current;
     const DWORD position = ::GetMessagePos();
-    current = {window,
-               message,
-               wParam,
-               lParam,
-               DWORD(::GetMessageTime()),
-               {GET_X_LPARAM(position), GET_Y_LPARAM(position)}};
-    const LRESULT result = wnd->WindowProc(message, wParam, lParam);
+    const MSG own = {window,
+                     message,
+                     wParam,
+                     lParam,
+                     DWORD(::GetMessageTime()),
+                     {GET_X_LPARAM(position), GET_Y_LPARAM(position)}};
+    current = own;
+    const LRESULT result =
+        framework::CallGuarded(own, [&] { return wnd->WindowProc(message, wParam, lParam); });
     current = outer;
     return result;
 }

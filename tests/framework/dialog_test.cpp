@@ -248,6 +248,10 @@ TEST_F(DialogTest, AModelessOneWithoutAParentBelongsToTheMainWindow)
 {
     const MainWindowScope main(Host());
     Form dialog(form);
+    dialog.inInit = &AfxThrowUserException;
+    EXPECT_FALSE(dialog.CreateIndirect(form)) << "it was not initialised";
+    EXPECT_EQ(dialog.GetSafeHwnd(), nullptr);
+    dialog.inInit = [] {};
     ASSERT_TRUE(dialog.CreateIndirect(form));
     EXPECT_EQ(::GetWindow(dialog, GW_OWNER), Host().m_hWnd);
     CDialog child;
@@ -272,6 +276,7 @@ TEST_F(DialogTest, KeysButtonsAndItsOwnHandlersEndIt)
         {false, [](Form& d) { d.DestroyWindow(); }, -1},
         {true, [](Form& d) { d.DestroyWindow(); }, -1},
         {true, [](Form& d) { d.EndDialog(9); }, 9},
+        {true, [](Form&) { AfxThrowUserException(); }, -1},
         {false, [](Form&) { ::PostQuitMessage(5); }, -1},
     };
     const DialogTemplate visible = FormTemplate(WS_VISIBLE);

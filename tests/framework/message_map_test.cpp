@@ -3,6 +3,10 @@
 #include "support/Fenced.h"
 #include "support/WindowTest.h"
 
+#include <afxext.h>
+
+#include <functional>
+#include <new>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -200,6 +204,107 @@ TEST_F(MessageMap, AskingWhoHandlesACommandDoesNotRunIt)
         EXPECT_EQ(button.IsWindowEnabled(), enabled) << id;
     }
     EXPECT_EQ(panel.journal, Journal());
+// Exceptions ------------------------------------------------------------------------------------
+
+// Throws in the messages of one number.
+class Thrower : public CWnd
+{
+public:
+    UINT throwsIn = 0;
+    bool throwsBefore = false; // any message is dispatched
+    std::function<void()> act;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == throwsIn)
+        {
+            act();
+        }
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+    BOOL PreTranslateMessage(MSG*) override
+    {
+        if (throwsBefore)
+        {
+            act();
+        }
+        return FALSE;
+    }
+};
+
+int liveExceptions = 0;
+
+class Counted : public CException
+{
+public:
+    Counted() { ++liveExceptions; }
+    ~Counted() override { --liveExceptions; }
+};
+
+TEST_F(MessageMap, AnExceptionOutOfAHandlerGoesNoFurtherThanItsWindow)
+{
+    constexpr UINT AnswerBox = WM_APP + 4;
+    std::string said;
+    Host().AlsoRecord({AnswerBox});
+    Host().hook = [&](ToldMessage& told) {
+        const HWND box = ::GetLastActivePopup(Host());
+        if (told.message == AnswerBox && box != Host().m_hWnd)
+        {
+            char text[200] = {};
+            ::GetDlgItemText(box, 0xFFFF, text, sizeof(text));
+            said = text;
+            ::SendMessage(box, WM_COMMAND, IDOK, 0);
+        }
+    };
+    auto& thrower = Add<Thrower>(CRect(0, 0, 50, 50));
+    // The message, what is thrown, the result, and what the user is told.
+    const std::tuple<UINT, std::function<void()>, LRESULT, const char*> cases[] = {
+        {WM_APP, [] { throw new Counted; }, 0, "Internal application error."},
+        {WM_COMMAND, &AfxThrowNotSupportedException, TRUE,
+         "Command failed.\n\nThis is not supported."},
+        {WM_APP, [] { throw std::bad_alloc(); }, 0,
+         "Internal application error.\n\nOut of memory."},
+        {WM_APP, &AfxThrowUserException, 0, ""}, // he knows
+        {WM_PAINT, &AfxThrowUserException, 0, ""},
+    };
+    Host().SetForegroundWindow();
+    for (const auto& [message, act, result, text] : cases)
+    {
+        said.clear();
+        thrower.throwsIn = message;
+        thrower.act = act;
+        thrower.Invalidate();
+        Host().PostMessage(AnswerBox);
+        EXPECT_EQ(thrower.SendMessage(message, 12), result) << message;
+        thrower.throwsIn = 0;
+        EXPECT_EQ(thrower.GetUpdateRect(nullptr), message != WM_PAINT);
+        PumpAll();
+        EXPECT_EQ(said, text);
+    }
+    EXPECT_EQ(liveExceptions, 0);
+
+    Thrower unborn;
+    unborn.act = &AfxThrowUserException;
+    unborn.throwsIn = WM_CREATE;
+    EXPECT_FALSE(unborn.Create(nullptr, "", WS_CHILD, CRect(0, 0, 9, 9), &Host(), 1));
+    EXPECT_EQ(unborn.GetSafeHwnd(), nullptr);
+    thrower.act = &AfxThrowUserException;
+    thrower.throwsBefore = true;
+    thrower.PostMessage(WM_APP);
+    EXPECT_TRUE(AfxPumpMessage()) << "nor does one on the way to the handlers";
+    thrower.throwsBefore = false;
+    // Whose message it is afterwards.
+    bool back = false;
+    Host().hook = [&](ToldMessage&) {
+        thrower.throwsIn = WM_APP;
+        thrower.SendMessage(WM_APP);
+        back = CWnd::GetCurrentMessage()->hwnd == Host().m_hWnd;
+    };
+    Host().SendMessage(WM_COMMAND, 1);
+    EXPECT_TRUE(back);
+}
+
 }
 
 TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)

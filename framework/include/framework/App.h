@@ -19,6 +19,8 @@ public:
 
     virtual BOOL InitApplication() { return TRUE; }
     int Run() override;
+    // Tells the user as well, unless he knows (CUserException).
+    LRESULT ProcessWndProcException(CException* thrown, const MSG* message) override;
 
     HICON LoadIcon(LPCSTR name) const;
     HICON LoadIcon(UINT id) const { return LoadIcon(MAKEINTRESOURCE(id)); }

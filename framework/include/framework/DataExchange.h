@@ -1,25 +1,7 @@
 #pragma once
 
+#include "framework/Exceptions.h"
 #include "framework/Wnd.h"
-
-// Thrown by pointer, as the framework's exceptions are; who catches one deletes it.
-class FRAMEWORK_API CException : public CObject
-{
-    DECLARE_DYNAMIC(CException)
-
-public:
-    CException() = default;
-    void Delete() { delete this; }
-};
-
-// An operation that the user ended.
-class FRAMEWORK_API CUserException : public CException
-{
-    DECLARE_DYNAMIC(CUserException)
-
-public:
-    CUserException() = default;
-};
 
 // One exchange between a dialog's members and its controls.
 class FRAMEWORK_API CDataExchange

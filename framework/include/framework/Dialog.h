@@ -14,7 +14,8 @@ public:
     explicit CDialog(UINT templateId, CWnd* parent = nullptr);
     ~CDialog() override;
 
-    // Modeless; without a parent the dialog belongs to the application's main window.
+    // Modeless; without a parent the dialog belongs to the application's main window. An exception
+    // out of OnInitDialog ends it, and it was not created.
     virtual BOOL Create(LPCSTR templateName, CWnd* parent = nullptr);
     virtual BOOL Create(UINT templateId, CWnd* parent = nullptr);
     // The template in memory stays the caller's and must last until the window exists.
@@ -73,5 +74,8 @@ protected:
 private:
     bool m_modalDialog = false; // between the start and the end of DoModal
     bool m_modalEnded = false;  // EndDialog was called, or the window has gone
+    bool m_initThrew = false;
     int m_endValue = -1;
+
+    static BOOL Initialise(HWND dialog, CDialog* object);
 };

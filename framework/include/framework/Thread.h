@@ -2,6 +2,8 @@
 
 #include "framework/Wnd.h"
 
+class CException;
+
 // A thread's message loop.
 class FRAMEWORK_API CWinThread : public CCmdTarget
 {
@@ -25,6 +27,10 @@ public:
     virtual BOOL OnIdle(LONG count);
     virtual BOOL IsIdleMessage(MSG* message);
     virtual CWnd* GetMainWnd() { return m_pMainWnd; }
+    // A handler of this message threw, and nobody caught it; gives the message's result. The window
+    // that was to be created is not, what was to be painted is done with, and else nothing happens.
+    // The exception is deleted afterwards.
+    virtual LRESULT ProcessWndProcException(CException* thrown, const MSG* message);
 
 private:
     UINT m_lastMove = 0;
