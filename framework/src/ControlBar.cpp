@@ -32,6 +32,10 @@ void CControlBar::SetBarStyle(DWORD style)
 BOOL CControlBar::CreateBar(LPCSTR className, CWnd* parent, DWORD controlStyle, DWORD style,
                             UINT id)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE;
+    }
     SetBarStyle(style);
     const DWORD placedByFrame = CCS_NOPARENTALIGN | CCS_NORESIZE | CCS_NODIVIDER;
     return framework::UseCommonControls() &&

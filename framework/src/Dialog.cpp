@@ -109,6 +109,10 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND dialog, UINT message, WPARAM, LPARAM)
 
 BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HINSTANCE instance)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE;
+    }
     if (dialogTemplate == nullptr)
     {
         PostNcDestroy();
@@ -181,6 +185,10 @@ BOOL CDialog::InitModalIndirect(HGLOBAL dialogTemplate, CWnd* parent)
 
 INT_PTR CDialog::DoModal()
 {
+    if (m_hWnd != nullptr)
+    {
+        return -1;
+    }
     HINSTANCE module = nullptr;
     const TemplateMemory memory(m_hDialogTemplate);
     LPCDLGTEMPLATE dialogTemplate =

@@ -22,6 +22,10 @@ const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
 BOOL CFrameWnd::Create(LPCSTR className, LPCSTR windowName, DWORD style, const RECT& rect,
                        CWnd* parent, LPCSTR menuName, DWORD exStyle, CCreateContext* context)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE;
+    }
     HMENU menu = nullptr;
     if (menuName != nullptr)
     {

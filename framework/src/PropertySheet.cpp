@@ -372,6 +372,10 @@ void CPropertySheet::StyleTemplate(void* dialogTemplate) const
 
 BOOL CPropertySheet::Create(CWnd* parent, DWORD style, DWORD exStyle)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE;
+    }
     m_modal = false;
     if (!CreateSheet(parent, style, exStyle))
     {
@@ -416,6 +420,10 @@ void CPropertySheet::HideButtons()
 
 INT_PTR CPropertySheet::DoModal()
 {
+    if (m_hWnd != nullptr)
+    {
+        return -1;
+    }
     framework::DisabledOwner owner(m_pParentWnd);
     m_modal = true;
     m_ended = false;

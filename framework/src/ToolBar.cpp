@@ -19,6 +19,10 @@ CToolTipCtrl* CToolBarCtrl::GetToolTips() const
 
 BOOL CToolBar::CreateEx(CWnd* parent, DWORD controlStyle, DWORD style, CRect borders, UINT id)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE;
+    }
     SetBorders(borders);
     const DWORD tips = (style & CBRS_TOOLTIPS) != 0 ? TBSTYLE_TOOLTIPS : 0;
     if (!CreateBar(TOOLBARCLASSNAME, parent, controlStyle | tips, style, id))

@@ -288,6 +288,10 @@ CFormView::CFormView(UINT templateId)
 BOOL CFormView::Create(LPCSTR, LPCSTR windowName, DWORD requestedStyle, const RECT& rect,
                        CWnd* parent, UINT id, CCreateContext*)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE;
+    }
     const HINSTANCE module = AfxFindResourceHandle(m_lpszTemplateName, RT_DIALOG);
     const HRSRC found = ::FindResource(module, m_lpszTemplateName, RT_DIALOG);
     const auto* dialogTemplate =

@@ -225,6 +225,10 @@ BOOL AfxUnhookWindowCreate()
 BOOL CWnd::CreateEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y,
                     int width, int height, HWND parent, HMENU idOrMenu, LPVOID param)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE;
+    }
     CREATESTRUCT cs = {param,       AfxGetInstanceHandle(),
                        idOrMenu,    parent,
                        height,      width,

@@ -207,6 +207,10 @@ BOOL CCustomDialog::CreateOB(UINT id, CWnd* parent)
 
 BOOL CCustomDialog::CreateFrom(LPCSTR templateName, CWnd* parent)
 {
+    if (GetSafeHwnd() != nullptr)
+    {
+        return FALSE;
+    }
     m_lpszTemplateName = templateName;
     const OpeningPtr opening = OpenFrom(templateName, HINSTANCE(nullptr));
     m_opening = opening;
@@ -221,7 +225,7 @@ BOOL CCustomDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, 
 
 BOOL CCustomDialog::CreateIndirect(HGLOBAL dialogTemplate, CWnd* parent)
 {
-    if (!COnBoardUIGeneral::InOnBoardMode())
+    if (GetSafeHwnd() != nullptr || !COnBoardUIGeneral::InOnBoardMode())
     {
         return CDialog::CreateIndirect(dialogTemplate, parent);
     }
@@ -234,6 +238,10 @@ BOOL CCustomDialog::CreateIndirect(HGLOBAL dialogTemplate, CWnd* parent)
 BOOL CCustomDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent,
                                       HINSTANCE instance)
 {
+    if (GetSafeHwnd() != nullptr)
+    {
+        return FALSE;
+    }
     OpeningPtr opening = m_opening;
     if (opening == nullptr || !opening->IsPending())
     {
@@ -313,6 +321,10 @@ bool CCustomDialog::IsModal()
 
 INT_PTR CCustomDialog::DoModal()
 {
+    if (GetSafeHwnd() != nullptr)
+    {
+        return -1; // it has its window, and may be in its loop
+    }
     m_inModalLoop = true;
     INT_PTR result = -1;
     {

@@ -224,6 +224,10 @@ bool CCustomPropSheet::IsModal()
 
 INT_PTR CCustomPropSheet::DoModal()
 {
+    if (GetSafeHwnd() != nullptr)
+    {
+        return -1; // it has its window, and may be in its loop
+    }
     m_inModalLoop = true;
     INT_PTR result = -1;
     {

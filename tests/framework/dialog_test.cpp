@@ -101,12 +101,17 @@ protected:
 TEST_F(DialogTest, AModalDialogReturnsWhatEndedItAndDisablesItsOwnerMeanwhile)
 {
     Form dialog(form, &Host());
+    int round = 1;
     CWnd held; // by a press that a timer's dialog comes into
     held.CreateEx(0, "STATIC", "", WS_POPUP | WS_VISIBLE, CRect(20, 20, 80, 80), nullptr, 0);
     dialog.inLoop = [&] {
         EXPECT_EQ(::GetCapture(), nullptr);
         EXPECT_FALSE(Host().IsWindowEnabled());
         EXPECT_EQ(::GetFocus(), ::GetDlgItem(dialog, IdEdit)) << "the first tab stop";
+        EXPECT_EQ(dialog.DoModal(), -1) << "it has its window";
+        EXPECT_FALSE(dialog.CreateIndirect(form, &Host()));
+        EXPECT_FALSE(Host().IsWindowEnabled());
+        EXPECT_EQ(dialog.gone, round - 1);
         Form inner(form, &dialog);
         inner.inLoop = [&] {
             EXPECT_FALSE(dialog.IsWindowEnabled());
@@ -117,7 +122,7 @@ TEST_F(DialogTest, AModalDialogReturnsWhatEndedItAndDisablesItsOwnerMeanwhile)
         EXPECT_FALSE(Host().IsWindowEnabled());
         dialog.EndDialog(4711);
     };
-    for (int round = 1; round <= 2; ++round) // an object can run more than once
+    for (; round <= 2; ++round) // an object can run more than once
     {
         held.SetCapture();
         EXPECT_EQ(dialog.DoModal(), 4711);

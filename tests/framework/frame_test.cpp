@@ -100,6 +100,7 @@ TEST_F(WindowTest, AFrameMakesItsViewWhichIsAskedFirstAndEndsWithItOrForWantOfIt
                                 "frame instead of view", "activate"}));
 
     EXPECT_EQ(liveObjects, 2);
+    EXPECT_FALSE(frame->Create(nullptr, "Second")) << "it has its window";
     frame->SendMessage(WM_CLOSE);
     EXPECT_EQ(MakeFrame(RUNTIME_CLASS(CView)), nullptr) << "no view, no frame";
     EXPECT_EQ(liveObjects, 0);

@@ -108,6 +108,9 @@ TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
         sheet.inLoop = [&] {
             EXPECT_FALSE(Host().IsWindowEnabled());
             EXPECT_EQ(second.GetSafeHwnd(), nullptr) << "made when it is first shown";
+            EXPECT_EQ(sheet.DoModal(), -1) << "it has its window";
+            EXPECT_FALSE(sheet.Create(&Host()));
+            EXPECT_EQ(sheet.GetPageIndex(&second), 1);
             EXPECT_EQ(TakeJournal(), (Journal{"first init", "first active"}));
             first.SetDlgItemText(IDC_TEST_EDIT, "typed");
             if (bothShown)

@@ -82,6 +82,8 @@ TEST_F(WndTest, TheObjectIsThereBeforeTheFirstMessage)
     ASSERT_TRUE(window.Make(&Host()));
     AfxGetApp()->m_pMainWnd = &window;
     EXPECT_EQ(TakeJournal(), (Journal{"bound", "nccreate", "create"}));
+    EXPECT_FALSE(window.Make(&Host())) << "it has its window";
+    EXPECT_EQ(TakeJournal(), Journal());
     window.DestroyWindow();
     EXPECT_EQ(TakeJournal(), (Journal{"destroy", "ncdestroy", "gone"}));
     EXPECT_FALSE(window.DestroyWindow());

@@ -67,7 +67,8 @@ public:
     // Last chance before the first message of a window that is created or subclassed.
     virtual void PreSubclassWindow() {}
 
-    // Creation and destruction
+    // Creation and destruction. An object has one window at a time: asked for another, it declines,
+    // and nothing changes.
     virtual BOOL Create(LPCSTR className, LPCSTR windowName, DWORD style, const RECT& rect,
                         CWnd* parent, UINT id, CCreateContext* context = nullptr);
     BOOL CreateEx(DWORD exStyle, LPCSTR className, LPCSTR windowName, DWORD style, int x, int y,
