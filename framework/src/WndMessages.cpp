@@ -8,8 +8,45 @@
 
 using framework::StillThere;
 
+namespace {
+
+// Messages that say everything where lParam points to.
+bool NeedsData(UINT message)
+{
+    switch (message)
+    {
+    case WM_NOTIFY:
+    case WM_DRAWITEM:
+    case WM_MEASUREITEM:
+    case WM_COMPAREITEM:
+    case WM_DELETEITEM:
+    case WM_WINDOWPOSCHANGING:
+    case WM_WINDOWPOSCHANGED:
+    case WM_NCCALCSIZE:
+    case WM_GETMINMAXINFO:
+    case WM_STYLECHANGING:
+    case WM_STYLECHANGED:
+    case WM_MOVING:
+    case WM_SIZING:
+    case WM_CREATE:
+    case WM_NCCREATE:
+    case WM_COPYDATA:
+    case WM_HELP:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
 BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
+    if (lParam == 0 && NeedsData(message))
+    {
+        *result = 0; // neither a handler nor the platform could do anything with it
+        return TRUE;
+    }
     if (message == WM_COMMAND)
     {
         *result = 0;
@@ -17,7 +54,7 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
     }
     if (message == WM_NOTIFY)
     {
-        return lParam != 0 && OnNotify(wParam, lParam, result);
+        return OnNotify(wParam, lParam, result);
     }
     const bool colour = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
     AFX_MSGCALL m = {message, wParam, lParam, 0, nullptr, 0};

@@ -305,6 +305,32 @@ TEST_F(MessageMap, AnExceptionOutOfAHandlerGoesNoFurtherThanItsWindow)
     EXPECT_TRUE(back);
 }
 
+TEST_F(MessageMap, AMessageWithoutItsDataReachesNoHandler)
+{
+    struct Framed : CFrameWnd
+    {
+        void PostNcDestroy() override {}
+    } frame;
+    ASSERT_TRUE(frame.Create(nullptr, "Frame", WS_POPUP, CRect(0, 0, 90, 90)));
+    CDialog dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(DialogTemplate(CRect(0, 0, 80, 40)), &Host()));
+    CStatusBar bar;
+    ASSERT_TRUE(bar.Create(&frame));
+    auto& list = Add<CListBox>(CRect(0, 0, 50, 50), LBS_OWNERDRAWFIXED);
+    const AccessFaults faults;
+    for (CWnd* const window : {static_cast<CWnd*>(&frame), static_cast<CWnd*>(&dialog),
+                               static_cast<CWnd*>(&bar), static_cast<CWnd*>(&list)})
+    {
+        for (const UINT message :
+             {WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_COMPAREITEM, WM_DELETEITEM,
+              WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED, WM_NCCALCSIZE, WM_GETMINMAXINFO,
+              WM_STYLECHANGING, WM_STYLECHANGED, WM_MOVING, WM_SIZING, WM_CREATE, WM_NCCREATE,
+              WM_COPYDATA, WM_HELP})
+        {
+            EXPECT_EQ(window->SendMessage(message), 0) << message;
+        }
+    }
+    EXPECT_EQ(faults.Count(), 0);
 }
 
 TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)
