@@ -116,6 +116,22 @@ TEST_F(WndTest, ACreationThatFailsEndsOnceAndLeavesNothing)
 
 // Handles and objects ---------------------------------------------------------------------------
 
+// Called with what the compiler does not know; the pointers are looked at after the calls.
+#if defined(__GNUC__)
+__attribute__((noinline, no_sanitize("null")))
+#endif
+bool HaveNoHandles(const CWnd* window, const CMenu* menu, const CDC* dc, const CFont* font)
+{
+    return window->GetSafeHwnd() == nullptr && menu->GetSafeHmenu() == nullptr &&
+           dc->GetSafeHdc() == nullptr && font->GetSafeHandle() == nullptr && window == nullptr &&
+           menu == nullptr && dc == nullptr && font == nullptr;
+}
+
+TEST_F(WndTest, NothingHasNoHandle)
+{
+    EXPECT_TRUE(HaveNoHandles(nullptr, nullptr, nullptr, nullptr));
+}
+
 TEST_F(WndTest, TemporaryObjectsOwnNothingAndEndWhenIdle)
 {
     const HWND plain = PlainChild(Host());

@@ -24,7 +24,7 @@ public:
     BOOL m_bPrinting = FALSE;
 
     operator HDC() const { return m_hDC; }
-    HDC GetSafeHdc() const { return m_hDC; }
+    HDC GetSafeHdc() const { return framework::SafeHandle(this, &CDC::m_hDC); }
     static CDC* PASCAL FromHandle(HDC handle);
     static void PASCAL DeleteTempMap();
     BOOL IsPrinting() const { return m_bPrinting; }

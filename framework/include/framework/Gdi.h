@@ -21,7 +21,7 @@ public:
     HGDIOBJ m_hObject = nullptr;
 
     operator HGDIOBJ() const { return m_hObject; }
-    HGDIOBJ GetSafeHandle() const { return m_hObject; }
+    HGDIOBJ GetSafeHandle() const { return framework::SafeHandle(this, &CGdiObject::m_hObject); }
     // An object of the class that suits the handle.
     static CGdiObject* PASCAL FromHandle(HGDIOBJ handle);
     static void PASCAL DeleteTempMap();

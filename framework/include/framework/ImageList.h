@@ -16,7 +16,10 @@ public:
     HIMAGELIST m_hImageList = nullptr;
 
     operator HIMAGELIST() const { return m_hImageList; }
-    HIMAGELIST GetSafeHandle() const { return m_hImageList; }
+    HIMAGELIST GetSafeHandle() const
+    {
+        return framework::SafeHandle(this, &CImageList::m_hImageList);
+    }
     static CImageList* PASCAL FromHandle(HIMAGELIST handle);
     static CImageList* PASCAL FromHandlePermanent(HIMAGELIST handle);
     static void PASCAL DeleteTempMap();

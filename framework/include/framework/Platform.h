@@ -46,6 +46,21 @@
 #endif
 #define ASSERT_VALID(object) ASSERT((object) != nullptr)
 
+namespace framework {
+
+FRAMEWORK_API void Trace(LPCSTR format, ...);
+
+// The handle of an object, null for a null object: the functions with Safe in their name may be
+// called on a null pointer. That takes a compiler which does not conclude from the call that there
+// is an object; whoever links the framework tells it so (-fno-delete-null-pointer-checks).
+template <class Object, class Handle>
+Handle SafeHandle(const Object* object, Handle Object::*handle)
+{
+    return object == nullptr ? nullptr : object->*handle;
+}
+
+} // namespace framework
+
 #if !defined(WM_REFLECT_BASE)
 // Private to a thread's own windows: a notification on its way back to the control that sent it.
 #define WM_REFLECT_BASE 0xBC00

@@ -47,7 +47,7 @@ public:
     ~CWnd() override;
 
     HWND m_hWnd = nullptr;
-    HWND GetSafeHwnd() const { return m_hWnd; }
+    HWND GetSafeHwnd() const { return framework::SafeHandle(this, &CWnd::m_hWnd); }
     operator HWND() const { return m_hWnd; }
     bool operator==(const CWnd& other) const { return m_hWnd == other.m_hWnd; }
 
