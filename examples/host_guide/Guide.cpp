@@ -343,8 +343,11 @@ void FlightDialog::OnForm()
     CCreateContext form = {};
     form.m_pNewViewClass = RUNTIME_CLASS(RemarksForm);
     auto* const frame = new CFrameWnd; // deletes itself with its window, as the form does
-    frame->Create(nullptr, "Remarks", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(80, 80, 620, 320),
-                  this, nullptr, 0, &form);
+    if (frame->Create(nullptr, "Remarks", WS_OVERLAPPEDWINDOW, CRect(80, 80, 620, 320), this,
+                      nullptr, 0, &form))
+    {
+        frame->InitialUpdateFrame(nullptr, TRUE); // initialises the form and shows the frame
+    }
 }
 
 LRESULT FlightDialog::OnEndSession(WPARAM ending, LPARAM)

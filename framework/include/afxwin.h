@@ -11,6 +11,8 @@
 
 #include "framework/DeviceContext.h"
 
+#include "framework/Menu.h"
+
 #include "framework/Wnd.h"
 
 #include "framework/App.h"

@@ -81,31 +81,41 @@ BOOL CALLBACK Collect(HWND window, LPARAM windows)
     return TRUE;
 }
 
-// The bars of all frames of the thread; who answers a bar may end any of them.
-void UpdateBarsOfFrames()
+} // namespace
+
+namespace framework {
+
+// Who answers a bar may end any of them.
+void UpdateBarsOfFrames(bool onlyEnabled)
 {
     std::vector<HWND> windows;
     ::EnumThreadWindows(::GetCurrentThreadId(), &Collect, reinterpret_cast<LPARAM>(&windows));
     for (const HWND window : windows)
     {
         auto* frame = DYNAMIC_DOWNCAST(CFrameWnd, CWnd::FromHandlePermanent(window));
-        if (frame != nullptr)
+        if (frame != nullptr && (!onlyEnabled || frame->IsWindowEnabled()))
         {
             frame->UpdateBars();
         }
     }
 }
 
-} // namespace
+void DeleteTemporaryObjects()
+{
+    CWnd::DeleteTempMap();
+    CMenu::DeleteTempMap();
+    DeleteTemporaryGdiObjects();
+}
+
+} // namespace framework
 
 BOOL CWinThread::OnIdle(LONG count)
 {
     if (count == 0)
     {
-        UpdateBarsOfFrames();
+        framework::UpdateBarsOfFrames(false);
     }
-    CWnd::DeleteTempMap();
-    framework::DeleteTemporaryGdiObjects();
+    framework::DeleteTemporaryObjects();
     return FALSE;
 }
 

@@ -3,6 +3,8 @@
 #include "ThreadState.h"
 #include "framework/Wnd.h"
 
+#include <utility>
+
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 
 const AFX_MSGMAP* PASCAL CCmdTarget::GetThisMessageMap()
@@ -79,7 +81,8 @@ bool CCmdTarget::DispatchCommand(UINT mapNumber, UINT code, AFX_MSGCALL& m,
                 info->pTarget = this;
                 return true;
             }
-            return entry.call(this, m);
+            const bool handled = entry.call(this, m);
+            return handled && (m.ui == nullptr || !std::exchange(m.ui->m_continueRouting, FALSE));
         });
 }
 
@@ -144,41 +147,4 @@ CWaitCursor::~CWaitCursor()
 void CWaitCursor::Restore()
 {
     CCmdTarget().RestoreWaitCursor();
-}
-
-void CCmdUI::Enable(BOOL on)
-{
-    m_enableChanged = TRUE;
-    if (m_pOther != nullptr)
-    {
-        m_pOther->EnableWindow(on);
-    }
-}
-
-void CCmdUI::SetCheck(int check)
-{
-    if (m_pOther != nullptr)
-    {
-        m_pOther->SendMessage(BM_SETCHECK, WPARAM(check));
-    }
-}
-
-void CCmdUI::SetText(LPCSTR text)
-{
-    if (m_pOther != nullptr)
-    {
-        m_pOther->SetWindowText(text);
-    }
-}
-
-BOOL CCmdUI::DoUpdate(CCmdTarget* target, BOOL disableIfNoHandler)
-{
-    m_enableChanged = FALSE;
-    const BOOL handled = target->OnCmdMsg(m_nID, int(CN_UPDATE_COMMAND_UI), this, nullptr);
-    if (disableIfNoHandler && !m_enableChanged)
-    {
-        AFX_CMDHANDLERINFO info = {};
-        Enable(target->OnCmdMsg(m_nID, CN_COMMAND, nullptr, &info));
-    }
-    return handled;
 }

@@ -2,11 +2,13 @@
 
 #include "StillThere.h"
 #include "framework/CommonControls.h"
+#include "framework/Frame.h"
 
 IMPLEMENT_DYNAMIC(CControlBar, CWnd)
 
 BEGIN_MESSAGE_MAP(CControlBar, CWnd)
     ON_WM_NCCALCSIZE()
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
     ON_NOTIFY_EX(TTN_GETDISPINFOA, 0, &CControlBar::OnToolTipText)
     ON_NOTIFY_EX(TTN_GETDISPINFOW, 0, &CControlBar::OnToolTipText)
 END_MESSAGE_MAP()
@@ -86,6 +88,16 @@ CString TipOf(const NMHDR& header, UINT flags)
 }
 
 } // namespace
+
+LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM)
+{
+    CFrameWnd* const frame = GetParentFrame();
+    if (frame != nullptr && IsWindowVisible())
+    {
+        OnUpdateCmdUI(frame, BOOL(wParam));
+    }
+    return 0;
+}
 
 BOOL CControlBar::OnToolTipText(UINT, NMHDR* header, LRESULT* result)
 {

@@ -1,9 +1,11 @@
 #include "framework/Frame.h"
 
-#include "ChildWindows.h"
 #include "StillThere.h"
 #include "framework/App.h"
 #include "framework/ControlBar.h"
+#include "framework/Menu.h"
+
+#include <utility>
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
@@ -15,6 +17,10 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_INITMENUPOPUP()
+    ON_WM_MENUSELECT()
 END_MESSAGE_MAP()
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -52,6 +58,50 @@ BOOL CFrameWnd::Create(LPCSTR className, LPCSTR windowName, DWORD style, const R
     return FALSE;
 }
 
+BOOL CFrameWnd::LoadFrame(UINT id, DWORD style, CWnd* parent, CCreateContext* context)
+{
+    const LPCSTR name = MAKEINTRESOURCE(id);
+    const HICON icon = ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
+    const LPCSTR windowClass =
+        AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
+                            reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1), icon);
+    CString text;
+    CString title;
+    text.LoadString(id);
+    AfxExtractSubString(title, text, 0);
+    if (!Create(windowClass, title, style, rectDefault, parent, name, 0, context))
+    {
+        return FALSE; // the frame may be gone
+    }
+    LoadAccelTable(name);
+    return TRUE;
+}
+
+void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL makeVisible)
+{
+    const framework::StillThere here(*this); // any step may end the frame
+    SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
+    if (here && makeVisible)
+    {
+        ActivateFrame();
+    }
+    if (here && m_pViewActive == nullptr)
+    {
+        const HWND pane = ::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST);
+        SetActiveView(DYNAMIC_DOWNCAST(CView, FromHandlePermanent(pane)), makeVisible);
+    }
+}
+
+void CFrameWnd::ActivateFrame(int show)
+{
+    const framework::StillThere here(*this);
+    ShowWindow(show != -1 ? show : IsIconic() ? SW_RESTORE : SW_SHOW);
+    if (here)
+    {
+        BringWindowToTop();
+    }
+}
+
 CWnd* CFrameWnd::CreateView(CCreateContext* context, UINT id)
 {
     CObject* const made = context == nullptr || context->m_pNewViewClass == nullptr
@@ -85,19 +135,6 @@ int CFrameWnd::OnCreate(LPCREATESTRUCT cs)
         return -1;
     }
     RecalcLayout();
-    auto* const view =
-        here
-            ? DYNAMIC_DOWNCAST(CView, FromHandlePermanent(::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST)))
-            : nullptr;
-    if (view != nullptr)
-    {
-        const framework::StillThere viewThere(*view);
-        view->OnInitialUpdate();
-        if (here && viewThere)
-        {
-            SetActiveView(view, FALSE);
-        }
-    }
     return here ? 0 : -1;
 }
 
@@ -169,6 +206,142 @@ void CFrameWnd::OnSetFocus(CWnd* old)
     }
 }
 
+bool CFrameWnd::ScrollActiveView()
+{
+    if (m_pViewActive == nullptr)
+    {
+        return false;
+    }
+    const MSG current = *GetCurrentMessage();
+    m_pViewActive->SendMessage(current.message, current.wParam, current.lParam);
+    return true;
+}
+
+void CFrameWnd::OnHScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    if (!ScrollActiveView())
+    {
+        CWnd::OnHScroll(code, position, bar);
+    }
+}
+
+void CFrameWnd::OnVScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    if (!ScrollActiveView())
+    {
+        CWnd::OnVScroll(code, position, bar);
+    }
+}
+
+// Menus -----------------------------------------------------------------------------------------
+
+void CFrameWnd::OnInitMenuPopup(CMenu* menu, UINT index, BOOL ofSystem)
+{
+    const framework::StillThere here(*this);
+    CWnd::OnInitMenuPopup(menu, index, ofSystem);
+    if (ofSystem || menu == nullptr)
+    {
+        return;
+    }
+    const HMENU handle = menu->m_hMenu;
+    // Handlers may put items in and take some out, and may step over those that they have done.
+    CCmdUI ui;
+    for (int last = ::GetMenuItemCount(handle); here && int(ui.m_nIndex) < last; ++ui.m_nIndex)
+    {
+        const HMENU opens = ::GetSubMenu(handle, int(ui.m_nIndex));
+        ui.m_pMenu = CMenu::FromHandle(handle);
+        ui.m_pSubMenu = CMenu::FromHandle(opens);
+        ui.m_nIndexMax = UINT(last);
+        ui.m_nID = opens == nullptr ? ::GetMenuItemID(handle, int(ui.m_nIndex))
+                                    : ::GetMenuItemID(opens, 0);
+        if (ui.m_nID == 0 || ui.m_nID == UINT(-1))
+        {
+            continue; // a separator, or a menu that begins with another one
+        }
+        const bool isCommand = opens == nullptr && ui.m_nID < 0xF000; // not one of the system's
+        ui.DoUpdate(this, m_bAutoMenuEnable && isCommand);
+        const int before = std::exchange(last, ::GetMenuItemCount(handle));
+        if (last < before && ::GetMenuItemID(handle, int(ui.m_nIndex)) != ui.m_nID)
+        {
+            --ui.m_nIndex; // the next one is where this one was
+        }
+    }
+}
+
+void CFrameWnd::OnMenuSelect(UINT item, UINT flags, HMENU menu)
+{
+    const framework::StillThere here(*this);
+    CWnd::OnMenuSelect(item, flags, menu);
+    if (!here || GetMessageBar() == nullptr)
+    {
+        return;
+    }
+    if (!std::exchange(m_menuOpen, true))
+    {
+        GetMessageBar()->GetWindowText(m_messageBefore);
+    }
+    if (flags == 0xFFFF && menu == nullptr)
+    {
+        m_menuOpen = false;
+        SetMessageText(m_messageBefore);
+        return;
+    }
+    CString text;
+    const bool isCommand = (flags & (MF_POPUP | MF_SEPARATOR | MF_SYSMENU)) == 0;
+    if (isCommand && item != 0)
+    {
+        GetMessageString(item, text);
+    }
+    SetMessageText(text);
+}
+
+void CFrameWnd::GetMessageString(UINT id, CString& text) const
+{
+    CString lines;
+    lines.LoadString(id);
+    AfxExtractSubString(text, lines, 0);
+}
+
+CWnd* CFrameWnd::GetMessageBar()
+{
+    return GetControlBar(AFX_IDW_STATUS_BAR);
+}
+
+void CFrameWnd::SetMessageText(LPCSTR text)
+{
+    if (CWnd* const bar = GetMessageBar())
+    {
+        bar->SetWindowText(text);
+    }
+}
+
+void CFrameWnd::SetMessageText(UINT id)
+{
+    CString text;
+    GetMessageString(id, text);
+    SetMessageText(text);
+}
+
+// Bars ------------------------------------------------------------------------------------------
+
+CControlBar* CFrameWnd::GetControlBar(UINT id)
+{
+    return DYNAMIC_DOWNCAST(CControlBar, FromHandlePermanent(::GetDlgItem(m_hWnd, int(id))));
+}
+
+void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL delay)
+{
+    const framework::StillThere here(*this);
+    if (bar != nullptr)
+    {
+        bar->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
+    }
+    if (here && !delay)
+    {
+        RecalcLayout();
+    }
+}
+
 void CFrameWnd::SetActiveView(CView* view, BOOL notify)
 {
     CView* const before = m_pViewActive;
@@ -203,15 +376,7 @@ void CFrameWnd::RecalcLayout(BOOL)
 
 void CFrameWnd::UpdateBars()
 {
-    const framework::StillThere here(*this);
-    for (const HWND child : framework::ChildWindows(m_hWnd))
-    {
-        auto* bar = DYNAMIC_DOWNCAST(CControlBar, FromHandlePermanent(child));
-        if (here && bar != nullptr && bar->IsWindowVisible())
-        {
-            bar->OnUpdateCmdUI(this, TRUE);
-        }
-    }
+    SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, FALSE, TRUE);
 }
 
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)

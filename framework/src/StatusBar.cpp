@@ -243,6 +243,7 @@ public:
     {
         m_nID = bar.GetItemID(index);
         m_nIndex = UINT(index);
+        m_nIndexMax = UINT(bar.GetCount());
         m_pOther = &bar;
     }
 
@@ -267,7 +268,7 @@ private:
 } // namespace
 
 // A pane without a handler keeps what it shows.
-void CStatusBar::OnUpdateCmdUI(CFrameWnd* target, BOOL)
+void CStatusBar::OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler)
 {
     const framework::StillThere here(*this); // handlers may end the bar
     for (int index = 0; here && index < GetCount(); ++index)
@@ -276,5 +277,9 @@ void CStatusBar::OnUpdateCmdUI(CFrameWnd* target, BOOL)
         {
             PaneUI(*this, index).DoUpdate(target, FALSE);
         }
+    }
+    if (here)
+    {
+        UpdateDialogControls(target, disableIfNoHandler);
     }
 }

@@ -3,6 +3,7 @@
 // What the framework keeps for each thread.
 
 #include "HandleMap.h"
+#include "framework/Menu.h"
 #include "framework/Thread.h"
 
 #include <unordered_map>
@@ -13,6 +14,7 @@ namespace framework {
 struct ThreadState
 {
     HandleMap<HWND, CWnd> windows;
+    HandleMap<HMENU, CMenu> menus;
     // The procedures under ours for windows whose object let go while ours stayed in the chain.
     std::unordered_map<HWND, WNDPROC> leftProcedures;
     MSG current = {};          // the message that a window procedure is working on

@@ -7,6 +7,7 @@
 #include "framework/ToolTipCtrl.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 IMPLEMENT_DYNAMIC(CToolBarCtrl, CWnd)
@@ -30,6 +31,7 @@ BOOL CToolBar::CreateEx(CWnd* parent, DWORD controlStyle, DWORD style, CRect bor
         return FALSE;
     }
     SendMessage(TB_BUTTONSTRUCTSIZE, sizeof(TBBUTTON));
+    m_inColumn = IsUpright();
     SetSizes(CSize(24, 22), m_imageSize);
     return TRUE;
 }
@@ -45,6 +47,19 @@ void CToolBar::ApplyBarStyle()
     const DWORD tips = (GetBarStyle() & CBRS_TOOLTIPS) != 0 ? TBSTYLE_TOOLTIPS : 0;
     const DWORD rest = DWORD(SendMessage(TB_GETSTYLE)) & ~DWORD(TBSTYLE_TOOLTIPS);
     SendMessage(TB_SETSTYLE, 0, LPARAM(rest | tips));
+    if (std::exchange(m_inColumn, IsUpright()) == IsUpright())
+    {
+        return;
+    }
+    // At a side there is one button a line.
+    for (int index = GetCount(); index-- > 0;)
+    {
+        TBBUTTONINFO info = {};
+        info.cbSize = sizeof(info);
+        info.dwMask = TBIF_STATE | TBIF_BYINDEX;
+        info.fsState = BYTE(ButtonAt(index).fsState & ~TBSTATE_WRAP) | WrapState();
+        SendMessage(TB_SETBUTTONINFO, WPARAM(index), LPARAM(&info));
+    }
 }
 
 BOOL CToolBar::LoadBitmap(LPCTSTR name)
@@ -122,7 +137,7 @@ BOOL CToolBar::SetButtons(const UINT* ids, int count)
     for (int index = 0; index < count; ++index)
     {
         TBBUTTON& button = buttons[size_t(index)];
-        button.fsState = TBSTATE_ENABLED;
+        button.fsState = TBSTATE_ENABLED | WrapState();
         button.iString = -1;
         if (ids == nullptr || ids[index] == ID_SEPARATOR)
         {
@@ -183,7 +198,7 @@ void CToolBar::SetButtonInfo(int index, UINT id, UINT style, int image)
     button.idCommand = int(id);
     button.iBitmap = image;
     button.fsStyle = BYTE(style);
-    button.fsState = BYTE(style >> 16) ^ TBSTATE_ENABLED;
+    button.fsState = BYTE(BYTE(style >> 16) ^ TBSTATE_ENABLED) | WrapState();
     ReplaceButton(index, button);
 }
 
@@ -247,9 +262,11 @@ CSize CToolBar::CalcFixedLayout(BOOL stretch, BOOL horizontal)
         size.cx = std::max(size.cx, button.right);
         size.cy = std::max(size.cy, button.bottom);
     }
-    size.cy = std::max(size.cy, LONG(HIWORD(SendMessage(TB_GETBUTTONSIZE))));
+    const auto one = DWORD(SendMessage(TB_GETBUTTONSIZE));
+    size.cx = std::max(size.cx, LONG(IsUpright() ? LOWORD(one) : 0));
+    size.cy = std::max(size.cy, LONG(HIWORD(one)));
     size.cx += borders.left + borders.right;
-    size.cy = m_height != 0 ? m_height : size.cy + borders.top + borders.bottom;
+    size.cy = m_height != 0 && !IsUpright() ? m_height : size.cy + borders.top + borders.bottom;
     const CSize stretched = CControlBar::CalcFixedLayout(stretch, horizontal);
     return CSize(std::max(size.cx, stretched.cx), std::max(size.cy, stretched.cy));
 }
@@ -264,6 +281,7 @@ public:
     {
         m_nID = bar.GetItemID(index);
         m_nIndex = UINT(index);
+        m_nIndexMax = UINT(bar.GetCount());
         m_pOther = &bar;
     }
 
@@ -299,5 +317,9 @@ void CToolBar::OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler)
         {
             ButtonUI(*this, index).DoUpdate(target, disableIfNoHandler);
         }
+    }
+    if (here)
+    {
+        UpdateDialogControls(target, disableIfNoHandler);
     }
 }

@@ -15,6 +15,7 @@ BEGIN_MESSAGE_MAP(CView, CWnd)
     ON_WM_DESTROY()
     ON_WM_PAINT()
     ON_WM_MOUSEACTIVATE()
+    ON_MESSAGE(WM_INITIALUPDATE, &CView::HandleInitialUpdate)
 END_MESSAGE_MAP()
 
 BOOL CView::PreCreateWindow(CREATESTRUCT& cs)
@@ -70,7 +71,7 @@ void CView::OnPaint()
 void CView::OnActivateView(BOOL activate, CView* activateView, CView*)
 {
     // A control of the view that has the focus already keeps it.
-    if (activate && activateView == this && GetTopLevelParent() == GetActiveWindow() &&
+    if (activate && activateView == this && ::GetAncestor(m_hWnd, GA_ROOT) == ::GetActiveWindow() &&
         !::IsChild(m_hWnd, ::GetFocus()))
     {
         SetFocus();
@@ -90,6 +91,12 @@ int CView::OnMouseActivate(CWnd* desktop, UINT hitTest, UINT message)
         frame->SetActiveView(this);
     }
     return result;
+}
+
+LRESULT CView::HandleInitialUpdate(WPARAM, LPARAM)
+{
+    OnInitialUpdate();
+    return 0;
 }
 
 // Scrolling -------------------------------------------------------------------------------------
@@ -131,6 +138,31 @@ void CScrollView::ScrollToPosition(POINT position)
         ::SetScrollPos(window, SB_VERT, clamped.y, TRUE);
         ::ScrollWindow(window, moved.cx, moved.cy, nullptr, nullptr);
     }
+}
+
+void CScrollView::ResizeParentToFit(BOOL shrinkOnly)
+{
+    CFrameWnd* const frame = GetParentFrame();
+    if (frame == nullptr)
+    {
+        return;
+    }
+    CRect place;
+    GetWindowRect(&place);
+    CRect whole(CPoint(0, 0), m_total);
+    // Without bars it needs the border alone.
+    ::AdjustWindowRectEx(&whole, GetStyle() & ~DWORD(WS_HSCROLL | WS_VSCROLL), FALSE, GetExStyle());
+    CSize more = whole.Size() - place.Size();
+    if (shrinkOnly)
+    {
+        // What stays out of sight has its bar, which takes room from the other side.
+        const CSize bars(more.cy > 0 ? ::GetSystemMetrics(SM_CXVSCROLL) : 0,
+                         more.cx > 0 ? ::GetSystemMetrics(SM_CYHSCROLL) : 0);
+        more = CSize(std::min(more.cx + bars.cx, 0L), std::min(more.cy + bars.cy, 0L));
+    }
+    frame->GetWindowRect(&place);
+    frame->SetWindowPos(nullptr, 0, 0, place.Width() + more.cx, place.Height() + more.cy,
+                        SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void CScrollView::OnPrepareDC(CDC* dc, void*)
@@ -348,7 +380,11 @@ BOOL CFormView::Create(LPCSTR, LPCSTR windowName, DWORD requestedStyle, const RE
 
 void CFormView::OnInitialUpdate()
 {
-    UpdateData(FALSE);
+    const framework::StillThere here(*this);
+    if (UpdateData(FALSE) && here)
+    {
+        CScrollView::OnInitialUpdate();
+    }
 }
 
 void CFormView::OnActivateFrame(UINT state, CFrameWnd*)

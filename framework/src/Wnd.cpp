@@ -439,8 +439,8 @@ int CWnd::RunModalLoop(DWORD flags)
             {
                 idle = false;
                 TellIdle(m_hWnd, flags);
-                DeleteTempMap();
-                framework::DeleteTemporaryGdiObjects();
+                framework::UpdateBarsOfFrames(true);
+                framework::DeleteTemporaryObjects();
             }
             continue;
         }

@@ -7,9 +7,11 @@
 #include "framework/Controls.h"
 #include "framework/DataExchange.h"
 #include "framework/Frame.h"
+#include "framework/Menu.h"
 #include "framework/Wnd.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -80,6 +82,21 @@ int CWnd::GetDlgItemText(int id, CString& text) const
         text.Empty();
     }
     return text.GetLength();
+}
+
+CMenu* CWnd::GetMenu() const
+{
+    return CMenu::FromHandle(::GetMenu(m_hWnd));
+}
+
+BOOL CWnd::SetMenu(CMenu* menu)
+{
+    return ::SetMenu(m_hWnd, framework::SafeHandle(menu, &CMenu::m_hMenu));
+}
+
+CMenu* CWnd::GetSystemMenu(BOOL revert) const
+{
+    return CMenu::FromHandle(::GetSystemMenu(m_hWnd, revert));
 }
 
 void CWnd::SetFont(CFont* font, BOOL redraw)
@@ -288,8 +305,93 @@ BOOL CWnd::UpdateData(BOOL saveAndValidate)
     }
 }
 
+namespace {
+
+// A pushable thing, and neither a frame round others nor a label.
+bool IsButton(HWND child)
+{
+    return (::SendMessage(child, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) != 0;
+}
+
+class ChildUI : public CCmdUI
+{
+public:
+    ChildUI(HWND child, UINT index, UINT count)
+    {
+        m_nID = UINT(::GetDlgCtrlID(child)) & 0xFFFFU;
+        m_nIndex = index;
+        m_nIndexMax = count;
+        m_pOther = CWnd::FromHandle(child);
+    }
+};
+
+} // namespace
+
+void CWnd::UpdateDialogControls(CCmdTarget* target, BOOL disableIfNoHandler)
+{
+    const HWND window = m_hWnd;
+    const CWnd* const targetWindow = DYNAMIC_DOWNCAST(CWnd, target);
+    const HWND targetHandle = targetWindow == nullptr ? nullptr : targetWindow->m_hWnd;
+    const std::vector<HWND> children = framework::ChildWindows(window);
+    // Who answers, or declines to, may end any of them.
+    const auto gone = [&] {
+        return FromHandlePermanent(window) != this ||
+               (targetHandle != nullptr && FromHandlePermanent(targetHandle) != targetWindow);
+    };
+    for (size_t index = 0; index < children.size() && !gone(); ++index)
+    {
+        const HWND child = children[index];
+        ChildUI ui(child, UINT(index), UINT(children.size()));
+        if (!::IsWindow(child) || ui.m_nID == 0 || ui.m_nID == 0xFFFF)
+        {
+            continue;
+        }
+        if ((target == this || !ui.DoUpdate(this, FALSE)) && !gone())
+        {
+            AFX_CMDHANDLERINFO info = {};
+            const bool own = target != this && OnCmdMsg(ui.m_nID, CN_COMMAND, nullptr, &info);
+            ui.DoUpdate(target, disableIfNoHandler && !own && IsButton(child));
+        }
+    }
+}
+
+// Bars ------------------------------------------------------------------------------------------
+
+namespace {
+
+// Takes from one side of the room what a bar wants there.
+CRect TakeSide(CRect& room, CControlBar& bar, BOOL stretch)
+{
+    const DWORD side = bar.GetBarStyle() & CBRS_ALIGN_ANY;
+    const bool horizontal = !bar.IsUpright();
+    const CSize wanted = bar.CalcFixedLayout(stretch, horizontal);
+    CRect place = room;
+    if (horizontal)
+    {
+        if (!stretch && wanted.cx > 0)
+        {
+            place.right = std::min(place.right, place.left + wanted.cx);
+        }
+        const bool bottom = (side & CBRS_ALIGN_BOTTOM) != 0;
+        (bottom ? place.top : place.bottom) =
+            bottom ? room.bottom - wanted.cy : room.top + wanted.cy;
+        (bottom ? room.bottom : room.top) = bottom ? place.top : place.bottom;
+        return place;
+    }
+    if (!stretch && wanted.cy > 0)
+    {
+        place.bottom = std::min(place.bottom, place.top + wanted.cy);
+    }
+    const bool right = (side & CBRS_ALIGN_RIGHT) != 0;
+    (right ? place.left : place.right) = right ? room.right - wanted.cx : room.left + wanted.cx;
+    (right ? room.right : room.left) = right ? place.left : place.right;
+    return place;
+}
+
+} // namespace
+
 void CWnd::RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT flag, LPRECT rectParam,
-                          LPCRECT rectClient, BOOL)
+                          LPCRECT rectClient, BOOL stretch)
 {
     const bool moves = flag != reposQuery;
     CRect rest;
@@ -310,15 +412,16 @@ void CWnd::RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT flag,
         else if (id >= firstId && id <= lastId && bar != nullptr &&
                  (bar->GetStyle() & WS_VISIBLE) != 0 && (bar->GetBarStyle() & CBRS_ALIGN_ANY) != 0)
         {
-            const int height = bar->CalcFixedLayout(TRUE, TRUE).cy;
-            const bool bottom = (bar->GetBarStyle() & CBRS_ALIGN_BOTTOM) != 0;
-            const int top = bottom ? rest.bottom - height : rest.top;
+            const CRect place = TakeSide(rest, *bar, stretch);
             if (moves)
             {
-                bar->MoveWindow(rest.left, top, rest.Width(), height);
+                bar->MoveWindow(place);
             }
-            (bottom ? rest.bottom : rest.top) += bottom ? -height : height;
         }
+    }
+    if (flag == reposExtra && rectParam != nullptr)
+    {
+        rest.DeflateRect(rectParam);
     }
     if (!moves)
     {

@@ -101,6 +101,58 @@ BEGIN_MESSAGE_MAP(Panel, BasePanel)
     ON_CONTROL_REFLECT_EX(EN_CHANGE, &Panel::End)
 END_MESSAGE_MAP()
 
+// Writes down with what its handlers are called.
+class Listener : public CWnd
+{
+public:
+    Journal journal;
+
+protected:
+    template <class... Values> void Note(const char* what, Values... values)
+    {
+        std::string text = what;
+        ((text += " " + std::to_string(values)), ...);
+        journal.push_back(text);
+    }
+    void OnSysCommand(UINT id, LPARAM lParam) { Note("system", id, lParam); }
+    void OnSettingChange(UINT flags, LPCTSTR section) { Note(section, flags); }
+    void OnEndSession(BOOL ending) { Note("end", ending); }
+    BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data)
+    {
+        Note("data", from == this, data->dwData);
+        return TRUE;
+    }
+    void OnMouseHWheel(UINT keys, short delta, CPoint point)
+    {
+        Note("wheel", keys, delta, point.x, point.y);
+    }
+    void OnRButtonDblClk(UINT keys, CPoint point) { Note("double", keys, point.x, point.y); }
+    void HScroll(UINT code, UINT position) { Note("scroll", code, position); }
+    HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(UINT_PTR(0x1234)); }
+    LRESULT OnMenuChar(UINT letter, UINT flags, CMenu* menu)
+    {
+        Note("letter", letter, flags, menu == nullptr);
+        return MAKELRESULT(3, MNC_EXECUTE);
+    }
+    void OnMenuSelect(UINT item, UINT flags, HMENU) { Note("select", item, flags); }
+    void OnEnterIdle(UINT why, CWnd* who) { Note("idle", why, who == this); }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Listener, CWnd)
+    ON_WM_SYSCOMMAND()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_ENDSESSION()
+    ON_WM_COPYDATA()
+    ON_WM_MOUSEHWHEEL()
+    ON_WM_RBUTTONDBLCLK()
+    ON_WM_HSCROLL_REFLECT()
+    ON_WM_QUERYDRAGICON()
+    ON_WM_MENUCHAR()
+    ON_WM_MENUSELECT()
+    ON_WM_ENTERIDLE()
+END_MESSAGE_MAP()
+
 class MessageMap : public WindowTest
 {
 protected:
@@ -204,6 +256,28 @@ TEST_F(MessageMap, AskingWhoHandlesACommandDoesNotRunIt)
         EXPECT_EQ(button.IsWindowEnabled(), enabled) << id;
     }
     EXPECT_EQ(panel.journal, Journal());
+
+    CDialog dialog;
+    DialogTemplate form(CRect(0, 0, 80, 40));
+    for (const WORD id : {WORD(10), WORD(11), WORD(13), WORD(IDOK), WORD(0xFFFF)})
+    {
+        form.Add("Button", "", BS_PUSHBUTTON, CRect(0, 0, 9, 9), id);
+    }
+    form.Add("Edit", "", 0, CRect(0, 0, 9, 9), 14);
+    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+    dialog.UpdateDialogControls(&panel, TRUE);
+    std::vector<int> pressable;
+    for (HWND child = ::GetTopWindow(dialog); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT))
+    {
+        if (::IsWindowEnabled(child))
+        {
+            pressable.push_back(::GetDlgCtrlID(child) & 0xFFFF);
+        }
+    }
+    EXPECT_EQ(pressable, (std::vector<int>{11, IDOK, 0xFFFF, 14})) << "OK is the dialog's own";
+}
+
 // Exceptions ------------------------------------------------------------------------------------
 
 // Throws in the messages of one number.
@@ -346,6 +420,27 @@ TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)
     panel.SetWindowText("text");
     EXPECT_EQ(panel.SendMessage(WM_GETTEXTLENGTH), 0) << "handled: the default is not asked";
     EXPECT_EQ(panel.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-5, 7)), HTNOWHERE);
+}
+
+TEST_F(MessageMap, HandlersGetTheWordsOfTheirMessage)
+{
+    auto& listener = Add<Listener>(CRect(0, 0, 50, 50));
+    COPYDATASTRUCT data = {7, 0, nullptr};
+    listener.SendMessage(WM_SYSCOMMAND, SC_CLOSE, 12);
+    listener.SendMessage(WM_SETTINGCHANGE, 3, LPARAM("Policy"));
+    listener.SendMessage(WM_ENDSESSION, TRUE);
+    EXPECT_TRUE(listener.SendMessage(WM_COPYDATA, WPARAM(listener.m_hWnd), LPARAM(&data)));
+    listener.SendMessage(WM_MOUSEHWHEEL, MAKEWPARAM(MK_CONTROL, -120), MAKELPARAM(-5, 6));
+    listener.SendMessage(WM_RBUTTONDBLCLK, MK_RBUTTON, MAKELPARAM(-5, 6));
+    Host().SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 40000), LPARAM(listener.m_hWnd));
+    EXPECT_EQ(listener.SendMessage(WM_QUERYDRAGICON), 0x1234);
+    EXPECT_EQ(listener.SendMessage(WM_MENUCHAR, MAKEWPARAM('x', MF_POPUP)),
+              MAKELRESULT(3, MNC_EXECUTE));
+    listener.SendMessage(WM_MENUSELECT, MAKEWPARAM(7, 0xFFFF));
+    listener.SendMessage(WM_ENTERIDLE, MSGF_MENU, LPARAM(listener.m_hWnd));
+    EXPECT_EQ(listener.journal, (Journal{"system 61536 12", "Policy 3", "end 1", "data 1 7",
+                                         "wheel 8 -120 -5 6", "double 2 -5 6", "scroll 5 40000",
+                                         "letter 120 16 1", "select 7 65535", "idle 2 1"}));
 }
 
 } // namespace

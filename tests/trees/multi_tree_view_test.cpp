@@ -296,6 +296,7 @@ TEST_F(MultiTreeViewTest, TornOffItActivatesNoFrameAndTellsItsCaption)
     context.m_pNewViewClass = RUNTIME_CLASS(MultiTreeView);
     ASSERT_TRUE(frame->Create(nullptr, "Frame", WS_POPUP | WS_VISIBLE, CRect(100, 80, 400, 380),
                               nullptr, nullptr, 0, &context));
+    frame->InitialUpdateFrame(nullptr, TRUE);
     CView* const view = frame->GetActiveView();
     ASSERT_NE(view, nullptr);
     for (const bool peeled : {false, true, false})

@@ -3,6 +3,7 @@
 #include "framework/MessageMap.h"
 #include "framework/Object.h"
 
+class CMenu;
 class CWnd;
 
 // Who would handle a command; asked for instead of handling it.
@@ -68,16 +69,30 @@ public:
 
     UINT m_nID = 0;
     UINT m_nIndex = 0;
-    CWnd* m_pOther = nullptr; // the window that holds the item
+    UINT m_nIndexMax = 0;     // how many items there are
+    CWnd* m_pOther = nullptr; // the window that holds the item, or null for one of a menu
+    CMenu* m_pMenu = nullptr; // the menu that the item is of
+    // The menu that opens at the item, of which m_nID is the first command: what is said of that
+    // command here does not change the item.
+    CMenu* m_pSubMenu = nullptr;
 
     virtual void Enable(BOOL on = TRUE);
     virtual void SetCheck(int check = 1);
-    virtual void SetRadio(BOOL on = TRUE) { SetCheck(on ? 1 : 0); }
+    virtual void SetRadio(BOOL on = TRUE);
     virtual void SetText(LPCSTR text);
+    // Whoever comes after this handler is asked as well.
+    void ContinueRouting() { m_continueRouting = TRUE; }
 
-    // Asks target how the command stands; without a handler the item is disabled if wished.
+    // Asks target how the command stands. Without an answer the item is, if wished, enabled or
+    // disabled as there is somebody who handles the command or not. TRUE for an answer.
     BOOL DoUpdate(CCmdTarget* target, BOOL disableIfNoHandler);
 
 protected:
     BOOL m_enableChanged = FALSE;
+
+private:
+    BOOL m_continueRouting = FALSE;
+
+    void MarkItem(bool checked, UINT mark);
+    friend class CCmdTarget;
 };

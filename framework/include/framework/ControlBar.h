@@ -26,6 +26,12 @@ constexpr DWORD CBRS_ALIGN_ANY = 0xF000;
 constexpr DWORD CBRS_NOALIGN = 0; // where its owner puts it: the frame leaves it there
 constexpr DWORD CBRS_TOP = CBRS_ALIGN_TOP;
 constexpr DWORD CBRS_BOTTOM = CBRS_ALIGN_BOTTOM;
+constexpr DWORD CBRS_LEFT = CBRS_ALIGN_LEFT; // a tool bar stands there in a column
+constexpr DWORD CBRS_RIGHT = CBRS_ALIGN_RIGHT;
+// Of bars that dock and float, which these do not: taken, and without effect.
+constexpr DWORD CBRS_GRIPPER = 0x0001;
+constexpr DWORD CBRS_SIZE_FIXED = 0x0002;
+constexpr DWORD CBRS_SIZE_DYNAMIC = 0x0004;
 // The tip of a command is the second line of the string resource of its id, unless the bar's parent
 // answers TTN_NEEDTEXT itself.
 constexpr DWORD CBRS_TOOLTIPS = 0x0010;
@@ -44,6 +50,12 @@ public:
     virtual CSize CalcFixedLayout(BOOL stretch, BOOL horizontal);
     DWORD GetBarStyle() const { return m_dwStyle; }
     void SetBarStyle(DWORD style);
+    // Whether the bar stands at a side, and not across its frame.
+    bool IsUpright() const
+    {
+        return (m_dwStyle & (CBRS_ALIGN_LEFT | CBRS_ALIGN_RIGHT)) != 0 &&
+               (m_dwStyle & (CBRS_ALIGN_TOP | CBRS_ALIGN_BOTTOM)) == 0;
+    }
     // The widths of the borders as the sides of a rectangle.
     CRect GetBorders() const { return m_borders; }
     void SetBorders(int left = 0, int top = 0, int right = 0, int bottom = 0)
@@ -53,7 +65,8 @@ public:
     void SetBorders(LPCRECT borders) { m_borders = *borders; }
     // How many panes or buttons.
     virtual int GetCount() const { return 0; }
-    // Asks target how each command of the bar stands; called when the thread is idle.
+    // Asks target how each command of the bar stands, those of its children too; called when the
+    // thread is idle.
     virtual void OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler) = 0;
 
 protected:
@@ -65,6 +78,7 @@ protected:
 
     afx_msg void OnNcCalcSize(BOOL calcValid, NCCALCSIZE_PARAMS* params);
     afx_msg BOOL OnToolTipText(UINT id, NMHDR* header, LRESULT* result);
+    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     DWORD m_dwStyle = 0;

@@ -77,8 +77,10 @@ protected:
 private:
     TBBUTTON ButtonAt(int index) const;
     void ReplaceButton(int index, TBBUTTON button);
+    BYTE WrapState() const { return BYTE(m_inColumn ? TBSTATE_WRAP : 0); }
 
     CBitmap m_images;
     CSize m_imageSize = CSize(16, 15);
     int m_height = 0; // 0: what the buttons need
+    bool m_inColumn = false;
 };

@@ -15,12 +15,15 @@ public:
     ~CView() override;
 
     CDocument* GetDocument() const { return m_pDocument; }
-    virtual void OnInitialUpdate() {}
+    // The frame has been made; called once by InitialUpdateFrame. Updates the view.
+    virtual void OnInitialUpdate() { OnUpdate(nullptr, 0, nullptr); }
     virtual void OnPrepareDC(CDC*, void* = nullptr) {}
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
 protected:
     virtual void OnDraw(CDC* dc) = 0;
+    // What the view shows has changed: all of it is painted anew. There are no hints here.
+    virtual void OnUpdate(CView*, LPARAM, CObject*) { Invalidate(); }
     virtual void OnActivateView(BOOL activate, CView* activateView, CView* deactiveView);
     // The frame is left (WA_INACTIVE, while the view has the focus still), or has come back.
     virtual void OnActivateFrame(UINT, CFrameWnd*) {}
@@ -29,6 +32,7 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
     afx_msg int OnMouseActivate(CWnd* desktop, UINT hitTest, UINT message);
+    afx_msg LRESULT HandleInitialUpdate(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     CDocument* m_pDocument = nullptr;
@@ -54,6 +58,8 @@ public:
     CSize GetTotalSize() const { return m_total; }
     CPoint GetScrollPosition() const { return m_position; }
     void ScrollToPosition(POINT position);
+    // Gives the frame the size in which all of the view is to be seen, or only a smaller one.
+    void ResizeParentToFit(BOOL shrinkOnly = TRUE);
     void OnPrepareDC(CDC* dc, void* info = nullptr) override;
 
 protected:

@@ -4,6 +4,7 @@
 
 #define FRAMEWORK_POINT CPoint(GET_X_LPARAM(call.lParam), GET_Y_LPARAM(call.lParam))
 #define FRAMEWORK_WND(handle) CWnd::FromHandle(reinterpret_cast<HWND>(handle))
+#define FRAMEWORK_MENU(handle) CMenu::FromHandle(reinterpret_cast<HMENU>(handle))
 
 // Shapes that several messages share.
 #define FRAMEWORK_WM_VOID(number, name)                                                            \
@@ -221,6 +222,31 @@
 #define ON_WM_CONTEXTMENU()                                                                        \
     FRAMEWORK_WM(WM_CONTEXTMENU, FRAMEWORK_MEMBER(void, OnContextMenu, (CWnd*, CPoint))(           \
                                      FRAMEWORK_WND(call.wParam), FRAMEWORK_POINT);                 \
+                 return true;)
+
+// Menus, and a modal window or menu that waits
+#define ON_WM_INITMENU()                                                                           \
+    FRAMEWORK_WM(WM_INITMENU,                                                                      \
+                 FRAMEWORK_MEMBER(void, OnInitMenu, (CMenu*))(FRAMEWORK_MENU(call.wParam));        \
+                 return true;)
+#define ON_WM_INITMENUPOPUP()                                                                      \
+    FRAMEWORK_WM(WM_INITMENUPOPUP,                                                                 \
+                 FRAMEWORK_MEMBER(void, OnInitMenuPopup, (CMenu*, UINT, BOOL))(                    \
+                     FRAMEWORK_MENU(call.wParam), LOWORD(call.lParam), BOOL(HIWORD(call.lParam))); \
+                 return true;)
+#define ON_WM_MENUSELECT()                                                                         \
+    FRAMEWORK_WM(WM_MENUSELECT, FRAMEWORK_MEMBER(void, OnMenuSelect, (UINT, UINT, HMENU))(         \
+                                    LOWORD(call.wParam), HIWORD(call.wParam),                      \
+                                    reinterpret_cast<HMENU>(call.lParam));                         \
+                 return true;)
+#define ON_WM_MENUCHAR()                                                                           \
+    FRAMEWORK_WM(WM_MENUCHAR,                                                                      \
+                 call.result = FRAMEWORK_MEMBER(LRESULT, OnMenuChar, (UINT, UINT, CMenu*))(        \
+                     LOWORD(call.wParam), HIWORD(call.wParam), FRAMEWORK_MENU(call.lParam));       \
+                 return true;)
+#define ON_WM_ENTERIDLE()                                                                          \
+    FRAMEWORK_WM(WM_ENTERIDLE, FRAMEWORK_MEMBER(void, OnEnterIdle, (UINT, CWnd*))(                 \
+                                   UINT(call.wParam), FRAMEWORK_WND(call.lParam));                 \
                  return true;)
 
 // Keyboard

@@ -9,6 +9,7 @@
 class CDataExchange;
 class CDocument;
 class CFrameWnd;
+class CMenu;
 class CScrollBar;
 class CView;
 
@@ -33,6 +34,12 @@ constexpr DWORD MLF_NOIDLEMSG = 0x0001;
 constexpr DWORD MLF_NOKICKIDLE = 0x0002;
 constexpr DWORD MLF_SHOWONIDLE = 0x0004;
 constexpr UINT WM_KICKIDLE = WM_AFXFIRST + 0x10;
+
+// To the children of a frame when there is nothing left to do: ask how your commands stand, and
+// disable (wParam) those that nobody handles.
+constexpr UINT WM_IDLEUPDATECMDUI = WM_AFXFIRST + 0x11;
+// To the windows in a frame that has been made: show your document for the first time.
+constexpr UINT WM_INITIALUPDATE = WM_AFXFIRST + 0x12;
 
 // A window of the platform. An object made by Create, Attach or SubclassWindow stands permanently
 // for its handle; FromHandle makes temporary stand-ins that own nothing and last until the thread
@@ -127,6 +134,12 @@ public:
     {
         return reinterpret_cast<HICON>(SendMessage(WM_GETICON, WPARAM(big)));
     }
+    // A menu that is given to the window is its own.
+    CMenu* GetMenu() const;
+    BOOL SetMenu(CMenu* menu);
+    void DrawMenuBar() { ::DrawMenuBar(m_hWnd); }
+    // revert: the platform's own comes back, and the result is null.
+    CMenu* GetSystemMenu(BOOL revert) const;
     void SetFont(CFont* font, BOOL redraw = TRUE);
     CFont* GetFont() const;
 
@@ -260,6 +273,9 @@ public:
     CWnd* GetNextDlgGroupItem(CWnd* control, BOOL previous = FALSE) const;
     BOOL IsDialogMessage(LPMSG message) { return ::IsDialogMessage(m_hWnd, message); }
     BOOL UpdateData(BOOL saveAndValidate = TRUE);
+    // Asks target how the commands of the children stand, unless this window itself says so, and
+    // disables buttons whose commands nobody handles.
+    void UpdateDialogControls(CCmdTarget* target, BOOL disableIfNoHandler);
 
     // Scrolling
     virtual CScrollBar* GetScrollBarCtrl(int bar) const;
@@ -294,14 +310,16 @@ public:
         ::ScrollWindow(m_hWnd, dx, dy, rect, clip);
     }
 
-    // Lays out child bars, whether or not their parent is shown yet, round the one pane that takes
-    // what is left; a bar without an alignment stays where it is. With reposQuery nothing moves,
-    // and rectParam gets the room that would be left. stretch is not used: every bar takes the
-    // whole width.
+    // Lays out child bars, whether or not their parent is shown yet, along the sides that they are
+    // aligned to and round the one pane that takes what is left; a bar without an alignment stays
+    // where it is. With reposQuery nothing moves, and rectParam gets the room that would be left;
+    // with reposExtra its sides are the widths of borders that stay free round the pane. Without
+    // stretch a bar is no longer than it wants to be.
     enum RepositionFlag : UINT
     {
         reposDefault,
         reposQuery,
+        reposExtra,
     };
     void RepositionBars(UINT firstId, UINT lastId, UINT leftoverId, UINT flag = reposDefault,
                         LPRECT rectParam = nullptr, LPCRECT rectClient = nullptr,
@@ -313,7 +331,8 @@ public:
     }
 
     // Modal loops. RunModalLoop pumps until EndModalLoop is called or the window is gone and gives
-    // EndModalLoop's value, -1 when the application quits.
+    // EndModalLoop's value, -1 when the application quits. Idle, it keeps the bars of the frames
+    // that the user can reach up to date.
     int RunModalLoop(DWORD flags = 0);
     virtual BOOL ContinueModal() { return m_modalRunning; }
     virtual void EndModalLoop(int result);
@@ -436,6 +455,13 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT, short, CPoint) { return BOOL(Default()); }
     afx_msg void OnMouseHWheel(UINT, short, CPoint) { Default(); }
     afx_msg void OnContextMenu(CWnd*, CPoint) { Default(); }
+    afx_msg HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
+    afx_msg void OnMouseHover(UINT, CPoint) { Default(); }
+    afx_msg LRESULT OnMenuChar(UINT, UINT, CMenu*) { return Default(); }
+    afx_msg void OnInitMenu(CMenu*) { Default(); }
+    afx_msg void OnInitMenuPopup(CMenu*, UINT, BOOL) { Default(); }
+    afx_msg void OnMenuSelect(UINT, UINT, HMENU) { Default(); }
+    afx_msg void OnEnterIdle(UINT, CWnd*) { Default(); }
     afx_msg void OnKeyDown(UINT, UINT, UINT) { Default(); }
     afx_msg void OnKeyUp(UINT, UINT, UINT) { Default(); }
     afx_msg void OnChar(UINT, UINT, UINT) { Default(); }
