@@ -198,6 +198,20 @@ HICON CWinApp::LoadIcon(LPCSTR name) const
     return ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
 }
 
+HCURSOR CWinApp::LoadCursor(LPCSTR name) const
+{
+    return ::LoadCursor(AfxFindResourceHandle(name, RT_GROUP_CURSOR), name);
+}
+
+int CWinApp::DoMessageBox(LPCSTR text, UINT type, UINT)
+{
+    const CWnd* main = AfxGetMainWnd();
+    const HWND owner = ::GetActiveWindow() != nullptr ? ::GetActiveWindow()
+                       : main == nullptr              ? nullptr
+                                                      : main->GetSafeHwnd();
+    return ::MessageBox(owner, text, AfxGetAppName(), type);
+}
+
 CWinApp* AfxGetApp()
 {
     return State().app;
@@ -355,13 +369,37 @@ LPCSTR AfxRegisterWndClass(UINT style, HCURSOR cursor, HBRUSH background, HICON 
 
 // Small services --------------------------------------------------------------------------------
 
-int AfxMessageBox(LPCSTR text, UINT type, UINT)
+int AfxMessageBox(LPCSTR text, UINT type, UINT helpId)
 {
-    const CWnd* main = AfxGetMainWnd();
-    const HWND owner = ::GetActiveWindow() != nullptr ? ::GetActiveWindow()
-                       : main == nullptr              ? nullptr
-                                                      : main->GetSafeHwnd();
-    return ::MessageBox(owner, text, AfxGetAppName(), type);
+    CWinApp* const app = AfxGetApp();
+    return app != nullptr ? app->DoMessageBox(text, type, helpId)
+                          : ::MessageBox(::GetActiveWindow(), text, AfxGetAppName(), type);
+}
+
+int AfxMessageBox(UINT id, UINT type, UINT helpId)
+{
+    CString text;
+    text.LoadString(id);
+    return AfxMessageBox(text, type, helpId);
+}
+
+void AfxFormatString1(CString& text, UINT id, LPCSTR first)
+{
+    text.LoadString(id);
+    text.Replace("%1", first);
+}
+
+void AfxFormatString2(CString& text, UINT id, LPCSTR first, LPCSTR second)
+{
+    CString pattern;
+    pattern.LoadString(id);
+    text.Empty();
+    for (const char* at = pattern; *at != '\0'; ++at)
+    {
+        const bool replaced = at[0] == '%' && (at[1] == '1' || at[1] == '2');
+        at += replaced ? 1 : 0;
+        text += replaced ? CString(*at == '1' ? first : second) : CString(*at);
+    }
 }
 
 void AfxPostQuitMessage(int exitCode)

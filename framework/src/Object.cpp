@@ -1,6 +1,8 @@
 #include "framework/Object.h"
 
 #include <algorithm>
+#include <cstdarg>
+#include <cstdio>
 #include <cstring>
 #include <vector>
 
@@ -16,6 +18,16 @@ std::vector<const CRuntimeClass*>& RegisteredClasses()
 } // namespace
 
 namespace framework {
+
+void Trace(LPCSTR format, ...)
+{
+    char text[1024];
+    va_list values;
+    va_start(values, format);
+    std::vsnprintf(text, sizeof(text), format, values);
+    va_end(values);
+    ::OutputDebugString(text);
+}
 
 ClassRegistration::ClassRegistration(const CRuntimeClass& registered)
     : m_class(registered)

@@ -101,6 +101,14 @@ void CPropertyPage::SetModified(BOOL changed)
     }
 }
 
+void CPropertyPage::CancelToClose()
+{
+    if (m_hWnd != nullptr)
+    {
+        ::SendMessage(::GetParent(m_hWnd), PSM_CANCELTOCLOSE, 0, 0);
+    }
+}
+
 BOOL CPropertyPage::OnApply()
 {
     OnOK();
@@ -253,6 +261,12 @@ void CPropertySheet::RemovePage(int page)
 CPropertyPage* CPropertySheet::GetPage(int page) const
 {
     return page >= 0 && page < GetPageCount() ? m_pages[size_t(page)] : nullptr;
+}
+
+int CPropertySheet::GetPageIndex(const CPropertyPage* page) const
+{
+    const auto found = std::find(m_pages.begin(), m_pages.end(), page);
+    return found == m_pages.end() ? -1 : int(found - m_pages.begin());
 }
 
 int CPropertySheet::GetActiveIndex() const

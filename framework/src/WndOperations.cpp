@@ -203,6 +203,11 @@ void CWnd::InvalidateRgn(CRgn* region, BOOL erase)
         m_hWnd, region == nullptr ? nullptr : static_cast<HRGN>(region->GetSafeHandle()), erase);
 }
 
+void CWnd::ValidateRgn(CRgn* region)
+{
+    ::ValidateRgn(m_hWnd, region == nullptr ? nullptr : static_cast<HRGN>(region->GetSafeHandle()));
+}
+
 BOOL CWnd::RedrawWindow(LPCRECT rect, CRgn* region, UINT flags)
 {
     return ::RedrawWindow(m_hWnd, rect,
@@ -236,6 +241,26 @@ CFrameWnd* CWnd::GetTopLevelFrame() const
         top = frame == nullptr ? top : frame;
     }
     return top;
+}
+
+CWnd* CWnd::GetDescendantWindow(int id, BOOL onlyPermanent) const
+{
+    const HWND own = ::GetDlgItem(m_hWnd, id);
+    if (own != nullptr && (!onlyPermanent || FromHandlePermanent(own) != nullptr))
+    {
+        return FromHandle(own);
+    }
+    for (const HWND child : framework::ChildWindows(m_hWnd))
+    {
+        CWnd* const found = ::GetTopWindow(child) == nullptr
+                                ? nullptr
+                                : FromHandle(child)->GetDescendantWindow(id, onlyPermanent);
+        if (found != nullptr)
+        {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 BOOL CWnd::IsChild(const CWnd* child) const

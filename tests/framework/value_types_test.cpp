@@ -108,3 +108,34 @@ TEST(Text, StringResources)
     text.Format(FormatString, 7, "x");
     EXPECT_STREQ(text, "7 of x");
 }
+
+TEST(Texts, APatternOfTheResourcesTakesItsTextsWhateverTheySay)
+{
+    CString text;
+    AfxFormatString1(text, 60006, "%2");
+    EXPECT_STREQ(text, "%2 before %2 and %2");
+    AfxFormatString2(text, 60006, "%2", "%1");
+    EXPECT_STREQ(text, "%2 before %1 and %2");
+}
+
+// In a file of the system's folder, or in the user's registry.
+TEST(Settings, AreReadAsTheyWereWritten)
+{
+    CWinApp& app = *AfxGetApp();
+    for (const char* const company : {"", "OnBoardUI tests"})
+    {
+        app.SetRegistryKey(company);
+        EXPECT_EQ(app.GetProfileInt("Test", "Number", -3), UINT(-3));
+        EXPECT_STREQ(app.GetProfileString("Test", "Text", "none"), "none");
+        EXPECT_STREQ(app.GetProfileString("Test", "Text"), "");
+        EXPECT_TRUE(app.WriteProfileInt("Test", "Number", -7));
+        EXPECT_TRUE(app.WriteProfileString("Test", "Text", "some text"));
+        EXPECT_EQ(int(app.GetProfileInt("Test", "Number", 1)), -7);
+        EXPECT_STREQ(app.GetProfileString("Test", "Text", "none"), "some text");
+        EXPECT_TRUE(app.WriteProfileString("Test", "Text", nullptr));
+        EXPECT_STREQ(app.GetProfileString("Test", "Text", "none"), "none");
+        EXPECT_TRUE(app.WriteProfileString("Test", nullptr, nullptr));
+        EXPECT_EQ(app.GetProfileInt("Test", "Number", 5), 5U);
+    }
+    app.SetRegistryKey("");
+}

@@ -24,7 +24,29 @@ public:
 
     HICON LoadIcon(LPCSTR name) const;
     HICON LoadIcon(UINT id) const { return LoadIcon(MAKEINTRESOURCE(id)); }
+    HICON LoadStandardIcon(LPCSTR name) const { return ::LoadIcon(nullptr, name); }
+    HCURSOR LoadCursor(LPCSTR name) const;
+    HCURSOR LoadCursor(UINT id) const { return LoadCursor(MAKEINTRESOURCE(id)); }
     HCURSOR LoadStandardCursor(LPCSTR name) const { return ::LoadCursor(nullptr, name); }
+
+    // What AfxMessageBox shows; an override shows something else.
+    virtual int DoMessageBox(LPCSTR text, UINT type, UINT helpId);
+
+    // The application's settings: in the system's registry, under the user's key of this company
+    // and the application, or, as long as no company is named, in a file of the application's name
+    // in the system's folder. A null value or entry takes out what is there.
+    void SetRegistryKey(LPCSTR company) { m_company = company; }
+    void SetRegistryKey(UINT id) { m_company.LoadString(id); }
+    UINT GetProfileInt(LPCSTR section, LPCSTR entry, int fallback);
+    CString GetProfileString(LPCSTR section, LPCSTR entry, LPCSTR fallback = nullptr);
+    BOOL WriteProfileInt(LPCSTR section, LPCSTR entry, int value);
+    BOOL WriteProfileString(LPCSTR section, LPCSTR entry, LPCSTR value);
+
+private:
+    CString m_company;
+
+    CString RegistrySection(LPCSTR section) const;
+    CString SettingsFile() const;
 };
 
 FRAMEWORK_API CWinApp* AfxGetApp();
@@ -54,6 +76,10 @@ FRAMEWORK_API LPCSTR AfxRegisterWndClass(UINT style, HCURSOR cursor = nullptr,
 FRAMEWORK_API BOOL AfxRegisterClass(WNDCLASS* windowClass);
 
 FRAMEWORK_API int AfxMessageBox(LPCSTR text, UINT type = MB_OK, UINT helpId = 0);
+FRAMEWORK_API int AfxMessageBox(UINT id, UINT type = MB_OK, UINT helpId = 0);
+// The string resource with its %1 (and %2) replaced.
+FRAMEWORK_API void AfxFormatString1(CString& text, UINT id, LPCSTR first);
+FRAMEWORK_API void AfxFormatString2(CString& text, UINT id, LPCSTR first, LPCSTR second);
 FRAMEWORK_API void AfxPostQuitMessage(int exitCode);
 FRAMEWORK_API BOOL AfxPumpMessage();
 

@@ -44,6 +44,17 @@
 #define ASSERT(condition) assert(condition)
 #define VERIFY(condition) assert(condition)
 #endif
+// For the debugger's window; nothing in a release build.
+#if defined(NDEBUG)
+#define TRACE(...) ((void)0)
+#else
+#define TRACE(...) framework::Trace(__VA_ARGS__)
+#endif
+#define TRACE0(text) TRACE("%s", text)
+#define TRACE1(format, a) TRACE(format, a)
+#define TRACE2(format, a, b) TRACE(format, a, b)
+#define TRACE3(format, a, b, c) TRACE(format, a, b, c)
+#define DEBUG_NEW new
 #define ASSERT_VALID(object) ASSERT((object) != nullptr)
 
 namespace framework {

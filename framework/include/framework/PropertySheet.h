@@ -28,6 +28,8 @@ public:
     virtual BOOL OnKillActive() { return UpdateData(TRUE); }
     void OnOK() override {}
     void OnCancel() override {}
+    // What the user has done cannot be taken back: OK closes the sheet, Cancel is disabled.
+    void CancelToClose();
     virtual BOOL OnApply();
     virtual void OnReset() { OnCancel(); }
     virtual BOOL OnQueryCancel() { return TRUE; }
@@ -62,11 +64,17 @@ public:
 
     void AddPage(CPropertyPage* page);
     void RemovePage(int page);
+    void RemovePage(CPropertyPage* page) { RemovePage(GetPageIndex(page)); }
     int GetPageCount() const { return int(m_pages.size()); }
     CPropertyPage* GetPage(int page) const;
     CPropertyPage* GetActivePage() const;
     int GetActiveIndex() const;
     BOOL SetActivePage(int page);
+    BOOL SetActivePage(CPropertyPage* page) { return SetActivePage(GetPageIndex(page)); }
+    // -1 for a page that the sheet has not.
+    int GetPageIndex(const CPropertyPage* page) const;
+    // As if the user pressed it: one of the platform's PSBTN_ values.
+    BOOL PressButton(int button) { return PostMessage(PSM_PRESSBUTTON, WPARAM(button)); }
     CTabCtrl* GetTabControl() const;
     void SetTitle(LPCSTR text, UINT style = 0);
 

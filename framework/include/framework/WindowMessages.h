@@ -81,6 +81,10 @@
 // Painting
 #define ON_WM_PAINT() FRAMEWORK_WM_VOID(WM_PAINT, OnPaint)
 #define ON_WM_NCPAINT() FRAMEWORK_WM_VOID(WM_NCPAINT, OnNcPaint)
+#define ON_WM_QUERYDRAGICON()                                                                      \
+    FRAMEWORK_WM(WM_QUERYDRAGICON, call.result = reinterpret_cast<LRESULT>(                        \
+                                       FRAMEWORK_MEMBER(HCURSOR, OnQueryDragIcon, ())());          \
+                 return true;)
 #define ON_WM_ERASEBKGND()                                                                         \
     FRAMEWORK_WM(WM_ERASEBKGND, call.result = FRAMEWORK_MEMBER(BOOL, OnEraseBkgnd, (CDC*))(        \
                                     CDC::FromHandle(reinterpret_cast<HDC>(call.wParam)));          \
@@ -208,6 +212,7 @@
 #define ON_WM_MBUTTONUP() FRAMEWORK_WM_MOUSE(WM_MBUTTONUP, OnMButtonUp)
 #define ON_WM_MBUTTONDBLCLK() FRAMEWORK_WM_MOUSE(WM_MBUTTONDBLCLK, OnMButtonDblClk)
 #define ON_WM_MOUSEMOVE() FRAMEWORK_WM_MOUSE(WM_MOUSEMOVE, OnMouseMove)
+#define ON_WM_MOUSEHOVER() FRAMEWORK_WM_MOUSE(WM_MOUSEHOVER, OnMouseHover)
 #define ON_WM_MOUSELEAVE() FRAMEWORK_WM_VOID(WM_MOUSELEAVE, OnMouseLeave)
 #define ON_WM_MOUSEWHEEL()                                                                         \
     FRAMEWORK_WM(WM_MOUSEWHEEL,                                                                    \

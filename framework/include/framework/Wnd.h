@@ -98,6 +98,8 @@ public:
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
     BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
     BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
+    BOOL FlashWindow(BOOL invert) { return ::FlashWindow(m_hWnd, invert); }
+    void DragAcceptFiles(BOOL accept = TRUE) { ::DragAcceptFiles(m_hWnd, accept); }
     BOOL IsIconic() const { return ::IsIconic(m_hWnd); }
     BOOL IsZoomed() const { return ::IsZoomed(m_hWnd); }
 
@@ -195,6 +197,10 @@ public:
     void InvalidateRect(LPCRECT r, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, r, erase); }
     void InvalidateRgn(CRgn* region, BOOL erase = TRUE);
     void ValidateRect(LPCRECT r) { ::ValidateRect(m_hWnd, r); }
+    void ValidateRgn(CRgn* region);
+    // Nothing of one window at a time is painted on the screen.
+    BOOL LockWindowUpdate() { return ::LockWindowUpdate(m_hWnd); }
+    void UnlockWindowUpdate() { ::LockWindowUpdate(nullptr); }
     BOOL GetUpdateRect(LPRECT r, BOOL erase = FALSE) { return ::GetUpdateRect(m_hWnd, r, erase); }
     BOOL RedrawWindow(LPCRECT rect = nullptr, CRgn* region = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
@@ -232,6 +238,11 @@ public:
     CWnd* GetWindow(UINT command) const { return FromHandle(::GetWindow(m_hWnd, command)); }
     CWnd* GetNextWindow(UINT flag = GW_HWNDNEXT) const { return GetWindow(flag); }
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
+    // The owned window that was active last, the window itself if there is none.
+    CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
+    void ShowOwnedPopups(BOOL show = TRUE) { ::ShowOwnedPopups(m_hWnd, show); }
+    // The first of the children and their children that has the id.
+    CWnd* GetDescendantWindow(int id, BOOL onlyPermanent = FALSE) const;
     BOOL IsChild(const CWnd* child) const;
     static CWnd* PASCAL WindowFromPoint(POINT p) { return FromHandle(::WindowFromPoint(p)); }
     CWnd* ChildWindowFromPoint(POINT p) const
