@@ -433,7 +433,7 @@ HBRUSH CCustomDialog::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
 
 void CCustomDialog::OnWindowPosChanged(WINDOWPOS* position)
 {
-    dialogs::PassAndKeepOrder(*this, m_host, dialogs::IsRestacked(*position),
+    dialogs::PassAndKeepOrder(*this, m_host, dialogs::IsRestacked(position),
                               [&] { CDialog::OnWindowPosChanged(position); });
 }
 

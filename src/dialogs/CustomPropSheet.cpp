@@ -266,7 +266,7 @@ HBRUSH CCustomPropSheet::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
 
 void CCustomPropSheet::OnWindowPosChanged(WINDOWPOS* position)
 {
-    dialogs::PassAndKeepOrder(*this, m_host, dialogs::IsRestacked(*position),
+    dialogs::PassAndKeepOrder(*this, m_host, dialogs::IsRestacked(position),
                               [&] { CPropertySheet::OnWindowPosChanged(position); });
 }
 

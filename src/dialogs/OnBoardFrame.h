@@ -112,9 +112,9 @@ void KeepInHostArea(const CWnd& window, IAppAccess* host, RECT* proposed, bool w
 void UpdateHostZOrder(IAppAccess* host);
 
 // Whether a WM_WINDOWPOSCHANGED tells of another order.
-inline bool IsRestacked(const WINDOWPOS& position)
+inline bool IsRestacked(const WINDOWPOS* position)
 {
-    return (position.flags & SWP_NOZORDER) == 0;
+    return position != nullptr && (position->flags & SWP_NOZORDER) == 0;
 }
 
 // Passes a message to the platform by a call of pass, and then has the host put its windows back

@@ -68,7 +68,7 @@ void QuixEdit::OnWindowPosChanging(WINDOWPOS* position)
 {
     const WindowAlive alive(*this);
     CEdit::OnWindowPosChanging(position);
-    if (!alive)
+    if (!alive || position == nullptr)
     {
         return;
     }

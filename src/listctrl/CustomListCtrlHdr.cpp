@@ -135,7 +135,8 @@ void CCustomListCtrlHdr::OnWindowPosChanging(WINDOWPOS* position)
 {
     const WindowAlive alive(*this);
     CHeaderCtrl::OnWindowPosChanging(position);
-    if (alive && m_offset.x < 0 && (position->flags & SWP_NOSIZE) == 0 && ListWindow() != nullptr)
+    if (alive && position != nullptr && m_offset.x < 0 && (position->flags & SWP_NOSIZE) == 0 &&
+        ListWindow() != nullptr)
     {
         position->cx = StripWidth();
     }

@@ -209,6 +209,10 @@ void BarHost::WindowPosChanging(WINDOWPOS* position)
 {
     const WindowAlive alive(m_window);
     Default();
+    if (position == nullptr)
+    {
+        return;
+    }
     // In the place the platform may still show bars of its own.
     const bool frameAlone = alive && ChangesFrameAlone(*position);
     if (alive && InOnBoard() && m_frameDone && (m_window.GetStyle() & m_manner.styles) != 0)

@@ -268,7 +268,7 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
         }
         break;
     case WM_WINDOWPOSCHANGING:
-        if (const WindowAlive alive(Window()); Strip() != 0 && alive)
+        if (const WindowAlive alive(Window()); lParam != 0 && Strip() != 0 && alive)
         {
             m_frame.SaveRecalculation(Window(), *reinterpret_cast<WINDOWPOS*>(lParam));
         }

@@ -283,8 +283,8 @@ void CZepMsgBoxDlg::OnWindowPosChanging(WINDOWPOS* position)
     const WindowAlive alive(*this);
     CCustomDialog::OnWindowPosChanging(position);
     constexpr UINT FrameOnly = SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE;
-    if (alive && m_opening != nullptr && (position->flags & FrameOnly) == FrameOnly &&
-        std::exchange(m_beingCreated, false))
+    if (alive && position != nullptr && m_opening != nullptr &&
+        (position->flags & FrameOnly) == FrameOnly && std::exchange(m_beingCreated, false))
     {
         OpenInPlace(*position);
     }

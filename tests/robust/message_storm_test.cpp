@@ -110,4 +110,35 @@ TEST_P(MessageStorm, LeavesTheControlSound)
 INSTANTIATE_TEST_SUITE_P(Of, MessageStorm, testing::ValuesIn(Subjects()),
                          [](const auto& info) { return TestName(info.param.name); });
 
+// The rest the platform's own controls do not bear: WM_NOTIFY, WM_GETTEXT, changes of GWL_STYLE.
+TEST_F(WindowTest, ControlsPassOverMessagesThatComeWithoutTheirRecord)
+{
+    constexpr UINT Messages[] = {
+        WM_NCCALCSIZE, WM_MOVING,      WM_SIZING,        WM_WINDOWPOSCHANGING, WM_GETMINMAXINFO,
+        WM_SETTEXT,    WM_DRAWITEM,    WM_MEASUREITEM,   WM_COMPAREITEM,       WM_DELETEITEM,
+        WM_HELP,       WM_COPYDATA,    WM_SETTINGCHANGE, WM_CTLCOLORSTATIC,    WM_CTLCOLOREDIT,
+        WM_ERASEBKGND, WM_PRINTCLIENT, WM_PARENTNOTIFY,  WM_STYLECHANGED};
+    for (const Subject& subject : Subjects())
+    {
+        for (const APPMODE mode : {STD, ONBOARD})
+        {
+            const ModeScope scope(mode);
+            const std::unique_ptr<CWnd> window = subject.make(Host());
+            const bool bearsMore = !IsOfClass(*window, WC_LISTVIEW);
+            for (const WPARAM flag : {FALSE, TRUE})
+            {
+                for (const UINT message : Messages)
+                {
+                    window->SendMessage(message, flag, 0);
+                }
+                for (const UINT message : {WM_WINDOWPOSCHANGED, WM_STYLECHANGING})
+                {
+                    window->SendMessage(bearsMore ? message : WM_NULL, flag, 0);
+                }
+            }
+            EXPECT_EQ(FaultOf(*window).value_or(""), "") << subject.name;
+        }
+    }
+}
+
 } // namespace
