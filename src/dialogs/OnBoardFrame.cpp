@@ -277,13 +277,13 @@ Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight)
 
 bool AsksForSystemCommand(const CWnd& window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (!COnBoardUIGeneral::InOnBoardMode())
+    if (!COnBoardUIGeneral::InOnBoardMode() || window.IsIconic())
     {
         return false;
     }
     if (message == WM_NCLBUTTONDBLCLK)
     {
-        return wParam == HTCAPTION && !window.IsZoomed() && !window.IsIconic();
+        return wParam == HTCAPTION && !window.IsZoomed();
     }
     if ((window.GetStyle() & WS_CHILD) != 0)
     {

@@ -78,8 +78,9 @@ LRESULT HitOnBoardFrame(const CWnd& window, const CPoint& screen, int captionHei
 // menu: by Alt or F10, by Alt+Space, or by the right button on the frame. A window that was open
 // when the mode changed still has the style for it. A child leaves the keys to its frame.
 // Or whether it would maximise the window, by two taps on the caption: it would lie over the whole
-// screen, not only the host's area, without a box to restore it by. One that is maximised or
-// minimised already is restored by them.
+// screen, not only the host's area, without a box to restore it by. One that is maximised already
+// is restored by them.
+// An icon has no such frame: its menu opens, and two taps restore it.
 bool AsksForSystemCommand(const CWnd& window, UINT message, WPARAM wParam, LPARAM lParam);
 
 // What a frame is painted from.

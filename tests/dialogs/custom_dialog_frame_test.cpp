@@ -185,6 +185,11 @@ TEST_F(CustomDialogTest, OnBoardNothingOpensTheSystemMenu)
             EXPECT_TRUE(mode == STD || ShowsWhatAPaintWould(*window));
         }
     }
+    for (CWnd* const window : {static_cast<CWnd*>(&dialog), static_cast<CWnd*>(&sheet)})
+    {
+        window->ShowWindow(SW_MINIMIZE);
+        EXPECT_GT(MenusOpened(*window), 0) << "an icon has nothing else " << (window == &sheet);
+    }
     sheet.DestroyWindow();
 }
 
