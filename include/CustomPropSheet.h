@@ -17,7 +17,8 @@ struct SheetControls;
 
 // A property sheet that follows the display mode: registered from construction to destruction, it
 // rescales and restyles its children when the mode changes and once when it opens in an on-board
-// mode. There it has the frame, the caption and the colours of an on-board dialog.
+// mode. There it has the frame, the caption and the colours of an on-board dialog; of these the
+// colours alone when it is a child without a caption.
 class ONBOARDUI_API CCustomPropSheet : public CPropertySheet
 {
     DECLARE_DYNAMIC(CCustomPropSheet)

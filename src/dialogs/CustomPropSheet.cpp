@@ -197,7 +197,7 @@ void CCustomPropSheet::LayOutOnBoard()
         }
     });
 
-    if (alive)
+    if (alive && HasOnBoardFrame())
     {
         dialogs::TakePlatformCaption(*this, m_takenStyles);
     }
@@ -288,9 +288,12 @@ void CCustomPropSheet::OnMoving(UINT side, LPRECT proposed)
 
 // Non-client area -------------------------------------------------------------------------------
 
+// A sheet that stands in another window as a child has a caption only if the platform gives it one.
 bool CCustomPropSheet::HasOnBoardFrame() const
 {
-    return m_laidOut && COnBoardUIGeneral::InOnBoardMode();
+    const DWORD style = GetStyle() | m_takenStyles;
+    return m_laidOut && COnBoardUIGeneral::InOnBoardMode() &&
+           ((style & WS_CHILD) == 0 || (style & WS_CAPTION) == WS_CAPTION);
 }
 
 void CCustomPropSheet::DrawOBNC(bool active)
@@ -348,6 +351,7 @@ LRESULT CCustomPropSheet::OnSetCaption(WPARAM, LPARAM)
 LRESULT CCustomPropSheet::OnSystemRequest(WPARAM wParam, LPARAM lParam)
 {
     const UINT message = GetCurrentMessage()->message;
-    return m_laidOut && dialogs::AsksForSystemCommand(*this, message, wParam, lParam) ? 0
-                                                                                      : Default();
+    return HasOnBoardFrame() && dialogs::AsksForSystemCommand(*this, message, wParam, lParam)
+               ? 0
+               : Default();
 }

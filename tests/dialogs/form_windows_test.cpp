@@ -214,6 +214,27 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
     }
 }
 
+TEST_F(FormWindowsTest, ASheetThatIsAChildHasNeitherBandNorFrame)
+{
+    for (const APPMODE opened : {STD, ONBOARD})
+    {
+        SCOPED_TRACE(opened);
+        const ModeScope scope(opened);
+        CCustomPropPage page(IDD_TEST_PAGE_1);
+        CCustomPropSheet sheet("Sheet", nullptr);
+        sheet.AddPage(&page);
+        ASSERT_TRUE(sheet.Create(&Host(), WS_CHILD | WS_VISIBLE | DS_CONTROL, 0));
+        COnBoardUIGeneral::SetAppMode(ONBOARD);
+        sheet.SendMessage(WM_NCACTIVATE, TRUE);
+        const Pixels shown = Settled(sheet);
+        EXPECT_EQ(ClientRectOf(sheet), CRect(CPoint(0, 0), WindowRectOf(sheet).Size()));
+        EXPECT_EQ(shown.At(shown.Width() / 2, 2), RGB(50, 50, 50));
+        const CPoint top = ClientPoint(sheet, CPoint(60, 6));
+        EXPECT_EQ(sheet.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(top.x, top.y)), HTCLIENT);
+        sheet.DestroyWindow();
+    }
+}
+
 // The combos of a window, each as wide as a finger where the template leaves the room, and never
 // over what stands below them or over the edge of the box that they stand in.
 std::vector<int> ComboHeights(const CWnd& window)
