@@ -127,7 +127,7 @@ BOOL CPropertyPage::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     switch (header->code)
     {
     case UINT(PSN_SETACTIVE):
-        answer = OnSetActive() ? 0 : -1;
+        answer = !m_leaving && OnSetActive() ? 0 : -1;
         break;
     case UINT(PSN_KILLACTIVE):
         answer = m_leaving || OnKillActive() ? FALSE : TRUE;

@@ -196,6 +196,20 @@ TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwnerUntilItIsClosed)
         ASSERT_EQ(sheet == nullptr, ends);
         EXPECT_TRUE(ends || (sheet->GetPageCount() == 1 && sheet->GetPage(0) == &second));
     }
+    // One that does not want to be shown leaves it to the next that stays.
+    struct Shy : Page
+    {
+        using Page::Page;
+        BOOL OnSetActive() override { return FALSE; }
+    } shy(IDD_TEST_PAGE_1, "shy", journal);
+    Sheet three(&Host(), {&shy, &first, &second});
+    ASSERT_TRUE(three.Create(&Host()));
+    ASSERT_EQ(three.GetActivePage(), &first);
+    TakeJournal();
+    three.RemovePage(1);
+    EXPECT_EQ(three.GetActivePage(), &second);
+    EXPECT_EQ(TakeJournal(), (Journal{"second init", "second active"}));
+    three.DestroyWindow();
     for (const bool byIndex : {true, false})
     {
         auto* const sheet =

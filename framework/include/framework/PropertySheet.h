@@ -42,7 +42,7 @@ protected:
 
 private:
     CPropertySheet* m_sheet = nullptr;
-    bool m_leaving = false; // it is being removed, which it is not asked about
+    bool m_leaving = false; // it is being removed: neither asked about it nor shown again
 
     void Construct(LPCSTR templateName, UINT captionId);
     static UINT CALLBACK Created(HWND window, UINT message, PROPSHEETPAGE* page);
