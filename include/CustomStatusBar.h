@@ -52,6 +52,7 @@ private:
     HFONT m_standardFont = nullptr;
 
     bool FollowMode();
+    void TellPlatformOfPanes();
     std::vector<CRect> PanePlaces() const;
     void DrawPane(CDC& dc, int pane, const CRect& place);
     CString PaneText(int pane) const;

@@ -117,7 +117,33 @@ void CCustomStatusBar::OnSize(UINT type, int width, int height)
     CStatusBarCtrl::OnSize(type, width, height);
     if (alive && FollowMode() && alive)
     {
-        Invalidate(FALSE); // the last pane ends elsewhere, and its text may stand there
+        TellPlatformOfPanes();
+        if (alive)
+        {
+            Invalidate(FALSE); // the last pane ends elsewhere, and its text may stand there
+        }
+    }
+}
+
+// Where its owner places the bar, the platform works its panes out when it paints, which it does
+// not on-board: it looks for what is clicked, and for the pane of a tip, where they were.
+void CCustomStatusBar::TellPlatformOfPanes()
+{
+    if ((GetStyle() & CCS_NORESIZE) == 0)
+    {
+        return;
+    }
+    const int count = int(DefWindowProc(SB_GETPARTS, 0, 0));
+    std::vector<int> edges(size_t(std::max(0, count)), 0);
+    const auto room = reinterpret_cast<LPARAM>(edges.data());
+    if (count <= 0 || DefWindowProc(SB_GETPARTS, WPARAM(count), room) != count)
+    {
+        return;
+    }
+    for (int turn = 0; turn < 2; ++turn) // not every platform minds edges that it has already
+    {
+        edges.front() ^= 1;
+        DefWindowProc(SB_SETPARTS, WPARAM(count), room);
     }
 }
 

@@ -150,6 +150,15 @@ TEST_F(StatusBarTest, AnOwnerThatPlacesItGetsItsPanesWhereTheyAre)
     bar.MoveWindow(CRect(0, 0, 400, 34));
     EXPECT_EQ(letters(230, 300), 0) << "and goes there with it";
     EXPECT_GT(letters(330, 400), 100);
+    int clicked = -1;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.message == WM_NOTIFY && told.code == UINT(NM_CLICK))
+        {
+            clicked = int(reinterpret_cast<NMMOUSE*>(told.lParam)->dwItemSpec);
+        }
+    };
+    Click(ClientPoint(bar, CPoint(390, 20)));
+    EXPECT_EQ(clicked, 1);
     bar.SetWindowText(""); // the first pane's
     EXPECT_EQ(letters(0, 100), 0);
     for (const bool simple : {false, true}) // whose one place is every pane's
