@@ -169,6 +169,8 @@ TEST_F(StatusBarTest, AnOwnerThatPlacesItGetsItsPanesWhereTheyAre)
         EXPECT_EQ(last.BottomRight(), CPoint(400, 34));
         EXPECT_EQ(last.left < 100, simple);
         EXPECT_FALSE(bar.GetRect(2, &last));
+        bar.MoveWindow(CRect(0, 0, 400, simple ? 35 : 34));
+        EXPECT_EQ(bar.IsSimple() != FALSE, simple);
     }
 }
 
