@@ -334,6 +334,7 @@ private:
     void TakeHeader();
     int HeadingWidth(int column);
     void GiveOwnWidth(int column);
+    void NoteOwnWidth(int column);
     void FitLastColumn();
     void HoldPlatform();
     bool FollowFilling(UINT message);

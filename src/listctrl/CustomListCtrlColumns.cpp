@@ -73,6 +73,7 @@ LRESULT CCustomListCtrl::OnInsertColumn(WPARAM wParam, LPARAM lParam)
 LRESULT CCustomListCtrl::OnDeleteColumn(WPARAM wParam, LPARAM)
 {
     const WindowAlive alive(*this);
+    const bool fitted = m_fittedColumn != -1 && int(wParam) == m_fittedColumn;
     const bool settling = std::exchange(m_settling, true); // not half way
     const LRESULT deleted = Default();
     if (alive)
@@ -87,6 +88,10 @@ LRESULT CCustomListCtrl::OnDeleteColumn(WPARAM wParam, LPARAM)
     {
         m_fittedColumn = LastColumn(); // fills the list, also if it has not been last so far
         m_fittedTo.SetRectEmpty();
+        if (fitted)
+        {
+            NoteOwnWidth(m_fittedColumn);
+        }
     }
     return deleted;
 }
@@ -138,6 +143,18 @@ void CCustomListCtrl::GiveOwnWidth(int column)
     }
 }
 
+// Keeps the width that the user or the host has given a column by now, before it fills the list.
+void CCustomListCtrl::NoteOwnWidth(int column)
+{
+    CRect heading;
+    if (HeaderItemRect(column, heading) && size_t(column) < m_columnWidths.size() &&
+        heading.Width() != m_columnWidths[size_t(column)].onBoard)
+    {
+        m_columnWidths[size_t(column)] = {listctrl::StandardWidth(heading.Width()),
+                                          heading.Width()};
+    }
+}
+
 // The last column fills what the others leave of the list, and is at least as wide as its heading.
 void CCustomListCtrl::FitLastColumn()
 {
@@ -159,11 +176,7 @@ void CCustomListCtrl::FitLastColumn()
     const int before = std::exchange(m_fittedColumn, last);
     if (before != -1 && before != last)
     {
-        const int own = column.Width(); // as the user or the host has it by now
-        if (size_t(last) < m_columnWidths.size() && own != m_columnWidths[size_t(last)].onBoard)
-        {
-            m_columnWidths[size_t(last)] = {listctrl::StandardWidth(own), own};
-        }
+        NoteOwnWidth(last);
         GiveOwnWidth(before);
     }
     if (alive)

@@ -32,6 +32,12 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
     EXPECT_EQ(list.GetColumnWidth(0), 100);
     EXPECT_EQ(list.GetColumnWidth(1), 50);
     EXPECT_EQ(list.GetColumnWidth(2), 70);
+    SetMode(ONBOARD, list);
+    list.InsertColumn(3, "D", LVCFMT_LEFT, 50);
+    list.SetColumnWidth(2, 136);
+    list.DeleteColumn(3); // another one becomes the last
+    SetMode(STD, list);
+    EXPECT_EQ(list.GetColumnWidth(2), 80);
 }
 
 TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
