@@ -224,7 +224,11 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
     {
         return; // with the size that it gets
     }
-    if (m_bars->IsLaidOut() && !m_settling && !m_bars->IsFollowing() && MayChangeContent(message))
+    // Widths on the way to that of the last column are told of, too, and may bring a platform's bar:
+    // by them a list that is scrolled to its right edge would step back.
+    const bool halfWay =
+        m_settling || (m_fitting && (message == WM_NOTIFY || message == WM_STYLECHANGED));
+    if (m_bars->IsLaidOut() && !halfWay && !m_bars->IsFollowing() && MayChangeContent(message))
     {
         m_settling = true;
         // Columns that are being inserted keep their widths, also the last one until the next

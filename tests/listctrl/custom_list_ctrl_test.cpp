@@ -169,8 +169,9 @@ TEST_F(ListCtrlOnBoard, TheColumnThatStandsLastFillsTheListAndAllOthersAreReache
             }
             list.PerformHScroll(SB_RIGHT);
             list.ExpectInStep(name);
-            EXPECT_LT(list.ColumnRect(now.back()).left + list.m_drawOffset.x,
-                      ClientRectOf(list).right);
+            EXPECT_LE(list.ColumnRect(now.back()).right + list.m_drawOffset.x,
+                      ClientRectOf(list).right)
+                << "its right edge comes into sight";
         }
         SetMode(STD, list);
         for (const int column : {0, 1, 2})
