@@ -340,6 +340,7 @@ private:
     bool FollowFilling(UINT message);
     void EndFilling();
     void KeepInStep(UINT message, bool sameMode);
+    void FollowColumnOrder();
     void UpdateScrollData();
     Measured Measure();
     void MoveTo(int axis, int position);

@@ -76,6 +76,8 @@ protected:
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg LRESULT OnSetHotDivider(WPARAM wParam, LPARAM lParam);
+    // The list follows at once.
+    afx_msg LRESULT OnSetOrderArray(WPARAM wParam, LPARAM lParam);
     // The list hears of it as well.
     afx_msg BOOL OnHdnItemclick(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()

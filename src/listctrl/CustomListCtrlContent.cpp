@@ -267,6 +267,21 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
     }
 }
 
+// The header has been given another order of columns past the list.
+void CCustomListCtrl::FollowColumnOrder()
+{
+    const WindowAlive alive(*this);
+    m_bars->Follow();
+    if (alive && m_bars->IsLaidOut())
+    {
+        KeepInStep(LVM_SETCOLUMNORDERARRAY, true);
+    }
+    if (alive && m_bars->IsLaidOut())
+    {
+        Invalidate(FALSE);
+    }
+}
+
 CCustomListCtrl::Measured CCustomListCtrl::Measure()
 {
     Measured now;

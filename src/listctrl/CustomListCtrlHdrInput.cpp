@@ -405,3 +405,15 @@ LRESULT CCustomListCtrlHdr::OnSetHotDivider(WPARAM wParam, LPARAM lParam)
     }
     return divider;
 }
+
+// The platform tells nobody that columns were put in another order.
+LRESULT CCustomListCtrlHdr::OnSetOrderArray(WPARAM, LPARAM)
+{
+    const WindowAlive alive(*this);
+    const LRESULT result = Default();
+    if (CCustomListCtrl* const list = alive ? List() : nullptr)
+    {
+        list->FollowColumnOrder();
+    }
+    return result;
+}

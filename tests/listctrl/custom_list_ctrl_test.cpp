@@ -137,6 +137,7 @@ TEST_F(ListCtrlOnBoard, TheColumnThatStandsLastFillsTheListAndAllOthersAreReache
             list.SetColumn(column, &moved);
         };
         int order[] = {2, 0, 1};
+        int back[] = {1, 2, 0};
         // What changes, and the order then.
         const std::tuple<const char*, std::function<void()>, std::vector<int>> changes[] = {
             {"order", [&] { list.SetColumnOrderArray(3, order); }, {2, 0, 1}},
@@ -153,7 +154,10 @@ TEST_F(ListCtrlOnBoard, TheColumnThatStandsLastFillsTheListAndAllOthersAreReache
              [&] { list.InsertColumn(3, "D", LVCFMT_LEFT, 60), list.ReCheckScrollBars(); },
              {0, 2, 1, 3}},
             {"between", [&] { put(3, 1); }, {0, 3, 2, 1}},
-            {"last deleted", [&] { list.DeleteColumn(1); }, {0, 2, 1}}};
+            {"last deleted", [&] { list.DeleteColumn(1); }, {0, 2, 1}},
+            {"order of the header",
+             [&] { list.m_header.SendMessage(HDM_SETORDERARRAY, 3, LPARAM(back)); },
+             {1, 2, 0}}};
         for (const auto& [name, act, expected] : changes)
         {
             act();
