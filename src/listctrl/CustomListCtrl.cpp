@@ -71,6 +71,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_NOTIFY_REFLECT_EX(NM_RDBLCLK, &CCustomListCtrl::OnNmClick)
     ON_NOTIFY_REFLECT_EX(LVN_BEGINDRAG, &CCustomListCtrl::OnNmClick)
     ON_NOTIFY_REFLECT_EX(LVN_BEGINRDRAG, &CCustomListCtrl::OnNmClick)
+    ON_NOTIFY_REFLECT_EX(LVN_HOTTRACK, &CCustomListCtrl::OnLvnHottrack)
     ON_NOTIFY_REFLECT_EX(LVN_ITEMACTIVATE, &CCustomListCtrl::OnLvnItemActivate)
 END_MESSAGE_MAP()
 

@@ -486,6 +486,19 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
     return !alive;
 }
 
+// Likewise of the row under the pointer.
+BOOL CCustomListCtrl::OnLvnHottrack(NMHDR* header, LRESULT*)
+{
+    const WindowAlive alive(*this);
+    if (InOnBoard() && m_drawOffset != CPoint(0, 0))
+    {
+        auto& told = *reinterpret_cast<NMLISTVIEW*>(header);
+        told.iItem = HitBy(told.ptAction).drawn;
+        told.iSubItem = alive ? ColumnAt(told.ptAction.x - int(m_drawOffset.x)) : -1;
+    }
+    return !alive;
+}
+
 // The column at a place across the unscrolled list, or -1.
 int CCustomListCtrl::ColumnAt(int x) const
 {

@@ -76,6 +76,9 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
     Release();
     EXPECT_GE(list.clicked.size(), 3U);
     EXPECT_THAT(list.clicked, testing::Each(std::tuple(7, 1, 700)));
+    NMLISTVIEW hot = {{list, FirstId, UINT(LVN_HOTTRACK)}, 2, 0, 0, 0, 0, list.RowPoint(7), 0};
+    Host().SendMessage(WM_NOTIFY, FirstId, LPARAM(&hot)); // as some platforms tell it
+    EXPECT_EQ(std::pair(hot.iItem, hot.iSubItem), std::pair(7, 1));
     // The bar across goes past the last column; so does the bar of a selected row.
     list.PerformHScroll(SB_RIGHT);
     Click(ClientPoint(list, list.RowPoint(8, ClientRectOf(list).right - 10)));
