@@ -1,6 +1,7 @@
 // The report list: clicks on its rows, and what the parent is told of them.
 
 #include "CustomListCtrl.h"
+#include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
@@ -244,6 +245,12 @@ void CCustomListCtrl::LetPlatformPress(UINT message, const PressHit& hit, const 
     {
         m_selChanging = FALSE;
     }
+    if (alive && right)
+    {
+        // The platform waits in a loop of its own until the button is up; meanwhile the rows are
+        // shown, and may change, with the states that they are to have.
+        PostMessage(listctrl::TakeBackMessage);
+    }
     if (alive)
     {
         Ask(message, MK_CONTROL | (right ? MK_RBUTTON : MK_LBUTTON), MAKELPARAM(point.x, point.y));
@@ -252,6 +259,12 @@ void CCustomListCtrl::LetPlatformPress(UINT message, const PressHit& hit, const 
     {
         TakeBackPress();
     }
+}
+
+LRESULT CCustomListCtrl::OnTakeBackPress(WPARAM, LPARAM)
+{
+    TakeBackPress();
+    return 0;
 }
 
 void CCustomListCtrl::TakeBackPress()
@@ -452,14 +465,15 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
     {
         return TRUE;
     }
-    // Of a drag no more is told than its row, which is that of the press.
+    // Of a drag no more is told than its row, which is that of the press, as a right click's is.
     const bool drag = told.hdr.code == UINT(LVN_BEGINDRAG) || told.hdr.code == UINT(LVN_BEGINRDRAG);
     m_pressedRow = drag ? -1 : m_pressedRow;
     if (!InOnBoard())
     {
         return FALSE;
     }
-    int row = told.iItem < 0 ? -1 : told.iItem + (drag ? m_pressedTop : TopRow());
+    const bool ofPress = drag || told.hdr.code == UINT(NM_RCLICK);
+    int row = told.iItem < 0 ? -1 : told.iItem + (ofPress ? m_pressedTop : TopRow());
     if (!drag && m_drawOffset.x != 0)
     {
         told.iSubItem = ColumnAt(told.ptAction.x - int(m_drawOffset.x));

@@ -186,6 +186,23 @@ bool ChoosesView(UINT message)
     }
 }
 
+// After these a row may have another index.
+bool MovesRows(UINT message)
+{
+    switch (message)
+    {
+    case LVM_INSERTITEMA:
+    case LVM_INSERTITEMW:
+    case LVM_DELETEITEM:
+    case LVM_DELETEALLITEMS:
+    case LVM_SORTITEMS:
+    case LVM_SORTITEMSEX:
+        return true;
+    default:
+        return false;
+    }
+}
+
 // After these there may be a header, which a list that was made hidden or in another view has not
 // had.
 bool MayBringHeader(UINT message)
@@ -214,6 +231,11 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
     if (ChoosesView(message) && sameMode)
     {
         m_view.reset();
+    }
+    if (MovesRows(message))
+    {
+        m_pressedRow = -1;
+        m_pressedTop = TopRow(); // a row that is held is the one that is drawn there by now
     }
     const WindowAlive alive(*this);
     if (MayBringHeader(message))

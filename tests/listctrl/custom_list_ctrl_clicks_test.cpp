@@ -239,6 +239,45 @@ TEST_F(ListCtrlOnBoard, ARightClickIsToldOfWithTheDrawnRowSelectedOrAsItWas)
     }
 }
 
+TEST_F(ListCtrlOnBoard, WhileARightButtonIsHeldTheRowsShowWhatTheyWillHave)
+{
+    auto& list = AddList<ListThatNotes>(100);
+    list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
+    int told = -1;
+    list.onRightClick = [&](int row) { told = row; };
+    int x = 20;
+    // What happens meanwhile, the row that is told, and the one that has selection and focus then.
+    const std::tuple<const char*, std::function<void()>, int, int> acts[] = {
+        {"nothing", [] {}, 25, 25},
+        {"scrolled", [&] { list.EnsureVisible(0, FALSE); }, 25, 25},
+        {"filled anew", [&] { list.DeleteAllItems(), list.Fill(60); }, 5, -1}};
+    for (const auto& [name, act, row, selected] : acts)
+    {
+        SCOPED_TRACE(name);
+        list.PerformVScroll(20, list.TopRow());
+        x = 70 - x; // two clicks on one place would be a double click
+        MoveTo(ClientPoint(list, list.RowPoint(25, x)));
+        PlaySteps({[] { QueueButton(true, true); },
+                   [&, &meanwhile = act] {
+                       EXPECT_EQ(list.Selected(), std::set<int>{25});
+                       EXPECT_EQ(list.Focused(), 25);
+                       EXPECT_TRUE(ShowsWhatAPaintWould(list));
+                       meanwhile();
+                   },
+                   [] { QueueButton(false, true); }});
+        EXPECT_EQ(told, row);
+        EXPECT_EQ(list.Selected(), selected < 0 ? std::set<int>() : std::set{selected});
+        EXPECT_EQ(list.Focused(), selected);
+    }
+    // Nor is a row selected alone by its index when the button goes up that is another one by then.
+    list.PerformVScroll(20, 0);
+    list.SelectOnly({25, 27});
+    Press(ClientPoint(list, list.RowPoint(25)));
+    list.InsertItem(0, "new");
+    Release();
+    EXPECT_EQ(list.Selected(), (std::set{26, 28}));
+}
+
 TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)
 {
     auto& list = AddList(100, 8);
