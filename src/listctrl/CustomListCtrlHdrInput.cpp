@@ -25,19 +25,29 @@ LRESULT CCustomListCtrlHdr::Ask(UINT message, WPARAM wParam, LPARAM lParam) cons
     return const_cast<CCustomListCtrlHdr*>(this)->DefWindowProc(message, wParam, lParam);
 }
 
-// The first item whose right edge is that near to x (shifted, as drawn), or -1.
+// The first item whose right edge is that near to x (shifted, as drawn), or -1. Right of an edge at
+// which an item of no width stands it is that one, which could not be made wider otherwise.
 int CCustomListCtrlHdr::DividerAt(int x) const
 {
     const int count = int(Ask(HDM_GETITEMCOUNT));
+    int found = -1;
+    LONG edge = 0;
     for (int item = 0; item < count; ++item)
     {
         CRect rect;
-        if (ItemRect(item, rect) && std::abs(rect.right + m_offset.x - x) < DividerReach)
+        if (!ItemRect(item, rect))
         {
-            return item;
+            continue;
+        }
+        const LONG drawn = rect.right + m_offset.x;
+        const bool hidden = rect.Width() == 0 && drawn == edge && x >= edge;
+        if (found == -1 ? std::abs(drawn - x) < DividerReach : hidden)
+        {
+            found = item;
+            edge = drawn;
         }
     }
-    return -1;
+    return found;
 }
 
 // The platform's processing of a pointer message, at the point of the unshifted header. What is an

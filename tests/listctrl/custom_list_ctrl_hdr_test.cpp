@@ -165,6 +165,10 @@ TEST_F(ListCtrlOnBoard, ADividerIsTakenLessThanTenPixelsAway)
         EXPECT_EQ(list.GetColumnWidth(column), 102) << "a press alone resizes nothing";
         ++column;
     }
+    list.SetColumnWidth(1, 0); // right of its divider a column of no width is opened again
+    Drag(list.DividerPoint(1, 5), list.DividerPoint(1, 45));
+    EXPECT_EQ(list.GetColumnWidth(0), 102);
+    EXPECT_EQ(list.GetColumnWidth(1), 45);
 }
 
 TEST_F(ListCtrlOnBoard, ADividerIsDraggedAlsoWithTheListScrolledSideways)
