@@ -4,6 +4,7 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
@@ -140,6 +141,20 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
     };
     RowSpan rows = {listctrl::FirstDrawnRow(int(m_drawOffset.y), height),
                     listctrl::EndOfDrawnRows(int(m_drawOffset.y), height, int(rect.bottom), items)};
+    const WindowAlive alive(*this);
+    if ((GetStyle() & LVS_OWNERDATA) != 0 && rows.first < rows.end)
+    {
+        // Their owner may fetch them all at once.
+        NMLVCACHEHINT told = {};
+        told.hdr.code = UINT(LVN_ODCACHEHINT);
+        told.iFrom = rows.first;
+        told.iTo = rows.end - 1;
+        TellNotify(GetSafeHwnd(), told.hdr);
+        if (!alive)
+        {
+            return;
+        }
+    }
     while (rows.first < rows.end && topOf(rows.first) + height <= clip.top)
     {
         ++rows.first;
@@ -148,7 +163,6 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
     {
         --rows.end;
     }
-    const WindowAlive alive(*this);
     std::set<int> selected;
     m_paintedRows = rows;
     GetSelectedRows(selected);

@@ -239,7 +239,13 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     auto& list = Add<ListForTests>(CRect(20, 20, 420, 420), ReportStyle | LVS_OWNERDATA);
     list.AddColumns(2);
     std::set<int> asked;
+    std::pair<int, int> hint; // the rows that are about to be asked for
     Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(LVN_ODCACHEHINT))
+        {
+            const auto& rows = *reinterpret_cast<const NMLVCACHEHINT*>(told.lParam);
+            hint = {rows.iFrom, rows.iTo};
+        }
         if (told.code == UINT(LVN_GETDISPINFOA))
         {
             auto& item = reinterpret_cast<NMLVDISPINFO*>(told.lParam)->item;
@@ -261,6 +267,7 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     list.ExpectInStep("end");
     EXPECT_LE(asked.size(), size_t(3 * list.VisibleRows()));
     EXPECT_TRUE(asked.count(999'999));
+    EXPECT_EQ(hint, std::pair(list.TopRow(), 999'999));
     EXPECT_GT(WindowPixels(list).Count(palette::HighlightText), 5);
     // Its owner may end the list while it is painted.
     Host().hook = [&](ToldMessage& told) {
