@@ -199,6 +199,7 @@ protected:
     // The parent hears of these as well.
     afx_msg BOOL OnLvnColumnclick(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnNmClick(NMHDR* header, LRESULT* result);
+    afx_msg BOOL OnLvnMarqueebegin(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnHottrack(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnItemActivate(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()

@@ -497,7 +497,14 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
             told.uOldState = drawn.state;
         }
     }
-    return !alive;
+    return !alive || (drag && told.iItem < 0); // beside all rows there is nothing to drag
+}
+
+// A band would select the platform's rows, which are not those that are drawn under it.
+BOOL CCustomListCtrl::OnLvnMarqueebegin(NMHDR*, LRESULT* result)
+{
+    *result = InOnBoard() && m_drawOffset != CPoint(0, 0);
+    return *result != FALSE;
 }
 
 // Likewise of the row under the pointer.

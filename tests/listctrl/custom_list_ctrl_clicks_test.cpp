@@ -126,6 +126,15 @@ TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlac
     Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
     EXPECT_EQ(list.Selected(), std::set<int>());
     EXPECT_EQ(list.GetSelectionMark(), row - 1);
+    // Nor is anything dragged or, without full rows, selected by a band from beside them.
+    list.clicked.clear();
+    Drag(ClientPoint(list, CPoint(60, ClientRectOf(list).bottom - 3)),
+         ClientPoint(list, CPoint(20, 90)));
+    EXPECT_THAT(list.clicked, testing::Each(testing::FieldsAre(testing::Ge(0), 0, 0)));
+    list.SetExtendedStyle(0);
+    list.PerformVScroll(20, list.TopRow());
+    Drag(ClientPoint(list, CPoint(250, 300)), ClientPoint(list, CPoint(20, 90)), 8);
+    EXPECT_EQ(list.Selected(), std::set<int>());
 }
 
 TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFinalStep)
