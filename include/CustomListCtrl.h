@@ -191,6 +191,7 @@ protected:
     afx_msg LRESULT OnDeleteColumn(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetColumnWidth(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteAllItems(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnEditLabel(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnEnsureVisible(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnScroll(WPARAM wParam, LPARAM lParam);
     afx_msg void OnHdnTrack(NMHDR* header, LRESULT* result);
@@ -200,6 +201,7 @@ protected:
     afx_msg BOOL OnLvnColumnclick(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnNmClick(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnMarqueebegin(NMHDR* header, LRESULT* result);
+    afx_msg BOOL OnLvnBeginlabeledit(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnHottrack(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnItemActivate(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
@@ -290,6 +292,7 @@ private:
     bool m_settling = false;
     bool m_fitting = false;
     bool m_activating = false; // by the pointer
+    bool m_labelDue = false;   // the edit of a label is to be placed over the row that is drawn
     int m_fittedColumn = -1;   // the last column, once it fills the list
     CRect m_fittedTo;          // client width and place of that column when it was fitted
     std::vector<ColumnWidth> m_columnWidths;

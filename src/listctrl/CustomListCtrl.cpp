@@ -58,6 +58,8 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_MESSAGE(LVM_DELETECOLUMN, &CCustomListCtrl::OnDeleteColumn)
     ON_MESSAGE(LVM_SETCOLUMNWIDTH, &CCustomListCtrl::OnSetColumnWidth)
     ON_MESSAGE(LVM_DELETEALLITEMS, &CCustomListCtrl::OnDeleteAllItems)
+    ON_MESSAGE(LVM_EDITLABELA, &CCustomListCtrl::OnEditLabel)
+    ON_MESSAGE(LVM_EDITLABELW, &CCustomListCtrl::OnEditLabel)
     ON_MESSAGE(LVM_ENSUREVISIBLE, &CCustomListCtrl::OnEnsureVisible)
     ON_MESSAGE(LVM_SCROLL, &CCustomListCtrl::OnScroll)
     ON_NOTIFY(HDN_TRACKA, 0, &CCustomListCtrl::OnHdnTrack)
@@ -73,6 +75,8 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_NOTIFY_REFLECT_EX(LVN_BEGINDRAG, &CCustomListCtrl::OnNmClick)
     ON_NOTIFY_REFLECT_EX(LVN_BEGINRDRAG, &CCustomListCtrl::OnNmClick)
     ON_NOTIFY_REFLECT_EX(LVN_MARQUEEBEGIN, &CCustomListCtrl::OnLvnMarqueebegin)
+    ON_NOTIFY_REFLECT_EX(LVN_BEGINLABELEDITA, &CCustomListCtrl::OnLvnBeginlabeledit)
+    ON_NOTIFY_REFLECT_EX(LVN_BEGINLABELEDITW, &CCustomListCtrl::OnLvnBeginlabeledit)
     ON_NOTIFY_REFLECT_EX(LVN_HOTTRACK, &CCustomListCtrl::OnLvnHottrack)
     ON_NOTIFY_REFLECT_EX(LVN_ITEMACTIVATE, &CCustomListCtrl::OnLvnItemActivate)
 END_MESSAGE_MAP()
@@ -182,6 +186,7 @@ void CCustomListCtrl::ForgetWindow()
     m_settling = false;
     m_fitting = false;
     m_activating = false;
+    m_labelDue = false;
     m_bars->filling.BeginAfresh();
     m_fittedColumn = -1;
     m_columnWidths.clear();

@@ -138,6 +138,7 @@ bool MayChangeContent(UINT message)
     case LVM_SETEXTENDEDLISTVIEWSTYLE:
     case LVM_EDITLABELA:
     case LVM_EDITLABELW:
+    case WM_PARENTNOTIFY: // the edit of a label is made: scrolled back later, the list would end it
     case WM_CREATE:
     case WM_SETFONT:
     case WM_STYLECHANGED:
@@ -238,6 +239,16 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
         m_pressedTop = TopRow(); // a row that is held is the one that is drawn there by now
     }
     const WindowAlive alive(*this);
+    const bool edits =
+        message == LVM_EDITLABELA || message == LVM_EDITLABELW || message == WM_TIMER;
+    if (edits && std::exchange(m_labelDue, false) && m_drawOffset != CPoint(0, 0))
+    {
+        FollowLabelEdit();
+        if (!alive)
+        {
+            return;
+        }
+    }
     if (MayBringHeader(message))
     {
         TakeHeader();
@@ -246,8 +257,8 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
     {
         return; // with the size that it gets
     }
-    // Widths on the way to that of the last column are told of, too, and may bring a platform's bar:
-    // by them a list that is scrolled to its right edge would step back.
+    // Widths on the way to that of the last column are told of, too, and may bring a platform's
+    // bar: by them a list that is scrolled to its right edge would step back.
     const bool halfWay =
         m_settling || (m_fitting && (message == WM_NOTIFY || message == WM_STYLECHANGED));
     if (m_bars->IsLaidOut() && !halfWay && !m_bars->IsFollowing() && MayChangeContent(message))

@@ -309,6 +309,30 @@ void CCustomListCtrl::FollowLabelEdit()
     }
 }
 
+// Its row and the beginning of its column come into sight first.
+LRESULT CCustomListCtrl::OnEditLabel(WPARAM wParam, LPARAM)
+{
+    const WindowAlive alive(*this);
+    const int row = int(wParam);
+    if (InOnBoard() && row >= 0 && row < GetItemCount())
+    {
+        BringIntoSight(row);
+        CRect heading;
+        if (alive && m_scrollUnit.cx > 0 && HeaderItemRect(0, heading) &&
+            heading.left + m_drawOffset.x < 0)
+        {
+            MoveTo(SB_HORZ, int(heading.left / m_scrollUnit.cx));
+        }
+    }
+    return alive ? Default() : 0;
+}
+
+BOOL CCustomListCtrl::OnLvnBeginlabeledit(NMHDR*, LRESULT*)
+{
+    m_labelDue = InOnBoard();
+    return FALSE;
+}
+
 // After the rows were scrolled: what is on the screen moves along, so that only the rows that come
 // into sight are to be painted.
 void CCustomListCtrl::ShiftPixels(int dy)

@@ -64,6 +64,18 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
         list.PerformVScroll(SB_TOP);
     }
     EXPECT_NE(list.m_drawOffset.x, 0);
+    list.PerformVScroll(30, 0);
+    for (const int row : {6, 35, 90}) // in a scrolled list it is shown over its row
+    {
+        ASSERT_NE(list.EditLabel(row), nullptr);
+        ASSERT_NE(list.GetEditControl(), nullptr) << row;
+        EXPECT_TRUE(PlaceIn(list, *list.GetEditControl()).PtInRect(list.RowPoint(row))) << row;
+        list.GetEditControl()->SetWindowText("scrolled");
+        list.ExpectInStep("edited");
+        list.SetFocus();
+        EXPECT_EQ(list.GetItemText(row, 0), "scrolled");
+    }
+    list.PerformVScroll(SB_TOP);
     list.PerformHScroll(SB_LEFT);
     for (const APPMODE mode : {STD, ONBOARD}) // it goes with its row, or ends out of sight
     {
