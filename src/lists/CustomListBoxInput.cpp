@@ -201,10 +201,12 @@ void CCustomListBox::OnKeyDown(UINT key, UINT repeat, UINT flags)
     if (const auto code = ScrollCodeOfKey(key))
     {
         SendMessage(WM_VSCROLL, WPARAM(*code));
-    }
-    if (alive && FollowMode())
-    {
-        KeepCaretInSight();
+        // Other keys leave the rows to the platform: Ctrl and Shift are held for a press on a row
+        // that was scrolled to.
+        if (alive && FollowMode())
+        {
+            KeepCaretInSight();
+        }
     }
     if (alive)
     {

@@ -65,6 +65,13 @@ TEST_F(ListBoxOnBoard, KeysMoveSelectionRowsAndBarTogether)
         EXPECT_LT(ItemRectOf(list, list.GetCaretIndex()).top, ClientRectOf(list).bottom) << key;
         EXPECT_EQ(list.m_vBar.GetScrollPos(), list.GetTopIndex()) << key;
     }
+    // A key that moves no selection leaves the rows: Ctrl may be held for a press on one.
+    list.SetTopIndex(150);
+    for (const UINT key : {VK_CONTROL, VK_SHIFT, VK_F5})
+    {
+        TypeKey(key);
+        EXPECT_EQ(list.GetTopIndex(), 150) << key;
+    }
     const int top = list.GetTopIndex();
     MoveTo(ClientPoint(list, CPoint(30, 100)));
     Wheel(-1);
