@@ -50,6 +50,11 @@ bool ComboScaling::IsAtWorkIn(HWND parent)
     return false;
 }
 
+bool ComboScaling::KeepsHeight(HWND window)
+{
+    return ComboOf(window) != nullptr && !IsAtWorkIn(::GetParent(window));
+}
+
 ComboScaling::Heights ComboScaling::TakeHeights(HWND window)
 {
     const auto kept = DWORD(reinterpret_cast<DWORD_PTR>(::RemoveProp(window, HeightsProperty)));

@@ -30,6 +30,9 @@ public:
 
     // Whether a window is scaling its children.
     static bool IsAtWorkIn(HWND parent);
+    // Whether a combo that is scaled keeps its height: one that has taken that of the mode by
+    // itself, with a parent that hears of no mode and is scaled by its host.
+    static bool KeepsHeight(HWND window);
 
     // A window of the combos' class that has no object yet remembers its heights; this takes them.
     struct Heights

@@ -314,9 +314,10 @@ void CCustomDropListCombo::OnSize(UINT type, int width, int height)
         return;
     }
     // The height that the host gives counts for the mode of the moment. When the parent scales its
-    // children, that says nothing about the mode's height.
+    // children, or the host does, that says nothing about the mode's height.
     const APPMODE mode = COnBoardUIGeneral::GetAppMode();
     if (!m_sizing && m_shapedFor == mode && size_t(mode) < m_heights.size() &&
+        !IsBeingPlaced(GetSafeHwnd()) &&
         !lists::ComboScaling::IsAtWorkIn(::GetParent(GetSafeHwnd())))
     {
         CRect window;

@@ -6,6 +6,7 @@
 #include "CustomListCtrl.h"
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
+#include "lists/ComboScaling.h"
 #include "modes/Rounding.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
@@ -221,7 +222,11 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
     {
         ResizeTabs(child, change->scale);
     }
-    const CSize size = SizeOf(target);
+    CSize size = SizeOf(target);
+    if (lists::ComboScaling::KeepsHeight(child))
+    {
+        size.cy = PlaceIn(change->parent, child).Height();
+    }
     placing.Move();
     ::SetWindowPos(child, nullptr, target.left, target.top, size.cx, size.cy, flags);
     return TRUE;
