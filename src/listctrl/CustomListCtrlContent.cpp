@@ -388,7 +388,13 @@ LRESULT CCustomListCtrl::OnDeleteAllItems(WPARAM, LPARAM)
     {
         m_header.Invalidate(FALSE);
     }
-    return Default();
+    const WindowAlive alive(*this);
+    const LRESULT result = Default();
+    if (alive)
+    {
+        DrawBars(); // of a list without rows nothing else changes that would have them drawn
+    }
+    return result;
 }
 
 void CCustomListCtrl::OnLvnInsertitem(NMHDR*, LRESULT* result)

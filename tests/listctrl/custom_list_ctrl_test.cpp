@@ -94,6 +94,9 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
              list.ReCheckScrollBars();
              list.PerformHScroll(SB_LINERIGHT);
              ASSERT_LT(HeaderAccess::Offset(list.m_header).x, 0);
+             list.DeleteAllItems();
+             EXPECT_TRUE(ShowsWhatAPaintWould(list)) << "emptied once more";
+             list.PerformHScroll(SB_LINERIGHT);
              list.InsertItem(0, "first");
              EXPECT_EQ(list.m_drawOffset.x, 0);
          },
