@@ -1,6 +1,7 @@
 // The report list: columns and rows, and keeping ranges, offset and header in step with them.
 
 #include "CustomListCtrl.h"
+#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
@@ -252,6 +253,10 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
     if (MayBringHeader(message))
     {
         TakeHeader();
+    }
+    if (alive && message == WM_SETFONT && m_header.m_created && !COnBoardUIGeneral::InOnBoardMode())
+    {
+        m_header.TakeThemeFont(); // the platform's list has handed its own on
     }
     if (!alive || m_bars->AwaitsPlace())
     {
