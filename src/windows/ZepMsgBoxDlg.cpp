@@ -121,6 +121,12 @@ windows::MessageText& CZepMsgBoxDlg::Text()
     return static_cast<windows::MessageText&>(*m_text);
 }
 
+INT_PTR CZepMsgBoxDlg::DoModal()
+{
+    m_buttonPressed = 0; // also if no window is made
+    return CCustomDialog::DoModal();
+}
+
 int CZepMsgBoxDlg::OnCreate(LPCREATESTRUCT cs)
 {
     // A box can be shown again: its parts begin anew with each window.
@@ -385,6 +391,10 @@ bool CZepMsgBoxDlg::IsEscape(const MSG& message) const
 
 BOOL CZepMsgBoxDlg::PreTranslateMessage(MSG* message)
 {
+    if (message == nullptr)
+    {
+        return FALSE;
+    }
     const WindowAlive alive(*this);
     const bool escape = IsEscape(*message);
     if (!alive)

@@ -280,6 +280,7 @@ TEST_F(MessageBoxTest, BadInputHasADefinedResult)
         };
         EXPECT_EQ(empty.DoModal(), 9);
         EXPECT_EQ(empty.GetButtonPressed(), 0);
+        EXPECT_FALSE(empty.PreTranslateMessage(nullptr));
 
         // A template without the box's controls.
         const DialogTemplate bare({.style = WS_POPUP | WS_CAPTION, .title = "Bare"});
@@ -294,6 +295,10 @@ TEST_F(MessageBoxTest, BadInputHasADefinedResult)
         };
         EXPECT_EQ(partless.DoModal(), IDCANCEL);
         COnBoardUIGeneral::SetAppMode(mode);
+        EXPECT_EQ(partless.GetButtonPressed(), IDCANCEL);
+        partless.m_lpszTemplateName = "NoSuchTemplate";
+        EXPECT_EQ(partless.DoModal(), -1);
+        EXPECT_EQ(partless.GetButtonPressed(), 0) << "of the box that could not be made";
     }
 }
 
