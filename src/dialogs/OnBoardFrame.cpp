@@ -270,8 +270,13 @@ Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight)
 {
     const DWORD style = window.GetStyle();
     const Frame frame = Frame::Of(style, window.GetExStyle());
-    AdjustProposed(proposed, frame, captionHeight, (style & WS_CAPTION) == WS_CAPTION,
-                   IsVistaOrHigher());
+    const bool caption = (style & WS_CAPTION) == WS_CAPTION;
+    AdjustProposed(proposed, frame, captionHeight, caption, IsVistaOrHigher());
+    if (caption && (window.GetExStyle() & WS_EX_TOOLWINDOW) != 0)
+    {
+        // The platform takes less for the caption that it is about to take.
+        proposed.top += ::GetSystemMetrics(SM_CYCAPTION) - ::GetSystemMetrics(SM_CYSMCAPTION);
+    }
     return frame;
 }
 

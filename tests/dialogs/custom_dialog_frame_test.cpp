@@ -16,6 +16,7 @@ TEST_F(CustomDialogTest, TheOnBoardFrameIsThreePixelsAndABandThatTakesPresses)
         {0, 0},
         {WS_CAPTION, WS_EX_DLGMODALFRAME},
         {WS_CAPTION | WS_THICKFRAME, 0},
+        {WS_CAPTION, WS_EX_TOOLWINDOW},
     };
     for (const auto& [style, exStyle] : cases)
     {
@@ -53,6 +54,9 @@ TEST_F(CustomDialogTest, TheOnBoardFrameIsThreePixelsAndABandThatTakesPresses)
         }
         COnBoardUIGeneral::SetAppMode(STD);
         EXPECT_EQ(hit(CPoint(size.cx - 8, size.cy - 8)), HTCLIENT);
+        COnBoardUIGeneral::SetAppMode(ONBOARD); // below a caption of the platform from now on
+        const CSize frame = ClientPoint(dialog, CPoint(0, 0)) - client.TopLeft();
+        EXPECT_EQ(frame.cx, frame.cy) << "the band is as high, with a small caption too";
     }
 }
 
