@@ -83,6 +83,12 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     {
         return;
     }
+    const auto font = reinterpret_cast<HFONT>(wParam);
+    if (message == WM_SETFONT && font != CCustomListBox::GetOnBoardFont().GetSafeHandle())
+    {
+        m_standardFont = font;
+        m_sawStandard = true;
+    }
     // The host has given it another font, or pictures: the platform makes a level as wide as those.
     const int indent = int(m_items.Ask(TVM_GETINDENT));
     if (indent != std::max(m_standardIndent, metrics::FingerRow))

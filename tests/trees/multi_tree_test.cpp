@@ -349,6 +349,13 @@ TEST_F(MultiTreeTest, WhatAHostSetsOnBoardIsAsIfItHadBeenSetBefore)
         };
         EXPECT_EQ(sizes(false), sizes(true)) << setting.name;
     }
+    TreeForTests& tree = AddTree();
+    CFont font;
+    font.CreatePointFont(240, "Arial");
+    SetMode(ONBOARD, tree);
+    tree.SetFont(&font);
+    SetMode(STD, tree);
+    EXPECT_EQ(HFONT(tree.SendMessage(WM_GETFONT)), HFONT(font));
 }
 
 } // namespace
