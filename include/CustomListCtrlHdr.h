@@ -98,7 +98,7 @@ private:
 
     bool m_repositioning = false;
     bool m_dragged = false;  // the pointer has moved since a divider was pressed
-    bool m_farPress = false; // an item is pressed where the platform's messages do not reach
+    bool m_farPress = false; // an item is pressed of which the platform is not told
     int m_hotDivider = -1;   // where a dragged column would be put; -1: nowhere
     CPoint m_pressPoint;     // in client coordinates
     CFont m_themeFont;

@@ -114,6 +114,10 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
         m_pressedItem = int(Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
         m_dragged = (hit.flags & HHT_ONDIVIDER) != 0;
         Default();
+        if (alive && ::GetCapture() != GetSafeHwnd())
+        {
+            m_pressedItem = -1; // neither clicked nor dragged, and not told where the press ends
+        }
         return;
     }
     const int divider = DividerAt(point.x);
@@ -130,7 +134,9 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
         return;
     }
     m_pressedItem = ItemAt(CPoint(point.x - m_offset.x, point.y));
-    m_farPress = m_pressedItem != -1 && point.x - m_offset.x > Farthest;
+    // The platform takes no capture for headings that cannot be clicked.
+    m_farPress =
+        m_pressedItem != -1 && (point.x - m_offset.x > Farthest || (GetStyle() & HDS_BUTTONS) == 0);
     if (m_farPress)
     {
         SetCapture();

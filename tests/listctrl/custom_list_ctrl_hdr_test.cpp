@@ -202,6 +202,24 @@ TEST_F(ListCtrlOnBoard, ADividerIsDraggedAlsoWithTheListScrolledSideways)
     }
 }
 
+TEST_F(ListCtrlTest, AHeadingThatCannotBeClickedIsReleasedWhereverThePressEnds)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        auto& list = AddList(10, 3, ReportStyle | LVS_NOSORTHEADER);
+        Press(ClientPoint(list, CPoint(30, 8)));
+        EXPECT_EQ(HeaderAccess::Pressed(list.m_header), mode == STD ? -1 : 0);
+        MoveTo(ClientPoint(list, CPoint(50, 150)));
+        Release();
+        EXPECT_EQ(HeaderAccess::Pressed(list.m_header), -1) << APPMODE_NAMES[mode];
+        EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_THAT(Host().CodesFrom(FirstId),
+                    testing::Not(testing::Contains(UINT(LVN_COLUMNCLICK))));
+        Remove(list);
+    }
+}
+
 TEST_F(ListCtrlTest, TheLeastWidthHoldsInADrag)
 {
     for (const APPMODE mode : {STD, ONBOARD})
