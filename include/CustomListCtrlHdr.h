@@ -112,6 +112,7 @@ private:
     bool ItemRect(int item, CRect& rect) const;
     int ItemAt(CPoint point) const;
     bool HeadingPlace(const VARIANT& child, CRect& place) const;
+    bool IsFixed(int item) const;
     int DividerAt(int x) const;
     LRESULT DefaultAt(UINT message, UINT flags, CPoint point);
     void EndFarPress(int pressed, CPoint point);
@@ -121,8 +122,9 @@ private:
     void DrawOB(CDC& dc);
     void DrawOBItem(CDC& dc, int item, bool last, const CRect& client);
     void DrawStdArrows();
-    void TellTracking(int x);
-    void ApplyDrag(int x);
+    int WidthTo(int x, const CRect& item) const;
+    LRESULT TellTracking(int code, int wideCode, int column, int width);
+    void ApplyDrag(int column, int x);
     void ApplyMinimum(int item);
     void EndTracking();
     void LeaveWindow();

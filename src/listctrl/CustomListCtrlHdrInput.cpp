@@ -25,17 +25,27 @@ LRESULT CCustomListCtrlHdr::Ask(UINT message, WPARAM wParam, LPARAM lParam) cons
     return const_cast<CCustomListCtrlHdr*>(this)->DefWindowProc(message, wParam, lParam);
 }
 
-// The first item whose right edge is that near to x (shifted, as drawn), or -1. Right of an edge at
-// which an item of no width stands it is that one, which could not be made wider otherwise.
+// Whether the host lets nobody drag an item's divider.
+bool CCustomListCtrlHdr::IsFixed(int item) const
+{
+    HDITEM data = {};
+    data.mask = HDI_FORMAT;
+    return Ask(HDM_GETITEM, WPARAM(item), reinterpret_cast<LPARAM>(&data)) != 0 &&
+           (data.fmt & HDF_FIXEDWIDTH) != 0;
+}
+
+// The first item that can be dragged and whose right edge is that near to x (shifted, as drawn), or
+// -1. Right of an edge at which an item of no width stands it is that one, which could not be made
+// wider otherwise.
 int CCustomListCtrlHdr::DividerAt(int x) const
 {
-    const int count = int(Ask(HDM_GETITEMCOUNT));
+    const int count = (GetStyle() & HDS_NOSIZING) != 0 ? 0 : int(Ask(HDM_GETITEMCOUNT));
     int found = -1;
     LONG edge = 0;
     for (int item = 0; item < count; ++item)
     {
         CRect rect;
-        if (!ItemRect(item, rect))
+        if (!ItemRect(item, rect) || IsFixed(item))
         {
             continue;
         }
@@ -120,8 +130,16 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
         }
         return;
     }
+    CRect rect;
     const int divider = DividerAt(point.x);
-    if (divider != -1)
+    const bool refused =
+        divider != -1 && ItemRect(divider, rect) &&
+        TellTracking(HDN_BEGINTRACKA, HDN_BEGINTRACKW, divider, int(rect.Width())) != 0;
+    if (!alive || !COnBoardUIGeneral::InOnBoardMode()) // who was told may have changed it
+    {
+        return;
+    }
+    if (divider != -1 && !refused)
     {
         m_pressedItem = divider;
         m_tracking = true;
@@ -170,7 +188,10 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
     {
         m_oldCursor = before;
     }
-    TellTracking(int(point.x));
+    if (CRect rect; ItemRect(m_pressedItem, rect)) // not gone meanwhile
+    {
+        TellTracking(HDN_TRACKA, HDN_TRACKA, m_pressedItem, WidthTo(int(point.x), rect));
+    }
     if (alive && COnBoardUIGeneral::InOnBoardMode()) // who was told may have changed it
     {
         RepositionHeaderStrip();
@@ -181,22 +202,23 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
     }
 }
 
-// The column's right edge would come to x, as drawn.
-void CCustomListCtrlHdr::TellTracking(int x)
+// The width of an item whose right edge is at x, as drawn.
+int CCustomListCtrlHdr::WidthTo(int x, const CRect& item) const
 {
-    CRect rect;
-    if (!ItemRect(m_pressedItem, rect))
-    {
-        return; // gone meanwhile
-    }
+    return std::max(0, int(x - m_offset.x - item.left));
+}
+
+// Tells of a drag, by the code of the two that the list asks for, and gives the answer.
+LRESULT CCustomListCtrlHdr::TellTracking(int code, int wideCode, int column, int width)
+{
     HDITEM item = {};
     item.mask = HDI_WIDTH;
-    item.cxy = std::max(0, int(x - m_offset.x - rect.left));
+    item.cxy = width;
     NMHEADER told = {};
-    told.hdr.code = UINT(HDN_TRACKA);
-    told.iItem = m_pressedItem;
+    told.hdr.code = UINT(Ask(HDM_GETUNICODEFORMAT) != 0 ? wideCode : code);
+    told.iItem = column;
     told.pitem = &item;
-    TellNotify(GetSafeHwnd(), told.hdr);
+    return TellNotify(GetSafeHwnd(), told.hdr);
 }
 
 void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
@@ -207,11 +229,9 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
     if (m_tracking)
     {
         EndTracking();
-        // A press and its release alone resize nothing.
-        if (alive && onBoard && m_dragged)
+        if (alive && onBoard)
         {
-            m_pressedItem = pressed;
-            ApplyDrag(point.x);
+            ApplyDrag(pressed, int(point.x));
         }
         if (!alive)
         {
@@ -306,26 +326,33 @@ void CCustomListCtrlHdr::OnCaptureChanged(CWnd* taker)
     }
 }
 
-// The column's new right edge is at x, as drawn.
-void CCustomListCtrlHdr::ApplyDrag(int x)
+// The column's new right edge is at x, as drawn. A press and its release alone resize nothing.
+void CCustomListCtrlHdr::ApplyDrag(int column, int x)
 {
     CRect rect;
-    if (!ItemRect(m_pressedItem, rect))
+    if (!ItemRect(column, rect))
     {
         return; // gone meanwhile
     }
+    const WindowAlive alive(*this);
+    const bool resizes = m_dragged;
     const CCustomListCtrl* const list = List();
     const HWND listWindow = ListWindow();
-    int width = std::max(0, int(x - m_offset.x - rect.left));
-    if (list != nullptr && list->GetMinColWidth() != -1)
+    int width = resizes ? WidthTo(x, rect) : int(rect.Width());
+    if (resizes && list != nullptr && list->GetMinColWidth() != -1)
     {
         // As wide as the least width is on-board, like all columns.
         width = std::max(width, listctrl::OnBoardWidth(list->GetMinColWidth()));
     }
-    HDITEM item = {};
-    item.mask = HDI_WIDTH;
-    item.cxy = width;
-    SetItem(m_pressedItem, &item);
+    TellTracking(HDN_ENDTRACKA, HDN_ENDTRACKW, column, width);
+    // Who was told may have changed the mode, and the width with it.
+    if (alive && resizes && COnBoardUIGeneral::InOnBoardMode())
+    {
+        HDITEM item = {};
+        item.mask = HDI_WIDTH;
+        item.cxy = width;
+        SetItem(column, &item);
+    }
     if (listWindow != nullptr)
     {
         ::InvalidateRect(listWindow, nullptr, TRUE);

@@ -9,11 +9,23 @@ namespace {
 // Notes what its header tells of a drag.
 struct ListThatFollows : ListForTests
 {
-    std::vector<int> told; // code, item, button and width, again and again
+    std::vector<int> told; // item, button and width, again and again
+    int begun = -1;        // the width with which the last drag began, and the one it ended with
+    int ended = -1;
+    bool refuses = false; // to begin one
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         const auto* const header = reinterpret_cast<const NMHEADER*>(lParam);
+        if (message == WM_NOTIFY && header->hdr.code == UINT(HDN_BEGINTRACKW))
+        {
+            begun = header->pitem->cxy;
+            return refuses;
+        }
+        if (message == WM_NOTIFY && header->hdr.code == UINT(HDN_ENDTRACKW))
+        {
+            ended = header->pitem->cxy;
+        }
         if (message == WM_NOTIFY && header->hdr.code == UINT(HDN_TRACKA))
         {
             EXPECT_EQ(header->hdr.hwndFrom, HWND(m_header));
@@ -198,7 +210,39 @@ TEST_F(ListCtrlOnBoard, ADividerIsDraggedAlsoWithTheListScrolledSideways)
         Release();
         EXPECT_EQ(list.GetColumnWidth(column), 127);
         EXPECT_EQ(::GetCapture(), nullptr);
+        EXPECT_EQ(std::pair(list.begun, list.ended), std::pair(102, 127));
         list.ExpectInStep("dragged");
+    }
+}
+
+TEST_F(ListCtrlTest, AColumnThatItsHostHasFixedIsNotDraggedAndAHiddenOneStaysSo)
+{
+    const Act<ListThatFollows&> ways[] = {
+        {"format",
+         [](ListThatFollows& list) {
+             list.DeleteColumn(0);
+             list.InsertColumn(0, "Key", LVCFMT_LEFT | LVCFMT_FIXED_WIDTH, 0);
+         }},
+        {"style", [](ListThatFollows& list) { list.m_header.ModifyStyle(0, HDS_NOSIZING); }},
+        {"answer", [](ListThatFollows& list) { list.refuses = true; }}};
+    for (const auto& [name, fix] : ways)
+    {
+        SCOPED_TRACE(name);
+        auto& list = AddList<ListThatFollows>(10);
+        list.SetColumnWidth(0, 0);
+        fix(list);
+        SetMode(ONBOARD, list);
+        const CPoint from = list.DividerPoint(0, 5);
+        Click(from);
+        EXPECT_THAT(Host().CodesFrom(FirstId), testing::Contains(UINT(LVN_COLUMNCLICK)).Times(1))
+            << "on the next one";
+        Drag(from - CPoint(4, 0), from + CPoint(20, 0));
+        EXPECT_EQ(list.GetColumnWidth(0), 0);
+        MoveTo(from);
+        EXPECT_EQ(::GetCursor() == ::LoadCursor(nullptr, IDC_SIZEWE), list.refuses);
+        Remove(list);
+        Host().Forget();
+        SetMode(STD, Host());
     }
 }
 
