@@ -80,6 +80,10 @@ protected:
     // in the context's own.
     void DrawRowText(CDC& dc, const CRect& row, const CString& text, UINT state, int indent = 0);
 
+    // Has the parent set the list's colors in the context where the platform did not: it asks for
+    // none when only the focus comes or goes. False when the list did not survive it.
+    bool AskForColors(const DRAWITEMSTRUCT& draw);
+
     // Places the bars against the client rectangle.
     virtual void ResizeOBScrollBars();
 

@@ -231,7 +231,7 @@ void CCustomChecklistBox::PreDrawItem(LPDRAWITEMSTRUCT draw)
     CDC* const dc = CDC::FromHandle(draw->hDC);
     const CRect row(draw->rcItem);
     // Some platforms ask for every row in the window when one of them is due.
-    if (dc == nullptr || !dc->RectVisible(row))
+    if (dc == nullptr || !dc->RectVisible(row) || !AskForColors(*draw))
     {
         return;
     }

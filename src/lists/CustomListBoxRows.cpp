@@ -118,7 +118,7 @@ void CCustomListBox::NotifyParent(UINT code)
 void CCustomListBox::DrawItem(LPDRAWITEMSTRUCT draw)
 {
     CDC* const dc = draw == nullptr ? nullptr : CDC::FromHandle(draw->hDC);
-    if (dc == nullptr || !HasText())
+    if (dc == nullptr || !HasText() || !AskForColors(*draw))
     {
         return;
     }
@@ -143,6 +143,17 @@ void CCustomListBox::DrawItem(LPDRAWITEMSTRUCT draw)
     {
         dc->DrawFocusRect(row);
     }
+}
+
+bool CCustomListBox::AskForColors(const DRAWITEMSTRUCT& draw)
+{
+    const WindowAlive alive(*this);
+    if ((draw.itemAction & (ODA_DRAWENTIRE | ODA_SELECT)) == 0)
+    {
+        ::SendMessage(::GetParent(GetSafeHwnd()), WM_CTLCOLORLISTBOX,
+                      reinterpret_cast<WPARAM>(draw.hDC), reinterpret_cast<LPARAM>(GetSafeHwnd()));
+    }
+    return bool(alive);
 }
 
 void CCustomListBox::DrawRowText(CDC& dc, const CRect& row, const CString& text, UINT state,

@@ -1,5 +1,6 @@
 // The list box's layout, its looks, and its trips through the modes.
 
+#include "CustomChecklistBox.h"
 #include "lists/list_box_for_tests.h"
 
 #include <tuple>
@@ -101,6 +102,33 @@ TEST_F(ListBoxTest, DrawnRowsFollowTheMode)
         SetMode(STD, list);
         EXPECT_EQ(list.GetItemHeight(0), standard);
         Remove(list);
+    }
+}
+
+TEST_F(ListBoxTest, RowsThatTheFocusComesToAndLeavesHaveTheColorsOfTheirParent)
+{
+    Host().AlsoRecord({WM_CTLCOLORLISTBOX});
+    Host().hook = [](ToldMessage& told) {
+        if (told.message == WM_CTLCOLORLISTBOX)
+        {
+            ::SetBkColor(HDC(told.wParam), RGB(128, 128, 128));
+            told.answer = LRESULT(::GetStockObject(GRAY_BRUSH));
+        }
+    };
+    constexpr DWORD style = ListStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_MULTIPLESEL;
+    const auto expectColors = [this](auto& list) {
+        list.SetFocus();
+        PumpAll();
+        TypeKey(VK_DOWN); // selects nothing
+        EXPECT_TRUE(ShowsWhatAPaintWould(list));
+        Remove(list);
+    };
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        SCOPED_TRACE(APPMODE_NAMES[mode]);
+        const ModeScope scope(mode);
+        expectColors(AddList(3, style));
+        expectColors(AddList<BarsSeen<CCustomChecklistBox>>(3, style));
     }
 }
 
