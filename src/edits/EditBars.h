@@ -4,6 +4,7 @@
 // turn, and the text follows a thumb line by line. A horizontal bar stays the platform's.
 
 #include "CustomEdit.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "scroll/BarHost.h"
 #include "scroll/NcBands.h"
@@ -37,6 +38,10 @@ public:
             m_placed = false;
             scroll::RecalculateFrameUnpainted(m_edit);
         }
+        else if (!m_unbroken && IsBeingPlaced(m_edit))
+        {
+            m_firstLine = m_edit.FirstLine(); // which the next font may hold back in the old place
+        }
         const LRESULT result = alive ? Default() : 0;
         if (alive && m_unbroken)
         {
@@ -66,7 +71,7 @@ public:
     // WM_SIZE: the lines are broken, and the first one in sight is what it was.
     void RestoreFirstLine()
     {
-        if (!m_unbroken && m_firstLine >= 0)
+        if (!m_unbroken && m_firstLine >= 0 && !IsPlaceToCome(m_edit))
         {
             const int line = std::exchange(m_firstLine, -1);
             if (const int now = m_edit.FirstLine(); now != line)

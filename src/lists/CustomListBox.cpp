@@ -149,6 +149,7 @@ void CCustomListBox::BeginAfresh()
     m_bars->filling.BeginAfresh();
     m_bars->givesPlaceBack = m_bars->layingOut = false;
     m_bars->size.BeginAfresh();
+    m_bars->ForgetRows();
     HideBars();
 }
 
@@ -265,7 +266,52 @@ void CCustomListBox::Bars::Sized()
 
 void CCustomListBox::Bars::Finish()
 {
+    const WindowAlive alive(m_list);
     IsLaidOut() ? FinishEntering() : FinishLeaving();
+    if (alive)
+    {
+        ShowKeptRows();
+    }
+}
+
+void CCustomListBox::Bars::KeepRows()
+{
+    if (!IsPlaceToCome(m_list) || IsLaidOut() == COnBoardUIGeneral::InOnBoardMode() ||
+        m_list.InColumns())
+    {
+        return;
+    }
+    CRect row;
+    m_topRow = int(Ask(LB_GETTOPINDEX, 0, 0));
+    m_caretRow = int(Ask(LB_GETCARETINDEX, 0, 0));
+    if (!m_list.Exists(m_caretRow) || !m_list.IsInSight(m_caretRow, row))
+    {
+        m_caretRow = -1;
+    }
+}
+
+// The first one, or as far down as brings the caret's into sight.
+void CCustomListBox::Bars::ShowKeptRows()
+{
+    const int caret = m_caretRow;
+    int top = m_topRow;
+    ForgetRows();
+    if (top < 0)
+    {
+        return;
+    }
+    const WindowAlive alive(m_list);
+    CRect client;
+    m_list.GetClientRect(&client);
+    do
+    {
+        Ask(LB_SETTOPINDEX, WPARAM(top), 0);
+    } while (alive && top++ < caret && m_list.RowRect(caret).bottom > client.bottom);
+    if (alive && IsLaidOut())
+    {
+        m_list.MirrorContent();
+        DrawBars();
+    }
 }
 
 void CCustomListBox::Bars::FinishEntering()

@@ -329,6 +329,7 @@ LRESULT CCustomListBox::OnResetContent(WPARAM, LPARAM)
 LRESULT CCustomListBox::OnSetFont(WPARAM wParam, LPARAM lParam)
 {
     const WindowAlive alive(*this);
+    m_bars->KeepRows();
     // Whoever restyles a list between two on-board modes gives it the font that it has. Only of the
     // shared font is it known that the handle is still the same font.
     const HFONT onBoard = GetOnBoardFont();

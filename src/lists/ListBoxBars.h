@@ -36,6 +36,11 @@ public:
     int scrolledPixels = 0;      // sideways, in the standard mode
     bool layingOut = false;      // so that a new size is not the host's
 
+    // Before the font that comes with another mode: which rows are in sight. Until the list has its
+    // place, too, the platform may have to scroll them away.
+    void KeepRows();
+    void ForgetRows() { m_topRow = m_caretRow = -1; }
+
     // The rest of entering or leaving a mode, in the new frame.
     void Finish();
 
@@ -50,7 +55,10 @@ public:
 
 private:
     CCustomListBox& m_list;
+    int m_topRow = -1; // in sight before a change of the mode
+    int m_caretRow = -1;
 
+    void ShowKeptRows();
     void FinishEntering();
     void FinishLeaving();
 

@@ -1,4 +1,5 @@
 #include "edits/edit_for_tests.h"
+#include "support/ChildModes.h"
 
 #include <tuple>
 
@@ -133,6 +134,23 @@ TEST_F(EditTest, DirectEditsGoThroughAllModesAndBack)
         EXPECT_EQ(ClientRectOf(edit).Width(), 300 - 4 - ::GetSystemMetrics(SM_CXVSCROLL));
         edit.LineScroll(1);
         EXPECT_EQ(::GetScrollPos(edit, SB_VERT), 13) << APPMODE_NAMES[born];
+        Remove(edit);
+    }
+}
+
+TEST_F(EditTest, LinesStayInSightWhereTheEditFollowsTheMode)
+{
+    for (const DWORD style : {ManyLines, ManyLines | ES_AUTOHSCROLL, ManyLines | WS_HSCROLL})
+    {
+        auto& edit = AddEdit(30, style);
+        edit.SetFont(&CCustomEdit::GetStdFont());
+        edit.LineScroll(30);
+        const int first = edit.GetFirstVisibleLine();
+        for (const APPMODE mode : {ONBOARD, STD})
+        {
+            SetModeOfChildren(mode, Host());
+        }
+        EXPECT_EQ(edit.GetFirstVisibleLine(), first) << std::hex << style;
         Remove(edit);
     }
 }

@@ -1,6 +1,8 @@
 // Lists whose mode, columns or window changes under their bars.
 
+#include "CustomChecklistBox.h"
 #include "lists/list_box_for_tests.h"
+#include "support/ChildModes.h"
 
 namespace {
 
@@ -48,6 +50,33 @@ TEST_F(ListBoxTest, RowsAndHorizontalBarAgreeAfterEveryModeChange)
     EXPECT_EQ(list.m_hBar.GetScrollPos(), 0);
     EXPECT_TRUE(LeftOfRows(list) == onBoard);
     SetMode(STD, list);
+}
+
+TEST_F(ListBoxTest, TheRowsInSightStayInSightWhereTheListFollowsTheMode)
+{
+    constexpr DWORD drawn = LBS_OWNERDRAWFIXED | LBS_HASSTRINGS;
+    const auto expectStay = [&](auto& list) {
+        list.SetCurSel(39);
+        for (const APPMODE mode : {ONBOARD, STD})
+        {
+            SetModeOfChildren(mode, Host());
+            EXPECT_LE(ItemRectOf(list, 39).bottom, ClientRectOf(list).bottom)
+                << APPMODE_NAMES[mode];
+        }
+        list.SetCurSel(0);
+        list.SetTopIndex(10);
+        for (const APPMODE mode : {ONBOARD, STD})
+        {
+            SetModeOfChildren(mode, Host());
+            EXPECT_EQ(list.GetTopIndex(), 10)
+                << APPMODE_NAMES[mode] << ", with the caret elsewhere";
+        }
+        Remove(list);
+    };
+    const CRect place(5, 5, 155, 85);
+    expectStay(AddList(40, ListStyle, place));
+    expectStay(AddList(40, ListStyle | drawn, place));
+    expectStay(AddList<BarsSeen<CCustomChecklistBox>>(40, ListStyle | drawn, place));
 }
 
 TEST_F(ListBoxTest, ColumnsStayWhereTheyAreAndAreCountedAnew)
