@@ -17,6 +17,35 @@ CPoint PointIn(LPARAM lParam)
     return CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
 }
 
+// Whether the rows of a tree may be less wide after a message.
+bool MayNarrow(UINT message, LPARAM lParam)
+{
+    switch (message)
+    {
+    case TVM_SETITEMA:
+    case TVM_SETITEMW:
+        return lParam != 0 && (reinterpret_cast<const TVITEM*>(lParam)->mask & TVIF_TEXT) != 0;
+    case TVM_DELETEITEM:
+    case TVM_EXPAND:
+    case TVM_SETIMAGELIST:
+    case TVM_SETINDENT:
+    case WM_SETFONT:
+    case WM_COMMAND: // of the edit of a label
+        return true;
+    default:
+        return false;
+    }
+}
+
+// As if nothing could be scrolled.
+void TakeRange(const CWnd& window, int axis)
+{
+    SCROLLINFO none = {};
+    none.cbSize = sizeof(none);
+    none.fMask = SIF_RANGE | SIF_PAGE;
+    ::SetScrollInfo(window, axis, &none, FALSE);
+}
+
 } // namespace
 
 TreeBars::TreeBars(TreeOwner& owner)
@@ -31,6 +60,7 @@ void TreeBars::EnterOnBoard()
     {
         return;
     }
+    m_shrunk = true;
     // The frame at once with what is scrolled now: each new size makes the platform count anew.
     MirrorOne(m_vertical);
     MirrorOne(m_horizontal);
@@ -45,6 +75,10 @@ void TreeBars::LeaveOnBoard()
 {
     const WindowAlive alive(Window());
     EndPress();
+    if (alive)
+    {
+        CountAnew();
+    }
     if (!alive)
     {
         return;
@@ -85,6 +119,7 @@ DWORD TreeBars::Strip()
 void TreeBars::Reset()
 {
     m_stripping = false;
+    m_shrunk = true;
     m_held = nullptr;
     m_part = CFauxScrollBar::PRESSED_NONE;
     for (Bar* each : {&m_vertical, &m_horizontal})
@@ -96,6 +131,61 @@ void TreeBars::Reset()
 }
 
 // Mirroring -------------------------------------------------------------------------------------
+
+int TreeBars::Extent() const
+{
+    const auto row = [this](WPARAM relation) {
+        CRect rect(0, 0, 0, 0);
+        const LRESULT item = m_owner.Platform(TVM_GETNEXTITEM, relation, 0);
+        ::CopyMemory(&rect, &item, sizeof(item)); // which the rectangle takes the place of
+        const bool seen = item != 0 && m_owner.Platform(TVM_GETITEMRECT, FALSE, LPARAM(&rect));
+        return seen ? rect : CRect(0, 0, 0, 0);
+    };
+    return int(row(TVGN_LASTVISIBLE).bottom) - int(row(TVGN_ROOT).top);
+}
+
+// Some platforms leave the range of a bar as it was once all is in sight. It is taken away, and set
+// again by the platform where there still is something to scroll.
+void TreeBars::CountAnew()
+{
+    const WindowAlive alive(Window());
+    m_shrunk = false;
+    CRect client;
+    Window().GetClientRect(&client);
+    const auto count = [&](int width) {
+        if (alive)
+        {
+            m_owner.Platform(WM_SIZE, SIZE_RESTORED, MAKELPARAM(width, client.Height()));
+        }
+    };
+    TakeRange(Window(), SB_VERT);
+    TakeRange(Window(), SB_HORZ);
+    count(client.Width());
+    if (alive && m_horizontal.bar.GetScrollPos() > 0 &&
+        !scroll::PlatformScroll(Window(), SB_HORZ).IsNeeded())
+    {
+        // Nor do they go back sideways then, before they have something to scroll again.
+        count(1);
+        if (alive)
+        {
+            m_owner.Platform(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 0), 0);
+            TakeRange(Window(), SB_HORZ);
+        }
+        count(client.Width());
+    }
+    if (!alive || !m_vertical.shown || !m_horizontal.shown)
+    {
+        return;
+    }
+    // Each bar is judged by the room that the other one leaves, so they would never go.
+    const scroll::PlatformScroll across(Window(), SB_HORZ);
+    if (across.last + across.page - 1 < client.Width() + metrics::ScrollBand &&
+        Extent() <= client.Height() + metrics::ScrollBand)
+    {
+        TakeRange(Window(), SB_VERT);
+        TakeRange(Window(), SB_HORZ);
+    }
+}
 
 // Whether the bar has come or gone.
 bool TreeBars::MirrorOne(Bar& each)
@@ -118,6 +208,13 @@ bool TreeBars::MirrorOne(Bar& each)
 void TreeBars::Mirror()
 {
     const WindowAlive alive(Window());
+    const int extent = Extent();
+    m_shrunk = m_shrunk || extent < m_extent;
+    m_extent = extent;
+    if (m_shrunk && (m_vertical.shown || m_horizontal.shown))
+    {
+        CountAnew();
+    }
     // The room that one bar takes may call for the other.
     for (int round = 0; round < 2 && alive; ++round)
     {
@@ -257,6 +354,12 @@ bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
 
 void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
+    m_shrunk = m_shrunk || MayNarrow(message, lParam);
+    if (message == TVM_INSERTITEMA || message == TVM_INSERTITEMW || message == TVM_DELETEITEM)
+    {
+        const CRect any(0, 0, 1, 1); // the item may be out of sight, and then nothing is painted
+        Window().InvalidateRect(&any, FALSE);
+    }
     switch (message)
     {
     case WM_NCCALCSIZE:

@@ -57,13 +57,17 @@ private:
     Bar m_vertical{SB_VERT};
     Bar m_horizontal{SB_HORZ};
     bool m_stripping = false; // the platform's styles are being taken away
+    int m_extent = 0;         // of all rows that are not in closed branches, pixels
+    bool m_shrunk = true;     // what is shown may need less room than it did
     scroll::FrameStyles m_frame;
-    Bar* m_held = nullptr;    // the bar that is pressed
+    Bar* m_held = nullptr; // the bar that is pressed
     CFauxScrollBar::ePRESSED m_part = CFauxScrollBar::PRESSED_NONE;
     CPoint m_last; // of the pointer, on the screen
 
     CWnd& Window() const { return m_owner.Window(); }
     DWORD Strip();
+    int Extent() const;
+    void CountAnew();
     bool MirrorOne(Bar& bar);
     void Place();
     void Draw(bool force = false);

@@ -315,6 +315,72 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
     }
 }
 
+TEST_F(MultiTreeTest, BarsGoWithWhatTheyAreFor)
+{
+    const std::string wide(100, 'w');
+    const auto bands = [](const CWnd& tree) { // across and down, without the borders
+        const CSize space = WindowRectOf(tree).Size() - ClientRectOf(tree).Size();
+        return std::pair(space.cx >= 52, space.cy >= 52);
+    };
+    using Bands = std::pair<bool, bool>;
+    const Act<MultiTree&> ways[] = {
+        {"emptied", [](MultiTree& tree) { tree.DeleteAllItems(); }},
+        {"closed", [](MultiTree& tree) { tree.Expand(tree.GetRootItem(), TVE_COLLAPSE); }},
+        {"closed by a key", [](MultiTree& tree) {
+             tree.SelectItem(tree.GetRootItem());
+             tree.SetFocus();
+             TypeKey(VK_LEFT);
+         }}};
+    for (const auto& [way, go] : ways)
+    {
+        for (const bool before : {false, true}) // in the standard mode
+        {
+            SCOPED_TRACE(way + std::string(before ? ", before" : ""));
+            auto& tree = Add<MultiTree>(CRect(20, 20, 320, 220), TreeStyle);
+            const HTREEITEM root = AddItems(tree, "r")[0];
+            for (int item = 0; item < 20; ++item)
+            {
+                tree.InsertItem(wide.c_str(), root);
+            }
+            tree.Expand(root, TVE_EXPAND);
+            if (before)
+            {
+                go(tree);
+            }
+            const ModeScope mode(ONBOARD);
+            Repaint(tree);
+            EXPECT_EQ(bands(tree), Bands(!before, !before));
+            if (!before)
+            {
+                go(tree);
+            }
+            PumpAll();
+            EXPECT_EQ(bands(tree), Bands(false, false));
+
+            // Out of sight, and scrolled sideways.
+            tree.DeleteAllItems();
+            const auto items = AddItems(tree, "abcdefgh");
+            PumpAll();
+            EXPECT_EQ(bands(tree), Bands(true, false));
+            const HTREEITEM last = tree.InsertItem(wide.c_str());
+            PumpAll();
+            EXPECT_EQ(bands(tree), Bands(true, true));
+            const int left = TextRectOf(tree, items[0]).left;
+            tree.SendMessage(WM_HSCROLL, SB_PAGERIGHT);
+            EXPECT_LT(TextRectOf(tree, items[0]).left, left);
+            tree.DeleteItem(last);
+            PumpAll();
+            EXPECT_EQ(bands(tree), Bands(true, false));
+            EXPECT_EQ(TextRectOf(tree, items[0]).left, left);
+            tree.DeleteAllItems();
+            PumpAll();
+            SetMode(STD, tree);
+            EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
+            Remove(tree);
+        }
+    }
+}
+
 TEST_F(MultiTreeTest, WhatAHostSetsOnBoardIsAsIfItHadBeenSetBefore)
 {
     CImageList large;
