@@ -164,6 +164,7 @@ BOOL FlightDialog::OnInitDialog()
     m_content.PlaceFixed();
     m_layout.Read(*this);
     NoteMode();
+    PlaceOverOwner(*this, m_depth > 0 ? 2 * ::GetSystemMetrics(SM_CYCAPTION) : 0);
     return TRUE;
 }
 
@@ -246,6 +247,7 @@ BOOL FlightSheet::OnInitDialog()
         }
     }
     NoteMode();
+    PlaceOverOwner(*this);
     return result;
 }
 

@@ -72,6 +72,13 @@ BOOL GalleryApp::InitInstance()
     return TRUE;
 }
 
+BOOL GalleryApp::PreTranslateMessage(MSG* message)
+{
+    auto* const frame = static_cast<GalleryFrame*>(m_pMainWnd);
+    return (frame != nullptr && frame->SwitchByKey(*message)) ||
+           CWinApp::PreTranslateMessage(message);
+}
+
 int GalleryApp::ExitInstance()
 {
     // Without a loop there was no WM_QUIT to take the code from.

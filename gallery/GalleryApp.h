@@ -14,6 +14,7 @@ public:
 
     BOOL InitInstance() override;
     int ExitInstance() override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
 private:
     GalleryHost m_host;

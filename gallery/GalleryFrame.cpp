@@ -12,6 +12,7 @@
 #include <OnBoardUIGeneral.h>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -232,7 +233,7 @@ void GalleryFrame::TakePlace(APPMODE newMode, APPMODE oldMode)
         ModifyStyle(WS_OVERLAPPEDWINDOW | WS_MAXIMIZE, 0);
         const CRect screen = MonitorOf(m_hWnd).rcMonitor;
         SetWindowPos(nullptr, screen.left, screen.top, screen.Width(), screen.Height(),
-                     SWP_NOZORDER | SWP_FRAMECHANGED);
+                     SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
         return;
     }
     ModifyStyle(WS_OVERLAPPEDWINDOW | WS_MAXIMIZE,
@@ -240,10 +241,12 @@ void GalleryFrame::TakePlace(APPMODE newMode, APPMODE oldMode)
     const auto& place = m_places[newMode != STD];
     const CRect initial = InitialPlace();
     SetWindowPos(nullptr, initial.left, initial.top, initial.Width(), initial.Height(),
-                 SWP_NOZORDER | SWP_FRAMECHANGED);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     if (place)
     {
+        const HWND active = ::GetActiveWindow(); // a dialog of ours, perhaps
         ::SetWindowPlacement(m_hWnd, &*place);
+        ::SetActiveWindow(active);
     }
 }
 
@@ -443,6 +446,30 @@ BOOL GalleryFrame::PreTranslateMessage(MSG* message)
         ScrollPage(Page().Origin());
     }
     return done;
+}
+
+// A dialog takes every key for itself, and a frame that a modal one has disabled gets no commands
+// by its accelerators.
+bool GalleryFrame::SwitchByKey(const MSG& message)
+{
+    if (message.message != WM_KEYDOWN || ::GetAncestor(message.hwnd, GA_ROOT) == m_hWnd)
+    {
+        return false;
+    }
+    const auto held = [](int key) { return ::GetKeyState(key) < 0; };
+    const BYTE wanted = BYTE(FVIRTKEY | (held(VK_SHIFT) ? FSHIFT : 0) |
+                             (held(VK_CONTROL) ? FCONTROL : 0) | (held(VK_MENU) ? FALT : 0));
+    ACCEL keys[2 * (ID_MODE_LAST - ID_MODE_FIRST + 1)] = {};
+    ::CopyAcceleratorTable(m_hAccelTable, keys, int(std::size(keys)));
+    for (const ACCEL& key : keys)
+    {
+        if (key.key == message.wParam && (key.fVirt & ~FNOINVERT) == wanted)
+        {
+            OnModeCommand(key.cmd);
+            return true;
+        }
+    }
+    return false;
 }
 
 void GalleryFrame::OnActivate(UINT state, CWnd* other, BOOL minimized)

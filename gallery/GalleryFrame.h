@@ -24,6 +24,8 @@ public:
     // False when the page cannot be made; the one before stays.
     bool ShowPage(size_t index);
     void SwitchMode(APPMODE mode);
+    // Whether a key in one of the program's other windows has switched the mode.
+    bool SwitchByKey(const MSG& message);
     // The page that is shown.
     GalleryPage& Page() { return *m_pages[m_shown]; }
     // The switches, to be tapped.

@@ -72,6 +72,15 @@ void ResizeClient(CWnd& window, CSize client)
                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
+void PlaceOverOwner(CWnd& dialog, int offset)
+{
+    dialog.CenterWindow();
+    CRect place;
+    dialog.GetWindowRect(&place);
+    dialog.SetWindowPos(nullptr, place.left + offset, place.top + offset, 0, 0,
+                        SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
 OpenDialog::OpenDialog()
 {
     All().push_back(this);

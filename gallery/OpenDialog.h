@@ -54,6 +54,10 @@ CRect PlaceInParent(HWND child);
 // Gives a window a client area of that size; its corner stays.
 void ResizeClient(CWnd& window, CSize client);
 
+// Into the middle of its owner's window, or so far down and to the right of it that what is below
+// stays in sight.
+void PlaceOverOwner(CWnd& dialog, int offset = 0);
+
 // Where the content of a dialog stands in the standard mode.
 class StandardLayout
 {

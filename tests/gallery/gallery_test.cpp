@@ -51,6 +51,23 @@ TEST_F(GalleryTest, OpensPagesAndSwitchesModesFromItsStartPageAndKeepsTheMode)
     EXPECT_NE(settings.Content().find("EFBFS"), std::string::npos) << "only the user changes it";
 }
 
+TEST_F(GalleryTest, OpensADialogInItsMiddleThatStaysActiveWhileItsKeysSwitchTheMode)
+{
+    const TemporaryFile settings;
+    const RunningGallery gallery("--mode std --page dialogs" + settings.Option());
+    const HWND frame = gallery.Window(Title);
+    Click(WindowRectOf(Shown(frame, "Modal dialog")).CenterPoint());
+    const HWND dialog = gallery.Window("Flight");
+    ASSERT_NE(dialog, nullptr);
+    const CRect small = WindowRectOf(dialog);
+    EXPECT_EQ(small.CenterPoint(), WindowRectOf(frame).CenterPoint());
+    PumpUntil([&] { return ::GetForegroundWindow() == dialog; });
+    TypeKey(VK_F7);
+    EXPECT_TRUE(PumpUntil([&] { return WindowRectOf(dialog).Width() > 2 * small.Width(); }, 10000));
+    PumpFor(100); // until the frame has followed too
+    EXPECT_EQ(::GetForegroundWindow(), dialog);
+}
+
 TEST_F(GalleryTest, IsDarkFromEdgeToEdgeOnBoard)
 {
     const TemporaryFile settings;
