@@ -300,7 +300,39 @@ BOOL CPropertySheet::SetActivePage(int page)
         return FALSE;
     }
     m_psh.nStartPage = UINT(page);
-    return m_hWnd == nullptr || BOOL(SendMessage(PSM_SETCURSEL, WPARAM(page)));
+    if (m_hWnd == nullptr)
+    {
+        return TRUE;
+    }
+    const framework::StillThere here(*this);
+    const auto turned = BOOL(SendMessage(PSM_SETCURSEL, WPARAM(page)));
+    if (here)
+    {
+        FocusShownPage();
+    }
+    return turned;
+}
+
+// Not every platform takes the focus along to another page. On the one that is hidden then, keys
+// would go where nobody sees them.
+void CPropertySheet::FocusShownPage()
+{
+    const HWND focus = ::GetFocus();
+    if (!::IsChild(m_hWnd, focus) || ::IsWindowVisible(focus) || !IsWindowVisible())
+    {
+        return;
+    }
+    const framework::StillThere here(*this);
+    const auto page = reinterpret_cast<HWND>(SendMessage(PSM_GETCURRENTPAGEHWND));
+    HWND next = page == nullptr ? nullptr : ::GetNextDlgTabItem(page, nullptr, FALSE);
+    if (here && (next == nullptr || !::IsWindowVisible(next)))
+    {
+        next = reinterpret_cast<HWND>(SendMessage(PSM_GETTABCONTROL));
+    }
+    if (here)
+    {
+        SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(next), TRUE);
+    }
 }
 
 void CPropertySheet::SetTitle(LPCSTR text, UINT style)
@@ -541,7 +573,19 @@ void CPropertySheet::OnClose()
 
 BOOL CPropertySheet::PreTranslateMessage(MSG* message)
 {
-    return CWnd::PreTranslateMessage(message) ||
-           (message->message >= WM_KEYFIRST && message->message <= WM_KEYLAST &&
-            SendMessage(PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(message)) != 0);
+    if (CWnd::PreTranslateMessage(message))
+    {
+        return TRUE;
+    }
+    const framework::StillThere here(*this);
+    if (message->message < WM_KEYFIRST || message->message > WM_KEYLAST ||
+        SendMessage(PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(message)) == 0)
+    {
+        return FALSE;
+    }
+    if (here)
+    {
+        FocusShownPage();
+    }
+    return TRUE;
 }

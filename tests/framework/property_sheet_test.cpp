@@ -166,6 +166,24 @@ TEST_F(PropertySheetTest, EveryWayOfCancellingResetsThePages)
     EXPECT_TRUE(Host().IsWindowEnabled());
 }
 
+TEST_F(PropertySheetTest, TheFocusGoesToThePageThatIsTurnedTo)
+{
+    Sheet sheet(&Host(), {&first, &second});
+    sheet.inLoop = [&] {
+        for (const bool byKey : {true, false})
+        {
+            first.GotoDlgCtrl(first.GetDlgItem(IDC_TEST_EDIT));
+            byKey ? TypeKey(VK_TAB, VK_CONTROL) : void(sheet.SetActivePage(1));
+            EXPECT_TRUE(second.IsWindowVisible());
+            EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << "else keys go where nobody sees them";
+            sheet.SetActivePage(0);
+            EXPECT_EQ(::GetFocus(), first.GetDlgItem(IDC_TEST_EDIT)->m_hWnd);
+        }
+        sheet.Press(PSBTN_CANCEL);
+    };
+    sheet.DoModal();
+}
+
 TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwnerUntilItIsClosed)
 {
     for (const bool byFrame : {true, false})

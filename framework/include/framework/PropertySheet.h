@@ -113,4 +113,5 @@ private:
     static int CALLBACK Called(HWND window, UINT message, LPARAM lParam);
     void HideButtons();
     void EndIfClosed(int result);
+    void FocusShownPage();
 };
