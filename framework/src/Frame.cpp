@@ -169,8 +169,19 @@ void CFrameWnd::OnSize(UINT type, int width, int height)
 
 BOOL CFrameWnd::OnEraseBkgnd(CDC* dc)
 {
-    // The view covers the frame; erasing under it would only flicker.
-    return m_pViewActive != nullptr ? TRUE : CWnd::OnEraseBkgnd(dc);
+    if (m_pViewActive == nullptr)
+    {
+        return CWnd::OnEraseBkgnd(dc);
+    }
+    // The view covers the frame; erasing under it would only flicker. A flat bar has its parent
+    // paint the ground into the bar's own context.
+    if (dc != nullptr && ::WindowFromDC(dc->GetSafeHdc()) != m_hWnd)
+    {
+        CRect clip;
+        dc->GetClipBox(&clip);
+        ::FillRect(dc->GetSafeHdc(), &clip, ::GetSysColorBrush(COLOR_BTNFACE));
+    }
+    return TRUE;
 }
 
 void CFrameWnd::OnActivate(UINT state, CWnd* other, BOOL minimized)

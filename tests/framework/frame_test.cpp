@@ -395,6 +395,12 @@ TEST_F(WindowTest, TheBarsOfEveryFrameAreKeptUpToDate)
     EXPECT_TRUE(bar.IsPressable(TippedCommand));
     PumpAll();
     EXPECT_FALSE(bar.IsPressable(TippedCommand)) << "nobody handles it";
+    main->RecalcLayout();
+    PumpAll();
+    const CRect place = WindowRectOf(bar);
+    EXPECT_EQ(WindowPixels(bar).At(place.Width() - 5, place.Height() - 5),
+              ::GetSysColor(COLOR_BTNFACE))
+        << "a flat bar shows its parent's ground";
     AfxGetApp()->m_pMainWnd = nullptr;
     main->DestroyWindow();
 }
