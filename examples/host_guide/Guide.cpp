@@ -16,6 +16,7 @@
 #include <CustomPushbutton.h>
 #include <CustomRadiobutton.h>
 #include <CustomStatic.h>
+#include <CustomStatusBar.h>
 #include <EFB.h>
 #include <MultiTree.h>
 #include <OnBoardUI.h>
@@ -125,6 +126,45 @@ void RemarksForm::DoDataExchange(CDataExchange* exchange)
     DDX_Control(exchange, IDC_REMARKS, m_remarks);
 }
 
+class RemarksFrame : public CFrameWnd
+{
+public:
+    void RecalcLayout(BOOL notify = TRUE) override
+    {
+        CFrameWnd::RecalcLayout(notify);
+        CWnd* const form = GetDlgItem(AFX_IDW_PANE_FIRST);
+        if (form == nullptr || m_status.GetSafeHwnd() == nullptr)
+        {
+            return;
+        }
+        m_status.SendMessage(WM_SIZE); // takes the lower edge, as high as the mode has it
+        CRect bar, place;
+        m_status.GetWindowRect(&bar);
+        form->GetWindowRect(&place);
+        place.bottom = bar.top;
+        ScreenToClient(&place);
+        form->MoveWindow(&place);
+    }
+
+protected:
+    afx_msg int OnCreate(CREATESTRUCT* cs)
+    {
+        return CFrameWnd::OnCreate(cs) != -1 &&
+                       m_status.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), this,
+                                       AFX_IDW_STATUS_BAR)
+                   ? 0
+                   : -1;
+    }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CCustomStatusBar m_status;
+};
+
+BEGIN_MESSAGE_MAP(RemarksFrame, CFrameWnd)
+    ON_WM_CREATE()
+END_MESSAGE_MAP()
+
 // A dialog --------------------------------------------------------------------------------------
 
 class FlightDialog : public CCustomDialog
@@ -188,6 +228,7 @@ private:
     void SwitchMode(APPMODE mode);
 
     IAppAccess* m_services;
+    HWND m_frame = nullptr; // of the form
     CCustomListBox m_airports;
     CCustomChecklistBox m_equipment;
     CCustomDropListCombo m_runway;
@@ -311,6 +352,10 @@ void FlightDialog::SwitchMode(APPMODE mode)
                  ::MulDiv(window.Height(), after.Height(), before.Height()),
                  SWP_NOMOVE | SWP_NOZORDER);
     EnsureWndVisible(m_services, GetSafeHwnd());
+    if (auto* const frame = DYNAMIC_DOWNCAST(CFrameWnd, FromHandlePermanent(m_frame)))
+    {
+        frame->RecalcLayout(); // its status bar has another height
+    }
 }
 
 void FlightDialog::OnMode()
@@ -342,10 +387,11 @@ void FlightDialog::OnForm()
 {
     CCreateContext form = {};
     form.m_pNewViewClass = RUNTIME_CLASS(RemarksForm);
-    auto* const frame = new CFrameWnd; // deletes itself with its window, as the form does
+    auto* const frame = new RemarksFrame; // deletes itself with its window, as the form does
     if (frame->Create(nullptr, "Remarks", WS_OVERLAPPEDWINDOW, CRect(80, 80, 620, 320), this,
                       nullptr, 0, &form))
     {
+        m_frame = *frame;
         frame->InitialUpdateFrame(nullptr, TRUE); // initialises the form and shows the frame
     }
 }
