@@ -215,6 +215,10 @@ CRect GalleryFrame::InitialPlace() const
         ::AdjustWindowRectEx(&rect, WS_OVERLAPPEDWINDOW, FALSE, 0);
     }
     const CRect work = MonitorOf(m_hWnd).rcWork;
+    if (rect.Height() > work.Height())
+    {
+        rect.right += PageBar::Thickness(); // or the bar would have the page want one across too
+    }
     const CSize size(std::min(rect.Width(), work.Width()), std::min(rect.Height(), work.Height()));
     return CRect(work.CenterPoint() - CSize(size.cx / 2, size.cy / 2), size);
 }
