@@ -176,6 +176,10 @@ void GalleryFrame::SwitchMode(APPMODE mode)
     {
         return;
     }
+    if (IsIconic())
+    {
+        ShowWindow(SW_RESTORE); // an icon's place is none to come back to
+    }
     for (const auto& page : m_pages)
     {
         if (page != nullptr)

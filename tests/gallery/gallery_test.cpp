@@ -68,6 +68,23 @@ TEST_F(GalleryTest, OpensADialogInItsMiddleThatStaysActiveWhileItsKeysSwitchTheM
     EXPECT_EQ(::GetForegroundWindow(), dialog);
 }
 
+TEST_F(GalleryTest, AMinimisedWindowComesBackWhenTheModeIsSwitched)
+{
+    const TemporaryFile settings;
+    const RunningGallery gallery("--mode std" + settings.Option());
+    const HWND frame = gallery.Window(Title);
+    const CRect place = WindowRectOf(frame);
+    const int standard = ::GetDlgCtrlID(Shown(frame, "Standard\nwindow")); // the command
+    const int onBoard = ::GetDlgCtrlID(Shown(frame, "On-board\nwindow"));
+    ::SendMessage(frame, WM_SYSCOMMAND, SC_MINIMIZE, 0);
+    ASSERT_TRUE(::IsIconic(frame));
+    ::SendMessage(frame, WM_COMMAND, WPARAM(onBoard), 0);
+    EXPECT_FALSE(::IsIconic(frame));
+    EXPECT_GT(WindowRectOf(frame).Width(), place.Width());
+    ::SendMessage(frame, WM_COMMAND, WPARAM(standard), 0);
+    EXPECT_EQ(WindowRectOf(frame), place);
+}
+
 TEST_F(GalleryTest, IsDarkFromEdgeToEdgeOnBoard)
 {
     const TemporaryFile settings;
