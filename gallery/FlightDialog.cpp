@@ -96,6 +96,7 @@ void FlightControls::Fill()
     }
     if (m_instrument.GetSafeHwnd() != nullptr)
     {
+        m_visual.SetCheck(BST_UNCHECKED); // takes the Tab key from it, which its template gave it
         m_instrument.SetCheck(BST_CHECKED);
     }
     if (m_alternate.GetSafeHwnd() != nullptr)
