@@ -5,6 +5,8 @@
 
 #include <oleacc.h>
 
+#include <type_traits>
+
 namespace framework {
 
 // Handed out for a window's client area. A client may keep it longer than the window lives, and the
@@ -124,17 +126,12 @@ public:
     }
     HRESULT STDMETHODCALLTYPE accSelect(LONG flags, VARIANT child) override
     {
-        return m_window == nullptr ? CO_E_OBJNOTCONNECTED : m_window->accSelect(flags, child);
+        return Ask(&CWnd::accSelect, flags, child);
     }
     HRESULT STDMETHODCALLTYPE accLocation(LONG* left, LONG* top, LONG* width, LONG* height,
                                           VARIANT child) override
     {
-        if (left == nullptr || top == nullptr || width == nullptr || height == nullptr)
-        {
-            return E_POINTER;
-        }
-        return m_window == nullptr ? CO_E_OBJNOTCONNECTED
-                                   : m_window->accLocation(left, top, width, height, child);
+        return Ask(&CWnd::accLocation, left, top, width, height, child);
     }
     HRESULT STDMETHODCALLTYPE accNavigate(LONG direction, VARIANT start, VARIANT* end) override
     {
@@ -146,33 +143,76 @@ public:
     }
     HRESULT STDMETHODCALLTYPE accDoDefaultAction(VARIANT child) override
     {
-        return m_window == nullptr ? CO_E_OBJNOTCONNECTED : m_window->accDoDefaultAction(child);
+        return Ask(&CWnd::accDoDefaultAction, child);
     }
     HRESULT STDMETHODCALLTYPE put_accName(VARIANT child, BSTR name) override
     {
-        return m_window == nullptr ? CO_E_OBJNOTCONNECTED : m_window->put_accName(child, name);
+        return Ask(&CWnd::put_accName, child, name);
     }
     HRESULT STDMETHODCALLTYPE put_accValue(VARIANT child, BSTR value) override
     {
-        return m_window == nullptr ? CO_E_OBJNOTCONNECTED : m_window->put_accValue(child, value);
+        return Ask(&CWnd::put_accValue, child, value);
     }
 
 private:
     ~AccessibleWindow() = default;
 
-    static bool IsPlace(const VARIANT&) { return true; }
-    static bool IsPlace(long) { return true; }
-    template <class Result> static bool IsPlace(Result* result) { return result != nullptr; }
+    // Whether an argument is the place of an answer; a text may be given, too.
+    template <class Argument>
+    static constexpr bool IsPlace = std::is_pointer_v<Argument> && !std::is_same_v<Argument, BSTR>;
 
-    // A question whose answers have a place each.
+    template <class Argument> static bool IsMissing(Argument argument)
+    {
+        if constexpr (IsPlace<Argument>)
+        {
+            return argument == nullptr;
+        }
+        return false;
+    }
+    template <class Argument> static void Empty(Argument argument)
+    {
+        if constexpr (IsPlace<Argument>)
+        {
+            *argument = {};
+        }
+    }
+    template <class Argument> static void Drop(Argument argument)
+    {
+        if constexpr (std::is_same_v<Argument, BSTR*>)
+        {
+            ::SysFreeString(*argument);
+        }
+        else if constexpr (std::is_same_v<Argument, VARIANT*>)
+        {
+            ::VariantClear(argument);
+        }
+        else if constexpr (std::is_same_v<Argument, IDispatch**>)
+        {
+            if (*argument != nullptr)
+            {
+                (*argument)->Release();
+            }
+        }
+        Empty(argument);
+    }
+
+    // Asks the window. What one that ended meanwhile has answered before is not told.
     template <class... Parameters, class... Arguments>
     HRESULT Ask(HRESULT (CWnd::*question)(Parameters...), Arguments... arguments)
     {
-        if (!(IsPlace(arguments) && ...))
+        if ((IsMissing(arguments) || ...))
         {
             return E_POINTER;
         }
-        return m_window == nullptr ? CO_E_OBJNOTCONNECTED : (m_window->*question)(arguments...);
+        (Empty(arguments), ...);
+        const HRESULT answer =
+            m_window == nullptr ? CO_E_OBJNOTCONNECTED : (m_window->*question)(arguments...);
+        if (m_window == nullptr)
+        {
+            (Drop(arguments), ...);
+            return CO_E_OBJNOTCONNECTED;
+        }
+        return answer;
     }
 
     CWnd* m_window; // null when it is gone
