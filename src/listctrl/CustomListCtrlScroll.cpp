@@ -361,7 +361,7 @@ void CCustomListCtrl::ShiftPixels(int dy)
 
 void CCustomListCtrl::BringIntoSight(int row)
 {
-    if (row >= 0 && row < GetItemCount() && m_vBar.ShowScrollBar())
+    if (row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)) && m_vBar.ShowScrollBar())
     {
         const int before = m_vBar.GetScrollPos();
         m_vBar.SetScrollPos(listctrl::TopToShow(row, TopRow(), RowsInSight()), TRUE);
@@ -376,8 +376,9 @@ LRESULT CCustomListCtrl::OnEnsureVisible(WPARAM wParam, LPARAM)
     {
         return Default();
     }
+    const bool exists = row >= 0 && row < int(Ask(LVM_GETITEMCOUNT));
     BringIntoSight(row);
-    return row >= 0 && row < GetItemCount();
+    return exists;
 }
 
 // Pixels, taken as whole rows and steps.
