@@ -166,7 +166,9 @@ void CToolBar::SetSizes(SIZE button, SIZE image)
 TBBUTTON CToolBar::ButtonAt(int index) const
 {
     TBBUTTON button = {};
-    VERIFY(SendMessage(TB_GETBUTTON, WPARAM(index), LPARAM(&button)));
+    const HWND window = m_hWnd; // may end in the question
+    VERIFY(::SendMessage(window, TB_GETBUTTON, WPARAM(index), LPARAM(&button)) ||
+           !::IsWindow(window));
     return button;
 }
 
@@ -220,12 +222,15 @@ void CToolBar::SetButtonStyle(int index, UINT style)
 
 CString CToolBar::GetButtonText(int index) const
 {
+    const HWND window = m_hWnd; // is asked, and may end
     const WPARAM id = GetItemID(index);
-    const auto length = int(SendMessage(TB_GETBUTTONTEXT, id));
+    const auto length = int(::SendMessage(window, TB_GETBUTTONTEXT, id, 0));
     CString text;
     if (length > 0)
     {
-        SendMessage(TB_GETBUTTONTEXT, id, LPARAM(text.GetBufferSetLength(length)));
+        LPTSTR buffer = text.GetBufferSetLength(length);
+        buffer[0] = '\0';
+        ::SendMessage(window, TB_GETBUTTONTEXT, id, LPARAM(buffer));
         text.ReleaseBuffer();
     }
     return text;
