@@ -109,6 +109,7 @@ private:
     int StripWidth() const;
     CCustomListCtrl* List() const;
     LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    int Count() const;
     bool ItemRect(int item, CRect& rect) const;
     int ItemAt(CPoint point) const;
     bool HeadingPlace(const VARIANT& child, CRect& place) const;

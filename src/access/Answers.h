@@ -6,6 +6,8 @@
 
 #include <oleacc.h>
 
+#include "modes/WindowAlive.h"
+
 #include <optional>
 #include <type_traits>
 
@@ -140,18 +142,20 @@ HRESULT GiveOwnText(std::type_identity_t<Base>& label, const VARIANT& child, BST
 template <class Base>
 HRESULT GiveLabelsName(std::type_identity_t<Base>& window, const VARIANT& child, BSTR* name)
 {
+    const WindowAlive alive(window); // the label may end it
     const auto named = NameFromLabel(window.GetSafeHwnd(), child, name);
-    return named ? *named : window.Base::get_accName(child, name);
+    return named ? *named : alive ? window.Base::get_accName(child, name) : CO_E_OBJNOTCONNECTED;
 }
 
 // The same of an edit. The platform names one by the static before it, whatever that shows: it is
 // not asked where a picture or a swatch stands there.
 inline HRESULT GiveEditsName(CEdit& edit, const VARIANT& child, BSTR* name)
 {
+    const WindowAlive alive(edit); // the label may end it
     const HWND label = IsSelf(child) ? LabelBefore(edit) : nullptr;
     if (label == nullptr)
     {
-        return edit.CEdit::get_accName(child, name);
+        return alive ? edit.CEdit::get_accName(child, name) : CO_E_OBJNOTCONNECTED;
     }
     const CString text = LabelText(label);
     if (text.IsEmpty())

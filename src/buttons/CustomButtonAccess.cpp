@@ -7,6 +7,7 @@
 #include "OnBoardUIGeneral.h"
 
 #include "access/Answers.h"
+#include "modes/WindowAlive.h"
 
 namespace {
 
@@ -41,8 +42,9 @@ HRESULT CCustomRadiobutton::get_accRole(VARIANT child, VARIANT* role)
 
 HRESULT CCustomButton::get_accState(VARIANT child, VARIANT* state)
 {
+    const WindowAlive alive(*this); // it may end in each question
     const HRESULT result = CButton::get_accState(child, state);
-    if (FAILED(result) || !access::IsSelf(child) || state->vt != VT_I4)
+    if (!alive || FAILED(result) || !access::IsSelf(child) || state->vt != VT_I4)
     {
         return result;
     }
@@ -50,14 +52,14 @@ HRESULT CCustomButton::get_accState(VARIANT child, VARIANT* state)
         state->lVal = when ? state->lVal | bit : state->lVal & ~bit;
     };
     const int check = GetCheck();
-    const bool marked = RoleOf(*this) != ROLE_SYSTEM_PUSHBUTTON;
+    const bool marked = alive && RoleOf(*this) != ROLE_SYSTEM_PUSHBUTTON;
     set(marked && check == BST_CHECKED, STATE_SYSTEM_CHECKED);
     set(marked && check == BST_INDETERMINATE, STATE_SYSTEM_MIXED);
     // On-board the answer is only whether the button is pressed.
-    const LRESULT answer = SendMessage(BM_GETSTATE);
+    const LRESULT answer = alive ? SendMessage(BM_GETSTATE) : 0;
     set((COnBoardUIGeneral::InOnBoardMode() ? answer : answer & BST_PUSHED) != 0,
         STATE_SYSTEM_PRESSED);
-    return result;
+    return alive ? result : CO_E_OBJNOTCONNECTED;
 }
 
 HRESULT CCustomButton::get_accDefaultAction(VARIANT child, BSTR* action)
@@ -66,7 +68,13 @@ HRESULT CCustomButton::get_accDefaultAction(VARIANT child, BSTR* action)
     {
         return CButton::get_accDefaultAction(child, action);
     }
-    switch (RoleOf(*this))
+    const WindowAlive alive(*this);
+    const long role = RoleOf(*this);
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
+    switch (role)
     {
     case ROLE_SYSTEM_PUSHBUTTON:
         return access::Give(*action, "Press");

@@ -7,6 +7,7 @@
 #include "CustomPropSheet.h"
 
 #include "access/Answers.h"
+#include "modes/WindowAlive.h"
 
 HRESULT CCustomDialog::get_accRole(VARIANT child, VARIANT* role)
 {
@@ -16,7 +17,13 @@ HRESULT CCustomDialog::get_accRole(VARIANT child, VARIANT* role)
 // A form has seldom a text of its own: its frame's title names it.
 HRESULT CCustomFormView::get_accName(VARIANT child, BSTR* name)
 {
-    CWnd* const frame = GetWindowTextLength() == 0 ? GetParentFrame() : nullptr;
+    const WindowAlive alive(*this);
+    const bool named = GetWindowTextLength() != 0;
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
+    CWnd* const frame = named ? nullptr : GetParentFrame();
     if (frame == nullptr || !access::IsSelf(child))
     {
         return CFormView::get_accName(child, name);

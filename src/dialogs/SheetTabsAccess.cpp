@@ -3,6 +3,7 @@
 #include "dialogs/SheetTabs.h"
 
 #include "access/Strip.h"
+#include "modes/WindowAlive.h"
 
 #include <afxdlgs.h>
 
@@ -22,7 +23,12 @@ HRESULT SheetTabs::get_accChild(VARIANT child, IDispatch** object)
 // The tabs together are named as their sheet.
 HRESULT SheetTabs::get_accName(VARIANT child, BSTR* name)
 {
+    const WindowAlive alive(*this); // a host that has put itself in between may end the tabs
     const int tab = access::RowOf(child, GetItemCount());
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     if (tab >= 0)
     {
         return access::Give(*name, TextOf(tab));
@@ -43,14 +49,23 @@ HRESULT SheetTabs::get_accRole(VARIANT child, VARIANT* role)
 
 HRESULT SheetTabs::get_accState(VARIANT child, VARIANT* state)
 {
+    const WindowAlive alive(*this);
     const int tab = access::RowOf(child, GetItemCount());
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     if (tab < 0)
     {
         return CTabCtrl::get_accState(child, state);
     }
     CRect place(0, 0, 0, 0);
     GetItemRect(tab, &place);
-    const bool active = tab == GetCurSel();
+    const bool active = alive && tab == GetCurSel();
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     const bool focused = active && ::GetFocus() == GetSafeHwnd();
     const bool enabled = IsWindowEnabled() != FALSE;
     return access::GivePartState(*state, *this, place,
@@ -73,14 +88,22 @@ HRESULT SheetTabs::get_accSelection(VARIANT* children)
 
 HRESULT SheetTabs::get_accDefaultAction(VARIANT child, BSTR* action)
 {
-    return access::RowOf(child, GetItemCount()) < 0 ? CTabCtrl::get_accDefaultAction(child, action)
-                                                    : access::Give(*action, "Switch");
+    const WindowAlive alive(*this);
+    const bool isTab = access::RowOf(child, GetItemCount()) >= 0;
+    return !alive  ? CO_E_OBJNOTCONNECTED
+           : isTab ? access::Give(*action, "Switch")
+                   : CTabCtrl::get_accDefaultAction(child, action);
 }
 
 // Posted: a page that is left may ask the user about what it has been given.
 HRESULT SheetTabs::accDoDefaultAction(VARIANT child)
 {
+    const WindowAlive alive(*this);
     const int tab = access::RowOf(child, GetItemCount());
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     if (tab < 0)
     {
         return CTabCtrl::accDoDefaultAction(child);
@@ -95,11 +118,13 @@ HRESULT SheetTabs::accDoDefaultAction(VARIANT child)
 
 HRESULT SheetTabs::accLocation(long* left, long* top, long* width, long* height, VARIANT child)
 {
+    const WindowAlive alive(*this);
     const int tab = access::RowOf(child, GetItemCount());
     CRect place(0, 0, 0, 0);
-    return tab >= 0 && GetItemRect(tab, &place)
-               ? access::GivePlace(*this, place, left, top, width, height)
-               : CTabCtrl::accLocation(left, top, width, height, child);
+    const bool placed = alive && tab >= 0 && GetItemRect(tab, &place);
+    return !alive   ? CO_E_OBJNOTCONNECTED
+           : placed ? access::GivePlace(*this, place, left, top, width, height)
+                    : CTabCtrl::accLocation(left, top, width, height, child);
 }
 
 HRESULT SheetTabs::accNavigate(long direction, VARIANT start, VARIANT* end)

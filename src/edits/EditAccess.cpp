@@ -7,6 +7,7 @@
 #include "QuixEdit.h"
 
 #include "access/Answers.h"
+#include "modes/WindowAlive.h"
 
 HRESULT CCustomEdit::get_accName(VARIANT child, BSTR* name)
 {
@@ -21,8 +22,9 @@ HRESULT CCustomEdit::get_accRole(VARIANT child, VARIANT* role)
 // The platform does not know of our way of being read-only.
 HRESULT CCustomEdit::get_accState(VARIANT child, VARIANT* state)
 {
+    const WindowAlive alive(*this);
     const HRESULT result = CEdit::get_accState(child, state);
-    if (SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4 && m_fauxReadOnly)
+    if (alive && SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4 && m_fauxReadOnly)
     {
         state->lVal |= STATE_SYSTEM_READONLY;
     }
@@ -41,8 +43,10 @@ HRESULT ColorEdit::get_accRole(VARIANT child, VARIANT* role)
 
 HRESULT EditWithPrompt::get_accName(VARIANT child, BSTR* name)
 {
+    const WindowAlive alive(*this);
     const auto named = access::NameFromLabel(GetSafeHwnd(), child, name);
     return named                   ? *named
+           : !alive                ? CO_E_OBJNOTCONNECTED
            : access::IsSelf(child) ? access::Give(*name, m_prompt)
                                    : CEdit::get_accName(child, name);
 }

@@ -27,11 +27,13 @@ bool IsShown(HWND header)
 
 // Rows ------------------------------------------------------------------------------------------
 
-// Whether a child id is that of a row; gives its index.
+// Whether a child id is that of a row; gives its index. The list may end in the question, and has
+// no rows then.
 bool CCustomListCtrl::IsRow(const VARIANT& child, int& row) const
 {
+    const WindowAlive alive(*this);
     row = access::RowOf(child, GetItemCount());
-    return row >= 0;
+    return row >= 0 && alive;
 }
 
 // Where a row that exists is drawn, in client coordinates. In a report all rows are alike, so that
@@ -96,21 +98,32 @@ HRESULT CCustomListCtrl::GiveRowTexts(int row, int from, int to, BSTR* texts)
 
 HRESULT CCustomListCtrl::get_accChildCount(long* count)
 {
-    *count = GetItemCount() + (IsShown(HeaderWindow()) ? 1 : 0);
+    const WindowAlive alive(*this);
+    *count = GetItemCount();
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
+    *count += IsShown(HeaderWindow()) ? 1 : 0;
     return S_OK;
 }
 
 HRESULT CCustomListCtrl::get_accChild(VARIANT child, IDispatch** object)
 {
-    int row = 0;
+    const WindowAlive alive(*this);
     *object = nullptr;
-    if (IsRow(child, row))
+    const int count = GetItemCount();
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
+    if (access::RowOf(child, count) >= 0)
     {
         return S_FALSE;
     }
     const HWND header = HeaderWindow();
     const bool isHeader =
-        IsShown(header) && child.vt == VT_I4 && child.lVal == access::ChildOf(GetItemCount());
+        IsShown(header) && child.vt == VT_I4 && child.lVal == access::ChildOf(count);
     return isHeader ? ::AccessibleObjectFromWindow(header, DWORD(OBJID_WINDOW), IID_IDispatch,
                                                    reinterpret_cast<void**>(object))
                     : E_INVALIDARG;
@@ -176,6 +189,10 @@ HRESULT CCustomListCtrl::get_accState(VARIANT child, VARIANT* state)
     }
     const bool checked = (GetExtendedStyle() & LVS_EX_CHECKBOXES) != 0 &&
                          (item & LVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(CheckedImage);
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     long more = STATE_SYSTEM_SELECTABLE | (checked ? STATE_SYSTEM_CHECKED : 0);
     if ((GetStyle() & LVS_SINGLESEL) == 0)
     {
@@ -213,8 +230,9 @@ HRESULT CCustomListCtrl::accLocation(long* left, long* top, long* width, long* h
     {
         return CListCtrl::accLocation(left, top, width, height, child);
     }
+    const WindowAlive alive(*this);
     CRect place;
-    return IsRow(child, row) && RowPlace(row, place)
+    return IsRow(child, row) && RowPlace(row, place) && alive
                ? access::GivePlace(*this, place, left, top, width, height)
                : E_INVALIDARG;
 }
@@ -276,6 +294,9 @@ HRESULT CCustomListCtrl::accSelect(long flags, VARIANT child)
     if (alive && takesFocus)
     {
         SetSelectionMark(row);
+    }
+    if (alive && takesFocus)
+    {
         EnsureVisible(row, FALSE);
     }
     return alive ? S_OK : CO_E_OBJNOTCONNECTED;

@@ -4,37 +4,46 @@
 #include "CustomListCtrlHdr.h"
 
 #include "access/Strip.h"
+#include "modes/WindowAlive.h"
 
 #include <algorithm>
+
+int CCustomListCtrlHdr::Count() const
+{
+    return std::max(0, int(Ask(HDM_GETITEMCOUNT)));
+}
 
 // Where a heading is drawn, in client coordinates.
 bool CCustomListCtrlHdr::HeadingPlace(const VARIANT& child, CRect& place) const
 {
-    const bool is = ItemRect(access::RowOf(child, GetItemCount()), place);
+    const bool is = ItemRect(access::RowOf(child, Count()), place);
     place.OffsetRect(m_offset);
     return is;
 }
 
 HRESULT CCustomListCtrlHdr::get_accChildCount(long* count)
 {
-    *count = std::max(0, GetItemCount());
+    *count = Count();
     return S_OK;
 }
 
 HRESULT CCustomListCtrlHdr::get_accChild(VARIANT child, IDispatch** object)
 {
-    return access::GivePart(object, child, GetItemCount());
+    return access::GivePart(object, child, Count());
 }
 
 HRESULT CCustomListCtrlHdr::get_accName(VARIANT child, BSTR* name)
 {
-    const int item = access::RowOf(child, GetItemCount());
+    const WindowAlive alive(*this); // the label and the owner of a text may end it
+    const int item = access::RowOf(child, Count());
     const HWND list = ListWindow();
     if (item < 0)
     {
         const auto named =
             access::NameFromLabel(list == nullptr ? GetSafeHwnd() : list, child, name);
-        return named ? *named : CHeaderCtrl::get_accName(child, name);
+        return named   ? *named
+               : alive ? CHeaderCtrl::get_accName(child, name)
+                       : CO_E_OBJNOTCONNECTED;
     }
     char text[LongestText] = "";
     HDITEM data = {};
@@ -42,13 +51,12 @@ HRESULT CCustomListCtrlHdr::get_accName(VARIANT child, BSTR* name)
     data.pszText = text;
     data.cchTextMax = LongestText;
     const bool has = GetItem(item, &data) && data.pszText != nullptr;
-    return access::Give(*name, has ? data.pszText : "");
+    return alive ? access::Give(*name, has ? data.pszText : "") : CO_E_OBJNOTCONNECTED;
 }
 
 HRESULT CCustomListCtrlHdr::get_accRole(VARIANT child, VARIANT* role)
 {
-    return access::GivePartRole(*role, child, GetItemCount(), ROLE_SYSTEM_LIST,
-                                ROLE_SYSTEM_COLUMNHEADER);
+    return access::GivePartRole(*role, child, Count(), ROLE_SYSTEM_LIST, ROLE_SYSTEM_COLUMNHEADER);
 }
 
 HRESULT CCustomListCtrlHdr::get_accState(VARIANT child, VARIANT* state)
@@ -60,8 +68,7 @@ HRESULT CCustomListCtrlHdr::get_accState(VARIANT child, VARIANT* state)
 
 HRESULT CCustomListCtrlHdr::get_accDefaultAction(VARIANT child, BSTR* action)
 {
-    const bool clicks =
-        access::RowOf(child, GetItemCount()) >= 0 && (GetStyle() & HDS_BUTTONS) != 0;
+    const bool clicks = access::RowOf(child, Count()) >= 0 && (GetStyle() & HDS_BUTTONS) != 0;
     return clicks ? access::Give(*action, "Click")
                   : CHeaderCtrl::get_accDefaultAction(child, action);
 }
@@ -93,18 +100,18 @@ HRESULT CCustomListCtrlHdr::accNavigate(long direction, VARIANT start, VARIANT* 
     {
         return CHeaderCtrl::accNavigate(direction, start, end);
     }
-    const int count = GetItemCount();
+    const int count = Count();
     if (const int item = access::RowOf(start, count); item >= 0)
     {
         HDITEM data = {};
         data.mask = HDI_ORDER;
-        GetItem(item, &data);
+        Ask(HDM_GETITEM, WPARAM(item), reinterpret_cast<LPARAM>(&data));
         start.lVal = access::ChildOf(data.iOrder);
     }
     const HRESULT result = access::NavigateStrip(direction, start, count, *end);
     if (result == S_OK)
     {
-        end->lVal = access::ChildOf(OrderToIndex(end->lVal - 1));
+        end->lVal = access::ChildOf(int(Ask(HDM_ORDERTOINDEX, WPARAM(end->lVal - 1))));
     }
     return result;
 }

@@ -36,9 +36,10 @@ HRESULT CCustomChecklistBox::get_accRole(VARIANT child, VARIANT* role)
 
 HRESULT CCustomChecklistBox::get_accState(VARIANT child, VARIANT* state)
 {
+    const WindowAlive alive(*this);
     const HRESULT result = CCustomListBox::get_accState(child, state);
     int index = 0;
-    if (FAILED(result) || !IsRow(child, index))
+    if (!alive || FAILED(result) || !IsRow(child, index))
     {
         return result;
     }

@@ -5,6 +5,7 @@
 
 #include "CustomDropListCombo.h"
 #include "access/Rows.h"
+#include "modes/WindowAlive.h"
 
 HRESULT CCustomComboLBox::get_accName(VARIANT child, BSTR* name)
 {
@@ -15,9 +16,10 @@ HRESULT CCustomComboLBox::get_accName(VARIANT child, BSTR* name)
 
 HRESULT CCustomComboLBox::get_accState(VARIANT child, VARIANT* state)
 {
+    const WindowAlive alive(*this);
     const HRESULT result = CCustomListBox::get_accState(child, state);
     int index = 0;
-    if (SUCCEEDED(result) && IsRow(child, index))
+    if (alive && SUCCEEDED(result) && IsRow(child, index))
     {
         state->lVal = (state->lVal & ~STATE_SYSTEM_SELECTED) |
                       (index == GetHighlightedRow() ? STATE_SYSTEM_SELECTED : 0);

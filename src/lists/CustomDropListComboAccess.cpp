@@ -25,8 +25,9 @@ HRESULT CCustomDropListCombo::get_accRole(VARIANT child, VARIANT* role)
 
 HRESULT CCustomDropListCombo::get_accState(VARIANT child, VARIANT* state)
 {
+    const WindowAlive alive(*this);
     const HRESULT result = CWnd::get_accState(child, state);
-    if (SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4)
+    if (alive && SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4)
     {
         state->lVal |= STATE_SYSTEM_HASPOPUP | (IsWindowEnabled() ? STATE_SYSTEM_FOCUSABLE : 0) |
                        (m_expanded ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);

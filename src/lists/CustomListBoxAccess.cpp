@@ -146,7 +146,7 @@ HRESULT CCustomListBox::accSelect(long flags, VARIANT child)
     {
         PostCommand(GetSafeHwnd(), LBN_SELCHANGE); // it may open a dialog
     }
-    return S_OK;
+    return alive ? S_OK : CO_E_OBJNOTCONNECTED;
 }
 
 HRESULT CCustomListBox::accLocation(long* left, long* top, long* width, long* height, VARIANT child)

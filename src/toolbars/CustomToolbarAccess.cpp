@@ -3,6 +3,7 @@
 #include "CustomToolbar.h"
 
 #include "access/Strip.h"
+#include "modes/WindowAlive.h"
 
 HRESULT CustomToolbar::get_accChildCount(long* count)
 {
@@ -19,13 +20,19 @@ HRESULT CustomToolbar::get_accChild(VARIANT child, IDispatch** object)
 // in the program's string of the command.
 HRESULT CustomToolbar::get_accName(VARIANT child, BSTR* name)
 {
+    const WindowAlive alive(*this); // it may end in each question
     const int button = access::RowOf(child, GetCount());
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     if (button < 0)
     {
         return CToolBar::get_accName(child, name);
     }
     CString text = GetButtonText(button);
-    if (const UINT id = GetItemID(button); text.IsEmpty() && id != 0 && text.LoadString(id))
+    if (const UINT id = alive ? GetItemID(button) : 0;
+        text.IsEmpty() && id != 0 && text.LoadString(id))
     {
         const int tip = text.Find('\n');
         text = text.Mid(tip + 1);
@@ -39,10 +46,11 @@ HRESULT CustomToolbar::get_accRole(VARIANT child, VARIANT* role)
     {
         return access::Give(*role, ROLE_SYSTEM_TOOLBAR);
     }
+    const WindowAlive alive(*this);
     const int button = access::RowOf(child, GetCount());
-    if (button < 0)
+    if (button < 0 || !alive)
     {
-        return E_INVALIDARG;
+        return alive ? E_INVALIDARG : CO_E_OBJNOTCONNECTED;
     }
     const UINT style = GetButtonStyle(button);
     const auto has = [style](UINT all) { return (style & all) == all; };
@@ -55,7 +63,12 @@ HRESULT CustomToolbar::get_accRole(VARIANT child, VARIANT* role)
 
 HRESULT CustomToolbar::get_accState(VARIANT child, VARIANT* state)
 {
+    const WindowAlive alive(*this); // it may end in each question
     const int button = access::RowOf(child, GetCount());
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     if (button < 0)
     {
         return CToolBar::get_accState(child, state);
@@ -70,29 +83,46 @@ HRESULT CustomToolbar::get_accState(VARIANT child, VARIANT* state)
     add((data.fsState & TBSTATE_INDETERMINATE) != 0, STATE_SYSTEM_MIXED);
     add((data.fsState & TBSTATE_HIDDEN) != 0, STATE_SYSTEM_INVISIBLE);
     add((data.fsState & TBSTATE_ENABLED) == 0, STATE_SYSTEM_UNAVAILABLE);
-    add(button == FocusedButton(), STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_FOCUSED);
+    add(alive && button == FocusedButton(), STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_FOCUSED);
     CRect place(0, 0, 0, 0);
-    GetItemRect(button, &place);
+    if (alive)
+    {
+        GetItemRect(button, &place);
+    }
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     return access::GivePartState(*state, *this, place, bits);
 }
 
 HRESULT CustomToolbar::get_accFocus(VARIANT* child)
 {
+    const WindowAlive alive(*this);
     const int button = FocusedButton();
-    return button >= 0 ? access::Give(*child, access::ChildOf(button))
-                       : CToolBar::get_accFocus(child);
+    return !alive        ? CO_E_OBJNOTCONNECTED
+           : button >= 0 ? access::Give(*child, access::ChildOf(button))
+                         : CToolBar::get_accFocus(child);
 }
 
 HRESULT CustomToolbar::get_accDefaultAction(VARIANT child, BSTR* action)
 {
+    const WindowAlive alive(*this);
     const int button = access::RowOf(child, GetCount());
-    return button >= 0 && GetItemID(button) != 0 ? access::Give(*action, "Press")
-                                                 : CToolBar::get_accDefaultAction(child, action);
+    const bool presses = alive && button >= 0 && GetItemID(button) != 0;
+    return !alive    ? CO_E_OBJNOTCONNECTED
+           : presses ? access::Give(*action, "Press")
+                     : CToolBar::get_accDefaultAction(child, action);
 }
 
 HRESULT CustomToolbar::accDoDefaultAction(VARIANT child)
 {
+    const WindowAlive alive(*this); // it may end in each question
     const int button = access::RowOf(child, GetCount());
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     if (button < 0)
     {
         return CToolBar::accDoDefaultAction(child);
@@ -100,22 +130,34 @@ HRESULT CustomToolbar::accDoDefaultAction(VARIANT child)
     VARIANT state = {};
     get_accState(child, &state);
     CRect place(0, 0, 0, 0);
-    GetItemRect(button, &place);
-    const bool presses = GetItemID(button) != 0 &&
+    if (alive)
+    {
+        GetItemRect(button, &place);
+    }
+    const bool presses = alive && GetItemID(button) != 0 &&
                          (state.lVal & (STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE)) == 0;
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     return presses ? access::PostClick(*this, place) : DISP_E_MEMBERNOTFOUND;
 }
 
 HRESULT CustomToolbar::accLocation(long* left, long* top, long* width, long* height, VARIANT child)
 {
+    const WindowAlive alive(*this); // it may end in each question
     const int button = access::RowOf(child, GetCount());
+    if (!alive)
+    {
+        return CO_E_OBJNOTCONNECTED;
+    }
     if (button < 0)
     {
         return CToolBar::accLocation(left, top, width, height, child);
     }
     CRect place(0, 0, 0, 0);
     GetItemRect(button, &place);
-    return access::GivePlace(*this, place, left, top, width, height);
+    return alive ? access::GivePlace(*this, place, left, top, width, height) : CO_E_OBJNOTCONNECTED;
 }
 
 HRESULT CustomToolbar::accNavigate(long direction, VARIANT start, VARIANT* end)

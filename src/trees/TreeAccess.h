@@ -3,6 +3,7 @@
 // What a tree answers to assistive programs of its items.
 
 #include "access/Rows.h"
+#include "modes/WindowAlive.h"
 #include "trees/TreeSelection.h"
 
 #include <oleacc.h>
@@ -83,9 +84,11 @@ public:
     }
     HRESULT Name(const VARIANT& child, BSTR* name) const
     {
-        if (const auto named = access::NameFromLabel(m_tree.GetSafeHwnd(), child, name))
+        const WindowAlive alive(m_tree); // the label may end it
+        const auto named = access::NameFromLabel(m_tree.GetSafeHwnd(), child, name);
+        if (named || !alive)
         {
-            return *named;
+            return named ? *named : CO_E_OBJNOTCONNECTED;
         }
         return m_access.IsForPlatform(child) ? m_tree.Platform::get_accName(child, name)
                                              : m_access.Answer(child, &TreeAccess::Name, name);

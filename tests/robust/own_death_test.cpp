@@ -1,8 +1,9 @@
 // A control or form may end itself in any of its own messages while the mode changes, while it is
-// painted and while a user works it.
+// painted, while a user works it and while an assistive program asks it.
 
 #include "robust/Subjects.h"
 #include "robust/Watch.h"
+#include "support/Accessible.h"
 #include "support/Input.h"
 #include "support/WindowTest.h"
 
@@ -15,17 +16,18 @@
 
 namespace {
 
-// A message, whose, and how often it has come to that window before.
+// A message, whose, how often it has come to that window before, and in which step of the play.
 struct Heard
 {
     UINT message;
     int id;
     int before;
+    int step;
 
     friend bool operator==(const Heard&, const Heard&) = default;
 };
 
-// Of one message. What follows is likely the same again.
+// Of one message in one step. What follows is likely the same again.
 constexpr int MostTellings = 2;
 constexpr int MostPlays = 8;
 
@@ -39,6 +41,7 @@ protected:
     std::unique_ptr<CWnd> m_window;
     std::optional<Heard> m_awaited;
     std::vector<Heard> m_heard;
+    int m_step = 0;
 
     static bool Hear(const CWnd& window, UINT message)
     {
@@ -52,7 +55,7 @@ protected:
         }
         OwnDeath& now = *s_now;
         Watch::GoesOn();
-        Heard word = {message, window.GetDlgCtrlID(), 0};
+        Heard word = {message, window.GetDlgCtrlID(), 0, now.m_step};
         while (std::ranges::find(now.m_heard, word) != now.m_heard.end())
         {
             ++word.before;
@@ -104,6 +107,7 @@ protected:
         const ModeScope scope(mode);
         m_heard.clear();
         m_awaited = awaited;
+        m_step = 0;
         s_now = this;
         EndsItself = making ? &OwnDeath::Hear : nullptr;
         m_window = subject.make(Host());
@@ -155,6 +159,64 @@ protected:
         Host().SendMessage(WM_MEASUREITEM, id, reinterpret_cast<LPARAM>(&height));
     }
 
+    // All that an assistive program asks of a window and of two of its children, one question a
+    // step.
+    void AskAll(HWND window)
+    {
+        const auto hear = std::exchange(EndsItself, nullptr);
+        const Held<IAccessible> object = Reached(window);
+        EndsItself = hear;
+        const auto ask = [&](auto question, auto... arguments) {
+            ++m_step;
+            const HRESULT answer = (object.get()->*question)(arguments...);
+            EXPECT_EQ(answer == CO_E_OBJNOTCONNECTED, !::IsWindow(window)) << m_step;
+        };
+        const auto askFor = [&](auto question, auto... before) {
+            VARIANT found = {};
+            ask(question, before..., &found);
+            ::VariantClear(&found);
+        };
+        const auto askForText = [&](auto question, long id) {
+            BSTR text = nullptr;
+            ask(question, Child(id), &text);
+            ::SysFreeString(text);
+        };
+        const auto askForPart = [&](auto question, auto... before) {
+            IDispatch* part = nullptr;
+            ask(question, before..., &part);
+            const Held<IDispatch> held(part);
+        };
+        long left = 0;
+        long top = 0;
+        long width = 0;
+        long height = 0;
+        ask(&IAccessible::get_accChildCount, &width);
+        askForPart(&IAccessible::get_accParent);
+        for (const long id : {CHILDID_SELF, 1, 2})
+        {
+            askForPart(&IAccessible::get_accChild, Child(id));
+            for (const auto question :
+                 {&IAccessible::get_accName, &IAccessible::get_accValue,
+                  &IAccessible::get_accDescription, &IAccessible::get_accHelp,
+                  &IAccessible::get_accKeyboardShortcut, &IAccessible::get_accDefaultAction})
+            {
+                askForText(question, id);
+            }
+            askFor(&IAccessible::get_accRole, Child(id));
+            askFor(&IAccessible::get_accState, Child(id));
+            for (const long way : {NAVDIR_NEXT, NAVDIR_FIRSTCHILD, NAVDIR_LASTCHILD})
+            {
+                askFor(&IAccessible::accNavigate, way, Child(id));
+            }
+            ask(&IAccessible::accLocation, &left, &top, &width, &height, Child(id));
+            askFor(&IAccessible::accHitTest, left + 2, top + 2);
+            ask(&IAccessible::accSelect, SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(id));
+            askFor(&IAccessible::get_accFocus);
+            askFor(&IAccessible::get_accSelection);
+            ask(&IAccessible::accDoDefaultAction, Child(id));
+        }
+    }
+
     template <class Act>
     bool Comes(const Heard& word, const Subject& subject, APPMODE mode, const std::string& title,
                Act act, bool making)
@@ -176,9 +238,9 @@ protected:
         EXPECT_TRUE(!m_heard.empty() || (mode == STD && !making)) << title << ": nothing is heard";
         for (const Heard& word : std::exchange(m_heard, {}))
         {
-            char end[60] = "";
-            std::snprintf(end, sizeof(end), ", ends in 0x%X/%d of %d", word.message, word.before,
-                          word.id);
+            char end[80] = "";
+            std::snprintf(end, sizeof(end), ", ends in 0x%X/%d of %d in step %d", word.message,
+                          word.before, word.id, word.step);
             bool ended = false;
             for (int plays = 0; plays < MostPlays && !ended; ++plays)
             {
@@ -237,6 +299,20 @@ TEST_F(OwnDeath, DuringARepaintDoesNoHarm)
                 {
                     HaveRowDrawn(window);
                 }
+            });
+        }
+    }
+}
+
+TEST_F(OwnDeath, WhileItIsAskedDoesNoHarm)
+{
+    for (const Subject& subject : Subjects())
+    {
+        for (const APPMODE mode : {STD, EFB})
+        {
+            GiveAll(subject, mode, "asked", [this](HWND window) {
+                ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
+                AskAll(window);
             });
         }
     }
