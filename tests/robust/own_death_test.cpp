@@ -164,6 +164,10 @@ protected:
     void AskAll(HWND window)
     {
         const auto hear = std::exchange(EndsItself, nullptr);
+        CStatic label; // which names the window, and whose messages may end it, too
+        label.Create("Label", WS_CHILD, CRect(0, 0, 9, 9), &Host());
+        ::SetWindowSubclass(label, &OwnDeath::PartProcedure, 0, 0);
+        ::SetWindowPos(window, label, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
         const Held<IAccessible> object = Reached(window);
         EndsItself = hear;
         const auto ask = [&](auto question, auto... arguments) {
@@ -313,6 +317,7 @@ TEST_F(OwnDeath, WhileItIsAskedDoesNoHarm)
             GiveAll(subject, mode, "asked", [this](HWND window) {
                 ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
                 AskAll(window);
+                PumpAll(); // what is done is posted
             });
         }
     }
