@@ -162,6 +162,7 @@ IMPLEMENT_DYNAMIC(CPropertySheet, CWnd)
 BEGIN_MESSAGE_MAP(CPropertySheet, CWnd)
     ON_MESSAGE(WM_INITDIALOG, &CPropertySheet::HandleInitDialog)
     ON_MESSAGE(PSM_PRESSBUTTON, &CPropertySheet::OnPressButton)
+    ON_MESSAGE(PSM_SETCURSEL, &CPropertySheet::OnSetCurSel)
     ON_WM_CLOSE()
     ON_WM_DESTROY()
 END_MESSAGE_MAP()
@@ -300,12 +301,13 @@ BOOL CPropertySheet::SetActivePage(int page)
         return FALSE;
     }
     m_psh.nStartPage = UINT(page);
-    if (m_hWnd == nullptr)
-    {
-        return TRUE;
-    }
+    return m_hWnd == nullptr || BOOL(SendMessage(PSM_SETCURSEL, WPARAM(page)));
+}
+
+LRESULT CPropertySheet::OnSetCurSel(WPARAM, LPARAM)
+{
     const framework::StillThere here(*this);
-    const auto turned = BOOL(SendMessage(PSM_SETCURSEL, WPARAM(page)));
+    const LRESULT turned = Default();
     if (here)
     {
         FocusShownPage();

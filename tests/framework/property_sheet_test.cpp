@@ -179,6 +179,8 @@ TEST_F(PropertySheetTest, TheFocusGoesToThePageThatIsTurnedTo)
             sheet.SetActivePage(0);
             EXPECT_EQ(::GetFocus(), first.GetDlgItem(IDC_TEST_EDIT)->m_hWnd);
         }
+        sheet.RemovePage(0);
+        EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << "else no key does anything";
         sheet.Press(PSBTN_CANCEL);
     };
     sheet.DoModal();

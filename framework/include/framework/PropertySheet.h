@@ -93,6 +93,7 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPressButton(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetCurSel(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
