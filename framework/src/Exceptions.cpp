@@ -123,6 +123,19 @@ LRESULT AnswerThrown(CException& thrown, const MSG& message)
                              : thread->ProcessWndProcException(&thrown, &message);
 }
 
+// One of the standard library's says itself what went wrong.
+LRESULT AnswerThrown(const std::exception& thrown, const MSG& message)
+{
+    struct Standard : CSimpleException
+    {
+        explicit Standard(LPCSTR text)
+            : CSimpleException(FALSE, text)
+        {}
+    };
+    Standard told(thrown.what());
+    return AnswerThrown(told, message);
+}
+
 } // namespace framework
 
 LRESULT CWinThread::ProcessWndProcException(CException*, const MSG* message)

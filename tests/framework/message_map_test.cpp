@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -339,6 +340,8 @@ TEST_F(MessageMap, AnExceptionOutOfAHandlerGoesNoFurtherThanItsWindow)
          "Command failed.\n\nThis is not supported."},
         {WM_APP, [] { throw std::bad_alloc(); }, 0,
          "Internal application error.\n\nOut of memory."},
+        {WM_APP, [] { throw std::out_of_range("No such leg."); }, 0,
+         "Internal application error.\n\nNo such leg."},
         {WM_APP, &AfxThrowUserException, 0, ""}, // he knows
         {WM_PAINT, &AfxThrowUserException, 0, ""},
     };
