@@ -385,6 +385,11 @@ void FlightDialog::OnSheet()
 
 void FlightDialog::OnForm()
 {
+    if (auto* const open = DYNAMIC_DOWNCAST(CFrameWnd, FromHandlePermanent(m_frame)))
+    {
+        open->ActivateFrame();
+        return;
+    }
     CCreateContext form = {};
     form.m_pNewViewClass = RUNTIME_CLASS(RemarksForm);
     auto* const frame = new RemarksFrame; // deletes itself with its window, as the form does
