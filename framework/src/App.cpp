@@ -385,21 +385,24 @@ int AfxMessageBox(UINT id, UINT type, UINT helpId)
 
 void AfxFormatString1(CString& text, UINT id, LPCSTR first)
 {
-    text.LoadString(id);
-    text.Replace("%1", first);
+    CString replaced; // what it is replaced by may be the text itself
+    replaced.LoadString(id);
+    replaced.Replace("%1", first);
+    text = replaced;
 }
 
 void AfxFormatString2(CString& text, UINT id, LPCSTR first, LPCSTR second)
 {
     CString pattern;
     pattern.LoadString(id);
-    text.Empty();
+    CString made;
     for (const char* at = pattern; *at != '\0'; ++at)
     {
         const bool replaced = at[0] == '%' && (at[1] == '1' || at[1] == '2');
         at += replaced ? 1 : 0;
-        text += replaced ? CString(*at == '1' ? first : second) : CString(*at);
+        made += replaced ? CString(*at == '1' ? first : second) : CString(*at);
     }
+    text = made;
 }
 
 void AfxPostQuitMessage(int exitCode)

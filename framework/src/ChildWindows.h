@@ -19,4 +19,10 @@ inline std::vector<HWND> ChildWindows(HWND parent)
     return children;
 }
 
+// A pushable thing, and neither a frame round others nor a label.
+inline bool IsPushable(HWND window)
+{
+    return (::SendMessage(window, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) != 0;
+}
+
 } // namespace framework

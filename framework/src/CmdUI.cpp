@@ -1,16 +1,8 @@
 #include "framework/CmdTarget.h"
 
+#include "ChildWindows.h"
 #include "framework/Menu.h"
 #include "framework/Wnd.h"
-
-namespace {
-
-bool IsButton(const CWnd& window)
-{
-    return (window.SendMessage(WM_GETDLGCODE) & DLGC_BUTTON) != 0;
-}
-
-} // namespace
 
 void CCmdUI::Enable(BOOL on)
 {
@@ -25,12 +17,17 @@ void CCmdUI::Enable(BOOL on)
     }
     else if (m_pOther != nullptr)
     {
-        if (!on && ::GetFocus() == m_pOther->m_hWnd)
+        const HWND window = m_pOther->m_hWnd;
+        if (!on && ::GetFocus() == window)
         {
-            // Keys would reach nobody.
-            m_pOther->GetParent()->SendMessage(WM_NEXTDLGCTL);
+            // Keys would reach nobody. A parent that is no dialog may leave it where it is.
+            ::SendMessage(::GetParent(window), WM_NEXTDLGCTL, 0, 0);
+            if (::GetFocus() == window)
+            {
+                ::SetFocus(::GetAncestor(window, GA_ROOT));
+            }
         }
-        m_pOther->EnableWindow(on);
+        ::EnableWindow(window, on); // a handler of the focus may have ended the object
     }
 }
 
@@ -54,9 +51,13 @@ void CCmdUI::SetCheck(int check)
     {
         MarkItem(check != 0, 0);
     }
-    else if (m_pOther != nullptr && IsButton(*m_pOther))
+    else if (m_pOther != nullptr)
     {
-        m_pOther->SendMessage(BM_SETCHECK, WPARAM(check));
+        const HWND window = m_pOther->m_hWnd;
+        if (framework::IsPushable(window))
+        {
+            ::SendMessage(window, BM_SETCHECK, WPARAM(check), 0);
+        }
     }
 }
 
@@ -96,12 +97,14 @@ BOOL CCmdUI::DoUpdate(CCmdTarget* target, BOOL disableIfNoHandler)
     m_enableChanged = FALSE;
     const CWnd* const window = DYNAMIC_DOWNCAST(CWnd, target);
     const HWND handle = window == nullptr ? nullptr : window->m_hWnd;
+    const HWND item = m_pOther == nullptr ? nullptr : m_pOther->m_hWnd;
     if (target->OnCmdMsg(m_nID, int(CN_UPDATE_COMMAND_UI), this, nullptr))
     {
         return TRUE;
     }
-    // Who declines may have ended the one who was asked.
-    const bool gone = handle != nullptr && CWnd::FromHandlePermanent(handle) != window;
+    // Who declines may have ended the one who was asked, or the item.
+    const bool gone = (handle != nullptr && CWnd::FromHandlePermanent(handle) != window) ||
+                      (item != nullptr && !::IsWindow(item));
     if (disableIfNoHandler && !m_enableChanged && !gone)
     {
         AFX_CMDHANDLERINFO info = {};

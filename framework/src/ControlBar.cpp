@@ -56,12 +56,9 @@ void CControlBar::PostNcDestroy()
 void CControlBar::OnNcCalcSize(BOOL, NCCALCSIZE_PARAMS* params)
 {
     Default();
-    if (params != nullptr)
-    {
-        CRect client(params->rgrc[0]);
-        client.DeflateRect(m_borders);
-        params->rgrc[0] = client;
-    }
+    CRect client(params->rgrc[0]);
+    client.DeflateRect(m_borders);
+    params->rgrc[0] = client;
 }
 
 namespace {

@@ -142,6 +142,10 @@ BOOL CDialog::CreateDlgIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HIN
 
 BOOL CDialog::Create(LPCSTR templateName, CWnd* parent)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE; // what it shows next stays what it was
+    }
     m_lpszTemplateName = templateName;
     HINSTANCE module = nullptr;
     const HGLOBAL loaded = LoadTemplate(templateName, module);
@@ -155,6 +159,10 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent)
 
 BOOL CDialog::CreateIndirect(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, void* initData)
 {
+    if (m_hWnd != nullptr)
+    {
+        return FALSE;
+    }
     m_lpDialogInit = initData;
     return CreateDlgIndirect(dialogTemplate, parent, nullptr);
 }

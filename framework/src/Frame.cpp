@@ -81,14 +81,14 @@ void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL makeVisible)
 {
     const framework::StillThere here(*this); // any step may end the frame
     SendMessageToDescendants(WM_INITIALUPDATE, 0, 0, TRUE, TRUE);
-    if (here && makeVisible)
-    {
-        ActivateFrame();
-    }
     if (here && m_pViewActive == nullptr)
     {
         const HWND pane = ::GetDlgItem(m_hWnd, AFX_IDW_PANE_FIRST);
         SetActiveView(DYNAMIC_DOWNCAST(CView, FromHandlePermanent(pane)), makeVisible);
+    }
+    if (here && makeVisible)
+    {
+        ActivateFrame();
     }
 }
 
@@ -340,14 +340,14 @@ CControlBar* CFrameWnd::GetControlBar(UINT id)
     return DYNAMIC_DOWNCAST(CControlBar, FromHandlePermanent(::GetDlgItem(m_hWnd, int(id))));
 }
 
-void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL delay)
+void CFrameWnd::ShowControlBar(CControlBar* bar, BOOL show, BOOL)
 {
     const framework::StillThere here(*this);
     if (bar != nullptr)
     {
         bar->ShowWindow(show ? SW_SHOWNA : SW_HIDE);
     }
-    if (here && !delay)
+    if (here)
     {
         RecalcLayout();
     }

@@ -75,6 +75,10 @@ BOOL CWinApp::WriteProfileString(LPCSTR section, LPCSTR entry, LPCSTR value)
         return ::WritePrivateProfileString(section, entry, value, SettingsFile());
     }
     LONG failed = ERROR_SUCCESS;
+    if (section == nullptr || *section == '\0')
+    {
+        return FALSE; // the key of the application, with all its sections
+    }
     if (entry == nullptr)
     {
         failed = ::RegDeleteTree(HKEY_CURRENT_USER, key);

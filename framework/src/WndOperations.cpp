@@ -332,12 +332,6 @@ BOOL CWnd::UpdateData(BOOL saveAndValidate)
 
 namespace {
 
-// A pushable thing, and neither a frame round others nor a label.
-bool IsButton(HWND child)
-{
-    return (::SendMessage(child, WM_GETDLGCODE, 0, 0) & DLGC_BUTTON) != 0;
-}
-
 class ChildUI : public CCmdUI
 {
 public:
@@ -375,7 +369,7 @@ void CWnd::UpdateDialogControls(CCmdTarget* target, BOOL disableIfNoHandler)
         {
             AFX_CMDHANDLERINFO info = {};
             const bool own = target != this && OnCmdMsg(ui.m_nID, CN_COMMAND, nullptr, &info);
-            ui.DoUpdate(target, disableIfNoHandler && !own && IsButton(child));
+            ui.DoUpdate(target, disableIfNoHandler && !own && framework::IsPushable(child));
         }
     }
 }
