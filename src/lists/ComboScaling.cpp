@@ -50,9 +50,20 @@ bool ComboScaling::IsAtWorkIn(HWND parent)
     return false;
 }
 
-bool ComboScaling::KeepsHeight(HWND window)
+int ComboScaling::HeightOf(HWND window, double scale, int scaled)
 {
-    return ComboOf(window) != nullptr && !IsAtWorkIn(::GetParent(window));
+    CCustomDropListCombo* const combo = ComboOf(window);
+    if (combo == nullptr || IsAtWorkIn(::GetParent(window)))
+    {
+        return scaled;
+    }
+    if (scale > 1 && combo->m_heights[STD] == 0 && COnBoardUIGeneral::InOnBoardMode())
+    {
+        NoteStandard(window);
+        combo->m_fitted = scaled;
+        return scaled;
+    }
+    return combo->m_list == nullptr ? scaled : PlaceOf(window).Height();
 }
 
 ComboScaling::Heights ComboScaling::TakeHeights(HWND window)

@@ -30,9 +30,11 @@ public:
 
     // Whether a window is scaling its children.
     static bool IsAtWorkIn(HWND parent);
-    // Whether a combo that is scaled keeps its height: one that has taken that of the mode by
-    // itself, with a parent that hears of no mode and is scaled by its host.
-    static bool KeepsHeight(HWND window);
+    // The height for a window that is scaled to this one. With a parent that hears of no mode and
+    // is scaled by its host, a combo has taken the mode's height by itself and keeps it, unless it
+    // has come in an on-board mode and is scaled for that the first time, or follows no mode for
+    // want of a list.
+    static int HeightOf(HWND window, double scale, int scaled);
 
     // A window of the combos' class that has no object yet remembers its heights; this takes them.
     struct Heights

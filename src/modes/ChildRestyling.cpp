@@ -223,10 +223,7 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
         ResizeTabs(child, change->scale);
     }
     CSize size = SizeOf(target);
-    if (lists::ComboScaling::KeepsHeight(child))
-    {
-        size.cy = PlaceIn(change->parent, child).Height();
-    }
+    size.cy = lists::ComboScaling::HeightOf(child, change->scale, size.cy);
     placing.Move();
     ::SetWindowPos(child, nullptr, target.left, target.top, size.cx, size.cy, flags);
     return TRUE;

@@ -254,6 +254,24 @@ TEST_F(ChildPlacingTest, AComboHasTheHeightOfTheModeAlsoOnAWindowThatScalesIt)
     EXPECT_EQ(WindowRectOf(combo).Height(), 23);
 }
 
+TEST_F(ChildPlacingTest, AComboThatHasTakenNoHeightOfAModeIsScaled)
+{
+    const ModeScope scope(ONBOARD);
+    auto& combo = Add<CCustomDropListCombo>(CRect(10, 20, 110, 43)); // made in the mode
+    Restyle(Host(), Enlarging, ONBOARD);
+    EXPECT_EQ(WindowRectOf(combo).Height(), 39);
+    const auto changeTo = [&](APPMODE mode) {
+        COnBoardUIGeneral::SetAppMode(mode);
+        Restyle(Host(), mode == STD ? Reducing : Enlarging, mode);
+        return WindowRectOf(combo).Height();
+    };
+    EXPECT_EQ(changeTo(STD), 23);
+    EXPECT_EQ(changeTo(ONBOARD), 39);
+    combo.SetCustomComboLBox(nullptr);
+    EXPECT_EQ(changeTo(STD), 22) << "without a list it follows no mode";
+    EXPECT_EQ(changeTo(ONBOARD), 37);
+}
+
 TEST_F(ChildPlacingTest, AListBoxOfWholeRowsKeepsThemHoweverTheModeComes)
 {
     auto& list = AddList(CRect(10, 20, 160, 98), 0, 1);
