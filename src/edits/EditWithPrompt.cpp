@@ -211,6 +211,19 @@ void EditWithPrompt::GetWindowText(CString& text) const
 
 LRESULT EditWithPrompt::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    // What is told while the prompt comes or goes may end the very text that is given: a parent
+    // reads the edit into it.
+    CString given;
+    if (m_showingPrompt && lParam != 0 && (message == WM_SETTEXT || message == EM_REPLACESEL))
+    {
+        given = reinterpret_cast<const char*>(lParam);
+        lParam = reinterpret_cast<LPARAM>(given.GetString());
+        if (message == WM_SETTEXT && !given.IsEmpty() && given != m_prompt && m_promptDue)
+        {
+            m_promptDue = false; // the text comes before it
+            m_showingPrompt = 0;
+        }
+    }
     if (message != WM_DESTROY && message != WM_NCDESTROY && !PutDuePromptIn())
     {
         return 0;

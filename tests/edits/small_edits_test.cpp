@@ -175,6 +175,35 @@ TEST_F(SmallEditsTest, ThePromptOfAnEditThatWasThereIsNoTextEither)
     }
 }
 
+TEST_F(SmallEditsTest, AnEditTakenOverTakesATextBeforeItsPromptIsTold)
+{
+    const std::pair<void (*)(EditWithPrompt&, const char*), int> ways[] = {
+        {[](EditWithPrompt& edit, const char* text) { edit.SetWindowText(text); }, 1},
+        {[](EditWithPrompt& edit, const char* text) { edit.ReplaceSel(text); }, 3},
+    };
+    for (const auto& [give, changes] : ways)
+    {
+        auto& before = Add<CEdit>(CRect(20, 80, 260, 110));
+        PromptSeen taker;
+        CString value("EDDF"); // which the parent keeps up to date
+        int told = 0;
+        Host().hook = [&](ToldMessage& message) {
+            if (message.code == EN_CHANGE)
+            {
+                taker.GetWindowText(value);
+                ++told;
+            }
+        };
+        taker.SubclassWindow(before.UnsubclassWindow());
+        give(taker, value);
+        EXPECT_EQ(taker.Shown(), "EDDF");
+        EXPECT_STREQ(value, "EDDF");
+        EXPECT_EQ(told, changes);
+        Host().hook = nullptr;
+        taker.DestroyWindow();
+    }
+}
+
 TEST_F(SmallEditsTest, APromptIsReadWhereAPasswordIsNot)
 {
     auto& edit = Add<PromptSeen>(CRect(20, 20, 260, 60), ES_PASSWORD);
