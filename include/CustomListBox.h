@@ -61,7 +61,8 @@ protected:
 public:
     // @{
     // Rows of a list with LBS_HASSTRINGS that nobody else draws: the text centred in the font of
-    // the mode, on-board rows one and a half times as high as their text.
+    // the mode, on-board rows one and a half times as high as their text. Heirs that draw rows find
+    // the parent's colors in the context, also where only the focus comes or goes.
     void DrawItem(LPDRAWITEMSTRUCT draw) override;
     void MeasureItem(LPMEASUREITEMSTRUCT measure) override;
     // @}
@@ -81,7 +82,8 @@ protected:
     void DrawRowText(CDC& dc, const CRect& row, const CString& text, UINT state, int indent = 0);
 
     // Has the parent set the list's colors in the context where the platform did not: it asks for
-    // none when only the focus comes or goes. False when the list did not survive it.
+    // none when only the focus comes or goes. Before a row is drawn that the parent gives back.
+    // False when the list did not survive it.
     bool AskForColors(const DRAWITEMSTRUCT& draw);
 
     // Places the bars against the client rectangle.
@@ -184,6 +186,7 @@ protected:
     void NotifyParent(UINT code);
 
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnDestroy();

@@ -173,7 +173,10 @@ BOOL CCustomChecklistBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lPar
     switch (message)
     {
     case WM_DRAWITEM:
-        PreDrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        if (AskForColors(*reinterpret_cast<LPDRAWITEMSTRUCT>(lParam)))
+        {
+            PreDrawItem(reinterpret_cast<LPDRAWITEMSTRUCT>(lParam));
+        }
         break;
     case WM_MEASUREITEM:
         PreMeasureItem(reinterpret_cast<LPMEASUREITEMSTRUCT>(lParam));
@@ -231,7 +234,7 @@ void CCustomChecklistBox::PreDrawItem(LPDRAWITEMSTRUCT draw)
     CDC* const dc = CDC::FromHandle(draw->hDC);
     const CRect row(draw->rcItem);
     // Some platforms ask for every row in the window when one of them is due.
-    if (dc == nullptr || !dc->RectVisible(row) || !AskForColors(*draw))
+    if (dc == nullptr || !dc->RectVisible(row))
     {
         return;
     }

@@ -115,10 +115,21 @@ void CCustomListBox::NotifyParent(UINT code)
 
 // Drawing and measuring -------------------------------------------------------------------------
 
+BOOL CCustomListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    const auto* const draw =
+        message == WM_DRAWITEM ? reinterpret_cast<const DRAWITEMSTRUCT*>(lParam) : nullptr;
+    if (draw != nullptr && !AskForColors(*draw))
+    {
+        return TRUE;
+    }
+    return CListBox::OnChildNotify(message, wParam, lParam, result);
+}
+
 void CCustomListBox::DrawItem(LPDRAWITEMSTRUCT draw)
 {
     CDC* const dc = draw == nullptr ? nullptr : CDC::FromHandle(draw->hDC);
-    if (dc == nullptr || !HasText() || !AskForColors(*draw))
+    if (dc == nullptr || !HasText())
     {
         return;
     }

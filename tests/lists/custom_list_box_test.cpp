@@ -112,7 +112,16 @@ TEST_F(ListBoxTest, RowsThatTheFocusComesToAndLeavesHaveTheColorsOfTheirParent)
         if (told.message == WM_CTLCOLORLISTBOX)
         {
             ::SetBkColor(HDC(told.wParam), RGB(128, 128, 128));
+            ::SetTextColor(HDC(told.wParam), RGB(0, 0, 128));
             told.answer = LRESULT(::GetStockObject(GRAY_BRUSH));
+        }
+    };
+    class RedRows : public ListBoxForTests
+    {
+        void DrawItem(LPDRAWITEMSTRUCT draw) override
+        {
+            ::SetTextColor(draw->hDC, RGB(255, 0, 0));
+            CCustomListBox::DrawItem(draw);
         }
     };
     constexpr DWORD style = ListStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | LBS_MULTIPLESEL;
@@ -128,6 +137,7 @@ TEST_F(ListBoxTest, RowsThatTheFocusComesToAndLeavesHaveTheColorsOfTheirParent)
         SCOPED_TRACE(APPMODE_NAMES[mode]);
         const ModeScope scope(mode);
         expectColors(AddList(3, style));
+        expectColors(AddList<RedRows>(3, style));
         expectColors(AddList<BarsSeen<CCustomChecklistBox>>(3, style));
     }
 }
