@@ -7,6 +7,7 @@
 #include "scroll/ScrollCodes.h"
 
 #include <algorithm>
+#include <climits>
 
 namespace trees {
 
@@ -17,21 +18,31 @@ CPoint PointIn(LPARAM lParam)
     return CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
 }
 
-// Whether the rows of a tree may be less wide after a message.
-bool MayNarrow(UINT message, LPARAM lParam)
+// The item that a message gives a text, or nullptr.
+HTREEITEM GivenText(UINT message, LPARAM lParam)
+{
+    const auto* const given = reinterpret_cast<const TVITEM*>(lParam);
+    return (message == TVM_SETITEMA || message == TVM_SETITEMW) && given != nullptr &&
+                   (given->mask & TVIF_TEXT) != 0
+               ? given->hItem
+               : nullptr;
+}
+
+// Whether the rows of a tree may be less wide after a message, other than by a text that it gives.
+bool MayNarrow(UINT message, WPARAM wParam)
 {
     switch (message)
     {
-    case TVM_SETITEMA:
-    case TVM_SETITEMW:
-        return lParam != 0 && (reinterpret_cast<const TVITEM*>(lParam)->mask & TVIF_TEXT) != 0;
     case TVM_DELETEITEM:
     case TVM_EXPAND:
     case TVM_SETIMAGELIST:
     case TVM_SETINDENT:
     case WM_SETFONT:
-    case WM_COMMAND: // of the edit of a label
         return true;
+    case WM_COMMAND:
+        return HIWORD(wParam) == EN_KILLFOCUS; // the edit of a label ends
+    case WM_PARENTNOTIFY:
+        return LOWORD(wParam) == WM_DESTROY; // and is gone, of which alone some platforms tell
     default:
         return false;
     }
@@ -120,6 +131,7 @@ void TreeBars::Reset()
 {
     m_stripping = false;
     m_shrunk = true;
+    m_widest = nullptr;
     m_held = nullptr;
     m_part = CFauxScrollBar::PRESSED_NONE;
     for (Bar* each : {&m_vertical, &m_horizontal})
@@ -142,6 +154,21 @@ int TreeBars::Extent() const
         return seen ? rect : CRect(0, 0, 0, 0);
     };
     return int(row(TVGN_LASTVISIBLE).bottom) - int(row(TVGN_ROOT).top);
+}
+
+// How far an item's text lies from the right end of what is scrolled sideways: none or less of the
+// widest one's, and some of one that has no place.
+int TreeBars::RoomBeside(HTREEITEM item) const
+{
+    const WindowAlive alive(Window()); // its text may be asked for
+    CRect text(0, 0, 0, 0);
+    ::CopyMemory(&text, &item, sizeof(item)); // which the rectangle takes the place of
+    if (!m_owner.Platform(TVM_GETITEMRECT, TRUE, LPARAM(&text)) || !alive)
+    {
+        return INT_MAX;
+    }
+    const scroll::PlatformScroll across(Window(), SB_HORZ);
+    return across.last + across.page - across.position - int(text.right);
 }
 
 // Some platforms leave the range of a bar as it was once all is in sight. It is taken away, and set
@@ -298,6 +325,11 @@ void TreeBars::DrawBorder()
 bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
     result = 0;
+    if (const HTREEITEM item = GivenText(message, lParam);
+        item != nullptr && m_horizontal.shown && RoomBeside(item) <= 0)
+    {
+        m_widest = item;
+    }
     switch (message)
     {
     case WM_NCCALCSIZE:
@@ -354,7 +386,18 @@ bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
 
 void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
-    m_shrunk = m_shrunk || MayNarrow(message, lParam);
+    m_shrunk = m_shrunk || MayNarrow(message, wParam);
+    if (const HTREEITEM item = GivenText(message, lParam); item != nullptr && item == m_widest)
+    {
+        m_widest = nullptr;
+        const WindowAlive alive(Window());
+        const bool narrower = RoomBeside(item) > 0;
+        if (!alive)
+        {
+            return;
+        }
+        m_shrunk = m_shrunk || narrower;
+    }
     if (message == TVM_INSERTITEMA || message == TVM_INSERTITEMW || message == TVM_DELETEITEM)
     {
         const CRect any(0, 0, 1, 1); // the item may be out of sight, and then nothing is painted

@@ -59,6 +59,7 @@ private:
     bool m_stripping = false; // the platform's styles are being taken away
     int m_extent = 0;         // of all rows that are not in closed branches, pixels
     bool m_shrunk = true;     // what is shown may need less room than it did
+    HTREEITEM m_widest = nullptr; // that is being given another text
     scroll::FrameStyles m_frame;
     Bar* m_held = nullptr; // the bar that is pressed
     CFauxScrollBar::ePRESSED m_part = CFauxScrollBar::PRESSED_NONE;
@@ -67,6 +68,7 @@ private:
     CWnd& Window() const { return m_owner.Window(); }
     DWORD Strip();
     int Extent() const;
+    int RoomBeside(HTREEITEM item) const;
     void CountAnew();
     bool MirrorOne(Bar& bar);
     void Place();

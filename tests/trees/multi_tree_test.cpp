@@ -318,6 +318,9 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
 TEST_F(MultiTreeTest, BarsGoWithWhatTheyAreFor)
 {
     const std::string wide(100, 'w');
+    Host().hook = [](ToldMessage& told) {
+        told.answer = told.code == UINT(TVN_ENDLABELEDIT) ? TRUE : told.answer;
+    };
     const auto bands = [](const CWnd& tree) { // across and down, without the borders
         const CSize space = WindowRectOf(tree).Size() - ClientRectOf(tree).Size();
         return std::pair(space.cx >= 52, space.cy >= 52);
@@ -336,7 +339,7 @@ TEST_F(MultiTreeTest, BarsGoWithWhatTheyAreFor)
         for (const bool before : {false, true}) // in the standard mode
         {
             SCOPED_TRACE(way + std::string(before ? ", before" : ""));
-            auto& tree = Add<MultiTree>(CRect(20, 20, 320, 220), TreeStyle);
+            auto& tree = Add<MultiTree>(CRect(20, 20, 320, 220), TreeStyle | TVS_EDITLABELS);
             const HTREEITEM root = AddItems(tree, "r")[0];
             for (int item = 0; item < 20; ++item)
             {
@@ -372,6 +375,20 @@ TEST_F(MultiTreeTest, BarsGoWithWhatTheyAreFor)
             PumpAll();
             EXPECT_EQ(bands(tree), Bands(true, false));
             EXPECT_EQ(TextRectOf(tree, items[0]).left, left);
+            tree.SetItemText(items[0], wide.c_str());
+            PumpAll();
+            EXPECT_EQ(bands(tree), Bands(true, true));
+            const CPoint mark(2, ClientRectOf(tree).bottom - 2);
+            CClientDC(&tree).SetPixel(mark, RGB(1, 2, 3));
+            tree.SetItemText(items[1], "another");
+            PumpAll();
+            EXPECT_EQ(CClientDC(&tree).GetPixel(mark), RGB(1, 2, 3)) << "the row alone";
+            tree.SetFocus();
+            CEdit* const edit = before ? tree.EditLabel(items[0]) : nullptr;
+            before ? edit->SetWindowText("short") : void(tree.SetItemText(items[0], "short"));
+            tree.SendMessage(TVM_ENDEDITLABELNOW);
+            PumpAll();
+            EXPECT_EQ(bands(tree), Bands(true, false));
             tree.DeleteAllItems();
             PumpAll();
             SetMode(STD, tree);
