@@ -419,7 +419,7 @@ void CCustomListCtrl::OnLvnInsertitem(NMHDR*, LRESULT* result)
     {
         DrawScrollBars();
     }
-    if (alive && GetItemCount() == 1)
+    if (alive && Ask(LVM_GETITEMCOUNT) == 1)
     {
         HomeSideways();
     }

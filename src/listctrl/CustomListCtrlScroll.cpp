@@ -314,7 +314,7 @@ LRESULT CCustomListCtrl::OnEditLabel(WPARAM wParam, LPARAM)
 {
     const WindowAlive alive(*this);
     const int row = int(wParam);
-    if (InOnBoard() && row >= 0 && row < GetItemCount())
+    if (InOnBoard() && row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)))
     {
         BringIntoSight(row);
         CRect heading;
