@@ -316,10 +316,12 @@ LRESULT CCustomListCtrl::OnEditLabel(WPARAM wParam, LPARAM)
     const int row = int(wParam);
     if (InOnBoard() && row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)))
     {
-        BringIntoSight(row);
         CRect heading;
+        CRect client;
+        GetClientRect(&client);
+        BringIntoSight(row);
         if (alive && m_scrollUnit.cx > 0 && HeaderItemRect(0, heading) &&
-            heading.left + m_drawOffset.x < 0)
+            (heading.left + m_drawOffset.x < 0 || heading.left + m_drawOffset.x >= client.right))
         {
             MoveTo(SB_HORZ, int(heading.left / m_scrollUnit.cx));
         }

@@ -77,6 +77,13 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
     }
     list.PerformVScroll(SB_TOP);
     list.PerformHScroll(SB_LEFT);
+    int order[] = {1, 2, 3, 4, 5, 6, 7, 0};
+    list.SetColumnOrderArray(8, order);
+    ASSERT_NE(list.EditLabel(3), nullptr);
+    EXPECT_TRUE(ClientRectOf(list).PtInRect(PlaceIn(list, *list.GetEditControl()).TopLeft()));
+    std::sort(std::begin(order), std::end(order));
+    list.SetColumnOrderArray(8, order);
+    list.PerformHScroll(SB_LEFT);
     for (const APPMODE mode : {STD, ONBOARD}) // it goes with its row, or ends out of sight
     {
         SetMode(mode, list);
