@@ -16,6 +16,19 @@
 
 namespace {
 
+// The owner of rows may fetch them all at once.
+void TellOfRows(HWND list, int first, int end)
+{
+    if (first < end)
+    {
+        NMLVCACHEHINT told = {};
+        told.hdr.code = UINT(LVN_ODCACHEHINT);
+        told.iFrom = first;
+        told.iTo = end - 1;
+        TellNotify(list, told.hdr);
+    }
+}
+
 // A cell's text is drawn like this: it is meant that a row's text may have several lines.
 constexpr UINT CellText = DT_END_ELLIPSIS | DT_VCENTER;
 
@@ -39,6 +52,24 @@ void CCustomListCtrl::OnPaint()
     m_bars->EndPaint();
     CRect client;
     GetClientRect(&client);
+    const int items = int(Ask(LVM_GETITEMCOUNT));
+    CRect first;
+    if ((GetStyle() & LVS_OWNERDATA) != 0 && FirstRowRect(first) && first.Height() > 0)
+    {
+        // Before anything is taken from the list: its owner may change rows, places and mode.
+        const auto offset = int(m_drawOffset.y);
+        TellOfRows(GetSafeHwnd(), listctrl::FirstDrawnRow(offset, first.Height()),
+                   listctrl::EndOfDrawnRows(offset, first.Height(), int(client.bottom), items));
+        if (!alive || !InOnBoard())
+        {
+            return;
+        }
+        if (offset != m_drawOffset.y)
+        {
+            Invalidate(FALSE); // also what was to be painted and has been moved
+        }
+        GetClientRect(&client);
+    }
     const int top = HeaderBottom();
     dc.ExcludeClipRect(0, 0, client.right, top); // the header paints itself
     CRect area(dc.m_ps.rcPaint);
@@ -142,19 +173,6 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
     RowSpan rows = {listctrl::FirstDrawnRow(int(m_drawOffset.y), height),
                     listctrl::EndOfDrawnRows(int(m_drawOffset.y), height, int(rect.bottom), items)};
     const WindowAlive alive(*this);
-    if ((GetStyle() & LVS_OWNERDATA) != 0 && rows.first < rows.end)
-    {
-        // Their owner may fetch them all at once.
-        NMLVCACHEHINT told = {};
-        told.hdr.code = UINT(LVN_ODCACHEHINT);
-        told.iFrom = rows.first;
-        told.iTo = rows.end - 1;
-        TellNotify(GetSafeHwnd(), told.hdr);
-        if (!alive)
-        {
-            return;
-        }
-    }
     while (rows.first < rows.end && topOf(rows.first) + height <= clip.top)
     {
         ++rows.first;

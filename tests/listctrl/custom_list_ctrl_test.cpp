@@ -243,11 +243,16 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     list.AddColumns(2);
     std::set<int> asked;
     std::pair<int, int> hint; // the rows that are about to be asked for
+    int count = 1'000'000;    // as the owner has it by then
     Host().hook = [&](ToldMessage& told) {
         if (told.code == UINT(LVN_ODCACHEHINT))
         {
             const auto& rows = *reinterpret_cast<const NMLVCACHEHINT*>(told.lParam);
             hint = {rows.iFrom, rows.iTo};
+            if (list.GetItemCount() > count)
+            {
+                list.SetItemCountEx(count, LVSICF_NOINVALIDATEALL);
+            }
         }
         if (told.code == UINT(LVN_GETDISPINFOA))
         {
@@ -272,6 +277,14 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     EXPECT_TRUE(asked.count(999'999));
     EXPECT_EQ(hint, std::pair(list.TopRow(), 999'999));
     EXPECT_GT(WindowPixels(list).Count(palette::HighlightText), 5);
+    for (const int fewer : {5'000, 3})
+    {
+        count = fewer;
+        Repaint(list);
+        EXPECT_TRUE(asked.count(count - 1)) << count;
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << count;
+        list.ExpectInStep("fewer");
+    }
     // Its owner may end the list while it is painted.
     Host().hook = [&](ToldMessage& told) {
         if (told.code == UINT(LVN_GETDISPINFOA))
