@@ -188,6 +188,7 @@ void CCustomListCtrl::ForgetWindow()
     m_activating = false;
     m_labelDue = false;
     m_bars->filling.BeginAfresh();
+    m_bars->themeFontDue = false;
     m_fittedColumn = -1;
     m_columnWidths.clear();
     m_view.reset();

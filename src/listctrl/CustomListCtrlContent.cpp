@@ -254,7 +254,8 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
     {
         TakeHeader();
     }
-    if (alive && message == WM_SETFONT && m_header.m_created && !COnBoardUIGeneral::InOnBoardMode())
+    if (alive && message == WM_SETFONT && !COnBoardUIGeneral::InOnBoardMode() &&
+        std::exchange(m_bars->themeFontDue, false) && m_header.m_created)
     {
         m_header.TakeThemeFont(); // the platform's list has handed its own on
     }

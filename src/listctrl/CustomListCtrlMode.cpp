@@ -16,6 +16,7 @@ void CCustomListCtrl::EnterOnBoard()
         return;
     }
     m_wheel = 0;
+    m_bars->themeFontDue = true;
     m_bars->SetPlacingDue(true);
     m_measured = Measured();
     TakeHeader();

@@ -27,6 +27,8 @@ public:
 
     // What the mode before had in sight is still to be brought back.
     bool viewDue = false;
+    // The next font of the standard mode is that of a restyling, which the headings do not share.
+    bool themeFontDue = false;
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override
