@@ -151,6 +151,11 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
         m_oldCursor = ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
         return;
     }
+    if (refused && rect.Width() > 0)
+    {
+        m_pressedItem = -1;
+        return; // nor is it a press on a heading, only where a hidden column has its divider
+    }
     m_pressedItem = ItemAt(CPoint(point.x - m_offset.x, point.y));
     // The platform takes no capture for headings that cannot be clicked.
     m_farPress =

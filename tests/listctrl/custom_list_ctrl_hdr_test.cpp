@@ -238,6 +238,12 @@ TEST_F(ListCtrlTest, AColumnThatItsHostHasFixedIsNotDraggedAndAHiddenOneStaysSo)
             << "on the next one";
         Drag(from - CPoint(4, 0), from + CPoint(20, 0));
         EXPECT_EQ(list.GetColumnWidth(0), 0);
+        Host().Forget();
+        Click(list.DividerPoint(1, 5));
+        EXPECT_THAT(Host().CodesFrom(FirstId),
+                    testing::Contains(UINT(LVN_COLUMNCLICK))
+                        .Times(list.m_header.GetStyle() & HDS_NOSIZING ? 1 : 0))
+            << "only where there is nothing to drag";
         MoveTo(from);
         EXPECT_EQ(::GetCursor() == ::LoadCursor(nullptr, IDC_SIZEWE), list.refuses);
         Remove(list);
