@@ -128,5 +128,6 @@ private:
     void ApplyDrag(int column, int x);
     void ApplyMinimum(int item);
     void EndTracking();
+    void EndPlatformDrag();
     void LeaveWindow();
 };

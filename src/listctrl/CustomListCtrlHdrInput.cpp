@@ -3,6 +3,7 @@
 #include "CustomListCtrl.h"
 #include "CustomListCtrlHdr.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
@@ -182,6 +183,11 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
         Default();
         return;
     }
+    EndPlatformDrag();
+    if (!alive)
+    {
+        return;
+    }
     if (!m_tracking)
     {
         DefaultAt(WM_MOUSEMOVE, flags, point);
@@ -230,6 +236,14 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
+    if (onBoard)
+    {
+        EndPlatformDrag();
+        if (!alive)
+        {
+            return;
+        }
+    }
     const int pressed = m_pressedItem;
     if (m_tracking)
     {
@@ -307,6 +321,31 @@ void CCustomListCtrlHdr::EndTracking()
     if (cursor != nullptr)
     {
         ::SetCursor(cursor);
+    }
+}
+
+// A drag that the platform has begun ends as one of ours does when the mode changes: the width is
+// that of the press. The platform would go on with the points of the header as it is drawn.
+void CCustomListCtrlHdr::EndPlatformDrag()
+{
+    if (m_hWnd == nullptr || m_tracking || m_pressedItem == -1 || !m_dragged ||
+        ::GetCapture() != m_hWnd)
+    {
+        return;
+    }
+    const WindowAlive alive(*this);
+    if (CCustomListCtrl* const list = List(); list != nullptr)
+    {
+        list->m_bars->Follow(); // unless it has: it comes here before it scales the column
+    }
+    if (!alive || !std::exchange(m_dragged, false))
+    {
+        return;
+    }
+    DefWindowProc(WM_LBUTTONUP, 0, MAKELPARAM(m_pressPoint.x, m_pressPoint.y));
+    if (alive && ::GetCapture() == m_hWnd)
+    {
+        ::ReleaseCapture();
     }
 }
 

@@ -10,6 +10,11 @@
 void CCustomListCtrl::EnterOnBoard()
 {
     const WindowAlive alive(*this);
+    m_header.EndPlatformDrag();
+    if (!alive)
+    {
+        return;
+    }
     KeepView(int(Ask(LVM_GETTOPINDEX)), int(Ask(LVM_GETCOUNTPERPAGE)));
     if (!alive)
     {

@@ -337,6 +337,20 @@ TEST_F(ListCtrlOnBoard, ADragThatIsCutOffEndsWithoutAWidth)
     }
 }
 
+TEST_F(ListCtrlTest, ADragOfThePlatformsEndsWithoutAWidthWhenTheModeLeadsOnBoard)
+{
+    auto& list = AddList(10);
+    const CPoint from = list.DividerPoint(0);
+    Press(from);
+    DragTo(from + CPoint(30, 0));
+    const ModeScope scope(ONBOARD);
+    DragTo(from + CPoint(20, 0));
+    Release();
+    Repaint(list);
+    EXPECT_EQ(::GetCapture(), nullptr);
+    EXPECT_EQ(list.GetColumnWidth(0), 102);
+}
+
 TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
 {
     // The platform's pointer messages reach 32767 pixels; each column is 1700 wide on-board.
