@@ -342,6 +342,22 @@ void TreeLook::PaintBand(CDC& dc, const CRect& band) const
     }
 }
 
+// The platform makes the pictures of the check boxes when it paints for the first time, and takes
+// all checks away then: where it does not paint itself, that comes at our first paint.
+void TreeLook::MakeCheckBoxes()
+{
+    if ((m_owner.Window().GetStyle() & TVS_CHECKBOXES) == 0 ||
+        m_items.Ask(TVM_GETIMAGELIST, TVSIL_STATE) != 0)
+    {
+        return;
+    }
+    CDC nowhere;
+    if (nowhere.CreateCompatibleDC(nullptr))
+    {
+        m_items.Ask(WM_PAINT, WPARAM(nowhere.GetSafeHdc()));
+    }
+}
+
 void TreeLook::Paint(const CRect* band)
 {
     const WindowAlive alive(m_owner.Window());
@@ -357,7 +373,11 @@ void TreeLook::Paint(const CRect* band)
     }
     if (m_onBoard)
     {
-        m_bars.Mirror();
+        MakeCheckBoxes();
+        if (alive)
+        {
+            m_bars.Mirror();
+        }
         if (!alive)
         {
             return;

@@ -72,6 +72,7 @@ private:
     void MakeRowsForFinger();
 
     bool Read(HTREEITEM item, Row& row) const;
+    void MakeCheckBoxes();
     void PaintRows(CDC& dc, const CRect& area);
     void PaintRow(CDC& dc, const Row& row);
     void PaintMark(CDC& dc, const Row& row, int right);

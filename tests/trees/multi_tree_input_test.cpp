@@ -272,6 +272,20 @@ TEST_F(MultiTreeInputTest, APressOnACheckIsThePlatforms)
     EXPECT_EQ(SelectedTexts(tree), "b") << "and nothing selected";
 }
 
+TEST_F(MultiTreeInputTest, ATreeThatIsMadeOnBoardHasItsChecksAndKeepsThem)
+{
+    SetMode(ONBOARD, Host());
+    auto& tree = Add<TreeForTests>(CRect(20, 20, 320, 420), TreeStyle | TVS_CHECKBOXES);
+    Fill(tree);
+    PressScript(PartOf(tree, e, TVHT_ONITEMSTATEICON) + CSize(4, 0)).Release();
+    for (const APPMODE mode : {ONBOARD, STD})
+    {
+        SetMode(mode, tree);
+        EXPECT_TRUE(tree.GetCheck(e)) << mode;
+        EXPECT_FALSE(tree.GetCheck(d)) << mode;
+    }
+}
+
 TEST_F(MultiTreeInputTest, ABandSelectsWhatItMeetsAndLeavesNoTrace)
 {
     auto& tree = AddTree();
