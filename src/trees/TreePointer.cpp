@@ -6,7 +6,6 @@
 #include "modes/WindowAlive.h"
 #include "trees/TreeLook.h"
 
-#include <algorithm>
 #include <cstdlib>
 
 namespace trees {
@@ -202,31 +201,6 @@ TreeSelection::LoopEnd TreeSelection::WaitForMove(MSG& last)
     }
     EndLoop();
     return alive ? end : LoopEnd::Lost;
-}
-
-// Takes the keyboard focus and leaves the selection as it is. False when the window went by that.
-bool TreeSelection::TakeKeyboard()
-{
-    const WindowAlive alive(Window());
-    const bool hadCaret = m_items.Caret() != nullptr;
-    const WatchedItems before(m_items, hadCaret ? std::vector<HTREEITEM>() : m_items.Selected());
-    ::SetFocus(Handle());
-    if (!alive)
-    {
-        return false;
-    }
-    // Without a caret the platform gives its own to the first item, selects that, and tells so.
-    const WatchedItem caret(m_items, m_items.Caret());
-    if (!hadCaret && caret.Get() != nullptr &&
-        std::find(before.All().begin(), before.All().end(), caret.Get()) == before.All().end())
-    {
-        // The parent was told that it is selected, and may have seen to it by itself.
-        if (m_items.IsSelected(caret.Get()) && Put(caret, false))
-        {
-            Announce(TVN_SELCHANGED, caret.Get(), false);
-        }
-    }
-    return bool(alive);
 }
 
 // False when the tree ended with it: whoever had the capture is told that it is taken.

@@ -364,10 +364,39 @@ void TreeSelection::InvalidateSelectedInSight()
     }
 }
 
+// The keyboard focus ----------------------------------------------------------------------------
+
+// Without a caret the platform gives its own to the first item in sight with the focus, selects
+// that, and tells so. Here the caret comes alone; as a rule only where something is selected.
+template <class Take> void TreeSelection::TakeWithoutSelecting(const Take& take, bool always)
+{
+    const WindowAlive alive(Window());
+    const WatchedItem first(
+        m_items, m_items.Caret() != nullptr ? nullptr : m_items.Next(nullptr, TVGN_FIRSTVISIBLE));
+    const bool keeps = m_multi && first.Get() != nullptr && !m_items.IsSelected(first.Get()) &&
+                       (always || m_items.SelectedCount() > 0);
+    take();
+    // The parent was told that it is selected, and may have seen to the selection by itself.
+    if (keeps && alive && m_multi && first.Get() != nullptr && first.Get() == m_items.Caret() &&
+        m_items.IsSelected(first.Get()) && (always || m_items.SelectedCount() > 1) &&
+        Put(first, false))
+    {
+        Announce(TVN_SELCHANGED, first.Get(), false);
+    }
+}
+
+// Takes the keyboard focus and leaves the selection as it is. False when the window went by that.
+bool TreeSelection::TakeKeyboard()
+{
+    const WindowAlive alive(Window());
+    TakeWithoutSelecting([this] { ::SetFocus(Handle()); }, true);
+    return bool(alive);
+}
+
 void TreeSelection::OnFocusChanged()
 {
     InvalidateSelectedInSight();
-    m_owner.DefaultOfCurrent();
+    TakeWithoutSelecting([this] { m_owner.DefaultOfCurrent(); }, false);
 }
 
 CImageList* TreeSelection::CreateDragImage()

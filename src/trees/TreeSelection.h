@@ -135,6 +135,7 @@ private:
     LoopEnd NextOfPress(MSG& message);
     LoopEnd WaitForMove(MSG& last);
     void Reset();
+    template <class Take> void TakeWithoutSelecting(const Take& take, bool always);
     bool TakeKeyboard();
     bool BeginLoop();
     void EndLoop();

@@ -126,6 +126,17 @@ TEST_F(MultiTreeInputTest, TheKeyboardFocusSelectsNothing)
         EXPECT_EQ(tree.IsSelected(a), selected != nullptr) << "what was selected stays so";
         EXPECT_LE(tree.GetSelectedCount(), 1U);
     }
+    // It may come by other ways than a press.
+    for (const auto& [selected, shown] : {std::pair(d, "d:a"), {HTREEITEM(nullptr), "a:a"}})
+    {
+        rest(selected);
+        tree.SetFocus();
+        EXPECT_EQ(Shown(tree), shown) << "with nothing selected it is as in a plain tree";
+    }
+    rest(d);
+    const OnceTold once(Host(), UINT(NM_SETFOCUS), [&] { tree.SelectItem(a); });
+    tree.SetFocus();
+    EXPECT_EQ(Shown(tree), "a:a") << "what the parent selects then stays so";
 }
 
 TEST_F(MultiTreeInputTest, APressIsADragOnceItMovesFarEnough)
