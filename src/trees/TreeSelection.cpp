@@ -425,8 +425,20 @@ void TreeSelection::LeaveBranch(HTREEITEM item)
 {
     const WindowAlive alive(Window());
     const WatchedItem held(m_items, item);
-    if (m_multi && SelectChildren(item, false, true) && alive && held.Get() != nullptr &&
-        !m_items.IsSelected(held.Get()))
+    bool leaves = m_multi && SelectChildren(item, false, true);
+    if (!alive || held.Get() == nullptr || m_items.IsSelected(held.Get()))
+    {
+        return;
+    }
+    if (const HTREEITEM below = m_items.Caret(); m_multi && !leaves && below != item &&
+                                                 !m_items.IsSelected(below) &&
+                                                 m_items.IsWithin(below, item))
+    {
+        // The platform would select the branch with the caret, and tell nobody.
+        SetItemState(item, Focus, Focus, true);
+        leaves = alive && held.Get() != nullptr && m_items.Caret() == below; // refused
+    }
+    if (leaves && m_multi)
     {
         const WatchedItem caret(m_items, m_items.Caret());
         const bool elsewhere =

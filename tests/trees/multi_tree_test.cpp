@@ -238,6 +238,7 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
         {a, b, TVIS_SELECTED, TVE_TOGGLE, "a:a"}, // a selected branch keeps the caret
         {b, e, Both, TVE_COLLAPSE, "e:-"},
         {b, e, TVIS_SELECTED, TVE_EXPAND, "be:b"},
+        {e, b, TVIS_FOCUSED, TVE_COLLAPSE, "e:a"},      // a caret alone goes to the branch
         {b, b, TVIS_SELECTED, TVE_COLLAPSERESET, ":-"}, // alone it closes as well
     };
     for (const auto& [first, second, state, code, shown] : cases)
@@ -249,6 +250,15 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
         EXPECT_EQ(Shown(tree), shown) << code;
         EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), SelectedTexts(tree)) << code;
     }
+    const HTREEITEM below = AddItems(tree, "x", a)[0];
+    tree.Expand(a, TVE_EXPAND);
+    tree.SelectItem(e);
+    tree.FocusItem(below);
+    Host().hook = [this](ToldMessage& told) {
+        told.answer = told.code == UINT(TVN_SELCHANGING) && ItemOf(told) == a;
+    };
+    tree.Expand(a, TVE_COLLAPSE);
+    EXPECT_EQ(Shown(tree), "e:-") << "a branch that is refused has neither";
 }
 
 TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
