@@ -304,14 +304,9 @@ void MultiTreeView::OnLButtonUp(UINT flags, CPoint point)
     {
         return;
     }
-    if (m_dragImage == nullptr)
-    {
-        ForgetDrag(); // nothing was there to be shown, and nobody has seen a drag
-        return;
-    }
     if (!IsDragShown())
     {
-        CancelDrag(); // the item it began with is gone
+        CancelDrag(); // without a picture there is no target, and without its item nothing to drop
         return;
     }
     // The target may do anything, and take its time: nothing of the drag goes on meanwhile. It gets

@@ -18,6 +18,10 @@ public:
     using MultiTreeView::m_payload;
 
     void GetSelectedItems(HTREEITEM item, KArray& payload) override { payload.Add(item); }
+    CImageList* CreateDragImage() override
+    {
+        return pictured ? MultiTreeView::CreateDragImage() : nullptr;
+    }
     void DragEnded(HWND accepted) override
     {
         ended.push_back(accepted);
@@ -25,6 +29,7 @@ public:
     }
 
     bool accepts = false;
+    bool pictured = true;
     std::function<void()> onDrop = [] {};
     std::vector<HWND> ended;
     int left = 0;                      // in the payload when the drag had ended
@@ -227,6 +232,9 @@ TEST_F(MultiTreeViewTest, IsCancelledByWhateverInterruptsIt)
         EXPECT_THAT(Ended(), ElementsAre(nullptr));
         EXPECT_THAT(m_target->received, IsEmpty());
     }
+    m_source->pictured = false;
+    Begun().Release();
+    EXPECT_THAT(Ended(), ElementsAre(nullptr)) << "without a picture, too";
 }
 
 TEST_F(MultiTreeViewTest, SurvivesWhatEndsDuringADrag)
