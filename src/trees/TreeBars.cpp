@@ -28,8 +28,8 @@ HTREEITEM GivenText(UINT message, LPARAM lParam)
                : nullptr;
 }
 
-// Whether the rows of a tree may be less wide after a message, other than by a text that it gives.
-bool MayNarrow(UINT message, WPARAM wParam)
+// Whether the rows of a tree may be less wide after a message, other than by another text.
+bool MayNarrow(UINT message)
 {
     switch (message)
     {
@@ -39,13 +39,16 @@ bool MayNarrow(UINT message, WPARAM wParam)
     case TVM_SETINDENT:
     case WM_SETFONT:
         return true;
-    case WM_COMMAND:
-        return HIWORD(wParam) == EN_KILLFOCUS; // the edit of a label ends
-    case WM_PARENTNOTIFY:
-        return LOWORD(wParam) == WM_DESTROY; // and is gone, of which alone some platforms tell
     default:
         return false;
     }
+}
+
+// Whether the edit of a label ends, or is gone, of which alone some platforms tell.
+bool EndsLabelEdit(UINT message, WPARAM wParam)
+{
+    return (message == WM_COMMAND && HIWORD(wParam) == EN_KILLFOCUS) ||
+           (message == WM_PARENTNOTIFY && LOWORD(wParam) == WM_DESTROY);
 }
 
 // As if nothing could be scrolled.
@@ -131,6 +134,7 @@ void TreeBars::Reset()
 {
     m_stripping = false;
     m_shrunk = true;
+    m_edited = false;
     m_widest = nullptr;
     m_held = nullptr;
     m_part = CFauxScrollBar::PRESSED_NONE;
@@ -177,6 +181,7 @@ void TreeBars::CountAnew()
 {
     const WindowAlive alive(Window());
     m_shrunk = false;
+    m_edited = false;
     CRect client;
     Window().GetClientRect(&client);
     const auto count = [&](int width) {
@@ -238,7 +243,7 @@ void TreeBars::Mirror()
     const int extent = Extent();
     m_shrunk = m_shrunk || extent < m_extent;
     m_extent = extent;
-    if (m_shrunk && (m_vertical.shown || m_horizontal.shown))
+    if (m_edited || (m_shrunk && (m_vertical.shown || m_horizontal.shown)))
     {
         CountAnew();
     }
@@ -386,7 +391,8 @@ bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
 
 void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
-    m_shrunk = m_shrunk || MayNarrow(message, wParam);
+    m_shrunk = m_shrunk || MayNarrow(message);
+    m_edited = m_edited || EndsLabelEdit(message, wParam);
     if (const HTREEITEM item = GivenText(message, lParam); item != nullptr && item == m_widest)
     {
         m_widest = nullptr;

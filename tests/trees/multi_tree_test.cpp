@@ -400,6 +400,14 @@ TEST_F(MultiTreeTest, BarsGoWithWhatTheyAreFor)
             PumpAll();
             EXPECT_EQ(bands(tree), Bands(true, false));
             tree.DeleteAllItems();
+            const HTREEITEM only = AddItems(tree, "a")[0];
+            PumpAll();
+            EXPECT_EQ(bands(tree), Bands(false, false));
+            tree.EditLabel(only)->SetWindowText(wide.c_str());
+            tree.SendMessage(TVM_ENDEDITLABELNOW);
+            PumpAll();
+            EXPECT_EQ(bands(tree), Bands(false, true));
+            tree.DeleteAllItems();
             PumpAll();
             SetMode(STD, tree);
             EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
