@@ -452,6 +452,9 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     case WM_HSCROLL:
     case WM_MOUSEWHEEL:
     case WM_KEYDOWN:
+    case TVM_ENSUREVISIBLE: // which paints before it has told its bar of a step sideways
+    case TVM_EDITLABELA:
+    case TVM_EDITLABELW:
         Mirror();
         break;
     default:

@@ -459,6 +459,12 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
         Drag(onBar(52), onBar(5));
         EXPECT_EQ(top(), m_items[0]);
         EXPECT_EQ(tree.GetSelectedCount(), 0U);
+        // The thumb also goes along where the program scrolls.
+        tree.SetItemText(m_items[0], std::string(60, 'a').c_str());
+        PumpAll();
+        tree.EnsureVisible(m_items[0]);
+        EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0);
+        EXPECT_TRUE(ShowsWhatAPaintWould(tree));
     }
     Repaint(tree);
     EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), DWORD(WS_VSCROLL | WS_HSCROLL));
