@@ -121,6 +121,11 @@ void EndDragImage(const CImageList& image)
     }
 }
 
+bool IsDragImageShown()
+{
+    return s_dragged != nullptr && s_hidden == 0;
+}
+
 DragImageHidden::DragImageHidden()
 {
     if (s_hidden++ == 0 && s_dragged != nullptr)

@@ -14,6 +14,7 @@ CImageList* ComposeDragImage(TreeItems& items, TreeLook& look, const CWnd& windo
 void ShowDragImage(CImageList& image, CPoint hotSpot, CPoint screen);
 void MoveDragImage(CPoint screen);
 void EndDragImage(const CImageList& image);
+bool IsDragImageShown();
 
 // While windows are painted or scrolled the picture has to be away: what lies under it is kept
 // aside, and would come back out of date.

@@ -2,6 +2,7 @@
 // platform, which may scroll or change what a rubber band lies on.
 
 #include "modes/WindowAlive.h"
+#include "trees/DragImage.h"
 #include "trees/TreeBand.h"
 #include "trees/TreeLook.h"
 
@@ -9,7 +10,7 @@ namespace trees {
 
 namespace {
 
-// Messages by which the platform may move the pixels that a band lies on.
+// Messages by which the platform may move the pixels that a band or a dragged picture lies on.
 bool MovesContent(UINT message)
 {
     switch (message)
@@ -61,6 +62,11 @@ LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
         m_look->Reset();
         m_laidOut = nullptr;
     }
+    std::optional<DragImageHidden> hidden; // it would scroll along
+    if (IsDragImageShown() && MovesContent(message))
+    {
+        hidden.emplace();
+    }
     LRESULT result = 0;
     if (m_look->Before(message, wParam, lParam, result) || !alive)
     {
@@ -84,6 +90,10 @@ LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
         {
             ::InvalidateRect(Handle(), nullptr, FALSE);
         }
+    }
+    if (alive && hidden)
+    {
+        Window().UpdateWindow(); // before it lies over it again
     }
     return result;
 }

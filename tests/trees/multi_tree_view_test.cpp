@@ -188,8 +188,16 @@ TEST_F(MultiTreeViewTest, TheDragImageLeavesNoTrace)
         PumpAll();
         return ScreenPixels(WindowRectOf(Host()));
     };
+    AddItems(Items(), "efghijklmnopqrstuvwxyz");
+    PumpAll();
     Pixels during;
     Begun()
+        .Do([&] {
+            Items().SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA));
+            EXPECT_NE(Items().GetFirstVisibleItem(), m_items[0]);
+            const Pixels atOnce = ScreenPixels(WindowRectOf(Host()));
+            EXPECT_EQ(settled(), atOnce) << "rows and image are whole after the wheel";
+        })
         .Move(OverTarget())
         .Do([&] {
             // What lies under the image changes and is painted meanwhile.
