@@ -72,7 +72,8 @@ LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
     {
         return result;
     }
-    result = m_items.Native(message, wParam, lParam);
+    result = message == TVM_DELETEITEM ? DeleteItem(HTREEITEM(lParam))
+                                       : m_items.Native(message, wParam, lParam);
     if (!alive)
     {
         return result;

@@ -451,6 +451,35 @@ void TreeSelection::LeaveBranch(HTREEITEM item)
     }
 }
 
+// With an item that has the caret, or hides it, the platform makes a neighbour the caret and
+// selects that. Where more is selected the caret comes alone: whoever deletes one by one what is
+// selected would delete others.
+LRESULT TreeSelection::DeleteItem(HTREEITEM item)
+{
+    const WindowAlive alive(Window());
+    WatchedItems heirs(m_items, {});
+    if (m_multi && m_items.IsWithin(m_items.Caret(), TreeItems::Real(item)))
+    {
+        for (const UINT code : {TVGN_NEXT, TVGN_PREVIOUS, TVGN_PARENT})
+        {
+            const HTREEITEM heir = m_items.Next(item, code);
+            heirs.Add(m_items.IsSelected(heir) ? nullptr : heir);
+        }
+    }
+    const LRESULT result = m_items.Native(TVM_DELETEITEM, 0, LPARAM(item));
+    if (!alive || !m_multi || heirs.Size() == 0)
+    {
+        return result;
+    }
+    const WatchedItem caret(m_items, m_items.Caret());
+    if (caret.Get() != nullptr && std::ranges::count(heirs.All(), caret.Get()) != 0 &&
+        m_items.IsSelected(caret.Get()) && m_items.SelectedCount() > 1 && Put(caret, false))
+    {
+        Announce(TVN_SELCHANGED, caret.Get(), false);
+    }
+    return result;
+}
+
 void TreeSelection::OnItemExpanding(const NMHDR* header)
 {
     const auto& notify = *reinterpret_cast<const NMTREEVIEW*>(header);

@@ -130,6 +130,7 @@ private:
     bool ChangeEach(const std::vector<HTREEITEM>& items, bool select, bool notify);
     bool Closes(HTREEITEM item, UINT action) const;
     void LeaveBranch(HTREEITEM item);
+    LRESULT DeleteItem(HTREEITEM item);
     void GiveBack(const WatchedItem& previous, bool wasSelected);
 
     LoopEnd NextOfPress(MSG& message);

@@ -261,6 +261,35 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
     EXPECT_EQ(Shown(tree), "e:-") << "a branch that is refused has neither";
 }
 
+TEST_F(MultiTreeTest, ADeletedCaretLeavesWhatElseIsSelected)
+{
+    auto& tree = AddTree();
+    // Selected, the first with the caret; which one is deleted, and what there is then.
+    const std::tuple<std::vector<HTREEITEM>, HTREEITEM, const char*> cases[] = {
+        {{b, f}, b, "f:c"},
+        {{d, e, f}, d, "ef:e"}, // the neighbour was selected before
+        {{f, e}, e, "f:f"},
+        {{f}, f, "a:a"}, // alone, as in a plain tree
+    };
+    for (const auto& [selected, item, shown] : cases)
+    {
+        tree.SelectItem(selected[0]);
+        for (const HTREEITEM more : selected)
+        {
+            tree.SetItemState(more, TVIS_SELECTED, TVIS_SELECTED);
+        }
+        HTREEITEM told = nullptr;
+        Host().hook = [&](ToldMessage& message) {
+            const auto& notify = *reinterpret_cast<NMTREEVIEW*>(message.lParam);
+            told = message.code == UINT(TVN_SELCHANGED) ? notify.itemNew.hItem : told;
+        };
+        tree.DeleteItem(item);
+        EXPECT_EQ(Shown(tree), shown);
+        EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), SelectedTexts(tree));
+        EXPECT_TRUE(told == nullptr || tree.IsSelected(told)) << "the parent knows";
+    }
+}
+
 TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
 {
     TreeForTests windowless, parentless;
