@@ -267,10 +267,11 @@ CRect TreeLook::IconAndText(HTREEITEM item) const
 bool TreeLook::Read(HTREEITEM item, Row& row) const
 {
     char buffer[MAX_PATH] = "";
-    TVITEM data = {};
-    data.mask =
-        TVIF_HANDLE | TVIF_TEXT | TVIF_STATE | TVIF_CHILDREN | TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+    TVITEMEX data = {};
+    data.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_STATE | TVIF_CHILDREN | TVIF_IMAGE |
+                TVIF_SELECTEDIMAGE | TVIF_EXPANDEDIMAGE;
     data.hItem = item;
+    data.iExpandedImage = I_IMAGENONE;
     data.stateMask = UINT(-1);
     data.pszText = buffer;
     data.cchTextMax = int(sizeof(buffer)) - 1;
@@ -284,7 +285,11 @@ bool TreeLook::Read(HTREEITEM item, Row& row) const
     }
     row.item = item;
     row.state = data.state;
-    row.image = (data.state & TVIS_SELECTED) != 0 ? data.iSelectedImage : data.iImage;
+    // The platform keeps sixteen bits, and some give them without a sign.
+    const bool open = (data.state & TVIS_EXPANDED) != 0 && short(data.iExpandedImage) >= 0;
+    row.image = (data.state & TVIS_SELECTED) != 0 ? data.iSelectedImage
+                : open                            ? data.iExpandedImage
+                                                  : data.iImage;
     row.branch = data.cChildren != 0;
     row.label = data.pszText == nullptr ? "" : data.pszText;
     row.text = m_items.Rect(item, true); // by the text, which the parent may be asked for again

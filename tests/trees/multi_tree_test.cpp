@@ -354,6 +354,38 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
     }
 }
 
+TEST_F(MultiTreeTest, AnOpenBranchShowsItsPictureInEveryMode)
+{
+    CImageList pictures;
+    pictures.Create(16, 16, ILC_COLOR24 | ILC_MASK, 2, 0);
+    pictures.Add(::LoadIcon(nullptr, IDI_APPLICATION));
+    pictures.Add(::LoadIcon(nullptr, IDI_ERROR));
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        SetMode(mode, Host());
+        auto& tree = AddTree();
+        tree.SetImageList(&pictures, TVSIL_NORMAL);
+        TVITEMEX change = {};
+        change.mask = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+        change.hItem = a;
+        const auto shown = [&](int image, int selected) {
+            change.iImage = image;
+            change.iSelectedImage = selected;
+            tree.SendMessage(TVM_SETITEM, 0, LPARAM(&change));
+            return Settled(tree);
+        };
+        const Pixels first = shown(0, 0);
+        const Pixels second = shown(1, 0);
+        EXPECT_NE(first, second) << mode;
+        change.mask |= TVIF_EXPANDEDIMAGE;
+        change.iExpandedImage = 1;
+        EXPECT_EQ(shown(0, 0), second) << mode;
+        tree.SelectItem(a);
+        EXPECT_NE(shown(0, 0), shown(0, 1)) << "that of a selected item comes first";
+        Remove(tree);
+    }
+}
+
 TEST_F(MultiTreeTest, BarsGoWithWhatTheyAreFor)
 {
     const std::string wide(100, 'w');
