@@ -1,6 +1,7 @@
 #include "dialogs/SheetTabs.h"
 
 #include "OnBoardUIGeneral.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
@@ -15,6 +16,7 @@ BEGIN_MESSAGE_MAP(SheetTabs, CTabCtrl)
     ON_WM_ERASEBKGND()
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
+    ON_MESSAGE(TCM_SETITEMSIZE, &SheetTabs::OnSetItemSize)
 END_MESSAGE_MAP()
 
 void SheetTabs::OnPaint()
@@ -60,6 +62,33 @@ void SheetTabs::OnKillFocus(CWnd* taker)
     {
         Invalidate(FALSE);
     }
+}
+
+// Each change of the mode adds to the height of tabs, which would soon reach over the pages. Here
+// the first one that leads on-board does, and the one that leads back takes it away.
+LRESULT SheetTabs::OnSetItemSize(WPARAM wParam, LPARAM size)
+{
+    const WindowAlive alive(*this);
+    CRect tab;
+    if (IsBeingPlaced(m_hWnd) && GetItemRect(0, &tab) && alive)
+    {
+        const bool onBoard = IsBeingPlacedOnBoard(m_hWnd);
+        int height = HIWORD(size);
+        if (onBoard && !m_standardHeight)
+        {
+            m_standardHeight = tab.Height();
+        }
+        else if (m_standardHeight)
+        {
+            height = onBoard ? tab.Height() : *m_standardHeight;
+        }
+        if (!onBoard)
+        {
+            m_standardHeight.reset();
+        }
+        size = MAKELPARAM(LOWORD(size), height);
+    }
+    return alive ? DefWindowProc(TCM_SETITEMSIZE, wParam, size) : 0;
 }
 
 CString SheetTabs::TextOf(int tab) const

@@ -2,6 +2,8 @@
 
 #include <afxcmn.h>
 
+#include <optional>
+
 namespace dialogs {
 
 // The tabs of a property sheet, put over the platform's: in an on-board mode it paints them in the
@@ -31,9 +33,12 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnKillFocus(CWnd* taker);
+    afx_msg LRESULT OnSetItemSize(WPARAM wParam, LPARAM size);
     DECLARE_MESSAGE_MAP()
 
 private:
+    std::optional<int> m_standardHeight; // of a tab, while it has one for an on-board mode
+
     void Draw(CDC& dc);
     CString TextOf(int tab) const;
 };

@@ -170,6 +170,11 @@ bool IsPlaceToCome(HWND window)
            (!s_placed.moves || s_placed.onBoard != COnBoardUIGeneral::InOnBoardMode());
 }
 
+bool IsBeingPlacedOnBoard(HWND window)
+{
+    return IsBeingPlaced(window) && s_placed.onBoard;
+}
+
 BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
 {
     const auto* change = reinterpret_cast<const ModifyChildWndsData*>(data);

@@ -29,6 +29,8 @@ bool IsBeingPlaced(HWND window);
 // Whether it is, and its place for the mode of the moment is still to come: so far it has its font
 // alone, or that mode has come meanwhile. What size it gets now passes.
 bool IsPlaceToCome(HWND window);
+// Whether it is, for an on-board mode.
+bool IsBeingPlacedOnBoard(HWND window);
 
 // While a child is given a place that would overwrite what a change of the mode on the way makes of
 // it: such a change comes to the child at the end of this. It may end the child.

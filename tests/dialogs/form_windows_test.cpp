@@ -143,6 +143,34 @@ TEST_F(FormWindowsTest, AFormKeepsTheFocusOfItsControlForItsFrame)
     EXPECT_EQ(comeBack(), IDC_TEST_CHECK);
 }
 
+TEST_F(FormWindowsTest, TheTabsOfASheetAreAsHighAfterManyChangesAsAfterTheFirst)
+{
+    for (const APPMODE opened : {STD, EFB})
+    {
+        SCOPED_TRACE(opened);
+        const ModeScope scope(opened);
+        CCustomPropPage page(IDD_TEST_PAGE_1);
+        CCustomPropSheet sheet("Sheet", nullptr, &Host());
+        sheet.AddPage(&page);
+        ASSERT_TRUE(sheet.Create(&Host(), WS_POPUP | WS_CAPTION | WS_VISIBLE));
+        CTabCtrl& tabs = *sheet.GetTabControl();
+        std::map<bool, int> heights;
+        for (const APPMODE mode : {opened, ONBOARD, EFB, STD, ONBOARD, STD, EFB, FULLSCREEN, STD})
+        {
+            SCOPED_TRACE(mode);
+            COnBoardUIGeneral::SetAppMode(mode);
+            CRect tab;
+            ASSERT_TRUE(tabs.GetItemRect(0, &tab));
+            const auto known = heights.try_emplace(mode != STD, tab.Height()).first;
+            EXPECT_EQ(tab.Height(), known->second);
+            CRect area = PlaceIn(sheet, tabs);
+            tabs.AdjustRect(FALSE, &area);
+            EXPECT_NEAR(PlaceIn(sheet, page).top, area.top, 1) << "below the tabs";
+        }
+        EXPECT_EQ(heights[true], int(heights[false] * 1.7) + 3);
+    }
+}
+
 TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
 {
     struct Page : CCustomPropPage
