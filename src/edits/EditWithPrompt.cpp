@@ -80,7 +80,13 @@ void EditWithPrompt::ShowText(const char* text)
 void EditWithPrompt::ShowPrompt()
 {
     const WindowAlive alive(*this);
-    ShowText(m_prompt);
+    const CString shown = m_prompt;
+    ShowText(shown);
+    // The parent may answer that with another prompt. The next one waits: it may do so for ever.
+    if (alive && m_showingPrompt && m_prompt != shown && (!m_prompt.IsEmpty() || LeavePrompt()))
+    {
+        ShowText(CString(m_prompt));
+    }
     if (alive)
     {
         // Nothing selected and the caret in front: what is typed comes in its place.
@@ -160,9 +166,9 @@ bool EditWithPrompt::PutDuePromptIn()
 void EditWithPrompt::SetPromptText(const char* prompt)
 {
     m_prompt = prompt != nullptr ? prompt : "";
-    if (!PutDuePromptIn() || !m_showingPrompt)
+    if (!PutDuePromptIn() || !m_showingPrompt || m_showingText)
     {
-        return;
+        return; // one that is on its way is followed by this one
     }
     if (!m_prompt.IsEmpty() || LeavePrompt())
     {

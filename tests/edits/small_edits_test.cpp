@@ -121,6 +121,27 @@ TEST_F(SmallEditsTest, AParentMayBringThePromptBackWhereverTheEditIsEmpty)
     Click(ClientPoint(edit, CPoint(9, 9)));
     EXPECT_EQ(edit.Shown(), "") << "the user begins";
     edit.DestroyWindow();
+
+    const char* wanted = "First";
+    int tellings = 0;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == EN_CHANGE)
+        {
+            ++tellings;
+            edit.SetPromptText(wanted);
+        }
+    };
+    edit.Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL, CRect(20, 20, 220, 50), &Host(), 5);
+    EXPECT_EQ(edit.Shown(), "First");
+    for (const char* const each : {"Second", "", "Third"})
+    {
+        wanted = each;
+        tellings = 0;
+        edit.Reset();
+        EXPECT_EQ(TextOf(edit) + edit.Shown(), wanted);
+        EXPECT_EQ(tellings, 2) << "of the prompt before, and of this one";
+    }
+    edit.DestroyWindow();
 }
 
 TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
