@@ -203,7 +203,8 @@ void CancelNcLeave(const CWnd& window)
 
 bool LeftButtonDown()
 {
-    return ::GetAsyncKeyState(VK_LBUTTON) < 0;
+    // The keys are the buttons of the device; the messages go by what the user makes of them.
+    return ::GetAsyncKeyState(::GetSystemMetrics(SM_SWAPBUTTON) ? VK_RBUTTON : VK_LBUTTON) < 0;
 }
 
 } // namespace scroll
