@@ -3,14 +3,11 @@
 #include "modes/WindowFacts.h"
 
 // Has a control that paints no ground of its own painted anew: what it stands on takes away what it
-// showed before. Nothing while it is hidden.
+// showed before. Also while it seems to be hidden: its painting may be held back, and nobody has what
+// it stands on painted once that ends.
 inline void InvalidateWithGround(CWnd& control)
 {
-    if (!control.IsWindowVisible())
-    {
-        return;
-    }
-    if (const HWND parent = ::GetParent(control); parent != nullptr)
+    if (const HWND parent = ::GetParent(control); ::IsWindowVisible(parent))
     {
         const CRect place = PlaceIn(parent, control);
         ::InvalidateRect(parent, &place, TRUE);

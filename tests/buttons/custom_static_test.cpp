@@ -184,6 +184,12 @@ TEST_F(WindowTest, ABoldLabelIsTwiceAsHeavyInItsColourAndStandardOnly)
     const CRect letters = Extent(seen, Red, CRect(0, 0, 200, 30));
     EXPECT_TRUE(letters.left <= 4 && letters.top <= 8);
     EXPECT_EQ(seen.Count(black), 0) << "the platform's own text must not stay";
+    bold.SetRedraw(FALSE);
+    bold.SetWindowText("");
+    bold.SetRedraw(TRUE);
+    bold.Invalidate();
+    EXPECT_EQ(Settled(bold).Count(Red), 0) << "the old text";
+    bold.SetWindowText("HHHH");
     const ModeScope mode(ONBOARD);
     bold.Invalidate();
     EXPECT_EQ(Settled(bold).Count(Red), 0);
