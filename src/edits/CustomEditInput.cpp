@@ -96,7 +96,10 @@ void CCustomEdit::OnLButtonUp(UINT flags, CPoint point)
     if (FollowMode())
     {
         DrawOBScrollBars();
-        OfferKeyboard();
+        if (alive)
+        {
+            OfferKeyboard();
+        }
     }
 }
 
