@@ -99,6 +99,7 @@ protected:
     afx_msg void OnMouseMove(UINT flags, CPoint point);
     afx_msg void OnCaptureChanged(CWnd* taker);
     afx_msg void OnCancelMode();
+    afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg void OnSetFocus(CWnd* loser);
     afx_msg void OnKillFocus(CWnd* taker);
     afx_msg void OnKeyUp(UINT key, UINT repeat, UINT flags);

@@ -117,6 +117,7 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnMouseActivate(CWnd* top, UINT hitTest, UINT message);
+    afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonUp(UINT flags, CPoint point);

@@ -178,6 +178,7 @@ protected:
     afx_msg void OnMove(int x, int y);
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
     afx_msg void OnNcLButtonUp(UINT hitTest, CPoint point);
     afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);

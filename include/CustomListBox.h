@@ -195,6 +195,7 @@ protected:
     afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);
     afx_msg void OnWindowPosChanging(WINDOWPOS* position);
     afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
     afx_msg void OnNcLButtonDblClk(UINT hitTest, CPoint point);
     afx_msg void OnNcLButtonUp(UINT hitTest, CPoint point);

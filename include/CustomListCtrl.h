@@ -163,6 +163,7 @@ protected:
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
     afx_msg void OnNcLButtonDblClk(UINT hitTest, CPoint point);
     afx_msg void OnNcLButtonUp(UINT hitTest, CPoint point);

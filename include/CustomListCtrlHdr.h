@@ -69,6 +69,7 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnWindowPosChanging(WINDOWPOS* position);
     afx_msg LRESULT OnNcHitTest(CPoint point);
+    afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg BOOL OnSetCursor(CWnd* window, UINT hitTest, UINT message);
     afx_msg void OnCaptureChanged(CWnd* taker);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);

@@ -66,6 +66,7 @@ protected:
     afx_msg BOOL OnCustomDraw(NMHDR* header, LRESULT* result);
     // @}
     afx_msg void OnPaint();
+    afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnSetFocus(CWnd* old);

@@ -3,6 +3,7 @@
 #include "OnBoardUIGeneral.h"
 #include "access/Answers.h"
 #include "buttons/ButtonLayout.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
@@ -25,6 +26,7 @@ BEGIN_MESSAGE_MAP(CCustomButton, CButton)
     ON_WM_MOUSEMOVE()
     ON_WM_CAPTURECHANGED()
     ON_WM_CANCELMODE()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CCustomButton::OnQueryGestures)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_KEYDOWN()

@@ -4,9 +4,15 @@
 
 #include "OnBoardUIGeneral.h"
 #include "access/Answers.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 
 // Mouse -----------------------------------------------------------------------------------------
+
+LRESULT CCustomButton::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::Everywhere, screen, [this] { return Default(); });
+}
 
 void CCustomButton::OnLButtonDown(UINT, CPoint)
 {

@@ -5,6 +5,7 @@
 #include "OnBoardUIGeneral.h"
 #include "edits/EditBars.h"
 #include "edits/EditBorder.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/Rings.h"
@@ -20,6 +21,7 @@ BEGIN_MESSAGE_MAP(CCustomEdit, CEdit)
     ON_WM_NCCALCSIZE()
     ON_WM_WINDOWPOSCHANGING()
     ON_WM_NCHITTEST()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CCustomEdit::OnQueryGestures)
     ON_WM_NCLBUTTONDOWN()
     ON_WM_NCLBUTTONDBLCLK()
     ON_WM_NCLBUTTONUP()

@@ -6,6 +6,7 @@
 #include "edits/EditBars.h"
 #include "modes/FlightBag.h"
 #include "modes/KeyState.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 
 namespace {
@@ -22,6 +23,11 @@ LRESULT CCustomEdit::OnNcHitTest(CPoint point)
     const WindowAlive alive(*this);
     const LRESULT hit = Default();
     return hit == HTNOWHERE && alive && FollowMode() ? LRESULT(m_bars->HitBar(point)) : hit;
+}
+
+LRESULT CCustomEdit::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::Everywhere, screen, [this] { return Default(); });
 }
 
 void CCustomEdit::OnNcLButtonDown(UINT hitTest, CPoint point)

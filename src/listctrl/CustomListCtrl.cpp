@@ -6,6 +6,7 @@
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 #include "paint/SharedObjects.h"
@@ -31,6 +32,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_WM_ENABLE()
     ON_WM_SHOWWINDOW()
     ON_WM_NCHITTEST()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CCustomListCtrl::OnQueryGestures)
     ON_WM_NCLBUTTONDOWN()
     ON_WM_NCLBUTTONDBLCLK()
     ON_WM_NCLBUTTONUP()

@@ -5,6 +5,7 @@
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListLayout.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/GdiGuards.h"
@@ -25,6 +26,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrlHdr, CHeaderCtrl)
     ON_WM_ERASEBKGND()
     ON_WM_WINDOWPOSCHANGING()
     ON_WM_NCHITTEST()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CCustomListCtrlHdr::OnQueryGestures)
     ON_WM_SETCURSOR()
     ON_WM_CAPTURECHANGED()
     ON_WM_LBUTTONDOWN()

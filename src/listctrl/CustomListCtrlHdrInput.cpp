@@ -6,6 +6,7 @@
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/TellParent.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 
 #include <climits>
@@ -95,6 +96,11 @@ LRESULT CCustomListCtrlHdr::DefaultAt(UINT message, UINT flags, CPoint point)
 LRESULT CCustomListCtrlHdr::OnNcHitTest(CPoint)
 {
     return Default();
+}
+
+LRESULT CCustomListCtrlHdr::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::Everywhere, screen, [this] { return Default(); });
 }
 
 BOOL CCustomListCtrlHdr::OnSetCursor(CWnd* window, UINT hitTest, UINT message)

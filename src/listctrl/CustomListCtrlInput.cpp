@@ -2,6 +2,7 @@
 
 #include "CustomListCtrl.h"
 #include "listctrl/ListCtrlBars.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 
 namespace {
@@ -34,6 +35,11 @@ LRESULT CCustomListCtrl::OnNcHitTest(CPoint point)
     const int axis = hit == HTVSCROLL ? SB_VERT : SB_HORZ;
     m_bars->PartOf(axis) = Bar(axis).GetLastHit();
     return LRESULT(hit);
+}
+
+LRESULT CCustomListCtrl::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::OnBars, screen, [this] { return Default(); });
 }
 
 void CCustomListCtrl::OnNcLButtonDown(UINT hitTest, CPoint point)

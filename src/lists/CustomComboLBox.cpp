@@ -6,6 +6,7 @@
 #include "OnBoardUIGeneral.h"
 #include "access/Rows.h"
 #include "lists/ComboPopup.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 
@@ -34,6 +35,7 @@ BEGIN_MESSAGE_MAP(CCustomComboLBox, CCustomListBox)
     ON_WM_LBUTTONUP()
     ON_WM_MOUSEMOVE()
     ON_WM_MOUSEACTIVATE()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CCustomComboLBox::OnQueryGestures)
     ON_MESSAGE(access::ActMessage, &CCustomComboLBox::OnAct)
 END_MESSAGE_MAP()
 
@@ -414,6 +416,11 @@ void CCustomComboLBox::TellBarReleased(bool wasHeld)
 int CCustomComboLBox::OnMouseActivate(CWnd*, UINT, UINT)
 {
     return MA_NOACTIVATE;
+}
+
+LRESULT CCustomComboLBox::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::Everywhere, screen, [this] { return Default(); });
 }
 
 // The combo works the list, whether or not it has the capture. The platform's list box would take

@@ -5,6 +5,7 @@
 #include "OnBoardUIGeneral.h"
 #include "access/Answers.h"
 #include "lists/ComboScaling.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 
 #include <utility>
@@ -42,6 +43,7 @@ BEGIN_MESSAGE_MAP(CCustomDropListCombo, CWnd)
     ON_WM_MOVE()
     ON_WM_ERASEBKGND()
     ON_WM_NCHITTEST()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CCustomDropListCombo::OnQueryGestures)
     ON_WM_NCLBUTTONDOWN()
     ON_WM_NCLBUTTONUP()
     ON_MESSAGE(WM_SETFONT, &CCustomDropListCombo::OnSetFont)

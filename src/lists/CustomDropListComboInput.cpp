@@ -5,6 +5,7 @@
 
 #include "access/Answers.h"
 #include "modes/TellParent.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
@@ -123,6 +124,11 @@ LRESULT CCustomDropListCombo::OnNcHitTest(CPoint point)
 LRESULT CCustomDropListCombo::OnNcHitTest(const CRect& window, const CPoint& point)
 {
     return window.PtInRect(point) ? HTCLIENT : HTNOWHERE;
+}
+
+LRESULT CCustomDropListCombo::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::Everywhere, screen, [this] { return Default(); });
 }
 
 void CCustomDropListCombo::OnLButtonDown(UINT, CPoint point)

@@ -5,6 +5,7 @@
 #include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
 #include "modes/ChildRestyling.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
@@ -53,6 +54,7 @@ BEGIN_MESSAGE_MAP(CCustomListBox, CListBox)
     ON_WM_NCCALCSIZE()
     ON_WM_WINDOWPOSCHANGING()
     ON_WM_NCHITTEST()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CCustomListBox::OnQueryGestures)
     ON_WM_NCLBUTTONDOWN()
     ON_WM_NCLBUTTONDBLCLK()
     ON_WM_NCLBUTTONUP()

@@ -3,6 +3,7 @@
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
@@ -21,6 +22,11 @@ LRESULT CCustomListBox::OnNcHitTest(CPoint point)
         }
     }
     return alive ? Default() : HTNOWHERE;
+}
+
+LRESULT CCustomListBox::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::OnBars, screen, [this] { return Default(); });
 }
 
 void CCustomListBox::OnNcLButtonDown(UINT hitTest, CPoint point)

@@ -1,6 +1,7 @@
 #include "CustomToolbar.h"
 
 #include "OnBoardUIGeneral.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
@@ -16,6 +17,7 @@ BEGIN_MESSAGE_MAP(CustomToolbar, CToolBar)
     ON_WM_ERASEBKGND()
     ON_NOTIFY_REFLECT_EX(NM_CUSTOMDRAW, &CustomToolbar::OnCustomDraw)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CustomToolbar::OnQueryGestures)
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
     ON_WM_SETFOCUS()
@@ -97,6 +99,11 @@ LRESULT CustomToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         }
     }
     return CToolBar::WindowProc(message, wParam, lParam);
+}
+
+LRESULT CustomToolbar::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::Everywhere, screen, [this] { return Default(); });
 }
 
 // A flat bar shows its parent's ground otherwise, which may be light.

@@ -1,5 +1,6 @@
 #include "trees/TreeBars.h"
 
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
@@ -439,6 +440,9 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
                 }
             }
         }
+        break;
+    case WM_TABLET_QUERYSYSTEMGESTURESTATUS:
+        result = AnswerGestures(Window(), Refused::OnBars, lParam, [&] { return result; });
         break;
     case WM_NCPAINT:
         Place();
