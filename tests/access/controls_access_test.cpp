@@ -7,11 +7,6 @@
 #include "CustomStatusBar.h"
 #include "lists/combo_for_tests.h"
 #include "support/Accessible.h"
-#include "support/WindowTest.h"
-
-#include <gmock/gmock.h>
-
-#include <tuple>
 
 INSTANTIATE_TEST_SUITE_P(Controls, AccessInModes, testing::Values(STD, ONBOARD));
 

@@ -16,12 +16,6 @@
 #include "support/Scripted.h"
 #include "support/forms.h"
 
-#include <afxcmn.h>
-
-#include <gmock/gmock.h>
-
-#include <algorithm>
-
 namespace {
 
 constexpr UINT FirstButton = 101;
@@ -258,12 +252,11 @@ TEST_P(KeyboardAlone, GetsOutOfAnEditThatTakesNoKey)
 // Appends a button to a bar.
 void AddTool(CustomToolbar& bar, const char* text, BYTE style, BYTE state = TBSTATE_ENABLED)
 {
-    TBBUTTON button = {};
-    button.iBitmap = I_IMAGENONE;
-    button.idCommand = style == TBSTYLE_SEP ? 0 : int(FirstTool) + bar.GetCount();
-    button.fsStyle = style;
-    button.fsState = state;
-    button.iString = INT_PTR(text);
+    TBBUTTON button = {.iBitmap = I_IMAGENONE,
+                       .idCommand = style == TBSTYLE_SEP ? 0 : int(FirstTool) + bar.GetCount(),
+                       .fsState = state,
+                       .fsStyle = style,
+                       .iString = INT_PTR(text)};
     bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button));
 }
 

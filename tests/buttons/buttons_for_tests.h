@@ -7,8 +7,6 @@
 #include "support/OnBoard.h"
 #include "support/WindowTest.h"
 
-#include <string>
-
 // A button that lets a test see its state and notes the steps of its clicks.
 template <class Base> class Traced : public Base
 {

@@ -1,11 +1,6 @@
 // What all buttons share: following a press, the steps of a click, and every way of losing either.
 
 #include "buttons/buttons_for_tests.h"
-#include "support/Acts.h"
-
-#include <gmock/gmock.h>
-
-#include <tuple>
 
 using testing::IsEmpty;
 using Steps = std::vector<std::string>;

@@ -1,7 +1,5 @@
 #include "buttons/buttons_for_tests.h"
 
-#include <tuple>
-
 namespace {
 
 constexpr COLORREF Outline = RGB(70, 70, 70);

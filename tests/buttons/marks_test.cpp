@@ -3,10 +3,7 @@
 #include "OnBoardUI.h"
 #include "buttons/buttons_for_tests.h"
 
-#include <gmock/gmock.h>
-
 #include <map>
-#include <tuple>
 
 using testing::ElementsAre;
 

@@ -1,8 +1,5 @@
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
-#include "support/MessageLog.h"
-
-#include <tuple>
 
 namespace {
 

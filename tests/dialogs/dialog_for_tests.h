@@ -6,13 +6,13 @@
 #include "EFB.h"
 #include "SpecialConfigVals.h"
 #include "catalog/DialogTemplate.h"
+#include "support/Acting.h"
 #include "support/AreaHost.h"
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
 #include "support/forms.h"
 
 #include <ostream>
-#include <string>
 
 constexpr APPMODE AllModes[] = {STD, FULLSCREEN, ONBOARD, EFB, EFBFS};
 
@@ -68,16 +68,15 @@ protected:
 };
 
 // An open form view that the test owns.
-class ViewForTests : public CCustomFormView
+class ViewForTests : public Standing<CCustomFormView>
 {
 public:
     explicit ViewForTests(CWnd& parent, UINT form = IDD_TEST_FORM)
-        : CCustomFormView(form)
+        : Standing(form)
     {
         const CRect place(0, 0, 500, 400);
         EXPECT_TRUE(Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, &parent, 5, nullptr));
     }
-    void PostNcDestroy() override {}
 };
 
 using Journal = std::vector<std::string>;

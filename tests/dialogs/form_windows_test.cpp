@@ -2,8 +2,6 @@
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
 
-#include <afxcmn.h>
-
 namespace {
 
 using FormWindowsTest = CustomDialogTest;
@@ -103,10 +101,7 @@ TEST_F(FormWindowsTest, AFormIsScrolledByTheWheelAlsoFromItsControls)
 
 TEST_F(FormWindowsTest, AFormKeepsTheFocusOfItsControlForItsFrame)
 {
-    struct Frame : CFrameWnd
-    {
-        void PostNcDestroy() override {}
-    } frame;
+    Standing<CFrameWnd> frame;
     ASSERT_TRUE(
         frame.Create(nullptr, "Frame", WS_OVERLAPPEDWINDOW | WS_VISIBLE, CRect(100, 80, 600, 500)));
     ViewForTests view(frame);

@@ -3,8 +3,6 @@
 
 #include "edits/edit_for_tests.h"
 
-#include <tuple>
-
 using namespace parts;
 
 // The bar has positions past the end of the text; the way back is in step all the same.
@@ -153,8 +151,7 @@ TEST_F(EditTest, TheContextMenuIsForTheStandardMode)
         SetMode(mode, edit);
         bool opened = false;
         const auto close = [&] {
-            GUITHREADINFO info = {};
-            info.cbSize = sizeof(info);
+            GUITHREADINFO info = {.cbSize = sizeof(info)};
             ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
             if ((info.flags & (GUI_INMENUMODE | GUI_POPUPMENUMODE)) != 0)
             {

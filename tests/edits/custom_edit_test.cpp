@@ -1,8 +1,6 @@
 #include "edits/edit_for_tests.h"
 #include "support/ChildModes.h"
 
-#include <tuple>
-
 TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
 {
     const std::tuple<const char*, void (*)(EditForTests&)> table[] = {

@@ -6,8 +6,6 @@
 #include "support/OnBoard.h"
 #include "support/WindowTest.h"
 
-#include <string>
-
 constexpr DWORD ManyLines = ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL;
 
 // An edit that lets a test see its bar.

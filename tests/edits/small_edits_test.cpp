@@ -6,8 +6,6 @@
 #include "support/WindowTest.h"
 
 #include <cstring>
-#include <string>
-#include <tuple>
 
 using SmallEditsTest = WindowTest;
 
@@ -208,13 +206,10 @@ TEST_F(SmallEditsTest, AnEditTakenOverTakesATextBeforeItsPromptIsTold)
         PromptSeen taker;
         CString value("EDDF"); // which the parent keeps up to date
         int told = 0;
-        Host().hook = [&](ToldMessage& message) {
-            if (message.code == EN_CHANGE)
-            {
-                taker.GetWindowText(value);
-                ++told;
-            }
-        };
+        Host().OnCode(EN_CHANGE, [&](ToldMessage&) {
+            taker.GetWindowText(value);
+            ++told;
+        });
         taker.SubclassWindow(before.UnsubclassWindow());
         give(taker, value);
         EXPECT_EQ(taker.Shown(), "EDDF");

@@ -1,12 +1,8 @@
 // The classes for the platform's controls: the messages behind less obvious members.
 
-#include <afxcmn.h>
 #include <afxext.h>
 
 #include "support/WindowTest.h"
-
-#include <climits>
-#include <string>
 
 namespace {
 

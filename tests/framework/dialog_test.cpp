@@ -2,10 +2,6 @@
 #include "support/Scripted.h"
 #include "support/WindowTest.h"
 
-#include <functional>
-#include <optional>
-#include <tuple>
-
 namespace {
 
 enum : WORD

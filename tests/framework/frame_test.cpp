@@ -1,11 +1,7 @@
 #include "catalog/DialogTemplate.h"
 #include "support/WindowTest.h"
 
-#include <afxcmn.h>
 #include <afxext.h>
-
-#include <functional>
-#include <string>
 
 namespace {
 
@@ -212,9 +208,7 @@ TEST_F(WindowTest, AMenuThatOpensAsksHowItsCommandsStand)
     };
     const auto state = [&](UINT id) { return menu.GetMenuState(id, MF_BYCOMMAND) & 0xFFU; };
     const auto isDot = [&](UINT id) {
-        MENUITEMINFO item = {};
-        item.cbSize = sizeof(item);
-        item.fMask = MIIM_FTYPE;
+        MENUITEMINFO item = {.cbSize = sizeof(item), .fMask = MIIM_FTYPE};
         return menu.GetMenuItemInfo(id, &item) && (item.fType & MFT_RADIOCHECK) != 0;
     };
     open(TRUE);
@@ -375,11 +369,11 @@ TEST_F(WindowTest, ABarTellsTheTipsOfItsCommandsUnlessItsParentDoes)
     Host().hook = [](ToldMessage& told) {
         if (told.message == WM_NOTIFY && told.code == UINT(TTN_GETDISPINFOW))
         {
-            reinterpret_cast<NMTTDISPINFOW*>(told.lParam)->lpszText = const_cast<LPWSTR>(L"Mine");
+            About<NMTTDISPINFOW>(told).lpszText = const_cast<LPWSTR>(L"Mine");
         }
         if (told.message == WM_NOTIFY && told.code == UINT(TTN_GETDISPINFOA))
         {
-            reinterpret_cast<NMTTDISPINFOA*>(told.lParam)->lpszText = const_cast<LPSTR>("Mine");
+            About<NMTTDISPINFOA>(told).lpszText = const_cast<LPSTR>("Mine");
         }
     };
     EXPECT_STREQ(bar.Tip(TippedCommand), "Mine");
@@ -413,12 +407,7 @@ TEST_F(WindowTest, BarsBesideAModalWindowAreKeptUpToDateUnlessItDisablesTheirFra
                              MakeFrame(RUNTIME_CLASS(ColourView))};
     PressBar bars[2];
     int idle = 0;
-    Host().AlsoRecord({WM_ENTERIDLE});
-    Host().hook = [&](ToldMessage& told) {
-        if (told.message != WM_ENTERIDLE)
-        {
-            return;
-        }
+    Host().OnMessage(WM_ENTERIDLE, [&](ToldMessage&) {
         if (idle++ == 0)
         {
             frames[1]->EnableWindow(FALSE);
@@ -429,7 +418,7 @@ TEST_F(WindowTest, BarsBesideAModalWindowAreKeptUpToDateUnlessItDisablesTheirFra
         EXPECT_FALSE(bars[0].IsPressable(TippedCommand)) << "nobody handles it";
         EXPECT_TRUE(bars[1].IsPressable(TippedCommand));
         dialog.EndDialog(1);
-    };
+    });
     dialog.InitModalIndirect(form, &Host());
     EXPECT_EQ(dialog.DoModal(), 1);
     Host().hook = nullptr;

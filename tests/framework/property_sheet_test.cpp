@@ -5,12 +5,6 @@
 #include "support/WindowTest.h"
 #include "support/forms.h"
 
-#include <functional>
-#include <memory>
-#include <string>
-#include <tuple>
-#include <utility>
-
 namespace {
 
 using Journal = std::vector<std::string>;

@@ -13,11 +13,6 @@ constexpr UINT LongString = 60001;
 constexpr UINT FormatString = 60002;
 constexpr UINT MissingString = 60003;
 
-void PrintTo(const CString& text, std::ostream* out)
-{
-    *out << text.GetString();
-}
-
 TEST(Text, NullIsEmptyAndPartsAreCutToTheText)
 {
     const LPCTSTR null = nullptr;
@@ -27,7 +22,7 @@ TEST(Text, NullIsEmptyAndPartsAreCutToTheText)
     EXPECT_EQ(CString("ab").FindOneOf(null), -1);
     EXPECT_EQ(empty.Compare(null), 0);
     EXPECT_EQ(CString("ab").Replace(null, "x"), 0);
-    EXPECT_EQ(CString("ab") + null, CString("ab"));
+    EXPECT_STREQ(CString("ab") + null, "ab");
     CString formatted("kept");
     formatted.AppendFormat(null);
     EXPECT_STREQ(formatted, "kept");
@@ -96,7 +91,7 @@ TEST(Text, SearchesAndChanges)
     EXPECT_EQ(position, -1);
 }
 
-TEST(Text, StringResources)
+TEST(Text, StringAndPatternsComeFromTheResources)
 {
     CString text("kept");
     EXPECT_FALSE(text.LoadString(MissingString));
@@ -107,11 +102,7 @@ TEST(Text, StringResources)
     EXPECT_STREQ(CString(MAKEINTRESOURCE(ShortString)), "short");
     text.Format(FormatString, 7, "x");
     EXPECT_STREQ(text, "7 of x");
-}
-
-TEST(Texts, APatternOfTheResourcesTakesItsTextsWhateverTheySay)
-{
-    CString text;
+    // A pattern takes its texts whatever they say.
     AfxFormatString1(text, 60006, "%2");
     EXPECT_STREQ(text, "%2 before %2 and %2");
     AfxFormatString2(text, 60006, "%2", "%1");

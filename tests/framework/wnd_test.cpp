@@ -1,11 +1,7 @@
 #include "support/Acting.h"
 #include "support/WindowTest.h"
 
-#include <functional>
 #include <map>
-#include <string>
-#include <tuple>
-#include <utility>
 
 namespace {
 
@@ -59,11 +55,7 @@ protected:
 class WndTest : public WindowTest
 {
 protected:
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        journal.clear();
-    }
+    WndTest() { journal.clear(); }
 
     static Journal TakeJournal() { return std::exchange(journal, {}); }
 
@@ -208,6 +200,22 @@ TEST_F(WndTest, TheLastOfWhoeverWaitsGivesThePointerItsShapeBack)
         EXPECT_EQ(::GetCursor(), ::LoadCursor(nullptr, IDC_WAIT));
     }
     EXPECT_EQ(::SetCursor(before), ::LoadCursor(nullptr, IDC_IBEAM));
+}
+
+TEST_F(WndTest, ContextsOfAWindowAreReleased)
+{
+    const auto useAll = [this] {
+        CClientDC client(&Host());
+        CWindowDC window(&Host());
+        CPaintDC paint(&Host());
+    };
+    useAll(); // the platform keeps its first contexts
+    const int before = GraphicsObjects();
+    for (int round = 0; round < 50; ++round)
+    {
+        useAll();
+    }
+    EXPECT_EQ(GraphicsObjects(), before);
 }
 
 TEST_F(WindowTest, AMessageReachesTheChildrenBehindOneThatEndsInIt)

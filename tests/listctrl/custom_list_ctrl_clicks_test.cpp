@@ -2,8 +2,6 @@
 
 #include "listctrl/list_for_tests.h"
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 
 namespace {
@@ -58,16 +56,13 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
     list.SetItemData(2, 200);
     list.SetItemData(7, 700);
     std::vector<std::pair<int, bool>> told; // rows that were selected, and whether finally
-    Host().hook = [&](ToldMessage& message) {
-        if (message.code == UINT(LVN_ITEMCHANGED))
+    Host().OnCode(LVN_ITEMCHANGED, [&](ToldMessage& message) {
+        const auto& change = About<NMLISTVIEW>(message);
+        if ((change.uNewState & LVIS_SELECTED) != 0)
         {
-            const auto& change = *reinterpret_cast<const NMLISTVIEW*>(message.lParam);
-            if ((change.uNewState & LVIS_SELECTED) != 0)
-            {
-                told.push_back({change.iItem, list.IsSelChanging() == 0});
-            }
+            told.push_back({change.iItem, list.IsSelChanging() == 0});
         }
-    };
+    });
     Click(ClientPoint(list, list.RowPoint(7)));
     EXPECT_EQ(list.Selected(), std::set<int>{7});
     EXPECT_EQ(list.Focused(), 7);
@@ -157,7 +152,7 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFin
             list.PerformVScroll(top, 0);
             bool final = false; // the last change of the selection that was told
             Host().hook = [&](ToldMessage& message) {
-                const auto& change = *reinterpret_cast<const NMLISTVIEW*>(message.lParam);
+                const auto& change = About<NMLISTVIEW>(message);
                 if (message.code == UINT(LVN_ITEMCHANGED) &&
                     ((change.uNewState ^ change.uOldState) & LVIS_SELECTED) != 0)
                 {
@@ -364,16 +359,11 @@ TEST_F(ListCtrlOnBoard, OneClickActivatesTheDrawnRowOnceItIsSelected)
     // As some platforms tell it: of the row that stands there unscrolled.
     list.onActivation = nullptr;
     list.SetExtendedStyle(LVS_EX_FULLROWSELECT);
-    Host().hook = [&](ToldMessage& message) {
-        if (message.code == UINT(NM_CLICK))
-        {
-            NMITEMACTIVATE activation = {};
-            activation.hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)};
-            activation.iItem = 3;
-            activation.uOldState = 3;
-            Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&activation));
-        }
-    };
+    Host().OnCode(NM_CLICK, [&](ToldMessage&) {
+        NMITEMACTIVATE activation = {
+            .hdr = {list, FirstId, UINT(LVN_ITEMACTIVATE)}, .iItem = 3, .uOldState = 3};
+        Host().SendMessage(WM_NOTIFY, FirstId, reinterpret_cast<LPARAM>(&activation));
+    });
     Click(ClientPoint(list, list.RowPoint(8)));
     EXPECT_THAT(list.clicked, ElementsAre(std::tuple(8, 0, 0), std::tuple(8, 0, 0)));
 }
@@ -385,12 +375,7 @@ TEST_F(ListCtrlOnBoard, ARestingPointerSelectsTheDrawnRowUnlessTheParentObjects)
     list.SendMessage(LVM_SETHOVERTIME, 0, 20);
     list.PerformVScroll(5, 0);
     int told = 0;
-    Host().hook = [&](ToldMessage& message) {
-        if (message.code == UINT(NM_HOVER))
-        {
-            message.answer = told++;
-        }
-    };
+    Host().OnCode(NM_HOVER, [&](ToldMessage& message) { message.answer = told++; });
     for (const int row : {7, 8})
     {
         MoveTo(ClientPoint(list, list.RowPoint(row)));

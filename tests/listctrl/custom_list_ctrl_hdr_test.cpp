@@ -2,8 +2,6 @@
 
 #include "listctrl/list_for_tests.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
 // Notes what its header tells of a drag.
@@ -88,10 +86,7 @@ TEST_F(ListCtrlOnBoard, AHeadingStandsInItsItemBesideItsArrow)
                                                   {HDF_CENTER | HDF_SORTDOWN, 0.5, 23}})
     {
         char text[] = "HH";
-        HDITEM data = {};
-        data.mask = HDI_FORMAT | HDI_TEXT;
-        data.pszText = text;
-        data.fmt = HDF_STRING | format;
+        HDITEM data = {.mask = HDI_FORMAT | HDI_TEXT, .pszText = text, .fmt = HDF_STRING | format};
         list.m_header.SetItem(Item, &data);
         Repaint(list.m_header);
         const CRect item = list.ColumnRect(Item);
@@ -117,9 +112,7 @@ TEST_F(ListCtrlTest, TheApplicationsArrowsStandAtTheRightInTheStandardMode)
     RestPointer();
     for (const int format : {HDF_SORTUP, HDF_SORTDOWN})
     {
-        HDITEM data = {};
-        data.mask = HDI_FORMAT;
-        data.fmt = HDF_STRING | HDF_LEFT | format;
+        HDITEM data = {.mask = HDI_FORMAT, .fmt = HDF_STRING | HDF_LEFT | format};
         list.m_header.SetItem(1, &data);
         Repaint(list.m_header);
         // Each bitmap's picture fills one half, eight points wide.
@@ -356,12 +349,8 @@ TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
     // The platform's pointer messages reach 32767 pixels; each column is 1700 wide on-board.
     auto& list = AddList(3, 24, ReportStyle, CRect(0, 20, 780, 200));
     std::vector<int> clicked;
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(LVN_COLUMNCLICK))
-        {
-            clicked.push_back(reinterpret_cast<const NMLISTVIEW*>(told.lParam)->iSubItem);
-        }
-    };
+    Host().OnCode(LVN_COLUMNCLICK,
+                  [&](ToldMessage& told) { clicked.push_back(About<NMLISTVIEW>(told).iSubItem); });
     for (int column = 0; column < 24; ++column)
     {
         list.SetColumnWidth(column, 1700);

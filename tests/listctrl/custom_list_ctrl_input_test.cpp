@@ -3,8 +3,6 @@
 
 #include "listctrl/list_for_tests.h"
 
-#include <gmock/gmock.h>
-
 using namespace parts;
 
 TEST_F(ListCtrlOnBoard, TheWheelCountsUpToANotchAndAnArrowGoesATenthSideways)
@@ -45,12 +43,9 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
 {
     auto& list = AddList(100, 8, ReportStyle | LVS_EDITLABELS);
     list.SetFocus();
-    Host().hook = [](ToldMessage& told) {
-        if (told.code == UINT(LVN_ENDLABELEDIT))
-        {
-            told.answer = TRUE; // the new text is accepted
-        }
-    };
+    Host().OnCode(LVN_ENDLABELEDIT, [](ToldMessage& told) {
+        told.answer = TRUE; // the new text is accepted
+    });
     for (const auto& [axis, text] : {std::pair(SB_VERT, "down"), {SB_HORZ, "across"}})
     {
         ASSERT_NE(list.EditLabel(1), nullptr);

@@ -3,8 +3,6 @@
 #include "listctrl/ListLayout.h"
 #include "listctrl/list_for_tests.h"
 
-#include <tuple>
-
 TEST(ListLayout, FewAndManyRowsAndWideColumns)
 {
     EXPECT_FALSE(listctrl::VerticalBar(0, 20, 206).needed);
@@ -20,9 +18,7 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
     auto& list = AddList(3, 0);
     list.InsertColumn(0, "A", LVCFMT_LEFT, 100);
     EXPECT_EQ(list.GetColumnWidth(0), 170);
-    LVCOLUMNW wide = {};
-    wide.mask = LVCF_WIDTH;
-    wide.cx = 33;
+    LVCOLUMNW wide = {.mask = LVCF_WIDTH, .cx = 33};
     list.SendMessage(LVM_INSERTCOLUMNW, 1, reinterpret_cast<LPARAM>(&wide));
     EXPECT_EQ(list.GetColumnWidth(1), 56);
     EXPECT_EQ(wide.cx, 33) << "the caller's description is the caller's";
@@ -134,9 +130,7 @@ TEST_F(ListCtrlOnBoard, TheColumnThatStandsLastFillsTheListAndAllOthersAreReache
         auto& list = AddList(3, 3, ReportStyle, CRect(20, 20, 20 + width, 220));
         list.SetExtendedStyle(LVS_EX_HEADERDRAGDROP | LVS_EX_GRIDLINES);
         const auto put = [&](int column, int place) {
-            LVCOLUMN moved = {};
-            moved.mask = LVCF_ORDER;
-            moved.iOrder = place;
+            LVCOLUMN moved = {.mask = LVCF_ORDER, .iOrder = place};
             list.SetColumn(column, &moved);
         };
         int order[] = {2, 0, 1};
@@ -219,8 +213,7 @@ TEST_F(ListCtrlOnBoard, RowsThatAMessageDoesNotNameArePaintedWhereTheyAreDrawn)
          [&] { list.InsertItem(LVIF_TEXT | LVIF_STATE, 0, "Row 23", 2, 2, 0, 0); }},
         {"a column put elsewhere",
          [&] {
-             LVCOLUMN first = {};
-             first.mask = LVCF_ORDER;
+             LVCOLUMN first = {.mask = LVCF_ORDER};
              list.SetColumn(1, &first);
          }},
         {"rows for a finger", [&] { list.SetImageList(&tall, LVSIL_SMALL); }},
@@ -247,7 +240,7 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     Host().hook = [&](ToldMessage& told) {
         if (told.code == UINT(LVN_ODCACHEHINT))
         {
-            const auto& rows = *reinterpret_cast<const NMLVCACHEHINT*>(told.lParam);
+            const auto& rows = About<NMLVCACHEHINT>(told);
             hint = {rows.iFrom, rows.iTo};
             if (list.GetItemCount() > count)
             {
@@ -256,7 +249,7 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
         }
         if (told.code == UINT(LVN_GETDISPINFOA))
         {
-            auto& item = reinterpret_cast<NMLVDISPINFO*>(told.lParam)->item;
+            auto& item = About<NMLVDISPINFO>(told).item;
             asked.insert(item.iItem);
             if ((item.mask & LVIF_TEXT) != 0)
             {
@@ -286,12 +279,7 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
         list.ExpectInStep("fewer");
     }
     // Its owner may end the list while it is painted.
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(LVN_GETDISPINFOA))
-        {
-            list.DestroyWindow();
-        }
-    };
+    Host().OnCode(LVN_GETDISPINFOA, [&](ToldMessage&) { list.DestroyWindow(); });
     Repaint(list);
     EXPECT_EQ(list.GetSafeHwnd(), nullptr);
 }

@@ -2,13 +2,10 @@
 
 #include "CustomListCtrl.h"
 #include "paint/Palette.h"
-#include "support/Acts.h"
 #include "support/Bars.h"
 #include "support/Canvas.h"
 #include "support/OnBoard.h"
 #include "support/WindowTest.h"
-
-#include <string>
 
 // A header that lets a test see its state and paint its arrows.
 struct HeaderAccess : CCustomListCtrlHdr

@@ -4,8 +4,6 @@
 #include "lists/CheckRecords.h"
 #include "lists/list_box_for_tests.h"
 
-#include <algorithm>
-
 // A check list that lets a test see its records and its measures.
 class CheckListForTests : public BarsSeen<CCustomChecklistBox>
 {

@@ -3,8 +3,6 @@
 #include "CustomComboLBox.h"
 #include "CustomDropListCombo.h"
 #include "catalog/DialogTemplate.h"
-#include "support/Acts.h"
-#include "support/Fenced.h"
 #include "support/OnBoard.h"
 #include "support/WindowTest.h"
 

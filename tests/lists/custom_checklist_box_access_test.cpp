@@ -3,8 +3,6 @@
 #include "lists/check_list_for_tests.h"
 #include "support/Accessible.h"
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 
 using CheckListAccess = CheckListTest;
@@ -114,17 +112,4 @@ TEST_F(CheckListAccess, ChangesOfStateAreAnnounced)
     PumpAll();
     EXPECT_THAT(events.States(), ElementsAre(3, 2, 10, 1, 4));
     EXPECT_EQ(list.GetCheck(1), 0);
-}
-
-TEST_F(CheckListAccess, TheObjectOutlivesItsList)
-{
-    auto& list = AddList(3);
-    const Held<IAccessible> object = Reached(list);
-    const OnceTold end(Host(), CLBN_CHKCHANGE, [&] { list.DestroyWindow(); });
-    EXPECT_EQ(object->accDoDefaultAction(Child(1)), S_OK);
-    PumpAll();
-    EXPECT_EQ(list.GetSafeHwnd(), nullptr);
-    long count = 0;
-    EXPECT_EQ(object->get_accChildCount(&count), CO_E_OBJNOTCONNECTED);
-    EXPECT_EQ(object->accDoDefaultAction(Child(1)), CO_E_OBJNOTCONNECTED);
 }

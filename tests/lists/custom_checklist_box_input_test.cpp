@@ -2,8 +2,6 @@
 
 #include "lists/check_list_for_tests.h"
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 
 TEST_F(CheckListTest, AClickOnTheCheckChangesItAndOneBesideItOnlySelects)

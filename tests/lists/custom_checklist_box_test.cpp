@@ -2,10 +2,6 @@
 
 #include "lists/check_list_for_tests.h"
 
-#include <gmock/gmock.h>
-
-#include <climits>
-
 using testing::ElementsAre;
 
 // Checks and data -------------------------------------------------------------------------------
@@ -78,17 +74,13 @@ TEST_F(CheckListTest, AnOwnerMayUseTheListWhileItsItemsGo)
         list.SetItemData(row, DWORD_PTR(row) + 1);
     }
     std::vector<ULONG_PTR> deleted;
-    Host().AlsoRecord({WM_DELETEITEM});
-    Host().hook = [&](ToldMessage& told) {
-        if (told.message == WM_DELETEITEM)
-        {
-            const auto* item = reinterpret_cast<DELETEITEMSTRUCT*>(told.lParam);
-            deleted.push_back(item->itemData);
-            list.GetCheck(int(item->itemID));
-            list.GetItemData(0);
-            list.SetCheck(0, 1);
-        }
-    };
+    Host().OnMessage(WM_DELETEITEM, [&](ToldMessage& told) {
+        const auto* item = reinterpret_cast<DELETEITEMSTRUCT*>(told.lParam);
+        deleted.push_back(item->itemData);
+        list.GetCheck(int(item->itemID));
+        list.GetItemData(0);
+        list.SetCheck(0, 1);
+    });
     list.DeleteString(1);
     EXPECT_THAT(deleted, ElementsAre(2U));
     list.ResetContent();
@@ -178,14 +170,10 @@ TEST_F(CheckListTest, RowsAreHighEnoughInEveryModeAndKeepTheirChecks)
 
 TEST_F(CheckListTest, AParentThatMeasuresRowsMakesThemNoLowerAndTheyGetTheirBar)
 {
-    Host().AlsoRecord({WM_MEASUREITEM});
-    Host().hook = [](ToldMessage& told) {
-        if (told.message == WM_MEASUREITEM)
-        {
-            reinterpret_cast<MEASUREITEMSTRUCT*>(told.lParam)->itemHeight = 16;
-            told.answer = TRUE;
-        }
-    };
+    Host().OnMessage(WM_MEASUREITEM, [](ToldMessage& told) {
+        About<MEASUREITEMSTRUCT>(told).itemHeight = 16;
+        told.answer = TRUE;
+    });
     for (const APPMODE born : {STD, ONBOARD})
     {
         COnBoardUIGeneral::SetAppMode(born);

@@ -3,8 +3,6 @@
 #include "CustomChecklistBox.h"
 #include "lists/list_box_for_tests.h"
 
-#include <tuple>
-
 // Layout ----------------------------------------------------------------------------------------
 
 TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
@@ -107,15 +105,11 @@ TEST_F(ListBoxTest, DrawnRowsFollowTheMode)
 
 TEST_F(ListBoxTest, RowsThatTheFocusComesToAndLeavesHaveTheColorsOfTheirParent)
 {
-    Host().AlsoRecord({WM_CTLCOLORLISTBOX});
-    Host().hook = [](ToldMessage& told) {
-        if (told.message == WM_CTLCOLORLISTBOX)
-        {
-            ::SetBkColor(HDC(told.wParam), RGB(128, 128, 128));
-            ::SetTextColor(HDC(told.wParam), RGB(0, 0, 128));
-            told.answer = LRESULT(::GetStockObject(GRAY_BRUSH));
-        }
-    };
+    Host().OnMessage(WM_CTLCOLORLISTBOX, [](ToldMessage& told) {
+        ::SetBkColor(HDC(told.wParam), RGB(128, 128, 128));
+        ::SetTextColor(HDC(told.wParam), RGB(0, 0, 128));
+        told.answer = LRESULT(::GetStockObject(GRAY_BRUSH));
+    });
     class RedRows : public ListBoxForTests
     {
         void DrawItem(LPDRAWITEMSTRUCT draw) override

@@ -3,11 +3,6 @@
 #include "lists/combo_for_tests.h"
 #include "support/Scripted.h"
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
-#include <tuple>
-
 using testing::ElementsAre;
 using testing::IsEmpty;
 

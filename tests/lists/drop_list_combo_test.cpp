@@ -4,12 +4,6 @@
 #include "lists/ComboLayout.h"
 #include "lists/combo_for_tests.h"
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
-#include <tuple>
-#include <utility>
-
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -8,7 +8,6 @@
 #include "lists/check_list_for_tests.h"
 
 #include <cmath>
-#include <tuple>
 
 TEST_F(WindowTest, ControlsHaveTheTextSizesOfTheirKind)
 {

@@ -2,12 +2,9 @@
 
 #include "CustomListBox.h"
 #include "paint/Palette.h"
-#include "support/Acts.h"
 #include "support/Bars.h"
 #include "support/OnBoard.h"
 #include "support/WindowTest.h"
-
-#include <string>
 
 constexpr DWORD ListStyle = WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
 constexpr DWORD WideListStyle = ListStyle | WS_HSCROLL;

@@ -5,10 +5,8 @@
 #include "CustomPropSheet.h"
 #include "OnBoardUI.h"
 #include "modes/StandardFontHeight.h"
+#include "support/Acting.h"
 #include "support/WindowTest.h"
-
-#include <functional>
-#include <string>
 
 namespace {
 
@@ -39,12 +37,11 @@ protected:
 using Dialog = CCustomDialog;
 using Page = CCustomPropPage;
 using Sheet = CCustomPropSheet;
-struct View : CCustomFormView
+struct View : Standing<CCustomFormView>
 {
     View(UINT id, int)
-        : CCustomFormView(id)
+        : Standing(id)
     {}
-    void PostNcDestroy() override {} // the test owns it
 };
 
 class AppModeTest : public WindowTest

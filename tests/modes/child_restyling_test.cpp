@@ -4,14 +4,9 @@
 #include "CustomListCtrl.h"
 #include "FauxScrollBar.h"
 #include "OnBoardUI.h"
-#include "support/Acts.h"
 #include "support/WindowTest.h"
 
-#include <functional>
 #include <limits>
-#include <optional>
-#include <tuple>
-#include <utility>
 
 namespace {
 
@@ -432,10 +427,7 @@ TEST_F(ChildRestylingTest, ACombosHeightTakesInItsList)
 TEST_F(ChildRestylingTest, AnAttachedRichEditChangesItsDefaultCharacters)
 {
     auto& edit = Add<CRichEditCtrl>(CRect(10, 20, 210, 120), ES_MULTILINE);
-    CHARFORMAT format = {};
-    format.cbSize = sizeof(format);
-    format.dwMask = CFM_SIZE;
-    format.yHeight = 202;
+    CHARFORMAT format = {.cbSize = sizeof(format), .dwMask = CFM_SIZE, .yHeight = 202};
     edit.SetDefaultCharFormat(format);
     const std::tuple<double, APPMODE, const char*, LONG, bool> steps[] = {
         {Enlarging, ONBOARD, "Arial", 252, true}, // 252.5

@@ -4,9 +4,7 @@
 #include "support/AreaHost.h"
 #include "support/WindowTest.h"
 
-#include <algorithm>
 #include <cmath>
-#include <tuple>
 
 class PIUID // the host's own
 {};

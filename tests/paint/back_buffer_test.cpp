@@ -3,11 +3,6 @@
 #include "support/Canvas.h"
 #include "support/WindowTest.h"
 
-#include <gtest/gtest.h>
-
-#include <climits>
-#include <tuple>
-
 namespace {
 
 constexpr COLORREF Ink = RGB(10, 20, 30);

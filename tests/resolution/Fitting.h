@@ -9,10 +9,8 @@
 #include "support/Input.h"
 
 #include <afxcmn.h>
-#include <afxwin.h>
 
 #include <algorithm>
-#include <string>
 
 namespace fitting {
 

@@ -10,8 +10,6 @@
 
 #include <OnBoardUIGeneral.h>
 
-#include <gtest/gtest.h>
-
 namespace {
 
 // Smaller than it lets itself be made otherwise.
@@ -77,7 +75,6 @@ TEST_F(SmallGallery, SpaceOnItsCloseSwitchEndsIt)
     TypeKey(VK_RIGHT);
     TypeKey(VK_SPACE);
     EXPECT_FALSE(::IsWindow(m_window));
-    EXPECT_EQ(faults.Count(), 0);
 }
 
 TEST_F(SmallGallery, AKeyThatChoosesAnotherPageShowsItFromItsTop)

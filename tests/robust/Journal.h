@@ -3,21 +3,13 @@
 #include "robust/Subjects.h"
 #include "support/WindowTest.h"
 
-#include <afxcmn.h>
-
 #include <sstream>
-#include <string>
-#include <tuple>
 
 // An item of a tree by its text: handles differ.
 inline CString Named(HWND tree, HTREEITEM item)
 {
     char text[80] = "none";
-    TVITEM asked = {};
-    asked.mask = TVIF_TEXT;
-    asked.hItem = item;
-    asked.pszText = text;
-    asked.cchTextMax = sizeof(text);
+    TVITEM asked = {.mask = TVIF_TEXT, .hItem = item, .pszText = text, .cchTextMax = sizeof(text)};
     if (item != nullptr)
     {
         ::SendMessage(tree, TVM_GETITEM, 0, LPARAM(&asked));
@@ -106,11 +98,6 @@ inline std::string Essentials(const NMHDR& header)
                       named(change.itemNew.hItem), change.itemNew.lParam);
     }
     return within(TBN_FIRST, TBN_LAST) ? Joined(About<NMTOOLBAR>(header).iItem) : std::string();
-}
-
-template <class Record> const Record& About(const ToldMessage& told)
-{
-    return *reinterpret_cast<const Record*>(told.lParam);
 }
 
 // What a message to the host is about, as text.

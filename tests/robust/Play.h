@@ -4,21 +4,13 @@
 #include "robust/Watch.h"
 
 #include "CustomComboLBox.h"
-#include "OnBoardUIGeneral.h"
 #include "support/Repaint.h"
 
 #include <afxdlgs.h>
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
 
 // A play in which a parent ends a control, its sibling or itself inside something that it is told.
 

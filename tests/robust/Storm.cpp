@@ -1,6 +1,5 @@
 #include "robust/Storm.h"
 
-#include "OnBoardUIGeneral.h"
 #include "support/Accessible.h"
 
 #include <sstream>
@@ -193,7 +192,7 @@ void Storm::Use(CWnd& window, HWND target)
     {
         Note(WM_APP); // the log's word for a call, if there is any
     }
-    if (!called || !Act(window, m_arguments))
+    if (!called || !ActOn(window, m_arguments))
     {
         SendOne(target, own.empty() ? AnyWords : own);
     }

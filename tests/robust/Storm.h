@@ -2,7 +2,6 @@
 
 #include "robust/Subjects.h"
 #include "robust/Watch.h"
-#include "robust/Words.h"
 
 // A storm of messages on one window: whatever input, a parent, a host and the platform send it, in
 // any order, in any mode. The same seed gives the same storm.

@@ -4,7 +4,6 @@
 #include "trees/TreeLook.h"
 #include "trees/TreeSelection.h"
 
-#include <algorithm>
 #include <set>
 
 namespace {
@@ -196,7 +195,7 @@ HWND PartOf(CWnd& window)
     return list == nullptr ? nullptr : list->GetSafeHwnd();
 }
 
-bool Act(CWnd& window, Arguments& arguments)
+bool ActOn(CWnd& window, Arguments& arguments)
 {
     const auto color = [&] { return COLORREF(arguments.Value(Argument::Data, window)); };
     const auto work = [&](CCustomDropListCombo& combo) {

@@ -5,14 +5,9 @@
 #include "robust/Words.h"
 #include "support/Fenced.h"
 
-#include <gtest/gtest.h>
-
-#include <functional>
 #include <memory>
 #include <optional>
 #include <ostream>
-#include <string>
-#include <vector>
 
 // Every control and window of the library, as the tests of the whole take them: made by a host on a
 // parent, filled, and used by what is its own.
@@ -32,7 +27,7 @@ const std::vector<Subject>& Subjects();
 // For windows with bars of their own: empty, or what is wrong with its state.
 std::optional<std::string> FaultOf(CWnd& window);
 // One thing that a host does with it by its functions; whether there is any.
-bool Act(CWnd& window, Arguments& arguments);
+bool ActOn(CWnd& window, Arguments& arguments);
 // What a user and a host began and may leave going on is ended.
 void Rest(CWnd& window);
 // A window of it that is not among its children, or none.

@@ -4,12 +4,8 @@
 #include "support/Input.h"
 #include "support/MessageLog.h"
 
-#include <afxcmn.h>
-
 #include <cstdint>
 #include <random>
-#include <string>
-#include <vector>
 
 // What windows of each kind are sent and what they tell, for storms and deaths.
 

@@ -3,7 +3,6 @@
 // lives of each; ./soak does.
 
 #include "robust/Subjects.h"
-#include "support/LiveObjects.h"
 #include "support/WindowTest.h"
 
 #include <cstdlib>
@@ -31,7 +30,7 @@ protected:
         Arguments arguments(1);
         for (int act = 0; act < 8; ++act)
         {
-            Act(*window, arguments);
+            ActOn(*window, arguments);
         }
         Rest(*window);
         m_timers += EndTimers();

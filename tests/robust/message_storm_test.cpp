@@ -2,7 +2,6 @@
 // ./soak goes through many seeds, and one that failed is replayed by its own.
 
 #include "robust/Storm.h"
-#include "support/LiveObjects.h"
 #include "support/WindowTest.h"
 
 #include <cstdlib>

@@ -5,6 +5,13 @@
 #include <functional>
 #include <utility>
 
+// A view or a frame that does not delete itself: the test owns it.
+template <class Base> struct Standing : Base
+{
+    using Base::Base;
+    void PostNcDestroy() override {}
+};
+
 // A control on which the test acts once, inside the first message of a kind, or after so many of
 // them, before the control gets it. The control may end itself there.
 template <class Base> class Acting : public Base

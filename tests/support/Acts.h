@@ -2,7 +2,6 @@
 
 #include "support/HostWindow.h"
 
-#include <functional>
 #include <memory>
 #include <utility>
 

@@ -2,6 +2,8 @@
 
 #include <afxwin.h>
 
+#include <gtest/gtest.h>
+
 // An object whose memory cannot be touched any more once it is deleted: a test that does faults.
 template <class Base> struct Fenced : Base
 {
@@ -14,25 +16,25 @@ template <class Base> struct Fenced : Base
     static void operator delete(void* memory) { ::VirtualFree(memory, 0, MEM_RELEASE); }
 };
 
-// Counts the faults of memory access during its life: the platform passes over those that happen
-// while it delivers a message.
+// During its life a fault of memory access fails the test: the platform passes over those that
+// happen while it delivers a message.
 class AccessFaults
 {
 public:
-    AccessFaults() { s_count = 0; }
+    AccessFaults() = default;
     AccessFaults(const AccessFaults&) = delete;
     AccessFaults& operator=(const AccessFaults&) = delete;
     ~AccessFaults() { ::RemoveVectoredExceptionHandler(m_handler); }
 
-    int Count() const { return s_count; }
-
 private:
     static LONG CALLBACK See(EXCEPTION_POINTERS* exception)
     {
-        s_count += exception->ExceptionRecord->ExceptionCode == DWORD(EXCEPTION_ACCESS_VIOLATION);
+        if (exception->ExceptionRecord->ExceptionCode == DWORD(EXCEPTION_ACCESS_VIOLATION))
+        {
+            ADD_FAILURE() << "memory was touched that is not there";
+        }
         return EXCEPTION_CONTINUE_SEARCH;
     }
 
-    static inline int s_count = 0;
     void* m_handler = ::AddVectoredExceptionHandler(1, &See);
 };

@@ -19,6 +19,12 @@ struct ToldMessage
     std::optional<LRESULT> answer;
 };
 
+// What comes with a notification, or with a message that brings a record.
+template <class Record> Record& About(const ToldMessage& told)
+{
+    return *reinterpret_cast<Record*>(told.lParam);
+}
+
 // The window that a test puts its controls on: it writes down what it is told and can act on it.
 // No frame: client and window are the same 800 x 600 pixels at (100, 80) of the screen.
 class HostWindow : public CWnd
@@ -36,7 +42,19 @@ public:
 
     // Called inside each recorded message, before the host's own default: to destroy the sender,
     // to change the mode, to answer.
-    std::function<void(ToldMessage&)> hook;
+    using Hook = std::function<void(ToldMessage&)>;
+    Hook hook;
+    // The same, in notifications of one code only, or in one message, which is recorded from now
+    // on.
+    void OnCode(UINT code, const Hook& act)
+    {
+        hook = [=](ToldMessage& told) { told.code == code ? act(told) : void(); };
+    }
+    void OnMessage(UINT message, const Hook& act)
+    {
+        AlsoRecord({message});
+        hook = [=](ToldMessage& told) { told.message == message ? act(told) : void(); };
+    }
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

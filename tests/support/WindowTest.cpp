@@ -1,7 +1,5 @@
 #include "support/WindowTest.h"
 
-#include <algorithm>
-
 namespace {
 
 template <class Window> void ExpectEmpty(std::vector<Window*>& registry, const char* name)

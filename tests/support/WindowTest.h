@@ -1,22 +1,30 @@
 #pragma once
 
-#include "support/HostWindow.h"
+// Whatever most tests need: they include this one.
+
+#include "support/Acts.h"
+#include "support/Fenced.h"
 #include "support/Input.h"
 #include "support/LiveObjects.h"
 #include "support/MessageLog.h"
 #include "support/ModeScope.h"
-#include "support/Pumping.h"
 #include "support/Repaint.h"
 #include "support/Rows.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
+#include <algorithm>
+#include <climits>
+#include <functional>
 #include <memory>
+#include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 // A test with a host window and controls on it. Afterwards nothing may be left: no window, capture,
 // pressed button, registered window or WM_QUIT. What is left fails the test and is cleared away, so
-// that the next one begins clean, in the standard mode.
+// that the next one begins clean, in the standard mode. A fault of memory access fails it, too.
 class WindowTest : public testing::Test
 {
 protected:
@@ -66,6 +74,7 @@ protected:
     static constexpr UINT FirstId = 1000;
 
 private:
+    AccessFaults m_faults;
     std::unique_ptr<HostWindow> m_host;
     std::vector<std::unique_ptr<CWnd>> m_owned;
 };

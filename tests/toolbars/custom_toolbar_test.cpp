@@ -32,12 +32,11 @@ public:
 
     void Append(const Button& button)
     {
-        TBBUTTON made = {};
-        made.idCommand = int(button.id);
-        made.iBitmap = button.image;
-        made.fsStyle = button.style;
-        made.fsState = button.state;
-        made.iString = INT_PTR("Direct to");
+        TBBUTTON made = {.iBitmap = button.image,
+                         .idCommand = int(button.id),
+                         .fsState = button.state,
+                         .fsStyle = button.style,
+                         .iString = INT_PTR("Direct to")};
         SendMessage(TB_ADDBUTTONS, 1, LPARAM(&made));
     }
 

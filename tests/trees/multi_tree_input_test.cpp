@@ -1,7 +1,5 @@
 #include "trees/tree_for_tests.h"
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 
 namespace {
@@ -106,7 +104,7 @@ TEST_F(MultiTreeInputTest, TheKeyboardFocusSelectsNothing)
         if (message.code == UINT(TVN_SELCHANGED) && ItemOf(message) == a)
         {
             ++told;
-            selectedAsTold = reinterpret_cast<NMTREEVIEW*>(message.lParam)->itemNew.hItem == a;
+            selectedAsTold = About<NMTREEVIEW>(message).itemNew.hItem == a;
         }
     };
     for (const UINT key : {VK_CONTROL, VK_SHIFT})
@@ -183,12 +181,7 @@ TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
     EXPECT_EQ(CountOf(int(NM_CLICK)) + CountOf(int(TVN_BEGINDRAG)), 0);
 
     // The item goes between press and release; the click is told without it.
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(NM_CLICK))
-        {
-            EXPECT_EQ(ItemOf(told), nullptr);
-        }
-    };
+    Host().OnCode(NM_CLICK, [&](ToldMessage& told) { EXPECT_EQ(ItemOf(told), nullptr); });
     PressScript(PointOf(tree, d)).Do([&] { tree.DeleteItem(d); }).Release();
     EXPECT_EQ(CountOf(int(NM_CLICK)), 1);
     Host().hook = nullptr;

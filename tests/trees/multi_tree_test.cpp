@@ -1,7 +1,5 @@
 #include "trees/tree_for_tests.h"
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 
 namespace {
@@ -66,7 +64,7 @@ TEST_F(MultiTreeTest, EachStateChangeAsksAndTellsTheParent)
     Host().hook = [&](ToldMessage& told) {
         if (told.code == UINT(Changing) || told.code == UINT(Changed))
         {
-            const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
+            const auto& notify = About<NMTREEVIEW>(told);
             EXPECT_TRUE(tree.IsEmulatedNotify());
             EXPECT_EQ(ItemOf(told), d);
             EXPECT_EQ(notify.itemNew.lParam + notify.itemOld.lParam, 77);
@@ -118,13 +116,10 @@ TEST_F(MultiTreeTest, ARefusalLeavesEverythingAsItWasAndIsAskedForOnce)
     Host().Forget();
     std::string asked;
     std::vector<HTREEITEM> refused = {a, b, c, d, e, f};
-    Host().hook = [&](ToldMessage& told) {
-        if (told.code == UINT(TVN_SELCHANGING))
-        {
-            asked += tree.GetItemText(ItemOf(told))[0];
-            told.answer = std::ranges::count(refused, ItemOf(told)) > 0;
-        }
-    };
+    Host().OnCode(TVN_SELCHANGING, [&](ToldMessage& told) {
+        asked += tree.GetItemText(ItemOf(told))[0];
+        told.answer = std::ranges::count(refused, ItemOf(told)) > 0;
+    });
     EXPECT_FALSE(tree.SetItemState(d, TVIS_SELECTED, TVIS_SELECTED));
     EXPECT_FALSE(tree.SetItemState(b, 0, TVIS_SELECTED));
     EXPECT_FALSE(tree.SetItemState(e, Both, Both));

@@ -2,8 +2,6 @@
 
 #include "trees/tree_for_tests.h"
 
-#include <gmock/gmock.h>
-
 using testing::ElementsAre;
 using testing::IsEmpty;
 

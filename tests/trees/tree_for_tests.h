@@ -2,13 +2,7 @@
 
 #include "MultiTree.h"
 #include "modes/WindowAlive.h"
-#include "support/Acts.h"
-#include "support/Fenced.h"
 #include "support/WindowTest.h"
-
-#include <algorithm>
-#include <string>
-#include <tuple>
 
 constexpr DWORD TreeStyle = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
 constexpr UINT Both = TVIS_FOCUSED | TVIS_SELECTED;
@@ -93,7 +87,7 @@ inline CPoint PointOf(const CTreeCtrl& tree, HTREEITEM item)
 // The item that a notification of the tree is about.
 inline HTREEITEM ItemOf(const ToldMessage& told)
 {
-    const auto& notify = *reinterpret_cast<const NMTREEVIEW*>(told.lParam);
+    const auto& notify = About<NMTREEVIEW>(told);
     return notify.itemNew.hItem != nullptr ? notify.itemNew.hItem : notify.itemOld.hItem;
 }
 
@@ -176,17 +170,8 @@ class TreeTest : public WindowTest
 {
 protected:
     // Clicks that follow each other at once are single clicks here.
-    void SetUp() override
-    {
-        WindowTest::SetUp();
-        m_doubleClickTime = ::GetDoubleClickTime();
-        ::SetDoubleClickTime(1);
-    }
-    void TearDown() override
-    {
-        ::SetDoubleClickTime(m_doubleClickTime);
-        WindowTest::TearDown();
-    }
+    TreeTest() { ::SetDoubleClickTime(1); }
+    ~TreeTest() override { ::SetDoubleClickTime(0); } // the system's own
 
     // a (b c) d e f; the branch a is open.
     TreeForTests& AddTree()
@@ -237,13 +222,12 @@ protected:
             const int code = int(told.code);
             if (code == int(NM_RCLICK) || code == int(TVN_BEGINDRAG) || code == int(TVN_BEGINRDRAG))
             {
-                const auto& notify = *reinterpret_cast<NMTREEVIEW*>(told.lParam);
+                const auto& notify = About<NMTREEVIEW>(told);
                 EXPECT_EQ(notify.itemNew.hItem, item);
                 EXPECT_EQ(ClientPoint(tree, notify.ptDrag), point);
             }
         };
     }
 
-    UINT m_doubleClickTime = 0;
     HTREEITEM a = nullptr, b = nullptr, c = nullptr, d = nullptr, e = nullptr, f = nullptr;
 };

@@ -27,7 +27,6 @@ public:
     int FirstLine() { return int(m_text->SendMessage(EM_GETFIRSTVISIBLELINE)); }
     std::string Shown() { return TextOf(*m_text); }
 
-    using CZepMsgBoxDlg::GetStaticTextSize;
     using CZepMsgBoxDlg::m_area;
     using CZepMsgBoxDlg::m_buttons;
     using CZepMsgBoxDlg::m_captionHeight;
@@ -69,14 +68,6 @@ protected:
         return box.GetButtonPressed();
     }
 
-    void SetUp() override
-    {
-        CustomDialogTest::SetUp();
-        SetOnBoardAppTitle("Flight");
-    }
-    void TearDown() override
-    {
-        SetOnBoardAppTitle("");
-        CustomDialogTest::TearDown();
-    }
+    MessageBoxTest() { SetOnBoardAppTitle("Flight"); }
+    ~MessageBoxTest() override { SetOnBoardAppTitle(""); }
 };
