@@ -1,6 +1,7 @@
 #pragma once
 
 #include "robust/Journal.h"
+#include "support/Acting.h"
 
 // In the standard mode a control of the library is the platform's: one script gives the same
 // answers and tells the parent the same, in the same order, on both; also when the display has
@@ -54,8 +55,19 @@ protected:
         return journal.Text();
     }
 
+    // In each of the styles.
     template <class Ours, class Platforms, class Script>
-    void Compare(const char* windowClass, DWORD style, Script script)
+    void Compare(const char* windowClass, std::initializer_list<DWORD> styles, Script script)
+    {
+        for (const DWORD style : styles)
+        {
+            CompareIn<Ours, Platforms>(windowClass, style, script);
+        }
+    }
+
+private:
+    template <class Ours, class Platforms, class Script>
+    void CompareIn(const char* windowClass, DWORD style, Script script)
     {
         const std::string platforms = Played<Platforms>(windowClass, style, script, false, false);
         EXPECT_NE(platforms, "");

@@ -4,15 +4,9 @@
 #include "robust/Subjects.h"
 #include "robust/Watch.h"
 #include "support/Accessible.h"
-#include "support/Input.h"
-#include "support/WindowTest.h"
 
 #include "CustomButton.h"
 #include "OnBoardUI.h"
-
-#include <afxcmn.h>
-
-#include <algorithm>
 
 namespace {
 
@@ -87,6 +81,15 @@ protected:
             ::SetWindowSubclass(part, &OwnDeath::PartProcedure, 0, 0);
         }
         return TRUE;
+    }
+
+    // Not in the standard mode, where it is the platform that works for the parts.
+    static void HearParts(HWND window, APPMODE mode)
+    {
+        if (mode != STD)
+        {
+            ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
+        }
     }
 
     static LRESULT CALLBACK PartProcedure(HWND part, UINT message, WPARAM wParam, LPARAM lParam,
@@ -234,7 +237,7 @@ protected:
     // because of that does not come without an end either.
     template <class Act>
     void GiveAll(const Subject& subject, APPMODE mode, const std::string& what, Act act,
-                 bool making = false)
+                 bool making)
     {
         const std::string title =
             subject.name + (" in mode " + std::to_string(int(mode))) + ", " + what;
@@ -253,74 +256,59 @@ protected:
             EXPECT_TRUE(ended || !Comes(word, subject, mode, title, act, making)) << title << end;
         }
     }
+
+    // Of every subject in both kinds of modes.
+    template <class Act> void GiveAllOfAll(const std::string& what, Act act, bool making = false)
+    {
+        for (const Subject& subject : Subjects())
+        {
+            for (const APPMODE mode : {STD, EFB})
+            {
+                const auto inMode = [=](HWND window) { act(window, mode); };
+                GiveAll(subject, mode, what, inMode, making);
+            }
+        }
+    }
 };
 
 TEST_F(OwnDeath, WhileItIsMadeDoesNoHarm)
 {
-    for (const Subject& subject : Subjects())
-    {
-        for (const APPMODE mode : {STD, EFB})
-        {
-            GiveAll(
-                subject, mode, "made", [](HWND) {}, true);
-        }
-    }
+    GiveAllOfAll(
+        "made", [](HWND, APPMODE) {}, true);
 }
 
 TEST_F(OwnDeath, DuringAChangeOfTheModeDoesNoHarm)
 {
-    for (const Subject& subject : Subjects())
-    {
-        for (const auto& [from, to] : {std::pair(STD, EFB), {EFB, STD}})
-        {
-            GiveAll(subject, from, "changing", [this, to = to](HWND window) {
-                COnBoardUIGeneral::SetAppMode(to);
-                ModifyChildWndsData change;
-                change.parent = Host();
-                change.scale = to == STD ? 1 / 1.25 : 1.25;
-                change.mode = to;
-                ::EnumChildWindows(Host(), &ModifyChildsForAppMode,
-                                   reinterpret_cast<LPARAM>(&change));
-                ::SendMessage(window, WM_NCHITTEST, 0, 0); // by which many notice
-            });
-        }
-    }
+    GiveAllOfAll("changing", [this](HWND window, APPMODE from) {
+        COnBoardUIGeneral::SetAppMode(from == STD ? EFB : STD);
+        ModifyChildWndsData change;
+        change.parent = Host();
+        change.scale = from == STD ? 1.25 : 1 / 1.25;
+        change.mode = COnBoardUIGeneral::GetAppMode();
+        ::EnumChildWindows(Host(), &ModifyChildsForAppMode, reinterpret_cast<LPARAM>(&change));
+        ::SendMessage(window, WM_NCHITTEST, 0, 0); // by which many notice
+    });
 }
 
 TEST_F(OwnDeath, DuringARepaintDoesNoHarm)
 {
-    for (const Subject& subject : Subjects())
-    {
-        for (const APPMODE mode : {STD, EFB})
+    GiveAllOfAll("painting", [this](HWND window, APPMODE mode) {
+        HearParts(window, mode);
+        Repaint(window);
+        if (dynamic_cast<CListBox*>(m_window.get()) != nullptr)
         {
-            GiveAll(subject, mode, "painting", [=, this](HWND window) {
-                if (mode != STD) // where it is the platform that works for the parts
-                {
-                    ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
-                }
-                Repaint(window);
-                if (dynamic_cast<CListBox*>(m_window.get()) != nullptr)
-                {
-                    HaveRowDrawn(window);
-                }
-            });
+            HaveRowDrawn(window);
         }
-    }
+    });
 }
 
 TEST_F(OwnDeath, WhileItIsAskedDoesNoHarm)
 {
-    for (const Subject& subject : Subjects())
-    {
-        for (const APPMODE mode : {STD, EFB})
-        {
-            GiveAll(subject, mode, "asked", [this](HWND window) {
-                ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
-                AskAll(window);
-                PumpAll(); // what is done is posted
-            });
-        }
-    }
+    GiveAllOfAll("asked", [this](HWND window, APPMODE) {
+        HearParts(window, EFB);
+        AskAll(window);
+        PumpAll(); // what is done is posted
+    });
 }
 
 TEST_F(OwnDeath, DuringInputDoesNoHarm)
@@ -349,23 +337,14 @@ TEST_F(OwnDeath, DuringInputDoesNoHarm)
              }
          }},
     };
-    for (const Subject& subject : Subjects())
+    for (const auto& [name, use] : uses)
     {
-        for (const APPMODE mode : {STD, EFB})
-        {
-            for (const auto& [name, use] : uses)
-            {
-                GiveAll(subject, mode, name, [mode, use = use](HWND window) {
-                    if (mode != STD)
-                    {
-                        ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
-                    }
-                    ::SetFocus(window);
-                    use(window, WindowRectOf(window));
-                    RestPointer();
-                });
-            }
-        }
+        GiveAllOfAll(name, [use = use](HWND window, APPMODE mode) {
+            HearParts(window, mode);
+            ::SetFocus(window);
+            use(window, WindowRectOf(window));
+            RestPointer();
+        });
     }
 }
 

@@ -68,10 +68,9 @@ void Pick(CListBox& list, Journal& journal)
 CString Heading(const CHeaderCtrl& header, int column)
 {
     char text[40] = "";
-    HDITEM item = {};
-    item.mask = HDI_TEXT | HDI_WIDTH | HDI_ORDER | HDI_FORMAT;
-    item.pszText = text;
-    item.cchTextMax = sizeof(text);
+    HDITEM item = {.mask = HDI_TEXT | HDI_WIDTH | HDI_ORDER | HDI_FORMAT,
+                   .pszText = text,
+                   .cchTextMax = sizeof(text)};
     const BOOL there = header.GetItem(column, &item);
     CRect place;
     header.GetItemRect(column, &place);
@@ -98,16 +97,13 @@ void Columns(CHeaderCtrl& header, Journal& journal)
 {
     for (const char* const title : {"Name", "Kind", "Course"})
     {
-        HDITEM item = {};
-        item.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT;
-        item.pszText = const_cast<char*>(title);
-        item.cxy = 80;
-        item.fmt = HDF_STRING | HDF_RIGHT;
+        HDITEM item = {.mask = HDI_TEXT | HDI_WIDTH | HDI_FORMAT,
+                       .cxy = 80,
+                       .pszText = const_cast<char*>(title),
+                       .fmt = HDF_STRING | HDF_RIGHT};
         ASK(header.InsertItem(9, &item));
     }
-    HDITEM narrow = {};
-    narrow.mask = HDI_WIDTH;
-    narrow.cxy = 60;
+    HDITEM narrow = {.mask = HDI_WIDTH, .cxy = 60};
     int order[] = {2, 0, 1};
     HDHITTESTINFO hit = {CPoint(82, 8), 0, 0};
     ASK(header.SetItem(1, &narrow), header.SetItem(7, &narrow), header.SetOrderArray(3, order),
@@ -130,10 +126,8 @@ void Report(CListCtrl& list, Journal& journal)
 {
     for (const char* const column : {"Name", "Kind", "Course"})
     {
-        LVCOLUMN inserted = {};
-        inserted.mask = LVCF_TEXT | LVCF_WIDTH;
-        inserted.pszText = const_cast<char*>(column);
-        inserted.cx = 70;
+        LVCOLUMN inserted = {
+            .mask = LVCF_TEXT | LVCF_WIDTH, .cx = 70, .pszText = const_cast<char*>(column)};
         ASK(list.InsertColumn(9, &inserted));
     }
     for (const char* const text : {"EDDF", "LSZH", "KJFK", "EGLL"})
@@ -142,9 +136,7 @@ void Report(CListCtrl& list, Journal& journal)
     }
     ASK(list.InsertItem(-5, "none"), list.SetItemText(1, 1, "Airport"),
         list.SetItemText(77, 1, "none"), list.SetItemData(2, 42), list.GetItemCount());
-    LVFINDINFO find = {};
-    find.flags = LVFI_STRING;
-    find.psz = "LSZH";
+    LVFINDINFO find = {.flags = LVFI_STRING, .psz = "LSZH"};
     ASK(list.FindItem(&find), list.FindItem(&find, 3),
         list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED),
         list.GetSelectedCount(), journal.Middle(), list.GetNextItem(-1, LVNI_SELECTED),
@@ -258,13 +250,13 @@ void DrawForThem(ToldMessage& told)
 {
     if (told.message == WM_MEASUREITEM)
     {
-        auto& row = *reinterpret_cast<MEASUREITEMSTRUCT*>(told.lParam);
+        auto& row = About<MEASUREITEMSTRUCT>(told);
         row.itemHeight = 14 + row.itemID % 3;
         told.answer = TRUE;
     }
     else if (told.message == WM_COMPAREITEM)
     {
-        told.answer = InOrder(*reinterpret_cast<const COMPAREITEMSTRUCT*>(told.lParam));
+        told.answer = InOrder(About<COMPAREITEMSTRUCT>(told));
     }
     else if (told.message == WM_DRAWITEM)
     {
@@ -274,23 +266,21 @@ void DrawForThem(ToldMessage& told)
 
 TEST_F(Parity, ListBoxes)
 {
-    constexpr DWORD Common = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL;
-    for (const DWORD style :
-         {DWORD(0), DWORD(LBS_SORT), DWORD(LBS_MULTIPLESEL), DWORD(LBS_EXTENDEDSEL),
-          DWORD(WS_HSCROLL), DWORD(LBS_MULTICOLUMN | WS_HSCROLL), DWORD(LBS_WANTKEYBOARDINPUT)})
-    {
-        Compare<CCustomListBox, CListBox>("LISTBOX", Common | style, &Pick);
-    }
-    const auto drawnByHost = [](CListBox& list, Journal& journal) {
-        journal.answer = &DrawForThem;
-        Pick(list, journal);
-    };
-    for (const DWORD style :
-         {LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, LBS_OWNERDRAWFIXED | LBS_SORT, LBS_OWNERDRAWVARIABLE,
-          LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS | LBS_EXTENDEDSEL})
-    {
-        Compare<CCustomListBox, CListBox>("LISTBOX", Common | style, drawnByHost);
-    }
+    constexpr DWORD Plain = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL;
+    Compare<CCustomListBox, CListBox>(
+        "LISTBOX",
+        {Plain, Plain | LBS_SORT, Plain | LBS_MULTIPLESEL, Plain | LBS_EXTENDEDSEL,
+         Plain | WS_HSCROLL, Plain | LBS_MULTICOLUMN | WS_HSCROLL, Plain | LBS_WANTKEYBOARDINPUT},
+        &Pick);
+    Compare<CCustomListBox, CListBox>(
+        "LISTBOX",
+        {Plain | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, Plain | LBS_OWNERDRAWFIXED | LBS_SORT,
+         Plain | LBS_OWNERDRAWVARIABLE,
+         Plain | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS | LBS_EXTENDEDSEL},
+        [](CListBox& list, Journal& journal) {
+            journal.answer = &DrawForThem;
+            Pick(list, journal);
+        });
 }
 
 // Rows as high as those of the check list.
@@ -325,36 +315,27 @@ private:
 
 TEST_F(Parity, CheckLists)
 {
-    constexpr DWORD Style = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | LBS_OWNERDRAWFIXED;
-    for (const DWORD style : {LBS_HASSTRINGS, LBS_HASSTRINGS | LBS_SORT,
-                              LBS_HASSTRINGS | LBS_EXTENDEDSEL, 0L, LBS_SORT})
-    {
-        Compare<Checked, DrawnRows>("LISTBOX", Style | style, &Pick);
-    }
+    constexpr DWORD Values = LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | LBS_OWNERDRAWFIXED;
+    constexpr DWORD Texts = Values | LBS_HASSTRINGS;
+    Compare<Checked, DrawnRows>(
+        "LISTBOX", {Texts, Texts | LBS_SORT, Texts | LBS_EXTENDEDSEL, Values, Values | LBS_SORT},
+        &Pick);
 }
 
 TEST_F(Parity, Reports)
 {
-    for (const DWORD style : {DWORD(LVS_SHOWSELALWAYS), DWORD(LVS_SINGLESEL | LVS_SORTASCENDING)})
-    {
-        Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, LVS_REPORT | style, &Report);
-    }
-    Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, LVS_REPORT | LVS_EDITLABELS, &RenameRow);
+    Compare<CCustomListCtrl, CListCtrl>(
+        WC_LISTVIEW,
+        {LVS_REPORT | LVS_SHOWSELALWAYS, LVS_REPORT | LVS_SINGLESEL | LVS_SORTASCENDING}, &Report);
+    Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, {LVS_REPORT | LVS_EDITLABELS}, &RenameRow);
     Compare<CCustomListCtrlHdr, CHeaderCtrl>(
-        WC_HEADER, HDS_HORZ | HDS_BUTTONS | HDS_FULLDRAG | HDS_DRAGDROP, &Columns);
-    Compare<CCustomListCtrlHdr, CHeaderCtrl>(WC_HEADER, HDS_HORZ, &Columns);
+        WC_HEADER, {HDS_HORZ | HDS_BUTTONS | HDS_FULLDRAG | HDS_DRAGDROP, HDS_HORZ}, &Columns);
 }
 
 // A tree of many selections has keys and presses of its own.
 struct SingleTree : MultiTree
 {
     SingleTree() { SetMultiSelect(false); }
-};
-
-// Views delete themselves; the script's stands where every control does.
-template <class View> class Standing : public View
-{
-    void PostNcDestroy() override {}
 };
 
 struct SingleView : Standing<MultiTreeView>
@@ -364,14 +345,15 @@ struct SingleView : Standing<MultiTreeView>
 
 TEST_F(Parity, Trees)
 {
-    constexpr DWORD Style = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
-    Compare<SingleTree, CTreeCtrl>(WC_TREEVIEW, Style, &Branch);
-    Compare<SingleTree, CTreeCtrl>(WC_TREEVIEW, Style | TVS_EDITLABELS, &RenameItem);
-    Compare<MultiTree, CTreeCtrl>(WC_TREEVIEW, Style | TVS_EDITLABELS, &RenameItem);
+    constexpr DWORD Plain = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
+    constexpr DWORD Labels = Plain | TVS_EDITLABELS;
+    Compare<SingleTree, CTreeCtrl>(WC_TREEVIEW, {Plain}, &Branch);
+    Compare<SingleTree, CTreeCtrl>(WC_TREEVIEW, {Labels}, &RenameItem);
+    Compare<MultiTree, CTreeCtrl>(WC_TREEVIEW, {Labels}, &RenameItem);
     for (const auto script : {&Branch, &RenameItem})
     {
         Compare<SingleView, Standing<CTreeView>>(
-            WC_TREEVIEW, Style | TVS_EDITLABELS,
+            WC_TREEVIEW, {Labels},
             [=](CTreeView& view, Journal& journal) { script(view.GetTreeCtrl(), journal); });
     }
 }

@@ -100,17 +100,13 @@ void Order(CToolBar& bar, Journal& journal)
     ASK(bar.SendMessage(TB_ADDSTRING, 0, LPARAM("Chart\0Plate\0")));
     for (int id = 1; id <= 4; ++id)
     {
-        TBBUTTON button = {};
-        button.idCommand = id;
-        button.fsState = TBSTATE_ENABLED;
-        button.fsStyle = id == 3 ? BTNS_CHECK : BTNS_BUTTON;
-        button.iString = id % 2;
+        TBBUTTON button = {.idCommand = id,
+                           .fsState = TBSTATE_ENABLED,
+                           .fsStyle = BYTE(id == 3 ? BTNS_CHECK : BTNS_BUTTON),
+                           .iString = id % 2};
         ASK(bar.SendMessage(TB_ADDBUTTONS, 1, LPARAM(&button)));
     }
-    TBBUTTON inserted = {};
-    inserted.idCommand = 9;
-    inserted.fsState = TBSTATE_ENABLED;
-    inserted.iString = INT_PTR("Own");
+    TBBUTTON inserted = {.idCommand = 9, .fsState = TBSTATE_ENABLED, .iString = INT_PTR("Own")};
     ASK(bar.SendMessage(TB_BUTTONCOUNT), bar.CommandToIndex(3),
         bar.SendMessage(TB_CHECKBUTTON, 3, TRUE), bar.SendMessage(TB_ENABLEBUTTON, 2, FALSE),
         bar.SendMessage(TB_HIDEBUTTON, 99, TRUE),
@@ -145,11 +141,11 @@ void Panes(CStatusBarCtrl& bar, Journal& journal)
 
 TEST_F(Parity, Buttons)
 {
-    Compare<CCustomPushbutton, CButton>("BUTTON", BS_PUSHBUTTON | BS_NOTIFY, &PressAndCheck);
-    Compare<CCustomPushbutton, CButton>("BUTTON", BS_DEFPUSHBUTTON, &PressAndCheck);
-    Compare<CCustomCheckBox, CButton>("BUTTON", BS_AUTOCHECKBOX | BS_NOTIFY, &PressAndCheck);
-    Compare<CCustomCheckBox, CButton>("BUTTON", BS_CHECKBOX, &PressAndCheck);
-    Compare<CCustomRadiobutton, CButton>("BUTTON", BS_AUTORADIOBUTTON | WS_GROUP, &PressAndCheck);
+    Compare<CCustomPushbutton, CButton>("BUTTON", {BS_PUSHBUTTON | BS_NOTIFY, BS_DEFPUSHBUTTON},
+                                        &PressAndCheck);
+    Compare<CCustomCheckBox, CButton>("BUTTON", {BS_AUTOCHECKBOX | BS_NOTIFY, BS_CHECKBOX},
+                                      &PressAndCheck);
+    Compare<CCustomRadiobutton, CButton>("BUTTON", {BS_AUTORADIOBUTTON | WS_GROUP}, &PressAndCheck);
 }
 
 TEST_F(Parity, RadioGroups)
@@ -158,11 +154,8 @@ TEST_F(Parity, RadioGroups)
         constexpr bool Ours = std::is_same_v<Radio, CCustomRadiobutton>;
         Group<Radio, std::conditional_t<Ours, CCustomStatic, CStatic>>(first, journal);
     };
-    for (const DWORD head : {DWORD(WS_GROUP), DWORD(0)})
-    {
-        Compare<CCustomRadiobutton, CButton>("BUTTON", BS_AUTORADIOBUTTON | BS_NOTIFY | head,
-                                             script);
-    }
+    constexpr DWORD Plain = BS_AUTORADIOBUTTON | BS_NOTIFY;
+    Compare<CCustomRadiobutton, CButton>("BUTTON", {Plain | WS_GROUP, Plain}, script);
 }
 
 struct Swatch : CColorStatic
@@ -172,12 +165,11 @@ struct Swatch : CColorStatic
 
 TEST_F(Parity, Labels)
 {
-    Compare<CCustomStatic, CStatic>("STATIC", SS_NOTIFY, &Label);
-    Compare<CCustomStatic, CStatic>("STATIC", SS_NOTIFY | SS_ICON, &Label);
-    Compare<CCustomStatic, CStatic>("BUTTON", BS_GROUPBOX | BS_NOTIFY, &Label);
-    Compare<CBoldStatic, CStatic>("STATIC", SS_NOTIFY, &Label);
-    Compare<Swatch, CStatic>("STATIC", SS_NOTIFY, &Label);
-    Compare<CColoredGroupBox, CStatic>("STATIC", SS_NOTIFY, &Label);
+    Compare<CCustomStatic, CStatic>("STATIC", {SS_NOTIFY, SS_NOTIFY | SS_ICON}, &Label);
+    Compare<CCustomStatic, CStatic>("BUTTON", {BS_GROUPBOX | BS_NOTIFY}, &Label);
+    Compare<CBoldStatic, CStatic>("STATIC", {SS_NOTIFY}, &Label);
+    Compare<Swatch, CStatic>("STATIC", {SS_NOTIFY}, &Label);
+    Compare<CColoredGroupBox, CStatic>("STATIC", {SS_NOTIFY}, &Label);
 }
 
 struct Fixed : QuixEdit
@@ -187,23 +179,20 @@ struct Fixed : QuixEdit
 
 TEST_F(Parity, Edits)
 {
-    for (const DWORD style : {DWORD(ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL),
-                              DWORD(ES_MULTILINE), DWORD(ES_AUTOHSCROLL)})
-    {
-        Compare<CCustomEdit, CEdit>("EDIT", style, &Write);
-    }
-    Compare<ColorEdit, CEdit>("EDIT", ES_AUTOHSCROLL, &Write);
+    Compare<CCustomEdit, CEdit>(
+        "EDIT", {ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL, ES_MULTILINE, ES_AUTOHSCROLL}, &Write);
+    Compare<ColorEdit, CEdit>("EDIT", {ES_AUTOHSCROLL}, &Write);
     // Its prompt, of which the platform knows nothing, goes with the script's first text.
-    Compare<EditWithPrompt, CEdit>("EDIT", ES_AUTOHSCROLL, &Write);
-    Compare<Fixed, CEdit>("EDIT", ES_AUTOHSCROLL, &Write);
+    Compare<EditWithPrompt, CEdit>("EDIT", {ES_AUTOHSCROLL}, &Write);
+    Compare<Fixed, CEdit>("EDIT", {ES_AUTOHSCROLL}, &Write);
 }
 
 TEST_F(Parity, Bars)
 {
     constexpr DWORD Still = CCS_NOPARENTALIGN | CCS_NORESIZE | CCS_NODIVIDER;
-    Compare<CCustomStatusBar, CStatusBarCtrl>(STATUSCLASSNAME, Still, &Panes);
-    Compare<CSearchStatusBar, CStatusBarCtrl>(STATUSCLASSNAME, Still, &Panes);
-    Compare<CustomToolbar, CToolBar>(TOOLBARCLASSNAME, Still | TBSTYLE_FLAT, &Order);
+    Compare<CCustomStatusBar, CStatusBarCtrl>(STATUSCLASSNAME, {Still}, &Panes);
+    Compare<CSearchStatusBar, CStatusBarCtrl>(STATUSCLASSNAME, {Still}, &Panes);
+    Compare<CustomToolbar, CToolBar>(TOOLBARCLASSNAME, {Still | TBSTYLE_FLAT}, &Order);
 }
 
 // The combo is a window of the library's own; its items answer as the platform's do.
