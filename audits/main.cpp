@@ -10,13 +10,13 @@
 // What misses its mark is marked "below", with the reason if it is known to. The exit code is 1
 // when something else does, or when what is known has become worse, 2 for a wrong call.
 
-#include "Access.h"
 #include "Contrast.h"
 #include "KnownShortfalls.h"
 #include "OnBoardUIGeneral.h"
 #include "Shown.h"
 #include "States.h"
 #include "Targets.h"
+#include "catalog/Accessible.h"
 #include "catalog/Controls.h"
 
 #include <afxcmn.h>
@@ -141,12 +141,18 @@ void PrintContrast(APPMODE mode, const Control& control, const State& state)
 
 void PrintAnswers(APPMODE mode, const std::string& name, const CWnd& window, const char* focus)
 {
-    const Answers answers = AskWindow(window);
-    const bool isSilent = answers.role.empty() || answers.role == "client" || answers.name.empty();
-    const std::string value = answers.value.substr(0, answers.value.find_first_of("\r\n"));
-    std::printf("%-11s %-34s %s \"%s\" \"%s\" %lX%s%s\n", APPMODE_NAMES[mode], name.c_str(),
-                answers.role.c_str(), answers.name.c_str(), value.c_str(),
-                (unsigned long)answers.state, focus, Verdict(isSilent, 0, nullptr).c_str());
+    const Answers answers(*Reached(window), CHILDID_SELF);
+    const auto given = [](const std::string& text) {
+        return text == "(none)" || text == "(error)" ? ""
+                                                     : text.substr(0, text.find_first_of("\r\n"));
+    };
+    const std::string itsName = given(answers.name);
+    char role[60] = "";
+    ::GetRoleText(DWORD(answers.role), role, sizeof(role));
+    const bool isSilent = answers.role <= ROLE_SYSTEM_CLIENT || itsName.empty();
+    std::printf("%-11s %-34s %s \"%s\" \"%s\" %lX%s%s\n", APPMODE_NAMES[mode], name.c_str(), role,
+                itsName.c_str(), given(answers.value).c_str(), (unsigned long)answers.state, focus,
+                Verdict(isSilent, 0, nullptr).c_str());
 }
 
 // What an assistive program is told of the control and of the windows within it, and whether one

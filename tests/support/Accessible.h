@@ -1,88 +1,24 @@
 #pragma once
 
-// Reaches windows as an assistive program does: through the platform's accessibility interface.
+// What an assistive program asks of windows and hears of them.
 
+#include "catalog/Accessible.h"
 #include "support/OnBoard.h"
 #include "support/WindowTest.h"
 
-#include <afxwin.h>
-
-#include <oleacc.h>
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <memory>
-#include <string>
-#include <vector>
-
-struct Releaser
-{
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class Interface> using Held = std::unique_ptr<Interface, Releaser>;
-
-inline Held<IAccessible> Reached(HWND window)
-{
-    static const HRESULT ready = ::CoInitialize(nullptr);
-    EXPECT_TRUE(SUCCEEDED(ready));
-    IAccessible* reached = nullptr;
-    const HRESULT result = ::AccessibleObjectFromWindow(
-        window, DWORD(OBJID_CLIENT), IID_IAccessible, reinterpret_cast<void**>(&reached));
-    EXPECT_EQ(result, S_OK);
-    return Held<IAccessible>(reached);
-}
-
-inline VARIANT Child(long id)
-{
-    VARIANT child = {};
-    child.vt = VT_I4;
-    child.lVal = id;
-    return child;
-}
-
-inline std::string Taken(BSTR text)
-{
-    const std::wstring wide(text != nullptr ? text : L"(none)");
-    ::SysFreeString(text);
-    return std::string(wide.begin(), wide.end());
-}
-
-// What an assistive program reads of a window or a row. Where it is refused, -1 and "(error)".
-struct Read
+// Of the states those that the library tells, and FOCUSABLE where it is odd: what is disabled.
+struct Read : Answers
 {
     Read(IAccessible& object, long child)
+        : Answers(object, child)
     {
-        VARIANT number = {};
-        role = SUCCEEDED(object.get_accRole(Child(child), &number)) ? number.lVal : -1;
-        if (SUCCEEDED(object.get_accState(Child(child), &number)))
-        {
-            state = number.lVal &
-                    (STATE_SYSTEM_CHECKED | STATE_SYSTEM_MIXED | STATE_SYSTEM_UNAVAILABLE |
-                     STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN |
-                     STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_READONLY |
-                     STATE_SYSTEM_PRESSED);
-            if ((state & STATE_SYSTEM_UNAVAILABLE) != 0)
-            {
-                state |= number.lVal & STATE_SYSTEM_FOCUSABLE; // which is odd then
-            }
-        }
-        const auto text = [&](auto get) {
-            BSTR given = nullptr;
-            return SUCCEEDED((object.*get)(Child(child), &given)) ? Taken(given) : "(error)";
-        };
-        name = text(&IAccessible::get_accName);
-        action = text(&IAccessible::get_accDefaultAction);
-        value = text(&IAccessible::get_accValue);
-        description = text(&IAccessible::get_accDescription);
+        const long odd = (state & STATE_SYSTEM_UNAVAILABLE) != 0 ? STATE_SYSTEM_FOCUSABLE : 0;
+        const long told = STATE_SYSTEM_CHECKED | STATE_SYSTEM_MIXED | STATE_SYSTEM_UNAVAILABLE |
+                          STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN |
+                          STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_READONLY |
+                          STATE_SYSTEM_PRESSED | odd;
+        state = state == -1 ? -1 : state & told;
     }
-
-    long role = -1;
-    long state = -1;
-    std::string name;
-    std::string action;
-    std::string value;
-    std::string description;
 };
 
 // Where it says that a child is, on the screen; empty where it is refused.
