@@ -1,8 +1,7 @@
 #pragma once
 
+#include "support/RunningProgram.h"
 #include "support/WindowTest.h"
-
-#include <string>
 
 // The gallery's program, from beside the tests'.
 inline std::string GalleryCommand(const std::string& arguments)
@@ -15,54 +14,20 @@ inline std::string GalleryCommand(const std::string& arguments)
 
 constexpr const char* Title = "OnBoardUI Gallery";
 
-// Ended with the object.
-class RunningGallery
+class RunningGallery : public RunningProgram
 {
 public:
     explicit RunningGallery(const std::string& arguments)
-    {
-        std::string command = GalleryCommand(arguments);
-        STARTUPINFO start = {};
-        start.cb = sizeof(start);
-        PROCESS_INFORMATION made = {};
-        if (::CreateProcess(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                            &start, &made))
-        {
-            m_process = made.hProcess;
-            m_id = made.dwProcessId;
-            ::CloseHandle(made.hThread);
-        }
-    }
-    RunningGallery(const RunningGallery&) = delete;
-    RunningGallery& operator=(const RunningGallery&) = delete;
-    ~RunningGallery()
-    {
-        ::TerminateProcess(m_process, 0);
-        ::WaitForSingleObject(m_process, 5000);
-        ::CloseHandle(m_process);
-    }
+        : RunningProgram(GalleryCommand(arguments))
+    {}
 
-    // Its first visible top-level window with that text, once there is one.
+    // Once there is one.
     HWND Window(const char* title) const
     {
         HWND found = nullptr;
-        PumpUntil(
-            [&] {
-                DWORD process = 0;
-                do
-                {
-                    found = ::FindWindowEx(nullptr, found, nullptr, title);
-                    ::GetWindowThreadProcessId(found, &process);
-                } while (found != nullptr && (process != m_id || !::IsWindowVisible(found)));
-                return found != nullptr;
-            },
-            20000);
+        PumpUntil([&] { return (found = RunningProgram::Window(title)) != nullptr; }, 20000);
         return found;
     }
-
-private:
-    HANDLE m_process = nullptr;
-    DWORD m_id = 0;
 };
 
 // A visible window on a page of its frame, of that class and with that text, or the page that is

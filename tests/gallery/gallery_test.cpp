@@ -2,12 +2,9 @@
 // its on-screen keyboard and its command line.
 
 #include "gallery/RunningGallery.h"
-#include "support/WindowTest.h"
 #include "support_libs/text_file.h"
 
-#include <fstream>
 #include <iterator>
-#include <tuple>
 
 namespace {
 

@@ -1,10 +1,8 @@
 // The first example, run by itself and seen from outside: package_tests HOST.
 
-#include <windows.h>
+#include "support/RunningProgram.h"
 
 #include <gtest/gtest.h>
-
-#include <string>
 
 namespace {
 
@@ -15,64 +13,17 @@ constexpr int ModeButtonId = IDOK;
 constexpr int CloseButtonId = IDCANCEL;
 constexpr int Rounding = 2; // pixels that scaling up and down again may cost
 
-// The host's process; ended with the object if it has not ended by then.
-class Host
+// Its window once that is shown; null when it does not come or the host ends before.
+HWND WindowOf(const RunningProgram& host)
 {
-public:
-    Host()
+    constexpr int Looks = 1000;
+    HWND window = nullptr;
+    for (int look = 0; look < Looks && window == nullptr && !host.EndsWithin(20); ++look)
     {
-        STARTUPINFO startup = {};
-        startup.cb = sizeof startup;
-        std::string commandLine = '"' + hostProgram + '"';
-        ::CreateProcess(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                        &startup, &m_process);
+        window = host.Window("First host");
     }
-    Host(const Host&) = delete;
-    Host& operator=(const Host&) = delete;
-    ~Host()
-    {
-        if (Started())
-        {
-            ::TerminateProcess(m_process.hProcess, 1);
-            ::CloseHandle(m_process.hThread);
-            ::CloseHandle(m_process.hProcess);
-        }
-    }
-
-    bool Started() const { return m_process.hProcess != nullptr; }
-
-    bool EndsWithin(DWORD milliseconds) const
-    {
-        return ::WaitForSingleObject(m_process.hProcess, milliseconds) == WAIT_OBJECT_0;
-    }
-
-    DWORD ExitCode() const
-    {
-        DWORD code = STILL_ACTIVE;
-        ::GetExitCodeProcess(m_process.hProcess, &code);
-        return code;
-    }
-
-    // Its window once that is shown; null when it does not come or the host ends before.
-    HWND Window() const
-    {
-        constexpr int Looks = 1000;
-        for (int look = 0; look < Looks && !EndsWithin(20); ++look)
-        {
-            const HWND window = ::FindWindow(nullptr, "First host");
-            DWORD process = 0;
-            ::GetWindowThreadProcessId(window, &process);
-            if (process == m_process.dwProcessId && ::IsWindowVisible(window))
-            {
-                return window;
-            }
-        }
-        return nullptr;
-    }
-
-private:
-    PROCESS_INFORMATION m_process = {};
-};
+    return window;
+}
 
 LONG_PTR RowHeight(HWND list)
 {
@@ -88,9 +39,9 @@ SIZE SizeOf(HWND window)
 
 TEST(FirstHost, ShowsItsListAndChangesTheMode)
 {
-    const Host host;
+    const RunningProgram host('"' + hostProgram + '"');
     ASSERT_TRUE(host.Started()) << hostProgram << ": error " << ::GetLastError();
-    const HWND window = host.Window();
+    const HWND window = WindowOf(host);
     ASSERT_NE(window, nullptr) << "exit code " << host.ExitCode();
     const HWND list = ::GetDlgItem(window, ListId);
     const HWND button = ::GetDlgItem(window, ModeButtonId);
