@@ -256,8 +256,7 @@ TEST_F(ChildPlacingTest, AComboThatHasTakenNoHeightOfAModeIsScaled)
     Restyle(Host(), Enlarging, ONBOARD);
     EXPECT_EQ(WindowRectOf(combo).Height(), 39);
     const auto changeTo = [&](APPMODE mode) {
-        COnBoardUIGeneral::SetAppMode(mode);
-        Restyle(Host(), mode == STD ? Reducing : Enlarging, mode);
+        ChangeMode(mode);
         return WindowRectOf(combo).Height();
     };
     EXPECT_EQ(changeTo(STD), 23);
@@ -275,10 +274,7 @@ TEST_F(ChildPlacingTest, AListBoxOfWholeRowsKeepsThemHoweverTheModeComes)
     EXPECT_LT(log.Count(WM_SIZE), 12) << "a height that is no longer one of whole rows";
     int height = WindowRectOf(list).Height();
     const auto place = [&](double scale, APPMODE mode) { Restyle(Host(), scale, mode); };
-    const auto hear = [&](APPMODE mode) {
-        COnBoardUIGeneral::SetAppMode(mode);
-        list.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-    };
+    const auto hear = [&](APPMODE mode) { SetMode(mode, list); };
     const Act<> ways[] = {
         {"before its place",
          [&] { hear(ONBOARD), place(Enlarging, ONBOARD), hear(STD), place(Reducing, STD); }},
@@ -385,10 +381,8 @@ TEST_F(ChildPlacingTest, AControlThatKeepsItsSizeHasTheFrameOfTheMode)
     list.MoveWindow(10, 20, 200, 105);
     edit.MoveWindow(10, 130, 200, 100);
     const auto widths = [&] {
-        for (CWnd* const control : std::initializer_list<CWnd*>{&list, &edit})
-        {
-            control->RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_UPDATENOW);
-        }
+        Repaint(list);
+        Repaint(edit);
         return std::pair(ClientRectOf(list).Width(), ClientRectOf(edit).Width());
     };
     const auto standard = widths();
