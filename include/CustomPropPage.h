@@ -44,6 +44,8 @@ protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT kind);
+    afx_msg LRESULT OnNextControl(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnClose();
     DECLARE_MESSAGE_MAP()
 
     std::vector<CWnd*> m_controls;

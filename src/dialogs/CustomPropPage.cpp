@@ -10,6 +10,8 @@ IMPLEMENT_DYNAMIC(CCustomPropPage, CPropertyPage)
 
 BEGIN_MESSAGE_MAP(CCustomPropPage, CPropertyPage)
     ON_WM_CTLCOLOR()
+    ON_MESSAGE(WM_NEXTDLGCTL, &CCustomPropPage::OnNextControl)
+    ON_WM_CLOSE()
 END_MESSAGE_MAP()
 
 CCustomPropPage::CCustomPropPage(UINT templateId, UINT captionId)
@@ -28,13 +30,21 @@ CCustomPropPage::~CCustomPropPage()
 
 namespace {
 
+// Null for a page without a sheet.
+HWND SheetOf(HWND page)
+{
+    const HWND parent = ::GetParent(page);
+    return DYNAMIC_DOWNCAST(CPropertySheet, CWnd::FromHandlePermanent(parent)) == nullptr ? nullptr
+                                                                                          : parent;
+}
+
 // The page that is shown on the sheet of a page; null for one without a sheet.
 HWND ShownPage(HWND page)
 {
-    const HWND parent = ::GetParent(page);
-    return DYNAMIC_DOWNCAST(CPropertySheet, CWnd::FromHandlePermanent(parent)) == nullptr
+    const HWND sheet = SheetOf(page);
+    return sheet == nullptr
                ? nullptr
-               : reinterpret_cast<HWND>(::SendMessage(parent, PSM_GETCURRENTPAGEHWND, 0, 0));
+               : reinterpret_cast<HWND>(::SendMessage(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
 }
 
 } // namespace
@@ -100,4 +110,25 @@ HBRUSH CCustomPropPage::OnCtlColor(CDC* dc, CWnd* control, UINT kind)
 {
     const auto brush = dialogs::OnBoardColors(dc, control, kind);
     return brush ? *brush : CPropertyPage::OnCtlColor(dc, control, kind);
+}
+
+// An edit of many lines takes the Tab key and Escape from the sheet, and has the page move the
+// focus or close: it would go round on the page for ever, and nothing would close.
+LRESULT CCustomPropPage::OnNextControl(WPARAM wParam, LPARAM lParam)
+{
+    const HWND sheet = SheetOf(GetSafeHwnd());
+    return LOWORD(lParam) != 0 || sheet == nullptr
+               ? Default() // to a control that is named
+               : ::SendMessage(sheet, WM_NEXTDLGCTL, wParam, lParam);
+}
+
+void CCustomPropPage::OnClose()
+{
+    const HWND sheet = SheetOf(GetSafeHwnd());
+    if (sheet == nullptr)
+    {
+        Default();
+        return;
+    }
+    ::PostMessage(sheet, WM_CLOSE, 0, 0);
 }

@@ -68,6 +68,36 @@ TEST_F(FormWindowsTest, AFormScrollsAsFarAsItsControlsReachAndLooksAndWorksLikeA
               CCustomDialog::m_BkEditBrush.GetSafeHandle());
 }
 
+// An edit of many lines takes every key, and gives the page's window those that are for the dialog.
+TEST_F(FormWindowsTest, TabAndEscapeLeaveAnEditOfManyLinesOnAPage)
+{
+    for (const APPMODE mode : AllModes)
+    {
+        SCOPED_TRACE(mode);
+        const ModeScope scope(mode);
+        CCustomPropPage page(IDD_TEST_PAGE_1);
+        Scripted<CCustomPropSheet> sheet("Sheet", nullptr, &Host());
+        sheet.AddPage(&page);
+        CEdit edit;
+        sheet.inLoop = [&] {
+            page.GetDlgItem(IDC_TEST_EDIT)->DestroyWindow();
+            edit.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_MULTILINE, CRect(5, 5, 90, 60),
+                        &page, IDC_TEST_EDIT);
+            edit.SetFocus();
+            TypeKey(VK_TAB);
+            EXPECT_EQ(::GetFocus(), ::GetDlgItem(sheet, IDOK));
+            TypeKey(VK_TAB, VK_SHIFT);
+            EXPECT_EQ(CWnd::GetFocus(), &edit);
+            TypeKey(VK_ESCAPE);
+            if (sheet.SendMessage(PSM_GETCURRENTPAGEHWND) != 0)
+            {
+                sheet.EndDialog(IDOK); // not closed
+            }
+        };
+        EXPECT_EQ(sheet.DoModal(), IDCANCEL);
+    }
+}
+
 TEST_F(FormWindowsTest, AFormIsScrolledByTheWheelAlsoFromItsControls)
 {
     UINT lines = 0;
