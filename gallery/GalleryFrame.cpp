@@ -180,26 +180,39 @@ void GalleryFrame::SwitchMode(APPMODE mode)
     {
         ShowWindow(SW_RESTORE); // an icon's place is none to come back to
     }
-    for (const auto& page : m_pages)
+    for (const auto& each : m_pages)
     {
-        if (page != nullptr)
+        if (each != nullptr)
         {
-            page->KeepState();
+            each->KeepState();
         }
     }
     OpenDialog::KeepStateAll();
+    // The library scales the controls first, and the page places them then: nobody is to see that.
+    m_switching = true;
+    CWnd* const page = m_pages[m_shown].get();
+    const bool held = page != nullptr && (page->GetStyle() & WS_VISIBLE) != 0;
+    if (held)
+    {
+        page->SetRedraw(FALSE);
+    }
     SetOnBoardAppMode(mode);
     OnBoardSetSysColors(mode);
     m_list.FollowMode(mode, before);
     TakePlace(mode, before);
     RecalcLayout();
-    for (const auto& page : m_pages)
+    for (const auto& each : m_pages)
     {
-        if (page != nullptr)
+        if (each != nullptr)
         {
-            page->FollowMode();
+            each->FollowMode();
         }
     }
+    if (held)
+    {
+        page->SetRedraw(TRUE);
+    }
+    m_switching = false;
     OpenDialog::FollowModeAll();
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
@@ -347,6 +360,11 @@ void GalleryFrame::ScrollPage(CPoint origin)
 
 void GalleryFrame::OnPaint()
 {
+    if (m_switching)
+    {
+        ValidateRect(nullptr); // all of it is painted at the end
+        return;
+    }
     BufferedPaint paint(*this);
     CDC& dc = paint.Context();
     const Layout layout = CurrentLayout();

@@ -82,6 +82,7 @@ private:
     PageBar m_across{SB_HORZ};
     std::vector<std::unique_ptr<GalleryPage>> m_pages; // made when first shown
     size_t m_shown = 0;
+    bool m_switching = false; // to another mode
     CString m_lastTold;
     HWND m_focusBefore = nullptr; // the child that had the focus when the window was left
     // Where the user left the window, in the standard look and in the dark one.
