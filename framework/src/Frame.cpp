@@ -3,6 +3,7 @@
 #include "StillThere.h"
 #include "framework/App.h"
 #include "framework/ControlBar.h"
+#include "framework/Controls.h"
 #include "framework/Menu.h"
 
 #include <utility>
@@ -217,20 +218,20 @@ void CFrameWnd::OnSetFocus(CWnd* old)
     }
 }
 
-bool CFrameWnd::ScrollActiveView()
+bool CFrameWnd::ScrollActiveView(UINT message, UINT code, UINT position, CScrollBar* bar)
 {
     if (m_pViewActive == nullptr)
     {
         return false;
     }
-    const MSG current = *GetCurrentMessage();
-    m_pViewActive->SendMessage(current.message, current.wParam, current.lParam);
+    m_pViewActive->SendMessage(message, MAKEWPARAM(code, position),
+                               LPARAM(bar == nullptr ? nullptr : bar->m_hWnd));
     return true;
 }
 
 void CFrameWnd::OnHScroll(UINT code, UINT position, CScrollBar* bar)
 {
-    if (!ScrollActiveView())
+    if (!ScrollActiveView(WM_HSCROLL, code, position, bar))
     {
         CWnd::OnHScroll(code, position, bar);
     }
@@ -238,7 +239,7 @@ void CFrameWnd::OnHScroll(UINT code, UINT position, CScrollBar* bar)
 
 void CFrameWnd::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 {
-    if (!ScrollActiveView())
+    if (!ScrollActiveView(WM_VSCROLL, code, position, bar))
     {
         CWnd::OnVScroll(code, position, bar);
     }

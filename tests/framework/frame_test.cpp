@@ -59,10 +59,16 @@ protected:
     void OnUpdate(CCmdUI* ui) { update(*ui); }
     void OnCommandOfFrame() { journal.push_back("frame command"); }
     void OnShadowed() { journal.push_back("frame instead of view"); }
+    BOOL OnMouseWheel(UINT, short, CPoint)
+    {
+        OnVScroll(SB_LINEUP, 0, nullptr);
+        return TRUE;
+    }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Frame, CFrameWnd)
+    ON_WM_MOUSEWHEEL()
     ON_COMMAND(CommandOfFrame, &Frame::OnCommandOfFrame)
     ON_COMMAND(CommandOfView, &Frame::OnShadowed)
     ON_UPDATE_COMMAND_UI_RANGE(FirstUpdated, LastUpdated, &Frame::OnUpdate)
@@ -124,6 +130,9 @@ TEST_F(WindowTest, AFrameMakesItsViewWhichIsAskedFirstAndEndsWithItOrForWantOfIt
         frame->SendMessage(WM_HSCROLL, SB_LINEDOWN, LPARAM(bar.m_hWnd));
         EXPECT_EQ(log.Count(WM_VSCROLL), 1) << "a bar beside the active view is for it";
         EXPECT_EQ(log.Count(WM_HSCROLL), 0);
+        frame->SetActiveView(view);
+        frame->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA));
+        EXPECT_EQ(log.Count(WM_VSCROLL), 2) << "and so is the frame's wheel";
     }
 
     EXPECT_EQ(liveObjects, 2);

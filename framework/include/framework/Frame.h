@@ -89,5 +89,5 @@ private:
     CString m_messageBefore; // what the status bar said before a menu was open
     bool m_menuOpen = false;
 
-    bool ScrollActiveView();
+    bool ScrollActiveView(UINT message, UINT code, UINT position, CScrollBar* bar);
 };
