@@ -280,21 +280,30 @@ void CFrameWnd::OnInitMenuPopup(CMenu* menu, UINT index, BOOL ofSystem)
     }
 }
 
+// The bar is the host's while a menu is open, too: what it says there then, it has back afterwards.
 void CFrameWnd::OnMenuSelect(UINT item, UINT flags, HMENU menu)
 {
     const framework::StillThere here(*this);
     CWnd::OnMenuSelect(item, flags, menu);
-    if (!here || GetMessageBar() == nullptr)
+    CWnd* const bar = here ? GetMessageBar() : nullptr;
+    if (bar == nullptr)
     {
         return;
     }
-    if (!std::exchange(m_menuOpen, true))
+    CString shown;
+    bar->GetWindowText(shown);
+    if (!here)
     {
-        GetMessageBar()->GetWindowText(m_messageBefore);
+        return;
     }
-    if (flags == 0xFFFF && menu == nullptr)
+    const bool isOfMenu = m_menuOpen && shown == m_messageOfMenu;
+    m_menuOpen = flags != 0xFFFF || menu != nullptr;
+    if (!isOfMenu)
     {
-        m_menuOpen = false;
+        m_messageBefore = shown;
+    }
+    if (!m_menuOpen)
+    {
         SetMessageText(m_messageBefore);
         return;
     }
@@ -304,6 +313,7 @@ void CFrameWnd::OnMenuSelect(UINT item, UINT flags, HMENU menu)
     {
         GetMessageString(item, text);
     }
+    m_messageOfMenu = text;
     SetMessageText(text);
 }
 

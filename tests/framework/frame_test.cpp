@@ -265,6 +265,16 @@ TEST_F(WindowTest, TheStatusBarSaysWhatASelectedItemDoes)
     EXPECT_STREQ(said(60004, 0, menu), "Flies direct to a point");
     EXPECT_STREQ(said(1, MF_POPUP, menu), "");
     EXPECT_STREQ(said(0, 0xFFFF, nullptr), "Ready");
+    for (const bool another : {false, true})
+    {
+        said(60004, 0, menu);
+        frame->SetMessageText("12:31 UTC"); // menus let timers through
+        if (another)
+        {
+            EXPECT_STREQ(said(60004, 0, menu), "Flies direct to a point");
+        }
+        EXPECT_STREQ(said(0, 0xFFFF, nullptr), "12:31 UTC") << another;
+    }
     frame->RecalcLayout();
     const int before = WindowRectOf(*frame->GetActiveView()).Height();
     const int height = WindowRectOf(bar).Height();

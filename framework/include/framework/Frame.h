@@ -86,7 +86,8 @@ protected:
     friend class CView;
 
 private:
-    CString m_messageBefore; // what the status bar said before a menu was open
+    CString m_messageBefore; // what the status bar says but for the open menu
+    CString m_messageOfMenu; // what it was given for the menu last
     bool m_menuOpen = false;
 
     bool ScrollActiveView(UINT message, UINT code, UINT position, CScrollBar* bar);
