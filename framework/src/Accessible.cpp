@@ -1,6 +1,7 @@
 // What a window tells assistive programs: an object that forwards each question to the window, and
 // the answers that the platform has for any window.
 
+#include "framework/Exceptions.h"
 #include "framework/Wnd.h"
 
 #include <oleacc.h>
@@ -205,14 +206,30 @@ private:
             return E_POINTER;
         }
         (Empty(arguments), ...);
-        const HRESULT answer =
-            m_window == nullptr ? CO_E_OBJNOTCONNECTED : (m_window->*question)(arguments...);
-        if (m_window == nullptr)
+        const HRESULT answer = m_window == nullptr ? CO_E_OBJNOTCONNECTED : AnswerGuarded([&] {
+            return (m_window->*question)(arguments...);
+        });
+        if (m_window == nullptr || answer == HasThrown)
         {
             (Drop(arguments), ...);
-            return CO_E_OBJNOTCONNECTED;
         }
-        return answer;
+        return m_window == nullptr ? CO_E_OBJNOTCONNECTED : answer;
+    }
+
+    static constexpr HRESULT HasThrown = E_UNEXPECTED;
+
+    // Who asks may be another program, which knows nothing of exceptions.
+    template <class Call> static HRESULT AnswerGuarded(Call call)
+    {
+        try
+        {
+            return call();
+        } catch (CException* thrown)
+        {
+            thrown->Delete();
+        } catch (...)
+        {}
+        return HasThrown;
     }
 
     CWnd* m_window; // null when it is gone

@@ -5,6 +5,7 @@
 #include <afxwin.h>
 
 #include <algorithm>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -80,8 +81,14 @@ public:
         {
             return E_POINTER;
         }
-        *clone = new ChildIds(m_ids, m_next);
-        return S_OK;
+        try
+        {
+            *clone = new ChildIds(m_ids, m_next);
+        } catch (const std::bad_alloc&)
+        {
+            *clone = nullptr; // whoever asks may be another program
+        }
+        return *clone == nullptr ? E_OUTOFMEMORY : S_OK;
     }
 
 private:

@@ -8,6 +8,8 @@
 #include "lists/combo_for_tests.h"
 #include "support/Accessible.h"
 
+#include <stdexcept>
+
 INSTANTIATE_TEST_SUITE_P(Controls, AccessInModes, testing::Values(STD, ONBOARD));
 
 TEST_P(AccessInModes, WhatOnlyShowsTellsItsKindAndText)
@@ -137,4 +139,40 @@ TEST_P(AccessInModes, RowsAreToldWhereTheyStand)
     }
     EXPECT_EQ(Read(*Reached(report), 3).description, "12 t; 9 t");
     EXPECT_EQ(Read(*Reached(report), 62).role, -1); // the header is an object
+}
+
+// A host's button that fails when it is asked its name, which it has given by then.
+class FailingButton : public CCustomCheckBox
+{
+public:
+    std::function<void()> fail;
+
+    HRESULT get_accName(VARIANT child, BSTR* name) override
+    {
+        const HRESULT result = CCustomCheckBox::get_accName(child, name);
+        fail();
+        return result;
+    }
+};
+
+TEST_F(WindowTest, WhatAHostThrowsReachesNoAssistiveProgram)
+{
+    auto& button = Add<FailingButton>(CRect(10, 10, 100, 50), 0, "Direct");
+    const Held<IAccessible> object = Reached(button);
+    const std::function<void()> ways[] = {
+        &AfxThrowNotSupportedException,
+        [] { throw std::out_of_range("No such leg."); },
+        [] { throw 1; },
+        [&] {
+            button.DestroyWindow();
+            throw 1;
+        },
+    };
+    for (const auto& way : ways)
+    {
+        button.fail = way;
+        BSTR name = nullptr;
+        EXPECT_TRUE(FAILED(object->get_accName(Child(CHILDID_SELF), &name)));
+        EXPECT_EQ(name, nullptr);
+    }
 }
