@@ -425,7 +425,8 @@ void CCustomListCtrlHdr::OnLButtonDblClk(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
     const bool onBoard = COnBoardUIGeneral::InOnBoardMode();
-    int item = onBoard ? DividerAt(point.x) : -1;
+    const int divider = onBoard ? DividerAt(point.x) : -1;
+    int item = divider;
     if (item == -1)
     {
         HDHITTESTINFO hit = {};
@@ -433,8 +434,9 @@ void CCustomListCtrlHdr::OnLButtonDblClk(UINT flags, CPoint point)
         item = onBoard ? ItemAt(hit.pt) : int(Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
     }
     const HWND list = ListWindow();
+    const bool fixed = (GetStyle() & HDS_NOSIZING) != 0 || IsFixed(item);
     const auto toHeading = [&] {
-        if (item >= 0 && list != nullptr)
+        if (item >= 0 && !fixed && list != nullptr)
         {
             ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(item),
                           MAKELPARAM(LVSCW_AUTOSIZE_USEHEADER, 0));
@@ -445,15 +447,15 @@ void CCustomListCtrlHdr::OnLButtonDblClk(UINT flags, CPoint point)
     {
         return;
     }
-    if (onBoard)
+    if (onBoard && point.x - m_offset.x <= Farthest)
     {
-        point.x -= m_offset.x;
-        if (point.x <= Farthest)
-        {
-            DefWindowProc(WM_LBUTTONDBLCLK, flags, MAKELPARAM(point.x, point.y));
-        }
+        // What is no divider for us is none for the platform, which would make the column as wide
+        // as its texts.
+        divider == -1
+            ? DefaultAt(WM_LBUTTONDBLCLK, flags, point)
+            : DefWindowProc(WM_LBUTTONDBLCLK, flags, MAKELPARAM(point.x - m_offset.x, point.y));
     }
-    else
+    else if (!onBoard)
     {
         Default();
     }

@@ -237,6 +237,16 @@ TEST_F(ListCtrlTest, AColumnThatItsHostHasFixedIsNotDraggedAndAHiddenOneStaysSo)
                     testing::Contains(UINT(LVN_COLUMNCLICK))
                         .Times(list.m_header.GetStyle() & HDS_NOSIZING ? 1 : 0))
             << "only where there is nothing to drag";
+        for (const int x : {-2, 2}) // on both sides of the divider
+        {
+            list.SetColumnWidth(0, 100);
+            Click(list.DividerPoint(0, x));
+            Press();
+            Release();
+            EXPECT_TRUE(list.refuses || list.GetColumnWidth(0) == 100)
+                << "nor by two clicks, " << x;
+        }
+        list.SetColumnWidth(0, 0);
         MoveTo(from);
         EXPECT_EQ(::GetCursor() == ::LoadCursor(nullptr, IDC_SIZEWE), list.refuses);
         Remove(list);
