@@ -383,6 +383,7 @@ private:
     bool IsRow(const VARIANT& child, int& row) const;
     bool RowPlace(int row, CRect& place) const;
     int RowAt(const CPoint& point) const;
+    void HintOfRows();
     void DrawRow(CDC& dc, int row, const CRect& rowRect, const std::vector<CRect>& cells,
                  const CRect& clip);
 };

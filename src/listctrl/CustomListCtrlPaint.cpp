@@ -34,14 +34,46 @@ constexpr UINT CellText = DT_END_ELLIPSIS | DT_VCENTER;
 
 } // namespace
 
+// Before the paint begins: the owner may change rows, places and mode, and what is to be painted
+// for that is painted by this. One that has it painted at once is not told again.
+void CCustomListCtrl::HintOfRows()
+{
+    CRect first;
+    if (m_bars->hinting || (GetStyle() & LVS_OWNERDATA) == 0 || !FirstRowRect(first) ||
+        first.Height() <= 0)
+    {
+        return;
+    }
+    CRect client;
+    GetClientRect(&client);
+    const auto offset = int(m_drawOffset.y);
+    const WindowAlive alive(*this);
+    m_bars->hinting = true;
+    TellOfRows(GetSafeHwnd(), listctrl::FirstDrawnRow(offset, first.Height()),
+               listctrl::EndOfDrawnRows(offset, first.Height(), int(client.bottom),
+                                        int(Ask(LVM_GETITEMCOUNT))));
+    if (alive)
+    {
+        m_bars->hinting = false;
+    }
+}
+
 void CCustomListCtrl::OnPaint()
 {
+    const WindowAlive alive(*this);
+    if (InOnBoard())
+    {
+        HintOfRows();
+    }
+    if (!alive)
+    {
+        return;
+    }
     if (!InOnBoard())
     {
         Default();
         return;
     }
-    const WindowAlive alive(*this);
     m_bars->BeginPaint();
     CPaintDC dc(this);
     if (!alive)
@@ -52,24 +84,6 @@ void CCustomListCtrl::OnPaint()
     m_bars->EndPaint();
     CRect client;
     GetClientRect(&client);
-    const int items = int(Ask(LVM_GETITEMCOUNT));
-    CRect first;
-    if ((GetStyle() & LVS_OWNERDATA) != 0 && FirstRowRect(first) && first.Height() > 0)
-    {
-        // Before anything is taken from the list: its owner may change rows, places and mode.
-        const auto offset = int(m_drawOffset.y);
-        TellOfRows(GetSafeHwnd(), listctrl::FirstDrawnRow(offset, first.Height()),
-                   listctrl::EndOfDrawnRows(offset, first.Height(), int(client.bottom), items));
-        if (!alive || !InOnBoard())
-        {
-            return;
-        }
-        if (offset != m_drawOffset.y)
-        {
-            Invalidate(FALSE); // also what was to be painted and has been moved
-        }
-        GetClientRect(&client);
-    }
     const int top = HeaderBottom();
     dc.ExcludeClipRect(0, 0, client.right, top); // the header paints itself
     CRect area(dc.m_ps.rcPaint);

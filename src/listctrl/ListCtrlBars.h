@@ -29,6 +29,8 @@ public:
     bool viewDue = false;
     // The next font of the standard mode is that of a restyling, which the headings do not share.
     bool themeFontDue = false;
+    // The owner is being told of the rows that are about to be painted.
+    bool hinting = false;
 
     LRESULT Default() override { return m_list.Default(); }
     LRESULT Ask(UINT message, WPARAM wParam, LPARAM lParam) override

@@ -278,6 +278,22 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
         EXPECT_TRUE(ShowsWhatAPaintWould(list)) << count;
         list.ExpectInStep("fewer");
     }
+    // Its owner may say how many there are whenever it is told.
+    const auto hook = Host().hook;
+    int hints = 0;
+    Host().hook = [&](ToldMessage& told) {
+        if (told.code == UINT(LVN_ODCACHEHINT))
+        {
+            ++hints;
+            list.SetItemCount(3);
+        }
+        hook(told);
+    };
+    list.Invalidate();
+    list.UpdateWindow();
+    EXPECT_EQ(hints, 1);
+    EXPECT_FALSE(list.GetUpdateRect(nullptr)) << "and again and again";
+    Host().hook = hook;
     // Its owner may end the list while it is painted.
     Host().OnCode(LVN_GETDISPINFOA, [&](ToldMessage&) { list.DestroyWindow(); });
     Repaint(list);
