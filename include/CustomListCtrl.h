@@ -204,6 +204,7 @@ protected:
     afx_msg BOOL OnLvnMarqueebegin(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnBeginlabeledit(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnHottrack(NMHDR* header, LRESULT* result);
+    afx_msg BOOL OnLvnGetinfotip(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnItemActivate(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 

@@ -80,6 +80,8 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_NOTIFY_REFLECT_EX(LVN_BEGINLABELEDITA, &CCustomListCtrl::OnLvnBeginlabeledit)
     ON_NOTIFY_REFLECT_EX(LVN_BEGINLABELEDITW, &CCustomListCtrl::OnLvnBeginlabeledit)
     ON_NOTIFY_REFLECT_EX(LVN_HOTTRACK, &CCustomListCtrl::OnLvnHottrack)
+    ON_NOTIFY_REFLECT_EX(LVN_GETINFOTIPA, &CCustomListCtrl::OnLvnGetinfotip)
+    ON_NOTIFY_REFLECT_EX(LVN_GETINFOTIPW, &CCustomListCtrl::OnLvnGetinfotip)
     ON_NOTIFY_REFLECT_EX(LVN_ITEMACTIVATE, &CCustomListCtrl::OnLvnItemActivate)
 END_MESSAGE_MAP()
 

@@ -520,6 +520,41 @@ BOOL CCustomListCtrl::OnLvnHottrack(NMHDR* header, LRESULT*)
     return !alive;
 }
 
+// And of the row that a tip is asked for. What the platform has put there already, as a label that
+// is cut, is of the other row.
+BOOL CCustomListCtrl::OnLvnGetinfotip(NMHDR* header, LRESULT*)
+{
+    if (!InOnBoard() || TopRow() == 0)
+    {
+        return FALSE;
+    }
+    auto& told = *reinterpret_cast<NMLVGETINFOTIPW*>(header); // the other form is alike
+    told.iItem += TopRow();
+    const bool wide = told.hdr.code == UINT(LVN_GETINFOTIPW);
+    auto* const narrow = reinterpret_cast<char*>(told.pszText);
+    const bool hasRoom = told.pszText != nullptr && told.cchTextMax > 0;
+    const bool hasText = hasRoom && (wide ? *told.pszText != 0 : *narrow != 0);
+    if (hasText && wide)
+    {
+        *told.pszText = 0;
+    }
+    else if (hasText)
+    {
+        *narrow = 0;
+    }
+    const WindowAlive alive(*this);
+    const bool exists = told.iItem < int(Ask(LVM_GETITEMCOUNT));
+    if (exists && hasText)
+    {
+        LVITEMW item = {};
+        item.pszText = told.pszText;
+        item.cchTextMax = told.cchTextMax;
+        Ask(wide ? LVM_GETITEMTEXTW : LVM_GETITEMTEXTA, WPARAM(told.iItem),
+            reinterpret_cast<LPARAM>(&item));
+    }
+    return !exists || !alive;
+}
+
 // The column at a place across the unscrolled list, or -1.
 int CCustomListCtrl::ColumnAt(int x) const
 {

@@ -74,6 +74,10 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
     NMLISTVIEW hot = {{list, FirstId, UINT(LVN_HOTTRACK)}, 2, 0, 0, 0, 0, list.RowPoint(7), 0};
     Host().SendMessage(WM_NOTIFY, FirstId, LPARAM(&hot)); // as some platforms tell it
     EXPECT_EQ(std::pair(hot.iItem, hot.iSubItem), std::pair(7, 1));
+    WCHAR cut[20] = L"Row 2";
+    NMLVGETINFOTIPW tip = {{list, FirstId, UINT(LVN_GETINFOTIPW)}, 0, cut, 20, 2, 0, 0};
+    Host().SendMessage(WM_NOTIFY, FirstId, LPARAM(&tip)); // likewise
+    EXPECT_EQ(std::pair(tip.iItem, CString(cut)), std::pair(7, list.GetItemText(7, 0)));
     // The bar across goes past the last column; so does the bar of a selected row.
     list.PerformHScroll(SB_RIGHT);
     Click(ClientPoint(list, list.RowPoint(8, ClientRectOf(list).right - 10)));
