@@ -378,6 +378,8 @@ private:
     void LetPlatformPress(UINT message, const PressHit& hit, const CPoint& point);
     void TakeBackPress();
     void SelectClicked(const CPoint& point, UINT flags);
+    void AwaitLabelEdit(const CPoint& point);
+    void EditClickedLabel();
     static constexpr int LongestText = 512; // characters; no cell shows as many
     const WCHAR* ReadCell(int row, int column, WCHAR* text);
     HRESULT GiveRowTexts(int row, int from, int to, BSTR* texts);

@@ -193,6 +193,7 @@ void CCustomListCtrl::ForgetWindow()
     m_labelDue = false;
     m_bars->filling.BeginAfresh();
     m_bars->themeFontDue = false;
+    m_bars->labelRow = -1;
     m_bars->hinting = false;
     m_fittedColumn = -1;
     m_columnWidths.clear();

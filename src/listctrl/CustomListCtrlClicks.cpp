@@ -1,6 +1,7 @@
 // The report list: clicks on its rows, and what the parent is told of them.
 
 #include "CustomListCtrl.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
 #include "modes/TellParent.h"
@@ -55,7 +56,7 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
     }
 }
 
-void CCustomListCtrl::OnLButtonUp(UINT, CPoint)
+void CCustomListCtrl::OnLButtonUp(UINT, CPoint point)
 {
     const WindowAlive alive(*this);
     const ByPointer by(*this);
@@ -67,16 +68,53 @@ void CCustomListCtrl::OnLButtonUp(UINT, CPoint)
     {
         ReleaseButton();
     }
+    if (alive && m_bars->labelRow >= 0)
+    {
+        AwaitLabelEdit(point);
+    }
+}
+
+// The platform begins the edit of a label by the click on a row that was selected before. In a
+// scrolled list it knows of a click on another row.
+void CCustomListCtrl::AwaitLabelEdit(const CPoint& point)
+{
+    const WindowAlive alive(*this); // an owner may be asked for the label
+    CRect label(LVIR_LABEL, 0, 0, 0);
+    const bool known = Ask(LVM_GETITEMRECT, WPARAM(m_bars->labelRow), LPARAM(&label)) != 0;
+    if (!alive)
+    {
+        return;
+    }
+    label.OffsetRect(m_drawOffset);
+    if (!known || !label.PtInRect(point) || (GetStyle() & LVS_EDITLABELS) == 0 ||
+        SetTimer(m_bars->LabelTimer(), ::GetDoubleClickTime(), nullptr) == 0)
+    {
+        m_bars->labelRow = -1;
+    }
+}
+
+void CCustomListCtrl::EditClickedLabel()
+{
+    const WindowAlive alive(*this);
+    KillTimer(m_bars->LabelTimer());
+    const int row = std::exchange(m_bars->labelRow, -1);
+    if (InOnBoard() && row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)) &&
+        ::GetFocus() == GetSafeHwnd() && IsSelected(row) && alive)
+    {
+        EditLabel(row);
+    }
 }
 
 void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 {
+    m_bars->labelRow = -1;
     const ByPointer by(*this);
     Default();
 }
 
 void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
+    m_bars->labelRow = -1;
     m_pressedTop = TopRow();
     if (!InOnBoard() || m_drawOffset == CPoint(0, 0))
     {
@@ -345,6 +383,8 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
 {
     const WindowAlive alive(*this);
     m_pressedRow = -1;
+    m_bars->labelRow = -1;
+    const bool focused = ::GetFocus() == GetSafeHwnd();
     const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
     if (alive && (hit.onBox || hit.onPlatformBox))
     {
@@ -361,13 +401,14 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         (flags & (MK_CONTROL | MK_SHIFT)) != 0 && (GetStyle() & LVS_SINGLESEL) == 0;
     // One of those that are selected together is alone only when the button goes up: until then
     // they may be dragged.
-    const bool together = !several && hit.drawn >= 0 && IsSelected(hit.drawn) && alive &&
-                          Ask(LVM_GETSELECTEDCOUNT) > 1;
+    const bool selected = !several && hit.drawn >= 0 && IsSelected(hit.drawn);
+    const bool together = selected && alive && Ask(LVM_GETSELECTEDCOUNT) > 1;
     if (!alive)
     {
         return;
     }
     m_pressedRow = together && hit.scrolled ? hit.drawn : -1;
+    m_bars->labelRow = selected && focused && hit.scrolled ? hit.drawn : -1;
     if ((several || together) && hit.scrolled)
     {
         // What is selected so far is known by rows that the platform would take for others.
@@ -468,6 +509,7 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
     // Of a drag no more is told than its row, which is that of the press, as a right click's is.
     const bool drag = told.hdr.code == UINT(LVN_BEGINDRAG) || told.hdr.code == UINT(LVN_BEGINRDRAG);
     m_pressedRow = drag ? -1 : m_pressedRow;
+    m_bars->labelRow = drag ? -1 : m_bars->labelRow;
     if (!InOnBoard())
     {
         return FALSE;

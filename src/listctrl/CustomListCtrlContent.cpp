@@ -237,6 +237,7 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
     if (MovesRows(message))
     {
         m_pressedRow = -1;
+        m_bars->labelRow = -1;
         m_pressedTop = TopRow(); // a row that is held is the one that is drawn there by now
     }
     const WindowAlive alive(*this);

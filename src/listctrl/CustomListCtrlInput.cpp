@@ -45,6 +45,7 @@ LRESULT CCustomListCtrl::OnQueryGestures(WPARAM, LPARAM screen)
 void CCustomListCtrl::OnNcLButtonDown(UINT hitTest, CPoint point)
 {
     m_pressedRow = -1;
+    m_bars->labelRow = -1;
     m_bars->PressNc(hitTest, point);
 }
 
@@ -90,11 +91,17 @@ LRESULT CCustomListCtrl::OnNCMouseLeave(WPARAM, LPARAM)
 void CCustomListCtrl::OnCancelMode()
 {
     m_pressedRow = -1;
+    m_bars->labelRow = -1;
     m_bars->CutOff();
 }
 
 void CCustomListCtrl::OnTimer(UINT_PTR id)
 {
+    if (id == m_bars->LabelTimer())
+    {
+        EditClickedLabel();
+        return;
+    }
     m_bars->Tick(id);
 }
 

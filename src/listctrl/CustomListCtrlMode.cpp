@@ -47,6 +47,7 @@ void CCustomListCtrl::LeaveOnBoard()
 {
     const WindowAlive alive(*this);
     m_pressedRow = -1; // the platform goes on with the press
+    m_bars->labelRow = -1;
     KeepView(TopRow(), RowsInSight());
     if (!alive)
     {

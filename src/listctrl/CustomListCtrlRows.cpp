@@ -2,6 +2,7 @@
 
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
+#include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/KeyState.h"
 #include "modes/TellParent.h"
@@ -142,6 +143,7 @@ bool CCustomListCtrl::MoveByPage(UINT key, UINT flags)
 void CCustomListCtrl::OnKeyDown(UINT key, UINT, UINT flags)
 {
     const WindowAlive alive(*this);
+    m_bars->labelRow = -1;
     const bool onBoard = InOnBoard();
     const int before = onBoard ? NextRow(-1, LVNI_FOCUSED) : -1;
     const bool outer = std::exchange(m_activating, false); // a double click may be waiting for it

@@ -281,6 +281,7 @@ void CCustomListCtrl::MoveTo(int axis, int position)
 // The edit of a label would stay where its row was. The row is painted anew as it shows the focus.
 void CCustomListCtrl::EndLabelEdit()
 {
+    m_bars->labelRow = -1;
     if (Ask(LVM_GETEDITCONTROL) != 0)
     {
         SetFocus();

@@ -29,6 +29,9 @@ public:
     bool viewDue = false;
     // The next font of the standard mode is that of a restyling, which the headings do not share.
     bool themeFontDue = false;
+    // Its label was clicked, and is edited unless a second click comes before the timer does.
+    int labelRow = -1;
+    UINT_PTR LabelTimer() const { return reinterpret_cast<UINT_PTR>(this); } // no heir's
     // The owner is being told of the rows that are about to be painted.
     bool hinting = false;
 

@@ -99,6 +99,48 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
     }
 }
 
+TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)
+{
+    const UINT before = ::GetDoubleClickTime();
+    ::SetDoubleClickTime(200);
+    auto& list = AddList(100, 3, ReportStyle | LVS_EDITLABELS);
+    const auto edits = [&](int row) {
+        PumpUntil([&] { return list.GetEditControl() != nullptr; }, 400);
+        const CWnd* const edit = list.GetEditControl();
+        const bool here = edit != nullptr && PlaceIn(list, *edit).PtInRect(list.RowPoint(row));
+        list.SendMessage(LVM_CANCELEDITLABEL);
+        return edit != nullptr && here;
+    };
+    const Act<> others[] = {{"key", [&] { TypeKey(VK_F9); }},
+                            {"second click", [&] { Click(ClientPoint(list, list.RowPoint(33))); }},
+                            {"scrolled", [&] { list.PerformVScroll(SB_LINEDOWN); }},
+                            {"row gone", [&] { list.DeleteItem(0); }},
+                            {"focus", [&] { Host().SetFocus(); }}};
+    for (const int top : {0, 30})
+    {
+        list.PerformVScroll(top, list.m_vBar.GetScrollPos());
+        list.SetFocus();
+        list.SetItemState(-1, 0, 3);
+        list.SetItemState(top + 3, 3, 3);
+        Click(ClientPoint(list, list.RowPoint(top + 3)));
+        EXPECT_TRUE(edits(top + 3)) << top;
+        Click(ClientPoint(list, list.RowPoint(top + 4)));
+        EXPECT_FALSE(edits(top + 4)) << "it was not selected";
+        Click(ClientPoint(list, list.RowPoint(top + 4, list.GetColumnWidth(0) + 20)));
+        EXPECT_FALSE(edits(top + 4)) << "not on its label";
+    }
+    for (const auto& [name, act] : others)
+    {
+        list.SetFocus();
+        list.SetItemState(-1, 0, 3);
+        list.SetItemState(33, 3, 3);
+        Click(ClientPoint(list, list.RowPoint(33)));
+        act();
+        EXPECT_FALSE(edits(33)) << name;
+    }
+    ::SetDoubleClickTime(before);
+}
+
 // Keys -------------------------------------------------------------------------------------------
 
 TEST_F(ListCtrlOnBoard, KeysMoveTheFocusAndTheFocusedRowIsInSight)
