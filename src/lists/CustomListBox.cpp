@@ -19,29 +19,6 @@ namespace {
 // The platform's own timer message; the list box scrolls by it while a selection is dragged out.
 constexpr UINT SystemTimer = 0x0118;
 
-// The platform takes its bars away from rows that fit, but only when their range changes.
-void TakeNeedlessBars(CListBox& list)
-{
-    DWORD needless = 0;
-    for (const int axis : {SB_HORZ, SB_VERT})
-    {
-        SCROLLINFO info = {};
-        info.cbSize = sizeof(info);
-        info.fMask = SIF_RANGE | SIF_PAGE;
-        if (::GetScrollInfo(list, axis, &info) &&
-            info.nMax - info.nMin < std::max(1, int(info.nPage)))
-        {
-            needless |= scroll::StyleOf(axis);
-        }
-    }
-    const WindowAlive alive(list);
-    if ((list.GetStyle() & LBS_DISABLENOSCROLL) == 0 &&
-        scroll::StripScrollStyles(list, needless) != 0 && alive)
-    {
-        scroll::RecalculateFrame(list, false);
-    }
-}
-
 } // namespace
 
 IMPLEMENT_DYNAMIC(CCustomListBox, CListBox)
@@ -377,11 +354,34 @@ void CCustomListBox::LeaveOnBoard()
     }
 }
 
+void CCustomListBox::Bars::TakeNeedlessBars()
+{
+    DWORD needless = 0;
+    for (const int axis : {SB_HORZ, SB_VERT})
+    {
+        SCROLLINFO info = {};
+        info.cbSize = sizeof(info);
+        info.fMask = SIF_RANGE | SIF_PAGE;
+        if ((axis == SB_VERT && m_list.InColumns()) ||
+            (::GetScrollInfo(m_list, axis, &info) &&
+             info.nMax - info.nMin < std::max(1, int(info.nPage))))
+        {
+            needless |= scroll::StyleOf(axis);
+        }
+    }
+    const WindowAlive alive(m_list);
+    if ((m_list.GetStyle() & LBS_DISABLENOSCROLL) == 0 &&
+        scroll::StripScrollStyles(m_list, needless) != 0 && alive)
+    {
+        scroll::RecalculateFrame(m_list, false);
+    }
+}
+
 void CCustomListBox::Bars::FinishLeaving()
 {
     const WindowAlive alive(m_list);
     const auto goesOn = [&] { return alive && !IsLaidOut(); }; // the mode may come back on the way
-    TakeNeedlessBars(m_list);
+    TakeNeedlessBars();
     if (goesOn())
     {
         size.GiveBack();

@@ -340,8 +340,17 @@ LRESULT CCustomListBox::OnSetFont(WPARAM wParam, LPARAM lParam)
     {
         Invalidate();
     }
-    if (!alive || !FollowMode() || m_bars->AwaitsPlace())
+    const bool laidOut = alive && FollowMode();
+    if (!alive || m_bars->AwaitsPlace())
     {
+        return result;
+    }
+    if (!laidOut)
+    {
+        if (!m_bars->IsLaidOut() && InColumns())
+        {
+            m_bars->TakeNeedlessBars(); // its dialog gives every list box a bar before the font
+        }
         return result;
     }
     m_averageWidth = 0;

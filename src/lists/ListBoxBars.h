@@ -44,6 +44,10 @@ public:
     // The rest of entering or leaving a mode, in the new frame.
     void Finish();
 
+    // Of the standard mode. The platform takes its bars away from rows that fit, but only when
+    // their range changes; one beside columns, which go on to the right alone, has none that would.
+    void TakeNeedlessBars();
+
     // WM_SIZE in a place that no change of the mode waits for.
     void Sized();
 

@@ -100,6 +100,14 @@ TEST_F(ListBoxTest, ColumnsStayWhereTheyAreAndAreCountedAnew)
     EXPECT_FALSE(list.m_hBarNeeded);
     EXPECT_EQ(list.GetTopIndex(), 0) << "columns left out of sight";
     SetMode(STD, list);
+    for (const int rows : {3, 400}) // also where a dialog gives every list box a bar downwards
+    {
+        auto& other = AddList(rows, ColumnsStyle);
+        const DWORD style = other.GetStyle();
+        SetModeOfChildren(ONBOARD, Host());
+        SetModeOfChildren(STD, Host());
+        EXPECT_EQ(other.GetStyle(), style) << rows;
+    }
 }
 
 TEST_F(ListBoxOnBoard, ColumnsThatFitWithoutTheBarLoseIt)
