@@ -33,14 +33,14 @@ public:
         ForgetPlace();
         if (!m_unbroken && Wraps())
         {
-            m_firstLine = m_edit.FirstLine();
+            NoteSight();
             m_unbroken = true;
             m_placed = false;
             scroll::RecalculateFrameUnpainted(m_edit);
         }
         else if (!m_unbroken && IsBeingPlaced(m_edit))
         {
-            m_firstLine = m_edit.FirstLine(); // which the next font may hold back in the old place
+            NoteSight(); // which the next font may hold back in the old place
         }
         const LRESULT result = alive ? Default() : 0;
         if (alive && m_unbroken)
@@ -68,16 +68,29 @@ public:
     // Somebody has chosen what is in sight since.
     void ForgetFirstLine() { m_firstLine = -1; }
 
-    // WM_SIZE: the lines are broken, and the first one in sight is what it was.
+    // WM_SIZE: the lines are broken, and the first one in sight is what it was, unless the caret's
+    // has to come into sight again.
     void RestoreFirstLine()
     {
-        if (!m_unbroken && m_firstLine >= 0 && !IsPlaceToCome(m_edit))
+        if (m_unbroken || m_firstLine < 0 || IsPlaceToCome(m_edit))
         {
-            const int line = std::exchange(m_firstLine, -1);
-            if (const int now = m_edit.FirstLine(); now != line)
-            {
-                Ask(EM_LINESCROLL, 0, line - now);
-            }
+            return;
+        }
+        const WindowAlive alive(m_edit);
+        const int line = std::exchange(m_firstLine, -1);
+        if (const int now = m_edit.FirstLine(); now != line)
+        {
+            Ask(EM_LINESCROLL, 0, line - now);
+        }
+        if (!alive || m_caret < 0)
+        {
+            return;
+        }
+        const View view = m_edit.CurrentView();
+        const int caret = int(Ask(EM_LINEFROMCHAR, WPARAM(m_caret), 0));
+        if (caret < view.first || caret > view.last)
+        {
+            Ask(EM_LINESCROLL, 0, caret - (caret < view.first ? view.first : view.last));
         }
     }
 
@@ -99,6 +112,17 @@ private:
     bool m_unbroken = false; // the client area is too wide for a line to be broken
     bool m_placed = false;   // the next frame is that of a new place
     int m_firstLine = -1;    // in sight before that
+    int m_caret = -1;        // its character, if it was in sight, too
+
+    void NoteSight()
+    {
+        const View view = m_edit.CurrentView();
+        DWORD end = 0;
+        Ask(EM_GETSEL, 0, LPARAM(&end));
+        const int line = int(Ask(EM_LINEFROMCHAR, end, 0));
+        m_firstLine = view.first;
+        m_caret = line >= view.first && line <= view.last ? int(end) : -1;
+    }
 
     // Whether there are lines that a width breaks.
     bool Wraps()

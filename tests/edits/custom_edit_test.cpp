@@ -149,6 +149,14 @@ TEST_F(EditTest, LinesStayInSightWhereTheEditFollowsTheMode)
             SetModeOfChildren(mode, Host());
         }
         EXPECT_EQ(edit.GetFirstVisibleLine(), first) << std::hex << style;
+        // The caret in the last line in sight, of which there are fewer on-board.
+        const int caret = edit.LineIndex(first + edit.VisibleLines() - 1);
+        edit.SetSel(caret, caret, TRUE);
+        SetModeOfChildren(ONBOARD, Host());
+        const int top = edit.GetFirstVisibleLine();
+        EXPECT_EQ(edit.LineFromChar(caret), top + edit.VisibleLines() - 1) << std::hex << style;
+        EXPECT_GT(top, first);
+        SetModeOfChildren(STD, Host());
         Remove(edit);
     }
 }
