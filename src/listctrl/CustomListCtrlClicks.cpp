@@ -116,12 +116,18 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
     m_bars->labelRow = -1;
     m_pressedTop = TopRow();
-    if (!InOnBoard() || m_drawOffset == CPoint(0, 0))
+    if (!InOnBoard())
     {
         Default();
         return;
     }
     const WindowAlive alive(*this);
+    Invalidate(FALSE); // what the platform invalidates when it deselects a row is not all of its bar
+    if (m_drawOffset == CPoint(0, 0))
+    {
+        Default();
+        return;
+    }
     const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
     if (alive && !hit.scrolled)
     {

@@ -75,6 +75,14 @@ void CCustomListCtrl::ReleaseButton()
     m_bars->Forget();
     m_bars->CancelLeave();
     const WindowAlive alive(*this);
+    if (InOnBoard() && Ask(LVM_GETSELECTEDCOUNT) > 1)
+    {
+        Invalidate(FALSE); // the platform may deselect all but the row that was pressed
+    }
+    if (!alive)
+    {
+        return;
+    }
     Default();
     if (alive && InOnBoard())
     {

@@ -183,10 +183,16 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFin
                 EXPECT_TRUE(final) << row;
                 EXPECT_THAT(std::exchange(list.clicked, {}),
                             ElementsAre(std::tuple(top + row, 0, 0)));
+                EXPECT_TRUE(ShowsWhatAPaintWould(list)) << row;
             }
             Host().hook = nullptr;
+            list.SelectOnly({1, 2}, top);
             MoveTo(ClientPoint(list, list.RowPoint(top + 5)));
             PumpFor(30);
+            list.onRightClick = [](int) {};
+            QueueButton(true, true);
+            QueueButton(false, true);
+            EXPECT_TRUE(ShowsWhatAPaintWould(list)) << "right";
             QueueKey(VK_CONTROL, true);
             Press();
             DragTo(ClientPoint(list, CPoint(90, 90)));
