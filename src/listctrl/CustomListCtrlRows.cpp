@@ -42,7 +42,8 @@ void CCustomListCtrl::SelectRange(int from, int to, bool select)
 }
 
 // Selects a row, as the platform does for a key or a click on it: alone, up to it from where the
-// selection began (extend), or as one more or less (toggle).
+// selection began (extend), as one more or less (toggle), or with what lies between and all that
+// was selected before (both).
 void CCustomListCtrl::SelectRow(int row, bool extend, bool toggle)
 {
     if (row < 0 || row >= int(Ask(LVM_GETITEMCOUNT)))
@@ -54,6 +55,19 @@ void CCustomListCtrl::SelectRow(int row, bool extend, bool toggle)
     // The host may have set a mark where no row is, or rows may have gone since.
     const int mark = std::min(int(Ask(LVM_GETSELECTIONMARK)), int(Ask(LVM_GETITEMCOUNT)) - 1);
     const int focus = NextRow(-1, LVNI_FOCUSED);
+    if (extend && toggle && !single && mark >= 0)
+    {
+        SelectRange(mark, row, true);
+        if (alive)
+        {
+            SetItemState(row, LVIS_FOCUSED, LVIS_FOCUSED);
+        }
+        if (alive)
+        {
+            SetSelectionMark(row);
+        }
+        return;
+    }
     if (extend && !single && mark >= 0)
     {
         // The rows between the old end of the range and the new one are all that changes if the

@@ -138,14 +138,16 @@ TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlac
 
 TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFinalStep)
 {
-    // The row, from the top one, the key held, and what is selected where several rows can be.
-    const std::tuple<int, UINT, std::set<int>> clicks[] = {{2, 0, {2}},
-                                                           {5, VK_SHIFT, {2, 3, 4, 5}},
-                                                           {3, VK_SHIFT, {2, 3}},
-                                                           {6, VK_SHIFT, {2, 3, 4, 5, 6}},
-                                                           {4, VK_CONTROL, {2, 3, 5, 6}},
-                                                           {9, VK_CONTROL, {2, 3, 5, 6, 9}},
-                                                           {3, 0, {3}}};
+    // The row, from the top one, the keys held, and what is selected where several rows can be.
+    const std::tuple<int, std::vector<UINT>, std::set<int>> clicks[] = {
+        {2, {}, {2}},
+        {5, {VK_SHIFT}, {2, 3, 4, 5}},
+        {3, {VK_SHIFT}, {2, 3}},
+        {6, {VK_SHIFT}, {2, 3, 4, 5, 6}},
+        {4, {VK_CONTROL}, {2, 3, 5, 6}},
+        {9, {VK_CONTROL}, {2, 3, 5, 6, 9}},
+        {7, {VK_CONTROL, VK_SHIFT}, {2, 3, 5, 6, 7, 8, 9}},
+        {3, {}, {3}}};
     for (const DWORD single : {0, LVS_SINGLESEL})
     {
         for (const int top : {0, 20})
@@ -168,10 +170,10 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFin
                 final = false;
                 MoveTo(ClientPoint(list, list.RowPoint(top + row)));
                 PumpFor(30); // the display tells of the move late, and of no key being down
-                held != 0 ? QueueKey(held, true) : void();
+                std::ranges::for_each(held, [](UINT key) { QueueKey(key, true); });
                 Press();
                 Release();
-                held != 0 ? QueueKey(held, false) : void();
+                std::ranges::for_each(held, [](UINT key) { QueueKey(key, false); });
                 PumpAll();
                 std::set<int> expected;
                 for (const int each : single != 0 ? std::set<int>{row} : selected)
