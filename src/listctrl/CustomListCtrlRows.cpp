@@ -139,9 +139,9 @@ bool CCustomListCtrl::MoveByPage(UINT key, UINT flags)
     if (alive && InOnBoard() && int(Ask(LVM_GETITEMCOUNT)) > 0)
     {
         const bool extend = IsKeyDown(VK_SHIFT);
-        const int target =
-            listctrl::PageTarget(key == VK_NEXT, std::max(0, NextRow(-1, LVNI_FOCUSED)), TopRow(),
-                                 RowsInSight(), int(Ask(LVM_GETITEMCOUNT)));
+        const int focus = NextRow(-1, LVNI_FOCUSED);
+        const int target = listctrl::PageTarget(key == VK_NEXT, focus < 0 ? TopRow() : focus,
+                                                TopRow(), RowsInSight(), int(Ask(LVM_GETITEMCOUNT)));
         if (IsKeyDown(VK_CONTROL) && !extend)
         {
             SetItemState(target, LVIS_FOCUSED, LVIS_FOCUSED);

@@ -147,8 +147,13 @@ TEST_F(ListCtrlOnBoard, KeysMoveTheFocusAndTheFocusedRowIsInSight)
 {
     auto& list = AddList(300);
     list.SetFocus();
-    list.SetItemState(0, 3, 3);
     const int rows = (ClientRectOf(list).Height() - list.HeaderRect().bottom) / list.RowHeight();
+    list.SetItemState(-1, 0, 3); // no row has the focus
+    list.PerformVScroll(20, 0);
+    TypeKey(VK_NEXT);
+    EXPECT_EQ(list.Focused(), 20 + rows - 1);
+    list.PerformVScroll(SB_TOP);
+    list.SetItemState(0, 3, 3);
     list.SetItemText(250, 0, "Zulu"); // the only row that begins so
     const std::pair<UINT, int> table[] = {{VK_DOWN, 1},
                                           {VK_NEXT, rows - 1},
