@@ -40,10 +40,16 @@ void CCustomListCtrl::DrawScrollBars()
 
 void CCustomListCtrl::ShowBar(int axis, bool needed, bool& frameChanged)
 {
-    if (m_bars->ShowBar(axis, needed))
+    if (!m_bars->ShowBar(axis, needed))
     {
-        frameChanged = true;
-        m_bars->RelayoutFrame();
+        return;
+    }
+    const WindowAlive alive(*this);
+    frameChanged = true;
+    m_bars->RelayoutFrame();
+    if (alive && axis == SB_VERT && HeaderBottom() > 0)
+    {
+        m_header.RepositionHeaderStrip(); // a list with LVS_OWNERDATA leaves it as wide as it was
     }
 }
 

@@ -278,6 +278,11 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
         EXPECT_TRUE(ShowsWhatAPaintWould(list)) << count;
         list.ExpectInStep("fewer");
     }
+    list.AddColumns(4);
+    list.SetItemCount(count = 100);
+    PumpAll();
+    list.SetItemCount(count = 3);
+    list.ExpectInStep("fewer, set");
     // Its owner may say how many there are whenever it is told.
     const auto hook = Host().hook;
     int hints = 0;
