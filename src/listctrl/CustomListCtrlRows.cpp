@@ -140,8 +140,9 @@ bool CCustomListCtrl::MoveByPage(UINT key, UINT flags)
     {
         const bool extend = IsKeyDown(VK_SHIFT);
         const int focus = NextRow(-1, LVNI_FOCUSED);
-        const int target = listctrl::PageTarget(key == VK_NEXT, focus < 0 ? TopRow() : focus,
-                                                TopRow(), RowsInSight(), int(Ask(LVM_GETITEMCOUNT)));
+        const int target =
+            listctrl::PageTarget(key == VK_NEXT, focus < 0 ? TopRow() : focus, TopRow(),
+                                 RowsInSight(), int(Ask(LVM_GETITEMCOUNT)));
         if (IsKeyDown(VK_CONTROL) && !extend)
         {
             SetItemState(target, LVIS_FOCUSED, LVIS_FOCUSED);
