@@ -79,7 +79,11 @@ LRESULT CCustomListCtrlHdr::DefaultAt(UINT message, UINT flags, CPoint point)
         Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
         if (hit.iItem != item || (hit.flags & HHT_ONHEADER) == 0)
         {
-            return 0; // too narrow to be anything but a divider
+            if (message != WM_LBUTTONUP)
+            {
+                return 0; // too narrow to be anything but a divider
+            }
+            point.y = -1; // nowhere; but a press of the platform's ends there, too
         }
     }
     if (point.x > Farthest)

@@ -271,6 +271,14 @@ TEST_F(ListCtrlTest, AHeadingThatCannotBeClickedIsReleasedWhereverThePressEnds)
                     testing::Not(testing::Contains(UINT(LVN_COLUMNCLICK))));
         Remove(list);
     }
+    // Nor does the platform's drag of a divider go on that has come to an on-board mode.
+    auto& list = AddList(60, 6);
+    Press(list.DividerPoint(1));
+    DragTo(list.DividerPoint(1, 40));
+    SetMode(ONBOARD, Host());
+    DragTo(list.DividerPoint(1, 20));
+    Release();
+    EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 TEST_F(ListCtrlTest, TheLeastWidthHoldsInADrag)
