@@ -23,6 +23,7 @@ public:
     // What assistive programs are told: a text box, named by the label before it.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
+    HRESULT get_accState(VARIANT child, VARIANT* state) override;
     // @}
 
 protected:

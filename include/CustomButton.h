@@ -79,7 +79,7 @@ public:
     // @{
     // Assistive programs are told the mode's own check and press. The role decides how a button is
     // told of: only one that is no push button has a check. The default action is a click, posted
-    // to the button; a disabled one has none.
+    // to the button; one that the user cannot reach does none.
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;
     HRESULT get_accDefaultAction(VARIANT child, BSTR* action) override;

@@ -7,6 +7,7 @@
 #include <oleacc.h>
 
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 
 #include <optional>
 #include <type_traits>
@@ -128,6 +129,20 @@ template <class Base>
 HRESULT GiveRole(std::type_identity_t<Base>& window, const VARIANT& child, VARIANT* role, long own)
 {
     return IsSelf(child) ? Give(*role, own) : window.Base::get_accRole(child, role);
+}
+
+// What the platform says of a control's state. It knows only whether the window itself is disabled.
+template <class Base>
+HRESULT GiveWindowState(std::type_identity_t<Base>& window, const VARIANT& child, VARIANT* state)
+{
+    const WindowAlive alive(window);
+    const HRESULT result = window.Base::get_accState(child, state);
+    if (alive && SUCCEEDED(result) && IsSelf(child) && state->vt == VT_I4 &&
+        IsShutOff(window.GetSafeHwnd()))
+    {
+        state->lVal = (state->lVal & ~STATE_SYSTEM_FOCUSABLE) | STATE_SYSTEM_UNAVAILABLE;
+    }
+    return result;
 }
 
 // A label's own text.

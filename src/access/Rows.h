@@ -76,7 +76,7 @@ inline HRESULT GiveState(VARIANT& place, const CWnd& list, const RowState& row)
 {
     long bits = row.more;
     const auto add = [&bits](bool when, long bit) { bits |= when ? bit : 0; };
-    const bool enabled = list.IsWindowEnabled() != FALSE;
+    const bool enabled = !IsShutOff(list.GetSafeHwnd());
     add(!enabled, STATE_SYSTEM_UNAVAILABLE);
     add(enabled, STATE_SYSTEM_FOCUSABLE);
     add(row.caret && ::GetFocus() == list.GetSafeHwnd(), STATE_SYSTEM_FOCUSED);

@@ -30,7 +30,7 @@ inline HRESULT GivePartState(VARIANT& state, const CWnd& window, const CRect& pl
     CRect shown;
     const bool inSight = window.IsWindowVisible() && shown.IntersectRect(client, place);
     return Give(state, more | (inSight ? 0 : STATE_SYSTEM_INVISIBLE | STATE_SYSTEM_OFFSCREEN) |
-                           (window.IsWindowEnabled() ? 0 : STATE_SYSTEM_UNAVAILABLE));
+                           (IsShutOff(window.GetSafeHwnd()) ? STATE_SYSTEM_UNAVAILABLE : 0));
 }
 
 // A step from the window to a part, or from one part to the one beside it.

@@ -5,6 +5,7 @@
 #include "buttons/ButtonLayout.h"
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
@@ -44,29 +45,6 @@ CPen CCustomButton::m_PressedOutlinePen;
 CPen CCustomButton::m_FocusPen;
 CPen CCustomButton::m_PressedFocusPen;
 CFont CCustomButton::m_Font;
-
-namespace {
-
-// Hidden or disabled, by itself or with a window above it. A window that is not redrawn for a while
-// is taken for hidden.
-bool IsOutOfReach(HWND window)
-{
-    if (!::IsWindowVisible(window))
-    {
-        return true;
-    }
-    while ((::GetWindowLongPtr(window, GWL_STYLE) & WS_CHILD) != 0)
-    {
-        window = ::GetParent(window);
-        if (!::IsWindowEnabled(window))
-        {
-            return true;
-        }
-    }
-    return false;
-}
-
-} // namespace
 
 CCustomButton::CCustomButton()
     : m_background(palette::Panel)

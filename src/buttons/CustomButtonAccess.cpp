@@ -43,7 +43,7 @@ HRESULT CCustomRadiobutton::get_accRole(VARIANT child, VARIANT* role)
 HRESULT CCustomButton::get_accState(VARIANT child, VARIANT* state)
 {
     const WindowAlive alive(*this); // it may end in each question
-    const HRESULT result = CButton::get_accState(child, state);
+    const HRESULT result = access::GiveWindowState<CButton>(*this, child, state);
     if (!alive || FAILED(result) || !access::IsSelf(child) || state->vt != VT_I4)
     {
         return result;
@@ -91,7 +91,7 @@ HRESULT CCustomButton::accDoDefaultAction(VARIANT child)
     {
         return CButton::accDoDefaultAction(child);
     }
-    if (!IsWindowEnabled())
+    if (IsOutOfReach(GetSafeHwnd()))
     {
         return DISP_E_MEMBERNOTFOUND;
     }

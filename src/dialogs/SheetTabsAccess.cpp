@@ -57,7 +57,7 @@ HRESULT SheetTabs::get_accState(VARIANT child, VARIANT* state)
     }
     if (tab < 0)
     {
-        return CTabCtrl::get_accState(child, state);
+        return access::GiveWindowState<CTabCtrl>(*this, child, state);
     }
     CRect place(0, 0, 0, 0);
     GetItemRect(tab, &place);
@@ -67,7 +67,7 @@ HRESULT SheetTabs::get_accState(VARIANT child, VARIANT* state)
         return CO_E_OBJNOTCONNECTED;
     }
     const bool focused = active && ::GetFocus() == GetSafeHwnd();
-    const bool enabled = IsWindowEnabled() != FALSE;
+    const bool enabled = !IsShutOff(GetSafeHwnd());
     return access::GivePartState(*state, *this, place,
                                  STATE_SYSTEM_SELECTABLE | (enabled ? STATE_SYSTEM_FOCUSABLE : 0) |
                                      (active ? STATE_SYSTEM_SELECTED : 0) |
@@ -108,7 +108,7 @@ HRESULT SheetTabs::accDoDefaultAction(VARIANT child)
     {
         return CTabCtrl::accDoDefaultAction(child);
     }
-    CWnd* const sheet = IsWindowEnabled() ? GetParent() : nullptr;
+    CWnd* const sheet = IsOutOfReach(GetSafeHwnd()) ? nullptr : GetParent();
     if (sheet == nullptr)
     {
         return DISP_E_MEMBERNOTFOUND;

@@ -23,7 +23,7 @@ HRESULT CCustomEdit::get_accRole(VARIANT child, VARIANT* role)
 HRESULT CCustomEdit::get_accState(VARIANT child, VARIANT* state)
 {
     const WindowAlive alive(*this);
-    const HRESULT result = CEdit::get_accState(child, state);
+    const HRESULT result = access::GiveWindowState<CEdit>(*this, child, state);
     if (alive && SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4 && m_fauxReadOnly)
     {
         state->lVal |= STATE_SYSTEM_READONLY;
@@ -41,6 +41,11 @@ HRESULT ColorEdit::get_accRole(VARIANT child, VARIANT* role)
     return access::GiveRole<CEdit>(*this, child, role, ROLE_SYSTEM_TEXT);
 }
 
+HRESULT ColorEdit::get_accState(VARIANT child, VARIANT* state)
+{
+    return access::GiveWindowState<CEdit>(*this, child, state);
+}
+
 HRESULT EditWithPrompt::get_accName(VARIANT child, BSTR* name)
 {
     const WindowAlive alive(*this);
@@ -56,6 +61,11 @@ HRESULT EditWithPrompt::get_accRole(VARIANT child, VARIANT* role)
     return access::GiveRole<CEdit>(*this, child, role, ROLE_SYSTEM_TEXT);
 }
 
+HRESULT EditWithPrompt::get_accState(VARIANT child, VARIANT* state)
+{
+    return access::GiveWindowState<CEdit>(*this, child, state);
+}
+
 HRESULT QuixEdit::get_accName(VARIANT child, BSTR* name)
 {
     return access::GiveEditsName(*this, child, name);
@@ -64,4 +74,9 @@ HRESULT QuixEdit::get_accName(VARIANT child, BSTR* name)
 HRESULT QuixEdit::get_accRole(VARIANT child, VARIANT* role)
 {
     return access::GiveRole<CEdit>(*this, child, role, ROLE_SYSTEM_TEXT);
+}
+
+HRESULT QuixEdit::get_accState(VARIANT child, VARIANT* state)
+{
+    return access::GiveWindowState<CEdit>(*this, child, state);
 }

@@ -166,7 +166,7 @@ HRESULT CCustomListCtrl::get_accState(VARIANT child, VARIANT* state)
     int row = 0;
     if (IsSelf(child))
     {
-        return CListCtrl::get_accState(child, state);
+        return access::GiveWindowState<CListCtrl>(*this, child, state);
     }
     if (!IsRow(child, row))
     {
@@ -324,7 +324,7 @@ HRESULT CCustomListCtrl::accDoDefaultAction(VARIANT child)
     {
         return E_INVALIDARG;
     }
-    if (!IsWindowEnabled())
+    if (IsOutOfReach(GetSafeHwnd()))
     {
         return DISP_E_MEMBERNOTFOUND;
     }
@@ -339,6 +339,9 @@ HRESULT CCustomListCtrl::accDoDefaultAction(VARIANT child)
 
 LRESULT CCustomListCtrl::OnActivateRow(WPARAM, LPARAM)
 {
-    SendMessage(WM_KEYDOWN, VK_RETURN);
+    if (!IsOutOfReach(GetSafeHwnd())) // as it may be by now
+    {
+        SendMessage(WM_KEYDOWN, VK_RETURN);
+    }
     return 0;
 }

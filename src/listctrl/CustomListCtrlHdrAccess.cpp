@@ -63,7 +63,7 @@ HRESULT CCustomListCtrlHdr::get_accState(VARIANT child, VARIANT* state)
 {
     CRect place(0, 0, 0, 0);
     return HeadingPlace(child, place) ? access::GivePartState(*state, *this, place, 0)
-                                      : CHeaderCtrl::get_accState(child, state);
+                                      : access::GiveWindowState<CHeaderCtrl>(*this, child, state);
 }
 
 HRESULT CCustomListCtrlHdr::get_accDefaultAction(VARIANT child, BSTR* action)
@@ -80,7 +80,7 @@ HRESULT CCustomListCtrlHdr::accDoDefaultAction(VARIANT child)
     {
         return CHeaderCtrl::accDoDefaultAction(child);
     }
-    const bool clicks = IsWindowEnabled() && (GetStyle() & HDS_BUTTONS) != 0 &&
+    const bool clicks = !IsOutOfReach(GetSafeHwnd()) && (GetStyle() & HDS_BUTTONS) != 0 &&
                         DividerAt(place.CenterPoint().x) == -1;
     return clicks ? access::PostClick(*this, place) : DISP_E_MEMBERNOTFOUND;
 }

@@ -81,7 +81,7 @@ HRESULT CCustomChecklistBox::accDoDefaultAction(VARIANT child)
     {
         return E_INVALIDARG;
     }
-    if (!CanChange(index) || !IsWindowEnabled())
+    if (!CanChange(index) || IsOutOfReach(GetSafeHwnd()))
     {
         return DISP_E_MEMBERNOTFOUND;
     }

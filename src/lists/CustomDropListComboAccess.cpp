@@ -26,10 +26,11 @@ HRESULT CCustomDropListCombo::get_accRole(VARIANT child, VARIANT* role)
 HRESULT CCustomDropListCombo::get_accState(VARIANT child, VARIANT* state)
 {
     const WindowAlive alive(*this);
-    const HRESULT result = CWnd::get_accState(child, state);
+    const HRESULT result = access::GiveWindowState<CWnd>(*this, child, state);
     if (alive && SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4)
     {
-        state->lVal |= STATE_SYSTEM_HASPOPUP | (IsWindowEnabled() ? STATE_SYSTEM_FOCUSABLE : 0) |
+        state->lVal |= STATE_SYSTEM_HASPOPUP |
+                       (IsShutOff(GetSafeHwnd()) ? 0 : STATE_SYSTEM_FOCUSABLE) |
                        (m_expanded ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
     }
     return result;
@@ -47,14 +48,14 @@ HRESULT CCustomDropListCombo::accDoDefaultAction(VARIANT child)
     {
         return CWnd::accDoDefaultAction(child);
     }
-    return IsWindowEnabled() ? access::PostAct(*this) : E_FAIL;
+    return IsOutOfReach(GetSafeHwnd()) ? DISP_E_MEMBERNOTFOUND : access::PostAct(*this);
 }
 
 // As Alt+Down does it.
 LRESULT CCustomDropListCombo::OnAct(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this);
-    if (!IsWindowEnabled())
+    if (IsOutOfReach(GetSafeHwnd()))
     {
         return 0;
     }

@@ -65,7 +65,7 @@ HRESULT CCustomListBox::get_accState(VARIANT child, VARIANT* state)
     int index = 0;
     if (IsSelf(child))
     {
-        return CListBox::get_accState(child, state);
+        return access::GiveWindowState<CListBox>(*this, child, state);
     }
     if (!IsRow(child, index))
     {
@@ -204,7 +204,7 @@ HRESULT CCustomListBox::accDoDefaultAction(VARIANT child)
     {
         return E_INVALIDARG;
     }
-    if ((GetStyle() & LBS_NOTIFY) == 0 || !IsWindowEnabled())
+    if ((GetStyle() & LBS_NOTIFY) == 0 || IsOutOfReach(GetSafeHwnd()))
     {
         return DISP_E_MEMBERNOTFOUND;
     }

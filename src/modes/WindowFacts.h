@@ -33,6 +33,27 @@ inline bool IsOfClass(HWND window, const char* wanted)
     return ::lstrcmpi(name, wanted) == 0;
 }
 
+// Disabled, by itself or with a window above it: what the user does never reaches it.
+inline bool IsShutOff(HWND window)
+{
+    while (::IsWindowEnabled(window))
+    {
+        if ((::GetWindowLongPtr(window, GWL_STYLE) & WS_CHILD) == 0)
+        {
+            return false;
+        }
+        window = ::GetParent(window);
+    }
+    return true;
+}
+
+// The same or hidden: the user cannot work it. A window that is not redrawn for a while is taken
+// for hidden.
+inline bool IsOutOfReach(HWND window)
+{
+    return !::IsWindowVisible(window) || IsShutOff(window);
+}
+
 // The direct children in their order, collected: what is done to one may end others, or move it
 // among them.
 inline std::vector<HWND> ChildrenNow(HWND parent)

@@ -71,7 +71,7 @@ HRESULT CustomToolbar::get_accState(VARIANT child, VARIANT* state)
     }
     if (button < 0)
     {
-        return CToolBar::get_accState(child, state);
+        return access::GiveWindowState<CToolBar>(*this, child, state);
     }
     // The platform knows states by the command, and separators have none.
     TBBUTTON data = {};
@@ -134,7 +134,7 @@ HRESULT CustomToolbar::accDoDefaultAction(VARIANT child)
     {
         GetItemRect(button, &place);
     }
-    const bool presses = alive && GetItemID(button) != 0 &&
+    const bool presses = alive && !IsOutOfReach(GetSafeHwnd()) && GetItemID(button) != 0 &&
                          (state.lVal & (STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE)) == 0;
     if (!alive)
     {

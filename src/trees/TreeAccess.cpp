@@ -265,7 +265,7 @@ HRESULT TreeAccess::DoAction(HTREEITEM item) const
 {
     const WindowAlive alive(m_window);
     const bool branch = HasChildren(item);
-    if (!alive || !branch || !m_window.IsWindowEnabled())
+    if (!alive || !branch || IsOutOfReach(m_window.GetSafeHwnd()))
     {
         return alive ? DISP_E_MEMBERNOTFOUND : CO_E_OBJNOTCONNECTED;
     }

@@ -109,8 +109,9 @@ public:
     }
     HRESULT State(const VARIANT& child, VARIANT* state) const
     {
-        return m_access.IsForPlatform(child) ? m_tree.Platform::get_accState(child, state)
-                                             : m_access.Answer(child, &TreeAccess::State, state);
+        return m_access.IsForPlatform(child)
+                   ? access::GiveWindowState<Platform>(m_tree, child, state)
+                   : m_access.Answer(child, &TreeAccess::State, state);
     }
     HRESULT Focus(VARIANT* child) const
     {

@@ -2,9 +2,13 @@
 
 #include "BoldStatic.h"
 #include "CustomCheckBox.h"
+#include "CustomChecklistBox.h"
 #include "CustomListBox.h"
 #include "CustomListCtrl.h"
+#include "CustomPushbutton.h"
 #include "CustomStatusBar.h"
+#include "MultiTree.h"
+#include "QuixEdit.h"
 #include "lists/combo_for_tests.h"
 #include "support/Accessible.h"
 
@@ -175,4 +179,57 @@ TEST_F(WindowTest, WhatAHostThrowsReachesNoAssistiveProgram)
         EXPECT_TRUE(FAILED(object->get_accName(Child(CHILDID_SELF), &name)));
         EXPECT_EQ(name, nullptr);
     }
+}
+
+TEST_P(AccessInModes, WhatTheUserCannotReachIsReadAndNotWorked)
+{
+    auto& report = Add<CCustomListCtrl>(CRect(210, 10, 460, 210), LVS_REPORT);
+    report.InsertColumn(0, "Name", LVCFMT_LEFT, 160);
+    report.InsertItem(0, "Fuel");
+    auto& box = Add<CCustomListBox>(CRect(10, 10, 200, 160), LBS_NOTIFY);
+    box.AddString("Fuel");
+    auto& checks =
+        Add<CCustomChecklistBox>(CRect(10, 170, 200, 320), LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    checks.AddString("Fuel");
+    auto& tree = Add<MultiTree>(CRect(210, 220, 460, 320), TVS_HASBUTTONS);
+    tree.InsertItem("KJFK", tree.InsertItem("Fuel"));
+    auto& combo = Add<ComboForTests>(CRect(10, 330, 200, 360));
+    combo.AddString("Fuel");
+    auto& button = Add<CCustomPushbutton>(CRect(210, 330, 460, 360), 0, "Fuel");
+    auto& edit = Add<QuixEdit>(CRect(470, 330, 600, 360));
+    const std::pair<HWND, long> all[] = {
+        {report, 1},           {*report.GetHeaderCtrl(), 1}, {box, 1}, {checks, 1}, {tree, 1},
+        {combo, CHILDID_SELF}, {button, CHILDID_SELF}};
+    for (const auto& [window, child] : all)
+    {
+        const Held<IAccessible> object = Reached(window);
+        const Read before(*object, child);
+        SCOPED_TRACE(before.role);
+        EXPECT_EQ(before.state & STATE_SYSTEM_UNAVAILABLE, 0);
+        Host().EnableWindow(FALSE); // as that of a modal dialog is
+        const Read read(*object, child);
+        EXPECT_EQ(read.state, before.state | STATE_SYSTEM_UNAVAILABLE);
+        EXPECT_EQ(read.name, before.name);
+        EXPECT_EQ(object->accDoDefaultAction(Child(child)), DISP_E_MEMBERNOTFOUND);
+        Host().EnableWindow();
+        Host().ShowWindow(SW_HIDE);
+        EXPECT_EQ(object->accDoDefaultAction(Child(child)), DISP_E_MEMBERNOTFOUND);
+        Host().ShowWindow(SW_SHOWNA);
+        PumpAll();
+        EXPECT_EQ(Read(*object, child).state, before.state);
+    }
+    // Its heading is a window of its own, and not disabled.
+    report.EnableWindow(FALSE);
+    Host().Forget();
+    EXPECT_EQ(Reached(*report.GetHeaderCtrl())->accDoDefaultAction(Child(1)),
+              DISP_E_MEMBERNOTFOUND);
+    // What is asked for before and done afterwards.
+    EXPECT_EQ(Reached(combo)->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+    Host().EnableWindow(FALSE);
+    PumpAll();
+    EXPECT_NE(Read(*Reached(combo), CHILDID_SELF).state & STATE_SYSTEM_COLLAPSED, 0);
+    EXPECT_EQ(Read(*Reached(edit), CHILDID_SELF).state, STATE_SYSTEM_UNAVAILABLE);
+    Host().EnableWindow();
+    EXPECT_THAT(Host().CodesFrom(UINT(report.GetDlgCtrlID())),
+                testing::Not(testing::Contains(UINT(LVN_COLUMNCLICK))));
 }
