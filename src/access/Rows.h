@@ -29,6 +29,17 @@ constexpr bool CanSelect(long flags, bool many)
            (many && (selects == SELFLAG_ADDSELECTION || selects == SELFLAG_REMOVESELECTION));
 }
 
+// What keeps a list from doing what the flags ask for; S_OK is nothing. The user could not do it
+// where the list is out of reach.
+inline HRESULT KeptFromSelecting(const CWnd& list, long flags, bool many)
+{
+    if (!CanSelect(flags, many))
+    {
+        return E_INVALIDARG;
+    }
+    return flags != SELFLAG_NONE && IsOutOfReach(list.GetSafeHwnd()) ? DISP_E_MEMBERNOTFOUND : S_OK;
+}
+
 // The selected rows: nothing, the one, or all of them one after the other.
 template <class Rows> HRESULT GiveRows(VARIANT& place, const Rows& rows)
 {

@@ -268,9 +268,14 @@ HRESULT CCustomListCtrl::accSelect(long flags, VARIANT child)
     {
         return CListCtrl::accSelect(flags, child);
     }
-    if (!IsRow(child, row) || !access::CanSelect(flags, (GetStyle() & LVS_SINGLESEL) == 0))
+    if (!IsRow(child, row))
     {
         return E_INVALIDARG;
+    }
+    const bool many = (GetStyle() & LVS_SINGLESEL) == 0;
+    if (const HRESULT kept = access::KeptFromSelecting(*this, flags, many); FAILED(kept))
+    {
+        return kept;
     }
     const WindowAlive alive(*this);
     const bool takesFocus = (flags & SELFLAG_TAKEFOCUS) != 0;

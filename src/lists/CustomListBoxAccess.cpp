@@ -10,6 +10,21 @@ using access::Give;
 using access::GiveNothing;
 using access::IsSelf;
 
+namespace {
+
+bool HasSelection(const CWnd& list)
+{
+    return (list.GetStyle() & LBS_NOSEL) == 0;
+}
+
+// A double click is told where it selects.
+bool HasAction(const CWnd& list)
+{
+    return HasSelection(list) && (list.GetStyle() & LBS_NOTIFY) != 0;
+}
+
+} // namespace
+
 bool CCustomListBox::IsRow(const VARIANT& child, int& index)
 {
     index = access::RowOf(child, Ask(LB_GETCOUNT));
@@ -75,7 +90,7 @@ HRESULT CCustomListBox::get_accState(VARIANT child, VARIANT* state)
     access::RowState row = {.selected = IsSelected(index),
                             .caret = index == Ask(LB_GETCARETINDEX),
                             .inSight = IsInSight(index, place)};
-    row.more |= (GetStyle() & LBS_NOSEL) == 0 ? STATE_SYSTEM_SELECTABLE : 0;
+    row.more |= HasSelection(*this) ? STATE_SYSTEM_SELECTABLE : 0;
     row.more |= FlipsSelection() || ExtendsSelection() ? STATE_SYSTEM_MULTISELECTABLE : 0;
     row.more |= ExtendsSelection() ? STATE_SYSTEM_EXTSELECTABLE : 0;
     return access::GiveState(*state, *this, row);
@@ -108,9 +123,13 @@ HRESULT CCustomListBox::accSelect(long flags, VARIANT child)
         return E_INVALIDARG;
     }
     const bool many = FlipsSelection() || ExtendsSelection();
-    if (!access::CanSelect(flags, many))
+    if (!HasSelection(*this) && (flags & ~long(SELFLAG_TAKEFOCUS)) != 0)
     {
         return E_INVALIDARG;
+    }
+    if (const HRESULT kept = access::KeptFromSelecting(*this, flags, many); FAILED(kept))
+    {
+        return kept;
     }
     const WindowAlive alive(*this);
     const std::vector<int> before = SelectedRows();
@@ -190,7 +209,7 @@ HRESULT CCustomListBox::get_accDefaultAction(VARIANT child, BSTR* action)
     {
         return E_INVALIDARG;
     }
-    return (GetStyle() & LBS_NOTIFY) != 0 ? Give(*action, "Double click") : S_FALSE;
+    return HasAction(*this) ? Give(*action, "Double click") : S_FALSE;
 }
 
 HRESULT CCustomListBox::accDoDefaultAction(VARIANT child)
@@ -204,7 +223,7 @@ HRESULT CCustomListBox::accDoDefaultAction(VARIANT child)
     {
         return E_INVALIDARG;
     }
-    if ((GetStyle() & LBS_NOTIFY) == 0 || IsOutOfReach(GetSafeHwnd()))
+    if (!HasAction(*this) || IsOutOfReach(GetSafeHwnd()))
     {
         return DISP_E_MEMBERNOTFOUND;
     }

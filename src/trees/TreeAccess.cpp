@@ -219,9 +219,14 @@ HRESULT TreeAccess::Navigate(long direction, const VARIANT& start, VARIANT* end)
 HRESULT TreeAccess::Select(long flags, const VARIANT& child) const
 {
     const HTREEITEM item = ItemOf(child);
-    if (item == nullptr || !access::CanSelect(flags, m_selection.IsMultiSelect()))
+    if (item == nullptr)
     {
         return E_INVALIDARG;
+    }
+    const bool many = m_selection.IsMultiSelect();
+    if (const HRESULT kept = access::KeptFromSelecting(m_window, flags, many); FAILED(kept))
+    {
+        return kept;
     }
     const WindowAlive alive(m_window);
     const WatchedItem watched(m_items, item);

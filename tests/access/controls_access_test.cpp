@@ -233,3 +233,34 @@ TEST_P(AccessInModes, WhatTheUserCannotReachIsReadAndNotWorked)
     EXPECT_THAT(Host().CodesFrom(UINT(report.GetDlgCtrlID())),
                 testing::Not(testing::Contains(UINT(LVN_COLUMNCLICK))));
 }
+
+TEST_P(AccessInModes, WhatTheUserCannotSelectIsNotSelected)
+{
+    constexpr long Wish = SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION;
+    auto& report = Add<CCustomListCtrl>(CRect(210, 10, 460, 210), LVS_REPORT);
+    report.InsertColumn(0, "Name", LVCFMT_LEFT, 160);
+    report.InsertItem(0, "Fuel");
+    auto& box = Add<CCustomListBox>(CRect(10, 10, 200, 160), LBS_NOTIFY);
+    box.AddString("Fuel");
+    auto& tree = Add<MultiTree>(CRect(210, 220, 460, 320));
+    tree.InsertItem("Fuel");
+    for (CWnd* const list :
+         {static_cast<CWnd*>(&report), static_cast<CWnd*>(&box), static_cast<CWnd*>(&tree)})
+    {
+        SCOPED_TRACE(list->GetDlgCtrlID());
+        const Held<IAccessible> object = Reached(*list);
+        list->EnableWindow(FALSE);
+        EXPECT_EQ(object->accSelect(Wish, Child(1)), DISP_E_MEMBERNOTFOUND);
+        list->EnableWindow();
+        EXPECT_EQ(SelectionIn(*object), -1);
+    }
+
+    auto& fixed = Add<CCustomListBox>(CRect(10, 170, 200, 320), LBS_NOTIFY | LBS_NOSEL);
+    fixed.AddString("Fuel");
+    const Held<IAccessible> object = Reached(fixed);
+    EXPECT_EQ(Read(*object, 1).action, "(none)");
+    EXPECT_EQ(object->accDoDefaultAction(Child(1)), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(object->accSelect(Wish, Child(1)), E_INVALIDARG);
+    EXPECT_EQ(fixed.GetCurSel(), -1);
+    EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS, Child(1)), S_OK);
+}
