@@ -3,6 +3,12 @@
 #include "access/Rows.h"
 #include "modes/WindowAlive.h"
 
+namespace {
+
+constexpr UINT CheckedImage = 2; // of a tree with check boxes
+
+} // namespace
+
 namespace trees {
 
 using access::Give;
@@ -102,6 +108,11 @@ HRESULT TreeAccess::State(HTREEITEM item, VARIANT* state) const
     {
         const bool open = m_items.State(item, TVIS_EXPANDED) != 0;
         more |= open ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED;
+    }
+    if ((m_window.GetStyle() & TVS_CHECKBOXES) != 0 &&
+        m_items.State(item, TVIS_STATEIMAGEMASK) == INDEXTOSTATEIMAGEMASK(CheckedImage))
+    {
+        more |= STATE_SYSTEM_CHECKED;
     }
     if (m_selection.IsMultiSelect())
     {

@@ -45,3 +45,17 @@ TEST_P(TreeAccessInModes, ItemsOfATreeTellNamePlaceAndState)
     EXPECT_EQ(child.lVal, 2);
     EXPECT_EQ(object->accNavigate(NAVDIR_NEXT, Child(3), &child), S_FALSE);
 }
+
+TEST_P(TreeAccessInModes, ChecksOfATreeAreTold)
+{
+    auto& tree = Add<MultiTree>(CRect(10, 40, 310, 340), TVS_CHECKBOXES);
+    tree.InsertItem("EDDF");
+    const HTREEITEM checked = tree.InsertItem("KJFK");
+    Repaint(tree);
+    tree.SetCheck(checked);
+    const Held<IAccessible> object = Reached(tree);
+    EXPECT_EQ(Read(*object, 1).state, 0);
+    EXPECT_EQ(Read(*object, 2).state, STATE_SYSTEM_CHECKED);
+    tree.ModifyStyle(TVS_CHECKBOXES, 0);
+    EXPECT_EQ(Read(*object, 2).state, 0) << "a host's own picture";
+}
