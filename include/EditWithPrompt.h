@@ -45,7 +45,7 @@ public:
 
     // @{
     // What assistive programs are told: a text box, named by the label before it or else by its
-    // prompt.
+    // prompt. That of a password is told as protected also while it shows the prompt.
     HRESULT get_accName(VARIANT child, BSTR* name) override;
     HRESULT get_accRole(VARIANT child, VARIANT* role) override;
     HRESULT get_accState(VARIANT child, VARIANT* state) override;

@@ -61,9 +61,17 @@ HRESULT EditWithPrompt::get_accRole(VARIANT child, VARIANT* role)
     return access::GiveRole<CEdit>(*this, child, role, ROLE_SYSTEM_TEXT);
 }
 
+// A password is one also while the prompt is to be read in its place.
 HRESULT EditWithPrompt::get_accState(VARIANT child, VARIANT* state)
 {
-    return access::GiveWindowState<CEdit>(*this, child, state);
+    const WindowAlive alive(*this);
+    const HRESULT result = access::GiveWindowState<CEdit>(*this, child, state);
+    if (alive && SUCCEEDED(result) && access::IsSelf(child) && state->vt == VT_I4 &&
+        m_passwordChar != 0)
+    {
+        state->lVal |= STATE_SYSTEM_PROTECTED;
+    }
+    return result;
 }
 
 HRESULT QuixEdit::get_accName(VARIANT child, BSTR* name)

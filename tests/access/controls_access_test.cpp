@@ -3,10 +3,12 @@
 #include "BoldStatic.h"
 #include "CustomCheckBox.h"
 #include "CustomChecklistBox.h"
+#include "CustomEdit.h"
 #include "CustomListBox.h"
 #include "CustomListCtrl.h"
 #include "CustomPushbutton.h"
 #include "CustomStatusBar.h"
+#include "EditWithPrompt.h"
 #include "MultiTree.h"
 #include "QuixEdit.h"
 #include "lists/combo_for_tests.h"
@@ -263,4 +265,25 @@ TEST_P(AccessInModes, WhatTheUserCannotSelectIsNotSelected)
     EXPECT_EQ(object->accSelect(Wish, Child(1)), E_INVALIDARG);
     EXPECT_EQ(fixed.GetCurSel(), -1);
     EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS, Child(1)), S_OK);
+}
+
+TEST_P(AccessInModes, APasswordIsToldAsOneAndNotTold)
+{
+    auto& prompted = Add<EditWithPrompt>(CRect(10, 10, 200, 40), ES_PASSWORD);
+    prompted.SetPromptText("PIN");
+    const auto expectHidden = [](CWnd& edit, const char* when) {
+        const Read read(*Reached(edit), CHILDID_SELF);
+        EXPECT_NE(read.state & STATE_SYSTEM_PROTECTED, 0) << when;
+        EXPECT_NE(read.value, "secret") << when;
+    };
+    prompted.Reset();
+    EXPECT_EQ(prompted.GetWindowTextLength(), 0);
+    expectHidden(prompted, "its prompt shows");
+    prompted.SetWindowText("secret");
+    expectHidden(prompted, "its text shows");
+    auto& custom = Add<CCustomEdit>(CRect(10, 50, 200, 80), ES_PASSWORD);
+    custom.SetWindowText("secret");
+    expectHidden(custom, "custom edit");
+    prompted.SetPasswordChar(0);
+    EXPECT_EQ(Read(*Reached(prompted), CHILDID_SELF).state & STATE_SYSTEM_PROTECTED, 0);
 }

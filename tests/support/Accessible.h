@@ -16,7 +16,7 @@ struct Read : Answers
         const long told = STATE_SYSTEM_CHECKED | STATE_SYSTEM_MIXED | STATE_SYSTEM_UNAVAILABLE |
                           STATE_SYSTEM_SELECTED | STATE_SYSTEM_FOCUSED | STATE_SYSTEM_OFFSCREEN |
                           STATE_SYSTEM_EXPANDED | STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_READONLY |
-                          STATE_SYSTEM_PRESSED | odd;
+                          STATE_SYSTEM_PRESSED | STATE_SYSTEM_PROTECTED | odd;
         state = state == -1 ? -1 : state & told;
     }
 };
