@@ -96,6 +96,20 @@ inline HRESULT PostAct(CWnd& window, int row = -1)
     return window.PostMessage(ActMessage, WPARAM(row)) ? S_OK : E_FAIL;
 }
 
+// The default action of what is checked: by the check that follows.
+inline const char* VerbOfCheck(int next)
+{
+    switch (next)
+    {
+    case BST_UNCHECKED:
+        return "Uncheck";
+    case BST_CHECKED:
+        return "Check";
+    default:
+        return "Toggle";
+    }
+}
+
 inline bool IsSelf(const VARIANT& child)
 {
     return child.vt == VT_I4 && child.lVal == CHILDID_SELF;

@@ -23,6 +23,19 @@ long RoleOf(CCustomButton& button)
     return value;
 }
 
+// The check that follows a click. The third state comes only by the platform's own button.
+int NextCheck(const CCustomButton& button)
+{
+    const bool three = !COnBoardUIGeneral::InOnBoardMode() &&
+                       (button.GetButtonStyle() & BS_TYPEMASK) == BS_AUTO3STATE;
+    const int check = button.GetCheck(); // it may end in the question
+    if (three && check != BST_UNCHECKED)
+    {
+        return check == BST_CHECKED ? BST_INDETERMINATE : BST_UNCHECKED;
+    }
+    return check == BST_CHECKED ? BST_UNCHECKED : BST_CHECKED;
+}
+
 } // namespace
 
 HRESULT CCustomButton::get_accRole(VARIANT child, VARIANT* role)
@@ -81,7 +94,7 @@ HRESULT CCustomButton::get_accDefaultAction(VARIANT child, BSTR* action)
     case ROLE_SYSTEM_RADIOBUTTON:
         return access::Give(*action, "Check");
     default:
-        return access::Give(*action, GetCheck() == BST_CHECKED ? "Uncheck" : "Check");
+        return access::Give(*action, access::VerbOfCheck(NextCheck(*this)));
     }
 }
 

@@ -10,23 +10,6 @@
 using access::Give;
 using access::IsSelf;
 
-namespace {
-
-const char* Verb(int nextCheck)
-{
-    switch (nextCheck)
-    {
-    case BST_UNCHECKED:
-        return "Uncheck";
-    case BST_CHECKED:
-        return "Check";
-    default:
-        return "Toggle";
-    }
-}
-
-} // namespace
-
 HRESULT CCustomChecklistBox::get_accRole(VARIANT child, VARIANT* role)
 {
     int index = 0;
@@ -67,7 +50,7 @@ HRESULT CCustomChecklistBox::get_accDefaultAction(VARIANT child, BSTR* action)
     {
         return S_FALSE;
     }
-    return Give(*action, Verb(lists::NextCheck(GetCheck(index), m_checkStyle)));
+    return Give(*action, access::VerbOfCheck(lists::NextCheck(GetCheck(index), m_checkStyle)));
 }
 
 HRESULT CCustomChecklistBox::accDoDefaultAction(VARIANT child)

@@ -287,3 +287,20 @@ TEST_P(AccessInModes, APasswordIsToldAsOneAndNotTold)
     prompted.SetPasswordChar(0);
     EXPECT_EQ(Read(*Reached(prompted), CHILDID_SELF).state & STATE_SYSTEM_PROTECTED, 0);
 }
+
+TEST_P(AccessInModes, TheActionOfACheckBoxIsWhatAClickDoes)
+{
+    auto& box = Add<CCustomCheckBox>(CRect(10, 10, 200, 60), BS_AUTO3STATE, "Auto");
+    const Held<IAccessible> object = Reached(box);
+    std::string told;
+    for (const int check : {BST_UNCHECKED, BST_CHECKED, BST_INDETERMINATE})
+    {
+        box.SetCheck(check);
+        told += Read(*object, CHILDID_SELF).action;
+        EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+        PumpAll();
+        told += std::to_string(box.GetCheck()) + " ";
+    }
+    // On-board a click never leads to the third state.
+    EXPECT_EQ(told, GetParam() == STD ? "Check1 Toggle2 Uncheck0 " : "Check1 Uncheck0 Check1 ");
+}
