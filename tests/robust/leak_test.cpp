@@ -2,8 +2,16 @@
 // own tables, memory from its heap, timers by ending them. ONBOARDUI_LEAK_CYCLES asks for so many
 // lives of each; ./soak does.
 
+#include "MappedImageList.h"
+#include "VehicleIconList.h"
+#include "ViewPolygon.h"
 #include "robust/Subjects.h"
+#include "support/Canvas.h"
 #include "support/WindowTest.h"
+#include "support_libs/text_file.h"
+
+#include <K3Chart.h>
+#include <K3Grfx.h>
 
 #include <cstdlib>
 
@@ -51,18 +59,45 @@ TEST_P(Leaks, ManyLivesLeaveNothing)
         Live();
     }
     const int objects = GraphicsObjects();
-    const size_t windows = TopLevelWindows().size();
+    const size_t windows = AllWindows().size();
     const size_t kept = AllocatedBytes();
     for (int cycle = 0; cycle < cycles; ++cycle)
     {
         Live();
     }
     EXPECT_EQ(GraphicsObjects(), objects) << GetParam().name;
-    EXPECT_EQ(TopLevelWindows().size(), windows) << GetParam().name;
+    EXPECT_EQ(AllWindows().size(), windows) << GetParam().name;
     EXPECT_EQ(m_timers + TicksWithin(100), 0) << GetParam().name;
     // The platform keeps a little for itself that comes and goes; a leak grows with the cycles.
     const auto growth = std::int64_t(AllocatedBytes()) - std::int64_t(kept);
     EXPECT_LT(growth, cycles * 64) << GetParam().name;
+}
+
+TEST_F(WindowTest, ManyLivesWithoutAWindowLeaveNothing)
+{
+    Canvas canvas(200, 150);
+    K3Grfx graphics(canvas.DC());
+    K3Chart chart(K3Chart::Mercator, 48, 11, 10, {50, 20});
+    const TextFile file("[Vehicle Icons]\nVehicle Glider\n#.#\n.#.\nVehicle Car\n##\n");
+    const auto live = [&] {
+        MappedImageList images;
+        EXPECT_TRUE(images.Create(16, 16, ILC_COLOR32 | ILC_MASK, 0, 4));
+        images.AddIcon(3527);
+        images.AddIcon(3573);
+        VehicleIconList vehicles;
+        EXPECT_TRUE(static_cast<IconList&>(vehicles).Load(file.Path(), nullptr));
+        CViewPolygon(401, 3, K3Color(1, 2, 3)).Draw(&graphics, &chart, {0, 0, 90, 40}, &chart);
+    };
+    live();
+    const int objects = GraphicsObjects();
+    const size_t kept = AllocatedBytes();
+    constexpr int lives = 20;
+    for (int life = 0; life < lives; ++life)
+    {
+        live();
+    }
+    EXPECT_EQ(GraphicsObjects(), objects);
+    EXPECT_LT(std::int64_t(AllocatedBytes()) - std::int64_t(kept), lives * 64);
 }
 
 INSTANTIATE_TEST_SUITE_P(Of, Leaks, testing::ValuesIn(Subjects()),

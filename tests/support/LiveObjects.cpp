@@ -67,6 +67,24 @@ std::vector<HWND> TopLevelWindows()
     return windows;
 }
 
+std::vector<HWND> AllWindows()
+{
+    std::vector<HWND> windows = TopLevelWindows();
+    for (const HWND window : TopLevelWindows())
+    {
+        ::EnumChildWindows(window, &Collect, reinterpret_cast<LPARAM>(&windows));
+    }
+    for (HWND window = nullptr;
+         (window = ::FindWindowEx(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr;)
+    {
+        if (::GetWindowThreadProcessId(window, nullptr) == ::GetCurrentThreadId())
+        {
+            windows.push_back(window);
+        }
+    }
+    return windows;
+}
+
 size_t AllocatedBytes()
 {
     // The run-time library may have a heap of its own.

@@ -13,5 +13,8 @@ int GraphicsObjects();
 // Top-level windows of this thread, without the input method's own.
 std::vector<HWND> TopLevelWindows();
 
+// These, all that are on them, and those that only take messages.
+std::vector<HWND> AllWindows();
+
 // Bytes that the process's heaps have handed out and not got back.
 size_t AllocatedBytes();

@@ -18,6 +18,13 @@ TEST_F(SupportTest, LiveObjectsAreCounted)
     }
     EXPECT_EQ(GraphicsObjects(), before);
 
+    const size_t windows = AllWindows().size();
+    CWnd child;
+    CWnd hidden;
+    child.CreateEx(0, "STATIC", "", WS_CHILD, CRect(0, 0, 9, 9), &Host(), 1);
+    hidden.CreateEx(0, "STATIC", "", 0, 0, 0, 9, 9, HWND_MESSAGE, nullptr);
+    EXPECT_EQ(AllWindows().size(), windows + 2);
+
     const size_t bytes = AllocatedBytes();
     // Not by new, which has a heap of its own when memory is guarded; volatile, or it is left out.
     void* volatile kept = std::malloc(50'000);
