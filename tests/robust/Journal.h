@@ -67,6 +67,12 @@ inline std::string Essentials(const NMHDR& header)
     case LVN_ENDLABELEDIT:
         return Joined(About<NMLVDISPINFO>(header).item.iItem,
                       text(About<NMLVDISPINFO>(header).item.pszText));
+    case LVN_ODSTATECHANGED:
+        return Joined(About<NMLVODSTATECHANGE>(header).iFrom, About<NMLVODSTATECHANGE>(header).iTo,
+                      About<NMLVODSTATECHANGE>(header).uNewState);
+    case LVN_ODFINDITEM:
+    case LVN_ODFINDITEMW:
+        return Joined(About<NMLVFINDITEM>(header).iStart);
     case TVN_BEGINLABELEDIT:
     case TVN_ENDLABELEDIT:
     {
@@ -204,7 +210,8 @@ private:
         }
         const bool paints = told.message == WM_DRAWITEM ||
                             (told.message == WM_NOTIFY && (told.code == UINT(NM_CUSTOMDRAW) ||
-                                                           told.code == UINT(LVN_GETDISPINFO)));
+                                                           told.code == UINT(LVN_GETDISPINFO) ||
+                                                           told.code == UINT(LVN_ODCACHEHINT)));
         if (m_writing && !paints) // whose times are the display's
         {
             m_text += "    told" + Joined(told.message, told.id, int(told.code)) +

@@ -17,6 +17,25 @@ CString RowText(const CListBox& list, int row)
     return text;
 }
 
+// A list that has no more than a number of rows.
+void Count(CListBox& list, Journal& journal)
+{
+    journal.answer = [](ToldMessage& told) {
+        if (told.message == WM_DRAWITEM)
+        {
+            told.answer = TRUE;
+        }
+    };
+    const auto count = [&](int rows) { return list.SendMessage(LB_SETCOUNT, WPARAM(rows)); };
+    ASK(count(50), list.GetCount(), list.SetItemData(3, 42), list.GetItemData(3),
+        list.AddString("none"), list.SetCurSel(7), list.SetSel(8), journal.Middle(),
+        list.GetCurSel(), list.SetTopIndex(20), list.GetTopIndex(), journal.Key(VK_END),
+        journal.Key(VK_UP, VK_SHIFT), list.GetSelCount(), journal.Middle(), list.GetTopIndex(),
+        list.DeleteString(2), list.GetCount(), list.GetItemHeight(0), journal.Press(30, 40),
+        list.GetCurSel(), count(5), list.GetTopIndex(), list.GetCurSel(),
+        list.GetStyle() & WS_VSCROLL, (list.ResetContent(), 0), list.GetCount());
+}
+
 void Pick(CListBox& list, Journal& journal)
 {
     for (const char* const text : {"Gamma", "Alpha", "Delta", "Beta", "Alphabet"})
@@ -170,6 +189,34 @@ void Report(CListCtrl& list, Journal& journal)
         list.DeleteAllItems(), list.GetItemCount(), list.SendMessage(WM_GETDLGCODE));
 }
 
+// Rows that the host keeps. Their texts are asked for when they are painted, too.
+void Elsewhere(CListCtrl& list, Journal& journal)
+{
+    list.InsertColumn(0, "Name", LVCFMT_LEFT, 90);
+    journal.answer = [](ToldMessage& told) {
+        if (told.code == UINT(LVN_GETDISPINFO))
+        {
+            LVITEM& row = reinterpret_cast<NMLVDISPINFO*>(told.lParam)->item;
+            if ((row.mask & LVIF_TEXT) != 0)
+            {
+                std::snprintf(row.pszText, size_t(row.cchTextMax), "Row %d", row.iItem);
+            }
+        }
+        else if (told.code == UINT(LVN_ODFINDITEM) || told.code == UINT(LVN_ODFINDITEMW))
+        {
+            told.answer = 7;
+        }
+    };
+    ASK((list.SetItemCount(60), 0), list.GetItemCount(), list.GetItemText(8, 0),
+        list.SetItemState(2, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED),
+        journal.Middle(), list.GetNextItem(-1, LVNI_SELECTED), journal.Key(VK_DOWN),
+        journal.Key(VK_DOWN, VK_SHIFT), journal.Key(VK_END, VK_SHIFT), list.GetSelectedCount(),
+        list.GetTopIndex(), journal.Key('R'), list.GetNextItem(-1, LVNI_FOCUSED),
+        list.EnsureVisible(30, FALSE), list.GetTopIndex(), journal.Middle(), list.GetTopIndex(),
+        journal.Press(30, 50), list.GetNextItem(-1, LVNI_SELECTED), (list.SetItemCount(5), 0),
+        list.GetTopIndex(), list.GetSelectedCount(), list.DeleteAllItems(), list.GetItemCount());
+}
+
 // The label of an item that is selected, written over; text gives it.
 template <class Control, class Item, class Text>
 void Rename(Control& control, Item item, Journal& journal, Text text)
@@ -203,6 +250,25 @@ void RenameItem(CTreeCtrl& tree, Journal& journal)
     const HTREEITEM second = tree.InsertItem("Second");
     ASK(tree.SetItemData(second, 42));
     Rename(tree, second, journal, [&] { return tree.GetItemText(second); });
+}
+
+void Check(CTreeCtrl& tree, Journal& journal)
+{
+    HTREEITEM items[3] = {};
+    for (HTREEITEM& item : items)
+    {
+        item = tree.InsertItem("Item");
+    }
+    const HTREEITEM leaf = tree.InsertItem("Leaf", items[0]);
+    const auto checks = [&] {
+        return tree.GetCheck(items[0]) * 1000 + tree.GetCheck(items[1]) * 100 +
+               tree.GetCheck(items[2]) * 10 + tree.GetCheck(leaf);
+    };
+    ASK(tree.SetCheck(items[1]), tree.SetCheck(leaf), checks(), tree.SetItemHeight(30),
+        (tree.SetIndent(35), 0), tree.GetItemHeight(), tree.GetIndent(), journal.Middle(), checks(),
+        tree.GetItemHeight(), tree.GetIndent(), tree.SelectItem(items[2]), journal.Key(VK_SPACE),
+        checks(), journal.Key(VK_SPACE), checks(), tree.SetCheck(items[0]), journal.Middle(),
+        tree.SetCheck(items[1], FALSE), checks());
 }
 
 void Branch(CTreeCtrl& tree, Journal& journal)
@@ -272,6 +338,8 @@ TEST_F(Parity, ListBoxes)
         {Plain, Plain | LBS_SORT, Plain | LBS_MULTIPLESEL, Plain | LBS_EXTENDEDSEL,
          Plain | WS_HSCROLL, Plain | LBS_MULTICOLUMN | WS_HSCROLL, Plain | LBS_WANTKEYBOARDINPUT},
         &Pick);
+    constexpr DWORD Counted = Plain | LBS_NODATA | LBS_OWNERDRAWFIXED;
+    Compare<CCustomListBox, CListBox>("LISTBOX", {Counted, Counted | LBS_EXTENDEDSEL}, &Count);
     Compare<CCustomListBox, CListBox>(
         "LISTBOX",
         {Plain | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS, Plain | LBS_OWNERDRAWFIXED | LBS_SORT,
@@ -328,6 +396,7 @@ TEST_F(Parity, Reports)
         WC_LISTVIEW,
         {LVS_REPORT | LVS_SHOWSELALWAYS, LVS_REPORT | LVS_SINGLESEL | LVS_SORTASCENDING}, &Report);
     Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, {LVS_REPORT | LVS_EDITLABELS}, &RenameRow);
+    Compare<CCustomListCtrl, CListCtrl>(WC_LISTVIEW, {LVS_REPORT | LVS_OWNERDATA}, &Elsewhere);
     Compare<CCustomListCtrlHdr, CHeaderCtrl>(
         WC_HEADER, {HDS_HORZ | HDS_BUTTONS | HDS_FULLDRAG | HDS_DRAGDROP, HDS_HORZ}, &Columns);
 }
@@ -348,6 +417,7 @@ TEST_F(Parity, Trees)
     constexpr DWORD Plain = TVS_HASBUTTONS | TVS_LINESATROOT | TVS_HASLINES;
     constexpr DWORD Labels = Plain | TVS_EDITLABELS;
     Compare<SingleTree, CTreeCtrl>(WC_TREEVIEW, {Plain}, &Branch);
+    Compare<SingleTree, CTreeCtrl>(WC_TREEVIEW, {Plain | TVS_CHECKBOXES}, &Check);
     Compare<SingleTree, CTreeCtrl>(WC_TREEVIEW, {Labels}, &RenameItem);
     Compare<MultiTree, CTreeCtrl>(WC_TREEVIEW, {Labels}, &RenameItem);
     for (const auto script : {&Branch, &RenameItem})

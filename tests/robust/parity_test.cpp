@@ -143,8 +143,8 @@ TEST_F(Parity, Buttons)
 {
     Compare<CCustomPushbutton, CButton>("BUTTON", {BS_PUSHBUTTON | BS_NOTIFY, BS_DEFPUSHBUTTON},
                                         &PressAndCheck);
-    Compare<CCustomCheckBox, CButton>("BUTTON", {BS_AUTOCHECKBOX | BS_NOTIFY, BS_CHECKBOX},
-                                      &PressAndCheck);
+    Compare<CCustomCheckBox, CButton>(
+        "BUTTON", {BS_AUTOCHECKBOX | BS_NOTIFY, BS_CHECKBOX, BS_AUTO3STATE}, &PressAndCheck);
     Compare<CCustomRadiobutton, CButton>("BUTTON", {BS_AUTORADIOBUTTON | WS_GROUP}, &PressAndCheck);
 }
 
