@@ -184,10 +184,10 @@ template <template <class> class As> struct Makers
         return header;
     }
 
-    static Made MakeReport(CWnd& parent, const Contents& contents)
+    template <DWORD Style = 0> static Made MakeReport(CWnd& parent, const Contents& contents)
     {
         auto list = std::make_unique<As<CCustomListCtrl>>();
-        if (!list->Create(Child | LVS_REPORT | LVS_SHOWSELALWAYS, contents.place, &parent,
+        if (!list->Create(Child | LVS_REPORT | LVS_SHOWSELALWAYS | Style, contents.place, &parent,
                           ControlId))
         {
             return nullptr;
@@ -195,6 +195,11 @@ template <template <class> class As> struct Makers
         for (int column = 0; column < 4; ++column)
         {
             list->InsertColumn(column, contents.text.c_str(), LVCFMT_LEFT, 90);
+        }
+        if ((Style & LVS_OWNERDATA) != 0)
+        {
+            list->SetItemCount(contents.rows);
+            return list;
         }
         for (int row = 0; row < contents.rows; ++row)
         {
@@ -448,7 +453,7 @@ template <template <class> class As> struct Makers
             {"check list", &MakeCheckList},
             {"combo", &MakeCombo},
             {"list of a combo", &MakeComboList},
-            {"report list", &MakeReport},
+            {"report list", &MakeReport<>},
             {"header", &MakeHeader},
             {"tree", &MakeTree},
             {"tree view", &MakeTreeView},

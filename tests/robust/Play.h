@@ -14,6 +14,9 @@
 
 // A play in which a parent ends a control, its sibling or itself inside something that it is told.
 
+// What the system itself asks and tells of presses, before a control has them.
+constexpr UINT BySystem[] = {WM_SETCURSOR, WM_MOUSEACTIVATE, WM_PARENTNOTIFY};
+
 // A message to a parent and, where it has one, its code, or an event for assistive programs; and in
 // which step of the play it came.
 struct Told
@@ -39,10 +42,10 @@ constexpr UINT FirstRegistered = 0xC000;
 inline std::optional<Told> AboutAChild(UINT message, WPARAM wParam, LPARAM lParam)
 {
     constexpr UINT WithoutCode[] = {
-        WM_MEASUREITEM, WM_DELETEITEM,  WM_COMPAREITEM,   WM_VKEYTOITEM,
-        WM_CHARTOITEM,  WM_CONTEXTMENU, WM_MOUSEACTIVATE, WM_MOUSEWHEEL,
-        WM_SETCURSOR,   WM_ERASEBKGND,  WM_PRINTCLIENT,   WM_INITDIALOG,
-        WM_CLOSE,       WM_ACTIVATE,    WM_NEXTDLGCTL,    WM_CHANGEUISTATE};
+        WM_MEASUREITEM,   WM_DELETEITEM,    WM_COMPAREITEM, WM_VKEYTOITEM, WM_CHARTOITEM,
+        WM_CONTEXTMENU,   WM_MOUSEACTIVATE, WM_MOUSEWHEEL,  WM_SETCURSOR,  WM_ERASEBKGND,
+        WM_PRINTCLIENT,   WM_INITDIALOG,    WM_CLOSE,       WM_ACTIVATE,   WM_NEXTDLGCTL,
+        WM_CHANGEUISTATE, WM_HELP};
     switch (message)
     {
     case WM_COMMAND:
@@ -88,6 +91,7 @@ struct Forbidden
     // the call stacks of the faults end in the platform's own code, of EN_CHANGE and of the list
     // box's colours with the heaps checked; of the status bar a damaged heap was seen.
     bool againOnly = false;
+    bool withinOnly = false; // told while the platform's part is at work
 };
 constexpr Forbidden PlatformFaults[] = {
     {"Edit", {WM_CTLCOLOREDIT}},
@@ -100,16 +104,22 @@ constexpr Forbidden PlatformFaults[] = {
     {"ListBox", {WM_CTLCOLORLISTBOX}, 0, true, true},
     {"ListBox", {WM_MEASUREITEM}, LBS_OWNERDRAWVARIABLE},
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_GETDISPINFO)}},
+    {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_ODCACHEHINT)}, 0, false},
+    {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_ODCACHEHINT)}, 0, true, false, true},
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_ITEMCHANGING)}, 0, true, true},
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_DELETEITEM)}, 0, true, true},
     {WC_LISTVIEW, {WM_NOTIFY, UINT(LVN_DELETEALLITEMS)}},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDTRACK)}, 0, false},
     // In the middle of a click, with which it goes on.
     {WC_HEADER, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}, 0, false},
+    {WC_HEADER, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}, 0, true, false, true}, // as a drag begins
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_BEGINTRACK)}, 0, false},
+    {WC_HEADER, {WM_NOTIFY, UINT(HDN_BEGINDRAG)}},
+    {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDDRAG)}},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCHANGING)}},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCHANGED)}},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}},
+    {WC_TREEVIEW, {WM_NOTIFY, UINT(TVN_GETDISPINFO)}},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(TVN_DELETEITEM)}, 0, true, true},
     {TOOLBARCLASSNAME, {WM_NOTIFY, TBN_DELETINGBUTTON}},
     {STATUSCLASSNAME, {WM_ERASEBKGND}, 0, true, true},
@@ -145,6 +155,7 @@ inline bool IsForbidden(HWND window, const Told& told, bool again)
         std::begin(PlatformFaults), std::end(PlatformFaults), [&](const Forbidden& each) {
             return each.told.IsLike(told) && IsOfClass(window, each.windowClass) &&
                    (style & each.style) == each.style && (again || !each.againOnly) &&
+                   (PlatformWorks != 0 || !each.withinOnly) &&
                    (each.onBoardToo || !COnBoardUIGeneral::InOnBoardMode());
         });
 }
@@ -166,7 +177,7 @@ struct Play
     int faults = Watch::Faults();
     Watch watch{[this] { return Title(); }};
 
-    static constexpr int Opening = 2; // steps: it gets the focus and is painted
+    static constexpr int Opening = 3; // steps: it is shown, gets the focus and is painted
     static inline Play* s_now = nullptr;
 
     Play(const std::string& what, std::optional<Told> itsAwaited, Death itsDeath)

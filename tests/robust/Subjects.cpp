@@ -136,13 +136,22 @@ std::vector<Subject> MakeSubjects()
 {
     const std::set<std::string> loops = {
         "combo", // on its list's bar, in the standard mode
-        "list of a combo", "report list", "tree",           "tree of one selection",
-        "tree view",       "form view",   "property sheet", "property page",
-        "dialog",          "message box"};
+        "list of a combo",
+        "report list",
+        "report of rows elsewhere",
+        "tree",
+        "tree of one selection",
+        "tree view",
+        "form view",
+        "property sheet",
+        "property page",
+        "dialog",
+        "message box"};
     std::vector<Control> controls = Catalog::All();
     controls.push_back(
         {"list box of values", Catalog::MadeList<ListOfValues>(LBS_OWNERDRAWVARIABLE | LBS_SORT |
                                                                LBS_WANTKEYBOARDINPUT)});
+    controls.push_back({"report of rows elsewhere", &Catalog::MakeReport<LVS_OWNERDATA>});
     controls.push_back({"tree of one selection", [](CWnd& parent, const Contents& contents) {
                             auto tree = Catalog::MakeTree(parent, contents);
                             if (tree != nullptr)

@@ -70,6 +70,31 @@ void QueuePress(CPoint point, CPoint to, bool right)
     PumpAll();
 }
 
+// By itself a control is silent about some things.
+void HaveItSpeak(CWnd& control)
+{
+    constexpr std::pair<const char*, DWORD> styles[] = {
+        {"Button", BS_NOTIFY}, {"Static", SS_NOTIFY}, {WC_HEADER, HDS_DRAGDROP}};
+    for (const auto& [windowClass, style] : styles)
+    {
+        control.ModifyStyle(0, IsOfClass(control, windowClass) ? style : 0);
+    }
+    control.SendMessage(IsOfClass(control, WC_LISTVIEW) ? LVM_SETEXTENDEDLISTVIEWSTYLE : WM_NULL,
+                        LVS_EX_HEADERDRAGDROP, LVS_EX_HEADERDRAGDROP);
+    if (IsOfClass(control, WC_TREEVIEW))
+    {
+        TVITEM item = {};
+        item.mask = TVIF_HANDLE | TVIF_TEXT;
+        item.hItem = TreeView_GetRoot(control);
+        item.pszText = LPSTR_TEXTCALLBACK;
+        control.SendMessage(TVM_SETITEM, 0, LPARAM(&item));
+    }
+    if (auto* const bar = dynamic_cast<CToolBar*>(&control))
+    {
+        bar->SetButtonStyle(0, BTNS_DROPDOWN);
+    }
+}
+
 // Everything that makes a control speak, until it is over.
 class Provocation
 {
@@ -82,6 +107,10 @@ public:
 
     void Run()
     {
+        Do([&] {
+            ::ShowWindow(*m_play.parent, SW_SHOW);
+            PumpAll();
+        });
         Do([&] { ::SetFocus(m_window); });
         Input();
         Messages();
@@ -113,17 +142,23 @@ private:
     {
         m_play.Paint(m_window);
         const CPoint first(m_place.left + 20, m_place.top + 32);
-        const CPoint points[] = {first, first, // twice: a double click
-                                 CPoint(m_place.right - 10, m_place.bottom - 10),
-                                 CPoint(m_place.CenterPoint().x, m_place.top + 8)};
+        CPoint heading(20, 8);
+        ::ClientToScreen(m_window, &heading);
+        const CPoint divider = heading + CPoint(70, 0); // the end of a heading, where there is one
+        const CPoint corner(m_place.right - 10, m_place.bottom - 10);
+        const CPoint above(m_place.CenterPoint().x, m_place.top + 8);
+        // Twice: a double click.
+        const CPoint points[] = {first, first, heading, heading, divider, divider, corner, above};
         for (const CPoint& point : points)
         {
             Do([&] { QueuePress(point, point, false); });
         }
-        Do([&] { QueuePress(first, first, true); });
+        for (const CPoint& to : {first, first, first + CPoint(30, 40)})
+        {
+            Do([&] { QueuePress(first, to, true); });
+        }
         Do([&] { QueuePress(first, first + CPoint(30, 40), false); });
-        // The end of a heading, where there is one.
-        const CPoint divider(m_place.left + 92, m_place.top + 8);
+        Do([&] { QueuePress(heading, heading + CPoint(110, 0), false); });
         Do([&] { QueuePress(divider, divider + CPoint(20, 0), false); });
         Do([&] { ::Wheel(-WHEEL_DELTA); });
         // Over the list of a combo.
@@ -134,10 +169,11 @@ private:
             TypeKey(VK_ESCAPE);
         });
         for (const UINT key : {UINT(VK_DOWN), UINT(VK_SPACE), UINT('W'), UINT(VK_END),
-                               UINT(VK_RIGHT), UINT(VK_DELETE), UINT(VK_RETURN)})
+                               UINT(VK_RIGHT), UINT(VK_DELETE), UINT(VK_RETURN), UINT(VK_F1)})
         {
             Do([&] { TypeKey(key); });
         }
+        Do([&] { TypeKey(VK_UP, VK_SHIFT); });
     }
 
     void Messages()
@@ -186,7 +222,7 @@ class DeathAtAnyMoment : public WindowTest, public testing::WithParamInterface<C
 protected:
     std::vector<Told> m_rehearsed;
     int m_plays = 0;
-    int m_missed = 0; // plays in which what was awaited was not told
+    std::vector<std::string> m_missed; // plays in which what was awaited was not told
 
     // Gives the play; what was told until it was over.
     std::vector<Told> Give(std::optional<Told> awaited, Death death)
@@ -196,11 +232,11 @@ protected:
         constexpr int Before = 2;
         const int begin =
             awaited && awaited->step > Play::Opening + Before ? awaited->step - Before : 0;
-        const int missed = m_missed;
+        const size_t missed = m_missed.size();
         std::vector<Told> told = Give(awaited, death, begin);
-        if (m_missed > missed)
+        if (m_missed.size() > missed)
         {
-            m_missed = missed;
+            m_missed.pop_back();
             --m_plays;
             told = Give(awaited, death, 0);
         }
@@ -233,14 +269,17 @@ protected:
             play.sibling->SetDlgCtrlID(ControlId + 1);
             play.sibling->SetWindowPos(nullptr, 320, 30, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         }
-        play.parent->ShowWindow(SW_SHOW);
+        HaveItSpeak(*play.control);
         PumpAll();
         play.over = false;
 
         Provocation(play).Run();
 
         ++m_plays;
-        m_missed += play.over != play.awaited.has_value();
+        if (play.over != play.awaited.has_value())
+        {
+            m_missed.push_back(play.Title());
+        }
         play.over = true;
         for (const CWnd* const left : {play.control.get(), play.sibling.get()})
         {
@@ -273,7 +312,8 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
             if (!IsFirstOfItsKind(each, told))
             {
                 // Told again, in another place of the control's code.
-                if (mode != STD && plain)
+                if (mode != STD && plain &&
+                    std::ranges::find(BySystem, each.message) == std::end(BySystem))
                 {
                     Give(each, Death::Control);
                 }
@@ -291,7 +331,8 @@ TEST_P(DeathAtAnyMoment, LeaveTheRestSound)
             }
         }
         // What is told by a timer may not come, nor the event of a focus; the rest does.
-        EXPECT_LE(m_missed, std::max(1, m_plays / 10));
+        EXPECT_LE(int(m_missed.size()), std::max(1, m_plays / 10))
+            << testing::PrintToString(m_missed);
         ForgetClipboard();
         EXPECT_NEAR(double(Give({}, Death::Window).size()), double(told.size()),
                     std::max(2.0, double(told.size()) / 10)) // repaints come together under load
