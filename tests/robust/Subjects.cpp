@@ -47,6 +47,11 @@ struct SeenList : Seen<CCustomListBox>
     }
 };
 
+struct SeenChecks : CCustomChecklistBox
+{
+    using CCustomChecklistBox::SetSelectionCheck;
+};
+
 struct SeenCombo : CCustomDropListCombo
 {
     static CWnd* List(CCustomDropListCombo& combo) { return combo.*&SeenCombo::m_list; }
@@ -90,7 +95,9 @@ struct ListOfValues : CCustomListBox
 };
 
 // clang-format off
-constexpr void (*ComboActs[])(CCustomDropListCombo& combo, int row, const char* text) = {
+template <class Control> using Act = void (*)(Control& control, int row, const char* text);
+
+constexpr Act<CCustomDropListCombo> ComboActs[] = {
     [](auto& combo, int, const char* text) { combo.AddString(text); },
     [](auto& combo, int row, const char* text) { combo.InsertString(row, text); },
     [](auto& combo, int row, const char*) { combo.RemoveString(row); },
@@ -108,6 +115,38 @@ constexpr void (*ComboActs[])(CCustomDropListCombo& combo, int row, const char* 
     [](auto& combo, int, const char*) { combo.SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001); },
     [](auto& combo, int, const char*) { combo.ToggleDropList(); },
 };
+constexpr Act<CCustomChecklistBox> CheckActs[] = {
+    [](auto& list, int row, const char*) { list.SetCheck(row, row % 3); },
+    [](auto& list, int row, const char*) { list.Enable(row, row % 2); },
+    [](auto& list, int row, const char*) { list.SetCheckStyle(BS_CHECKBOX + UINT(row) % 5); },
+    [](auto& list, int row, const char*) { (list.*&SeenChecks::SetSelectionCheck)(row % 3); },
+    [](auto& list, int, const char*) { list.ReCheckScrollBars(); },
+};
+constexpr Act<CCustomListBox> ListActs[] = {
+    [](auto& list, int, const char*) { list.ReCheckScrollBars(); },
+};
+constexpr Act<EditWithPrompt> PromptActs[] = {
+    [](auto& edit, int, const char*) { edit.Reset(); },
+    [](auto& edit, int, const char* text) { edit.SetPromptText(text); },
+};
+constexpr Act<CCustomEdit> EditActs[] = {
+    [](auto& edit, int row, const char*) { if (row == 0) edit.SetFauxReadOnly(); },
+};
+constexpr Act<QuixEdit> FixedActs[] = {
+    [](auto& edit, int row, const char*) { edit.SetFixedPlace(row, row, 4 * row); },
+};
+constexpr Act<CustomToolbar> ToolActs[] = {
+    [](auto& bar, int row, const char*) {
+        std::vector<std::string> faults;
+        bar.OrderBtns({UINT(row % 6), 3, 1, UINT(row)}, faults);
+    },
+};
+template <class Tree> constexpr Act<Tree> TreeActs[] = {
+    [](auto& tree, int row, const char*) { tree.SetMultiSelect(row % 2 == 0); },
+    [](auto& tree, int row, const char*) {
+        tree.ModifyStyle(TVS_EDITLABELS, row % 2 != 0 ? TVS_EDITLABELS : 0);
+    },
+};
 // Not constexpr, which only one of the compilers takes.
 void (CSearchStatusBar::*const SearchActs[])() = {
     &CSearchStatusBar::StartSearchProgress, &CSearchStatusBar::StartLoadingProgress,
@@ -116,6 +155,8 @@ void (CSearchStatusBar::*const SearchActs[])() = {
 
 void UseReport(CCustomListCtrl& list, Arguments& arguments)
 {
+    list.ReCheckScrollBars();
+    list.ModifyStyle(LVS_EDITLABELS, arguments.Between(0, 1) != 0 ? LVS_EDITLABELS : 0);
     const int columns = list.GetHeaderCtrl()->GetItemCount();
     if (columns < 6 && arguments.Between(0, 2) != 0)
     {
@@ -207,22 +248,33 @@ HWND PartOf(CWnd& window)
 bool ActOn(CWnd& window, Arguments& arguments)
 {
     const auto color = [&] { return COLORREF(arguments.Value(Argument::Data, window)); };
-    const auto work = [&](CCustomDropListCombo& combo) {
+    const auto one = [&](auto& control, const auto& acts) {
         const int row = int(arguments.Value(Argument::Row, window));
         const char* const text = arguments.Words();
-        arguments.OneOf(ComboActs)(combo, row, text);
+        arguments.OneOf(acts)(control, row, text);
     };
-    const auto insert = [&](CWnd& tree) {
+    const auto grow = [&]<class Tree>(Tree& tree) {
+        if (arguments.Between(0, 2) == 0)
+        {
+            one(tree, TreeActs<Tree>);
+            return;
+        }
         TVINSERTSTRUCT branch = {};
         branch.hParent = HTREEITEM(arguments.Value(Argument::TreeItem, tree));
         branch.item.mask = TVIF_TEXT;
         branch.item.pszText = const_cast<char*>(arguments.Words());
         tree.SendMessage(TVM_INSERTITEM, 0, LPARAM(&branch));
     };
-    return On<CCustomDropListCombo>(window, work) ||
+    return On<CCustomDropListCombo>(window, [&](auto& combo) { one(combo, ComboActs); }) ||
+           On<CCustomChecklistBox>(window, [&](auto& list) { one(list, CheckActs); }) ||
+           On<CCustomListBox>(window, [&](auto& list) { one(list, ListActs); }) ||
+           On<EditWithPrompt>(window, [&](auto& edit) { one(edit, PromptActs); }) ||
+           On<CCustomEdit>(window, [&](auto& edit) { one(edit, EditActs); }) ||
+           On<QuixEdit>(window, [&](auto& edit) { one(edit, FixedActs); }) ||
+           On<CustomToolbar>(window, [&](auto& bar) { one(bar, ToolActs); }) ||
            On<CSearchStatusBar>(window, [&](auto& bar) { (bar.*arguments.OneOf(SearchActs))(); }) ||
            On<CCustomListCtrl>(window, [&](auto& list) { UseReport(list, arguments); }) ||
-           On<MultiTree>(window, insert) || On<MultiTreeView>(window, insert) ||
+           On<MultiTree>(window, grow) || On<MultiTreeView>(window, grow) ||
            On<CColorStatic>(window, [&](auto& swatch) { swatch.Set(color()); }) ||
            On<CColoredGroupBox>(window, [&](auto& outline) { outline.SetColor(color()); });
 }
@@ -230,6 +282,12 @@ bool ActOn(CWnd& window, Arguments& arguments)
 void Rest(CWnd& window)
 {
     On<CSearchStatusBar>(window, [](auto& bar) { bar.StopSearchProgress(); });
+    On<CCustomListCtrl>(window, [](auto& list) { list.SendMessage(LVM_CANCELEDITLABEL); });
+    On<MultiTree>(window, [](auto& tree) { tree.SendMessage(TVM_ENDEDITLABELNOW, TRUE); });
+    On<MultiTreeView>(window, [](auto& tree) {
+        tree.SendMessage(TVM_ENDEDITLABELNOW, TRUE);
+        tree.SendMessage(::RegisterWindowMessage("Kest Drag Leave"));
+    });
     On<CCustomDropListCombo>(window, [](auto& combo) {
         if (combo.IsExpanded())
         {

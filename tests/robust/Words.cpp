@@ -40,7 +40,9 @@ const Kind Kinds[] = {
      {{EM_SETSEL, Row, Row}, {EM_REPLACESEL, Flag, Text}, {EM_UNDO}, {EM_SETREADONLY, Flag},
       {EM_LINESCROLL, None, Small}, {EM_SCROLL, Small}, {EM_SCROLLCARET}, {EM_LIMITTEXT, Data}, {EM_LIMITTEXT, Length},
       {EM_GETLINE, Row, Buffer}, {EM_SETMARGINS, Flag, Flag}, {EM_GETRECT, None, Place},
-      {EM_SETRECT, None, Place}, {EM_CHARFROMPOS, None, Point}, {EM_LINEINDEX, Row},
+      {EM_SETRECT, None, Place}, {EM_SETRECTNP, None, Place}, {EM_SETTABSTOPS, Three, Edges},
+      {EM_SETPASSWORDCHAR}, {EM_SETPASSWORDCHAR, Fixed, None, '*'},
+      {EM_CHARFROMPOS, None, Point}, {EM_LINEINDEX, Row},
       {EM_GETFIRSTVISIBLELINE}, {WM_COPY}, {WM_PASTE}, {WM_CUT}, {WM_CLEAR}, {WM_UNDO},
       {WM_CHAR, Letter}},
      0, {WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC},
@@ -53,7 +55,8 @@ const Kind Kinds[] = {
       {LB_SETITEMDATA, Row, Data}, {LB_GETITEMDATA, Row}, {LB_SETITEMHEIGHT, Row, Small},
       {LB_GETITEMHEIGHT, Row}, {LB_GETITEMRECT, Row, Place}, {LB_ITEMFROMPOINT, None, Point},
       {LB_SETCARETINDEX, Row}, {LB_SETHORIZONTALEXTENT, Length}, {LB_SETCOLUMNWIDTH, Length},
-      {LB_SELITEMRANGE, Flag, Data}},
+      {LB_SELITEMRANGE, Flag, Data}, {LB_SETCOUNT, Three}, {LB_INITSTORAGE, Three, Three},
+      {LB_DIR, Flag, Text}, {LB_ADDFILE, None, Text}},
      ODT_LISTBOX, {WM_CTLCOLORLISTBOX},
      {LBN_SELCHANGE, LBN_DBLCLK, LBN_SELCANCEL, LBN_SETFOCUS, LBN_KILLFOCUS}},
     {WC_HEADER,
@@ -66,8 +69,14 @@ const Kind Kinds[] = {
      {{LVM_INSERTITEM, None, ListItem}, {LVM_SETITEM, None, ListItem}, {LVM_DELETEITEM, Row},
       {LVM_DELETEALLITEMS}, {LVM_SETITEMSTATE, Row, ListItem}, {LVM_ENSUREVISIBLE, Row, Flag},
       {LVM_SCROLL, Small, Small}, {LVM_SETCOLUMNWIDTH, Small, Length}, {LVM_DELETECOLUMN, Small},
-      {LVM_SETITEMCOUNT, Row}, {LVM_GETTOPINDEX}, {LVM_GETCOUNTPERPAGE},
-      {LVM_REDRAWITEMS, Row, Row}, {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21}},
+      {LVM_SETITEMCOUNT, Three}, {LVM_SETITEMCOUNT, Fixed, None, 60}, {LVM_GETTOPINDEX},
+      {LVM_GETCOUNTPERPAGE},
+      {LVM_REDRAWITEMS, Row, Row}, {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21},
+      {LVM_SETCOLUMN, Three, Heading}, {LVM_SETITEMTEXT, Row, ListItem}, {LVM_UPDATE, Row},
+      {LVM_SORTITEMS, Data, Order}, {LVM_SORTITEMSEX, Data, Order}, {LVM_EDITLABEL, Row},
+      {LVM_CANCELEDITLABEL}, {LVM_SETVIEW, Fixed, None, LV_VIEW_LIST},
+      {LVM_SETVIEW, Fixed, None, LV_VIEW_DETAILS},
+      {0x069A}, {0x069B}, {0x069D}}, // what the library's list posts to itself
      ODT_LISTVIEW, {WM_CTLCOLOREDIT},
      {LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_INSERTITEM, LVN_COLUMNCLICK, LVN_ITEMACTIVATE,
       LVN_BEGINDRAG, LVN_BEGINRDRAG, NM_CLICK, NM_DBLCLK, NM_RCLICK, NM_RDBLCLK}},
@@ -75,8 +84,18 @@ const Kind Kinds[] = {
      {{TVM_SELECTITEM, Fixed, TreeItem, TVGN_CARET},
       {TVM_SELECTITEM, Fixed, TreeItem, TVGN_FIRSTVISIBLE},
       {TVM_EXPAND, Fixed, TreeItem, TVE_EXPAND}, {TVM_EXPAND, Fixed, TreeItem, TVE_COLLAPSE},
+      {TVM_EXPAND, Fixed, TreeItem, TVE_TOGGLE},
       {TVM_ENSUREVISIBLE, None, TreeItem}, {TVM_DELETEITEM, None, TreeItem}, {TVM_GETCOUNT},
-      {TVM_GETVISIBLECOUNT}},
+      {TVM_GETVISIBLECOUNT}, {TVM_EDITLABEL, None, TreeItem}, {TVM_ENDEDITLABELNOW, Flag},
+      {TVM_SETITEM, None, Branch}, {TVM_SETIMAGELIST, Fixed, Pictures, TVSIL_NORMAL},
+      {TVM_SETITEMHEIGHT, Three}, {TVM_SETITEMHEIGHT, Fixed, None, 33},
+      {TVM_SETITEMHEIGHT, Fixed, None, WPARAM(-1)},
+      {TVM_SETINDENT, Three}, {TVM_SETINDENT, Fixed, None, 40},
+      // What goes between views while one drags; points are the screen's.
+      {::RegisterWindowMessage("Kest Drag Track"), Hit},
+      {::RegisterWindowMessage("Kest Drag Leave")},
+      {::RegisterWindowMessage("Kest Drag Drop"), Hit},
+      {::RegisterWindowMessage("Kest Drag Copy"), Hit}},
      0, {WM_CTLCOLOREDIT},
      {TVN_SELCHANGINGW, TVN_SELCHANGEDW, TVN_ITEMEXPANDINGA, TVN_ITEMEXPANDINGW, TVN_ITEMEXPANDEDW,
       TVN_BEGINDRAGA, TVN_BEGINDRAGW, TVN_BEGINRDRAGW, NM_CLICK, NM_DBLCLK, NM_RCLICK}},
@@ -102,7 +121,8 @@ const Kind Kinds[] = {
       {WM_MOVING, Fixed, Place, 9}, {WM_SIZING, Fixed, Place, WMSZ_BOTTOMRIGHT},
       {WM_ENTERSIZEMOVE}, {WM_EXITSIZEMOVE}, {PSM_SETCURSEL, Flag}, {PSM_SETTITLE, None, Text},
       {PSM_CANCELTOCLOSE}, {PSM_APPLY}, {PSM_QUERYSIBLINGS, Data, Data}, {PSM_GETCURRENTPAGEHWND},
-      {PSM_PRESSBUTTON, Fixed, None, PSBTN_APPLYNOW}},
+      {PSM_PRESSBUTTON, Fixed, None, PSBTN_APPLYNOW},
+      {WM_SETICON, Flag}, {WM_SYSCOMMAND, Fixed, None, SC_RESTORE}},
      0, {WM_CTLCOLORDLG}, {}},
     {"", // any other
      {}, 0, {WM_CTLCOLORSTATIC},
@@ -240,6 +260,37 @@ LPARAM Arguments::Value(Argument argument, HWND window)
         item.state = UINT(Between(0, 3));
         item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
         return InRoom(item);
+    }
+    case Heading:
+    {
+        LVCOLUMN column = {};
+        column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
+        column.fmt = Between(LVCFMT_LEFT, LVCFMT_CENTER);
+        column.cx = Between(0, 200);
+        column.pszText = const_cast<char*>(Words());
+        return InRoom(column);
+    }
+    case Branch:
+    {
+        TVITEM item = {};
+        item.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_STATE;
+        item.hItem = HTREEITEM(Value(TreeItem, window));
+        item.pszText = const_cast<char*>(Words());
+        item.state = UINT(Between(0, 1)) * TVIS_SELECTED | UINT(Between(0, 1)) * TVIS_BOLD;
+        item.stateMask = TVIS_SELECTED | TVIS_BOLD;
+        return InRoom(item);
+    }
+    case Order:
+    {
+        const PFNLVCOMPARE order = [](LPARAM first, LPARAM second, LPARAM) {
+            return first < second ? -1 : int(first > second);
+        };
+        return reinterpret_cast<LPARAM>(order);
+    }
+    case Pictures:
+    {
+        static const HIMAGELIST pictures = ::ImageList_Create(24, 24, ILC_COLOR32, 1, 1);
+        return Between(0, 1) ? reinterpret_cast<LPARAM>(pictures) : 0;
     }
     case TreeItem:
     {

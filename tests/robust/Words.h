@@ -36,6 +36,10 @@ enum class Argument
     HeadItem, // an HDITEM
     Hit,      // what a hit test takes: a point, with room behind it
     Edges,    // of three panes of a status bar
+    Heading,  // an LVCOLUMN
+    Branch,   // a TVITEM
+    Order,    // what compares two values
+    Pictures, // an image list, or none
 };
 
 struct Word
