@@ -141,7 +141,14 @@ void PrintContrast(APPMODE mode, const Control& control, const State& state)
 
 void PrintAnswers(APPMODE mode, const std::string& name, const CWnd& window, const char* focus)
 {
-    const Answers answers(*Reached(window), CHILDID_SELF);
+    const Held<IAccessible> object = Reached(window);
+    if (object == nullptr)
+    {
+        std::printf("%-11s %-34s does not answer%s\n", APPMODE_NAMES[mode], name.c_str(),
+                    Verdict(true, 0, nullptr).c_str());
+        return;
+    }
+    const Answers answers(*object, CHILDID_SELF);
     const auto given = [](const std::string& text) {
         return text == "(none)" || text == "(error)" ? ""
                                                      : text.substr(0, text.find_first_of("\r\n"));

@@ -98,7 +98,8 @@ private:
     static constexpr int LongestText = 256; // with the null
 
     bool m_repositioning = false;
-    bool m_dragged = false;  // the pointer has moved since a divider was pressed
+    // The pointer has moved since a divider was pressed; in the standard mode, one was pressed.
+    bool m_dragged = false;
     bool m_farPress = false; // an item is pressed of which the platform is not told
     int m_hotDivider = -1;   // where a dragged column would be put; -1: nowhere
     CPoint m_pressPoint;     // in client coordinates

@@ -8,8 +8,7 @@ class HostDialog : public CCustomDialog
     using CCustomDialog::CCustomDialog;
 
     CCustomListBox m_airports;
-    CCustomPushbutton m_mode;
-    CCustomPushbutton m_close; // an on-board dialog has no close box
+    CCustomPushbutton m_mode, m_close; // an on-board dialog has no close box
 
     BOOL OnInitDialog() override
     {
@@ -30,9 +29,8 @@ class HostDialog : public CCustomDialog
         m_airports.GetWindowRect(before);
         COnBoardUIGeneral::SetAppMode(COnBoardUIGeneral::InOnBoardMode() ? STD : ONBOARD);
         m_airports.GetWindowRect(after); // changed already; the dialog's size is its host's
-        SetWindowPos(nullptr, 0, 0, ::MulDiv(window.Width(), after.Width(), before.Width()),
-                     ::MulDiv(window.Height(), after.Height(), before.Height()),
-                     SWP_NOMOVE | SWP_NOZORDER);
+        SetWindowPos(nullptr, 0, 0, window.Width() * after.Width() / before.Width(),
+                     window.Height() * after.Height() / before.Height(), SWP_NOMOVE | SWP_NOZORDER);
     }
 };
 

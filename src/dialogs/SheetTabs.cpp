@@ -2,6 +2,7 @@
 
 #include "OnBoardUIGeneral.h"
 #include "modes/ChildRestyling.h"
+#include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
@@ -16,8 +17,14 @@ BEGIN_MESSAGE_MAP(SheetTabs, CTabCtrl)
     ON_WM_ERASEBKGND()
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
+    ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &SheetTabs::OnQueryGestures)
     ON_MESSAGE(TCM_SETITEMSIZE, &SheetTabs::OnSetItemSize)
 END_MESSAGE_MAP()
+
+LRESULT SheetTabs::OnQueryGestures(WPARAM, LPARAM screen)
+{
+    return AnswerGestures(*this, Refused::Everywhere, screen, [this] { return Default(); });
+}
 
 void SheetTabs::OnPaint()
 {

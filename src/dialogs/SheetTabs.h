@@ -33,6 +33,7 @@ protected:
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnKillFocus(CWnd* taker);
+    afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg LRESULT OnSetItemSize(WPARAM wParam, LPARAM size);
     DECLARE_MESSAGE_MAP()
 

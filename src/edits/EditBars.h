@@ -121,7 +121,7 @@ private:
         Ask(EM_GETSEL, 0, LPARAM(&end));
         const int line = int(Ask(EM_LINEFROMCHAR, end, 0));
         m_firstLine = view.first;
-        m_caret = line >= view.first && line <= view.last ? int(end) : -1;
+        m_caret = IsBeingPlaced(m_edit) && line >= view.first && line <= view.last ? int(end) : -1;
     }
 
     // Whether there are lines that a width breaks.

@@ -122,8 +122,8 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
         return;
     }
     const WindowAlive alive(*this);
-    Invalidate(
-        FALSE); // what the platform invalidates when it deselects a row is not all of its bar
+    // What the platform invalidates when it deselects a row is not all of its bar.
+    Invalidate(FALSE);
     if (m_drawOffset == CPoint(0, 0))
     {
         Default();

@@ -5,8 +5,8 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
-#include "modes/TellParent.h"
 #include "modes/PressAndHold.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
 #include <climits>
@@ -133,7 +133,7 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
         HDHITTESTINFO hit = {};
         hit.pt = point;
         m_pressedItem = int(Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
-        m_dragged = (hit.flags & HHT_ONDIVIDER) != 0;
+        m_dragged = (hit.flags & (HHT_ONDIVIDER | HHT_ONDIVOPEN)) != 0;
         Default();
         if (alive && ::GetCapture() != GetSafeHwnd())
         {

@@ -4,8 +4,8 @@
 #include "CustomDropListCombo.h"
 
 #include "access/Answers.h"
-#include "modes/TellParent.h"
 #include "modes/PressAndHold.h"
+#include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>

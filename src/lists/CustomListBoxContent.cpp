@@ -3,6 +3,7 @@
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
 #include "lists/ListBoxBars.h"
+#include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/MeasuringDC.h"
@@ -347,9 +348,9 @@ LRESULT CCustomListBox::OnSetFont(WPARAM wParam, LPARAM lParam)
     }
     if (!laidOut)
     {
-        if (!m_bars->IsLaidOut() && InColumns())
+        if (!m_bars->IsLaidOut() && InColumns() && IsBeingPlaced(*this))
         {
-            m_bars->TakeNeedlessBars(); // its dialog gives every list box a bar before the font
+            m_bars->TakeNeedlessBars(); // a change gives every list box a bar before the font
         }
         return result;
     }
