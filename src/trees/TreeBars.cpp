@@ -445,10 +445,6 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
         result = AnswerGestures(Window(), Refused::OnBars, lParam, [&] { return result; });
         break;
     case WM_NCPAINT:
-        if (!scroll::TouchesFrame(Window(), HRGN(wParam)))
-        {
-            break;
-        }
         Place();
         DrawBorder();
         m_vertical.painter.Invalidate();
