@@ -1,5 +1,6 @@
 #include "robust/Storm.h"
 
+#include "modes/WindowFacts.h"
 #include "support/Accessible.h"
 
 #include <sstream>
@@ -153,7 +154,13 @@ void Storm::SendOne(HWND window, const std::vector<Word>& words)
 {
     const Word& word = m_arguments.OneOf(words);
     const WPARAM wParam = m_arguments.First(word, window);
-    Send(window, word.message, wParam, m_arguments.Second(word, window));
+    const LPARAM lParam = m_arguments.Second(word, window);
+    // Two edits of labels, one after the other, on a list that is disabled: the first gets no focus
+    // to lose, so that the platform leaves it behind, and it is painted for ever.
+    if (word.message != LVM_EDITLABEL || !IsShutOff(window))
+    {
+        Send(window, word.message, wParam, lParam);
+    }
 }
 
 // As the platform's control tells its parent, and a parent of the framework gives it back.
