@@ -39,11 +39,12 @@ public:
     ~CZepMsgBoxDlg() override;
 
     // The id of the button that closed the box (IDOK, IDCANCEL, IDABORT, IDRETRY, IDIGNORE, IDYES
-    // or IDNO), 0 before, and when the box could not be made. DoModal returns IDCANCEL for Cancel
-    // and IDOK for all others, -1 when the dialog could not be made.
+    // or IDNO), 0 before, and when the box could not be made.
     int GetButtonPressed() const { return m_buttonPressed; }
 
+    // Returns IDCANCEL for Cancel and IDOK for all others, -1 when the dialog could not be made.
     INT_PTR DoModal() override;
+
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
