@@ -42,7 +42,10 @@ LRESULT CCustomListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 void CCustomListBox::BeginFilling()
 {
-    if (!InColumns())
+    // When its redraw comes back the platform takes rows that differ to be as low as a line of text
+    // and scrolls back a list that is near its end.
+    const bool scrollsBack = (GetStyle() & LBS_OWNERDRAWVARIABLE) != 0 && Ask(LB_GETTOPINDEX) > 0;
+    if (!InColumns() && !scrollsBack)
     {
         m_bars->filling.Begin(*this);
     }
