@@ -153,6 +153,19 @@ void CCustomListBox::OnLButtonUp(UINT flags, CPoint point)
     }
 }
 
+// A press on a row selects the one that it has reached. The platform would go on with whichever row
+// the other mode lays under the pointer.
+void CCustomListBox::Bars::EndPlatformPress()
+{
+    // The list of a platform's combo has the capture for other reasons, too.
+    if (::GetCapture() == m_list.GetSafeHwnd() && (m_list.GetStyle() & LBS_COMBOBOX) == 0)
+    {
+        CRect row;
+        Ask(LB_GETITEMRECT, WPARAM(Ask(LB_GETCARETINDEX, 0, 0)), reinterpret_cast<LPARAM>(&row));
+        Ask(WM_LBUTTONUP, 0, MAKELPARAM(row.CenterPoint().x, row.CenterPoint().y));
+    }
+}
+
 // Wheel and keys --------------------------------------------------------------------------------
 
 BOOL CCustomListBox::OnMouseWheel(UINT flags, short delta, CPoint point)

@@ -66,6 +66,7 @@ private:
     void FinishEntering();
     void FinishLeaving();
 
+    void EndPlatformPress() override;
     void EnterOnBoard() override { m_list.EnterOnBoard(); }
     void LeaveOnBoard() override { m_list.LeaveOnBoard(); }
     void LayOut() override;

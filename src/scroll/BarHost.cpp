@@ -55,11 +55,11 @@ bool BarHost::Follow()
     {
         End(); // a change between two on-board modes sends no message either
     }
-    // What it is about to follow lays it out anew.
-    if (m_window.GetSafeHwnd() != nullptr && m_onBoard == COnBoardUIGeneral::InOnBoardMode())
+    if (m_window.GetSafeHwnd() != nullptr && !m_following)
     {
+        // What it is about to follow lays it out anew.
         const WindowAlive alive(m_window);
-        SettlePlace();
+        m_onBoard == COnBoardUIGeneral::InOnBoardMode() ? SettlePlace() : EndPlatformPress();
         if (!alive)
         {
             return false;

@@ -157,6 +157,9 @@ public:
 protected:
     // Whether the platform's control is there to be laid out.
     virtual bool IsReady() { return true; }
+    // Before the control is laid out for the other kind of mode: what the platform is in the middle
+    // of goes no further. It may end the window.
+    virtual void EndPlatformPress() {}
     virtual void EnterOnBoard() = 0;
     virtual void LeaveOnBoard() = 0;
     // The frame, and the rest of the layout.

@@ -47,11 +47,6 @@ TEST_F(CheckListTest, OddArgumentsHaveADefinedResult)
         EXPECT_EQ(list.GetCheck(index), 0) << index;
         EXPECT_FALSE(list.IsEnabled(index)) << index;
     }
-    for (const UINT style : {0U, 4U, 999U})
-    {
-        list.SetCheckStyle(style);
-        EXPECT_EQ(list.GetCheckStyle(), UINT(BS_3STATE));
-    }
     EXPECT_EQ(list.Records(), 0U);
     CCustomChecklistBox unborn;
     unborn.SetCheck(0, 1);

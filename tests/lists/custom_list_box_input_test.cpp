@@ -1,6 +1,8 @@
 // Real input on a list box: what own_bars_test.cpp does not say of every list with bars of its own.
 
+#include "CustomChecklistBox.h"
 #include "lists/list_box_for_tests.h"
+#include "support/ChildModes.h"
 
 using namespace parts;
 
@@ -28,12 +30,10 @@ TEST_F(ListBoxOnBoard, WithoutABarTheRowsAreThePlatformsToScroll)
 
     // Rows of different heights: the last of them is reached, and the row with the focus is seen.
     auto& heights = AddList(60, ListStyle | LBS_OWNERDRAWVARIABLE | LBS_HASSTRINGS);
-    const int before = RangeOf(heights.m_vBar).y;
     for (int row = 1; row < 60; ++row)
     {
         heights.SetItemHeight(row, 60);
     }
-    EXPECT_GT(RangeOf(heights.m_vBar).y, before) << "fewer rows in sight";
     heights.SetFocus();
     heights.SetCurSel(0);
     for (int turn = 0; turn < 59; ++turn)
@@ -72,21 +72,37 @@ TEST_F(ListBoxOnBoard, KeysMoveSelectionRowsAndBarTogether)
         TypeKey(key);
         EXPECT_EQ(list.GetTopIndex(), 150) << key;
     }
-    const int top = list.GetTopIndex();
-    MoveTo(ClientPoint(list, CPoint(30, 100)));
-    Wheel(-1);
-    EXPECT_EQ(list.GetTopIndex(), top + 1) << "the least turn of a wheel is a row";
 }
 
-TEST_F(ListBoxOnBoard, TheBarFollowsASelectionDraggedPastTheEdge)
+TEST_F(ListBoxTest, ASelectionDraggedPastTheEdgeTakesTheBarAlongAndEndsWithTheMode)
 {
-    auto& list = AddList(200);
-    Press(ClientPoint(list, CPoint(30, 100)));
-    MoveTo(ClientPoint(list, CPoint(30, 330)));
-    EXPECT_TRUE(PumpUntil([&] { return list.GetTopIndex() > 3; }));
-    PumpAll();
-    EXPECT_EQ(list.m_vBar.GetScrollPos(), list.GetTopIndex());
-    Release();
+    const auto expectEnds = [&](auto& list) {
+        for (const APPMODE mode : {ONBOARD, STD})
+        {
+            Host().Forget();
+            list.SetTopIndex(0);
+            const CPoint edge = WindowRectOf(list).BottomRight() - CPoint(80, 0);
+            Press(edge - CPoint(0, 20));
+            MoveTo(edge + CPoint(0, 5));
+            EXPECT_TRUE(PumpUntil([&] { return list.GetTopIndex() > 3; }));
+            EXPECT_TRUE(mode == ONBOARD || list.m_vBar.GetScrollPos() == list.GetTopIndex());
+            const int row = list.GetCurSel();
+            SetModeOfChildren(mode, Host());
+            DragTo(WindowRectOf(list).CenterPoint());
+            Release();
+            EXPECT_EQ(list.GetCurSel(), row) << "another one came to lie under the pointer";
+            const std::vector<UINT> codes = Host().CodesFrom(UINT(list.GetDlgCtrlID()));
+            EXPECT_EQ(std::ranges::count(codes, UINT(LBN_SELCHANGE)), 1);
+        }
+        Press(ClientPoint(list, CPoint(120, 20)));
+        const OnceTold end(Host(), LBN_SELCHANGE, [&] { Remove(list); });
+        SetModeOfChildren(ONBOARD, Host());
+        EXPECT_TRUE(bool(end));
+        Release();
+        SetModeOfChildren(STD, Host());
+    };
+    expectEnds(AddList(100));
+    expectEnds(AddList<BarsSeen<CCustomChecklistBox>>(100));
 }
 
 // The platform selects the row that was there before.
