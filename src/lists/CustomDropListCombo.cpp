@@ -267,6 +267,7 @@ void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
         return;
     }
     m_shapedFor = newMode;
+    m_pickArmed = false; // rows of another height come to lie under the press
     const WindowAlive alive(*this);
     CCustomComboLBox* const list = GetSafeHwnd() == nullptr ? nullptr : List();
     if (list == nullptr)
@@ -410,12 +411,23 @@ void CCustomDropListCombo::CalcComboLBoxSize(int height, CRect& list)
 
 void CCustomDropListCombo::UpdateComboLBoxPos()
 {
-    if (CCustomComboLBox* const list = GetSafeHwnd() == nullptr ? nullptr : List())
+    CCustomComboLBox* const list = GetSafeHwnd() == nullptr ? nullptr : List();
+    if (list == nullptr)
     {
-        CRect window;
-        CRect place;
-        GetWindowRect(&window);
-        CalcComboLBoxSize(window.Height(), place);
-        list->PlacePopup(place);
+        return;
+    }
+    const WindowAlive alive(*this);
+    CPoint pointer;
+    CRect window;
+    CRect place;
+    ::GetCursorPos(&pointer);
+    const int row = list->RowAt(pointer);
+    GetWindowRect(&window);
+    CalcComboLBoxSize(window.Height(), place);
+    list->PlacePopup(place);
+    // A press is not for a row that comes to lie under it.
+    if (alive && ListIfMade() == list && list->RowAt(pointer) != row)
+    {
+        m_pickArmed = false;
     }
 }

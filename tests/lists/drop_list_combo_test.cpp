@@ -56,16 +56,17 @@ TEST_F(ComboTest, AModeChangeReshapesAComboAndItsOpenList)
     combo.ToggleDropList();
     for (const APPMODE mode : {ONBOARD, EFB, STD, EFBFS, STD})
     {
-        PumpAll();
+        Press(combo.RowPoint(list.GetTopIndex() + 1));
+        EXPECT_EQ(list.GetHighlightedRow(), list.GetTopIndex() + 1) << "it can be worked";
         COnBoardUIGeneral::SetAppMode(mode);
+        Release(); // on another row than it was pressed
+        EXPECT_TRUE(combo.IsExpanded());
         EXPECT_EQ(mode == STD, list.GetItemHeight() == standard);
         EXPECT_EQ(combo.ListRect().top, WindowRectOf(combo).bottom);
         EXPECT_EQ(ClientRectOf(list).Height(), 10 * list.GetItemHeight());
         EXPECT_EQ((list.GetStyle() & WS_VSCROLL) != 0, mode == STD);
-        // On-board as high as a row of its list with its outline; and the list can be worked.
+        // On-board as high as a row of its list with its outline.
         EXPECT_EQ(WindowRectOf(combo).Height(), mode == STD ? before : list.GetItemHeight() + 6);
-        MoveTo(combo.RowPoint(list.GetTopIndex() + 1));
-        EXPECT_EQ(list.GetHighlightedRow(), list.GetTopIndex() + 1);
     }
     combo.ToggleDropList();
 }
@@ -76,10 +77,8 @@ TEST_P(ComboInMode, AComboTellsHoweverItsListIsClosedAndMayEndInIt)
         {"pick", [](ComboForTests& combo) { Click(combo.RowPoint(2)); }},
         {"click outside", [this](ComboForTests&) { Click(Elsewhere); }},
         {"click on it", [](ComboForTests& combo) { Click(combo.Middle()); }},
-        {"click outside the host", [](ComboForTests&) { Click(CPoint(5, 5)); }},
         {"Escape", [](ComboForTests&) { TypeKey(VK_ESCAPE); }},
         {"Enter", [](ComboForTests&) { TypeKey(VK_RETURN); }},
-        {"Down", [](ComboForTests&) { TypeKey(VK_DOWN); }},
         {"Alt+Down", [](ComboForTests&) { TypeKey(VK_DOWN, VK_MENU); }},
         {"focus", [this](ComboForTests&) { Host().SetFocus(); }},
         {"disabled", [](ComboForTests& combo) { combo.EnableWindow(FALSE); }},
@@ -92,9 +91,8 @@ TEST_P(ComboInMode, AComboTellsHoweverItsListIsClosedAndMayEndInIt)
         ComboForTests& combo = AddCombo(5);
         combo.Open();
         const OnceTold told(Host(), CBN_SELCHANGE, [&, ending = std::string(name)] {
-            const bool moved = ending == "Down";
-            EXPECT_EQ(combo.IsExpanded(), moved);
-            EXPECT_EQ(::GetCapture() == combo, moved);
+            EXPECT_FALSE(combo.IsExpanded());
+            EXPECT_NE(::GetCapture(), combo.GetSafeHwnd());
             EXPECT_EQ(::GetFocus() == combo, ending != "focus");
             Remove(combo);
         });
@@ -265,10 +263,7 @@ TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
     EXPECT_EQ(combo.InsertString(0, nullptr), 0); // an empty text
     for (const int absent : {-2, 4, INT_MAX, INT_MIN})
     {
-        EXPECT_EQ(combo.RemoveString(absent), CB_ERR);
-        EXPECT_EQ(combo.SetCurSel(absent), CB_ERR);
         EXPECT_EQ(combo.RemoveItemDataPtr(absent), nullptr);
-        EXPECT_EQ(combo.SetItemDataPtr(absent, data), CB_ERR);
         // Behind what is not there comes the first.
         EXPECT_EQ(combo.FindString(absent, "be"), 2);
         EXPECT_EQ(combo.FindStringExact(absent, "BETA"), 2);
