@@ -398,27 +398,7 @@ TEST_F(WindowTest, ABarTellsTheTipsOfItsCommandsUnlessItsParentDoes)
     EXPECT_STREQ(bar.Tip(TippedCommand), "Mine");
 }
 
-TEST_F(WindowTest, TheBarsOfEveryFrameAreKeptUpToDate)
-{
-    Frame* const main = MakeFrame(RUNTIME_CLASS(ColourView));
-    ASSERT_NE(main, nullptr);
-    AfxGetApp()->m_pMainWnd = &Host(); // none of the frames
-    PressBar bar;
-    ASSERT_TRUE(bar.Make(*main, CBRS_TOP));
-    EXPECT_TRUE(bar.IsPressable(TippedCommand));
-    PumpAll();
-    EXPECT_FALSE(bar.IsPressable(TippedCommand)) << "nobody handles it";
-    main->RecalcLayout();
-    PumpAll();
-    const CRect place = WindowRectOf(bar);
-    EXPECT_EQ(WindowPixels(bar).At(place.Width() - 5, place.Height() - 5),
-              ::GetSysColor(COLOR_BTNFACE))
-        << "a flat bar shows its parent's ground";
-    AfxGetApp()->m_pMainWnd = nullptr;
-    main->DestroyWindow();
-}
-
-TEST_F(WindowTest, BarsBesideAModalWindowAreKeptUpToDateUnlessItDisablesTheirFrame)
+TEST_F(WindowTest, TheBarsOfEveryFrameAreKeptUpToDateAlsoBesideAModalWindowUnlessItDisablesTheirFrame)
 {
     CDialog dialog;
     const DialogTemplate form(CRect(0, 0, 80, 40), WS_POPUP);
@@ -441,6 +421,15 @@ TEST_F(WindowTest, BarsBesideAModalWindowAreKeptUpToDateUnlessItDisablesTheirFra
     dialog.InitModalIndirect(form, &Host());
     EXPECT_EQ(dialog.DoModal(), 1);
     Host().hook = nullptr;
+    frames[1]->EnableWindow();
+    AfxGetApp()->m_pMainWnd = &Host(); // none of the frames
+    PumpAll();
+    EXPECT_FALSE(bars[1].IsPressable(TippedCommand));
+    AfxGetApp()->m_pMainWnd = nullptr;
+    frames[0]->RecalcLayout();
+    const Pixels shown = Settled(bars[0]);
+    EXPECT_EQ(shown.At(shown.Width() - 5, shown.Height() - 5), ::GetSysColor(COLOR_BTNFACE))
+        << "a flat bar shows its parent's ground";
     for (Frame* const frame : frames)
     {
         frame->DestroyWindow();

@@ -111,8 +111,6 @@ protected:
         journal.push_back(text);
     }
     void OnSysCommand(UINT id, LPARAM lParam) { Note("system", id, lParam); }
-    void OnSettingChange(UINT flags, LPCTSTR section) { Note(section, flags); }
-    void OnEndSession(BOOL ending) { Note("end", ending); }
     BOOL OnCopyData(CWnd* from, COPYDATASTRUCT* data)
     {
         Note("data", from == this, data->dwData);
@@ -122,31 +120,21 @@ protected:
     {
         Note("wheel", keys, delta, point.x, point.y);
     }
-    void OnRButtonDblClk(UINT keys, CPoint point) { Note("double", keys, point.x, point.y); }
     void HScroll(UINT code, UINT position) { Note("scroll", code, position); }
-    HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(UINT_PTR(0x1234)); }
     LRESULT OnMenuChar(UINT letter, UINT flags, CMenu* menu)
     {
         Note("letter", letter, flags, menu == nullptr);
         return MAKELRESULT(3, MNC_EXECUTE);
     }
-    void OnMenuSelect(UINT item, UINT flags, HMENU) { Note("select", item, flags); }
-    void OnEnterIdle(UINT why, CWnd* who) { Note("idle", why, who == this); }
     DECLARE_MESSAGE_MAP()
 };
 
 BEGIN_MESSAGE_MAP(Listener, CWnd)
     ON_WM_SYSCOMMAND()
-    ON_WM_SETTINGCHANGE()
-    ON_WM_ENDSESSION()
     ON_WM_COPYDATA()
     ON_WM_MOUSEHWHEEL()
-    ON_WM_RBUTTONDBLCLK()
     ON_WM_HSCROLL_REFLECT()
-    ON_WM_QUERYDRAGICON()
     ON_WM_MENUCHAR()
-    ON_WM_MENUSELECT()
-    ON_WM_ENTERIDLE()
 END_MESSAGE_MAP()
 
 class MessageMap : public WindowTest
@@ -351,29 +339,6 @@ TEST_F(MessageMap, AnExceptionOutOfAHandlerGoesNoFurtherThanItsWindow)
     EXPECT_TRUE(back);
 }
 
-TEST_F(MessageMap, AMessageWithoutItsDataReachesNoHandler)
-{
-    Standing<CFrameWnd> frame;
-    ASSERT_TRUE(frame.Create(nullptr, "Frame", WS_POPUP, CRect(0, 0, 90, 90)));
-    CDialog dialog;
-    ASSERT_TRUE(dialog.CreateIndirect(DialogTemplate(CRect(0, 0, 80, 40)), &Host()));
-    CStatusBar bar;
-    ASSERT_TRUE(bar.Create(&frame));
-    auto& list = Add<CListBox>(CRect(0, 0, 50, 50), LBS_OWNERDRAWFIXED);
-    for (CWnd* const window : {static_cast<CWnd*>(&frame), static_cast<CWnd*>(&dialog),
-                               static_cast<CWnd*>(&bar), static_cast<CWnd*>(&list)})
-    {
-        for (const UINT message :
-             {WM_NOTIFY, WM_DRAWITEM, WM_MEASUREITEM, WM_COMPAREITEM, WM_DELETEITEM,
-              WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED, WM_NCCALCSIZE, WM_GETMINMAXINFO,
-              WM_STYLECHANGING, WM_STYLECHANGED, WM_MOVING, WM_SIZING, WM_CREATE, WM_NCCREATE,
-              WM_COPYDATA, WM_HELP})
-        {
-            EXPECT_EQ(window->SendMessage(message), 0) << message;
-        }
-    }
-}
-
 TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)
 {
     Panel& panel = AddPanel();
@@ -394,20 +359,13 @@ TEST_F(MessageMap, HandlersGetTheWordsOfTheirMessage)
     auto& listener = Add<Listener>(CRect(0, 0, 50, 50));
     COPYDATASTRUCT data = {7, 0, nullptr};
     listener.SendMessage(WM_SYSCOMMAND, SC_CLOSE, 12);
-    listener.SendMessage(WM_SETTINGCHANGE, 3, LPARAM("Policy"));
-    listener.SendMessage(WM_ENDSESSION, TRUE);
     EXPECT_TRUE(listener.SendMessage(WM_COPYDATA, WPARAM(listener.m_hWnd), LPARAM(&data)));
     listener.SendMessage(WM_MOUSEHWHEEL, MAKEWPARAM(MK_CONTROL, -120), MAKELPARAM(-5, 6));
-    listener.SendMessage(WM_RBUTTONDBLCLK, MK_RBUTTON, MAKELPARAM(-5, 6));
     Host().SendMessage(WM_HSCROLL, MAKEWPARAM(SB_THUMBTRACK, 40000), LPARAM(listener.m_hWnd));
-    EXPECT_EQ(listener.SendMessage(WM_QUERYDRAGICON), 0x1234);
     EXPECT_EQ(listener.SendMessage(WM_MENUCHAR, MAKEWPARAM('x', MF_POPUP)),
               MAKELRESULT(3, MNC_EXECUTE));
-    listener.SendMessage(WM_MENUSELECT, MAKEWPARAM(7, 0xFFFF));
-    listener.SendMessage(WM_ENTERIDLE, MSGF_MENU, LPARAM(listener.m_hWnd));
-    EXPECT_EQ(listener.journal, (Journal{"system 61536 12", "Policy 3", "end 1", "data 1 7",
-                                         "wheel 8 -120 -5 6", "double 2 -5 6", "scroll 5 40000",
-                                         "letter 120 16 1", "select 7 65535", "idle 2 1"}));
+    EXPECT_EQ(listener.journal, (Journal{"system 61536 12", "data 1 7", "wheel 8 -120 -5 6",
+                                         "scroll 5 40000", "letter 120 16 1"}));
 }
 
 } // namespace
