@@ -1,6 +1,5 @@
 #include "SearchStatusBar.h"
 #include "support/Accessible.h"
-#include "support/Acting.h"
 
 namespace {
 
@@ -83,7 +82,7 @@ TEST_F(StatusBarTest, AnOwnerDrawsItsPaneInEveryModeAndMayDeleteTheBarThere)
     EXPECT_EQ(drawn, 1);
 }
 
-TEST_F(StatusBarTest, TheNextBarOfAnObjectHasAFontAndTimersOfItsOwn)
+TEST_F(StatusBarTest, TheNextBarOfAnObjectHasAFontAndTimersOfItsOwnWheneverTheyCome)
 {
     CSearchStatusBar object;
     for (const int points : {120, 140})
@@ -91,9 +90,14 @@ TEST_F(StatusBarTest, TheNextBarOfAnObjectHasAFontAndTimersOfItsOwn)
         CFont font;
         font.CreatePointFont(points, "Arial");
         auto& bar = Add<CStatusBarCtrl>(CRect(0, 0, 0, 0));
-        bar.SetFont(&font);
         object.UnsubclassWindow();
         ASSERT_TRUE(object.SubclassWindow(bar.Detach()));
+        const ModeScope scope(points == 120 ? STD : ONBOARD); // in which its font comes
+        Painted(object);
+        const int height = ClientRectOf(object).Height();
+        object.SetFont(&font);
+        PumpAll();
+        EXPECT_TRUE(points == 120 || ClientRectOf(object).Height() == height);
         for (const APPMODE mode : {ONBOARD, STD, EFB})
         {
             COnBoardUIGeneral::SetAppMode(mode);
@@ -157,46 +161,6 @@ TEST_F(StatusBarTest, AnOwnerThatPlacesItGetsItsPanesWhereTheyAre)
         bar.MoveWindow(CRect(0, 0, 400, simple ? 35 : 34));
         EXPECT_EQ(bar.IsSimple() != FALSE, simple);
     }
-}
-
-TEST_F(StatusBarTest, ItMayGoWhenItIsAskedForWhatItShows)
-{
-    const auto expectGone = [&](UINT asked, auto show) {
-        auto* bar = new Fenced<Acting<CCustomStatusBar>>;
-        ASSERT_TRUE(bar->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 0, 0), &Host(), 5));
-        bar->ActIn(asked, [&] { delete std::exchange(bar, nullptr); });
-        show(*bar);
-        PumpAll();
-        EXPECT_EQ(bar, nullptr) << asked;
-        delete bar;
-    };
-    for (const int asked : {WM_GETFONT, SB_ISSIMPLE, SB_GETBORDERS, SB_GETPARTS, SB_GETTEXTLENGTH})
-    {
-        const ModeScope scope(STD);
-        expectGone(UINT(asked), [](CWnd& bar) { SetMode(ONBOARD, bar); });
-    }
-    for (const int asked : {SB_ISSIMPLE, SB_GETPARTS, SB_GETTEXTLENGTH, SB_GETTEXT})
-    {
-        expectGone(UINT(asked), [](CWnd& bar) { const Read read(*Reached(bar), CHILDID_SELF); });
-    }
-}
-
-TEST_F(StatusBarTest, AFontThatComesOnBoardIsThatOfTheStandardMode)
-{
-    auto& bar = AddBar({-1});
-    CFont font;
-    ASSERT_TRUE(font.CreatePointFont(120, "Arial"));
-    {
-        const ModeScope scope(ONBOARD);
-        Painted(bar);
-        const int height = ClientRectOf(bar).Height();
-        bar.SetFont(&font);
-        PumpAll();
-        EXPECT_EQ(ClientRectOf(bar).Height(), height);
-        EXPECT_NE(bar.SendMessage(WM_GETFONT), LRESULT(font.GetSafeHandle()));
-    }
-    Painted(bar);
-    EXPECT_EQ(bar.SendMessage(WM_GETFONT), LRESULT(font.GetSafeHandle()));
 }
 
 } // namespace
