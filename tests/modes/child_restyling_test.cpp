@@ -234,21 +234,6 @@ TEST_F(ChildPlacingTest, AnEditBreaksItsLinesForItsFontAndItsPlace)
     }
 }
 
-TEST_F(ChildPlacingTest, AComboHasTheHeightOfTheModeAlsoOnAWindowThatScalesIt)
-{
-    auto& combo = Add<CCustomDropListCombo>(CRect(10, 20, 110, 43));
-    for (const APPMODE mode : {ONBOARD, STD, ONBOARD, STD})
-    {
-        COnBoardUIGeneral::SetAppMode(mode); // of which it hears before it is scaled
-        const int height = WindowRectOf(combo).Height();
-        EXPECT_EQ(height > 40, mode == ONBOARD);
-        Restyle(Host(), mode == STD ? Reducing : Enlarging, mode);
-        EXPECT_EQ(WindowRectOf(combo).Height(), height);
-        EXPECT_EQ(WindowRectOf(combo).Width() > 200, mode == ONBOARD);
-    }
-    EXPECT_EQ(WindowRectOf(combo).Height(), 23);
-}
-
 TEST_F(ChildPlacingTest, AComboThatHasTakenNoHeightOfAModeIsScaled)
 {
     const ModeScope scope(ONBOARD);

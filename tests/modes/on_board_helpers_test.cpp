@@ -1,4 +1,3 @@
-#include "EFB.h"
 #include "OnBoardUI.h"
 #include "support/Acting.h"
 #include "support/AreaHost.h"
@@ -6,8 +5,6 @@
 
 #include <cmath>
 
-class PIUID // the host's own
-{};
 
 namespace {
 
@@ -112,30 +109,5 @@ TEST_F(OnBoardHelpersTest, WindowsAreKeptInsideTheHostsArea)
     EXPECT_EQ(host.askedFor, 1);
 }
 
-template <class Service> struct OverridesNothing : Service
-{
-    const char* GetProviderName() override { return "nothing"; }
-};
-
-TEST(HostServices, AHostThatOverridesNothingGivesTheseAnswers)
-{
-    OverridesNothing<IAppAccess> host;
-    OverridesNothing<IEFB> bag;
-    EXPECT_TRUE(bag.BeginModalDialog() && bag.EndModalDialog() && bag.IsModalDialogOpen());
-    EXPECT_TRUE(host.AllowRouteModification());
-    EXPECT_EQ(bag.Configure(), 1);
-    EXPECT_EQ(host.GetDragDropCF({}, {}), 1U);
-    EXPECT_EQ(host.GetNextEnrInputMode({}, ChartInputMode{7}), ChartInputMode{7});
-    EXPECT_EQ(host.CurrentLayoutPageID(), ~0U);
-    EXPECT_EQ(host.NextNewLayoutPageID(STD), ~0U);
-    EXPECT_EQ(host.GetActiveConfigurationID(), ~0U);
-    EXPECT_EQ(host.InsertPaneByClass(PIUID(), nullptr, {}, 0), CSP_INSERT_RESULT{2});
-    EXPECT_EQ(host.InsertPaneByUIName(PIUID(), "", {}, nullptr), CSP_INSERT_RESULT{2});
-    EXPECT_EQ(host.InsertStockPane(PIUID(), {}, {}, nullptr), CSP_INSERT_RESULT{2});
-    int area[] = {7, 7, 7, 7, 7, 7, 7, 7}; // set all the same
-    EXPECT_FALSE(host.GetAvailableArea(GAA_WINDOW_AREA, area[0], area[1], area[2], area[3]));
-    EXPECT_FALSE(bag.GetAvailableArea(area[4], area[5], area[6], area[7]));
-    EXPECT_EQ(std::ranges::count(area, 0), 8);
-}
 
 } // namespace
