@@ -1,5 +1,5 @@
-// What hosts and derived classes know of the lists: the sizes of texts and rows, the timers, the
-// wait that a derived class may start, and the combo's window class.
+// What hosts and derived classes know of the lists: the sizes of texts and rows, the wait that a
+// derived class may start, and the combo's window class.
 
 #include "CustomDropListCombo.h"
 #include "CustomEdit.h"
@@ -23,20 +23,6 @@ TEST_F(WindowTest, ControlsHaveTheTextSizesOfTheirKind)
         font->GetLogFont(&onBoard);
         EXPECT_EQ(onBoard.lfHeight, LONG(std::trunc(stock.lfHeight * factor)));
     }
-}
-
-TEST(Timers, HaveTheNumbersThatDerivedClassesKnow)
-{
-    using Box = CCustomListBox;
-    using Report = CCustomListCtrl;
-    EXPECT_EQ(std::tuple(Box::m_timerid, Box::m_timerperiod, Box::m_timerInitialWaitID,
-                         Box::m_timerInitialWaitPeriod),
-              std::tuple(101U, 130U, 104U, 300U));
-    EXPECT_EQ(std::tuple(Report::m_timerid, Report::m_timerperiod, Report::m_timerInitialWaitID,
-                         Report::m_timerInitialWaitPeriod),
-              std::tuple(101U, 130U, 104U, 300U));
-    EXPECT_EQ(std::tuple(CCustomEdit::m_timerid, CCustomEdit::m_timerperiod),
-              std::tuple(103U, 102U));
 }
 
 namespace {
