@@ -61,7 +61,7 @@ public:
 
 } // namespace
 
-TEST_F(EditTest, ATapAsksForTheKeyboardInTheFlightBagModes)
+TEST_F(EditTest, ATapAsksForTheKeyboardInTheFlightBagModesAndTheHostMayDoAnythingThen)
 {
     KeyboardHost keyboard;
     for (const APPMODE mode : {STD, FULLSCREEN, ONBOARD, EFB, EFBFS})
@@ -81,10 +81,6 @@ TEST_F(EditTest, ATapAsksForTheKeyboardInTheFlightBagModes)
         EXPECT_TRUE(keyboard.requests.empty());
         Remove(edit);
     }
-}
-
-TEST_F(EditTest, TheHostMayDoAnythingWhenItIsAskedForTheKeyboard)
-{
     const std::function<void(CWnd&)> deeds[] = {
         [](CWnd& edit) { edit.DestroyWindow(); },
         [](CWnd&) { COnBoardUIGeneral::SetAppMode(STD); },
@@ -93,8 +89,8 @@ TEST_F(EditTest, TheHostMayDoAnythingWhenItIsAskedForTheKeyboard)
     for (const auto& deed : deeds)
     {
         COnBoardUIGeneral::SetAppMode(EFB);
-        KeyboardHost keyboard;
         auto& edit = AddEdit(50);
+        keyboard.requests.clear();
         keyboard.act = [&] { deed(edit); };
         Click(ClientPoint(edit, CPoint(30, 30)));
         EXPECT_EQ(keyboard.requests.size(), 1U);

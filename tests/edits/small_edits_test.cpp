@@ -167,53 +167,43 @@ TEST_F(SmallEditsTest, ThePromptIsGreyAndComesWithEachWindow)
 
 TEST_F(SmallEditsTest, ThePromptOfAnEditThatWasThereIsNoTextEither)
 {
-    for (const char* const given : {"", "EDDF"}) // what the parent sets when it is told
+    // What the host gives before the prompt is told, how often the parent is told of a change, and
+    // what it gives itself when it reads nothing then.
+    using Give = void (*)(EditWithPrompt&, const char*);
+    const Give set = [](EditWithPrompt& edit, const char* text) { edit.SetWindowText(text); };
+    const Give replace = [](EditWithPrompt& edit, const char* text) { edit.ReplaceSel(text); };
+    const std::tuple<Give, int, const char*> cases[] = {
+        {nullptr, 1, ""}, {nullptr, 2, "EDDF"}, {set, 1, ""}, {replace, 3, ""}};
+    for (const auto& [give, changes, answer] : cases)
     {
-        SCOPED_TRACE(given);
+        SCOPED_TRACE(testing::Message() << changes << answer);
         auto& before = Add<CEdit>(CRect(20, 80, 260, 110));
         before.SetWindowText("text");
         PromptSeen taker;
-        std::string read;
-        Host().hook = [&](ToldMessage& told) {
-            CString text;
-            Host().GetDlgItemText(int(told.id), text);
-            read += text;
-            if (told.code == EN_CHANGE && text.IsEmpty())
-            {
-                taker.SetWindowText(given);
-            }
-        };
-        taker.SubclassWindow(before.UnsubclassWindow());
-        EXPECT_EQ(TextOf(taker), "");
-        PumpAll(); // without another message it comes with the next paint
-        EXPECT_EQ(TextOf(taker), given);
-        EXPECT_EQ(taker.Shown(), *given == '\0' ? "<Enter text here>" : given);
-        EXPECT_EQ(read.find('<'), std::string::npos);
-        Host().hook = nullptr;
-        taker.DestroyWindow();
-    }
-}
-
-TEST_F(SmallEditsTest, AnEditTakenOverTakesATextBeforeItsPromptIsTold)
-{
-    const std::pair<void (*)(EditWithPrompt&, const char*), int> ways[] = {
-        {[](EditWithPrompt& edit, const char* text) { edit.SetWindowText(text); }, 1},
-        {[](EditWithPrompt& edit, const char* text) { edit.ReplaceSel(text); }, 3},
-    };
-    for (const auto& [give, changes] : ways)
-    {
-        auto& before = Add<CEdit>(CRect(20, 80, 260, 110));
-        PromptSeen taker;
         CString value("EDDF"); // which the parent keeps up to date
+        std::string read;
         int told = 0;
-        Host().OnCode(EN_CHANGE, [&](ToldMessage&) {
-            taker.GetWindowText(value);
+        Host().OnCode(EN_CHANGE, [&](ToldMessage& change) {
             ++told;
+            Host().GetDlgItemText(int(change.id), value);
+            read += value;
+            if (value.IsEmpty() && *answer != '\0')
+            {
+                taker.SetWindowText(answer);
+            }
         });
         taker.SubclassWindow(before.UnsubclassWindow());
-        give(taker, value);
-        EXPECT_EQ(taker.Shown(), "EDDF");
-        EXPECT_STREQ(value, "EDDF");
+        EXPECT_EQ(TextOf(taker), "");
+        const std::string given(give != nullptr ? "EDDF" : answer);
+        if (give != nullptr)
+        {
+            give(taker, value);
+            EXPECT_STREQ(value, "EDDF");
+        }
+        PumpAll(); // without another message it comes with the next paint
+        EXPECT_EQ(TextOf(taker), given);
+        EXPECT_EQ(taker.Shown(), given.empty() ? "<Enter text here>" : given);
+        EXPECT_EQ(read.find('<'), std::string::npos);
         EXPECT_EQ(told, changes);
         Host().hook = nullptr;
         taker.DestroyWindow();
