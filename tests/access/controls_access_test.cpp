@@ -45,11 +45,20 @@ TEST_P(AccessInModes, WhatOnlyShowsTellsItsKindAndText)
 
 TEST_P(AccessInModes, DefaultActionsWorkAsTheUserDoes)
 {
-    auto& box = Add<CCustomCheckBox>(CRect(10, 10, 200, 60), BS_AUTOCHECKBOX, "Auto");
+    auto& box = Add<CCustomCheckBox>(CRect(10, 10, 200, 60), BS_AUTO3STATE, "Auto");
     const Held<IAccessible> check = Reached(box);
-    EXPECT_EQ(check->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
-    EXPECT_EQ(Read(*check, CHILDID_SELF).action, "Check") << "posted";
-    PumpAll();
+    std::string told;
+    for (const int state : {BST_UNCHECKED, BST_CHECKED, BST_INDETERMINATE})
+    {
+        box.SetCheck(state);
+        EXPECT_EQ(check->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+        told += Read(*check, CHILDID_SELF).action; // posted
+        PumpAll();
+        told += std::to_string(box.GetCheck()) + " ";
+    }
+    // On-board a click never leads to the third state.
+    EXPECT_EQ(told, GetParam() == STD ? "Check1 Toggle2 Uncheck0 " : "Check1 Uncheck0 Check1 ");
+    box.SetCheck(BST_CHECKED);
     EXPECT_EQ(Read(*check, CHILDID_SELF).state, STATE_SYSTEM_CHECKED | STATE_SYSTEM_FOCUSED);
     box.SetState(TRUE);
     EXPECT_NE(Read(*check, CHILDID_SELF).state & STATE_SYSTEM_PRESSED, 0);
@@ -183,8 +192,9 @@ TEST_F(WindowTest, WhatAHostThrowsReachesNoAssistiveProgram)
     }
 }
 
-TEST_P(AccessInModes, WhatTheUserCannotReachIsReadAndNotWorked)
+TEST_P(AccessInModes, WhatTheUserCannotReachIsReadAndNotWorkedNorSelected)
 {
+    constexpr long Wish = SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION;
     auto& report = Add<CCustomListCtrl>(CRect(210, 10, 460, 210), LVS_REPORT);
     report.InsertColumn(0, "Name", LVCFMT_LEFT, 160);
     report.InsertItem(0, "Fuel");
@@ -220,6 +230,24 @@ TEST_P(AccessInModes, WhatTheUserCannotReachIsReadAndNotWorked)
         PumpAll();
         EXPECT_EQ(Read(*object, child).state, before.state);
     }
+    for (CWnd* const list :
+         {static_cast<CWnd*>(&report), static_cast<CWnd*>(&box), static_cast<CWnd*>(&tree)})
+    {
+        SCOPED_TRACE(list->GetDlgCtrlID());
+        const Held<IAccessible> object = Reached(*list);
+        list->EnableWindow(FALSE);
+        EXPECT_EQ(object->accSelect(Wish, Child(1)), DISP_E_MEMBERNOTFOUND);
+        list->EnableWindow();
+        EXPECT_EQ(SelectionIn(*object), -1);
+    }
+    auto& fixed = Add<CCustomListBox>(CRect(470, 10, 600, 160), LBS_NOTIFY | LBS_NOSEL);
+    fixed.AddString("Fuel");
+    const Held<IAccessible> rows = Reached(fixed);
+    EXPECT_EQ(Read(*rows, 1).action, "(none)");
+    EXPECT_EQ(rows->accDoDefaultAction(Child(1)), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(rows->accSelect(Wish, Child(1)), E_INVALIDARG);
+    EXPECT_EQ(fixed.GetCurSel(), -1);
+    EXPECT_EQ(rows->accSelect(SELFLAG_TAKEFOCUS, Child(1)), S_OK);
     // Its heading is a window of its own, and not disabled.
     report.EnableWindow(FALSE);
     Host().Forget();
@@ -234,37 +262,6 @@ TEST_P(AccessInModes, WhatTheUserCannotReachIsReadAndNotWorked)
     Host().EnableWindow();
     EXPECT_THAT(Host().CodesFrom(UINT(report.GetDlgCtrlID())),
                 testing::Not(testing::Contains(UINT(LVN_COLUMNCLICK))));
-}
-
-TEST_P(AccessInModes, WhatTheUserCannotSelectIsNotSelected)
-{
-    constexpr long Wish = SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION;
-    auto& report = Add<CCustomListCtrl>(CRect(210, 10, 460, 210), LVS_REPORT);
-    report.InsertColumn(0, "Name", LVCFMT_LEFT, 160);
-    report.InsertItem(0, "Fuel");
-    auto& box = Add<CCustomListBox>(CRect(10, 10, 200, 160), LBS_NOTIFY);
-    box.AddString("Fuel");
-    auto& tree = Add<MultiTree>(CRect(210, 220, 460, 320));
-    tree.InsertItem("Fuel");
-    for (CWnd* const list :
-         {static_cast<CWnd*>(&report), static_cast<CWnd*>(&box), static_cast<CWnd*>(&tree)})
-    {
-        SCOPED_TRACE(list->GetDlgCtrlID());
-        const Held<IAccessible> object = Reached(*list);
-        list->EnableWindow(FALSE);
-        EXPECT_EQ(object->accSelect(Wish, Child(1)), DISP_E_MEMBERNOTFOUND);
-        list->EnableWindow();
-        EXPECT_EQ(SelectionIn(*object), -1);
-    }
-
-    auto& fixed = Add<CCustomListBox>(CRect(10, 170, 200, 320), LBS_NOTIFY | LBS_NOSEL);
-    fixed.AddString("Fuel");
-    const Held<IAccessible> object = Reached(fixed);
-    EXPECT_EQ(Read(*object, 1).action, "(none)");
-    EXPECT_EQ(object->accDoDefaultAction(Child(1)), DISP_E_MEMBERNOTFOUND);
-    EXPECT_EQ(object->accSelect(Wish, Child(1)), E_INVALIDARG);
-    EXPECT_EQ(fixed.GetCurSel(), -1);
-    EXPECT_EQ(object->accSelect(SELFLAG_TAKEFOCUS, Child(1)), S_OK);
 }
 
 TEST_P(AccessInModes, APasswordIsToldAsOneAndNotTold)
@@ -286,21 +283,4 @@ TEST_P(AccessInModes, APasswordIsToldAsOneAndNotTold)
     expectHidden(custom, "custom edit");
     prompted.SetPasswordChar(0);
     EXPECT_EQ(Read(*Reached(prompted), CHILDID_SELF).state & STATE_SYSTEM_PROTECTED, 0);
-}
-
-TEST_P(AccessInModes, TheActionOfACheckBoxIsWhatAClickDoes)
-{
-    auto& box = Add<CCustomCheckBox>(CRect(10, 10, 200, 60), BS_AUTO3STATE, "Auto");
-    const Held<IAccessible> object = Reached(box);
-    std::string told;
-    for (const int check : {BST_UNCHECKED, BST_CHECKED, BST_INDETERMINATE})
-    {
-        box.SetCheck(check);
-        told += Read(*object, CHILDID_SELF).action;
-        EXPECT_EQ(object->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
-        PumpAll();
-        told += std::to_string(box.GetCheck()) + " ";
-    }
-    // On-board a click never leads to the third state.
-    EXPECT_EQ(told, GetParam() == STD ? "Check1 Toggle2 Uncheck0 " : "Check1 Uncheck0 Check1 ");
 }
