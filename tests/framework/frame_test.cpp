@@ -155,9 +155,7 @@ TEST_F(WindowTest, AFrameIsMadeFromItsResourcesAndFitsItsView)
     context.m_pNewViewClass = RUNTIME_CLASS(LargeView);
     ASSERT_TRUE(frame->LoadFrame(60010, WS_OVERLAPPEDWINDOW, nullptr, &context));
     frame->InitialUpdateFrame(nullptr, TRUE);
-    CString title;
-    frame->GetWindowText(title);
-    EXPECT_STREQ(title, "Flight desk");
+    EXPECT_EQ(TextOf(*frame), "Flight desk");
     EXPECT_EQ(frame->GetMenu()->GetSubMenu(0)->GetMenuItemID(0), CommandOfFrame);
     journal.clear();
     MSG key = {frame->m_hWnd, WM_KEYDOWN, VK_F5, 0, 0, {}};
@@ -398,7 +396,7 @@ TEST_F(WindowTest, ABarTellsTheTipsOfItsCommandsUnlessItsParentDoes)
     EXPECT_STREQ(bar.Tip(TippedCommand), "Mine");
 }
 
-TEST_F(WindowTest, TheBarsOfEveryFrameAreKeptUpToDateAlsoBesideAModalWindowUnlessItDisablesTheirFrame)
+TEST_F(WindowTest, FramesKeepTheirBarsUpToDateUnlessAModalWindowDisablesThem)
 {
     CDialog dialog;
     const DialogTemplate form(CRect(0, 0, 80, 40), WS_POPUP);

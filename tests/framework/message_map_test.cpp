@@ -339,7 +339,7 @@ TEST_F(MessageMap, AnExceptionOutOfAHandlerGoesNoFurtherThanItsWindow)
     EXPECT_TRUE(back);
 }
 
-TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)
+TEST_F(MessageMap, HandlersGetTheWordsOfTheirMessageAndGiveTheResultEvenWhenItIsZero)
 {
     Panel& panel = AddPanel();
     CWnd item;
@@ -352,10 +352,7 @@ TEST_F(MessageMap, HandlersGiveTheResultEvenWhenItIsZero)
     panel.SetWindowText("text");
     EXPECT_EQ(panel.SendMessage(WM_GETTEXTLENGTH), 0) << "handled: the default is not asked";
     EXPECT_EQ(panel.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(-5, 7)), HTNOWHERE);
-}
 
-TEST_F(MessageMap, HandlersGetTheWordsOfTheirMessage)
-{
     auto& listener = Add<Listener>(CRect(0, 0, 50, 50));
     COPYDATASTRUCT data = {7, 0, nullptr};
     listener.SendMessage(WM_SYSCOMMAND, SC_CLOSE, 12);

@@ -234,19 +234,9 @@ TEST_F(PropertySheetTest, AModelessSheetLivesBesideItsOwnerUntilItIsClosed)
     }
 }
 
-TEST_F(PropertySheetTest, APageShowsWhatItFetchesWhenItIsShown)
-{
-    first.fetched = "from elsewhere";
-    Sheet sheet(&Host(), {&first});
-    ASSERT_TRUE(sheet.Create(&Host()));
-    CString shown;
-    first.GetDlgItemText(IDC_TEST_EDIT, shown);
-    EXPECT_STREQ(shown, "from elsewhere");
-}
-
 int hostCallbacks = 0;
 
-TEST_F(PropertySheetTest, AModelessSheetHasTheStylesItIsGiven)
+TEST_F(PropertySheetTest, AModelessSheetHasTheStylesItIsGivenAndShowsWhatItsPageFetches)
 {
     constexpr DWORD All = WS_CHILD | WS_POPUP | WS_CAPTION | WS_VISIBLE;
     // The style and the extended style that are given, and those that the sheet has.
@@ -263,7 +253,9 @@ TEST_F(PropertySheetTest, AModelessSheetHasTheStylesItIsGiven)
         sheet.m_psh.dwFlags |= PSH_USECALLBACK;
         sheet.m_psh.pfnCallback = [](HWND, UINT, LPARAM) { return ++hostCallbacks; };
         hostCallbacks = 0;
+        first.fetched = "from elsewhere";
         ASSERT_TRUE(sheet.Create(&Host(), style, exStyle));
+        EXPECT_EQ(TextOf(*first.GetDlgItem(IDC_TEST_EDIT)), "from elsewhere");
         EXPECT_EQ(sheet.GetStyle() & All, has);
         EXPECT_EQ(sheet.GetExStyle() & WS_EX_TOOLWINDOW, hasEx);
         EXPECT_EQ(sheet.GetParent(), &Host());

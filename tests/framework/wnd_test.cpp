@@ -108,7 +108,6 @@ TEST_F(WndTest, ACreationThatFailsEndsOnceAndLeavesNothing)
 
 // Handles and objects ---------------------------------------------------------------------------
 
-
 TEST_F(WndTest, TemporaryObjectsOwnNothingAndEndWhenIdle)
 {
     const HWND plain = PlainChild(Host());
