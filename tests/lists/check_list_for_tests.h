@@ -67,3 +67,7 @@ protected:
         return int(std::count(codes.begin(), codes.end(), 40U));
     }
 };
+
+// The same on either side of the mode switch.
+class CheckListInMode : public InMode<CheckListTest>
+{};

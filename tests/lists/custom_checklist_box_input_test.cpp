@@ -4,82 +4,77 @@
 
 using testing::ElementsAre;
 
-TEST_F(CheckListTest, AClickOnTheCheckChangesItAndOneBesideItOnlySelects)
+INSTANTIATE_TEST_SUITE_P(Modes, CheckListInMode, testing::Values(STD, EFBFS));
+
+TEST_P(CheckListInMode, AClickOnTheCheckChangesItAndOneBesideItOnlySelects)
 {
     // The style, the checks after each click, and how many are told.
     const std::tuple<UINT, std::vector<int>, int> table[] = {{BS_CHECKBOX, {0, 0, 0}, 0},
                                                              {BS_AUTOCHECKBOX, {1, 0, 1}, 3},
                                                              {BS_3STATE, {0, 0, 0}, 0},
                                                              {BS_AUTO3STATE, {1, 2, 0}, 3}};
-    for (const APPMODE mode : {STD, EFBFS})
+    for (const auto& [style, checks, told] : table)
     {
-        const ModeScope scope(mode);
-        for (const auto& [style, checks, told] : table)
+        SCOPED_TRACE(style);
+        auto& list = AddList(4, style);
+        Host().Forget();
+        for (const int check : checks)
         {
-            SCOPED_TRACE(testing::Message() << APPMODE_NAMES[mode] << " style " << style);
-            auto& list = AddList(4, style);
-            Host().Forget();
-            for (const int check : checks)
-            {
-                Click(list.CheckPoint(1)); // fast: the second one is a double click
-                EXPECT_EQ(list.GetCheck(1), check);
-            }
-            EXPECT_EQ(Told(list), told);
-            EXPECT_EQ(list.GetCurSel(), 1);
-
-            const std::vector<int> before = list.Checks();
-            Click(list.TextPoint(2));
-            Click(list.TextPoint(2));
-            EXPECT_EQ(list.GetCurSel(), 2);
-            EXPECT_THAT(Codes(list), testing::Contains(UINT(LBN_DBLCLK)).Times(testing::Ge(1)));
-            list.Enable(3, FALSE);
-            Click(list.CheckPoint(3));
-            EXPECT_EQ(list.GetCurSel(), 3);
-            EXPECT_EQ(list.Checks(), before);
-            EXPECT_EQ(Told(list), told);
-            Remove(list);
+            Click(list.CheckPoint(1)); // fast: the second one is a double click
+            EXPECT_EQ(list.GetCheck(1), check);
         }
+        EXPECT_EQ(Told(list), told);
+        EXPECT_EQ(list.GetCurSel(), 1);
+
+        const std::vector<int> before = list.Checks();
+        Click(list.TextPoint(2));
+        Click(list.TextPoint(2));
+        EXPECT_EQ(list.GetCurSel(), 2);
+        EXPECT_THAT(Codes(list), testing::Contains(UINT(LBN_DBLCLK)).Times(testing::Ge(1)));
+        list.Enable(3, FALSE);
+        Click(list.CheckPoint(3));
+        EXPECT_EQ(list.GetCurSel(), 3);
+        // Below the last row there is nothing to be changed.
+        Click(list.CheckPoint(3) + CPoint(0, list.GetItemHeight(0)));
+        EXPECT_EQ(list.Checks(), before);
+        EXPECT_EQ(Told(list), told);
+        Remove(list);
     }
 }
 
-TEST_F(CheckListTest, SpaceGoesRoundTheStatesOfTheCaretsRow)
+TEST_P(CheckListInMode, SpaceGoesRoundTheStatesOfTheCaretsRow)
 {
-    for (const APPMODE mode : {STD, ONBOARD})
+    auto& list = AddList(2, BS_AUTO3STATE);
+    list.AddString(" indented"); // not looked for by a space
+    list.SetFocus();
+    list.SetCurSel(1);
+    EXPECT_TRUE(GetParam() == STD || ShowsWhatAPaintWould(list)) << "with the focus's rectangle";
+    for (const int expected : {1, 2, 0})
     {
-        const ModeScope scope(mode);
-        auto& list = AddList(2, BS_AUTO3STATE);
-        list.AddString(" indented"); // not looked for by a space
-        list.SetFocus();
-        list.SetCurSel(1);
-        EXPECT_TRUE(mode == STD || ShowsWhatAPaintWould(list)) << "with the focus's rectangle";
-        for (const int expected : {1, 2, 0})
-        {
-            TypeKey(VK_SPACE);
-            EXPECT_EQ(list.GetCheck(1), expected);
-            EXPECT_EQ(list.GetCurSel(), 1);
-        }
-        EXPECT_EQ(Told(list), 3);
-        // A state that its style does not have counts as the last one that it has.
-        list.SetCheck(1, 2);
-        list.SetCheckStyle(BS_AUTOCHECKBOX);
         TypeKey(VK_SPACE);
-        EXPECT_EQ(list.GetCheck(1), 0);
-        TypeKey(VK_DOWN);
-        EXPECT_EQ(list.GetCurSel(), 2) << "other keys are the list box's";
-
-        Host().Forget();
-        list.Enable(2, FALSE);
-        EXPECT_TRUE(ShowsWhatAPaintWould(list));
-        TypeKey(VK_SPACE);
-        list.SetCheckStyle(BS_CHECKBOX);
-        list.Enable(2);
-        TypeKey(VK_SPACE);
-        EXPECT_EQ(list.GetCheck(2), 0);
-        EXPECT_EQ(Told(list), 0);
-        Host().SetFocus();
-        EXPECT_TRUE(ShowsWhatAPaintWould(list));
-        Remove(list);
+        EXPECT_EQ(list.GetCheck(1), expected);
+        EXPECT_EQ(list.GetCurSel(), 1);
     }
+    EXPECT_EQ(Told(list), 3);
+    // A state that its style does not have counts as the last one that it has.
+    list.SetCheck(1, 2);
+    list.SetCheckStyle(BS_AUTOCHECKBOX);
+    TypeKey(VK_SPACE);
+    EXPECT_EQ(list.GetCheck(1), 0);
+    TypeKey(VK_DOWN);
+    EXPECT_EQ(list.GetCurSel(), 2) << "other keys are the list box's";
+
+    Host().Forget();
+    list.Enable(2, FALSE);
+    EXPECT_TRUE(ShowsWhatAPaintWould(list));
+    TypeKey(VK_SPACE);
+    list.SetCheckStyle(BS_CHECKBOX);
+    list.Enable(2);
+    TypeKey(VK_SPACE);
+    EXPECT_EQ(list.GetCheck(2), 0);
+    EXPECT_EQ(Told(list), 0);
+    Host().SetFocus();
+    EXPECT_TRUE(ShowsWhatAPaintWould(list));
 }
 
 TEST_F(CheckListTest, AnExtendedSelectionIsCheckedTogether)

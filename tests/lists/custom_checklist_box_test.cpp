@@ -204,53 +204,47 @@ public:
 
 } // namespace
 
-TEST_F(CheckListTest, EachStateHasItsPicture)
+TEST_P(CheckListInMode, EachStateHasItsPicture)
 {
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        SCOPED_TRACE(APPMODE_NAMES[mode]);
-        const ModeScope scope(mode);
-        auto& list = AddList(6, BS_AUTO3STATE);
-        const int side = mode == STD ? 13 : 50;
-        const int middle = side / 2;
-        const auto box = [&](int row) {
-            const CRect rect = list.RowRect(row);
-            const int top = rect.top + std::max(0, (rect.Height() - side - 1) / 2) + 1;
-            return ScreenPixels(
-                CRect(ClientPoint(list, CPoint(rect.left + 1, top)), CSize(side, side + 1)));
-        };
-        list.SetCheck(1, 1);
-        list.SetCheck(2, 2);
-        list.Enable(3, FALSE);
-        list.SetCheck(5, 1);
-        list.Enable(5, FALSE);
-        PumpAll();
-        const Pixels empty = box(0);
-        EXPECT_EQ(empty.At(0, 0), RGB(93, 93, 93));
-        EXPECT_EQ(empty.At(middle, middle), RGB(180, 180, 180));
-        EXPECT_EQ(empty.At(2, side), RGB(26, 26, 26)) << "of the ground, not of the picture";
-        EXPECT_EQ(box(1).At(middle, middle), RGB(26, 26, 26));
-        EXPECT_FALSE(box(1) == box(2));
-        EXPECT_EQ(box(3).At(middle, middle), RGB(100, 100, 100));
-        EXPECT_EQ(box(5).At(middle, middle), RGB(70, 70, 70));
-        list.SetCurSel(0);
-        EXPECT_EQ(box(0).At(2, side), ::GetSysColor(COLOR_HIGHLIGHT));
-        list.SetCurSel(3);
-        EXPECT_EQ(box(3).At(2, side), RGB(26, 26, 26)) << "its check cannot be changed";
-        list.EnableWindow(FALSE);
-        PumpAll();
-        EXPECT_EQ(box(0).At(middle, middle), RGB(100, 100, 100));
-        Remove(list);
+    auto& list = AddList(6, BS_AUTO3STATE);
+    const int side = GetParam() == STD ? 13 : 50;
+    const int middle = side / 2;
+    const auto box = [&](int row) {
+        const CRect rect = list.RowRect(row);
+        const int top = rect.top + std::max(0, (rect.Height() - side - 1) / 2) + 1;
+        return ScreenPixels(
+            CRect(ClientPoint(list, CPoint(rect.left + 1, top)), CSize(side, side + 1)));
+    };
+    list.SetCheck(1, 1);
+    list.SetCheck(2, 2);
+    list.Enable(3, FALSE);
+    list.SetCheck(5, 1);
+    list.Enable(5, FALSE);
+    PumpAll();
+    const Pixels empty = box(0);
+    EXPECT_EQ(empty.At(0, 0), RGB(93, 93, 93));
+    EXPECT_EQ(empty.At(middle, middle), RGB(180, 180, 180));
+    EXPECT_EQ(empty.At(2, side), RGB(26, 26, 26)) << "of the ground, not of the picture";
+    EXPECT_EQ(box(1).At(middle, middle), RGB(26, 26, 26));
+    EXPECT_FALSE(box(1) == box(2));
+    EXPECT_EQ(box(3).At(middle, middle), RGB(100, 100, 100));
+    EXPECT_EQ(box(5).At(middle, middle), RGB(70, 70, 70));
+    list.SetCurSel(0);
+    EXPECT_EQ(box(0).At(2, side), ::GetSysColor(COLOR_HIGHLIGHT));
+    list.SetCurSel(3);
+    EXPECT_EQ(box(3).At(2, side), RGB(26, 26, 26)) << "its check cannot be changed";
+    list.EnableWindow(FALSE);
+    PumpAll();
+    EXPECT_EQ(box(0).At(middle, middle), RGB(100, 100, 100));
+    Remove(list);
 
-        // What is left to an heir: the place of the check, and what lies beside it.
-        auto& drawn = AddList<DrawnList>(1, BS_AUTO3STATE);
-        drawn.SetItemData(0, 99);
-        Repaint(drawn);
-        EXPECT_EQ(drawn.drawn, 99U);
-        const CRect row = drawn.RowRect(0);
-        const Pixels seen = ScreenPixels(row + ClientPoint(drawn, CPoint(0, 0)));
-        EXPECT_EQ(seen.At(side + 3, 0), RGB(1, 2, 3));
-        EXPECT_EQ(seen.At(row.Width() - middle - 1, row.Height() / 2), RGB(180, 180, 180));
-        Remove(drawn);
-    }
+    // What is left to an heir: the place of the check, and what lies beside it.
+    auto& drawn = AddList<DrawnList>(1, BS_AUTO3STATE);
+    drawn.SetItemData(0, 99);
+    Repaint(drawn);
+    EXPECT_EQ(drawn.drawn, 99U);
+    const CRect row = drawn.RowRect(0);
+    const Pixels seen = ScreenPixels(row + ClientPoint(drawn, CPoint(0, 0)));
+    EXPECT_EQ(seen.At(side + 3, 0), RGB(1, 2, 3));
+    EXPECT_EQ(seen.At(row.Width() - middle - 1, row.Height() / 2), RGB(180, 180, 180));
 }
