@@ -212,50 +212,43 @@ TEST_F(CustomDialogTest, AModeThatAControlChangesOnTheWayComesToAllInOrder)
     }
 }
 
-TEST_F(CustomDialogTest, ChildrenThatTheDialogMakesItselfDoNotDisturbTheTemplates)
+TEST_F(CustomDialogTest, ChildrenThatTheDialogMakesItselfDisturbNoOthersAndFollowTheModeInItsFont)
 {
     const std::vector<CRect> standard = StandardPlaces();
     const ModeScope mode(ONBOARD);
     DialogForTests dialog;
-    CStatic own;
-    dialog.inCreate = [&] { own.Create("own", WS_CHILD, CRect(0, 0, 10, 10), &dialog, 900); };
+    CStatic made[4];
+    const auto make = [&](int index) {
+        CStatic& label = made[index];
+        label.Create("own", WS_CHILD, CRect(0, 0, 50, 13), &dialog, UINT(900 + index));
+        label.SetFont(dialog.GetFont());
+    };
+    dialog.inCreate = [&] { make(0); };
+    dialog.beforeInit = [&] { make(1); };
+    dialog.inInit = [&] { make(2); };
     ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
     std::vector<CRect> places = ChildPlaces(dialog);
     places.erase(places.begin());
+    places.resize(standard.size());
     EXPECT_EQ(places, Enlarged(standard));
-
+    COnBoardUIGeneral::SetAppMode(STD);
+    make(3);
+    for (const APPMODE next : {STD, EFB, STD})
+    {
+        COnBoardUIGeneral::SetAppMode(next);
+        for (const CStatic& label : made)
+        {
+            EXPECT_TRUE(&label == &made[0] ||
+                        label.GetFont() == dialog.GetDlgItem(IdLabel)->GetFont())
+                << next << label.GetDlgCtrlID();
+        }
+    }
     // A control that cannot be made takes the dialog with it, not the object.
     DialogTemplate broken = form;
     broken.Add("no such class", "", 0, CRect(0, 0, 9, 9), 9);
     DialogForTests again;
     EXPECT_FALSE(again.CreateIndirect(broken, &Host()));
     EXPECT_TRUE(again.CreateIndirect(form, &Host()));
-}
-
-TEST_F(CustomDialogTest, AControlThatIsMadeInTheDialogsFontFollowsTheMode)
-{
-    const ModeScope mode(ONBOARD);
-    DialogForTests dialog;
-    CStatic made[3];
-    const auto make = [&](int index) {
-        CStatic& label = made[index];
-        label.Create("own", WS_CHILD, CRect(0, 0, 50, 13), &dialog, UINT(900 + index));
-        label.SetFont(dialog.GetFont());
-    };
-    dialog.beforeInit = [&] { make(0); };
-    dialog.inInit = [&] { make(1); };
-    ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
-    COnBoardUIGeneral::SetAppMode(STD);
-    make(2);
-    for (const APPMODE next : {STD, EFB, STD})
-    {
-        COnBoardUIGeneral::SetAppMode(next);
-        for (const CStatic& label : made)
-        {
-            EXPECT_EQ(label.GetFont(), dialog.GetDlgItem(IdLabel)->GetFont())
-                << next << label.GetDlgCtrlID();
-        }
-    }
 }
 
 // Controls and children -------------------------------------------------------------------------

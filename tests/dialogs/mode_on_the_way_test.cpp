@@ -194,10 +194,7 @@ TEST_F(ModeOnTheWayTest, AListOfWholeRowsAndAComboHaveTheirHeightsInEachMode)
     COnBoardUIGeneral::SetAppMode(ONBOARD);
     list.AddString("so wide that the list is lower, with a bar below it");
     list.ResetContent();
-    for (int row = 0; row < 20; ++row)
-    {
-        list.AddString("row");
-    }
+    AddRows(list, 20);
     const std::function<void(std::function<void()>)> meanwhile[] = {
         [](auto) {},
         [&](auto act) { label.ActIn(WM_SIZE, act); },
