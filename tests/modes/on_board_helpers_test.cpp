@@ -5,7 +5,6 @@
 
 #include <cmath>
 
-
 namespace {
 
 using OnBoardHelpersTest = WindowTest;
@@ -108,6 +107,5 @@ TEST_F(OnBoardHelpersTest, WindowsAreKeptInsideTheHostsArea)
     }
     EXPECT_EQ(host.askedFor, 1);
 }
-
 
 } // namespace
