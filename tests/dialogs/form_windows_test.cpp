@@ -1,6 +1,7 @@
 #include "CustomDropListCombo.h"
 #include "CustomPropPage.h"
 #include "dialogs/dialog_for_tests.h"
+#include "support/OnBoard.h"
 
 namespace {
 
@@ -168,32 +169,33 @@ TEST_F(FormWindowsTest, AFormKeepsTheFocusOfItsControlForItsFrame)
     EXPECT_EQ(comeBack(), IDC_TEST_CHECK);
 }
 
-TEST_F(FormWindowsTest, TheTabsOfASheetAreAsHighAfterManyChangesAsAfterTheFirst)
+// Opened on either side of the mode switch.
+class SheetOpened : public InMode<CustomDialogTest>
+{};
+
+INSTANTIATE_TEST_SUITE_P(In, SheetOpened, testing::Values(STD, EFB));
+
+TEST_P(SheetOpened, HasTabsAsHighAfterManyChangesAsAfterTheFirst)
 {
-    for (const APPMODE opened : {STD, EFB})
+    CCustomPropPage page(IDD_TEST_PAGE_1);
+    CCustomPropSheet sheet("Sheet", nullptr, &Host());
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create(&Host(), WS_POPUP | WS_CAPTION | WS_VISIBLE));
+    CTabCtrl& tabs = *sheet.GetTabControl();
+    std::map<bool, int> heights;
+    for (const APPMODE mode : {GetParam(), ONBOARD, EFB, STD, ONBOARD, STD, EFB, FULLSCREEN, STD})
     {
-        SCOPED_TRACE(opened);
-        const ModeScope scope(opened);
-        CCustomPropPage page(IDD_TEST_PAGE_1);
-        CCustomPropSheet sheet("Sheet", nullptr, &Host());
-        sheet.AddPage(&page);
-        ASSERT_TRUE(sheet.Create(&Host(), WS_POPUP | WS_CAPTION | WS_VISIBLE));
-        CTabCtrl& tabs = *sheet.GetTabControl();
-        std::map<bool, int> heights;
-        for (const APPMODE mode : {opened, ONBOARD, EFB, STD, ONBOARD, STD, EFB, FULLSCREEN, STD})
-        {
-            SCOPED_TRACE(mode);
-            COnBoardUIGeneral::SetAppMode(mode);
-            CRect tab;
-            ASSERT_TRUE(tabs.GetItemRect(0, &tab));
-            const auto known = heights.try_emplace(mode != STD, tab.Height()).first;
-            EXPECT_EQ(tab.Height(), known->second);
-            CRect area = PlaceIn(sheet, tabs);
-            tabs.AdjustRect(FALSE, &area);
-            EXPECT_NEAR(PlaceIn(sheet, page).top, area.top, 1) << "below the tabs";
-        }
-        EXPECT_EQ(heights[true], int(heights[false] * 1.7) + 3);
+        SCOPED_TRACE(mode);
+        COnBoardUIGeneral::SetAppMode(mode);
+        CRect tab;
+        ASSERT_TRUE(tabs.GetItemRect(0, &tab));
+        const auto known = heights.try_emplace(mode != STD, tab.Height()).first;
+        EXPECT_EQ(tab.Height(), known->second);
+        CRect area = PlaceIn(sheet, tabs);
+        tabs.AdjustRect(FALSE, &area);
+        EXPECT_NEAR(PlaceIn(sheet, page).top, area.top, 1) << "below the tabs";
     }
+    EXPECT_EQ(heights[true], int(heights[false] * 1.7) + 3);
 }
 
 TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
@@ -267,25 +269,20 @@ TEST_F(FormWindowsTest, ASheetAndItsPagesAreScaledOnceHoweverTheyReachTheMode)
     }
 }
 
-TEST_F(FormWindowsTest, ASheetThatIsAChildHasNeitherBandNorFrame)
+TEST_P(SheetOpened, HasNeitherBandNorFrameAsAChild)
 {
-    for (const APPMODE opened : {STD, ONBOARD})
-    {
-        SCOPED_TRACE(opened);
-        const ModeScope scope(opened);
-        CCustomPropPage page(IDD_TEST_PAGE_1);
-        CCustomPropSheet sheet("Sheet", nullptr);
-        sheet.AddPage(&page);
-        ASSERT_TRUE(sheet.Create(&Host(), WS_CHILD | WS_VISIBLE | DS_CONTROL, 0));
-        COnBoardUIGeneral::SetAppMode(ONBOARD);
-        sheet.SendMessage(WM_NCACTIVATE, TRUE);
-        const Pixels shown = Settled(sheet);
-        EXPECT_EQ(ClientRectOf(sheet), CRect(CPoint(0, 0), WindowRectOf(sheet).Size()));
-        EXPECT_EQ(shown.At(shown.Width() / 2, 2), RGB(50, 50, 50));
-        const CPoint top = ClientPoint(sheet, CPoint(60, 6));
-        EXPECT_EQ(sheet.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(top.x, top.y)), HTCLIENT);
-        sheet.DestroyWindow();
-    }
+    CCustomPropPage page(IDD_TEST_PAGE_1);
+    CCustomPropSheet sheet("Sheet", nullptr);
+    sheet.AddPage(&page);
+    ASSERT_TRUE(sheet.Create(&Host(), WS_CHILD | WS_VISIBLE | DS_CONTROL, 0));
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    sheet.SendMessage(WM_NCACTIVATE, TRUE);
+    const Pixels shown = Settled(sheet);
+    EXPECT_EQ(ClientRectOf(sheet), CRect(CPoint(0, 0), WindowRectOf(sheet).Size()));
+    EXPECT_EQ(shown.At(shown.Width() / 2, 2), RGB(50, 50, 50));
+    const CPoint top = ClientPoint(sheet, CPoint(60, 6));
+    EXPECT_EQ(sheet.SendMessage(WM_NCHITTEST, 0, MAKELPARAM(top.x, top.y)), HTCLIENT);
+    sheet.DestroyWindow();
 }
 
 // The combos of a window, each as wide as a finger where the template leaves the room, and never
