@@ -51,11 +51,7 @@ TYPED_TEST(TwoOwnBars, FrameBandsAndCornerArePainted)
     }
     list.EnableWindow(FALSE);
     EXPECT_LT(Settled(list).Count(palette::Trough, list.Bar(SB_VERT).GetArea()), 1000);
-}
-
-TYPED_TEST(TwoOwnBars, AFrameThatChangesTogetherWithAPlatformsBarIsCalculated)
-{
-    auto& list = this->AddList();
+    // A frame that changes together with a platform's bar is calculated.
     const CRect before = ClientRectOf(list);
     list.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED);
     EXPECT_EQ(ClientRectOf(list), before);
