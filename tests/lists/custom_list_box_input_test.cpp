@@ -46,7 +46,7 @@ TEST_F(ListBoxOnBoard, WithoutABarTheRowsAreThePlatformsToScroll)
     EXPECT_EQ(heights.GetCaretIndex(), 59);
 }
 
-TEST_F(ListBoxOnBoard, KeysAndDragsMoveSelectionRowsAndBarTogether)
+TEST_F(ListBoxOnBoard, KeysMoveSelectionRowsAndBarTogether)
 {
     auto& list = AddList(200);
     list.SetFocus();
