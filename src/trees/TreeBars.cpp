@@ -75,6 +75,7 @@ void TreeBars::EnterOnBoard()
     {
         return;
     }
+    m_bordered.SetRectEmpty();
     m_shrunk = true;
     // The frame at once with what is scrolled now: each new size makes the platform count anew.
     MirrorOne(m_vertical);
@@ -112,10 +113,6 @@ void TreeBars::LeaveOnBoard()
         }
     }
     scroll::RecalculateFrame(Window(), false);
-    if (alive)
-    {
-        Window().RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
-    }
 }
 
 // The platform's tree is not told: it would show its bars again at once, and so on, dozens deep.
@@ -297,6 +294,7 @@ void TreeBars::Draw(bool force)
 // The border, and the corner between two bars.
 void TreeBars::DrawBorder()
 {
+    m_bordered.SetRectEmpty();
     if (!scroll::IsFrameSeen(Window()))
     {
         return;
@@ -304,6 +302,7 @@ void TreeBars::DrawBorder()
     CWindowDC dc(&Window());
     const CRect window = AreaOf(Window());
     const CRect client = scroll::ClientRectInWindow(Window());
+    m_bordered = client;
     if (m_vertical.shown && m_horizontal.shown)
     {
         dc.FillSolidRect(CRect(client.right, client.bottom, window.right, window.bottom),
@@ -344,6 +343,10 @@ bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
         return false;
     case WM_STYLECHANGED:
         return m_stripping;
+    case WM_NCPAINT:
+        // It comes along with every item that is inserted or deleted, for the client area alone.
+        return !scroll::TouchesFrame(Window(), HRGN(wParam)) &&
+               m_bordered == scroll::ClientRectInWindow(Window());
     case WM_NCLBUTTONDOWN:
     case WM_NCLBUTTONDBLCLK: // fast touches on an arrow
         if (wParam == HTVSCROLL || wParam == HTHSCROLL)
@@ -405,7 +408,8 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
         }
         m_shrunk = m_shrunk || narrower;
     }
-    if (message == TVM_INSERTITEMA || message == TVM_INSERTITEMW || message == TVM_DELETEITEM)
+    if (message == TVM_INSERTITEMA || message == TVM_INSERTITEMW || message == TVM_DELETEITEM ||
+        message == TVM_EXPAND || GivenText(message, lParam) != nullptr)
     {
         const CRect any(0, 0, 1, 1); // the item may be out of sight, and then nothing is painted
         Window().InvalidateRect(&any, FALSE);

@@ -65,6 +65,8 @@ private:
     Bar* m_held = nullptr; // the bar that is pressed
     CFauxScrollBar::ePRESSED m_part = CFauxScrollBar::PRESSED_NONE;
     CPoint m_last; // of the pointer, on the screen
+    // Around which the border is painted: the client rectangle, in the window.
+    CRect m_bordered{0, 0, 0, 0};
 
     CWnd& Window() const { return m_owner.Window(); }
     DWORD Strip();

@@ -167,7 +167,7 @@ void TreeLook::Follow()
         if (alive)
         {
             m_bold.DeleteObject();
-            window.Invalidate();
+            window.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
             FollowLabelEdit(edited.Get());
         }
     };

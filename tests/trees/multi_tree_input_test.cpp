@@ -424,7 +424,8 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
     const auto onBar = [&](int y) { return WindowPoint(tree, CPoint(200 - Band / 2, y)); };
     {
         const ModeScope mode(ONBOARD);
-        Repaint(tree);
+        tree.Invalidate(); // the rows, and the frame goes with them
+        EXPECT_TRUE(ShowsWhatAPaintWould(tree));
         EXPECT_EQ(ClientRectOf(tree).Size(), CSize(200 - Band, 200 - Band));
         Click(onBar(200 - Band - 10));
         EXPECT_EQ(top(), m_items[1]);
@@ -457,6 +458,8 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
         PumpAll();
         tree.EnsureVisible(m_items[0]);
         EXPECT_GT(tree.GetScrollPos(SB_HORZ), 0);
+        EXPECT_TRUE(ShowsWhatAPaintWould(tree));
+        tree.SetItemText(m_items.back(), std::string(90, 'a').c_str()); // out of sight
         EXPECT_TRUE(ShowsWhatAPaintWould(tree));
     }
     Repaint(tree);

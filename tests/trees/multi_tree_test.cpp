@@ -431,6 +431,12 @@ TEST_F(MultiTreeTest, BarsGoWithWhatTheyAreFor)
             const auto items = AddItems(tree, "abcdefgh");
             PumpAll();
             EXPECT_EQ(bands(tree), Bands(true, false));
+            ASSERT_TRUE(tree.ModifyStyle(0, WS_BORDER, SWP_FRAMECHANGED));
+            PumpAll();
+            CWindowDC(&tree).SetPixel(CPoint(0, 50), RGB(1, 2, 3));
+            tree.InsertItem("another");
+            PumpAll();
+            EXPECT_EQ(CWindowDC(&tree).GetPixel(CPoint(0, 50)), RGB(1, 2, 3)) << "not the border";
             const HTREEITEM last = tree.InsertItem(wide.c_str());
             PumpAll();
             EXPECT_EQ(bands(tree), Bands(true, true));
