@@ -6,8 +6,9 @@
 
 namespace trees {
 
-TreeItems::TreeItems(TreeOwner& owner)
+TreeItems::TreeItems(TreeOwner& owner, std::function<void(HTREEITEM)> remove)
     : m_owner(owner)
+    , m_remove(std::move(remove))
 {}
 
 TreeItems::~TreeItems() = default;

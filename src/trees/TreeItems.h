@@ -3,6 +3,7 @@
 #include "TreeItemState.h"
 #include "trees/TreeOwner.h"
 
+#include <functional>
 #include <memory>
 #include <unordered_set>
 #include <vector>
@@ -20,7 +21,8 @@ using WatchList = std::vector<WatchedItems*>;
 class TreeItems
 {
 public:
-    explicit TreeItems(TreeOwner& owner);
+    // What is deleted after it had to wait goes by remove, as if it were asked for then.
+    TreeItems(TreeOwner& owner, std::function<void(HTREEITEM)> remove);
     ~TreeItems();
     TreeItems(const TreeItems&) = delete;
     TreeItems& operator=(const TreeItems&) = delete;
@@ -87,6 +89,7 @@ public:
 
 private:
     TreeOwner& m_owner;
+    const std::function<void(HTREEITEM)> m_remove;
     bool m_known = false;            // m_selected is what the item states say
     bool m_hostRedraw = true;        // the host's WM_SETREDRAW
     HTREEITEM m_caret = nullptr;     // when the knowledge was last brought into step

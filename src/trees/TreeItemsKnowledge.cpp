@@ -256,7 +256,7 @@ void TreeItems::DeletePostponed()
     {
         if ((*postponed)[index] != nullptr)
         {
-            Native(TVM_DELETEITEM, 0, LPARAM((*postponed)[index]));
+            m_remove((*postponed)[index]);
         }
     }
 }

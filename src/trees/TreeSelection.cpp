@@ -28,7 +28,7 @@ bool CaretMovesDeselect()
 
 TreeSelection::TreeSelection(TreeOwner& owner)
     : m_owner(owner)
-    , m_items(owner)
+    , m_items(owner, [this](HTREEITEM item) { Native(TVM_DELETEITEM, 0, LPARAM(item)); })
     , m_look(std::make_unique<TreeLook>(m_items, owner))
     , m_anchor(m_items)
 {}

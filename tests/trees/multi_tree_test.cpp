@@ -283,6 +283,14 @@ TEST_F(MultiTreeTest, ADeletedCaretLeavesWhatElseIsSelected)
         EXPECT_EQ(StatesSay(tree, tree.GetRootItem()), SelectedTexts(tree));
         EXPECT_TRUE(told == nullptr || tree.IsSelected(told)) << "the parent knows";
     }
+    // Inside a notification of the platform's, for the end of which it waits.
+    auto& other = AddTree();
+    AddItems(other, "x", e);
+    other.SelectItem(d);
+    other.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
+    Host().OnCode(TVN_ITEMEXPANDED, [&](ToldMessage&) { other.DeleteItem(d); });
+    other.Expand(e, TVE_EXPAND);
+    EXPECT_EQ(Shown(other), "f:e");
 }
 
 TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
