@@ -144,7 +144,8 @@ constexpr Act<CustomToolbar> ToolActs[] = {
 template <class Tree> constexpr Act<Tree> TreeActs[] = {
     [](auto& tree, int row, const char*) { tree.SetMultiSelect(row % 2 == 0); },
     [](auto& tree, int row, const char*) {
-        tree.ModifyStyle(TVS_EDITLABELS, row % 2 != 0 ? TVS_EDITLABELS : 0);
+        constexpr DWORD Styles[] = {TVS_EDITLABELS, TVS_SINGLEEXPAND};
+        tree.ModifyStyle(Styles[row & 1], row & 2 ? Styles[row & 1] : 0);
     },
 };
 // Not constexpr, which only one of the compilers takes.
@@ -175,19 +176,18 @@ void UseReport(CCustomListCtrl& list, Arguments& arguments)
 
 std::vector<Subject> MakeSubjects()
 {
-    const std::set<std::string> loops = {
-        "combo", // on its list's bar, in the standard mode
-        "list of a combo",
-        "report list",
-        "report of rows elsewhere",
-        "tree",
-        "tree of one selection",
-        "tree view",
-        "form view",
-        "property sheet",
-        "property page",
-        "dialog",
-        "message box"};
+    const std::set<std::string> loops = {"combo", // on its list's bar, in the standard mode
+                                         "list of a combo",
+                                         "report list",
+                                         "report of rows elsewhere",
+                                         "tree",
+                                         "tree of one selection",
+                                         "tree view",
+                                         "form view",
+                                         "property sheet",
+                                         "property page",
+                                         "dialog",
+                                         "message box"};
     std::vector<Control> controls = Catalog::All();
     controls.push_back(
         {"list box of values", Catalog::MadeList<ListOfValues>(LBS_OWNERDRAWVARIABLE | LBS_SORT |

@@ -73,8 +73,10 @@ void QueuePress(CPoint point, CPoint to, bool right)
 // By itself a control is silent about some things.
 void HaveItSpeak(CWnd& control)
 {
-    constexpr std::pair<const char*, DWORD> styles[] = {
-        {"Button", BS_NOTIFY}, {"Static", SS_NOTIFY}, {WC_HEADER, HDS_DRAGDROP}};
+    constexpr std::pair<const char*, DWORD> styles[] = {{"Button", BS_NOTIFY},
+                                                        {"Static", SS_NOTIFY},
+                                                        {WC_HEADER, HDS_DRAGDROP},
+                                                        {WC_TREEVIEW, TVS_SINGLEEXPAND}};
     for (const auto& [windowClass, style] : styles)
     {
         control.ModifyStyle(0, IsOfClass(control, windowClass) ? style : 0);
@@ -141,7 +143,8 @@ private:
     void Input()
     {
         m_play.Paint(m_window);
-        const CPoint first(m_place.left + 20, m_place.top + 32);
+        const bool tree = IsOfClass(m_window, WC_TREEVIEW); // an item's text there
+        const CPoint first = m_place.TopLeft() + (tree ? CPoint(60, 30) : CPoint(20, 32));
         CPoint heading(20, 8);
         ::ClientToScreen(m_window, &heading);
         const CPoint divider = heading + CPoint(70, 0); // the end of a heading, where there is one
