@@ -167,8 +167,11 @@ void TreeLook::Follow()
         if (alive)
         {
             m_bold.DeleteObject();
-            window.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
             FollowLabelEdit(edited.Get());
+        }
+        if (alive) // last: an edit that moves has the frame painted at once
+        {
+            window.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
         }
     };
     FollowMode(

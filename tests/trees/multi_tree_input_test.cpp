@@ -484,7 +484,9 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheM
         for (const size_t item : {size_t(1), size_t(tree.GetVisibleCount()) - 1})
         {
             ASSERT_NE(tree.EditLabel(m_items[item]), nullptr);
-            SetMode(other, tree);
+            COnBoardUIGeneral::SetAppMode(other);
+            tree.Invalidate();
+            EXPECT_TRUE(ShowsWhatAPaintWould(tree)) << item;
             const CWnd* const edit = tree.GetEditControl();
             EXPECT_TRUE(other == STD || (edit != nullptr) == (item == 1)) << item;
             const CRect label = TextRectOf(tree, m_items[item]);
