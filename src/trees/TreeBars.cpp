@@ -306,7 +306,7 @@ void TreeBars::DrawBorder()
     if (m_vertical.shown && m_horizontal.shown)
     {
         dc.FillSolidRect(CRect(client.right, client.bottom, window.right, window.bottom),
-                         palette::Trough);
+                         Window().IsWindowEnabled() ? palette::Trough : palette::TroughDisabled);
     }
     const int bands[] = {client.left, client.top,
                          window.right - client.right - (m_vertical.shown ? metrics::ScrollBand : 0),
@@ -454,6 +454,9 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
         m_vertical.painter.Invalidate();
         m_horizontal.painter.Invalidate();
         Draw();
+        break;
+    case WM_ENABLE:
+        m_bordered.SetRectEmpty(); // the corner has another colour
         break;
     case WM_SIZE:
     case WM_VSCROLL:

@@ -72,7 +72,8 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     }
     if (alive && message == WM_ENABLE && m_onBoard)
     {
-        m_owner.Window().Invalidate(); // every colour is another one
+        // Every colour is another one.
+        m_owner.Window().RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_ERASE);
     }
     if (!alive || (message != WM_SETFONT && message != TVM_SETIMAGELIST))
     {

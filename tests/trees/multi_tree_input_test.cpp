@@ -461,6 +461,8 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
         EXPECT_TRUE(ShowsWhatAPaintWould(tree));
         tree.SetItemText(m_items.back(), std::string(90, 'a').c_str()); // out of sight
         EXPECT_TRUE(ShowsWhatAPaintWould(tree));
+        tree.EnableWindow(FALSE);
+        EXPECT_EQ(Settled(tree).At(195, 195), RGB(90, 90, 90)) << "the corner as the bars";
     }
     Repaint(tree);
     EXPECT_EQ(tree.GetStyle() & (WS_VSCROLL | WS_HSCROLL), DWORD(WS_VSCROLL | WS_HSCROLL));
