@@ -57,14 +57,16 @@ private:
     void DrawBars() override { m_list.DrawBars(); }
     void DrawStep() override { m_list.DrawScrollBars(); }
     void DrawFrame() override { m_list.DrawNC(); }
-    // What is under the pointer while its button is down, and a thumb wherever the pointer is.
+    // What is under the pointer while its button is down for it, and a thumb wherever the pointer
+    // is. A press somewhere else does not tell that the pointer has left the bar.
     Part DrawnPart(int axis) override
     {
         if (IsDragging())
         {
             return LastHit() == scroll::HitCodeOf(axis) ? HeldPart() : CFauxScrollBar::PRESSED_NONE;
         }
-        return Held() || scroll::LeftButtonDown() ? PartOf(axis) : CFauxScrollBar::PRESSED_NONE;
+        const bool pressed = HeldPart() != CFauxScrollBar::PRESSED_NONE && scroll::LeftButtonDown();
+        return Held() || pressed ? PartOf(axis) : CFauxScrollBar::PRESSED_NONE;
     }
 
     bool& Held() override { return m_list.m_pressed; }
