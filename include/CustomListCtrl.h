@@ -386,6 +386,7 @@ private:
     bool IsRow(const VARIANT& child, int& row) const;
     bool RowPlace(int row, CRect& place) const;
     int RowAt(const CPoint& point) const;
+    RowSpan RowsDrawn(int rowHeight, int bottom, int items) const;
     void HintOfRows();
     void DrawRow(CDC& dc, int row, const CRect& rowRect, const std::vector<CRect>& cells,
                  const CRect& clip);

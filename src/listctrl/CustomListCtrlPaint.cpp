@@ -34,28 +34,45 @@ constexpr UINT CellText = DT_END_ELLIPSIS | DT_VCENTER;
 
 } // namespace
 
+// The rows that are drawn from the first in sight down to a lower edge.
+CCustomListCtrl::RowSpan CCustomListCtrl::RowsDrawn(int rowHeight, int bottom, int items) const
+{
+    const auto offset = int(m_drawOffset.y);
+    return {listctrl::FirstDrawnRow(offset, rowHeight),
+            listctrl::EndOfDrawnRows(offset, rowHeight, bottom, items)};
+}
+
 // Before the paint begins: the owner may change rows, places and mode, and what is to be painted
-// for that is painted by this. One that has it painted at once is not told again.
+// for that is painted by this. Of the rows that this brings into sight it is told as well, but not
+// without an end; one that has it painted at once is not told again.
 void CCustomListCtrl::HintOfRows()
 {
-    CRect first;
-    if (m_bars->hinting || (GetStyle() & LVS_OWNERDATA) == 0 || !FirstRowRect(first) ||
-        first.Height() <= 0)
+    if (m_bars->hinting || (GetStyle() & LVS_OWNERDATA) == 0)
     {
         return;
     }
-    CRect client;
-    GetClientRect(&client);
-    const auto offset = int(m_drawOffset.y);
     const WindowAlive alive(*this);
+    RowSpan told = {0, 0};
+    CRect first;
+    CRect client;
     m_bars->hinting = true;
-    TellOfRows(GetSafeHwnd(), listctrl::FirstDrawnRow(offset, first.Height()),
-               listctrl::EndOfDrawnRows(offset, first.Height(), int(client.bottom),
-                                        int(Ask(LVM_GETITEMCOUNT))));
-    if (alive)
+    for (int turn = 0; turn < 4 && InOnBoard() && FirstRowRect(first) && first.Height() > 0; ++turn)
     {
-        m_bars->hinting = false;
+        GetClientRect(&client);
+        const RowSpan rows =
+            RowsDrawn(first.Height(), int(client.bottom), int(Ask(LVM_GETITEMCOUNT)));
+        if (rows.first >= told.first && rows.end <= told.end)
+        {
+            break;
+        }
+        told = rows;
+        TellOfRows(GetSafeHwnd(), rows.first, rows.end);
+        if (!alive)
+        {
+            return;
+        }
     }
+    m_bars->hinting = false;
 }
 
 void CCustomListCtrl::OnPaint()
@@ -184,8 +201,7 @@ void CCustomListCtrl::DrawCells(CDC& dc, int items, int columns, bool fullRowSel
     const auto topOf = [&](int row) {
         return scroll::Saturated(LONGLONG{first.top} + LONGLONG{row} * height + m_drawOffset.y);
     };
-    RowSpan rows = {listctrl::FirstDrawnRow(int(m_drawOffset.y), height),
-                    listctrl::EndOfDrawnRows(int(m_drawOffset.y), height, int(rect.bottom), items)};
+    RowSpan rows = RowsDrawn(height, int(rect.bottom), items);
     const WindowAlive alive(*this);
     while (rows.first < rows.end && topOf(rows.first) + height <= clip.top)
     {

@@ -299,6 +299,17 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     EXPECT_EQ(hints, 1);
     EXPECT_FALSE(list.GetUpdateRect(nullptr)) << "and again and again";
     Host().hook = hook;
+    // Nor are rows asked for that it was not told of, wherever it scrolls to in its answer.
+    list.SetItemCount(count = 1000);
+    PumpAll();
+    Host().hook = [&](ToldMessage& told) {
+        hook(told);
+        told.code == UINT(LVN_ODCACHEHINT) ? list.EnsureVisible(500, FALSE) : FALSE;
+    };
+    Repaint(list);
+    EXPECT_TRUE(asked.count(500));
+    EXPECT_EQ(hint.first, list.TopRow());
+    Host().hook = hook;
     // Its owner may end the list while it is painted.
     Host().OnCode(LVN_GETDISPINFOA, [&](ToldMessage&) { list.DestroyWindow(); });
     Repaint(list);
