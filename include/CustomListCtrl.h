@@ -299,7 +299,7 @@ private:
     CRect m_fittedTo;          // client width and place of that column when it was fitted
     std::vector<ColumnWidth> m_columnWidths;
     std::optional<View> m_view;
-    std::optional<RowSpan> m_paintedRows;           // while they are being painted
+    std::optional<RowSpan> m_paintedRows;           // while no others are asked for their states
     int m_focusRow = -1;                            // on-board, as last drawn
     std::optional<PressNote> m_pressNote;           // until the press is taken back
     std::optional<NMITEMACTIVATE> m_heldActivation; // until the selection is final
@@ -357,6 +357,8 @@ private:
     void FollowLabelEdit();
     void ShiftPixels(int dy);
     void InvalidateRows(int first, int last);
+    void InvalidateEach(const std::set<int>& rows);
+    std::set<int> SelectedInSight();
     void FollowChange(int row, UINT states);
     void InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM lParam, LRESULT result);
     int RowWithFocus() const;

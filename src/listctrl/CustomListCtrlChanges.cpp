@@ -34,6 +34,38 @@ void CCustomListCtrl::InvalidateRows(int first, int last)
     }
 }
 
+void CCustomListCtrl::InvalidateEach(const std::set<int>& rows)
+{
+    for (const int row : rows)
+    {
+        if (row >= 0)
+        {
+            InvalidateRows(row, row);
+        }
+    }
+}
+
+// The selected ones among the rows that are drawn.
+std::set<int> CCustomListCtrl::SelectedInSight()
+{
+    std::set<int> rows;
+    CRect first;
+    CRect client;
+    if (FirstRowRect(first) && first.Height() > 0)
+    {
+        const WindowAlive alive(*this); // an owner may be asked for the states of its rows
+        GetClientRect(&client);
+        m_paintedRows =
+            RowsDrawn(first.Height(), int(client.bottom), int(Ask(LVM_GETITEMCOUNT)));
+        GetSelectedRows(rows);
+        if (alive)
+        {
+            m_paintedRows.reset();
+        }
+    }
+    return rows;
+}
+
 // The row that shows the focus: none without it.
 int CCustomListCtrl::RowWithFocus() const
 {
@@ -48,13 +80,7 @@ void CCustomListCtrl::FollowFocus()
     {
         return;
     }
-    for (const int changed : {m_focusRow, row})
-    {
-        if (changed >= 0)
-        {
-            InvalidateRows(changed, changed);
-        }
-    }
+    InvalidateEach({m_focusRow, row});
     m_focusRow = row;
 }
 

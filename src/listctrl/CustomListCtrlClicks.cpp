@@ -121,26 +121,25 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
         return;
     }
     const WindowAlive alive(*this);
-    // What the platform invalidates when it deselects a row is not all of its bar.
-    Invalidate(FALSE);
-    if (m_drawOffset == CPoint(0, 0))
-    {
-        Default();
-        return;
-    }
-    const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
-    if (alive && !hit.scrolled)
-    {
-        Default();
-    }
-    if (!alive || !hit.scrolled)
-    {
-        return;
-    }
+    const bool shifted = m_drawOffset != CPoint(0, 0);
+    const PressHit hit = !shifted || TakeFocusForPress() ? HitBy(point) : PressHit();
     // What the parent finds selected when it shows a menu: with a key what was, as the platform
     // does.
-    const bool kept = (flags & (MK_CONTROL | MK_SHIFT)) != 0 || IsSelected(hit.drawn);
-    if (!alive)
+    const bool kept = alive && hit.drawn >= 0 &&
+                      ((flags & (MK_CONTROL | MK_SHIFT)) != 0 || IsSelected(hit.drawn));
+    if (alive && !hit.scrolled)
+    {
+        // Before it deselects them the platform has not all of their bars painted, and it waits for
+        // the button then.
+        const std::set<int> deselected = kept ? std::set<int>() : SelectedInSight();
+        if (alive)
+        {
+            InvalidateEach(deselected);
+            InvalidateEach({hit.drawn, m_focusRow});
+            Default();
+        }
+    }
+    if (!alive || !hit.scrolled)
     {
         return;
     }
@@ -159,10 +158,6 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
     if (alive)
     {
         LetPlatformPress(WM_RBUTTONDOWN, hit, point);
-    }
-    if (alive)
-    {
-        Invalidate();
     }
 }
 

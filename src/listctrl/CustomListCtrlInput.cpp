@@ -5,6 +5,9 @@
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 constexpr int WheelThreshold = 100; // beyond it a turn scrolls one row
@@ -75,15 +78,24 @@ void CCustomListCtrl::ReleaseButton()
     m_bars->Forget();
     m_bars->CancelLeave();
     const WindowAlive alive(*this);
-    if (InOnBoard() && Ask(LVM_GETSELECTEDCOUNT) > 1)
-    {
-        Invalidate(FALSE); // the platform may deselect all but the row that was pressed
-    }
+    // The platform may deselect all but the row that was pressed.
+    const bool several = InOnBoard() && Ask(LVM_GETSELECTEDCOUNT) > 1;
+    const std::set<int> selected = several && alive ? SelectedInSight() : std::set<int>();
     if (!alive)
     {
         return;
     }
     Default();
+    if (alive && InOnBoard() && several)
+    {
+        std::set<int> changed;
+        std::ranges::set_symmetric_difference(selected, SelectedInSight(),
+                                              std::inserter(changed, changed.end()));
+        if (alive)
+        {
+            InvalidateEach(changed);
+        }
+    }
     if (alive && InOnBoard())
     {
         KillTimer(m_timerInitialWaitID);

@@ -140,10 +140,13 @@ bool CCustomListCtrl::MoveByPage(UINT key, UINT flags)
     {
         const bool extend = IsKeyDown(VK_SHIFT);
         const int focus = NextRow(-1, LVNI_FOCUSED);
-        const int target =
-            listctrl::PageTarget(key == VK_NEXT, focus < 0 ? TopRow() : focus, TopRow(),
-                                 RowsInSight(), int(Ask(LVM_GETITEMCOUNT)));
-        if (IsKeyDown(VK_CONTROL) && !extend)
+        const int target = listctrl::PageTarget(key == VK_NEXT, focus, TopRow(), RowsInSight(),
+                                                int(Ask(LVM_GETITEMCOUNT)));
+        if (target == focus)
+        {
+            return true; // at the end: what is selected stays so
+        }
+        if (IsKeyDown(VK_CONTROL) && !extend && (GetStyle() & LVS_SINGLESEL) == 0)
         {
             SetItemState(target, LVIS_FOCUSED, LVIS_FOCUSED);
         }

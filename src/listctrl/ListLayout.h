@@ -93,17 +93,14 @@ inline int StandardWidth(int width)
     return OnBoardWidth(scaled) < width ? scaled + 1 : scaled;
 }
 
-// Where a page key takes the focus: to the edge of what is in sight, from there on by a page.
+// Where a page key takes the focus: to the edge of what is in sight, also from a row out of sight,
+// and from there on by a page.
 constexpr int PageTarget(bool down, int focus, int top, int rowsInSight, int items)
 {
-    const int page = std::max(1, rowsInSight - 1);
-    const int last = std::min<int>(items - 1, top + std::max(1, rowsInSight) - 1);
-    const bool inSight = focus >= top && focus <= last;
-    int target = down ? focus + page : focus - page;
-    if (inSight && focus != (down ? last : top))
-    {
-        target = down ? last : top;
-    }
+    const int rows = std::max(1, rowsInSight);
+    const int page = std::max(1, rows - 1);
+    const int edge = down ? std::min<int>(items - 1, top + rows - 1) : top;
+    const int target = focus != edge ? edge : down ? focus + page : focus - page;
     return std::clamp(target, 0, std::max(0, items - 1));
 }
 

@@ -13,6 +13,7 @@ public:
     std::vector<std::tuple<int, int, LPARAM>> clicked;
     std::function<void(int row)> onRightClick;
     std::function<void()> onActivation;
+    CRect painted; // all that was, since it was emptied
 
     void SelectOnly(const std::set<int>& rows, int from = 0)
     {
@@ -24,6 +25,15 @@ public:
     }
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        CRect due;
+        if (message == WM_PAINT && GetUpdateRect(due))
+        {
+            painted.UnionRect(painted, due);
+        }
+        return ListForTests::WindowProc(message, wParam, lParam);
+    }
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override
     {
         const BOOL taken = ListForTests::OnChildNotify(message, wParam, lParam, result);
@@ -292,6 +302,28 @@ TEST_F(ListCtrlOnBoard, WhileARightButtonIsHeldTheRowsShowWhatTheyWillHave)
     list.InsertItem(0, "new");
     Release();
     EXPECT_EQ(list.Selected(), (std::set{26, 28}));
+}
+
+TEST_F(ListCtrlOnBoard, AButtonHasNoOthersPaintedThanTheRowsThatItChanges)
+{
+    auto& list = AddList<ListThatNotes>(100);
+    list.onRightClick = [](int) {};
+    list.SetFocus();
+    // Scrolled, the platform brings the row of a right press into its own sight first.
+    for (const auto& [top, right] : {std::pair(0, false), {50, false}, {0, true}})
+    {
+        list.PerformVScroll(top, list.TopRow());
+        list.SelectOnly({2, 4}, top);
+        MoveTo(ClientPoint(list, list.RowPoint(top + (right ? 6 : 4), right ? 60 : 20 + top)));
+        right ? PumpAll() : Press();
+        list.painted.SetRectEmpty();
+        right ? QueueButton(true, true) : void();
+        QueueButton(false, right);
+        PumpAll();
+        EXPECT_EQ(list.Selected(), std::set{top + (right ? 6 : 4)});
+        EXPECT_LE(list.painted.Height(), 5 * list.RowHeight()) << top << right;
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << top << right;
+    }
 }
 
 TEST_F(ListCtrlOnBoard, WithoutFullRowsTheFirstColumnIsHitWhereItIsDrawn)

@@ -184,27 +184,62 @@ TEST_F(ListCtrlOnBoard, KeysMoveTheFocusAndTheFocusedRowIsInSight)
     }
 }
 
-TEST_F(ListCtrlOnBoard, ShiftAndPagesSelectRanges)
+TEST_F(ListCtrlOnBoard, PageKeysDoWhatThePlatformsDo)
 {
-    auto& list = AddList(300);
-    list.SetFocus();
-    list.SetItemState(0, 3, 3);
-    list.SetSelectionMark(0);
-    TypeKey(VK_NEXT, VK_SHIFT);
-    const int page = list.Focused();
-    EXPECT_GT(page, 5);
-    EXPECT_EQ(int(list.GetSelectedCount()), page + 1);
-    TypeKey(VK_NEXT, VK_SHIFT);
-    EXPECT_EQ(int(list.GetSelectedCount()), list.Focused() + 1);
-    TypeKey(VK_PRIOR, VK_SHIFT);
-    TypeKey(VK_PRIOR, VK_SHIFT);
-    EXPECT_EQ(list.Selected(), std::set<int>{0});
-    Host().Forget();
-    TypeKey(VK_NEXT, VK_CONTROL);
-    EXPECT_EQ(list.Selected(), std::set<int>{0}) << "with Ctrl only the focus moves";
-    EXPECT_EQ(list.Focused(), page);
-    // The parent hears of each key once, that of Ctrl included.
-    EXPECT_THAT(Host().CodesFrom(FirstId), testing::Contains(UINT(LVN_KEYDOWN)).Times(2));
+    // The selected rows, the one with the focus first, and the row at the top.
+    const std::pair<std::vector<int>, int> states[] = {
+        {{0}, 0}, {{0, 2}, 0},    {{59, 57}, 40}, {{3}, 30},
+        {{}, 30}, {{50, 51}, 10}, {{20, 22}, 20}, {{25}, 20}};
+    for (const DWORD style : {0, LVS_SINGLESEL})
+    {
+        auto& list = AddList(60, 1, ReportStyle | style);
+        auto& plain = Add<CListCtrl>(CRect(430, 20, 760, 420), ReportStyle | style);
+        plain.InsertColumn(0, "", LVCFMT_LEFT, 100);
+        AddRows(plain, 60);
+        const int rows = (ClientRectOf(list).Height() - list.HeaderRect().bottom) / list.RowHeight();
+        const int more = (rows - plain.GetCountPerPage()) * list.RowHeight();
+        plain.SetWindowPos(nullptr, 0, 0, 330, 400 + more, SWP_NOMOVE | SWP_NOZORDER);
+        ASSERT_EQ(plain.GetCountPerPage(), rows);
+        for (const auto& [selected, top] : states)
+        {
+            for (const UINT held : {0, VK_CONTROL, VK_SHIFT})
+            {
+                for (const UINT key : {VK_PRIOR, VK_NEXT})
+                {
+                    std::vector<std::string> ends;
+                    for (CListCtrl* const each : {static_cast<CListCtrl*>(&list), &plain})
+                    {
+                        const int focus = selected.empty() ? -1 : selected.front();
+                        each->SetFocus();
+                        each->SetItemState(-1, 0, 3);
+                        for (const int row : selected)
+                        {
+                            each->SetItemState(row, row == focus ? 3 : 2, 3);
+                        }
+                        each->SetSelectionMark(focus);
+                        each->EnsureVisible(59, FALSE);
+                        each->EnsureVisible(top, FALSE);
+                        Host().Forget();
+                        TypeKey(key, held);
+                        TypeKey(key, held);
+                        const auto told = Host().CodesFrom(UINT(each->GetDlgCtrlID()));
+                        std::string& end = ends.emplace_back();
+                        end += std::to_string(std::ranges::count(told, UINT(LVN_KEYDOWN)));
+                        end += " keys, focus " + std::to_string(each->GetNextItem(-1, LVNI_FOCUSED));
+                        for (int row = 0; row < 60; ++row)
+                        {
+                            end += each->GetItemState(row, LVIS_SELECTED) != 0 ? '+' : '.';
+                        }
+                    }
+                    EXPECT_EQ(ends[0], ends[1])
+                        << style << ' ' << testing::PrintToString(selected) << top << ' ' << held
+                        << ' ' << key;
+                }
+            }
+        }
+        Remove(plain);
+        Remove(list);
+    }
 }
 
 TEST_F(ListCtrlOnBoard, AKeyThatLeavesTheModeLeavesTheRowsWhereTheyWere)
