@@ -360,7 +360,8 @@ void CCustomListCtrl::ShiftPixels(int dy)
         return;
     }
     if (height <= 0 || area.Height() <= 0 || dy >= area.Height() || -dy >= area.Height() ||
-        m_header.IsHotTracking() || !::IsWindowVisible(GetSafeHwnd()))
+        m_header.IsHotTracking() || !::IsWindowVisible(GetSafeHwnd()) ||
+        Ask(LVM_GETEDITCONTROL) != 0) // its pixels would move along
     {
         Invalidate(FALSE);
         return;

@@ -67,7 +67,9 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
         EXPECT_TRUE(PlaceIn(list, *list.GetEditControl()).PtInRect(list.RowPoint(row))) << row;
         list.GetEditControl()->SetWindowText("scrolled");
         list.ExpectInStep("edited");
-        list.SetFocus();
+        PumpAll();
+        list.PerformVScroll(SB_LINEUP);
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << row;
         EXPECT_EQ(list.GetItemText(row, 0), "scrolled");
     }
     list.PerformVScroll(SB_TOP);
