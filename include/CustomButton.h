@@ -111,6 +111,7 @@ protected:
     afx_msg LRESULT OnBMGetCheck(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnBMGetState(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAct(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
     // Whether the mode is on-board, the first question of every handler; nothing when the button

@@ -136,8 +136,8 @@ public:
     HRESULT accHitTest(long left, long top, VARIANT* child) override;
     // @}
 
-    // A double click on a row, in a list with LBS_NOTIFY: selects it at once and posts the parent
-    // LBN_DBLCLK, which may open a dialog.
+    // A double click on a row, in a list with LBS_NOTIFY: selects it at once and, by a posted
+    // message, tells the parent LBN_DBLCLK, which may open a dialog.
     HRESULT accDoDefaultAction(VARIANT child) override;
 
 protected:
@@ -231,6 +231,7 @@ protected:
     afx_msg LRESULT OnSelectString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetHorizontalExtent(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetHorizontalExtent(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAct(WPARAM row, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 public:

@@ -184,8 +184,7 @@ protected:
     afx_msg void OnTimer(UINT_PTR id);
     // Takes the header that exists by now.
     afx_msg LRESULT OnSubclassCustomHeader(WPARAM wParam, LPARAM lParam);
-    // Activates the row with the focus for an assistive program.
-    afx_msg LRESULT OnActivateRow(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnAct(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnTakeBackPress(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnInsertColumn(WPARAM wParam, LPARAM lParam);

@@ -76,6 +76,7 @@ protected:
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg LRESULT OnAct(WPARAM heading, LPARAM lParam);
     afx_msg LRESULT OnSetHotDivider(WPARAM wParam, LPARAM lParam);
     // The list follows at once.
     afx_msg LRESULT OnSetOrderArray(WPARAM wParam, LPARAM lParam);
@@ -115,6 +116,7 @@ private:
     bool ItemRect(int item, CRect& rect) const;
     int ItemAt(CPoint point) const;
     bool HeadingPlace(const VARIANT& child, CRect& place) const;
+    bool Clicks(const CRect& heading) const;
     bool IsFixed(int item) const;
     int DividerAt(int x) const;
     LRESULT DefaultAt(UINT message, UINT flags, CPoint point);

@@ -67,6 +67,7 @@ protected:
     // @}
     afx_msg void OnPaint();
     afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
+    afx_msg LRESULT OnAct(WPARAM button, LPARAM lParam);
     afx_msg UINT OnGetDlgCode();
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg void OnSetFocus(CWnd* old);
@@ -82,7 +83,6 @@ private:
     void StepFocus(int step);
     void FocusButton(int button);
     void InvalidateFocus();
-    void Press(int button);
 
     CSize m_enlarged; // what the buttons were made for a finger, pixels; 0 where they were not
     CSize m_platformButton; // what they were before that

@@ -91,9 +91,24 @@ inline HWND LabelBefore(HWND control)
 // themselves: what comes of it may open a dialog, and the program that asks would wait for its end.
 constexpr UINT ActMessage = 0x069C;
 
+// The user could not do it where the window is out of reach.
 inline HRESULT PostAct(CWnd& window, int row = -1)
 {
+    if (IsOutOfReach(window.GetSafeHwnd()))
+    {
+        return DISP_E_MEMBERNOTFOUND;
+    }
     return window.PostMessage(ActMessage, WPARAM(row)) ? S_OK : E_FAIL;
+}
+
+// Does it when it comes, and the user still could: not behind a dialog that has opened meanwhile.
+template <class Act> LRESULT DoAct(const CWnd& window, Act act)
+{
+    if (!IsOutOfReach(window.GetSafeHwnd()))
+    {
+        act();
+    }
+    return 0;
 }
 
 // The default action of what is checked: by the check that follows.

@@ -42,15 +42,17 @@ inline HRESULT NavigateStrip(long direction, const VARIANT& start, int count, VA
     return Navigate(step, start, count, end);
 }
 
-// A click in the middle of a part, posted: it may open a dialog, and the program that asks would
-// wait for its end.
-inline HRESULT PostClick(CWnd& window, const CRect& place)
+// A click in the middle of a part, as the user's.
+inline void Click(CWnd& window, const CRect& place)
 {
+    const WindowAlive alive(window);
     const CPoint middle = place.CenterPoint();
     const LPARAM point = MAKELPARAM(middle.x, middle.y);
-    const bool posted = window.PostMessage(WM_LBUTTONDOWN, MK_LBUTTON, point) &&
-                        window.PostMessage(WM_LBUTTONUP, 0, point);
-    return posted ? S_OK : E_FAIL;
+    window.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, point);
+    if (alive)
+    {
+        window.SendMessage(WM_LBUTTONUP, 0, point);
+    }
 }
 
 } // namespace access

@@ -38,6 +38,7 @@ BEGIN_MESSAGE_MAP(CCustomButton, CButton)
     ON_MESSAGE(BM_GETCHECK, &CCustomButton::OnBMGetCheck)
     ON_MESSAGE(BM_GETSTATE, &CCustomButton::OnBMGetState)
     ON_MESSAGE(WM_SETTEXT, &CCustomButton::OnSetText)
+    ON_MESSAGE(access::ActMessage, &CCustomButton::OnAct)
 END_MESSAGE_MAP()
 
 CPen CCustomButton::m_OutlinePen;

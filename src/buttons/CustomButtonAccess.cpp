@@ -100,14 +100,10 @@ HRESULT CCustomButton::get_accDefaultAction(VARIANT child, BSTR* action)
 
 HRESULT CCustomButton::accDoDefaultAction(VARIANT child)
 {
-    if (!access::IsSelf(child))
-    {
-        return CButton::accDoDefaultAction(child);
-    }
-    if (IsOutOfReach(GetSafeHwnd()))
-    {
-        return DISP_E_MEMBERNOTFOUND;
-    }
-    // Posted: the click may open a dialog, and the program that asks would wait for its end.
-    return PostMessage(BM_CLICK) ? S_OK : E_FAIL;
+    return access::IsSelf(child) ? access::PostAct(*this) : CButton::accDoDefaultAction(child);
+}
+
+LRESULT CCustomButton::OnAct(WPARAM, LPARAM)
+{
+    return access::DoAct(*this, [this] { SendMessage(BM_CLICK); });
 }

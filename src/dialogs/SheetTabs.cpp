@@ -1,6 +1,7 @@
 #include "dialogs/SheetTabs.h"
 
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "modes/ChildRestyling.h"
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
@@ -19,6 +20,7 @@ BEGIN_MESSAGE_MAP(SheetTabs, CTabCtrl)
     ON_WM_KILLFOCUS()
     ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &SheetTabs::OnQueryGestures)
     ON_MESSAGE(TCM_SETITEMSIZE, &SheetTabs::OnSetItemSize)
+    ON_MESSAGE(access::ActMessage, &SheetTabs::OnAct)
 END_MESSAGE_MAP()
 
 LRESULT SheetTabs::OnQueryGestures(WPARAM, LPARAM screen)

@@ -35,6 +35,7 @@ protected:
     afx_msg void OnKillFocus(CWnd* taker);
     afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg LRESULT OnSetItemSize(WPARAM wParam, LPARAM size);
+    afx_msg LRESULT OnAct(WPARAM tab, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:

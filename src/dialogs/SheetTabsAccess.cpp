@@ -108,12 +108,13 @@ HRESULT SheetTabs::accDoDefaultAction(VARIANT child)
     {
         return CTabCtrl::accDoDefaultAction(child);
     }
-    CWnd* const sheet = IsOutOfReach(GetSafeHwnd()) ? nullptr : GetParent();
-    if (sheet == nullptr)
-    {
-        return DISP_E_MEMBERNOTFOUND;
-    }
-    return sheet->PostMessage(PSM_SETCURSEL, WPARAM(tab)) ? S_OK : E_FAIL;
+    return access::PostAct(*this, tab);
+}
+
+LRESULT SheetTabs::OnAct(WPARAM tab, LPARAM)
+{
+    return access::DoAct(
+        *this, [=, this] { ::SendMessage(::GetParent(GetSafeHwnd()), PSM_SETCURSEL, tab, 0); });
 }
 
 HRESULT SheetTabs::accLocation(long* left, long* top, long* width, long* height, VARIANT child)

@@ -3,6 +3,7 @@
 #include "CustomListCtrl.h"
 
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
@@ -52,7 +53,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_WM_HSCROLL()
     ON_WM_TIMER()
     ON_MESSAGE(listctrl::SubclassHeaderMessage, &CCustomListCtrl::OnSubclassCustomHeader)
-    ON_MESSAGE(listctrl::ActivateMessage, &CCustomListCtrl::OnActivateRow)
+    ON_MESSAGE(access::ActMessage, &CCustomListCtrl::OnAct)
     ON_MESSAGE(listctrl::TakeBackMessage, &CCustomListCtrl::OnTakeBackPress)
     ON_MESSAGE(WM_SETREDRAW, &CCustomListCtrl::OnSetRedraw)
     ON_MESSAGE(LVM_INSERTCOLUMNA, &CCustomListCtrl::OnInsertColumn)

@@ -4,7 +4,6 @@
 #include "CustomListCtrl.h"
 
 #include "access/Rows.h"
-#include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
 #include "modes/WindowAlive.h"
 
@@ -329,24 +328,13 @@ HRESULT CCustomListCtrl::accDoDefaultAction(VARIANT child)
     {
         return E_INVALIDARG;
     }
-    if (IsOutOfReach(GetSafeHwnd()))
-    {
-        return DISP_E_MEMBERNOTFOUND;
-    }
     const WindowAlive alive(*this);
     const HRESULT selected = accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, child);
-    if (alive && SUCCEEDED(selected))
-    {
-        PostMessage(listctrl::ActivateMessage); // it may open a dialog
-    }
-    return selected;
+    return alive && SUCCEEDED(selected) ? access::PostAct(*this) : selected;
 }
 
-LRESULT CCustomListCtrl::OnActivateRow(WPARAM, LPARAM)
+// Activates the row with the focus.
+LRESULT CCustomListCtrl::OnAct(WPARAM, LPARAM)
 {
-    if (!IsOutOfReach(GetSafeHwnd())) // as it may be by now
-    {
-        SendMessage(WM_KEYDOWN, VK_RETURN);
-    }
-    return 0;
+    return access::DoAct(*this, [this] { SendMessage(WM_KEYDOWN, VK_RETURN); });
 }

@@ -4,6 +4,7 @@
 
 #include "CustomListCtrl.h"
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "listctrl/ListLayout.h"
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
@@ -33,6 +34,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrlHdr, CHeaderCtrl)
     ON_WM_LBUTTONUP()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_MOUSEMOVE()
+    ON_MESSAGE(access::ActMessage, &CCustomListCtrlHdr::OnAct)
     ON_MESSAGE(HDM_SETHOTDIVIDER, &CCustomListCtrlHdr::OnSetHotDivider)
     ON_MESSAGE(HDM_SETORDERARRAY, &CCustomListCtrlHdr::OnSetOrderArray)
     ON_NOTIFY_REFLECT_EX(HDN_ITEMCLICKA, &CCustomListCtrlHdr::OnHdnItemclick)

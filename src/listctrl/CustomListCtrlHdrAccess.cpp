@@ -21,6 +21,12 @@ bool CCustomListCtrlHdr::HeadingPlace(const VARIANT& child, CRect& place) const
     return is;
 }
 
+// Whether a click in the middle of a heading is one on it.
+bool CCustomListCtrlHdr::Clicks(const CRect& heading) const
+{
+    return (GetStyle() & HDS_BUTTONS) != 0 && DividerAt(heading.CenterPoint().x) == -1;
+}
+
 HRESULT CCustomListCtrlHdr::get_accChildCount(long* count)
 {
     *count = Count();
@@ -76,13 +82,23 @@ HRESULT CCustomListCtrlHdr::get_accDefaultAction(VARIANT child, BSTR* action)
 HRESULT CCustomListCtrlHdr::accDoDefaultAction(VARIANT child)
 {
     CRect place(0, 0, 0, 0);
-    if (!HeadingPlace(child, place))
-    {
-        return CHeaderCtrl::accDoDefaultAction(child);
-    }
-    const bool clicks = !IsOutOfReach(GetSafeHwnd()) && (GetStyle() & HDS_BUTTONS) != 0 &&
-                        DividerAt(place.CenterPoint().x) == -1;
-    return clicks ? access::PostClick(*this, place) : DISP_E_MEMBERNOTFOUND;
+    return !HeadingPlace(child, place) ? CHeaderCtrl::accDoDefaultAction(child)
+           : Clicks(place)             ? access::PostAct(*this, int(child.lVal))
+                                       : DISP_E_MEMBERNOTFOUND;
+}
+
+// The heading may have gone or got another place meanwhile.
+LRESULT CCustomListCtrlHdr::OnAct(WPARAM heading, LPARAM)
+{
+    VARIANT child = {};
+    access::Give(child, long(heading));
+    return access::DoAct(*this, [&] {
+        CRect place(0, 0, 0, 0);
+        if (HeadingPlace(child, place) && Clicks(place))
+        {
+            access::Click(*this, place);
+        }
+    });
 }
 
 HRESULT CCustomListCtrlHdr::accLocation(long* left, long* top, long* width, long* height,

@@ -6,8 +6,7 @@
 namespace listctrl {
 
 constexpr UINT SubclassHeaderMessage = 0x069A; // take the header that was made with the list
-constexpr UINT ActivateMessage = 0x069B;       // activate the row with the focus
-constexpr UINT TakeBackMessage = 0x069D;       // what the platform did for a press that is held
+constexpr UINT TakeBackMessage = 0x069B;       // what the platform did for a press that is held
 
 // A message that asks for the rows in sight, or chooses them.
 bool ConcernsView(UINT message);

@@ -75,9 +75,10 @@ HRESULT CCustomComboLBox::accDoDefaultAction(VARIANT child)
 // The list may have been closed or lost the row meanwhile.
 LRESULT CCustomComboLBox::OnAct(WPARAM row, LPARAM)
 {
-    if (IsPopupVisible() && Exists(int(row)))
-    {
-        Pick(int(row));
-    }
-    return 0;
+    return access::DoAct(*this, [this, row] {
+        if (IsPopupVisible() && Exists(int(row)))
+        {
+            Pick(int(row));
+        }
+    });
 }

@@ -44,33 +44,21 @@ HRESULT CCustomDropListCombo::get_accDefaultAction(VARIANT child, BSTR* action)
 
 HRESULT CCustomDropListCombo::accDoDefaultAction(VARIANT child)
 {
-    if (!access::IsSelf(child))
-    {
-        return CWnd::accDoDefaultAction(child);
-    }
-    return IsOutOfReach(GetSafeHwnd()) ? DISP_E_MEMBERNOTFOUND : access::PostAct(*this);
+    return access::IsSelf(child) ? access::PostAct(*this) : CWnd::accDoDefaultAction(child);
 }
 
 // As Alt+Down does it.
 LRESULT CCustomDropListCombo::OnAct(WPARAM, LPARAM)
 {
-    const WindowAlive alive(*this);
-    if (IsOutOfReach(GetSafeHwnd()))
-    {
-        return 0;
-    }
-    SetFocus();
-    if (!alive)
-    {
-        return 0;
-    }
-    if (m_expanded)
-    {
-        ListClosed(GetCurSel());
-    }
-    else
-    {
-        ToggleDropList();
-    }
-    return 0;
+    return access::DoAct(*this, [this, alive = WindowAlive(*this)] {
+        SetFocus();
+        if (alive && m_expanded)
+        {
+            ListClosed(GetCurSel());
+        }
+        else if (alive)
+        {
+            ToggleDropList();
+        }
+    });
 }

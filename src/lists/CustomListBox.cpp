@@ -3,6 +3,7 @@
 #include "CustomListBox.h"
 
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "lists/ListBoxBars.h"
 #include "modes/ChildRestyling.h"
 #include "modes/PressAndHold.h"
@@ -72,6 +73,7 @@ BEGIN_MESSAGE_MAP(CCustomListBox, CListBox)
     ON_MESSAGE(LB_SETCARETINDEX, &CCustomListBox::OnMayScroll)
     ON_MESSAGE(LB_SETHORIZONTALEXTENT, &CCustomListBox::OnSetHorizontalExtent)
     ON_MESSAGE(LB_GETHORIZONTALEXTENT, &CCustomListBox::OnGetHorizontalExtent)
+    ON_MESSAGE(access::ActMessage, &CCustomListBox::OnAct)
 END_MESSAGE_MAP()
 
 UINT CCustomListBox::m_timerid = 101;

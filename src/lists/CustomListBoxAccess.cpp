@@ -223,15 +223,16 @@ HRESULT CCustomListBox::accDoDefaultAction(VARIANT child)
     {
         return E_INVALIDARG;
     }
-    if (!HasAction(*this) || IsOutOfReach(GetSafeHwnd()))
+    if (!HasAction(*this))
     {
         return DISP_E_MEMBERNOTFOUND;
     }
     const WindowAlive alive(*this);
     const HRESULT selected = accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, child);
-    if (alive && SUCCEEDED(selected))
-    {
-        PostCommand(GetSafeHwnd(), LBN_DBLCLK);
-    }
-    return selected;
+    return alive && SUCCEEDED(selected) ? access::PostAct(*this) : selected;
+}
+
+LRESULT CCustomListBox::OnAct(WPARAM, LPARAM)
+{
+    return access::DoAct(*this, [this] { TellCommand(GetSafeHwnd(), LBN_DBLCLK); });
 }

@@ -1,6 +1,7 @@
 #include "CustomToolbar.h"
 
 #include "OnBoardUIGeneral.h"
+#include "access/Answers.h"
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
@@ -18,6 +19,7 @@ BEGIN_MESSAGE_MAP(CustomToolbar, CToolBar)
     ON_NOTIFY_REFLECT_EX(NM_CUSTOMDRAW, &CustomToolbar::OnCustomDraw)
     ON_WM_PAINT()
     ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CustomToolbar::OnQueryGestures)
+    ON_MESSAGE(access::ActMessage, &CustomToolbar::OnAct)
     ON_WM_GETDLGCODE()
     ON_WM_KEYDOWN()
     ON_WM_SETFOCUS()

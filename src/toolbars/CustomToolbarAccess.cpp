@@ -129,18 +129,11 @@ HRESULT CustomToolbar::accDoDefaultAction(VARIANT child)
     }
     VARIANT state = {};
     get_accState(child, &state);
-    CRect place(0, 0, 0, 0);
-    if (alive)
-    {
-        GetItemRect(button, &place);
-    }
-    const bool presses = alive && !IsOutOfReach(GetSafeHwnd()) && GetItemID(button) != 0 &&
+    const bool presses = alive && GetItemID(button) != 0 &&
                          (state.lVal & (STATE_SYSTEM_UNAVAILABLE | STATE_SYSTEM_INVISIBLE)) == 0;
-    if (!alive)
-    {
-        return CO_E_OBJNOTCONNECTED;
-    }
-    return presses ? access::PostClick(*this, place) : DISP_E_MEMBERNOTFOUND;
+    return !alive    ? CO_E_OBJNOTCONNECTED
+           : presses ? access::PostAct(*this, button)
+                     : DISP_E_MEMBERNOTFOUND;
 }
 
 HRESULT CustomToolbar::accLocation(long* left, long* top, long* width, long* height, VARIANT child)

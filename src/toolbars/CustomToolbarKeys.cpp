@@ -180,7 +180,7 @@ void CustomToolbar::OnKeyDown(UINT key, UINT repeat, UINT flags)
     case VK_RETURN:
         if ((flags & WasDownBefore) == 0 && button >= 0)
         {
-            Press(button);
+            access::PostAct(*this, button);
         }
         break;
     default:
@@ -188,20 +188,21 @@ void CustomToolbar::OnKeyDown(UINT key, UINT repeat, UINT flags)
     }
 }
 
-// As a click, which the platform tells its parent of.
-void CustomToolbar::Press(int button)
+// As a click, which the platform tells its parent of. The button may have gone meanwhile.
+LRESULT CustomToolbar::OnAct(WPARAM button, LPARAM)
 {
-    const WindowAlive alive(*this);
-    const bool pressable = IsPressable(button);
-    CRect place(0, 0, 0, 0);
-    if (alive && pressable)
-    {
-        GetItemRect(button, &place);
-    }
-    if (alive && !place.IsRectEmpty())
-    {
-        access::PostClick(*this, place);
-    }
+    return access::DoAct(*this, [this, button, alive = WindowAlive(*this)] {
+        const bool pressable = IsPressable(int(button));
+        CRect place(0, 0, 0, 0);
+        if (alive && pressable)
+        {
+            GetItemRect(int(button), &place);
+        }
+        if (alive && !place.IsRectEmpty())
+        {
+            access::Click(*this, place);
+        }
+    });
 }
 
 void CustomToolbar::OnSetFocus(CWnd* old)
