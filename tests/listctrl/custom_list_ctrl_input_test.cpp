@@ -103,8 +103,7 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
 
 TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)
 {
-    const UINT before = ::GetDoubleClickTime();
-    ::SetDoubleClickTime(200);
+    const DoubleClickTime time(200);
     auto& list = AddList(100, 3, ReportStyle | LVS_EDITLABELS);
     const auto edits = [&](int row) {
         PumpUntil([&] { return list.GetEditControl() != nullptr; }, 400);
@@ -140,7 +139,6 @@ TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)
         act();
         EXPECT_FALSE(edits(33)) << name;
     }
-    ::SetDoubleClickTime(before);
 }
 
 // Keys -------------------------------------------------------------------------------------------

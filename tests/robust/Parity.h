@@ -22,8 +22,7 @@ protected:
     static constexpr UINT Id = 77;
 
     // Under load two presses would be a double click for one control and none for another.
-    Parity() { ::SetDoubleClickTime(5000); }
-    ~Parity() override { ::SetDoubleClickTime(0); } // the system's own
+    const DoubleClickTime m_long{5000};
 
     // As a host does it whose window is not one of the library's: it repaints its controls.
     void ThroughAllModes()

@@ -57,3 +57,16 @@ void TypeKey(UINT key, UINT held = 0); // with another one held down
 void TypeText(const char* text);
 // What one has cut or copied, a key or a press of the middle button would paste in the next test.
 void ForgetClipboard();
+
+// The system's time for a double click, set for the life of a scope.
+class DoubleClickTime
+{
+public:
+    explicit DoubleClickTime(UINT milliseconds) { ::SetDoubleClickTime(milliseconds); }
+    DoubleClickTime(const DoubleClickTime&) = delete;
+    DoubleClickTime& operator=(const DoubleClickTime&) = delete;
+    ~DoubleClickTime() { ::SetDoubleClickTime(m_before); }
+
+private:
+    UINT m_before = ::GetDoubleClickTime();
+};

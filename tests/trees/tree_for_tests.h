@@ -169,9 +169,7 @@ constexpr int Changed = int(TVN_SELCHANGED);
 class TreeTest : public WindowTest
 {
 protected:
-    // Clicks that follow each other at once are single clicks here.
-    TreeTest() { ::SetDoubleClickTime(1); }
-    ~TreeTest() override { ::SetDoubleClickTime(0); } // the system's own
+    const DoubleClickTime m_none{1}; // clicks that follow each other at once are single clicks here
 
     // a (b c) d e f; the branch a is open.
     TreeForTests& AddTree()
