@@ -19,6 +19,8 @@ public:
     void SetBackgroundColor(COLORREF color);
     // @}
 
+    void PreSubclassWindow() override;
+
     // @{
     // What assistive programs are told: a text box, named by the label before it.
     HRESULT get_accName(VARIANT child, BSTR* name) override;

@@ -15,6 +15,8 @@ public:
     // The colour, shown by the next paint.
     void Set(COLORREF color);
 
+    void PreSubclassWindow() override;
+
     // @{
     // What assistive programs are told: a picture, named by the window's text, which is not drawn.
     HRESULT get_accName(VARIANT child, BSTR* name) override;

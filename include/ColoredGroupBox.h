@@ -14,6 +14,8 @@ public:
     // The colour of the outline; not redrawn.
     virtual void SetColor(COLORREF color);
 
+    void PreSubclassWindow() override;
+
     // @{
     // What assistive programs are told: a group, named by the window's text, which is not drawn.
     HRESULT get_accName(VARIANT child, BSTR* name) override;

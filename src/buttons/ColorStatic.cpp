@@ -1,5 +1,6 @@
 #include "ColorStatic.h"
 
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 
 BEGIN_MESSAGE_MAP(CColorStatic, CStatic)
@@ -14,6 +15,12 @@ CColorStatic::CColorStatic() // meant: the colour is the host's to give
 }
 
 CColorStatic::~CColorStatic() = default;
+
+void CColorStatic::PreSubclassWindow()
+{
+    CStatic::PreSubclassWindow();
+    ShowTakenOver(*this);
+}
 
 void CColorStatic::Set(COLORREF color)
 {

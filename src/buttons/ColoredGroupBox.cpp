@@ -22,6 +22,12 @@ CColoredGroupBox::CColoredGroupBox()
 
 CColoredGroupBox::~CColoredGroupBox() = default;
 
+void CColoredGroupBox::PreSubclassWindow()
+{
+    CStatic::PreSubclassWindow();
+    ShowTakenOverWithGround(*this);
+}
+
 void CColoredGroupBox::SetColor(COLORREF color)
 {
     m_color = color;

@@ -4,6 +4,7 @@
 #include "access/Answers.h"
 #include "buttons/ButtonLayout.h"
 #include "modes/PressAndHold.h"
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/BackBuffer.h"
@@ -75,6 +76,7 @@ void CCustomButton::PreSubclassWindow()
     }
     m_followsFocus = false;
     CButton::PreSubclassWindow();
+    ShowTakenOver(*this);
 }
 
 // The first question of every handler. A press ends here that a change of the mode has cut off,

@@ -6,6 +6,7 @@
 #include "OnBoardUI.h"
 #include "OnBoardUIGeneral.h"
 #include "buttons/GroupBoxLayout.h"
+#include "buttons/OwnGround.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
@@ -107,6 +108,7 @@ void CCustomStatic::PreSubclassWindow()
     CStatic::PreSubclassWindow();
     m_groupBox = (GetStyle() & StaticTypeBits) == BS_GROUPBOX;
     SuitTransparencyToMode();
+    ShowTakenOverWithGround(*this);
 }
 
 // A window in the making may lose what was changed before its first message.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "modes/TakenOver.h"
 #include "modes/WindowFacts.h"
 
 // Has a control that paints no ground of its own painted anew: what it stands on takes away what it
@@ -13,4 +14,14 @@ inline void InvalidateWithGround(CWnd& control)
         ::InvalidateRect(parent, &place, TRUE);
     }
     control.Invalidate();
+}
+
+// The end of PreSubclassWindow of such a control.
+inline void ShowTakenOverWithGround(CWnd& control)
+{
+    ShowTakenOver(control);
+    if (control.IsWindowVisible())
+    {
+        InvalidateWithGround(control);
+    }
 }

@@ -1,5 +1,7 @@
 #include "ColorEdit.h"
 
+#include "modes/TakenOver.h"
+
 IMPLEMENT_DYNAMIC(ColorEdit, CEdit)
 
 BEGIN_MESSAGE_MAP(ColorEdit, CEdit)
@@ -11,6 +13,12 @@ ColorEdit::ColorEdit()
 {
     EnableActiveAccessibility();
     m_brush.CreateSolidBrush(m_backgroundColor);
+}
+
+void ColorEdit::PreSubclassWindow()
+{
+    CEdit::PreSubclassWindow();
+    ShowTakenOver(*this);
 }
 
 void ColorEdit::SetTextColor(COLORREF color)

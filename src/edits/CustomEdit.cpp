@@ -6,6 +6,7 @@
 #include "edits/EditBars.h"
 #include "edits/EditBorder.h"
 #include "modes/PressAndHold.h"
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/Rings.h"
@@ -95,7 +96,7 @@ void CCustomEdit::PreSubclassWindow()
     m_updating = false;
     m_barShown = m_wantsBar = false;
     Init();
-    m_bars->NoticeMode();
+    ShowTakenOver(*this);
 }
 
 void CCustomEdit::Init()

@@ -1,5 +1,6 @@
 #include "EditWithPrompt.h"
 
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 
@@ -40,7 +41,7 @@ void EditWithPrompt::PreSubclassWindow()
     if (alive)
     {
         m_promptDue = m_showingPrompt != 0 && wasThere;
-        ::InvalidateRect(m_hWnd, nullptr, TRUE); // the message at the latest
+        ShowTakenOver(*this); // the message at the latest
     }
 }
 

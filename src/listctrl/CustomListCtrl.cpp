@@ -8,6 +8,7 @@
 #include "listctrl/ListCtrlMessages.h"
 #include "listctrl/ListLayout.h"
 #include "modes/PressAndHold.h"
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 #include "paint/SharedObjects.h"
@@ -173,7 +174,7 @@ void CCustomListCtrl::PreSubclassWindow()
     SendMessage(CCM_SETVERSION, WPARAM(CommonControlsVersion));
     if (alive)
     {
-        m_bars->NoticeMode();
+        ShowTakenOver(*this);
     }
 }
 

@@ -7,6 +7,7 @@
 #include "access/Answers.h"
 #include "listctrl/ListLayout.h"
 #include "modes/PressAndHold.h"
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/GdiGuards.h"
@@ -66,6 +67,7 @@ void CCustomListCtrlHdr::PreSubclassWindow()
     m_itemLefts.clear();
     m_itemWidths.clear();
     CHeaderCtrl::PreSubclassWindow();
+    ShowTakenOver(*this);
 }
 
 // The window stays, as part of a list that the object has left.

@@ -7,6 +7,7 @@
 #include "lists/ListBoxBars.h"
 #include "modes/ChildRestyling.h"
 #include "modes/PressAndHold.h"
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
@@ -114,7 +115,7 @@ void CCustomListBox::PreSubclassWindow()
 {
     CListBox::PreSubclassWindow();
     BeginAfresh();
-    m_bars->NoticeMode();
+    ShowTakenOver(*this);
 }
 
 // An object may get another window, and whatever the last one was in the middle of is over.

@@ -41,14 +41,6 @@ void BarHost::BeginAfresh()
     InvalidateBars();
 }
 
-void BarHost::NoticeMode()
-{
-    if (COnBoardUIGeneral::InOnBoardMode() && m_window.IsWindowVisible())
-    {
-        m_window.RedrawWindow(nullptr, nullptr, RDW_FRAME | RDW_INVALIDATE);
-    }
-}
-
 bool BarHost::Follow()
 {
     if (m_part != CFauxScrollBar::PRESSED_NONE && COnBoardUIGeneral::GetAppMode() != m_mode)

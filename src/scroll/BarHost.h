@@ -47,8 +47,6 @@ public:
 
     // The control has another window, and whatever the last one was in the middle of is over.
     void BeginAfresh();
-    // A window that exists already gets no message by which it would notice the mode.
-    void NoticeMode();
     // WM_CREATE and WM_DESTROY.
     int Create();
     void Destroy();

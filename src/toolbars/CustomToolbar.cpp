@@ -3,6 +3,7 @@
 #include "OnBoardUIGeneral.h"
 #include "access/Answers.h"
 #include "modes/PressAndHold.h"
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
@@ -51,6 +52,7 @@ void CustomToolbar::PreSubclassWindow()
     m_enlarged = CSize();
     m_focused = -1;
     CToolBar::PreSubclassWindow();
+    ShowTakenOver(*this);
 }
 
 // On-board the buttons are made as large as a finger wherever that matters, and the platform gets

@@ -2,6 +2,7 @@
 
 #include "trees/TreeSelection.h"
 
+#include "modes/TakenOver.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 #include "trees/DragImage.h"
@@ -57,6 +58,7 @@ void TreeSelection::BeginWindow()
         m_look->Reset();
         m_laidOut = Handle();
     }
+    ShowTakenOver(Window());
 }
 
 void TreeSelection::SetMultiSelect(bool multi)

@@ -2,6 +2,7 @@
 
 #include "OnBoardUIGeneral.h"
 #include "access/Answers.h"
+#include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
@@ -64,6 +65,7 @@ void CCustomStatusBar::PreSubclassWindow()
     m_onBoard = false;
     m_standardFont = nullptr;
     CStatusBarCtrl::PreSubclassWindow();
+    ShowTakenOver(*this);
 }
 
 // Gives the bar the font of the mode's kind, and with it the height, when it still has the other
