@@ -398,10 +398,10 @@ HBRUSH LabelColors(CDC& dc)
     return CCustomDialog::m_BkBrush;
 }
 
-// A read-only or disabled edit asks with the message of labels.
+// A read-only or disabled edit asks with the message of labels, and so does a disabled combo.
 bool IsField(HWND control)
 {
-    return IsOfClass(control, "Edit");
+    return IsOfClass(control, "Edit") || IsOfClass(control, "ComboBox");
 }
 
 } // namespace

@@ -215,7 +215,9 @@ TEST_F(CustomDialogTest, TwoTapsOnTheCaptionMaximiseOnlyWhereABoxRestores)
 TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
 {
     using D = CCustomDialog;
-    DialogForTests dialog(form, Host());
+    constexpr WORD IdCombo = 120;
+    DialogForTests dialog(Form().Add("ComboBox", "", WS_DISABLED, CRect(5, 70, 60, 80), IdCombo),
+                          Host());
     // Who asks how, and its text, its ground and its brush. CLR_INVALID: the ground stays.
     const std::tuple<UINT, int, COLORREF, COLORREF, HGDIOBJ> cases[] = {
         {WM_CTLCOLOREDIT, IdEdit, RGB(26, 26, 26), RGB(180, 180, 180), D::m_BkEditBrush},
@@ -224,6 +226,7 @@ TEST_F(CustomDialogTest, ControlsHaveTheColoursOfTheMode)
          D::m_BkEditDisabledBrush},
         {WM_CTLCOLORSTATIC, IdDisabled, RGB(70, 70, 70), RGB(100, 100, 100), // the platform's
          D::m_BkEditDisabledBrush},
+        {WM_CTLCOLORSTATIC, IdCombo, RGB(70, 70, 70), RGB(100, 100, 100), D::m_BkEditDisabledBrush},
         {WM_CTLCOLORSTATIC, IdReadOnly, RGB(26, 26, 26), RGB(180, 180, 180), D::m_BkEditBrush},
         {WM_CTLCOLORSTATIC, IdLabel, RGB(230, 230, 230), CLR_INVALID, D::m_BkBrush},
         {WM_CTLCOLORDLG, 0, RGB(0, 0, 0), CLR_INVALID, D::m_BkBrush},
