@@ -2,6 +2,7 @@
 
 #include "OnBoardUI.h"
 #include "buttons/ButtonLayout.h"
+#include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
@@ -48,9 +49,9 @@ void CCustomCheckBox::HandleBMClick()
     }
 }
 
-void CCustomCheckBox::HandleKeyDown(UINT key, UINT, UINT)
+void CCustomCheckBox::HandleKeyDown(UINT key, UINT, UINT flags)
 {
-    if (key == VK_SPACE)
+    if (key == VK_SPACE && (flags & WasDownBefore) == 0) // held, it would flicker
     {
         ClickByKey();
     }

@@ -4,6 +4,7 @@
 #include "CustomDropListCombo.h"
 
 #include "access/Answers.h"
+#include "modes/KeyState.h"
 #include "modes/PressAndHold.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
@@ -13,7 +14,6 @@
 
 namespace {
 
-constexpr UINT WasDownBefore = 0x4000; // in the flags of a key message
 constexpr UINT AltDown = 0x2000;
 
 } // namespace

@@ -7,3 +7,6 @@ inline bool IsKeyDown(int key)
 {
     return ::GetKeyState(key) < 0;
 }
+
+// In the flags of a key message: the keyboard repeats a key that is held.
+constexpr UINT WasDownBefore = 0x4000;

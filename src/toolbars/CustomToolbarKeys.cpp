@@ -3,15 +3,10 @@
 #include "CustomToolbar.h"
 
 #include "access/Strip.h"
+#include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
-
-namespace {
-
-constexpr UINT WasDownBefore = 0x4000; // in the flags of a key message
-
-} // namespace
 
 // A platform whose bar wants the arrows works them by itself.
 bool CustomToolbar::WorksKeys()

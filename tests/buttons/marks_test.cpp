@@ -174,6 +174,7 @@ TEST_F(ButtonOnBoard, ACheckBoxTellsOfAClickTwiceAndOfAKeyOnce)
     EXPECT_THAT(checks, ElementsAre(BST_CHECKED, BST_CHECKED));
     EXPECT_TRUE(WindowPixels(box) == box.Drawn()) << "shown at once";
     TypeKey(VK_SPACE);
+    box.SendMessage(WM_KEYDOWN, VK_SPACE, 0x40000001); // held
     EXPECT_THAT(checks, ElementsAre(BST_CHECKED, BST_CHECKED, BST_UNCHECKED));
     EXPECT_TRUE(WindowPixels(box) == box.Drawn());
     TypeKey(VK_RETURN);
