@@ -195,12 +195,15 @@ void TreeLook::Reset()
 void TreeLook::EnterOnBoard()
 {
     m_standardFont = reinterpret_cast<HFONT>(m_items.Ask(WM_GETFONT));
+    const auto large = HFONT(CCustomListBox::GetOnBoardFont().GetSafeHandle());
+    // One that opens on-board has its host's already, unless it was let go on-board.
+    m_sawStandard = m_sawStandard || (m_standardFont != nullptr && m_standardFont != large);
     m_standardIndent = int(m_items.Ask(TVM_GETINDENT));
     // A height that is not the platform's own choice was set by the host, to be given back.
     const int height = m_items.RowHeight();
     m_items.Ask(TVM_SETITEMHEIGHT, WPARAM(-1));
     m_standardRow = height == m_items.RowHeight() ? -1 : height;
-    m_items.Ask(WM_SETFONT, WPARAM(CCustomListBox::GetOnBoardFont().GetSafeHandle()), FALSE);
+    m_items.Ask(WM_SETFONT, WPARAM(large), FALSE);
     MakeLevelsForFinger();
     MakeRowsForFinger();
     m_bars.EnterOnBoard();
@@ -214,8 +217,8 @@ void TreeLook::LeaveOnBoard()
     {
         return;
     }
-    // A tree that began on-board has no font of the host's to go back to, and the host's may be
-    // gone by now.
+    // A tree that began on-board may have no font of the host's to go back to, and the host's may
+    // be gone by now.
     const bool hosts =
         m_sawStandard && (m_standardFont == nullptr || ::GetObjectType(m_standardFont) == OBJ_FONT);
     m_items.Ask(WM_SETFONT,

@@ -57,7 +57,7 @@ private:
     TreeBars m_bars;
     bool m_onBoard = false;         // laid out for an on-board mode
     bool m_following = false;       // in Follow
-    bool m_sawStandard = false;     // the host has had the tree in the standard mode
+    bool m_sawStandard = false;     // what is kept of the standard mode is the host's
     HFONT m_standardFont = nullptr; // the host's
     int m_standardRow = -1;         // pixels; -1 leaves it to the platform
     int m_standardIndent = 0;       // pixels

@@ -1,3 +1,4 @@
+#include "MultiTree.h"
 #include "dialogs/dialog_for_tests.h"
 #include "support/Acting.h"
 
@@ -144,6 +145,30 @@ TEST_F(CustomDialogTest, AnOpenDialogFollowsTheMode)
         EXPECT_EQ(font(*each, IdButton), small);
     }
     EXPECT_EQ(bandHeight(), caption);
+}
+
+TEST_F(CustomDialogTest, ATreeThatItOpensWithHasItsFontInTheStandardMode)
+{
+    DialogTemplate form(
+        {.style = WS_POPUP | WS_CAPTION | WS_VISIBLE, .points = 9, .face = "Arial"});
+    form.Add(WC_TREEVIEW, "", 0, CRect(5, 5, 100, 60), 101);
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        for (const auto taken : {&DialogForTests::beforeInit, &DialogForTests::inInit})
+        {
+            COnBoardUIGeneral::SetAppMode(mode);
+            MultiTree tree;
+            DialogForTests dialog;
+            dialog.*taken = [&] { EXPECT_TRUE(tree.SubclassTreeCtrlId(101, &dialog)); };
+            ASSERT_TRUE(dialog.CreateIndirect(form, &Host()));
+            for (const APPMODE next : {ONBOARD, STD})
+            {
+                COnBoardUIGeneral::SetAppMode(next);
+                PumpAll();
+            }
+            EXPECT_EQ(tree.GetFont(), dialog.GetFont()) << mode;
+        }
+    }
 }
 
 TEST_F(CustomDialogTest, ControlsAreScaledOnceWhenTheModeChangesOnTheirWay)
