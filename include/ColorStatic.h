@@ -27,6 +27,7 @@ public:
 protected:
     afx_msg void OnPaint();
     afx_msg void OnEnable(BOOL enable);
+    afx_msg void OnSysColorChange();
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

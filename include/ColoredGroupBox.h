@@ -27,6 +27,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnSysColorChange();
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

@@ -10,6 +10,7 @@ BEGIN_MESSAGE_MAP(CBoldStatic, CCustomStatic)
     ON_MESSAGE(WM_SETTEXT, &CBoldStatic::OnLookChanged)
     ON_MESSAGE(WM_SETFONT, &CBoldStatic::OnLookChanged)
     ON_MESSAGE(WM_ENABLE, &CBoldStatic::OnLookChanged)
+    ON_MESSAGE(WM_SYSCOLORCHANGE, &CBoldStatic::OnLookChanged)
 END_MESSAGE_MAP()
 
 CBoldStatic::CBoldStatic()

@@ -6,6 +6,7 @@
 BEGIN_MESSAGE_MAP(CColorStatic, CStatic)
     ON_WM_PAINT()
     ON_WM_ENABLE()
+    ON_WM_SYSCOLORCHANGE()
     ON_MESSAGE(WM_SETTEXT, &CColorStatic::OnSetText)
 END_MESSAGE_MAP()
 
@@ -54,6 +55,9 @@ void CColorStatic::OnEnable(BOOL enable)
         Invalidate();
     }
 }
+
+// It would do so here too, and nothing else.
+void CColorStatic::OnSysColorChange() {}
 
 // Kept as every window keeps its text; the platform's label would show it.
 LRESULT CColorStatic::OnSetText(WPARAM wParam, LPARAM lParam)

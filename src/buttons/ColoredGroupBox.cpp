@@ -11,6 +11,7 @@ BEGIN_MESSAGE_MAP(CColoredGroupBox, CStatic)
     ON_WM_PAINT()
     ON_WM_ENABLE()
     ON_WM_SIZE()
+    ON_WM_SYSCOLORCHANGE()
     ON_MESSAGE(WM_SETTEXT, &CColoredGroupBox::OnSetText)
 END_MESSAGE_MAP()
 
@@ -69,6 +70,9 @@ void CColoredGroupBox::OnEnable(BOOL enable)
 {
     TellEnabled(m_hWnd, enable);
 }
+
+// The same, without a word to the parent.
+void CColoredGroupBox::OnSysColorChange() {}
 
 // Kept as every window keeps its text; the platform's label would show it.
 LRESULT CColoredGroupBox::OnSetText(WPARAM wParam, LPARAM lParam)
