@@ -6,9 +6,14 @@ namespace {
 
 using Box = MessageBoxForTests;
 
+class MessageBoxInMode : public InMode<MessageBoxTest>
+{};
+
+INSTANTIATE_TEST_SUITE_P(Modes, MessageBoxInMode, testing::ValuesIn(AllModes));
+
 // Buttons and icons -----------------------------------------------------------------------------
 
-TEST_F(MessageBoxTest, EveryButtonOfEverySetAnswersToThePointerInEveryMode)
+TEST_P(MessageBoxInMode, EveryButtonOfEverySetAnswersToThePointer)
 {
     const char* const captions[] = {"",      "OK",     "Cancel", "Abort",
                                     "Retry", "Ignore", "Yes",    "No"}; // by their ids
@@ -20,25 +25,21 @@ TEST_F(MessageBoxTest, EveryButtonOfEverySetAnswersToThePointerInEveryMode)
         {MB_YESNO, {IDYES, IDNO}},
         {MB_RETRYCANCEL, {IDRETRY, IDCANCEL}},
     };
-    for (const APPMODE mode : AllModes)
+    for (const auto& [style, ids] : sets)
     {
-        const ModeScope scope(mode);
-        for (const auto& [style, ids] : sets)
+        Box box("Go on?", style); // shown again and again
+        for (size_t index = 0; index < ids.size(); ++index)
         {
-            Box box("Go on?", style); // shown again and again
-            for (size_t index = 0; index < ids.size(); ++index)
-            {
-                const int id = ids[index];
-                box.inLoop = [&] {
-                    EXPECT_EQ(box.GetButtonPressed(), 0);
-                    EXPECT_EQ(TextOf(box.Button(index)), captions[id]);
-                    box.ClickOn(index);
-                };
-                EXPECT_EQ(box.DoModal(), id == IDCANCEL ? IDCANCEL : IDOK);
-                EXPECT_EQ(box.GetButtonPressed(), id) << APPMODE_NAMES[mode];
-            }
-            EXPECT_EQ(box.m_buttons.size(), ids.size());
+            const int id = ids[index];
+            box.inLoop = [&] {
+                EXPECT_EQ(box.GetButtonPressed(), 0);
+                EXPECT_EQ(TextOf(box.Button(index)), captions[id]);
+                box.ClickOn(index);
+            };
+            EXPECT_EQ(box.DoModal(), id == IDCANCEL ? IDCANCEL : IDOK);
+            EXPECT_EQ(box.GetButtonPressed(), id);
         }
+        EXPECT_EQ(box.m_buttons.size(), ids.size());
     }
 }
 
@@ -196,7 +197,7 @@ TEST_F(MessageBoxTest, TheCloseBoxAnswersAsEscapeDoes)
     }
 }
 
-TEST_F(MessageBoxTest, ALongTextIsScrolledAndCopiedByKeys)
+TEST_P(MessageBoxInMode, ALongTextIsScrolledAndCopiedByKeys)
 {
     const std::string text = Lines(400);
     const auto scrollAndCopy = [&](Box& box) {
@@ -228,17 +229,13 @@ TEST_F(MessageBoxTest, ALongTextIsScrolledAndCopiedByKeys)
         EXPECT_EQ(box.Shown(), text);
         TypeKey('C', VK_CONTROL);
     };
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        const ModeScope scope(mode);
-        EXPECT_EQ(Answer(text, MB_YESNO, scrollAndCopy), 0);
-        ASSERT_TRUE(::OpenClipboard(Host()));
-        const HANDLE copied = ::GetClipboardData(CF_TEXT);
-        EXPECT_STREQ(static_cast<const char*>(::GlobalLock(copied)), text.c_str());
-        ::GlobalUnlock(copied);
-        ::EmptyClipboard();
-        ::CloseClipboard();
-    }
+    EXPECT_EQ(Answer(text, MB_YESNO, scrollAndCopy), 0);
+    ASSERT_TRUE(::OpenClipboard(Host()));
+    const HANDLE copied = ::GetClipboardData(CF_TEXT);
+    EXPECT_STREQ(static_cast<const char*>(::GlobalLock(copied)), text.c_str());
+    ::GlobalUnlock(copied);
+    ::EmptyClipboard();
+    ::CloseClipboard();
 }
 
 TEST_F(MessageBoxTest, OnBoardTheTextLooksLikeALabelAndAsksForNoKeyboard)
@@ -261,41 +258,37 @@ TEST_F(MessageBoxTest, OnBoardTheTextLooksLikeALabelAndAsksForNoKeyboard)
 
 // What a host may do wrong ----------------------------------------------------------------------
 
-TEST_F(MessageBoxTest, BadInputHasADefinedResult)
+TEST_P(MessageBoxInMode, BadInputHasADefinedResult)
 {
-    for (const APPMODE mode : {STD, ONBOARD})
-    {
-        const ModeScope scope(mode);
-        Box empty(nullptr, 0xFFFFFFF8U, CSize(0, 0)); // no such buttons
-        empty.m_iconId = 31'999;                      // no such picture
-        empty.inLoop = [&] {
-            EXPECT_EQ(empty.Shown(), "");
-            empty.SendMessage(WM_CTLCOLORSTATIC, 0, LPARAM(empty.m_text->m_hWnd)); // no context
-            EXPECT_TRUE(empty.m_buttons.empty());
-            empty.EndDialog(9);
-        };
-        EXPECT_EQ(empty.DoModal(), 9);
-        EXPECT_EQ(empty.GetButtonPressed(), 0);
-        EXPECT_FALSE(empty.PreTranslateMessage(nullptr));
+    Box empty(nullptr, 0xFFFFFFF8U, CSize(0, 0)); // no such buttons
+    empty.m_iconId = 31'999;                      // no such picture
+    empty.inLoop = [&] {
+        EXPECT_EQ(empty.Shown(), "");
+        empty.SendMessage(WM_CTLCOLORSTATIC, 0, LPARAM(empty.m_text->m_hWnd)); // no context
+        EXPECT_TRUE(empty.m_buttons.empty());
+        empty.EndDialog(9);
+    };
+    EXPECT_EQ(empty.DoModal(), 9);
+    EXPECT_EQ(empty.GetButtonPressed(), 0);
+    EXPECT_FALSE(empty.PreTranslateMessage(nullptr));
 
-        // A template without the box's controls.
-        const DialogTemplate bare({.style = WS_POPUP | WS_CAPTION, .title = "Bare"});
-        Box partless("Ready", MB_OKCANCEL);
-        partless.m_lpszTemplateName = nullptr;
-        partless.InitModalIndirect(bare, &Host());
-        partless.inLoop = [&] {
-            TypeKey(VK_NEXT);
-            TypeKey('C', VK_CONTROL);
-            COnBoardUIGeneral::SetAppMode(mode == STD ? EFBFS : STD);
-            TypeKey('C');
-        };
-        EXPECT_EQ(partless.DoModal(), IDCANCEL);
-        COnBoardUIGeneral::SetAppMode(mode);
-        EXPECT_EQ(partless.GetButtonPressed(), IDCANCEL);
-        partless.m_lpszTemplateName = "NoSuchTemplate";
-        EXPECT_EQ(partless.DoModal(), -1);
-        EXPECT_EQ(partless.GetButtonPressed(), 0) << "of the box that could not be made";
-    }
+    // A template without the box's controls.
+    const DialogTemplate bare({.style = WS_POPUP | WS_CAPTION, .title = "Bare"});
+    Box partless("Ready", MB_OKCANCEL);
+    partless.m_lpszTemplateName = nullptr;
+    partless.InitModalIndirect(bare, &Host());
+    partless.inLoop = [&] {
+        TypeKey(VK_NEXT);
+        TypeKey('C', VK_CONTROL);
+        COnBoardUIGeneral::SetAppMode(GetParam() == STD ? EFBFS : STD);
+        TypeKey('C');
+    };
+    EXPECT_EQ(partless.DoModal(), IDCANCEL);
+    COnBoardUIGeneral::SetAppMode(GetParam());
+    EXPECT_EQ(partless.GetButtonPressed(), IDCANCEL);
+    partless.m_lpszTemplateName = "NoSuchTemplate";
+    EXPECT_EQ(partless.DoModal(), -1);
+    EXPECT_EQ(partless.GetButtonPressed(), 0) << "of the box that could not be made";
 }
 
 TEST_F(MessageBoxTest, ABoxMayGoInAMessageOfOneOfItsButtons)
