@@ -1,29 +1,10 @@
-// What hosts and derived classes know of the lists: the sizes of texts and rows, the wait that a
-// derived class may start, and the combo's window class.
+// What hosts and derived classes know of the lists: the sizes of rows, the wait that a derived
+// class may start, and the combo's window class.
 
 #include "CustomDropListCombo.h"
-#include "CustomEdit.h"
 #include "OnBoardUI.h"
 #include "listctrl/list_for_tests.h"
 #include "lists/check_list_for_tests.h"
-
-#include <cmath>
-
-TEST_F(WindowTest, ControlsHaveTheTextSizesOfTheirKind)
-{
-    LOGFONT stock = {};
-    ::GetObject(::GetStockObject(SYSTEM_FONT), sizeof(stock), &stock);
-    for (const auto& [font, factor] : {std::pair(&CCustomListBox::GetOnBoardFont(), 1.3),
-                                       {&CCustomDropListCombo::GetOnBoardFont(), 1.3},
-                                       {&CCustomChecklistBox::GetOnBoardFont(), 1.7},
-                                       {&CCustomListCtrl::GetOnBoardFont(), 1.7},
-                                       {&CCustomEdit::GetOnBoardFont(), 1.7}})
-    {
-        LOGFONT onBoard = {};
-        font->GetLogFont(&onBoard);
-        EXPECT_EQ(onBoard.lfHeight, LONG(std::trunc(stock.lfHeight * factor)));
-    }
-}
 
 namespace {
 
