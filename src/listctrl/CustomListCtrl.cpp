@@ -323,28 +323,30 @@ void CCustomListCtrl::OnSize(UINT type, int width, int height)
     {
         return;
     }
-    m_bars->TakePlace(); // the list is laid out by this
+    const bool placed = m_bars->TakePlace(); // the list is laid out by this
     m_bars->SetPlacingDue(true);
     m_fittedTo.SetRectEmpty();
-    if (!InOnBoard())
+    if (InOnBoard())
     {
-        RestoreView();
-        return;
-    }
-    const bool barred = (GetStyle() & (WS_VSCROLL | WS_HSCROLL)) != 0;
-    m_bars->TakePlatformBars();
-    if (alive && width > 0 && barred)
-    {
-        scroll::RecalculateFrame(*this);
-    }
-    if (alive)
-    {
-        m_bars->SetPlacingDue(true);
-        ReCheckScrollBars();
+        const bool barred = (GetStyle() & (WS_VSCROLL | WS_HSCROLL)) != 0;
+        m_bars->TakePlatformBars();
+        if (alive && width > 0 && barred)
+        {
+            scroll::RecalculateFrame(*this);
+        }
+        if (alive)
+        {
+            m_bars->SetPlacingDue(true);
+            ReCheckScrollBars();
+        }
     }
     if (alive)
     {
         RestoreView();
+    }
+    if (alive && placed)
+    {
+        FollowLabelEdit();
     }
 }
 

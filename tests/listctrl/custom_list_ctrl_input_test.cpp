@@ -2,6 +2,7 @@
 // its own.
 
 #include "listctrl/list_for_tests.h"
+#include "support/ChildModes.h"
 
 using namespace parts;
 
@@ -98,6 +99,14 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
             list.SendMessage(LVM_CANCELEDITLABEL);
             SetMode(mode, list);
         }
+    }
+    list.PerformVScroll(SB_TOP);
+    for (const APPMODE mode : {STD, ONBOARD}) // as on a dialog, with another place
+    {
+        const HWND edit = list.EditLabel(3)->GetSafeHwnd();
+        SetModeOfChildren(mode, Host());
+        ASSERT_EQ(list.GetEditControl()->GetSafeHwnd(), edit);
+        EXPECT_TRUE(ItemRectOf(list, 3).PtInRect(PlaceIn(list, edit).CenterPoint())) << mode;
     }
 }
 
