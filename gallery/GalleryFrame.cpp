@@ -75,6 +75,8 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_WM_CTLCOLOR()
     ON_WM_GETMINMAXINFO()
     ON_WM_NCHITTEST()
+    ON_MESSAGE(WM_MOVING, &GalleryFrame::OnDragged)
+    ON_MESSAGE(WM_SIZING, &GalleryFrame::OnDragged)
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
     ON_WM_MOUSEWHEEL()
@@ -436,6 +438,17 @@ LRESULT GalleryFrame::OnNcHitTest(CPoint point)
     };
     const LRESULT edge = Edges[along(point.y, area.bottom)][along(point.x, area.right)];
     return edge == HTCLIENT && CurrentLayout().caption.PtInRect(point) ? HTCAPTION : edge;
+}
+
+// A key may switch the mode while the pointer holds the caption or an edge: what covers the screen
+// by then has neither, by which it could be put back.
+LRESULT GalleryFrame::OnDragged(WPARAM, LPARAM proposed)
+{
+    if (CoversScreen(COnBoardUIGeneral::GetAppMode()))
+    {
+        GetWindowRect(reinterpret_cast<RECT*>(proposed));
+    }
+    return TRUE;
 }
 
 void GalleryFrame::ParentWasTold(const CString& what)
