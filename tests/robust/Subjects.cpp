@@ -1,6 +1,7 @@
 #include "robust/Subjects.h"
 
 #include "catalog/Makers.h"
+#include "support/Acting.h"
 #include "trees/TreeLook.h"
 #include "trees/TreeSelection.h"
 
@@ -174,24 +175,45 @@ void UseReport(CCustomListCtrl& list, Arguments& arguments)
     list.SetMinColWidth(arguments.Between(0, 60));
 }
 
+// The framework's window of a program, with its bars and a view.
+struct Frame : Standing<CFrameWnd>
+{
+    CToolBar tools;
+    CStatusBar status;
+};
+
+std::unique_ptr<CWnd> MakeFrame(CWnd& owner, const Contents& contents)
+{
+    CRect place = contents.place;
+    owner.ClientToScreen(&place);
+    CCreateContext context;
+    context.m_pNewViewClass = RUNTIME_CLASS(MultiTreeView);
+    auto frame = std::make_unique<Mortal<Frame>>();
+    const UINT ids[] = {1, 2, 3};
+    const bool made = frame->Create(nullptr, contents.text.c_str(), WS_POPUP | WS_CAPTION, place,
+                                    &owner, nullptr, 0, &context) &&
+                      frame->tools.Create(frame.get()) && frame->status.Create(frame.get()) &&
+                      frame->tools.SetButtons(ids, 3);
+    if (made)
+    {
+        frame->InitialUpdateFrame(nullptr, TRUE);
+    }
+    return made && frame->GetSafeHwnd() != nullptr ? std::move(frame) : nullptr;
+}
+
 std::vector<Subject> MakeSubjects()
 {
-    const std::set<std::string> loops = {"combo", // on its list's bar, in the standard mode
-                                         "list of a combo",
-                                         "report list",
-                                         "report of rows elsewhere",
-                                         "tree",
-                                         "tree of one selection",
-                                         "tree view",
-                                         "form view",
-                                         "property sheet",
-                                         "property page",
-                                         "dialog",
-                                         "message box"};
+    // The combo on its list's bar, in the standard mode.
+    const std::set<std::string> loops = {
+        "combo",          "list of a combo",       "report list", "report of rows elsewhere",
+        "tree",           "tree of one selection", "tree view",   "form view",
+        "property sheet", "property page",         "dialog",      "message box",
+        "frame"};
     std::vector<Control> controls = Catalog::All();
     controls.push_back(
         {"list box of values", Catalog::MadeList<ListOfValues>(LBS_OWNERDRAWVARIABLE | LBS_SORT |
                                                                LBS_WANTKEYBOARDINPUT)});
+    controls.push_back({"frame", &MakeFrame});
     controls.push_back({"report of rows elsewhere", &Catalog::MakeReport<LVS_OWNERDATA>});
     controls.push_back({"tree of one selection", [](CWnd& parent, const Contents& contents) {
                             auto tree = Catalog::MakeTree(parent, contents);
