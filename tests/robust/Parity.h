@@ -60,21 +60,16 @@ protected:
     {
         for (const DWORD style : styles)
         {
-            CompareIn<Ours, Platforms>(windowClass, style, script);
-        }
-    }
-
-private:
-    template <class Ours, class Platforms, class Script>
-    void CompareIn(const char* windowClass, DWORD style, Script script)
-    {
-        const std::string platforms = Played<Platforms>(windowClass, style, script, false, false);
-        EXPECT_NE(platforms, "");
-        for (const auto& [before, within] : {std::pair{false, false}, {true, false}, {false, true}})
-        {
-            EXPECT_EQ(Played<Ours>(windowClass, style, script, before, within), platforms)
-                << windowClass << " of style " << style << ", modes before " << before
-                << ", within " << within;
+            const std::string platforms =
+                Played<Platforms>(windowClass, style, script, false, false);
+            EXPECT_NE(platforms, "");
+            for (const auto& [before, within] :
+                 {std::pair{false, false}, {true, false}, {false, true}})
+            {
+                EXPECT_EQ(Played<Ours>(windowClass, style, script, before, within), platforms)
+                    << windowClass << " of style " << style << ", modes before " << before
+                    << ", within " << within;
+            }
         }
     }
 };
