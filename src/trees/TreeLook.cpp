@@ -472,7 +472,7 @@ void TreeLook::PaintRow(CDC& dc, const Row& row)
     const bool enabled = window.IsWindowEnabled();
     const bool marked = (row.state & (TVIS_SELECTED | TVIS_DROPHILITED)) != 0;
     CRect label = row.text;
-    if (marked && (style & TVS_FULLROWSELECT) != 0)
+    if (enabled && marked && (style & TVS_FULLROWSELECT) != 0)
     {
         CRect full = m_items.Rect(row.item, false);
         dc.FillSolidRect(full, palette::Highlight);

@@ -345,6 +345,10 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
         EXPECT_EQ(ground(d), Highlight);
         tree.EnableWindow(FALSE);
         EXPECT_TRUE(ShowsWhatAPaintWould(tree));
+        tree.ModifyStyle(0, TVS_FULLROWSELECT);
+        Repaint(tree);
+        EXPECT_EQ(WindowPixels(tree).At(230, TextRectOf(tree, d).top + 2), ground(d));
+        tree.ModifyStyle(TVS_FULLROWSELECT, 0);
         tree.EnableWindow();
     }
     Repaint(tree);
