@@ -145,8 +145,8 @@ constexpr Act<CustomToolbar> ToolActs[] = {
 template <class Tree> constexpr Act<Tree> TreeActs[] = {
     [](auto& tree, int row, const char*) { tree.SetMultiSelect(row % 2 == 0); },
     [](auto& tree, int row, const char*) {
-        constexpr DWORD Styles[] = {TVS_EDITLABELS, TVS_SINGLEEXPAND};
-        tree.ModifyStyle(Styles[row & 1], row & 2 ? Styles[row & 1] : 0);
+        const DWORD style = row & 1 ? TVS_EDITLABELS : TVS_SINGLEEXPAND;
+        tree.ModifyStyle(style, row & 2 ? style : 0);
     },
 };
 // Not constexpr, which only one of the compilers takes.
