@@ -55,8 +55,7 @@ std::set<int> CCustomListCtrl::SelectedInSight()
     {
         const WindowAlive alive(*this); // an owner may be asked for the states of its rows
         GetClientRect(&client);
-        m_paintedRows =
-            RowsDrawn(first.Height(), int(client.bottom), int(Ask(LVM_GETITEMCOUNT)));
+        m_paintedRows = RowsDrawn(first.Height(), int(client.bottom), int(Ask(LVM_GETITEMCOUNT)));
         GetSelectedRows(rows);
         if (alive)
         {

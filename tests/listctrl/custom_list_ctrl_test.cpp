@@ -64,14 +64,11 @@ TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
          },
          "vh", 2},
         {"a line", [&] { list.PerformVScroll(SB_LINEDOWN); }, "vh", 3},
-        {"text", [&] { list.SetItemText(4, 0, "changed"); }, "vh", 3},
-        {"state", [&] { list.SetItemState(6, 3, 3); }, "vh", 3},
         {"sorted", [&] { list.SortItems([](LPARAM, LPARAM, LPARAM) { return 0; }, 0); }, "vh", Any},
         {"page", [&] { list.PerformVScroll(SB_PAGEDOWN); }, "vh", Any},
         {"to the end", [&] { list.PerformVScroll(SB_BOTTOM), list.PerformHScroll(SB_RIGHT); }, "vh",
          Any},
         {"last row deleted", [&] { list.DeleteItem(299); }, "vh", Any},
-        {"a line up", [&] { list.PerformVScroll(SB_LINEUP); }, "vh", Any},
         {"row inserted", [&] { list.InsertItem(list.TopRow() + 2, "new"); }, "vh", Any},
         {"column of an odd width", [&] { list.InsertColumn(1, "", LVCFMT_LEFT, INT_MAX); }, "vh",
          Any},
@@ -301,7 +298,6 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     Host().hook = hook;
     // Nor are rows asked for that it was not told of, wherever it scrolls to in its answer.
     list.SetItemCount(count = 1000);
-    PumpAll();
     Host().hook = [&](ToldMessage& told) {
         hook(told);
         told.code == UINT(LVN_ODCACHEHINT) ? list.EnsureVisible(500, FALSE) : FALSE;
