@@ -75,6 +75,7 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_WM_CTLCOLOR()
     ON_WM_GETMINMAXINFO()
     ON_WM_NCHITTEST()
+    ON_MESSAGE(WM_EXITMENULOOP, &GalleryFrame::OnExitMenuLoop)
     ON_MESSAGE(WM_MOVING, &GalleryFrame::OnDragged)
     ON_MESSAGE(WM_SIZING, &GalleryFrame::OnDragged)
     ON_WM_ACTIVATE()
@@ -438,6 +439,14 @@ LRESULT GalleryFrame::OnNcHitTest(CPoint point)
     };
     const LRESULT edge = Edges[along(point.y, area.bottom)][along(point.x, area.right)];
     return edge == HTCLIENT && CurrentLayout().caption.PtInRect(point) ? HTCAPTION : edge;
+}
+
+// The platform paints the icon of its caption when a system menu opens and ends, on whatever is
+// there.
+LRESULT GalleryFrame::OnExitMenuLoop(WPARAM, LPARAM)
+{
+    RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
+    return 0;
 }
 
 // A key may switch the mode while the pointer holds the caption or an edge: what covers the screen
