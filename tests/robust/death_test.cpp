@@ -73,10 +73,8 @@ void QueuePress(CPoint point, CPoint to, bool right)
 // By itself a control is silent about some things.
 void HaveItSpeak(CWnd& control)
 {
-    constexpr std::pair<const char*, DWORD> styles[] = {{"Button", BS_NOTIFY},
-                                                        {"Static", SS_NOTIFY},
-                                                        {WC_HEADER, HDS_DRAGDROP},
-                                                        {WC_TREEVIEW, TVS_SINGLEEXPAND}};
+    constexpr std::pair<const char*, DWORD> styles[] = {
+        {"Button", BS_NOTIFY}, {"Static", SS_NOTIFY}, {WC_HEADER, HDS_DRAGDROP}};
     for (const auto& [windowClass, style] : styles)
     {
         control.ModifyStyle(0, IsOfClass(control, windowClass) ? style : 0);
@@ -90,6 +88,7 @@ void HaveItSpeak(CWnd& control)
         item.hItem = TreeView_GetRoot(control);
         item.pszText = LPSTR_TEXTCALLBACK;
         control.SendMessage(TVM_SETITEM, 0, LPARAM(&item));
+        control.ModifyStyle(0, TVS_SINGLEEXPAND);
     }
     if (auto* const bar = dynamic_cast<CToolBar*>(&control))
     {
@@ -143,8 +142,8 @@ private:
     void Input()
     {
         m_play.Paint(m_window);
-        const bool tree = IsOfClass(m_window, WC_TREEVIEW); // an item's text there
-        const CPoint first = m_place.TopLeft() + (tree ? CPoint(60, 30) : CPoint(20, 32));
+        const int inside = IsOfClass(m_window, WC_TREEVIEW) ? 60 : 20; // on the text of an item
+        const CPoint first(m_place.left + inside, m_place.top + 32);
         CPoint heading(20, 8);
         ::ClientToScreen(m_window, &heading);
         const CPoint divider = heading + CPoint(70, 0); // the end of a heading, where there is one

@@ -314,8 +314,6 @@ TEST_F(MultiTreeInputTest, ABandSelectsWhatItMeetsAndLeavesNoTrace)
     EXPECT_EQ(SelectedTexts(tree), "bde") << "with Ctrl it adds";
     Band(tree, d).Move(PointOf(tree, e)).Release();
     EXPECT_EQ(SelectedTexts(tree), "de");
-    PressScript(EmptyBeside(tree, f), {VK_CONTROL}).Release();
-    EXPECT_EQ(SelectedTexts(tree), "de");
     PressScript(EmptyBeside(tree, f)).Release();
     EXPECT_EQ(SelectedTexts(tree), "") << "a press alone clears";
     EXPECT_EQ(Codes().back(), int(NM_CLICK));

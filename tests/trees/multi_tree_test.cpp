@@ -326,6 +326,7 @@ TEST_F(MultiTreeTest, NothingIsDoneWithNoItemNoWindowAndNoParent)
 TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
 {
     auto& tree = AddTree();
+    tree.ModifyStyle(0, TVS_FULLROWSELECT);
     tree.SelectItem(d);
     tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
     {
@@ -344,10 +345,7 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
         EXPECT_EQ(ground(d), Highlight);
         tree.EnableWindow(FALSE);
         EXPECT_TRUE(ShowsWhatAPaintWould(tree));
-        tree.ModifyStyle(0, TVS_FULLROWSELECT);
-        Repaint(tree);
         EXPECT_EQ(WindowPixels(tree).At(230, TextRectOf(tree, d).top + 2), ground(d));
-        tree.ModifyStyle(TVS_FULLROWSELECT, 0);
         tree.EnableWindow();
     }
     Repaint(tree);
