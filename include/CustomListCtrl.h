@@ -265,8 +265,8 @@ private:
     };
 
     // The row that a press hits, among the platform's unscrolled rows and among those that are
-    // drawn; -1: none. Whether they differ, and whether it hits the check box of either where they
-    // may.
+    // drawn; -1: none. Whether these stand elsewhere, and then whether it hits the check box of
+    // either.
     struct PressHit
     {
         int platform = -1;
@@ -293,7 +293,7 @@ private:
     bool m_settling = false;
     bool m_fitting = false;
     bool m_activating = false; // by the pointer
-    bool m_labelDue = false;   // the edit of a label is to be placed over the row that is drawn
+    bool m_labelDue = false;   // the edit that is begun is to be placed over the row that is drawn
     int m_fittedColumn = -1;   // the last column, once it fills the list
     CRect m_fittedTo;          // client width and place of that column when it was fitted
     std::vector<ColumnWidth> m_columnWidths;

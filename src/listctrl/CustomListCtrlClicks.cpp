@@ -234,7 +234,7 @@ CCustomListCtrl::PressHit CCustomListCtrl::HitBy(const CPoint& point)
     const bool full = (Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_FULLROWSELECT) != 0;
     const bool hits = full || ColumnAt(point.x - int(m_drawOffset.x)) == 0;
     const int drawn = hits ? RowAt(full ? CPoint(int(m_drawOffset.x), int(point.y)) : point) : -1;
-    PressHit hit = {platform, drawn, TopRow() != 0 || drawn != platform};
+    PressHit hit = {platform, drawn, true};
     if ((Ask(LVM_GETEXTENDEDLISTVIEWSTYLE) & LVS_EX_CHECKBOXES) != 0)
     {
         LVHITTESTINFO box = {};

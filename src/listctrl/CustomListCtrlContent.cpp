@@ -241,8 +241,7 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
         m_pressedTop = TopRow(); // a row that is held is the one that is drawn there by now
     }
     const WindowAlive alive(*this);
-    const bool edits =
-        message == LVM_EDITLABELA || message == LVM_EDITLABELW || message == WM_TIMER;
+    const bool edits = message == LVM_EDITLABELA || message == LVM_EDITLABELW;
     if (edits && std::exchange(m_labelDue, false) && m_drawOffset != CPoint(0, 0))
     {
         FollowLabelEdit();

@@ -321,7 +321,8 @@ LRESULT CCustomListCtrl::OnEditLabel(WPARAM wParam, LPARAM)
 {
     const WindowAlive alive(*this);
     const int row = int(wParam);
-    if (InOnBoard() && row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)))
+    m_labelDue = InOnBoard();
+    if (m_labelDue && row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)))
     {
         CRect heading;
         CRect client;
@@ -336,10 +337,12 @@ LRESULT CCustomListCtrl::OnEditLabel(WPARAM wParam, LPARAM)
     return alive ? Default() : 0;
 }
 
-BOOL CCustomListCtrl::OnLvnBeginlabeledit(NMHDR*, LRESULT*)
+// An edit that the platform begins by itself comes of a click before the list was scrolled, by the
+// user or by a change of the mode: it would lie over another row.
+BOOL CCustomListCtrl::OnLvnBeginlabeledit(NMHDR*, LRESULT* result)
 {
-    m_labelDue = InOnBoard();
-    return FALSE;
+    *result = InOnBoard() && !m_labelDue && m_drawOffset != CPoint(0, 0);
+    return *result != FALSE;
 }
 
 // After the rows were scrolled: what is on the screen moves along, so that only the rows that come

@@ -108,40 +108,45 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
 TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)
 {
     const DoubleClickTime time(200);
-    auto& list = AddList(100, 3, ReportStyle | LVS_EDITLABELS);
+    auto& list = AddList(100, 8, ReportStyle | LVS_EDITLABELS);
+    bool over = false; // the row, as it is drawn
     const auto edits = [&](int row) {
-        PumpUntil([&] { return list.GetEditControl() != nullptr; }, 400);
-        const CWnd* const edit = list.GetEditControl();
-        const bool here = edit != nullptr && PlaceIn(list, *edit).PtInRect(list.RowPoint(row));
+        const bool begun = PumpUntil([&] { return list.GetEditControl() != nullptr; }, 400);
+        over = list.HasEditOver(row);
         list.SendMessage(LVM_CANCELEDITLABEL);
-        return edit != nullptr && here;
+        return begun;
     };
-    const Act<> others[] = {{"key", [&] { TypeKey(VK_F9); }},
-                            {"second click", [&] { Click(ClientPoint(list, list.RowPoint(33))); }},
-                            {"scrolled", [&] { list.PerformVScroll(SB_LINEDOWN); }},
-                            {"row gone", [&] { list.DeleteItem(0); }},
-                            {"focus", [&] { Host().SetFocus(); }}};
-    for (const int top : {0, 30})
+    const std::tuple<const char*, int, std::function<void()>> others[] = {
+        {"key", 33, [&] { TypeKey(VK_F9); }},
+        {"second click", 33, [&] { Click(ClientPoint(list, list.RowPoint(33))); }},
+        {"scrolled", 33, [&] { list.PerformVScroll(SB_LINEDOWN); }},
+        {"scrolled from the top", 3, [&] { list.PerformVScroll(SB_LINEDOWN); }},
+        {"row gone", 33, [&] { list.DeleteItem(0); }},
+        {"focus", 33, [&] { Host().SetFocus(); }}};
+    for (const auto& [top, across] : {std::pair(0, 0), {0, 1}, {30, 0}, {30, 1}})
     {
         list.PerformVScroll(top, list.m_vBar.GetScrollPos());
+        list.PerformHScroll(across, list.m_hBar.GetScrollPos());
         list.SetFocus();
         list.SetItemState(-1, 0, 3);
         list.SetItemState(top + 3, 3, 3);
         Click(ClientPoint(list, list.RowPoint(top + 3)));
-        EXPECT_TRUE(edits(top + 3)) << top;
+        EXPECT_TRUE(edits(top + 3) && over) << top << across;
         Click(ClientPoint(list, list.RowPoint(top + 4)));
         EXPECT_FALSE(edits(top + 4)) << "it was not selected";
         Click(ClientPoint(list, list.RowPoint(top + 4, list.GetColumnWidth(0) + 20)));
         EXPECT_FALSE(edits(top + 4)) << "not on its label";
     }
-    for (const auto& [name, act] : others)
+    list.PerformHScroll(SB_LEFT);
+    for (const auto& [name, row, act] : others)
     {
+        list.PerformVScroll(row - 3, list.m_vBar.GetScrollPos());
         list.SetFocus();
         list.SetItemState(-1, 0, 3);
-        list.SetItemState(33, 3, 3);
-        Click(ClientPoint(list, list.RowPoint(33)));
+        list.SetItemState(row, 3, 3);
+        Click(ClientPoint(list, list.RowPoint(row)));
         act();
-        EXPECT_FALSE(edits(33)) << name;
+        EXPECT_FALSE(edits(row)) << name;
     }
 }
 

@@ -55,6 +55,16 @@ public:
         SetRedraw(TRUE);
     }
 
+    // Whether the edit of a row's label lies over it as it is drawn.
+    bool HasEditOver(int row)
+    {
+        CRect label;
+        const CWnd* const edit = GetEditControl();
+        GetItemRect(row, &label, LVIR_LABEL);
+        return edit != nullptr &&
+               PlaceIn(*this, *edit).TopLeft() == label.TopLeft() + m_drawOffset - CSize(2, 1);
+    }
+
     int RowHeight() const { return ItemRectOf(*this, 0).Height(); }
 
     int TopRow() const { return -int(m_drawOffset.y) / RowHeight(); }
