@@ -15,8 +15,8 @@ class CCustomListCtrl;
 //
 // In an on-board mode it paints itself, shifted by the offset by which the list is scrolled
 // sideways, and resizes columns itself: a press less than ten pixels from a divider holds it, the
-// width is applied on release. It also lives without a list, then without resizing anybody's
-// columns.
+// width is applied on release. While a heading is dragged to another place the divider is marked
+// where it would be put. It also lives without a list, then without resizing anybody's columns.
 class ONBOARDUI_API CCustomListCtrlHdr : public CHeaderCtrl
 {
     DECLARE_DYNCREATE(CCustomListCtrlHdr)
@@ -103,7 +103,9 @@ private:
     bool m_dragged = false;
     bool m_farPress = false; // an item is pressed of which the platform is not told
     int m_hotDivider = -1;   // where a dragged column would be put; -1: nowhere
+    bool m_moving = false;   // the platform drags a heading to another place
     CPoint m_pressPoint;     // in client coordinates
+    CPoint m_pressTold;      // where the platform knows of it
     CFont m_themeFont;
 
     friend class CCustomListCtrl;
@@ -120,6 +122,8 @@ private:
     bool IsFixed(int item) const;
     int DividerAt(int x) const;
     LRESULT DefaultAt(UINT message, UINT flags, CPoint point);
+    bool IsUnmoved(CPoint point) const;
+    void ShowMove(CPoint point);
     void EndFarPress(int pressed, CPoint point);
     void LoadArrows();
     void TakeThemeFont();

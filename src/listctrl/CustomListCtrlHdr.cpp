@@ -59,6 +59,7 @@ void CCustomListCtrlHdr::PreSubclassWindow()
     m_tracking = false;
     m_dragged = false;
     m_farPress = false;
+    m_moving = false;
     m_oldCursor = nullptr;
     m_pressedItem = -1;
     m_hotDivider = -1;

@@ -9,6 +9,7 @@
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
+#include <algorithm>
 #include <climits>
 #include <cstdlib>
 #include <utility>
@@ -62,17 +63,30 @@ int CCustomListCtrlHdr::DividerAt(int x) const
     return found;
 }
 
+// Whether a press and this point are one for a finger.
+bool CCustomListCtrlHdr::IsUnmoved(CPoint point) const
+{
+    return std::abs(point.x - m_pressPoint.x) <= ::GetSystemMetrics(SM_CXDRAG) &&
+           std::abs(point.y - m_pressPoint.y) <= ::GetSystemMetrics(SM_CYDRAG);
+}
+
 // The platform's processing of a pointer message, at the point of the unshifted header. What is an
-// item's for us is not a divider for the platform, which would begin to resize by itself.
+// item's for us is not a divider for the platform, which would begin to resize by itself. A heading
+// that can be put elsewhere is so by the way from the press as the platform knows it.
 LRESULT CCustomListCtrlHdr::DefaultAt(UINT message, UINT flags, CPoint point)
 {
+    const bool movable = (GetStyle() & HDS_DRAGDROP) != 0 && ::GetCapture() == m_hWnd &&
+                         message != WM_LBUTTONDOWN && !m_farPress;
+    const bool unmoved = movable && IsUnmoved(point);
     point.x -= m_offset.x;
+    point = unmoved ? m_pressTold : point;
     const int item = ItemAt(point);
     HDHITTESTINFO hit = {};
     hit.pt = point;
     Ask(HDM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit));
     CRect rect;
-    if (item != -1 && (hit.flags & (HHT_ONDIVIDER | HHT_ONDIVOPEN)) != 0 && ItemRect(item, rect))
+    if (!movable && item != -1 && (hit.flags & (HHT_ONDIVIDER | HHT_ONDIVOPEN)) != 0 &&
+        ItemRect(item, rect))
     {
         point.x = rect.CenterPoint().x;
         hit.pt = point;
@@ -92,6 +106,7 @@ LRESULT CCustomListCtrlHdr::DefaultAt(UINT message, UINT flags, CPoint point)
         const bool begins = item != -1 && item == ItemAt(CPoint(Farthest, point.y));
         point = CPoint(Farthest, begins ? int(point.y) : -1);
     }
+    m_pressTold = message == WM_LBUTTONDOWN ? point : m_pressTold;
     return DefWindowProc(message, flags, MAKELPARAM(point.x, point.y));
 }
 
@@ -126,6 +141,7 @@ void CCustomListCtrlHdr::OnLButtonDown(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
     m_pressPoint = point;
+    m_pressTold = point;
     m_dragged = false;
     m_farPress = false;
     if (!COnBoardUIGeneral::InOnBoardMode())
@@ -200,7 +216,15 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
     }
     if (!m_tracking)
     {
+        if (m_moving)
+        {
+            CImageList::DragShowNolock(FALSE); // it would stand where the header is not shifted
+        }
         DefaultAt(WM_MOUSEMOVE, flags, point);
+        if (alive)
+        {
+            ShowMove(point);
+        }
         return;
     }
     m_dragged = m_dragged || point.x != m_pressPoint.x;
@@ -220,6 +244,33 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
     if (alive)
     {
         Invalidate(FALSE); // the line at the pointer
+    }
+}
+
+// The platform, which drags a heading to another place, shows where to only as it paints itself.
+void CCustomListCtrlHdr::ShowMove(CPoint point)
+{
+    CRect last;
+    m_moving = (GetStyle() & HDS_DRAGDROP) != 0 && ::GetCapture() == m_hWnd &&
+               m_pressedItem != -1 && CImageList::GetDragImage(nullptr, nullptr) != nullptr;
+    if (!m_moving || !COnBoardUIGeneral::InOnBoardMode() ||
+        !ItemRect(int(Ask(HDM_ORDERTOINDEX, WPARAM(Ask(HDM_GETITEMCOUNT) - 1))), last))
+    {
+        return;
+    }
+    // Beside all items it is put at that end, and as well above and below them.
+    const auto end = int(m_offset.x + last.right - 1);
+    const int x = std::clamp(int(point.x), int(m_offset.x), std::max(int(m_offset.x), end));
+    OnSetHotDivider(TRUE, MAKELPARAM(x, 0));
+    CPoint picture(point.x, 0);
+    ClientToScreen(&picture);
+    const WindowAlive alive(*this);
+    CImageList::DragShowNolock(FALSE);
+    CImageList::DragMove(picture);
+    UpdateWindow();
+    if (alive && m_moving)
+    {
+        CImageList::DragShowNolock(TRUE);
     }
 }
 
@@ -255,6 +306,10 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
         }
     }
     const int pressed = m_pressedItem;
+    if (std::exchange(m_moving, false))
+    {
+        m_hotDivider = -1;
+    }
     if (m_tracking)
     {
         EndTracking();
@@ -283,6 +338,11 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
     }
     else
     {
+        if (pressed == -1)
+        {
+            // A drag that was cut off puts nothing elsewhere.
+            Ask(HDM_SETHOTDIVIDER, FALSE, -1);
+        }
         DefaultAt(WM_LBUTTONUP, flags, point);
     }
     if (alive && COnBoardUIGeneral::InOnBoardMode()) // who was told may have changed it
@@ -322,6 +382,12 @@ void CCustomListCtrlHdr::EndTracking()
     m_tracking = false;
     m_farPress = false;
     m_pressedItem = -1;
+    if (std::exchange(m_moving, false))
+    {
+        m_hotDivider = -1;
+        CImageList::DragShowNolock(FALSE); // not every platform ends its drag by itself
+        CImageList::EndDrag();
+    }
     const HCURSOR cursor = m_oldCursor;
     m_oldCursor = nullptr;
     if (::GetCapture() == GetSafeHwnd())

@@ -55,13 +55,24 @@ void CCustomListCtrlHdr::OnPaint()
         }
         return;
     }
-    CPaintDC dc(this);
-    if (!alive)
+    if (m_moving)
     {
-        return;
+        CImageList::DragShowNolock(FALSE); // the dragged heading, which lies over what is painted
     }
-    BackBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
-    DrawOB(buffer);
+    {
+        CPaintDC dc(this);
+        if (!alive)
+        {
+            return;
+        }
+        BackBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
+        DrawOB(buffer);
+    }
+    if (alive && m_moving)
+    {
+        ::GdiFlush(); // what was painted has to lie on the screen before
+        CImageList::DragShowNolock(TRUE);
+    }
 }
 
 void CCustomListCtrlHdr::DrawOB(CDC& dc)

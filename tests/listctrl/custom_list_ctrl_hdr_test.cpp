@@ -271,14 +271,6 @@ TEST_F(ListCtrlTest, AHeadingThatCannotBeClickedIsReleasedWhereverThePressEnds)
                     testing::Not(testing::Contains(UINT(LVN_COLUMNCLICK))));
         Remove(list);
     }
-    // Nor does the platform's drag of a divider go on that has come to an on-board mode.
-    auto& list = AddList(60, 6);
-    Press(list.DividerPoint(1));
-    DragTo(list.DividerPoint(1, 40));
-    SetMode(ONBOARD, Host());
-    DragTo(list.DividerPoint(1, 20));
-    Release();
-    EXPECT_EQ(::GetCapture(), nullptr);
 }
 
 TEST_F(ListCtrlTest, TheLeastWidthHoldsInADrag)
@@ -433,6 +425,38 @@ TEST_F(ListCtrlOnBoard, TheHotDividerIsNextToTheItemUnderThePoint)
         header.OBScrollHeader(scrolled, TRUE);
         EXPECT_EQ(header.SetHotDivider(CPoint(x, 5)), divider) << x;
     }
-    header.OBResetScroll(TRUE);
-    EXPECT_EQ(HeaderAccess::Offset(header), CPoint(0, 0));
+}
+
+TEST_F(ListCtrlOnBoard, AHeadingIsDraggedToTheDividerThatIsShown)
+{
+    for (const int steps : {0, 2}) // sideways
+    {
+        auto& list = AddList(10, 6);
+        list.SetExtendedStyle(LVS_EX_HEADERDRAGDROP);
+        list.PerformHScroll(steps, 0);
+        const int x = int(list.ColumnRect(1).right + list.m_drawOffset.x);
+        const auto look = [&] { return WindowPixels(list.m_header).At(x, 3); };
+        for (const bool released : {false, true})
+        {
+            Press(list.DividerPoint(3, released ? -30 : -50)); // no double click
+            const CPoint pointer = list.DividerPoint(1, -40);
+            DragTo(pointer);
+            CPoint picture;
+            ::ImageList_GetDragImage(&picture, nullptr);
+            EXPECT_EQ(picture, CPoint(pointer.x, WindowRectOf(list.m_header).top));
+            EXPECT_EQ(look(), palette::Highlight) << steps;
+            released ? void() : void(::ReleaseCapture());
+            DragTo(list.DividerPoint(1, -5));
+            EXPECT_EQ(::ImageList_GetDragImage(nullptr, nullptr) != nullptr, released);
+            Release();
+            EXPECT_NE(look(), palette::Highlight);
+            EXPECT_EQ(list.m_header.OrderToIndex(2), released ? 3 : 2) << steps;
+            EXPECT_TRUE(ShowsWhatAPaintWould(list));
+            list.ExpectInStep("dragged");
+        }
+        Drag(list.DividerPoint(0, -11), list.DividerPoint(0, -8)); // a finger that trembles
+        EXPECT_THAT(Host().CodesFrom(FirstId), testing::Contains(UINT(LVN_COLUMNCLICK)).Times(1));
+        Remove(list);
+        Host().Forget();
+    }
 }
