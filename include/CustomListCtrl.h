@@ -353,7 +353,7 @@ private:
     void MoveTo(int axis, int position);
     void HomeSideways();
     void EndLabelEdit();
-    void FollowLabelEdit();
+    void FollowLabelEdit(bool bring = false);
     void ShiftPixels(int dy);
     void InvalidateRows(int first, int last);
     void InvalidateEach(const std::set<int>& rows);

@@ -344,9 +344,9 @@ void CCustomListCtrl::OnSize(UINT type, int width, int height)
     {
         RestoreView();
     }
-    if (alive && placed)
+    if (alive && (placed || InOnBoard()))
     {
-        FollowLabelEdit();
+        FollowLabelEdit(InOnBoard()); // a keyboard on the screen may have taken the room
     }
 }
 

@@ -104,7 +104,12 @@ void CCustomListCtrl::UpdateVScrollData()
     // An empty list has nothing to scroll back by a line.
     if (items > 0 && m_vBar.GetScrollPos() > data.Limit())
     {
+        const std::optional<View> kept = m_view; // nobody has chosen this step
         PerformVScroll(SB_LINEUP);
+        if (alive)
+        {
+            m_view = kept;
+        }
     }
     if (alive)
     {
@@ -179,6 +184,10 @@ void CCustomListCtrl::PerformVScroll(int newPos, int oldPos)
     if (m_vBar.GetScrollPos() != newPos)
     {
         m_vBar.SetScrollPos(newPos, TRUE);
+    }
+    if (newPos != oldPos)
+    {
+        m_view.reset(); // what is in sight was chosen since the mode has changed
     }
     const LONGLONG down = (LONGLONG{newPos} - oldPos) * m_scrollUnit.cy;
     const int before = int(m_drawOffset.y);
@@ -295,8 +304,8 @@ void CCustomListCtrl::EndLabelEdit()
 }
 
 // The edit of a label stays with its row, which has the focus, when the rows become higher or less
-// high; it ends when the row is not in sight any more.
-void CCustomListCtrl::FollowLabelEdit()
+// high; it ends when the row is not in sight any more, unless it is to be brought there.
+void CCustomListCtrl::FollowLabelEdit(bool bring)
 {
     const auto edit = HWND(Ask(LVM_GETEDITCONTROL));
     const int row = edit == nullptr ? -1 : NextRow(-1, LVNI_FOCUSED);
@@ -306,11 +315,19 @@ void CCustomListCtrl::FollowLabelEdit()
     {
         return;
     }
+    if (alive && bring && row >= 0 && m_vBar.ShowScrollBar())
+    {
+        MoveTo(SB_VERT, listctrl::TopToShow(row, TopRow(), RowsInSight()));
+    }
+    if (!alive)
+    {
+        return;
+    }
     label.OffsetRect(m_drawOffset);
     CRect area;
     GetClientRect(&area);
     area.top = HeaderBottom();
-    if (alive && !PlaceLabelEdit(edit, label, area, Ask(WM_GETFONT)))
+    if (!PlaceLabelEdit(edit, label, area, Ask(WM_GETFONT)))
     {
         EndLabelEdit();
     }

@@ -103,6 +103,16 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
         ASSERT_EQ(list.GetEditControl()->GetSafeHwnd(), edit);
         EXPECT_TRUE(ItemRectOf(list, 3).PtInRect(PlaceIn(list, edit).CenterPoint())) << mode;
     }
+    // With a keyboard on the screen the list is lower, and a wider one has wider steps.
+    ASSERT_NE(list.EditLabel(40), nullptr);
+    list.MoveWindow(20, 20, 400, 200);
+    EXPECT_TRUE(list.HasEditOver(40));
+    std::rotate(order, order + 1, order + 3);
+    list.SetColumnOrderArray(8, order);
+    list.PerformHScroll(2, list.m_hBar.GetScrollPos());
+    ASSERT_NE(list.EditLabel(40), nullptr);
+    list.MoveWindow(20, 20, 500, 200);
+    EXPECT_TRUE(list.HasEditOver(40));
 }
 
 TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)

@@ -339,6 +339,10 @@ TEST_F(ListCtrlTest, SwitchingModesKeepsTheTopRowOrTheSelectionInSight)
             list.ExpectInStep("in this mode");
         }
     }
+    list.PerformVScroll(SB_PAGEDOWN); // by an heir
+    const int top = list.TopRow();
+    list.MoveWindow(20, 20, 400, 300);
+    EXPECT_EQ(list.TopRow(), top);
     COnBoardUIGeneral::SetAppMode(STD);
 }
 
