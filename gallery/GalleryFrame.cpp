@@ -76,8 +76,6 @@ BEGIN_MESSAGE_MAP(GalleryFrame, CFrameWnd)
     ON_WM_GETMINMAXINFO()
     ON_WM_NCHITTEST()
     ON_MESSAGE(WM_EXITMENULOOP, &GalleryFrame::OnExitMenuLoop)
-    ON_MESSAGE(WM_MOVING, &GalleryFrame::OnDragged)
-    ON_MESSAGE(WM_SIZING, &GalleryFrame::OnDragged)
     ON_WM_ACTIVATE()
     ON_WM_SETFOCUS()
     ON_WM_MOUSEWHEEL()
@@ -447,17 +445,6 @@ LRESULT GalleryFrame::OnExitMenuLoop(WPARAM, LPARAM)
 {
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ALLCHILDREN);
     return 0;
-}
-
-// A key may switch the mode while the pointer holds the caption or an edge: what covers the screen
-// by then has neither, by which it could be put back.
-LRESULT GalleryFrame::OnDragged(WPARAM, LPARAM proposed)
-{
-    if (CoversScreen(COnBoardUIGeneral::GetAppMode()))
-    {
-        GetWindowRect(reinterpret_cast<RECT*>(proposed));
-    }
-    return TRUE;
 }
 
 void GalleryFrame::ParentWasTold(const CString& what)

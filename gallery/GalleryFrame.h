@@ -58,7 +58,6 @@ private:
     afx_msg void OnGetMinMaxInfo(MINMAXINFO* info);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg LRESULT OnExitMenuLoop(WPARAM ofShortcut, LPARAM);
-    afx_msg LRESULT OnDragged(WPARAM, LPARAM proposed);
     afx_msg void OnActivate(UINT state, CWnd* other, BOOL minimized);
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnModeCommand(UINT id);

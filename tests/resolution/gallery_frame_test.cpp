@@ -113,21 +113,6 @@ TEST_F(SmallGallery, TheControlsOfAPageArePlacedInAModeBeforeTheyAreSeen)
     ::RemoveWindowSubclass(*Page().GetWindow(GW_CHILD), note, 0);
 }
 
-TEST_F(SmallGallery, WhatCoversTheScreenIsNotDraggedOffIt)
-{
-    Open(STD, 40);
-    for (const bool edge : {false, true})
-    {
-        m_frame->SwitchMode(STD);
-        const CRect place = WindowRectOf(m_window);
-        const CPoint grip(edge ? place.right - 2 : place.left + 200, place.top + (edge ? 100 : 12));
-        PlaySteps({[=] { QueueMove(grip); }, [] { QueueButton(true); },
-                   [=] { QueueMove(grip + CPoint(9, 9)); }, [&] { m_frame->SwitchMode(EFBFS); },
-                   [=] { QueueMove(grip + CPoint(40, 40)); }, [] { QueueButton(false); }});
-        EXPECT_EQ(WindowRectOf(m_window), WindowRectOf(::GetDesktopWindow())) << edge;
-    }
-}
-
 TEST_F(SmallGallery, ThePointerScrollsAPageAsFarAsItGoes)
 {
     Open(STD, 60);
