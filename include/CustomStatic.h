@@ -57,6 +57,7 @@ protected:
     afx_msg void OnPaint();
     afx_msg void OnUpdateUIState(UINT action, UINT element);
     afx_msg void OnEnable(BOOL enable);
+    afx_msg void OnSysColorChange();
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnNcPaint();
     afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);

@@ -87,8 +87,9 @@ inline HWND LabelBefore(HWND control)
     return isLabel ? before : nullptr;
 }
 
-// Does what assistive programs ask of a window or of the row that is its WPARAM. Windows post it to
-// themselves: what comes of it may open a dialog, and the program that asks would wait for its end.
+// Does what assistive programs ask of a window or of the row that is its WPARAM, or keys of a tool
+// bar. Windows post it to themselves: what comes of it may open a dialog, and the program that asks
+// would wait for its end.
 constexpr UINT ActMessage = 0x069C;
 
 // The user could not do it where the window is out of reach.

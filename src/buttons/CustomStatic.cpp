@@ -24,6 +24,7 @@ BEGIN_MESSAGE_MAP(CCustomStatic, CStatic)
     ON_WM_PAINT()
     ON_WM_UPDATEUISTATE()
     ON_WM_ENABLE()
+    ON_WM_SYSCOLORCHANGE()
     ON_WM_ERASEBKGND()
     ON_WM_NCPAINT()
     ON_WM_NCCALCSIZE()
@@ -107,8 +108,12 @@ void CCustomStatic::PreSubclassWindow()
 {
     CStatic::PreSubclassWindow();
     m_groupBox = (GetStyle() & StaticTypeBits) == BS_GROUPBOX;
-    SuitTransparencyToMode();
-    ShowTakenOverWithGround(*this);
+    const WindowAlive alive(*this);
+    SuitTransparencyToMode(); // a change of the style is told
+    if (alive)
+    {
+        ShowTakenOverWithGround(*this);
+    }
 }
 
 // A window in the making may lose what was changed before its first message.
@@ -228,6 +233,15 @@ void CCustomStatic::OnEnable(BOOL enable)
         TellEnabled(m_hWnd, enable);
     }
     else
+    {
+        Default();
+    }
+}
+
+// And here.
+void CCustomStatic::OnSysColorChange()
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || !m_groupBox)
     {
         Default();
     }

@@ -95,8 +95,12 @@ void CCustomEdit::PreSubclassWindow()
     m_initialised = m_firstUpdateDone = false;
     m_updating = false;
     m_barShown = m_wantsBar = false;
+    const WindowAlive alive(*this);
     Init();
-    ShowTakenOver(*this);
+    if (alive)
+    {
+        ShowTakenOver(*this);
+    }
 }
 
 void CCustomEdit::Init()

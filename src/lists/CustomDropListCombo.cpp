@@ -267,7 +267,7 @@ void CCustomDropListCombo::AppModeChanged(APPMODE newMode, APPMODE oldMode)
         return;
     }
     m_shapedFor = newMode;
-    m_pickArmed = false; // rows of another height come to lie under the press
+    m_pickArmed = false; // another row may come to lie under the press
     const WindowAlive alive(*this);
     CCustomComboLBox* const list = GetSafeHwnd() == nullptr ? nullptr : List();
     if (list == nullptr)

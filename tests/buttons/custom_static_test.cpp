@@ -77,6 +77,7 @@ TEST_F(StaticOnBoard, ADisabledGroupBoxLooksAsBefore)
         for (const UINT code : {STN_DISABLE, STN_ENABLE})
         {
             group->EnableWindow(code == STN_ENABLE);
+            group->SendMessage(WM_SYSCOLORCHANGE);
             EXPECT_EQ(WindowPixels(*group), enabled) << "nothing in the platform's look";
         }
     }

@@ -2,7 +2,7 @@
 // its on-screen keyboard and its command line.
 
 #include "gallery/RunningGallery.h"
-#include "support_libs/text_file.h"
+#include "support/TextFile.h"
 
 #include <iterator>
 

@@ -2,7 +2,7 @@
 #include "MappedImageList.h"
 #include "VehicleIconList.h"
 #include "support/LiveObjects.h"
-#include "support_libs/text_file.h"
+#include "support/TextFile.h"
 
 #include <gtest/gtest.h>
 

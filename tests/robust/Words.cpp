@@ -76,7 +76,7 @@ const Kind Kinds[] = {
       {LVM_SORTITEMS, Data, Order}, {LVM_SORTITEMSEX, Data, Order}, {LVM_EDITLABEL, Row},
       {LVM_CANCELEDITLABEL}, {LVM_SETVIEW, Fixed, None, LV_VIEW_LIST},
       {LVM_SETVIEW, Fixed, None, LV_VIEW_DETAILS},
-      {0x069A}, {0x069B}, {0x069C}}, // what the library's list posts to itself
+      {0x069A}, {0x069B}}, // what the library's list posts to itself
      ODT_LISTVIEW, {WM_CTLCOLOREDIT},
      {LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_INSERTITEM, LVN_COLUMNCLICK, LVN_ITEMACTIVATE,
       LVN_BEGINDRAG, LVN_BEGINRDRAG, NM_CLICK, NM_DBLCLK, NM_RCLICK, NM_RDBLCLK}},
@@ -144,6 +144,7 @@ const Kind& KindOf(HWND window)
 const std::vector<Word> CommonWords = {
     {WM_CANCELMODE}, {WM_SETTEXT, None, Text}, {WM_SETFONT, Font, Flag}, {WM_SETREDRAW, Flag},
     {WM_SYSCOLORCHANGE}, {WM_VSCROLL, Small}, {WM_HSCROLL, Small, None}, {WM_TIMER, Timer},
+    {0x069C, Row}, // what assistive programs ask of the library's controls
 };
 
 const std::vector<Word> AnyWords = {

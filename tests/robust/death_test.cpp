@@ -6,6 +6,7 @@
 
 #include "CustomPropPage.h"
 #include "CustomPropSheet.h"
+#include "MultiTreeView.h"
 #include "catalog/Makers.h"
 #include "support/WindowTest.h"
 #include "support/forms.h"
@@ -88,7 +89,8 @@ void HaveItSpeak(CWnd& control)
         item.hItem = TreeView_GetRoot(control);
         item.pszText = LPSTR_TEXTCALLBACK;
         control.SendMessage(TVM_SETITEM, 0, LPARAM(&item));
-        control.ModifyStyle(0, TVS_SINGLEEXPAND);
+        control.ModifyStyle(0, dynamic_cast<MultiTreeView*>(&control) != nullptr ? TVS_SINGLEEXPAND
+                                                                                 : 0);
     }
     if (auto* const bar = dynamic_cast<CToolBar*>(&control))
     {
@@ -213,6 +215,12 @@ struct Case
     const Subject* subject;
     const ParentKind* parent;
 };
+
+// The names of the tests would have its bytes, which are others in each run.
+void PrintTo(const Case& tested, std::ostream* out)
+{
+    *out << tested.subject->name << ' ' << tested.parent->name;
+}
 
 class DeathAtAnyMoment : public WindowTest, public testing::WithParamInterface<Case>
 {

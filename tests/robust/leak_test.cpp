@@ -7,8 +7,8 @@
 #include "ViewPolygon.h"
 #include "robust/Subjects.h"
 #include "support/Canvas.h"
+#include "support/TextFile.h"
 #include "support/WindowTest.h"
-#include "support_libs/text_file.h"
 
 #include <K3Chart.h>
 #include <K3Grfx.h>
