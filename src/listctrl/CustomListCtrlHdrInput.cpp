@@ -310,7 +310,8 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
     {
         m_hotDivider = -1;
     }
-    if (m_tracking)
+    const bool tracked = m_tracking;
+    if (tracked)
     {
         EndTracking();
         if (alive && onBoard)
@@ -338,9 +339,9 @@ void CCustomListCtrlHdr::OnLButtonUp(UINT flags, CPoint point)
     }
     else
     {
-        if (pressed == -1)
+        if (tracked || pressed == -1)
         {
-            // A drag that was cut off puts nothing elsewhere.
+            // A drag of a heading that was cut off puts nothing elsewhere.
             Ask(HDM_SETHOTDIVIDER, FALSE, -1);
         }
         DefaultAt(WM_LBUTTONUP, flags, point);

@@ -456,6 +456,13 @@ TEST_F(ListCtrlOnBoard, AHeadingIsDraggedToTheDividerThatIsShown)
         }
         Drag(list.DividerPoint(0, -11), list.DividerPoint(0, -8)); // a finger that trembles
         EXPECT_THAT(Host().CodesFrom(FirstId), testing::Contains(UINT(LVN_COLUMNCLICK)).Times(1));
+        Press(list.DividerPoint(2, -50));
+        DragTo(list.DividerPoint(1, -40));
+        ::ReleaseCapture();
+        DragTo(ClientPoint(list, CPoint(50, 300))); // the header does not see the button go up
+        Release();
+        Drag(list.DividerPoint(0), list.DividerPoint(0, 20));
+        EXPECT_EQ(list.m_header.OrderToIndex(2), 3) << steps;
         Remove(list);
         Host().Forget();
     }
