@@ -301,7 +301,7 @@ void CCustomListCtrl::KeepInStep(UINT message, bool sameMode)
         RestoreView();
         if (alive)
         {
-            FollowLabelEdit();
+            FollowLabelEdit(m_bars->IsLaidOut());
         }
     }
 }

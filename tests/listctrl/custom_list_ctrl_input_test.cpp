@@ -113,6 +113,17 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
     ASSERT_NE(list.EditLabel(40), nullptr);
     list.MoveWindow(20, 20, 500, 200);
     EXPECT_TRUE(list.HasEditOver(40));
+    list.SendMessage(LVM_CANCELEDITLABEL);
+    SetMode(STD, list); // what the mode before had in sight is not asked for any more
+    list.MoveWindow(20, 20, 400, 400);
+    list.EnsureVisible(0, FALSE);
+    list.SetItemState(-1, 0, 3);
+    SetMode(ONBOARD, list);
+    ASSERT_NE(list.EditLabel(7), nullptr);
+    list.MoveWindow(20, 20, 400, 200);
+    EXPECT_TRUE(list.HasEditOver(7));
+    list.SetFont(&CCustomListCtrl::GetOnBoardFont());
+    EXPECT_TRUE(list.HasEditOver(7));
 }
 
 TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)
