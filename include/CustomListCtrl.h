@@ -162,6 +162,7 @@ protected:
     afx_msg void OnWindowPosChanging(WINDOWPOS* position);
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnShowWindow(BOOL show, UINT status);
+    afx_msg void OnStyleChanged(int which, LPSTYLESTRUCT styles);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg LRESULT OnQueryGestures(WPARAM wParam, LPARAM screen);
     afx_msg void OnNcLButtonDown(UINT hitTest, CPoint point);
@@ -201,7 +202,6 @@ protected:
     afx_msg BOOL OnLvnColumnclick(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnNmClick(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnMarqueebegin(NMHDR* header, LRESULT* result);
-    afx_msg BOOL OnLvnBeginlabeledit(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnHottrack(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnGetinfotip(NMHDR* header, LRESULT* result);
     afx_msg BOOL OnLvnItemActivate(NMHDR* header, LRESULT* result);
@@ -379,6 +379,7 @@ private:
     void LetPlatformPress(UINT message, const PressHit& hit, const CPoint& point);
     void TakeBackPress();
     void SelectClicked(const CPoint& point, UINT flags);
+    void LetPlatformEdit(bool lets);
     void AwaitLabelEdit(const CPoint& point);
     void EditClickedLabel();
     static constexpr int LongestText = 512; // characters; no cell shows as many

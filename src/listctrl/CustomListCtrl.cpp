@@ -33,6 +33,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_WM_WINDOWPOSCHANGING()
     ON_WM_ENABLE()
     ON_WM_SHOWWINDOW()
+    ON_WM_STYLECHANGED()
     ON_WM_NCHITTEST()
     ON_MESSAGE(WM_TABLET_QUERYSYSTEMGESTURESTATUS, &CCustomListCtrl::OnQueryGestures)
     ON_WM_NCLBUTTONDOWN()
@@ -79,8 +80,6 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_NOTIFY_REFLECT_EX(LVN_BEGINDRAG, &CCustomListCtrl::OnNmClick)
     ON_NOTIFY_REFLECT_EX(LVN_BEGINRDRAG, &CCustomListCtrl::OnNmClick)
     ON_NOTIFY_REFLECT_EX(LVN_MARQUEEBEGIN, &CCustomListCtrl::OnLvnMarqueebegin)
-    ON_NOTIFY_REFLECT_EX(LVN_BEGINLABELEDITA, &CCustomListCtrl::OnLvnBeginlabeledit)
-    ON_NOTIFY_REFLECT_EX(LVN_BEGINLABELEDITW, &CCustomListCtrl::OnLvnBeginlabeledit)
     ON_NOTIFY_REFLECT_EX(LVN_HOTTRACK, &CCustomListCtrl::OnLvnHottrack)
     ON_NOTIFY_REFLECT_EX(LVN_GETINFOTIPA, &CCustomListCtrl::OnLvnGetinfotip)
     ON_NOTIFY_REFLECT_EX(LVN_GETINFOTIPW, &CCustomListCtrl::OnLvnGetinfotip)
@@ -196,6 +195,7 @@ void CCustomListCtrl::ForgetWindow()
     m_bars->filling.BeginAfresh();
     m_bars->themeFontDue = false;
     m_bars->labelRow = -1;
+    m_bars->editsLabels = true;
     m_bars->hinting = false;
     m_fittedColumn = -1;
     m_columnWidths.clear();

@@ -73,8 +73,8 @@ void CCustomListCtrl::OnLButtonUp(UINT, CPoint point)
     }
 }
 
-// The platform begins the edit of a label by the click on a row that was selected before. In a
-// scrolled list it knows of a click on another row.
+// The edit of a label begins as the platform's does, by the click on a row that was selected
+// before. In a scrolled list that knows of a click on another row.
 void CCustomListCtrl::AwaitLabelEdit(const CPoint& point)
 {
     const WindowAlive alive(*this); // an owner may be asked for the label
@@ -387,6 +387,10 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     m_bars->labelRow = -1;
     const bool focused = ::GetFocus() == GetSafeHwnd();
     const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
+    if (alive)
+    {
+        LetPlatformEdit(false);
+    }
     if (alive && (hit.onBox || hit.onPlatformBox))
     {
         PressBox(hit, point, flags);
@@ -409,7 +413,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         return;
     }
     m_pressedRow = together && hit.scrolled ? hit.drawn : -1;
-    m_bars->labelRow = selected && focused && hit.scrolled ? hit.drawn : -1;
+    m_bars->labelRow = selected && focused ? hit.drawn : -1;
     if ((several || together) && hit.scrolled)
     {
         // What is selected so far is known by rows that the platform would take for others.

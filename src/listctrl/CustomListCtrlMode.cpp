@@ -27,6 +27,10 @@ void CCustomListCtrl::EnterOnBoard()
     TakeHeader();
     if (alive)
     {
+        LetPlatformEdit(false);
+    }
+    if (alive)
+    {
         HoldPlatform();
     }
     if (alive)
@@ -54,6 +58,11 @@ void CCustomListCtrl::LeaveOnBoard()
         return;
     }
     m_bars->End();
+    LetPlatformEdit(true);
+    if (!alive)
+    {
+        return;
+    }
     if (m_header.IsHotTracking() || m_header.m_farPress)
     {
         m_header.EndTracking();

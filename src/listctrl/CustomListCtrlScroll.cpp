@@ -8,6 +8,8 @@
 #include "modes/LabelEdit.h"
 #include "modes/WindowAlive.h"
 
+#include <utility>
+
 // Painting the bars ------------------------------------------------------------------------------
 
 void CCustomListCtrl::DrawBars()
@@ -351,15 +353,42 @@ LRESULT CCustomListCtrl::OnEditLabel(WPARAM wParam, LPARAM)
             MoveTo(SB_HORZ, int(heading.left / m_scrollUnit.cx));
         }
     }
-    return alive ? Default() : 0;
+    if (alive)
+    {
+        LetPlatformEdit(true);
+    }
+    const LRESULT edit = alive ? Default() : 0;
+    if (alive && m_bars->IsLaidOut())
+    {
+        LetPlatformEdit(false);
+    }
+    return alive ? edit : 0;
 }
 
-// An edit that the platform begins by itself comes of a click before the list was scrolled, by the
-// user or by a change of the mode: it would lie over another row.
-BOOL CCustomListCtrl::OnLvnBeginlabeledit(NMHDR*, LRESULT* result)
+// The platform would begin an edit by itself some time after a click, and select its row: that of
+// an earlier click, or of one before the list was scrolled. On-board the list waits by itself, and
+// the platform's knows of no labels that can be edited, but while one is: that is not disturbed.
+void CCustomListCtrl::LetPlatformEdit(bool lets)
 {
-    *result = InOnBoard() && !m_labelDue && m_drawOffset != CPoint(0, 0);
-    return *result != FALSE;
+    STYLESTRUCT styles = {GetStyle(), GetStyle()};
+    if (!lets && Ask(LVM_GETEDITCONTROL) != 0)
+    {
+        return; // until the next press
+    }
+    if (std::exchange(m_bars->editsLabels, lets) != lets && (styles.styleNew & LVS_EDITLABELS) != 0)
+    {
+        OnStyleChanged(GWL_STYLE, &styles);
+    }
+}
+
+void CCustomListCtrl::OnStyleChanged(int which, LPSTYLESTRUCT styles)
+{
+    STYLESTRUCT known = *styles;
+    if (which == GWL_STYLE && !m_bars->editsLabels)
+    {
+        known.styleNew &= ~DWORD{LVS_EDITLABELS};
+    }
+    Ask(WM_STYLECHANGED, WPARAM(which), reinterpret_cast<LPARAM>(&known));
 }
 
 // After the rows were scrolled: what is on the screen moves along, so that only the rows that come

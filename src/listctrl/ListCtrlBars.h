@@ -32,6 +32,8 @@ public:
     // Its label was clicked, and is edited unless a second click comes before the timer does.
     int labelRow = -1;
     UINT_PTR LabelTimer() const { return reinterpret_cast<UINT_PTR>(this); } // no heir's
+    // The platform's list knows of LVS_EDITLABELS.
+    bool editsLabels = true;
     // The owner is being told of the rows that are about to be painted.
     bool hinting = false;
 
