@@ -196,6 +196,7 @@ void CCustomListCtrl::ForgetWindow()
     m_bars->themeFontDue = false;
     m_bars->labelRow = -1;
     m_bars->editsLabels = true;
+    m_bars->stepsBack = false;
     m_bars->hinting = false;
     m_fittedColumn = -1;
     m_columnWidths.clear();

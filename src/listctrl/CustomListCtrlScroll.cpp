@@ -106,11 +106,11 @@ void CCustomListCtrl::UpdateVScrollData()
     // An empty list has nothing to scroll back by a line.
     if (items > 0 && m_vBar.GetScrollPos() > data.Limit())
     {
-        const std::optional<View> kept = m_view; // nobody has chosen this step
+        const bool outer = std::exchange(m_bars->stepsBack, true);
         PerformVScroll(SB_LINEUP);
         if (alive)
         {
-            m_view = kept;
+            m_bars->stepsBack = outer;
         }
     }
     if (alive)
@@ -187,7 +187,7 @@ void CCustomListCtrl::PerformVScroll(int newPos, int oldPos)
     {
         m_vBar.SetScrollPos(newPos, TRUE);
     }
-    if (newPos != oldPos)
+    if (newPos != oldPos && !m_bars->stepsBack)
     {
         m_view.reset(); // what is in sight was chosen since the mode has changed
     }

@@ -34,6 +34,8 @@ public:
     UINT_PTR LabelTimer() const { return reinterpret_cast<UINT_PTR>(this); } // no heir's
     // The platform's list knows of LVS_EDITLABELS.
     bool editsLabels = true;
+    // The list makes a step that nobody has chosen: what is kept in sight stays so.
+    bool stepsBack = false;
     // The owner is being told of the rows that are about to be painted.
     bool hinting = false;
 
