@@ -124,6 +124,7 @@ private:
     LRESULT DefaultAt(UINT message, UINT flags, CPoint point);
     bool IsUnmoved(CPoint point) const;
     void ShowMove(CPoint point);
+    void LeaveMove();
     void EndFarPress(int pressed, CPoint point);
     void LoadArrows();
     void TakeThemeFont();

@@ -223,7 +223,8 @@ void CCustomListCtrlHdr::OnMouseMove(UINT flags, CPoint point)
         DefaultAt(WM_MOUSEMOVE, flags, point);
         if (alive)
         {
-            ShowMove(point);
+            // Who was told may have changed the mode.
+            COnBoardUIGeneral::InOnBoardMode() ? ShowMove(point) : LeaveMove();
         }
         return;
     }
@@ -253,8 +254,7 @@ void CCustomListCtrlHdr::ShowMove(CPoint point)
     CRect last;
     m_moving = (GetStyle() & HDS_DRAGDROP) != 0 && ::GetCapture() == m_hWnd &&
                m_pressedItem != -1 && CImageList::GetDragImage(nullptr, nullptr) != nullptr;
-    if (!m_moving || !COnBoardUIGeneral::InOnBoardMode() ||
-        !ItemRect(int(Ask(HDM_ORDERTOINDEX, WPARAM(Ask(HDM_GETITEMCOUNT) - 1))), last))
+    if (!m_moving || !ItemRect(int(Ask(HDM_ORDERTOINDEX, WPARAM(Ask(HDM_GETITEMCOUNT) - 1))), last))
     {
         return;
     }
@@ -271,6 +271,16 @@ void CCustomListCtrlHdr::ShowMove(CPoint point)
     if (alive && m_moving)
     {
         CImageList::DragShowNolock(TRUE);
+    }
+}
+
+// In the standard mode the platform goes on with the drag as it shows it itself.
+void CCustomListCtrlHdr::LeaveMove()
+{
+    m_hotDivider = -1;
+    if (std::exchange(m_moving, false))
+    {
+        CImageList::DragShowNolock(TRUE); // hidden where the step of the drag changes the mode
     }
 }
 

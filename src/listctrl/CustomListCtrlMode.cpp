@@ -71,6 +71,7 @@ void CCustomListCtrl::LeaveOnBoard()
             return;
         }
     }
+    m_header.LeaveMove();
     m_bars->HideBars();
     m_drawOffset = CPoint(0, 0);
     m_furtherOffset = CPoint(0, 0);
