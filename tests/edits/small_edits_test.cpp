@@ -183,7 +183,7 @@ TEST_F(SmallEditsTest, ThePromptOfAnEditThatWasThereIsNoTextEither)
         CString value("EDDF"); // which the parent keeps up to date
         std::string read;
         int told = 0;
-        Host().OnCode(EN_CHANGE, [&](ToldMessage& change) {
+        Host().OnCode(EN_CHANGE, [&, answer = answer](ToldMessage& change) {
             ++told;
             Host().GetDlgItemText(int(change.id), value);
             read += value;
