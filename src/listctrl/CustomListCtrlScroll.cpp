@@ -383,6 +383,10 @@ void CCustomListCtrl::LetPlatformEdit(bool lets)
 
 void CCustomListCtrl::OnStyleChanged(int which, LPSTYLESTRUCT styles)
 {
+    if (styles == nullptr)
+    {
+        return; // nothing is said to have changed
+    }
     STYLESTRUCT known = *styles;
     if (which == GWL_STYLE && !m_bars->editsLabels)
     {
