@@ -159,14 +159,18 @@ const std::vector<Word> AnyWords = {
 };
 // clang-format on
 
+bool IsPlainEdit(HWND window)
+{
+    return CWnd::FromHandlePermanent(window) == nullptr && IsOfClass(window, "Edit");
+}
+
 // Of an edit of the platform's. One on a page faulted in EM_REPLACESEL, in its own code by the call
 // stack, in a long soak; the edits of the library are sent it.
 const std::vector<Word>& WordsOf(HWND window)
 {
     static const std::vector<Word> ofPlainEdit = {
         {EM_SETSEL, Row, Row}, {EM_SETREADONLY, Flag}, {EM_SCROLLCARET}};
-    const bool plain = CWnd::FromHandlePermanent(window) == nullptr;
-    return plain && IsOfClass(window, "Edit") ? ofPlainEdit : KindOf(window).words;
+    return IsPlainEdit(window) ? ofPlainEdit : KindOf(window).words;
 }
 
 int Arguments::Between(int first, int last)

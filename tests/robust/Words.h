@@ -54,6 +54,8 @@ struct Word
 extern const std::vector<Word> CommonWords;
 // What the platform and assistive programs send to any window.
 extern const std::vector<Word> AnyWords;
+// Whether it is an edit of the platform's, which no object has.
+bool IsPlainEdit(HWND window);
 // Of the platform's control that it is. May be empty.
 const std::vector<Word>& WordsOf(HWND window);
 
