@@ -1,29 +1,17 @@
 // The test program: a console program with an application object, as a host of the library has one.
 
 #include "OnBoardUIGeneral.h"
+#include "support/LiveObjects.h"
 
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cstdio>
-#include <iterator>
 
 namespace {
 
 CWinApp theApp;
-
-// Whether the heaps of the platform and of the run-time library are undamaged where nothing has run
-// into it. They find most when they check their blocks, as in the preset "heap".
-bool HeapsAreWhole()
-{
-    HANDLE heaps[64];
-    const DWORD count =
-        std::min(::GetProcessHeaps(DWORD(std::size(heaps)), heaps), DWORD(std::size(heaps)));
-    return std::all_of(heaps, heaps + count,
-                       [](HANDLE heap) { return ::HeapValidate(heap, 0, nullptr); });
-}
 
 } // namespace
 

@@ -39,6 +39,7 @@ protected:
         EXPECT_EQ(Watch::Faults(), faults);
         // A first use keeps some; what is lost message after message comes to hundreds.
         EXPECT_LT(GraphicsObjects() - objects, 100) << storm.Log();
+        EXPECT_TRUE(HeapsAreWhole()) << storm.Log();
         return storm.Sent();
     }
 

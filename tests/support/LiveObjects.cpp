@@ -50,6 +50,15 @@ void FillFreed(HANDLE heap)
     }
 }
 
+// The platform's; the run-time library may have one of its own.
+std::vector<HANDLE> Heaps()
+{
+    std::vector<HANDLE> heaps(::GetProcessHeaps(0, nullptr));
+    const DWORD count = ::GetProcessHeaps(DWORD(heaps.size()), heaps.data());
+    heaps.resize(std::min<size_t>(count, heaps.size()));
+    return heaps;
+}
+
 } // namespace
 
 int GraphicsObjects()
@@ -87,21 +96,23 @@ std::vector<HWND> AllWindows()
 
 size_t AllocatedBytes()
 {
-    // The run-time library may have a heap of its own.
-    HANDLE heaps[32] = {};
-    const DWORD count = std::min<DWORD>(::GetProcessHeaps(DWORD(std::size(heaps)), heaps),
-                                        DWORD(std::size(heaps)));
     size_t bytes = 0;
-    for (DWORD index = 0; index < count; ++index)
+    for (const HANDLE heap : Heaps())
     {
-        FillFreed(heaps[index]);
-        ::HeapLock(heaps[index]);
+        FillFreed(heap);
+        ::HeapLock(heap);
         PROCESS_HEAP_ENTRY entry = {};
-        while (::HeapWalk(heaps[index], &entry))
+        while (::HeapWalk(heap, &entry))
         {
             bytes += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0 ? entry.cbData : 0;
         }
-        ::HeapUnlock(heaps[index]);
+        ::HeapUnlock(heap);
     }
     return bytes;
+}
+
+bool HeapsAreWhole()
+{
+    return std::ranges::all_of(Heaps(),
+                               [](HANDLE heap) { return ::HeapValidate(heap, 0, nullptr); });
 }

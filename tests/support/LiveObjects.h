@@ -18,3 +18,7 @@ std::vector<HWND> AllWindows();
 
 // Bytes that the process's heaps have handed out and not got back.
 size_t AllocatedBytes();
+
+// Whether those heaps are undamaged where nothing has run into them. They find most when they check
+// their blocks, as in the preset "heap".
+bool HeapsAreWhole();
