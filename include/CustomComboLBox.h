@@ -110,7 +110,8 @@ public:
     HRESULT accSelect(long flags, VARIANT child) override;
     // @}
 
-    // Picks the row, as a click on it does, by a posted message; fails while the list is closed.
+    // Picks the row, as a click on it does, by a posted message; fails while the list is closed,
+    // and where the user can reach the combo no more.
     HRESULT accDoDefaultAction(VARIANT child) override;
 
 protected:
@@ -133,6 +134,7 @@ private:
     CPoint m_seenPoint{-1, -1};
 
     int Answer(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    bool IsReached() const;
     void SetHotRow(int row);
     void InvalidateRow(int row);
     void TellBarReleased(bool wasHeld);

@@ -7,6 +7,12 @@
 #include "access/Rows.h"
 #include "modes/WindowAlive.h"
 
+// Its popup is a window of its own that nothing disables: it is the combo that is out of reach.
+bool CCustomComboLBox::IsReached() const
+{
+    return IsPopupVisible() && (m_combo == nullptr || !IsOutOfReach(m_combo->GetSafeHwnd()));
+}
+
 HRESULT CCustomComboLBox::get_accName(VARIANT child, BSTR* name)
 {
     const bool named = m_combo != nullptr && m_combo->GetSafeHwnd() != nullptr;
@@ -18,11 +24,19 @@ HRESULT CCustomComboLBox::get_accState(VARIANT child, VARIANT* state)
 {
     const WindowAlive alive(*this);
     const HRESULT result = CCustomListBox::get_accState(child, state);
+    if (!alive || FAILED(result) || state->vt != VT_I4)
+    {
+        return result;
+    }
     int index = 0;
-    if (alive && SUCCEEDED(result) && IsRow(child, index))
+    if (IsRow(child, index))
     {
         state->lVal = (state->lVal & ~STATE_SYSTEM_SELECTED) |
                       (index == GetHighlightedRow() ? STATE_SYSTEM_SELECTED : 0);
+    }
+    if (alive && m_combo != nullptr && IsShutOff(m_combo->GetSafeHwnd()))
+    {
+        state->lVal = (state->lVal & ~STATE_SYSTEM_FOCUSABLE) | STATE_SYSTEM_UNAVAILABLE;
     }
     return result;
 }
@@ -44,7 +58,7 @@ HRESULT CCustomComboLBox::accSelect(long flags, VARIANT child)
     {
         return E_INVALIDARG;
     }
-    if (!IsPopupVisible())
+    if (!IsReached())
     {
         return E_FAIL;
     }
@@ -69,14 +83,14 @@ HRESULT CCustomComboLBox::accDoDefaultAction(VARIANT child)
     {
         return CCustomListBox::accDoDefaultAction(child);
     }
-    return IsPopupVisible() ? access::PostAct(*this, index) : DISP_E_MEMBERNOTFOUND;
+    return IsReached() ? access::PostAct(*this, index) : DISP_E_MEMBERNOTFOUND;
 }
 
 // The list may have been closed or lost the row meanwhile.
 LRESULT CCustomComboLBox::OnAct(WPARAM row, LPARAM)
 {
     return access::DoAct(*this, [this, row] {
-        if (IsPopupVisible() && Exists(int(row)))
+        if (IsReached() && Exists(int(row)))
         {
             Pick(int(row));
         }

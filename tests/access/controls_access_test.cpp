@@ -12,6 +12,7 @@
 #include "EditWithPrompt.h"
 #include "MultiTree.h"
 #include "QuixEdit.h"
+#include "catalog/Makers.h"
 #include "lists/combo_for_tests.h"
 #include "support/Accessible.h"
 
@@ -208,6 +209,12 @@ TEST_P(AccessInModes, WhatTheUserCannotReachIsReadAndNotWorkedNorSelected)
     tree.InsertItem("KJFK", tree.InsertItem("Fuel"));
     auto& combo = Add<ComboForTests>(CRect(10, 330, 200, 360));
     combo.AddString("Fuel");
+    auto& dropped = Add<ComboForTests>(CRect(470, 370, 600, 400));
+    dropped.AddString("Fuel");
+    dropped.DoDropButton();
+    const Contents fuel = {CRect(0, 0, 300, 200), "Fuel"};
+    const std::unique_ptr<CWnd> sheet = Makers<Fenced>::MakeSheet(Host(), fuel);
+    const HWND tabs = ::FindWindowEx(*sheet, nullptr, WC_TABCONTROL, nullptr);
     auto& button = Add<CCustomPushbutton>(CRect(210, 330, 460, 360), 0, "Fuel");
     auto& edit = Add<QuixEdit>(CRect(470, 330, 600, 360));
     CustomToolbar bar;
@@ -227,32 +234,35 @@ TEST_P(AccessInModes, WhatTheUserCannotReachIsReadAndNotWorkedNorSelected)
         {tree, 1, {}},
         {button, CHILDID_SELF, tells(button.GetDlgCtrlID(), BN_CLICKED)},
         {bar, 1, tells(tool.idCommand, BN_CLICKED)},
-        {combo, CHILDID_SELF, [&] { return combo.IsExpanded(); }}};
+        {combo, CHILDID_SELF, [&] { return combo.IsExpanded(); }},
+        {dropped.List(), 1, [&] { return dropped.GetCurSel() == 0; }},
+        {tabs, 2, [&] { return ::SendMessage(tabs, TCM_GETCURSEL, 0, 0) == 1; }}};
     for (const auto& [window, child, isDone] : all)
     {
+        CWnd& form = window == tabs ? *sheet : Host();
         const Held<IAccessible> object = Reached(window);
         const Read before(*object, child);
         SCOPED_TRACE(before.role);
         EXPECT_EQ(before.state & STATE_SYSTEM_UNAVAILABLE, 0);
-        Host().EnableWindow(FALSE); // as that of a modal dialog is
+        form.EnableWindow(FALSE); // as that of a modal dialog is
         const Read read(*object, child);
         EXPECT_EQ(read.state, before.state | STATE_SYSTEM_UNAVAILABLE);
         EXPECT_EQ(read.name, before.name);
         EXPECT_EQ(object->accDoDefaultAction(Child(child)), DISP_E_MEMBERNOTFOUND);
-        Host().EnableWindow();
-        Host().ShowWindow(SW_HIDE);
+        form.EnableWindow();
+        form.ShowWindow(SW_HIDE);
         EXPECT_EQ(object->accDoDefaultAction(Child(child)), DISP_E_MEMBERNOTFOUND);
-        Host().ShowWindow(SW_SHOWNA);
+        form.ShowWindow(SW_SHOWNA);
         PumpAll();
         EXPECT_EQ(Read(*object, child).state, before.state);
         for (const bool reachable : isDone ? std::vector{false, true} : std::vector<bool>())
         {
             Host().Forget();
             EXPECT_EQ(object->accDoDefaultAction(Child(child)), S_OK);
-            Host().EnableWindow(reachable);
+            form.EnableWindow(reachable);
             PumpAll();
             EXPECT_EQ(isDone(), reachable);
-            Host().EnableWindow();
+            form.EnableWindow();
         }
     }
     combo.ListClosed(0);
