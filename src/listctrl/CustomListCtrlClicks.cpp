@@ -350,7 +350,7 @@ void CCustomListCtrl::PressBox(const PressHit& hit, const CPoint& point, UINT fl
     {
         SelectRow(hit.drawn, (flags & MK_SHIFT) != 0, (flags & MK_CONTROL) != 0);
     }
-    else if (!hit.onBox)
+    else if (!hit.onBox && (flags & (MK_CONTROL | MK_SHIFT)) == 0)
     {
         ClearSelection();
     }
@@ -401,12 +401,13 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
         return;
     }
     m_pressedTop = TopRow();
-    // The keys only say something where several rows can be selected.
-    const bool several =
-        (flags & (MK_CONTROL | MK_SHIFT)) != 0 && (GetStyle() & LVS_SINGLESEL) == 0;
+    // Where one row can be selected the keys only say something beside all rows: it stays so.
+    const bool keys = (flags & (MK_CONTROL | MK_SHIFT)) != 0;
+    const bool several = keys && (GetStyle() & LVS_SINGLESEL) == 0;
+    const int kept = keys && hit.drawn < 0 ? NextRow(-1, LVNI_SELECTED) : -1;
     // One of those that are selected together is alone only when the button goes up: until then
     // they may be dragged.
-    const bool selected = !several && hit.drawn >= 0 && IsSelected(hit.drawn);
+    const bool selected = alive && !several && hit.drawn >= 0 && IsSelected(hit.drawn);
     const bool together = selected && alive && Ask(LVM_GETSELECTEDCOUNT) > 1;
     if (!alive)
     {
@@ -456,10 +457,10 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     // With the keys the platform has picked the right rows: one of them is exchanged for itself,
     // since the parent waits for the final step. The mark stays, as it does beside all rows, and so
     // does the focus on a row that is no longer selected.
-    const int final = hit.scrolled ? hit.drawn : picked;
-    const int mark = final >= 0 && !several ? final
-                     : hit.scrolled         ? before
-                                            : int(Ask(LVM_GETSELECTIONMARK));
+    const int final = !hit.scrolled ? picked : hit.drawn >= 0 ? hit.drawn : kept;
+    const int mark = hit.scrolled && hit.drawn < 0 ? before
+                     : final >= 0 && !several      ? final
+                                                   : int(Ask(LVM_GETSELECTIONMARK));
     const UINT states =
         several && picked != hit.platform ? UINT(LVIS_SELECTED) : SelectedAndFocused;
     if (picked >= 0 && m_scrollUnit.cy > 0)

@@ -55,6 +55,18 @@ protected:
     }
 };
 
+// With keys held down.
+void ClickWith(const std::vector<UINT>& held, CPoint point, bool right = false)
+{
+    MoveTo(point);
+    PumpFor(30); // the display tells of the move late, and of no key being down
+    std::ranges::for_each(held, [](UINT key) { QueueKey(key, true); });
+    QueueButton(true, right);
+    QueueButton(false, right);
+    std::ranges::for_each(held, [](UINT key) { QueueKey(key, false); });
+    PumpAll();
+}
+
 } // namespace
 
 TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
@@ -93,11 +105,18 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
     Click(ClientPoint(list, list.RowPoint(8, ClientRectOf(list).right - 10)));
     EXPECT_EQ(list.Selected(), std::set<int>{8});
     list.PerformHScroll(3, list.m_hBar.GetScrollPos());
-    // Below the last row nothing is selected, and the parent is told of a change all the same.
     list.PerformVScroll(SB_BOTTOM);
+    const CPoint below = ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3));
+    for (const UINT held : {VK_CONTROL, VK_SHIFT})
+    {
+        ClickWith({held}, below);
+        EXPECT_EQ(list.Selected(), std::set<int>{8}) << "as it was";
+        EXPECT_EQ(list.GetSelectionMark(), 8);
+    }
+    // Without them nothing is selected, and the parent is told of a change all the same.
     Host().Forget();
     list.clicked.clear();
-    Click(ClientPoint(list, CPoint(20, ClientRectOf(list).bottom - 3)));
+    Click(below + CPoint(9, 0)); // no double click
     EXPECT_EQ(list.GetSelectedCount(), 0U);
     EXPECT_THAT(Host().CodesFrom(FirstId),
                 testing::Contains(UINT(LVN_ITEMCHANGED)).Times(testing::Ge(2)));
@@ -178,13 +197,7 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFin
             for (const auto& [row, held, selected] : clicks)
             {
                 final = false;
-                MoveTo(ClientPoint(list, list.RowPoint(top + row)));
-                PumpFor(30); // the display tells of the move late, and of no key being down
-                std::ranges::for_each(held, [](UINT key) { QueueKey(key, true); });
-                Press();
-                Release();
-                std::ranges::for_each(held, [](UINT key) { QueueKey(key, false); });
-                PumpAll();
+                ClickWith(held, ClientPoint(list, list.RowPoint(top + row)));
                 std::set<int> expected;
                 for (const int each : single != 0 ? std::set<int>{row} : selected)
                 {
@@ -199,11 +212,8 @@ TEST_F(ListCtrlOnBoard, ClicksWithCtrlAndShiftKnowTheRowsAsDrawnAndEndWithTheFin
             }
             Host().hook = nullptr;
             list.SelectOnly({1, 2}, top);
-            MoveTo(ClientPoint(list, list.RowPoint(top + 5)));
-            PumpFor(30);
             list.onRightClick = [](int) {};
-            QueueButton(true, true);
-            QueueButton(false, true);
+            ClickWith({}, ClientPoint(list, list.RowPoint(top + 5)), true);
             EXPECT_TRUE(ShowsWhatAPaintWould(list)) << "right";
             QueueKey(VK_CONTROL, true);
             Press();
@@ -235,29 +245,23 @@ TEST_F(ListCtrlOnBoard, ARightClickIsToldOfWithTheDrawnRowSelectedOrAsItWas)
         EXPECT_EQ(list.Focused(), 7);
         EXPECT_FALSE(list.IsSelChanging());
     };
-    const std::tuple<std::set<int>, UINT, std::set<int>> clicks[] = {
-        {{}, 0, {7}},        {{2, 9}, 0, {7}},    {{2, 7, 9}, 0, {2, 7, 9}},
-        {{8}, 0, {7}},       {{7, 8}, 0, {7, 8}}, {{2, 9}, VK_CONTROL, {2, 9}},
-        {{9}, VK_SHIFT, {9}}};
+    const std::tuple<std::set<int>, std::vector<UINT>, std::set<int>> clicks[] = {
+        {{}, {}, {7}},         {{2, 9}, {}, {7}},    {{2, 7, 9}, {}, {2, 7, 9}},
+        {{8}, {}, {7}},        {{7, 8}, {}, {7, 8}}, {{2, 9}, {VK_CONTROL}, {2, 9}},
+        {{9}, {VK_SHIFT}, {9}}};
     for (const DWORD full : {0, LVS_EX_FULLROWSELECT})
     {
         list.SetExtendedStyle(full);
         for (const auto& [before, held, after] : clicks)
         {
             SCOPED_TRACE(testing::Message()
-                         << full << ' ' << testing::PrintToString(before) << held);
+                         << full << testing::PrintToString(std::pair(before, held)));
             list.SelectOnly(before);
             told = 0;
             expected = after;
             Host().Forget();
             x = 70 - x; // two clicks on one place would be a double click
-            MoveTo(ClientPoint(list, list.RowPoint(7, x)));
-            PumpFor(30); // as above
-            held != 0 ? QueueKey(held, true) : void();
-            QueueButton(true, true);
-            QueueButton(false, true);
-            held != 0 ? QueueKey(held, false) : void();
-            PumpAll();
+            ClickWith(held, ClientPoint(list, list.RowPoint(7, x)), true);
             EXPECT_EQ(told, 1);
             EXPECT_EQ(Host().Count(WM_CONTEXTMENU), 1);
             EXPECT_EQ(list.Selected(), after);
@@ -380,6 +384,10 @@ TEST_F(ListCtrlOnBoard, APressOnACheckBoxChangesThatOfTheDrawnRow)
     list.SetItemState(8, 0, LVIS_STATEIMAGEMASK); // a row without a box gets none
     Click(ClientPoint(list, list.RowPoint(8, 7)));
     EXPECT_EQ(list.GetItemState(8, LVIS_STATEIMAGEMASK), 0U);
+    list.PerformVScroll(SB_BOTTOM);
+    list.SelectOnly({3, 5});
+    ClickWith({VK_CONTROL}, ClientPoint(list, list.RowPoint(100, 7)));
+    EXPECT_EQ(list.Selected(), (std::set{3, 5})) << "beside all rows";
 }
 
 TEST_F(ListCtrlOnBoard, OneClickActivatesTheDrawnRowOnceItIsSelected)
