@@ -14,6 +14,7 @@ constexpr int FewRows = 100;
 constexpr int Columns = 4;
 constexpr int Lines = 500;
 constexpr int Paints = 20;
+constexpr CSize View(530, 500); // of the rows that are painted and scrolled
 constexpr DWORD Style = WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SHOWSELALWAYS;
 
 std::string TextOf(int row, int column)
@@ -70,6 +71,18 @@ void InsertRows(CListCtrl& list, int rows)
     }
 }
 
+// As much room for rows on both sides, whatever bars and headings take.
+void GiveView(CListCtrl& list)
+{
+    CRect window, client, headings;
+    list.GetWindowRect(&window);
+    list.GetClientRect(&client);
+    list.GetHeaderCtrl()->GetWindowRect(&headings);
+    const CSize other = window.Size() - client.Size() + CSize(0, headings.Height());
+    list.SetWindowPos(nullptr, 0, 0, View.cx + other.cx, View.cy + other.cy,
+                      SWP_NOMOVE | SWP_NOZORDER);
+}
+
 template <class List, APPMODE mode> Side Fill()
 {
     auto list = std::make_shared<std::shared_ptr<List>>();
@@ -93,6 +106,7 @@ template <class List, APPMODE mode, int rows> Side OnFilled(void (*run)(List&))
                     (*list)->SetRedraw(FALSE);
                     InsertRows(**list, rows);
                     (*list)->SetRedraw(TRUE);
+                    GiveView(**list);
                 }
                 (*list)->ShowWindow(SW_SHOW);
                 (*list)->EnsureVisible(0, FALSE);
