@@ -157,6 +157,8 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
     case LVM_DELETECOLUMN:
     case LVM_SETCOLUMNORDERARRAY:
     case LVM_SETEXTENDEDLISTVIEWSTYLE:
+    case LVM_EDITLABELA: // which selects the row alone, without a message for that
+    case LVM_EDITLABELW:
         Invalidate(FALSE);
         break;
     case WM_STYLECHANGED:

@@ -90,6 +90,7 @@ void CCustomListCtrl::AwaitLabelEdit(const CPoint& point)
     {
         m_bars->labelRow = -1;
     }
+    m_bars->labelAwaited = m_bars->labelRow >= 0;
 }
 
 void CCustomListCtrl::EditClickedLabel()
@@ -100,7 +101,7 @@ void CCustomListCtrl::EditClickedLabel()
     if (InOnBoard() && row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)) &&
         ::GetFocus() == GetSafeHwnd() && IsSelected(row) && alive)
     {
-        EditLabel(row);
+        SendMessage(LVM_EDITLABELW, WPARAM(row)); // as the platform's own click, for any letters
     }
 }
 
@@ -415,6 +416,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     }
     m_pressedRow = together && hit.scrolled ? hit.drawn : -1;
     m_bars->labelRow = selected && focused ? hit.drawn : -1;
+    m_bars->labelAwaited = false;
     if ((several || together) && hit.scrolled)
     {
         // What is selected so far is known by rows that the platform would take for others.

@@ -133,7 +133,11 @@ void CCustomListCtrl::OnNcMouseMove(UINT hitTest, CPoint point)
 void CCustomListCtrl::OnMouseMove(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    m_pressedRow = (flags & MK_LBUTTON) != 0 ? m_pressedRow : -1; // released somewhere else
+    if ((flags & MK_LBUTTON) == 0) // released, maybe somewhere else
+    {
+        m_pressedRow = -1;
+        m_bars->labelRow = m_bars->labelAwaited ? m_bars->labelRow : -1;
+    }
     if (InOnBoard() && flags == MK_LBUTTON)
     {
         HandleMouseMoveScroll(point);

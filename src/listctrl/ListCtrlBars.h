@@ -31,6 +31,7 @@ public:
     bool themeFontDue = false;
     // Its label was clicked, and is edited unless a second click comes before the timer does.
     int labelRow = -1;
+    bool labelAwaited = false; // the button has come up over it
     UINT_PTR LabelTimer() const { return reinterpret_cast<UINT_PTR>(this); } // no heir's
     // The platform's list knows of LVS_EDITLABELS.
     bool editsLabels = true;

@@ -67,6 +67,12 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
         list.PerformVScroll(SB_LINEUP);
         EXPECT_TRUE(ShowsWhatAPaintWould(list)) << row;
         EXPECT_EQ(list.GetItemText(row, 0), "scrolled");
+        list.SetItemState(-1, 0, LVIS_SELECTED);
+        list.SetItemState(list.TopRow() + 2, LVIS_SELECTED, LVIS_SELECTED);
+        list.UpdateWindow();
+        ASSERT_NE(list.EditLabel(row), nullptr);
+        list.SendMessage(LVM_CANCELEDITLABEL);
+        EXPECT_TRUE(ShowsWhatAPaintWould(list)) << row;
     }
     list.PerformVScroll(SB_TOP);
     list.PerformHScroll(SB_LEFT);
@@ -131,6 +137,9 @@ TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)
     const DoubleClickTime time(200);
     auto& list = AddList(100, 8, ReportStyle | LVS_EDITLABELS);
     bool over = false; // the row, as it is drawn
+    Host().OnCode(LVN_ENDLABELEDIT, [](ToldMessage& told) {
+        EXPECT_EQ(About<NMLVDISPINFO>(told).item.pszText, nullptr) << "nobody typed";
+    });
     const auto edits = [&](int row) {
         const bool begun = PumpUntil([&] { return list.GetEditControl() != nullptr; }, 400);
         over = list.HasEditOver(row);
@@ -173,6 +182,12 @@ TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)
         Click(ClientPoint(list, list.RowPoint(top + 3, list.GetColumnWidth(0) + 20)));
         EXPECT_FALSE(edits(top + 3)) << "not on its label";
     }
+    list.SetItemState(33, 3, 3);
+    const CPoint label = list.RowPoint(33);
+    Press(ClientPoint(list, label));
+    list.SendMessage(WM_MOUSEMOVE, 0, MAKELPARAM(label.x, label.y)); // released somewhere else
+    Release();
+    EXPECT_FALSE(edits(33));
 }
 
 // Keys -------------------------------------------------------------------------------------------
