@@ -339,6 +339,7 @@ private:
     int RowsInSight() const;
     int TopRow() const;
     void TakeHeader();
+    void LeaveHeader();
     int HeadingWidth(int column);
     void GiveOwnWidth(int column);
     void NoteOwnWidth(int column);

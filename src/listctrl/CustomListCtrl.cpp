@@ -14,6 +14,8 @@
 #include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
+#include <utility>
+
 namespace {
 
 constexpr LPARAM CommonControlsVersion = 5;
@@ -108,8 +110,7 @@ CCustomListCtrl::CCustomListCtrl()
 
 CCustomListCtrl::~CCustomListCtrl()
 {
-    // The header's window belongs to the list's, which may outlive this object.
-    m_header.LeaveWindow();
+    GetSafeHwnd() == nullptr ? LeaveHeader() : m_header.LeaveWindow();
 }
 
 CFont& CCustomListCtrl::GetOnBoardFont()
@@ -195,7 +196,6 @@ void CCustomListCtrl::ForgetWindow()
     m_bars->filling.BeginAfresh();
     m_bars->themeFontDue = false;
     m_bars->labelRow = -1;
-    m_bars->editsLabels = true;
     m_bars->stepsBack = false;
     m_bars->hinting = false;
     m_fittedColumn = -1;
@@ -208,7 +208,22 @@ void CCustomListCtrl::ForgetWindow()
     m_pressedRow = -1;
     m_pressedTop = 0;
     m_measured = Measured();
+    LeaveHeader();
+}
+
+// The header's window belongs to the list's, which may outlive this object or go on without it:
+// then the platform's list knows again that its labels can be edited.
+void CCustomListCtrl::LeaveHeader()
+{
+    const HWND list = m_header.ListWindow();
+    const bool edits = std::exchange(m_bars->editsLabels, true);
     m_header.LeaveWindow();
+    if (!edits && ::IsWindow(list))
+    {
+        const auto style = DWORD(::GetWindowLongPtr(list, GWL_STYLE));
+        STYLESTRUCT styles = {style, style};
+        ::SendMessage(list, WM_STYLECHANGED, WPARAM(GWL_STYLE), reinterpret_cast<LPARAM>(&styles));
+    }
 }
 
 void CCustomListCtrl::TakeHeader()

@@ -361,18 +361,23 @@ TEST_F(ListCtrlOnBoard, OneObjectServesSeveralWindowsOneAfterTheOther)
     EXPECT_EQ(HeaderAccess::Pressed(list.m_header), -1);
     list.DestroyWindow();
     // Windows that were there, and that stay with their headers when the object leaves them.
-    for (const APPMODE mode : {STD, ONBOARD})
+    std::vector<HWND> left;
+    for (const APPMODE mode : {STD, ONBOARD, STD})
     {
         const ModeScope scope(mode);
-        auto& plain = Add<CListCtrl>(CRect(20, 20, 420, 320), ReportStyle);
+        auto& plain = Add<CListCtrl>(CRect(20, 20, 420, 320), ReportStyle | LVS_EDITLABELS);
         plain.InsertColumn(0, "One", LVCFMT_LEFT, 100);
         AddRows(plain, 50);
         ASSERT_TRUE(list.SubclassWindow(plain.Detach()));
         PumpAll();
         EXPECT_EQ(list.m_vBar.ShowScrollBar() != 0, mode != STD);
         const HWND header = list.m_header;
-        const HWND window = list.UnsubclassWindow();
+        left.push_back(list.UnsubclassWindow());
         EXPECT_TRUE(::IsWindow(header));
+    }
+    for (const HWND window : left)
+    {
+        EXPECT_NE(::SendMessage(window, LVM_EDITLABEL, 0, 0), 0) << "as the platform's does";
         ::DestroyWindow(window);
     }
 }
