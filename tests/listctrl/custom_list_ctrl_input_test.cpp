@@ -130,6 +130,16 @@ TEST_F(ListCtrlOnBoard, AnEditOfALabelEndsWhenItsRowIsScrolledAndFollowsTheMode)
     EXPECT_TRUE(list.HasEditOver(7));
     list.SetFont(&CCustomListCtrl::GetOnBoardFont());
     EXPECT_TRUE(list.HasEditOver(7));
+    list.SendMessage(LVM_CANCELEDITLABEL);
+    // A list that becomes higher steps back, and ends it. Who is told may choose what is in sight.
+    SetMode(STD, list);
+    list.EnsureVisible(99, FALSE);
+    SetMode(ONBOARD, list);
+    const int top = list.TopRow();
+    ASSERT_NE(list.EditLabel(top + 1), nullptr);
+    Host().OnCode(LVN_ENDLABELEDIT, [&](ToldMessage&) { list.EnsureVisible(0, FALSE); });
+    list.MoveWindow(20, 20, 400, 500);
+    EXPECT_EQ(list.TopRow(), 0) << top;
 }
 
 TEST_F(ListCtrlOnBoard, AClickOnASelectedRowEditsItsLabelInAScrolledListToo)
