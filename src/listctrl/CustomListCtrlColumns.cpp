@@ -164,6 +164,11 @@ void CCustomListCtrl::FitLastColumn()
     {
         return;
     }
+    if ((GetStyle() & LVS_TYPEMASK) != LVS_REPORT)
+    {
+        m_fittedTo.SetRectEmpty(); // when it is a report again
+        return;
+    }
     CRect client;
     GetClientRect(&client);
     const CRect fitted(column.left, 0, column.right, client.Width());
@@ -221,12 +226,18 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
 {
     const WindowAlive alive(*this);
     const int count = ColumnCount();
+    // Of the header: the list tells of columns in a report only.
+    const auto widthNow = [this](int column) {
+        CRect heading(0, 0, 0, 0);
+        HeaderItemRect(column, heading);
+        return int(heading.Width());
+    };
     if (toOnBoard || m_columnWidths.size() != size_t(count))
     {
         m_columnWidths.clear();
         for (int column = 0; column < count; ++column)
         {
-            const int width = int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(column)));
+            const int width = widthNow(column);
             m_columnWidths.push_back(toOnBoard
                                          ? ColumnWidth{width, listctrl::OnBoardWidth(width)}
                                          : ColumnWidth{listctrl::StandardWidth(width), width});
@@ -237,12 +248,12 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
     for (int column = 0; column < count && alive; ++column)
     {
         const ColumnWidth& width = widths[size_t(column)];
-        const int now = int(Ask(LVM_GETCOLUMNWIDTH, WPARAM(column)));
+        const int now = widthNow(column);
         const bool kept = toOnBoard || column == last || now == width.onBoard;
         const int wanted = toOnBoard ? width.onBoard
                            : kept    ? width.standard
                                      : listctrl::StandardWidth(now);
-        if (wanted <= listctrl::WidestColumn)
+        if (wanted <= listctrl::WidestColumn && (GetStyle() & LVS_TYPEMASK) == LVS_REPORT)
         {
             Ask(LVM_SETCOLUMNWIDTH, WPARAM(column), MAKELPARAM(wanted, 0));
         }

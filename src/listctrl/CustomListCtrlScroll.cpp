@@ -392,7 +392,13 @@ void CCustomListCtrl::OnStyleChanged(int which, LPSTYLESTRUCT styles)
     {
         known.styleNew &= ~DWORD{LVS_EDITLABELS};
     }
+    const WindowAlive alive(*this);
     Ask(WM_STYLECHANGED, WPARAM(which), reinterpret_cast<LPARAM>(&known));
+    if (alive && which == GWL_STYLE &&
+        ((styles->styleOld ^ styles->styleNew) & LVS_TYPEMASK) != 0 && InOnBoard())
+    {
+        FitLastColumn(); // of a report again
+    }
 }
 
 // After the rows were scrolled: what is on the screen moves along, so that only the rows that come

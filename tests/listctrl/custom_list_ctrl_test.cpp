@@ -32,8 +32,18 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
     list.InsertColumn(3, "D", LVCFMT_LEFT, 50);
     list.SetColumnWidth(2, 136);
     list.DeleteColumn(3); // another one becomes the last
-    SetMode(STD, list);
-    EXPECT_EQ(list.GetColumnWidth(2), 80);
+    for (const DWORD view : {LVS_REPORT, LVS_ICON, LVS_LIST}) // meanwhile
+    {
+        list.ModifyStyle(LVS_TYPEMASK, view);
+        SetMode(STD, list);
+        SetMode(ONBOARD, list);
+        list.ModifyStyle(LVS_TYPEMASK, LVS_REPORT);
+        list.ExpectInStep("a report again");
+        SetMode(STD, list);
+        EXPECT_EQ(list.GetColumnWidth(1), 50) << view;
+        EXPECT_EQ(list.GetColumnWidth(2), 80) << view;
+        SetMode(ONBOARD, list);
+    }
 }
 
 TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
