@@ -154,6 +154,8 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
     case LVM_SETCOLUMNWIDTH:
     case LVM_SETIMAGELIST: // which makes the rows higher, or less high
     case LVM_SETITEMCOUNT:
+    case LVM_INSERTCOLUMNA:
+    case LVM_INSERTCOLUMNW:
     case LVM_DELETECOLUMN:
     case LVM_SETCOLUMNORDERARRAY:
     case LVM_SETEXTENDEDLISTVIEWSTYLE:

@@ -32,9 +32,15 @@ void CCustomListCtrl::DrawScrollBars()
 {
     const WindowAlive alive(*this);
     DrawBars();
-    if (alive && InOnBoard())
+    if (!alive || !InOnBoard())
     {
-        FitLastColumn();
+        return;
+    }
+    const CRect before = m_fittedTo;
+    FitLastColumn();
+    if (alive && m_fittedTo != before)
+    {
+        KeepInStep(LVM_SETCOLUMNWIDTH, true);
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "listctrl/ListLayout.h"
 #include "listctrl/list_for_tests.h"
+#include "support/ChildModes.h"
 
 TEST(ListLayout, FewAndManyRowsAndWideColumns)
 {
@@ -18,6 +19,7 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
     auto& list = AddList(3, 0);
     list.InsertColumn(0, "A", LVCFMT_LEFT, 100);
     EXPECT_EQ(list.GetColumnWidth(0), 170);
+    EXPECT_TRUE(ShowsWhatAPaintWould(list)) << "the rows were there before";
     LVCOLUMNW wide = {.mask = LVCF_WIDTH, .cx = 33};
     list.SendMessage(LVM_INSERTCOLUMNW, 1, reinterpret_cast<LPARAM>(&wide));
     EXPECT_EQ(list.GetColumnWidth(1), 56);
@@ -181,12 +183,13 @@ TEST_F(ListCtrlOnBoard, TheColumnThatStandsLastFillsTheListAndAllOthersAreReache
                       ClientRectOf(list).right)
                 << "its right edge comes into sight";
         }
-        SetMode(STD, list);
+        SetModeOfChildren(STD, Host());
         for (const int column : {0, 1, 2})
         {
             EXPECT_EQ(list.GetColumnWidth(column), 60);
         }
-        SetMode(ONBOARD, list);
+        SetModeOfChildren(ONBOARD, Host());
+        list.ExpectInStep("on-board at once");
         Remove(list);
     }
 }
