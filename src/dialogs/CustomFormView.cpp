@@ -49,6 +49,11 @@ void CCustomFormView::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     {
         m_restyled = true;
         const WindowAlive alive(*this);
+        dialogs::EndPlatformScrolling(*this);
+        if (!alive)
+        {
+            return;
+        }
         ScrollToPosition(CPoint(0, 0)); // children are scaled from the form's corner
         if (!alive)
         {

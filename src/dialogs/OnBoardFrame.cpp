@@ -19,6 +19,7 @@
 #include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace dialogs {
@@ -186,7 +187,50 @@ bool IsFrameDue(const CWnd& window)
     return alive && due != client;
 }
 
+// What of a bar of the platform's the pointer holds; 0 for nothing. The thumb is the third part.
+int HeldPart(HWND window, LONG which)
+{
+    SCROLLBARINFO bar = {};
+    bar.cbSize = sizeof(bar);
+    if (!::GetScrollBarInfo(window, which, &bar) || (bar.rgstate[0] & STATE_SYSTEM_INVISIBLE) != 0)
+    {
+        return 0;
+    }
+    const auto held = [](DWORD state) { return (state & STATE_SYSTEM_PRESSED) != 0; };
+    const auto part = std::find_if(std::begin(bar.rgstate) + 1, std::end(bar.rgstate), held);
+    return part == std::end(bar.rgstate) ? 0 : int(part - std::begin(bar.rgstate));
+}
+
 } // namespace
+
+void EndPlatformScrolling(const CWnd& window)
+{
+    const HWND holder = ::GetCapture();
+    if (holder == nullptr || (holder != window.m_hWnd && ::GetParent(holder) != window.m_hWnd))
+    {
+        return;
+    }
+    constexpr int Thumb = 3;
+    for (const bool across : {false, true})
+    {
+        const int held = HeldPart(holder, across ? OBJID_HSCROLL : OBJID_VSCROLL);
+        if (held == Thumb)
+        {
+            // As a release does: some controls leave their bar alone until they are told.
+            SCROLLINFO info = {};
+            info.cbSize = sizeof(info);
+            info.fMask = SIF_TRACKPOS;
+            ::GetScrollInfo(holder, across ? SB_HORZ : SB_VERT, &info);
+            ::SendMessage(holder, across ? WM_HSCROLL : WM_VSCROLL,
+                          MAKEWPARAM(SB_THUMBPOSITION, info.nTrackPos), 0);
+        }
+        if (held != 0)
+        {
+            ::SendMessage(holder, WM_CANCELMODE, 0, 0);
+            return;
+        }
+    }
+}
 
 void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
                 const Children& children)
@@ -197,6 +241,11 @@ void FollowMode(CWnd& window, APPMODE newMode, APPMODE oldMode, DWORD& taken,
         return;
     }
     const WindowAlive alive(window);
+    EndPlatformScrolling(window);
+    if (!alive)
+    {
+        return;
+    }
     if (!COnBoardUIGeneral::InOnBoardMode() && taken != 0)
     {
         // Or nothing would be left to move or close it by.

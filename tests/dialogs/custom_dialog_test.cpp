@@ -147,6 +147,45 @@ TEST_F(CustomDialogTest, AnOpenDialogFollowsTheMode)
     EXPECT_EQ(bandHeight(), caption);
 }
 
+// The bar lies elsewhere beside the pointer then, whose next move would take it as far.
+TEST_F(CustomDialogTest, AThumbOfThePlatformsIsLetGoWhereItIsWhenTheModeChanges)
+{
+    DialogForTests dialog(
+        DialogTemplate(CRect(0, 0, 200, 150), WS_POPUP | WS_VISIBLE)
+            .Add("ListBox", "", WS_VSCROLL, CRect(5, 5, 120, 60), IdList)
+            .Add("Edit", "", ES_MULTILINE | WS_VSCROLL, CRect(5, 70, 120, 130), IdEdit),
+        Host());
+    ViewForTests view(dialog);
+    view.MoveWindow(250, 0, 120, 60);
+    view.SetScrollSizes(MM_TEXT, CSize(100, 1000));
+    const HWND list = ::GetDlgItem(dialog, IdList);
+    const HWND edit = ::GetDlgItem(dialog, IdEdit);
+    for (int row = 0; row < 200; ++row)
+    {
+        ::SendMessage(list, LB_ADDSTRING, 0, LPARAM("Row"));
+        ::SendMessage(edit, EM_REPLACESEL, FALSE, LPARAM("\r\n"));
+    }
+    ::SendMessage(edit, EM_SETSEL, 0, 0);
+    ::SendMessage(edit, EM_SCROLLCARET, 0, 0);
+    for (const HWND window : {list, edit, view.m_hWnd})
+    {
+        COnBoardUIGeneral::SetAppMode(STD);
+        const CRect rect = WindowRectOf(window);
+        const CPoint thumb(rect.right - 9, rect.top + 22);
+        const auto move = [&](int by) { return [=] { QueueMove(thumb + CSize(0, by)); }; };
+        int before = 0;
+        MoveTo(thumb);
+        PlaySteps({[] { QueueButton(true); }, move(8), move(9),
+                   [&] {
+                       COnBoardUIGeneral::SetAppMode(ONBOARD);
+                       before = ::GetScrollPos(window, SB_VERT);
+                   },
+                   move(12), move(13), [] { QueueButton(false); }});
+        EXPECT_EQ(::GetScrollPos(window, SB_VERT), before);
+        EXPECT_EQ(before == 0, window == view.m_hWnd) << "scaled from its corner";
+    }
+}
+
 TEST_F(CustomDialogTest, ATreeThatItOpensWithHasItsFontInTheStandardMode)
 {
     DialogTemplate form(
