@@ -189,10 +189,16 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
     const bool standard = change->mode == STD;
     Placing placing(child, !standard);
 
+    const bool combo = is("ComboBox");
+    if (combo && ::SendMessage(child, CB_GETDROPPEDSTATE, 0, 0) != 0)
+    {
+        // Its new place would hide its list, which would keep the pointer for itself.
+        ::SendMessage(child, CB_SHOWDROPDOWN, FALSE, 0);
+    }
     CRect target = RescaledRect(PlaceIn(change->parent, child), change->scale);
     UINT flags = SWP_NOZORDER;
 
-    if (is("ComboBox"))
+    if (combo)
     {
         // A combo's window height takes in its list.
         CRect dropped;

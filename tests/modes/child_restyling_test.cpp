@@ -394,8 +394,10 @@ TEST_F(ChildRestylingTest, ACombosHeightTakesInItsList)
         CRect dropped;
         combo.SendMessage(CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&dropped));
         ASSERT_GT(dropped.Height(), closed);
+        combo.SendMessage(CB_SHOWDROPDOWN, TRUE);
         combo.asked.reset();
         Restyle(Host(), scale, mode);
+        EXPECT_EQ(::GetCapture(), nullptr) << "by a list that is no longer open";
         EXPECT_EQ(combo.asked->cy,
                   int(closed * scale) + int(dropped.Height() * (mode == STD ? 1 : scale)));
         EXPECT_EQ(combo.asked->x, Across(10, scale));
