@@ -316,11 +316,13 @@ LRESULT CPropertySheet::OnSetCurSel(WPARAM, LPARAM)
 }
 
 // Not every platform takes the focus along to another page. On the one that is hidden then, keys
-// would go where nobody sees them.
+// would go where nobody sees them; and nowhere once Apply has it, which its press disables.
 void CPropertySheet::FocusShownPage()
 {
     const HWND focus = ::GetFocus();
-    if (!::IsChild(m_hWnd, focus) || ::IsWindowVisible(focus) || !IsWindowVisible())
+    const bool lost = focus == nullptr ? ::GetActiveWindow() == m_hWnd
+                                       : ::IsChild(m_hWnd, focus) && !::IsWindowVisible(focus);
+    if (!lost || !IsWindowVisible())
     {
         return;
     }
@@ -536,14 +538,42 @@ BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
         return TRUE;
     }
     const int id = LOWORD(wParam);
-    if (!here || HIWORD(wParam) != BN_CLICKED || (id != IDOK && id != IDCANCEL))
+    if (!here || HIWORD(wParam) != BN_CLICKED ||
+        (id != IDOK && id != IDCANCEL && id != ID_APPLY_NOW))
     {
         return FALSE;
     }
     Default();
-    if (here)
+    if (here && id == ID_APPLY_NOW)
+    {
+        FocusShownPage();
+    }
+    else if (here)
     {
         EndIfClosed(id);
+    }
+    return TRUE;
+}
+
+// Not every platform's tabs stay where they are when the page refuses to be left, and those that go
+// on do so once they have been told.
+BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
+{
+    const framework::StillThere here(*this);
+    const NMHDR header = *reinterpret_cast<NMHDR*>(lParam);
+    if (CWnd::OnNotify(wParam, lParam, result) || !here)
+    {
+        return TRUE;
+    }
+    if (header.code != UINT(TCN_SELCHANGING))
+    {
+        return FALSE;
+    }
+    const LRESULT selected = ::SendMessage(header.hwndFrom, TCM_GETCURSEL, 0, 0);
+    *result = here ? Default() : TRUE;
+    if (*result != FALSE && here)
+    {
+        ::PostMessage(header.hwndFrom, TCM_SETCURSEL, WPARAM(selected), 0);
     }
     return TRUE;
 }

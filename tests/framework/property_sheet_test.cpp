@@ -112,6 +112,8 @@ TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
                 first.lets = FALSE; // a page may keep the user
                 sheet.SetActivePage(1);
                 sheet.Press(PSBTN_OK);
+                sheet.GetTabControl()->SetFocus();
+                TypeKey(VK_RIGHT);
                 EXPECT_EQ(sheet.GetActivePage(), &first);
                 first.lets = TRUE;
                 TakeJournal();
@@ -173,6 +175,9 @@ TEST_F(PropertySheetTest, TheFocusGoesToThePageThatIsTurnedTo)
             sheet.SetActivePage(0);
             EXPECT_EQ(::GetFocus(), first.GetDlgItem(IDC_TEST_EDIT)->m_hWnd);
         }
+        first.SetModified();
+        TypeKey('A', VK_MENU);
+        EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << "Apply is disabled by its press";
         sheet.RemovePage(0);
         EXPECT_TRUE(::IsWindowVisible(::GetFocus())) << "else no key does anything";
         sheet.Press(PSBTN_CANCEL);

@@ -91,6 +91,7 @@ public:
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPressButton(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetCurSel(WPARAM wParam, LPARAM lParam);
