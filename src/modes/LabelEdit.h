@@ -15,9 +15,14 @@ inline bool PlaceLabelEdit(HWND edit, const CRect& label, const CRect& area, LRE
     {
         return false;
     }
-    ::SendMessage(edit, WM_SETFONT, WPARAM(font), TRUE);
     CRect place(label);
     place.InflateRect(Frame, 1);
+    if (PlaceIn(::GetParent(edit), edit).TopLeft() == place.TopLeft() &&
+        ::SendMessage(edit, WM_GETFONT, 0, 0) == font)
+    {
+        return true;
+    }
+    ::SendMessage(edit, WM_SETFONT, WPARAM(font), TRUE);
     place.right = place.left + std::max(place.Width(), PlaceIn(::GetParent(edit), edit).Width());
     ::SetWindowPos(edit, nullptr, place.left, place.top, place.Width(), place.Height(),
                    SWP_NOZORDER | SWP_NOACTIVATE);

@@ -11,7 +11,10 @@ TreeItems::TreeItems(TreeOwner& owner, std::function<void(HTREEITEM)> remove)
     , m_remove(std::move(remove))
 {}
 
-TreeItems::~TreeItems() = default;
+TreeItems::~TreeItems()
+{
+    ::RemoveWindowSubclass(m_edit, &InEdit, 0);
+}
 
 // Walking ---------------------------------------------------------------------------------------
 
@@ -172,6 +175,7 @@ bool MovesCaret(UINT message)
 
 LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    FollowEdit(message, wParam, lParam);
     const bool caretLeaves =
         message == TVM_SELECTITEM && wParam == TVGN_CARET && HTREEITEM(lParam) != m_unwritten;
     const WindowAlive alive(m_owner.Window());
@@ -250,6 +254,10 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     }
     // Both may have begun anew meanwhile.
     m_inPlatform -= tells && m_inPlatform > 0;
+    if ((message == TVM_EDITLABELA || message == TVM_EDITLABELW) && Edited() == nullptr)
+    {
+        m_edited = nullptr; // refused
+    }
     m_goingAll -= goingAll && m_goingAll > 0;
     if (caretLeaves && m_unwritten != nullptr)
     {

@@ -46,6 +46,11 @@ public:
 
     // State
     HTREEITEM Caret() const { return Next(nullptr, TVGN_CARET); }
+    // Whose label is being edited.
+    HTREEITEM Edited() const;
+    // Cancels that edit before an item of branch (null: any item) goes, of which the parent is
+    // told.
+    void CancelEditIn(HTREEITEM branch);
     UINT State(HTREEITEM item, UINT mask) const
     {
         const UINT written = item == m_unwritten ? mask & ~TVIS_SELECTED : mask;
@@ -99,7 +104,10 @@ private:
     int m_goingAll = 0;                        // depth of deletions of everything
     int m_inPlatform = 0;                      // depth of messages in which the parent is told
     std::unique_ptr<WatchedItems> m_postponed; // to be deleted when that is over
-    bool m_abandoned = false; // the platform's tree does not hear of the window's end
+    bool m_abandoned = false;     // the platform's tree does not hear of the window's end
+    HWND m_edit = nullptr;        // of a label
+    HTREEITEM m_edited = nullptr; // whose edit a message has begun, not the user
+    bool m_cancelling = false;    // that edit
     // Outlives this object if a watch does.
     std::shared_ptr<WatchList> m_watches = std::make_shared<WatchList>();
 
@@ -110,6 +118,9 @@ private:
     void FollowCaret();
     std::vector<HTREEITEM> Forget(HTREEITEM branch, bool itself);
     void ForgetAll();
+    void FollowEdit(UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK InEdit(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
+                                   UINT_PTR id, DWORD_PTR items);
     LRESULT Postpone(HTREEITEM item);
     void DeletePostponed();
 

@@ -179,6 +179,8 @@ void TreeItems::Reset()
     m_goingAll = 0;
     m_inPlatform = 0;
     m_postponed.reset();
+    m_edited = nullptr;
+    m_cancelling = false;
 }
 
 // The items that go with a branch, or with what is below it.
@@ -189,7 +191,7 @@ std::vector<HTREEITEM> TreeItems::Forget(HTREEITEM branch, bool itself)
             return std::any_of(watch->m_items.begin(), watch->m_items.end(),
                                [](HTREEITEM item) { return item != nullptr; });
         });
-    if (!watched && m_selected.empty() && m_caret == nullptr)
+    if (!watched && m_selected.empty() && m_caret == nullptr && m_edited == nullptr)
     {
         return {}; // nothing is held that could go
     }
@@ -201,9 +203,12 @@ std::vector<HTREEITEM> TreeItems::Forget(HTREEITEM branch, bool itself)
         m_selected.erase(item);
     }
     const std::unordered_set<HTREEITEM> going(all.begin(), all.end());
-    if (going.count(m_caret) != 0)
+    for (HTREEITEM* const held : {&m_caret, &m_edited})
     {
-        m_caret = nullptr;
+        if (going.count(*held) != 0)
+        {
+            *held = nullptr;
+        }
     }
     for (WatchedItems* watch : *m_watches)
     {
@@ -222,6 +227,7 @@ std::vector<HTREEITEM> TreeItems::Forget(HTREEITEM branch, bool itself)
 // the parent deletes meanwhile is only forgotten here until the platform is done.
 LRESULT TreeItems::Postpone(HTREEITEM item)
 {
+    const HTREEITEM edited = m_edited; // whose edit is still to be cancelled
     std::vector<HTREEITEM> items = {item};
     if (item == nullptr)
     {
@@ -237,6 +243,7 @@ LRESULT TreeItems::Postpone(HTREEITEM item)
         m_going.insert(going.begin(), going.end());
         m_going.insert(each);
     }
+    m_edited = edited;
     if (m_postponed == nullptr)
     {
         m_postponed = std::make_unique<WatchedItems>(*this, std::vector<HTREEITEM>());

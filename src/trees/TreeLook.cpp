@@ -103,19 +103,9 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     }
 }
 
-// The item whose label is being edited: the one that the edit lies on.
-HTREEITEM TreeLook::EditedItem() const
-{
-    const auto edit = HWND(m_items.Ask(TVM_GETEDITCONTROL));
-    TVHITTESTINFO hit = {};
-    hit.pt = PlaceIn(m_owner.Window(), edit).CenterPoint();
-    return edit == nullptr ? nullptr
-                           : HTREEITEM(m_items.Ask(TVM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
-}
-
-// The edit of a label stays with its item when the rows become higher or less high; it ends when
+// The edit of a label stays with its item when the rows move or have another height; it ends when
 // the item is not in sight any more.
-void TreeLook::FollowLabelEdit(HTREEITEM edited)
+void TreeLook::FollowLabelEdit()
 {
     const auto edit = HWND(m_items.Ask(TVM_GETEDITCONTROL));
     if (edit == nullptr)
@@ -123,9 +113,10 @@ void TreeLook::FollowLabelEdit(HTREEITEM edited)
         return;
     }
     const WindowAlive alive(m_owner.Window());
-    const CRect label = m_items.Rect(edited, true); // for which the parent may be asked
+    const CRect label = m_items.Rect(m_items.Edited(), true); // for which the parent may be asked
     CRect client;
     m_owner.Window().GetClientRect(&client);
+    client.bottom += m_items.RowHeight() - 1; // a row may be in sight in part
     if (alive && !PlaceLabelEdit(edit, label, client, m_items.Ask(WM_GETFONT)))
     {
         m_bars.EndLabelEdit();
@@ -158,17 +149,11 @@ void TreeLook::Follow()
     }
     const WindowAlive alive(window);
     const auto change = [&](void (TreeLook::*layOut)()) {
-        const HTREEITEM item = EditedItem(); // for a text's width the parent may be asked
-        if (!alive)
-        {
-            return;
-        }
-        const WatchedItem edited(m_items, item);
         (this->*layOut)();
         if (alive)
         {
             m_bold.DeleteObject();
-            FollowLabelEdit(edited.Get());
+            FollowLabelEdit();
         }
         if (alive) // last: an edit that moves has the frame painted at once
         {
@@ -389,6 +374,10 @@ void TreeLook::Paint(const CRect* band)
         if (alive)
         {
             m_bars.Mirror();
+        }
+        if (alive)
+        {
+            FollowLabelEdit(); // rows may have moved under it
         }
         if (!alive)
         {

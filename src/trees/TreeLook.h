@@ -65,8 +65,7 @@ private:
 
     void EnterOnBoard();
     void LeaveOnBoard();
-    HTREEITEM EditedItem() const;
-    void FollowLabelEdit(HTREEITEM edited);
+    void FollowLabelEdit();
     LRESULT TakeSize(UINT message, WPARAM wParam);
     void MakeLevelsForFinger();
     void MakeRowsForFinger();

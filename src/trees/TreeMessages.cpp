@@ -51,6 +51,11 @@ LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
         // The platform asks the parent, and us by it, only when the user closes the branch.
         const WatchedItem held(m_items, branch);
         LeaveBranch(branch);
+        if (alive && held.Get() != nullptr && (wParam & TVE_COLLAPSERESET) == TVE_COLLAPSERESET &&
+            m_items.Edited() != branch)
+        {
+            m_items.CancelEditIn(branch); // of one of its items, which go
+        }
         if (!alive || held.Get() == nullptr)
         {
             return FALSE;

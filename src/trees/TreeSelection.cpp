@@ -459,6 +459,12 @@ void TreeSelection::LeaveBranch(HTREEITEM item)
 LRESULT TreeSelection::DeleteItem(HTREEITEM item)
 {
     const WindowAlive alive(Window());
+    const WatchedItem held(m_items, TreeItems::Real(item));
+    m_items.CancelEditIn(held.Get());
+    if (!alive || held.Get() != TreeItems::Real(item))
+    {
+        return TRUE; // the parent has deleted it itself
+    }
     WatchedItems heirs(m_items, {});
     if (m_multi && m_items.IsWithin(m_items.Caret(), TreeItems::Real(item)))
     {

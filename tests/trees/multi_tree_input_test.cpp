@@ -466,8 +466,33 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheM
     Click(WindowPoint(tree, CPoint(200 - 26, 200 - 52 - 10)));
     EXPECT_EQ(tree.GetEditControl(), nullptr);
     EXPECT_EQ(tree.GetFirstVisibleItem(), m_items[1]);
-    tree.SelectSetFirstVisible(m_items[0]);
-    for (const APPMODE other : {STD, ONBOARD}) // it goes with its item, or ends out of sight
+    // It goes with its item, or ends out of sight.
+    const auto expectOverItsItem = [&](HTREEITEM item, const std::string& what) {
+        EXPECT_TRUE(ShowsWhatAPaintWould(tree)) << what;
+        const CWnd* const edit = tree.GetEditControl();
+        EXPECT_TRUE(edit == nullptr ||
+                    TextRectOf(tree, item).PtInRect(PlaceIn(tree, *edit).CenterPoint()))
+            << what;
+        return edit != nullptr;
+    };
+    const std::tuple<const char*, bool, std::function<void()>> moves[] = {
+        {"a new item above", true, [&] { tree.InsertItem("new", TVI_ROOT, m_items[0]); }},
+        {"one less", true, [&] { tree.DeleteItem(tree.GetNextSiblingItem(m_items[0])); }},
+        {"higher rows", true, [&] { tree.SetItemHeight(90); }},
+        {"scrolled", true, [&] { tree.SendMessage(WM_VSCROLL, SB_LINEDOWN); }},
+        {"the wheel", false, [] { Wheel(-WHEEL_DELTA); }}};
+    for (const auto& [what, stays, move] : moves)
+    {
+        tree.SendMessage(WM_VSCROLL, SB_TOP);
+        ASSERT_NE(tree.EditLabel(m_items[1]), nullptr);
+        MoveTo(ClientPoint(tree, CPoint(5, 5)));
+        move();
+        EXPECT_EQ(expectOverItsItem(m_items[1], what), stays) << what;
+        tree.SendMessage(TVM_ENDEDITLABELNOW, TRUE);
+        tree.SetItemHeight(-1);
+    }
+    tree.SendMessage(WM_VSCROLL, SB_TOP);
+    for (const APPMODE other : {STD, ONBOARD})
     {
         SetMode(other == STD ? ONBOARD : STD, tree);
         for (const size_t item : {size_t(1), size_t(tree.GetVisibleCount()) - 1})
@@ -475,13 +500,48 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheM
             ASSERT_NE(tree.EditLabel(m_items[item]), nullptr);
             COnBoardUIGeneral::SetAppMode(other);
             tree.Invalidate();
-            EXPECT_TRUE(ShowsWhatAPaintWould(tree)) << item;
-            const CWnd* const edit = tree.GetEditControl();
-            EXPECT_TRUE(other == STD || (edit != nullptr) == (item == 1)) << item;
-            const CRect label = TextRectOf(tree, m_items[item]);
-            EXPECT_TRUE(edit == nullptr || label.PtInRect(PlaceIn(tree, *edit).CenterPoint()));
+            const bool stays = expectOverItsItem(m_items[item], std::to_string(item));
+            EXPECT_TRUE(other == STD || stays == (item == 1)) << item;
             tree.SendMessage(TVM_ENDEDITLABELNOW, TRUE);
             SetMode(other == STD ? ONBOARD : STD, tree);
+        }
+    }
+}
+
+TEST_F(MultiTreeInputTest, TheEditOfALabelIsCancelledWhereItsItemIsDeleted)
+{
+    const Act<MultiTree&> ends[] = {
+        {"it is deleted", [&](MultiTree& tree) { tree.DeleteItem(b); }},
+        {"its branch", [&](MultiTree& tree) { tree.DeleteItem(a); }},
+        {"all", [](MultiTree& tree) { tree.DeleteAllItems(); }},
+        {"with all below",
+         [&](MultiTree& tree) { tree.Expand(a, TVE_COLLAPSE | TVE_COLLAPSERESET); }},
+        {"as it ends by a key", [](MultiTree&) { TypeKey(VK_RETURN); }},
+        {"by the focus", [&](MultiTree&) { Host().SetFocus(); }}};
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        for (const auto& [way, end] : ends)
+        {
+            SCOPED_TRACE(testing::Message() << way << " in " << mode);
+            SetMode(mode, Host());
+            auto& tree = Add<TreeForTests>(CRect(20, 20, 320, 420), TreeStyle | TVS_EDITLABELS);
+            Fill(tree);
+            int told = 0;
+            Host().OnCode(TVN_ENDLABELEDIT, [&](ToldMessage& message) {
+                EXPECT_EQ(About<NMTVDISPINFO>(message).item.hItem, b);
+                EXPECT_EQ(tree.GetItemText(b)[0], 'b') << "it is still there";
+                ++told;
+                message.answer = TRUE;
+                tree.DeleteItem(b);
+            });
+            ASSERT_NE(tree.EditLabel(b), nullptr);
+            TypeText("typed");
+            end(tree);
+            PumpAll();
+            EXPECT_EQ(tree.GetEditControl(), nullptr);
+            EXPECT_EQ(told, 1);
+            Host().hook = nullptr;
+            Remove(tree);
         }
     }
 }
