@@ -48,9 +48,9 @@ public:
     HTREEITEM Caret() const { return Next(nullptr, TVGN_CARET); }
     // Whose label is being edited.
     HTREEITEM Edited() const;
-    // Cancels that edit before an item of branch (null: any item) goes, of which the parent is
-    // told.
-    void CancelEditIn(HTREEITEM branch);
+    // Cancels that edit before an item of branch (null: any item) goes. False when the branch or
+    // the tree did not survive it: the parent is told.
+    bool CancelEditIn(HTREEITEM branch);
     UINT State(HTREEITEM item, UINT mask) const
     {
         const UINT written = item == m_unwritten ? mask & ~TVIS_SELECTED : mask;

@@ -16,23 +16,27 @@ HTREEITEM TreeItems::Edited() const
 }
 
 // Some platforms keep the edit, and write what is typed to where the item was.
-void TreeItems::CancelEditIn(HTREEITEM branch)
+bool TreeItems::CancelEditIn(HTREEITEM branch)
 {
     if (m_inPlatform > 0)
     {
-        return; // the deletion waits for the platform, which may be ending the edit by itself
+        return true; // the deletion waits for the platform, which may be ending the edit by itself
     }
     const HTREEITEM edited = Edited();
-    if (edited != nullptr && (branch == nullptr || IsWithin(edited, branch)))
+    if (edited == nullptr || (branch != nullptr && !IsWithin(edited, branch)))
     {
-        const WindowAlive alive(m_owner.Window());
-        m_cancelling = true;
-        Native(TVM_ENDEDITLABELNOW, TRUE, 0);
-        if (alive)
-        {
-            m_cancelling = false;
-        }
+        return true;
     }
+    const WindowAlive alive(m_owner.Window());
+    const WatchedItem held(*this, branch);
+    m_cancelling = true;
+    Native(TVM_ENDEDITLABELNOW, TRUE, 0);
+    if (!alive)
+    {
+        return false;
+    }
+    m_cancelling = false;
+    return held.Get() == branch;
 }
 
 // Each message on its way to the platform: where the edit of a label begins, and where it has

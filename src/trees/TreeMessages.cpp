@@ -54,7 +54,7 @@ LRESULT TreeSelection::Native(UINT message, WPARAM wParam, LPARAM lParam)
         if (alive && held.Get() != nullptr && (wParam & TVE_COLLAPSERESET) == TVE_COLLAPSERESET &&
             m_items.Edited() != branch)
         {
-            m_items.CancelEditIn(branch); // of one of its items, which go
+            m_items.CancelEditIn(branch); // of one that goes
         }
         if (!alive || held.Get() == nullptr)
         {

@@ -459,9 +459,7 @@ void TreeSelection::LeaveBranch(HTREEITEM item)
 LRESULT TreeSelection::DeleteItem(HTREEITEM item)
 {
     const WindowAlive alive(Window());
-    const WatchedItem held(m_items, TreeItems::Real(item));
-    m_items.CancelEditIn(held.Get());
-    if (!alive || held.Get() != TreeItems::Real(item))
+    if (!m_items.CancelEditIn(TreeItems::Real(item)))
     {
         return TRUE; // the parent has deleted it itself
     }
