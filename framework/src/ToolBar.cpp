@@ -281,47 +281,60 @@ namespace {
 class ButtonUI : public CCmdUI
 {
 public:
-    ButtonUI(CToolBar& bar, int index)
+    ButtonUI(CToolBar& bar, int index, int count, UINT id)
         : m_bar(bar)
+        , m_here(bar)
     {
-        m_nID = bar.GetItemID(index);
+        m_nID = id;
         m_nIndex = UINT(index);
-        m_nIndexMax = UINT(bar.GetCount());
+        m_nIndexMax = UINT(count);
         m_pOther = &bar;
     }
 
     void Enable(BOOL on) override
     {
         m_enableChanged = TRUE;
-        m_bar.SendMessage(TB_ENABLEBUTTON, m_nID, MAKELPARAM(on, 0));
+        Set(TB_ENABLEBUTTON, on);
     }
     void SetCheck(int check) override
     {
-        const UINT style = m_bar.GetButtonStyle(int(m_nIndex));
-        if ((style & TBBS_CHECKBOX) == 0)
+        const UINT style = m_here ? m_bar.GetButtonStyle(int(m_nIndex)) : 0;
+        if (m_here && (style & TBBS_CHECKBOX) == 0)
         {
             m_bar.SetButtonStyle(int(m_nIndex), style | TBBS_CHECKBOX);
         }
-        m_bar.SendMessage(TB_CHECKBUTTON, m_nID, MAKELPARAM(check == 1, 0));
-        m_bar.SendMessage(TB_INDETERMINATE, m_nID, MAKELPARAM(check == 2, 0));
+        Set(TB_CHECKBUTTON, check == 1);
+        Set(TB_INDETERMINATE, check == 2);
     }
     void SetText(LPCSTR) override {} // a button's picture speaks for it
 
 private:
     CToolBar& m_bar;
+    framework::StillThere m_here;
+
+    void Set(UINT message, BOOL on)
+    {
+        if (m_here)
+        {
+            m_bar.SendMessage(message, m_nID, MAKELPARAM(on, 0));
+        }
+    }
 };
 
 } // namespace
 
 void CToolBar::OnUpdateCmdUI(CFrameWnd* target, BOOL disableIfNoHandler)
 {
-    const framework::StillThere here(*this); // handlers may end the bar
-    for (int index = 0; here && index < GetCount(); ++index)
+    const framework::StillThere here(*this); // handlers may end the bar, and so may its messages
+    for (int index = 0, count = GetCount(); here && index < count; ++index)
     {
-        if ((GetButtonStyle(index) & TBBS_SEPARATOR) == 0)
+        const TBBUTTON button = ButtonAt(index);
+        if (here && (button.fsStyle & TBBS_SEPARATOR) == 0)
         {
-            ButtonUI(*this, index).DoUpdate(target, disableIfNoHandler);
+            ButtonUI(*this, index, count, UINT(button.idCommand))
+                .DoUpdate(target, disableIfNoHandler);
         }
+        count = here ? GetCount() : 0;
     }
     if (here)
     {

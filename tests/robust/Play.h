@@ -45,7 +45,7 @@ inline std::optional<Told> AboutAChild(UINT message, WPARAM wParam, LPARAM lPara
         WM_MEASUREITEM,   WM_DELETEITEM,    WM_COMPAREITEM, WM_VKEYTOITEM, WM_CHARTOITEM,
         WM_CONTEXTMENU,   WM_MOUSEACTIVATE, WM_MOUSEWHEEL,  WM_SETCURSOR,  WM_ERASEBKGND,
         WM_PRINTCLIENT,   WM_INITDIALOG,    WM_CLOSE,       WM_ACTIVATE,   WM_NEXTDLGCTL,
-        WM_CHANGEUISTATE, WM_HELP};
+        WM_CHANGEUISTATE, WM_HELP,          WM_NOTIFYFORMAT};
     switch (message)
     {
     case WM_COMMAND:
@@ -118,6 +118,7 @@ constexpr Forbidden PlatformFaults[] = {
     {WC_TREEVIEW, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(TVN_GETDISPINFO)}},
     {WC_TREEVIEW, {WM_NOTIFY, UINT(TVN_DELETEITEM)}, 0, true, true},
+    {TOOLTIPS_CLASS, {WM_NOTIFY, UINT(TTN_GETDISPINFOW)}}, // the tip goes with its tool bar
     {STATUSCLASSNAME, {WM_ERASEBKGND}, 0, true, true},
 };
 
@@ -228,7 +229,8 @@ struct Play
         const HWND control = now->control->GetSafeHwnd();
         const bool dies =
             now->death == Death::Parent ||
-            (now->death != Death::Sibling && (sender == control || ::IsChild(control, sender)));
+            (now->death != Death::Sibling && (sender == control || ::IsChild(control, sender) ||
+                                              IsOfClass(sender, TOOLTIPS_CLASS)));
         if ((dies && IsForbidden(sender, what, again)) || FocusGiver::EndsWith(now->Ending()))
         {
             now->awaited.reset();

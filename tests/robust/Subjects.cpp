@@ -178,16 +178,21 @@ void UseReport(CCustomListCtrl& list, Arguments& arguments)
 // The framework's window of a program, with its bars and a view.
 struct Frame : Standing<CFrameWnd>
 {
-    CToolBar tools;
-    CStatusBar status;
+    Mortal<CToolBar> tools;
+    Mortal<CStatusBar> status;
 };
+struct FramesView : Mortal<MultiTreeView>
+{
+    DECLARE_DYNCREATE(FramesView)
+};
+IMPLEMENT_DYNCREATE(FramesView, MultiTreeView)
 
 std::unique_ptr<CWnd> MakeFrame(CWnd& owner, const Contents& contents)
 {
     CRect place = contents.place;
     owner.ClientToScreen(&place);
     CCreateContext context;
-    context.m_pNewViewClass = RUNTIME_CLASS(MultiTreeView);
+    context.m_pNewViewClass = RUNTIME_CLASS(FramesView);
     auto frame = std::make_unique<Mortal<Frame>>();
     const UINT ids[] = {1, 2, 3};
     const bool made = frame->Create(nullptr, contents.text.c_str(), WS_POPUP | WS_CAPTION, place,

@@ -144,6 +144,7 @@ const Kind& KindOf(HWND window)
 const std::vector<Word> CommonWords = {
     {WM_CANCELMODE}, {WM_SETTEXT, None, Text}, {WM_SETFONT, Font, Flag}, {WM_SETREDRAW, Flag},
     {WM_SYSCOLORCHANGE}, {WM_VSCROLL, Small}, {WM_HSCROLL, Small, None}, {WM_TIMER, Timer},
+    {WM_NOTIFYFORMAT, None, Fixed, NF_REQUERY},
     {0x069C, Row}, // what assistive programs ask of the library's controls
 };
 

@@ -8,8 +8,11 @@
 #include "CustomPropSheet.h"
 #include "MultiTreeView.h"
 #include "catalog/Makers.h"
+#include "support/Acting.h"
 #include "support/WindowTest.h"
 #include "support/forms.h"
+
+#include <set>
 
 namespace {
 
@@ -41,16 +44,26 @@ Made MakeSheet(CWnd& owner, const Contents&)
     return sheet;
 }
 
+Made MakeFrame(CWnd& owner, const Contents&)
+{
+    auto frame = std::make_unique<Hearing<Standing<CFrameWnd>>>();
+    frame->Create(nullptr, "", WS_POPUP | WS_CAPTION | WS_CLIPCHILDREN, Stage, &owner);
+    return frame;
+}
+
 struct ParentKind
 {
     const char* name;
     Made (*make)(CWnd& parent, const Contents& contents);
+    std::set<std::string> controls = {"push button", "list box",
+                                      "combo"}; // of others but the first
 };
-constexpr ParentKind ParentKinds[] = {{"", &MakePlain},
-                                      {"on a dialog", &Parents::MakeDialog},
-                                      {"on a message box", &Parents::MakeMessageBox},
-                                      {"on a page", &MakeSheet},
-                                      {"on a form view", &Parents::MakeFormView}};
+const ParentKind ParentKinds[] = {{"", &MakePlain},
+                                  {"on a dialog", &Parents::MakeDialog},
+                                  {"on a message box", &Parents::MakeMessageBox},
+                                  {"on a page", &MakeSheet},
+                                  {"on a form view", &Parents::MakeFormView},
+                                  {"on a frame", &MakeFrame, {"tool bar", "tree view"}}};
 
 // Input by queue: a press may run a loop of the control's own, which needs its end to be there.
 void QueuePress(CPoint point, CPoint to, bool right)
@@ -95,6 +108,7 @@ void HaveItSpeak(CWnd& control)
     if (auto* const bar = dynamic_cast<CToolBar*>(&control))
     {
         bar->SetButtonStyle(0, BTNS_DROPDOWN);
+        bar->SetBarStyle(bar->GetBarStyle() | CBRS_TOOLTIPS);
     }
 }
 
@@ -183,6 +197,7 @@ private:
     void Messages()
     {
         Say(WordsOf(m_window));
+        AskForTip();
         m_play.Paint(m_window);
         const bool tree = IsOfClass(m_window, WC_TREEVIEW);
         if (tree || IsOfClass(m_window, WC_LISTVIEW))
@@ -195,6 +210,19 @@ private:
             Send(tree ? TVM_EDITLABEL : LVM_EDITLABEL, 0, item);
             Do([&] { TypeKey(VK_ESCAPE); });
         }
+    }
+
+    // As it does before it shows, for the text of a tool.
+    void AskForTip()
+    {
+        const bool bar = IsOfClass(m_window, TOOLBARCLASSNAME);
+        char text[INFOTIPSIZE] = "";
+        TTTOOLINFO tool = {sizeof(tool), 0, m_window, 2};
+        tool.lpszText = text;
+        Do([&] {
+            const LRESULT tip = ::SendMessage(m_window, bar ? TB_GETTOOLTIPS : WM_NULL, 0, 0);
+            ::SendMessage(HWND(tip), TTM_GETTEXT, 0, LPARAM(&tool));
+        });
     }
 
     void Changes()
@@ -352,9 +380,7 @@ std::vector<Case> Cases()
     {
         for (const Subject& subject : Subjects())
         {
-            const std::string name = subject.name;
-            if (&kind == ParentKinds || name == "push button" || name == "list box" ||
-                name == "combo")
+            if (&kind == ParentKinds || kind.controls.contains(subject.name))
             {
                 cases.push_back({&subject, &kind});
             }

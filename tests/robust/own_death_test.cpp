@@ -45,12 +45,10 @@ protected:
     static bool Hear(const CWnd& window, UINT message)
     {
         // An edit of the platform on a form tells the first two in the middle of its painting and
-        // of its typing, and goes on with what it had, as do a bar that asks its frame while it is
-        // made and a tree that does so while it paints; the others come when it is time.
+        // of its typing, and goes on with what it had; the others come when it is time.
         constexpr UINT left[] = {WM_CTLCOLOREDIT, WM_COMMAND, WM_MOUSELEAVE, WM_NCMOUSELEAVE,
                                  BlinkOfTheCaret};
-        const bool asked = (message == WM_NOTIFYFORMAT || message == WM_NOTIFY) && IsFrame(window);
-        if (PlatformWorks != 0 || asked || std::ranges::find(left, message) != std::end(left))
+        if (PlatformWorks != 0 || std::ranges::find(left, message) != std::end(left))
         {
             return false;
         }
