@@ -157,9 +157,10 @@ void Storm::SendOne(HWND window, const std::vector<Word>& words)
     const LPARAM lParam = m_arguments.Second(word, window);
     // Two edits of labels, one after the other, on a list that is disabled: the first gets no focus
     // to lose, so that the platform leaves it behind, and it is painted for ever.
-    const bool endless = word.message == LVM_EDITLABEL && IsShutOff(window);
+    const bool edits = word.message == LVM_EDITLABELA || word.message == LVM_EDITLABELW;
+    const bool endless = edits && IsShutOff(window);
     // A letter that replaces what is selected in an edit of the platform's: it wrote past its text.
-    const bool pastText = word.message == WM_CHAR && IsPlainEdit(window);
+    const bool pastText = word.wParam == Argument::Letter && IsPlainEdit(window);
     if (!endless && !pastText)
     {
         Send(window, word.message, wParam, lParam);

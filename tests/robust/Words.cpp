@@ -5,6 +5,8 @@
 
 #include <afxdlgs.h>
 
+#include <tpcshrd.h>
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -38,13 +40,13 @@ const Kind Kinds[] = {
      ODT_STATIC, {WM_CTLCOLORSTATIC}, {STN_CLICKED, STN_DBLCLK, STN_ENABLE, STN_DISABLE}},
     {"Edit",
      {{EM_SETSEL, Row, Row}, {EM_REPLACESEL, Flag, Text}, {EM_UNDO}, {EM_SETREADONLY, Flag},
-      {EM_LINESCROLL, None, Small}, {EM_SCROLL, Small}, {EM_SCROLLCARET}, {EM_LIMITTEXT, Data}, {EM_LIMITTEXT, Length},
-      {EM_GETLINE, Row, Buffer}, {EM_SETMARGINS, Flag, Flag}, {EM_GETRECT, None, Place},
-      {EM_SETRECT, None, Place}, {EM_SETRECTNP, None, Place}, {EM_SETTABSTOPS, Three, Edges},
-      {EM_SETPASSWORDCHAR}, {EM_SETPASSWORDCHAR, Fixed, None, '*'},
-      {EM_CHARFROMPOS, None, Point}, {EM_LINEINDEX, Row},
-      {EM_GETFIRSTVISIBLELINE}, {WM_COPY}, {WM_PASTE}, {WM_CUT}, {WM_CLEAR}, {WM_UNDO},
-      {WM_CHAR, Letter}},
+      {EM_LINESCROLL, None, Small}, {EM_SCROLL, Small}, {EM_SCROLLCARET}, {EM_LIMITTEXT, Data},
+      {EM_LIMITTEXT, Length}, {EM_GETLINE, Row, Buffer}, {EM_SETMARGINS, Flag, Flag},
+      {EM_GETRECT, None, Place}, {EM_SETRECT, None, Place}, {EM_SETRECTNP, None, Place},
+      {EM_SETTABSTOPS, Three, Edges}, {EM_SETPASSWORDCHAR}, {EM_SETPASSWORDCHAR, Fixed, None, '*'},
+      {EM_GETPASSWORDCHAR}, {EM_CHARFROMPOS, None, Point}, {EM_LINEINDEX, Row},
+      {EM_LINELENGTH, Row}, {EM_GETFIRSTVISIBLELINE}, {WM_COPY}, {WM_PASTE}, {WM_CUT}, {WM_CLEAR},
+      {WM_UNDO}, {WM_CHAR, Letter}},
      0, {WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC},
      {EN_SETFOCUS, EN_KILLFOCUS, EN_CHANGE, EN_UPDATE, EN_MAXTEXT, EN_HSCROLL, EN_VSCROLL}},
     {"ListBox",
@@ -56,41 +58,47 @@ const Kind Kinds[] = {
       {LB_GETITEMHEIGHT, Row}, {LB_GETITEMRECT, Row, Place}, {LB_ITEMFROMPOINT, None, Point},
       {LB_SETCARETINDEX, Row}, {LB_SETHORIZONTALEXTENT, Length}, {LB_SETCOLUMNWIDTH, Length},
       {LB_SELITEMRANGE, Flag, Data}, {LB_SETCOUNT, Three}, {LB_INITSTORAGE, Three, Three},
-      {LB_DIR, Flag, Text}, {LB_ADDFILE, None, Text}},
-     ODT_LISTBOX, {WM_CTLCOLORLISTBOX},
+      {LB_DIR, Flag, Text}, {LB_ADDFILE, None, Text}, {LB_GETHORIZONTALEXTENT}},
+     ODT_LISTBOX, {WM_CTLCOLORLISTBOX, WM_VKEYTOITEM, WM_CHARTOITEM},
      {LBN_SELCHANGE, LBN_DBLCLK, LBN_SELCANCEL, LBN_SETFOCUS, LBN_KILLFOCUS}},
     {WC_HEADER,
      {{HDM_GETITEMCOUNT}, {HDM_SETITEM, Three, HeadItem}, {HDM_GETITEM, Three, HeadItem},
-      {HDM_GETITEMRECT, Three, Place}, {HDM_HITTEST, None, Hit},
-      {HDM_ORDERTOINDEX, Three}, {HDM_SETHOTDIVIDER, Flag, Three}},
+      {HDM_GETITEMRECT, Three, Place}, {HDM_HITTEST, None, Hit}, {HDM_ORDERTOINDEX, Three},
+      {HDM_SETHOTDIVIDER, Flag, Three}},
      ODT_HEADER, {},
-     {HDN_ITEMCLICKA, HDN_ITEMCLICKW, HDN_ITEMDBLCLICKW, HDN_BEGINTRACKW, HDN_DIVIDERDBLCLICKW}},
+     {HDN_ITEMCLICKA, HDN_ITEMCLICKW, HDN_ITEMDBLCLICKW, HDN_BEGINTRACKW, HDN_TRACKA, HDN_TRACKW,
+      HDN_ENDTRACKA, HDN_ENDTRACKW, HDN_DIVIDERDBLCLICKW}},
     {WC_LISTVIEW,
-     {{LVM_INSERTITEM, None, ListItem}, {LVM_SETITEM, None, ListItem}, {LVM_DELETEITEM, Row},
+     {{LVM_INSERTITEMA, None, ListItem}, {LVM_INSERTITEMW, None, ListItem},
+      {LVM_SETITEMA, None, ListItem}, {LVM_SETITEMW, None, ListItem}, {LVM_DELETEITEM, Row},
       {LVM_DELETEALLITEMS}, {LVM_SETITEMSTATE, Row, ListItem}, {LVM_ENSUREVISIBLE, Row, Flag},
       {LVM_SCROLL, Small, Small}, {LVM_SETCOLUMNWIDTH, Small, Length}, {LVM_DELETECOLUMN, Small},
       {LVM_SETITEMCOUNT, Three}, {LVM_SETITEMCOUNT, Fixed, None, 60}, {LVM_GETTOPINDEX},
-      {LVM_GETCOUNTPERPAGE},
-      {LVM_REDRAWITEMS, Row, Row}, {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21},
-      {LVM_SETCOLUMN, Three, Heading}, {LVM_SETITEMTEXT, Row, ListItem}, {LVM_UPDATE, Row},
-      {LVM_SORTITEMS, Data, Order}, {LVM_SORTITEMSEX, Data, Order}, {LVM_EDITLABEL, Row},
-      {LVM_CANCELEDITLABEL}, {LVM_SETVIEW, Fixed, None, LV_VIEW_LIST},
-      {LVM_SETVIEW, Fixed, None, LV_VIEW_DETAILS},
+      {LVM_GETCOUNTPERPAGE}, {LVM_REDRAWITEMS, Row, Row},
+      {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21}, {LVM_SETCOLUMNA, Three, Heading}, {LVM_SETCOLUMNW, Three, Heading}, {LVM_UPDATE, Row},
+      {LVM_INSERTCOLUMNA, Three, Heading}, {LVM_INSERTCOLUMNW, Three, Heading},
+      {LVM_SETITEMTEXTA, Row, ListItem}, {LVM_SETITEMTEXTW, Row, ListItem},
+      {LVM_SETIMAGELIST, Fixed, Pictures, LVSIL_SMALL}, {LVM_GETITEMRECT, Row, Place},
+      {LVM_GETHEADER}, {LVM_SORTITEMS, Data, Order}, {LVM_SORTITEMSEX, Data, Order},
+      {LVM_EDITLABELA, Row}, {LVM_EDITLABELW, Row}, {LVM_CANCELEDITLABEL},
+      {LVM_SETVIEW, Fixed, None, LV_VIEW_LIST}, {LVM_SETVIEW, Fixed, None, LV_VIEW_DETAILS},
       {0x069A}, {0x069B}}, // what the library's list posts to itself
      ODT_LISTVIEW, {WM_CTLCOLOREDIT},
      {LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_INSERTITEM, LVN_COLUMNCLICK, LVN_ITEMACTIVATE,
-      LVN_BEGINDRAG, LVN_BEGINRDRAG, NM_CLICK, NM_DBLCLK, NM_RCLICK, NM_RDBLCLK}},
+      LVN_HOTTRACK, LVN_MARQUEEBEGIN, LVN_GETINFOTIPA, LVN_GETINFOTIPW, LVN_BEGINDRAG,
+      LVN_BEGINRDRAG, NM_CLICK, NM_DBLCLK, NM_RCLICK, NM_RDBLCLK}},
     {WC_TREEVIEW,
      {{TVM_SELECTITEM, Fixed, TreeItem, TVGN_CARET},
       {TVM_SELECTITEM, Fixed, TreeItem, TVGN_FIRSTVISIBLE},
       {TVM_EXPAND, Fixed, TreeItem, TVE_EXPAND}, {TVM_EXPAND, Fixed, TreeItem, TVE_COLLAPSE},
-      {TVM_EXPAND, Fixed, TreeItem, TVE_TOGGLE},
-      {TVM_ENSUREVISIBLE, None, TreeItem}, {TVM_DELETEITEM, None, TreeItem}, {TVM_GETCOUNT},
-      {TVM_GETVISIBLECOUNT}, {TVM_EDITLABEL, None, TreeItem}, {TVM_ENDEDITLABELNOW, Flag},
-      {TVM_SETITEM, None, Branch}, {TVM_SETIMAGELIST, Fixed, Pictures, TVSIL_NORMAL},
-      {TVM_SETITEMHEIGHT, Three}, {TVM_SETITEMHEIGHT, Fixed, None, 33},
-      {TVM_SETITEMHEIGHT, Fixed, None, WPARAM(-1)},
+      {TVM_EXPAND, Fixed, TreeItem, TVE_TOGGLE}, {TVM_ENSUREVISIBLE, None, TreeItem},
+      {TVM_DELETEITEM, None, TreeItem}, {TVM_GETCOUNT}, {TVM_GETVISIBLECOUNT},
+      {TVM_EDITLABELA, None, TreeItem}, {TVM_EDITLABELW, None, TreeItem},
+      {TVM_ENDEDITLABELNOW, Flag}, {TVM_SETITEMA, None, Branch}, {TVM_SETITEMW, None, Branch},
+      {TVM_SETIMAGELIST, Fixed, Pictures, TVSIL_NORMAL}, {TVM_SETITEMHEIGHT, Three},
+      {TVM_SETITEMHEIGHT, Fixed, None, 33}, {TVM_SETITEMHEIGHT, Fixed, None, WPARAM(-1)},
       {TVM_SETINDENT, Three}, {TVM_SETINDENT, Fixed, None, 40},
+      {WM_USER + 20, None, Flag}, // a view is torn off, or put back
       // What goes between views while one drags; points are the screen's.
       {::RegisterWindowMessage("Kest Drag Track"), Hit},
       {::RegisterWindowMessage("Kest Drag Leave")},
@@ -106,24 +114,24 @@ const Kind Kinds[] = {
       {TB_GETITEMRECT, Three, Place}, {TB_SETSTATE, Three, Three}, {TB_AUTOSIZE}},
      0, {}, {TBN_DROPDOWN, TBN_BEGINDRAG, TBN_ENDDRAG, NM_CLICK}},
     {STATUSCLASSNAME,
-     {{SB_SETTEXT, Three, Text}, {SB_GETTEXT, Three, Buffer}, {SB_GETTEXTLENGTH, Three},
-      {SB_SETPARTS, Fixed, Edges, 2}, {SB_SETPARTS, Fixed, Edges, 3},
+     {{SB_SETTEXTA, Three, Text}, {SB_SETTEXTW, Three, Text}, {SB_GETTEXT, Three, Buffer},
+      {SB_GETTEXTLENGTH, Three}, {SB_SETPARTS, Fixed, Edges, 2}, {SB_SETPARTS, Fixed, Edges, 3},
       {SB_GETPARTS, Fixed, Edges, 3}, {SB_GETRECT, Three, Place}, {SB_SIMPLE, Flag},
       {SB_SETMINHEIGHT, Length}, {SB_SETBKCOLOR, None, Data}},
      0, {WM_CTLCOLORSTATIC}, {NM_CLICK, NM_RCLICK}},
     {WC_TABCONTROL,
      {{TCM_SETCURFOCUS, Flag}, {TCM_GETITEMRECT, Flag, Place}, {TCM_HITTEST, None, Hit},
-      {TCM_GETCURSEL}, {TCM_ADJUSTRECT, Flag, Place}},
+      {TCM_GETCURSEL}, {TCM_SETITEMSIZE, None, Point}, {TCM_ADJUSTRECT, Flag, Place}},
      ODT_TAB, {WM_CTLCOLORSTATIC}, {TCN_SELCHANGE, TCN_SELCHANGING, NM_CLICK}},
     {"#32770",
      {{WM_NEXTDLGCTL, Flag}, {WM_NEXTDLGCTL, Child, Fixed, TRUE}, {DM_GETDEFID},
       {DM_SETDEFID, Fixed, None, IDOK}, {WM_COMMAND, Fixed, None, IDOK},
       {WM_COMMAND, Fixed, None, IDCANCEL}, {WM_ACTIVATE, Three, Child},
-      {WM_MOVING, Fixed, Place, 9}, {WM_SIZING, Fixed, Place, WMSZ_BOTTOMRIGHT},
-      {WM_ENTERSIZEMOVE}, {WM_EXITSIZEMOVE}, {PSM_SETCURSEL, Flag}, {PSM_SETTITLE, None, Text},
-      {PSM_CANCELTOCLOSE}, {PSM_APPLY}, {PSM_QUERYSIBLINGS, Data, Data}, {PSM_GETCURRENTPAGEHWND},
-      {PSM_PRESSBUTTON, Fixed, None, PSBTN_APPLYNOW},
-      {WM_SETICON, Flag}, {WM_SYSCOMMAND, Fixed, None, SC_RESTORE}},
+      {WM_MOVING, Fixed, Place, 9}, {WM_SIZING, Fixed, Place, WMSZ_BOTTOMRIGHT}, {WM_ENTERSIZEMOVE},
+      {WM_EXITSIZEMOVE}, {PSM_SETCURSEL, Flag}, {PSM_SETTITLE, None, Text}, {PSM_CANCELTOCLOSE},
+      {PSM_APPLY}, {PSM_QUERYSIBLINGS, Data, Data}, {PSM_GETCURRENTPAGEHWND},
+      {PSM_PRESSBUTTON, Fixed, None, PSBTN_APPLYNOW}, {WM_SETICON, Flag},
+      {WM_GETMINMAXINFO, None, Place}, {WM_SYSCOMMAND, Fixed, None, SC_RESTORE}},
      0, {WM_CTLCOLORDLG}, {}},
     {"", // any other
      {}, 0, {WM_CTLCOLORSTATIC},
@@ -149,14 +157,21 @@ const std::vector<Word> CommonWords = {
 };
 
 const std::vector<Word> AnyWords = {
-    {WM_CHAR, Letter}, {WM_SYSKEYUP, Fixed, None, VK_DOWN}, {WM_MOUSELEAVE},
-    {WM_MOUSEHOVER, None, Point}, {WM_PRINTCLIENT, Context, Printed}, {WM_PRINT, Context, Printed},
-    {WM_ERASEBKGND, Context}, {WM_UPDATEUISTATE, UiState}, {WM_CHANGEUISTATE, UiState},
-    {WM_QUERYUISTATE}, {WM_ACTIVATE, Three}, {WM_NCACTIVATE, Flag}, {WM_ACTIVATEAPP, Flag},
+    {WM_CHAR, Letter}, {WM_SYSCHAR, Letter}, {WM_UNICHAR, Letter}, {WM_IME_CHAR, Letter},
+    {WM_IME_STARTCOMPOSITION}, {WM_IME_COMPOSITION}, {WM_IME_ENDCOMPOSITION},
+    {WM_SYSKEYUP, Fixed, None, VK_DOWN}, {WM_MOUSELEAVE}, {WM_MOUSEHOVER, None, Point},
+    {WM_PRINTCLIENT, Context, Printed}, {WM_PRINT, Context, Printed}, {WM_ERASEBKGND, Context},
+    {WM_UPDATEUISTATE, UiState}, {WM_CHANGEUISTATE, UiState}, {WM_QUERYUISTATE},
+    {WM_ACTIVATE, Three}, {WM_NCACTIVATE, Flag}, {WM_ACTIVATEAPP, Flag},
     {WM_GETTEXT, Fixed, Buffer, 0x100}, {WM_GETTEXTLENGTH}, {WM_GETFONT}, {WM_GETDLGCODE},
     {WM_SETTINGCHANGE}, {WM_THEMECHANGED}, {WM_FONTCHANGE}, {WM_DISPLAYCHANGE, Fixed, None, 32},
     {WM_PARENTNOTIFY, Fixed, Point, WM_LBUTTONDOWN}, {WM_QUERYNEWPALETTE},
-    {WM_NCCALCSIZE, Flag}, {WM_MOVING}, // without the record that belongs to them
+    {WM_TABLET_QUERYSYSTEMGESTURESTATUS, None, Point},
+    {WM_DPICHANGED, Fixed, Place, MAKELONG(120, 120)},
+    {WM_MOUSEACTIVATE, None, Fixed, MAKELONG(HTCLIENT, WM_LBUTTONDOWN)},
+    {WM_SETCURSOR, None, Fixed, MAKELONG(HTCLIENT, WM_MOUSEMOVE)},
+    {WM_MENUSELECT, Fixed, None, MAKEWPARAM(0, 0xFFFF)}, {WM_IDLEUPDATECMDUI, Flag},
+    {WM_INITIALUPDATE},
 };
 // clang-format on
 
@@ -239,61 +254,40 @@ LPARAM Arguments::Value(Argument argument, HWND window)
         return reinterpret_cast<LPARAM>(child);
     }
     case HeadItem:
-    {
-        HDITEM item = {};
-        item.mask = HDI_WIDTH | HDI_FORMAT;
-        item.cxy = Between(0, 200);
-        item.fmt = HDF_STRING | (Between(0, 1) ? HDF_SORTUP : HDF_SORTDOWN);
-        return InRoom(item);
-    }
+        return InRoom(HDITEM{.mask = HDI_WIDTH | HDI_FORMAT,
+                             .cxy = Between(0, 200),
+                             .fmt = HDF_STRING | (Between(0, 1) ? HDF_SORTUP : HDF_SORTDOWN)});
     case Hit:
         return InRoom(CPoint(Between(-20, 300), Between(-20, 200)));
     case Edges:
-    {
-        const int first = Between(10, 100);
-        return InRoom(std::array{first, first + Between(0, 100), -1});
-    }
+        return InRoom(std::array{Between(10, 100), Between(100, 200), -1});
     case Font:
         return LPARAM(::GetStockObject(Between(0, 1) ? DEFAULT_GUI_FONT : SYSTEM_FONT));
     case Timer:
         return LPARAM(OneOf(TimerIds));
     case ListItem:
-    {
-        LVITEM item = {};
-        item.mask = LVIF_TEXT | LVIF_STATE;
-        item.iItem = Between(-1, 60);
-        item.iSubItem = Between(0, 4) - 1;
-        item.pszText = const_cast<char*>(Words());
-        item.state = UINT(Between(0, 3));
-        item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-        return InRoom(item);
-    }
+        return InRoom(LVITEM{.mask = LVIF_TEXT | LVIF_STATE,
+                             .iItem = Between(-1, 60),
+                             .iSubItem = Between(0, 4) - 1,
+                             .state = UINT(Between(0, 3)),
+                             .stateMask = LVIS_SELECTED | LVIS_FOCUSED,
+                             .pszText = const_cast<char*>(Words())});
     case Heading:
-    {
-        LVCOLUMN column = {};
-        column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT;
-        column.fmt = Between(LVCFMT_LEFT, LVCFMT_CENTER);
-        column.cx = Between(0, 200);
-        column.pszText = const_cast<char*>(Words());
-        return InRoom(column);
-    }
+        return InRoom(LVCOLUMN{.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT,
+                               .fmt = Between(LVCFMT_LEFT, LVCFMT_CENTER),
+                               .cx = Between(0, 200),
+                               .pszText = const_cast<char*>(Words())});
     case Branch:
-    {
-        TVITEM item = {};
-        item.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_STATE;
-        item.hItem = HTREEITEM(Value(TreeItem, window));
-        item.pszText = const_cast<char*>(Words());
-        item.state = UINT(Between(0, 1)) * TVIS_SELECTED | UINT(Between(0, 1)) * TVIS_BOLD;
-        item.stateMask = TVIS_SELECTED | TVIS_BOLD;
-        return InRoom(item);
-    }
+        return InRoom(
+            TVITEM{.mask = TVIF_HANDLE | TVIF_TEXT | TVIF_STATE,
+                   .hItem = HTREEITEM(Value(TreeItem, window)),
+                   .state = UINT(Between(0, 1)) * TVIS_SELECTED | UINT(Between(0, 1)) * TVIS_BOLD,
+                   .stateMask = TVIS_SELECTED | TVIS_BOLD,
+                   .pszText = const_cast<char*>(Words())});
     case Order:
-    {
-        const PFNLVCOMPARE order = [](LPARAM first, LPARAM second, LPARAM) {
+        return reinterpret_cast<LPARAM>(PFNLVCOMPARE([](LPARAM first, LPARAM second, LPARAM) {
             return first < second ? -1 : int(first > second);
-        };
-        return reinterpret_cast<LPARAM>(order);
-    }
+        }));
     case Pictures:
     {
         static const HIMAGELIST pictures = ::ImageList_Create(24, 24, ILC_COLOR32, 1, 1);
@@ -358,6 +352,12 @@ Received ToParent::Notified(HWND control, UINT code)
         m_said.heading.iItem = m_arguments.Between(
             0, std::max(0, int(::SendMessage(control, HDM_GETITEMCOUNT, 0, 0)) - 1));
     }
+    else if (code == LVN_GETINFOTIPA || code == LVN_GETINFOTIPW)
+    {
+        m_said.tip.pszText = reinterpret_cast<char*>(m_arguments.Value(Buffer, control));
+        m_said.tip.cchTextMax = INFOTIPSIZE;
+        m_said.tip.iItem = m_arguments.Between(0, 5);
+    }
     else if (name == WC_LISTVIEW)
     {
         const int rows = int(::SendMessage(control, LVM_GETITEMCOUNT, 0, 0));
@@ -395,7 +395,10 @@ Received ToParent::Next(HWND control)
         (what <= 2 && !kind.colours.empty()) || kind.told.empty() ? kind.colours : kind.told;
     const UINT code = of.empty() ? NM_CLICK : m_arguments.OneOf(of);
     return &of == &kind.colours && !of.empty()
-               ? Received{code, WPARAM(m_arguments.Value(Context, control)), self}
+               ? Received{code,
+                          WPARAM(m_arguments.Value(code < WM_CTLCOLORMSGBOX ? Letter : Context,
+                                                   control)),
+                          self}
            : int(code) >= 0 ? Received{WM_COMMAND, MAKEWPARAM(::GetDlgCtrlID(control), code), self}
                             : Notified(control, code);
 }
@@ -403,18 +406,12 @@ Received ToParent::Next(HWND control)
 int EndTimers()
 {
     int ended = 0;
-    const auto end = [](HWND window, LPARAM last) -> BOOL {
+    for (const HWND window : AllWindows())
+    {
         for (const UINT id : TimerIds)
         {
-            int& ended = *reinterpret_cast<int*>(last);
             ended = ::KillTimer(window, id) ? int(id) : ended;
         }
-        return TRUE;
-    };
-    for (const HWND window : TopLevelWindows())
-    {
-        end(window, LPARAM(&ended));
-        ::EnumChildWindows(window, end, LPARAM(&ended));
     }
     return ended;
 }

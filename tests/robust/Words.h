@@ -88,7 +88,11 @@ public:
 private:
     std::uint32_t m_seed;
     std::mt19937 m_random;
-    std::string m_texts[4] = {"", "Row 7", "Waypoint", std::string(300, 'W')};
+    // Each also ends as one of wide characters.
+    std::string m_texts[4] = {std::string(3, '\0'),
+                              {"Row 7\0\0", 7},
+                              {"Waypoint\0\0", 10},
+                              std::string(300, 'W') + std::string(3, '\0')};
     std::vector<char> m_room = std::vector<char>(0x10000);
     Canvas m_canvas{300, 200};
 
@@ -111,6 +115,7 @@ private:
     union {
         NMHDR header;
         NMITEMACTIVATE list;
+        NMLVGETINFOTIP tip;
         NMTREEVIEW tree;
         NMHEADER heading;
         NMTOOLBAR button;
