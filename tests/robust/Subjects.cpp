@@ -114,7 +114,6 @@ constexpr Act<CCustomDropListCombo> ComboActs[] = {
     [](auto& combo, int, const char* text) { for (int row = 0; row < 40; ++row) combo.AddString(text); },
     [](auto& combo, int, const char*) { combo.ToggleDropList(); },
     [](auto& combo, int, const char*) { combo.SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001); },
-    [](auto& combo, int, const char*) { combo.ToggleDropList(); },
 };
 constexpr Act<CCustomChecklistBox> CheckActs[] = {
     [](auto& list, int row, const char*) { list.SetCheck(row, row % 3); },

@@ -217,8 +217,7 @@ private:
     {
         const bool bar = IsOfClass(m_window, TOOLBARCLASSNAME);
         char text[INFOTIPSIZE] = "";
-        TTTOOLINFO tool = {sizeof(tool), 0, m_window, 2};
-        tool.lpszText = text;
+        TTTOOLINFO tool = {.cbSize = sizeof(tool), .hwnd = m_window, .uId = 2, .lpszText = text};
         Do([&] {
             const LRESULT tip = ::SendMessage(m_window, bar ? TB_GETTOOLTIPS : WM_NULL, 0, 0);
             ::SendMessage(HWND(tip), TTM_GETTEXT, 0, LPARAM(&tool));

@@ -75,25 +75,20 @@ protected:
     }
 
     // Those that a window makes for itself and that paint themselves: a host may put itself before
-    // their procedures, and end the whole there.
-    static BOOL CALLBACK HearPart(HWND part, LPARAM)
-    {
-        CWnd* const object = CWnd::FromHandlePermanent(part);
-        if (dynamic_cast<CHeaderCtrl*>(object) != nullptr ||
-            dynamic_cast<CTabCtrl*>(object) != nullptr ||
-            dynamic_cast<CCustomButton*>(object) != nullptr)
-        {
-            ::SetWindowSubclass(part, &OwnDeath::PartProcedure, 0, 0);
-        }
-        return TRUE;
-    }
-
-    // Not in the standard mode, where it is the platform that works for the parts.
+    // their procedures, and end the whole there. Not in the standard mode, where it is the platform
+    // that works for the parts.
     static void HearParts(HWND window, APPMODE mode)
     {
+        const auto hear = [](HWND part, LPARAM) -> BOOL {
+            CWnd* const object = CWnd::FromHandlePermanent(part);
+            return (dynamic_cast<CHeaderCtrl*>(object) == nullptr &&
+                    dynamic_cast<CTabCtrl*>(object) == nullptr &&
+                    dynamic_cast<CCustomButton*>(object) == nullptr) ||
+                   ::SetWindowSubclass(part, &OwnDeath::PartProcedure, 0, 0);
+        };
         if (mode != STD)
         {
-            ::EnumChildWindows(window, &OwnDeath::HearPart, 0);
+            ::EnumChildWindows(window, hear, 0);
         }
     }
 

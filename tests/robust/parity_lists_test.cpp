@@ -21,10 +21,7 @@ CString RowText(const CListBox& list, int row)
 void Count(CListBox& list, Journal& journal)
 {
     journal.answer = [](ToldMessage& told) {
-        if (told.message == WM_DRAWITEM)
-        {
-            told.answer = TRUE;
-        }
+        told.message == WM_DRAWITEM ? void(told.answer = TRUE) : void();
     };
     const auto count = [&](int rows) { return list.SendMessage(LB_SETCOUNT, WPARAM(rows)); };
     ASK(count(50), list.GetCount(), list.SetItemData(3, 42), list.GetItemData(3),
