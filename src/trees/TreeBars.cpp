@@ -560,8 +560,9 @@ void TreeBars::DragTo(CPoint screen)
             Window().SendMessage(scroll::MessageOf(dragged.axis), MAKEWPARAM(code, position));
         };
         tell(SB_THUMBTRACK);
-        // Some platforms' trees go sideways only to where a thumb is let go.
-        if (alive && dragged.axis == SB_HORZ && ::GetScrollPos(Window(), SB_HORZ) != position)
+        // Some platforms' trees go sideways only to where a thumb is let go, and know of no other
+        // place down either.
+        if (alive && ::GetScrollPos(Window(), dragged.axis) != position)
         {
             tell(SB_THUMBPOSITION);
         }

@@ -435,9 +435,11 @@ TEST_F(MultiTreeInputTest, WideBarsScrollOnBoard)
         EXPECT_EQ(tree.GetScrollPos(SB_HORZ), across.nMax - int(across.nPage) + 1);
         pull(92, 5);
         EXPECT_EQ(tree.GetScrollPos(SB_HORZ), 0);
-        // Back by the thumb, to the upper end.
-        Click(onBar(10));
-        Drag(onBar(52), onBar(5));
+        // By the thumb, which stays where it is let go, and back to the upper end.
+        Drag(onBar(52), onBar(62));
+        EXPECT_NE(top(), released);
+        EXPECT_EQ(top(), m_items[size_t(tree.GetScrollPos(SB_VERT))]);
+        Drag(onBar(62), onBar(5));
         EXPECT_EQ(top(), m_items[0]);
         EXPECT_EQ(tree.GetSelectedCount(), 0U);
         // The thumb also goes along where the program scrolls.
