@@ -78,6 +78,7 @@ private:
     void FitButtons();
     bool WorksKeys();
     bool IsPressable(int button) const;
+    bool HasDropArrow(UINT id) const;
     int FocusedButton() const;
     void FocusNext(int from, int step);
     void StepFocus(int step);

@@ -126,6 +126,52 @@ BOOL CustomToolbar::OnEraseBkgnd(CDC* dc)
     return TRUE;
 }
 
+namespace {
+
+void DrawRaised(CDC& dc, const CRect& button, const CRect& ground, COLORREF color)
+{
+    dc.FillSolidRect(&ground, color);
+    dc.Draw3dRect(&button, palette::PressedOutline, palette::PressedOutline);
+}
+
+// The platform draws the arrow of a button that drops something in the colour of dark texts, and on
+// a raised one with a light face of its own. Ours goes over it, at the right.
+void DrawDropArrow(CDC& dc, const CRect& button, bool raised, COLORREF ground, COLORREF color)
+{
+    constexpr int Height = 4;
+    CRect box = button;
+    box.left = button.right - 13;
+    if (raised)
+    {
+        DrawRaised(dc, button, box, ground);
+    }
+    else
+    {
+        box.DeflateRect(2, button.Height() / 2 - Height, 1, button.Height() / 2 - Height);
+        dc.FillSolidRect(&box, ground);
+    }
+    const CPoint top(button.right - Height - 6, button.CenterPoint().y - Height / 2);
+    for (int line = 0; line < Height; ++line)
+    {
+        dc.FillSolidRect(top.x + line, top.y + line, 2 * (Height - line) - 1, 1, color);
+    }
+}
+
+} // namespace
+
+// Whether a button shows that it drops something.
+bool CustomToolbar::HasDropArrow(UINT id) const
+{
+    const WindowAlive alive(*this);
+    TBBUTTONINFO info = {};
+    info.cbSize = sizeof(info);
+    info.dwMask = TBIF_STYLE;
+    const bool known = SendMessage(TB_GETBUTTONINFO, id, reinterpret_cast<LPARAM>(&info)) >= 0;
+    const bool whole = known && (info.fsStyle & BTNS_WHOLEDROPDOWN) != 0;
+    return alive && (whole || (known && (info.fsStyle & BTNS_DROPDOWN) != 0 &&
+                               (SendMessage(TB_GETEXTENDEDSTYLE) & TBSTYLE_EX_DRAWDDARROWS) != 0));
+}
+
 BOOL CustomToolbar::OnCustomDraw(NMHDR* header, LRESULT* result)
 {
     if (!COnBoardUIGeneral::InOnBoardMode())
@@ -133,13 +179,41 @@ BOOL CustomToolbar::OnCustomDraw(NMHDR* header, LRESULT* result)
         return FALSE;
     }
     auto& draw = *reinterpret_cast<NMTBCUSTOMDRAW*>(header);
-    *result = draw.nmcd.dwDrawStage == CDDS_PREPAINT ? CDRF_NOTIFYITEMDRAW : CDRF_DODEFAULT;
-    if (draw.nmcd.dwDrawStage == CDDS_ITEMPREPAINT)
+    const CRect button = draw.nmcd.rc;
+    const UINT state = draw.nmcd.uItemState;
+    const bool raised = (GetStyle() & TBSTYLE_FLAT) == 0;
+    const bool in = raised && (state & (CDIS_SELECTED | CDIS_CHECKED)) != 0;
+    const COLORREF ground = in ? palette::Highlight : palette::Panel;
+    *result = CDRF_DODEFAULT;
+    switch (draw.nmcd.dwDrawStage)
     {
+    case CDDS_PREPAINT:
+        *result = CDRF_NOTIFYITEMDRAW;
+        break;
+    case CDDS_ITEMPREPAINT:
         draw.clrText = palette::PanelText;
         draw.clrTextHighlight = palette::HighlightText;
-        draw.clrBtnFace = palette::Panel;
-        draw.clrBtnHighlight = palette::Outline;
+        draw.clrBtnFace = ground;
+        draw.clrBtnHighlight = raised ? ground : palette::Outline;
+        if (raised)
+        {
+            // The platform's own edges come with a light face, and its pattern of the two colours
+            // for what is checked only while the pointer is elsewhere.
+            DrawRaised(*CDC::FromHandle(draw.nmcd.hdc), button, button, ground);
+            *result = TBCDRF_NOEDGES | TBCDRF_NOBACKGROUND;
+        }
+        if (HasDropArrow(UINT(draw.nmcd.dwItemSpec)))
+        {
+            *result |= CDRF_NOTIFYPOSTPAINT;
+        }
+        break;
+    case CDDS_ITEMPOSTPAINT:
+        DrawDropArrow(*CDC::FromHandle(draw.nmcd.hdc), button, raised, ground,
+                      (state & CDIS_DISABLED) != 0 ? palette::ChoiceTextDisabled
+                                                   : palette::PanelText);
+        break;
+    default:
+        break;
     }
     return TRUE;
 }

@@ -19,9 +19,11 @@ struct Button
 class OrderedBar : public CustomToolbar
 {
 public:
-    OrderedBar(CWnd& parent, const std::vector<Button>& buttons)
+    OrderedBar(CWnd& parent, const std::vector<Button>& buttons,
+               DWORD style = TBSTYLE_FLAT | TBSTYLE_LIST)
     {
-        EXPECT_TRUE(CreateEx(&parent, TBSTYLE_FLAT | TBSTYLE_LIST, WS_CHILD | WS_VISIBLE));
+        EXPECT_TRUE(CreateEx(&parent, style, WS_CHILD | WS_VISIBLE));
+        SendMessage(TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_DRAWDDARROWS);
         for (const Button& button : buttons)
         {
             Append(button);
@@ -139,21 +141,28 @@ TEST_F(CustomToolbarTest, AButtonDoesWhatItNowStandsFor)
     }
 }
 
-TEST_F(CustomToolbarTest, IsDarkWithLightTextsOnBoardWhateverStandsBehindIt)
+TEST_F(CustomToolbarTest, IsDarkWithLightTextsAndArrowsOnBoardWhateverStandsBehindIt)
 {
-    OrderedBar bar(Host(), {{1, I_IMAGENONE}});
-    const auto shows = [&](COLORREF color) {
-        Repaint(bar);
-        return Settled(bar).Count(color) > 0;
-    };
-    const COLORREF black = ::GetSysColor(COLOR_BTNTEXT);
-    for (const APPMODE mode : {ONBOARD, EFBFS})
+    for (const DWORD style : {DWORD(TBSTYLE_FLAT | TBSTYLE_LIST), DWORD(0)})
     {
-        const ModeScope scope(mode);
-        EXPECT_TRUE(shows(RGB(50, 50, 50)) && shows(RGB(230, 230, 230)) && !shows(black)) << mode;
-        EXPECT_TRUE(bar.SendMessage(WM_ERASEBKGND)) << "no context";
+        OrderedBar bar(Host(),
+                       {{1, I_IMAGENONE, BTNS_DROPDOWN}, {2, I_IMAGENONE, BTNS_WHOLEDROPDOWN}},
+                       style);
+        const auto shows = [&](COLORREF color) {
+            Repaint(bar);
+            return Settled(bar).Count(color) > 0;
+        };
+        const COLORREF black = ::GetSysColor(COLOR_BTNTEXT);
+        const COLORREF face = ::GetSysColor(COLOR_BTNFACE);
+        for (const APPMODE mode : {ONBOARD, EFBFS})
+        {
+            const ModeScope scope(mode);
+            EXPECT_TRUE(shows(RGB(50, 50, 50)) && shows(RGB(230, 230, 230))) << mode;
+            EXPECT_FALSE(shows(black) || shows(face)) << mode << ' ' << style;
+            EXPECT_TRUE(bar.SendMessage(WM_ERASEBKGND)) << "no context";
+        }
+        EXPECT_TRUE(shows(black) && !shows(RGB(50, 50, 50)));
     }
-    EXPECT_TRUE(shows(black) && !shows(RGB(50, 50, 50)));
 }
 
 TEST_F(CustomToolbarTest, ASecondWindowOfTheObjectTakesPicturesOfItsOwn)
