@@ -75,14 +75,14 @@ const Kind Kinds[] = {
       {LVM_SCROLL, Small, Small}, {LVM_SETCOLUMNWIDTH, Small, Length}, {LVM_DELETECOLUMN, Small},
       {LVM_SETITEMCOUNT, Three}, {LVM_SETITEMCOUNT, Fixed, None, 60}, {LVM_GETTOPINDEX},
       {LVM_GETCOUNTPERPAGE}, {LVM_REDRAWITEMS, Row, Row},
-      {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21}, {LVM_SETCOLUMNA, Three, Heading}, {LVM_SETCOLUMNW, Three, Heading}, {LVM_UPDATE, Row},
-      {LVM_INSERTCOLUMNA, Three, Heading}, {LVM_INSERTCOLUMNW, Three, Heading},
-      {LVM_SETITEMTEXTA, Row, ListItem}, {LVM_SETITEMTEXTW, Row, ListItem},
-      {LVM_SETIMAGELIST, Fixed, Pictures, LVSIL_SMALL}, {LVM_GETITEMRECT, Row, Place},
-      {LVM_GETHEADER}, {LVM_SORTITEMS, Data, Order}, {LVM_SORTITEMSEX, Data, Order},
-      {LVM_EDITLABELA, Row}, {LVM_EDITLABELW, Row}, {LVM_CANCELEDITLABEL},
-      {LVM_SETVIEW, Fixed, None, LV_VIEW_LIST}, {LVM_SETVIEW, Fixed, None, LV_VIEW_DETAILS},
-      {0x069A}, {0x069B}}, // what the library's list posts to itself
+      {LVM_SETEXTENDEDLISTVIEWSTYLE, Fixed, Data, 0x21}, {LVM_SETCOLUMNA, Three, Heading},
+      {LVM_SETCOLUMNW, Three, Heading}, {LVM_UPDATE, Row}, {LVM_INSERTCOLUMNA, Three, Heading},
+      {LVM_INSERTCOLUMNW, Three, Heading}, {LVM_SETITEMTEXTA, Row, ListItem},
+      {LVM_SETITEMTEXTW, Row, ListItem}, {LVM_SETIMAGELIST, Fixed, Pictures, LVSIL_SMALL},
+      {LVM_GETITEMRECT, Row, Place}, {LVM_GETHEADER}, {LVM_GETITEMSTATE, Row, Three},
+      {LVM_SORTITEMS, Data, Order}, {LVM_SORTITEMSEX, Data, Order}, {LVM_EDITLABELA, Row},
+      {LVM_EDITLABELW, Row}, {LVM_CANCELEDITLABEL}, {LVM_SETVIEW, Fixed, None, LV_VIEW_LIST},
+      {LVM_SETVIEW, Fixed, None, LV_VIEW_DETAILS}, {0x069A}, {0x069B}}, // the list posts to itself
      ODT_LISTVIEW, {WM_CTLCOLOREDIT},
      {LVN_ITEMCHANGING, LVN_ITEMCHANGED, LVN_INSERTITEM, LVN_COLUMNCLICK, LVN_ITEMACTIVATE,
       LVN_HOTTRACK, LVN_MARQUEEBEGIN, LVN_GETINFOTIPA, LVN_GETINFOTIPW, LVN_BEGINDRAG,
@@ -98,7 +98,7 @@ const Kind Kinds[] = {
       {TVM_SETIMAGELIST, Fixed, Pictures, TVSIL_NORMAL}, {TVM_SETITEMHEIGHT, Three},
       {TVM_SETITEMHEIGHT, Fixed, None, 33}, {TVM_SETITEMHEIGHT, Fixed, None, WPARAM(-1)},
       {TVM_SETINDENT, Three}, {TVM_SETINDENT, Fixed, None, 40},
-      {WM_USER + 20, None, Flag}, // a view is torn off, or put back
+      {WM_USER + 20, None, Flag}, {WM_USER + 21, Fixed, Buffer, 0x100}, // a view that is torn off
       // What goes between views while one drags; points are the screen's.
       {::RegisterWindowMessage("Kest Drag Track"), Hit},
       {::RegisterWindowMessage("Kest Drag Leave")},
