@@ -110,7 +110,7 @@ constexpr Forbidden PlatformFaults[] = {
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDTRACK)}, 0, false},
     // In the middle of a click, with which it goes on, and as a drag begins.
     {WC_HEADER, {WM_NOTIFY, UINT(NM_CUSTOMDRAW)}, 0, true, false, true},
-    {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCLICK)}, 0, false}, // writes, with the heaps checked
+    {WC_HEADER, {WM_NOTIFY, UINT(HDN_ITEMCLICK)}, 0, true, false, true},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_BEGINTRACK)}, 0, false},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_BEGINDRAG)}},
     {WC_HEADER, {WM_NOTIFY, UINT(HDN_ENDDRAG)}},
