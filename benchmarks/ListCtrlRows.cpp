@@ -14,7 +14,7 @@ constexpr int FewRows = 100;
 constexpr int Columns = 4;
 constexpr int Lines = 500;
 constexpr int Paints = 20;
-constexpr CSize View(530, 500); // of the rows that are painted and scrolled
+constexpr SIZE View = {530, 500}; // of the rows that are painted and scrolled
 constexpr DWORD Style = WS_CHILD | WS_VISIBLE | WS_BORDER | LVS_REPORT | LVS_SHOWSELALWAYS;
 
 std::string TextOf(int row, int column)
