@@ -106,7 +106,13 @@ LRESULT CCustomListCtrl::OnSetColumnWidth(WPARAM wParam, LPARAM lParam)
         FitLastColumn();
         return TRUE;
     }
-    return Default();
+    const WindowAlive alive(*this);
+    const LRESULT set = Default();
+    if (alive && InOnBoard() && int(wParam) != last)
+    {
+        NoteOwnWidth(int(wParam));
+    }
+    return set;
 }
 
 // What a column's heading takes, with its margins and its arrow.
