@@ -172,7 +172,7 @@ protected:
     // Their indexes, rising; in a list that selects one row at most that one.
     std::vector<int> SelectedRows();
     // Before a press is worked. The platform would take the focus in the middle of it and go on
-    // with a list that has ended by what the last one with the focus tells. Whether it is there.
+    // with a list that has ended by what the last one with the focus tells. Whether it has it.
     bool TakeFocus();
     // A press as the platform works it. It may end the list.
     void PressRow(UINT flags, CPoint point);

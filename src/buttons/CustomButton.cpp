@@ -4,6 +4,7 @@
 #include "access/Answers.h"
 #include "buttons/ButtonLayout.h"
 #include "modes/PressAndHold.h"
+#include "modes/PressFocus.h"
 #include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
@@ -12,7 +13,6 @@
 #include "paint/Palette.h"
 #include "paint/SharedObjects.h"
 
-#include <tuple>
 #include <utility>
 
 IMPLEMENT_DYNAMIC(CCustomButton, CButton)
@@ -232,14 +232,8 @@ void CCustomButton::StartTracking()
     {
         return;
     }
-    // Whoever loses the focus may do anything to the button, and then the press is none.
-    const auto circumstances = [this] {
-        return std::tuple(COnBoardUIGeneral::GetAppMode(), IsWindowEnabled(), IsWindowVisible());
-    };
-    const auto before = circumstances();
     const WindowAlive alive(*this);
-    SetFocus();
-    if (!alive || ::GetCapture() != nullptr || circumstances() != before)
+    if (!TakeFocusForPress(*this) || ::GetCapture() != nullptr)
     {
         return;
     }

@@ -7,6 +7,7 @@
 #include "modes/FlightBag.h"
 #include "modes/KeyState.h"
 #include "modes/PressAndHold.h"
+#include "modes/PressFocus.h"
 #include "modes/WindowAlive.h"
 
 namespace {
@@ -80,11 +81,9 @@ void CCustomEdit::OnNcMouseMove(UINT, CPoint point)
 void CCustomEdit::OnLButtonDown(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    if (FollowMode())
-    {
-        SetFocus();
-    }
-    if (alive)
+    // The platform would take the focus again from whoever has taken it back.
+    const bool ends = FollowMode() && (!TakeFocusForPress(*this) || ::GetFocus() != m_hWnd);
+    if (alive && !ends)
     {
         CEdit::OnLButtonDown(flags, point);
     }

@@ -66,7 +66,11 @@ int CCustomChecklistBox::RowChangedAt(CPoint point)
 void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
 {
     const WindowAlive alive(*this);
-    const int index = TakeFocus() ? RowChangedAt(point) : -1;
+    if (!TakeFocus())
+    {
+        return;
+    }
+    const int index = RowChangedAt(point);
     if (!alive)
     {
         return;

@@ -102,6 +102,7 @@ void CCustomListBox::OnMouseMove(UINT flags, CPoint point)
     }
 }
 
+// Where the one before has taken it back, the platform would take it again.
 bool CCustomListBox::TakeFocus()
 {
     const WindowAlive alive(*this);
@@ -109,7 +110,7 @@ bool CCustomListBox::TakeFocus()
     {
         SetFocus();
     }
-    return bool(alive);
+    return alive && ::GetFocus() == m_hWnd;
 }
 
 void CCustomListBox::OnLButtonDown(UINT flags, CPoint point)

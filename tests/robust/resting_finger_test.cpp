@@ -1,8 +1,10 @@
 // What a finger does that rests on a control: the system asks before, and presses at once or not.
+// And one that has been lifted, or sent back, before its press has begun.
 
 #include "robust/Subjects.h"
 #include "support/WindowTest.h"
 
+#include <set>
 #include <tpcshrd.h>
 
 TEST_F(WindowTest, AFingerThatRestsPressesAtOnceOnBoard)
@@ -54,4 +56,53 @@ TEST_F(WindowTest, AFingerThatRestsPressesAtOnceOnBoard)
         }
     }
     EXPECT_EQ(seen, table.size());
+}
+
+TEST_F(WindowTest, APressIsNoneWhenTheFieldBeforeItOpensABoxOrTakesTheFocusBack)
+{
+    using Names = std::set<std::string>;
+    const ModeScope scope(ONBOARD);
+    // Whose press goes on until the button is up, and whose focus is the platform's part, too.
+    const Names boxed = {"push button", "check box", "edit of many lines"};
+    const Names sentBack = {"edit of many lines", "list box", "check list"};
+    for (const bool box : {true, false})
+    {
+        size_t seen = 0;
+        for (const Subject& subject : Subjects())
+        {
+            if (!(box ? boxed : sentBack).contains(subject.name))
+            {
+                continue;
+            }
+            SCOPED_TRACE(subject.name);
+            ++seen;
+            auto& field = Add<CEdit>(CRect(600, 500, 700, 520));
+            const std::unique_ptr<CWnd> control = subject.make(Host());
+            field.SetFocus();
+            int asked = 0;
+            Host().OnCode(EN_KILLFOCUS, [&](ToldMessage& told) {
+                if (told.id != UINT(field.GetDlgCtrlID()))
+                {
+                    return;
+                }
+                ++asked;
+                if (box)
+                {
+                    Host().EnableWindow(FALSE);
+                    Release();
+                    Host().EnableWindow(TRUE);
+                }
+                (box ? *control : field).SetFocus();
+            });
+            Press(ClientPoint(*control, CPoint(20, 10)));
+            EXPECT_EQ(::GetCapture(), nullptr);
+            EXPECT_EQ(asked, 1);
+            EXPECT_EQ(control->SendMessage(BM_GETSTATE), 0);
+            Host().hook = nullptr;
+            Release();
+            ::ReleaseCapture();
+            Remove(field);
+        }
+        EXPECT_EQ(seen, 3U);
+    }
 }
