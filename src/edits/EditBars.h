@@ -132,6 +132,15 @@ private:
     }
 
     bool IsReady() override { return m_edit.IsReady(); }
+    // A press in the text. The platform would go on selecting to whatever letter the other mode
+    // lays under the pointer. Past our own handler, which offers the keyboard.
+    void EndPlatformPress() override
+    {
+        if (::GetCapture() == m_edit.GetSafeHwnd())
+        {
+            Ask(WM_LBUTTONUP, 0, 0);
+        }
+    }
     void EnterOnBoard() override { m_edit.EnterOnBoard(); }
     void LeaveOnBoard() override { m_edit.LeaveOnBoard(); }
     void Foresee(const CSize&) override

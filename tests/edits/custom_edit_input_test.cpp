@@ -2,6 +2,7 @@
 // keyboard.
 
 #include "edits/edit_for_tests.h"
+#include "support/ChildModes.h"
 
 using namespace parts;
 
@@ -34,6 +35,22 @@ TEST_F(EditOnBoard, AThumbDragMovesTheTextLineByLine)
     PumpAll();
     ExpectAgreement(edit, "cut off past the end");
     Release();
+}
+
+TEST_F(EditTest, AFingerInTheTextSelectsNothingThatAnotherModeLaysUnderIt)
+{
+    auto& edit = AddEdit(50);
+    for (const APPMODE mode : {ONBOARD, STD})
+    {
+        Press(ClientPoint(edit, CPoint(30, 30)));
+        DragTo(ClientPoint(edit, CPoint(50, 40)));
+        const DWORD selected = edit.GetSel();
+        EXPECT_NE(LOWORD(selected), HIWORD(selected));
+        SetModeOfChildren(mode, Host());
+        DragTo(ClientPoint(edit, CPoint(40, 70)));
+        Release();
+        EXPECT_EQ(edit.GetSel(), selected) << APPMODE_NAMES[mode];
+    }
 }
 
 // The on-screen keyboard ------------------------------------------------------------------------
