@@ -310,9 +310,13 @@ void CCustomButton::NotifyWindowClicked(CWnd* window)
     window->SendMessage(WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(), BN_CLICKED), LOWORD(handle));
 }
 
-void CCustomButton::HandleKeyDown(UINT, UINT, UINT)
+void CCustomButton::HandleKeyDown(UINT key, UINT, UINT)
 {
-    Default();
+    // The platform's button would be pushed anew by each repeat of a held space key.
+    if (key != VK_SPACE || !m_spaceHeld)
+    {
+        Default();
+    }
 }
 
 void CCustomButton::ClickByKey()

@@ -30,12 +30,18 @@ TEST_F(ButtonOnBoard, AClickRunsItsStepsInOrder)
         TypeKey(key);
     }
     EXPECT_EQ(Host().Count(WM_COMMAND), 4) << "the space bar clicks, once";
+    push.SendMessage(WM_KEYDOWN, VK_SPACE, 1);
+    const MessageLog held(push, {WM_CAPTURECHANGED});
+    push.SendMessage(WM_KEYDOWN, VK_SPACE, 0x40000001);
+    EXPECT_EQ(held.Count(WM_CAPTURECHANGED), 0) << "held, it is not released";
+    EXPECT_TRUE(push.m_pressed);
+    push.SendMessage(WM_KEYUP, VK_SPACE, LPARAM(0xC0000001));
 
     // Without a press the message clicks as well, and takes the focus before the parent is told.
     auto& other = Add<TestPush>(ButtonPlace + CPoint(0, 100), 0, "Other");
     Host().hook = [&](ToldMessage&) { EXPECT_TRUE(other.m_focused); };
     other.SendMessage(BM_CLICK);
-    EXPECT_EQ(Host().Count(WM_COMMAND), 5);
+    EXPECT_EQ(Host().Count(WM_COMMAND), 6);
 }
 
 TEST_F(ButtonOnBoard, APressDraggedOffIsNoClick)
