@@ -248,14 +248,19 @@ LRESULT CCustomButton::OnBMGetState(WPARAM, LPARAM)
     return FollowOrPass(&answer) ? LRESULT(m_pressed) : answer;
 }
 
-// The platform's button draws itself as soon as it has another caption.
-LRESULT CCustomButton::OnSetText(WPARAM, LPARAM)
+// On-board kept as every window keeps its text: the platform's button would show it.
+LRESULT CCustomButton::OnSetText(WPARAM wParam, LPARAM lParam)
 {
+    LRESULT answer = FALSE;
+    if (!FollowOrPass(&answer))
+    {
+        return answer;
+    }
     const WindowAlive alive(*this);
-    const LRESULT result = Default();
-    if (alive && FollowMode().value_or(false))
+    answer = ::DefWindowProc(m_hWnd, WM_SETTEXT, wParam, lParam);
+    if (alive)
     {
         DrawOB();
     }
-    return result;
+    return answer;
 }

@@ -146,7 +146,10 @@ TEST_F(WindowTest, TheStandardModeHasItsOwnCheckAndLook)
     // Each kind of mode has its own check state; a new mode shows with the next paint.
     COnBoardUIGeneral::SetAppMode(EFB);
     EXPECT_EQ(ours.GetCheck(), BST_UNCHECKED);
+    Host().AlsoRecord({WM_CTLCOLORBTN, WM_CTLCOLORSTATIC});
+    Host().Forget();
     ours.SetWindowText("Other");
+    EXPECT_TRUE(Host().Told().empty()) << "the platform's button does not show it";
     EXPECT_EQ(WindowPixels(ours).At(219, 23), RGB(50, 50, 50))
         << "a new caption must not bring the old look back";
     EXPECT_TRUE(Settled(ours) == ours.Drawn());
