@@ -49,7 +49,10 @@ CustomToolbar::CustomToolbar()
 // One object may serve several windows, one after the other.
 void CustomToolbar::PreSubclassWindow()
 {
-    m_enlarged = CSize();
+    if (std::exchange(m_fitted, m_hWnd) != m_hWnd)
+    {
+        m_enlarged = CSize(); // one that was let go and comes back has its buttons as they were
+    }
     m_focused = -1;
     CToolBar::PreSubclassWindow();
     ShowTakenOver(*this);

@@ -62,7 +62,15 @@ CFont& CCustomStatusBar::GetOnBoardFont()
 // One object may serve several windows, one after the other.
 void CCustomStatusBar::PreSubclassWindow()
 {
-    m_onBoard = false;
+    // One that was let go on-board is still laid out so; which font its host had given it, nobody
+    // knows any more.
+    const WindowAlive alive(*this);
+    const auto font = reinterpret_cast<HGDIOBJ>(::SendMessage(m_hWnd, WM_GETFONT, 0, 0));
+    if (!alive)
+    {
+        return;
+    }
+    m_onBoard = font == GetOnBoardFont().GetSafeHandle();
     m_standardFont = nullptr;
     CStatusBarCtrl::PreSubclassWindow();
     ShowTakenOver(*this);

@@ -30,10 +30,13 @@ CSearchStatusBar::CSearchStatusBar()
 
 CSearchStatusBar::~CSearchStatusBar() = default;
 
-// The timer of a window that the object has left is none of the next one's.
+// The timer of a window that the object has left is none of the next one's. One that was let go
+// with it has it still, and nobody could stop it.
 void CSearchStatusBar::PreSubclassWindow()
 {
     m_activeTimer = -1;
+    KillTimer(m_searchTimer);
+    KillTimer(m_loadingTimer);
     CCustomStatusBar::PreSubclassWindow();
 }
 

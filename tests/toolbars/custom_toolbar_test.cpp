@@ -197,6 +197,8 @@ TEST_F(CustomToolbarTest, ButtonsAreAsHighAsAFingerOnBoardAndThePlatformsInTheSt
             bar.Append({unsigned(mode) + 20, 5}); // of which the platform finds its sizes anew
             EXPECT_TRUE(mode == STD ? height(bar) <= 26 : height(bar) == 52) << mode;
             bar.SetSizes(CSize(80, 26), CSize(16, 15));
+            height(bar);
+            bar.SubclassWindow(bar.UnsubclassWindow()); // as large as they are
         }
         EXPECT_EQ(bar.CalcFixedLayout(FALSE, TRUE).cy, 52) << "room in a frame";
         Host().Forget();
