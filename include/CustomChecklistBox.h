@@ -150,6 +150,7 @@ private:
     _KES_CHECKLIST_STATE* MakeRecord(int index);
     void ReleaseRecord(int index);
     void ReleaseRecords();
+    LRESULT SetDataOfAll(LPARAM data);
     template <class Search> LRESULT SearchData(WPARAM start, LPARAM data, Search search);
     void AnnounceState(int index);
 

@@ -9,6 +9,7 @@
 #include "paint/SharedObjects.h"
 
 #include <algorithm>
+#include <vector>
 
 using lists::CheckRecords;
 
@@ -315,8 +316,32 @@ LRESULT CCustomChecklistBox::OnGetItemData(WPARAM wParam, LPARAM)
     return Exists(index) ? LRESULT(m_records->DataIn(SlotOf(index))) : Default();
 }
 
+// A platform that gives every item the data writes over the records.
+LRESULT CCustomChecklistBox::SetDataOfAll(LPARAM data)
+{
+    std::vector<ULONG_PTR> slots;
+    for (int index = 0; Exists(index); ++index)
+    {
+        slots.push_back(SlotOf(index));
+    }
+    const LRESULT result = DefWindowProc(LB_SETITEMDATA, WPARAM(-1), data);
+    for (size_t index = 0; result != LB_ERR && index < slots.size(); ++index)
+    {
+        if (_KES_CHECKLIST_STATE* const record = m_records->Find(slots[index]))
+        {
+            record->data = ULONG_PTR(data);
+            Ask(LB_SETITEMDATA, WPARAM(index), LPARAM(slots[index]));
+        }
+    }
+    return result;
+}
+
 LRESULT CCustomChecklistBox::OnSetItemData(WPARAM wParam, LPARAM lParam)
 {
+    if (int(wParam) == -1)
+    {
+        return SetDataOfAll(lParam);
+    }
     _KES_CHECKLIST_STATE* const record = MakeRecord(int(wParam));
     if (record == nullptr)
     {

@@ -84,6 +84,38 @@ TEST_F(CheckListTest, AnOwnerMayUseTheListWhileItsItemsGo)
     EXPECT_EQ(list.GetItemData(0), 0U);
 }
 
+// As the vendor documents its list box; Wine's knows no data for every item.
+class AsDocumented : public CheckListForTests
+{
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message != LB_SETITEMDATA || int(wParam) != -1)
+        {
+            return CheckListForTests::DefWindowProc(message, wParam, lParam);
+        }
+        for (int row = 0; row < GetCount(); ++row)
+        {
+            CheckListForTests::DefWindowProc(message, WPARAM(row), lParam);
+        }
+        return LB_OKAY;
+    }
+};
+
+TEST_F(CheckListTest, DataForEveryItemTakesNoCheckAway)
+{
+    auto& list = Add<AsDocumented>(CRect(20, 20, 320, 320), CheckListStyle);
+    list.Fill(3);
+    list.SetCheck(1, 1);
+    list.Enable(2, FALSE);
+    list.SetItemData(-1, 8);
+    EXPECT_THAT(list.Checks(), ElementsAre(0, 1, 0));
+    EXPECT_FALSE(list.IsEnabled(2));
+    for (const int row : {0, 1, 2})
+    {
+        EXPECT_EQ(list.GetItemData(row), 8U);
+    }
+}
+
 // Rows ------------------------------------------------------------------------------------------
 
 TEST_F(CheckListTest, APointFindsItsRowAndCheck)
