@@ -54,35 +54,17 @@ TEST_F(ListCtrlOnBoard, TheHeaderIsAGradientAndAPressedItemTheReverse)
     EXPECT_THAT(Host().CodesFrom(FirstId), testing::Contains(UINT(LVN_COLUMNCLICK)).Times(1));
 }
 
-TEST_F(ListCtrlOnBoard, SortArrowsPointUpAndDown)
-{
-    HeaderAccess header;
-    const CRect item(10, 0, 110, 30);
-    for (const bool up : {true, false})
-    {
-        const int apex = up ? 5 : 24;
-        const int base = up ? 24 : 5;
-        Canvas canvas(120, 40);
-        header.DrawOBSortArrow(&canvas.DC(), item, up ? HDF_SORTUP | HDF_SORTDOWN : HDF_SORTDOWN);
-        for (const CPoint on : {CPoint(92, apex), CPoint(83, base), CPoint(102, base)})
-        {
-            EXPECT_EQ(canvas.At(on.x, on.y), palette::SortArrow);
-        }
-        EXPECT_EQ(canvas.At(83, apex), Canvas::Untouched);
-        EXPECT_EQ(canvas.At(92, 15), Canvas::Untouched) << "an outline";
-    }
-}
-
 TEST_F(ListCtrlOnBoard, AHeadingStandsInItsItemBesideItsArrow)
 {
     auto& list = AddList(3, 3, ReportStyle, CRect(20, 20, 620, 220));
+    list.SetFont(&CCustomListCtrl::GetOnBoardFont()); // room for the arrows
     constexpr int Item = 1;
     // The text's room within the item: from 4 pixels on, and clear of an arrow by 23. Its place
     // there is 0 at the left and 1 at the right.
     for (const auto& [format, place, reserved] : {std::tuple(HDF_LEFT, 0.0, 0),
                                                   {HDF_CENTER, 0.5, 0},
                                                   {HDF_RIGHT, 1.0, 0},
-                                                  {HDF_RIGHT | HDF_SORTUP, 1.0, 23},
+                                                  {HDF_RIGHT | HDF_SORTUP | HDF_SORTDOWN, 1.0, 23}, // up
                                                   {HDF_CENTER | HDF_SORTDOWN, 0.5, 23}})
     {
         char text[] = "HH";
@@ -103,6 +85,17 @@ TEST_F(ListCtrlOnBoard, AHeadingStandsInItsItemBesideItsArrow)
         }
         const double free = item.Width() - 4 - reserved - (last + 1 - first);
         EXPECT_NEAR(first, item.left + 4 + place * free, 3) << format;
+        for (const int x : {27, 18, 8}) // corners of the arrow, an outline
+        {
+            const bool apex = x == 18;
+            const bool low = apex != ((format & HDF_SORTUP) != 0);
+            const auto drawn = [&](int y) {
+                return picture.At(item.right - x, y) == palette::SortArrow;
+            };
+            EXPECT_EQ(drawn(low ? 24 : 5), reserved != 0) << x;
+            EXPECT_EQ(drawn(low ? 5 : 24), reserved != 0 && apex) << x << " on the other side";
+            EXPECT_FALSE(drawn(15)) << x;
+        }
     }
 }
 

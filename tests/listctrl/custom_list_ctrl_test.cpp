@@ -238,6 +238,38 @@ TEST_F(ListCtrlOnBoard, RowsThatAMessageDoesNotNameArePaintedWhereTheyAreDrawn)
     list.DestroyWindow();
 }
 
+TEST_F(ListCtrlOnBoard, CellsShowTextAndSelectionUpToTheDividerOrAcrossTheRow)
+{
+    auto& list = AddList(30, 3, ReportStyle | LVS_SINGLESEL);
+    list.SetItemText(6, 1, "WWW");
+    list.SetItemState(6, 3, 3);
+    list.PerformVScroll(5, 0);
+    constexpr int Divider = 102;
+    const int right = int(ClientRectOf(list).right);
+    const CPoint origin = ClientPoint(list, CPoint(0, 0)) - WindowRectOf(list).TopLeft();
+    // Row 6, the second one drawn.
+    const CRect cell(origin + CSize(0, list.HeaderRect().bottom + list.RowHeight() + 1),
+                     CSize(Divider, list.RowHeight() - 1));
+    for (const DWORD full : {0, LVS_EX_FULLROWSELECT})
+    {
+        list.SetExtendedStyle(full);
+        const COLORREF beyond = full != 0 ? palette::Highlight : palette::Field;
+        const Pixels picture = Settled(list);
+        for (const auto& [x, color] : {std::pair(0, palette::Highlight),
+                                       {Divider - 1, palette::Highlight},
+                                       {Divider, beyond},
+                                       {right - 1, beyond}})
+        {
+            EXPECT_EQ(picture.At(cell.TopLeft() + CSize(x, 0)), color) << x;
+        }
+        const CPoint before = cell.TopLeft() - CSize(0, list.RowHeight());
+        EXPECT_EQ(picture.At(before), palette::Field);
+        EXPECT_GT(picture.Count(palette::FieldText, CRect(before, cell.Size())), 5);
+        EXPECT_GT(picture.Count(palette::HighlightText, cell), 5);
+        EXPECT_GT(picture.Count(palette::HighlightText, cell + CPoint(Divider, 0)), 5);
+    }
+}
+
 // Only what is in sight --------------------------------------------------------------------------
 
 TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
@@ -318,11 +350,7 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     Repaint(list);
     EXPECT_TRUE(asked.count(500));
     EXPECT_EQ(hint.first, list.TopRow());
-    Host().hook = hook;
-    // Its owner may end the list while it is painted.
-    Host().OnCode(LVN_GETDISPINFOA, [&](ToldMessage&) { list.DestroyWindow(); });
-    Repaint(list);
-    EXPECT_EQ(list.GetSafeHwnd(), nullptr);
+    Host().hook = nullptr;
 }
 
 // Modes ------------------------------------------------------------------------------------------

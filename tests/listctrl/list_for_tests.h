@@ -7,11 +7,9 @@
 #include "support/OnBoard.h"
 #include "support/WindowTest.h"
 
-// A header that lets a test see its state and paint its arrows.
+// A header that lets a test see its state.
 struct HeaderAccess : CCustomListCtrlHdr
 {
-    using CCustomListCtrlHdr::DrawOBSortArrow;
-
     static CPoint Offset(const CCustomListCtrlHdr& header)
     {
         return header.*(&HeaderAccess::m_offset);
@@ -24,11 +22,10 @@ struct HeaderAccess : CCustomListCtrlHdr
 
 constexpr DWORD ReportStyle = LVS_REPORT | LVS_SHOWSELALWAYS;
 
-// A report list that lets a test see its bars and paint by parts.
+// A report list that lets a test see its bars and dividers.
 class ListForTests : public CCustomListCtrl
 {
 public:
-    using CCustomListCtrl::DrawCells;
     using CCustomListCtrl::GetVerticalDivides;
     using CCustomListCtrl::m_drawOffset;
     using CCustomListCtrl::m_gridLines;
