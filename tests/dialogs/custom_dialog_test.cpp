@@ -152,24 +152,21 @@ TEST_F(CustomDialogTest, AThumbOfThePlatformsIsLetGoWhereItIsWhenTheModeChanges)
 {
     DialogForTests dialog(
         DialogTemplate(CRect(0, 0, 200, 150), WS_POPUP | WS_VISIBLE)
-            .Add("ListBox", "", WS_VSCROLL, CRect(5, 5, 120, 60), IdList)
-            .Add("Edit", "", ES_MULTILINE | WS_VSCROLL, CRect(5, 70, 120, 130), IdEdit),
+            .Add("Edit", "", ES_MULTILINE | WS_VSCROLL, CRect(5, 5, 120, 60), IdEdit),
         Host());
-    ViewForTests view(dialog);
-    view.MoveWindow(250, 0, 120, 60);
-    view.SetScrollSizes(MM_TEXT, CSize(100, 1000));
-    const HWND list = ::GetDlgItem(dialog, IdList);
     const HWND edit = ::GetDlgItem(dialog, IdEdit);
-    for (int row = 0; row < 200; ++row)
+    for (int line = 0; line < 200; ++line)
     {
-        ::SendMessage(list, LB_ADDSTRING, 0, LPARAM("Row"));
         ::SendMessage(edit, EM_REPLACESEL, FALSE, LPARAM("\r\n"));
     }
-    ::SendMessage(edit, EM_SETSEL, 0, 0);
-    ::SendMessage(edit, EM_SCROLLCARET, 0, 0);
-    for (const HWND window : {list, edit, view.m_hWnd})
+    ::SendMessage(edit, WM_VSCROLL, SB_TOP, 0);
+    ViewForTests view(dialog);
+    view.MoveWindow(185, 0, 110, 60);
+    view.SetScrollSizes(MM_TEXT, CSize(100, 1000));
+    for (const HWND window : {edit, view.m_hWnd})
     {
         COnBoardUIGeneral::SetAppMode(STD);
+        const CRect control = ChildPlaces(view).front();
         const CRect rect = WindowRectOf(window);
         const CPoint thumb(rect.right - 9, rect.top + 22);
         const auto move = [&](int by) { return [=] { QueueMove(thumb + CSize(0, by)); }; };
@@ -182,7 +179,8 @@ TEST_F(CustomDialogTest, AThumbOfThePlatformsIsLetGoWhereItIsWhenTheModeChanges)
                    },
                    move(12), move(13), [] { QueueButton(false); }});
         EXPECT_EQ(::GetScrollPos(window, SB_VERT), before);
-        EXPECT_EQ(before == 0, window == view.m_hWnd) << "scaled from its corner";
+        EXPECT_EQ(before == 0, window == view.m_hWnd);
+        EXPECT_EQ(ChildPlaces(view).front(), Enlarged(control)) << "scaled from the corner";
     }
 }
 
