@@ -48,7 +48,8 @@ struct ONBOARDUI_API ModifyChildWndsData
 };
 
 // Callback for EnumChildWindows: rescales and restyles one direct child of data->parent, where data
-// is a ModifyChildWndsData*. Always 1, so that the enumeration goes on.
+// is a ModifyChildWndsData*. The list of a platform combo is closed before, if it is open, of which
+// the combo's parent is told. Always 1, so that the enumeration goes on.
 ONBOARDUI_API BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data);
 
 // Sets font on wnd and on each of its direct children in z-order, with redraw. Nothing for null.
