@@ -61,11 +61,12 @@ TEST_F(ListCtrlOnBoard, AHeadingStandsInItsItemBesideItsArrow)
     constexpr int Item = 1;
     // The text's room within the item: from 4 pixels on, and clear of an arrow by 23. Its place
     // there is 0 at the left and 1 at the right.
-    for (const auto& [format, place, reserved] : {std::tuple(HDF_LEFT, 0.0, 0),
-                                                  {HDF_CENTER, 0.5, 0},
-                                                  {HDF_RIGHT, 1.0, 0},
-                                                  {HDF_RIGHT | HDF_SORTUP | HDF_SORTDOWN, 1.0, 23}, // up
-                                                  {HDF_CENTER | HDF_SORTDOWN, 0.5, 23}})
+    for (const auto& [format, place, reserved] :
+         {std::tuple(HDF_LEFT, 0.0, 0),
+          {HDF_CENTER, 0.5, 0},
+          {HDF_RIGHT, 1.0, 0},
+          {HDF_RIGHT | HDF_SORTUP | HDF_SORTDOWN, 1.0, 23}, // up
+          {HDF_CENTER | HDF_SORTDOWN, 0.5, 23}})
     {
         char text[] = "HH";
         HDITEM data = {.mask = HDI_FORMAT | HDI_TEXT, .pszText = text, .fmt = HDF_STRING | format};
@@ -406,18 +407,6 @@ TEST_F(ListCtrlOnBoard, AHeadingIsClickedHoweverFarToTheRight)
     EXPECT_EQ(::GetCapture(), nullptr);
     Release();
     EXPECT_EQ(clicked.size(), 4U);
-}
-
-TEST_F(ListCtrlOnBoard, TheHotDividerIsNextToTheItemUnderThePoint)
-{
-    auto& list = AddList(10, 4);
-    CCustomListCtrlHdr& header = list.m_header;
-    for (const auto& [x, scrolled, divider] :
-         {std::tuple(20, 0, 0), {90, 0, 1}, {-5, 0, -1}, {50, -100, 1}}) // then column 1 is at 2
-    {
-        header.OBScrollHeader(scrolled, TRUE);
-        EXPECT_EQ(header.SetHotDivider(CPoint(x, 5)), divider) << x;
-    }
 }
 
 TEST_F(ListCtrlOnBoard, AHeadingIsDraggedToTheDividerThatIsShown)
