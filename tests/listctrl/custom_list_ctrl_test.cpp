@@ -34,7 +34,8 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
     list.InsertColumn(3, "D", LVCFMT_LEFT, 50);
     list.SetColumnWidth(2, 136);
     list.DeleteColumn(3); // another one becomes the last
-    for (const DWORD view : {LVS_REPORT, LVS_ICON, LVS_LIST}) // meanwhile
+    // Whatever view it shows meanwhile.
+    for (const DWORD view : {LVS_REPORT, LVS_ICON, LVS_LIST})
     {
         list.ModifyStyle(LVS_TYPEMASK, view);
         SetMode(STD, list);
