@@ -37,8 +37,10 @@ protected:
         window.reset();
         PumpAll();
         EXPECT_EQ(Watch::Faults(), faults);
-        // A first use keeps some; what is lost message after message comes to hundreds.
-        EXPECT_LT(GraphicsObjects() - objects, 100) << storm.Log();
+        // A first use keeps some, and the platform up to 64 contexts of windows with two objects
+        // each: its tree, scrolled sideways, paints within its paint. What is lost message after
+        // message comes to more.
+        EXPECT_LT(GraphicsObjects() - objects, 300) << storm.Log();
         EXPECT_TRUE(HeapsAreWhole()) << storm.Log();
         return storm.Sent();
     }
