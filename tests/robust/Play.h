@@ -121,6 +121,9 @@ constexpr Forbidden PlatformFaults[] = {
     {WC_TREEVIEW, {WM_NOTIFY, UINT(TVN_DELETEITEM)}, 0, true, true},
     {TOOLTIPS_CLASS, {WM_NOTIFY, UINT(TTN_GETDISPINFOW)}}, // the tip goes with its tool bar
     {STATUSCLASSNAME, {WM_ERASEBKGND}, 0, true, true},
+    // Its sheet of pages then writes to what it has freed, which other memory may be by the end.
+    {"#32770", {WM_NOTIFY, UINT(PSN_QUERYCANCEL)}},
+    {"#32770", {WM_NOTIFY, UINT(PSN_RESET)}},
 };
 
 inline HWND SenderOf(UINT message, LPARAM lParam, HWND otherwise)
