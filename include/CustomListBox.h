@@ -172,7 +172,7 @@ protected:
     // Their indexes, rising; in a list that selects one row at most that one.
     std::vector<int> SelectedRows();
     // Before a press is worked. The platform would take the focus in the middle of it and go on
-    // with a list that has ended by what the last one with the focus tells. Whether it has it.
+    // with a list that has ended by what the last one with the focus tells. Whether it came.
     bool TakeFocus();
     // A press as the platform works it. It may end the list.
     void PressRow(UINT flags, CPoint point);
@@ -218,6 +218,7 @@ protected:
     afx_msg LRESULT OnInsertString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnResetContent(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnSetFocus(CWnd* before);
     afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
     // Messages after which every row may be another (LB_DIR, LB_SETCOUNT).
     afx_msg LRESULT OnContentReplaced(WPARAM wParam, LPARAM lParam);
@@ -253,7 +254,8 @@ protected:
     int m_frameHeight;
     CFauxScrollBar m_vBar;
     CFauxScrollBar m_hBar;
-    bool m_tracking = false; // a press on a bar goes on
+    bool m_tracking = false;  // a press on a bar goes on
+    bool m_focusCame = false; // since it was last taken for a press
     CFauxScrollBar::ePRESSED m_vPressed = CFauxScrollBar::PRESSED_NONE;
     CFauxScrollBar::ePRESSED m_hPressed = CFauxScrollBar::PRESSED_NONE;
 

@@ -201,6 +201,16 @@ int HeldPart(HWND window, LONG which)
     return part == std::end(bar.rgstate) ? 0 : int(part - std::begin(bar.rgstate));
 }
 
+// A platform that has lost the capture may draw the thumb where it was held, and take it for held,
+// until a button goes up over some bar of its own.
+void ForgetHeldBar()
+{
+    const HWND bar = ::CreateWindow("ScrollBar", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                    AfxGetInstanceHandle(), nullptr);
+    ::SendMessage(bar, WM_LBUTTONUP, 0, 0);
+    ::DestroyWindow(bar);
+}
+
 } // namespace
 
 void EndPlatformScrolling(const CWnd& window)
@@ -227,6 +237,7 @@ void EndPlatformScrolling(const CWnd& window)
         if (held != 0)
         {
             ::SendMessage(holder, WM_CANCELMODE, 0, 0);
+            ForgetHeldBar();
             return;
         }
     }

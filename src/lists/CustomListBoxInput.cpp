@@ -102,15 +102,24 @@ void CCustomListBox::OnMouseMove(UINT flags, CPoint point)
     }
 }
 
-// Where the one before has taken it back, the platform would take it again.
+// Where the one before takes it back, the list never has it, and the platform would take it again.
+// A parent that hands it on when the list has it, as to a field above, leaves the press going on.
 bool CCustomListBox::TakeFocus()
 {
-    const WindowAlive alive(*this);
-    if (::GetFocus() != GetSafeHwnd())
+    if (::GetFocus() == GetSafeHwnd())
     {
-        SetFocus();
+        return true;
     }
-    return alive && ::GetFocus() == m_hWnd;
+    const WindowAlive alive(*this);
+    m_focusCame = false;
+    SetFocus();
+    return alive && m_focusCame;
+}
+
+void CCustomListBox::OnSetFocus(CWnd*)
+{
+    m_focusCame = true;
+    Default();
 }
 
 void CCustomListBox::OnLButtonDown(UINT flags, CPoint point)

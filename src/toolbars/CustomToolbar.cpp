@@ -150,7 +150,7 @@ void DrawDropArrow(CDC& dc, const CRect& button, bool raised, COLORREF ground, C
     }
     else
     {
-        box.DeflateRect(2, button.Height() / 2 - Height, 1, button.Height() / 2 - Height);
+        box.DeflateRect(3, button.Height() / 2 - Height, 1, button.Height() / 2 - Height);
         dc.FillSolidRect(&box, ground);
     }
     const CPoint top(button.right - Height - 6, button.CenterPoint().y - Height / 2);

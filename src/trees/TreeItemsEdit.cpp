@@ -58,6 +58,7 @@ void TreeItems::FollowEdit(UINT message, WPARAM wParam, LPARAM lParam)
             child == HWND(Ask(TVM_GETEDITCONTROL)))
         {
             m_edit = child;
+            m_edited = m_edited != nullptr ? m_edited : Caret(); // the user's edit is of that
             ::SetWindowSubclass(m_edit, &InEdit, 0, reinterpret_cast<DWORD_PTR>(this));
         }
         break;

@@ -105,7 +105,7 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
 
 // The edit of a label stays with its item when the rows move or have another height; it ends when
 // the item is not in sight any more.
-void TreeLook::FollowLabelEdit()
+void TreeLook::FollowLabelEdit(bool newFont)
 {
     const auto edit = HWND(m_items.Ask(TVM_GETEDITCONTROL));
     if (edit == nullptr)
@@ -117,7 +117,8 @@ void TreeLook::FollowLabelEdit()
     CRect client;
     m_owner.Window().GetClientRect(&client);
     client.bottom += m_items.RowHeight() - 1; // a row may be in sight in part
-    if (alive && !PlaceLabelEdit(edit, label, client, m_items.Ask(WM_GETFONT)))
+    const LRESULT font = alive && newFont ? m_items.Ask(WM_GETFONT) : 0; // a bold item has its own
+    if (alive && !PlaceLabelEdit(edit, label, client, font))
     {
         m_bars.EndLabelEdit();
     }
@@ -153,7 +154,7 @@ void TreeLook::Follow()
         if (alive)
         {
             m_bold.DeleteObject();
-            FollowLabelEdit();
+            FollowLabelEdit(true);
         }
         if (alive) // last: an edit that moves has the frame painted at once
         {
@@ -377,7 +378,7 @@ void TreeLook::Paint(const CRect* band)
         }
         if (alive)
         {
-            FollowLabelEdit(); // rows may have moved under it
+            FollowLabelEdit(false); // rows may have moved under it
         }
         if (!alive)
         {

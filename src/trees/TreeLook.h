@@ -65,7 +65,7 @@ private:
 
     void EnterOnBoard();
     void LeaveOnBoard();
-    void FollowLabelEdit();
+    void FollowLabelEdit(bool newFont);
     LRESULT TakeSize(UINT message, WPARAM wParam);
     void MakeLevelsForFinger();
     void MakeRowsForFinger();

@@ -351,7 +351,10 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     Repaint(list);
     EXPECT_TRUE(asked.count(500));
     EXPECT_EQ(hint.first, list.TopRow());
-    Host().hook = nullptr;
+    // Its owner may end the list while it is painted.
+    Host().OnCode(LVN_GETDISPINFOA, [&](ToldMessage&) { list.DestroyWindow(); });
+    Repaint(list);
+    EXPECT_EQ(list.GetSafeHwnd(), nullptr);
 }
 
 // Modes ------------------------------------------------------------------------------------------

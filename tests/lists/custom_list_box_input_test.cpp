@@ -115,6 +115,15 @@ TEST_F(ListBoxTest, OnBoardAPressTakesTheFocusAndThenWhatIsUnderIt)
         const OnceTold scroll(Host(), LBN_SETFOCUS, [&] { list.SetTopIndex(40); });
         Click(ClientPoint(list, CPoint(30, 2)));
         EXPECT_EQ(list.GetCurSel(), selected);
+        list.ResetContent();
+        list.AddString("suggested");
+        auto& field = Add<CEdit>(CRect(600, 500, 700, 520));
+        field.SetFocus();
+        Host().OnCode(LBN_SETFOCUS, [&](ToldMessage&) { field.SetFocus(); });
+        Click(ClientPoint(list, CPoint(90, 2))); // elsewhere: no double click
+        EXPECT_EQ(list.GetCurSel(), 0) << "a parent hands the focus on";
+        Host().hook = nullptr;
+        Remove(field);
         Remove(list);
     }
 }

@@ -433,6 +433,15 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheM
         tree.SetItemHeight(-1);
     }
     tree.SendMessage(WM_VSCROLL, SB_TOP);
+    tree.SetMultiSelect(false);
+    tree.SetFocus();
+    tree.SelectItem(m_items[1]);
+    QueueClick(ClientPoint(tree, TextRectOf(tree, m_items[1]).CenterPoint())); // which edits it
+    EXPECT_TRUE(PumpUntil([&] { return tree.GetEditControl() != nullptr; }, 2000));
+    tree.SelectItem(m_items[2]);
+    EXPECT_TRUE(expectOverItsItem(m_items[1], "another item selected"));
+    tree.SendMessage(TVM_ENDEDITLABELNOW, TRUE);
+    tree.SetMultiSelect(true);
     for (const APPMODE other : {STD, ONBOARD})
     {
         SetMode(other == STD ? ONBOARD : STD, tree);
