@@ -106,6 +106,10 @@ void Storm::OtherButton(HWND window, LPARAM point)
 void Storm::Key(HWND window)
 {
     const UINT key = m_arguments.OneOf(Keys);
+    if (key == VK_DELETE && IsPlainEdit(window))
+    {
+        return; // as letters, below
+    }
     if (Between(0, 7) == 0)
     {
         const UINT with = Between(0, 1) ? VK_DOWN : key == VK_SPACE ? VK_UP : key;
@@ -159,7 +163,8 @@ void Storm::SendOne(HWND window, const std::vector<Word>& words)
     // to lose, so that the platform leaves it behind, and it is painted for ever.
     const bool edits = word.message == LVM_EDITLABELA || word.message == LVM_EDITLABELW;
     const bool endless = edits && IsShutOff(window);
-    // A letter that replaces what is selected in an edit of the platform's: it wrote past its text.
+    // A letter that replaces what is selected in an edit of the platform's, or a key that deletes
+    // it: an edit that is too narrow for its text wrote and read past it.
     const bool pastText = word.wParam == Argument::Letter && IsPlainEdit(window);
     if (!endless && !pastText)
     {
