@@ -59,7 +59,8 @@ public:
     virtual void HandleGroupClick() {}
     // @}
 
-    // A key in an on-board mode; here the platform's button has it.
+    // A key in an on-board mode; here the platform's button has it, but for the repeats of a held
+    // space key.
     virtual void HandleKeyDown(UINT key, UINT repeat, UINT flags);
     // For derived classes that follow what a button does.
     virtual void TraceLocation(const char*) {}

@@ -15,7 +15,7 @@ class ComboPopup;
 // The list of a drop-list combo: a list box of the library in a popup window of its own. It takes
 // neither the focus nor the activation: the combo keeps both, holds the mouse capture while the
 // list is open and hands the pointer on to it. The row under the pointer is highlighted; the
-// selection changes only when a row is picked.
+// selection changes when a row is picked, or by the keys of its combo.
 class ONBOARDUI_API CCustomComboLBox : public CCustomListBox
 {
     DECLARE_DYNAMIC(CCustomComboLBox)

@@ -12,7 +12,7 @@ class IAppAccess;
 // Sets the display mode and tells every registered window; system colours are not touched.
 ONBOARDUI_API void SetOnBoardAppMode(APPMODE mode);
 
-// Title for message boxes and captions; null counts as empty.
+// Title of the library's message boxes; null counts as empty.
 ONBOARDUI_API void SetOnBoardAppTitle(const char* title);
 
 // Sets the system highlight colours for a mode: the on-board pair, or the user's own for STD. The

@@ -134,7 +134,7 @@ CCustomComboLBox* CCustomDropListCombo::DetachCustomComboLBox()
     const WindowAlive alive(*this);
     if (m_expanded)
     {
-        ToggleDropList(); // tells the parent
+        ToggleDropList(); // assistive programs hear of it
         if (!alive)
         {
             return nullptr;
