@@ -120,7 +120,7 @@ protected:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
-    afx_msg LRESULT OnCharacter(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg void OnKillFocus(CWnd* taker);
     afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnAddString(WPARAM wParam, LPARAM lParam);

@@ -117,7 +117,9 @@ protected:
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetCaption(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnSystemRequest(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnSysCommand(UINT command, LPARAM lParam);
+    afx_msg void OnContextMenu(CWnd* window, CPoint point);
+    afx_msg void OnNcLButtonDblClk(UINT hitTest, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 public:
@@ -168,4 +170,5 @@ private:
     void MiscConstruction();
     BOOL CreateFrom(LPCSTR templateName, CWnd* parent);
     INT_PTR DoModalOB();
+    void AnswerSystemRequest();
 };

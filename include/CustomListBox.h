@@ -219,13 +219,14 @@ protected:
     afx_msg LRESULT OnDeleteString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnResetContent(WPARAM wParam, LPARAM lParam);
     afx_msg void OnSetFocus(CWnd* before);
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags);
     afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
     // Messages after which every row may be another (LB_DIR, LB_SETCOUNT).
     afx_msg LRESULT OnContentReplaced(WPARAM wParam, LPARAM lParam);
     // Messages that give the same rows another place (LB_SETITEMHEIGHT, LB_SETCOLUMNWIDTH).
     afx_msg LRESULT OnRowsMeasured(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetRedraw(WPARAM wParam, LPARAM lParam);
-    // Messages that may scroll the list without a scroll message (LB_SETTOPINDEX, WM_CHAR ...).
+    // Messages that may scroll the list without a scroll message (LB_SETTOPINDEX ...).
     afx_msg LRESULT OnMayScroll(WPARAM wParam, LPARAM lParam);
     // Searches (LB_FINDSTRING, LB_FINDSTRINGEXACT) behind any index, and one that selects.
     afx_msg LRESULT OnFindString(WPARAM wParam, LPARAM lParam);

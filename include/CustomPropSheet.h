@@ -70,7 +70,9 @@ protected:
     afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);
     afx_msg LRESULT OnNcHitTest(CPoint point);
     afx_msg LRESULT OnSetCaption(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnSystemRequest(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnSysCommand(UINT command, LPARAM lParam);
+    afx_msg void OnContextMenu(CWnd* window, CPoint point);
+    afx_msg void OnNcLButtonDblClk(UINT hitTest, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 public:
@@ -94,4 +96,5 @@ private:
     void Construct();
     bool HasOnBoardFrame() const;
     void LayOutOnBoard();
+    void AnswerSystemRequest();
 };

@@ -29,9 +29,9 @@ BEGIN_MESSAGE_MAP(CCustomDialog, CDialog)
     ON_MESSAGE(WM_GETFONT, &CCustomDialog::OnGetFont)
     ON_MESSAGE(WM_SETTEXT, &CCustomDialog::OnSetCaption)
     ON_MESSAGE(WM_SETICON, &CCustomDialog::OnSetCaption)
-    ON_MESSAGE(WM_SYSCOMMAND, &CCustomDialog::OnSystemRequest)
-    ON_MESSAGE(WM_CONTEXTMENU, &CCustomDialog::OnSystemRequest)
-    ON_MESSAGE(WM_NCLBUTTONDBLCLK, &CCustomDialog::OnSystemRequest)
+    ON_WM_SYSCOMMAND()
+    ON_WM_CONTEXTMENU()
+    ON_WM_NCLBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 IEFB* CCustomDialog::m_efb = nullptr;
@@ -528,8 +528,25 @@ LRESULT CCustomDialog::OnSetCaption(WPARAM, LPARAM)
     return result;
 }
 
-LRESULT CCustomDialog::OnSystemRequest(WPARAM wParam, LPARAM lParam)
+void CCustomDialog::OnSysCommand(UINT, LPARAM)
 {
-    const UINT message = GetCurrentMessage()->message;
-    return dialogs::AsksForSystemCommand(*this, message, wParam, lParam) ? 0 : Default();
+    AnswerSystemRequest();
+}
+
+void CCustomDialog::OnContextMenu(CWnd*, CPoint)
+{
+    AnswerSystemRequest();
+}
+
+void CCustomDialog::OnNcLButtonDblClk(UINT, CPoint)
+{
+    AnswerSystemRequest();
+}
+
+void CCustomDialog::AnswerSystemRequest()
+{
+    if (!dialogs::AsksForSystemCommand(*this, *GetCurrentMessage()))
+    {
+        Default();
+    }
 }

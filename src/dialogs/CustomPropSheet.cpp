@@ -29,9 +29,9 @@ BEGIN_MESSAGE_MAP(CCustomPropSheet, CPropertySheet)
     ON_WM_NCHITTEST()
     ON_MESSAGE(WM_SETTEXT, &CCustomPropSheet::OnSetCaption)
     ON_MESSAGE(WM_SETICON, &CCustomPropSheet::OnSetCaption)
-    ON_MESSAGE(WM_SYSCOMMAND, &CCustomPropSheet::OnSystemRequest)
-    ON_MESSAGE(WM_CONTEXTMENU, &CCustomPropSheet::OnSystemRequest)
-    ON_MESSAGE(WM_NCLBUTTONDBLCLK, &CCustomPropSheet::OnSystemRequest)
+    ON_WM_SYSCOMMAND()
+    ON_WM_CONTEXTMENU()
+    ON_WM_NCLBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 IEFB* CCustomPropSheet::m_efb = nullptr;
@@ -348,10 +348,25 @@ LRESULT CCustomPropSheet::OnSetCaption(WPARAM, LPARAM)
     return result;
 }
 
-LRESULT CCustomPropSheet::OnSystemRequest(WPARAM wParam, LPARAM lParam)
+void CCustomPropSheet::OnSysCommand(UINT, LPARAM)
 {
-    const UINT message = GetCurrentMessage()->message;
-    return HasOnBoardFrame() && dialogs::AsksForSystemCommand(*this, message, wParam, lParam)
-               ? 0
-               : Default();
+    AnswerSystemRequest();
+}
+
+void CCustomPropSheet::OnContextMenu(CWnd*, CPoint)
+{
+    AnswerSystemRequest();
+}
+
+void CCustomPropSheet::OnNcLButtonDblClk(UINT, CPoint)
+{
+    AnswerSystemRequest();
+}
+
+void CCustomPropSheet::AnswerSystemRequest()
+{
+    if (!HasOnBoardFrame() || !dialogs::AsksForSystemCommand(*this, *GetCurrentMessage()))
+    {
+        Default();
+    }
 }

@@ -340,32 +340,33 @@ Frame CalcOnBoardFrame(const CWnd& window, RECT& proposed, int captionHeight)
     return frame;
 }
 
-bool AsksForSystemCommand(const CWnd& window, UINT message, WPARAM wParam, LPARAM lParam)
+bool AsksForSystemCommand(const CWnd& window, const MSG& request)
 {
     if (!COnBoardUIGeneral::InOnBoardMode() || window.IsIconic())
     {
         return false;
     }
-    if (message == WM_NCLBUTTONDBLCLK)
+    if (request.message == WM_NCLBUTTONDBLCLK)
     {
-        return wParam == HTCAPTION && !window.IsZoomed();
+        return request.wParam == HTCAPTION && !window.IsZoomed();
     }
     if ((window.GetStyle() & WS_CHILD) != 0)
     {
         return false;
     }
     constexpr WPARAM CommandBits = 0xFFF0; // the platform uses the others itself
-    const WPARAM command = wParam & CommandBits;
-    if (message == WM_SYSCOMMAND)
+    const WPARAM command = request.wParam & CommandBits;
+    if (request.message == WM_SYSCOMMAND)
     {
         return command == SC_KEYMENU || command == SC_MOUSEMENU;
     }
-    if (message != WM_CONTEXTMENU || reinterpret_cast<HWND>(wParam) != window.GetSafeHwnd())
+    if (request.message != WM_CONTEXTMENU ||
+        reinterpret_cast<HWND>(request.wParam) != window.GetSafeHwnd())
     {
         return false;
     }
     // The platform looks for its own caption there, which is not where the band is hit.
-    const CPoint at = scroll::ScreenToWindow(window, CPoint(lParam));
+    const CPoint at = scroll::ScreenToWindow(window, CPoint(request.lParam));
     return AreaOf(window).PtInRect(at) && !scroll::ClientRectInWindow(window).PtInRect(at);
 }
 

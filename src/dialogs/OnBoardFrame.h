@@ -86,7 +86,7 @@ LRESULT HitOnBoardFrame(const CWnd& window, const CPoint& screen, int captionHei
 // screen, not only the host's area, without a box to restore it by. One that is maximised already
 // is restored by them.
 // An icon has no such frame: its menu opens, and two taps restore it.
-bool AsksForSystemCommand(const CWnd& window, UINT message, WPARAM wParam, LPARAM lParam);
+bool AsksForSystemCommand(const CWnd& window, const MSG& request);
 
 // What a frame is painted from.
 struct FrameLook

@@ -90,9 +90,16 @@ void CCustomChecklistBox::OnLButtonDown(UINT flags, CPoint point)
     if (changes && alive && CanChange(index))
     {
         ChangeCheck(index, ExtendsSelection() && IsSelected(index));
+        const bool held = alive && ::GetCapture() == m_hWnd;
         if (alive)
         {
             NotifyParent(CLBN_CHKCHANGE);
+        }
+        // A parent that opens a box takes the press away, at whose end the platform would have told
+        // it of the selection.
+        if (held && alive && ::GetCapture() != m_hWnd)
+        {
+            DefWindowProc(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
         }
     }
 }
@@ -169,8 +176,11 @@ void CCustomChecklistBox::ChangeSelection(int index)
     }
 }
 
-LRESULT CCustomChecklistBox::OnCharacter(WPARAM wParam, LPARAM lParam)
+void CCustomChecklistBox::OnChar(UINT character, UINT repeat, UINT flags)
 {
     // The key was worth a check; the platform would look for a row that begins with a space.
-    return wParam == Space && lists::ChangesItself(m_checkStyle) ? 0 : OnMayScroll(wParam, lParam);
+    if (character != Space || !lists::ChangesItself(m_checkStyle))
+    {
+        CCustomListBox::OnChar(character, repeat, flags);
+    }
 }

@@ -113,13 +113,19 @@ bool CCustomListBox::TakeFocus()
     const WindowAlive alive(*this);
     m_focusCame = false;
     SetFocus();
-    return alive && m_focusCame;
+    return alive && (m_focusCame || ::GetFocus() == GetSafeHwnd()); // heirs may have the message
 }
 
 void CCustomListBox::OnSetFocus(CWnd*)
 {
     m_focusCame = true;
     Default();
+}
+
+void CCustomListBox::OnChar(UINT, UINT, UINT)
+{
+    const MSG& message = *GetCurrentMessage();
+    OnMayScroll(message.wParam, message.lParam);
 }
 
 void CCustomListBox::OnLButtonDown(UINT flags, CPoint point)

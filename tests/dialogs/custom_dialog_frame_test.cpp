@@ -167,10 +167,32 @@ int MenusOpened(CWnd& window)
     return log.Count(WM_ENTERMENULOOP);
 }
 
+// Has a command and a menu of its own, and passes on what is neither.
+class Heir : public DialogForTests
+{
+public:
+    using DialogForTests::DialogForTests;
+
+protected:
+    afx_msg void OnSysCommand(UINT command, LPARAM lParam)
+    {
+        CCustomDialog::OnSysCommand(command, lParam);
+    }
+    afx_msg void OnContextMenu(CWnd* window, CPoint point)
+    {
+        CCustomDialog::OnContextMenu(window, point);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Heir, DialogForTests)
+    ON_WM_SYSCOMMAND()
+    ON_WM_CONTEXTMENU()
+END_MESSAGE_MAP()
+
 TEST_F(CustomDialogTest, OnBoardNothingOpensTheSystemMenu)
 {
-    DialogForTests dialog(
-        DialogTemplate({.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE}), Host());
+    Heir dialog(DialogTemplate({.style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_VISIBLE}), Host());
     CCustomPropPage page(IDD_TEST_PAGE_1);
     CCustomPropSheet sheet("Sheet", nullptr);
     sheet.AddPage(&page);

@@ -186,6 +186,24 @@ TEST_F(CheckListTest, RowsOfDifferingHeightsStayWhereTheyAreAndAHeightMeasuresNo
     EXPECT_EQ(list.m_vBar.GetScrollPos(), top);
 }
 
+TEST_F(CheckListTest, AParentThatEndsThePressByABoxIsToldOfTheSelection)
+{
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        const ModeScope scope(mode);
+        auto& list = AddList(4, BS_AUTOCHECKBOX);
+        Host().Forget();
+        list.SetFocus();
+        list.SetCurSel(0);
+        Host().OnCode(CLBN_CHKCHANGE, [](ToldMessage&) { ::ReleaseCapture(); });
+        Press(list.CheckPoint(2)); // the release would go to the box
+        EXPECT_THAT(Codes(list), ElementsAre(LBN_SETFOCUS, CLBN_CHKCHANGE, LBN_SELCHANGE));
+        Release();
+        Host().hook = nullptr;
+        Remove(list);
+    }
+}
+
 TEST_F(CheckListTest, TheParentMayEmptyTheListWhenItIsTold)
 {
     for (const UINT code : {UINT(CLBN_CHKCHANGE), UINT(LBN_SETFOCUS), UINT(LBN_SELCHANGE)})

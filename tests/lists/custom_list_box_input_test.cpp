@@ -105,6 +105,35 @@ TEST_F(ListBoxTest, ASelectionDraggedPastTheEdgeTakesTheBarAlongAndEndsWithTheMo
     expectEnds(AddList<BarsSeen<CCustomChecklistBox>>(100));
 }
 
+// Has messages for itself and passes them on in the framework's way.
+class Heir : public ListBoxForTests
+{
+protected:
+    afx_msg void OnSetFocus(CWnd* before) { CListBox::OnSetFocus(before); }
+    afx_msg void OnChar(UINT character, UINT repeat, UINT flags)
+    {
+        CCustomListBox::OnChar(character, repeat, flags);
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(Heir, ListBoxForTests)
+    ON_WM_SETFOCUS()
+    ON_WM_CHAR()
+END_MESSAGE_MAP()
+
+TEST_F(ListBoxTest, AnHeirMayHaveTheFocusAndTheLettersForItself)
+{
+    const ModeScope mode(ONBOARD);
+    auto& list = AddList<Heir>(100);
+    Click(ClientPoint(list, CPoint(30, 2)));
+    EXPECT_EQ(list.GetCurSel(), 0);
+    list.AddString("Z");
+    TypeKey('Z');
+    EXPECT_EQ(list.GetCurSel(), 100);
+    list.ExpectInStep("a letter");
+}
+
 // The platform selects the row that was there before.
 TEST_F(ListBoxTest, OnBoardAPressTakesTheFocusAndThenWhatIsUnderIt)
 {
