@@ -240,6 +240,7 @@ private:
     void SetHeight(int height);
 
     void Repaint() { Invalidate(FALSE); }
+    int Insert(int index, LPCSTR text);
     void ItemsChanged();
     void CloseLeftOpen();
     bool TellSelChange();

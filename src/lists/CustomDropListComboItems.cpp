@@ -84,10 +84,16 @@ void CCustomDropListCombo::ItemsChanged()
 
 int CCustomDropListCombo::AddString(LPCSTR text)
 {
-    return InsertString(-1, text);
+    return Insert(-1, text);
 }
 
 int CCustomDropListCombo::InsertString(int index, LPCSTR text)
+{
+    return Insert(index, text);
+}
+
+// Not through the operations, which heirs override.
+int CCustomDropListCombo::Insert(int index, LPCSTR text)
 {
     CCustomComboLBox* const list = List();
     if (list == nullptr || index < -1)
@@ -213,8 +219,8 @@ void* CCustomDropListCombo::GetItemDataPtr(int index) const
 
 void* CCustomDropListCombo::RemoveItemDataPtr(int index)
 {
-    void* const before = GetItemDataPtr(index);
-    SetItemDataPtr(index, nullptr);
+    void* const before = CCustomDropListCombo::GetItemDataPtr(index);
+    CCustomDropListCombo::SetItemDataPtr(index, nullptr);
     return before;
 }
 

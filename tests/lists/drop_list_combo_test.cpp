@@ -242,7 +242,20 @@ TEST_F(ComboTest, AnObjectOfTheHostsIsThereBeforeTheClassMakesOne)
 
 TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
 {
-    auto& combo = AddCombo(0, -1);
+    struct Counting : ComboForTests // and owns what is set, for all that is asked of it
+    {
+        int inserted = 0;
+        int InsertString(int index, LPCSTR text) override
+        {
+            ++inserted;
+            return ComboForTests::InsertString(index, text);
+        }
+        int SetItemDataPtr(int index, void* data) override
+        {
+            return data == nullptr ? CB_ERR : ComboForTests::SetItemDataPtr(index, data);
+        }
+    };
+    auto& combo = Add<Counting>(CRect(50, 50, 250, 80), WS_TABSTOP);
     int data[3] = {};
     for (const char* const text : {"beta", "Gamma", "alpha"})
     {
@@ -258,6 +271,7 @@ TEST_F(ComboTest, ItemsKeepTheirDataAndAbsentOnesAreTold)
     EXPECT_EQ(combo.GetCurSel(), 0);
     EXPECT_EQ(combo.RemoveItemDataPtr(1), &data[0]);
     EXPECT_EQ(combo.GetItemDataPtr(1), nullptr);
+    EXPECT_EQ(combo.inserted, 0) << "by adding";
     EXPECT_EQ(combo.InsertString(0, nullptr), 0); // an empty text
     for (const int absent : {-2, 4, INT_MAX, INT_MIN})
     {
