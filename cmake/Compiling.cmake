@@ -1,6 +1,4 @@
 # How everything here is compiled. Targets link `compiling` privately: hosts keep their own choice.
-#
-# Parts whose folder has no sources are left out with a message, and so is what stands on them.
 add_library(compiling INTERFACE)
 target_compile_features(compiling INTERFACE cxx_std_20)
 target_compile_definitions(compiling INTERFACE
