@@ -1,5 +1,6 @@
 // The check list's checks, its items' data, and the look of its rows.
 
+#include "OnBoardUI.h"
 #include "lists/check_list_for_tests.h"
 
 using testing::ElementsAre;
@@ -213,6 +214,31 @@ TEST_F(CheckListTest, AParentThatMeasuresRowsMakesThemNoLowerAndTheyGetTheirBar)
         EXPECT_TRUE(list.m_vBarNeeded);
         Remove(list);
     }
+}
+
+namespace {
+
+struct LargeTexts : CheckListForTests
+{
+    static void Scale(double factor) { CreateOnBoardFont(m_OBFont, factor, 0, 400); }
+};
+
+} // namespace
+
+TEST_F(CheckListTest, RowsAreAsHighAsTheirTextAndThoseOfVariableHeightAsTheCheck)
+{
+    COnBoardUIGeneral::SetAppMode(ONBOARD);
+    auto& checks = Add<LargeTexts>(CRect(20, 20, 320, 320), CheckListStyle);
+    auto& variable = Add<LargeTexts>(CRect(20, 20, 320, 320), VariableCheckListStyle);
+    const int check = variable.CalcMinimumItemHeight();
+    LargeTexts::Scale(5);
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    dc.SelectObject(&CCustomChecklistBox::GetOnBoardFont());
+    EXPECT_EQ(checks.CalcMinimumItemHeight(), dc.GetTextExtent("Aj", 2).cy);
+    EXPECT_EQ(variable.CalcMinimumItemHeight(), check) << "whatever its texts";
+    dc.SelectStockObject(SYSTEM_FONT);
+    LargeTexts::Scale(1.7);
 }
 
 namespace {

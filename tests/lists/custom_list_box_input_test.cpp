@@ -74,6 +74,23 @@ TEST_F(ListBoxOnBoard, KeysMoveSelectionRowsAndBarTogether)
     }
 }
 
+// One line, and from then on the repeats.
+TEST_F(ListBoxOnBoard, ADerivedClassMayStartTheInitialWait)
+{
+    auto& list = AddList(500);
+    Press(list.PartPoint(Second));
+    list.KillTimer(CCustomListBox::m_timerid);
+    const int top = list.GetTopIndex();
+    list.SetTimer(CCustomListBox::m_timerInitialWaitID, 10, nullptr);
+    MessageLog log(list, {WM_TIMER});
+    ASSERT_TRUE(PumpUntil([&] { return log.Count(WM_TIMER) >= 3; }));
+    Release();
+    EXPECT_EQ(log.WParams(WM_TIMER), (std::vector<WPARAM>{104, 101, 101}));
+    EXPECT_EQ(list.GetTopIndex(), top + 3);
+    list.SendMessage(WM_TIMER, CCustomListBox::m_timerInitialWaitID);
+    EXPECT_EQ(list.GetTopIndex(), top + 3) << "the button is up";
+}
+
 TEST_F(ListBoxTest, ASelectionDraggedPastTheEdgeTakesTheBarAlongAndEndsWithTheMode)
 {
     const auto expectEnds = [&](auto& list) {

@@ -75,6 +75,19 @@ TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
     }
 }
 
+TEST_F(ListBoxOnBoard, RowsAreHalfAgainAsHighAsTheirText)
+{
+    auto& list = AddList(1, WideListStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    dc.SelectObject(&CCustomListBox::GetOnBoardFont());
+    const CSize text = dc.GetTextExtent("Row 0", 5);
+    EXPECT_EQ(list.GetEntryHeight("Row 0"), int(text.cy * 1.5));
+    EXPECT_EQ(list.GetEntryWidth(0), text.cx);
+    // By their own rows the platform's lists go: another font, another width.
+    EXPECT_LT(AddList(1, WideListStyle).GetEntryWidth(0), text.cx);
+}
+
 // Looks and modes -------------------------------------------------------------------------------
 
 TEST_F(ListBoxTest, DrawnRowsFollowTheMode)
