@@ -10,8 +10,6 @@
 
 #include <OnBoardUIGeneral.h>
 
-#include <afxcmn.h>
-
 namespace {
 
 // Smaller than it lets itself be made otherwise.
@@ -90,27 +88,6 @@ TEST_F(SmallGallery, AKeyThatChoosesAnotherPageShowsItFromItsTop)
     EXPECT_EQ(Top(), 0);
     TypeKey(VK_UP);
     EXPECT_EQ(Top(), Hidden()); // where it was left
-}
-
-TEST_F(SmallGallery, TheControlsOfAPageArePlacedInAModeBeforeTheyAreSeen)
-{
-    Open(ONBOARD, 40);
-    static int moves;
-    static int seen;
-    moves = seen = 0;
-    const auto note = [](HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                         DWORD_PTR) -> LRESULT {
-        moves += message == WM_WINDOWPOSCHANGED;
-        seen += message == WM_WINDOWPOSCHANGED && ::IsWindowVisible(window);
-        return ::DefSubclassProc(window, message, wParam, lParam);
-    };
-    ASSERT_TRUE(::SetWindowSubclass(*Page().GetWindow(GW_CHILD), note, 0, 0));
-    m_frame->SwitchMode(EFB);
-    EXPECT_GT(moves, 0);
-    EXPECT_EQ(seen, 0);
-    EXPECT_TRUE(Page().IsWindowVisible());
-    m_frame->UpdateWindow();
-    ::RemoveWindowSubclass(*Page().GetWindow(GW_CHILD), note, 0);
 }
 
 TEST_F(SmallGallery, ThePointerScrollsAPageAsFarAsItGoes)
