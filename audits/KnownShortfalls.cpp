@@ -14,7 +14,7 @@ struct Known
 
 // The gradient of a face is the look of every painted part; text in the middle of it stands on its
 // lighter half.
-constexpr Known Texts[] = {
+Known Texts[] = {
     {"push button", "", {"gradient of a face", 3.3}},
     {"message box", "Button", {"gradient of a face", 2.9}},
     {"report list", "first cell", {"cells after the highlight; a host may select full rows", 1.6}},
@@ -26,7 +26,7 @@ constexpr Known Texts[] = {
 constexpr const char* OfFont = "height of the font; a host may set more";
 constexpr const char* OfTemplate = "size of the template, scaled";
 
-constexpr Known Targets[] = {
+Known Targets[] = {
     {"", "vertical bar", {"band of 52 whose edges take no press", 44}},
     {"", "horizontal bar", {"band of 52 whose edges take no press", 49}},
     {"list box", "row", {OfFont, 20}},
@@ -40,7 +40,7 @@ constexpr Known Targets[] = {
 };
 
 template <size_t Count>
-const Shortfall* Find(const Known (&all)[Count], std::string_view control, std::string_view part)
+Shortfall* Find(Known (&all)[Count], std::string_view control, std::string_view part)
 {
     const auto known = std::find_if(std::begin(all), std::end(all), [&](const Known& each) {
         return (each.control.empty() || each.control == control) &&
@@ -51,12 +51,27 @@ const Shortfall* Find(const Known (&all)[Count], std::string_view control, std::
 
 } // namespace
 
-const Shortfall* KnownTextShortfall(std::string_view control, std::string_view part)
+Shortfall* KnownTextShortfall(std::string_view control, std::string_view part)
 {
     return Find(Texts, control, part);
 }
 
-const Shortfall* KnownTargetShortfall(std::string_view control, std::string_view part)
+Shortfall* KnownTargetShortfall(std::string_view control, std::string_view part)
 {
     return Find(Targets, control, part);
+}
+
+std::vector<std::string> UnmetShortfalls()
+{
+    std::vector<std::string> unmet;
+    const auto note = [&](const Known& known) {
+        if (!known.shortfall.met)
+        {
+            unmet.push_back(std::string(known.control) + ": " + std::string(known.part) + ": " +
+                            known.shortfall.reason);
+        }
+    };
+    std::ranges::for_each(Texts, note);
+    std::ranges::for_each(Targets, note);
+    return unmet;
 }

@@ -7,7 +7,6 @@
 #include <afxcmn.h>
 
 #include <algorithm>
-#include <string_view>
 
 namespace {
 
@@ -188,4 +187,11 @@ std::vector<State> StatesOf(const char* control)
         states.push_back({"in focus", true, Focused(selected->enter), 1});
     }
     return states;
+}
+
+State StateOf(const char* control, std::string_view name)
+{
+    const std::vector<State> states = StatesOf(control);
+    const auto found = std::ranges::find(states, name, &State::name);
+    return states.at(size_t(found - states.begin()));
 }

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // A state that a control can be in, and how a host or a user brings it there.
@@ -18,3 +19,6 @@ struct State
 
 // Those of the control of that name in the catalog; the plain state is the first.
 std::vector<State> StatesOf(const char* control);
+
+// The one of that name, which there has to be.
+State StateOf(const char* control, std::string_view name);
