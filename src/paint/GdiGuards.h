@@ -35,59 +35,27 @@ private:
     HGDIOBJ m_old;
 };
 
-// Text colour for the life of the guard.
-class TextColor
+// What a setter of the context sets, for the life of the guard.
+template <auto Set, class Value> class Setting
 {
 public:
-    TextColor(CDC& dc, COLORREF color)
+    Setting(CDC& dc, Value value)
         : m_dc(dc)
-        , m_old(dc.SetTextColor(color))
+        , m_old((dc.*Set)(value))
     {}
 
-    TextColor(const TextColor&) = delete;
-    TextColor& operator=(const TextColor&) = delete;
-    ~TextColor() { m_dc.SetTextColor(m_old); }
+    Setting(const Setting&) = delete;
+    Setting& operator=(const Setting&) = delete;
+    ~Setting() { (m_dc.*Set)(m_old); }
 
 private:
     CDC& m_dc;
-    COLORREF m_old;
+    Value m_old;
 };
 
-// Background colour for the life of the guard.
-class BackgroundColor
-{
-public:
-    BackgroundColor(CDC& dc, COLORREF color)
-        : m_dc(dc)
-        , m_old(dc.SetBkColor(color))
-    {}
-
-    BackgroundColor(const BackgroundColor&) = delete;
-    BackgroundColor& operator=(const BackgroundColor&) = delete;
-    ~BackgroundColor() { m_dc.SetBkColor(m_old); }
-
-private:
-    CDC& m_dc;
-    COLORREF m_old;
-};
-
-// Background mode (TRANSPARENT or OPAQUE) for the life of the guard.
-class BackgroundMode
-{
-public:
-    BackgroundMode(CDC& dc, int mode)
-        : m_dc(dc)
-        , m_old(dc.SetBkMode(mode))
-    {}
-
-    BackgroundMode(const BackgroundMode&) = delete;
-    BackgroundMode& operator=(const BackgroundMode&) = delete;
-    ~BackgroundMode() { m_dc.SetBkMode(m_old); }
-
-private:
-    CDC& m_dc;
-    int m_old;
-};
+using TextColor = Setting<&CDC::SetTextColor, COLORREF>;
+using BackgroundColor = Setting<&CDC::SetBkColor, COLORREF>;
+using BackgroundMode = Setting<&CDC::SetBkMode, int>; // TRANSPARENT or OPAQUE
 
 // All that is selected, set and clipped, for the life of the guard. The window of the context may
 // go meanwhile.
