@@ -9,6 +9,7 @@
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/BackBuffer.h"
+#include "paint/BufferedPaint.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
 #include "paint/SharedObjects.h"
@@ -413,20 +414,10 @@ void CCustomButton::OnDestroy()
 
 void CCustomButton::OnPaint()
 {
-    if (!FollowOrPass())
+    if (FollowOrPass())
     {
-        return;
+        PaintBuffered(*this, [this](CDC& dc) { DrawOB(dc); });
     }
-    const WindowAlive alive(*this);
-    CPaintDC dc(this);
-    if (!alive)
-    {
-        return;
-    }
-    CRect client;
-    GetClientRect(&client);
-    BackBuffer buffer(dc, client);
-    DrawOB(buffer);
 }
 
 void CCustomButton::OnEnable(BOOL enable)

@@ -5,7 +5,7 @@
 #include "modes/ChildRestyling.h"
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
-#include "paint/BackBuffer.h"
+#include "paint/BufferedPaint.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
 
@@ -35,16 +35,7 @@ void SheetTabs::OnPaint()
         Default();
         return;
     }
-    const WindowAlive alive(*this);
-    CPaintDC dc(this);
-    if (!alive)
-    {
-        return;
-    }
-    CRect client;
-    GetClientRect(&client);
-    BackBuffer buffer(dc, client);
-    Draw(buffer);
+    PaintBuffered(*this, [this](CDC& dc) { Draw(dc); });
 }
 
 BOOL SheetTabs::OnEraseBkgnd(CDC* dc)

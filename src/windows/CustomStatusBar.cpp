@@ -4,7 +4,7 @@
 #include "access/Answers.h"
 #include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
-#include "paint/BackBuffer.h"
+#include "paint/BufferedPaint.h"
 #include "paint/GdiGuards.h"
 #include "paint/Palette.h"
 #include "paint/SharedObjects.h"
@@ -189,27 +189,19 @@ BOOL CCustomStatusBar::OnEraseBkgnd(CDC* dc)
 void CCustomStatusBar::OnPaint()
 {
     const WindowAlive alive(*this);
-    if (!FollowMode())
-    {
-        if (alive)
-        {
-            Default();
-        }
-        return;
-    }
+    const bool onBoard = FollowMode();
     if (!alive)
     {
         return;
     }
-    CPaintDC dc(this);
-    if (!alive)
+    if (onBoard)
     {
-        return;
+        PaintBuffered(*this, [this](CDC& dc) { DrawOB(dc); });
     }
-    CRect client;
-    GetClientRect(&client);
-    BackBuffer buffer(dc, client);
-    DrawOB(buffer);
+    else
+    {
+        Default();
+    }
 }
 
 // Where the panes are, or the one text of the simple form. The platform works it out when it
