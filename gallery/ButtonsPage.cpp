@@ -2,8 +2,6 @@
 
 #include "resource.h"
 
-#include <OnBoardUIGeneral.h>
-
 #include <iterator>
 
 namespace {

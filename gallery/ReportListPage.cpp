@@ -1,5 +1,6 @@
 #include "ReportListPage.h"
 
+#include "FlightLegs.h"
 #include "Look.h"
 #include "Tap.h"
 #include "resource.h"

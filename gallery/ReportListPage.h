@@ -1,6 +1,5 @@
 #pragma once
 
-#include "FlightLegs.h"
 #include "GalleryPage.h"
 
 #include <CustomCheckBox.h>
