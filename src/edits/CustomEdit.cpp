@@ -9,6 +9,7 @@
 #include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
+#include "paint/GdiGuards.h"
 #include "paint/Rings.h"
 #include "paint/SharedObjects.h"
 #include "scroll/NcBands.h"
@@ -340,7 +341,11 @@ void CCustomEdit::DrawOBNC()
     {
         return;
     }
-    CWindowDC dc(this);
+    OwnContext dc(m_hWnd, OwnContext::Whole);
+    if (!dc)
+    {
+        return;
+    }
     const CRect client = scroll::ClientRectInWindow(*this);
     CRect frame = AreaOf(*this);
     if ((GetExStyle() & WS_EX_CLIENTEDGE) != 0)

@@ -346,7 +346,11 @@ void BarHost::DrawBorder(CPen& pen, HGDIOBJ brush, COLORREF corner)
     {
         return;
     }
-    CWindowDC dc(&m_window);
+    OwnContext dc(m_window, OwnContext::Whole);
+    if (!dc)
+    {
+        return;
+    }
     const CRect frame = AreaOf(m_window);
     // Only round the client area: a frame narrower than the pen must not be painted over rows, and
     // what lies in it is painted in its own time.

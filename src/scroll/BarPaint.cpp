@@ -2,6 +2,7 @@
 
 #include "OnBoardUIGeneral.h"
 #include "paint/BackBuffer.h"
+#include "paint/GdiGuards.h"
 
 namespace scroll {
 
@@ -64,7 +65,12 @@ bool BarPainter::Draw(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSE
     {
         return false;
     }
-    CWindowDC dc(&window);
+    OwnContext dc(window, OwnContext::Whole);
+    if (!dc)
+    {
+        Invalidate();
+        return false;
+    }
     Paint(dc, bar, *m_last);
     return true;
 }
