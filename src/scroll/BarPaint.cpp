@@ -3,6 +3,7 @@
 #include "OnBoardUIGeneral.h"
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
+#include "scroll/NcBands.h"
 
 namespace scroll {
 
@@ -34,7 +35,7 @@ bool BarPainter::Take(CWnd& window, CFauxScrollBar& bar, CFauxScrollBar::ePRESSE
 {
     // Nothing reaches the screen while the window is hidden or its redraw is off, and a paint need
     // not be asked for afterwards: what was drawn before says nothing then.
-    if (!::IsWindowVisible(window.GetSafeHwnd()))
+    if (!IsFrameSeen(window))
     {
         Invalidate();
         return false;

@@ -151,7 +151,7 @@ void RecalculateFrameUnpainted(const CWnd& window)
 
 bool IsFrameSeen(const CWnd& window)
 {
-    return window.IsWindowVisible() != FALSE;
+    return ::IsWindowVisible(window.GetSafeHwnd()) != FALSE;
 }
 
 bool ChangesFrameAlone(const WINDOWPOS& position)

@@ -81,8 +81,9 @@ private:
     DWORD m_exStyle = 0;
 };
 
-// Whether what is painted on the frame now would reach the screen. Else it is not worth the
-// context, which takes its time: the window paints its frame when it is shown.
+// Whether what is painted on the frame now would reach the screen, which it does not without a
+// window. Else it is not worth the context, which takes its time: the window paints its frame when
+// it is shown.
 bool IsFrameSeen(const CWnd& window);
 
 // Whether the region of a WM_NCPAINT (screen coordinates, or 1 for everything) reaches out of the
