@@ -2,6 +2,7 @@
 
 #include "CustomEdit.h"
 #include "edits/EditBars.h"
+#include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 
 #include <algorithm>
@@ -184,7 +185,7 @@ void CCustomEdit::UpdateScrollPosFromText()
         return;
     }
     const WindowAlive alive(*this);
-    m_updating = true;
+    const Meanwhile updating(*this, m_updating);
     View view = CurrentView();
     const bool allVisible = view.first == 0 && (view.lines == 1 || view.lines == view.last + 1);
     if (allVisible ? m_barShown : m_wantsBar && !m_barShown)
@@ -228,7 +229,6 @@ void CCustomEdit::UpdateScrollPosFromText()
     m_overflowing = view.first < view.last && visible > 0 && visible < view.lines;
     m_lines = view.lines;
     m_lastTop = std::max(0, view.lines - visible);
-    m_updating = false;
 }
 
 // The bar takes its place from the text, unless a thumb is being dragged: then the text is on its

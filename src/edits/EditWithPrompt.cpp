@@ -1,5 +1,6 @@
 #include "EditWithPrompt.h"
 
+#include "modes/Meanwhile.h"
 #include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
@@ -69,13 +70,8 @@ void EditWithPrompt::ShowText(const char* text)
     {
         return;
     }
-    const WindowAlive alive(*this);
-    const bool outer = std::exchange(m_showingText, true);
+    const Meanwhile showing(*this, m_showingText);
     CEdit::DefWindowProc(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)); // the parent is told
-    if (alive)
-    {
-        m_showingText = outer;
-    }
 }
 
 void EditWithPrompt::ShowPrompt()

@@ -6,6 +6,7 @@
 #include "access/Answers.h"
 #include "lists/ListBoxBars.h"
 #include "modes/ChildRestyling.h"
+#include "modes/Meanwhile.h"
 #include "modes/PressAndHold.h"
 #include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
@@ -220,15 +221,11 @@ void CCustomListBox::EnterOnBoard()
 void CCustomListBox::Bars::LayOut()
 {
     const WindowAlive alive(m_list);
-    const bool outer = std::exchange(layingOut, true);
+    const Meanwhile now(m_list, layingOut);
     scroll::RecalculateFrame(m_list, false);
     if (alive)
     {
         Finish();
-    }
-    if (alive)
-    {
-        layingOut = outer;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "CustomListBox.h"
 #include "lists/ListBoxBars.h"
+#include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 #include "paint/Metrics.h"
 #include "scroll/FauxScrollGeometry.h"
@@ -43,17 +44,13 @@ void CCustomListBox::UpdateScrollData()
     {
         // Each bar is judged by the room that the other one leaves, and that of columns by the room
         // that it leaves itself, so they would never go.
-        m_refitting = true;
+        const Meanwhile refitting(*this, m_refitting);
         for (const int axis : {SB_VERT, SB_HORZ})
         {
             Needed(axis) = false;
             Bar(axis).ShowScrollBar(FALSE);
         }
         m_bars->size.RecalculateFrame();
-        if (alive)
-        {
-            m_refitting = false;
-        }
     }
     if (alive)
     {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OnBoardUIGeneral.h"
-#include "modes/WindowAlive.h"
+#include "modes/Meanwhile.h"
 
 // Lays a window out for the mode of the moment when it is still laid out for the other kind:
 // changes onBoard and calls enter or leave. following is set meanwhile, when messages that come
@@ -17,7 +17,7 @@ bool FollowMode(CWnd& window, bool& onBoard, bool& following, Enter enter, Leave
         // but not for ever.
         for (int change = 0; change < 2 && COnBoardUIGeneral::InOnBoardMode() != onBoard; ++change)
         {
-            following = true;
+            const Meanwhile now(window, following);
             onBoard = !onBoard;
             if (onBoard)
             {
@@ -31,7 +31,6 @@ bool FollowMode(CWnd& window, bool& onBoard, bool& following, Enter enter, Leave
             {
                 return false;
             }
-            following = false;
         }
     }
     return onBoard && COnBoardUIGeneral::InOnBoardMode();

@@ -2,6 +2,7 @@
 
 #include "OnBoardUIGeneral.h"
 #include "access/Answers.h"
+#include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 #include "paint/Palette.h"
 
@@ -54,12 +55,11 @@ void MessageText::Show(const CString& text)
     if (m_wantsBar && COnBoardUIGeneral::InOnBoardMode() && GetWindowTextLength() == 0)
     {
         // Or our bar came when the text is there, and had all its lines broken once more.
-        m_keepingBar = true;
+        const Meanwhile keeping(*this, m_keepingBar);
         IncludeVScrollBar();
     }
     if (alive)
     {
-        m_keepingBar = false;
         SetWindowText(text);
     }
 }

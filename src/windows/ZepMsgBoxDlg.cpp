@@ -6,6 +6,7 @@
 #include "OnBoardUIGeneral.h"
 #include "dialogs/Opening.h"
 #include "modes/KeyState.h"
+#include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 #include "windows/MessageBoxLayout.h"
 #include "windows/MessageText.h"
@@ -132,20 +133,14 @@ int CZepMsgBoxDlg::OnCreate(LPCREATESTRUCT cs)
     // A box can be shown again: its parts begin anew with each window.
     m_buttonPressed = 0;
     m_laidOutFor.reset();
-    m_layingOut = m_layoutDue = false;
+    m_layingOut = m_layoutDue = m_beingCreated = false;
     m_sizing = true; // its lines are made when it initialises
     m_shownText.Empty();
     m_buttons.clear();
     m_text = std::make_unique<windows::MessageText>();
     m_opensWith.reset();
-    m_beingCreated = true;
-    const WindowAlive alive(*this);
-    const int result = CCustomDialog::OnCreate(cs);
-    if (alive)
-    {
-        m_beingCreated = false;
-    }
-    return result;
+    const Meanwhile created(*this, m_beingCreated);
+    return CCustomDialog::OnCreate(cs);
 }
 
 BOOL CZepMsgBoxDlg::OnInitDialog()

@@ -6,6 +6,7 @@
 #include "OnBoardUIGeneral.h"
 #include "dialogs/Opening.h"
 #include "modes/ChildRestyling.h"
+#include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/Palette.h"
@@ -243,13 +244,10 @@ void CZepMsgBoxDlg::SizeToText()
         opened != nullptr && opened->premises == premises ? *opened : LayOut(premises);
 
     const UINT flags = MoveFlags(m_hWnd);
-    m_sizing = true;
-    Place(*this, laidOut.window, flags);
-    if (!alive)
     {
-        return;
+        const Meanwhile sizing(*this, m_sizing);
+        Place(*this, laidOut.window, flags);
     }
-    m_sizing = false;
     if (!goesOn())
     {
         return;
