@@ -6,7 +6,7 @@
 
 namespace trees {
 
-TreeItems::TreeItems(TreeOwner& owner, std::function<void(HTREEITEM)> remove)
+TreeItems::TreeItems(TreeOwner& owner, Removal remove)
     : m_owner(owner)
     , m_remove(std::move(remove))
 {}
@@ -22,6 +22,17 @@ HTREEITEM TreeItems::Real(HTREEITEM item)
 {
     return item == TVI_ROOT || item == TVI_FIRST || item == TVI_LAST || item == TVI_SORT ? nullptr
                                                                                          : item;
+}
+
+std::vector<HTREEITEM> TreeItems::Children(HTREEITEM branch) const
+{
+    std::vector<HTREEITEM> children;
+    for (HTREEITEM child = branch == nullptr ? Root() : Next(branch, TVGN_CHILD); child != nullptr;
+         child = Next(child, TVGN_NEXT))
+    {
+        children.push_back(child);
+    }
+    return children;
 }
 
 HTREEITEM TreeItems::NextInBranch(HTREEITEM item, HTREEITEM branch) const
@@ -171,6 +182,13 @@ bool MovesCaret(UINT message)
     }
 }
 
+// Whether a message closes a branch and deletes what is below it.
+bool ResetsBranch(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return message == TVM_EXPAND && (wParam & TVE_COLLAPSERESET) == TVE_COLLAPSERESET &&
+           lParam != 0;
+}
+
 } // namespace
 
 LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
@@ -194,9 +212,15 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     m_abandoned = message != WM_NCDESTROY && message != WM_CREATE && (abandons || m_abandoned);
     std::vector<HTREEITEM> going;
     bool goingAll = false;
-    if (message == TVM_DELETEITEM && m_inPlatform > 0)
+    if (m_inPlatform > 0 && message == TVM_DELETEITEM)
     {
-        return Postpone(Real(HTREEITEM(lParam)));
+        const HTREEITEM item = Real(HTREEITEM(lParam));
+        Postpone(item != nullptr ? std::vector<HTREEITEM>{item} : Children(nullptr));
+        return TRUE;
+    }
+    if (m_inPlatform > 0 && ResetsBranch(message, wParam, lParam))
+    {
+        return PostponeBelow(HTREEITEM(lParam), wParam);
     }
     switch (message)
     {
@@ -212,7 +236,7 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
         }
         break;
     case TVM_EXPAND:
-        if ((wParam & TVE_COLLAPSERESET) == TVE_COLLAPSERESET && lParam != 0)
+        if (ResetsBranch(message, wParam, lParam))
         {
             going = Forget(HTREEITEM(lParam), false);
         }

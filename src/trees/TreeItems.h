@@ -21,8 +21,11 @@ using WatchList = std::vector<WatchedItems*>;
 class TreeItems
 {
 public:
+    // A message that takes items away.
+    using Removal = std::function<void(UINT message, WPARAM wParam, LPARAM lParam)>;
+
     // What is deleted after it had to wait goes by remove, as if it were asked for then.
-    TreeItems(TreeOwner& owner, std::function<void(HTREEITEM)> remove);
+    TreeItems(TreeOwner& owner, Removal remove);
     ~TreeItems();
     TreeItems(const TreeItems&) = delete;
     TreeItems& operator=(const TreeItems&) = delete;
@@ -93,8 +96,10 @@ public:
     }
 
 private:
+    struct Postponed;
+
     TreeOwner& m_owner;
-    const std::function<void(HTREEITEM)> m_remove;
+    const Removal m_remove;
     bool m_known = false;            // m_selected is what the item states say
     bool m_hostRedraw = true;        // the host's WM_SETREDRAW
     HTREEITEM m_caret = nullptr;     // when the knowledge was last brought into step
@@ -103,7 +108,7 @@ private:
     std::unordered_set<HTREEITEM> m_going;     // being deleted by the platform
     int m_goingAll = 0;                        // depth of deletions of everything
     int m_inPlatform = 0;                      // depth of messages in which the parent is told
-    std::unique_ptr<WatchedItems> m_postponed; // to be deleted when that is over
+    std::unique_ptr<Postponed> m_postponed; // to be deleted when that is over
     bool m_abandoned = false;     // the platform's tree does not hear of the window's end
     HWND m_edit = nullptr;        // of a label
     HTREEITEM m_edited = nullptr; // whose edit a message has begun, not the user
@@ -121,7 +126,9 @@ private:
     void FollowEdit(UINT message, WPARAM wParam, LPARAM lParam);
     static LRESULT CALLBACK InEdit(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
                                    UINT_PTR id, DWORD_PTR items);
-    LRESULT Postpone(HTREEITEM item);
+    std::vector<HTREEITEM> Children(HTREEITEM branch) const; // of null: the topmost items
+    void Postpone(const std::vector<HTREEITEM>& items);
+    LRESULT PostponeBelow(HTREEITEM branch, WPARAM action);
     void DeletePostponed();
 
     friend class WatchedItems;
@@ -153,6 +160,16 @@ private:
     std::vector<HTREEITEM> m_items;
 
     friend class TreeItems;
+};
+
+struct TreeItems::Postponed
+{
+    explicit Postponed(TreeItems& tree)
+        : items(tree, {})
+        , branches(tree, {})
+    {}
+    WatchedItems items;
+    WatchedItems branches; // that are reset: all that was below them is among the items
 };
 
 // One such item.

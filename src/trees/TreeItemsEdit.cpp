@@ -20,7 +20,7 @@ bool TreeItems::CancelEditIn(HTREEITEM branch)
 {
     if (m_inPlatform > 0)
     {
-        return true; // the deletion waits for the platform, which may be ending the edit by itself
+        return true; // they wait for the platform, which may be ending the edit by itself
     }
     const HTREEITEM edited = Edited();
     if (edited == nullptr || (branch != nullptr && !IsWithin(edited, branch)))

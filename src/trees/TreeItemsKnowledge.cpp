@@ -225,18 +225,9 @@ std::vector<HTREEITEM> TreeItems::Forget(HTREEITEM branch, bool itself)
 
 // The platform goes on with its old and its new caret after it has told the parent of them, so what
 // the parent deletes meanwhile is only forgotten here until the platform is done.
-LRESULT TreeItems::Postpone(HTREEITEM item)
+void TreeItems::Postpone(const std::vector<HTREEITEM>& items)
 {
     const HTREEITEM edited = m_edited; // whose edit is still to be cancelled
-    std::vector<HTREEITEM> items = {item};
-    if (item == nullptr)
-    {
-        items.clear();
-        for (HTREEITEM top = Root(); top != nullptr; top = Next(top, TVGN_NEXT))
-        {
-            items.push_back(top);
-        }
-    }
     for (const HTREEITEM each : items)
     {
         const std::vector<HTREEITEM> going = Forget(each, true);
@@ -246,24 +237,58 @@ LRESULT TreeItems::Postpone(HTREEITEM item)
     m_edited = edited;
     if (m_postponed == nullptr)
     {
-        m_postponed = std::make_unique<WatchedItems>(*this, std::vector<HTREEITEM>());
+        m_postponed = std::make_unique<Postponed>(*this);
     }
-    std::vector<HTREEITEM> all = m_postponed->All();
-    all.insert(all.end(), items.begin(), items.end());
-    m_postponed->Set(std::move(all));
-    return TRUE;
+    for (const HTREEITEM each : items)
+    {
+        m_postponed->items.Add(each);
+    }
+}
+
+// The same for what is below a branch that is reset; the branch is closed at once.
+LRESULT TreeItems::PostponeBelow(HTREEITEM branch, WPARAM action)
+{
+    const WPARAM close = action & ~WPARAM(TVE_COLLAPSERESET);
+    const std::vector<HTREEITEM> children = Children(branch);
+    if (children.empty())
+    {
+        return Native(TVM_EXPAND, close, LPARAM(branch));
+    }
+    const WindowAlive alive(m_owner.Window());
+    const WatchedItem held(*this, branch);
+    Postpone(children);
+    m_postponed->branches.Add(branch);
+    const LRESULT result = Native(TVM_EXPAND, close, LPARAM(branch));
+    if (alive && held.Get() != nullptr)
+    {
+        WriteState(branch, 0, TVIS_EXPANDEDONCE); // its next opening asks for new ones
+    }
+    return result;
 }
 
 void TreeItems::DeletePostponed()
 {
     const WindowAlive alive(m_owner.Window());
-    const std::unique_ptr<WatchedItems> postponed = std::move(m_postponed);
+    const std::unique_ptr<Postponed> postponed = std::move(m_postponed);
     m_going.clear();
-    for (size_t index = 0; index < postponed->Size() && alive; ++index)
+    const WatchedItems& items = postponed->items;
+    const WatchedItems& branches = postponed->branches;
+    const std::unordered_set<HTREEITEM> going(items.All().begin(), items.All().end());
+    for (size_t index = 0; index < branches.Size() && alive; ++index)
     {
-        if ((*postponed)[index] != nullptr)
+        if (branches[index] != nullptr &&
+            std::ranges::all_of(Children(branches[index]),
+                                [&](HTREEITEM child) { return going.contains(child); }))
         {
-            m_remove((*postponed)[index]);
+            // None is new. Without its children, but not reset, it could not be opened any more.
+            m_remove(TVM_EXPAND, TVE_COLLAPSE | TVE_COLLAPSERESET, LPARAM(branches[index]));
+        }
+    }
+    for (size_t index = 0; index < items.Size() && alive; ++index)
+    {
+        if (items[index] != nullptr)
+        {
+            m_remove(TVM_DELETEITEM, 0, LPARAM(items[index]));
         }
     }
 }

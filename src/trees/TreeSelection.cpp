@@ -29,7 +29,8 @@ bool CaretMovesDeselect()
 
 TreeSelection::TreeSelection(TreeOwner& owner)
     : m_owner(owner)
-    , m_items(owner, [this](HTREEITEM item) { Native(TVM_DELETEITEM, 0, LPARAM(item)); })
+    , m_items(owner, [this](UINT message, WPARAM wParam,
+                            LPARAM lParam) { Native(message, wParam, lParam); })
     , m_look(std::make_unique<TreeLook>(m_items, owner))
     , m_anchor(m_items)
 {}

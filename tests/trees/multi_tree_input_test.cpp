@@ -460,36 +460,54 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheM
 
 TEST_F(MultiTreeInputTest, TheEditOfALabelIsCancelledWhereItsItemIsDeleted)
 {
-    const Act<MultiTree&> ends[] = {
-        {"it is deleted", [&](MultiTree& tree) { tree.DeleteItem(b); }},
-        {"its branch", [&](MultiTree& tree) { tree.DeleteItem(a); }},
-        {"all", [](MultiTree& tree) { tree.DeleteAllItems(); }},
-        {"with all below",
-         [&](MultiTree& tree) { tree.Expand(a, TVE_COLLAPSE | TVE_COLLAPSERESET); }},
-        {"as it ends by a key", [](MultiTree&) { TypeKey(VK_RETURN); }},
-        {"by the focus", [&](MultiTree&) { Host().SetFocus(); }}};
-    for (const APPMODE mode : {STD, ONBOARD})
+    using Act = std::function<void(MultiTree&)>;
+    const auto reset = [&](MultiTree& tree) { tree.Expand(a, TVE_COLLAPSE | TVE_COLLAPSERESET); };
+    // And what is left then; null is what the parent leaves.
+    const std::tuple<const char*, const char*, Act> ends[] = {
+        {"it is deleted", nullptr, [&](MultiTree& tree) { tree.DeleteItem(b); }},
+        {"its branch", "def", [&](MultiTree& tree) { tree.DeleteItem(a); }},
+        {"all", "", [](MultiTree& tree) { tree.DeleteAllItems(); }},
+        {"with all below", "adef", reset},
+        {"as it ends by a key", nullptr, [](MultiTree&) { TypeKey(VK_RETURN); }},
+        {"by the focus", nullptr, [&](MultiTree&) { Host().SetFocus(); }}};
+    // What the parent does as it is told of the end.
+    const std::tuple<APPMODE, std::string, Act> hooks[] = {
+        {STD, "acdef", [&](MultiTree& tree) { tree.DeleteItem(b); }},
+        {ONBOARD, "adef", reset},
+        {ONBOARD, "axyzdef", [&](MultiTree& tree) { reset(tree), tree.Expand(a, TVE_EXPAND); }}};
+    for (const auto& [mode, leaves, act] : hooks)
     {
-        for (const auto& [way, end] : ends)
+        for (const auto& [way, ownLeft, end] : ends)
         {
-            SCOPED_TRACE(testing::Message() << way << " in " << mode);
+            SCOPED_TRACE(testing::Message() << way << " for " << leaves);
             SetMode(mode, Host());
             auto& tree = Add<TreeForTests>(CRect(20, 20, 320, 420), TreeStyle | TVS_EDITLABELS);
             Fill(tree);
             int told = 0;
-            Host().OnCode(TVN_ENDLABELEDIT, [&](ToldMessage& message) {
-                EXPECT_EQ(About<NMTVDISPINFO>(message).item.hItem, b);
-                ++told;
-                message.answer = TRUE;
-                tree.DeleteItem(b);
-            });
+            Host().hook = [&, &deletes = act](ToldMessage& message) {
+                if (message.code == UINT(TVN_ITEMEXPANDING))
+                {
+                    AddItems(tree, "xyz", a); // in the memory of b, were it gone
+                }
+                if (message.code == UINT(TVN_ENDLABELEDIT))
+                {
+                    EXPECT_EQ(About<NMTVDISPINFO>(message).item.hItem, b);
+                    ++told;
+                    message.answer = TRUE;
+                    deletes(tree);
+                }
+            };
             ASSERT_NE(tree.EditLabel(b), nullptr);
             TypeText("typed");
             end(tree);
             PumpAll();
             EXPECT_EQ(tree.GetEditControl(), nullptr);
             EXPECT_EQ(told, 1);
+            const std::string left = ownLeft != nullptr ? ownLeft : leaves;
+            EXPECT_EQ(left[0] == 'a', tree.ItemHasChildren(a) != FALSE); // it can be opened
             Host().hook = nullptr;
+            tree.SelectAll(true, false);
+            EXPECT_EQ(SelectedTexts(tree), left);
             Remove(tree);
         }
     }
