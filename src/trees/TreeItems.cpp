@@ -13,7 +13,7 @@ TreeItems::TreeItems(TreeOwner& owner, Removal remove)
 
 TreeItems::~TreeItems()
 {
-    ::RemoveWindowSubclass(m_edit, &InEdit, 0);
+    LetEditGo();
 }
 
 // Walking ---------------------------------------------------------------------------------------
@@ -278,9 +278,11 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     }
     // Both may have begun anew meanwhile.
     m_inPlatform -= tells && m_inPlatform > 0;
-    if ((message == TVM_EDITLABELA || message == TVM_EDITLABELW) && Edited() == nullptr)
+    if ((message == TVM_EDITLABELA || message == TVM_EDITLABELW ||
+         message == TVM_ENDEDITLABELNOW) &&
+        Edited() == nullptr)
     {
-        m_edited = nullptr; // refused
+        m_edited = nullptr; // refused, or ended without having had the focus
     }
     m_goingAll -= goingAll && m_goingAll > 0;
     if (caretLeaves && m_unwritten != nullptr)

@@ -124,6 +124,7 @@ private:
     std::vector<HTREEITEM> Forget(HTREEITEM branch, bool itself);
     void ForgetAll();
     void FollowEdit(UINT message, WPARAM wParam, LPARAM lParam);
+    void LetEditGo();
     static LRESULT CALLBACK InEdit(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
                                    UINT_PTR id, DWORD_PTR items);
     std::vector<HTREEITEM> Children(HTREEITEM branch) const; // of null: the topmost items

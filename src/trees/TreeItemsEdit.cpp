@@ -65,13 +65,19 @@ void TreeItems::FollowEdit(UINT message, WPARAM wParam, LPARAM lParam)
     case WM_PARENTNOTIFY:
         if (LOWORD(wParam) == WM_DESTROY && child == m_edit)
         {
-            m_edit = nullptr;
-            m_edited = nullptr;
+            LetEditGo(); // later some platforms have put the edit's own procedure back
         }
         break;
     default:
         break;
     }
+}
+
+void TreeItems::LetEditGo()
+{
+    ::RemoveWindowSubclass(m_edit, &InEdit, 0);
+    m_edit = nullptr;
+    m_edited = nullptr;
 }
 
 // The keys and the loss of the focus by which the platform ends an edit pass the tree by. It tells

@@ -179,7 +179,7 @@ void TreeItems::Reset()
     m_goingAll = 0;
     m_inPlatform = 0;
     m_postponed.reset();
-    m_edited = nullptr;
+    LetEditGo();
     m_cancelling = false;
 }
 
