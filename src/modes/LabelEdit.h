@@ -7,17 +7,17 @@
 #include <algorithm>
 
 // Brings it over its label, in the font of the rows or, without one, its own: the platform leaves
-// it where it was opened. All in the client pixels of its parent. False where the label is not in
-// area.
-inline bool PlaceLabelEdit(HWND edit, const CRect& label, const CRect& area, LRESULT font)
+// it where it was opened. All in the client pixels of its parent; by frame it is larger than the
+// label. False where the label is not in area.
+inline bool PlaceLabelEdit(HWND edit, const CRect& label, const CRect& area, LRESULT font,
+                           const CRect& frame = CRect(2, 1, 2, 1))
 {
-    constexpr int Frame = 2; // of the edit, around the label
     if (label.IsRectEmpty() || label.top < area.top || label.bottom > area.bottom)
     {
         return false;
     }
     CRect place(label);
-    place.InflateRect(Frame, 1);
+    place.InflateRect(frame);
     const CRect now = PlaceIn(::GetParent(edit), edit);
     const bool inFont = font == 0 || ::SendMessage(edit, WM_GETFONT, 0, 0) == font;
     if (inFont && now.TopLeft() == place.TopLeft() && now.Height() >= place.Height())
@@ -28,8 +28,9 @@ inline bool PlaceLabelEdit(HWND edit, const CRect& label, const CRect& area, LRE
     {
         ::SendMessage(edit, WM_SETFONT, WPARAM(font), TRUE);
     }
-    place.right = place.left + std::max(place.Width(), now.Width());
+    place.right = std::max(std::min(place.right, area.right), place.left + now.Width());
+    // Where it was the pixels have been scrolled already.
     ::SetWindowPos(edit, nullptr, place.left, place.top, place.Width(), place.Height(),
-                   SWP_NOZORDER | SWP_NOACTIVATE);
+                   SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
     return true;
 }

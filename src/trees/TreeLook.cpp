@@ -64,6 +64,14 @@ bool TreeLook::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
 void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
     const WindowAlive alive(m_owner.Window());
+    if (message == TVM_EDITLABELA || message == TVM_EDITLABELW || message == WM_TIMER)
+    {
+        NoteLabelEdit();
+        if (!alive)
+        {
+            return;
+        }
+    }
     // While it follows the mode, the frame alone is laid out.
     const bool frame = message == WM_NCCALCSIZE || message == WM_WINDOWPOSCHANGING;
     if (m_onBoard && (!m_following || frame))
@@ -101,6 +109,29 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     {
         MakeRowsForFinger();
     }
+    if (alive)
+    {
+        FollowLabelEdit(true);
+    }
+}
+
+// Where the platform opens the edit of a label: around the label it is kept so.
+void TreeLook::NoteLabelEdit()
+{
+    const auto edit = HWND(m_items.Ask(TVM_GETEDITCONTROL));
+    if (edit == nullptr || edit == m_edit)
+    {
+        return;
+    }
+    const WindowAlive alive(m_owner.Window());
+    const CRect label = m_items.Rect(m_items.Edited(), true); // for which the parent may be asked
+    if (alive && !label.IsRectEmpty())
+    {
+        const CRect place = PlaceIn(m_owner.Window(), edit);
+        m_edit = edit;
+        m_editFrame.SetRect(label.left - place.left, label.top - place.top, 0,
+                            place.bottom - label.bottom);
+    }
 }
 
 // The edit of a label stays with its item when the rows move or have another height; it ends when
@@ -117,8 +148,10 @@ void TreeLook::FollowLabelEdit(bool newFont)
     CRect client;
     m_owner.Window().GetClientRect(&client);
     client.bottom += m_items.RowHeight() - 1; // a row may be in sight in part
-    const LRESULT font = alive && newFont ? m_items.Ask(WM_GETFONT) : 0; // a bold item has its own
-    if (alive && !PlaceLabelEdit(edit, label, client, font))
+    // A bold item has its own.
+    const bool bold = alive && m_items.State(m_items.Edited(), TVIS_BOLD) != 0;
+    const LRESULT font = alive && newFont ? LRESULT(Font(bold)) : 0;
+    if (alive && !PlaceLabelEdit(edit, label, client, font, m_editFrame))
     {
         m_bars.EndLabelEdit();
     }

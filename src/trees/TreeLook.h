@@ -62,9 +62,12 @@ private:
     int m_standardRow = -1;         // pixels; -1 leaves it to the platform
     int m_standardIndent = 0;       // pixels
     CFont m_bold;                   // of the tree's font, made when an item is bold
+    HWND m_edit = nullptr;          // of a label, the last one
+    CRect m_editFrame{2, 1, 0, 1};  // by which it is larger than the label at each side
 
     void EnterOnBoard();
     void LeaveOnBoard();
+    void NoteLabelEdit();
     void FollowLabelEdit(bool newFont);
     LRESULT TakeSize(UINT message, WPARAM wParam);
     void MakeLevelsForFinger();

@@ -402,6 +402,7 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheM
 {
     auto& tree = AddLongTree();
     tree.ModifyStyle(0, TVS_EDITLABELS);
+    tree.SetItemState(m_items[1], TVIS_BOLD, TVIS_BOLD);
     const ModeScope mode(ONBOARD);
     Repaint(tree);
     ASSERT_NE(tree.EditLabel(m_items[1]), nullptr);
@@ -412,9 +413,15 @@ TEST_F(MultiTreeInputTest, AnEditOfALabelEndsWhenAWideBarIsPressedAndFollowsTheM
     const auto expectOverItsItem = [&](HTREEITEM item, const std::string& what) {
         EXPECT_TRUE(ShowsWhatAPaintWould(tree)) << what;
         const CWnd* const edit = tree.GetEditControl();
-        EXPECT_TRUE(edit == nullptr ||
-                    TextRectOf(tree, item).PtInRect(PlaceIn(tree, *edit).CenterPoint()))
-            << what;
+        if (edit != nullptr)
+        {
+            const CRect place = PlaceIn(tree, *edit);
+            EXPECT_TRUE(TextRectOf(tree, item).PtInRect(place.CenterPoint())) << what;
+            EXPECT_GT(place.Height(), tree.GetItemHeight()) << what;
+            LOGFONT font = {};
+            edit->GetFont()->GetLogFont(&font);
+            EXPECT_EQ(font.lfWeight == FW_BOLD, item == m_items[1]) << what;
+        }
         return edit != nullptr;
     };
     const std::tuple<const char*, bool, std::function<void()>> moves[] = {
