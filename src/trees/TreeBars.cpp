@@ -76,6 +76,7 @@ void TreeBars::EnterOnBoard()
         return;
     }
     m_bordered.SetRectEmpty();
+    m_size = AreaOf(Window()).Size();
     m_shrunk = true;
     // The frame at once with what is scrolled now: each new size makes the platform count anew.
     MirrorOne(m_vertical);
@@ -254,6 +255,9 @@ void TreeBars::Mirror()
         {
             break;
         }
+        // Or give up the other, which the new size tells of.
+        m_shrunk =
+            m_shrunk || (vertical && !m_vertical.shown) || (horizontal && !m_horizontal.shown);
         scroll::RecalculateFrame(Window(), false);
     }
     if (alive)
@@ -459,6 +463,13 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
         m_bordered.SetRectEmpty(); // the corner has another colour
         break;
     case WM_SIZE:
+    {
+        const CSize before = m_size;
+        m_size = AreaOf(Window()).Size();
+        m_shrunk = m_shrunk || m_size.cx > before.cx || m_size.cy > before.cy;
+        Mirror();
+        break;
+    }
     case WM_VSCROLL:
     case WM_HSCROLL:
     case WM_MOUSEWHEEL:

@@ -58,7 +58,8 @@ private:
     Bar m_horizontal{SB_HORZ};
     bool m_stripping = false; // the platform's styles are being taken away
     int m_extent = 0;         // of all rows that are not in closed branches, pixels
-    bool m_shrunk = true;     // what is shown may need less room than it did
+    CSize m_size{0, 0};       // of the window
+    bool m_shrunk = true;     // what is shown may need less room than it did, or have more
     bool m_edited = false;    // or more: some platforms do not count after the edit of a label
     HTREEITEM m_widest = nullptr; // that is being given another text
     scroll::FrameStyles m_frame;

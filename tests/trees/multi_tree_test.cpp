@@ -253,6 +253,13 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
         EXPECT_EQ(tree.GetItemState(a, TVIS_EXPANDED), 0U);
         EXPECT_EQ(SelectedTexts(tree), key ? "ae" : "e");
     }
+    AddItems(tree, "0123456789", a);
+    tree.Expand(a, TVE_EXPAND);
+    tree.MoveWindow(20, 20, 300, 60);
+    tree.Select(c, TVGN_FIRSTVISIBLE);
+    tree.Expand(a, TVE_COLLAPSE | TVE_COLLAPSERESET); // the first row in sight goes
+    EXPECT_EQ(tree.GetFirstVisibleItem(), a);
+    EXPECT_EQ(tree.GetCount(), 4U);
     const HTREEITEM below = AddItems(tree, "x", a)[0];
     tree.Expand(a, TVE_EXPAND);
     tree.SelectItem(e);
@@ -465,6 +472,15 @@ TEST_F(MultiTreeTest, BarsGoWithWhatTheyAreFor)
             tree.SendMessage(TVM_ENDEDITLABELNOW);
             PumpAll();
             EXPECT_EQ(bands(tree), Bands(false, true));
+            AddItems(tree, "bc");
+            const std::tuple<int, int, Bands> sizes[] = {
+                {300, 200, {true, true}}, {300, 300, {false, true}}, {2000, 190, {false, false}}};
+            for (const auto& [width, height, shown] : sizes)
+            {
+                tree.SetWindowPos(nullptr, 0, 0, width, height, SWP_NOMOVE | SWP_NOZORDER);
+                PumpAll();
+                EXPECT_EQ(bands(tree), shown) << width << ' ' << height;
+            }
             tree.DeleteAllItems();
             PumpAll();
             SetMode(STD, tree);
