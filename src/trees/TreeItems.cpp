@@ -191,6 +191,15 @@ bool ResetsBranch(UINT message, WPARAM wParam, LPARAM lParam)
 
 } // namespace
 
+// Closes it first: some platforms fault where the first row in sight goes with its branch open.
+LRESULT TreeItems::ResetBranch(WPARAM action, LPARAM branch)
+{
+    const WindowAlive alive(m_owner.Window());
+    const LRESULT closed = Ask(TVM_EXPAND, action & ~WPARAM(TVE_COLLAPSERESET), branch);
+    const LRESULT reset = alive ? Ask(TVM_EXPAND, action, branch) : FALSE;
+    return closed != FALSE ? closed : reset;
+}
+
 LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
 {
     FollowEdit(message, wParam, lParam);
@@ -266,7 +275,8 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     m_inPlatform += tells;
     const LRESULT result =
         abandons ? ::DefWindowProc(m_owner.Window().GetSafeHwnd(), message, wParam, lParam)
-                 : m_owner.Platform(message, wParam, lParam);
+        : ResetsBranch(message, wParam, lParam) ? ResetBranch(wParam, lParam)
+                                                : Ask(message, wParam, lParam);
     if (!alive)
     {
         return result;

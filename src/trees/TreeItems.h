@@ -125,6 +125,7 @@ private:
     void ForgetAll();
     void FollowEdit(UINT message, WPARAM wParam, LPARAM lParam);
     void LetEditGo();
+    LRESULT ResetBranch(WPARAM action, LPARAM branch);
     static LRESULT CALLBACK InEdit(HWND edit, UINT message, WPARAM wParam, LPARAM lParam,
                                    UINT_PTR id, DWORD_PTR items);
     std::vector<HTREEITEM> Children(HTREEITEM branch) const; // of null: the topmost items
