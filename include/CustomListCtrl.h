@@ -191,6 +191,7 @@ protected:
     afx_msg LRESULT OnInsertColumn(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteColumn(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetColumnWidth(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetView(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnDeleteAllItems(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnEditLabel(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnEnsureVisible(WPARAM wParam, LPARAM lParam);
@@ -330,6 +331,7 @@ private:
 
     // Content
     HWND HeaderWindow() const;
+    bool IsReport() const;
     int ColumnCount() const;
     int LastColumn() const;
     int ColumnAt(int x) const;

@@ -64,6 +64,7 @@ BEGIN_MESSAGE_MAP(CCustomListCtrl, CListCtrl)
     ON_MESSAGE(LVM_INSERTCOLUMNW, &CCustomListCtrl::OnInsertColumn)
     ON_MESSAGE(LVM_DELETECOLUMN, &CCustomListCtrl::OnDeleteColumn)
     ON_MESSAGE(LVM_SETCOLUMNWIDTH, &CCustomListCtrl::OnSetColumnWidth)
+    ON_MESSAGE(LVM_SETVIEW, &CCustomListCtrl::OnSetView)
     ON_MESSAGE(LVM_DELETEALLITEMS, &CCustomListCtrl::OnDeleteAllItems)
     ON_MESSAGE(LVM_EDITLABELA, &CCustomListCtrl::OnEditLabel)
     ON_MESSAGE(LVM_EDITLABELW, &CCustomListCtrl::OnEditLabel)
@@ -196,6 +197,7 @@ void CCustomListCtrl::ForgetWindow()
     m_bars->filling.BeginAfresh();
     m_bars->themeFontDue = false;
     m_bars->labelRow = -1;
+    m_bars->viewSet = false;
     m_bars->stepsBack = false;
     m_bars->hinting = false;
     m_fittedColumn = -1;

@@ -39,7 +39,7 @@ bool CCustomListCtrl::IsRow(const VARIANT& child, int& row) const
 // one is as soon found as another.
 bool CCustomListCtrl::RowPlace(int row, CRect& place) const
 {
-    if ((GetStyle() & LVS_TYPEMASK) != LVS_REPORT)
+    if (!IsReport())
     {
         return GetItemRect(row, &place, LVIR_BOUNDS) != FALSE;
     }
@@ -58,7 +58,7 @@ bool CCustomListCtrl::RowPlace(int row, CRect& place) const
 int CCustomListCtrl::RowAt(const CPoint& point) const
 {
     CRect first;
-    if ((GetStyle() & LVS_TYPEMASK) != LVS_REPORT)
+    if (!IsReport())
     {
         LVHITTESTINFO hit = {};
         hit.pt = point;

@@ -170,7 +170,7 @@ void CCustomListCtrl::FitLastColumn()
     {
         return;
     }
-    if ((GetStyle() & LVS_TYPEMASK) != LVS_REPORT)
+    if (!IsReport())
     {
         m_fittedTo.SetRectEmpty(); // when it is a report again
         return;
@@ -259,7 +259,7 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         const int wanted = toOnBoard ? width.onBoard
                            : kept    ? width.standard
                                      : listctrl::StandardWidth(now);
-        if (wanted <= listctrl::WidestColumn && (GetStyle() & LVS_TYPEMASK) == LVS_REPORT)
+        if (wanted <= listctrl::WidestColumn && IsReport())
         {
             Ask(LVM_SETCOLUMNWIDTH, WPARAM(column), MAKELPARAM(wanted, 0));
         }

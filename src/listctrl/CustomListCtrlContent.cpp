@@ -32,6 +32,13 @@ int CCustomListCtrl::ColumnCount() const
     return std::max(0, int(AskHeader(HDM_GETITEMCOUNT)));
 }
 
+// A view that was set past the style is known to platforms only that set it.
+bool CCustomListCtrl::IsReport() const
+{
+    return m_bars->viewSet ? m_bars->Ask(LVM_GETVIEW, 0, 0) == LV_VIEW_DETAILS
+                           : (GetStyle() & LVS_TYPEMASK) == LVS_REPORT;
+}
+
 // The column that stands last, in whatever order; -1 without columns.
 int CCustomListCtrl::LastColumn() const
 {

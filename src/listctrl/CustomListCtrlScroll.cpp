@@ -407,6 +407,18 @@ void CCustomListCtrl::OnStyleChanged(int which, LPSTYLESTRUCT styles)
     }
 }
 
+LRESULT CCustomListCtrl::OnSetView(WPARAM, LPARAM)
+{
+    const WindowAlive alive(*this);
+    const LRESULT set = Default();
+    if (alive)
+    {
+        m_bars->viewSet = m_bars->viewSet || set == 1;
+        InOnBoard() ? FitLastColumn() : void(); // of a report again
+    }
+    return set;
+}
+
 // After the rows were scrolled: what is on the screen moves along, so that only the rows that come
 // into sight are to be painted.
 void CCustomListCtrl::ShiftPixels(int dy)

@@ -33,6 +33,8 @@ public:
     int labelRow = -1;
     bool labelAwaited = false; // the button has come up over it
     UINT_PTR LabelTimer() const { return reinterpret_cast<UINT_PTR>(this); } // no heir's
+    // The platform has been told of a view by LVM_SETVIEW, and understands it.
+    bool viewSet = false;
     // The platform's list knows of LVS_EDITLABELS.
     bool editsLabels = true;
     // The list makes a step that nobody has chosen: what is kept in sight stays so.

@@ -34,17 +34,25 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
     list.InsertColumn(3, "D", LVCFMT_LEFT, 50);
     list.SetColumnWidth(2, 136);
     list.DeleteColumn(3); // another one becomes the last
-    // Whatever view it shows meanwhile.
-    for (const DWORD view : {LVS_REPORT, LVS_ICON, LVS_LIST})
+    // Whatever view it shows meanwhile, by its style or past it.
+    for (const auto& [view, past] : {std::pair(DWORD{LVS_REPORT}, false),
+                                     {LVS_ICON, false},
+                                     {LVS_LIST, false},
+                                     {LVS_ICON, true},
+                                     {LVS_LIST, true}})
     {
-        list.ModifyStyle(LVS_TYPEMASK, view);
+        SCOPED_TRACE(testing::Message() << view << past);
+        const auto show = [&, &past = past](DWORD which) {
+            past ? void(list.SetView(int(which))) : void(list.ModifyStyle(LVS_TYPEMASK, which));
+        };
+        show(view);
         SetMode(STD, list);
         SetMode(ONBOARD, list);
-        list.ModifyStyle(LVS_TYPEMASK, LVS_REPORT);
+        show(LVS_REPORT);
         list.ExpectInStep("a report again");
         SetMode(STD, list);
-        EXPECT_EQ(list.GetColumnWidth(1), 50) << view;
-        EXPECT_EQ(list.GetColumnWidth(2), 80) << view;
+        EXPECT_EQ(list.GetColumnWidth(1), 50);
+        EXPECT_EQ(list.GetColumnWidth(2), 80);
         SetMode(ONBOARD, list);
     }
 }
