@@ -106,13 +106,7 @@ LRESULT CCustomListCtrl::OnSetColumnWidth(WPARAM wParam, LPARAM lParam)
         FitLastColumn();
         return TRUE;
     }
-    const WindowAlive alive(*this);
-    const LRESULT set = Default();
-    if (alive && InOnBoard() && int(wParam) != last)
-    {
-        NoteOwnWidth(int(wParam));
-    }
-    return set;
+    return Default();
 }
 
 // What a column's heading takes, with its margins and its arrow.
@@ -185,7 +179,7 @@ void CCustomListCtrl::FitLastColumn()
     const WindowAlive alive(*this);
     m_fitting = true;
     const int before = std::exchange(m_fittedColumn, last);
-    if (before != -1 && before != last)
+    if (before != last)
     {
         NoteOwnWidth(last);
         GiveOwnWidth(before);
@@ -226,8 +220,8 @@ void CCustomListCtrl::FitLastColumn()
     Invalidate(FALSE);
 }
 
-// Widths of all columns for the other kind of mode. The last one fills the list in the on-board
-// modes and gets back what it had.
+// Widths of all columns for the other kind of mode. The one that fills the list in the on-board
+// modes gets back what it had.
 void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
 {
     const WindowAlive alive(*this);
@@ -250,12 +244,12 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         }
     }
     const std::vector<ColumnWidth> widths = m_columnWidths;
-    const int last = LastColumn();
+    const int fitted = std::exchange(m_fittedColumn, -1);
     for (int column = 0; column < count && alive; ++column)
     {
         const ColumnWidth& width = widths[size_t(column)];
         const int now = widthNow(column);
-        const bool kept = toOnBoard || column == last || now == width.onBoard;
+        const bool kept = toOnBoard || column == fitted || now == width.onBoard;
         const int wanted = toOnBoard ? width.onBoard
                            : kept    ? width.standard
                                      : listctrl::StandardWidth(now);

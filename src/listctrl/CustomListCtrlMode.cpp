@@ -75,7 +75,6 @@ void CCustomListCtrl::LeaveOnBoard()
     m_bars->HideBars();
     m_drawOffset = CPoint(0, 0);
     m_furtherOffset = CPoint(0, 0);
-    m_fittedColumn = -1;
     m_header.OBResetScroll(FALSE);
     ScalePlatformColumns(false);
     if (!alive)

@@ -55,6 +55,13 @@ TEST_F(ListCtrlOnBoard, AColumnIsWiderOnBoardAndBackInTheStandardMode)
         EXPECT_EQ(list.GetColumnWidth(2), 80);
         SetMode(ONBOARD, list);
     }
+    // A width that the user gives is kept, also of a column that is put last after an insertion.
+    Drag(list.DividerPoint(0), list.DividerPoint(0, 200));
+    list.InsertColumn(3, "D", LVCFMT_LEFT, 50);
+    int order[] = {1, 2, 3, 0};
+    list.SetColumnOrderArray(4, order);
+    SetMode(STD, list);
+    EXPECT_EQ(list.GetColumnWidth(0), 218);
 }
 
 TEST_F(ListCtrlOnBoard, WhateverChangesKeepsRangesOffsetAndHeaderInStep)
