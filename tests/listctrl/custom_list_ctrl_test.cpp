@@ -366,10 +366,13 @@ TEST_F(ListCtrlOnBoard, AMillionRowsOfAnOwnerAreReadOnlyInSight)
     Repaint(list);
     EXPECT_TRUE(asked.count(500));
     EXPECT_EQ(hint.first, list.TopRow());
-    // Its owner may end the list while it is painted.
-    Host().OnCode(LVN_GETDISPINFOA, [&](ToldMessage&) { list.DestroyWindow(); });
-    Repaint(list);
-    EXPECT_EQ(list.GetSafeHwnd(), nullptr);
+    // Its owner may end the list while it is painted, and its object.
+    const HWND window = list;
+    Host().OnCode(LVN_GETDISPINFOA, [&](ToldMessage& told) {
+        (About<NMLVDISPINFO>(told).item.mask & LVIF_TEXT) != 0 ? Remove(list) : void();
+    });
+    Repaint(window);
+    EXPECT_FALSE(::IsWindow(window));
 }
 
 // Modes ------------------------------------------------------------------------------------------
