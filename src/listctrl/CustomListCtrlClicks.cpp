@@ -3,6 +3,7 @@
 #include "CustomListCtrl.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
+#include "modes/PressFocus.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 
@@ -293,6 +294,7 @@ void CCustomListCtrl::LetPlatformPress(UINT message, const PressHit& hit, const 
     }
     if (alive)
     {
+        const FocusRefusal sentBack(GetSafeHwnd());
         Ask(message, MK_CONTROL | (right ? MK_RBUTTON : MK_LBUTTON), MAKELPARAM(point.x, point.y));
     }
     if (alive)
@@ -445,6 +447,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     }
     if (alive)
     {
+        const FocusRefusal sentBack(GetSafeHwnd());
         Default();
     }
     int picked = alive && hit.platform >= 0 && IsSelected(hit.platform) ? hit.platform : -1;
