@@ -15,6 +15,8 @@ namespace {
 
 using enum Argument;
 
+constexpr int MostHeadings = 64;
+
 // A kind of window of the platform's: what it is sent and what it tells its parent.
 struct Kind
 {
@@ -64,13 +66,14 @@ const Kind Kinds[] = {
     {WC_HEADER,
      {{HDM_GETITEMCOUNT}, {HDM_SETITEM, Three, HeadItem}, {HDM_GETITEM, Three, HeadItem},
       {HDM_GETITEMRECT, Three, Place}, {HDM_HITTEST, None, Hit}, {HDM_ORDERTOINDEX, Three},
-      {HDM_SETHOTDIVIDER, Flag, Three}},
+      {HDM_SETHOTDIVIDER, Flag, Three}, {HDM_SETORDERARRAY, Fixed, Places, MostHeadings}},
      ODT_HEADER, {},
      {HDN_ITEMCLICKA, HDN_ITEMCLICKW, HDN_ITEMDBLCLICKW, HDN_BEGINTRACKW, HDN_TRACKA, HDN_TRACKW,
       HDN_ENDTRACKA, HDN_ENDTRACKW, HDN_DIVIDERDBLCLICKW}},
     {WC_LISTVIEW,
      {{LVM_INSERTITEMA, None, ListItem}, {LVM_INSERTITEMW, None, ListItem},
       {LVM_SETITEMA, None, ListItem}, {LVM_SETITEMW, None, ListItem}, {LVM_DELETEITEM, Row},
+      {LVM_GETITEMA, None, ListItem}, {LVM_GETITEMW, None, ListItem},
       {LVM_DELETEALLITEMS}, {LVM_SETITEMSTATE, Row, ListItem}, {LVM_ENSUREVISIBLE, Row, Flag},
       {LVM_SCROLL, Small, Small}, {LVM_SETCOLUMNWIDTH, Small, Length}, {LVM_DELETECOLUMN, Small},
       {LVM_SETITEMCOUNT, Three}, {LVM_SETITEMCOUNT, Fixed, None, 60}, {LVM_GETTOPINDEX},
@@ -266,12 +269,28 @@ LPARAM Arguments::Value(Argument argument, HWND window)
     case Timer:
         return LPARAM(OneOf(TimerIds));
     case ListItem:
-        return InRoom(LVITEM{.mask = LVIF_TEXT | LVIF_STATE,
-                             .iItem = Between(-1, 60),
-                             .iSubItem = Between(0, 4) - 1,
-                             .state = UINT(Between(0, 3)),
-                             .stateMask = LVIS_SELECTED | LVIS_FOCUSED,
-                             .pszText = const_cast<char*>(Words())});
+    {
+        const LPARAM item = InRoom(LVITEM{.mask = LVIF_TEXT | LVIF_STATE,
+                                          .iItem = Between(-1, 60),
+                                          .iSubItem = Between(0, 4) - 1,
+                                          .state = UINT(Between(0, 3)),
+                                          .stateMask = LVIS_SELECTED | LVIS_FOCUSED,
+                                          .pszText = m_room.data() + 256,
+                                          .cchTextMax = 300});
+        std::ranges::copy(OneOf(m_texts), m_room.data() + 256);
+        return item;
+    }
+    case Places:
+    {
+        std::vector<int> places;
+        for (int place = 0; place < int(::SendMessage(window, HDM_GETITEMCOUNT, 0, 0)); ++place)
+        {
+            places.insert(places.begin() + Between(0, place), place);
+        }
+        places.resize(MostHeadings);
+        std::memcpy(m_room.data(), places.data(), MostHeadings * sizeof(int));
+        return reinterpret_cast<LPARAM>(m_room.data());
+    }
     case Heading:
         return InRoom(LVCOLUMN{.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_FMT,
                                .fmt = Between(LVCFMT_LEFT, LVCFMT_CENTER),

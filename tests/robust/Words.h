@@ -25,7 +25,7 @@ enum class Argument
     Point,  // packed client coordinates
     Font,
     Timer,    // the id of one that the library sets
-    ListItem, // an LVITEM
+    ListItem, // an LVITEM with a text, and room for another
     TreeItem, // an item of the tree, or none
     Fixed,    // what the word says
     Three,    // 0 to 2
@@ -36,6 +36,7 @@ enum class Argument
     HeadItem, // an HDITEM
     Hit,      // what a hit test takes: a point, with room behind it
     Edges,    // of three panes of a status bar
+    Places,   // of the headings that there are, and room for more
     Heading,  // an LVCOLUMN
     Branch,   // a TVITEM
     Order,    // what compares two values
