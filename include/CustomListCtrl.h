@@ -319,6 +319,7 @@ private:
     void ForgetWindow();
     void KeepView(int top, int rows);
     void RestoreView();
+    bool AreColumnsScaled() const;
     void ScalePlatformColumns(bool toOnBoard);
 
     // Bars and pointer

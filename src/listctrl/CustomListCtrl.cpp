@@ -168,6 +168,10 @@ void CCustomListCtrl::PreSubclassWindow()
     {
         m_bars->TakePlatformBars();
     }
+    else if (alive && AreColumnsScaled())
+    {
+        ScalePlatformColumns(false); // let go in an on-board mode
+    }
     if (!alive)
     {
         return;

@@ -16,6 +16,9 @@
 
 namespace {
 
+// Of a window whose columns have their on-board widths: the next object may be another.
+constexpr char ScaledProperty[] = "OnBoardUIScaledColumns";
+
 // The description of a new column for the platform, with another width. The caller's may be
 // shorter than the structure of today, so only what its mask names is read.
 LVCOLUMN WithWidth(const LVCOLUMN& given, int width)
@@ -220,28 +223,41 @@ void CCustomListCtrl::FitLastColumn()
     Invalidate(FALSE);
 }
 
+bool CCustomListCtrl::AreColumnsScaled() const
+{
+    return ::GetProp(GetSafeHwnd(), ScaledProperty) != nullptr;
+}
+
 // Widths of all columns for the other kind of mode. The one that fills the list in the on-board
 // modes gets back what it had.
 void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
 {
     const WindowAlive alive(*this);
     const int count = ColumnCount();
-    // Of the header: the list tells of columns in a report only.
+    // Of the header: the list tells of columns, and changes them, in a report only.
     const auto widthNow = [this](int column) {
         CRect heading(0, 0, 0, 0);
         HeaderItemRect(column, heading);
         return int(heading.Width());
     };
+    const bool scaled = AreColumnsScaled();
     if (toOnBoard || m_columnWidths.size() != size_t(count))
     {
         m_columnWidths.clear();
         for (int column = 0; column < count; ++column)
         {
             const int width = widthNow(column);
-            m_columnWidths.push_back(toOnBoard
-                                         ? ColumnWidth{width, listctrl::OnBoardWidth(width)}
-                                         : ColumnWidth{listctrl::StandardWidth(width), width});
+            m_columnWidths.push_back(!scaled ? ColumnWidth{width, listctrl::OnBoardWidth(width)}
+                                             : ColumnWidth{listctrl::StandardWidth(width), width});
         }
+    }
+    if (toOnBoard)
+    {
+        ::SetProp(GetSafeHwnd(), ScaledProperty, GetSafeHwnd());
+    }
+    else
+    {
+        ::RemoveProp(GetSafeHwnd(), ScaledProperty);
     }
     const std::vector<ColumnWidth> widths = m_columnWidths;
     const int fitted = std::exchange(m_fittedColumn, -1);
@@ -253,17 +269,10 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         const int wanted = toOnBoard ? width.onBoard
                            : kept    ? width.standard
                                      : listctrl::StandardWidth(now);
-        if (wanted <= listctrl::WidestColumn && IsReport())
-        {
-            Ask(LVM_SETCOLUMNWIDTH, WPARAM(column), MAKELPARAM(wanted, 0));
-        }
-        else
-        {
-            LVCOLUMN wide = {};
-            wide.mask = LVCF_WIDTH;
-            wide.cx = wanted;
-            Ask(LVM_SETCOLUMN, WPARAM(column), reinterpret_cast<LPARAM>(&wide));
-        }
+        HDITEM heading = {};
+        heading.mask = HDI_WIDTH;
+        heading.cxy = wanted;
+        AskHeader(HDM_SETITEM, WPARAM(column), reinterpret_cast<LPARAM>(&heading));
     }
 }
 

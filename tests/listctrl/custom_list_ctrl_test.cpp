@@ -443,4 +443,19 @@ TEST_F(ListCtrlOnBoard, OneObjectServesSeveralWindowsOneAfterTheOther)
         EXPECT_NE(::SendMessage(window, LVM_EDITLABEL, 0, 0), 0) << "as the platform's does";
         ::DestroyWindow(window);
     }
+    // Widths that one object has scaled are known to the next.
+    for (const APPMODE mode : {ONBOARD, STD})
+    {
+        auto& first = AddList(3);
+        const HWND window = first.UnsubclassWindow();
+        Remove(first);
+        const ModeScope scope(mode);
+        ListForTests next;
+        ASSERT_TRUE(next.SubclassWindow(window));
+        PumpAll();
+        EXPECT_EQ(next.GetColumnWidth(0), mode == STD ? 60 : 102);
+        SetMode(STD, next);
+        EXPECT_EQ(next.GetColumnWidth(0), 60);
+        next.DestroyWindow();
+    }
 }
