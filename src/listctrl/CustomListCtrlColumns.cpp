@@ -261,6 +261,7 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
     }
     const std::vector<ColumnWidth> widths = m_columnWidths;
     const int fitted = std::exchange(m_fittedColumn, -1);
+    const bool fitting = std::exchange(m_fitting, true); // not half way
     for (int column = 0; column < count && alive; ++column)
     {
         const ColumnWidth& width = widths[size_t(column)];
@@ -273,6 +274,10 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         heading.mask = HDI_WIDTH;
         heading.cxy = wanted;
         AskHeader(HDM_SETITEM, WPARAM(column), reinterpret_cast<LPARAM>(&heading));
+    }
+    if (alive)
+    {
+        m_fitting = fitting;
     }
 }
 
