@@ -167,22 +167,24 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
     for (int order = 0; order < count && alive; ++order)
     {
         const int item = int(Ask(HDM_ORDERTOINDEX, WPARAM(order)));
-        CRect rect;
-        ItemRect(item, rect);
+        // Where an item is just getting another width, its rectangle has the old one.
+        HDITEM data = {};
+        data.mask = HDI_WIDTH;
+        Ask(HDM_GETITEM, WPARAM(item), reinterpret_cast<LPARAM>(&data));
         last = item;
         if (list != nullptr && order != count - 1 &&
-            ::SendMessage(list, LVM_GETCOLUMNWIDTH, WPARAM(item), 0) != rect.Width())
+            ::SendMessage(list, LVM_GETCOLUMNWIDTH, WPARAM(item), 0) != data.cxy)
         {
             ::SendMessage(list, LVM_SETCOLUMNWIDTH, WPARAM(item),
-                          MAKELPARAM(std::min(rect.Width(), listctrl::WidestColumn), 0));
+                          MAKELPARAM(std::min(data.cxy, listctrl::WidestColumn), 0));
         }
         if (!alive)
         {
             return;
         }
         m_itemLefts.push_back(left);
-        m_itemWidths.push_back(rect.Width());
-        left += rect.Width();
+        m_itemWidths.push_back(data.cxy);
+        left += data.cxy;
     }
     if (alive && list != nullptr && count > 0)
     {

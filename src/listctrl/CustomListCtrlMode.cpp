@@ -96,6 +96,10 @@ void CCustomListCtrl::Bars::LayOut()
 {
     const WindowAlive alive(m_list);
     RelayoutFrame();
+    if (alive && InOnBoard())
+    {
+        m_list.FitLastColumn(); // the bar across is about to be told of it
+    }
     if (alive)
     {
         m_list.ReCheckScrollBars();

@@ -424,9 +424,15 @@ LRESULT CCustomListCtrl::OnSetView(WPARAM, LPARAM)
 void CCustomListCtrl::ShiftPixels(int dy)
 {
     CRect area;
+    CRect first;
     GetClientRect(&area);
     const int height = int(m_scrollUnit.cy);
-    area.top = HeaderBottom();
+    const WindowAlive alive(*this);
+    area.top = FirstRowRect(first) ? int(first.top) : HeaderBottom(); // grid lines keep a gap
+    if (!alive)
+    {
+        return;
+    }
     if (height > 0)
     {
         // Below the last row that is drawn nothing is.
