@@ -85,8 +85,11 @@ private:
     void FocusButton(int button);
     void InvalidateFocus();
 
+    static constexpr POINT Nowhere = {-1, -1};
+
     CSize m_enlarged; // what the buttons were made for a finger, pixels; 0 where they were not
-    CSize m_platformButton;  // what they were before that
-    HWND m_fitted = nullptr; // the window that these are of
-    int m_focused = -1;      // the place that keys have reached; -1: none yet
+    CSize m_platformButton;   // what they were before that
+    HWND m_fitted = nullptr;  // the window that these are of
+    int m_focused = -1;       // the place that keys have reached; -1: none yet
+    CPoint m_press = Nowhere; // the press that the platform is at: it drops menus in it
 };

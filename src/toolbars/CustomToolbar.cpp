@@ -95,6 +95,7 @@ LRESULT CustomToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_enlarged = CSize();
         m_focused = -1;
+        m_press = Nowhere;
     }
     else if (COnBoardUIGeneral::InOnBoardMode() ? NeedsPlaces(message) : m_enlarged != CSize())
     {
@@ -105,7 +106,18 @@ LRESULT CustomToolbar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         }
     }
-    return CToolBar::WindowProc(message, wParam, lParam);
+    if (message != WM_LBUTTONDOWN && message != WM_LBUTTONDBLCLK)
+    {
+        return CToolBar::WindowProc(message, wParam, lParam);
+    }
+    const WindowAlive alive(*this);
+    const CPoint before = std::exchange(m_press, CPoint(lParam));
+    const LRESULT result = CToolBar::WindowProc(message, wParam, lParam);
+    if (alive)
+    {
+        m_press = before;
+    }
+    return result;
 }
 
 LRESULT CustomToolbar::OnQueryGestures(WPARAM, LPARAM screen)
@@ -137,13 +149,17 @@ void DrawRaised(CDC& dc, const CRect& button, const CRect& ground, COLORREF colo
     dc.Draw3dRect(&button, palette::PressedOutline, palette::PressedOutline);
 }
 
+CRect ArrowPart(const CRect& button)
+{
+    return {button.right - 13, button.top, button.right, button.bottom};
+}
+
 // The platform draws the arrow of a button that drops something in the colour of dark texts, and on
 // a raised one with a light face of its own. Ours goes over it, at the right.
 void DrawDropArrow(CDC& dc, const CRect& button, bool raised, COLORREF ground, COLORREF color)
 {
     constexpr int Height = 4;
-    CRect box = button;
-    box.left = button.right - 13;
+    CRect box = ArrowPart(button);
     if (raised)
     {
         DrawRaised(dc, button, box, ground);
@@ -211,10 +227,15 @@ BOOL CustomToolbar::OnCustomDraw(NMHDR* header, LRESULT* result)
         }
         break;
     case CDDS_ITEMPOSTPAINT:
-        DrawDropArrow(*CDC::FromHandle(draw.nmcd.hdc), button, raised, ground,
-                      (state & CDIS_DISABLED) != 0 ? palette::ChoiceTextDisabled
-                                                   : palette::PanelText);
+    {
+        // That it is open is no state that the platform tells.
+        const bool disabled = (state & CDIS_DISABLED) != 0;
+        const bool open = raised && !disabled && ArrowPart(button).PtInRect(m_press);
+        DrawDropArrow(*CDC::FromHandle(draw.nmcd.hdc), button, raised,
+                      open ? palette::Highlight : ground,
+                      disabled ? palette::ChoiceTextDisabled : palette::PanelText);
         break;
+    }
     default:
         break;
     }

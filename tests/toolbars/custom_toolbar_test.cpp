@@ -160,6 +160,15 @@ TEST_F(CustomToolbarTest, IsDarkWithLightTextsAndArrowsOnBoardWhateverStandsBehi
             EXPECT_TRUE(shows(RGB(50, 50, 50)) && shows(RGB(230, 230, 230))) << mode;
             EXPECT_FALSE(shows(black) || shows(face)) << mode << ' ' << style;
             EXPECT_TRUE(bar.SendMessage(WM_ERASEBKGND)) << "no context";
+            const CRect dropper = ItemRectOf(bar, 0);
+            const CPoint arrow(dropper.right - 3, dropper.bottom - 5);
+            const COLORREF before = WindowPixels(bar).At(arrow);
+            COLORREF open = before;
+            Host().OnCode(TBN_DROPDOWN, [&](ToldMessage&) { open = WindowPixels(bar).At(arrow); });
+            Click(ClientPoint(bar, arrow));
+            EXPECT_EQ(open, style == 0 ? RGB(50, 80, 110) : before) << "while its menu is open";
+            EXPECT_EQ(Settled(bar).At(arrow), before);
+            Host().hook = nullptr;
         }
         EXPECT_TRUE(shows(black) && !shows(RGB(50, 50, 50)));
     }
