@@ -2,7 +2,11 @@
 
 #include "framework/PropertySheet.h"
 
+#include "framework/TabCtrl.h"
+
 #include "StillThere.h"
+
+const UINT CPropertySheet::TabRefused = ::RegisterWindowMessage("CPropertySheet::TabRefused");
 
 LRESULT CPropertySheet::HandleInitDialog(WPARAM, LPARAM)
 {
@@ -41,7 +45,7 @@ BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
 }
 
 // Not every platform's tabs stay where they are when the page refuses to be left, and those that go
-// on do so once they have been told.
+// on do so once they have been told. Which page is shown by then is asked when the message comes.
 BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     const framework::StillThere here(*this);
@@ -54,13 +58,25 @@ BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     {
         return FALSE;
     }
-    const LRESULT selected = ::SendMessage(header.hwndFrom, TCM_GETCURSEL, 0, 0);
-    *result = here ? Default() : TRUE;
+    *result = Default();
     if (*result != FALSE && here)
     {
-        ::PostMessage(header.hwndFrom, TCM_SETCURSEL, WPARAM(selected), 0);
+        PostMessage(TabRefused);
     }
     return TRUE;
+}
+
+LRESULT CPropertySheet::OnTabRefused(WPARAM, LPARAM)
+{
+    const framework::StillThere here(*this);
+    const LRESULT page = SendMessage(PSM_GETCURRENTPAGEHWND);
+    const LRESULT index = here ? SendMessage(PSM_HWNDTOINDEX, WPARAM(page)) : -1;
+    const CTabCtrl* const tabs = here && index >= 0 ? GetTabControl() : nullptr;
+    if (here && tabs != nullptr && tabs->GetCurSel() != index)
+    {
+        tabs->SendMessage(TCM_SETCURSEL, WPARAM(index));
+    }
+    return 0;
 }
 
 void CPropertySheet::EndIfClosed(int result)

@@ -22,6 +22,7 @@ public:
     Journal& journal;
     BOOL lets = TRUE; // the user leave the page, and apply it
     std::function<void()> whenShown;
+    std::function<void()> whenLeft; // once, and it is not
     CString text = "start";
     CString fetched; // whenever the page is shown, if it is not empty
 
@@ -38,6 +39,11 @@ public:
     BOOL OnKillActive() override
     {
         journal.push_back(name + " left");
+        if (whenLeft)
+        {
+            std::exchange(whenLeft, nullptr)();
+            return FALSE;
+        }
         return CPropertyPage::OnKillActive() && lets;
     }
     void OnOK() override { journal.push_back(name + " ok"); }
@@ -116,9 +122,13 @@ TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
                 TypeKey(VK_RIGHT);
                 EXPECT_EQ(sheet.GetActivePage(), &first);
                 first.lets = TRUE;
+                first.whenLeft = [&] { sheet.PostMessage(PSM_SETCURSEL, 1); };
+                TypeKey(VK_RIGHT);
+                EXPECT_EQ(sheet.GetActivePage(), &second) << "it goes there by itself";
+                sheet.SetActivePage(0);
                 TakeJournal();
                 TypeKey(VK_TAB, VK_CONTROL);
-                EXPECT_EQ(TakeJournal(), (Journal{"first left", "second init", "second active"}));
+                EXPECT_EQ(TakeJournal(), (Journal{"first left", "second active"}));
                 EXPECT_EQ(sheet.GetActivePage(), &second);
             }
             sheet.Press(PSBTN_OK);

@@ -95,6 +95,7 @@ protected:
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPressButton(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSetCurSel(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnTabRefused(WPARAM wParam, LPARAM lParam);
     afx_msg void OnClose();
     afx_msg void OnDestroy();
     DECLARE_MESSAGE_MAP()
@@ -103,6 +104,8 @@ protected:
     CWnd* m_pParentWnd = nullptr;
 
 private:
+    static const UINT TabRefused; // the sheet's to itself
+
     std::vector<CPropertyPage*> m_pages;
     bool m_modal = false;
     bool m_ended = false; // EndDialog was called, perhaps before the loop began
