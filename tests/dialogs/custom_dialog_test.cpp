@@ -180,6 +180,11 @@ TEST_F(CustomDialogTest, AThumbOfThePlatformsIsLetGoWhereItIsWhenTheModeChanges)
                    move(12), move(13), [] { QueueButton(false); }});
         EXPECT_EQ(::GetScrollPos(window, SB_VERT), before);
         EXPECT_EQ(before == 0, window == view.m_hWnd);
+        SCROLLINFO bar = {.cbSize = sizeof(bar), .fMask = SIF_POS | SIF_TRACKPOS};
+        ::SendMessage(window, WM_VSCROLL, SB_BOTTOM, 0);
+        EXPECT_TRUE(::GetScrollInfo(window, SB_VERT, &bar));
+        EXPECT_EQ(bar.nTrackPos, bar.nPos) << "else the thumb is drawn where it was held";
+        ::SendMessage(window, WM_VSCROLL, SB_TOP, 0);
         EXPECT_EQ(ChildPlaces(view).front(), Enlarged(control)) << "scaled from the corner";
     }
 }
