@@ -44,6 +44,29 @@ BOOL CPropertySheet::OnCommand(WPARAM wParam, LPARAM lParam)
     return TRUE;
 }
 
+namespace {
+
+// A tab that keys have left stays pressed to some platforms, whose tabs pass over all clicks then.
+void ReleaseOthers(HWND tabs)
+{
+    const LRESULT current = ::SendMessage(tabs, TCM_GETCURSEL, 0, 0);
+    for (LRESULT tab = ::SendMessage(tabs, TCM_GETITEMCOUNT, 0, 0) - 1; tab >= 0; --tab)
+    {
+        TCITEM item = {};
+        item.mask = TCIF_STATE;
+        item.dwStateMask = TCIS_BUTTONPRESSED;
+        const auto record = reinterpret_cast<LPARAM>(&item);
+        if (tab != current && ::SendMessage(tabs, TCM_GETITEM, WPARAM(tab), record) != 0 &&
+            (item.dwState & TCIS_BUTTONPRESSED) != 0)
+        {
+            item.dwState = 0;
+            ::SendMessage(tabs, TCM_SETITEM, WPARAM(tab), record);
+        }
+    }
+}
+
+} // namespace
+
 // Not every platform's tabs stay where they are when the page refuses to be left, and those that go
 // on do so once they have been told. Which page is shown by then is asked when the message comes.
 BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
@@ -54,12 +77,17 @@ BOOL CPropertySheet::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
     {
         return TRUE;
     }
-    if (header.code != UINT(TCN_SELCHANGING))
+    const bool changed = header.code == UINT(TCN_SELCHANGE);
+    if (!changed && header.code != UINT(TCN_SELCHANGING))
     {
         return FALSE;
     }
     *result = Default();
-    if (*result != FALSE && here)
+    if (changed && here && SendMessage(PSM_GETTABCONTROL) == LRESULT(header.hwndFrom))
+    {
+        ReleaseOthers(header.hwndFrom);
+    }
+    else if (!changed && *result != FALSE && here)
     {
         PostMessage(TabRefused);
     }
@@ -72,9 +100,13 @@ LRESULT CPropertySheet::OnTabRefused(WPARAM, LPARAM)
     const LRESULT page = SendMessage(PSM_GETCURRENTPAGEHWND);
     const LRESULT index = here ? SendMessage(PSM_HWNDTOINDEX, WPARAM(page)) : -1;
     const CTabCtrl* const tabs = here && index >= 0 ? GetTabControl() : nullptr;
-    if (here && tabs != nullptr && tabs->GetCurSel() != index)
+    if (here && tabs != nullptr)
     {
         tabs->SendMessage(TCM_SETCURSEL, WPARAM(index));
+    }
+    if (here && tabs != nullptr)
+    {
+        ReleaseOthers(*tabs);
     }
     return 0;
 }

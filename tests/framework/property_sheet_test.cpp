@@ -125,7 +125,14 @@ TEST_F(PropertySheetTest, OkAppliesThePagesThatWereShown)
                 first.whenLeft = [&] { sheet.PostMessage(PSM_SETCURSEL, 1); };
                 TypeKey(VK_RIGHT);
                 EXPECT_EQ(sheet.GetActivePage(), &second) << "it goes there by itself";
-                sheet.SetActivePage(0);
+                const CTabCtrl& tabs = *sheet.GetTabControl();
+                const CPoint tab = ClientPoint(tabs, ItemRectOf(tabs, 0).CenterPoint());
+                Click(tab);
+                EXPECT_EQ(sheet.GetActivePage(), &first);
+                sheet.GetTabControl()->SetFocus();
+                TypeKey(VK_RIGHT);
+                Click(tab + CSize(8, 0)); // no double click
+                EXPECT_EQ(sheet.GetActivePage(), &first) << "keys and clicks in turn";
                 TakeJournal();
                 TypeKey(VK_TAB, VK_CONTROL);
                 EXPECT_EQ(TakeJournal(), (Journal{"first left", "second active"}));
