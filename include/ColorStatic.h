@@ -26,6 +26,7 @@ public:
 
 protected:
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnSysColorChange();
     afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);

@@ -25,6 +25,7 @@ public:
 
 protected:
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg void OnSysColorChange();

@@ -92,6 +92,7 @@ public:
 protected:
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnShowWindow(BOOL show, UINT status);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);

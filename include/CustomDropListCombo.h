@@ -166,6 +166,7 @@ protected:
     void PostNcDestroy() override;
 
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnDestroy();
     afx_msg void OnLButtonDown(UINT flags, CPoint point);

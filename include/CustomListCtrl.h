@@ -155,6 +155,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnNcPaint();
     afx_msg void OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params);

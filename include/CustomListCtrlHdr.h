@@ -66,6 +66,7 @@ protected:
     // @}
 
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnWindowPosChanging(WINDOWPOS* position);
     afx_msg LRESULT OnNcHitTest(CPoint point);

@@ -55,6 +55,7 @@ protected:
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg void OnUpdateUIState(UINT action, UINT element);
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnSysColorChange();

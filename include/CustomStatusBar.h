@@ -37,6 +37,7 @@ public:
 protected:
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSize(UINT type, int width, int height);
     afx_msg LRESULT OnSetFont(WPARAM font, LPARAM redraw);

@@ -4,9 +4,11 @@
 #include "buttons/OwnGround.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
+#include "paint/PaintContext.h"
 
 BEGIN_MESSAGE_MAP(CBoldStatic, CCustomStatic)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CBoldStatic::OnPrintClient)
     ON_MESSAGE(WM_SETTEXT, &CBoldStatic::OnLookChanged)
     ON_MESSAGE(WM_SETFONT, &CBoldStatic::OnLookChanged)
     ON_MESSAGE(WM_ENABLE, &CBoldStatic::OnLookChanged)
@@ -49,7 +51,8 @@ void CBoldStatic::OnPaint()
     {
         return;
     }
-    CPaintDC dc(this);
+    PaintContext context(*this);
+    CDC& dc = context.DC();
     if (!alive)
     {
         return;

@@ -2,9 +2,11 @@
 
 #include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
+#include "paint/PaintContext.h"
 
 BEGIN_MESSAGE_MAP(CColorStatic, CStatic)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CColorStatic::OnPrintClient)
     ON_WM_ENABLE()
     ON_WM_SYSCOLORCHANGE()
     ON_MESSAGE(WM_SETTEXT, &CColorStatic::OnSetText)
@@ -35,14 +37,14 @@ void CColorStatic::Set(COLORREF color)
 void CColorStatic::OnPaint()
 {
     const WindowAlive alive(*this);
-    CPaintDC dc(this);
+    PaintContext context(*this);
     if (!alive)
     {
         return;
     }
     CRect client;
     GetClientRect(&client);
-    dc.FillSolidRect(&client, m_color);
+    context.DC().FillSolidRect(&client, m_color);
 }
 
 // The platform's label draws itself at once.

@@ -6,9 +6,11 @@
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
+#include "paint/PaintContext.h"
 
 BEGIN_MESSAGE_MAP(CColoredGroupBox, CStatic)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CColoredGroupBox::OnPrintClient)
     ON_WM_ENABLE()
     ON_WM_SIZE()
     ON_WM_SYSCOLORCHANGE()
@@ -41,7 +43,8 @@ void CColoredGroupBox::OnPaint()
     ScreenToClient(&box);
     const CPen outline(PS_SOLID, COnBoardUIGeneral::InOnBoardMode() ? metrics::OutlineWidth : 1,
                        m_color);
-    CPaintDC dc(this);
+    PaintContext context(*this);
+    CDC& dc = context.DC();
     const Selected pen(dc, outline);
     // Meant: along the exclusive edges, so that a line of one pixel on the right and at the bottom
     // falls just outside the window; a wide one keeps its inner pixel.

@@ -11,6 +11,7 @@
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/GdiGuards.h"
+#include "paint/PaintContext.h"
 #include "paint/Palette.h"
 #include "paint/Rings.h"
 #include "paint/SharedObjects.h"
@@ -22,6 +23,7 @@ IMPLEMENT_DYNAMIC(CCustomStatic, CStatic)
 BEGIN_MESSAGE_MAP(CCustomStatic, CStatic)
     ON_WM_CREATE()
     ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CCustomStatic::OnPrintClient)
     ON_WM_UPDATEUISTATE()
     ON_WM_ENABLE()
     ON_WM_SYSCOLORCHANGE()
@@ -161,7 +163,8 @@ void CCustomStatic::Draw()
 void CCustomStatic::DrawGroupBox()
 {
     const WindowAlive alive(*this);
-    CPaintDC dc(this);
+    PaintContext context(*this);
+    CDC& dc = context.DC();
     CString caption;
     if (alive)
     {

@@ -15,6 +15,7 @@ namespace dialogs {
 
 BEGIN_MESSAGE_MAP(SheetTabs, CTabCtrl)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &SheetTabs::OnPrintClient)
     ON_WM_ERASEBKGND()
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()

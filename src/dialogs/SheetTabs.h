@@ -30,6 +30,7 @@ public:
 
 protected:
     afx_msg void OnPaint();
+    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
     afx_msg BOOL OnEraseBkgnd(CDC* dc);
     afx_msg void OnSetFocus(CWnd* old);
     afx_msg void OnKillFocus(CWnd* taker);

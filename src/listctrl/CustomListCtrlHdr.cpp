@@ -25,6 +25,7 @@ IMPLEMENT_DYNCREATE(CCustomListCtrlHdr, CHeaderCtrl)
 
 BEGIN_MESSAGE_MAP(CCustomListCtrlHdr, CHeaderCtrl)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CCustomListCtrlHdr::OnPrintClient)
     ON_WM_ERASEBKGND()
     ON_WM_WINDOWPOSCHANGING()
     ON_WM_NCHITTEST()

@@ -7,6 +7,7 @@
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
+#include "paint/PaintContext.h"
 #include "paint/Palette.h"
 
 #include <algorithm>
@@ -60,12 +61,12 @@ void CCustomListCtrlHdr::OnPaint()
         CImageList::DragShowNolock(FALSE); // the dragged heading, which lies over what is painted
     }
     {
-        CPaintDC dc(this);
+        PaintContext context(*this);
         if (!alive)
         {
             return;
         }
-        BackBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
+        BackBuffer buffer(context, context.Area());
         DrawOB(buffer);
     }
     if (alive && m_moving)

@@ -9,6 +9,7 @@
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
+#include "paint/PaintContext.h"
 #include "paint/Palette.h"
 
 #include <algorithm>
@@ -92,7 +93,7 @@ void CCustomListCtrl::OnPaint()
         return;
     }
     m_bars->BeginPaint();
-    CPaintDC dc(this);
+    PaintContext context(*this);
     if (!alive)
     {
         return;
@@ -102,10 +103,10 @@ void CCustomListCtrl::OnPaint()
     CRect client;
     GetClientRect(&client);
     const int top = HeaderBottom();
-    dc.ExcludeClipRect(0, 0, client.right, top); // the header paints itself
-    CRect area(dc.m_ps.rcPaint);
+    context.DC().ExcludeClipRect(0, 0, client.right, top); // the header paints itself
+    CRect area = context.Area();
     area.top = std::max<LONG>(area.top, top);
-    BackBuffer buffer(dc, area);
+    BackBuffer buffer(context, area);
     DrawOB(buffer);
 }
 

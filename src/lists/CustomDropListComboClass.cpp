@@ -31,6 +31,7 @@ IMPLEMENT_DYNAMIC(CCustomDropListCombo, CWnd)
 
 BEGIN_MESSAGE_MAP(CCustomDropListCombo, CWnd)
     ON_WM_PAINT()
+    ON_MESSAGE(WM_PRINTCLIENT, &CCustomDropListCombo::OnPrintClient)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_LBUTTONDOWN()

@@ -8,6 +8,7 @@
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
+#include "paint/PaintContext.h"
 #include "paint/Palette.h"
 
 namespace {
@@ -47,12 +48,12 @@ BOOL CCustomDropListCombo::OnEraseBkgnd(CDC*)
 void CCustomDropListCombo::OnPaint()
 {
     const WindowAlive alive(*this);
-    CPaintDC dc(this);
+    PaintContext context(*this);
     if (!alive)
     {
         return;
     }
-    BackBuffer buffer(dc, CRect(dc.m_ps.rcPaint));
+    BackBuffer buffer(context, context.Area());
     OnPaint(buffer.DC());
 }
 

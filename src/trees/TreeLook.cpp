@@ -8,6 +8,7 @@
 #include "paint/BackBuffer.h"
 #include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
+#include "paint/PaintContext.h"
 #include "paint/Palette.h"
 #include "paint/RowText.h"
 #include "trees/DragImage.h"
@@ -425,7 +426,7 @@ void TreeLook::Paint(const CRect* band)
         return;
     }
     CWnd& window = m_owner.Window();
-    CPaintDC dc(&window);
+    PaintContext context(window);
     if (!alive)
     {
         return;
@@ -435,8 +436,8 @@ void TreeLook::Paint(const CRect* band)
     const CRect given = band == nullptr ? CRect(0, 0, 0, 0) : *band;
     if (m_onBoard)
     {
-        BackBuffer buffer(dc, dc.m_ps.rcPaint);
-        PaintRows(buffer, dc.m_ps.rcPaint);
+        BackBuffer buffer(context, context.Area());
+        PaintRows(buffer, context.Area());
         if (alive && band != nullptr)
         {
             PaintBand(buffer, given);
@@ -444,7 +445,7 @@ void TreeLook::Paint(const CRect* band)
         return;
     }
     // The platform paints all of itself into a context that it is given, and erases nothing.
-    BackBuffer buffer(dc, client);
+    BackBuffer buffer(context, client);
     const auto ground = COLORREF(m_items.Ask(TVM_GETBKCOLOR));
     buffer.DC().FillSolidRect(client,
                               ground == COLORREF(-1) ? ::GetSysColor(COLOR_WINDOW) : ground);
