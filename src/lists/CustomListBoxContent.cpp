@@ -305,6 +305,10 @@ LRESULT CCustomListBox::OnDeleteString(WPARAM wParam, LPARAM)
     if (alive && result >= 0 && FollowMode())
     {
         m_bars->standardHeights.clear();
+        if (index < Ask(LB_GETTOPINDEX))
+        {
+            Invalidate(); // not every platform does, though all rows in sight are others
+        }
         ContentChanged();
     }
     return result;

@@ -37,6 +37,10 @@ LRESULT CCustomListBox::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return 0;
         }
     }
+    if (message == WM_ERASEBKGND && m_bars->endsFilling)
+    {
+        return TRUE; // what is to be seen stays, and what is due is erased in its time
+    }
     return CListBox::WindowProc(message, wParam, lParam);
 }
 
@@ -54,11 +58,18 @@ void CCustomListBox::BeginFilling()
 void CCustomListBox::EndFilling()
 {
     const HWND window = GetSafeHwnd();
-    // Switching on invalidates everything; only what was due stays due.
+    // Switching on invalidates everything, and shows the platform's bar, at which the system erases
+    // it at once; only what was due stays due.
     CRgn due;
     due.CreateRectRgn(0, 0, 0, 0);
     ::GetUpdateRgn(window, due, FALSE);
+    const WindowAlive alive(*this);
+    m_bars->endsFilling = true;
     m_bars->filling.End();
+    if (alive)
+    {
+        m_bars->endsFilling = false;
+    }
     ::ValidateRect(window, nullptr);
     ::InvalidateRgn(window, due, TRUE);
 }

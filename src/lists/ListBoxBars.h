@@ -24,6 +24,7 @@ public:
     {}
 
     scroll::Filling filling{*this};
+    bool endsFilling = false;
     lists::KeptSize size;
 
     // As the standard mode had it, to be given back as long as nobody has changed it meanwhile: the

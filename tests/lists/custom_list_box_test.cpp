@@ -44,10 +44,12 @@ TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
          [&] { list.SetFocus(), list.SetCurSel(2), list.SetCurSel(1); }, "v", 0, 0},
         {"above what is in sight", [&] { list.SetTopIndex(5), list.InsertString(0, "Aardvark"); },
          "v", 5, 0},
+        {"gone above what is in sight", [&] { list.DeleteString(0); }, "v", 5, 0},
         {"without redraw meanwhile",
          [&] {
              list.SetRedraw(FALSE);
              list.AddString("Zulu");
+             list.AddString("Yankee");
              list.DeleteString(0);
              list.SetRedraw(TRUE);
              list.Invalidate();
@@ -73,6 +75,9 @@ TEST_F(ListBoxOnBoard, RowsBarsAndFrameAgreeAfterEveryChange)
         EXPECT_EQ(list.m_hBar.GetScrollPos(), across == End ? RangeOf(list.m_hBar).y : across)
             << name;
     }
+    auto& drawn = AddList(20, ListStyle | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS);
+    drawn.InsertString(3, "New");
+    EXPECT_TRUE(ShowsWhatAPaintWould(drawn)) << "the rows above it, too";
 }
 
 TEST_F(ListBoxOnBoard, RowsAreHalfAgainAsHighAsTheirText)
