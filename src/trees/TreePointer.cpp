@@ -245,7 +245,8 @@ void TreeSelection::DoAction(HTREEITEM given, bool left, UINT flags, CPoint poin
         BeginDrag(item, left, point);
         return;
     }
-    if (left && (flags & MK_SHIFT) == 0)
+    // Of an item that went while the finger was down nothing is selected, nor deselected.
+    if (left && (flags & MK_SHIFT) == 0 && item.Get() != nullptr)
     {
         Click(item, flags);
     }

@@ -185,8 +185,13 @@ TEST_F(MultiTreeInputTest, APressEndsWithWhatItWaitsFor)
 
     // The item goes between press and release; the click is told without it.
     Host().OnCode(NM_CLICK, [&](ToldMessage& told) { EXPECT_EQ(ItemOf(told), nullptr); });
-    PressScript(PointOf(tree, d)).Do([&] { tree.DeleteItem(d); }).Release();
+    const auto refill = [&] {
+        tree.DeleteItem(d);
+        tree.SetItemState(e, TVIS_SELECTED, TVIS_SELECTED);
+    };
+    PressScript(PointOf(tree, d)).Do(refill).Release();
     EXPECT_EQ(CountOf(int(NM_CLICK)), 1);
+    EXPECT_EQ(SelectedTexts(tree).substr(0, 1), "e") << "what the program selects stays";
     Host().hook = nullptr;
 
     // WM_QUIT is not for this loop.
