@@ -135,6 +135,7 @@ void CCustomListCtrl::InvalidateChangedRows(UINT message, WPARAM wParam, LPARAM 
         break;
     case LVM_DELETEITEM:
         InvalidateRows(row, LastRow);
+        FollowFocus(); // a row before may have it then
         break;
     case LVM_INSERTITEMA:
     case LVM_INSERTITEMW:
