@@ -279,9 +279,11 @@ void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)
 {
     const WindowAlive alive(*this);
     CEdit::OnStyleChanged(which, styles);
-    // Our own bars come and go without the text having changed.
-    if (!alive || scroll::WritesScrollStyles(*this) || m_bars->IsFollowing() || !FollowMode() ||
-        m_updating)
+    // The platform tells each write of a style, also of one that the edit has: a host that
+    // refreshes its read-only state again and again keeps the text where the user has scrolled it.
+    // And our own bars come and go without the text having changed.
+    if (!alive || styles->styleOld == styles->styleNew || scroll::WritesScrollStyles(*this) ||
+        m_bars->IsFollowing() || !FollowMode() || m_updating)
     {
         return;
     }

@@ -33,6 +33,12 @@ TEST_F(EditOnBoard, TextCaretAndBarAgreeAfterEveryChange)
              edit.ModifyStyle(0, WS_VSCROLL);
              EXPECT_EQ(edit.GetFirstVisibleLine(), 0);
          }},
+        {"a style that it has",
+         [](EditForTests& edit) {
+             edit.LineScroll(9);
+             edit.SetReadOnly(TRUE);
+             EXPECT_EQ(edit.GetFirstVisibleLine(), 9);
+         }},
         {"all but little gone",
          [](EditForTests& edit) {
              edit.SetSel(20, -1);
