@@ -89,6 +89,12 @@ bool ChangesText(UINT message, WPARAM wParam)
     }
 }
 
+// The place of the platform's thumb; as a code of its bar it is worked out in vain.
+bool AsksThumb(UINT message, WPARAM wParam)
+{
+    return message == EM_GETTHUMB || (message == WM_VSCROLL && LOWORD(wParam) == EM_GETTHUMB);
+}
+
 } // namespace
 
 // Not every change is notified, and a parent need not pass its notifications on.
@@ -116,6 +122,13 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     else if (alive && message == WM_ERASEBKGND)
     {
         m_bars->Erased();
+    }
+    if (alive && AsksThumb(message, wParam) && FollowMode() && (GetStyle() & ES_MULTILINE) != 0)
+    {
+        // The platform takes an edit without its bar's style for one that has none, answers in
+        // hundredths, and divides by zero where the lines just fill it.
+        const int across = (GetStyle() & WS_HSCROLL) != 0 ? ::GetScrollPos(m_hWnd, SB_HORZ) : 0;
+        return message == EM_GETTHUMB ? MAKELRESULT(FirstLine(), across) : 0;
     }
     if (!alive || effect == Effect::None)
     {

@@ -91,6 +91,7 @@ inline void ExpectAgreement(EditForTests& edit, const std::string& after)
     EXPECT_EQ(border, (edit.GetExStyle() & WS_EX_CLIENTEDGE) != 0 ? 3 : std::min(border, 1));
     EXPECT_EQ(edit.GetStyle() & WS_VSCROLL, 0U);
     EXPECT_EQ(edit.m_bar.GetScrollPos(), first);
+    EXPECT_EQ(edit.SendMessage(EM_GETTHUMB), first);
     if (edit.m_barShown)
     {
         SCROLLINFO info = {};
