@@ -195,6 +195,12 @@ BOOL CALLBACK ModifyChildsForAppMode(HWND child, LPARAM data)
         // Its new place would hide its list, which would keep the pointer for itself.
         ::SendMessage(child, CB_SHOWDROPDOWN, FALSE, 0);
     }
+    if (is("Edit") && ::GetCapture() == child)
+    {
+        // A press in the text, which would go on selecting to whatever letter comes to lie under
+        // the pointer.
+        ::SendMessage(child, WM_CANCELMODE, 0, 0);
+    }
     CRect target = RescaledRect(PlaceIn(change->parent, child), change->scale);
     UINT flags = SWP_NOZORDER;
 

@@ -51,6 +51,17 @@ TEST_F(EditTest, AFingerInTheTextSelectsNothingThatAnotherModeLaysUnderIt)
         Release();
         EXPECT_EQ(edit.GetSel(), selected) << APPMODE_NAMES[mode];
     }
+    // Of an edit that follows no mode itself.
+    auto& plain = Add<CEdit>(CRect(400, 20, 600, 60), 0, "");
+    plain.SetWindowText("Find: EDDF and more of it");
+    Press(ClientPoint(plain, CPoint(30, 10)));
+    DragTo(ClientPoint(plain, CPoint(50, 10)));
+    const DWORD selected = plain.GetSel();
+    EXPECT_NE(LOWORD(selected), HIWORD(selected));
+    SetModeOfChildren(ONBOARD, Host());
+    DragTo(ClientPoint(plain, CPoint(160, 10)));
+    Release();
+    EXPECT_EQ(plain.GetSel(), selected);
 }
 
 // The on-screen keyboard ------------------------------------------------------------------------
