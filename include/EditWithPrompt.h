@@ -16,7 +16,8 @@ public:
     EditWithPrompt();
 
     // Empties the edit and shows the prompt again. A parent may ask for it whenever it is told that
-    // the edit is empty: while the prompt comes or goes it does nothing.
+    // the edit is empty, or whenever it looks: while the prompt comes or goes it does nothing, and
+    // of a prompt that is there already nobody is told again.
     void Reset();
 
     // @{
@@ -71,12 +72,15 @@ protected:
 private:
     UINT m_passwordChar = 0;    // put aside while the prompt shows; 0: the text is shown
     bool m_showingText = false; // the prompt comes or goes
+    CString m_shownPrompt;      // what the edit made of the prompt that shows
     bool m_promptDue = false;   // the edit was there before the object: its next message puts it in
 
     bool BeginPrompt();
     bool LeavePrompt();
     bool PutDuePromptIn();
     void ShowText(const char* text);
-    void ShowPrompt();
+    void ShowPrompt(bool there);
+    CString ShownText();
+    bool IsPromptThere();
     bool EndPrompt();
 };

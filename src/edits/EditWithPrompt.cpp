@@ -32,6 +32,7 @@ void EditWithPrompt::PreSubclassWindow()
     CEdit::PreSubclassWindow();
     m_showingPrompt = m_prompt.IsEmpty() ? 0 : 1; // each window of the object begins with it
     m_passwordChar = 0;
+    m_shownPrompt.Empty();
     m_showingText = false;
     m_promptDue = false;
     // An edit has a line from its making on; one that is being made gets the prompt when it is
@@ -74,15 +75,40 @@ void EditWithPrompt::ShowText(const char* text)
     CEdit::DefWindowProc(WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text)); // the parent is told
 }
 
-void EditWithPrompt::ShowPrompt()
+// What the platform's edit has, be it the prompt.
+CString EditWithPrompt::ShownText()
+{
+    const auto length = int(CEdit::DefWindowProc(WM_GETTEXTLENGTH, 0, 0));
+    CString text;
+    char* const buffer = text.GetBuffer(length);
+    CEdit::DefWindowProc(WM_GETTEXT, WPARAM(length) + 1, reinterpret_cast<LPARAM>(buffer));
+    text.ReleaseBuffer();
+    return text;
+}
+
+// Whether there is nothing to be put in, of which the parent would be told as of a change.
+bool EditWithPrompt::IsPromptThere()
+{
+    return m_showingPrompt && !m_promptDue && GetSafeHwnd() != nullptr &&
+           m_shownPrompt.IsEmpty() == m_prompt.IsEmpty() && ShownText() == m_shownPrompt;
+}
+
+void EditWithPrompt::ShowPrompt(bool there)
 {
     const WindowAlive alive(*this);
     const CString shown = m_prompt;
-    ShowText(shown);
+    if (!there)
+    {
+        ShowText(shown);
+    }
     // The parent may answer that with another prompt. The next one waits: it may do so for ever.
     if (alive && m_showingPrompt && m_prompt != shown && (!m_prompt.IsEmpty() || LeavePrompt()))
     {
         ShowText(CString(m_prompt));
+    }
+    if (alive && m_showingPrompt && !there)
+    {
+        m_shownPrompt = ShownText();
     }
     if (alive)
     {
@@ -142,9 +168,14 @@ void EditWithPrompt::Reset()
 {
     // A parent asks for it whenever it is told of an edit without a text. The prompt is on its way
     // then, or the user has just begun.
-    if (!m_showingText && BeginPrompt())
+    if (m_showingText)
     {
-        ShowPrompt();
+        return;
+    }
+    const bool there = IsPromptThere();
+    if (BeginPrompt())
+    {
+        ShowPrompt(there);
     }
 }
 
@@ -162,14 +193,14 @@ bool EditWithPrompt::PutDuePromptIn()
 
 void EditWithPrompt::SetPromptText(const char* prompt)
 {
-    m_prompt = prompt != nullptr ? prompt : "";
+    const CString before = std::exchange(m_prompt, CString(prompt != nullptr ? prompt : ""));
     if (!PutDuePromptIn() || !m_showingPrompt || m_showingText)
     {
         return; // one that is on its way is followed by this one
     }
     if (!m_prompt.IsEmpty() || LeavePrompt())
     {
-        ShowPrompt();
+        ShowPrompt(m_prompt == before && IsPromptThere());
     }
 }
 

@@ -133,11 +133,17 @@ TEST_F(SmallEditsTest, AParentMayBringThePromptBackWhereverTheEditIsEmpty)
     EXPECT_EQ(edit.Shown(), "First");
     for (const char* const each : {"Second", "", "Third"})
     {
+        edit.SetWindowText("text");
         wanted = each;
         tellings = 0;
         edit.Reset();
         EXPECT_EQ(TextOf(edit) + edit.Shown(), wanted);
         EXPECT_EQ(tellings, 2) << "of the prompt before, and of this one";
+        edit.SetPromptText(each);
+        EXPECT_EQ(tellings, 2);
+        tellings = 0;
+        edit.Reset();
+        EXPECT_EQ(tellings, *each == '\0') << "the prompt is there";
     }
     edit.DestroyWindow();
 }
