@@ -297,7 +297,16 @@ void CCustomStatic::OnNcPaint()
         Default();
         return;
     }
-    DrawOBNC();
+    const WindowAlive alive(*this);
+    // A thin frame, which is all that there is of a separator, stays the platform's.
+    if (HasPlatformFrame(m_hWnd))
+    {
+        Default();
+    }
+    if (alive)
+    {
+        DrawOBNC();
+    }
 }
 
 void CCustomStatic::OnNcCalcSize(BOOL calcValidRects, NCCALCSIZE_PARAMS* params)

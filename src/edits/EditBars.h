@@ -6,6 +6,7 @@
 #include "CustomEdit.h"
 #include "modes/ChildRestyling.h"
 #include "modes/WindowAlive.h"
+#include "modes/WindowFacts.h"
 #include "scroll/BarHost.h"
 #include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
@@ -173,9 +174,9 @@ private:
     void DrawBars() override { m_edit.DrawOBScrollBars(); }
     void DrawFrame() override
     {
-        // A thin border and a horizontal bar stay the platform's.
+        // A thin frame and a horizontal bar stay the platform's.
         const WindowAlive alive(m_edit);
-        if ((m_edit.GetStyle() & (WS_BORDER | WS_HSCROLL)) != 0)
+        if (HasPlatformFrame(m_edit) || (m_edit.GetStyle() & WS_HSCROLL) != 0)
         {
             Default();
         }

@@ -33,6 +33,15 @@ inline bool IsOfClass(HWND window, const char* wanted)
     return ::lstrcmpi(name, wanted) == 0;
 }
 
+// Whether it has a frame besides the sunken client edge, for which on-board controls have a border
+// of their own: the platform's, in every mode.
+inline bool HasPlatformFrame(HWND window)
+{
+    return (::GetWindowLongPtr(window, GWL_STYLE) & WS_BORDER) != 0 ||
+           (::GetWindowLongPtr(window, GWL_EXSTYLE) & (WS_EX_STATICEDGE | WS_EX_DLGMODALFRAME)) !=
+               0;
+}
+
 // Disabled, by itself or with a window above it: what the user does never reaches it.
 inline bool IsShutOff(HWND window)
 {

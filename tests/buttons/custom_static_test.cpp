@@ -100,6 +100,26 @@ TEST_F(StaticOnBoard, AClientEdgeBecomesABorderOfThreePixels)
     }
 }
 
+TEST_F(StaticOnBoard, AThinFrameStaysThePlatforms)
+{
+    const std::pair<DWORD, DWORD> frames[] = {
+        {SS_ETCHEDHORZ, 0}, {SS_ETCHEDVERT, 0},    {SS_ETCHEDFRAME, 0},     {SS_SUNKEN, 0},
+        {WS_BORDER, 0},     {0, WS_EX_STATICEDGE}, {0, WS_EX_DLGMODALFRAME}};
+    for (const auto& [style, exStyle] : frames)
+    {
+        SCOPED_TRACE(testing::Message() << std::hex << style << ", " << exStyle);
+        const auto seen = [&, style = style, exStyle = exStyle](CStatic&& label) {
+            label.CreateEx(exStyle, "STATIC", "", style | WS_CHILD | WS_VISIBLE,
+                           CRect(20, 20, 60, 50), &Host(), 7U);
+            PumpAll();
+            const Pixels pixels = WindowPixels(label);
+            label.DestroyWindow();
+            return pixels;
+        };
+        EXPECT_EQ(seen(CCustomStatic()), seen(CStatic()));
+    }
+}
+
 TEST_F(StaticOnBoard, TheGroupBoxFillsRoundTheControlsThatAreToBeSeen)
 {
     CCustomDialog dialog(0U, nullptr);
