@@ -123,9 +123,10 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_bars->Erased();
     }
-    if (alive && AsksThumb(message, wParam) && FollowMode() && (GetStyle() & ES_MULTILINE) != 0)
+    if (alive && AsksThumb(message, wParam) && (FollowMode() || (alive && m_wantsBar)) &&
+        (GetStyle() & (ES_MULTILINE | WS_VSCROLL)) == ES_MULTILINE)
     {
-        // The platform takes an edit without its bar's style for one that has none, answers in
+        // The platform takes an edit whose bar was taken away for one that has none, answers in
         // hundredths, and divides by zero where the lines just fill it.
         const int across = (GetStyle() & WS_HSCROLL) != 0 ? ::GetScrollPos(m_hWnd, SB_HORZ) : 0;
         return message == EM_GETTHUMB ? MAKELRESULT(FirstLine(), across) : 0;

@@ -174,7 +174,13 @@ TEST_F(EditTest, AnOnBoardTripLeavesThePlatformsBarAsTheHostHadIt)
         {"given", 0, [](CCustomEdit& edit) { edit.ModifyStyle(0, WS_VSCROLL, SWP_FRAMECHANGED); },
          true},
         {"shown", 0, [](CCustomEdit& edit) { edit.ShowScrollBar(SB_VERT, TRUE); }, true},
-        {"taken away", WS_VSCROLL, [](CCustomEdit& edit) { edit.RemoveVScrollBar(); }, false},
+        {"taken away", WS_VSCROLL,
+         [](CCustomEdit& edit) {
+             edit.LineScroll(9);
+             edit.RemoveVScrollBar();
+             EXPECT_EQ(edit.SendMessage(EM_GETTHUMB), 9);
+         },
+         false},
         {"taken away and given back", WS_VSCROLL,
          [](CCustomEdit& edit) {
              edit.RemoveVScrollBar();
