@@ -151,6 +151,7 @@ public:
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnDestroy();
@@ -200,13 +201,8 @@ protected:
     afx_msg void OnHdnTrack(NMHDR* header, LRESULT* result);
     afx_msg void OnHdnEndtrack(NMHDR* header, LRESULT* result);
     afx_msg void OnLvnInsertitem(NMHDR* header, LRESULT* result);
-    // The parent hears of these as well.
+    // The parent hears of it as well.
     afx_msg BOOL OnLvnColumnclick(NMHDR* header, LRESULT* result);
-    afx_msg BOOL OnNmClick(NMHDR* header, LRESULT* result);
-    afx_msg BOOL OnLvnMarqueebegin(NMHDR* header, LRESULT* result);
-    afx_msg BOOL OnLvnHottrack(NMHDR* header, LRESULT* result);
-    afx_msg BOOL OnLvnGetinfotip(NMHDR* header, LRESULT* result);
-    afx_msg BOOL OnLvnItemActivate(NMHDR* header, LRESULT* result);
     DECLARE_MESSAGE_MAP()
 
 public:
@@ -384,6 +380,12 @@ private:
     void LetPlatformPress(UINT message, const PressHit& hit, const CPoint& point);
     void TakeBackPress();
     void SelectClicked(const CPoint& point, UINT flags);
+    bool KeepsToItself(NMHDR& header, LRESULT* result);
+    bool KeepsClick(NMITEMACTIVATE& told);
+    bool KeepsBand(LRESULT* result);
+    bool KeepsHotRow(NMLISTVIEW& told);
+    bool KeepsTip(NMLVGETINFOTIPW& told);
+    bool KeepsActivation(NMITEMACTIVATE& told);
     void LetPlatformEdit(bool lets);
     void AwaitLabelEdit(const CPoint& point);
     void EditClickedLabel();

@@ -1,6 +1,7 @@
 // The report list: clicks on its rows.
 
 #include "CustomListCtrl.h"
+#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
 #include "modes/PressFocus.h"
@@ -39,6 +40,7 @@ private:
 
 void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
 {
+    m_bars->pressedIn = COnBoardUIGeneral::GetAppMode();
     if (!InOnBoard())
     {
         Default();
@@ -67,6 +69,10 @@ void CCustomListCtrl::OnLButtonUp(UINT, CPoint point)
     if (alive)
     {
         ReleaseButton();
+    }
+    if (alive)
+    {
+        m_bars->pressedIn.reset();
     }
     if (alive && m_bars->labelRow >= 0)
     {
@@ -108,6 +114,7 @@ void CCustomListCtrl::EditClickedLabel()
 
 void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 {
+    m_bars->pressedIn = COnBoardUIGeneral::GetAppMode();
     m_bars->labelRow = -1;
     const ByPointer by(*this);
     Default();
@@ -115,6 +122,7 @@ void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 
 void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
+    m_bars->pressedIn = COnBoardUIGeneral::GetAppMode();
     m_bars->labelRow = -1;
     m_pressedTop = TopRow();
     if (!InOnBoard())

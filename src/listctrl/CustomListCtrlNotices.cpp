@@ -1,19 +1,57 @@
 // The report list: what the parent is told of clicks, drags, tips and activation.
 
 #include "CustomListCtrl.h"
+#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "modes/WindowAlive.h"
 
-// The platform tells its parent of clicks and drags on its unscrolled rows; this names the one that
-// is drawn there instead. All these notifications begin alike.
-BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
+// The platform tells of its unscrolled rows. A derived class hears of the drawn ones as the parent
+// does, so this comes before the entries of both.
+BOOL CCustomListCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    const WindowAlive alive(*this);
-    auto& told = *reinterpret_cast<NMITEMACTIVATE*>(header);
-    TakeBackPress(); // the parent looks at the selection
-    if (!alive)
+    auto* const header = reinterpret_cast<NMHDR*>(lParam);
+    if (message == WM_NOTIFY && header != nullptr && KeepsToItself(*header, result))
     {
         return TRUE;
+    }
+    return CListCtrl::OnChildNotify(message, wParam, lParam, result);
+}
+
+bool CCustomListCtrl::KeepsToItself(NMHDR& header, LRESULT* result)
+{
+    switch (header.code)
+    {
+    case NM_CLICK:
+    case NM_DBLCLK:
+    case NM_RCLICK:
+    case NM_RDBLCLK:
+    case LVN_BEGINDRAG:
+    case LVN_BEGINRDRAG:
+        return KeepsClick(reinterpret_cast<NMITEMACTIVATE&>(header));
+    case LVN_MARQUEEBEGIN:
+        return KeepsBand(result);
+    case LVN_HOTTRACK:
+        return KeepsHotRow(reinterpret_cast<NMLISTVIEW&>(header));
+    case LVN_GETINFOTIPA:
+    case LVN_GETINFOTIPW:
+        return KeepsTip(reinterpret_cast<NMLVGETINFOTIPW&>(header)); // the other form is alike
+    case LVN_ITEMACTIVATE:
+        return KeepsActivation(reinterpret_cast<NMITEMACTIVATE&>(header));
+    default:
+        return false;
+    }
+}
+
+// Names the row that is drawn where the platform's is. All these notifications begin alike.
+bool CCustomListCtrl::KeepsClick(NMITEMACTIVATE& told)
+{
+    const WindowAlive alive(*this);
+    TakeBackPress(); // the parent looks at the selection
+    // A finger that was down while the mode changed lies on whatever came there.
+    if (!alive || m_bars->pressedIn.value_or(COnBoardUIGeneral::GetAppMode()) !=
+                      COnBoardUIGeneral::GetAppMode())
+    {
+        return true;
     }
     // Of a drag no more is told than its row, which is that of the press, as a right click's is.
     const bool drag = told.hdr.code == UINT(LVN_BEGINDRAG) || told.hdr.code == UINT(LVN_BEGINRDRAG);
@@ -21,7 +59,7 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
     m_bars->labelRow = drag ? -1 : m_bars->labelRow;
     if (!InOnBoard())
     {
-        return FALSE;
+        return false;
     }
     const bool ofPress = drag || told.hdr.code == UINT(NM_RCLICK);
     int row = told.iItem < 0 ? -1 : told.iItem + (ofPress ? m_pressedTop : TopRow());
@@ -52,19 +90,22 @@ BOOL CCustomListCtrl::OnNmClick(NMHDR* header, LRESULT*)
 }
 
 // A band would select the platform's rows, which are not those that are drawn under it.
-BOOL CCustomListCtrl::OnLvnMarqueebegin(NMHDR*, LRESULT* result)
+bool CCustomListCtrl::KeepsBand(LRESULT* result)
 {
-    *result = InOnBoard() && m_drawOffset != CPoint(0, 0);
-    return *result != FALSE;
+    const bool keeps = InOnBoard() && m_drawOffset != CPoint(0, 0);
+    if (keeps && result != nullptr)
+    {
+        *result = TRUE;
+    }
+    return keeps;
 }
 
 // Likewise of the row under the pointer.
-BOOL CCustomListCtrl::OnLvnHottrack(NMHDR* header, LRESULT*)
+bool CCustomListCtrl::KeepsHotRow(NMLISTVIEW& told)
 {
     const WindowAlive alive(*this);
     if (InOnBoard() && m_drawOffset != CPoint(0, 0))
     {
-        auto& told = *reinterpret_cast<NMLISTVIEW*>(header);
         told.iItem = HitBy(told.ptAction).drawn;
         told.iSubItem = alive ? ColumnAt(told.ptAction.x - int(m_drawOffset.x)) : -1;
     }
@@ -73,13 +114,12 @@ BOOL CCustomListCtrl::OnLvnHottrack(NMHDR* header, LRESULT*)
 
 // And of the row that a tip is asked for. What the platform has put there already, as a label that
 // is cut, is of the other row.
-BOOL CCustomListCtrl::OnLvnGetinfotip(NMHDR* header, LRESULT*)
+bool CCustomListCtrl::KeepsTip(NMLVGETINFOTIPW& told)
 {
     if (!InOnBoard() || TopRow() == 0)
     {
-        return FALSE;
+        return false;
     }
-    auto& told = *reinterpret_cast<NMLVGETINFOTIPW*>(header); // the other form is alike
     told.iItem += TopRow();
     const bool wide = told.hdr.code == UINT(LVN_GETINFOTIPW);
     auto* const narrow = reinterpret_cast<char*>(told.pszText);
@@ -119,16 +159,15 @@ int CCustomListCtrl::ColumnAt(int x) const
     return column;
 }
 
-BOOL CCustomListCtrl::OnLvnItemActivate(NMHDR* header, LRESULT* result)
+bool CCustomListCtrl::KeepsActivation(NMITEMACTIVATE& told)
 {
     // By a key it is the row with the focus, which needs no exchange. Where no row is drawn there
     // is none to activate. Where one click activates it waits for the final step of the selection.
     if (m_activating && m_selChanging != FALSE)
     {
-        m_heldActivation = *reinterpret_cast<const NMITEMACTIVATE*>(header);
+        m_heldActivation = told;
         m_heldActivation->iItem += m_heldActivation->iItem >= 0 ? m_pressedTop : 0;
-        return TRUE;
+        return true;
     }
-    return m_activating && (OnNmClick(header, result) ||
-                            reinterpret_cast<const NMITEMACTIVATE*>(header)->iItem < 0);
+    return m_activating && (KeepsClick(told) || told.iItem < 0);
 }

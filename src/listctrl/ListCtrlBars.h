@@ -3,12 +3,15 @@
 // What the report list does in its own way with its bars: a press scrolls the drawing at once, by
 // the virtual functions of the list, and an arrow repeats after a longer wait.
 
+#include "AppMode.h"
 #include "CustomListCtrl.h"
 #include "modes/WindowAlive.h"
 #include "scroll/BarHost.h"
 #include "scroll/Filling.h"
 #include "scroll/NcBands.h"
 #include "scroll/ScrollCodes.h"
+
+#include <optional>
 
 class CCustomListCtrl::Bars final : public scroll::BarHost
 {
@@ -29,6 +32,8 @@ public:
     bool viewDue = false;
     // The next font of the standard mode is that of a restyling, which the headings do not share.
     bool themeFontDue = false;
+    // The mode in which a button of the pointer went down on the rows, until it comes up.
+    std::optional<APPMODE> pressedIn;
     // Its label was clicked, and is edited unless a second click comes before the timer does.
     int labelRow = -1;
     bool labelAwaited = false; // the button has come up over it

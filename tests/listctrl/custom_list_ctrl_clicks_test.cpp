@@ -1,6 +1,7 @@
 // Clicks on the rows of a report list: which row they select and name, and when the parent is told.
 
 #include "listctrl/list_for_tests.h"
+#include "support/ChildModes.h"
 
 using testing::ElementsAre;
 
@@ -54,6 +55,24 @@ protected:
         return taken;
     }
 };
+
+// Opens what is activated by the pointer itself.
+class ListThatOpens : public ListForTests
+{
+public:
+    int opened = -1;
+
+protected:
+    afx_msg void OnOpen(NMHDR* header, LRESULT*)
+    {
+        opened = reinterpret_cast<const NMITEMACTIVATE*>(header)->iItem;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ListThatOpens, ListForTests)
+    ON_NOTIFY_REFLECT(NM_DBLCLK, &ListThatOpens::OnOpen)
+END_MESSAGE_MAP()
 
 // With keys held down.
 void ClickWith(const std::vector<UINT>& held, CPoint point, bool right = false)
@@ -124,6 +143,33 @@ TEST_F(ListCtrlOnBoard, AClickSelectsTheRowThatIsDrawnThereAndIsToldOfIt)
     Release();
     EXPECT_THAT(list.clicked, testing::SizeIs(2));
     EXPECT_THAT(list.clicked, testing::Each(std::tuple(-1, 1, 0)));
+}
+
+TEST_F(ListCtrlOnBoard, AnHeirIsToldOfTheDrawnRowAsTheParentIs)
+{
+    auto& list = AddList<ListThatOpens>(100);
+    list.PerformVScroll(5, 0);
+    Click(ClientPoint(list, list.RowPoint(7)));
+    Press();
+    Release();
+    EXPECT_EQ(list.opened, 7);
+}
+
+TEST_F(ListCtrlTest, AFingerThatIsDownWhileTheModeChangesClicksNothingThatComesToLieUnderIt)
+{
+    for (const auto& [from, to] : {std::pair(STD, ONBOARD), {ONBOARD, STD}})
+    {
+        const ModeScope mode(from);
+        auto& list = AddList<ListThatNotes>(100);
+        Press(ClientPoint(list, list.RowPoint(3)));
+        SetModeOfChildren(to, Host());
+        Release();
+        EXPECT_THAT(list.clicked, testing::IsEmpty()) << from;
+        EXPECT_EQ(list.Selected(), std::set<int>{3});
+        Click(ClientPoint(list, list.RowPoint(1)));
+        EXPECT_THAT(list.clicked, testing::SizeIs(1)) << from;
+        Remove(list);
+    }
 }
 
 TEST_F(ListCtrlOnBoard, AClickEndsOnTheDrawnRowAloneWhateverWasSelectedInItsPlace)
