@@ -348,7 +348,8 @@ void TreeSelection::InvalidateItem(HTREEITEM item, bool erase)
     }
 }
 
-void TreeSelection::InvalidateSelectedInSight()
+// What is drawn otherwise with and without the keyboard focus.
+void TreeSelection::InvalidateStatesInSight()
 {
     CRect client;
     Window().GetClientRect(&client);
@@ -360,7 +361,7 @@ void TreeSelection::InvalidateSelectedInSight()
         {
             break;
         }
-        if (m_items.IsSelected(item))
+        if (m_items.State(item, Focus | Select) != 0)
         {
             ::InvalidateRect(Handle(), &rect, TRUE);
         }
@@ -398,7 +399,7 @@ bool TreeSelection::TakeKeyboard()
 
 void TreeSelection::OnFocusChanged()
 {
-    InvalidateSelectedInSight();
+    InvalidateStatesInSight();
     TakeWithoutSelecting([this] { m_owner.DefaultOfCurrent(); }, false);
 }
 

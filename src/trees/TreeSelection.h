@@ -67,7 +67,7 @@ public:
     // Fills in sender and id and asks the parent; 0 without one.
     int SendNotify(NMHDR* header);
     void InvalidateItem(HTREEITEM item, bool erase);
-    void InvalidateSelectedInSight();
+    void InvalidateStatesInSight();
 
     // Pointer and keys, each the whole handling of its message.
     void OnButtonDown(bool left, UINT flags, CPoint point);

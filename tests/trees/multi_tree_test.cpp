@@ -350,8 +350,11 @@ TEST_F(MultiTreeTest, LooksOnBoardAndGoesBack)
         constexpr COLORREF Highlight = RGB(50, 80, 110);
         EXPECT_EQ(ground(f), Highlight);
         EXPECT_EQ(ground(e), RGB(180, 180, 180));
-        Host().SetFocus();
+        tree.SetFocus();
+        tree.CTreeCtrl::SetItemState(e, TVIS_FOCUSED, TVIS_FOCUSED); // neither caret nor selected
         PumpAll();
+        Host().SetFocus();
+        EXPECT_TRUE(ShowsWhatAPaintWould(tree));
         EXPECT_EQ(ground(f), Highlight) << "selected without the focus, too";
         EXPECT_EQ(ground(d), Highlight);
         tree.EnableWindow(FALSE);
