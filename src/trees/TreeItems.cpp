@@ -270,6 +270,10 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     const bool movesCaret = MovesCaret(message);
     const TVITEM* const change = ChangeOfState(message, lParam);
     const WatchedItem changed(*this, change != nullptr ? Real(change->hItem) : nullptr);
+    // The platform deselects what had its caret before it asked, also when that was moved meanwhile.
+    const bool asks = m_known && movesCaret && message != TVM_DELETEITEM &&
+                      message != TVM_INSERTITEMA && message != TVM_INSERTITEMW;
+    const WatchedItem left(*this, asks ? Caret() : nullptr);
     const bool selects = change != nullptr && (change->stateMask & TVIS_SELECTED) != 0;
     const bool tells = movesCaret || change != nullptr;
     m_inPlatform += tells;
@@ -330,6 +334,10 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     else if ((message == TVM_INSERTITEMA || message == TVM_INSERTITEMW) && result)
     {
         Refresh(HTREEITEM(result));
+    }
+    if (left.Get() != nullptr && !IsGoing(left.Get()))
+    {
+        Refresh(left.Get());
     }
     if (movesCaret || m_inPlatform > 0)
     {

@@ -96,6 +96,7 @@ TEST_F(TreeToldTest, SurvivesAParentThatIsToldOfStates)
         {"deletes the next", [&](HTREEITEM item) { tree->DeleteItem(item == d ? e : d); }},
         {"clears the tree", [&](HTREEITEM) { tree->DeleteAllItems(); }},
         {"ends the tree", [&](HTREEITEM) { Remove(*tree); }},
+        {"moves the caret", [&](HTREEITEM) { tree->FocusItem(f); }},
         {"makes it one of one selection", [&](HTREEITEM) { tree->SetMultiSelect(false); }},
     };
     const Act<> operations[] = {
