@@ -283,14 +283,14 @@ void TreeBars::Place()
 
 // Painting --------------------------------------------------------------------------------------
 
-void TreeBars::Draw(bool force)
+void TreeBars::Draw()
 {
     for (Bar* each : {&m_vertical, &m_horizontal})
     {
         if (each->shown)
         {
             each->painter.Draw(Window(), each->bar,
-                               m_held == each ? m_part : CFauxScrollBar::PRESSED_NONE, force);
+                               m_held == each ? m_part : CFauxScrollBar::PRESSED_NONE);
         }
     }
 }
@@ -531,7 +531,7 @@ void TreeBars::Press(WPARAM hitTest, CPoint screen)
 }
 
 // By the window's own handlers, as if a bar of the platform had been used.
-void TreeBars::Scroll(Bar& bar, int code, int position)
+void TreeBars::Scroll(Bar& bar, int code)
 {
     if (code == scroll::NoCode)
     {
@@ -540,7 +540,7 @@ void TreeBars::Scroll(Bar& bar, int code, int position)
     const WindowAlive alive(Window());
     Bar* const held = m_held;
     m_held = nullptr; // the bar takes the new position over
-    Window().SendMessage(scroll::MessageOf(bar.axis), MAKEWPARAM(code, position));
+    Window().SendMessage(scroll::MessageOf(bar.axis), WPARAM(code));
     if (alive)
     {
         m_held = m_held == nullptr && m_part != CFauxScrollBar::PRESSED_NONE ? held : m_held;

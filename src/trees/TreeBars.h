@@ -76,10 +76,10 @@ private:
     void CountAnew();
     bool MirrorOne(Bar& bar);
     void Place();
-    void Draw(bool force = false);
+    void Draw();
     void DrawBorder();
     void Press(WPARAM hitTest, CPoint screen);
-    void Scroll(Bar& bar, int code, int position = 0);
+    void Scroll(Bar& bar, int code);
     void DragTo(CPoint screen);
     void EndPress();
 };
