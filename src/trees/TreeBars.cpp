@@ -150,11 +150,9 @@ void TreeBars::Reset()
 int TreeBars::Extent() const
 {
     const auto row = [this](WPARAM relation) {
-        CRect rect(0, 0, 0, 0);
-        const LRESULT item = m_owner.Platform(TVM_GETNEXTITEM, relation, 0);
-        ::CopyMemory(&rect, &item, sizeof(item)); // which the rectangle takes the place of
-        const bool seen = item != 0 && m_owner.Platform(TVM_GETITEMRECT, FALSE, LPARAM(&rect));
-        return seen ? rect : CRect(0, 0, 0, 0);
+        CRect rect;
+        ItemRect(m_owner, HTREEITEM(m_owner.Platform(TVM_GETNEXTITEM, relation, 0)), false, rect);
+        return rect;
     };
     return int(row(TVGN_LASTVISIBLE).bottom) - int(row(TVGN_ROOT).top);
 }
@@ -164,9 +162,8 @@ int TreeBars::Extent() const
 int TreeBars::RoomBeside(HTREEITEM item) const
 {
     const WindowAlive alive(Window()); // its text may be asked for
-    CRect text(0, 0, 0, 0);
-    ::CopyMemory(&text, &item, sizeof(item)); // which the rectangle takes the place of
-    if (!m_owner.Platform(TVM_GETITEMRECT, TRUE, LPARAM(&text)) || !alive)
+    CRect text;
+    if (!ItemRect(m_owner, item, true, text) || !alive)
     {
         return INT_MAX;
     }

@@ -128,12 +128,9 @@ void TreeItems::WriteState(HTREEITEM item, UINT state, UINT mask)
 
 CRect TreeItems::Rect(HTREEITEM item, bool textOnly) const
 {
-    CRect rect(0, 0, 0, 0);
-    // The message takes the item in the first bytes of the rectangle that it fills.
-    ::CopyMemory(&rect, &item, sizeof(HTREEITEM));
-    return item != nullptr && Ask(TVM_GETITEMRECT, textOnly, reinterpret_cast<LPARAM>(&rect))
-               ? rect
-               : CRect(0, 0, 0, 0);
+    CRect rect;
+    ItemRect(m_owner, item, textOnly, rect);
+    return rect;
 }
 
 // The platform's side ---------------------------------------------------------------------------

@@ -495,11 +495,9 @@ void TreeLook::PaintRow(CDC& dc, const Row& row)
     const DWORD style = window.GetStyle();
     const bool enabled = window.IsWindowEnabled();
     const bool marked = (row.state & (TVIS_SELECTED | TVIS_DROPHILITED)) != 0;
-    CRect label = row.text;
     if (enabled && marked && (style & TVS_FULLROWSELECT) != 0)
     {
-        CRect full = m_items.Rect(row.item, false);
-        dc.FillSolidRect(full, palette::Highlight);
+        dc.FillSolidRect(m_items.Rect(row.item, false), palette::Highlight);
     }
     PaintLabel(dc, row,
                !enabled ? palette::FieldDisabled
@@ -508,12 +506,10 @@ void TreeLook::PaintRow(CDC& dc, const Row& row)
                !enabled ? palette::FieldTextDisabled
                : marked ? palette::HighlightText
                         : palette::FieldText);
-    if ((row.state & TVIS_FOCUSED) != 0 || row.item == m_items.Caret())
+    const bool focused = (row.state & TVIS_FOCUSED) != 0 || row.item == m_items.Caret();
+    if (focused && ::GetFocus() == window.GetSafeHwnd())
     {
-        if (::GetFocus() == window.GetSafeHwnd())
-        {
-            dc.DrawFocusRect(label);
-        }
+        dc.DrawFocusRect(row.text);
     }
     int left = row.text.left;
     const auto draw = [&](int list, int image) {

@@ -24,6 +24,21 @@ protected:
     ~TreeOwner() = default;
 };
 
+// What an item, or its text, takes in client pixels: empty, and false, for one that is hidden or
+// null.
+inline bool ItemRect(TreeOwner& owner, HTREEITEM item, bool textOnly, CRect& rect)
+{
+    rect.SetRectEmpty();
+    // The message takes the item in the first bytes of the rectangle that it fills.
+    ::CopyMemory(&rect, &item, sizeof(item));
+    if (item != nullptr && owner.Platform(TVM_GETITEMRECT, textOnly, LPARAM(&rect)))
+    {
+        return true;
+    }
+    rect.SetRectEmpty();
+    return false;
+}
+
 // The owner in terms of a tree class, which makes this its friend.
 template <class Tree, class PlatformBase> class OwnerOf final : public TreeOwner
 {
