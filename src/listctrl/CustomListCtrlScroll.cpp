@@ -301,14 +301,11 @@ void CCustomListCtrl::MoveTo(int axis, int position)
     }
 }
 
-// The edit of a label would stay where its row was. The row is painted anew as it shows the focus.
+// The row is painted anew as it shows the focus.
 void CCustomListCtrl::EndLabelEdit()
 {
     m_bars->labelRow = -1;
-    if (Ask(LVM_GETEDITCONTROL) != 0)
-    {
-        SetFocus();
-    }
+    ::EndLabelEdit(*this, Ask(LVM_GETEDITCONTROL));
 }
 
 // The edit of a label stays with its row, which has the focus, when the rows become higher or less

@@ -1,6 +1,6 @@
 #pragma once
 
-// Where the edit of a label goes, in report lists and in trees.
+// Where the edit of a label goes, and its end, in report lists and in trees.
 
 #include "modes/WindowFacts.h"
 
@@ -33,4 +33,13 @@ inline bool PlaceLabelEdit(HWND edit, const CRect& label, const CRect& area, LRE
     ::SetWindowPos(edit, nullptr, place.left, place.top, place.Width(), place.Height(),
                    SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
     return true;
+}
+
+// Ends the edit of a label, if there is one: it would stay while its row or item goes.
+inline void EndLabelEdit(CWnd& parent, LRESULT edit)
+{
+    if (edit != 0)
+    {
+        parent.SetFocus();
+    }
 }

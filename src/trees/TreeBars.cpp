@@ -1,5 +1,6 @@
 #include "trees/TreeBars.h"
 
+#include "modes/LabelEdit.h"
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
@@ -483,21 +484,13 @@ void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
 
 // Presses ---------------------------------------------------------------------------------------
 
-void TreeBars::EndLabelEdit()
-{
-    if (m_owner.Platform(TVM_GETEDITCONTROL, 0, 0) != 0)
-    {
-        Window().SetFocus();
-    }
-}
-
 void TreeBars::Press(WPARAM hitTest, CPoint screen)
 {
     const WindowAlive alive(Window());
     EndPress();
     if (alive)
     {
-        EndLabelEdit();
+        EndLabelEdit(Window(), m_owner.Platform(TVM_GETEDITCONTROL, 0, 0));
     }
     if (!alive)
     {

@@ -28,9 +28,6 @@ public:
     // Neither bar is there any more, and no window to be changed for that.
     void Reset();
 
-    // Where the edit of a label would stay while its item goes.
-    void EndLabelEdit();
-
     // Each message in an on-board mode before the platform has it: true when it is done with, with
     // its answer in result. And after.
     bool Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);

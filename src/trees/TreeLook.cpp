@@ -154,7 +154,7 @@ void TreeLook::FollowLabelEdit(bool newFont)
     const LRESULT font = alive && newFont ? LRESULT(Font(bold)) : 0;
     if (alive && !PlaceLabelEdit(edit, label, client, font, m_editFrame))
     {
-        m_bars.EndLabelEdit();
+        EndLabelEdit(m_owner.Window(), m_items.Ask(TVM_GETEDITCONTROL));
     }
 }
 
