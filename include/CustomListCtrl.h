@@ -374,7 +374,7 @@ private:
     void SelectAlone(int row);
     void ClearSelection();
     bool MoveByPage(UINT key, UINT flags);
-    bool TakeFocusForPress();
+    bool FocusFirst();
     PressHit HitBy(const CPoint& point);
     void PressBox(const PressHit& hit, const CPoint& point, UINT flags);
     void LetPlatformPress(UINT message, const PressHit& hit, const CPoint& point);

@@ -132,7 +132,7 @@ void CCustomListCtrl::OnRButtonDown(UINT flags, CPoint point)
     }
     const WindowAlive alive(*this);
     const bool shifted = m_drawOffset != CPoint(0, 0);
-    const PressHit hit = !shifted || TakeFocusForPress() ? HitBy(point) : PressHit();
+    const PressHit hit = !shifted || FocusFirst() ? HitBy(point) : PressHit();
     // What the parent finds selected when it shows a menu: with a key what was, as the platform
     // does.
     const bool kept = alive && hit.drawn >= 0 &&
@@ -186,7 +186,7 @@ LRESULT CCustomListCtrl::OnMouseHover(WPARAM, LPARAM lParam)
     {
         return 0;
     }
-    const PressHit hit = TakeFocusForPress() ? HitBy(CPoint(lParam)) : PressHit();
+    const PressHit hit = FocusFirst() ? HitBy(CPoint(lParam)) : PressHit();
     if (alive && hit.drawn >= 0)
     {
         SelectAlone(hit.drawn);
@@ -219,7 +219,7 @@ void CCustomListCtrl::SelectAlone(int row)
 
 // The focus comes first: the platform's list does not survive its end in the middle of its click.
 // False when the list did not survive it either.
-bool CCustomListCtrl::TakeFocusForPress()
+bool CCustomListCtrl::FocusFirst()
 {
     const WindowAlive alive(*this);
     if (::GetFocus() != GetSafeHwnd())
@@ -397,7 +397,7 @@ void CCustomListCtrl::SelectClicked(const CPoint& point, UINT flags)
     m_pressedRow = -1;
     m_bars->labelRow = -1;
     const bool focused = ::GetFocus() == GetSafeHwnd();
-    const PressHit hit = TakeFocusForPress() ? HitBy(point) : PressHit();
+    const PressHit hit = FocusFirst() ? HitBy(point) : PressHit();
     if (alive)
     {
         LetPlatformEdit(false);
