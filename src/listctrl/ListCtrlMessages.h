@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-// What a report list posts to itself.
+// Messages to a report list: what it posts to itself, and which concern its view.
 namespace listctrl {
 
 constexpr UINT SubclassHeaderMessage = 0x069A; // take the header that was made with the list
