@@ -22,7 +22,7 @@ CCustomDropListCombo* ComboOf(HWND window)
     return DYNAMIC_DOWNCAST(CCustomDropListCombo, CWnd::FromHandlePermanent(window));
 }
 
-CRect PlaceOf(HWND window)
+CRect ScreenPlaceOf(HWND window)
 {
     CRect place;
     ::GetWindowRect(window, &place);
@@ -63,7 +63,7 @@ int ComboScaling::HeightOf(HWND window, double scale, int scaled)
         combo->m_fitted = scaled;
         return scaled;
     }
-    return combo->m_list == nullptr ? scaled : PlaceOf(window).Height();
+    return combo->m_list == nullptr ? scaled : ScreenPlaceOf(window).Height();
 }
 
 ComboScaling::Heights ComboScaling::TakeHeights(HWND window)
@@ -74,7 +74,7 @@ ComboScaling::Heights ComboScaling::TakeHeights(HWND window)
 
 void ComboScaling::NoteStandard(HWND window)
 {
-    const int height = PlaceOf(window).Height();
+    const int height = ScreenPlaceOf(window).Height();
     const APPMODE mode = COnBoardUIGeneral::GetAppMode();
     if (CCustomDropListCombo* const combo = ComboOf(window))
     {
@@ -137,7 +137,7 @@ void ComboScaling::Fit(HWND window, std::span<const HWND> siblings)
         ::SetProp(window, HeightsProperty,
                   reinterpret_cast<HANDLE>(DWORD_PTR(MAKELONG(heights.standard, height))));
     }
-    ::SetWindowPos(window, nullptr, 0, 0, PlaceOf(window).Width(), height,
+    ::SetWindowPos(window, nullptr, 0, 0, ScreenPlaceOf(window).Width(), height,
                    SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -149,10 +149,10 @@ int ComboScaling::FittedHeight(HWND window, std::span<const HWND> siblings, int 
     {
         if (child != window && ::IsWindow(child))
         {
-            others.push_back(PlaceOf(child));
+            others.push_back(ScreenPlaceOf(child));
         }
     }
-    return HeightInRoom(PlaceOf(window), Truncated(standard * metrics::OnBoardScale), wanted,
+    return HeightInRoom(ScreenPlaceOf(window), Truncated(standard * metrics::OnBoardScale), wanted,
                         others);
 }
 

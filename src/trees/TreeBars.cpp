@@ -134,7 +134,7 @@ void TreeBars::Reset()
 {
     m_stripping = false;
     m_shrunk = true;
-    m_edited = false;
+    m_countDue = false;
     m_widest = nullptr;
     m_held = nullptr;
     m_part = CFauxScrollBar::PRESSED_NONE;
@@ -178,7 +178,7 @@ void TreeBars::CountAnew()
 {
     const WindowAlive alive(Window());
     m_shrunk = false;
-    m_edited = false;
+    m_countDue = false;
     CRect client;
     Window().GetClientRect(&client);
     const auto count = [&](int width) {
@@ -240,7 +240,7 @@ void TreeBars::Mirror()
     const int extent = Extent();
     m_shrunk = m_shrunk || extent < m_extent;
     m_extent = extent;
-    if (m_edited || (m_shrunk && (m_vertical.shown || m_horizontal.shown)))
+    if (m_countDue || (m_shrunk && (m_vertical.shown || m_horizontal.shown)))
     {
         CountAnew();
     }
@@ -398,7 +398,7 @@ bool TreeBars::Before(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& resul
 void TreeBars::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
 {
     m_shrunk = m_shrunk || MayNarrow(message);
-    m_edited = m_edited || EndsLabelEdit(message, wParam);
+    m_countDue = m_countDue || EndsLabelEdit(message, wParam);
     if (const HTREEITEM item = GivenText(message, lParam); item != nullptr && item == m_widest)
     {
         m_widest = nullptr;

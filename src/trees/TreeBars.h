@@ -53,11 +53,11 @@ private:
     TreeOwner& m_owner;
     Bar m_vertical{SB_VERT};
     Bar m_horizontal{SB_HORZ};
-    bool m_stripping = false; // the platform's styles are being taken away
-    int m_extent = 0;         // of all rows that are not in closed branches, pixels
-    CSize m_size{0, 0};       // of the window
-    bool m_shrunk = true;     // what is shown may need less room than it did, or have more
-    bool m_edited = false;    // or more: some platforms do not count after the edit of a label
+    bool m_stripping = false;     // the platform's styles are being taken away
+    int m_extent = 0;             // of all rows that are not in closed branches, pixels
+    CSize m_size{0, 0};           // of the window
+    bool m_shrunk = true;         // what is shown may need less room than it did, or have more
+    bool m_countDue = false;      // some platforms do not count anew after the edit of a label
     HTREEITEM m_widest = nullptr; // that is being given another text
     scroll::FrameStyles m_frame;
     Bar* m_held = nullptr; // the bar that is pressed
