@@ -285,12 +285,11 @@ private:
 
     // What it has in common with every control that has faux bars: mode, frame and presses.
     class Bars;
-    class ByPointer;
 
     bool m_creating = false; // the platform's part of the window is not made yet
     bool m_settling = false;
     bool m_fitting = false;
-    bool m_activating = false; // by the pointer
+    bool m_activating = false; // by the pointer: what is activated is named as an unscrolled row
     bool m_labelDue = false;   // the edit that is begun is to be placed over the row that is drawn
     int m_fittedColumn = -1;   // the last column, once it fills the list
     CRect m_fittedTo;          // client width and place of that column when it was fitted

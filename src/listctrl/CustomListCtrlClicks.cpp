@@ -4,6 +4,7 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListCtrlMessages.h"
+#include "modes/Meanwhile.h"
 #include "modes/PressFocus.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
@@ -11,32 +12,6 @@
 #include <utility>
 
 // Presses ----------------------------------------------------------------------------------------
-
-// While it lives, what is activated is so by the pointer: it names an unscrolled row. A handler may
-// let another one live.
-class CCustomListCtrl::ByPointer
-{
-public:
-    explicit ByPointer(CCustomListCtrl& list)
-        : m_list(list)
-        , m_alive(list)
-        , m_outer(std::exchange(list.m_activating, true))
-    {}
-    ~ByPointer()
-    {
-        if (m_alive)
-        {
-            m_list.m_activating = m_outer;
-        }
-    }
-    ByPointer(const ByPointer&) = delete;
-    ByPointer& operator=(const ByPointer&) = delete;
-
-private:
-    CCustomListCtrl& m_list;
-    const WindowAlive m_alive;
-    const bool m_outer;
-};
 
 void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
 {
@@ -47,7 +22,7 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
         return;
     }
     const WindowAlive alive(*this);
-    const ByPointer by(*this);
+    const Meanwhile activating(*this, m_activating);
     m_heldActivation.reset();
     SelectClicked(point, flags);
     if (alive && m_heldActivation)
@@ -61,7 +36,7 @@ void CCustomListCtrl::OnLButtonDown(UINT flags, CPoint point)
 void CCustomListCtrl::OnLButtonUp(UINT, CPoint point)
 {
     const WindowAlive alive(*this);
-    const ByPointer by(*this);
+    const Meanwhile activating(*this, m_activating);
     if (const int row = std::exchange(m_pressedRow, -1); row >= 0)
     {
         SelectAlone(row);
@@ -116,7 +91,7 @@ void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 {
     m_bars->pressedIn = COnBoardUIGeneral::GetAppMode();
     m_bars->labelRow = -1;
-    const ByPointer by(*this);
+    const Meanwhile activating(*this, m_activating);
     Default();
 }
 

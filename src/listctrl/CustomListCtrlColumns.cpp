@@ -4,6 +4,7 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
+#include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 #include "paint/GdiGuards.h"
 #include "paint/MeasuringDC.h"
@@ -45,12 +46,11 @@ LRESULT CCustomListCtrl::OnInsertColumn(WPARAM wParam, LPARAM lParam)
     ColumnWidth width = {sized ? given->cx : 0, sized ? listctrl::OnBoardWidth(given->cx) : 0};
     const int before = ColumnCount();
     LVCOLUMN scaled = sized ? WithWidth(*given, width.onBoard) : LVCOLUMN();
-    const bool settling = std::exchange(m_settling, true); // not half way
-    const LRESULT index = Ask(GetCurrentMessage()->message, wParam,
-                              sized ? reinterpret_cast<LPARAM>(&scaled) : lParam);
-    if (alive)
+    LRESULT index = 0;
     {
-        m_settling = settling;
+        const Meanwhile settling(*this, m_settling); // not half way
+        index = Ask(GetCurrentMessage()->message, wParam,
+                    sized ? reinterpret_cast<LPARAM>(&scaled) : lParam);
     }
     if (!alive || index < 0 || size_t(before) != m_columnWidths.size())
     {
@@ -77,11 +77,10 @@ LRESULT CCustomListCtrl::OnDeleteColumn(WPARAM wParam, LPARAM)
 {
     const WindowAlive alive(*this);
     const bool fitted = m_fittedColumn != -1 && int(wParam) == m_fittedColumn;
-    const bool settling = std::exchange(m_settling, true); // not half way
-    const LRESULT deleted = Default();
-    if (alive)
+    LRESULT deleted = 0;
     {
-        m_settling = settling;
+        const Meanwhile settling(*this, m_settling); // not half way
+        deleted = Default();
     }
     if (alive && deleted && wParam < m_columnWidths.size())
     {
@@ -261,7 +260,7 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
     }
     const std::vector<ColumnWidth> widths = m_columnWidths;
     const int fitted = std::exchange(m_fittedColumn, -1);
-    const bool fitting = std::exchange(m_fitting, true); // not half way
+    const Meanwhile fitting(*this, m_fitting); // not half way
     for (int column = 0; column < count && alive; ++column)
     {
         const ColumnWidth& width = widths[size_t(column)];
@@ -274,10 +273,6 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         heading.mask = HDI_WIDTH;
         heading.cxy = wanted;
         AskHeader(HDM_SETITEM, WPARAM(column), reinterpret_cast<LPARAM>(&heading));
-    }
-    if (alive)
-    {
-        m_fitting = fitting;
     }
 }
 

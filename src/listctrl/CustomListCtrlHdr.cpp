@@ -6,6 +6,7 @@
 #include "OnBoardUIGeneral.h"
 #include "access/Answers.h"
 #include "listctrl/ListLayout.h"
+#include "modes/Meanwhile.h"
 #include "modes/PressAndHold.h"
 #include "modes/TakenOver.h"
 #include "modes/WindowAlive.h"
@@ -158,7 +159,7 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
         return;
     }
     const WindowAlive alive(*this);
-    m_repositioning = true;
+    const Meanwhile repositioning(*this, m_repositioning);
     m_itemLefts.clear();
     m_itemWidths.clear();
     const HWND list = ListWindow();
@@ -205,10 +206,6 @@ void CCustomListCtrlHdr::RepositionHeaderStrip()
         {
             ShowWindow(SW_SHOWNA);
         }
-    }
-    if (alive)
-    {
-        m_repositioning = false;
     }
 }
 

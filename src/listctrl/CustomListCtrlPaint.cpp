@@ -4,6 +4,7 @@
 #include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
+#include "modes/Meanwhile.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
@@ -56,7 +57,7 @@ void CCustomListCtrl::HintOfRows()
     RowSpan told = {0, 0};
     CRect first;
     CRect client;
-    m_bars->hinting = true;
+    const Meanwhile hinting(*this, m_bars->hinting);
     for (int turn = 0; turn < 4 && InOnBoard() && FirstRowRect(first) && first.Height() > 0; ++turn)
     {
         GetClientRect(&client);
@@ -73,7 +74,6 @@ void CCustomListCtrl::HintOfRows()
             return;
         }
     }
-    m_bars->hinting = false;
 }
 
 void CCustomListCtrl::OnPaint()

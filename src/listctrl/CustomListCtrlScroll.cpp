@@ -6,6 +6,7 @@
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/LabelEdit.h"
+#include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 
 #include <utility>
@@ -112,12 +113,8 @@ void CCustomListCtrl::UpdateVScrollData()
     // An empty list has nothing to scroll back by a line.
     if (items > 0 && m_vBar.GetScrollPos() > data.Limit())
     {
-        const bool outer = std::exchange(m_bars->stepsBack, true);
+        const Meanwhile stepsBack(*this, m_bars->stepsBack);
         PerformVScroll(SB_LINEUP);
-        if (alive)
-        {
-            m_bars->stepsBack = outer;
-        }
     }
     if (alive)
     {

@@ -1,6 +1,7 @@
 #include "trees/TreeBars.h"
 
 #include "modes/LabelEdit.h"
+#include "modes/Meanwhile.h"
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
@@ -120,14 +121,8 @@ void TreeBars::LeaveOnBoard()
 // The platform's tree is not told: it would show its bars again at once, and so on, dozens deep.
 DWORD TreeBars::Strip()
 {
-    const WindowAlive alive(Window());
-    m_stripping = true;
-    const DWORD had = scroll::StripScrollStyles(Window());
-    if (alive)
-    {
-        m_stripping = false;
-    }
-    return had;
+    const Meanwhile stripping(Window(), m_stripping);
+    return scroll::StripScrollStyles(Window());
 }
 
 void TreeBars::Reset()

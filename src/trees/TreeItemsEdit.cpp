@@ -2,6 +2,7 @@
 
 #include "trees/TreeItems.h"
 
+#include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 
 namespace trees {
@@ -29,14 +30,9 @@ bool TreeItems::CancelEditIn(HTREEITEM branch)
     }
     const WindowAlive alive(m_owner.Window());
     const WatchedItem held(*this, branch);
-    m_cancelling = true;
+    const Meanwhile cancelling(m_owner.Window(), m_cancelling);
     Native(TVM_ENDEDITLABELNOW, TRUE, 0);
-    if (!alive)
-    {
-        return false;
-    }
-    m_cancelling = false;
-    return held.Get() == branch;
+    return alive && held.Get() == branch;
 }
 
 // Each message on its way to the platform: where the edit of a label begins, and where it has

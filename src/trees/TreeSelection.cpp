@@ -2,6 +2,7 @@
 
 #include "trees/TreeSelection.h"
 
+#include "modes/Meanwhile.h"
 #include "modes/TakenOver.h"
 #include "modes/TellParent.h"
 #include "modes/WindowAlive.h"
@@ -101,15 +102,8 @@ int TreeSelection::SendNotify(NMHDR* header)
     {
         return 0;
     }
-    const WindowAlive alive(Window());
-    const bool outer = m_emulated;
-    m_emulated = true;
-    const LRESULT answer = TellNotify(window, *header);
-    if (alive)
-    {
-        m_emulated = outer;
-    }
-    return int(answer);
+    const Meanwhile emulated(Window(), m_emulated);
+    return int(TellNotify(window, *header));
 }
 
 // Asks (TVN_SELCHANGING) or tells (TVN_SELCHANGED) that an item is being selected or deselected.
