@@ -1,7 +1,6 @@
 // The report list: its columns, their widths in either kind of mode, and the header's messages.
 
 #include "CustomListCtrl.h"
-#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/Meanwhile.h"

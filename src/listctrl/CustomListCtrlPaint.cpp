@@ -1,7 +1,6 @@
 // The report list: painting rows, cells and grid lines.
 
 #include "CustomListCtrl.h"
-#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/Meanwhile.h"

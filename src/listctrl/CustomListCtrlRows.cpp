@@ -1,7 +1,6 @@
 // The report list: selecting rows, and the keys.
 
 #include "CustomListCtrl.h"
-#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/KeyState.h"

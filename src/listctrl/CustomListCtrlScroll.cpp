@@ -2,7 +2,6 @@
 
 #include "CustomListCtrl.h"
 #include "GMSUtil.h"
-#include "OnBoardUIGeneral.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
 #include "modes/LabelEdit.h"
