@@ -188,12 +188,6 @@ void CCustomListCtrl::ForgetWindow()
     m_fitting = false;
     m_activating = false;
     m_labelDue = false;
-    m_bars->filling.BeginAfresh();
-    m_bars->themeFontDue = false;
-    m_bars->labelRow = -1;
-    m_bars->viewSet = false;
-    m_bars->stepsBack = false;
-    m_bars->hinting = false;
     m_fittedColumn = -1;
     m_columnWidths.clear();
     m_view.reset();

@@ -28,6 +28,21 @@ public:
 
     scroll::Filling filling{*this};
 
+    // For another window. pressedIn is set by each press, and editsLabels where the header is left,
+    // of which the platform is told.
+    void BeginAfresh()
+    {
+        BarHost::BeginAfresh();
+        filling.BeginAfresh();
+        viewDue = false;
+        themeFontDue = false;
+        labelRow = -1;
+        labelAwaited = false;
+        viewSet = false;
+        stepsBack = false;
+        hinting = false;
+    }
+
     // What the mode before had in sight is still to be brought back.
     bool viewDue = false;
     // The next font of the standard mode is that of a restyling, which the headings do not share.
