@@ -8,6 +8,7 @@
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
 #include "paint/Metrics.h"
+#include "scroll/PlatformDrag.h"
 
 #include <algorithm>
 #include <utility>
@@ -49,7 +50,7 @@ void CCustomFormView::AppModeChanged(APPMODE newMode, APPMODE oldMode)
     {
         m_restyled = true;
         const WindowAlive alive(*this);
-        dialogs::EndPlatformScrolling(*this);
+        scroll::EndPlatformScrolling(*this);
         if (!alive)
         {
             return;

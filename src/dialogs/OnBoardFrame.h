@@ -52,11 +52,6 @@ struct Children
 // and may end in that.
 Children ChildrenOf(const CWnd& window, bool scaledLater);
 
-// Before a change of mode comes to a window: ends the drag or the press of a bar of the platform's
-// that it or a child of it has. What they show would jump else with the next move of the pointer,
-// beside which the bar lies elsewhere by then. They may end in it.
-void EndPlatformScrolling(const CWnd& window);
-
 // After a change of mode: children, frame and colours follow. Children in the standard font get the
 // on-board one and back, so that what the platform draws fits its place in every mode. In the
 // standard mode the window gets the styles back that TakePlatformCaption took, and taken is
