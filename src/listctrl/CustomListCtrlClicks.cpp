@@ -55,38 +55,6 @@ void CCustomListCtrl::OnLButtonUp(UINT, CPoint point)
     }
 }
 
-// The edit of a label begins as the platform's does, by the click on a row that was selected
-// before. In a scrolled list that knows of a click on another row.
-void CCustomListCtrl::AwaitLabelEdit(const CPoint& point)
-{
-    const WindowAlive alive(*this); // an owner may be asked for the label
-    CRect label(LVIR_LABEL, 0, 0, 0);
-    const bool known = Ask(LVM_GETITEMRECT, WPARAM(m_bars->labelRow), LPARAM(&label)) != 0;
-    if (!alive)
-    {
-        return;
-    }
-    label.OffsetRect(m_drawOffset);
-    if (!known || !label.PtInRect(point) || (GetStyle() & LVS_EDITLABELS) == 0 ||
-        SetTimer(m_bars->LabelTimer(), ::GetDoubleClickTime(), nullptr) == 0)
-    {
-        m_bars->labelRow = -1;
-    }
-    m_bars->labelAwaited = m_bars->labelRow >= 0;
-}
-
-void CCustomListCtrl::EditClickedLabel()
-{
-    const WindowAlive alive(*this);
-    KillTimer(m_bars->LabelTimer());
-    const int row = std::exchange(m_bars->labelRow, -1);
-    if (InOnBoard() && row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)) &&
-        ::GetFocus() == GetSafeHwnd() && IsSelected(row) && alive)
-    {
-        SendMessage(LVM_EDITLABELW, WPARAM(row)); // as the platform's own click, for any letters
-    }
-}
-
 void CCustomListCtrl::OnLButtonDblClk(UINT, CPoint)
 {
     m_bars->pressedIn = COnBoardUIGeneral::GetAppMode();

@@ -4,11 +4,10 @@
 #include "GMSUtil.h"
 #include "listctrl/ListCtrlBars.h"
 #include "listctrl/ListLayout.h"
-#include "modes/LabelEdit.h"
 #include "modes/Meanwhile.h"
 #include "modes/WindowAlive.h"
 
-#include <utility>
+#include <algorithm>
 
 // Painting the bars ------------------------------------------------------------------------------
 
@@ -294,109 +293,6 @@ void CCustomListCtrl::MoveTo(int axis, int position)
     {
         Invalidate(FALSE);
         DrawBars();
-    }
-}
-
-// The row is painted anew as it shows the focus.
-void CCustomListCtrl::EndLabelEdit()
-{
-    m_bars->labelRow = -1;
-    ::EndLabelEdit(*this, Ask(LVM_GETEDITCONTROL));
-}
-
-// The edit of a label stays with its row, which has the focus, when the rows become higher or less
-// high; it ends when the row is not in sight any more, unless it is to be brought there.
-void CCustomListCtrl::FollowLabelEdit(bool bring)
-{
-    const auto edit = HWND(Ask(LVM_GETEDITCONTROL));
-    const int row = edit == nullptr ? -1 : NextRow(-1, LVNI_FOCUSED);
-    CRect label(LVIR_LABEL, 0, 0, 0);
-    const WindowAlive alive(*this);
-    if (edit == nullptr || (row >= 0 && !Ask(LVM_GETITEMRECT, WPARAM(row), LPARAM(&label))))
-    {
-        return;
-    }
-    if (alive && bring && row >= 0 && m_vBar.ShowScrollBar())
-    {
-        MoveTo(SB_VERT, listctrl::TopToShow(row, TopRow(), RowsInSight()));
-    }
-    if (!alive)
-    {
-        return;
-    }
-    label.OffsetRect(m_drawOffset);
-    CRect area;
-    GetClientRect(&area);
-    area.top = HeaderBottom();
-    if (!PlaceLabelEdit(edit, label, area, Ask(WM_GETFONT)))
-    {
-        EndLabelEdit();
-    }
-}
-
-// Its row and the beginning of its column come into sight first.
-LRESULT CCustomListCtrl::OnEditLabel(WPARAM wParam, LPARAM)
-{
-    const WindowAlive alive(*this);
-    const int row = int(wParam);
-    m_labelDue = InOnBoard();
-    if (m_labelDue && row >= 0 && row < int(Ask(LVM_GETITEMCOUNT)))
-    {
-        CRect heading;
-        CRect client;
-        GetClientRect(&client);
-        BringIntoSight(row);
-        if (alive && m_scrollUnit.cx > 0 && HeaderItemRect(0, heading) &&
-            (heading.left + m_drawOffset.x < 0 || heading.left + m_drawOffset.x >= client.right))
-        {
-            MoveTo(SB_HORZ, int(heading.left / m_scrollUnit.cx));
-        }
-    }
-    if (alive)
-    {
-        LetPlatformEdit(true);
-    }
-    const LRESULT edit = alive ? Default() : 0;
-    if (alive && m_bars->IsLaidOut())
-    {
-        LetPlatformEdit(false);
-    }
-    return alive ? edit : 0;
-}
-
-// The platform would begin an edit by itself some time after a click, and select its row: that of
-// an earlier click, or of one before the list was scrolled. On-board the list waits by itself, and
-// the platform's knows of no labels that can be edited, but while one is: that is not disturbed.
-void CCustomListCtrl::LetPlatformEdit(bool lets)
-{
-    STYLESTRUCT styles = {GetStyle(), GetStyle()};
-    if (!lets && Ask(LVM_GETEDITCONTROL) != 0)
-    {
-        return; // until the next press
-    }
-    if (std::exchange(m_bars->editsLabels, lets) != lets && (styles.styleNew & LVS_EDITLABELS) != 0)
-    {
-        OnStyleChanged(GWL_STYLE, &styles);
-    }
-}
-
-void CCustomListCtrl::OnStyleChanged(int which, LPSTYLESTRUCT styles)
-{
-    if (styles == nullptr)
-    {
-        return; // nothing is said to have changed
-    }
-    STYLESTRUCT known = *styles;
-    if (which == GWL_STYLE && !m_bars->editsLabels)
-    {
-        known.styleNew &= ~DWORD{LVS_EDITLABELS};
-    }
-    const WindowAlive alive(*this);
-    Ask(WM_STYLECHANGED, WPARAM(which), reinterpret_cast<LPARAM>(&known));
-    if (alive && which == GWL_STYLE &&
-        ((styles->styleOld ^ styles->styleNew) & LVS_TYPEMASK) != 0 && InOnBoard())
-    {
-        FitLastColumn(); // of a report again
     }
 }
 
