@@ -232,7 +232,7 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
 {
     const WindowAlive alive(*this);
     const int count = ColumnCount();
-    // Of the header: the list tells of columns, and changes them, in a report only.
+    // Of the header: the list tells of columns in a report only.
     const auto widthNow = [this](int column) {
         CRect heading(0, 0, 0, 0);
         HeaderItemRect(column, heading);
@@ -268,10 +268,18 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         const int wanted = toOnBoard ? width.onBoard
                            : kept    ? width.standard
                                      : listctrl::StandardWidth(now);
-        HDITEM heading = {};
-        heading.mask = HDI_WIDTH;
-        heading.cxy = wanted;
-        AskHeader(HDM_SETITEM, WPARAM(column), reinterpret_cast<LPARAM>(&heading));
+        // Not by LVM_SETCOLUMNWIDTH, which the list takes in a report only.
+        LVCOLUMN wide = {};
+        wide.mask = LVCF_WIDTH;
+        wide.cx = wanted;
+        if (!Ask(LVM_SETCOLUMN, WPARAM(column), reinterpret_cast<LPARAM>(&wide)) && alive)
+        {
+            // While the object goes over the window the list does not answer it yet.
+            HDITEM heading = {};
+            heading.mask = HDI_WIDTH;
+            heading.cxy = wanted;
+            AskHeader(HDM_SETITEM, WPARAM(column), reinterpret_cast<LPARAM>(&heading));
+        }
     }
 }
 
