@@ -183,7 +183,8 @@ bool MovesCaret(UINT message)
 bool ResetsBranch(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return message == TVM_EXPAND && (wParam & TVE_COLLAPSERESET) == TVE_COLLAPSERESET &&
-           lParam != 0;
+           (wParam & TVE_TOGGLE) == TVE_COLLAPSE &&
+           TreeItems::Real(HTREEITEM(lParam)) != nullptr;
 }
 
 } // namespace

@@ -253,8 +253,9 @@ TEST_F(MultiTreeTest, AClosedBranchHidesNoSelection)
         EXPECT_EQ(tree.GetItemState(a, TVIS_EXPANDED), 0U);
         EXPECT_EQ(SelectedTexts(tree), key ? "ae" : "e");
     }
+    tree.Expand(a, TVE_TOGGLE | TVE_COLLAPSERESET);
+    EXPECT_NE(tree.GetItemState(a, TVIS_EXPANDED), 0U) << "a toggled branch that was closed opens";
     AddItems(tree, "0123456789", a);
-    tree.Expand(a, TVE_EXPAND);
     tree.MoveWindow(20, 20, 300, 60);
     tree.Select(c, TVGN_FIRSTVISIBLE);
     tree.Expand(a, TVE_COLLAPSE | TVE_COLLAPSERESET); // the first row in sight goes
