@@ -15,7 +15,7 @@ public:
 
 protected:
     afx_msg void OnPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     // Messages after which the platform's label draws itself at once.
     afx_msg LRESULT OnLookChanged(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()

@@ -30,7 +30,8 @@ public:
     COLORREF SetBackgroundColor(int useDefault, COLORREF color);
 
     // @{
-    // Draw the control, or a group box, in answer to the message in progress.
+    // Draw the control, or a group box, in answer to the message in progress. WM_PRINTCLIENT asks
+    // no heir: what an override draws is on the window, not in the context that comes with it.
     virtual void Draw();
     virtual void DrawGroupBox();
     // @}
@@ -55,7 +56,7 @@ protected:
 
     afx_msg int OnCreate(LPCREATESTRUCT cs);
     afx_msg void OnPaint();
-    afx_msg LRESULT OnPrintClient(WPARAM, LPARAM) { return OnPaint(), 0; }
+    afx_msg LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
     afx_msg void OnUpdateUIState(UINT action, UINT element);
     afx_msg void OnEnable(BOOL enable);
     afx_msg void OnSysColorChange();

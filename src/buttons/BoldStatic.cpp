@@ -66,6 +66,16 @@ void CBoldStatic::OnPaint()
     dc.DrawText(text, &area, DT_SINGLELINE);
 }
 
+LRESULT CBoldStatic::OnPrintClient(WPARAM wParam, LPARAM lParam)
+{
+    if (COnBoardUIGeneral::InOnBoardMode())
+    {
+        return CCustomStatic::OnPrintClient(wParam, lParam);
+    }
+    OnPaint();
+    return 0;
+}
+
 LRESULT CBoldStatic::OnLookChanged(WPARAM, LPARAM)
 {
     const WindowAlive alive(*this); // the parent is told

@@ -221,6 +221,17 @@ void CCustomStatic::OnPaint()
     Draw();
 }
 
+// The looks of this class, for an heir has only its window to draw on.
+LRESULT CCustomStatic::OnPrintClient(WPARAM, LPARAM)
+{
+    if (!COnBoardUIGeneral::InOnBoardMode() || !m_groupBox)
+    {
+        return Default();
+    }
+    CCustomStatic::DrawGroupBox();
+    return 0;
+}
+
 // The platform would draw the group box in its own look as soon as focus cues change.
 void CCustomStatic::OnUpdateUIState(UINT, UINT)
 {
