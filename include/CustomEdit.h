@@ -156,6 +156,7 @@ private:
     bool IsReady();
     int FirstLine();
     View CurrentView();
+    bool ShowsAllLines();
     void FollowText();
     bool TextMoved();
     void ToFirstLine();

@@ -123,11 +123,12 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         m_bars->Erased();
     }
-    if (alive && AsksThumb(message, wParam) && (FollowMode() || (alive && m_wantsBar)) &&
-        (GetStyle() & (ES_MULTILINE | WS_VSCROLL)) == ES_MULTILINE)
+    if (alive && AsksThumb(message, wParam) &&
+        (GetStyle() & (ES_MULTILINE | WS_VSCROLL)) == ES_MULTILINE &&
+        (m_wantsBar || ShowsAllLines()))
     {
-        // The platform takes an edit whose bar was taken away for one that has none, answers in
-        // hundredths, and divides by zero where the lines just fill it.
+        // The platform takes an edit whose bar was taken away for one that has none and answers in
+        // hundredths, as it does for those. It divides by zero where the lines just fill the edit.
         const int across = (GetStyle() & WS_HSCROLL) != 0 ? ::GetScrollPos(m_hWnd, SB_HORZ) : 0;
         return message == EM_GETTHUMB ? MAKELRESULT(FirstLine(), across) : 0;
     }
@@ -190,6 +191,12 @@ CCustomEdit::View CCustomEdit::CurrentView()
     }
     view.last = std::min(view.last, std::max(view.first, view.lines - 1));
     return view;
+}
+
+bool CCustomEdit::ShowsAllLines()
+{
+    const View view = CurrentView();
+    return view.first == 0 && view.last + 1 == view.lines;
 }
 
 void CCustomEdit::UpdateScrollPosFromText()

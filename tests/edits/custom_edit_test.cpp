@@ -207,6 +207,21 @@ TEST_F(EditTest, AnOnBoardTripLeavesThePlatformsBarAsTheHostHadIt)
     }
 }
 
+TEST_F(EditTest, TheThumbOfAnEditThatNeverHadABarIsThePlatformsInEveryMode)
+{
+    auto& edit = AddEdit(60, ManyLines & ~DWORD(WS_VSCROLL));
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        SetMode(mode, edit);
+        edit.Fill(60);
+        edit.LineScroll(7);
+        const int hidden = edit.GetLineCount() - edit.VisibleLines();
+        EXPECT_EQ(edit.SendMessage(EM_GETTHUMB), 7 * 100 / hidden) << mode;
+        edit.Fill(edit.VisibleLines());
+        EXPECT_EQ(edit.SendMessage(EM_GETTHUMB), 0) << "for which it would divide by zero";
+    }
+}
+
 TEST_F(EditTest, EnteringAModeBringsTextAndBarTogetherOnce)
 {
     auto& edit = AddEdit(100);
