@@ -37,7 +37,8 @@ inline bool IsOfClass(HWND window, const char* wanted)
 // of their own: the platform's, in every mode.
 inline bool HasPlatformFrame(HWND window)
 {
-    return (::GetWindowLongPtr(window, GWL_STYLE) & WS_BORDER) != 0 ||
+    constexpr DWORD frames = WS_BORDER | WS_DLGFRAME | WS_THICKFRAME;
+    return (::GetWindowLongPtr(window, GWL_STYLE) & frames) != 0 ||
            (::GetWindowLongPtr(window, GWL_EXSTYLE) & (WS_EX_STATICEDGE | WS_EX_DLGMODALFRAME)) !=
                0;
 }

@@ -103,8 +103,8 @@ TEST_F(StaticOnBoard, AClientEdgeBecomesABorderOfThreePixels)
 TEST_F(StaticOnBoard, AThinFrameStaysThePlatforms)
 {
     const std::pair<DWORD, DWORD> frames[] = {
-        {SS_ETCHEDHORZ, 0}, {SS_ETCHEDVERT, 0},    {SS_ETCHEDFRAME, 0},     {SS_SUNKEN, 0},
-        {WS_BORDER, 0},     {0, WS_EX_STATICEDGE}, {0, WS_EX_DLGMODALFRAME}};
+        {SS_ETCHEDHORZ, 0}, {SS_ETCHEDVERT, 0},    {SS_ETCHEDFRAME, 0},      {SS_SUNKEN, 0},
+        {WS_BORDER, 0},     {0, WS_EX_STATICEDGE}, {0, WS_EX_DLGMODALFRAME}, {WS_DLGFRAME, 0}};
     for (const auto& [style, exStyle] : frames)
     {
         SCOPED_TRACE(testing::Message() << std::hex << style << ", " << exStyle);
