@@ -72,7 +72,8 @@ protected:
 private:
     UINT m_passwordChar = 0;    // put aside while the prompt shows; 0: the text is shown
     bool m_showingText = false; // the prompt comes or goes
-    CString m_shownPrompt;      // what the edit made of the prompt that shows
+    CString m_promptPutIn;      // the prompt that shows
+    CString m_shownPrompt;      // what the edit made of it
     bool m_promptDue = false;   // the edit was there before the object: its next message puts it in
 
     bool BeginPrompt();

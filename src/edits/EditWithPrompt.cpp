@@ -32,6 +32,7 @@ void EditWithPrompt::PreSubclassWindow()
     CEdit::PreSubclassWindow();
     m_showingPrompt = m_prompt.IsEmpty() ? 0 : 1; // each window of the object begins with it
     m_passwordChar = 0;
+    m_promptPutIn.Empty();
     m_shownPrompt.Empty();
     m_showingText = false;
     m_promptDue = false;
@@ -90,24 +91,26 @@ CString EditWithPrompt::ShownText()
 bool EditWithPrompt::IsPromptThere()
 {
     return m_showingPrompt && !m_promptDue && GetSafeHwnd() != nullptr &&
-           m_shownPrompt.IsEmpty() == m_prompt.IsEmpty() && ShownText() == m_shownPrompt;
+           m_promptPutIn == m_prompt && ShownText() == m_shownPrompt;
 }
 
 void EditWithPrompt::ShowPrompt(bool there)
 {
     const WindowAlive alive(*this);
-    const CString shown = m_prompt;
+    CString putIn = m_prompt;
     if (!there)
     {
-        ShowText(shown);
+        ShowText(putIn);
     }
     // The parent may answer that with another prompt. The next one waits: it may do so for ever.
-    if (alive && m_showingPrompt && m_prompt != shown && (!m_prompt.IsEmpty() || LeavePrompt()))
+    if (alive && m_showingPrompt && m_prompt != putIn && (!m_prompt.IsEmpty() || LeavePrompt()))
     {
-        ShowText(CString(m_prompt));
+        putIn = m_prompt;
+        ShowText(putIn);
     }
     if (alive && m_showingPrompt && !there)
     {
+        m_promptPutIn = putIn;
         m_shownPrompt = ShownText();
     }
     if (alive)
@@ -193,14 +196,14 @@ bool EditWithPrompt::PutDuePromptIn()
 
 void EditWithPrompt::SetPromptText(const char* prompt)
 {
-    const CString before = std::exchange(m_prompt, CString(prompt != nullptr ? prompt : ""));
+    m_prompt = CString(prompt != nullptr ? prompt : "");
     if (!PutDuePromptIn() || !m_showingPrompt || m_showingText)
     {
         return; // one that is on its way is followed by this one
     }
     if (!m_prompt.IsEmpty() || LeavePrompt())
     {
-        ShowPrompt(m_prompt == before && IsPromptThere());
+        ShowPrompt(IsPromptThere());
     }
 }
 

@@ -145,6 +145,13 @@ TEST_F(SmallEditsTest, AParentMayBringThePromptBackWhereverTheEditIsEmpty)
         edit.Reset();
         EXPECT_EQ(tellings, *each == '\0') << "the prompt is there";
     }
+    std::string count; // another one each time: that which waits comes when it is asked for
+    Host().OnCode(EN_CHANGE, [&](ToldMessage&) { edit.SetPromptText((count += 'I').c_str()); });
+    edit.Reset();
+    EXPECT_EQ(edit.Shown(), "II");
+    Host().hook = nullptr;
+    edit.Reset();
+    EXPECT_EQ(edit.Shown(), "III");
     edit.DestroyWindow();
 }
 
@@ -178,8 +185,9 @@ TEST_F(SmallEditsTest, ThePromptOfAnEditThatWasThereIsNoTextEither)
     using Give = void (*)(EditWithPrompt&, const char*);
     const Give set = [](EditWithPrompt& edit, const char* text) { edit.SetWindowText(text); };
     const Give replace = [](EditWithPrompt& edit, const char* text) { edit.ReplaceSel(text); };
+    const Give prompt = [](EditWithPrompt& edit, const char*) { edit.SetPromptText("Search"); };
     const std::tuple<Give, int, const char*> cases[] = {
-        {nullptr, 1, ""}, {nullptr, 2, "EDDF"}, {set, 1, ""}, {replace, 3, ""}};
+        {nullptr, 1, ""}, {nullptr, 2, "EDDF"}, {set, 1, ""}, {replace, 3, ""}, {prompt, 1, ""}};
     for (const auto& [give, changes, answer] : cases)
     {
         SCOPED_TRACE(testing::Message() << changes << answer);
@@ -200,15 +208,15 @@ TEST_F(SmallEditsTest, ThePromptOfAnEditThatWasThereIsNoTextEither)
         });
         taker.SubclassWindow(before.UnsubclassWindow());
         EXPECT_EQ(TextOf(taker), "");
-        const std::string given(give != nullptr ? "EDDF" : answer);
+        const std::string given(give == set || give == replace ? "EDDF" : answer);
         if (give != nullptr)
         {
-            give(taker, value);
-            EXPECT_STREQ(value, "EDDF");
+            give(taker, "EDDF");
+            EXPECT_STREQ(value, given.c_str());
         }
         PumpAll(); // without another message it comes with the next paint
         EXPECT_EQ(TextOf(taker), given);
-        EXPECT_EQ(taker.Shown(), given.empty() ? "<Enter text here>" : given);
+        EXPECT_EQ(taker.Shown(), given.empty() ? taker.GetPromptText().GetString() : given);
         EXPECT_EQ(read.find('<'), std::string::npos);
         EXPECT_EQ(told, changes);
         Host().hook = nullptr;
