@@ -14,8 +14,12 @@ public:
         const MSG message = *CWnd::GetCurrentMessage();
         if (message.message == WM_PRINTCLIENT && message.hwnd == window.m_hWnd)
         {
-            CDC* const given = CDC::FromHandle(reinterpret_cast<HDC>(message.wParam));
-            m_dc = given != nullptr ? given : &m_none;
+            m_dc = CDC::FromHandle(reinterpret_cast<HDC>(message.wParam));
+            if (m_dc == nullptr)
+            {
+                m_none.CreateCompatibleDC(nullptr); // its pixel takes what is drawn for nobody
+                m_dc = &m_none;
+            }
             m_given.emplace(*m_dc);
             window.GetClientRect(&m_area);
         }
