@@ -350,7 +350,7 @@ void PaintOnBoardFrame(CDC& dc, const FrameLook& look)
 
 void DrawOnBoardFrame(CWnd& window, int captionHeight, bool active, bool centred)
 {
-    if (!::IsWindowVisible(window.GetSafeHwnd()))
+    if (!scroll::IsFrameSeen(window))
     {
         return;
     }
@@ -366,7 +366,11 @@ void DrawOnBoardFrame(CWnd& window, int captionHeight, bool active, bool centred
     look.active = active;
     look.centred = centred;
 
-    CWindowDC dc(&window);
+    OwnContext dc(window, OwnContext::Whole);
+    if (!dc)
+    {
+        return;
+    }
     dc.ExcludeClipRect(scroll::ClientRectInWindow(window));
     CRect band;
     band.IntersectRect(CaptionArea(look.window, captionHeight), look.window);

@@ -5,6 +5,7 @@
 #include "access/Strip.h"
 #include "modes/KeyState.h"
 #include "modes/WindowAlive.h"
+#include "paint/GdiGuards.h"
 
 #include <algorithm>
 
@@ -122,8 +123,10 @@ void CustomToolbar::OnPaint()
     Default();
     if (alive && shows)
     {
-        CClientDC dc(this);
-        dc.DrawFocusRect(&place);
+        if (OwnContext dc(m_hWnd, OwnContext::Client); dc)
+        {
+            dc.DrawFocusRect(&place);
+        }
     }
 }
 
