@@ -132,7 +132,7 @@ private:
     void ReturnThemeFont();
     void DrawOB(CDC& dc);
     void DrawOBItem(CDC& dc, int item, bool last, const CRect& client);
-    void DrawStdArrows();
+    void DrawStdArrows(CDC& dc);
     int WidthTo(int x, const CRect& item) const;
     LRESULT TellTracking(int code, int wideCode, int column, int width);
     void ApplyDrag(int column, int x);

@@ -50,9 +50,17 @@ void CCustomListCtrlHdr::OnPaint()
     if (!COnBoardUIGeneral::InOnBoardMode())
     {
         Default();
-        if (alive)
+        const MSG message = *GetCurrentMessage();
+        if (alive && message.message != WM_PRINTCLIENT)
         {
-            DrawStdArrows();
+            if (OwnContext dc(m_hWnd, OwnContext::Client); dc)
+            {
+                DrawStdArrows(dc);
+            }
+        }
+        else if (CDC* const given = CDC::FromHandle(HDC(message.wParam)); alive && given != nullptr)
+        {
+            DrawStdArrows(*given);
         }
         return;
     }
@@ -202,7 +210,7 @@ void CCustomListCtrlHdr::DrawStdSortArrow(CDC* dc, CRect item, int format)
 }
 
 // Over the platform's own picture of the items.
-void CCustomListCtrlHdr::DrawStdArrows()
+void CCustomListCtrlHdr::DrawStdArrows(CDC& dc)
 {
     const WindowAlive alive(*this);
     const int count = m_arrows.GetSafeHandle() == nullptr ? 0 : GetItemCount();
@@ -214,7 +222,6 @@ void CCustomListCtrlHdr::DrawStdArrows()
         if (GetItem(item, &data) && alive && (data.fmt & SortFormats) != 0 &&
             ItemRect(item, rect) && alive)
         {
-            CClientDC dc(this);
             // Some platforms draw an arrow of their own there, which must not look out beside ours.
             CRect room = rect;
             room.DeflateRect(0, StdArrowMargin);

@@ -1,6 +1,7 @@
 // The header: its look, its place over the columns, and columns resized with the pointer.
 
 #include "listctrl/list_for_tests.h"
+#include "support/Canvas.h"
 
 namespace {
 
@@ -116,6 +117,9 @@ TEST_F(ListCtrlTest, TheApplicationsArrowsStandAtTheRightInTheStandardMode)
         constexpr COLORREF Arrow = RGB(128, 0, 0);
         EXPECT_EQ(seen.Count(Arrow, CRect(CPoint(item.right - 15, top), CSize(8, 8))), 64);
         EXPECT_EQ(seen.Count(Arrow), 64) << format;
+        Canvas canvas(ClientRectOf(list.m_header).Width(), item.Height());
+        list.m_header.SendMessage(WM_PRINTCLIENT, WPARAM(canvas.DC().GetSafeHdc()), PRF_CLIENT);
+        EXPECT_EQ(canvas.Picture().Count(Arrow), 64) << "printed, " << format;
     }
 }
 
