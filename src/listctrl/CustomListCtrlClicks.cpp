@@ -37,6 +37,10 @@ void CCustomListCtrl::OnLButtonUp(UINT, CPoint point)
 {
     const WindowAlive alive(*this);
     const Meanwhile activating(*this, m_activating);
+    if (m_bars->IsPressOfOtherMode())
+    {
+        m_pressedRow = m_bars->labelRow = -1;
+    }
     if (const int row = std::exchange(m_pressedRow, -1); row >= 0)
     {
         SelectAlone(row);

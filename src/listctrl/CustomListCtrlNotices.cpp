@@ -47,16 +47,20 @@ bool CCustomListCtrl::KeepsClick(NMITEMACTIVATE& told)
 {
     const WindowAlive alive(*this);
     TakeBackPress(); // the parent looks at the selection
-    // A finger that was down while the mode changed lies on whatever came there.
-    if (!alive || m_bars->pressedIn.value_or(COnBoardUIGeneral::GetAppMode()) !=
-                      COnBoardUIGeneral::GetAppMode())
+    if (!alive)
     {
         return true;
     }
     // Of a drag no more is told than its row, which is that of the press, as a right click's is.
     const bool drag = told.hdr.code == UINT(LVN_BEGINDRAG) || told.hdr.code == UINT(LVN_BEGINRDRAG);
-    m_pressedRow = drag ? -1 : m_pressedRow;
-    m_bars->labelRow = drag ? -1 : m_bars->labelRow;
+    if (drag || m_bars->IsPressOfOtherMode())
+    {
+        m_pressedRow = m_bars->labelRow = -1;
+    }
+    if (m_bars->IsPressOfOtherMode())
+    {
+        return true;
+    }
     if (!InOnBoard())
     {
         return false;

@@ -5,6 +5,7 @@
 
 #include "AppMode.h"
 #include "CustomListCtrl.h"
+#include "OnBoardUIGeneral.h"
 #include "modes/WindowAlive.h"
 #include "scroll/BarHost.h"
 #include "scroll/Filling.h"
@@ -47,8 +48,14 @@ public:
     bool viewDue = false;
     // The next font of the standard mode is that of a restyling, which the headings do not share.
     bool themeFontDue = false;
-    // The mode in which a button of the pointer went down on the rows, until it comes up.
+    // The mode in which a button of the pointer last went down on the rows; of the left one until
+    // it comes up.
     std::optional<APPMODE> pressedIn;
+    // A finger that was down while the mode changed lies on whatever came there.
+    bool IsPressOfOtherMode() const
+    {
+        return pressedIn && *pressedIn != COnBoardUIGeneral::GetAppMode();
+    }
     // Its label was clicked, and is edited unless a second click comes before the timer does.
     int labelRow = -1;
     bool labelAwaited = false; // the button has come up over it
