@@ -88,9 +88,13 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     {
         return;
     }
-    m_bold.DeleteObject();
+    const bool hadBold = m_bold.DeleteObject() != FALSE;
     if (!m_onBoard || m_following)
     {
+        if (hadBold && !m_following)
+        {
+            FollowLabelEdit(true); // that of a bold item may have it since an on-board mode
+        }
         return;
     }
     const auto font = reinterpret_cast<HFONT>(wParam);
