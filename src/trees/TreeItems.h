@@ -105,14 +105,14 @@ private:
     HTREEITEM m_caret = nullptr;     // when the knowledge was last brought into step
     HTREEITEM m_unwritten = nullptr; // the caret, deselected here and not yet at the platform
     std::unordered_set<HTREEITEM> m_selected;
-    std::unordered_set<HTREEITEM> m_going;     // being deleted by the platform
-    int m_goingAll = 0;                        // depth of deletions of everything
-    int m_inPlatform = 0;                      // depth of messages in which the parent is told
+    std::unordered_set<HTREEITEM> m_going;  // being deleted by the platform
+    int m_goingAll = 0;                     // depth of deletions of everything
+    int m_inPlatform = 0;                   // depth of messages in which the parent is told
     std::unique_ptr<Postponed> m_postponed; // to be deleted when that is over
-    bool m_abandoned = false;     // the platform's tree does not hear of the window's end
-    HWND m_edit = nullptr;        // of a label
-    HTREEITEM m_edited = nullptr; // whose edit a message has begun, not the user
-    bool m_cancelling = false;    // that edit
+    bool m_abandoned = false;               // the platform's tree does not hear of the window's end
+    HWND m_edit = nullptr;                  // of a label
+    HTREEITEM m_edited = nullptr;           // whose edit a message has begun, not the user
+    bool m_cancelling = false;              // that edit
     // Outlives this object if a watch does.
     std::shared_ptr<WatchList> m_watches = std::make_shared<WatchList>();
 
@@ -156,6 +156,12 @@ public:
     const std::vector<HTREEITEM>& All() const { return m_items; }
     void Add(HTREEITEM item) { m_items.push_back(item); }
     void Set(std::vector<HTREEITEM> items) { m_items = std::move(items); }
+    HTREEITEM TakeLast()
+    {
+        const HTREEITEM last = m_items.back();
+        m_items.pop_back();
+        return last;
+    }
 
 private:
     std::shared_ptr<WatchList> m_list;

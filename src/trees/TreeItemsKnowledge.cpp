@@ -212,6 +212,11 @@ std::vector<HTREEITEM> TreeItems::Forget(HTREEITEM branch, bool itself)
     }
     for (WatchedItems* watch : *m_watches)
     {
+        if (all.size() == 1) // as when many that were held go one by one
+        {
+            std::replace(watch->m_items.begin(), watch->m_items.end(), all[0], HTREEITEM());
+            continue;
+        }
         for (HTREEITEM& item : watch->m_items)
         {
             if (item != nullptr && going.count(item) != 0)
@@ -284,11 +289,18 @@ void TreeItems::DeletePostponed()
             m_remove(TVM_EXPAND, TVE_COLLAPSE | TVE_COLLAPSERESET, LPARAM(branches[index]));
         }
     }
-    for (size_t index = 0; index < items.Size() && alive; ++index)
+    if (!alive)
     {
-        if (items[index] != nullptr)
+        return;
+    }
+    // Each is looked for among those that are left, of which there may be many.
+    WatchedItems left(*this, {items.All().rbegin(), items.All().rend()});
+    postponed->items.Set({});
+    while (alive && left.Size() > 0)
+    {
+        if (const HTREEITEM item = left.TakeLast(); item != nullptr)
         {
-            m_remove(TVM_DELETEITEM, 0, LPARAM(items[index]));
+            m_remove(TVM_DELETEITEM, 0, LPARAM(item));
         }
     }
 }
