@@ -5,6 +5,7 @@
 #include "modes/PressAndHold.h"
 #include "modes/WindowAlive.h"
 #include "modes/WindowFacts.h"
+#include "paint/GdiGuards.h"
 #include "paint/Metrics.h"
 #include "paint/Palette.h"
 #include "scroll/ScrollCodes.h"
@@ -292,11 +293,11 @@ void TreeBars::Draw()
 void TreeBars::DrawBorder()
 {
     m_bordered.SetRectEmpty();
-    if (!scroll::IsFrameSeen(Window()))
+    OwnContext dc(Window(), OwnContext::Whole);
+    if (!dc || !scroll::IsFrameSeen(Window()))
     {
         return;
     }
-    CWindowDC dc(&Window());
     const CRect window = AreaOf(Window());
     const CRect client = scroll::ClientRectInWindow(Window());
     m_bordered = client;
