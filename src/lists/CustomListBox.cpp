@@ -131,7 +131,7 @@ void CCustomListBox::BeginAfresh()
     m_made = m_refitting = false;
     m_standardKnown = !COnBoardUIGeneral::InOnBoardMode();
     m_bars->filling.BeginAfresh();
-    m_bars->givesPlaceBack = m_bars->layingOut = false;
+    m_bars->givesPlaceBack = m_bars->layingOut = m_bars->endsFilling = false;
     m_bars->size.BeginAfresh();
     m_bars->ForgetRows();
     HideBars();

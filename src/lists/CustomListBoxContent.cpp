@@ -296,6 +296,7 @@ LRESULT CCustomListBox::OnDeleteString(WPARAM wParam, LPARAM)
     {
         CountWidth(index, -1);
     }
+    const int top = Ask(LB_GETTOPINDEX);
     // The owner hears of the deletion (WM_DELETEITEM) and may end the list there.
     const LRESULT result = Default();
     if (alive && result < 0 && counted)
@@ -305,7 +306,7 @@ LRESULT CCustomListBox::OnDeleteString(WPARAM wParam, LPARAM)
     if (alive && result >= 0 && FollowMode())
     {
         m_bars->standardHeights.clear();
-        if (index < Ask(LB_GETTOPINDEX))
+        if (index < top)
         {
             Invalidate(); // not every platform does, though all rows in sight are others
         }
