@@ -204,6 +204,7 @@ void CCustomListCtrl::FitLastColumn()
         return;
     }
     m_fitting = false;
+    m_fittedColumn = last; // also where the mode has gone and come back on the way
     if (!m_bars->IsLaidOut())
     {
         // The list has left the mode on the way; the columns had their widths back before these.
