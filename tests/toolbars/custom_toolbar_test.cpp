@@ -145,9 +145,8 @@ TEST_F(CustomToolbarTest, IsDarkWithLightTextsAndArrowsOnBoardWhateverStandsBehi
 {
     for (const DWORD style : {DWORD(TBSTYLE_FLAT | TBSTYLE_LIST), DWORD(0)})
     {
-        OrderedBar bar(Host(),
-                       {{1, I_IMAGENONE, BTNS_DROPDOWN}, {2, I_IMAGENONE, BTNS_WHOLEDROPDOWN}},
-                       style);
+        OrderedBar bar(
+            Host(), {{1, I_IMAGENONE, BTNS_DROPDOWN}, {2, I_IMAGENONE, BTNS_WHOLEDROPDOWN}}, style);
         const auto shows = [&](COLORREF color) {
             Repaint(bar);
             return Settled(bar).Count(color) > 0;
@@ -160,15 +159,19 @@ TEST_F(CustomToolbarTest, IsDarkWithLightTextsAndArrowsOnBoardWhateverStandsBehi
             EXPECT_TRUE(shows(RGB(50, 50, 50)) && shows(RGB(230, 230, 230))) << mode;
             EXPECT_FALSE(shows(black) || shows(face)) << mode << ' ' << style;
             EXPECT_TRUE(bar.SendMessage(WM_ERASEBKGND)) << "no context";
-            const CRect dropper = ItemRectOf(bar, 0);
-            const CPoint arrow(dropper.right - 3, dropper.bottom - 5);
-            const COLORREF before = WindowPixels(bar).At(arrow);
-            COLORREF open = before;
-            Host().OnCode(TBN_DROPDOWN, [&](ToldMessage&) { open = WindowPixels(bar).At(arrow); });
-            Click(ClientPoint(bar, arrow));
-            EXPECT_EQ(open, style == 0 ? RGB(50, 80, 110) : before) << "while its menu is open";
-            EXPECT_EQ(Settled(bar).At(arrow), before);
-            Host().hook = nullptr;
+            for (const int button : {0, 1}) // by its arrow, and by whatever part
+            {
+                const CRect dropper = ItemRectOf(bar, button);
+                const CPoint arrow(dropper.right - 3, dropper.bottom - 5);
+                const COLORREF before = WindowPixels(bar).At(arrow);
+                COLORREF open = before;
+                Host().OnCode(TBN_DROPDOWN,
+                              [&](ToldMessage&) { open = WindowPixels(bar).At(arrow); });
+                Click(ClientPoint(bar, button == 0 ? arrow : dropper.TopLeft() + CPoint(4, 4)));
+                EXPECT_EQ(open, style == 0 ? RGB(50, 80, 110) : before) << "while its menu is open";
+                EXPECT_EQ(Settled(bar).At(arrow), before);
+                Host().hook = nullptr;
+            }
         }
         EXPECT_TRUE(shows(black) && !shows(RGB(50, 50, 50)));
     }
