@@ -10,11 +10,11 @@
 class IEFB;
 
 // The edit of the library. In the standard mode it is the platform's edit. In an on-board mode
-// its client edge is a border of three pixels, in place of the platform's vertical scroll bar it has
-// a wide one of its own, painted in its non-client area, and in the two electronic-flight-bag modes it asks the host
-// for the on-screen keyboard when it is tapped, with ES_READONLY, too; to hide it at the end is the
-// host's business. It may be created, made from a dialog template or put over an existing edit, in
-// any mode, and follows mode changes both ways.
+// its client edge is a border of three pixels, in place of the platform's vertical scroll bar it
+// has a wide one of its own, painted in its non-client area, and in the two electronic-flight-bag
+// modes it asks the host for the on-screen keyboard when it is tapped, with ES_READONLY, too; to
+// hide it at the end is the host's business. It may be created, made from a dialog template or put
+// over an existing edit, in any mode, and follows mode changes both ways.
 //
 // Only an edit made with WS_VSCROLL gets the bar, and only while its text does not fit.
 class ONBOARDUI_API CCustomEdit : public CEdit
@@ -39,8 +39,8 @@ public:
 
     // From now on keys scroll nothing and change nothing but the clipboard, by Ctrl+C and
     // Ctrl+Insert; Tab, Enter and Escape are the dialog's. The bar scrolls and the pointer selects
-    // as before. There is no way back, nor for the object's next window. The host still sets the text, and in the standard mode so
-    // does the platform's context menu.
+    // as before. There is no way back, nor for the object's next window. The host still sets the
+    // text, and in the standard mode so does the platform's context menu.
     void SetFauxReadOnly() { m_fauxReadOnly = true; }
 
     // @{

@@ -70,8 +70,8 @@ bool ChoosesLines(UINT message, Effect effect)
     return effect == Effect::MayScroll || message == WM_SETTEXT || message == EM_SETHANDLE;
 }
 
-// Whether a user changes the text by it without a key or a character: undoing with Alt, pasting with
-// the middle button, an input method.
+// Whether a user changes the text by it without a key or a character: undoing with Alt, pasting
+// with the middle button, an input method.
 bool ChangesText(UINT message, WPARAM wParam)
 {
     switch (message)

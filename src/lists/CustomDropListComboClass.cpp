@@ -16,8 +16,8 @@ constexpr char ClassName[] = "CCUSTOMDROPLISTCOMBO";
 // Where a window without an object keeps the font that its dialog gave it.
 constexpr char FontProperty[] = "OnBoardUI.DropListCombo.Font";
 
-// Messages by which a window is put to use, or shown. By then its dialog has been initialised, and a
-// host's own object would be there.
+// Messages by which a window is put to use, or shown. By then its dialog has been initialised, and
+// a host's own object would be there.
 bool NeedsObject(UINT message)
 {
     return message == WM_PAINT || message == WM_PRINTCLIENT || message == WM_SETFOCUS ||

@@ -7,7 +7,6 @@
 #include "trees/DragImage.h"
 #include "trees/TreeSelection.h"
 
-
 using trees::TreeSelection;
 using trees::WatchedItem;
 using trees::WatchedItems;

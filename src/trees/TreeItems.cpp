@@ -183,8 +183,7 @@ bool MovesCaret(UINT message)
 bool ResetsBranch(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return message == TVM_EXPAND && (wParam & TVE_COLLAPSERESET) == TVE_COLLAPSERESET &&
-           (wParam & TVE_TOGGLE) == TVE_COLLAPSE &&
-           TreeItems::Real(HTREEITEM(lParam)) != nullptr;
+           (wParam & TVE_TOGGLE) == TVE_COLLAPSE && TreeItems::Real(HTREEITEM(lParam)) != nullptr;
 }
 
 } // namespace
@@ -268,7 +267,8 @@ LRESULT TreeItems::Native(UINT message, WPARAM wParam, LPARAM lParam)
     const bool movesCaret = MovesCaret(message);
     const TVITEM* const change = ChangeOfState(message, lParam);
     const WatchedItem changed(*this, change != nullptr ? Real(change->hItem) : nullptr);
-    // The platform deselects what had its caret before it asked, also when that was moved meanwhile.
+    // The platform deselects what had its caret before it asked, also when that was moved
+    // meanwhile.
     const bool asks = m_known && movesCaret && message != TVM_DELETEITEM &&
                       message != TVM_INSERTITEMA && message != TVM_INSERTITEMW;
     const WatchedItem left(*this, asks ? Caret() : nullptr);

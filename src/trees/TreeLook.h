@@ -30,7 +30,8 @@ public:
 
     // Whether Paint covers everything, so that nothing is to be erased.
     bool PaintsAll() const { return m_onBoard; }
-    // In answer to WM_PAINT; with a rubber band (client pixels) over the items, or null.
+    // In answer to WM_PAINT or WM_PRINTCLIENT; with a rubber band (client pixels) over the items,
+    // or null.
     void Paint(const CRect* band);
     // Has the line of a band painted again.
     static void InvalidateBand(HWND window, const CRect& band);
