@@ -129,7 +129,8 @@ LRESULT CCustomEdit::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     {
         // The platform takes an edit whose bar was taken away for one that has none and answers in
         // hundredths, as it does for those. It divides by zero where the lines just fill the edit.
-        const int across = (GetStyle() & WS_HSCROLL) != 0 ? ::GetScrollPos(m_hWnd, SB_HORZ) : 0;
+        const int across = (GetStyle() & WS_HSCROLL) != 0 ? ::GetScrollPos(m_hWnd, SB_HORZ)
+                                                          : int(Ask(WM_HSCROLL, EM_GETTHUMB));
         return message == EM_GETTHUMB ? MAKELRESULT(FirstLine(), across) : 0;
     }
     if (!alive || effect == Effect::None)

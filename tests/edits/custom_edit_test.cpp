@@ -220,6 +220,14 @@ TEST_F(EditTest, TheThumbOfAnEditThatNeverHadABarIsThePlatformsInEveryMode)
         edit.Fill(edit.VisibleLines());
         EXPECT_EQ(edit.SendMessage(EM_GETTHUMB), 0) << "for which it would divide by zero";
     }
+    auto& wide = AddEdit(1, (ManyLines | ES_AUTOHSCROLL) & ~DWORD(WS_VSCROLL | WS_HSCROLL));
+    for (const APPMODE mode : {STD, ONBOARD})
+    {
+        SetMode(mode, wide);
+        wide.SetWindowText(std::string(500, 'w').c_str());
+        wide.SetSel(500, 500);
+        EXPECT_EQ(wide.SendMessage(EM_GETTHUMB), MAKELRESULT(0, 100)) << mode;
+    }
 }
 
 TEST_F(EditTest, EnteringAModeBringsTextAndBarTogetherOnce)
