@@ -282,8 +282,8 @@ void CCustomEdit::OnStyleChanged(int which, LPSTYLESTRUCT styles)
     // The platform tells each write of a style, also of one that the edit has: a host that
     // refreshes its read-only state again and again keeps the text where the user has scrolled it.
     // And our own bars come and go without the text having changed.
-    if (!alive || styles->styleOld == styles->styleNew || scroll::WritesScrollStyles(*this) ||
-        m_bars->IsFollowing() || !FollowMode() || m_updating)
+    if (!alive || styles == nullptr || styles->styleOld == styles->styleNew ||
+        scroll::WritesScrollStyles(*this) || m_bars->IsFollowing() || !FollowMode() || m_updating)
     {
         return;
     }
