@@ -212,7 +212,7 @@ TEST_F(SmallEditsTest, ThePromptOfAnEditThatWasThereIsNoTextEither)
         const std::string given(give == set || give == replace ? "EDDF" : answer);
         if (give != nullptr)
         {
-            give(taker, "EDDF");
+            give(taker, value);
             EXPECT_STREQ(value, given.c_str());
         }
         PumpAll(); // without another message it comes with the next paint
