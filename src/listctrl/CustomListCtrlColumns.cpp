@@ -204,7 +204,6 @@ void CCustomListCtrl::FitLastColumn()
         return;
     }
     m_fitting = false;
-    m_fittedColumn = last; // also where the mode has gone and come back on the way
     if (!m_bars->IsLaidOut())
     {
         // The list has left the mode on the way; the columns had their widths back before these.
@@ -215,6 +214,7 @@ void CCustomListCtrl::FitLastColumn()
         }
         return;
     }
+    m_fittedColumn = last; // also where the mode has gone and come back on the way
     if (HeaderItemRect(last, column))
     {
         m_fittedTo = CRect(column.left, 0, column.right, client.Width());
@@ -272,10 +272,15 @@ void CCustomListCtrl::ScalePlatformColumns(bool toOnBoard)
         // Not by LVM_SETCOLUMNWIDTH, which the list takes in a report only.
         LVCOLUMN wide = {};
         wide.mask = LVCF_WIDTH;
+        const bool answers = Ask(LVM_GETCOLUMN, WPARAM(column), LPARAM(&wide)) != 0;
         wide.cx = wanted;
-        if (!Ask(LVM_SETCOLUMN, WPARAM(column), reinterpret_cast<LPARAM>(&wide)) && alive)
+        if (alive && answers)
         {
-            // While the object goes over the window the list does not answer it yet.
+            Ask(LVM_SETCOLUMN, WPARAM(column), LPARAM(&wide)); // which the parent may refuse
+        }
+        else if (alive)
+        {
+            // While the object goes over the window the list does not answer yet.
             HDITEM heading = {};
             heading.mask = HDI_WIDTH;
             heading.cxy = wanted;
