@@ -51,16 +51,16 @@ void CCustomListCtrlHdr::OnPaint()
     {
         Default();
         const MSG message = *GetCurrentMessage();
-        if (alive && message.message != WM_PRINTCLIENT)
-        {
-            if (OwnContext dc(m_hWnd, OwnContext::Client); dc)
-            {
-                DrawStdArrows(dc);
-            }
-        }
-        else if (CDC* const given = CDC::FromHandle(HDC(message.wParam)); alive && given != nullptr)
+        // With no context the platform paints its window for that message, too.
+        CDC* const given =
+            message.message == WM_PRINTCLIENT ? CDC::FromHandle(HDC(message.wParam)) : nullptr;
+        if (alive && given != nullptr)
         {
             DrawStdArrows(*given);
+        }
+        else if (OwnContext dc(alive ? m_hWnd : nullptr, OwnContext::Client); alive && dc)
+        {
+            DrawStdArrows(dc);
         }
         return;
     }
