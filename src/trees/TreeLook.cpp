@@ -2,7 +2,6 @@
 
 #include "CustomListBox.h"
 #include "OnBoardUIGeneral.h"
-#include "modes/LabelEdit.h"
 #include "modes/ModeFollowing.h"
 #include "modes/WindowAlive.h"
 #include "paint/BackBuffer.h"
@@ -88,12 +87,17 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     {
         return;
     }
-    const bool hadBold = m_bold.DeleteObject() != FALSE;
+    const bool held = IsLabelEditBold();
+    if (!alive)
+    {
+        return;
+    }
+    m_bold.DeleteObject();
     if (!m_onBoard || m_following)
     {
-        if (hadBold && !m_following)
+        if (held && !m_following)
         {
-            FollowLabelEdit(true); // that of a bold item may have it since an on-board mode
+            FollowLabelEdit(true);
         }
         return;
     }
@@ -117,48 +121,6 @@ void TreeLook::After(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     if (alive)
     {
         FollowLabelEdit(true);
-    }
-}
-
-// Where the platform opens the edit of a label: around the label it is kept so.
-void TreeLook::NoteLabelEdit()
-{
-    const auto edit = HWND(m_items.Ask(TVM_GETEDITCONTROL));
-    if (edit == nullptr || edit == m_edit)
-    {
-        return;
-    }
-    const WindowAlive alive(m_owner.Window());
-    const CRect label = m_items.Rect(m_items.Edited(), true); // for which the parent may be asked
-    if (alive && !label.IsRectEmpty())
-    {
-        const CRect place = PlaceIn(m_owner.Window(), edit);
-        m_edit = edit;
-        m_editFrame.SetRect(label.left - place.left, label.top - place.top, 0,
-                            place.bottom - label.bottom);
-    }
-}
-
-// The edit of a label stays with its item when the rows move or have another height; it ends when
-// the item is not in sight any more.
-void TreeLook::FollowLabelEdit(bool newFont)
-{
-    const auto edit = HWND(m_items.Ask(TVM_GETEDITCONTROL));
-    if (edit == nullptr)
-    {
-        return;
-    }
-    const WindowAlive alive(m_owner.Window());
-    const CRect label = m_items.Rect(m_items.Edited(), true); // for which the parent may be asked
-    CRect client;
-    m_owner.Window().GetClientRect(&client);
-    client.bottom += m_items.RowHeight() - 1; // a row may be in sight in part
-    // A bold item has its own.
-    const bool bold = alive && m_items.State(m_items.Edited(), TVIS_BOLD) != 0;
-    const LRESULT font = alive && newFont ? LRESULT(Font(bold)) : 0;
-    if (alive && !PlaceLabelEdit(edit, label, client, font, m_editFrame))
-    {
-        EndLabelEdit(m_owner.Window(), m_items.Ask(TVM_GETEDITCONTROL));
     }
 }
 

@@ -70,6 +70,7 @@ private:
     void LeaveOnBoard();
     void NoteLabelEdit();
     void FollowLabelEdit(bool newFont);
+    bool IsLabelEditBold() const;
     LRESULT TakeSize(UINT message, WPARAM wParam);
     void MakeLevelsForFinger();
     void MakeRowsForFinger();
