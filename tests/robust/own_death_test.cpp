@@ -45,10 +45,13 @@ protected:
     static bool Hear(const CWnd& window, UINT message)
     {
         // An edit of the platform on a form tells the first two in the middle of its painting and
-        // of its typing, and goes on with what it had; the others come when it is time.
+        // of its typing, and goes on with what it had; the others come when it is time. One that is
+        // disabled or read-only tells the first by another message, which labels tell, too.
+        const bool ofEdit = message == WM_CTLCOLORSTATIC &&
+                            IsOfClass(HWND(CWnd::GetCurrentMessage()->lParam), "Edit");
         constexpr UINT left[] = {WM_CTLCOLOREDIT, WM_COMMAND, WM_MOUSELEAVE, WM_NCMOUSELEAVE,
                                  BlinkOfTheCaret};
-        if (PlatformWorks != 0 || std::ranges::find(left, message) != std::end(left))
+        if (PlatformWorks != 0 || ofEdit || std::ranges::find(left, message) != std::end(left))
         {
             return false;
         }
