@@ -112,7 +112,7 @@ TEST_F(StaticOnBoard, AThinFrameStaysThePlatforms)
             label.CreateEx(exStyle, "STATIC", "", style | WS_CHILD | WS_VISIBLE,
                            CRect(20, 20, 60, 50), &Host(), 7U);
             PumpAll();
-            const Pixels pixels = WindowPixels(label);
+            Pixels pixels = WindowPixels(label);
             label.DestroyWindow();
             return pixels;
         };
