@@ -57,8 +57,13 @@ void CCustomListCtrl::HintOfRows()
     CRect first;
     CRect client;
     const Meanwhile hinting(*this, m_bars->hinting);
-    for (int turn = 0; turn < 4 && InOnBoard() && FirstRowRect(first) && first.Height() > 0; ++turn)
+    for (int turn = 0; turn < 4 && InOnBoard(); ++turn)
     {
+        const bool known = FirstRowRect(first); // for which the owner may be asked
+        if (!alive || !known || first.Height() <= 0)
+        {
+            return;
+        }
         GetClientRect(&client);
         const RowSpan rows =
             RowsDrawn(first.Height(), int(client.bottom), int(Ask(LVM_GETITEMCOUNT)));
